@@ -1,0 +1,54 @@
+# What every target of the project shares: the language level, where artefacts go, the warnings and the sanitizers.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+
+find_program(KAL_CCACHE ccache)
+if(KAL_CCACHE)
+  # Precompiled headers are cacheable only when their timestamps are left out of the comparison.
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime"
+                                  "${KAL_CCACHE}")
+endif()
+
+# The compiler's warnings, for our own sources alone.
+add_library(kal_warnings INTERFACE)
+target_compile_options(
+  kal_warnings
+  INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wdouble-promotion -Wold-style-cast
+            -Wcast-qual -Wcast-align -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2 -Wimplicit-fallthrough -Wundef
+            -Wextra-semi -Wsuggest-override
+            $<$<CXX_COMPILER_ID:GNU>:-Wmissing-declarations
+            -Wduplicated-cond
+            -Wduplicated-branches
+            -Wlogical-op
+            -Wuseless-cast>)
+option(KAL_WARNINGS_AS_ERRORS "Stop the build at the first warning" OFF)
+if(KAL_WARNINGS_AS_ERRORS)
+  target_compile_options(kal_warnings INTERFACE -Werror)
+endif()
+
+# KAL_SANITIZE names the sanitizers of the whole tree, as -fsanitize= takes them.
+set(KAL_SANITIZE "" CACHE STRING "Sanitizers to build with, for instance address,undefined")
+if(KAL_SANITIZE)
+  add_compile_options(-fsanitize=${KAL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=${KAL_SANITIZE})
+endif()
+
+# What the Qt code of the project is compiled with.
+add_library(kal_qt_rules INTERFACE)
+target_compile_definitions(
+  kal_qt_rules
+  INTERFACE QT_NO_KEYWORDS
+            QT_NO_FOREACH
+            QT_NO_CAST_FROM_ASCII
+            QT_NO_CAST_TO_ASCII
+            QT_NO_CAST_FROM_BYTEARRAY
+            QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+            QT_DISABLE_DEPRECATED_BEFORE=0x060400)

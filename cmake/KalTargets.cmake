@@ -1,0 +1,81 @@
+# The project's ways to declare a target, one function a kind.
+
+# kal_add_library(name [OBJECT|STATIC] [QT] SOURCES … HEADERS … [DEPENDS …] [BASE_DIR dir])
+# A library with its public headers, shared unless told otherwise. QT turns on moc, rcc, uic and the precompiled header.
+function(kal_add_library name)
+  cmake_parse_arguments(arg "OBJECT;STATIC;QT" "BASE_DIR" "SOURCES;HEADERS;DEPENDS" ${ARGN})
+  set(kind SHARED)
+  if(arg_OBJECT)
+    set(kind OBJECT)
+  elseif(arg_STATIC)
+    set(kind STATIC)
+  endif()
+  if(NOT arg_BASE_DIR)
+    set(arg_BASE_DIR "${PROJECT_SOURCE_DIR}")
+  endif()
+  add_library(${name} ${kind} ${arg_SOURCES})
+  target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS "${arg_BASE_DIR}" FILES ${arg_HEADERS})
+  target_link_libraries(${name} PUBLIC ${arg_DEPENDS} PRIVATE kal_warnings)
+  set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+  if(arg_QT)
+    kal_use_qt(${name})
+  endif()
+endfunction()
+
+# kal_add_program(name [QT] SOURCES … [DEPENDS …])
+function(kal_add_program name)
+  cmake_parse_arguments(arg "QT" "" "SOURCES;DEPENDS" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE ${arg_DEPENDS} kal_warnings)
+  if(arg_QT)
+    kal_use_qt(${name})
+  endif()
+endfunction()
+
+# kal_add_plugin(name SOURCES … DEPENDS … [DIRECTORY dir])
+# A module that the host loads; it exports the two entry points and nothing else.
+function(kal_add_plugin name)
+  cmake_parse_arguments(arg "" "DIRECTORY" "SOURCES;DEPENDS" ${ARGN})
+  add_library(${name} MODULE ${arg_SOURCES})
+  set(script "${PROJECT_SOURCE_DIR}/cmake/plugin.map")
+  target_link_libraries(${name} PRIVATE ${arg_DEPENDS} kal_warnings)
+  target_link_options(${name} PRIVATE "LINKER:--version-script=${script}")
+  set_target_properties(${name} PROPERTIES LINK_DEPENDS "${script}")
+  if(arg_DIRECTORY)
+    set_target_properties(${name} PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${arg_DIRECTORY}")
+  endif()
+  kal_use_qt(${name})
+endfunction()
+
+# kal_add_test(area name [SOURCES …] [DEPENDS …] [LABELS …] [TIMEOUT s])
+# A QtTest program from tst_<name>.cpp, run without a display, in the C.UTF-8 locale and with folders of its own.
+function(kal_add_test area name)
+  cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;DEPENDS;LABELS" ${ARGN})
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  set(target tst_${area}_${name})
+  add_executable(${target} tst_${name}.cpp ${arg_SOURCES})
+  target_link_libraries(${target} PRIVATE ${arg_DEPENDS} Qt6::Test kal_warnings kal_qt_rules)
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  set_target_properties(${target} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+  add_test(NAME ${area}/${name} COMMAND ${target})
+  set(home "${PROJECT_BINARY_DIR}/tests/home/${target}")
+  file(MAKE_DIRECTORY "${home}")
+  set_tests_properties(
+    ${area}/${name}
+    PROPERTIES TIMEOUT
+               ${arg_TIMEOUT}
+               LABELS
+               "${area};${arg_LABELS}"
+               ENVIRONMENT
+               "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0"
+  )
+endfunction()
+
+# Qt's code generators and the common precompiled header.
+function(kal_use_qt name)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON AUTOUIC ON)
+  target_link_libraries(${name} PRIVATE kal_qt_rules)
+  target_precompile_headers(${name} PRIVATE <QtWidgets>)
+endfunction()
