@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+/// Reads and replaces whole files, safely and in slices.
+namespace meridane {
+
+/// Reads a file slice by slice.
+class FileReader {
+public:
+    FileReader() = default;
+    ~FileReader();
+    FileReader(const FileReader&) = delete;
+    FileReader& operator=(const FileReader&) = delete;
+
+    /// Opens a regular file. The result is the message of the failure, such as "model.mrd: No such file or directory"
+    /// or "folder: is a directory", or nothing.
+    [[nodiscard]] std::optional<std::string> open(const std::string& path);
+    /// Appends up to `count` bytes to `bytes`; `atEnd` tells whether the file is read whole.
+    [[nodiscard]] std::optional<std::string> read(std::string& bytes, std::size_t count, bool& atEnd);
+    /// The size of the file in bytes, as it was when it was opened.
+    [[nodiscard]] std::size_t size() const noexcept { return m_size; }
+
+private:
+    std::string m_path;
+    int m_descriptor = -1;
+    std::size_t m_size = 0;
+};
+
+/// Replaces a file whole or not at all: writes a new file beside it, syncs it to the disk and renames it into place.
+/// The permissions of a file that is replaced are kept, and a symbolic link is followed. An object that is destroyed
+/// without `commit` leaves the old file as it was and no new one behind.
+class FileReplacer {
+public:
+    FileReplacer() = default;
+    ~FileReplacer();
+    FileReplacer(const FileReplacer&) = delete;
+    FileReplacer& operator=(const FileReplacer&) = delete;
+
+    /// The result of each operation is the message of the failure, with the file's name, or nothing.
+    [[nodiscard]] std::optional<std::string> open(const std::string& path);
+    [[nodiscard]] std::optional<std::string> write(const char* bytes, std::size_t count);
+    [[nodiscard]] std::optional<std::string> commit();
+
+private:
+    std::string m_path;
+    std::string m_temporary;
+    int m_descriptor = -1;
+};
+
+/// Reads a whole file; the result is the message of the failure, or nothing.
+[[nodiscard]] std::optional<std::string> readFile(const std::string& path, std::string& bytes);
+
+} // namespace meridane

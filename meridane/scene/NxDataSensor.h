@@ -1,0 +1,15 @@
+#pragma once
+
+#include "meridane/base/NxDelayQueueSensor.h"
+
+/// A sensor that watches an object of the scene. A change schedules it on the delay queue, once, however many changes
+/// follow before the queue is processed; so its callback never runs inside the call that made the change.
+class NxDataSensor : public NxDelayQueueSensor {
+public:
+    using NxDelayQueueSensor::NxDelayQueueSensor;
+
+    /// The toolkit's call on each change of the watched object: schedules the sensor.
+    virtual void notify();
+    /// The toolkit's call when the watched object is being destroyed: detaches the sensor.
+    virtual void dyingReference() = 0;
+};

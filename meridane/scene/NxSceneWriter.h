@@ -1,0 +1,29 @@
+#pragma once
+
+#include "meridane/scene/NxGroup.h"
+#include "meridane/scene/NxRef.h"
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+/// Writes a scene as the text of a scene file, in slices. The same scene gives the same bytes. The scene must not
+/// change while it is written. Thread of the user interface only.
+class NxSceneWriter {
+public:
+    /// `scene` is the group that holds the top nodes; its own name and fields aren't written.
+    explicit NxSceneWriter(NxGroup* scene);
+    ~NxSceneWriter();
+
+    /// Goes on writing until done or until the budget is spent, and appends to `text`, which the caller may empty
+    /// between two calls. True while there is more to write.
+    bool step(std::string& text, std::chrono::microseconds budget);
+    /// The whole text.
+    [[nodiscard]] static std::string toText(NxGroup* scene);
+    /// The share of the nodes that is written, 0 to 1.
+    [[nodiscard]] double progress() const noexcept;
+
+private:
+    class Printer;
+    std::unique_ptr<Printer> m_printer;
+};
