@@ -1,0 +1,55 @@
+#pragma once
+
+#include "meridane/base/VbString.h"
+
+#include <QObject>
+
+class OrvProfileSetting;
+
+/// A part of the tool that a plug-in brings: a dock, a tool bar, an editor.
+///
+/// The host calls `load` once, ahead of everything else, and `unload` once, after the last `deactivate`. In between,
+/// `activate` and `deactivate` alternate, and `show` and `hide` deal with visibility only. `load` builds the
+/// extension's own objects and talks to nobody; `activate` links it to the rest of the tool. Thread of the user
+/// interface only.
+class OrvExtension : public QObject {
+    Q_OBJECT
+
+public:
+    ~OrvExtension() override;
+
+    /// Links the extension to the rest of the tool. An override calls this body, which records that it is active.
+    virtual void activate();
+    /// The counterpart of `activate`. An override calls this body.
+    virtual void deactivate();
+    /// Hides the extension's widget. An override calls this body first.
+    virtual void hide();
+    /// Builds the extension's own objects, hidden. There is no body to call.
+    virtual void load() = 0;
+    /// Shows the extension's widget. An override calls this body first.
+    virtual void show();
+    /// Destroys what `load` built. There is no body to call.
+    virtual void unload() = 0;
+
+    /// The settings of this extension in the active profile; null when the profile doesn't run it. The profile owns it.
+    [[nodiscard]] OrvProfileSetting* getProfileSetting() const;
+
+    [[nodiscard]] const VbString& getName() const noexcept { return m_name; }
+    [[nodiscard]] const VbString& getDescription() const noexcept { return m_description; }
+    [[nodiscard]] const VbString& getAuthor() const noexcept { return m_author; }
+    [[nodiscard]] const VbString& getVersion() const noexcept { return m_version; }
+    /// True from `activate` to `deactivate`.
+    [[nodiscard]] bool isActive() const noexcept { return m_active; }
+
+protected:
+    OrvExtension();
+
+    /// What the constructor of a derived class fills in.
+    VbString m_name;
+    VbString m_description;
+    VbString m_author;
+    VbString m_version;
+
+private:
+    bool m_active = false;
+};

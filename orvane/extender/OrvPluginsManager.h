@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <list>
+#include <memory>
+#include <optional>
+
+class OrvExtension;
+class OrvPlugin;
+class OrvProfile;
+
+/// Loads plug-ins and keeps the profiles, of which one is active.
+///
+/// The application makes the one object. Nothing that goes wrong here ends the tool: failures are values for the caller
+/// to show. Thread of the user interface only.
+class OrvPluginsManager : public QObject {
+    Q_OBJECT
+
+public:
+    /// The manager, or null while there is none.
+    [[nodiscard]] static OrvPluginsManager* getInstance();
+
+    OrvPluginsManager();
+    /// Stops and unloads whatever is left.
+    ~OrvPluginsManager() override;
+
+    /// The files in these folders that are plug-ins by their name, `libkal_orvane_extender_*.so`, in the order of the
+    /// folders and, in each, of the names; a file name found before is left out.
+    [[nodiscard]] static QStringList findPlugins(const QStringList& folders);
+    /// Loads the library, has it make its plug-in and loads that one, with its extensions. The result is the message of
+    /// the failure, or nothing.
+    [[nodiscard]] std::optional<QString> loadPlugin(const QString& fileName);
+    /// Takes in a plug-in that the caller made and destroys after `unloadPlugins`.
+    [[nodiscard]] std::optional<QString> addPlugin(OrvPlugin* plugin);
+    /// Deactivates what runs, unloads the plug-ins in reverse order and has their libraries destroy them.
+    void unloadPlugins();
+
+    /// All extensions in the order of registration.
+    [[nodiscard]] QList<OrvExtension*> getExtensions() const;
+
+    /// Appends a profile. A profile without a name, or with one that is taken, is refused with a message.
+    [[nodiscard]] std::optional<QString> addProfile(std::unique_ptr<OrvProfile> profile);
+    /// The profiles in the order in which a user sees them.
+    [[nodiscard]] const std::list<OrvProfile*>& getProfilesList() const noexcept { return m_profilesList; }
+    /// The profile of that name, or null.
+    [[nodiscard]] OrvProfile* findProfile(const QString& name) const;
+
+    /// The active profile, or null.
+    [[nodiscard]] OrvProfile* getActiveProfile() const noexcept { return m_activeProfile; }
+    /// Makes a profile of the list the active one: deactivates what runs, in reverse order, and activates the
+    /// extensions that the profile runs, in the order of registration; then announces the selection again, so that the
+    /// new docks show it. Null only stops. What isn't in the list is ignored. May be called by an extension from within
+    /// one of its own slots.
+    void setActiveProfile(OrvProfile* profile);
+
+Q_SIGNALS:
+    void activeProfileChanged(OrvProfile* profile);
+    /// The active profile names extensions that aren't there.
+    void extensionsMissing(const QString& profile, const QStringList& names);
+
+private:
+    struct LoadedPlugin;
+
+    void activateProfile();
+    void deactivateProfile();
+
+    std::list<LoadedPlugin> m_plugins;
+    std::list<std::unique_ptr<OrvProfile>> m_profiles;
+    std::list<OrvProfile*> m_profilesList;
+    QList<OrvExtension*> m_running;
+    OrvProfile* m_activeProfile = nullptr;
+};

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "orvane/extender/OrvProfileSetting.h"
+
+#include "meridane/base/VbString.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+#include <unordered_map>
+
+class OrvExtension;
+
+/// A profile says which extensions run by themselves, and which extensions each of them controls.
+///
+/// It is written by names and becomes effective with `resolve`, when the extensions are there.
+class OrvProfile {
+public:
+    /// What the profile says of one extension that runs by itself.
+    struct Entry {
+        /// The extension's name, or "*" for every one that no other entry names.
+        QString extension;
+        /// False keeps the extension from running.
+        bool runs = true;
+        /// The names of the controlled extensions; "*" stands for all.
+        QStringList controlled;
+    };
+
+    OrvProfile(const QString& name, QList<Entry> entries);
+    ~OrvProfile();
+
+    [[nodiscard]] VbString getName() const;
+
+    /// Turns the names into settings for these extensions, in place of the present settings. The result names what the
+    /// profile asks for and isn't there.
+    QStringList resolve(const QList<OrvExtension*>& extensions);
+    /// The setting of an extension that runs by itself, or null when this profile doesn't run it.
+    [[nodiscard]] OrvProfileSetting* getSetting(const OrvExtension* extension) const;
+
+    /// A profile read from JSON, or the message that says what is wrong and where.
+    struct ReadResult {
+        std::unique_ptr<OrvProfile> profile;
+        QString error;
+    };
+    /// Reads a profile file; the format is told in docs/profiles.md.
+    [[nodiscard]] static ReadResult read(const QString& fileName);
+    [[nodiscard]] static ReadResult fromJson(const QByteArray& json, const QString& fileName);
+
+private:
+    QString m_name;
+    QList<Entry> m_entries;
+    std::unordered_map<const OrvExtension*, std::unique_ptr<OrvProfileSetting>> m_settings;
+};

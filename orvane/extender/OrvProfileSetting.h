@@ -1,0 +1,18 @@
+#pragma once
+
+#include <map>
+
+class OrvExtension;
+
+/// The settings of one extension in one profile: which extensions it controls.
+class OrvProfileSetting {
+public:
+    /// In order of address. A controlled extension that runs by itself comes with its own setting, any other with null.
+    using ControlledExtensions = std::map<OrvExtension*, OrvProfileSetting*>;
+
+    [[nodiscard]] const ControlledExtensions& getControlledExtensions() const noexcept { return m_controlled; }
+    void addControlledExtension(OrvExtension* extension, OrvProfileSetting* setting);
+
+private:
+    ControlledExtensions m_controlled;
+};
