@@ -1,0 +1,118 @@
+#include "meridane/base/NxDelayQueue.h"
+
+#include "meridane/base/NxDelayQueueSensor.h"
+
+#include <utility>
+
+bool NxDelayQueue::Order::operator()(const NxDelayQueueSensor* left, const NxDelayQueueSensor* right) const
+{
+    const bool leftIsIdleOnly = left->isIdleOnly() != 0;
+    const bool rightIsIdleOnly = right->isIdleOnly() != 0;
+    if (leftIsIdleOnly != rightIsIdleOnly)
+        return rightIsIdleOnly;
+    if (left->isBefore(right) != 0)
+        return true;
+    if (right->isBefore(left) != 0)
+        return false;
+    return left->m_sequence < right->m_sequence;
+}
+
+NxDelayQueue::~NxDelayQueue()
+{
+    for (const Sensors* list : {&m_waiting, &m_running}) {
+        for (NxDelayQueueSensor* sensor : *list)
+            sensor->m_queue = nullptr;
+    }
+}
+
+NxDelayQueue& NxDelayQueue::getDefault()
+{
+    // Never destroyed: sensors of static storage may outlive every object of ours.
+    static NxDelayQueue& queue = *new NxDelayQueue;
+    return queue;
+}
+
+void NxDelayQueue::schedule(NxDelayQueueSensor* sensor)
+{
+    if (sensor->m_queue != nullptr)
+        return;
+    sensor->m_queue = this;
+    sensor->m_sequence = ++m_lastSequence;
+    sensor->m_place = m_waiting.insert(sensor).first;
+    wakeUp();
+}
+
+void NxDelayQueue::unschedule(NxDelayQueueSensor* sensor)
+{
+    if (sensor->m_queue != this)
+        return;
+    // By its place and not by its value: the sensor may be half destroyed, and is not to be compared any more.
+    listOf(sensor).erase(sensor->m_place);
+    sensor->m_queue = nullptr;
+}
+
+bool NxDelayQueue::process()
+{
+    return processUntil(Clock::time_point::max());
+}
+
+bool NxDelayQueue::process(std::chrono::nanoseconds budget)
+{
+    const Clock::time_point now = Clock::now();
+    return processUntil(budget < Clock::time_point::max() - now ? now + budget : Clock::time_point::max());
+}
+
+bool NxDelayQueue::processUntil(Clock::time_point end)
+{
+    if (m_running.empty())
+        m_running.swap(m_waiting);
+    else
+        m_running.merge(m_waiting);
+    m_lastSequenceOfPass = m_lastSequence;
+    m_hostIsTold = false;
+    const std::uint64_t pass = ++m_pass;
+    const bool isBounded = end != Clock::time_point::max();
+    while (NxDelayQueueSensor* const sensor = takeNext()) {
+        sensor->trigger();
+        if (m_pass != pass || (isBounded && Clock::now() >= end))
+            break;
+    }
+    if (!isEmpty())
+        wakeUp();
+    return !isEmpty();
+}
+
+/// Takes out the sensor whose turn it is in this pass; null when the pass is over.
+NxDelayQueueSensor* NxDelayQueue::takeNext()
+{
+    if (m_running.empty())
+        return nullptr;
+    NxDelayQueueSensor* const sensor = *m_running.begin();
+    // Idle-only sensors stand last in either list, so the first one tells whether there is other work.
+    const bool isBusy = !m_waiting.empty() && (*m_waiting.begin())->isIdleOnly() == 0;
+    if (isBusy && sensor->isIdleOnly() != 0)
+        return nullptr;
+    unschedule(sensor);
+    return sensor;
+}
+
+void NxDelayQueue::setWakeUpHook(WakeUpHook hook, void* data)
+{
+    m_hook = hook;
+    m_hookData = data;
+    m_hostIsTold = false;
+    if (!isEmpty())
+        wakeUp();
+}
+
+NxDelayQueue::Sensors& NxDelayQueue::listOf(const NxDelayQueueSensor* sensor)
+{
+    return sensor->m_sequence <= m_lastSequenceOfPass ? m_running : m_waiting;
+}
+
+void NxDelayQueue::wakeUp()
+{
+    if (m_hook == nullptr || std::exchange(m_hostIsTold, true))
+        return;
+    m_hook(m_hookData);
+}
