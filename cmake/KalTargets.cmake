@@ -49,6 +49,7 @@ endfunction()
 
 # kal_add_test(area name [SOURCES …] [DEPENDS …] [LABELS …] [TIMEOUT s])
 # A QtTest program from tst_<name>.cpp, run without a display, in the C.UTF-8 locale and with folders of its own.
+# Tests with the label toolkit are also built by the target toolkit_tests and run under the thread sanitizer.
 function(kal_add_test area name)
   cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;DEPENDS;LABELS" ${ARGN})
   if(NOT arg_TIMEOUT)
@@ -59,6 +60,9 @@ function(kal_add_test area name)
   target_link_libraries(${target} PRIVATE ${arg_DEPENDS} Qt6::Test kal_warnings kal_qt_rules)
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   set_target_properties(${target} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+  if("toolkit" IN_LIST arg_LABELS)
+    set_property(GLOBAL APPEND PROPERTY KAL_TOOLKIT_TESTS ${target})
+  endif()
   add_test(NAME ${area}/${name} COMMAND ${target})
   set(home "${PROJECT_BINARY_DIR}/tests/home/${target}")
   file(MAKE_DIRECTORY "${home}")

@@ -1,0 +1,428 @@
+#include "meridane/base/NxDelayQueue.h"
+#include "meridane/base/NxDelayQueueSensor.h"
+
+#include <QTest>
+
+#include <functional>
+#include <limits>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A sensor with a letter, which it adds to a protocol when called, ahead of what else it is told to do.
+class LetterSensor : public NxDelayQueueSensor {
+public:
+    LetterSensor(char letter, std::string& protocol, int priority = defaultPriority)
+        : NxDelayQueueSensor(call, this)
+        , m_letter(letter)
+        , m_protocol(protocol)
+    {
+        setPriority(priority);
+    }
+
+    [[nodiscard]] int isIdleOnly() const override { return idleOnly ? 1 : 0; }
+
+    std::function<void()> also;
+    bool idleOnly = false;
+
+private:
+    static void call(void* data, NxSensor*)
+    {
+        auto* const self = static_cast<LetterSensor*>(data);
+        self->m_protocol += self->m_letter;
+        const std::function<void()> copy = self->also; // it may delete the sensor
+        if (copy)
+            copy();
+    }
+
+    char m_letter;
+    std::string& m_protocol;
+};
+
+/// Turns the order of priorities round.
+class ReverseSensor : public LetterSensor {
+public:
+    using LetterSensor::LetterSensor;
+    [[nodiscard]] int isBefore(const NxDelayQueueSensor* other) const override
+    {
+        return other->getPriority() < getPriority();
+    }
+};
+
+void countWakeUp(void* data)
+{
+    ++*static_cast<int*>(data);
+}
+
+} // namespace
+
+class TestNxDelayQueue : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sensorsAreCalledByPriorityThenInTheOrderOfScheduling()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol, 0);
+        LetterSensor c('c', protocol);
+        LetterSensor d('d', protocol, -5);
+        LetterSensor e('e', protocol, std::numeric_limits<int>::max());
+        LetterSensor f('f', protocol, 0);
+        for (LetterSensor* sensor : {&e, &c, &b, &a, &f, &d})
+            queue.schedule(sensor);
+        QVERIFY(!queue.process());
+        QCOMPARE(protocol, "dbfcae");
+    }
+
+    void anOverriddenOrderHolds()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        ReverseSensor a('a', protocol, 1);
+        ReverseSensor b('b', protocol, 2);
+        ReverseSensor c('c', protocol, 3);
+        for (LetterSensor* sensor : {&a, &c, &b})
+            queue.schedule(sensor);
+        queue.process();
+        QCOMPARE(protocol, "cba");
+    }
+
+    void aNewPriorityMovesAScheduledSensor()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        queue.schedule(&a);
+        queue.schedule(&b);
+        b.setPriority(1);
+        queue.process();
+        queue.schedule(&b);
+        queue.schedule(&a);
+        b.setPriority(100); // behind the other one of its new priority
+        queue.process();
+        QCOMPARE(protocol, "baab");
+    }
+
+    void whatIsScheduledMeanwhileWaitsForTheNextPass()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        LetterSensor urgent('u', protocol, 0);
+        a.also = [&] {
+            queue.schedule(&a);
+            queue.schedule(&urgent);
+        };
+        queue.schedule(&a);
+        queue.schedule(&b);
+        QVERIFY(queue.process());
+        QCOMPARE(protocol, "ab");
+        a.also = nullptr;
+        QVERIFY(!queue.process());
+        QCOMPARE(protocol, "abua");
+    }
+
+    void aSensorUnscheduledMeanwhileIsNotCalled()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        LetterSensor c('c', protocol);
+        a.also = [&] { b.unschedule(); };
+        for (LetterSensor* sensor : {&a, &b, &c})
+            queue.schedule(sensor);
+        queue.process();
+        QCOMPARE(protocol, "ac");
+        QVERIFY(!b.isScheduled());
+    }
+
+    void aSensorMovedBehindThePassWaitsForTheNext()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        a.also = [&] {
+            b.unschedule();
+            queue.schedule(&b);
+        };
+        queue.schedule(&a);
+        queue.schedule(&b);
+        QVERIFY(queue.process());
+        QCOMPARE(protocol, "a");
+        queue.process();
+        QCOMPARE(protocol, "ab");
+    }
+
+    void aSensorDeletedMeanwhileIsNotCalled()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        auto b = std::make_unique<LetterSensor>('b', protocol);
+        LetterSensor c('c', protocol);
+        a.also = [&] { b.reset(); };
+        for (LetterSensor* sensor : {&a, b.get(), &c})
+            queue.schedule(sensor);
+        queue.process();
+        QCOMPARE(protocol, "ac");
+    }
+
+    void aSensorMayDeleteItself()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        auto a = std::make_unique<LetterSensor>('a', protocol);
+        LetterSensor b('b', protocol);
+        a->also = [&] { a.reset(); };
+        queue.schedule(a.get());
+        queue.schedule(&b);
+        queue.process();
+        QCOMPARE(protocol, "ab");
+        QVERIFY(a == nullptr);
+    }
+
+    void anInnerPassTakesTheOuterOneOver()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        LetterSensor c('c', protocol, 0);
+        a.also = [&] {
+            queue.schedule(&c);
+            queue.process();
+            protocol += '.';
+        };
+        queue.schedule(&a);
+        queue.schedule(&b);
+        QVERIFY(!queue.process());
+        QCOMPARE(protocol, "acb.");
+    }
+
+    void anOuterPassLeavesWhatTheInnerOneLeft()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        a.also = [&] {
+            queue.schedule(&a);
+            queue.process(0ns);
+        };
+        queue.schedule(&a);
+        queue.schedule(&b);
+        QVERIFY(queue.process());
+        QCOMPARE(protocol, "ab");
+        QVERIFY(a.isScheduled());
+    }
+
+    void idleOnlySensorsComeLast()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor idle('i', protocol, 0);
+        LetterSensor a('a', protocol);
+        idle.idleOnly = true;
+        queue.schedule(&idle);
+        queue.schedule(&a);
+        queue.process();
+        QCOMPARE(protocol, "ai");
+    }
+
+    void idleOnlySensorsWaitUntilNothingElseIsQueued()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor idle('i', protocol);
+        LetterSensor a('a', protocol);
+        idle.idleOnly = true;
+        a.also = [&] { queue.schedule(&a); };
+        queue.schedule(&idle);
+        queue.schedule(&a);
+        QVERIFY(queue.process());
+        QVERIFY(queue.process());
+        QCOMPARE(protocol, "aa");
+        a.also = nullptr;
+        QVERIFY(!queue.process());
+        QCOMPARE(protocol, "aaai");
+    }
+
+    void aBudgetStopsThePassAfterASensorAndKeepsTheRest()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        LetterSensor c('c', protocol);
+        for (LetterSensor* sensor : {&a, &b, &c})
+            queue.schedule(sensor);
+        QVERIFY(queue.process(0ns));
+        QCOMPARE(protocol, "a");
+        queue.schedule(&a);
+        QVERIFY(queue.process(0ns));
+        QVERIFY(queue.process(0ns));
+        QVERIFY(!queue.process(0ns));
+        QCOMPARE(protocol, "abca");
+    }
+
+    void anAmpleBudgetEndsThePass_data()
+    {
+        QTest::addColumn<qlonglong>("budget");
+        QTest::newRow("an hour") << qlonglong(std::chrono::nanoseconds(1h).count());
+        QTest::newRow("for ever") << qlonglong(std::chrono::nanoseconds::max().count());
+    }
+    void anAmpleBudgetEndsThePass()
+    {
+        QFETCH(const qlonglong, budget);
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        queue.schedule(&a);
+        queue.schedule(&b);
+        QVERIFY(!queue.process(std::chrono::nanoseconds(budget)));
+        QCOMPARE(protocol, "ab");
+    }
+
+    void theHostIsWokenOnceUntilThePassBegins()
+    {
+        std::string protocol;
+        int wakeUps = 0;
+        NxDelayQueue queue;
+        queue.setWakeUpHook(countWakeUp, &wakeUps);
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        queue.schedule(&a);
+        queue.schedule(&b);
+        queue.unschedule(&a);
+        queue.unschedule(&b);
+        queue.schedule(&a);
+        QCOMPARE(wakeUps, 1);
+        queue.process();
+        QCOMPARE(wakeUps, 1);
+        queue.schedule(&a);
+        QCOMPARE(wakeUps, 2);
+    }
+
+    void theHostIsWokenOnceForWhatIsScheduledMeanwhile()
+    {
+        std::string protocol;
+        int wakeUps = 0;
+        NxDelayQueue queue;
+        queue.setWakeUpHook(countWakeUp, &wakeUps);
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        a.also = [&] {
+            queue.schedule(&a);
+            queue.schedule(&b);
+        };
+        queue.schedule(&a);
+        QVERIFY(queue.process());
+        QCOMPARE(wakeUps, 2);
+    }
+
+    void theHostIsWokenForWhatABudgetLeaves()
+    {
+        std::string protocol;
+        int wakeUps = 0;
+        NxDelayQueue queue;
+        queue.setWakeUpHook(countWakeUp, &wakeUps);
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        queue.schedule(&a);
+        queue.schedule(&b);
+        queue.process(0ns);
+        QCOMPARE(wakeUps, 2);
+        queue.process(0ns);
+        QCOMPARE(wakeUps, 2);
+    }
+
+    void theHostIsWokenForIdleOnlySensorsThatWait()
+    {
+        std::string protocol;
+        int wakeUps = 0;
+        NxDelayQueue queue;
+        queue.setWakeUpHook(countWakeUp, &wakeUps);
+        LetterSensor idle('i', protocol);
+        idle.idleOnly = true;
+        queue.schedule(&idle);
+        QCOMPARE(wakeUps, 1);
+        QVERIFY(!queue.process());
+        QCOMPARE(protocol, "i");
+    }
+
+    void aHookThatComesLateIsCalledAtOnce()
+    {
+        std::string protocol;
+        int wakeUps = 0;
+        NxDelayQueue queue;
+        queue.setWakeUpHook(countWakeUp, &wakeUps);
+        QCOMPARE(wakeUps, 0);
+        queue.setWakeUpHook(nullptr, nullptr);
+        LetterSensor a('a', protocol);
+        queue.schedule(&a);
+        queue.setWakeUpHook(countWakeUp, &wakeUps);
+        QCOMPARE(wakeUps, 1);
+    }
+
+    void aSensorWaitsInOneQueueOnly()
+    {
+        std::string protocol;
+        NxDelayQueue first;
+        NxDelayQueue second;
+        LetterSensor a('a', protocol);
+        first.schedule(&a);
+        second.schedule(&a);
+        QVERIFY(second.isEmpty());
+        second.unschedule(&a);
+        QVERIFY(a.isScheduled());
+        first.process();
+        QCOMPARE(protocol, "a");
+    }
+
+    void aDyingQueueUnschedulesItsSensors()
+    {
+        std::string protocol;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        {
+            NxDelayQueue queue;
+            queue.schedule(&a);
+            queue.schedule(&b);
+            queue.process(0ns);
+            queue.schedule(&a);
+        }
+        QVERIFY(!a.isScheduled());
+        QVERIFY(!b.isScheduled());
+    }
+
+    void manySensorsAreQueuedAndTakenOutQuickly()
+    {
+        constexpr std::size_t count = 100'000;
+        std::string protocol;
+        NxDelayQueue queue;
+        std::vector<std::unique_ptr<LetterSensor>> sensors;
+        for (std::size_t i = 0; i < count; ++i)
+            sensors.push_back(std::make_unique<LetterSensor>('x', protocol, static_cast<int>(i * 7919 % 1000)));
+        // With a list that is searched, this would take minutes.
+        for (const auto& sensor : sensors)
+            queue.schedule(sensor.get());
+        for (std::size_t i = 0; i < count; i += 2)
+            queue.unschedule(sensors[i].get());
+        queue.process();
+        QCOMPARE(protocol.size(), count / 2);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestNxDelayQueue)
+#include "tst_NxDelayQueue.moc"

@@ -1,0 +1,114 @@
+#include "meridane/base/NxDelayQueueSensor.h"
+
+#include <QTest>
+
+namespace {
+
+void count(void* data, NxSensor*)
+{
+    ++*static_cast<int*>(data);
+}
+
+} // namespace
+
+class TestNxDelayQueueSensor : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { QVERIFY(NxDelayQueue::getDefault().isEmpty()); }
+
+    void thePriorityIsOneHundredAtFirst()
+    {
+        QCOMPARE(NxDelayQueueSensor().getPriority(), 100);
+        QCOMPARE(NxDelayQueueSensor().isIdleOnly(), 0);
+    }
+
+    void schedulingNeverCallsAtOnceWhateverThePriority_data()
+    {
+        QTest::addColumn<int>("priority");
+        QTest::newRow("as soon as possible") << 0;
+        QTest::newRow("default") << 100;
+        QTest::newRow("negative") << -1;
+    }
+    void schedulingNeverCallsAtOnceWhateverThePriority()
+    {
+        QFETCH(const int, priority);
+        int calls = 0;
+        NxDelayQueueSensor sensor(count, &calls);
+        sensor.setPriority(priority);
+        sensor.schedule();
+        QCOMPARE(calls, 0);
+        QVERIFY(sensor.isScheduled());
+        NxDelayQueue::getDefault().process();
+        QCOMPARE(calls, 1);
+        QVERIFY(!sensor.isScheduled());
+    }
+
+    void schedulingAgainCallsOnce()
+    {
+        int calls = 0;
+        NxDelayQueueSensor sensor(count, &calls);
+        sensor.schedule();
+        sensor.schedule();
+        NxDelayQueue::getDefault().process();
+        NxDelayQueue::getDefault().process();
+        QCOMPARE(calls, 1);
+    }
+
+    void unschedulingTakesTheRequestBack()
+    {
+        int calls = 0;
+        NxDelayQueueSensor sensor(count, &calls);
+        sensor.unschedule();
+        sensor.schedule();
+        sensor.unschedule();
+        QVERIFY(!sensor.isScheduled());
+        NxDelayQueue::getDefault().process();
+        QCOMPARE(calls, 0);
+    }
+
+    void aDyingSensorLeavesTheQueue()
+    {
+        int calls = 0;
+        {
+            NxDelayQueueSensor sensor(count, &calls);
+            sensor.schedule();
+        }
+        QVERIFY(NxDelayQueue::getDefault().isEmpty());
+        NxDelayQueue::getDefault().process();
+        QCOMPARE(calls, 0);
+    }
+
+    void theSmallerPriorityComesBefore()
+    {
+        NxDelayQueueSensor low;
+        NxDelayQueueSensor high;
+        low.setPriority(5);
+        high.setPriority(6);
+        QVERIFY(low.isBefore(&high));
+        QVERIFY(!high.isBefore(&low));
+        QVERIFY(!low.isBefore(&low));
+        high.setPriority(5);
+        QVERIFY(!low.isBefore(&high));
+    }
+
+    void aMillionSchedulesOfAQueuedSensorAreAFlagTestEach()
+    {
+        int calls = 0;
+        NxDelayQueueSensor sensor(count, &calls);
+        int wakeUps = 0;
+        NxDelayQueue::getDefault().setWakeUpHook([](void* data) { ++*static_cast<int*>(data); }, &wakeUps);
+        QBENCHMARK_ONCE
+        {
+            for (int i = 0; i < 1'000'000; ++i)
+                sensor.schedule();
+        }
+        NxDelayQueue::getDefault().process();
+        NxDelayQueue::getDefault().setWakeUpHook(nullptr, nullptr);
+        QCOMPARE(calls, 1);
+        QCOMPARE(wakeUps, 1);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestNxDelayQueueSensor)
+#include "tst_NxDelayQueueSensor.moc"

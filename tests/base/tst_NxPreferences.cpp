@@ -1,0 +1,279 @@
+#include "base/HandlerGuard.h"
+
+#include "meridane/base/NxPreferences.h"
+#include "meridane/base/NxReadError.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <thread>
+
+namespace {
+
+bool load(const QByteArray& path)
+{
+    return NxPreferences::setFile(path.constData()) != 0;
+}
+
+} // namespace
+
+class TestNxPreferences : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+
+    QByteArray writeFile(const QByteArray& content) const
+    {
+        QFile file(m_folder.filePath(QStringLiteral("settings")));
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
+            qFatal("cannot write the settings file");
+        return QFile::encodeName(file.fileName());
+    }
+
+private Q_SLOTS:
+    void cleanup()
+    {
+        qunsetenv("KAL_TEST");
+        NxPreferences::unset("KAL_TEST");
+        NxPreferences::setFile(nullptr);
+    }
+
+    void whatIsNotSetHasItsDefault()
+    {
+        QCOMPARE(NxPreferences::getBool("KAL_TEST", 1), 1);
+        QCOMPARE(NxPreferences::getBool("KAL_TEST", 0), 0);
+        QCOMPARE(NxPreferences::getInt("KAL_TEST", -7), -7);
+        QCOMPARE(NxPreferences::getFloat("KAL_TEST", 0.5F), 0.5F);
+        QCOMPARE(NxPreferences::getString("KAL_TEST", "default").toUtf8(), "default");
+        QVERIFY(NxPreferences::getString("KAL_TEST", VbString(nullptr)).isNull());
+    }
+
+    void booleanWords_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("value"); // -1: the default
+        for (const char* word : {"1", "true", "yes", "on", "TRUE", "True", "YES", "On"})
+            QTest::newRow(word) << QByteArray(word) << 1;
+        for (const char* word : {"0", "false", "no", "off", "FALSE", "False", "NO", "oFF"})
+            QTest::newRow(word) << QByteArray(word) << 0;
+        for (const char* word : {"2", "-1", "00", "01", "t", "y", "truely", "tru", "o", "enabled", " true", "true "})
+            QTest::newRow(word) << QByteArray(word) << -1;
+        QTest::newRow("empty") << QByteArray("") << -1;
+    }
+    void booleanWords()
+    {
+        QFETCH(const QByteArray, text);
+        QFETCH(const int, value);
+        qputenv("KAL_TEST", text);
+        QCOMPARE(NxPreferences::getBool("KAL_TEST", 0), value < 0 ? 0 : value);
+        QCOMPARE(NxPreferences::getBool("KAL_TEST", 1), value < 0 ? 1 : value);
+    }
+
+    void integers_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<int>("value"); // 99: the default
+        QTest::newRow("decimal") << QByteArray("12") << 12;
+        QTest::newRow("negative") << QByteArray("-12") << -12;
+        QTest::newRow("hexadecimal") << QByteArray("0xfF") << 255;
+        QTest::newRow("greatest") << QByteArray("2147483647") << 2147483647;
+        QTest::newRow("too great") << QByteArray("2147483648") << 99;
+        QTest::newRow("with a rest") << QByteArray("12a") << 99;
+        QTest::newRow("with a point") << QByteArray("1.5") << 99;
+        QTest::newRow("word") << QByteArray("many") << 99;
+        QTest::newRow("empty") << QByteArray("") << 99;
+        QTest::newRow("prefix alone") << QByteArray("0x") << 99;
+    }
+    void integers()
+    {
+        QFETCH(const QByteArray, text);
+        QFETCH(const int, value);
+        qputenv("KAL_TEST", text);
+        QCOMPARE(NxPreferences::getInt("KAL_TEST", 99), value);
+    }
+
+    void floats_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<float>("value"); // 99: the default
+        QTest::newRow("point") << QByteArray("1.25") << 1.25F;
+        QTest::newRow("exponent") << QByteArray("-1e3") << -1000.0F;
+        QTest::newRow("comma") << QByteArray("1,25") << 99.0F;
+        QTest::newRow("with a rest") << QByteArray("1.25x") << 99.0F;
+        QTest::newRow("too great") << QByteArray("1e999") << 99.0F;
+        QTest::newRow("empty") << QByteArray("") << 99.0F;
+    }
+    void floats()
+    {
+        QFETCH(const QByteArray, text);
+        QFETCH(const float, value);
+        qputenv("KAL_TEST", text);
+        QCOMPARE(NxPreferences::getFloat("KAL_TEST", 99.0F), value);
+    }
+
+    void theEnvironmentComesBeforeTheProcessAndThatBeforeTheFile()
+    {
+        QVERIFY(load(writeFile("KAL_TEST = file\n")));
+        QCOMPARE(NxPreferences::getString("KAL_TEST", "").toUtf8(), "file");
+        NxPreferences::set("KAL_TEST", "process");
+        QCOMPARE(NxPreferences::getString("KAL_TEST", "").toUtf8(), "process");
+        qputenv("KAL_TEST", "environment");
+        QCOMPARE(NxPreferences::getString("KAL_TEST", "").toUtf8(), "environment");
+        qunsetenv("KAL_TEST");
+        NxPreferences::unset("KAL_TEST");
+        QCOMPARE(NxPreferences::getString("KAL_TEST", "").toUtf8(), "file");
+        NxPreferences::setFile(nullptr);
+        QCOMPARE(NxPreferences::getString("KAL_TEST", "default").toUtf8(), "default");
+    }
+
+    void aBadValueHidesLaterPlaces()
+    {
+        NxPreferences::set("KAL_TEST", "1");
+        qputenv("KAL_TEST", "maybe");
+        QCOMPARE(NxPreferences::getBool("KAL_TEST", 0), 0);
+    }
+
+    void goodLines_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QByteArray>("value");
+        QTest::newRow("plain") << QByteArray("KAL_TEST=a") << QByteArray("a");
+        QTest::newRow("blanks around") << QByteArray(" \tKAL_TEST \t=\t a b \t\n") << QByteArray("a b");
+        QTest::newRow("Windows line ends") << QByteArray("# x\r\nKAL_TEST = a\r\n") << QByteArray("a");
+        QTest::newRow("comments and empty lines")
+            << QByteArray("\n# KAL_TEST = b\n  # x\n\nKAL_TEST = a") << QByteArray("a");
+        QTest::newRow("hash in the value") << QByteArray("KAL_TEST = #ff0000") << QByteArray("#ff0000");
+        QTest::newRow("equals sign in the value") << QByteArray("KAL_TEST = a=b") << QByteArray("a=b");
+        QTest::newRow("empty value") << QByteArray("KAL_TEST =") << QByteArray("");
+        QTest::newRow("the last counts") << QByteArray("KAL_TEST = a\nKAL_TEST = b") << QByteArray("b");
+        QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBFKAL_TEST = a") << QByteArray("a");
+        QTest::newRow("UTF-8") << QByteArray("KAL_TEST = \xE2\x82\xAC") << QByteArray("\xE2\x82\xAC");
+    }
+    void goodLines()
+    {
+        QFETCH(const QByteArray, content);
+        QFETCH(const QByteArray, value);
+        TextRecorder recorder;
+        const HandlerGuard<NxReadError> guard(TextRecorder::record, &recorder);
+        QVERIFY(load(writeFile(content)));
+        QVERIFY(recorder.texts().empty());
+        QCOMPARE(QByteArray(NxPreferences::getString("KAL_TEST", "default").toUtf8()), value);
+    }
+
+    void aBrokenLineIsPostedAndTheOthersHold_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<QByteArray>("message");
+        const QByteArray noEquals("2:9: expected \"=\" after the name");
+        QTest::newRow("no equals sign") << QByteArray("KAL_NAME") << noEquals;
+        QTest::newRow("a second name") << QByteArray("KAL_NAM other = 1") << noEquals;
+        QTest::newRow("no name") << QByteArray("  = 1")
+                                 << QByteArray("2:3: expected a name of letters, digits and \"_.-\"");
+        QTest::newRow("a quoted name") << QByteArray("\"a\" = 1")
+                                       << QByteArray("2:1: expected a name of letters, digits and \"_.-\"");
+        QTest::newRow("columns count characters")
+            << QByteArray("N = \xE2\x82\xAC\xFF") << QByteArray("2:6: expected valid UTF-8");
+        QTest::newRow("a NUL byte in the name") << QByteArray("KAL_TEST\0 = 1", 13) << noEquals;
+    }
+    void aBrokenLineIsPostedAndTheOthersHold()
+    {
+        QFETCH(const QByteArray, line);
+        QFETCH(const QByteArray, message);
+        TextRecorder recorder;
+        const HandlerGuard<NxReadError> guard(TextRecorder::record, &recorder);
+        const QByteArray path = writeFile("KAL_TEST = before\n" + line + "\nKAL_AFTER = after\n");
+        QVERIFY(!load(path));
+        QCOMPARE(recorder.texts(), std::vector<std::string>{(path + ':' + message).toStdString()});
+        QCOMPARE(NxPreferences::getString("KAL_TEST", "").toUtf8(), "before");
+        QCOMPARE(NxPreferences::getString("KAL_AFTER", "").toUtf8(), "after");
+    }
+
+    void everyBrokenLineIsPosted()
+    {
+        TextRecorder recorder;
+        const HandlerGuard<NxReadError> guard(TextRecorder::record, &recorder);
+        load(writeFile("one\ntwo\nthree"));
+        QCOMPARE(recorder.texts().size(), std::size_t(3));
+    }
+
+    void theFileIsNeverWritten()
+    {
+        const QByteArray path = writeFile("broken\n");
+        const HandlerGuard<NxReadError> guard([](const NxError*, void*) {}, nullptr);
+        load(path);
+        NxPreferences::set("KAL_TEST", "1");
+        QFile file(QFile::decodeName(path));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("broken\n"));
+    }
+
+    void aMissingFileIsNoErrorAndHoldsNothing()
+    {
+        TextRecorder recorder;
+        const HandlerGuard<NxReadError> guard(TextRecorder::record, &recorder);
+        load(writeFile("KAL_TEST = 1"));
+        QVERIFY(load(QFile::encodeName(m_folder.filePath(QStringLiteral("missing")))));
+        QVERIFY(recorder.texts().empty());
+        QCOMPARE(NxPreferences::getBool("KAL_TEST", 0), 0);
+    }
+
+    void whatCannotBeReadIsPostedAndLeavesTheSettings_data()
+    {
+        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<QByteArray>("message");
+        QFile large(m_folder.filePath(QStringLiteral("large")));
+        QVERIFY(large.open(QIODevice::WriteOnly));
+        QVERIFY(large.resize(1024 * 1024 + 1));
+        QTest::newRow("directory") << QFile::encodeName(m_folder.path())
+                                   << QByteArray("cannot read the settings file: Is a directory");
+        QTest::newRow("too large") << QFile::encodeName(large.fileName())
+                                   << QByteArray("the settings file is larger than 1 MiB");
+        QTest::newRow("endless") << QByteArray("/dev/zero") << QByteArray("the settings file is larger than 1 MiB");
+    }
+    void whatCannotBeReadIsPostedAndLeavesTheSettings()
+    {
+        QFETCH(const QByteArray, path);
+        QFETCH(const QByteArray, message);
+        load(writeFile("KAL_TEST = kept"));
+        TextRecorder recorder;
+        const HandlerGuard<NxReadError> guard(TextRecorder::record, &recorder);
+        QVERIFY(!load(path));
+        QCOMPARE(recorder.texts(), std::vector<std::string>{(path + ": " + message).toStdString()});
+        QCOMPARE(NxPreferences::getString("KAL_TEST", "").toUtf8(), "kept");
+    }
+
+    void aHandlerMayAskForAPreference()
+    {
+        int asked = 0;
+        const HandlerGuard<NxReadError> guard(
+            [](const NxError*, void* data) { *static_cast<int*>(data) = NxPreferences::getInt("KAL_TEST", 0); },
+            &asked);
+        load(writeFile("KAL_TEST = 5\nbroken"));
+        QCOMPARE(asked, 5);
+    }
+
+    void threadsMayReadAndSetTogether()
+    {
+        const QByteArray path = writeFile("KAL_TEST = 1");
+        std::vector<std::jthread> threads;
+        for (int i = 0; i < 8; ++i) {
+            threads.emplace_back([i, &path] {
+                for (int n = 0; n < 200; ++n) {
+                    if (i == 0)
+                        load(path);
+                    else if (i == 1)
+                        NxPreferences::set("KAL_TEST", "2");
+                    else if (const int value = NxPreferences::getInt("KAL_TEST", 1); value != 1 && value != 2)
+                        qFatal("torn value %d", value);
+                }
+            });
+        }
+        threads.clear();
+        QCOMPARE(NxPreferences::getInt("KAL_TEST", 0), 2);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestNxPreferences)
+#include "tst_NxPreferences.moc"
