@@ -1,0 +1,135 @@
+#include "orvane/app/CommandLine.h"
+
+#include <QCommandLineParser>
+#include <QRegularExpression>
+
+namespace {
+
+// The options in the order in which the help shows them.
+struct Options {
+    QCommandLineOption plugin{
+        QStringLiteral("plugin"), QStringLiteral("Load this plug-in as well; repeatable."), QStringLiteral("FILE")};
+    QCommandLineOption profile{
+        QStringLiteral("profile"), QStringLiteral("Start with this profile."), QStringLiteral("NAME")};
+    QCommandLineOption select{QStringLiteral("select"),
+        QStringLiteral("Select a node or field, such as /robot/arm.rotation."), QStringLiteral("PATH")};
+    QCommandLineOption set{QStringLiteral("set"),
+        QStringLiteral("Set a field from its text form, in the order given; repeatable."), QStringLiteral("PATH=TEXT")};
+    QCommandLineOption get{
+        QStringLiteral("get"), QStringLiteral("Print a field's value; repeatable."), QStringLiteral("PATH")};
+    QCommandLineOption list{QStringLiteral("list"),
+        QStringLiteral("Print each node with its class and each field with its type and value.")};
+    QCommandLineOption listExtensions{QStringLiteral("list-extensions"),
+        QStringLiteral("Print each extension's order, class, name and handled type.")};
+    QCommandLineOption exportTo{QStringLiteral("export"),
+        QStringLiteral("Write the scene to a file, in the format that its extension names."), QStringLiteral("FILE")};
+    QCommandLineOption screenshot{QStringLiteral("screenshot"),
+        QStringLiteral("Write a picture of the window, once it has settled, and quit; needs no display."),
+        QStringLiteral("FILE")};
+    QCommandLineOption size{
+        QStringLiteral("size"), QStringLiteral("Size of the window in pixels."), QStringLiteral("WxH")};
+    QCommandLineOption noSettings{QStringLiteral("no-settings"), QStringLiteral("Neither read nor write settings.")};
+    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Print the version.")};
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this help.")};
+
+    void addTo(QCommandLineParser& parser) const
+    {
+        parser.addOptions({plugin, profile, select, set, get, list, listExtensions, exportTo, screenshot, size,
+            noSettings, version, help});
+        parser.addPositionalArgument(QStringLiteral("file"),
+            QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
+    }
+};
+
+// "PATH=TEXT"; the path may hold an equals sign in double quotes only.
+bool splitAssignment(const QString& argument, CommandLine::Assignment& assignment)
+{
+    bool quoted = false;
+    for (qsizetype i = 0; i < argument.size(); ++i) {
+        const QChar character = argument.at(i);
+        if (quoted && character == u'\\')
+            ++i;
+        else if (character == u'"')
+            quoted = !quoted;
+        else if (character == u'=' && !quoted) {
+            assignment = {argument.left(i), argument.mid(i + 1)};
+            return i > 0;
+        }
+    }
+    return false;
+}
+
+bool parseSize(const QString& argument, QSize& size)
+{
+    static const QRegularExpression pattern(QStringLiteral("^([0-9]{1,5})x([0-9]{1,5})$"));
+    const QRegularExpressionMatch match = pattern.match(argument);
+    if (!match.hasMatch())
+        return false;
+    size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+    return !size.isEmpty();
+}
+
+CommandLine::ParseResult failure(const QString& error)
+{
+    return {CommandLine(), error};
+}
+
+} // namespace
+
+bool CommandLine::isBatch() const
+{
+    const bool asksForOutput = list || listExtensions || !queries.isEmpty() || !exportFile.isEmpty();
+    return asksForOutput && screenshotFile.isEmpty();
+}
+
+CommandLine::ParseResult CommandLine::parse(const QStringList& arguments)
+{
+    const Options options;
+    QCommandLineParser parser;
+    options.addTo(parser);
+    if (!parser.parse(arguments))
+        return failure(parser.errorText());
+
+    CommandLine result;
+    result.help = parser.isSet(options.help);
+    result.version = parser.isSet(options.version);
+    if (result.help || result.version)
+        return {result, QString()};
+
+    if (parser.positionalArguments().size() > 1)
+        return failure(
+            QStringLiteral("One file at a time: '%1' is one too many.").arg(parser.positionalArguments()[1]));
+    result.file = parser.positionalArguments().value(0);
+    result.plugins = parser.values(options.plugin);
+    result.profile = parser.value(options.profile);
+    result.select = parser.value(options.select);
+    result.queries = parser.values(options.get);
+    result.exportFile = parser.value(options.exportTo);
+    result.screenshotFile = parser.value(options.screenshot);
+    result.list = parser.isSet(options.list);
+    result.listExtensions = parser.isSet(options.listExtensions);
+    result.noSettings = parser.isSet(options.noSettings);
+    for (const QString& argument : parser.values(options.set)) {
+        Assignment assignment;
+        if (!splitAssignment(argument, assignment))
+            return failure(QStringLiteral("--set expects PATH=TEXT, not '%1'.").arg(argument));
+        result.assignments.append(assignment);
+    }
+    if (parser.isSet(options.size) && !parseSize(parser.value(options.size), result.size))
+        return failure(
+            QStringLiteral("--size expects WxH, such as 1280x800, not '%1'.").arg(parser.value(options.size)));
+
+    const bool needsScene = result.list || !result.queries.isEmpty() || !result.assignments.isEmpty()
+        || !result.select.isEmpty() || !result.exportFile.isEmpty();
+    if (needsScene && result.file.isEmpty())
+        return failure(QStringLiteral("A file is missing: --get, --set, --list, --select and --export work on one."));
+    return {result, QString()};
+}
+
+QString CommandLine::helpText()
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Inspects and edits a 3D scene graph."));
+    Options().addTo(parser);
+    return parser.helpText();
+}

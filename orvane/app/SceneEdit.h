@@ -1,0 +1,23 @@
+#pragma once
+
+#include "orvane/app/CommandLine.h"
+
+#include <QString>
+
+#include <optional>
+
+class NxGroup;
+
+/// What the command line does to a scene: fields read and written by path. The results are messages of what is wrong,
+/// or nothing.
+namespace orvane {
+
+/// Sets a field from its text form. A path that leads to no field, and a text that the field refuses, change nothing.
+[[nodiscard]] std::optional<QString> setField(NxGroup* scene, const CommandLine::Assignment& assignment);
+/// Gives the field's text form in `text`.
+[[nodiscard]] std::optional<QString> getField(NxGroup* scene, const QString& path, QString& text);
+/// One line for each node (path, class) and for each of its fields (path, type, value), separated by tabs, in the order
+/// of the scene. Values of more than a thousand characters are cut and end in an ellipsis.
+[[nodiscard]] QString listScene(NxGroup* scene);
+
+} // namespace orvane

@@ -1,0 +1,101 @@
+#include "orvane/app/CommandLine.h"
+
+#include <QtTest>
+
+class CommandLineTest : public QObject {
+    Q_OBJECT
+
+private:
+    static CommandLine::ParseResult parse(const QStringList& arguments)
+    {
+        return CommandLine::parse(QStringList{QStringLiteral("orvane")} + arguments);
+    }
+
+private Q_SLOTS:
+    void nothingAsksForAnEmptyWindow()
+    {
+        const auto [commandLine, error] = parse({});
+        QCOMPARE(error, QString());
+        QVERIFY(commandLine.file.isEmpty());
+        QVERIFY(!commandLine.isBatch());
+    }
+
+    void everyOptionIsTaken()
+    {
+        const auto [commandLine, error] = parse({QStringLiteral("--plugin"), QStringLiteral("a.so"),
+            QStringLiteral("--plugin=b.so"), QStringLiteral("--profile"), QStringLiteral("Text only"),
+            QStringLiteral("--select"), QStringLiteral("/a"), QStringLiteral("--set"), QStringLiteral("/a.b=1"),
+            QStringLiteral("--set"), QStringLiteral("/\"x=y\".b=c=d"), QStringLiteral("--get"), QStringLiteral("/a.b"),
+            QStringLiteral("--list"), QStringLiteral("--list-extensions"), QStringLiteral("--export"),
+            QStringLiteral("out.obj"), QStringLiteral("--screenshot"), QStringLiteral("p.png"),
+            QStringLiteral("--size"), QStringLiteral("640x480"), QStringLiteral("--no-settings"),
+            QStringLiteral("in.mrd")});
+        QCOMPARE(error, QString());
+        QCOMPARE(commandLine.plugins, QStringList({QStringLiteral("a.so"), QStringLiteral("b.so")}));
+        QCOMPARE(commandLine.profile, QStringLiteral("Text only"));
+        QCOMPARE(commandLine.select, QStringLiteral("/a"));
+        QCOMPARE(commandLine.assignments.size(), 2);
+        QCOMPARE(commandLine.assignments[0].path, QStringLiteral("/a.b"));
+        QCOMPARE(commandLine.assignments[0].text, QStringLiteral("1"));
+        QCOMPARE(commandLine.assignments[1].path, QStringLiteral("/\"x=y\".b"));
+        QCOMPARE(commandLine.assignments[1].text, QStringLiteral("c=d"));
+        QCOMPARE(commandLine.queries, QStringList({QStringLiteral("/a.b")}));
+        QVERIFY(commandLine.list);
+        QVERIFY(commandLine.listExtensions);
+        QCOMPARE(commandLine.exportFile, QStringLiteral("out.obj"));
+        QCOMPARE(commandLine.screenshotFile, QStringLiteral("p.png"));
+        QCOMPARE(commandLine.size, QSize(640, 480));
+        QVERIFY(commandLine.noSettings);
+        QCOMPARE(commandLine.file, QStringLiteral("in.mrd"));
+    }
+
+    void unusableArgumentsAreRefused_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("mentions");
+        QTest::newRow("unknown option") << QStringList{QStringLiteral("--nonsense")} << QStringLiteral("nonsense");
+        QTest::newRow("two files") << QStringList{QStringLiteral("a.mrd"), QStringLiteral("b.mrd")}
+                                   << QStringLiteral("b.mrd");
+        QTest::newRow("set without equals")
+            << QStringList{QStringLiteral("--set=/a.b"), QStringLiteral("a.mrd")} << QStringLiteral("PATH=TEXT");
+        QTest::newRow("set without path")
+            << QStringList{QStringLiteral("--set==1"), QStringLiteral("a.mrd")} << QStringLiteral("PATH=TEXT");
+        QTest::newRow("option without value") << QStringList{QStringLiteral("--get")} << QStringLiteral("get");
+        QTest::newRow("size without height") << QStringList{QStringLiteral("--size=640")} << QStringLiteral("WxH");
+        QTest::newRow("size of nothing") << QStringList{QStringLiteral("--size=0x0")} << QStringLiteral("WxH");
+        QTest::newRow("size beyond reason") << QStringList{QStringLiteral("--size=123456x1")} << QStringLiteral("WxH");
+        QTest::newRow("get without file") << QStringList{QStringLiteral("--get=/a.b")} << QStringLiteral("file");
+        QTest::newRow("export without file") << QStringList{QStringLiteral("--export=a.obj")} << QStringLiteral("file");
+    }
+
+    void unusableArgumentsAreRefused()
+    {
+        QFETCH(const QStringList, arguments);
+        QFETCH(const QString, mentions);
+        const QString error = parse(arguments).error;
+        QVERIFY2(error.contains(mentions), qPrintable(error));
+        QVERIFY(!error.contains(u'\n'));
+    }
+
+    void onlyOutputWithoutAPictureIsBatchWork()
+    {
+        const QString file = QStringLiteral("a.mrd");
+        QVERIFY(parse({QStringLiteral("--list"), file}).commandLine.isBatch());
+        QVERIFY(parse({QStringLiteral("--list-extensions")}).commandLine.isBatch());
+        QVERIFY(parse({QStringLiteral("--get=/a.b"), file}).commandLine.isBatch());
+        QVERIFY(parse({QStringLiteral("--export=b.mrd"), file}).commandLine.isBatch());
+        QVERIFY(!parse({QStringLiteral("--set=/a.b=1"), file}).commandLine.isBatch());
+        QVERIFY(!parse({QStringLiteral("--list"), QStringLiteral("--screenshot=p.png"), file}).commandLine.isBatch());
+    }
+
+    void helpNamesEveryOption()
+    {
+        const QString help = CommandLine::helpText();
+        for (const char* const option : {"--plugin", "--profile", "--select", "--set", "--get", "--list",
+                 "--list-extensions", "--export", "--screenshot", "--size", "--no-settings", "--version", "--help"})
+            QVERIFY2(help.contains(QLatin1String(option)), option);
+    }
+};
+
+QTEST_GUILESS_MAIN(CommandLineTest)
+#include "tst_CommandLine.moc"
