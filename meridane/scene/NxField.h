@@ -36,7 +36,8 @@ public:
 
     /// The node that owns the field, or null for a field that stands alone.
     [[nodiscard]] NxFieldContainer* getContainer() const noexcept { return m_container; }
-    /// True when the value equals, to the bit, the one that a new node of the container's class has.
+    /// True when the value equals, to the bit, the one that a new node of the container's class has. False for a field
+    /// that stands alone.
     [[nodiscard]] bool isDefault() const;
 
     /// True when both are of the same class and hold the same value to the bit (so a NaN is the same as itself, and
@@ -77,3 +78,27 @@ private:
     NxFieldSensor* m_sensors = nullptr; // head of the list that runs through the sensors
     bool m_ignored = false;
 };
+
+/// Stands first in the declaration of a field class: `NX_FIELD(NxSFFloat)`.
+#define NX_FIELD(Class)                                                                                                \
+public:                                                                                                                \
+    [[nodiscard]] static NxType getClassTypeId();                                                                      \
+    [[nodiscard]] NxType getTypeId() const override;                                                                   \
+                                                                                                                       \
+private:
+
+/// Stands in a source file that includes `VbName.h`: `NX_FIELD_SOURCE(NxSFFloat, NxSField, "SFFloat")`. The class is
+/// registered when the library that holds it is loaded; its instances need a container, so a type alone makes none.
+#define NX_FIELD_SOURCE(Class, Parent, name)                                                                           \
+    NxType Class::getClassTypeId()                                                                                     \
+    {                                                                                                                  \
+        static const NxType type = NxType::registerClass(name, Parent::getClassTypeId(), nullptr);                     \
+        return type;                                                                                                   \
+    }                                                                                                                  \
+    NxType Class::getTypeId() const                                                                                    \
+    {                                                                                                                  \
+        return getClassTypeId();                                                                                       \
+    }                                                                                                                  \
+    namespace {                                                                                                        \
+    [[maybe_unused]] const NxType registered##Class = Class::getClassTypeId();                                         \
+    }

@@ -1,0 +1,159 @@
+#pragma once
+
+#include "meridane/base/NxMemoryError.h"
+#include "meridane/base/VbString.h"
+#include "meridane/scene/ListField.h"
+#include "meridane/scene/ValueBits.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <stdexcept>
+
+namespace meridane {
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::get1(int index, VbString& text) const
+{
+    std::string result;
+    if (index >= 0 && index < getNum())
+        m_format.write(result, m_values[static_cast<std::size_t>(index)]);
+    text = VbString(std::string_view(result));
+}
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::deleteValues(int start, int count)
+{
+    const long long first = std::max(start, 0);
+    const long long end = count == -1 ? getNum() : std::min<long long>(static_cast<long long>(start) + count, getNum());
+    if (first >= end)
+        return;
+    m_values.erase(m_values.begin() + first, m_values.begin() + end);
+    touch();
+}
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::insertSpace(int start, int count)
+{
+    insertCopies(start, count, Value());
+}
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::insertCopies(int start, int count, const Value& value)
+{
+    if (count <= 0)
+        return;
+    const auto number = static_cast<std::size_t>(count);
+    try {
+        if (count > std::numeric_limits<int>::max() - getNum())
+            throw std::bad_alloc();
+        m_values.insert(m_values.begin() + std::clamp(start, 0, getNum()), number, value);
+    } catch (const std::bad_alloc&) {
+        NxMemoryError::post(__FILE__, __LINE__, (m_values.size() + number) * sizeof(Value));
+        return;
+    }
+    touch();
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::isSame(const NxField& other) const
+{
+    return getTypeId() == other.getTypeId()
+        && areSameValues<Value>(m_values, static_cast<const ListField&>(other).m_values);
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::copyFrom(const NxField& other)
+{
+    if (getTypeId() != other.getTypeId())
+        return false;
+    m_values = static_cast<const ListField&>(other).m_values;
+    touch();
+    return true;
+}
+
+template <typename Value, typename Format>
+std::size_t ListField<Value, Format>::valueBytes() const
+{
+    if constexpr (std::is_trivially_copyable_v<Value>) {
+        return sizeof(m_values) + m_values.size() * sizeof(Value);
+    } else {
+        std::size_t bytes = sizeof(m_values);
+        for (const Value& value : m_values)
+            bytes += bytesOfValue(value);
+        return bytes;
+    }
+}
+
+template <typename Value, typename Format>
+NxField::Progress ListField<Value, Format>::readText(TextReader& reader, bool first, std::size_t budget)
+{
+    return readValues(m_values, reader, first, budget);
+}
+
+// A slice ends right behind a value, so that the next one begins with what separates it from the value after it.
+template <typename Value, typename Format>
+NxField::Progress ListField<Value, Format>::readValues(
+    std::vector<Value>& values, TextReader& reader, bool first, std::size_t budget) const
+{
+    Value value{};
+    if (first) {
+        values.clear();
+        const bool bracket = reader.accept('[');
+        if (bracket && reader.accept(']'))
+            return Progress::Done;
+        if (!m_format.read(reader, value))
+            return Progress::Failed;
+        values.push_back(value);
+        if (!bracket)
+            return Progress::Done;
+    }
+    for (; budget > 0; --budget) {
+        if (!reader.accept(',') && reader.accept(']'))
+            return Progress::Done;
+        if (!m_format.read(reader, value))
+            return Progress::Failed;
+        values.push_back(value);
+    }
+    return Progress::More;
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::writeText(std::string& text, std::size_t& position, std::size_t budget) const
+{
+    if (position == 0)
+        text += '[';
+    const std::size_t end = m_values.size() - position > budget ? position + budget : m_values.size();
+    for (; position < end; ++position) {
+        if (position > 0)
+            text += ", ";
+        m_format.write(text, m_values[position]);
+    }
+    if (position < m_values.size())
+        return true;
+    text += ']';
+    return false;
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::assignText(TextReader& reader)
+{
+    std::vector<Value> values;
+    if (readValues(values, reader, true, std::numeric_limits<std::size_t>::max()) != Progress::Done
+        || !reader.expectEnd())
+        return false;
+    m_values = std::move(values);
+    return true;
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::assign1Text(int index, TextReader& reader)
+{
+    Value value{};
+    if (!m_format.readWhole(reader, value))
+        return false;
+    m_values[static_cast<std::size_t>(index)] = std::move(value);
+    return true;
+}
+
+} // namespace meridane

@@ -1,0 +1,6 @@
+#include "meridane/scene/NxDataSensor.h"
+
+void NxDataSensor::notify()
+{
+    schedule();
+}

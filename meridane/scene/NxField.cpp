@@ -1,0 +1,90 @@
+#include "meridane/scene/NxField.h"
+
+#include "meridane/base/NxMemoryError.h"
+#include "meridane/base/VbName.h"
+#include "meridane/base/VbString.h"
+#include "meridane/scene/NxFieldContainer.h"
+#include "meridane/scene/NxFieldData.h"
+#include "meridane/scene/NxFieldSensor.h"
+#include "meridane/scene/TextReader.h"
+
+#include <limits>
+#include <new>
+
+NxType NxField::getClassTypeId()
+{
+    static const NxType type = NxType::registerClass("Field", NxTypedObject::getClassTypeId(), nullptr);
+    return type;
+}
+
+NxField::NxField(NxFieldContainer* container, const char* name)
+    : m_container(container)
+{
+    NxFieldData::collectField(container, this, name);
+}
+
+NxField::~NxField()
+{
+    while (m_sensors != nullptr) {
+        NxFieldSensor* const sensor = m_sensors;
+        sensor->dyingReference();
+        if (m_sensors == sensor)
+            sensor->detach(); // an override may have left that out
+    }
+}
+
+void NxField::get(VbString& text) const
+{
+    std::string result;
+    std::size_t position = 0;
+    while (writeText(result, position, std::numeric_limits<std::size_t>::max())) { }
+    text = VbString(std::string_view(result));
+}
+
+bool NxField::set(const VbString& text)
+{
+    meridane::TextReader reader(text.view());
+    try {
+        if (!assignText(reader))
+            return false;
+    } catch (const std::bad_alloc&) {
+        NxMemoryError::post(__FILE__, __LINE__, text.view().size());
+        return false;
+    }
+    touch();
+    return true;
+}
+
+bool NxField::set(const char* text)
+{
+    return set(VbString(text));
+}
+
+void NxField::setIgnored(int flag)
+{
+    const bool ignored = flag != 0;
+    if (ignored == m_ignored)
+        return;
+    m_ignored = ignored;
+    touch();
+}
+
+bool NxField::isDefault() const
+{
+    if (m_container == nullptr)
+        return false;
+    const NxFieldData* const data = m_container->getFieldData();
+    const NxField* const original = data->getDefault(data->getIndex(m_container, this));
+    return original != nullptr && isSame(*original);
+}
+
+void NxField::touch()
+{
+    for (NxFieldSensor* sensor = m_sensors; sensor != nullptr;) {
+        NxFieldSensor* const next = sensor->m_next;
+        sensor->notify();
+        sensor = next;
+    }
+    if (m_container != nullptr)
+        m_container->touch();
+}

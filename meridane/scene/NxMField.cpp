@@ -1,0 +1,30 @@
+#include "meridane/scene/NxMField.h"
+
+#include "meridane/base/VbName.h"
+#include "meridane/base/VbString.h"
+#include "meridane/scene/TextReader.h"
+
+NxType NxMField::getClassTypeId()
+{
+    static const NxType type = NxType::registerClass("MField", NxField::getClassTypeId(), nullptr);
+    return type;
+}
+
+bool NxMField::set1(int index, const VbString& text)
+{
+    meridane::TextReader reader(text.view());
+    if (index < 0 || index >= getNum() || !assign1Text(index, reader))
+        return false;
+    touch();
+    return true;
+}
+
+bool NxMField::set1(int index, const char* text)
+{
+    return set1(index, VbString(text));
+}
+
+void NxMField::valueChanged(int /*start*/, int /*count*/, int /*resized*/)
+{
+    touch();
+}

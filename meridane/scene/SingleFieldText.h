@@ -1,0 +1,54 @@
+#pragma once
+
+#include "meridane/scene/SingleField.h"
+#include "meridane/scene/ValueBits.h"
+
+#include <utility>
+
+namespace meridane {
+
+template <typename Value, typename Format>
+bool SingleField<Value, Format>::isSame(const NxField& other) const
+{
+    return getTypeId() == other.getTypeId() && isSameValue(m_value, static_cast<const SingleField&>(other).m_value);
+}
+
+template <typename Value, typename Format>
+bool SingleField<Value, Format>::copyFrom(const NxField& other)
+{
+    if (getTypeId() != other.getTypeId())
+        return false;
+    setValue(static_cast<const SingleField&>(other).m_value);
+    return true;
+}
+
+template <typename Value, typename Format>
+std::size_t SingleField<Value, Format>::valueBytes() const
+{
+    return bytesOfValue(m_value);
+}
+
+template <typename Value, typename Format>
+NxField::Progress SingleField<Value, Format>::readText(TextReader& reader, bool /*first*/, std::size_t /*budget*/)
+{
+    return m_format.read(reader, m_value) ? Progress::Done : Progress::Failed;
+}
+
+template <typename Value, typename Format>
+bool SingleField<Value, Format>::writeText(std::string& text, std::size_t& /*position*/, std::size_t /*budget*/) const
+{
+    m_format.write(text, m_value);
+    return false;
+}
+
+template <typename Value, typename Format>
+bool SingleField<Value, Format>::assignText(TextReader& reader)
+{
+    Value value{};
+    if (!m_format.readWhole(reader, value))
+        return false;
+    m_value = std::move(value);
+    return true;
+}
+
+} // namespace meridane

@@ -1,0 +1,163 @@
+#include "meridane/scene/TextReader.h"
+
+#include <cstdlib>
+#include <limits>
+#include <type_traits>
+
+namespace meridane {
+
+namespace {
+
+template <typename Number>
+std::string rangeText()
+{
+    return "a whole number from " + std::to_string(std::numeric_limits<Number>::min()) + " to "
+        + std::to_string(std::numeric_limits<Number>::max());
+}
+
+// The character that an escape stands for, NUL for an escape that doesn't exist.
+char unescape(char character)
+{
+    switch (character) {
+    case '"':
+    case '\\':
+        return character;
+    case 'n':
+        return '\n';
+    case 't':
+        return '\t';
+    default:
+        return '\0';
+    }
+}
+
+} // namespace
+
+void TextReader::skipComment() noexcept
+{
+    while (m_end - m_at > 1 && *m_at != '\n')
+        ++m_at;
+}
+
+bool TextReader::expect(char character)
+{
+    return accept(character) || fail(std::string{'"', character, '"'});
+}
+
+bool TextReader::expectEnd()
+{
+    skipBlanks();
+    return atEnd() || fail("the end of the text");
+}
+
+// What the fast path doesn't take: a leading plus, hexadecimal integers, fractions too small for the type, and whatever
+// is no number at all.
+template <typename Number>
+bool TextReader::readUnusualNumber(Number& number)
+{
+    const char* place = m_at;
+    const bool negative = place != m_end && *place == '-';
+    if (place != m_end && (*place == '+' || *place == '-'))
+        ++place;
+    const bool digitFollows = place != m_end && *place != '+' && *place != '-';
+
+    if constexpr (std::is_integral_v<Number>) {
+        const bool hexadecimal = m_end - place > 2 && place[0] == '0' && (place[1] == 'x' || place[1] == 'X');
+        unsigned long long magnitude = 0;
+        const auto [end, error]
+            = std::from_chars(hexadecimal ? place + 2 : place, m_end, magnitude, hexadecimal ? 16 : 10);
+        if (!digitFollows || error == std::errc::invalid_argument || !endsHere(end))
+            return fail("a whole number");
+        const unsigned long long limit = negative
+            ? 0ULL - static_cast<unsigned long long>(std::numeric_limits<Number>::min())
+            : static_cast<unsigned long long>(std::numeric_limits<Number>::max());
+        if (error != std::errc() || magnitude > limit)
+            return fail(rangeText<Number>());
+        number = static_cast<Number>(negative ? 0ULL - magnitude : magnitude);
+        m_at = end;
+    } else {
+        Number magnitude = 0;
+        auto [end, error] = std::from_chars(place, m_end, magnitude);
+        if (!digitFollows || error == std::errc::invalid_argument || !endsHere(end))
+            return fail("a number");
+        if (error == std::errc::result_out_of_range) {
+            // Too large or too small: a wider type tells which, and beyond even that one the sign of the exponent.
+            const std::string_view token(place, static_cast<std::size_t>(end - place));
+            const std::size_t exponent = token.find_first_of("eE");
+            long double wide = 0;
+            const bool known = std::from_chars(place, m_end, wide).ec == std::errc();
+            const bool small = known ? wide < 1 : token.substr(0, exponent + 2).ends_with('-');
+            if (!small)
+                return fail(
+                    std::is_same_v<Number, float> ? "a number that fits in 32 bits" : "a number that fits in 64 bits");
+            magnitude = 0;
+        }
+        number = negative ? -magnitude : magnitude;
+        m_at = end;
+    }
+    return true;
+}
+
+template bool TextReader::readUnusualNumber(float&);
+template bool TextReader::readUnusualNumber(double&);
+template bool TextReader::readUnusualNumber(short&);
+template bool TextReader::readUnusualNumber(unsigned short&);
+template bool TextReader::readUnusualNumber(int&);
+template bool TextReader::readUnusualNumber(unsigned int&);
+
+bool TextReader::readWord(std::string_view& word, std::string_view expected)
+{
+    skipBlanks();
+    const char* end = m_at;
+    while (!endsHere(end))
+        ++end;
+    if (end == m_at)
+        return fail(expected);
+    word = {m_at, static_cast<std::size_t>(end - m_at)};
+    m_at = end;
+    return true;
+}
+
+bool TextReader::readQuoted(std::string_view& text)
+{
+    if (!accept('"'))
+        return fail("a text in double quotes");
+    const char* const start = m_at;
+    bool escaped = false;
+    while (true) {
+        const std::size_t run = rest().find_first_of("\"\\");
+        if (run == std::string_view::npos) {
+            m_at = start - 1;
+            return fail("a text with a closing quote");
+        }
+        const std::string_view plain(m_at, run);
+        m_at += run;
+        if (*m_at == '"') {
+            if (escaped)
+                m_unescaped += plain;
+            text = escaped ? std::string_view(m_unescaped) : plain;
+            ++m_at;
+            return true;
+        }
+        if (!escaped)
+            m_unescaped.clear();
+        escaped = true;
+        m_unescaped += plain;
+        const char character = m_end - m_at > 1 ? unescape(m_at[1]) : '\0';
+        if (character == '\0')
+            return fail("one of the escapes \\\", \\\\, \\n and \\t");
+        m_unescaped += character;
+        m_at += 2;
+    }
+}
+
+bool TextReader::failAt(std::size_t position, std::string_view expected)
+{
+    if (m_expected.empty()) {
+        m_expected = expected;
+        m_failurePosition = position;
+    }
+    return false;
+}
+
+} // namespace meridane

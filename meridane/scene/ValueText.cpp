@@ -1,0 +1,219 @@
+#include "meridane/scene/ValueText.h"
+
+#include "meridane/base/Unicode.h"
+#include "meridane/base/VbName.h"
+#include "meridane/base/VbString.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace meridane {
+
+namespace {
+
+void writeQuoted(std::string& text, std::string_view value)
+{
+    text += '"';
+    for (std::size_t at = 0; at < value.size();) {
+        const std::size_t run = std::min(value.find_first_of("\"\\\n\t", at), value.size());
+        text += value.substr(at, run - at);
+        at = run + 1;
+        if (run == value.size())
+            break;
+        text += '\\';
+        text += value[run] == '\n' ? 'n' : value[run] == '\t' ? 't' : value[run];
+    }
+    text += '"';
+}
+
+bool readText(TextReader& reader, std::string_view& text)
+{
+    reader.skipBlanks();
+    return reader.peek() == '"' ? reader.readQuoted(text) : reader.readWord(text, "a text");
+}
+
+bool readWholeText(TextReader& reader, std::string_view& text)
+{
+    if (reader.peek() == '"')
+        return reader.readQuoted(text) && reader.expectEnd();
+    text = reader.rest();
+    reader.advance(text.size());
+    return true;
+}
+
+// Names are Latin-1 and end at a NUL.
+std::optional<VbName> nameOfUtf8(std::string_view text)
+{
+    constexpr unsigned char lastLeadByteOfLatin1 = 0xC3;
+    for (const char character : text) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte == 0 || byte > lastLeadByteOfLatin1)
+            return std::nullopt;
+    }
+    return VbName(utf8ToLatin1(text).c_str());
+}
+
+bool takeName(TextReader& reader, std::string_view text, VbName& value)
+{
+    const std::optional<VbName> name = nameOfUtf8(text);
+    if (!name)
+        return reader.fail("a name of Latin-1 characters");
+    value = *name;
+    return true;
+}
+
+} // namespace
+
+bool readValue(TextReader& reader, Flag& value)
+{
+    constexpr std::string_view expected = "true or false";
+    reader.skipBlanks();
+    const std::size_t start = reader.position();
+    std::string_view word;
+    if (!reader.readWord(word, expected))
+        return false;
+    const bool set = word == "true" || word == "TRUE" || word == "1";
+    if (!set && word != "false" && word != "FALSE" && word != "0")
+        return reader.failAt(start, expected);
+    value = set;
+    return true;
+}
+
+void writeValue(std::string& text, const Flag& value)
+{
+    text += value ? "true" : "false";
+}
+
+bool readValue(TextReader& reader, VbString& value)
+{
+    std::string_view text;
+    if (!readText(reader, text))
+        return false;
+    value = VbString(text);
+    return true;
+}
+
+void writeValue(std::string& text, const VbString& value)
+{
+    writeQuoted(text, value.view());
+}
+
+bool readValue(TextReader& reader, VbName& value)
+{
+    std::string_view text;
+    return readText(reader, text) && takeName(reader, text, value);
+}
+
+void writeValue(std::string& text, const VbName& value)
+{
+    writeQuoted(text, latin1ToUtf8(value.getString()));
+}
+
+bool readValue(TextReader& reader, VbRotation& value)
+{
+    VbVec3f axis;
+    float radians = 0;
+    if (!readValue(reader, axis) || !readValue(reader, radians))
+        return false;
+    value.setValue(axis, radians);
+    return true;
+}
+
+void writeValue(std::string& text, const VbRotation& value)
+{
+    writeValue(text, value.getAxis());
+    text += ' ';
+    writeValue(text, value.getAngle());
+}
+
+bool readValue(TextReader& reader, VbPlane& value)
+{
+    VbVec3f normal;
+    float distance = 0;
+    if (!readValue(reader, normal) || !readValue(reader, distance))
+        return false;
+    value = VbPlane(normal, distance);
+    return true;
+}
+
+void writeValue(std::string& text, const VbPlane& value)
+{
+    writeValue(text, value.getNormal());
+    text += ' ';
+    writeValue(text, value.getDistanceFromOrigin());
+}
+
+bool readValue(TextReader& reader, VbMatrix& value)
+{
+    VbMatrix read;
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (float& element : read[row]) {
+            if (!readValue(reader, element))
+                return false;
+        }
+    }
+    value = read;
+    return true;
+}
+
+void writeValue(std::string& text, const VbMatrix& value)
+{
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (std::size_t column = 0; column < 4; ++column) {
+            if (row + column > 0)
+                text += ' ';
+            writeValue(text, value[row][column]);
+        }
+    }
+}
+
+bool readValue(TextReader& reader, VbBox2f& value)
+{
+    VbVec2f min;
+    VbVec2f max;
+    if (!readValue(reader, min) || !readValue(reader, max))
+        return false;
+    value = VbBox2f(min, max);
+    return true;
+}
+
+void writeValue(std::string& text, const VbBox2f& value)
+{
+    writeValue(text, value.getMin());
+    text += ' ';
+    writeValue(text, value.getMax());
+}
+
+bool readValue(TextReader& reader, VbBox3s& value)
+{
+    VbVec3s min;
+    VbVec3s max;
+    if (!readValue(reader, min) || !readValue(reader, max))
+        return false;
+    value = VbBox3s(min, max);
+    return true;
+}
+
+void writeValue(std::string& text, const VbBox3s& value)
+{
+    writeValue(text, value.getMin());
+    text += ' ';
+    writeValue(text, value.getMax());
+}
+
+bool readWholeValue(TextReader& reader, VbString& value)
+{
+    std::string_view text;
+    if (!readWholeText(reader, text))
+        return false;
+    value = VbString(text);
+    return true;
+}
+
+bool readWholeValue(TextReader& reader, VbName& value)
+{
+    std::string_view text;
+    return readWholeText(reader, text) && takeName(reader, text, value);
+}
+
+} // namespace meridane
