@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <memory>
+
+class EditActions;
+class ErrorRelay;
+class FieldPanel;
+class FileActions;
+class JobBar;
+class MessageBar;
+class SceneTreePanel;
+class SceneDocument;
+class SelectionLabel;
+class Session;
+class StartPage;
+class ViewMenu;
+class WindowShell;
+class QStackedWidget;
+
+/// The tool's window: the scene tree, the fields of the selected node, and what extensions add.
+///
+/// It shows a session and is the shell of its extensions, so the session's plug-ins and profile come after the window.
+/// Its destructor shuts the session down.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(Session& session);
+    ~MainWindow() override;
+
+    [[nodiscard]] SceneDocument& document() const;
+
+    /// Opens a scene or imports a model. The user is asked first about changes that aren't saved; `settled` follows.
+    void openFile(const QString& fileName);
+    /// Saves or exports to that file, as its extension says; `settled` follows.
+    void saveTo(const QString& fileName);
+    /// Selects what a path such as `/robot/arm.rotation` leads to, in tree and table. The result says what is wrong
+    /// with the path, or is empty.
+    QString selectPath(const QString& path);
+    /// Shows a message to the user.
+    void showError(const QString& message);
+    void showWarning(const QString& message);
+    void showInformation(const QString& message);
+
+Q_SIGNALS:
+    /// Work on a file ended, for good or bad, and what the window shows has caught up with it. `error` is the message
+    /// of a failure, or empty.
+    void settled(const QString& error);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void buildMiddle();
+    void buildTree();
+    void buildStatusBar();
+    void buildMenus();
+    void updateTitle();
+    void updateMiddle();
+    void saveLayout();
+    void restoreLayout();
+
+    Session& m_session;
+    std::unique_ptr<ErrorRelay> m_errorRelay;
+    MessageBar* m_messages = nullptr;
+    QStackedWidget* m_middle = nullptr;
+    StartPage* m_startPage = nullptr;
+    FieldPanel* m_fields = nullptr;
+    SceneTreePanel* m_tree = nullptr;
+    JobBar* m_jobBar = nullptr;
+    SelectionLabel* m_selectionLabel = nullptr;
+    FileActions* m_files = nullptr;
+    EditActions* m_edits = nullptr;
+    ViewMenu* m_view = nullptr;
+    std::unique_ptr<WindowShell> m_shell;
+    bool m_layoutRestored = false;
+    bool m_mayClose = false;
+};
