@@ -1,0 +1,26 @@
+#pragma once
+
+#include "orvane/extender/OrvCommand.h"
+
+#include "meridane/base/VbString.h"
+
+class NxField;
+
+/// A field of any kind that was given its default. The field isn't owned and must outlive the command.
+class OrvFieldSetDefaultCommand final : public OrvCommand {
+public:
+    /// Takes the texts of both fields and doesn't keep `defaultField`. Undo writes the text that `field` has now: a
+    /// caller that has written the default before gets an undo that leaves it there.
+    OrvFieldSetDefaultCommand(NxField* field, const NxField* defaultField);
+
+    void execute() override;
+    void undo() override;
+    void redo() override;
+    ~OrvFieldSetDefaultCommand() override;
+
+private:
+    NxField* m_field;
+    [[maybe_unused]] bool m_isMultiValue; // for whoever looks at the history; no code needs it
+    VbString m_defaultValue;
+    VbString m_previousValue;
+};

@@ -1,0 +1,19 @@
+#include "OrvDefaults.h"
+
+OrvDefaults::OrvDefaults()
+{
+    m_name = "OrvDefaults";
+    m_author = "KLD";
+    m_description = "Plug-in which loads Orvane default extensions.";
+    m_version = "1.0.0";
+}
+
+OrvDefaults::~OrvDefaults() = default;
+
+void OrvDefaults::load()
+{
+    // An order of its own, which is what the host shows; it isn't bound to the order of declaration.
+    addExtension(&m_fieldEditorDock);
+    addExtension(&m_nodeEditor);
+    OrvPlugin::load();
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "orvane/extender/OrvExtension.h"
+
+class NxField;
+class OrvEditor;
+class QDockWidget;
+
+/// Follows the selected field and shows the editor that fits it best in a dock on the right.
+class OrvFieldEditorDockWin final : public OrvExtension {
+    Q_OBJECT
+
+public:
+    OrvFieldEditorDockWin();
+    ~OrvFieldEditorDockWin() override;
+
+    void activate() override;
+    void deactivate() override;
+    void hide() override;
+    void load() override;
+    void show() override;
+    void unload() override;
+
+private Q_SLOTS:
+    void s_selectedFieldChanged(NxField* field);
+
+private:
+    QDockWidget* m_dock = nullptr;
+    OrvEditor* m_currentEditor = nullptr;
+};

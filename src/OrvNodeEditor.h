@@ -1,0 +1,30 @@
+#pragma once
+
+#include "orvane/extender/OrvExtension.h"
+
+class NxFieldContainer;
+class OrvEditor;
+class QDockWidget;
+
+/// Follows the selected node and shows the editor that fits it best in a dock on the right.
+class OrvNodeEditor final : public OrvExtension {
+    Q_OBJECT
+
+public:
+    OrvNodeEditor();
+    ~OrvNodeEditor() override;
+
+    void activate() override;
+    void deactivate() override;
+    void hide() override;
+    void load() override;
+    void show() override;
+    void unload() override;
+
+private Q_SLOTS:
+    void s_selectedNodeChanged(NxFieldContainer* node);
+
+private:
+    QDockWidget* m_dock = nullptr;
+    OrvEditor* m_currentEditor = nullptr;
+};
