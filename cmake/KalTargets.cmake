@@ -49,6 +49,7 @@ endfunction()
 
 # kal_add_test(area name [SOURCES …] [DEPENDS …] [LABELS …] [TIMEOUT s])
 # A QtTest program from tst_<name>.cpp, run without a display, in the C.UTF-8 locale and with folders of its own.
+# Under a sanitizer, too, a request for more memory than there is gives null, so that tests see what users would.
 # Tests with the label toolkit are also built by the target toolkit_tests and run under the thread sanitizer.
 function(kal_add_test area name)
   cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;DEPENDS;LABELS" ${ARGN})
@@ -73,7 +74,7 @@ function(kal_add_test area name)
                LABELS
                "${area};${arg_LABELS}"
                ENVIRONMENT
-               "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0"
+               "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0;ASAN_OPTIONS=allocator_may_return_null=1;TSAN_OPTIONS=allocator_may_return_null=1"
   )
 endfunction()
 
