@@ -45,7 +45,8 @@ public:
     [[nodiscard]] std::optional<std::string> commit();
 
 private:
-    std::string m_path;
+    std::string m_path; // as it was given, for messages
+    std::string m_target; // the file itself, behind symbolic links
     std::string m_temporary;
     int m_descriptor = -1;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meridane/scene/NxFieldContainer.h"
+#include "meridane/scene/NxFieldData.h"
 
 #include <span>
 

@@ -50,8 +50,8 @@ public:
     /// point also `inf` and `nan`. One that the type can't hold is refused, but a small fraction becomes 0.
     template <typename Number>
     bool readNumber(Number& number);
-    /// Reads a word: the characters up to a blank, a comma, a bar, a quote, a bracket, a brace or `#`. It may not be
-    /// empty: `expected` says what it stands for.
+    /// Reads a word: the characters up to a blank, a comma, a semicolon, a bar, a quote, a bracket, a brace or `#`. It
+    /// may not be empty: `expected` says what it stands for.
     bool readWord(std::string_view& word, std::string_view expected);
     /// Reads a text in double quotes. The view is valid until the next call, or until the text goes.
     bool readQuoted(std::string_view& text);
@@ -74,7 +74,7 @@ private:
     static constexpr std::array<bool, 256> makeDelimiters()
     {
         std::array<bool, 256> result{};
-        for (const char character : std::string_view(" \t\r\n,|\"[]{}#"))
+        for (const char character : std::string_view(" \t\r\n,;|\"[]{}#"))
             result[static_cast<unsigned char>(character)] = true;
         return result;
     }

@@ -1,0 +1,218 @@
+#include "meridane/scene/Files.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <exception>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace meridane {
+
+namespace {
+
+std::string failure(const std::string& path, const std::string& reason)
+{
+    return (path.empty() ? std::string("no file name") : path) + ": " + reason;
+}
+
+std::string systemFailure(const std::string& path)
+{
+    return failure(path, std::generic_category().message(errno));
+}
+
+std::string folderOf(const std::string& path)
+{
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string::npos ? "." : path.substr(0, std::max<std::size_t>(slash, 1));
+}
+
+/// Follows symbolic links, also to a file that doesn't exist yet.
+bool followLinks(std::string& path)
+{
+    constexpr int maxLinks = 40;
+    for (int links = 0; links < maxLinks; ++links) {
+        std::array<char, PATH_MAX> link;
+        const ssize_t length = ::readlink(path.c_str(), link.data(), link.size());
+        if (length < 0)
+            return true; // no link, or nothing there
+        const std::string target(link.data(), static_cast<std::size_t>(length));
+        path = target.starts_with('/') ? target : folderOf(path) + '/' + target;
+    }
+    errno = ELOOP;
+    return false;
+}
+
+/// Makes a new file beside the target, open for writing, with the permissions that new files get.
+int createBeside(const std::string& target, std::string& name)
+{
+    constexpr int maxAttempts = 1000;
+    const std::string prefix = folderOf(target) + "/.mrd-" + std::to_string(::getpid()) + '-';
+    for (int attempt = 0; attempt < maxAttempts; ++attempt) {
+        name = prefix + std::to_string(attempt) + ".tmp";
+        const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (descriptor >= 0 || errno != EEXIST)
+            return descriptor;
+    }
+    return -1;
+}
+
+/// Syncs the folder, so that the new name of a file survives a loss of power.
+bool syncFolder(const std::string& folder)
+{
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    // A folder that may be written but not read can't be synced, and some file systems don't sync folders.
+    if (descriptor < 0)
+        return errno == EACCES;
+    const bool synced = ::fsync(descriptor) == 0 || errno == EINVAL;
+    const int error = errno;
+    ::close(descriptor);
+    errno = error;
+    return synced;
+}
+
+} // namespace
+
+FileReader::~FileReader()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+}
+
+std::optional<std::string> FileReader::open(const std::string& path)
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+    m_path = path;
+    // Without waiting for the other end of a pipe, which is refused below.
+    m_descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    struct stat status { };
+    if (m_descriptor < 0 || ::fstat(m_descriptor, &status) != 0)
+        return systemFailure(path);
+    if (S_ISDIR(status.st_mode))
+        return failure(path, "is a directory");
+    if (!S_ISREG(status.st_mode))
+        return failure(path, "is no regular file");
+    m_size = static_cast<std::size_t>(status.st_size);
+    return std::nullopt;
+}
+
+std::optional<std::string> FileReader::read(std::string& bytes, std::size_t count, bool& atEnd)
+{
+    atEnd = false;
+    const std::size_t start = bytes.size();
+    std::size_t filled = start;
+    try {
+        bytes.resize(start + count);
+    } catch (const std::exception&) {
+        return failure(m_path, "the file doesn't fit in memory");
+    }
+    while (filled < bytes.size()) {
+        const ssize_t got = ::read(m_descriptor, bytes.data() + filled, bytes.size() - filled);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0) {
+            const std::string message = systemFailure(m_path);
+            bytes.resize(start);
+            return message;
+        }
+        if (got == 0) {
+            atEnd = true;
+            break;
+        }
+        filled += static_cast<std::size_t>(got);
+    }
+    bytes.resize(filled);
+    return std::nullopt;
+}
+
+FileReplacer::~FileReplacer()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+    if (!m_temporary.empty())
+        ::unlink(m_temporary.c_str());
+}
+
+std::optional<std::string> FileReplacer::open(const std::string& path)
+{
+    m_path = path;
+    m_target = path;
+    if (!followLinks(m_target))
+        return systemFailure(path);
+    struct stat old { };
+    const bool replaces = ::stat(m_target.c_str(), &old) == 0;
+    if (!replaces && errno != ENOENT)
+        return systemFailure(path);
+    if (replaces && S_ISDIR(old.st_mode))
+        return failure(path, "is a directory");
+    if (replaces && !S_ISREG(old.st_mode))
+        return failure(path, "is no regular file");
+    // The folder alone decides about renaming; a file that its owner protected is left alone all the same.
+    if (replaces && ::access(m_target.c_str(), W_OK) != 0)
+        return systemFailure(path);
+    std::string temporary;
+    m_descriptor = createBeside(m_target, temporary);
+    if (m_descriptor < 0)
+        return systemFailure(path);
+    m_temporary = temporary;
+    if (replaces && ::fchmod(m_descriptor, old.st_mode & 07777U) != 0)
+        return systemFailure(path);
+    return std::nullopt;
+}
+
+std::optional<std::string> FileReplacer::write(const char* bytes, std::size_t count)
+{
+    while (count > 0) {
+        const ssize_t written = ::write(m_descriptor, bytes, count);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return systemFailure(m_path);
+        bytes += written;
+        count -= static_cast<std::size_t>(written);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> FileReplacer::commit()
+{
+    if (::fsync(m_descriptor) != 0)
+        return systemFailure(m_path);
+    const int descriptor = m_descriptor;
+    m_descriptor = -1;
+    if (::close(descriptor) != 0)
+        return systemFailure(m_path);
+    if (std::rename(m_temporary.c_str(), m_target.c_str()) != 0)
+        return systemFailure(m_path);
+    m_temporary.clear();
+    if (!syncFolder(folderOf(m_target)))
+        return systemFailure(m_path);
+    return std::nullopt;
+}
+
+std::optional<std::string> readFile(const std::string& path, std::string& bytes)
+{
+    constexpr std::size_t slice = std::size_t{1} << 22U;
+    FileReader reader;
+    if (auto message = reader.open(path))
+        return message;
+    bytes.clear();
+    try {
+        bytes.reserve(reader.size() + slice);
+    } catch (const std::exception&) {
+        return failure(path, "the file doesn't fit in memory");
+    }
+    for (bool atEnd = false; !atEnd;) {
+        if (auto message = reader.read(bytes, slice, atEnd))
+            return message;
+    }
+    return std::nullopt;
+}
+
+} // namespace meridane

@@ -1,0 +1,16 @@
+#include "meridane/scene/NxFieldGallery.h"
+
+NX_NODE_SOURCE(NxFieldGallery, NxNode, "FieldGallery")
+
+const NxEnumeration& NxFieldGallery::qualities()
+{
+    static const NxEnumeration names{{"LOW", LOW}, {"MEDIUM", MEDIUM}, {"HIGH", HIGH}, {"ULTRA", ULTRA}};
+    return names;
+}
+
+const NxEnumeration& NxFieldGallery::traits()
+{
+    static const NxEnumeration names{{"VISIBLE", VISIBLE}, {"PICKABLE", PICKABLE}, {"CASTS_SHADOW", CASTS_SHADOW},
+        {"LOCKED", LOCKED}, {"HIGHLIGHTED", HIGHLIGHTED}};
+    return names;
+}

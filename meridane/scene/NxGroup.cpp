@@ -1,0 +1,123 @@
+#include "meridane/scene/NxGroup.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+NX_NODE_SOURCE(NxGroup, NxNode, "Group")
+
+namespace {
+
+NxGroup* asGroup(NxNode* node)
+{
+    return node->isOfType(NxGroup::getClassTypeId()) ? static_cast<NxGroup*>(node) : nullptr;
+}
+
+/// True when `wanted` is `top` or stands somewhere below it. Keeps its own stack, since nodes may be nested deeply.
+bool holds(NxNode* top, const NxNode* wanted)
+{
+    if (top == wanted)
+        return true;
+    std::vector<NxNode*> waiting{top};
+    std::unordered_set<const NxNode*> seen; // shared nodes are walked once
+    while (!waiting.empty()) {
+        NxNode* node = waiting.back();
+        waiting.pop_back();
+        for (NxNode* child : node->getChildren()) {
+            if (child == wanted)
+                return true;
+            if (!child->getChildren().empty() && (child->getRefCount() == 1 || seen.insert(child).second))
+                waiting.push_back(child);
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+NxGroup::~NxGroup()
+{
+    // Nodes that die with this one are taken apart from the bottom up without recursion and without memory: on the way
+    // down, the place of the child in its group's list holds the group above.
+    NxGroup* group = this;
+    NxGroup* above = nullptr;
+    for (;;) {
+        if (!group->m_children.empty()) {
+            NxNode* child = group->m_children.back();
+            NxGroup* childGroup = child->getRefCount() == 1 ? asGroup(child) : nullptr;
+            if (childGroup == nullptr || childGroup->m_children.empty()) {
+                group->m_children.pop_back();
+                child->unref();
+            } else {
+                group->m_children.back() = above;
+                above = group;
+                group = childGroup;
+            }
+        } else if (group != this) {
+            group->unref();
+            group = above;
+            above = static_cast<NxGroup*>(group->m_children.back());
+            group->m_children.pop_back();
+        } else {
+            return;
+        }
+    }
+}
+
+std::span<NxNode* const> NxGroup::getChildren() const
+{
+    return m_children;
+}
+
+NxNode* NxGroup::getChild(int index) const
+{
+    return index >= 0 && index < getNumChildren() ? m_children[static_cast<std::size_t>(index)] : nullptr;
+}
+
+int NxGroup::findChild(const NxNode* node) const
+{
+    const auto place = std::find(m_children.begin(), m_children.end(), node);
+    return place == m_children.end() ? -1 : static_cast<int>(place - m_children.begin());
+}
+
+bool NxGroup::addChild(NxNode* node)
+{
+    return insertChild(node, getNumChildren());
+}
+
+bool NxGroup::insertChild(NxNode* node, int index)
+{
+    if (node == nullptr || index < 0 || index > getNumChildren() || holds(node, this))
+        return false;
+    m_children.insert(m_children.begin() + index, node);
+    node->ref();
+    touch();
+    return true;
+}
+
+bool NxGroup::removeChild(int index)
+{
+    NxNode* child = getChild(index);
+    if (child == nullptr)
+        return false;
+    m_children.erase(m_children.begin() + index);
+    touch();
+    child->unref();
+    return true;
+}
+
+void NxGroup::removeAllChildren()
+{
+    if (m_children.empty())
+        return;
+    std::vector<NxNode*> children;
+    children.swap(m_children);
+    touch();
+    for (NxNode* child : children)
+        child->unref();
+}
+
+void NxGroup::appendUnchecked(NxNode* node)
+{
+    m_children.push_back(node);
+    node->ref();
+}

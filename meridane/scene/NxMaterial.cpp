@@ -1,0 +1,3 @@
+#include "meridane/scene/NxMaterial.h"
+
+NX_NODE_SOURCE(NxMaterial, NxNode, "Material")

@@ -1,0 +1,3 @@
+#include "meridane/scene/NxSwitch.h"
+
+NX_NODE_SOURCE(NxSwitch, NxGroup, "Switch")

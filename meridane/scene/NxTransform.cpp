@@ -1,0 +1,3 @@
+#include "meridane/scene/NxTransform.h"
+
+NX_NODE_SOURCE(NxTransform, NxGroup, "Transform")
