@@ -1,0 +1,90 @@
+#include "FieldEditors/DvIntSlider.h"
+
+#include "FieldEditors/FieldRangeTable.h"
+
+#include <QIntValidator>
+#include <QLineEdit>
+
+DvIntSlider::DvIntSlider(int kind, int mode, OrvFieldEditors* owner, QWidget* parent, int row, int column)
+    : DvSlider(mode, owner, parent, row, column)
+    , m_validator(new QIntValidator(m_edit))
+{
+    // Without bounds of its own a validator has those of a 32-bit integer.
+    if (kind == 3)
+        m_validator->setRange(-32768, 32767);
+}
+
+DvIntSlider::~DvIntSlider()
+{
+    delete m_validator;
+}
+
+void DvIntSlider::setRange(int lower, int upper, bool bounded)
+{
+    lower = std::max(lower, m_validator->bottom());
+    upper = std::min(upper, m_validator->top());
+    m_max = upper;
+    m_bounded = bounded;
+    if (bounded) {
+        m_min = lower;
+        m_validator->setRange(lower, upper);
+        setSliderRange(lower, upper);
+        return;
+    }
+    setSliderMaximum(upper);
+    m_min = lower;
+    setSliderMinimum(lower);
+}
+
+void DvIntSlider::setValueText(QString text)
+{
+    if (m_firstText) {
+        m_radix = FieldRangeTable::detectRadix(text);
+        if (m_radix == 10)
+            m_edit->setValidator(m_validator);
+
+        m_firstText = false;
+    }
+    takeText(withoutPrefix(text));
+}
+
+void DvIntSlider::showValue()
+{
+    setEditText(QString::number(m_value, m_radix));
+}
+
+void DvIntSlider::readValueFromEdit()
+{
+    bool ok = false;
+    int value = m_edit->text().toInt(&ok, m_radix);
+    // A text that is no number is read as 0 and goes its way. A decimal one has passed the validator.
+    if (ok && m_radix != 10)
+        value = limited(value, m_validator->bottom(), m_validator->top());
+
+    if (m_bounded) {
+        value = limited(value, m_min, m_max);
+    } else {
+        if (value > m_max) {
+            m_max = value;
+            setSliderMaximum(value);
+        }
+        if (value < m_min) {
+            m_min = value;
+            setSliderMinimum(value);
+        }
+    }
+    m_position = value;
+    m_value = value;
+}
+
+void DvIntSlider::setValueFromPosition(int position)
+{
+    m_position = position;
+    m_value = position;
+}
+
+void DvIntSlider::saveCommandValue()
+{
+    // Without the prefix of the radix, unlike an unsigned slider. Both are meant.
+    setCommandValue(QString::number(m_value, m_radix));
+}

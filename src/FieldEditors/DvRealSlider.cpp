@@ -1,0 +1,102 @@
+#include "FieldEditors/DvRealSlider.h"
+
+#include <QDoubleValidator>
+#include <QLineEdit>
+
+#include <limits>
+
+namespace {
+
+constexpr double steps = 100.0;
+
+/// Cuts the fraction off. What no int can hold, not-a-number included, becomes the smallest int: equal bounds rely on
+/// it, and the language itself leaves such a conversion undefined.
+int truncate(double number)
+{
+    constexpr double limit = 2147483648.0;
+    return number > -limit && number < limit ? static_cast<int>(number) : std::numeric_limits<int>::min();
+}
+
+} // namespace
+
+DvRealSlider::DvRealSlider(int mode, OrvFieldEditors* owner, QWidget* parent, bool isFloat, int row, int column)
+    : DvSlider(mode, owner, parent, row, column)
+    , m_isFloat(isFloat)
+{
+    const double limit = isFloat ? double{std::numeric_limits<float>::max()} : std::numeric_limits<double>::max();
+    m_validator = new QDoubleValidator(-limit, limit, isFloat ? 6 : 15, m_edit);
+    m_edit->setValidator(m_validator);
+    m_position = positionOf(m_value);
+}
+
+DvRealSlider::~DvRealSlider()
+{
+    delete m_validator;
+}
+
+void DvRealSlider::setRange(double lower, double upper, bool bounded)
+{
+    m_max = upper;
+    m_bounded = bounded;
+    if (bounded) {
+        m_min = lower;
+        m_validator->setBottom(lower);
+        m_validator->setTop(upper);
+        setSliderRange(positionOf(lower), positionOf(upper));
+        return;
+    }
+    // The validator stays as it is, with the bounds of the last bounded range if there was one.
+    setSliderMaximum(positionOf(upper));
+    m_min = lower;
+    setSliderMinimum(positionOf(lower));
+}
+
+void DvRealSlider::setValue(double value)
+{
+    takeText(textOf(value));
+}
+
+void DvRealSlider::showValue()
+{
+    setEditText(textOf(m_value));
+}
+
+void DvRealSlider::readValueFromEdit()
+{
+    double value = m_edit->text().toDouble();
+    if (m_bounded) {
+        value = limited(value, m_min, m_max);
+    } else {
+        if (value > m_max) {
+            m_max = value;
+            setSliderMaximum(positionOf(value));
+        }
+        if (value < m_min) {
+            m_min = value;
+            setSliderMinimum(positionOf(value));
+        }
+    }
+    m_position = positionOf(value);
+    m_value = value;
+}
+
+void DvRealSlider::setValueFromPosition(int position)
+{
+    m_position = position;
+    m_value = (m_max - m_min) * position / steps + m_min;
+}
+
+void DvRealSlider::saveCommandValue()
+{
+    setCommandValue(textOf(m_value));
+}
+
+QString DvRealSlider::textOf(double value) const
+{
+    return m_isFloat ? QString::number(value, 'f', 6) : QString::number(value, 'g', 15);
+}
+
+int DvRealSlider::positionOf(double value) const
+{
+    return truncate((value - m_min) * steps / (m_max - m_min) + 0.5);
+}

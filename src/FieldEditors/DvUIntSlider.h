@@ -1,0 +1,34 @@
+#pragma once
+
+#include "FieldEditors/DvSlider.h"
+
+/// A slider for an unsigned integer of 32 or 16 bits. Its line takes any text; what is no number changes nothing.
+class DvUIntSlider final : public DvSlider {
+public:
+    /// Kind 2 is 32-bit, kind 4 is 16-bit.
+    DvUIntSlider(int kind, int mode, OrvFieldEditors* owner, QWidget* parent, int row = 0, int column = 1);
+
+    /// Sets the range within the limits of the type, to grow from there. Bounded, it narrows the limits and leaves
+    /// range and slider as they are, unlike the signed slider; that is meant.
+    void setRange(unsigned lower, unsigned upper, bool bounded);
+    [[nodiscard]] unsigned value() const { return m_value; }
+
+    /// Takes a value in its text form. The first one decides for good whether the line is decimal, octal or
+    /// hexadecimal.
+    void setValueText(QString text) override;
+
+protected:
+    void showValue() override;
+    void readValueFromEdit() override;
+    void setValueFromPosition(int position) override;
+    void saveCommandValue() override;
+
+private:
+    unsigned m_min = 0;
+    unsigned m_max = 0;
+    unsigned m_value = 0;
+    unsigned m_limitTop;
+    unsigned m_limitBottom = 0;
+    bool m_bounded = false;
+    bool m_firstText = true;
+};
