@@ -13,6 +13,12 @@ OrvDefaults::~OrvDefaults() = default;
 void OrvDefaults::load()
 {
     // An order of its own, which is what the host shows; it isn't bound to the order of declaration.
+    addExtension(&m_sfDouble);
+    addExtension(&m_sfFloat);
+    addExtension(&m_sfInt32);
+    addExtension(&m_sfShort);
+    addExtension(&m_sfUInt32);
+    addExtension(&m_sfUShort);
     addExtension(&m_fieldEditorDock);
     addExtension(&m_nodeEditor);
     OrvPlugin::load();

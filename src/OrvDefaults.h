@@ -1,5 +1,11 @@
 #pragma once
 
+#include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
+#include "FieldEditors/SFWidgets/DvSFFloatWidget.h"
+#include "FieldEditors/SFWidgets/DvSFInt32Widget.h"
+#include "FieldEditors/SFWidgets/DvSFShortWidget.h"
+#include "FieldEditors/SFWidgets/DvSFUInt32Widget.h"
+#include "FieldEditors/SFWidgets/DvSFUShortWidget.h"
 #include "OrvFieldEditorDockWin.h"
 #include "OrvNodeEditor.h"
 
@@ -16,6 +22,12 @@ public:
 private:
     // In this order the docks meet the editors, since they walk them by address; among editors of the same type the one
     // declared last wins.
+    DvSFDoubleWidget m_sfDouble;
+    DvSFFloatWidget m_sfFloat;
+    DvSFInt32Widget m_sfInt32;
+    DvSFShortWidget m_sfShort;
+    DvSFUInt32Widget m_sfUInt32;
+    DvSFUShortWidget m_sfUShort;
     OrvFieldEditorDockWin m_fieldEditorDock;
     OrvNodeEditor m_nodeEditor;
 };

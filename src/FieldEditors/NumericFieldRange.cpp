@@ -1,0 +1,31 @@
+#include "FieldEditors/NumericFieldRange.h"
+
+#include "FieldEditors/FieldRangeTable.h"
+
+#include "meridane/scene/NxComplexity.h"
+#include "meridane/scene/NxDirectionalLight.h"
+#include "meridane/scene/NxFieldContainer.h"
+#include "meridane/scene/NxMaterial.h"
+
+namespace {
+
+bool hasUnitRange(const NxFieldContainer* container)
+{
+    return container != nullptr
+        && (container->isOfType(NxComplexity::getClassTypeId()) || container->isOfType(NxMaterial::getClassTypeId())
+            || container->isOfType(NxDirectionalLight::getClassTypeId()));
+}
+
+} // namespace
+
+FieldRange orvane::realFieldRange(const NxField& field, const char* plainRow)
+{
+    const FieldRangeTable table;
+    return hasUnitRange(field.getContainer()) ? table.lookup("Complexity", "value")
+                                              : table.lookup("DefaultNode", plainRow);
+}
+
+FieldRange orvane::integerFieldRange()
+{
+    return FieldRangeTable().lookup("DefaultNode", "intField");
+}

@@ -1,0 +1,49 @@
+#include "FieldEditors/SFWidgets/DvSFUShortWidget.h"
+
+#include "FieldEditors/DvUIntSlider.h"
+#include "FieldEditors/FieldChanges.h"
+#include "FieldEditors/NumericFieldRange.h"
+#include "FieldEditors/SFWidgets/SliderRefresh.h"
+#include "FieldEditors/TextConversion.h"
+
+#include "meridane/scene/NxSFUShort.h"
+
+DvSFUShortWidget::DvSFUShortWidget(const char* name)
+    : DvSFieldWidget(6, name)
+{
+    m_handledType = NxSFUShort::getClassTypeId();
+    if (name == nullptr)
+        setObjectName(QLatin1String("DvSFUShortWidget"));
+    m_name = "SFUShort";
+}
+
+void DvSFUShortWidget::load()
+{
+    setFieldTypeLabel(QLatin1String("SFUShort"));
+    DvSFieldWidget::load();
+    m_range = orvane::integerFieldRange();
+    m_slider = static_cast<DvUIntSlider*>(m_editionFrame);
+    m_slider->setRange(static_cast<unsigned>(m_range.intMin), static_cast<unsigned>(m_range.intMax), m_range.bounded);
+}
+
+void DvSFUShortWidget::updateFromField()
+{
+    if (m_field == nullptr)
+        return;
+    orvane::showInteger(*m_slider, *m_field);
+    DvSFieldWidget::updateFromField();
+}
+
+void DvSFUShortWidget::applyChanges()
+{
+    if (m_field == nullptr)
+        return;
+    // Always decimal, whatever the radix of the slider.
+    m_field->set(orvane::toVbString(QString::number(m_slider->value())));
+    orvane::pushSetValueCommand(m_field, m_slider->commandValue());
+}
+
+bool DvSFUShortWidget::edited()
+{
+    return m_slider != nullptr && m_slider->edited();
+}
