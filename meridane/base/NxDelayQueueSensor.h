@@ -30,6 +30,10 @@ public:
     void setPriority(int priority);
     [[nodiscard]] int getPriority() const { return m_priority; }
 
+protected:
+    /// `isScheduled` without a virtual call.
+    [[nodiscard]] bool isQueued() const noexcept { return m_queue != nullptr; }
+
 private:
     friend class NxDelayQueue;
 

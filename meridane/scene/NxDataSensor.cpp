@@ -2,5 +2,6 @@
 
 void NxDataSensor::notify()
 {
-    schedule();
+    if (!isQueued()) // by far the most changes come while the first one still waits
+        schedule();
 }

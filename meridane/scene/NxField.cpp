@@ -85,6 +85,6 @@ void NxField::touch()
         sensor->notify();
         sensor = next;
     }
-    if (m_container != nullptr)
+    if (m_container != nullptr && m_container->m_sensors != nullptr)
         m_container->touch();
 }

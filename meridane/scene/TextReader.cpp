@@ -1,6 +1,6 @@
 #include "meridane/scene/TextReader.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <limits>
 #include <type_traits>
 
@@ -29,6 +29,24 @@ char unescape(char character)
     default:
         return '\0';
     }
+}
+
+// Tells a number that is too close to 0 for its type from one that is too far away: by the place of its first digit,
+// counted from the decimal point.
+bool isSmallFraction(std::string_view number)
+{
+    const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
+    const std::string_view mantissa = number.substr(0, mark);
+    const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto first = static_cast<long long>(std::min(mantissa.find_first_of("123456789"), mantissa.size()));
+    std::string_view digits = number.substr(std::min(mark + 1, number.size()));
+    if (digits.starts_with('+'))
+        digits.remove_prefix(1);
+    long long exponent = 0;
+    const auto error = std::from_chars(digits.data(), digits.data() + digits.size(), exponent).ec;
+    if (error == std::errc::result_out_of_range)
+        return digits.starts_with('-');
+    return exponent < first - point;
 }
 
 } // namespace
@@ -81,15 +99,10 @@ bool TextReader::readUnusualNumber(Number& number)
         if (!digitFollows || error == std::errc::invalid_argument || !endsHere(end))
             return fail("a number");
         if (error == std::errc::result_out_of_range) {
-            // Too large or too small: a wider type tells which, and beyond even that one the sign of the exponent.
-            const std::string_view token(place, static_cast<std::size_t>(end - place));
-            const std::size_t exponent = token.find_first_of("eE");
-            long double wide = 0;
-            const bool known = std::from_chars(place, m_end, wide).ec == std::errc();
-            const bool small = known ? wide < 1 : token.substr(0, exponent + 2).ends_with('-');
-            if (!small)
+            if (!isSmallFraction({place, static_cast<std::size_t>(end - place)})) {
                 return fail(
                     std::is_same_v<Number, float> ? "a number that fits in 32 bits" : "a number that fits in 64 bits");
+            }
             magnitude = 0;
         }
         number = negative ? -magnitude : magnitude;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "meridane/base/NxDelayQueue.h"
+#include "meridane/scene/NxFieldSensor.h"
+
+/// Counts how often a field's observers are told, change by change: processing the delay queue behind each of them.
+class NotificationCount {
+public:
+    explicit NotificationCount(NxField& field)
+        : m_sensor([](void* data, NxSensor*) { ++*static_cast<int*>(data); }, &m_count)
+    {
+        m_sensor.attach(&field);
+    }
+
+    /// The number of callbacks since the last call; what waits on the queue is processed first.
+    int take()
+    {
+        NxDelayQueue::getDefault().process();
+        const int count = m_count;
+        m_count = 0;
+        return count;
+    }
+
+private:
+    int m_count = 0;
+    NxFieldSensor m_sensor;
+};
