@@ -3,7 +3,6 @@
 
 #include <QTest>
 
-#include <functional>
 #include <limits>
 #include <memory>
 #include <string>
@@ -12,36 +11,6 @@
 namespace {
 
 using namespace std::chrono_literals;
-
-/// A sensor with a letter, which it adds to a protocol when called, ahead of what else it is told to do.
-class LetterSensor : public NxDelayQueueSensor {
-public:
-    LetterSensor(char letter, std::string& protocol, int priority = defaultPriority)
-        : NxDelayQueueSensor(call, this)
-        , m_letter(letter)
-        , m_protocol(protocol)
-    {
-        setPriority(priority);
-    }
-
-    [[nodiscard]] int isIdleOnly() const override { return idleOnly ? 1 : 0; }
-
-    std::function<void()> also;
-    bool idleOnly = false;
-
-private:
-    static void call(void* data, NxSensor*)
-    {
-        auto* const self = static_cast<LetterSensor*>(data);
-        self->m_protocol += self->m_letter;
-        const std::function<void()> copy = self->also; // it may delete the sensor
-        if (copy)
-            copy();
-    }
-
-    char m_letter;
-    std::string& m_protocol;
-};
 
 /// Turns the order of priorities round.
 class ReverseSensor : public LetterSensor {
