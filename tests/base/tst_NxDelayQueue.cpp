@@ -1,5 +1,6 @@
+#include "base/LetterSensor.h"
+
 #include "meridane/base/NxDelayQueue.h"
-#include "meridane/base/NxDelayQueueSensor.h"
 
 #include <QTest>
 
