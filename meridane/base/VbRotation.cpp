@@ -17,10 +17,10 @@ VbRotation& VbRotation::setValue(const VbVec3f& axis, float radians) noexcept
 
 VbRotation& VbRotation::setValue(const float quaternion[4]) noexcept
 {
-    const double x = quaternion[0];
-    const double y = quaternion[1];
-    const double z = quaternion[2];
-    const double w = quaternion[3];
+    const auto x = static_cast<double>(quaternion[0]);
+    const auto y = static_cast<double>(quaternion[1]);
+    const auto z = static_cast<double>(quaternion[2]);
+    const auto w = static_cast<double>(quaternion[3]);
     const double sine = std::sqrt(x * x + y * y + z * z);
     if (sine == 0.0)
         return *this = VbRotation();
@@ -31,9 +31,9 @@ VbRotation& VbRotation::setValue(const float quaternion[4]) noexcept
 
 std::array<float, 4> VbRotation::getQuaternion() const noexcept
 {
-    const double x = m_axis[0];
-    const double y = m_axis[1];
-    const double z = m_axis[2];
+    const auto x = static_cast<double>(m_axis[0]);
+    const auto y = static_cast<double>(m_axis[1]);
+    const auto z = static_cast<double>(m_axis[2]);
     const double length = std::sqrt(x * x + y * y + z * z);
     if (length == 0.0)
         return {0, 0, 0, 1};

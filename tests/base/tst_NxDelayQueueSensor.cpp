@@ -1,3 +1,5 @@
+#include "base/VirtualSlot.h"
+
 #include "meridane/base/NxDelayQueueSensor.h"
 
 #include <QTest>
@@ -16,6 +18,16 @@ class TestNxDelayQueueSensor : public QObject {
 
 private Q_SLOTS:
     void cleanup() { QVERIFY(NxDelayQueue::getDefault().isEmpty()); }
+
+    void virtualOperationsStandInTheirOrder()
+    {
+        QCOMPARE(virtualSlot(&NxSensor::schedule), std::size_t(2)); // behind the destructor
+        QCOMPARE(virtualSlot(&NxSensor::unschedule), std::size_t(3));
+        QCOMPARE(virtualSlot(&NxSensor::isScheduled), std::size_t(4));
+        QCOMPARE(virtualSlot(&NxSensor::trigger), std::size_t(5));
+        QCOMPARE(virtualSlot(&NxDelayQueueSensor::isBefore), std::size_t(6));
+        QCOMPARE(virtualSlot(&NxDelayQueueSensor::isIdleOnly), std::size_t(7));
+    }
 
     void thePriorityIsOneHundredAtFirst()
     {

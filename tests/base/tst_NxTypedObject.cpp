@@ -1,3 +1,5 @@
+#include "base/VirtualSlot.h"
+
 #include "meridane/base/NxDebugError.h"
 #include "meridane/base/NxReadError.h"
 #include "meridane/base/NxTypedObject.h"
@@ -12,6 +14,8 @@ class TestNxTypedObject : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void theFirstVirtualOperationTellsTheType() { QCOMPARE(virtualSlot(&NxTypedObject::getTypeId), std::size_t(0)); }
+
     void anObjectIsOfItsOwnTypeAndItsBases()
     {
         const std::unique_ptr<NxTypedObject> object = std::make_unique<NxDebugError>(0, "text");
