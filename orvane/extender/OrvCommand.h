@@ -3,7 +3,7 @@
 /// One change that the user made, as the undo history keeps it.
 ///
 /// A command is made with `new`, handed to `OrvServices::pushCommand` at once and owned by the host from then on. It
-/// has no label and is never merged. Thread of the user interface only.
+/// has no label and is never merged. Its operations must not throw. Thread of the user interface only.
 class OrvCommand {
 public:
     /// The host's one call when the command is pushed.

@@ -18,10 +18,11 @@ public:
     OrvPlugin(const OrvPlugin&) = delete;
     OrvPlugin& operator=(const OrvPlugin&) = delete;
 
-    /// Loads the registered extensions, in the order of registration, once. An override registers them first and calls
-    /// this body last.
+    /// Loads the registered extensions, in the order of registration, each once. An override registers them first and
+    /// calls this body last. What an extension throws is passed on; those ahead of it stay loaded until `unload`.
     virtual void load();
-    /// Unloads the loaded extensions in reverse order. They must have been deactivated.
+    /// Unloads the loaded extensions in reverse order, each once. They must have been deactivated. What an extension
+    /// throws is passed on; a further call goes on with the next one.
     virtual void unload();
 
 protected:
@@ -29,7 +30,8 @@ protected:
     virtual ~OrvPlugin();
 
 public:
-    /// Registers an extension, which stays the caller's and must live as long as the plug-in.
+    /// Registers an extension, which stays the caller's and must live as long as the plug-in. Null and what is
+    /// registered already is ignored.
     void addExtension(OrvExtension* extension);
 
     [[nodiscard]] const QList<OrvExtension*>& getExtensions() const noexcept { return m_extensions; }
@@ -48,6 +50,7 @@ protected:
 
 private:
     int m_interfaceVersion;
-    bool m_loaded = false;
     QList<OrvExtension*> m_extensions;
+    /// The extensions ahead of this position are loaded.
+    qsizetype m_loadedCount = 0;
 };

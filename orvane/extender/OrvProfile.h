@@ -34,8 +34,9 @@ public:
 
     [[nodiscard]] VbString getName() const;
 
-    /// Turns the names into settings for these extensions, in place of the present settings. The result names what the
-    /// profile asks for and isn't there.
+    /// Turns the names into settings for these extensions, in place of the present settings, which are destroyed. Only
+    /// an extension that is no `OrvEditor` runs by itself, and none controls itself. The result names what the profile
+    /// asks for and isn't there, each name once.
     QStringList resolve(const QList<OrvExtension*>& extensions);
     /// The setting of an extension that runs by itself, or null when this profile doesn't run it.
     [[nodiscard]] OrvProfileSetting* getSetting(const OrvExtension* extension) const;
@@ -45,11 +46,15 @@ public:
         std::unique_ptr<OrvProfile> profile;
         QString error;
     };
-    /// Reads a profile file; the format is told in docs/profiles.md.
+    /// Reads a profile file; the format is told in docs/profiles.md. The message of a failure is one line, "file: what
+    /// is wrong" or "file:line:column: what is wrong".
     [[nodiscard]] static ReadResult read(const QString& fileName);
+    /// The same from the content; the file name only serves the message.
     [[nodiscard]] static ReadResult fromJson(const QByteArray& json, const QString& fileName);
 
 private:
+    [[nodiscard]] const Entry* findEntry(const OrvExtension& extension) const;
+
     QString m_name;
     QList<Entry> m_entries;
     std::unordered_map<const OrvExtension*, std::unique_ptr<OrvProfileSetting>> m_settings;

@@ -1,0 +1,5 @@
+#include "orvane/extender/OrvCommand.h"
+
+OrvCommand::OrvCommand() = default;
+
+OrvCommand::~OrvCommand() = default;

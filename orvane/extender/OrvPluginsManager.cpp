@@ -1,0 +1,221 @@
+#include "orvane/extender/OrvPluginsManager.h"
+
+#include "orvane/extender/Guarded.h"
+#include "orvane/extender/OrvEditor.h"
+#include "orvane/extender/OrvPlugin.h"
+#include "orvane/extender/OrvProfile.h"
+#include "orvane/extender/OrvServices.h"
+#include "orvane/extender/PluginLibrary.h"
+#include "orvane/extender/VbText.h"
+
+#include "meridane/base/NxDebugError.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <ranges>
+#include <utility>
+
+namespace {
+
+OrvPluginsManager* theManager = nullptr;
+
+// For calls whose failure changes nothing in what is done next.
+template <typename Call>
+void callAndReport(const QString& what, const Call& call)
+{
+    if (const auto thrown = orvane::guarded(call)) {
+        const QString text = QStringLiteral("%1 threw an exception: %2").arg(what, *thrown);
+        NxDebugError::post(NxDebugError::Error, orvane::toVbString(text));
+    }
+}
+
+QString titled(const OrvExtension& extension, const char* operation)
+{
+    return QStringLiteral("\"%1\" of the extension \"%2\"")
+        .arg(QLatin1String(operation), orvane::toQString(extension.getName()));
+}
+
+void unload(OrvPlugin& plugin, const QString& title)
+{
+    // A call that throws leaves out one extension, and the next call goes on behind it.
+    for (qsizetype calls = plugin.getExtensions().size() + 1; calls > 0; --calls) {
+        const auto thrown = orvane::guarded([&] { plugin.unload(); });
+        if (!thrown)
+            return;
+        callAndReport(title, [&] { throw std::runtime_error(thrown->toStdString()); });
+    }
+}
+
+} // namespace
+
+OrvPluginsManager* OrvPluginsManager::getInstance()
+{
+    return theManager;
+}
+
+OrvPluginsManager::OrvPluginsManager()
+{
+    Q_ASSERT_X(theManager == nullptr, "OrvPluginsManager", "there is one manager at a time");
+    theManager = this;
+}
+
+OrvPluginsManager::~OrvPluginsManager()
+{
+    unloadPlugins();
+    theManager = nullptr;
+}
+
+QStringList OrvPluginsManager::findPlugins(const QStringList& folders)
+{
+    QStringList files;
+    QStringList names;
+    for (const QString& folder : folders) {
+        const QStringList pattern{QStringLiteral("libkal_orvane_extender_*.so")};
+        const QFileInfoList found = QDir(folder).entryInfoList(pattern, QDir::Files, QDir::Name);
+        for (const QFileInfo& file : found) {
+            if (names.contains(file.fileName()))
+                continue;
+            names.append(file.fileName());
+            files.append(file.filePath());
+        }
+    }
+    return files;
+}
+
+std::optional<QString> OrvPluginsManager::loadPlugin(const QString& fileName)
+{
+    const QString path = QFileInfo(fileName).canonicalFilePath();
+    const auto isSameFile = [&](const LoadedPlugin& plugin) { return plugin.fileName == path; };
+    if (!path.isEmpty() && std::ranges::any_of(m_plugins, isSameFile))
+        return QStringLiteral("%1: it is loaded already").arg(fileName);
+    const orvane::OpenedLibrary opened = orvane::openPluginLibrary(fileName);
+    if (opened.error)
+        return opened.error;
+    return takeIn({opened.library.plugin, fileName, path, opened.library.unloadPlugin});
+}
+
+std::optional<QString> OrvPluginsManager::addPlugin(OrvPlugin* plugin)
+{
+    return takeIn({plugin, orvane::toQString(plugin->getName()), {}, nullptr});
+}
+
+std::optional<QString> OrvPluginsManager::takeIn(const LoadedPlugin& plugin)
+{
+    if (const auto thrown = orvane::guarded([&] { plugin.plugin->load(); })) {
+        unload(*plugin.plugin, plugin.title);
+        if (plugin.destroy != nullptr)
+            callAndReport(plugin.title, plugin.destroy);
+        return QStringLiteral("%1: it can't be loaded, for it threw an exception: %2").arg(plugin.title, *thrown);
+    }
+    m_plugins.push_back(plugin);
+    if (m_activeProfile != nullptr)
+        setActiveProfile(m_activeProfile);
+    return std::nullopt;
+}
+
+void OrvPluginsManager::unloadPlugins()
+{
+    Q_ASSERT_X(!m_isChanging, "unloadPlugins", "not to be called by an extension");
+    m_wishedProfile.reset();
+    if (m_activeProfile != nullptr)
+        changeProfile(nullptr);
+    for (const auto& profile : m_profiles)
+        profile->resolve({});
+    while (!m_plugins.empty()) {
+        const LoadedPlugin plugin = m_plugins.back();
+        m_plugins.pop_back();
+        unload(*plugin.plugin, plugin.title);
+        if (plugin.destroy != nullptr)
+            callAndReport(plugin.title, plugin.destroy);
+    }
+}
+
+QList<OrvExtension*> OrvPluginsManager::getExtensions() const
+{
+    QList<OrvExtension*> extensions;
+    for (const LoadedPlugin& plugin : m_plugins)
+        extensions += plugin.plugin->getExtensions();
+    return extensions;
+}
+
+std::optional<QString> OrvPluginsManager::addProfile(std::unique_ptr<OrvProfile> profile)
+{
+    const QString name = orvane::toQString(profile->getName());
+    if (name.trimmed().isEmpty())
+        return QStringLiteral("a profile must have a name");
+    if (findProfile(name) != nullptr)
+        return QStringLiteral("there is a profile \"%1\" already").arg(name);
+    m_profilesList.push_back(profile.get());
+    m_profiles.push_back(std::move(profile));
+    return std::nullopt;
+}
+
+OrvProfile* OrvPluginsManager::findProfile(const QString& name) const
+{
+    const auto hasName = [&](const OrvProfile* profile) { return orvane::toQString(profile->getName()) == name; };
+    const auto found = std::ranges::find_if(m_profilesList, hasName);
+    return found != m_profilesList.end() ? *found : nullptr;
+}
+
+void OrvPluginsManager::setActiveProfile(OrvProfile* profile)
+{
+    if (profile != nullptr && std::ranges::find(m_profilesList, profile) == m_profilesList.end())
+        return;
+    if (m_isChanging)
+        changeProfileLater(profile);
+    else
+        changeProfile(profile);
+}
+
+void OrvPluginsManager::changeProfile(OrvProfile* profile)
+{
+    const QScopedValueRollback isChanging(m_isChanging, true);
+    deactivateExtensions();
+    m_activeProfile = profile;
+    const QStringList missing = activateExtensions();
+    Q_EMIT activeProfileChanged(profile);
+    if (!missing.isEmpty())
+        Q_EMIT extensionsMissing(orvane::toQString(profile->getName()), missing);
+    if (OrvServices* const services = OrvServices::getInstance(); services != nullptr && profile != nullptr)
+        services->announceSelection();
+}
+
+void OrvPluginsManager::deactivateExtensions()
+{
+    while (!m_running.isEmpty()) {
+        OrvExtension& extension = *m_running.takeLast();
+        callAndReport(titled(extension, "deactivate"), [&] { extension.deactivate(); });
+    }
+}
+
+/// The result names what the profile asks for and isn't there.
+QStringList OrvPluginsManager::activateExtensions()
+{
+    if (m_activeProfile == nullptr)
+        return {};
+    const QList<OrvExtension*> extensions = getExtensions();
+    const QStringList missing = m_activeProfile->resolve(extensions);
+    for (OrvExtension* const extension : extensions) {
+        if (m_activeProfile->getSetting(extension) == nullptr)
+            continue;
+        m_running.append(extension);
+        callAndReport(titled(*extension, "activate"), [&] { extension->activate(); });
+    }
+    return missing;
+}
+
+void OrvPluginsManager::changeProfileLater(OrvProfile* profile)
+{
+    const bool isUnderWay = m_wishedProfile.has_value();
+    m_wishedProfile = profile;
+    if (isUnderWay)
+        return;
+    const auto fulfil = [this] {
+        if (const auto wish = std::exchange(m_wishedProfile, std::nullopt))
+            setActiveProfile(*wish);
+    };
+    QMetaObject::invokeMethod(this, fulfil, Qt::QueuedConnection);
+}

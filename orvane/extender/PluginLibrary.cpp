@@ -1,0 +1,82 @@
+#include "orvane/extender/PluginLibrary.h"
+
+#include "orvane/extender/Guarded.h"
+#include "orvane/extender/OrvPlugin.h"
+
+#include <QFileInfo>
+#include <QLibrary>
+
+namespace orvane {
+
+namespace {
+
+constexpr const char* makeName = "loadPlugin";
+constexpr const char* destroyName = "unloadPlugin";
+
+std::optional<QString> whyNotReadable(const QFileInfo& file)
+{
+    if (!file.exists())
+        return QStringLiteral("there is no such file");
+    if (file.isDir())
+        return QStringLiteral("it is a folder, not a plug-in");
+    if (!file.isFile())
+        return QStringLiteral("it is no regular file");
+    if (!file.isReadable())
+        return QStringLiteral("it can't be read");
+    return std::nullopt;
+}
+
+// The system's reason in one line and without the file name, which heads each message already.
+QString reason(const QLibrary& library)
+{
+    QString text = library.errorString().simplified();
+    const QString start = QStringLiteral("(%1: ").arg(library.fileName());
+    if (const qsizetype position = text.indexOf(start); position >= 0 && text.endsWith(u')'))
+        text = text.sliced(position + start.size()).chopped(1);
+    return text;
+}
+
+std::optional<QString> open(const QFileInfo& file, PluginLibrary& result)
+{
+    if (auto problem = whyNotReadable(file))
+        return problem;
+    result.fileName = file.canonicalFilePath();
+
+    QLibrary library(result.fileName);
+    library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
+    if (!library.load())
+        return QStringLiteral("it can't be loaded as a plug-in: %1").arg(reason(library));
+    const auto make = reinterpret_cast<OrvPlugin* (*)()>(library.resolve(makeName));
+    const QFunctionPointer destroy = library.resolve(destroyName);
+    if (make == nullptr || destroy == nullptr) {
+        return QStringLiteral("it is no plug-in, for it lacks the function \"%1\"")
+            .arg(QLatin1String(make == nullptr ? makeName : destroyName));
+    }
+
+    if (const auto thrown = guarded([&] { result.plugin = make(); }))
+        return QStringLiteral("its \"loadPlugin\" threw an exception: %1").arg(*thrown);
+    if (result.plugin == nullptr)
+        return QStringLiteral("its \"loadPlugin\" returned no plug-in");
+    result.unloadPlugin = destroy;
+    const int version = result.plugin->getInterfaceVersion();
+    if (version == orvaneInterfaceVersion)
+        return std::nullopt;
+    QString error = QStringLiteral("it was built against version %1 of the plug-in interface; this is version %2")
+                        .arg(version)
+                        .arg(orvaneInterfaceVersion);
+    if (const auto thrown = guarded(destroy))
+        error += QStringLiteral("; its \"unloadPlugin\" threw an exception: %1").arg(*thrown);
+    return error;
+}
+
+} // namespace
+
+OpenedLibrary openPluginLibrary(const QString& fileName)
+{
+    OpenedLibrary result;
+    if (const auto problem = open(QFileInfo(fileName), result.library))
+        result.error = QStringLiteral("%1: %2").arg(fileName, *problem);
+    return result;
+}
+
+} // namespace orvane
