@@ -18,8 +18,11 @@ public:
     /// Goes on writing until done or until the budget is spent, and appends to `text`, which the caller may empty
     /// between two calls. True while there is more to write.
     bool step(std::string& text, std::chrono::microseconds budget);
-    /// The whole text.
+    /// The whole text; empty for a scene that can't be written.
     [[nodiscard]] static std::string toText(NxGroup* scene);
+    /// Why the scene can't be written, such as nodes nested deeper than a reader takes; empty if it can. Known when
+    /// `step` gave false: what was written until then is of no use.
+    [[nodiscard]] const std::string& failure() const noexcept;
     /// The share of the nodes that is written, 0 to 1.
     [[nodiscard]] double progress() const noexcept;
 

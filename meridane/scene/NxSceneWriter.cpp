@@ -1,0 +1,33 @@
+#include "meridane/scene/NxSceneWriter.h"
+
+#include "meridane/scene/ScenePrinter.h"
+
+NxSceneWriter::NxSceneWriter(NxGroup* scene)
+    : m_printer(std::make_unique<Printer>(scene))
+{
+}
+
+NxSceneWriter::~NxSceneWriter() = default;
+
+bool NxSceneWriter::step(std::string& text, std::chrono::microseconds budget)
+{
+    return m_printer->step(text, budget);
+}
+
+std::string NxSceneWriter::toText(NxGroup* scene)
+{
+    NxSceneWriter writer(scene);
+    std::string text;
+    while (writer.step(text, std::chrono::hours(1))) { }
+    return writer.failure().empty() ? text : std::string();
+}
+
+double NxSceneWriter::progress() const noexcept
+{
+    return m_printer->progress();
+}
+
+const std::string& NxSceneWriter::failure() const noexcept
+{
+    return m_printer->failure();
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstddef>
+
+namespace meridane {
+
+/// The longest name of a node in a scene file, in bytes and with its quotes and escapes, and the longest identifier.
+inline constexpr std::size_t maxNameLength = std::size_t{1} << 16U;
+
+} // namespace meridane

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "meridane/scene/NxFieldContainer.h"
+#include "meridane/scene/NxSceneWriter.h"
+#include "meridane/scene/SceneSharing.h"
+#include "meridane/scene/ValueWrapper.h"
+
+#include <string_view>
+#include <vector>
+
+class NxField;
+
+/// The writer's work, cut into units: first the scene is looked over, then each unit writes the head of a node, a field
+/// or a slice of its value, or the end of a node. Keeps its own stack.
+class NxSceneWriter::Printer {
+public:
+    explicit Printer(NxGroup* scene);
+
+    bool step(std::string& text, std::chrono::microseconds budget);
+    [[nodiscard]] double progress() const noexcept;
+    [[nodiscard]] const std::string& failure() const noexcept { return m_failure; }
+
+private:
+    enum class Phase { Sharing, Nodes, Value, Done };
+
+    /// A node whose closing brace is still to come.
+    struct OpenNode {
+        NxNode* node;
+        NxFieldData* data; // null for the scene itself, whose fields aren't written
+        int nextField = 0;
+        std::size_t nextUnknownField = 0;
+        std::size_t nextChild = 0;
+    };
+
+    void work(std::string& text);
+    void lookOver(std::string& text);
+    void writeNext(std::string& text);
+    bool startNextField(std::string& text);
+    void startField(std::string& text, std::string_view name, bool ignored);
+    void writeValueSlice(std::string& text);
+    void writeUnknownField(std::string& text, const NxFieldContainer::UnknownField& field);
+    void writeChild(std::string& text, NxNode* child);
+    void startNode(std::string& text, NxNode* node, const std::string& label);
+    void writeQuoted(std::string& text, std::string_view name);
+    void indent(std::string& text) const;
+    void fail(std::string message);
+
+    Phase m_phase = Phase::Sharing;
+    meridane::SceneSharing m_sharing;
+    std::vector<OpenNode> m_open; // from the scene itself on
+    std::size_t m_written = 0; // nodes
+    std::string m_failure;
+
+    // The value that is being written over several slices.
+    const NxField* m_field = nullptr;
+    std::size_t m_position = 0;
+    std::string m_slice;
+    meridane::ValueWrapper m_wrapper;
+};

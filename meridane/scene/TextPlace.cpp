@@ -1,0 +1,84 @@
+#include "meridane/scene/TextPlace.h"
+
+#include "meridane/base/Unicode.h"
+#include "meridane/scene/TextReader.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace meridane {
+
+namespace {
+
+constexpr std::size_t maxShown = 32; // bytes
+
+bool isContinuation(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+bool endsWord(char character)
+{
+    return TextReader::isDelimiter(character) || character == '=' || character == ';';
+}
+
+/// The token at the start of the text, whole.
+std::string_view tokenAt(std::string_view text)
+{
+    if (text.front() == '"') {
+        const std::size_t end = text.find_first_of("\"\n", 1);
+        return text.substr(0, end == std::string_view::npos ? end : end + (text[end] == '"' ? 1U : 0U));
+    }
+    const auto* const end = std::find_if(text.begin(), text.end(), endsWord);
+    return text.substr(0, std::max<std::size_t>(1, static_cast<std::size_t>(end - text.begin())));
+}
+
+std::string visible(std::string_view token)
+{
+    constexpr std::string_view digits = "0123456789abcdef";
+    std::string result;
+    for (const char character : replaceInvalidUtf8(token)) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte >= 0x20 && byte != 0x7F)
+            result += character;
+        else
+            ((result += "\\x") += digits[byte >> 4U]) += digits[byte & 15U];
+    }
+    return result;
+}
+
+} // namespace
+
+TextPlace findPlace(std::string_view text, std::size_t offset)
+{
+    text = text.substr(0, offset);
+    if (text.starts_with(byteOrderMark))
+        text.remove_prefix(byteOrderMark.size());
+    const std::size_t lineEnd = text.rfind('\n');
+    const std::string_view line = lineEnd == std::string_view::npos ? text : text.substr(lineEnd + 1);
+    const auto lines = std::count(text.begin(), text.end(), '\n');
+    const auto characters = std::count_if(line.begin(), line.end(), [](char byte) { return !isContinuation(byte); });
+    constexpr auto most = static_cast<std::ptrdiff_t>(std::numeric_limits<int>::max() - 1);
+    return {static_cast<int>(std::min(lines, most) + 1), static_cast<int>(std::min(characters, most) + 1)};
+}
+
+std::string describeToken(std::string_view text, std::size_t offset)
+{
+    if (offset >= text.size())
+        return "the end of the file";
+    text = text.substr(offset);
+    if (text.front() == '\n' || text.starts_with("\r\n"))
+        return "the end of the line";
+    // What is cut off is cut ahead of a character, not within it.
+    const std::string_view token = tokenAt(text.substr(0, 2 * maxShown));
+    std::size_t shown = std::min(token.size(), maxShown);
+    while (shown < token.size() && shown > 1 && isContinuation(token[shown]))
+        --shown;
+    const bool cut = shown < token.size();
+    const std::string_view head = token.substr(0, shown);
+    if (head.front() == '"' && head.size() > 1)
+        return visible(head) + (cut ? "…\"" : "");
+    return '"' + visible(head) + (cut ? "…\"" : "\"");
+}
+
+} // namespace meridane
