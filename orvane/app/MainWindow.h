@@ -4,20 +4,19 @@
 
 #include <memory>
 
-class EditActions;
 class ErrorRelay;
 class FieldPanel;
-class FileActions;
+class FileFlow;
+class FileMenu;
 class JobBar;
 class MessageBar;
-class SceneTreePanel;
+class QStackedWidget;
+class RecentFiles;
 class SceneDocument;
-class SelectionLabel;
+class SceneTreePanel;
 class Session;
 class StartPage;
-class ViewMenu;
 class WindowShell;
-class QStackedWidget;
 
 /// The tool's window: the scene tree, the fields of the selected node, and what extensions add.
 ///
@@ -58,26 +57,26 @@ protected:
 private:
     void buildMiddle();
     void buildTree();
-    void buildStatusBar();
     void buildMenus();
+    void connectDocument();
     void updateTitle();
     void updateMiddle();
+    void reportSettled(const QString& error);
     void saveLayout();
     void restoreLayout();
 
     Session& m_session;
     std::unique_ptr<ErrorRelay> m_errorRelay;
-    MessageBar* m_messages = nullptr;
-    QStackedWidget* m_middle = nullptr;
-    StartPage* m_startPage = nullptr;
-    FieldPanel* m_fields = nullptr;
-    SceneTreePanel* m_tree = nullptr;
-    JobBar* m_jobBar = nullptr;
-    SelectionLabel* m_selectionLabel = nullptr;
-    FileActions* m_files = nullptr;
-    EditActions* m_edits = nullptr;
-    ViewMenu* m_view = nullptr;
     std::unique_ptr<WindowShell> m_shell;
+    RecentFiles* m_recent;
+    MessageBar* m_messages;
+    QStackedWidget* m_middle;
+    StartPage* m_startPage;
+    FieldPanel* m_fields;
+    SceneTreePanel* m_tree;
+    JobBar* m_jobBar;
+    FileFlow* m_files = nullptr;
+    FileMenu* m_fileMenu = nullptr;
     bool m_layoutRestored = false;
     bool m_mayClose = false;
 };

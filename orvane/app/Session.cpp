@@ -33,7 +33,7 @@ Session::~Session()
 void Session::loadPreferences()
 {
     if (m_mode == AppSettings::Mode::File)
-        NxPreferences::setFile(toStdFileName(AppSettings::preferencesFileName()).c_str());
+        NxPreferences::setFile(orvane::toStdFileName(AppSettings::preferencesFileName()).c_str());
 }
 
 QStringList Session::loadPlugins(const QStringList& fileNames)
@@ -81,7 +81,7 @@ void Session::shutDown()
     if (std::exchange(m_down, true))
         return;
     if (const OrvProfile* profile = m_plugins.getActiveProfile())
-        m_settings.setValue(profileKey, toQString(profile->getName()));
+        m_settings.setValue(profileKey, orvane::toQString(profile->getName()));
     m_settings.sync();
     m_services.selectField(nullptr);
     m_services.selectNode(nullptr);

@@ -3,7 +3,6 @@
 #include "orvane/app/AppSettings.h"
 #include "orvane/app/SceneDisposal.h"
 #include "orvane/app/SceneDocument.h"
-#include "orvane/app/SensorPump.h"
 #include "orvane/extender/OrvPluginsManager.h"
 #include "orvane/extender/OrvServices.h"
 
@@ -48,7 +47,6 @@ public:
 private:
     AppSettings::Mode m_mode;
     AppSettings m_settings;
-    SensorPump m_pump;
     SceneDisposal m_disposal;
     OrvServices m_services;
     OrvPluginsManager m_plugins;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "meridane/base/VbString.h"
+#include "orvane/extender/VbText.h"
 
 #include <QFile>
 #include <QString>
@@ -8,21 +8,12 @@
 #include <string>
 #include <string_view>
 
-/// Carries text between Qt and the toolkit, both ways without loss.
+namespace orvane {
+
+/// The toolkit's text in UTF-8 as Qt's.
 [[nodiscard]] inline QString toQString(std::string_view utf8)
 {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-[[nodiscard]] inline QString toQString(const VbString& text)
-{
-    return toQString(text.view());
-}
-
-[[nodiscard]] inline VbString toVbString(const QString& text)
-{
-    const QByteArray utf8 = text.toUtf8();
-    return VbString(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
 }
 
 /// A file name as the toolkit takes it.
@@ -30,3 +21,5 @@
 {
     return QFile::encodeName(fileName).toStdString();
 }
+
+} // namespace orvane

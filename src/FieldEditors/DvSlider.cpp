@@ -1,8 +1,7 @@
 #include "FieldEditors/DvSlider.h"
 
 #include "FieldEditors/OrvFieldEditors.h"
-
-#include "orvane/extender/VbText.h"
+#include "FieldEditors/TextConversion.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

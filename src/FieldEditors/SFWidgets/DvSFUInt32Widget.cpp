@@ -4,8 +4,7 @@
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
-
-#include "orvane/extender/VbText.h"
+#include "FieldEditors/TextConversion.h"
 
 #include "meridane/scene/NxSFUInt32.h"
 

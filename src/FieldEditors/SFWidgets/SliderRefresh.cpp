@@ -1,8 +1,7 @@
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
 #include "FieldEditors/DvRealSlider.h"
-
-#include "orvane/extender/VbText.h"
+#include "FieldEditors/TextConversion.h"
 
 #include "meridane/scene/NxField.h"
 

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QObject>
+
+class NxNode;
+class QAction;
+class QMainWindow;
+class QMenu;
+class SceneTreePanel;
+class Session;
+
+/// The Edit menu: undo and redo, and what can be done to the node that is current in the tree.
+class EditMenu : public QObject {
+    Q_OBJECT
+
+public:
+    EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree);
+    ~EditMenu() override;
+
+    /// Renames a node as a step of the history.
+    void renameNode(NxNode* node, const QString& name);
+    void deleteNode();
+    [[nodiscard]] QList<QAction*> toolBarActions() const;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void updateActions();
+
+    Session& m_session;
+    SceneTreePanel* m_tree;
+    QAction* m_undo;
+    QAction* m_redo;
+    QAction* m_rename;
+    QAction* m_delete;
+};

@@ -1,0 +1,95 @@
+#include "orvane/app/FieldPanel.h"
+
+#include "orvane/app/FieldTableModel.h"
+#include "orvane/app/FieldTableView.h"
+#include "orvane/app/NodeIcons.h"
+#include "orvane/app/TextConversion.h"
+
+#include "meridane/scene/NxNode.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QScopedValueRollback>
+#include <QStackedLayout>
+#include <QStyle>
+
+FieldPanel::FieldPanel(QWidget* parent)
+    : QWidget(parent)
+    , m_model(new FieldTableModel(this))
+    , m_view(new FieldTableView(this))
+    , m_icon(new QLabel(this))
+    , m_heading(new QLabel(this))
+    , m_hint(new QWidget(this))
+    , m_pages(new QStackedLayout(this))
+{
+    auto* page = new QWidget(this);
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto* headingLine = new QHBoxLayout;
+    headingLine->setContentsMargins(8, 6, 8, 6);
+    headingLine->setSpacing(6);
+    headingLine->addWidget(m_icon);
+    m_heading->setTextFormat(Qt::PlainText);
+    m_heading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    headingLine->addWidget(m_heading, 1);
+    layout->addLayout(headingLine);
+    layout->addWidget(m_view);
+    m_view->setModel(m_model);
+    const int unit = fontMetrics().averageCharWidth();
+    m_view->setColumnWidth(FieldTableModel::NameColumn, unit * 26);
+    m_view->setColumnWidth(FieldTableModel::TypeColumn, unit * 18);
+
+    auto* hintLayout = new QVBoxLayout(m_hint);
+    auto* hint = new QLabel(tr("Select a node in the scene tree to see its fields."), m_hint);
+    hint->setAlignment(Qt::AlignCenter);
+    hint->setWordWrap(true);
+    hint->setForegroundRole(QPalette::PlaceholderText);
+    hintLayout->addWidget(hint);
+    m_pages->addWidget(m_hint);
+    m_pages->addWidget(page);
+
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& index) {
+        if (!m_settingCurrent)
+            Q_EMIT fieldChosen(m_model->field(index));
+    });
+    connect(m_view, &FieldTableView::currentPressed, this,
+        [this](const QModelIndex& index) { Q_EMIT fieldChosen(m_model->field(index)); });
+    setFocusProxy(m_view);
+}
+
+void FieldPanel::setNode(NxFieldContainer* node)
+{
+    const QScopedValueRollback guard(m_settingCurrent, true);
+    m_model->setNode(node);
+    updateHeading();
+    m_pages->setCurrentIndex(node != nullptr ? 1 : 0);
+}
+
+void FieldPanel::updateHeading()
+{
+    const auto* node = dynamic_cast<const NxNode*>(m_model->node());
+    if (node == nullptr)
+        return;
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    m_icon->setPixmap(orvane::nodeIcon(node->getTypeId()).pixmap(size));
+    const QString className = QString::fromUtf8(node->getClassName());
+    m_heading->setText(
+        node->getName().isEmpty() ? className : tr("%1 — %2").arg(orvane::toQString(node->getName()), className));
+}
+
+void FieldPanel::setCurrentField(const NxField* field)
+{
+    const QScopedValueRollback guard(m_settingCurrent, true);
+    const QModelIndex index = m_model->indexOf(field);
+    if (!index.isValid())
+        m_view->selectionModel()->clear();
+    else if (index.row() != m_view->currentIndex().row())
+        m_view->setCurrentIndex(index);
+}
+
+NxField* FieldPanel::currentField() const
+{
+    return m_model->field(m_view->currentIndex());
+}

@@ -1,0 +1,42 @@
+#include "orvane/app/FieldTableView.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+
+FieldTableView::FieldTableView(QWidget* parent)
+    : QTableView(parent)
+{
+    setObjectName(QStringLiteral("fieldTable"));
+    setAccessibleName(tr("Fields"));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false); // Tab goes on to the next widget
+    setFrameShape(NoFrame);
+    setTextElideMode(Qt::ElideRight);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void FieldTableView::mousePressEvent(QMouseEvent* event)
+{
+    const QModelIndex before = currentIndex();
+    QTableView::mousePressEvent(event);
+    const QModelIndex pressed = indexAt(event->pos());
+    if (pressed.isValid() && pressed.row() == before.row())
+        Q_EMIT currentPressed(pressed);
+}
+
+void FieldTableView::keyPressEvent(QKeyEvent* event)
+{
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid())
+        Q_EMIT currentPressed(currentIndex());
+    else
+        QTableView::keyPressEvent(event);
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "orvane/app/FileJob.h"
+
+#include <memory>
+
+namespace orvane {
+
+/// The job that reads this file: a scene in our own format (`.mrd`), or a model for the import helper.
+[[nodiscard]] std::unique_ptr<SceneJob> makeLoadJob(const QString& fileName);
+/// The job that writes this file, in our own format or, as a model, through the import helper.
+[[nodiscard]] std::unique_ptr<FileJob> makeSaveJob(const NxRef<NxGroup>& scene, const QString& fileName);
+
+/// Name filters for file dialogs: what can be opened, imported, saved to and exported to.
+[[nodiscard]] QString openFilters();
+[[nodiscard]] QString importFilters();
+[[nodiscard]] QString saveFilters();
+[[nodiscard]] QString exportFilters();
+
+} // namespace orvane

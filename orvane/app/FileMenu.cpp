@@ -1,0 +1,152 @@
+#include "orvane/app/FileMenu.h"
+
+#include "orvane/app/FileFlow.h"
+#include "orvane/app/FileJobs.h"
+#include "orvane/app/RecentFiles.h"
+#include "orvane/app/SceneDocument.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStyle>
+
+namespace {
+
+QFileDialog* makeDialog(QWidget* window, const QString& title, const QString& filters, const SceneDocument& document)
+{
+    auto* dialog = new QFileDialog(window, title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setNameFilters(filters.split(QStringLiteral(";;")));
+    if (!document.fileName().isEmpty())
+        dialog->setDirectory(QFileInfo(document.fileName()).absolutePath());
+    return dialog;
+}
+
+/// The extension that a name filter such as "STL (*.stl)" stands for.
+QString suffixOf(const QString& filter)
+{
+    const qsizetype start = filter.indexOf(QStringLiteral("*.")) + 2;
+    return filter.mid(start, filter.indexOf(QRegularExpression(QStringLiteral("[ )]")), start) - start);
+}
+
+} // namespace
+
+FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, SceneDocument& document)
+    : QObject(window)
+    , m_window(window)
+    , m_flow(flow)
+    , m_recent(recent)
+    , m_document(document)
+    , m_menu(window->menuBar()->addMenu(tr("&File")))
+{
+    const QStyle* style = window->style();
+    m_new = addAction(tr("&New"), "fileNew");
+    m_new->setShortcut(QKeySequence::New);
+    m_new->setIcon(style->standardIcon(QStyle::SP_FileIcon));
+    connect(m_new, &QAction::triggered, &flow, &FileFlow::newScene);
+    m_open = addAction(tr("&Open…"), "fileOpen");
+    m_open->setShortcut(QKeySequence::Open);
+    m_open->setIcon(style->standardIcon(QStyle::SP_DialogOpenButton));
+    connect(m_open, &QAction::triggered, this, &FileMenu::chooseFileToOpen);
+    m_recentMenu = m_menu->addMenu(tr("Open &Recent"));
+    m_recentMenu->setObjectName(QStringLiteral("recentMenu"));
+    m_menu->addSeparator();
+    m_save = addAction(tr("&Save"), "fileSave");
+    m_save->setShortcut(QKeySequence::Save);
+    m_save->setIcon(style->standardIcon(QStyle::SP_DialogSaveButton));
+    connect(m_save, &QAction::triggered, &flow, &FileFlow::save);
+    m_saveAs = addAction(tr("Save &As…"), "fileSaveAs");
+    m_saveAs->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    connect(m_saveAs, &QAction::triggered, &flow, &FileFlow::saveAs);
+    m_menu->addSeparator();
+    QAction* import = addAction(tr("&Import…"), "fileImport");
+    import->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
+    connect(import, &QAction::triggered, this, &FileMenu::chooseFileToImport);
+    m_export = addAction(tr("&Export…"), "fileExport");
+    m_export->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
+    connect(m_export, &QAction::triggered, this, &FileMenu::chooseFileToExport);
+    m_menu->addSeparator();
+    m_close = addAction(tr("&Close"), "fileClose");
+    m_close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
+    connect(m_close, &QAction::triggered, &flow, &FileFlow::closeScene);
+    QAction* quit = addAction(tr("&Quit"), "fileQuit");
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quit->setMenuRole(QAction::QuitRole);
+    connect(quit, &QAction::triggered, window, &QWidget::close);
+
+    connect(&recent, &RecentFiles::changed, this, &FileMenu::fillRecentMenu);
+    connect(&document, &SceneDocument::sceneChanged, this, &FileMenu::updateActions);
+    fillRecentMenu();
+    updateActions();
+}
+
+QAction* FileMenu::addAction(const QString& text, const char* name)
+{
+    QAction* action = m_menu->addAction(text);
+    action->setObjectName(QLatin1String(name));
+    return action;
+}
+
+QList<QAction*> FileMenu::toolBarActions() const
+{
+    return {m_new, m_open, m_save};
+}
+
+void FileMenu::chooseFileToOpen()
+{
+    QFileDialog* dialog = makeDialog(m_window, tr("Open"), orvane::openFilters(), m_document);
+    dialog->setObjectName(QStringLiteral("openDialog"));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    connect(dialog, &QFileDialog::fileSelected, &m_flow, &FileFlow::open);
+    dialog->open();
+}
+
+void FileMenu::chooseFileToImport()
+{
+    QFileDialog* dialog = makeDialog(m_window, tr("Import"), orvane::importFilters(), m_document);
+    dialog->setObjectName(QStringLiteral("importDialog"));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    connect(dialog, &QFileDialog::fileSelected, &m_flow, &FileFlow::import);
+    dialog->open();
+}
+
+void FileMenu::chooseFileToExport()
+{
+    QFileDialog* dialog = makeDialog(m_window, tr("Export"), orvane::exportFilters(), m_document);
+    dialog->setObjectName(QStringLiteral("exportDialog"));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    const auto setSuffix = [dialog](const QString& filter) { dialog->setDefaultSuffix(suffixOf(filter)); };
+    setSuffix(dialog->selectedNameFilter());
+    connect(dialog, &QFileDialog::filterSelected, dialog, setSuffix);
+    connect(dialog, &QFileDialog::fileSelected, &m_flow, &FileFlow::exportTo);
+    dialog->open();
+}
+
+void FileMenu::fillRecentMenu()
+{
+    m_recentMenu->clear();
+    int number = 0;
+    for (const QString& fileName : m_recent.fileNames()) {
+        QString shown = QDir::toNativeSeparators(fileName);
+        shown.replace(u'&', QStringLiteral("&&"));
+        QAction* action = m_recentMenu->addAction(
+            ++number < 10 ? QStringLiteral("&%1  %2").arg(number).arg(shown) : QStringLiteral("    %1").arg(shown));
+        action->setData(fileName);
+        connect(action, &QAction::triggered, &m_flow, [this, fileName] { m_flow.open(fileName); });
+    }
+    m_recentMenu->setEnabled(number > 0);
+    if (number == 0)
+        return;
+    m_recentMenu->addSeparator();
+    connect(m_recentMenu->addAction(tr("&Clear List")), &QAction::triggered, &m_recent, &RecentFiles::clear);
+}
+
+void FileMenu::updateActions()
+{
+    for (QAction* action : {m_save, m_saveAs, m_export, m_close})
+        action->setEnabled(m_document.isOpen());
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QObject>
+
+class FileFlow;
+class QAction;
+class QMainWindow;
+class QMenu;
+class RecentFiles;
+class SceneDocument;
+
+/// The File menu and its tool bar: the actions, the dialogs that choose files, and the files of late.
+class FileMenu : public QObject {
+    Q_OBJECT
+
+public:
+    FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, SceneDocument& document);
+
+    /// Lets the user choose a file to open.
+    void chooseFileToOpen();
+    /// The actions that belong on a tool bar.
+    [[nodiscard]] QList<QAction*> toolBarActions() const;
+
+private:
+    QAction* addAction(const QString& text, const char* name);
+    void chooseFileToImport();
+    void chooseFileToExport();
+    void fillRecentMenu();
+    void updateActions();
+
+    QMainWindow* m_window;
+    FileFlow& m_flow;
+    RecentFiles& m_recent;
+    SceneDocument& m_document;
+    QMenu* m_menu;
+    QMenu* m_recentMenu;
+    QAction* m_new;
+    QAction* m_open;
+    QAction* m_save;
+    QAction* m_saveAs;
+    QAction* m_export;
+    QAction* m_close;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QObject>
+
+class QMainWindow;
+class WindowShell;
+
+/// The Help menu: the keys, and what this program is and which extensions are at work in it.
+class HelpMenu : public QObject {
+    Q_OBJECT
+
+public:
+    HelpMenu(QMainWindow* window, const WindowShell& shell);
+
+private:
+    void showKeys();
+    void showAbout();
+    [[nodiscard]] QString keysText() const;
+    [[nodiscard]] QString aboutText() const;
+
+    QMainWindow* m_window;
+    const WindowShell& m_shell;
+};

@@ -1,0 +1,272 @@
+#include "orvane/app/MainWindow.h"
+
+#include "orvane/app/EditMenu.h"
+#include "orvane/app/ErrorRelay.h"
+#include "orvane/app/FieldPanel.h"
+#include "orvane/app/FileFlow.h"
+#include "orvane/app/FileMenu.h"
+#include "orvane/app/HelpMenu.h"
+#include "orvane/app/JobBar.h"
+#include "orvane/app/MessageBar.h"
+#include "orvane/app/RecentFiles.h"
+#include "orvane/app/SceneTreeModel.h"
+#include "orvane/app/SceneTreePanel.h"
+#include "orvane/app/SelectionLink.h"
+#include "orvane/app/SelectionStatus.h"
+#include "orvane/app/Session.h"
+#include "orvane/app/StartPage.h"
+#include "orvane/app/TextConversion.h"
+#include "orvane/app/ViewMenu.h"
+#include "orvane/app/WindowShell.h"
+
+#include "meridane/base/NxDelayQueue.h"
+#include "meridane/scene/NxScenePath.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMimeData>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize firstSize(1280, 800);
+constexpr int treeWidth = 300;
+const QString geometryKey = QStringLiteral("window/geometry");
+const QString stateKey = QStringLiteral("window/state");
+
+/// The one local file that is being dragged, or the empty name.
+QString draggedFile(const QMimeData* data)
+{
+    const QList<QUrl> urls = data->urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
+
+} // namespace
+
+MainWindow::MainWindow(Session& session)
+    : m_session(session)
+    , m_errorRelay(std::make_unique<ErrorRelay>())
+    , m_shell(std::make_unique<WindowShell>(this))
+    , m_recent(new RecentFiles(session.settings(), this))
+    , m_messages(new MessageBar(this))
+    , m_middle(new QStackedWidget(this))
+    , m_startPage(new StartPage(this))
+    , m_fields(new FieldPanel(this))
+    , m_tree(new SceneTreePanel(this))
+    , m_jobBar(new JobBar(this))
+{
+    setAcceptDrops(true);
+    setDockOptions(AllowNestedDocks | AllowTabbedDocks);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    buildMiddle();
+    buildTree();
+    buildMenus();
+    connectDocument();
+
+    resize(firstSize);
+    restoreGeometry(session.settings().value(geometryKey).toByteArray());
+    if (!session.settings().problem().isEmpty())
+        showWarning(session.settings().problem());
+}
+
+MainWindow::~MainWindow()
+{
+    m_session.shutDown();
+    // What this window is connected to outlives it, and its parts are about to go.
+    disconnect(&m_session.document(), nullptr, this, nullptr);
+}
+
+SceneDocument& MainWindow::document() const
+{
+    return m_session.document();
+}
+
+void MainWindow::openFile(const QString& fileName)
+{
+    m_files->open(fileName);
+}
+
+void MainWindow::saveTo(const QString& fileName)
+{
+    m_files->saveTo(fileName);
+}
+
+QString MainWindow::selectPath(const QString& path)
+{
+    if (!document().isOpen())
+        return tr("No scene is open.");
+    const NxScenePath::Target target = NxScenePath::find(document().scene(), path.toStdString());
+    if (!target.error.empty())
+        return orvane::toQString(target.error);
+    NxDelayQueue::getDefault().process(); // the tree may be behind the scene
+    m_tree->setCurrent(m_tree->model()->indexOfPath(target.nodes));
+    m_session.services().selectField(target.field);
+    return {};
+}
+
+void MainWindow::showError(const QString& message)
+{
+    m_messages->showMessage(MessageBar::Severity::Error, message);
+}
+
+void MainWindow::showWarning(const QString& message)
+{
+    m_messages->showMessage(MessageBar::Severity::Warning, message);
+}
+
+void MainWindow::showInformation(const QString& message)
+{
+    m_messages->showMessage(MessageBar::Severity::Information, message);
+}
+
+void MainWindow::buildMiddle()
+{
+    auto* container = new QWidget(this);
+    auto* layout = new QVBoxLayout(container);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_messages);
+    m_middle->addWidget(m_startPage);
+    m_middle->addWidget(m_fields);
+    layout->addWidget(m_middle, 1);
+    setCentralWidget(container);
+    connect(m_errorRelay.get(), &ErrorRelay::reported, this,
+        [this](MessageBar::Severity severity, const QString& text) { m_messages->showMessage(severity, text); });
+}
+
+void MainWindow::buildTree()
+{
+    auto* dock = new QDockWidget(tr("Scene"), this);
+    dock->setObjectName(QStringLiteral("sceneDock"));
+    dock->setWidget(m_tree);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    resizeDocks({dock}, {treeWidth}, Qt::Horizontal);
+    new SelectionLink(m_session.services(), m_tree, m_fields);
+    new SelectionStatus(m_session, m_tree, statusBar());
+    statusBar()->addPermanentWidget(m_jobBar);
+    connect(m_tree->model(), &QAbstractItemModel::dataChanged, m_fields, &FieldPanel::updateHeading);
+}
+
+void MainWindow::buildMenus()
+{
+    m_files = new FileFlow(m_session, *m_recent, *m_messages, *m_jobBar, this);
+    connect(m_files, &FileFlow::ended, this, &MainWindow::reportSettled, Qt::QueuedConnection);
+    m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
+    auto* editMenu = new EditMenu(this, m_session, m_tree);
+    auto* viewMenu = new ViewMenu(this);
+    new HelpMenu(this, *m_shell);
+    connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);
+
+    QToolBar* toolBar = addToolBar(tr("File and Edit"));
+    toolBar->setObjectName(QStringLiteral("mainToolBar"));
+    toolBar->addActions(m_fileMenu->toolBarActions());
+    toolBar->addSeparator();
+    toolBar->addActions(editMenu->toolBarActions());
+    viewMenu->update();
+
+    connect(m_startPage, &StartPage::openRequested, m_fileMenu, &FileMenu::chooseFileToOpen);
+    connect(m_startPage, &StartPage::newRequested, m_files, &FileFlow::newScene);
+    connect(m_startPage, &StartPage::fileChosen, this, &MainWindow::openFile);
+    const auto listRecent = [this] { m_startPage->setRecentFiles(m_recent->fileNames()); };
+    connect(m_recent, &RecentFiles::changed, m_startPage, listRecent);
+    listRecent();
+}
+
+void MainWindow::connectDocument()
+{
+    const SceneDocument& scene = document();
+    connect(&scene, &SceneDocument::sceneAboutToChange, this, [this] { m_tree->setScene(nullptr); });
+    connect(&scene, &SceneDocument::sceneChanged, this, &MainWindow::updateMiddle);
+    connect(&scene, &SceneDocument::fileNameChanged, this, &MainWindow::updateTitle);
+    connect(&scene, &SceneDocument::modifiedChanged, this, &QWidget::setWindowModified);
+    updateMiddle();
+    updateTitle();
+}
+
+void MainWindow::updateTitle()
+{
+    setWindowTitle(document().isOpen() ? tr("%1[*] — Orvane").arg(document().displayName()) : tr("Orvane"));
+    setWindowModified(document().isModified());
+}
+
+void MainWindow::updateMiddle()
+{
+    m_tree->setScene(document().scene());
+    if (document().isOpen())
+        m_middle->setCurrentWidget(m_fields);
+    else
+        m_middle->setCurrentWidget(m_startPage);
+}
+
+void MainWindow::reportSettled(const QString& error)
+{
+    if (NxDelayQueue::getDefault().isEmpty())
+        Q_EMIT settled(error);
+    else
+        QMetaObject::invokeMethod(
+            this, [this, error] { reportSettled(error); }, Qt::QueuedConnection);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_mayClose) {
+        m_mayClose = false;
+        m_files->cancelLoading();
+        saveLayout();
+        return;
+    }
+    event->ignore();
+    m_files->leaveScene([this] {
+        m_mayClose = true;
+        close();
+    });
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    // By now the extensions of the first profile have added their docks and tool bars.
+    if (!std::exchange(m_layoutRestored, true))
+        restoreLayout();
+    QMainWindow::showEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!draggedFile(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QString fileName = draggedFile(event->mimeData());
+    if (fileName.isEmpty())
+        return;
+    event->acceptProposedAction();
+    openFile(fileName);
+}
+
+void MainWindow::saveLayout()
+{
+    m_session.settings().setValue(geometryKey, saveGeometry());
+    m_session.settings().setValue(stateKey, saveState());
+    m_session.settings().sync();
+}
+
+void MainWindow::restoreLayout()
+{
+    const QByteArray state = m_session.settings().value(stateKey).toByteArray();
+    if (state.isEmpty())
+        return;
+    QHash<QDockWidget*, bool> hidden;
+    for (QDockWidget* dock : m_shell->docks())
+        hidden.insert(dock, dock->isHidden());
+    restoreState(state);
+    // Whether an extension's dock is seen is the extension's own decision.
+    for (auto dock = hidden.constBegin(); dock != hidden.constEnd(); ++dock)
+        dock.key()->setHidden(dock.value());
+}

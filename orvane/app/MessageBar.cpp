@@ -1,0 +1,65 @@
+#include "orvane/app/MessageBar.h"
+
+#include "orvane/app/MessageRow.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+MessageBar::MessageBar(QWidget* parent)
+    : QWidget(parent)
+    , m_layout(new QVBoxLayout(this))
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(1);
+    hide();
+}
+
+void MessageBar::showMessage(Severity severity, const QString& text, const QString& topic)
+{
+    clearTopic(topic);
+    const bool shown
+        = std::any_of(m_rows.begin(), m_rows.end(), [&text](const MessageRow* row) { return row->text() == text; });
+    if (shown)
+        return;
+    if (m_rows.size() == capacity)
+        remove(m_rows.front());
+    auto* row = new MessageRow(severity, text, topic, this);
+    connect(row, &MessageRow::closed, this, [this, row] { remove(row); });
+    m_rows.push_back(row);
+    m_layout->addWidget(row);
+    show();
+}
+
+void MessageBar::clearTopic(const QString& topic)
+{
+    if (topic.isEmpty())
+        return;
+    const auto found
+        = std::find_if(m_rows.begin(), m_rows.end(), [&topic](const MessageRow* row) { return row->topic() == topic; });
+    if (found != m_rows.end())
+        remove(*found);
+}
+
+void MessageBar::clear()
+{
+    while (!m_rows.empty())
+        remove(m_rows.back());
+}
+
+QStringList MessageBar::texts() const
+{
+    QStringList texts;
+    for (const MessageRow* row : m_rows)
+        texts.append(row->text());
+    return texts;
+}
+
+void MessageBar::remove(MessageRow* row)
+{
+    std::erase(m_rows, row);
+    m_layout->removeWidget(row);
+    row->hide();
+    row->deleteLater();
+    setVisible(!m_rows.empty());
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+#include <vector>
+
+class MessageRow;
+class QVBoxLayout;
+
+/// Shows messages inside the window, one below the other, each until the user closes it.
+///
+/// A message about a topic takes the place of the former one about it. A text that is shown already isn't shown twice.
+/// The oldest goes when there are too many.
+class MessageBar : public QWidget {
+    Q_OBJECT
+
+public:
+    enum class Severity { Information, Warning, Error };
+    static constexpr int capacity = 4;
+
+    explicit MessageBar(QWidget* parent = nullptr);
+
+    void showMessage(Severity severity, const QString& text, const QString& topic = {});
+    /// Takes the message about a topic away.
+    void clearTopic(const QString& topic);
+    void clear();
+
+    /// The texts shown, from the top.
+    [[nodiscard]] QStringList texts() const;
+
+private:
+    void remove(MessageRow* row);
+
+    QVBoxLayout* m_layout;
+    std::vector<MessageRow*> m_rows;
+};

@@ -1,0 +1,81 @@
+#include "orvane/app/MessageRow.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QStyle>
+#include <QToolButton>
+
+namespace {
+
+QStyle::StandardPixmap pixmapOf(MessageBar::Severity severity)
+{
+    switch (severity) {
+    case MessageBar::Severity::Information:
+        return QStyle::SP_MessageBoxInformation;
+    case MessageBar::Severity::Warning:
+        return QStyle::SP_MessageBoxWarning;
+    case MessageBar::Severity::Error:
+        break;
+    }
+    return QStyle::SP_MessageBoxCritical;
+}
+
+QColor colorOf(MessageBar::Severity severity)
+{
+    switch (severity) {
+    case MessageBar::Severity::Information:
+        return {70, 130, 215};
+    case MessageBar::Severity::Warning:
+        return {224, 164, 48};
+    case MessageBar::Severity::Error:
+        break;
+    }
+    return {214, 80, 70};
+}
+
+} // namespace
+
+MessageRow::MessageRow(MessageBar::Severity severity, const QString& text, const QString& topic, QWidget* parent)
+    : QFrame(parent)
+    , m_severity(severity)
+    , m_topic(topic)
+    , m_label(new QLabel(text, this))
+{
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 6, 6, 6);
+    auto* icon = new QLabel(this);
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    icon->setPixmap(style()->standardIcon(pixmapOf(severity)).pixmap(size));
+    layout->addWidget(icon, 0, Qt::AlignTop);
+
+    m_label->setObjectName(QStringLiteral("messageText"));
+    m_label->setTextFormat(Qt::PlainText);
+    m_label->setWordWrap(true);
+    m_label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    layout->addWidget(m_label, 1);
+
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("closeMessage"));
+    button->setAutoRaise(true);
+    button->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    button->setToolTip(tr("Close this message"));
+    button->setAccessibleName(button->toolTip());
+    connect(button, &QToolButton::clicked, this, &MessageRow::closed);
+    layout->addWidget(button, 0, Qt::AlignTop);
+}
+
+QString MessageRow::text() const
+{
+    return m_label->text();
+}
+
+void MessageRow::paintEvent(QPaintEvent*)
+{
+    // A tint over the window's own colour, so that the text keeps its contrast in light and in dark palettes.
+    QPainter painter(this);
+    QColor tint = colorOf(m_severity);
+    painter.fillRect(QRect(0, 0, 4, height()), tint);
+    tint.setAlpha(48);
+    painter.fillRect(rect(), tint);
+}

@@ -1,0 +1,56 @@
+#include "orvane/app/SaveJob.h"
+
+#include "orvane/app/SliceClock.h"
+#include "orvane/app/TextConversion.h"
+
+SaveJob::SaveJob(const NxRef<NxGroup>& scene, const QString& fileName)
+    : FileJob(fileName)
+    , m_scene(scene)
+{
+}
+
+SaveJob::~SaveJob() = default;
+
+void SaveJob::start()
+{
+    m_writer = std::make_unique<NxSceneWriter>(m_scene.get());
+    m_timer.start(0, this);
+}
+
+void SaveJob::cancel()
+{
+    m_timer.stop();
+    m_file.reset();
+    QMetaObject::invokeMethod(this, &SaveJob::cancelled, Qt::QueuedConnection);
+}
+
+void SaveJob::timerEvent(QTimerEvent*)
+{
+    bool done = false;
+    const std::optional<std::string> message = writeSlice(done);
+    if (!message && !done) {
+        Q_EMIT progressed(m_writer->progress());
+        return;
+    }
+    m_timer.stop();
+    m_file.reset();
+    if (message)
+        Q_EMIT failed(orvane::toQString(*message));
+    else
+        Q_EMIT finished();
+}
+
+std::optional<std::string> SaveJob::writeSlice(bool& done)
+{
+    if (m_file == nullptr) {
+        m_file = std::make_unique<meridane::FileReplacer>();
+        if (auto message = m_file->open(orvane::toStdFileName(fileName())))
+            return message;
+    }
+    std::string text;
+    const bool more = m_writer->step(text, SliceClock::length);
+    if (auto message = m_file->write(text.data(), text.size()))
+        return message;
+    done = !more;
+    return done ? m_file->commit() : std::nullopt;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "orvane/app/FileJob.h"
+
+#include "meridane/scene/Files.h"
+#include "meridane/scene/NxSceneWriter.h"
+
+#include <QBasicTimer>
+
+#include <memory>
+#include <string>
+
+/// Writes a scene file in slices of some milliseconds. The file changes when the whole scene is written, or not at all.
+/// The scene must not change meanwhile.
+class SaveJob : public FileJob {
+    Q_OBJECT
+
+public:
+    SaveJob(const NxRef<NxGroup>& scene, const QString& fileName);
+    ~SaveJob() override;
+
+    void start() override;
+    void cancel() override;
+
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    [[nodiscard]] std::optional<std::string> writeSlice(bool& done);
+
+    QBasicTimer m_timer;
+    NxRef<NxGroup> m_scene;
+    std::unique_ptr<NxSceneWriter> m_writer;
+    std::unique_ptr<meridane::FileReplacer> m_file; // once it is open
+};

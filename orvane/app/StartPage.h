@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class QLabel;
+class QVBoxLayout;
+
+/// What the middle of the window shows while nothing is open: how to open something, the files of late, and examples.
+class StartPage : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit StartPage(QWidget* parent = nullptr);
+
+    void setRecentFiles(const QStringList& fileNames);
+
+Q_SIGNALS:
+    void openRequested();
+    void newRequested();
+    void fileChosen(const QString& fileName);
+
+private:
+    QLabel* addLinks(QVBoxLayout* layout, const char* name);
+
+    QLabel* m_recent;
+    QLabel* m_examples;
+};

@@ -1,0 +1,139 @@
+#include "orvane/app/WindowShell.h"
+
+#include <QDockWidget>
+#include <QEvent>
+#include <QMainWindow>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace {
+
+/// Wide enough for the editors of most fields.
+constexpr int sideDockWidth = 380;
+constexpr int bottomDockHeight = 160;
+
+void giveName(QWidget* widget, const QString& title)
+{
+    if (widget->objectName().isEmpty())
+        widget->setObjectName(title);
+}
+
+/// A widget that was never shown nor hidden shows up with its window.
+bool isHiddenOnPurpose(const QWidget* widget)
+{
+    return widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);
+}
+
+} // namespace
+
+WindowShell::WindowShell(QMainWindow* window)
+    : m_window(window)
+{
+}
+
+WindowShell::~WindowShell() = default;
+
+void WindowShell::addDockWidget(QDockWidget* dock, int area)
+{
+    if (dock == nullptr || m_docks.contains(dock))
+        return;
+    giveName(dock, dock->windowTitle());
+    const bool hidden = isHiddenOnPurpose(dock);
+    m_docks.append(dock);
+    connect(dock, &QObject::destroyed, this, &WindowShell::forget);
+    m_window->addDockWidget(static_cast<Qt::DockWidgetArea>(area), dock);
+    if (m_places.contains(dock->objectName()) || !m_window->restoreDockWidget(dock))
+        placeDock(dock, static_cast<Qt::DockWidgetArea>(area));
+    // Whether it is seen is the extension's decision, not that of a saved state.
+    dock->setVisible(!hidden);
+    Q_EMIT contentChanged();
+}
+
+void WindowShell::placeDock(QDockWidget* dock, Qt::DockWidgetArea area)
+{
+    const auto known = m_places.constFind(dock->objectName());
+    if (known == m_places.constEnd()) {
+        m_unsized.append(dock);
+        dock->installEventFilter(this);
+        return;
+    }
+    if (known->area != area && known->area != Qt::NoDockWidgetArea)
+        m_window->addDockWidget(known->area, dock);
+    if (known->floating) {
+        dock->setFloating(true);
+        dock->setGeometry(known->geometry);
+    }
+}
+
+bool WindowShell::eventFilter(QObject* object, QEvent* event)
+{
+    if (event->type() != QEvent::Show)
+        return false;
+    auto* dock = qobject_cast<QDockWidget*>(object);
+    dock->removeEventFilter(this);
+    if (!m_unsized.removeOne(dock) || dock->isFloating())
+        return false;
+    const Qt::DockWidgetArea area = m_window->dockWidgetArea(dock);
+    if (area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea)
+        m_window->resizeDocks({dock}, {std::max(sideDockWidth, dock->sizeHint().width())}, Qt::Horizontal);
+    else
+        m_window->resizeDocks({dock}, {bottomDockHeight}, Qt::Vertical);
+    return false;
+}
+
+void WindowShell::removeDockWidget(QDockWidget* dock)
+{
+    if (dock == nullptr || !m_docks.removeOne(dock))
+        return;
+    disconnect(dock, &QObject::destroyed, this, nullptr);
+    m_unsized.removeOne(dock);
+    dock->removeEventFilter(this);
+    m_places.insert(dock->objectName(), {m_window->dockWidgetArea(dock), dock->isFloating(), dock->geometry()});
+    m_window->removeDockWidget(dock);
+    dock->setParent(nullptr);
+    Q_EMIT contentChanged();
+}
+
+void WindowShell::announceExtension(OrvExtension* extension, int)
+{
+    if (extension != nullptr && !m_announced.contains(extension))
+        m_announced.append(extension);
+}
+
+void WindowShell::withdrawExtension(OrvExtension* extension)
+{
+    m_announced.removeOne(extension);
+}
+
+void WindowShell::addToolBar(QToolBar* toolBar, int area)
+{
+    if (toolBar == nullptr || m_toolBars.contains(toolBar))
+        return;
+    giveName(toolBar, toolBar->windowTitle());
+    const bool hidden = isHiddenOnPurpose(toolBar);
+    m_toolBars.append(toolBar);
+    connect(toolBar, &QObject::destroyed, this, &WindowShell::forget);
+    m_window->addToolBar(static_cast<Qt::ToolBarArea>(area), toolBar);
+    toolBar->setVisible(!hidden);
+    Q_EMIT contentChanged();
+}
+
+void WindowShell::removeToolBar(QToolBar* toolBar)
+{
+    if (toolBar == nullptr || !m_toolBars.removeOne(toolBar))
+        return;
+    disconnect(toolBar, &QObject::destroyed, this, nullptr);
+    m_window->removeToolBar(toolBar);
+    toolBar->setParent(nullptr);
+    Q_EMIT contentChanged();
+}
+
+void WindowShell::forget(QObject* object)
+{
+    // The object is no more than a QObject by now.
+    m_docks.removeIf([object](const QDockWidget* dock) { return static_cast<const void*>(dock) == object; });
+    m_unsized.removeIf([object](const QDockWidget* dock) { return static_cast<const void*>(dock) == object; });
+    m_toolBars.removeIf([object](const QToolBar* toolBar) { return static_cast<const void*>(toolBar) == object; });
+    Q_EMIT contentChanged();
+}
