@@ -57,8 +57,13 @@ function(kal_add_test area name)
     set(arg_TIMEOUT 120)
   endif()
   set(target tst_${area}_${name})
+  set(flavour widgets)
+  if("toolkit" IN_LIST arg_LABELS)
+    set(flavour core)
+  endif()
   add_executable(${target} tst_${name}.cpp ${arg_SOURCES})
-  target_link_libraries(${target} PRIVATE ${arg_DEPENDS} Qt6::Test kal_warnings kal_qt_rules)
+  target_link_libraries(${target} PRIVATE ${arg_DEPENDS})
+  kal_use_test_header(${target} ${area} ${flavour})
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
   set_target_properties(${target} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
   if("toolkit" IN_LIST arg_LABELS)
@@ -76,6 +81,27 @@ function(kal_add_test area name)
                ENVIRONMENT
                "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0;ASAN_OPTIONS=allocator_may_return_null=1;TSAN_OPTIONS=allocator_may_return_null=1:suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.supp"
   )
+endfunction()
+
+# The precompiled header of the tests, made once a folder (whose path Qt Test compiles in), for those that know widgets
+# and those that do not: QtTest is most of what compiling a test costs. It is made for a program, since a library is
+# compiled with other flags.
+function(kal_use_test_header target area flavour)
+  set(carrier kal_test_header_${area}_${flavour})
+  if(NOT TARGET ${carrier})
+    file(GENERATE OUTPUT "${PROJECT_BINARY_DIR}/tests/${carrier}.cpp" CONTENT "int main() {}\n")
+    add_executable(${carrier} "${PROJECT_BINARY_DIR}/tests/${carrier}.cpp")
+    kal_link_test_libraries(${carrier} ${flavour})
+    target_precompile_headers(${carrier} PRIVATE <QtTest>)
+    set_target_properties(${carrier} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+  endif()
+  kal_link_test_libraries(${target} ${flavour})
+  target_precompile_headers(${target} REUSE_FROM ${carrier})
+endfunction()
+
+function(kal_link_test_libraries target flavour)
+  target_link_libraries(${target} PRIVATE Qt6::Test $<$<STREQUAL:${flavour},widgets>:Qt6::Widgets> kal_warnings
+                                          kal_qt_rules)
 endfunction()
 
 # Qt's code generators and the common precompiled header.

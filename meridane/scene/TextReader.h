@@ -47,7 +47,8 @@ public:
     bool expectEnd();
 
     /// Reads a number: decimal, with or without a sign, for integers also `0x` and hexadecimal digits, for floating
-    /// point also `inf` and `nan`. One that the type can't hold is refused, but a small fraction becomes 0.
+    /// point also `inf` and `nan`. One that the type can't hold is refused, but a fraction too small for it becomes 0.
+    /// `number` changes only if this gives true.
     template <typename Number>
     bool readNumber(Number& number);
     /// Reads a word: the characters up to a blank, a comma, a semicolon, a bar, a quote, a bracket, a brace or `#`. It
@@ -125,9 +126,11 @@ template <typename Number>
 inline bool TextReader::readNumber(Number& number)
 {
     skipBlanks();
-    const auto [end, error] = std::from_chars(m_at, m_end, number);
+    Number read{};
+    const auto [end, error] = std::from_chars(m_at, m_end, read);
     if (error != std::errc() || !endsHere(end)) [[unlikely]]
         return readUnusualNumber(number);
+    number = read;
     m_at = end;
     return true;
 }

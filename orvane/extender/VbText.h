@@ -4,22 +4,23 @@
 
 #include <QString>
 
-#include <string_view>
-
 namespace orvane {
 
-/// The toolkit's text as Qt's.
+// Text crosses as UTF-16, Qt's own form, so that the toolkit is the one that judges what is valid: a lone surrogate
+// becomes U+FFFD.
+
+/// The toolkit's text as Qt's, NUL characters included; null for a null text.
 [[nodiscard]] inline QString toQString(const VbString& text)
 {
-    const std::string_view utf8 = text.view();
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    if (text.isNull())
+        return {};
+    return QStringView(text.toUtf16(), text.getLength()).toString();
 }
 
-/// Qt's text as the toolkit's, NUL characters included. A null text becomes an empty one.
+/// Qt's text as the toolkit's, up to the first NUL character. A null text becomes an empty one.
 [[nodiscard]] inline VbString toVbString(const QString& text)
 {
-    const QByteArray utf8 = text.toUtf8();
-    return VbString(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+    return VbString().fromUtf16(text.utf16());
 }
 
 } // namespace orvane

@@ -1,7 +1,8 @@
 #include "FieldEditors/DvSlider.h"
 
 #include "FieldEditors/OrvFieldEditors.h"
-#include "FieldEditors/TextConversion.h"
+
+#include "orvane/extender/VbText.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

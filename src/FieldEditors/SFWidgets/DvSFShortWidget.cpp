@@ -4,7 +4,8 @@
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
-#include "FieldEditors/TextConversion.h"
+
+#include "orvane/extender/VbText.h"
 
 #include "meridane/scene/NxSFShort.h"
 

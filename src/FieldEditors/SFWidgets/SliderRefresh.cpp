@@ -1,7 +1,8 @@
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
 #include "FieldEditors/DvRealSlider.h"
-#include "FieldEditors/TextConversion.h"
+
+#include "orvane/extender/VbText.h"
 
 #include "meridane/scene/NxField.h"
 

@@ -1,0 +1,144 @@
+#include "orvane/app/ExportJob.h"
+
+#include "orvane/app/SliceClock.h"
+#include "orvane/app/TextConversion.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+// Enough to keep the helper busy until the next turn of the event loop.
+constexpr std::size_t enoughPending = std::size_t{4} << 20;
+constexpr std::size_t bytesPerSlice = std::size_t{1} << 20;
+
+QStringList helperArguments(const QString& fileName)
+{
+    const QFileInfo file(fileName);
+    return {QStringLiteral("--write"), file.suffix(), QStringLiteral("--name"), file.completeBaseName()};
+}
+
+} // namespace
+
+ExportJob::ExportJob(const NxRef<NxGroup>& scene, const QString& fileName, const HelperOptions& options)
+    : FileJob(fileName)
+    , m_scene(scene)
+    , m_helper(options, helperArguments(fileName))
+{
+    connect(&m_helper, &HelperProcess::ended, this, &ExportJob::takeFiles);
+    connect(&m_helper, &HelperProcess::failed, this, [this](const QString& reason, bool byHelper) {
+        fail(byHelper ? reason : QStringLiteral("%1: %2").arg(this->fileName(), reason));
+    });
+    connect(&m_slices, &QTimer::timeout, this, [this] { m_writer ? writeScene() : writeFiles(); });
+}
+
+ExportJob::~ExportJob() = default;
+
+void ExportJob::start()
+{
+    m_writer = std::make_unique<NxSceneWriter>(m_scene.get());
+    m_helper.start();
+    m_slices.start(0);
+}
+
+void ExportJob::cancel()
+{
+    if (m_ended)
+        return;
+    end();
+    QMetaObject::invokeMethod(this, &FileJob::cancelled, Qt::QueuedConnection);
+}
+
+void ExportJob::writeScene()
+{
+    if (m_helper.pendingInput() >= enoughPending) {
+        // The helper is behind: go on when it has taken something.
+        m_slices.stop();
+        connect(&m_helper, &HelperProcess::inputTaken, &m_slices, qOverload<>(&QTimer::start), Qt::UniqueConnection);
+        return;
+    }
+    std::string text;
+    const bool more = m_writer->step(text, SliceClock::length);
+    m_helper.write(text);
+    Q_EMIT progressed(m_writer->progress() / 2);
+    if (more)
+        return;
+    m_helper.closeInput();
+    m_writer.reset();
+    m_slices.stop();
+    m_helper.disconnect(&m_slices);
+    Q_EMIT progressed(-1);
+}
+
+void ExportJob::takeFiles()
+{
+    const std::string base = toStdFileName(QFileInfo(fileName()).completeBaseName());
+    const std::string name = toStdFileName(QFileInfo(fileName()).fileName());
+    auto files = orvane::unpackFramedFiles(m_helper.takeOutput());
+    // The helper has read a scene of unknown origin, so nothing that it asks for is written elsewhere. One that didn't
+    // wait for the whole scene can't have written it.
+    const bool usable = files && m_writer == nullptr && files->front().name == name
+        && std::all_of(files->begin(), files->end(),
+            [&](const auto& file) { return file.name.starts_with(base + '.') || file.name.starts_with(base + '_'); });
+    if (!usable) {
+        fail(QStringLiteral("%1: the import helper gave something that is no model").arg(fileName()));
+        return;
+    }
+    m_files = std::move(*files);
+    m_slices.start(0);
+}
+
+void ExportJob::writeFiles()
+{
+    const QDir folder = QFileInfo(fileName()).absoluteDir();
+    std::optional<std::string> failure;
+    if (m_replacers.empty() || m_written == m_files[m_replacers.size() - 1].bytes.size()) {
+        if (m_replacers.size() == m_files.size()) {
+            commitFiles();
+            return;
+        }
+        const QString name = QFile::decodeName(m_files[m_replacers.size()].name.c_str());
+        m_replacers.push_back(std::make_unique<meridane::FileReplacer>());
+        m_written = 0;
+        failure = m_replacers.back()->open(toStdFileName(folder.filePath(name)));
+    }
+    if (!failure) {
+        const std::string& bytes = m_files[m_replacers.size() - 1].bytes;
+        const std::size_t count = std::min(bytesPerSlice, bytes.size() - m_written);
+        failure = m_replacers.back()->write(bytes.data() + m_written, count);
+        m_written += count;
+    }
+    if (failure)
+        fail(toQString(*failure));
+}
+
+void ExportJob::commitFiles()
+{
+    // What the main file refers to comes first, so that it never refers to something older than itself.
+    for (auto replacer = m_replacers.rbegin(); replacer != m_replacers.rend(); ++replacer) {
+        if (const std::optional<std::string> failure = (*replacer)->commit()) {
+            fail(toQString(*failure));
+            return;
+        }
+    }
+    end();
+    Q_EMIT progressed(1);
+    Q_EMIT finished();
+}
+
+void ExportJob::end()
+{
+    m_ended = true;
+    m_helper.kill();
+    m_slices.stop();
+    m_writer.reset();
+    m_replacers.clear();
+}
+
+void ExportJob::fail(const QString& message)
+{
+    end();
+    Q_EMIT failed(message);
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "orvane/app/FileJob.h"
+#include "orvane/app/HelperProcess.h"
+#include "orvane/import/FramedFiles.h"
+
+#include "meridane/scene/Files.h"
+#include "meridane/scene/NxSceneWriter.h"
+
+#include <QTimer>
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+/// Writes a scene as a foreign model, in the format that the file's extension names: the text of the scene goes to the
+/// import helper, and the files that come back replace those of the same names, once all of them are written. The scene
+/// must not change meanwhile.
+class ExportJob : public FileJob {
+    Q_OBJECT
+
+public:
+    ExportJob(const NxRef<NxGroup>& scene, const QString& fileName, const HelperOptions& options = {});
+    ~ExportJob() override;
+
+    void start() override;
+    void cancel() override;
+
+private:
+    void writeScene();
+    void takeFiles();
+    void writeFiles();
+    void commitFiles();
+    void end();
+    void fail(const QString& message);
+
+    NxRef<NxGroup> m_scene;
+    HelperProcess m_helper;
+    QTimer m_slices;
+    std::unique_ptr<NxSceneWriter> m_writer;
+    std::vector<orvane::NamedFile> m_files;
+    std::vector<std::unique_ptr<meridane::FileReplacer>> m_replacers; // of the files that are open, in their order
+    std::size_t m_written = 0; // of the last of them, in bytes
+    bool m_ended = false;
+};

@@ -1,0 +1,140 @@
+#include "orvane/app/HelperProcess.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <csignal>
+
+namespace {
+
+QString helperProgram(const HelperOptions& options)
+{
+    return options.program.isEmpty()
+        ? QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("orvane-import"))
+        : options.program;
+}
+
+// The last line that isn't blank: earlier ones are the chatter of a library.
+QString lastLine(const QByteArray& bytes)
+{
+    constexpr qsizetype longest = 2000;
+    const QStringList lines = QString::fromUtf8(bytes.right(longest)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return lines.isEmpty() ? QString() : lines.last().simplified();
+}
+
+} // namespace
+
+HelperProcess::HelperProcess(const HelperOptions& options, const QStringList& arguments)
+    : m_options(options)
+    , m_arguments(arguments)
+{
+    m_options.program = helperProgram(options);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(options.patience);
+    connect(&m_process, &QProcess::readyReadStandardOutput, this, &HelperProcess::takeOutputOfProcess);
+    connect(&m_process, &QProcess::finished, this, &HelperProcess::takeEnd);
+    // Queued, since a process that can't be started may say so at once.
+    connect(&m_process, &QProcess::errorOccurred, this, &HelperProcess::takeError, Qt::QueuedConnection);
+    connect(&m_process, &QProcess::bytesWritten, this, [this] {
+        m_patience.start();
+        Q_EMIT inputTaken();
+    });
+    connect(&m_patience, &QTimer::timeout, this, [this] {
+        fail(QStringLiteral("the import helper did nothing for %1 s and was stopped")
+                 .arg(std::chrono::duration<double>(m_options.patience).count()));
+    });
+}
+
+HelperProcess::~HelperProcess()
+{
+    kill();
+    m_process.waitForFinished();
+}
+
+void HelperProcess::start()
+{
+    m_patience.start();
+    m_process.start(
+        m_options.program, QStringList{QStringLiteral("--memory"), QString::number(m_options.memoryMiB)} + m_arguments);
+}
+
+void HelperProcess::kill()
+{
+    m_ended = true;
+    m_patience.stop();
+    m_process.disconnect(this);
+    m_process.kill();
+}
+
+void HelperProcess::write(std::string_view bytes)
+{
+    m_process.write(bytes.data(), static_cast<qint64>(bytes.size()));
+}
+
+void HelperProcess::closeInput()
+{
+    m_process.closeWriteChannel();
+}
+
+std::size_t HelperProcess::pendingInput() const
+{
+    return static_cast<std::size_t>(m_process.bytesToWrite());
+}
+
+std::string HelperProcess::takeOutput()
+{
+    return std::move(m_output);
+}
+
+void HelperProcess::takeOutputOfProcess()
+{
+    m_patience.start();
+    const QByteArray bytes = m_process.readAllStandardOutput();
+    m_output.append(bytes.data(), static_cast<std::size_t>(bytes.size()));
+    if (m_output.size() > m_options.outputLimit)
+        fail(QStringLiteral("the import helper wrote more than %1 MiB and was stopped")
+                 .arg(m_options.outputLimit >> 20));
+}
+
+void HelperProcess::takeEnd(int exitCode, QProcess::ExitStatus status)
+{
+    takeOutputOfProcess();
+    if (m_ended)
+        return;
+    const QString message = lastLine(m_process.readAllStandardError());
+    if (status == QProcess::CrashExit) {
+        fail(crashReason(exitCode));
+    } else if (exitCode != 0 && !message.isEmpty()) {
+        fail(message, true);
+    } else if (exitCode != 0) {
+        fail(QStringLiteral("the import helper ended with status %1 and didn't say why").arg(exitCode));
+    } else {
+        m_ended = true;
+        m_patience.stop();
+        Q_EMIT ended();
+    }
+}
+
+void HelperProcess::takeError(QProcess::ProcessError error)
+{
+    // The other errors are told by the end of the process, with its own message.
+    if (error == QProcess::FailedToStart && !m_ended)
+        fail(QStringLiteral("the import helper %1 can't be started: %2")
+                 .arg(m_options.program, m_process.errorString()));
+}
+
+void HelperProcess::fail(const QString& reason, bool byHelper)
+{
+    kill();
+    Q_EMIT failed(reason, byHelper);
+}
+
+QString HelperProcess::crashReason(int signal) const
+{
+    // When memory is short, the kernel and the library's own checks end a process without a word.
+    if (signal == SIGXCPU)
+        return QStringLiteral("the import helper needed too much processor time and was stopped");
+    if (signal == SIGKILL)
+        return QStringLiteral("the import helper was killed, maybe for want of memory");
+    return QStringLiteral("the import helper crashed with signal %1").arg(signal);
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QObject>
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTimer>
+
+#include <chrono>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// How the import helper is run.
+struct HelperOptions {
+    /// The program; empty for the one beside the application.
+    QString program;
+    /// Memory that it may take, in MiB.
+    int memoryMiB = 4096;
+    /// How long it may go without taking or giving a byte.
+    std::chrono::milliseconds patience = std::chrono::minutes(2);
+    /// The most that it may write, in bytes.
+    std::size_t outputLimit = std::size_t{4} << 30;
+};
+
+/// The import helper at work: a process that is fed, listened to, watched and, if need be, killed.
+///
+/// It ends with exactly one of `ended` and `failed`, emitted from the event loop, unless it is destroyed first; then
+/// the process is killed. Thread of the user interface only.
+class HelperProcess : public QObject {
+    Q_OBJECT
+
+public:
+    HelperProcess(const HelperOptions& options, const QStringList& arguments);
+    ~HelperProcess() override;
+
+    void start();
+    /// Kills the process; nothing is emitted any more.
+    void kill();
+
+    /// Gives the process something to read.
+    void write(std::string_view bytes);
+    /// Tells the process that it has read everything.
+    void closeInput();
+    /// How many bytes wait to be read by the process.
+    [[nodiscard]] std::size_t pendingInput() const;
+
+    /// What the process has written so far, at `ended` all of it.
+    [[nodiscard]] std::string takeOutput();
+
+Q_SIGNALS:
+    /// The process took some of what was written to it.
+    void inputTaken();
+    /// The process ended by itself and says that all is well.
+    void ended();
+    /// Why there will be no result. `byHelper` tells that the text is the helper's own message, which names the file.
+    void failed(const QString& reason, bool byHelper);
+
+private:
+    void takeOutputOfProcess();
+    void takeEnd(int exitCode, QProcess::ExitStatus status);
+    void takeError(QProcess::ProcessError error);
+    void fail(const QString& reason, bool byHelper = false);
+    [[nodiscard]] QString crashReason(int signal) const;
+
+    HelperOptions m_options;
+    QStringList m_arguments;
+    QProcess m_process;
+    QTimer m_patience;
+    std::string m_output;
+    bool m_ended = false;
+};

@@ -1,0 +1,98 @@
+#include "orvane/import/Arguments.h"
+
+#include <charconv>
+#include <cstdlib>
+#include <string_view>
+
+namespace orvane {
+namespace {
+
+bool parseNumber(std::string_view text, std::size_t& number)
+{
+    const auto [behind, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    // A MiB count must fit in bytes as well.
+    return error == std::errc() && behind == text.data() + text.size() && number < (std::size_t{1} << 40);
+}
+
+bool takeEnvironment(Arguments& arguments, std::string& error)
+{
+    const char* memory = std::getenv("ORVANE_IMPORT_MEMORY");
+    if (memory == nullptr || parseNumber(memory, arguments.limits.memoryMiB))
+        return true;
+    error = std::string("ORVANE_IMPORT_MEMORY must be a number of MiB, not \"") + memory + "\"";
+    return false;
+}
+
+// Null for an option that takes no value.
+std::string* valueOf(std::string_view option, Arguments& arguments)
+{
+    if (option == "--read") {
+        arguments.task = Arguments::Task::Read;
+        return &arguments.subject;
+    }
+    if (option == "--write") {
+        arguments.task = Arguments::Task::Write;
+        return &arguments.subject;
+    }
+    return option == "--name" ? &arguments.name : nullptr;
+}
+
+std::size_t* numberOf(std::string_view option, Arguments& arguments)
+{
+    if (option == "--memory")
+        return &arguments.limits.memoryMiB;
+    return option == "--processor-time" ? &arguments.limits.processorSeconds : nullptr;
+}
+
+} // namespace
+
+const char* usage() noexcept
+{
+    return "Usage: orvane-import --read FILE            write the model as a scene to standard output\n"
+           "       orvane-import --write EXTENSION      read a scene from standard input and write the model,\n"
+           "                     [--name NAME]          as framed files, to standard output\n"
+           "       orvane-import --formats              list the extensions that are read and written\n"
+           "Options: --memory MIB                       memory to take at most, 0 for no limit (default 4096,\n"
+           "                                            or what ORVANE_IMPORT_MEMORY says)\n"
+           "         --processor-time SECONDS           processor time to take at most, 0 for no limit (300)\n";
+}
+
+std::optional<Arguments> parseArguments(std::span<const char* const> texts, std::string& error)
+{
+    Arguments arguments;
+    int tasks = 0;
+    if (!takeEnvironment(arguments, error))
+        return std::nullopt;
+    for (std::size_t index = 0; index < texts.size(); ++index) {
+        const std::string option = texts[index];
+        if (option == "--help" || option == "--formats") {
+            arguments.task = option == "--help" ? Arguments::Task::Help : Arguments::Task::Formats;
+            ++tasks;
+            continue;
+        }
+        std::string* const value = valueOf(option, arguments);
+        std::size_t* const number = numberOf(option, arguments);
+        if (value == nullptr && number == nullptr) {
+            error = "unknown argument \"" + option + "\"";
+            return std::nullopt;
+        }
+        if (++index == texts.size()) {
+            error = option + " needs a value";
+            return std::nullopt;
+        }
+        if (number != nullptr && !parseNumber(texts[index], *number)) {
+            error = option + " needs a whole number, not \"" + texts[index] + "\"";
+            return std::nullopt;
+        }
+        if (value != nullptr)
+            *value = texts[index];
+        tasks += value == &arguments.subject ? 1 : 0;
+    }
+    if (tasks != 1) {
+        error = "one of --read, --write and --formats is needed";
+        return std::nullopt;
+    }
+    return arguments;
+}
+
+} // namespace orvane

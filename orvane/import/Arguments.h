@@ -1,0 +1,28 @@
+#pragma once
+
+#include "orvane/import/ProcessLimits.h"
+
+#include <optional>
+#include <span>
+#include <string>
+
+/// What the helper was asked to do.
+namespace orvane {
+
+struct Arguments {
+    enum class Task { Read, Write, Formats, Help };
+
+    Task task = Task::Help;
+    /// Read: the path of the model. Write: the extension that names the format.
+    std::string subject;
+    /// Write: the name of the model's files without extension.
+    std::string name = "model";
+    ProcessLimits limits;
+};
+
+/// How the helper is called, a few lines.
+[[nodiscard]] const char* usage() noexcept;
+/// Understands the arguments behind the program's name. Nothing for unusable ones, which `error` tells.
+[[nodiscard]] std::optional<Arguments> parseArguments(std::span<const char* const> arguments, std::string& error);
+
+} // namespace orvane

@@ -1,0 +1,222 @@
+#include "orvane/import/ModelBuilder.h"
+
+#include "orvane/import/CameraConversion.h"
+#include "orvane/import/ImageCodec.h"
+#include "orvane/import/LightConversion.h"
+#include "orvane/import/MaterialConversion.h"
+#include "orvane/import/MeshConversion.h"
+#include "orvane/import/Placement.h"
+#include "orvane/import/Texts.h"
+
+#include "meridane/scene/NxSwitch.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace orvane {
+
+struct ModelBuilder::Node {
+    std::unique_ptr<aiNode> node = std::make_unique<aiNode>();
+    std::vector<unsigned int> meshes;
+    std::vector<std::unique_ptr<Node>> children;
+
+    // The library's form: arrays that it deletes itself.
+    std::unique_ptr<aiNode> finish()
+    {
+        node->mNumMeshes = static_cast<unsigned int>(meshes.size());
+        node->mMeshes = meshes.empty() ? nullptr : new unsigned int[meshes.size()];
+        std::copy(meshes.begin(), meshes.end(), node->mMeshes);
+        node->mNumChildren = static_cast<unsigned int>(children.size());
+        node->mChildren = children.empty() ? nullptr : new aiNode*[children.size()]();
+        for (std::size_t index = 0; index < children.size(); ++index) {
+            node->mChildren[index] = children[index]->finish().release();
+            node->mChildren[index]->mParent = node.get();
+        }
+        return std::move(node);
+    }
+};
+
+namespace {
+
+template <typename T>
+void release(std::vector<std::unique_ptr<T>>& objects, T**& array, unsigned int& count)
+{
+    array = objects.empty() ? nullptr : new T*[objects.size()];
+    count = static_cast<unsigned int>(objects.size());
+    for (std::size_t index = 0; index < objects.size(); ++index)
+        array[index] = objects[index].release();
+}
+
+bool isShown(const NxGroup& group, int index)
+{
+    const auto* choice = dynamic_cast<const NxSwitch*>(&group);
+    return choice == nullptr || choice->whichChild.getValue() == NxSwitch::ALL
+        || choice->whichChild.getValue() == index;
+}
+
+} // namespace
+
+ModelBuilder::ModelBuilder(Images images, std::string imageName)
+    : m_images(images)
+    , m_imageName(std::move(imageName))
+{
+}
+
+ModelBuilder::~ModelBuilder() = default;
+
+std::unique_ptr<aiScene> ModelBuilder::build(const NxGroup& scene, std::string& error)
+{
+    Node root;
+    root.node->mName = toAiText(std::string_view("ROOT"));
+    m_names.insert("ROOT");
+    addChildren(root, scene, {});
+    if (m_error.empty() && m_meshes.empty())
+        m_error = "the scene has no mesh that could be written";
+    if (!m_error.empty()) {
+        error = m_error;
+        return nullptr;
+    }
+    auto model = std::make_unique<aiScene>();
+    model->mRootNode = root.finish().release();
+    release(m_meshes, model->mMeshes, model->mNumMeshes);
+    release(m_materials, model->mMaterials, model->mNumMaterials);
+    release(m_textures, model->mTextures, model->mNumTextures);
+    release(m_lights, model->mLights, model->mNumLights);
+    release(m_cameras, model->mCameras, model->mNumCameras);
+    return model;
+}
+
+void ModelBuilder::addChildren(Node& node, const NxGroup& group, Look look)
+{
+    for (int index = 0; index < group.getNumChildren() && m_error.empty(); ++index) {
+        const NxNode* child = group.getChild(index);
+        if (!isShown(group, index))
+            continue;
+        if (const auto* material = dynamic_cast<const NxMaterial*>(child))
+            look.material = material;
+        else if (const auto* texture = dynamic_cast<const NxTexture*>(child))
+            look.texture = texture;
+        else if (const auto* mesh = dynamic_cast<const NxMesh*>(child))
+            addMesh(node, *mesh, look);
+        else if (const auto* light = dynamic_cast<const NxLight*>(child))
+            addLight(node, *light);
+        else if (const auto* camera = dynamic_cast<const NxCamera*>(child))
+            addCamera(node, *camera);
+        else if (const auto* inner = dynamic_cast<const NxGroup*>(child))
+            addGroup(node, *inner, look);
+    }
+}
+
+void ModelBuilder::addGroup(Node& node, const NxGroup& group, const Look& look)
+{
+    const aiMatrix4x4 placement = matrixOf(group);
+    if (group.getName().isEmpty() && placement == aiMatrix4x4()) {
+        addChildren(node, group, look);
+        return;
+    }
+    addChildren(addPlaced(node, group.getName(), "", placement), group, look);
+}
+
+void ModelBuilder::addMesh(Node& node, const NxMesh& mesh, const Look& look)
+{
+    const auto [place, isNew] = m_meshIndices.try_emplace({&mesh, look}, -1);
+    if (isNew) {
+        std::unique_ptr<aiMesh> made = toAiMesh(mesh, m_error);
+        if (made == nullptr)
+            return;
+        made->mMaterialIndex = materialIndex(look);
+        place->second = static_cast<int>(m_meshes.size());
+        m_meshes.push_back(std::move(made));
+    }
+    if (place->second < 0)
+        return;
+    const auto index = static_cast<unsigned int>(place->second);
+    // A node of the library holds a mesh once; what stands there twice needs another node.
+    const bool isThere = std::find(node.meshes.begin(), node.meshes.end(), index) != node.meshes.end();
+    (isThere ? addPlaced(node, VbString(), "", aiMatrix4x4()) : node).meshes.push_back(index);
+}
+
+void ModelBuilder::addLight(Node& node, const NxLight& light)
+{
+    aiMatrix4x4 placement;
+    std::unique_ptr<aiLight> made = toAiLight(light, placement);
+    if (made == nullptr || light.on.getValue() == 0)
+        return;
+    made->mName = addPlaced(node, light.getName(), "Light", placement).node->mName;
+    m_lights.push_back(std::move(made));
+}
+
+void ModelBuilder::addCamera(Node& node, const NxCamera& camera)
+{
+    aiMatrix4x4 placement;
+    std::unique_ptr<aiCamera> made = toAiCamera(camera, placement);
+    if (made == nullptr)
+        return;
+    made->mName = addPlaced(node, camera.getName(), "Camera", placement).node->mName;
+    m_cameras.push_back(std::move(made));
+}
+
+ModelBuilder::Node& ModelBuilder::addPlaced(
+    Node& node, const VbString& name, const char* otherwise, const aiMatrix4x4& placement)
+{
+    Node& child = *node.children.emplace_back(std::make_unique<Node>());
+    // A light or a camera finds its node by the name, so theirs are unique.
+    child.node->mName = *otherwise != '\0' ? toAiText(uniqueName(name, otherwise)) : toAiText(name);
+    m_names.emplace(name.view());
+    child.node->mTransformation = placement;
+    return child;
+}
+
+unsigned int ModelBuilder::materialIndex(const Look& look)
+{
+    const auto [place, isNew] = m_materialIndices.try_emplace(look, static_cast<unsigned int>(m_materials.size()));
+    if (isNew) {
+        aiMaterial& made = *m_materials.emplace_back(std::make_unique<aiMaterial>());
+        setMaterial(made, look.material);
+        const std::string path = look.texture == nullptr ? std::string() : picturePath(*look.texture);
+        if (!path.empty())
+            setTexture(made, *look.texture, path);
+    }
+    return place->second;
+}
+
+std::string ModelBuilder::picturePath(const NxTexture& texture)
+{
+    const auto [place, isNew] = m_picturePaths.try_emplace(&texture, texture.filePath.getValue().view());
+    VbVec2s size;
+    Picture picture;
+    const unsigned char* bytes = texture.image.getValue(size, picture.components);
+    if (!isNew || bytes == nullptr || m_images == Images::Nowhere)
+        return place->second;
+    picture.width = size[0];
+    picture.height = size[1];
+    const std::size_t pixels = static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height);
+    picture.bytes.assign(bytes, bytes + pixels * static_cast<std::size_t>(picture.components));
+    const std::string file = encodePng(picture);
+    if (m_images == Images::Beside) {
+        place->second = m_imageName + "_" + std::to_string(m_imageFiles.size()) + ".png";
+        m_imageFiles.push_back({place->second, file});
+        return place->second;
+    }
+    aiTexture& made = *m_textures.emplace_back(std::make_unique<aiTexture>());
+    made.mFilename = toAiText(texture.filePath.getValue());
+    made.mWidth = static_cast<unsigned int>(file.size());
+    std::strcpy(made.achFormatHint, "png");
+    // The library's type of a pixel stands for four bytes of any file.
+    made.pcData = new aiTexel[file.size() / sizeof(aiTexel) + 1];
+    std::memcpy(made.pcData, file.data(), file.size());
+    place->second = "*" + std::to_string(m_textures.size() - 1);
+    return place->second;
+}
+
+std::string ModelBuilder::uniqueName(const VbString& name, const char* otherwise)
+{
+    const std::string wanted = name.isEmpty() ? std::string(otherwise) : std::string(name.view());
+    std::string result = wanted;
+    for (int number = 2; !m_names.insert(result).second; ++number)
+        result = wanted + "_" + std::to_string(number);
+    return result;
+}
+
+} // namespace orvane

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The foreign formats, each named by the extension of its files: lower case, without the dot.
+namespace orvane {
+
+/// All extensions that can be read, sorted.
+[[nodiscard]] std::vector<std::string> readableExtensions();
+/// All extensions that can be written, sorted.
+[[nodiscard]] std::vector<std::string> writableExtensions();
+/// The export library's name of the format for that extension, in any case; empty for one that isn't written.
+[[nodiscard]] std::string exportFormat(std::string_view extension);
+
+} // namespace orvane

@@ -1,0 +1,54 @@
+#include "orvane/import/ModelReader.h"
+
+#include "orvane/import/SceneBuilder.h"
+
+#include "meridane/scene/Files.h"
+
+#include <algorithm>
+#include <assimp/Importer.hpp>
+
+#include <assimp/postprocess.h>
+#include <assimp/scene.h>
+
+namespace orvane {
+namespace {
+
+// Corners that are alike become one vertex, so that formats which know no indices arrive like those that do.
+constexpr unsigned int steps
+    = aiProcess_ValidateDataStructure | aiProcess_Triangulate | aiProcess_SortByPType | aiProcess_JoinIdenticalVertices;
+
+std::string failureText(const Assimp::Importer& importer)
+{
+    std::string text = importer.GetErrorString();
+    if (text.empty())
+        return "the model can't be read";
+    // The library repeats the whole path and knows nothing better to say.
+    if (text.starts_with("No suitable reader found"))
+        return "this is in none of the model formats that can be read";
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
+    return "the model is broken: " + text;
+}
+
+} // namespace
+
+NxRef<NxGroup> readModel(const std::string& path, std::string& error)
+{
+    // The library has one message for all that can be wrong with a file; the toolkit tells them apart.
+    if (const std::optional<std::string> failure = meridane::FileReader().open(path)) {
+        error = *failure;
+        return {};
+    }
+    Assimp::Importer importer;
+    const aiScene* model = importer.ReadFile(path, steps);
+    if (model == nullptr || model->mRootNode == nullptr) {
+        error = path + ": " + failureText(importer);
+        return {};
+    }
+    NxRef<NxGroup> scene = SceneBuilder(*model).build(error);
+    if (!scene)
+        error = path + ": " + error;
+    return scene;
+}
+
+} // namespace orvane

@@ -1,0 +1,80 @@
+#include "orvane/import/ModelWriter.h"
+
+#include "orvane/import/MemoryFiles.h"
+#include "orvane/import/ModelBuilder.h"
+#include "orvane/import/ModelFormats.h"
+
+#include <algorithm>
+#include <array>
+#include <assimp/Exporter.hpp>
+#include <utility>
+
+namespace orvane {
+namespace {
+
+ModelBuilder::Images imagesOf(std::string_view format)
+{
+    if (format == "fbxa" || format == "glb2" || format == "gltf2")
+        return ModelBuilder::Images::Inside;
+    return format == "stlb" ? ModelBuilder::Images::Nowhere : ModelBuilder::Images::Beside;
+}
+
+// Formats that give all meshes colours if one has them, black ones.
+bool mixesColors(std::string_view format)
+{
+    return format == "obj" || format == "ply";
+}
+
+// Gives meshes without colours the one that they are seen with.
+void completeColors(const aiScene& model)
+{
+    const std::span<aiMesh* const> meshes(model.mMeshes, model.mNumMeshes);
+    if (std::none_of(meshes.begin(), meshes.end(), [](const aiMesh* mesh) { return mesh->HasVertexColors(0); }))
+        return;
+    for (aiMesh* mesh : meshes) {
+        if (mesh->HasVertexColors(0))
+            continue;
+        aiColor4D color;
+        const aiMaterial& material = *model.mMaterials[mesh->mMaterialIndex];
+        material.Get(AI_MATKEY_COLOR_DIFFUSE, color);
+        material.Get(AI_MATKEY_OPACITY, color.a);
+        mesh->mColors[0] = new aiColor4D[mesh->mNumVertices];
+        std::fill_n(mesh->mColors[0], mesh->mNumVertices, color);
+    }
+}
+
+} // namespace
+
+std::vector<NamedFile> writeModel(
+    NxGroup& scene, const std::string& extension, const std::string& name, std::string& error)
+{
+    const std::string format = exportFormat(extension);
+    const std::string file = name + "." + extension;
+    ModelBuilder builder(imagesOf(format), name);
+    const std::unique_ptr<aiScene> model = builder.build(scene, error);
+    if (model == nullptr)
+        return {};
+    if (mixesColors(format))
+        completeColors(*model);
+
+    Assimp::Exporter exporter;
+    auto* files = new MemoryFiles; // the exporter's own
+    exporter.SetIOHandler(files);
+    if (exporter.Export(model.get(), format, file) != aiReturn_SUCCESS) {
+        error = exporter.GetErrorString();
+        return {};
+    }
+    std::vector<NamedFile> result = files->takeFiles();
+    const auto main
+        = std::find_if(result.begin(), result.end(), [&](const NamedFile& each) { return each.name == file; });
+    if (main == result.end() || main->bytes.empty()) {
+        error = "the export library wrote nothing";
+        return {};
+    }
+    std::rotate(result.begin(), main, main + 1);
+    for (NamedFile& image : builder.takeImageFiles())
+        result.push_back(std::move(image));
+    return result;
+}
+
+} // namespace orvane

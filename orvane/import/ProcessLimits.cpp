@@ -1,0 +1,70 @@
+#include "orvane/import/ProcessLimits.h"
+
+#include <csignal>
+#include <cstdio>
+#include <new>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace orvane {
+namespace {
+
+char outOfMemoryText[128];
+int outOfMemoryLength = 0;
+
+void setLimit(decltype(RLIMIT_AS) resource, rlim_t value)
+{
+    rlimit limit{};
+    if (getrlimit(resource, &limit) != 0)
+        return;
+    limit.rlim_cur = limit.rlim_max = value < limit.rlim_max ? value : limit.rlim_max;
+    setrlimit(resource, &limit);
+}
+
+// The address sanitizer reserves terabytes of address space for itself.
+constexpr bool addressSpaceIsOurs()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    return false;
+#else
+    return true;
+#endif
+}
+
+// The import library catches std::bad_alloc in some places and goes on with half a model, so nothing is thrown.
+[[noreturn]] void endOutOfMemory()
+{
+    [[maybe_unused]] const ssize_t written
+        = write(STDERR_FILENO, outOfMemoryText, static_cast<std::size_t>(outOfMemoryLength));
+    _exit(outOfMemoryStatus);
+}
+
+bool writesToAFile()
+{
+    struct stat status { };
+    return fstat(STDOUT_FILENO, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+} // namespace
+
+void applyLimits(const ProcessLimits& limits)
+{
+    outOfMemoryLength = std::snprintf(outOfMemoryText, sizeof outOfMemoryText,
+        "out of memory: the model needs more than the %zu MiB that it may take\n", limits.memoryMiB);
+    std::set_new_handler(&endOutOfMemory);
+    if (limits.memoryMiB != 0 && addressSpaceIsOurs())
+        setLimit(RLIMIT_AS, static_cast<rlim_t>(limits.memoryMiB) << 20);
+    if (limits.processorSeconds != 0)
+        setLimit(RLIMIT_CPU, static_cast<rlim_t>(limits.processorSeconds));
+    setLimit(RLIMIT_CORE, 0);
+    // A redirected standard output is a file that the user wants written.
+    if (!writesToAFile())
+        setLimit(RLIMIT_FSIZE, 0);
+    // A write that is refused is an error like any other, not the death of the process.
+    std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
+} // namespace orvane

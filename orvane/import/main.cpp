@@ -1,0 +1,145 @@
+#include "orvane/import/Arguments.h"
+#include "orvane/import/ModelFormats.h"
+#include "orvane/import/ModelReader.h"
+#include "orvane/import/ModelWriter.h"
+
+#include "meridane/scene/NxSceneReader.h"
+#include "meridane/scene/NxSceneWriter.h"
+
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <string>
+#include <string_view>
+
+#include <unistd.h>
+
+namespace {
+
+using orvane::Arguments;
+
+enum Status : int { Success = 0, Failure = 1, BadArguments = 2 };
+
+int fail(const std::string& message, Status status = Failure)
+{
+    std::fprintf(stderr, "%s\n", message.c_str());
+    return status;
+}
+
+bool writeAll(std::string_view bytes, std::string& error)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = write(STDOUT_FILENO, bytes.data(), bytes.size());
+        if (written > 0) {
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        } else if (errno != EINTR) {
+            error = std::string("standard output: ") + std::strerror(errno);
+            return false;
+        }
+    }
+    return true;
+}
+
+bool readAll(std::string& bytes, std::string& error)
+{
+    constexpr std::size_t portion = std::size_t{1} << 16;
+    for (;;) {
+        const std::size_t size = bytes.size();
+        bytes.resize(size + portion);
+        const ssize_t count = read(STDIN_FILENO, bytes.data() + size, portion);
+        bytes.resize(size + (count > 0 ? static_cast<std::size_t>(count) : 0));
+        if (count == 0)
+            return true;
+        if (count < 0 && errno != EINTR) {
+            error = std::string("standard input: ") + std::strerror(errno);
+            return false;
+        }
+    }
+}
+
+int readModel(const std::string& path)
+{
+    std::string error;
+    const NxRef<NxGroup> scene = orvane::readModel(path, error);
+    if (!scene)
+        return fail(error);
+    NxSceneWriter writer(scene.get());
+    std::string text;
+    bool more = true;
+    while (more) {
+        more = writer.step(text, std::chrono::milliseconds(20));
+        if (!writeAll(text, error))
+            return fail(error);
+        text.clear();
+    }
+    return Success;
+}
+
+int writeModel(const std::string& extension, const std::string& name)
+{
+    std::string text;
+    std::string error;
+    if (orvane::exportFormat(extension).empty())
+        return fail(name + "." + extension + ": models of this format can't be written");
+    if (!readAll(text, error))
+        return fail(error);
+    NxSceneReader reader(std::move(text), "standard input");
+    if (reader.run() != NxSceneReader::State::Done)
+        return fail(reader.failure().text());
+    const std::vector<orvane::NamedFile> files = orvane::writeModel(*reader.takeScene(), extension, name, error);
+    if (files.empty())
+        return fail(name + "." + extension + ": " + error);
+    bool good = writeAll(orvane::framedFilesStart(), error);
+    for (const orvane::NamedFile& file : files)
+        good = good && writeAll(orvane::framedFileHeader(file.name, file.bytes.size()), error)
+            && writeAll(file.bytes, error);
+    good = good && writeAll(orvane::framedFilesEnd(), error);
+    return good ? Success : fail(error);
+}
+
+int listFormats()
+{
+    std::string text = "read";
+    for (const std::string& extension : orvane::readableExtensions())
+        text += " " + extension;
+    text += "\nwrite";
+    for (const std::string& extension : orvane::writableExtensions())
+        text += " " + extension;
+    std::string error;
+    return writeAll(text + "\n", error) ? Success : fail(error);
+}
+
+int run(const Arguments& arguments)
+{
+    switch (arguments.task) {
+    case Arguments::Task::Read:
+        return readModel(arguments.subject);
+    case Arguments::Task::Write:
+        return writeModel(arguments.subject, arguments.name);
+    case Arguments::Task::Formats:
+        return listFormats();
+    case Arguments::Task::Help:
+        std::fputs(orvane::usage(), stdout);
+        return Success;
+    }
+    return BadArguments;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::string error;
+    const std::span<const char* const> texts(argv, static_cast<std::size_t>(argc));
+    const std::optional<Arguments> arguments = orvane::parseArguments(texts.subspan(argc > 0 ? 1 : 0), error);
+    if (!arguments)
+        return fail(error + "; --help tells how it is used", BadArguments);
+    orvane::applyLimits(arguments->limits);
+    try {
+        return run(*arguments);
+    } catch (const std::exception& exception) {
+        return fail(std::string("the import library gave up: ") + exception.what());
+    }
+}
