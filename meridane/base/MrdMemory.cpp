@@ -3,6 +3,7 @@
 #include "meridane/base/NxMemoryError.h"
 
 #include <cstdlib>
+#include <new>
 
 #include <malloc.h>
 
@@ -26,8 +27,13 @@ void count(TMrdMemCnt* counter, std::int64_t blocks, std::int64_t bytes)
 
 void reportFailure(const char* file, int line, std::size_t size)
 {
-    if (file != nullptr)
+    if (file == nullptr)
+        return;
+    try {
         NxMemoryError::post(file, line, size);
+    } catch (const std::bad_alloc&) {
+        // Not even the message found room. The caller still learns of the failure by the null pointer.
+    }
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <limits>
+#include <new>
 #include <thread>
 
 namespace {
@@ -142,6 +143,12 @@ private Q_SLOTS:
         QCOMPARE(recorder.texts()[0], "image.cpp:5: no memory for " + std::to_string(tooMuch) + " bytes");
         QCOMPARE(counter.blocks.load(), 0);
         QCOMPARE(counter.bytes.load(), 0);
+    }
+
+    void aMessageThatFindsNoRoomItselfIsDropped()
+    {
+        const HandlerGuard<NxMemoryError> guard([](const NxError*, void*) { throw std::bad_alloc(); }, nullptr);
+        QVERIFY(safeMalloc("image.cpp", 5, tooMuch, nullptr) == nullptr);
     }
 
     void eightThreadsCountTogether()
