@@ -154,7 +154,7 @@ std::optional<std::string> FileReplacer::open(const std::string& path)
     if (replaces && !S_ISREG(old.st_mode))
         return failure(path, "is no regular file");
     // The folder alone decides about renaming; a file that its owner protected is left alone all the same.
-    if (replaces && ::access(m_target.c_str(), W_OK) != 0)
+    if (replaces && ::faccessat(AT_FDCWD, m_target.c_str(), W_OK, AT_EACCESS) != 0)
         return systemFailure(path);
     std::string temporary;
     m_descriptor = createBeside(m_target, temporary);

@@ -12,11 +12,9 @@ NxGroup* asGroup(NxNode* node)
     return node->isOfType(NxGroup::getClassTypeId()) ? static_cast<NxGroup*>(node) : nullptr;
 }
 
-/// True when `wanted` is `top` or stands somewhere below it. Keeps its own stack, since nodes may be nested deeply.
+/// True when `wanted` stands somewhere below `top`. Keeps its own stack, since nodes may be nested deeply.
 bool holds(NxNode* top, const NxNode* wanted)
 {
-    if (top == wanted)
-        return true;
     std::vector<NxNode*> waiting{top};
     std::unordered_set<const NxNode*> seen; // shared nodes are walked once
     while (!waiting.empty()) {
@@ -46,7 +44,7 @@ NxGroup::~NxGroup()
             NxGroup* childGroup = child->getRefCount() == 1 ? asGroup(child) : nullptr;
             if (childGroup == nullptr || childGroup->m_children.empty()) {
                 group->m_children.pop_back();
-                child->unref();
+                release(child);
             } else {
                 group->m_children.back() = above;
                 above = group;
@@ -86,10 +84,13 @@ bool NxGroup::addChild(NxNode* node)
 
 bool NxGroup::insertChild(NxNode* node, int index)
 {
-    if (node == nullptr || index < 0 || index > getNumChildren() || holds(node, this))
+    if (node == nullptr || node == this || index < 0 || index > getNumChildren())
+        return false;
+    // A group that stands nowhere closes no cycle, so that scenes can be built from the bottom up without a search.
+    if (m_places > 0 && holds(node, this))
         return false;
     m_children.insert(m_children.begin() + index, node);
-    node->ref();
+    hold(node);
     touch();
     return true;
 }
@@ -101,7 +102,7 @@ bool NxGroup::removeChild(int index)
         return false;
     m_children.erase(m_children.begin() + index);
     touch();
-    child->unref();
+    release(child);
     return true;
 }
 
@@ -113,11 +114,25 @@ void NxGroup::removeAllChildren()
     children.swap(m_children);
     touch();
     for (NxNode* child : children)
-        child->unref();
+        release(child);
 }
 
 void NxGroup::appendUnchecked(NxNode* node)
 {
     m_children.push_back(node);
+    hold(node);
+}
+
+void NxGroup::hold(NxNode* node)
+{
+    if (NxGroup* group = asGroup(node))
+        ++group->m_places;
     node->ref();
+}
+
+void NxGroup::release(NxNode* node)
+{
+    if (NxGroup* group = asGroup(node))
+        --group->m_places;
+    node->unref();
 }

@@ -35,6 +35,9 @@ private:
 
     /// For a node that is known not to hold this group.
     void appendUnchecked(NxNode* node);
+    static void hold(NxNode* node);
+    static void release(NxNode* node);
 
     std::vector<NxNode*> m_children;
+    std::size_t m_places = 0; // in which groups hold this one
 };
