@@ -1,0 +1,35 @@
+# Who may include whom. An arrow never points upwards; application and plug-in meet in orvane/extender only.
+# Fails for every include in the folder's sources that matches the pattern, which is matched against the whole
+# directive.
+function(forbid folder pattern why)
+  file(GLOB_RECURSE sources "${SOURCE_DIR}/${folder}/*.h" "${SOURCE_DIR}/${folder}/*.cpp")
+  if(NOT sources)
+    message(FATAL_ERROR "no sources in ${folder}")
+  endif()
+  foreach(source IN LISTS sources)
+    file(STRINGS "${source}" lines REGEX "^[ \t]*#[ \t]*include")
+    foreach(line IN LISTS lines)
+      if(line MATCHES "${pattern}")
+        message(SEND_ERROR "${source}: ${line}: ${why}")
+      endif()
+    endforeach()
+  endforeach()
+endfunction()
+
+# The plug-in's headers are named relative to its own folder.
+file(GLOB_RECURSE plugin_headers RELATIVE "${SOURCE_DIR}/src" "${SOURCE_DIR}/src/*.h")
+set(plugin_names)
+foreach(header IN LISTS plugin_headers)
+  get_filename_component(name "${header}" NAME)
+  string(REPLACE "." "\\." name "${name}")
+  list(APPEND plugin_names "${name}")
+endforeach()
+list(JOIN plugin_names "|" plugin_names)
+
+forbid(meridane "<Q[A-Za-z]|<Qt" "the toolkit knows nothing of Qt")
+forbid(meridane "\"orvane/" "the toolkit knows nothing of the tool")
+forbid(meridane/base "\"meridane/scene/" "the base knows nothing of the scene")
+forbid(orvane/extender "\"orvane/(app|import)/" "the host framework knows nothing of the application")
+forbid(src "\"orvane/(app|import)/" "the plug-in knows nothing of the application")
+forbid(orvane "[\"/](${plugin_names})\"" "application and host know nothing of the plug-in")
+forbid(orvane "\"(\\.\\./)*src/" "application and host know nothing of the plug-in")

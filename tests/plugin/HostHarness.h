@@ -1,0 +1,76 @@
+#pragma once
+
+#include "EditorHarness.h"
+
+#include "orvane/extender/OrvPlugin.h"
+#include "orvane/extender/OrvPluginsManager.h"
+#include "orvane/extender/OrvProfile.h"
+
+/// A plug-in of some extensions that a test owns.
+class TestPlugin final : public OrvPlugin {
+public:
+    explicit TestPlugin(const QList<OrvExtension*>& extensions)
+    {
+        m_name = "Test";
+        for (OrvExtension* const extension : extensions)
+            addExtension(extension);
+    }
+    ~TestPlugin() override = default;
+};
+
+/// The whole host around some extensions, of which one runs by itself and controls the named others.
+class HostHarness : public EditorHarness {
+public:
+    HostHarness(const QList<OrvExtension*>& extensions, const QString& running, const QStringList& controlled)
+        : m_plugin(extensions)
+    {
+        if (const auto error = manager.addPlugin(&m_plugin))
+            qFatal("%s", qUtf8Printable(*error));
+        runProfile(running, controlled);
+        shell.window.show();
+    }
+    ~HostHarness() { manager.unloadPlugins(); }
+
+    /// Makes a new profile the active one.
+    void runProfile(const QString& running, const QStringList& controlled)
+    {
+        const QString name = QStringLiteral("Profile %1").arg(++m_profiles);
+        const QList<OrvProfile::Entry> entries{{running, true, controlled}};
+        if (const auto error = manager.addProfile(std::make_unique<OrvProfile>(name, entries)))
+            qFatal("%s", qUtf8Printable(*error));
+        manager.setActiveProfile(manager.findProfile(name));
+    }
+
+    /// The dock that an extension put into the main window.
+    [[nodiscard]] QDockWidget* dock() const { return shell.window.findChild<QDockWidget*>(); }
+
+    OrvPluginsManager manager;
+
+private:
+    TestPlugin m_plugin;
+    int m_profiles = 0;
+};
+
+/// Writes down when a widget is told to show and to hide.
+class VisibilityRecorder final : public QObject {
+public:
+    VisibilityRecorder(QWidget* widget, QStringList& calls)
+        : QObject(widget)
+        , m_calls(calls)
+    {
+        widget->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::ShowToParent)
+            m_calls << QStringLiteral("dock shows");
+        else if (event->type() == QEvent::HideToParent)
+            m_calls << QStringLiteral("dock hides");
+        return false;
+    }
+
+private:
+    QStringList& m_calls;
+};

@@ -1,0 +1,169 @@
+#include "EditorHarness.h"
+#include "OrvDefaults.h"
+
+#include "orvane/extender/OrvEditor.h"
+#include "orvane/extender/OrvPluginsManager.h"
+
+#include "meridane/base/VbName.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <memory>
+
+extern "C" {
+OrvPlugin* loadPlugin();
+void unloadPlugin();
+}
+
+namespace {
+
+struct Entry {
+    QString name;
+    QString handledType; // empty for what is no editor
+};
+
+// In the order of registration.
+const QList<Entry> roster{
+    {QStringLiteral("SFDouble"), QStringLiteral("SFDouble")},
+    {QStringLiteral("SFFloat"), QStringLiteral("SFFloat")},
+    {QStringLiteral("SFInt32"), QStringLiteral("SFInt32")},
+    {QStringLiteral("SFShort"), QStringLiteral("SFShort")},
+    {QStringLiteral("SFUInt32"), QStringLiteral("SFUInt32")},
+    {QStringLiteral("SFUShort"), QStringLiteral("SFUShort")},
+    {QStringLiteral("Field Editor"), {}},
+    {QStringLiteral("Node Editor"), {}},
+};
+
+QString nameOf(const OrvExtension* extension)
+{
+    return QString::fromUtf8(extension->getName().toUtf8());
+}
+
+} // namespace
+
+class tst_OrvDefaults : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_tool = std::make_unique<EditorHarness>(); }
+    void cleanup();
+    void constructorWritesTheStrings();
+    void constructorRegistersNothing();
+    void extensionsAreRegisteredInTheirOrder();
+    void editorsHandleTheirTypes();
+    void editorsBearTheNamesOfTheirClasses();
+    void declarationDecidesTheAddresses();
+    void unloadPluginDestroysTheObjectOnce();
+    void unloadPluginWithoutAPluginDoesNothing();
+    void secondLoadPluginReplacesTheFirstObject();
+
+private:
+    std::unique_ptr<EditorHarness> m_tool;
+};
+
+void tst_OrvDefaults::cleanup()
+{
+    m_tool.reset();
+    QVERIFY(EditorHarness::noWidgetIsLeft());
+}
+
+void tst_OrvDefaults::constructorWritesTheStrings()
+{
+    const OrvDefaults plugin;
+    QCOMPARE(plugin.getName(), VbString("OrvDefaults"));
+    QCOMPARE(plugin.getAuthor(), VbString("KLD"));
+    QCOMPARE(plugin.getDescription(), VbString("Plug-in which loads Orvane default extensions."));
+    QCOMPARE(plugin.getVersion(), VbString("1.0.0"));
+    QCOMPARE(plugin.getInterfaceVersion(), orvaneInterfaceVersion);
+}
+
+void tst_OrvDefaults::constructorRegistersNothing()
+{
+    const OrvDefaults plugin;
+    QVERIFY(plugin.getExtensions().isEmpty());
+}
+
+void tst_OrvDefaults::extensionsAreRegisteredInTheirOrder()
+{
+    OrvDefaults plugin;
+    plugin.load();
+    QStringList names;
+    for (const OrvExtension* const extension : plugin.getExtensions())
+        names << nameOf(extension);
+    QStringList expected;
+    for (const Entry& entry : roster)
+        expected << entry.name;
+    QCOMPARE(names, expected);
+    plugin.unload();
+}
+
+void tst_OrvDefaults::editorsHandleTheirTypes()
+{
+    OrvDefaults plugin;
+    plugin.load();
+    QCOMPARE(plugin.getExtensions().size(), roster.size());
+    for (qsizetype index = 0; index < roster.size(); ++index) {
+        auto* const editor = dynamic_cast<OrvEditor*>(plugin.getExtensions().at(index));
+        QCOMPARE(editor == nullptr, roster.at(index).handledType.isEmpty());
+        if (editor != nullptr)
+            QCOMPARE(QString::fromLatin1(editor->getHandledType().getName().getString()), roster.at(index).handledType);
+    }
+    plugin.unload();
+}
+
+void tst_OrvDefaults::editorsBearTheNamesOfTheirClasses()
+{
+    OrvDefaults plugin;
+    plugin.load();
+    for (const OrvExtension* const extension : plugin.getExtensions()) {
+        if (dynamic_cast<const OrvEditor*>(extension) != nullptr)
+            QCOMPARE(extension->objectName(), QString::fromLatin1(extension->metaObject()->className()));
+    }
+    plugin.unload();
+}
+
+void tst_OrvDefaults::declarationDecidesTheAddresses()
+{
+    OrvDefaults plugin;
+    plugin.load();
+    QList<OrvExtension*> byAddress = plugin.getExtensions();
+    std::sort(byAddress.begin(), byAddress.end(), std::less<>());
+    QCOMPARE(byAddress, plugin.getExtensions());
+    plugin.unload();
+}
+
+void tst_OrvDefaults::unloadPluginDestroysTheObjectOnce()
+{
+    OrvPlugin* const plugin = loadPlugin();
+    QVERIFY(plugin != nullptr);
+    QVERIFY(plugin->getExtensions().isEmpty()); // loading is the host's step
+    plugin->load();
+    const QPointer<OrvExtension> extension = plugin->getExtensions().constFirst();
+    plugin->unload();
+    QVERIFY(!extension.isNull());
+    unloadPlugin();
+    QVERIFY(extension.isNull());
+    unloadPlugin();
+}
+
+void tst_OrvDefaults::unloadPluginWithoutAPluginDoesNothing()
+{
+    unloadPlugin();
+    unloadPlugin();
+}
+
+void tst_OrvDefaults::secondLoadPluginReplacesTheFirstObject()
+{
+    const std::unique_ptr<OrvDefaults> first(static_cast<OrvDefaults*>(loadPlugin()));
+    first->load();
+    const QPointer<OrvExtension> extension = first->getExtensions().constFirst();
+    OrvPlugin* const second = loadPlugin();
+    QVERIFY(second != first.get());
+    unloadPlugin();
+    QVERIFY(!extension.isNull());
+    first->unload();
+}
+
+QTEST_MAIN(tst_OrvDefaults)
+#include "tst_OrvDefaults.moc"
