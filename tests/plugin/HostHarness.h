@@ -1,6 +1,6 @@
 #pragma once
 
-#include "EditorHarness.h"
+#include "ToolHarness.h"
 
 #include "orvane/extender/OrvPlugin.h"
 #include "orvane/extender/OrvPluginsManager.h"
@@ -19,7 +19,7 @@ public:
 };
 
 /// The whole host around some extensions, of which one runs by itself and controls the named others.
-class HostHarness : public EditorHarness {
+class HostHarness : public ToolHarness {
 public:
     HostHarness(const QList<OrvExtension*>& extensions, const QString& running, const QStringList& controlled)
         : m_plugin(extensions)

@@ -1,5 +1,5 @@
-#include "EditorHarness.h"
 #include "FieldEditors/FieldChanges.h"
+#include "ToolHarness.h"
 
 #include <memory>
 
@@ -7,7 +7,7 @@ class tst_FieldChanges : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_tool = std::make_unique<EditorHarness>(); }
+    void init() { m_tool = std::make_unique<ToolHarness>(); }
     void cleanup() { m_tool.reset(); }
     void pushedValueCannotBeUndone();
     void snapshotCanBeUndone();
@@ -20,7 +20,7 @@ private Q_SLOTS:
     void nothingHappensWithoutAContainer();
 
 private:
-    std::unique_ptr<EditorHarness> m_tool;
+    std::unique_ptr<ToolHarness> m_tool;
 };
 
 void tst_FieldChanges::pushedValueCannotBeUndone()

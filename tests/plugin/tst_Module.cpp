@@ -1,14 +1,18 @@
+#include "ToolHarness.h"
+
 #include "orvane/extender/OrvExtension.h"
 #include "orvane/extender/OrvPlugin.h"
 #include "orvane/extender/OrvPluginsManager.h"
+#include "orvane/extender/OrvProfile.h"
 
 #include "meridane/base/MrdMemory.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QLibrary>
-#include <QRegularExpression>
-#include <QtTest>
+#include <QLineEdit>
+
+#include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -21,17 +25,22 @@ class tst_Module : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral(".*"))); }
+    void init() { m_tool = std::make_unique<ToolHarness>(); }
     void cleanup();
     void loadingRegistersTheResources();
     void entryPointsAreFoundByName();
     void hostTakesThePluginIn();
+    void selectedFieldIsShownInTheDock();
     void allocationsAreCounted();
+
+private:
+    std::unique_ptr<ToolHarness> m_tool;
 };
 
 void tst_Module::cleanup()
 {
-    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    m_tool.reset();
+    QVERIFY(ToolHarness::noWidgetIsLeft());
 }
 
 void tst_Module::loadingRegistersTheResources()
@@ -67,6 +76,40 @@ void tst_Module::hostTakesThePluginIn()
     QVERIFY(!manager.getExtensions().isEmpty());
     QCOMPARE(manager.getExtensions().constLast()->getName(), VbString("Node Editor"));
     manager.unloadPlugins();
+}
+
+void tst_Module::selectedFieldIsShownInTheDock()
+{
+    OrvPluginsManager manager;
+    QVERIFY(!manager.loadPlugin(moduleFile));
+    const QStringList everything{QStringLiteral("*")};
+    const QList<OrvProfile::Entry> entries{{QStringLiteral("*"), true, everything}};
+    QVERIFY(!manager.addProfile(std::make_unique<OrvProfile>(QStringLiteral("All"), entries)));
+    manager.setActiveProfile(manager.getProfilesList().front());
+    m_tool->shell.window.show();
+
+    NxSFFloat& field = m_tool->node->sfFloat;
+    m_tool->services.selectField(&field);
+    const QList<QDockWidget*> docks = m_tool->shell.window.findChildren<QDockWidget*>();
+    const auto isFieldDock
+        = [](const QDockWidget* dock) { return dock->windowTitle() == QLatin1String("Field Editor"); };
+    const auto dock = std::find_if(docks.begin(), docks.end(), isFieldDock);
+    QVERIFY(dock != docks.end());
+    QVERIFY((*dock)->isVisible());
+    auto* const line = (*dock)->findChild<QLineEdit*>();
+    QVERIFY(line != nullptr);
+    field.setValue(2.5F);
+    ToolHarness::pump();
+    QCOMPARE(line->text(), QStringLiteral("2.500000"));
+    line->setFocus();
+    line->selectAll();
+    QTest::keyClicks(line, QStringLiteral("3.25"));
+    QTest::keyClick(line, Qt::Key_Return);
+    QCOMPARE(field.getValue(), 3.25F);
+    QVERIFY(m_tool->services.canUndo());
+    m_tool->services.clearHistory();
+    m_tool->services.selectField(nullptr);
+    QVERIFY(!(*dock)->isVisible());
 }
 
 void tst_Module::allocationsAreCounted()

@@ -1,5 +1,5 @@
-#include "EditorHarness.h"
 #include "OrvDefaults.h"
+#include "ToolHarness.h"
 
 #include "orvane/extender/OrvEditor.h"
 #include "orvane/extender/OrvPluginsManager.h"
@@ -46,7 +46,7 @@ class tst_OrvDefaults : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_tool = std::make_unique<EditorHarness>(); }
+    void init() { m_tool = std::make_unique<ToolHarness>(); }
     void cleanup();
     void constructorWritesTheStrings();
     void constructorRegistersNothing();
@@ -59,13 +59,13 @@ private Q_SLOTS:
     void secondLoadPluginReplacesTheFirstObject();
 
 private:
-    std::unique_ptr<EditorHarness> m_tool;
+    std::unique_ptr<ToolHarness> m_tool;
 };
 
 void tst_OrvDefaults::cleanup()
 {
     m_tool.reset();
-    QVERIFY(EditorHarness::noWidgetIsLeft());
+    QVERIFY(ToolHarness::noWidgetIsLeft());
 }
 
 void tst_OrvDefaults::constructorWritesTheStrings()

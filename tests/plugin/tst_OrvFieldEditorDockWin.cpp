@@ -90,7 +90,7 @@ void tst_OrvFieldEditorDockWin::cleanup()
 {
     m_tool.reset();
     m_extensions.reset();
-    QVERIFY(EditorHarness::noWidgetIsLeft());
+    QVERIFY(ToolHarness::noWidgetIsLeft());
 }
 
 void tst_OrvFieldEditorDockWin::constructorWritesTheStrings()
@@ -298,7 +298,7 @@ void tst_OrvFieldEditorDockWin::frameIsShownInTheDock()
     QVERIFY(frame->isVisible());
     m_tool->node->sfFloat.setValue(2);
     m_extensions->calls.clear();
-    EditorHarness::pump();
+    ToolHarness::pump();
     QCOMPARE(m_extensions->calls, QStringList(QStringLiteral("number updateFromField")));
 }
 

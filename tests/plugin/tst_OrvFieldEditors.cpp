@@ -32,14 +32,14 @@ private Q_SLOTS:
     void virtualOperationsStandInTheirOrder();
 
 private:
-    std::unique_ptr<EditorHarness> m_tool;
+    std::unique_ptr<ToolHarness> m_tool;
     QStringList m_calls;
     std::unique_ptr<RecordingEditor> m_editor;
 };
 
 void tst_OrvFieldEditors::init()
 {
-    m_tool = std::make_unique<EditorHarness>();
+    m_tool = std::make_unique<ToolHarness>();
     m_editor = std::make_unique<RecordingEditor>("E", NxSField::getClassTypeId(), m_calls);
 }
 
@@ -48,7 +48,7 @@ void tst_OrvFieldEditors::cleanup()
     m_editor.reset();
     m_tool.reset();
     m_calls.clear();
-    QVERIFY(EditorHarness::noWidgetIsLeft());
+    QVERIFY(ToolHarness::noWidgetIsLeft());
 }
 
 void tst_OrvFieldEditors::constructorMakesTheFrameAndTheStrings()
@@ -126,7 +126,7 @@ void tst_OrvFieldEditors::changesReachTheEditorFromTheQueueOnly()
     m_calls.clear();
     m_tool->node->sfFloat.setValue(3);
     QVERIFY(m_calls.isEmpty());
-    EditorHarness::pump();
+    ToolHarness::pump();
     QCOMPARE(m_calls, QStringList(QStringLiteral("E updateFromField")));
 }
 
@@ -136,7 +136,7 @@ void tst_OrvFieldEditors::severalChangesReachTheEditorOnce()
     m_calls.clear();
     for (int value = 1; value < 5; ++value)
         m_tool->node->sfFloat.setValue(static_cast<float>(value));
-    EditorHarness::pump();
+    ToolHarness::pump();
     QCOMPARE(m_calls.count(QStringLiteral("E updateFromField")), 1);
 }
 
@@ -145,7 +145,7 @@ void tst_OrvFieldEditors::changesOfTheIgnoredFlagReachTheEditor()
     EditorRun run(*m_editor, m_tool->node->sfFloat);
     m_calls.clear();
     m_tool->node->sfFloat.setIgnored(1);
-    EditorHarness::pump();
+    ToolHarness::pump();
     QCOMPARE(m_calls, QStringList(QStringLiteral("E updateFromField")));
 }
 
@@ -166,10 +166,10 @@ void tst_OrvFieldEditors::undoReachesTheEditorWithoutANewCommand()
     };
     EditorRun run(*m_editor, m_tool->node->sfFloat);
     m_tool->services.pushCommand(new Change(m_tool->node->sfFloat));
-    EditorHarness::pump();
+    ToolHarness::pump();
     m_calls.clear();
     m_tool->services.undo();
-    EditorHarness::pump();
+    ToolHarness::pump();
     QCOMPARE(m_calls, QStringList(QStringLiteral("E updateFromField")));
     QCOMPARE(m_tool->services.pushed, 1);
 }
@@ -184,7 +184,7 @@ void tst_OrvFieldEditors::deactivateStopsFollowingAndHides()
     QVERIFY(!m_editor->isActive());
     QVERIFY(!m_editor->getFrame()->isVisible());
     m_tool->node->sfFloat.setValue(4);
-    EditorHarness::pump();
+    ToolHarness::pump();
     QCOMPARE(m_calls.count(QStringLiteral("E updateFromField")), 0);
 }
 
@@ -204,7 +204,7 @@ void tst_OrvFieldEditors::changesWhileIdleAreReadAtTheNextActivation()
     EditorRun run(*m_editor, m_tool->node->sfFloat);
     m_editor->deactivate();
     m_tool->node->sfFloat.setValue(7);
-    EditorHarness::pump();
+    ToolHarness::pump();
     m_calls.clear();
     m_editor->activate();
     QCOMPARE(m_calls.count(QStringLiteral("E updateFromField")), 1);
@@ -216,10 +216,10 @@ void tst_OrvFieldEditors::anotherFieldTakesTheSensorAway()
     m_editor->setField(&m_tool->node->sfDouble);
     m_calls.clear();
     m_tool->node->sfFloat.setValue(3);
-    EditorHarness::pump();
+    ToolHarness::pump();
     QVERIFY(m_calls.isEmpty());
     m_tool->node->sfDouble.setValue(3);
-    EditorHarness::pump();
+    ToolHarness::pump();
     QCOMPARE(m_calls, QStringList(QStringLiteral("E updateFromField")));
 }
 
@@ -230,7 +230,7 @@ void tst_OrvFieldEditors::dyingFieldLeavesTheEditorAlone()
     m_calls.clear();
     field->setValue(3);
     field.reset();
-    EditorHarness::pump();
+    ToolHarness::pump();
     QVERIFY(m_calls.isEmpty());
     QVERIFY(m_editor->getFrame()->isVisible());
 }
@@ -242,7 +242,7 @@ void tst_OrvFieldEditors::loadAfterUnloadFollowsAgain()
     EditorRun run(*m_editor, m_tool->node->sfFloat);
     m_calls.clear();
     m_tool->node->sfFloat.setValue(3);
-    EditorHarness::pump();
+    ToolHarness::pump();
     QCOMPARE(m_calls, QStringList(QStringLiteral("E updateFromField")));
 }
 

@@ -1,5 +1,5 @@
-#include "EditorHarness.h"
 #include "FieldEditors/OrvFieldIgnoredCommand.h"
+#include "ToolHarness.h"
 
 class tst_OrvFieldIgnoredCommand : public QObject {
     Q_OBJECT

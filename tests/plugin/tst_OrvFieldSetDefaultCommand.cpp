@@ -1,5 +1,5 @@
-#include "EditorHarness.h"
 #include "FieldEditors/OrvFieldSetDefaultCommand.h"
+#include "ToolHarness.h"
 
 class tst_OrvFieldSetDefaultCommand : public QObject {
     Q_OBJECT

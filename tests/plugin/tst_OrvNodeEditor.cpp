@@ -75,7 +75,7 @@ void tst_OrvNodeEditor::cleanup()
 {
     m_tool.reset();
     m_extensions.reset();
-    QVERIFY(EditorHarness::noWidgetIsLeft());
+    QVERIFY(ToolHarness::noWidgetIsLeft());
 }
 
 void tst_OrvNodeEditor::constructorWritesTheStrings()

@@ -1,5 +1,5 @@
-#include "EditorHarness.h"
 #include "FieldEditors/OrvSFSetValueCommand.h"
+#include "ToolHarness.h"
 
 #include <memory>
 
