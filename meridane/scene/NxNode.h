@@ -47,7 +47,8 @@ public:                                                                         
 private:
 
 /// Stands in the source file of a node class: `NX_NODE_SOURCE(NxMaterial, NxNode, "Material")`. The class is registered
-/// when the library that holds it is loaded.
+/// when the library that holds it is loaded. For scene files, the name of the class and those of its fields consist of
+/// letters, digits and `_`, the first no digit, and the class isn't called `use` or `ignored`.
 #define NX_NODE_SOURCE(Class, Parent, name)                                                                            \
     NxType Class::getClassTypeId()                                                                                     \
     {                                                                                                                  \

@@ -12,7 +12,7 @@ class NxUnknownNode : public NxGroup {
 public:
     /// The name of the class that the file gave.
     [[nodiscard]] const char* getClassName() const override { return m_className.c_str(); }
-    /// Takes the name of the class: letters, digits and `_`, the first no digit.
+    /// Takes the name of the class: letters, digits and `_`, the first no digit, and not `use` or `ignored`.
     void setClassName(std::string name);
 
 protected:

@@ -41,9 +41,9 @@ void NxSceneReader::Parser::readStatement()
         return failAsNoted();
     if (isEqualsAhead())
         return startField(word, place, false);
-    if (word == "use" && m_reader.peek() == '"')
+    if (word == "use")
         return startReference();
-    if (word == "ignored" && isLetter(m_reader.peek())) {
+    if (word == "ignored") {
         place = m_reader.position();
         if (!readIdentifier(word, "a field"))
             return failAsNoted();

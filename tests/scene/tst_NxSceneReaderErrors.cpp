@@ -220,7 +220,7 @@ void tst_NxSceneReaderErrors::aWrongStatementIsReportedWithItsPlace_data()
         "3:17: the node \"a\" would hold itself, expected one that ends ahead of here");
     row("cycle by label", "Group as \"a\" { use \"a\" }",
         "2:20: the node \"a\" would hold itself, expected one that ends ahead of here");
-    row("use without a name", "Group { use a }", "2:13: expected a name in quotes, \"as\" or \"{\", found \"a\"");
+    row("use without a name", "Group { use a }", "2:13: expected a text in double quotes, found \"a\"");
     row("use with a body", "Group \"a\" { }\nuse \"a\" { }", "3:9: expected the end of the line or \";\", found \"{\"");
     // Cut off
     row("cut off in a node", "Group {\n    Material \"m\" {\n",
@@ -234,8 +234,10 @@ void tst_NxSceneReaderErrors::aWrongStatementIsReportedWithItsPlace_data()
     row("cut off in an unknown list", "Mesh { unknown = [1 2 3, ", "2:26: unexpected end of file, expected \"]\"");
     row("cut off in an unknown text", "Mesh { unknown = \"1 2 3\n\n",
         "4:1: unexpected end of file, expected a closing quote");
-    row("cut off behind use", "Group { } use",
-        "2:14: unexpected end of file, expected a name in quotes, \"as\" or \"{\"");
+    row("cut off behind use", "Group { } use", "2:14: unexpected end of file, expected a text in double quotes");
+    row("use for a class", "use { }", "2:5: expected a text in double quotes, found \"{\"");
+    row("ignored for a class", "Group { ignored { } }", "2:17: expected a field, found \"{\"");
+    row("ignored in front of a child", "Group { ignored Material { } }", "2:26: expected \"=\", found \"{\"");
     row("cut off behind ignored", "Group { ignored a", "2:18: unexpected end of file, expected \"=\"");
 }
 

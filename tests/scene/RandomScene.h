@@ -1,0 +1,14 @@
+#pragma once
+
+#include "meridane/scene/NxGroup.h"
+#include "meridane/scene/NxRef.h"
+
+#include <string>
+
+/// A scene with nodes of all classes and of unknown ones, awkward names, shared nodes, random values in random fields;
+/// the same one for the same seed.
+NxRef<NxGroup> makeRandomScene(unsigned int seed);
+
+/// Tells how two scenes differ, in classes, names, fields, flags, children, or in which nodes are shared; empty if they
+/// are the same.
+std::string findDifference(const NxGroup& left, const NxGroup& right);
