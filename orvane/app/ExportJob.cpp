@@ -74,8 +74,8 @@ void ExportJob::writeScene()
 
 void ExportJob::takeFiles()
 {
-    const std::string base = toStdFileName(QFileInfo(fileName()).completeBaseName());
-    const std::string name = toStdFileName(QFileInfo(fileName()).fileName());
+    const std::string base = orvane::toStdFileName(QFileInfo(fileName()).completeBaseName());
+    const std::string name = orvane::toStdFileName(QFileInfo(fileName()).fileName());
     auto files = orvane::unpackFramedFiles(m_helper.takeOutput());
     // The helper has read a scene of unknown origin, so nothing that it asks for is written elsewhere. One that didn't
     // wait for the whole scene can't have written it.
@@ -102,7 +102,7 @@ void ExportJob::writeFiles()
         const QString name = QFile::decodeName(m_files[m_replacers.size()].name.c_str());
         m_replacers.push_back(std::make_unique<meridane::FileReplacer>());
         m_written = 0;
-        failure = m_replacers.back()->open(toStdFileName(folder.filePath(name)));
+        failure = m_replacers.back()->open(orvane::toStdFileName(folder.filePath(name)));
     }
     if (!failure) {
         const std::string& bytes = m_files[m_replacers.size() - 1].bytes;
@@ -111,7 +111,7 @@ void ExportJob::writeFiles()
         m_written += count;
     }
     if (failure)
-        fail(toQString(*failure));
+        fail(orvane::toQString(*failure));
 }
 
 void ExportJob::commitFiles()
@@ -119,7 +119,7 @@ void ExportJob::commitFiles()
     // What the main file refers to comes first, so that it never refers to something older than itself.
     for (auto replacer = m_replacers.rbegin(); replacer != m_replacers.rend(); ++replacer) {
         if (const std::optional<std::string> failure = (*replacer)->commit()) {
-            fail(toQString(*failure));
+            fail(orvane::toQString(*failure));
             return;
         }
     }

@@ -1,31 +1,10 @@
 #include "orvane/app/FileJobs.h"
 
+#include "orvane/app/ExportJob.h"
+#include "orvane/app/ImportJob.h"
 #include "orvane/app/LoadJob.h"
 #include "orvane/app/SaveJob.h"
 #include "orvane/app/SceneDocument.h"
-
-namespace {
-
-/// Stands in for the jobs that need the import helper.
-template <typename Job>
-class UnavailableJob : public Job {
-public:
-    using Job::Job;
-
-    void start() override
-    {
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                Q_EMIT this->failed(
-                    QStringLiteral("%1: only scenes (.mrd) can be read and written yet").arg(this->fileName()));
-            },
-            Qt::QueuedConnection);
-    }
-    void cancel() override { QMetaObject::invokeMethod(this, &FileJob::cancelled, Qt::QueuedConnection); }
-};
-
-} // namespace
 
 namespace orvane {
 
@@ -33,14 +12,14 @@ std::unique_ptr<SceneJob> makeLoadJob(const QString& fileName)
 {
     if (SceneDocument::isSceneFileName(fileName))
         return std::make_unique<LoadJob>(fileName);
-    return std::make_unique<UnavailableJob<SceneJob>>(fileName);
+    return std::make_unique<ImportJob>(fileName);
 }
 
 std::unique_ptr<FileJob> makeSaveJob(const NxRef<NxGroup>& scene, const QString& fileName)
 {
     if (SceneDocument::isSceneFileName(fileName))
         return std::make_unique<SaveJob>(scene, fileName);
-    return std::make_unique<UnavailableJob<FileJob>>(fileName);
+    return std::make_unique<ExportJob>(scene, fileName);
 }
 
 QString openFilters()

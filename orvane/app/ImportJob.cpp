@@ -54,7 +54,7 @@ void ImportJob::readSlice()
         break;
     case NxSceneReader::State::Failed:
         fail(QStringLiteral("%1: the import helper gave something that is no scene: %2")
-                 .arg(fileName(), toQString(m_reader->failure().text())));
+                 .arg(fileName(), orvane::toQString(m_reader->failure().text())));
         break;
     }
 }
@@ -62,7 +62,7 @@ void ImportJob::readSlice()
 void ImportJob::fail(const QString& message)
 {
     end();
-    NxReadError::post(VbString(), 0, 0, toVbString(message));
+    NxReadError::post(VbString(), 0, 0, orvane::toVbString(message));
     Q_EMIT failed(message);
 }
 
