@@ -48,8 +48,10 @@ public:
 
     /// All values, next to each other; valid until the list changes.
     [[nodiscard]] std::span<const Value> getValues() const noexcept { return m_values; }
-    /// Takes all values at once and tells the observers once.
-    void setValues(std::span<const Value> values) { setValues(std::vector<Value>(values.begin(), values.end())); }
+    /// Copies all values at once and tells the observers once. Values that don't fit in memory are reported as an
+    /// `NxMemoryError`, change nothing and give false.
+    bool setValues(std::span<const Value> values);
+    /// The same without a copy.
     void setValues(std::vector<Value>&& values)
     {
         m_values = std::move(values);

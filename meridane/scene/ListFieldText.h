@@ -1,14 +1,13 @@
 #pragma once
 
-#include "meridane/base/NxMemoryError.h"
 #include "meridane/base/VbString.h"
 #include "meridane/scene/ListField.h"
+#include "meridane/scene/MemoryGuard.h"
 #include "meridane/scene/ValueBits.h"
 
 #include <algorithm>
 #include <limits>
 #include <new>
-#include <stdexcept>
 
 namespace meridane {
 
@@ -44,15 +43,23 @@ void ListField<Value, Format>::insertCopies(int start, int count, const Value& v
     if (count <= 0)
         return;
     const auto number = static_cast<std::size_t>(count);
-    try {
+    const bool fits = withinMemory((m_values.size() + number) * sizeof(Value), [&] {
         if (count > std::numeric_limits<int>::max() - getNum())
             throw std::bad_alloc();
         m_values.insert(m_values.begin() + std::clamp(start, 0, getNum()), number, value);
-    } catch (const std::bad_alloc&) {
-        NxMemoryError::post(__FILE__, __LINE__, (m_values.size() + number) * sizeof(Value));
-        return;
-    }
-    touch();
+        return true;
+    });
+    if (fits)
+        touch();
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::setValues(std::span<const Value> values)
+{
+    return withinMemory(values.size_bytes(), [this, values] {
+        setValues(std::vector<Value>(values.begin(), values.end()));
+        return true;
+    });
 }
 
 template <typename Value, typename Format>
@@ -65,11 +72,7 @@ bool ListField<Value, Format>::isSame(const NxField& other) const
 template <typename Value, typename Format>
 bool ListField<Value, Format>::copyFrom(const NxField& other)
 {
-    if (getTypeId() != other.getTypeId())
-        return false;
-    m_values = static_cast<const ListField&>(other).m_values;
-    touch();
-    return true;
+    return getTypeId() == other.getTypeId() && setValues(static_cast<const ListField&>(other).getValues());
 }
 
 template <typename Value, typename Format>

@@ -1,15 +1,14 @@
 #include "meridane/scene/NxField.h"
 
-#include "meridane/base/NxMemoryError.h"
 #include "meridane/base/VbName.h"
 #include "meridane/base/VbString.h"
+#include "meridane/scene/MemoryGuard.h"
 #include "meridane/scene/NxFieldContainer.h"
 #include "meridane/scene/NxFieldData.h"
 #include "meridane/scene/NxFieldSensor.h"
 #include "meridane/scene/TextReader.h"
 
 #include <limits>
-#include <new>
 
 NxType NxField::getClassTypeId()
 {
@@ -25,12 +24,7 @@ NxField::NxField(NxFieldContainer* container, const char* name)
 
 NxField::~NxField()
 {
-    while (m_sensors != nullptr) {
-        NxFieldSensor* const sensor = m_sensors;
-        sensor->dyingReference();
-        if (m_sensors == sensor)
-            sensor->detach(); // an override may have left that out
-    }
+    m_sensors.dyingReference();
 }
 
 void NxField::get(VbString& text) const
@@ -44,13 +38,8 @@ void NxField::get(VbString& text) const
 bool NxField::set(const VbString& text)
 {
     meridane::TextReader reader(text.view());
-    try {
-        if (!assignText(reader))
-            return false;
-    } catch (const std::bad_alloc&) {
-        NxMemoryError::post(__FILE__, __LINE__, text.view().size());
+    if (!meridane::withinMemory(text.view().size(), [this, &reader] { return assignText(reader); }))
         return false;
-    }
     touch();
     return true;
 }
@@ -80,11 +69,7 @@ bool NxField::isDefault() const
 
 void NxField::touch()
 {
-    for (NxFieldSensor* sensor = m_sensors; sensor != nullptr;) {
-        NxFieldSensor* const next = sensor->m_next;
-        sensor->notify();
-        sensor = next;
-    }
-    if (m_container != nullptr && m_container->m_sensors != nullptr)
+    m_sensors.notify();
+    if (m_container != nullptr && !m_container->m_sensors.isEmpty())
         m_container->touch();
 }

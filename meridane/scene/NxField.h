@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meridane/base/NxTypedObject.h"
+#include "meridane/scene/SensorList.h"
 
 #include <cstddef>
 #include <string>
@@ -43,7 +44,8 @@ public:
     /// True when both are of the same class and hold the same value to the bit (so a NaN is the same as itself, and
     /// 0 isn't the same as -0). The ignored flag doesn't count.
     [[nodiscard]] virtual bool isSame(const NxField& other) const = 0;
-    /// Takes the value of a field of the same class and gives true; another class gives false.
+    /// Takes the value of a field of the same class and gives true. Another class, or a value that doesn't fit in
+    /// memory, changes nothing and gives false.
     virtual bool copyFrom(const NxField& other) = 0;
     /// About how many bytes the value holds.
     [[nodiscard]] virtual std::size_t valueBytes() const = 0;
@@ -75,7 +77,7 @@ private:
     virtual bool assignText(meridane::TextReader& reader) = 0;
 
     NxFieldContainer* m_container;
-    NxFieldSensor* m_sensors = nullptr; // head of the list that runs through the sensors
+    meridane::SensorList<NxFieldSensor> m_sensors;
     bool m_ignored = false;
 };
 

@@ -20,12 +20,7 @@ NxFieldContainer::NxFieldContainer()
 
 NxFieldContainer::~NxFieldContainer()
 {
-    while (m_sensors != nullptr) {
-        NxNodeSensor* const sensor = m_sensors;
-        sensor->dyingReference();
-        if (m_sensors == sensor)
-            sensor->detach(); // an override may have left that out
-    }
+    m_sensors.dyingReference();
 }
 
 void NxFieldContainer::unref() const
@@ -79,9 +74,5 @@ const std::vector<NxFieldContainer::UnknownField>& NxFieldContainer::getUnknownF
 
 void NxFieldContainer::touch()
 {
-    for (NxNodeSensor* sensor = m_sensors; sensor != nullptr;) {
-        NxNodeSensor* const next = sensor->m_next;
-        sensor->notify();
-        sensor = next;
-    }
+    m_sensors.notify();
 }

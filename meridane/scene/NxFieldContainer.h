@@ -2,6 +2,7 @@
 
 #include "meridane/base/NxTypedObject.h"
 #include "meridane/base/VbString.h"
+#include "meridane/scene/SensorList.h"
 
 #include <memory>
 #include <string>
@@ -63,6 +64,6 @@ private:
 
     mutable int m_references = 0;
     VbString m_name;
-    NxNodeSensor* m_sensors = nullptr; // head of the list that runs through the sensors
+    meridane::SensorList<NxNodeSensor> m_sensors;
     std::unique_ptr<std::vector<UnknownField>> m_unknownFields;
 };

@@ -15,22 +15,14 @@ void NxFieldSensor::attach(NxField* field)
     if (field == nullptr)
         return;
     m_field = field;
-    // At the end, so that sensors are told in the order in which they came.
-    NxFieldSensor** place = &field->m_sensors;
-    while (*place != nullptr)
-        place = &(*place)->m_next;
-    *place = this;
+    field->m_sensors.append(this);
 }
 
 void NxFieldSensor::detach()
 {
     if (m_field == nullptr)
         return;
-    NxFieldSensor** place = &m_field->m_sensors;
-    while (*place != this)
-        place = &(*place)->m_next;
-    *place = m_next;
-    m_next = nullptr;
+    m_field->m_sensors.remove(this);
     m_field = nullptr;
     unschedule();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meridane/scene/NxDataSensor.h"
+#include "meridane/scene/SensorList.h"
 
 class NxField;
 
@@ -22,7 +23,7 @@ public:
     void dyingReference() override;
 
 private:
-    friend class NxField;
+    friend class meridane::SensorList<NxFieldSensor>;
 
     NxField* m_field = nullptr;
     NxFieldSensor* m_next = nullptr; // of the sensors on the same field

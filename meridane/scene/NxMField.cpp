@@ -2,6 +2,7 @@
 
 #include "meridane/base/VbName.h"
 #include "meridane/base/VbString.h"
+#include "meridane/scene/MemoryGuard.h"
 #include "meridane/scene/TextReader.h"
 
 NxType NxMField::getClassTypeId()
@@ -13,7 +14,9 @@ NxType NxMField::getClassTypeId()
 bool NxMField::set1(int index, const VbString& text)
 {
     meridane::TextReader reader(text.view());
-    if (index < 0 || index >= getNum() || !assign1Text(index, reader))
+    if (index < 0 || index >= getNum())
+        return false;
+    if (!meridane::withinMemory(text.view().size(), [this, index, &reader] { return assign1Text(index, reader); }))
         return false;
     touch();
     return true;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meridane/scene/NxDataSensor.h"
+#include "meridane/scene/SensorList.h"
 
 class NxFieldContainer;
 
@@ -23,7 +24,7 @@ public:
     void dyingReference() override;
 
 private:
-    friend class NxFieldContainer;
+    friend class meridane::SensorList<NxNodeSensor>;
 
     NxFieldContainer* m_node = nullptr;
     NxNodeSensor* m_next = nullptr; // of the sensors on the same node

@@ -1,11 +1,10 @@
 #include "meridane/scene/NxSFImage.h"
 
-#include "meridane/base/NxMemoryError.h"
 #include "meridane/base/VbName.h"
+#include "meridane/scene/MemoryGuard.h"
 #include "meridane/scene/TextReader.h"
 
 #include <algorithm>
-#include <new>
 #include <utility>
 
 NX_FIELD_SOURCE(NxSFImage, NxSField, "SFImage")
@@ -38,12 +37,8 @@ bool NxSFImage::setValue(const VbVec2s& size, int components, const unsigned cha
     const Image image{size, components, {}};
     if (!image.isValid() || (bytes == nullptr && image.byteCount() > 0))
         return false;
-    try {
-        return setValue(size, components, std::vector<unsigned char>(bytes, bytes + image.byteCount()));
-    } catch (const std::bad_alloc&) {
-        NxMemoryError::post(__FILE__, __LINE__, image.byteCount());
-        return false;
-    }
+    return meridane::withinMemory(image.byteCount(),
+        [&] { return setValue(size, components, std::vector<unsigned char>(bytes, bytes + image.byteCount())); });
 }
 
 bool NxSFImage::setValue(const VbVec2s& size, int components, std::vector<unsigned char>&& bytes)
@@ -68,9 +63,8 @@ bool NxSFImage::copyFrom(const NxField& other)
 {
     if (getTypeId() != other.getTypeId())
         return false;
-    m_image = static_cast<const NxSFImage&>(other).m_image;
-    touch();
-    return true;
+    const Image& image = static_cast<const NxSFImage&>(other).m_image;
+    return setValue(image.size, image.components, image.bytes.data());
 }
 
 std::size_t NxSFImage::valueBytes() const
