@@ -40,9 +40,9 @@ NxSceneReader::State NxSceneReader::Parser::step(std::chrono::microseconds budge
                 work();
         } while (state() == State::Working && Clock::now() < end);
     } catch (const std::bad_alloc&) {
-        failAt(m_reader.position(), "the scene doesn't fit in memory");
+        failForMemory();
     } catch (const std::length_error&) {
-        failAt(m_reader.position(), "the scene doesn't fit in memory");
+        failForMemory();
     }
     return state();
 }
@@ -179,6 +179,12 @@ void NxSceneReader::Parser::failAt(std::size_t offset, std::string message)
     m_failure.message = std::move(message);
     m_phase = Phase::Failed;
     m_scene = nullptr;
+}
+
+void NxSceneReader::Parser::failForMemory()
+{
+    m_scene = nullptr; // makes room for the message
+    failAt(m_reader.position(), "the scene doesn't fit in memory");
 }
 
 void NxSceneReader::Parser::failExpecting(std::size_t offset, std::string_view expected)

@@ -62,6 +62,7 @@ private:
 
     void failAt(std::size_t offset, std::string message);
     void failTwice(std::string_view name, std::size_t place);
+    void failForMemory();
     void failExpecting(std::size_t offset, std::string_view expected);
     /// Fails with what the reader of texts noted.
     void failAsNoted();

@@ -52,6 +52,19 @@ private Q_SLOTS:
         QVERIFY(SceneText::rewrite(text) == text);
     }
 
+    void theExampleOfTheManualIsAScene()
+    {
+        std::string manual;
+        QVERIFY(!meridane::readFile(DOCS_FOLDER "/scene-format.md", manual));
+        const std::size_t start = manual.find("#mrd 1.0");
+        const std::string text = manual.substr(start, manual.find("```", start) - start);
+        const auto scene = SceneText::read(text);
+        QVERIFY2(scene, SceneText::failure(text).text().c_str());
+        QCOMPARE(scene->getNumChildren(), 3);
+        const auto& tile = dynamic_cast<NxGroup&>(*scene->getChild(1));
+        QCOMPARE(dynamic_cast<NxGroup&>(*scene->getChild(2)).getChild(0), tile.getChild(0));
+    }
+
     void theGalleryExampleHasAValueInEveryField()
     {
         std::string text;

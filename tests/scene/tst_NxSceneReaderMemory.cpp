@@ -1,0 +1,109 @@
+#include "scene/SceneText.h"
+
+#include <QTest>
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+/// How many allocations still succeed before one fails; negative for all.
+long allocationsLeft = -1;
+
+void* allocate(std::size_t size)
+{
+    if (allocationsLeft == 0) {
+        allocationsLeft = -1;
+        return nullptr;
+    }
+    if (allocationsLeft > 0)
+        --allocationsLeft;
+    return std::malloc(size == 0 ? 1 : size);
+}
+
+} // namespace
+
+// The program's own allocation, which serves the toolkit's libraries too.
+void* operator new(std::size_t size)
+{
+    if (void* const memory = allocate(size))
+        return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t /*size*/) noexcept
+{
+    std::free(memory);
+}
+
+/// Lets each allocation of reading and writing fail in turn.
+class tst_NxSceneReaderMemory : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyFailingAllocationIsAFailureOfReading()
+    {
+        const std::string text = sample();
+        QVERIFY(SceneText::read(text)); // describes the node classes, which happens once
+        long failures = 0;
+        for (long succeed = 0;; ++succeed) {
+            NxSceneReader reader(text, "test.mrd");
+            allocationsLeft = succeed;
+            const NxSceneReader::State state = reader.run();
+            const bool failed = allocationsLeft < 0;
+            allocationsLeft = -1;
+            if (!failed) {
+                QCOMPARE(state, NxSceneReader::State::Done);
+                break;
+            }
+            ++failures;
+            QCOMPARE(state, NxSceneReader::State::Failed);
+            QCOMPARE(reader.failure().message, std::string("the scene doesn't fit in memory"));
+            QVERIFY(reader.failure().line > 0);
+            QVERIFY(!reader.takeScene());
+        }
+        QVERIFY2(failures > 50, qPrintable(QString::number(failures)));
+    }
+
+    void everyFailingAllocationIsAFailureOfWriting()
+    {
+        const NxRef<NxGroup> scene = SceneText::read(sample());
+        const std::string whole = NxSceneWriter::toText(scene.get());
+        long failures = 0;
+        for (long succeed = 0;; ++succeed) {
+            NxSceneWriter writer(scene.get());
+            std::string text;
+            allocationsLeft = succeed;
+            while (writer.step(text, std::chrono::seconds(1))) { }
+            const bool failed = allocationsLeft < 0;
+            allocationsLeft = -1;
+            if (!failed) {
+                QCOMPARE(writer.failure(), std::string());
+                QCOMPARE(text, whole);
+                break;
+            }
+            ++failures;
+            QCOMPARE(writer.failure(), std::string("the text of the scene doesn't fit in memory"));
+        }
+        QVERIFY2(failures > 10, qPrintable(QString::number(failures)));
+    }
+
+private:
+    static std::string sample()
+    {
+        return SceneText::file(
+            "Transform \"a name that is longer than a short one\" as \"a label that is long as well\" {\n"
+            "  Material { diffuseColor = 1 0 0; an_unknown_field = [1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11] }\n"
+            "  Mesh \"m\" { positions = [1 2 3, 4 5 6, 7 8 9]; indices = [0, 1, 2] }\n"
+            "  Widget { a = 1; Texture \"t\" { filePath = \"a path that is longer than a short one\"\n"
+            "  image = 2 2 1 0x01 0x02 0x03 0x04 } }\n"
+            "}\n"
+            "use \"a label that is long as well\"\nuse \"m\"\nuse \"t\"\n");
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_NxSceneReaderMemory)
+#include "tst_NxSceneReaderMemory.moc"
