@@ -89,9 +89,9 @@ VbString& VbString::operator=(VbString&& other) noexcept
 // The new text is built before the old one goes, so that a view into this very string may be assigned to it.
 void VbString::assign(std::string_view utf8)
 {
-    Text* text = nullptr;
+    std::unique_ptr<Text> text;
     if (!utf8.empty()) {
-        text = new Text;
+        text = std::make_unique<Text>();
         if (meridane::findInvalidUtf8(utf8) == std::string_view::npos)
             text->utf8 = utf8;
         else
@@ -99,7 +99,7 @@ void VbString::assign(std::string_view utf8)
     }
     if (!isNull())
         delete m_text;
-    m_text = text;
+    m_text = text.release();
 }
 
 int VbString::getLength() const
