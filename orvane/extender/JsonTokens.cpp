@@ -2,6 +2,9 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <optional>
+
 namespace orvane {
 
 namespace {
@@ -53,6 +56,11 @@ std::optional<QChar> simpleEscape(QChar character)
 bool isBlank(QChar character)
 {
     return character == u' ' || character == u'\t' || character == u'\n' || character == u'\r';
+}
+
+bool isHexDigit(QChar character)
+{
+    return (character >= u'0' && character <= u'9') || (character.toLower() >= u'a' && character.toLower() <= u'f');
 }
 
 bool belongsToWord(QChar character)
@@ -124,15 +132,14 @@ JsonToken JsonTokens::string()
             content += *plain;
             continue;
         }
-        bool isHex = false;
-        const uint code = QStringView(m_text).sliced(m_at).left(4).toUInt(&isHex, 16);
-        if (escape != u'u' || !isHex || m_text.size() - m_at < 4)
+        const QStringView code = QStringView(m_text).sliced(m_at).left(4);
+        if (escape != u'u' || code.size() < 4 || !std::ranges::all_of(code, isHexDigit))
             return {Kind::Bad, here, QStringLiteral("there is no such escape sequence")};
         for (int digit = 0; digit < 4; ++digit)
             take();
-        content += QChar(code);
+        content += QChar(code.toUShort(nullptr, 16));
     }
-    return bad(QStringLiteral("the text that begins here has no closing quotation mark"));
+    return {Kind::Bad, m_start, QStringLiteral("the text that begins here has no closing quotation mark")};
 }
 
 JsonToken JsonTokens::word()
@@ -150,12 +157,7 @@ JsonToken JsonTokens::word()
         return {Kind::Number, m_start, {}};
     if (text.isEmpty())
         text = take();
-    return bad(QStringLiteral("unexpected \"%1\"").arg(text));
-}
-
-JsonToken JsonTokens::bad(const QString& what) const
-{
-    return {Kind::Bad, m_start, what};
+    return {Kind::Unknown, m_start, text};
 }
 
 } // namespace orvane

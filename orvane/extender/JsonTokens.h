@@ -25,13 +25,15 @@ struct JsonToken {
         Null,
         Number,
         End,
-        /// `text` tells what is wrong.
+        /// What is no JSON; `text` holds it.
+        Unknown,
+        /// A text that is wrong inside; `text` tells what is wrong.
         Bad,
     };
 
     Kind kind = Kind::End;
     TextPosition position;
-    /// The content of a string.
+    /// The content of a string; empty where nothing else is told.
     QString text;
 };
 
@@ -40,7 +42,7 @@ class JsonTokens {
 public:
     explicit JsonTokens(const QString& text);
 
-    /// The next token. Behind the last one it is `End` each time, and behind a bad one not defined.
+    /// The next token. Behind the last one it is `End` each time.
     [[nodiscard]] JsonToken next();
 
 private:
@@ -49,7 +51,6 @@ private:
     QChar take();
     [[nodiscard]] JsonToken string();
     [[nodiscard]] JsonToken word();
-    [[nodiscard]] JsonToken bad(const QString& what) const;
 
     QString m_text;
     qsizetype m_at = 0;

@@ -3,8 +3,13 @@
 #include "orvane/extender/Guarded.h"
 #include "orvane/extender/OrvPlugin.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QLibrary>
+
+#include <cstring>
+
+#include <elf.h>
 
 namespace orvane {
 
@@ -26,6 +31,31 @@ std::optional<QString> whyNotReadable(const QFileInfo& file)
     return std::nullopt;
 }
 
+// The system maps what a library's header tells without comparing it with the size of the file, and reading behind the
+// end of a file that was cut off kills the process.
+bool isCutOff(const QString& fileName)
+{
+    QFile file(fileName);
+    Elf64_Ehdr header;
+    if (!file.open(QIODevice::ReadOnly) || file.read(reinterpret_cast<char*>(&header), sizeof header) != sizeof header)
+        return false;
+    const bool isLibrary = std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0 && header.e_ident[EI_CLASS] == ELFCLASS64
+        && header.e_phentsize == sizeof(Elf64_Phdr);
+    if (!isLibrary)
+        return false;
+    const auto size = static_cast<quint64>(file.size());
+    if (!file.seek(static_cast<qint64>(header.e_phoff)))
+        return true;
+    for (int i = 0; i < header.e_phnum; ++i) {
+        Elf64_Phdr segment;
+        if (file.read(reinterpret_cast<char*>(&segment), sizeof segment) != sizeof segment)
+            return true;
+        if (segment.p_type == PT_LOAD && (segment.p_offset > size || segment.p_filesz > size - segment.p_offset))
+            return true;
+    }
+    return false;
+}
+
 // The system's reason in one line and without the file name, which heads each message already.
 QString reason(const QLibrary& library)
 {
@@ -42,6 +72,8 @@ std::optional<QString> open(const QFileInfo& file, PluginLibrary& result)
         return problem;
     result.fileName = file.canonicalFilePath();
 
+    if (isCutOff(result.fileName))
+        return QStringLiteral("it can't be loaded as a plug-in: the file is cut off");
     QLibrary library(result.fileName);
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     if (!library.load())

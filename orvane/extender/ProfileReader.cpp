@@ -9,6 +9,20 @@ namespace orvane {
 
 namespace {
 
+// A text of the file as it may stand in a message of one line.
+QString quoted(QString text)
+{
+    constexpr qsizetype longest = 40;
+    if (text.size() > longest)
+        text = text.left(longest) + u'\u2026';
+    for (QChar& character : text) {
+        const bool breaksTheLine = character == QChar::LineSeparator || character == QChar::ParagraphSeparator;
+        if ((!character.isPrint() && !character.isSurrogate()) || breaksTheLine)
+            character = QChar::ReplacementCharacter;
+    }
+    return u'"' + text + u'"';
+}
+
 QString describe(const JsonToken& token)
 {
     using Kind = JsonToken::Kind;
@@ -26,7 +40,7 @@ QString describe(const JsonToken& token)
     case Kind::Comma:
         return QStringLiteral("\",\"");
     case Kind::String:
-        return QStringLiteral("the text \"%1\"").arg(token.text);
+        return QStringLiteral("the text %1").arg(quoted(token.text));
     case Kind::True:
         return QStringLiteral("true");
     case Kind::False:
@@ -37,10 +51,11 @@ QString describe(const JsonToken& token)
         return QStringLiteral("a number");
     case Kind::End:
         return QStringLiteral("the end of the file");
+    case Kind::Unknown:
     case Kind::Bad:
         break;
     }
-    return token.text;
+    return quoted(token.text);
 }
 
 } // namespace
@@ -98,8 +113,8 @@ bool ProfileReader::readMember(const JsonToken& key)
     if (key.text == u"name")
         return readName();
     if (key.text != u"extensions")
-        return fail(
-            key.position, QStringLiteral("a profile has a \"name\" and \"extensions\", but no \"%1\"").arg(key.text));
+        return fail(key.position,
+            QStringLiteral("a profile has a \"name\" and \"extensions\", but no %1").arg(quoted(key.text)));
     if (m_token.kind != Kind::ObjectBegin)
         return failExpecting("an object, the extensions");
     m_entries.emplace();
@@ -144,9 +159,9 @@ bool ProfileReader::readControlled(OrvProfile::Entry& entry)
         if (m_token.text.isEmpty())
             return fail(m_token.position, QStringLiteral("the name of an extension is empty"));
         if (entry.controlled.contains(m_token.text))
-            return fail(m_token.position, QStringLiteral("\"%1\" stands twice in the list").arg(m_token.text));
+            return fail(m_token.position, QStringLiteral("%1 stands twice in the list").arg(quoted(m_token.text)));
         if (m_token.text == entry.extension && m_token.text != u"*")
-            return fail(m_token.position, QStringLiteral("\"%1\" can't control itself").arg(m_token.text));
+            return fail(m_token.position, QStringLiteral("%1 can't control itself").arg(quoted(m_token.text)));
         entry.controlled.append(m_token.text);
         advance();
         if (m_token.kind == Kind::ArrayEnd)
@@ -168,7 +183,7 @@ bool ProfileReader::readObject(const ReadMember& readMember)
             return failExpecting("a key");
         const JsonToken key = m_token;
         if (keys.contains(key.text))
-            return fail(key.position, QStringLiteral("\"%1\" stands here for the second time").arg(key.text));
+            return fail(key.position, QStringLiteral("%1 stands here for the second time").arg(quoted(key.text)));
         keys.append(key.text);
         if (!expect(Kind::Colon, "\":\""))
             return false;
@@ -199,6 +214,8 @@ bool ProfileReader::failExpecting(const char* what)
 {
     if (m_token.kind == Kind::Bad)
         return fail(m_token.position, m_token.text);
+    if (m_token.kind == Kind::Unknown)
+        return fail(m_token.position, QStringLiteral("unexpected %1").arg(quoted(m_token.text)));
     return fail(
         m_token.position, QStringLiteral("expected %1, and found %2").arg(QString::fromUtf8(what), describe(m_token)));
 }
