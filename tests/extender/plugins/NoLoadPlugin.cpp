@@ -1,0 +1,3 @@
+#include "extender/plugins/EntryPoints.h"
+
+void unloadPlugin() { }

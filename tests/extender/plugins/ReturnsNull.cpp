@@ -1,0 +1,8 @@
+#include "extender/plugins/EntryPoints.h"
+
+OrvPlugin* loadPlugin()
+{
+    return nullptr;
+}
+
+void unloadPlugin() { }

@@ -1,0 +1,42 @@
+#include "extender/plugins/CountingPlugin.h"
+#include "extender/plugins/EntryPoints.h"
+
+namespace {
+
+class ThrowingExtension : public CountingExtension {
+public:
+    using CountingExtension::CountingExtension;
+
+    void unload() override { throw std::runtime_error("still in use"); }
+};
+
+class ThrowingPlugin : public CountingPlugin {
+public:
+    void load() override
+    {
+        addExtension(&m_first);
+        addExtension(&m_throwing);
+        OrvPlugin::load();
+    }
+
+private:
+    CountingExtension m_first{"First"};
+    ThrowingExtension m_throwing{"Throwing"};
+};
+
+ThrowingPlugin* thePlugin = nullptr;
+
+} // namespace
+
+OrvPlugin* loadPlugin()
+{
+    thePlugin = new ThrowingPlugin;
+    return thePlugin;
+}
+
+void unloadPlugin()
+{
+    delete thePlugin;
+    thePlugin = nullptr;
+    throw 1;
+}

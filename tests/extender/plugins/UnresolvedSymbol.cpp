@@ -1,0 +1,10 @@
+#include "extender/plugins/EntryPoints.h"
+
+OrvPlugin* makeSomewhereElse();
+
+OrvPlugin* loadPlugin()
+{
+    return makeSomewhereElse();
+}
+
+void unloadPlugin() { }

@@ -1,0 +1,246 @@
+#include "extender/Recording.h"
+#include "extender/TestCommand.h"
+
+#include "orvane/extender/OrvServices.h"
+
+#include "meridane/base/NxDelayQueue.h"
+#include "meridane/scene/NxFieldSensor.h"
+#include "meridane/scene/NxPointLight.h"
+#include "meridane/scene/NxRef.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+class TestOrvServices : public QObject {
+    Q_OBJECT
+
+    QStringList m_calls;
+
+    TestCommand* newCommand(const char* name) { return new TestCommand(QString::fromLatin1(name), m_calls); }
+
+    /// Notes each selection signal: "node name" or "field name", with "-" for null.
+    void noteSelection(OrvServices& services)
+    {
+        connect(&services, &OrvServices::selectedNodeChanged, this, [this](const NxFieldContainer* node) {
+            m_calls.append(u"node "_s + (node != nullptr ? orvane::toQString(node->getName()) : u"-"_s));
+        });
+        connect(&services, &OrvServices::selectedFieldChanged, this, [this](const NxField* field) {
+            m_calls.append(
+                u"field "_s + (field != nullptr ? orvane::toQString(field->getContainer()->getName()) : u"-"_s));
+        });
+    }
+
+    static NxRef<NxPointLight> newLight(const char* name)
+    {
+        NxRef<NxPointLight> light(new NxPointLight);
+        light->setName(name);
+        return light;
+    }
+
+private Q_SLOTS:
+    void init() { m_calls.clear(); }
+
+    void theServicesAreTheOnesThatLive()
+    {
+        QVERIFY(OrvServices::getInstance() == nullptr);
+        {
+            OrvServices services;
+            QCOMPARE(OrvServices::getInstance(), &services);
+        }
+        QVERIFY(OrvServices::getInstance() == nullptr);
+    }
+
+    void selectingEmitsAtOnceEachTime()
+    {
+        OrvServices services;
+        noteSelection(services);
+        const auto a = newLight("a");
+        services.selectNode(a.get());
+        QCOMPARE(taken(m_calls), QStringList{u"node a"_s});
+        QCOMPARE(services.getSelectedNode(), a.get());
+        services.selectNode(a.get());
+        QCOMPARE(taken(m_calls), QStringList{u"node a"_s});
+        services.selectField(&a->intensity);
+        services.selectField(&a->intensity);
+        QCOMPARE(taken(m_calls), (QStringList{u"field a"_s, u"field a"_s}));
+        QCOMPARE(services.getSelectedField(), &a->intensity);
+        services.selectField(nullptr);
+        services.selectNode(nullptr);
+        QCOMPARE(taken(m_calls), (QStringList{u"field -"_s, u"node -"_s}));
+        QVERIFY(services.getSelectedNode() == nullptr);
+        QVERIFY(services.getSelectedField() == nullptr);
+    }
+
+    void anotherNodeTakesTheFieldAwayFirst()
+    {
+        OrvServices services;
+        const auto a = newLight("a");
+        const auto b = newLight("b");
+        services.selectNode(a.get());
+        services.selectField(&a->intensity);
+        noteSelection(services);
+        services.selectNode(a.get());
+        QCOMPARE(taken(m_calls), QStringList{u"node a"_s});
+        services.selectNode(b.get());
+        QCOMPARE(taken(m_calls), (QStringList{u"field -"_s, u"node b"_s}));
+        QVERIFY(services.getSelectedField() == nullptr);
+        services.selectNode(a.get());
+        QCOMPARE(taken(m_calls), QStringList{u"node a"_s});
+    }
+
+    void aSlotSeesTheNewSelection()
+    {
+        OrvServices services;
+        const auto a = newLight("a");
+        const NxFieldContainer* seen = nullptr;
+        connect(&services, &OrvServices::selectedNodeChanged, this, [&] { seen = services.getSelectedNode(); });
+        services.selectNode(a.get());
+        QCOMPARE(seen, a.get());
+    }
+
+    void theSelectionIsAnnouncedAnewNodeFirst()
+    {
+        OrvServices services;
+        const auto a = newLight("a");
+        services.selectNode(a.get());
+        services.selectField(&a->intensity);
+        noteSelection(services);
+        services.announceSelection();
+        QCOMPARE(taken(m_calls), (QStringList{u"node a"_s, u"field a"_s}));
+    }
+
+    void theSelectedNodeAndTheFieldsOwnerAreHeldAlive()
+    {
+        OrvServices services;
+        auto node = newLight("node");
+        auto owner = newLight("owner");
+        services.selectNode(node.get());
+        services.selectField(&owner->intensity);
+        QCOMPARE(node->getRefCount(), 2);
+        QCOMPARE(owner->getRefCount(), 2);
+        services.selectField(nullptr);
+        QCOMPARE(owner->getRefCount(), 1);
+        services.selectNode(nullptr);
+        QCOMPARE(node->getRefCount(), 1);
+    }
+
+    void aNodeThatTheSceneDropsStaysSelected()
+    {
+        OrvServices services;
+        NxPointLight* light = newLight("a").get();
+        services.selectNode(nullptr);
+        {
+            const auto scene = newLight("b");
+            light = scene.get();
+            services.selectNode(light);
+        }
+        QCOMPARE(light->getRefCount(), 1);
+        QCOMPARE(services.getSelectedNode(), light);
+    }
+
+    void aSelectedFieldThatStandsAloneMayDie()
+    {
+        OrvServices services;
+        {
+            NxSFFloat field(nullptr, "field", 1);
+            services.selectField(&field);
+            field.setValue(2);
+            QCOMPARE(services.getSelectedField(), &field);
+        }
+        QVERIFY(services.getSelectedField() == nullptr);
+        services.pushCommand(newCommand("a"));
+        QVERIFY(services.canUndo());
+    }
+
+    void aCommandHoldsTheSelectedNodeBeyondTheSelection()
+    {
+        OrvServices services;
+        const auto light = newLight("a");
+        services.selectNode(light.get());
+        services.selectField(&light->intensity);
+        services.pushCommand(newCommand("a"));
+        services.selectNode(nullptr);
+        QCOMPARE(light->getRefCount(), 2);
+        services.clearHistory();
+        QCOMPARE(light->getRefCount(), 1);
+    }
+
+    void aNullCommandIsIgnored()
+    {
+        OrvServices services;
+        services.pushCommand(nullptr);
+        QVERIFY(!services.canUndo());
+        QVERIFY(services.isClean());
+    }
+
+    void aCommandIsExecutedBeforePushReturnsAndOwned()
+    {
+        {
+            OrvServices services;
+            services.pushCommand(newCommand("a"));
+            QCOMPARE(taken(m_calls), QStringList{u"execute a"_s});
+            services.undo();
+            services.redo();
+            QCOMPARE(taken(m_calls), (QStringList{u"undo a"_s, u"redo a"_s}));
+        }
+        QCOMPARE(taken(m_calls), QStringList{u"destroy a"_s});
+    }
+
+    void historyChangedTellsEachChangeOfTheAnswersAndNoMore()
+    {
+        OrvServices services;
+        QSignalSpy changed(&services, &OrvServices::historyChanged);
+        const auto changes = [&] {
+            const qsizetype count = changed.size();
+            changed.clear();
+            return count;
+        };
+        services.undo();
+        services.redo();
+        services.setClean();
+        services.clearHistory();
+        QCOMPARE(changes(), 0);
+        services.pushCommand(newCommand("a")); // can undo, is no longer clean
+        QCOMPARE(changes(), 1);
+        services.pushCommand(newCommand("b"));
+        QCOMPARE(changes(), 0);
+        services.setClean();
+        QCOMPARE(changes(), 1);
+        services.undo(); // can redo, is no longer clean
+        QCOMPARE(changes(), 1);
+        services.undo(); // can't undo
+        QCOMPARE(changes(), 1);
+        services.redo();
+        QCOMPARE(changes(), 1);
+        services.clearHistory();
+        QCOMPARE(changes(), 1);
+        QVERIFY(services.isClean());
+    }
+
+    void theLimitDropsTheOldest()
+    {
+        OrvServices services;
+        services.pushCommand(newCommand("a"));
+        services.pushCommand(newCommand("b"));
+        services.setHistoryLimit(0);
+        QCOMPARE(services.undoDepth(), 1);
+    }
+
+    void sensorsAreCalledFromTheEventLoop()
+    {
+        OrvServices services;
+        NxSFFloat field(nullptr, "field", 1);
+        int calls = 0;
+        NxFieldSensor sensor([](void* data, NxSensor*) { ++*static_cast<int*>(data); }, &calls);
+        sensor.attach(&field);
+        field.setValue(2);
+        field.setValue(3);
+        QCOMPARE(calls, 0);
+        QCoreApplication::processEvents();
+        QCOMPARE(calls, 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestOrvServices)
+#include "tst_OrvServices.moc"

@@ -1,0 +1,223 @@
+#include "extender/Recording.h"
+
+#include "orvane/extender/OrvExtension.h"
+#include "orvane/extender/OrvPluginsManager.h"
+#include "orvane/extender/OrvProfile.h"
+
+#include "meridane/base/NxDebugError.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+class TestPluginLibrary : public QObject {
+    Q_OBJECT
+
+private:
+    static QString pathOf(const QString& name) { return QStringLiteral(PLUGIN_FOLDER "/lib%1.so").arg(name); }
+
+    static QStringList takeCalls()
+    {
+        const QStringList calls = qApp->property("calls").toStringList();
+        qApp->setProperty("calls", QVariant());
+        return calls;
+    }
+
+    static void writeFile(const QString& name, const QByteArray& content)
+    {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), content.size());
+    }
+
+private Q_SLOTS:
+    void cleanup() { takeCalls(); }
+
+    void aSoundPluginIsMadeLoadedUnloadedAndDestroyed()
+    {
+        OrvPluginsManager manager;
+        QCOMPARE(manager.loadPlugin(pathOf(u"Sound"_s)), std::nullopt);
+        QCOMPARE(takeCalls(), words("construct load"));
+        QCOMPARE(manager.getExtensions().size(), 1);
+        manager.unloadPlugins();
+        QCOMPARE(takeCalls(), words("unload destroy"));
+        QVERIFY(manager.getExtensions().isEmpty());
+    }
+
+    void aPluginCanBeLoadedAgainAfterItWasUnloaded()
+    {
+        OrvPluginsManager manager;
+        QCOMPARE(manager.loadPlugin(pathOf(u"Sound"_s)), std::nullopt);
+        manager.unloadPlugins();
+        takeCalls();
+        QCOMPARE(manager.loadPlugin(pathOf(u"Sound"_s)), std::nullopt);
+        QCOMPARE(takeCalls(), words("construct load"));
+    }
+
+    void theManagersEndUnloadsAndDestroys()
+    {
+        {
+            OrvPluginsManager manager;
+            QCOMPARE(manager.loadPlugin(pathOf(u"Sound"_s)), std::nullopt);
+            QCOMPARE(manager.addProfile(
+                         std::make_unique<OrvProfile>(u"All"_s, QList<OrvProfile::Entry>{{u"*"_s, true, {}}})),
+                std::nullopt);
+            manager.setActiveProfile(manager.findProfile(u"All"_s));
+            takeCalls();
+        }
+        QCOMPARE(takeCalls(), words("deactivate unload destroy"));
+    }
+
+    void aBrokenPluginIsToldInOneLineAndLeftOut_data()
+    {
+        QTest::addColumn<QString>("fileName");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QStringList>("calls");
+
+        const auto plugin = [](const char* name, const char* message, const QStringList& calls = {}) {
+            QTest::newRow(name) << pathOf(QString::fromUtf8(name)) << QString::fromUtf8(message) << calls;
+        };
+        plugin("NoSuchPlugin", "there is no such file");
+        QTest::newRow("folder") << QStringLiteral(PLUGIN_FOLDER) << u"it is a folder, not a plug-in"_s << QStringList();
+        QTest::newRow("device") << u"/dev/null"_s << u"it is no regular file"_s << QStringList();
+        plugin("NoLoadPlugin", "it is no plug-in, for it lacks the function \"loadPlugin\"");
+        plugin("NoUnloadPlugin", "it is no plug-in, for it lacks the function \"unloadPlugin\"");
+        plugin("ReturnsNull", "its \"loadPlugin\" returned no plug-in");
+        plugin("ThrowsInLoadPlugin", "its \"loadPlugin\" threw an exception: no licence for this machine");
+        plugin("ThrowsInLoad", "it can't be loaded, for it threw an exception: no such font",
+            words("construct load unload destroy"));
+        plugin("OtherInterfaceVersion", "it was built against version 2 of the plug-in interface; this is version 1",
+            words("construct destroy"));
+    }
+    void aBrokenPluginIsToldInOneLineAndLeftOut()
+    {
+        QFETCH(QString, fileName);
+        QFETCH(QString, message);
+        QFETCH(QStringList, calls);
+
+        OrvPluginsManager manager;
+        QCOMPARE(manager.loadPlugin(fileName), fileName + u": "_s + message);
+        QCOMPARE(takeCalls(), calls);
+        QVERIFY(manager.getExtensions().isEmpty());
+        QCOMPARE(manager.loadPlugin(pathOf(u"Sound"_s)), std::nullopt);
+        QCOMPARE(manager.getExtensions().size(), 1);
+    }
+
+    void aFileThatIsNoLibraryIsToldWithTheSystemsReason_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("text") << QByteArray("This is no library.\n");
+        QTest::newRow("cut off behind the magic number") << QByteArray("\x7f"
+                                                                       "ELF\x02\x01\x01",
+            7);
+    }
+    void aFileThatIsNoLibraryIsToldWithTheSystemsReason()
+    {
+        QFETCH(QByteArray, content);
+        const QTemporaryDir folder;
+        const QString fileName = folder.filePath(u"libforeign.so"_s);
+        writeFile(fileName, content);
+
+        OrvPluginsManager manager;
+        const QString message = manager.loadPlugin(fileName).value();
+        const QString start = fileName + u": it can't be loaded as a plug-in: "_s;
+        QVERIFY2(message.startsWith(start), qPrintable(message));
+        QVERIFY2(message.size() > start.size(), qPrintable(message));
+        QVERIFY2(!message.contains(u'\n'), qPrintable(message));
+        QCOMPARE(message.count(fileName), 1);
+    }
+
+    void aLibraryCutOffIsTold_data()
+    {
+        QTest::addColumn<qint64>("size");
+        QTest::newRow("in the first segment") << qint64(3000);
+        QTest::newRow("behind the first page") << qint64(5000);
+    }
+    void aLibraryCutOffIsTold()
+    {
+        QFETCH(qint64, size);
+        QFile sound(pathOf(u"Sound"_s));
+        QVERIFY(sound.open(QIODevice::ReadOnly));
+        QVERIFY(sound.size() > size);
+        const QTemporaryDir folder;
+        const QString fileName = folder.filePath(u"libcut.so"_s);
+        writeFile(fileName, sound.read(size));
+
+        OrvPluginsManager manager;
+        QCOMPARE(manager.loadPlugin(fileName), fileName + u": it can't be loaded as a plug-in: the file is cut off"_s);
+    }
+
+    void aMissingSymbolIsNamedWhenTheLibraryIsLoaded()
+    {
+        OrvPluginsManager manager;
+        const QString message = manager.loadPlugin(pathOf(u"UnresolvedSymbol"_s)).value();
+        QVERIFY2(message.contains(u"makeSomewhereElse"_s), qPrintable(message));
+        QVERIFY2(!message.contains(u'\n'), qPrintable(message));
+    }
+
+    void anUnreadableFileIsTold()
+    {
+        const QTemporaryDir folder;
+        const QString fileName = folder.filePath(u"libunreadable.so"_s);
+        QVERIFY(QFile::copy(pathOf(u"Sound"_s), fileName));
+        QVERIFY(QFile::setPermissions(fileName, {}));
+        if (QFileInfo(fileName).isReadable())
+            QSKIP("this user may read everything");
+        OrvPluginsManager manager;
+        QCOMPARE(manager.loadPlugin(fileName), fileName + u": it can't be read"_s);
+    }
+
+    void theSameFileIsLoadedOnceUnderWhateverName()
+    {
+        const QTemporaryDir folder;
+        const QString link = folder.filePath(u"liblink.so"_s);
+        QVERIFY(QFile::link(pathOf(u"Sound"_s), link));
+        OrvPluginsManager manager;
+        QCOMPARE(manager.loadPlugin(pathOf(u"Sound"_s)), std::nullopt);
+        QCOMPARE(manager.loadPlugin(pathOf(u"Sound"_s)), pathOf(u"Sound"_s) + u": it is loaded already"_s);
+        QCOMPARE(manager.loadPlugin(link), link + u": it is loaded already"_s);
+        QCOMPARE(manager.getExtensions().size(), 1);
+    }
+
+    void whatUnloadingThrowsIsPostedAndTheRestIsUnloaded()
+    {
+        QStringList errors;
+        const auto keep = [](const NxError* error, void* data) {
+            static_cast<QStringList*>(data)->append(QString::fromUtf8(error->getDebugString().toUtf8()));
+        };
+        NxDebugError::setHandlerCallback(keep, &errors);
+        {
+            OrvPluginsManager manager;
+            QCOMPARE(manager.loadPlugin(pathOf(u"ThrowsInUnload"_s)), std::nullopt);
+            takeCalls();
+        }
+        NxDebugError::setHandlerCallback(nullptr, nullptr);
+        QCOMPARE(takeCalls(), words("unload destroy"));
+        QCOMPARE(errors.size(), 2);
+        QVERIFY2(errors.at(0).contains(u"still in use"_s), qPrintable(errors.at(0)));
+        QVERIFY2(errors.at(1).contains(u"of unknown kind"_s), qPrintable(errors.at(1)));
+    }
+
+    void pluginsAreFoundByTheirNamesInTheOrderOfFolders()
+    {
+        const QTemporaryDir first;
+        const QTemporaryDir second;
+        const QString b = first.filePath(u"libkal_orvane_extender_b.so"_s);
+        const QString a = first.filePath(u"libkal_orvane_extender_a.so"_s);
+        const QString c = second.filePath(u"libkal_orvane_extender_c.so"_s);
+        const QStringList others{first.filePath(u"libother.so"_s), first.filePath(u"kal_orvane_extender_d.so"_s),
+            first.filePath(u"libkal_orvane_extender_e.so.1"_s), second.filePath(u"libkal_orvane_extender_a.so"_s)};
+        for (const QString& fileName : QStringList{b, a, c} + others)
+            writeFile(fileName, {});
+        QVERIFY(QDir(second.path()).mkdir(u"libkal_orvane_extender_folder.so"_s));
+
+        QCOMPARE(OrvPluginsManager::findPlugins({first.path(), second.path()}), (QStringList{a, b, c}));
+        QCOMPARE(OrvPluginsManager::findPlugins({first.filePath(u"missing"_s)}), QStringList());
+        QCOMPARE(OrvPluginsManager::findPlugins({}), QStringList());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPluginLibrary)
+#include "tst_PluginLibrary.moc"
