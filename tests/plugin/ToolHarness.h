@@ -19,16 +19,20 @@
 #include <QToolBar>
 #include <QtTest>
 
-/// The services of the tool, which also count the commands.
+#include <vector>
+
+/// The services of the tool, which also count the commands and keep them in reach.
 class RecordingServices final : public OrvServices {
 public:
     void pushCommand(OrvCommand* command) override
     {
         ++pushed;
+        commands.push_back(command);
         OrvServices::pushCommand(command);
     }
 
     int pushed = 0;
+    std::vector<OrvCommand*> commands; // the history owns them
 };
 
 /// A shell with a main window of its own that writes down what extensions ask of it.
