@@ -2,6 +2,7 @@
 
 #include "FieldEditors/OrvFieldEditors.h"
 
+#include <QFrame>
 #include <QStringList>
 
 /// A field editor that writes down what is done to it, into a list that several may share.
