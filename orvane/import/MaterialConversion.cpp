@@ -109,7 +109,12 @@ NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model)
         result->filePath.setValue(VbString(std::string_view(path)));
         return result;
     }
-    result->filePath.setValue(toText(embedded->mFilename));
+    // What an embedded picture is called may be the path of the file that it was.
+    const VbString name = toText(embedded->mFilename);
+    if (name.view().find('.') != std::string_view::npos)
+        result->filePath.setValue(name);
+    else
+        result->setName(name);
     if (std::optional<Picture> picture = pictureOf(*embedded)) {
         const VbVec2s size(static_cast<short>(picture->width), static_cast<short>(picture->height));
         result->image.setValue(size, picture->components, std::move(picture->bytes));

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 namespace orvane {
@@ -57,9 +58,10 @@ bool isShown(const NxGroup& group, int index)
 
 } // namespace
 
-ModelBuilder::ModelBuilder(Images images, std::string imageName)
+ModelBuilder::ModelBuilder(Images images, std::string imageName, MeshesPerNode meshesPerNode)
     : m_images(images)
     , m_imageName(std::move(imageName))
+    , m_meshesPerNode(meshesPerNode)
 {
 }
 
@@ -71,6 +73,8 @@ std::unique_ptr<aiScene> ModelBuilder::build(const NxGroup& scene, std::string& 
     root.node->mName = toAiText(std::string_view("ROOT"));
     m_names.insert("ROOT");
     addChildren(root, scene, {});
+    if (m_meshesPerNode == MeshesPerNode::One)
+        separateMeshes(root);
     if (m_error.empty() && m_meshes.empty())
         m_error = "the scene has no mesh that could be written";
     if (!m_error.empty()) {
@@ -106,6 +110,23 @@ void ModelBuilder::addChildren(Node& node, const NxGroup& group, Look look)
         else if (const auto* inner = dynamic_cast<const NxGroup*>(child))
             addGroup(node, *inner, look);
     }
+}
+
+void ModelBuilder::separateMeshes(Node& node) const
+{
+    for (const std::unique_ptr<Node>& child : node.children)
+        separateMeshes(*child);
+    if (node.meshes.size() < 2)
+        return;
+    std::vector<std::unique_ptr<Node>> holders;
+    for (const unsigned int index : node.meshes) {
+        Node& holder = *holders.emplace_back(std::make_unique<Node>());
+        holder.node->mName = m_meshes[index]->mName;
+        holder.meshes.push_back(index);
+    }
+    node.meshes.clear();
+    std::move(node.children.begin(), node.children.end(), std::back_inserter(holders));
+    node.children = std::move(holders);
 }
 
 void ModelBuilder::addGroup(Node& node, const NxGroup& group, const Look& look)
@@ -200,7 +221,7 @@ std::string ModelBuilder::picturePath(const NxTexture& texture)
         return place->second;
     }
     aiTexture& made = *m_textures.emplace_back(std::make_unique<aiTexture>());
-    made.mFilename = toAiText(texture.filePath.getValue());
+    made.mFilename = toAiText(texture.getName().isEmpty() ? texture.filePath.getValue() : texture.getName());
     made.mWidth = static_cast<unsigned int>(file.size());
     std::strcpy(made.achFormatHint, "png");
     // The library's type of a pixel stands for four bytes of any file.

@@ -29,8 +29,10 @@ class ModelBuilder {
 public:
     /// Where images of textures go: nowhere, into the model, or into files named `imageName` and a number.
     enum class Images { Nowhere, Inside, Beside };
+    /// How many meshes a node may hold.
+    enum class MeshesPerNode { One, Many };
 
-    ModelBuilder(Images images, std::string imageName);
+    ModelBuilder(Images images, std::string imageName, MeshesPerNode meshesPerNode);
     ~ModelBuilder();
 
     /// The model, or null with `error` saying what is wrong with the scene.
@@ -50,6 +52,7 @@ private:
     struct Node;
 
     void addChildren(Node& node, const NxGroup& group, Look look);
+    void separateMeshes(Node& node) const;
     void addGroup(Node& node, const NxGroup& group, const Look& look);
     void addMesh(Node& node, const NxMesh& mesh, const Look& look);
     void addLight(Node& node, const NxLight& light);
@@ -61,6 +64,7 @@ private:
 
     Images m_images;
     std::string m_imageName;
+    MeshesPerNode m_meshesPerNode;
     std::string m_error;
     std::vector<std::unique_ptr<aiMesh>> m_meshes;
     std::vector<std::unique_ptr<aiMaterial>> m_materials;

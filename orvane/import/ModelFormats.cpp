@@ -15,10 +15,9 @@ struct WritableFormat {
 };
 
 // Where the library has several formats for one extension, the current one, and the compact one if the library can read
-// it back. Formats that the library writes past the files it is given (3mf), crashes on (x3d) or can't read back (stp)
-// aren't here.
-constexpr std::array<WritableFormat, 9> writableFormats{{
-    {"3ds", "3ds"},
+// it back. Formats that the library writes past the files it is given (3mf), crashes on (x3d), misplaces (3ds) or can't
+// read back (stp) aren't here.
+constexpr std::array<WritableFormat, 8> writableFormats{{
     {"dae", "collada"},
     {"fbx", "fbxa"},
     {"glb", "glb2"},

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <assimp/Importer.hpp>
+#include <filesystem>
 
 #include <assimp/postprocess.h>
 #include <assimp/scene.h>
@@ -17,14 +18,21 @@ namespace {
 constexpr unsigned int steps
     = aiProcess_ValidateDataStructure | aiProcess_Triangulate | aiProcess_SortByPType | aiProcess_JoinIdenticalVertices;
 
-std::string failureText(const Assimp::Importer& importer)
+bool hasModelExtension(const std::string& path)
+{
+    const std::string extension = std::filesystem::path(path).extension().string(); // with the dot, if any
+    return extension.size() > 1 && Assimp::Importer().IsExtensionSupported(extension);
+}
+
+std::string failureText(const std::string& path, const Assimp::Importer& importer)
 {
     std::string text = importer.GetErrorString();
     if (text.empty())
         return "the model can't be read";
     // The library repeats the whole path and knows nothing better to say.
     if (text.starts_with("No suitable reader found"))
-        return "this is in none of the model formats that can be read";
+        return hasModelExtension(path) ? "the model is broken: it isn't in the format that its name tells"
+                                       : "this is in none of the model formats that can be read";
     std::replace_if(
         text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
     return "the model is broken: " + text;
@@ -42,10 +50,10 @@ NxRef<NxGroup> readModel(const std::string& path, std::string& error)
     Assimp::Importer importer;
     const aiScene* model = importer.ReadFile(path, steps);
     if (model == nullptr || model->mRootNode == nullptr) {
-        error = path + ": " + failureText(importer);
+        error = path + ": " + failureText(path, importer);
         return {};
     }
-    NxRef<NxGroup> scene = SceneBuilder(*model).build(error);
+    NxRef<NxGroup> scene = SceneBuilder(*model, std::filesystem::path(path).filename().string()).build(error);
     if (!scene)
         error = path + ": " + error;
     return scene;

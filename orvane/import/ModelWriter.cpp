@@ -1,12 +1,15 @@
 #include "orvane/import/ModelWriter.h"
 
+#include "orvane/import/GltfAdditions.h"
 #include "orvane/import/MemoryFiles.h"
 #include "orvane/import/ModelBuilder.h"
 #include "orvane/import/ModelFormats.h"
 
 #include <algorithm>
-#include <array>
 #include <assimp/Exporter.hpp>
+#include <optional>
+#include <span>
+#include <string_view>
 #include <utility>
 
 namespace orvane {
@@ -50,12 +53,19 @@ std::vector<NamedFile> writeModel(
 {
     const std::string format = exportFormat(extension);
     const std::string file = name + "." + extension;
-    ModelBuilder builder(imagesOf(format), name);
+    // The exporter merges the meshes of a node into the first one, wherever else that is used.
+    const bool isGltf = format == "glb2" || format == "gltf2";
+    ModelBuilder builder(
+        imagesOf(format), name, isGltf ? ModelBuilder::MeshesPerNode::One : ModelBuilder::MeshesPerNode::Many);
     const std::unique_ptr<aiScene> model = builder.build(scene, error);
     if (model == nullptr)
         return {};
     if (mixesColors(format))
         completeColors(*model);
+
+    std::optional<GltfAdditions> additions;
+    if (isGltf)
+        additions.emplace(*model);
 
     Assimp::Exporter exporter;
     auto* files = new MemoryFiles; // the exporter's own
@@ -71,6 +81,8 @@ std::vector<NamedFile> writeModel(
         error = "the export library wrote nothing";
         return {};
     }
+    if (additions)
+        additions->complete(main->bytes);
     std::rotate(result.begin(), main, main + 1);
     for (NamedFile& image : builder.takeImageFiles())
         result.push_back(std::move(image));

@@ -11,7 +11,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <span>
+#include <utility>
 
 #include <assimp/commonMetaData.h>
 #include <assimp/scene.h>
@@ -35,8 +37,7 @@ bool isPlain(const aiNode& node)
     return node.mNumChildren == 0 && node.mNumMeshes == 0;
 }
 
-// The library's reader of this format sets a camera's position to the translation that its node has as well.
-bool repeatsCameraPosition(const aiScene& model)
+bool isGltf(const aiScene& model)
 {
     aiString format;
     return model.mMetaData != nullptr && model.mMetaData->Get(AI_METADATA_SOURCE_FORMAT, format)
@@ -45,11 +46,12 @@ bool repeatsCameraPosition(const aiScene& model)
 
 } // namespace
 
-SceneBuilder::SceneBuilder(const aiScene& model)
+SceneBuilder::SceneBuilder(const aiScene& model, std::string fileName)
     : m_model(model)
+    , m_fileName(std::move(fileName))
     , m_meshGroups(model.mNumMeshes)
     , m_materials(model.mNumMaterials)
-    , m_repeatsCameraPosition(repeatsCameraPosition(model))
+    , m_isGltf(isGltf(model))
 {
     for (const aiLight* light : children(model.mLights, model.mNumLights))
         m_lights[viewOf(light->mName)].push_back(light);
@@ -73,9 +75,8 @@ bool SceneBuilder::isMadeUp(const aiNode& root) const
 {
     constexpr std::array<std::string_view, 5> names{"", "ROOT", "RootNode", "Scene", "<BlenderRoot>"};
     const std::string_view name = viewOf(root.mName);
-    const bool named = std::find(names.begin(), names.end(), name) == names.end() && name.find('.') == name.npos;
-    return !named && root.mTransformation.IsIdentity() && root.mNumMeshes == 0 && root.mNumChildren > 0
-        && !m_cameras.contains(name) && !m_lights.contains(name);
+    const bool named = std::find(names.begin(), names.end(), name) == names.end() && name != m_fileName;
+    return !named && root.mTransformation.IsIdentity() && !m_cameras.contains(name) && !m_lights.contains(name);
 }
 
 void SceneBuilder::addLights(NxGroup& scene, const aiNode& node, const aiMatrix4x4& above)
@@ -134,10 +135,15 @@ NxRef<NxCamera> SceneBuilder::cameraOf(const aiNode& node) const
     const auto place = m_cameras.find(viewOf(node.mName));
     if (place == m_cameras.end())
         return {};
-    NxRef<NxCamera> camera = toCamera(*place->second);
-    if (m_repeatsCameraPosition)
-        camera->position.setValue(0, 0, 0);
-    return camera;
+    if (!m_isGltf)
+        return toCamera(*place->second);
+    // The library's reader of this format sets the position to the translation that the node has as well, and makes the
+    // width's angle by multiplying the height's, not its tangent.
+    aiCamera camera = *place->second;
+    camera.mPosition = aiVector3D();
+    if (camera.mAspect > 0)
+        camera.mHorizontalFOV = 2 * std::atan(std::tan(camera.mHorizontalFOV / camera.mAspect / 2) * camera.mAspect);
+    return toCamera(camera);
 }
 
 NxRef<NxGroup> SceneBuilder::meshGroup(unsigned int index)

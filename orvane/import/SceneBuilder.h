@@ -29,8 +29,8 @@ namespace orvane {
 /// materials and textures that the model uses twice are shared.
 class SceneBuilder {
 public:
-    /// The model must outlive the builder.
-    explicit SceneBuilder(const aiScene& model);
+    /// The model must outlive the builder. `fileName` is the name of its file, without a folder.
+    SceneBuilder(const aiScene& model, std::string fileName);
 
     /// The scene, or null with `error` saying what can't be told in a scene.
     [[nodiscard]] NxRef<NxGroup> build(std::string& error);
@@ -51,12 +51,13 @@ private:
     using TextureKey = std::tuple<std::string, int, int>; // path and wraps
 
     const aiScene& m_model;
+    std::string m_fileName;
     std::unordered_map<std::string_view, std::vector<const aiLight*>> m_lights; // by the name of their node
     std::unordered_map<std::string_view, const aiCamera*> m_cameras;
     std::vector<NxRef<NxGroup>> m_meshGroups; // as the model's meshes, made when used
     std::vector<NxRef<NxMaterial>> m_materials; // as the model's materials, made when used
     std::map<TextureKey, NxRef<NxTexture>> m_textures;
-    bool m_repeatsCameraPosition = false;
+    bool m_isGltf = false;
 };
 
 } // namespace orvane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <assimp/scene.h>
+
+namespace orvane {
+
+/// Adds cameras and lights to a glTF file: the export library writes the nodes that hold them, but not what they are.
+///
+/// The nodes go through the export under marks in place of their names, which the file's text is then searched for.
+class GltfAdditions {
+public:
+    /// Takes the cameras and lights of a model and marks their nodes.
+    explicit GltfAdditions(aiScene& model);
+
+    /// Completes a file that was written from the model: the text of a `.gltf` or the bytes of a `.glb`.
+    void complete(std::string& file) const;
+
+private:
+    struct Addition {
+        std::string mark; // the name that the node has meanwhile
+        std::string text; // the node's members in place of that name
+    };
+
+    void mark(aiScene& model, const aiString& name, const char* kind, std::size_t index, const std::string& members);
+    void completeText(std::string& text) const;
+
+    std::vector<Addition> m_nodes;
+    std::string m_cameras; // the elements of the lists
+    std::string m_lights;
+};
+
+} // namespace orvane
