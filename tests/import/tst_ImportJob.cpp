@@ -1,0 +1,275 @@
+#include "import/FakeHelper.h"
+#include "import/HelperRun.h"
+#include "import/JobRecord.h"
+
+#include "orvane/app/ImportJob.h"
+
+#include "meridane/base/NxReadError.h"
+
+#include <QTest>
+
+#include <csignal>
+
+namespace {
+
+HelperOptions realHelper()
+{
+    HelperOptions options;
+    options.program = helperProgram();
+    return options;
+}
+
+void countError(const NxError*, void* count)
+{
+    ++*static_cast<int*>(count);
+}
+
+} // namespace
+
+class tst_ImportJob : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init() { m_errors = 0; }
+    void cleanupTestCase();
+
+    void aModelArrivesAsAScene();
+    void theSceneIsGivenOnce();
+    void progressIsUnknownUntilTheSceneIsRead();
+    void aPathMayHoldAnyCharacter();
+    void theHelpersMessageIsTheJobs();
+    void everyFailureOfTheHelperIsOneMessage_data();
+    void everyFailureOfTheHelperIsOneMessage();
+    void aMissingHelperIsReported();
+    void aStoppedHelperIsKilled();
+    void aHelperThatFloodsIsStopped();
+    void cancelKillsTheHelper();
+    void cancelWhileTheSceneIsReadDropsIt();
+    void cancelAfterTheEndDoesNothing();
+    void destroyingAJobKillsTheHelper();
+
+private:
+    [[nodiscard]] bool processEnds(const QString& pidFile) const;
+
+    QTemporaryDir m_folder;
+    int m_errors = 0; // that were posted
+    NxErrorHandler m_oldHandler = nullptr;
+    void* m_oldData = nullptr;
+};
+
+void tst_ImportJob::initTestCase()
+{
+    m_oldHandler = NxReadError::getHandlerCallback();
+    m_oldData = NxReadError::getHandlerData();
+    NxReadError::setHandlerCallback(&countError, &m_errors);
+}
+
+void tst_ImportJob::cleanupTestCase()
+{
+    NxReadError::setHandlerCallback(m_oldHandler, m_oldData);
+}
+
+// The script writes its own process number there.
+bool tst_ImportJob::processEnds(const QString& pidFile) const
+{
+    QFile file(pidFile);
+    const int pid = file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toInt() : 0;
+    return pid > 0 && QTest::qWaitFor([pid] { return ::kill(pid, 0) != 0; });
+}
+
+void tst_ImportJob::aModelArrivesAsAScene()
+{
+    ImportJob job(modelFile("crate.glb"), realHelper());
+    const JobRecord record(job);
+    job.start();
+    QCOMPARE(record.ends(), 0);
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.message(), QString());
+    QCOMPARE(record.finished, 1);
+    QCOMPARE(record.ends(), 1);
+    QCOMPARE(m_errors, 0);
+    const NxRef<NxGroup> scene = job.takeScene();
+    QVERIFY(scene);
+    QCOMPARE(scene->getNumChildren(), 3);
+    QCOMPARE(scene->getChild(1)->getName(), VbString("stack"));
+}
+
+void tst_ImportJob::theSceneIsGivenOnce()
+{
+    ImportJob job(modelFile("crate.obj"), realHelper());
+    const JobRecord record(job);
+    QVERIFY(!job.takeScene());
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QVERIFY(job.takeScene());
+    QVERIFY(!job.takeScene());
+}
+
+void tst_ImportJob::progressIsUnknownUntilTheSceneIsRead()
+{
+    ImportJob job(modelFile("crate.glb"), realHelper());
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.shares.first(), -1.0);
+    QCOMPARE(record.shares.last(), 1.0);
+    for (double share : record.shares)
+        QVERIFY(share == -1 || (share >= 0 && share <= 1));
+}
+
+void tst_ImportJob::aPathMayHoldAnyCharacter()
+{
+    const QString fileName = m_folder.filePath(QStringLiteral("--write ä\"日本\n.glb"));
+    QVERIFY(QFile::copy(modelFile("crate.glb"), fileName));
+    ImportJob job(fileName, realHelper());
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.message(), QString());
+    QCOMPARE(record.finished, 1);
+}
+
+void tst_ImportJob::theHelpersMessageIsTheJobs()
+{
+    const QString fileName = m_folder.filePath(QStringLiteral("missing.obj"));
+    ImportJob job(fileName, realHelper());
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.messages, QStringList(fileName + QStringLiteral(": No such file or directory")));
+    QCOMPARE(m_errors, 1);
+    QVERIFY(!job.takeScene());
+}
+
+void tst_ImportJob::everyFailureOfTheHelperIsOneMessage_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("message"); // behind the file's name
+    const QString noScene = QStringLiteral("the import helper gave something that is no scene: ");
+    QTest::newRow("garbage") << QByteArray("echo garbage") << noScene;
+    QTest::newRow("nothing") << QByteArray("exit 0") << noScene;
+    QTest::newRow("half a scene") << QByteArray("printf '#mrd 1.0\\nGroup {\\n  Mesh {'") << noScene;
+    QTest::newRow("half a scene, then a crash") << QByteArray("printf '#mrd 1.0\\nGroup {\\n'; kill -SEGV $$")
+                                                << QStringLiteral("the import helper crashed with signal 11");
+    QTest::newRow("a whole scene, then a failure") << QByteArray(
+        "printf '#mrd 1.0\\n'; exit 1") << QStringLiteral("the import helper ended with status 1 and didn't say why");
+    QTest::newRow("aborted") << QByteArray("kill -ABRT $$")
+                             << QStringLiteral("the import helper crashed with signal 6");
+    QTest::newRow("killed") << QByteArray("kill -KILL $$")
+                            << QStringLiteral("the import helper was killed, maybe for want of memory");
+    QTest::newRow("too much processor time") << QByteArray(
+        "kill -XCPU $$") << QStringLiteral("the import helper needed too much processor time and was stopped");
+}
+
+void tst_ImportJob::everyFailureOfTheHelperIsOneMessage()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(QString, message);
+    ImportJob job(QStringLiteral("box.obj"), fakeHelper(m_folder, script));
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.ends(), 1);
+    QVERIFY2(record.message().startsWith(QStringLiteral("box.obj: ") + message), qPrintable(record.message()));
+    QVERIFY(!record.message().contains(QLatin1Char('\n')));
+    QVERIFY(!job.takeScene());
+    QCOMPARE(m_errors, 1);
+}
+
+void tst_ImportJob::aMissingHelperIsReported()
+{
+    // The one beside this program: there is none.
+    ImportJob job(QStringLiteral("box.obj"));
+    const JobRecord record(job);
+    job.start();
+    QCOMPARE(record.ends(), 0);
+    QVERIFY(record.waitForEnd());
+    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/orvane-import");
+    QVERIFY2(
+        record.message().startsWith(QStringLiteral("box.obj: the import helper %1 can't be started: ").arg(program)),
+        qPrintable(record.message()));
+}
+
+void tst_ImportJob::aStoppedHelperIsKilled()
+{
+    const QString pidFile = m_folder.filePath(QStringLiteral("pid"));
+    HelperOptions options = fakeHelper(m_folder, "echo $$ > '" + QFile::encodeName(pidFile) + "'; kill -STOP $$");
+    options.patience = std::chrono::milliseconds(500);
+    ImportJob job(QStringLiteral("box.obj"), options);
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.message(), QStringLiteral("box.obj: the import helper did nothing for 0.5 s and was stopped"));
+    QVERIFY(processEnds(pidFile));
+}
+
+void tst_ImportJob::aHelperThatFloodsIsStopped()
+{
+    HelperOptions options = fakeHelper(m_folder, "exec yes");
+    options.outputLimit = 3 << 20;
+    ImportJob job(QStringLiteral("box.obj"), options);
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.message(), QStringLiteral("box.obj: the import helper wrote more than 3 MiB and was stopped"));
+}
+
+void tst_ImportJob::cancelKillsTheHelper()
+{
+    const QString pidFile = m_folder.filePath(QStringLiteral("pid"));
+    ImportJob job(QStringLiteral("box.obj"),
+        fakeHelper(m_folder,
+            "echo $$ > '" + QFile::encodeName(pidFile) + ".new'; mv '" + QFile::encodeName(pidFile) + ".new' '"
+                + QFile::encodeName(pidFile) + ".2'; exec sleep 1000"));
+    const JobRecord record(job);
+    job.start();
+    QTRY_VERIFY(QFile::exists(pidFile + QStringLiteral(".2")));
+    job.cancel();
+    QCOMPARE(record.ends(), 0);
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.cancelled, 1);
+    QCOMPARE(record.ends(), 1);
+    QVERIFY(processEnds(pidFile + QStringLiteral(".2")));
+}
+
+void tst_ImportJob::cancelWhileTheSceneIsReadDropsIt()
+{
+    ImportJob job(QStringLiteral("box.obj"), fakeHelper(m_folder, "echo '#mrd 1.0'; yes 'Group { }' | head -n 300000"));
+    const JobRecord record(job);
+    job.start();
+    QTRY_VERIFY(record.shares.size() > 1);
+    job.cancel();
+    job.cancel();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.cancelled, 1);
+    QCOMPARE(record.ends(), 1);
+    QVERIFY(!job.takeScene());
+}
+
+void tst_ImportJob::cancelAfterTheEndDoesNothing()
+{
+    ImportJob job(modelFile("crate.obj"), realHelper());
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    job.cancel();
+    QCoreApplication::processEvents();
+    QCOMPARE(record.ends(), 1);
+    QVERIFY(job.takeScene());
+}
+
+void tst_ImportJob::destroyingAJobKillsTheHelper()
+{
+    const QString pidFile = m_folder.filePath(QStringLiteral("pid.3"));
+    {
+        ImportJob job(QStringLiteral("box.obj"),
+            fakeHelper(m_folder, "echo $$ > '" + QFile::encodeName(pidFile) + "'; echo; exec sleep 1000"));
+        job.start();
+        QTRY_VERIFY(QFile(pidFile).size() > 0);
+    }
+    QVERIFY(processEnds(pidFile));
+}
+
+QTEST_GUILESS_MAIN(tst_ImportJob)
+#include "tst_ImportJob.moc"
