@@ -42,7 +42,7 @@ bool followLinks(std::string& path)
         if (length < 0)
             return true; // no link, or nothing there
         const std::string target(link.data(), static_cast<std::size_t>(length));
-        path = target.starts_with('/') ? target : folderOf(path) + '/' + target;
+        path = target.starts_with('/') ? target : folderOf(path).append(1, '/').append(target);
     }
     errno = ELOOP;
     return false;

@@ -61,6 +61,8 @@ void ExportJob::writeScene()
     }
     std::string text;
     const bool more = m_writer->step(text, SliceClock::length);
+    if (!m_writer->failure().empty())
+        return fail(QStringLiteral("%1: %2").arg(fileName(), orvane::toQString(m_writer->failure())));
     m_helper.write(text);
     Q_EMIT progressed(m_writer->progress() / 2);
     if (more)

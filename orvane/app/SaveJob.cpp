@@ -49,6 +49,9 @@ std::optional<std::string> SaveJob::writeSlice(bool& done)
     }
     std::string text;
     const bool more = m_writer->step(text, SliceClock::length);
+    // What can't be written whole must not replace the old file.
+    if (!m_writer->failure().empty())
+        return orvane::toStdFileName(fileName()) + ": " + m_writer->failure();
     if (auto message = m_file->write(text.data(), text.size()))
         return message;
     done = !more;

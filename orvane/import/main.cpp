@@ -74,6 +74,8 @@ int readModel(const std::string& path)
             return fail(error);
         text.clear();
     }
+    if (!writer.failure().empty())
+        return fail(writer.failure());
     return Success;
 }
 
