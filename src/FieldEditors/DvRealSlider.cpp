@@ -23,7 +23,8 @@ DvRealSlider::DvRealSlider(int mode, OrvFieldEditors* owner, QWidget* parent, bo
     : DvSlider(mode, owner, parent, row, column)
     , m_isFloat(isFloat)
 {
-    const double limit = isFloat ? double{std::numeric_limits<float>::max()} : std::numeric_limits<double>::max();
+    const double limit
+        = isFloat ? static_cast<double>(std::numeric_limits<float>::max()) : std::numeric_limits<double>::max();
     m_validator = new QDoubleValidator(-limit, limit, isFloat ? 6 : 15, m_edit);
     m_edit->setValidator(m_validator);
     m_position = positionOf(m_value);

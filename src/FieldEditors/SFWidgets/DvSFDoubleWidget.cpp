@@ -27,7 +27,8 @@ void DvSFDoubleWidget::setField(NxField* field)
     if (field != nullptr) {
         m_range = orvane::realFieldRange(*field, "doubleField");
         m_slider = static_cast<DvRealSlider*>(m_editionFrame);
-        m_slider->setRange(double{m_range.doubleMin}, double{m_range.doubleMax}, m_range.bounded);
+        m_slider->setRange(
+            static_cast<double>(m_range.doubleMin), static_cast<double>(m_range.doubleMax), m_range.bounded);
     }
     DvSFieldWidget::setField(field);
 }

@@ -27,7 +27,8 @@ void DvSFFloatWidget::setField(NxField* field)
     if (field != nullptr) {
         m_range = orvane::realFieldRange(*field, "floatField");
         m_slider = static_cast<DvRealSlider*>(m_editionFrame);
-        m_slider->setRange(double{m_range.floatMin}, double{m_range.floatMax}, m_range.bounded);
+        m_slider->setRange(
+            static_cast<double>(m_range.floatMin), static_cast<double>(m_range.floatMax), m_range.bounded);
     }
     DvSFieldWidget::setField(field);
 }
@@ -36,7 +37,7 @@ void DvSFFloatWidget::updateFromField()
 {
     if (m_field == nullptr)
         return;
-    orvane::showReal(*m_slider, double{static_cast<NxSFFloat*>(m_field)->getValue()});
+    orvane::showReal(*m_slider, static_cast<double>(static_cast<NxSFFloat*>(m_field)->getValue()));
     DvSFieldWidget::updateFromField();
 }
 
