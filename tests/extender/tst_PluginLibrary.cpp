@@ -19,8 +19,8 @@ private:
 
     static QStringList takeCalls()
     {
-        const QStringList calls = qApp->property("calls").toStringList();
-        qApp->setProperty("calls", QVariant());
+        const QStringList calls = QCoreApplication::instance()->property("calls").toStringList();
+        QCoreApplication::instance()->setProperty("calls", QVariant());
         return calls;
     }
 
