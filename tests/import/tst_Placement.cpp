@@ -152,8 +152,5 @@ void tst_Placement::onlyAMatrixThatKeepsLengthsIsRigid()
     QVERIFY(!isRigid(sheared(), rotation, translation));
 }
 
-Q_DECLARE_METATYPE(aiMatrix4x4)
-Q_DECLARE_METATYPE(aiVector3D)
-
 QTEST_GUILESS_MAIN(tst_Placement)
 #include "tst_Placement.moc"
