@@ -3,7 +3,7 @@
 #include "meridane/base/VbString.h"
 
 #include <algorithm>
-#include <cstring>
+#include <iterator>
 #include <string_view>
 
 #include <assimp/types.h>
@@ -24,7 +24,7 @@ namespace orvane {
         --length;
     aiString result;
     result.length = static_cast<ai_uint32>(length);
-    std::memcpy(result.data, text.data(), length);
+    std::copy_n(text.begin(), length, std::begin(result.data));
     result.data[length] = '\0';
     return result;
 }
