@@ -12,8 +12,15 @@ QString configFolder()
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/orvane");
 }
 
-/// QSettings takes a file that it can't open for an empty one, so that is found out ahead of it.
-QString openProblem(const QString& fileName)
+bool isSettingsLine(const QByteArray& line)
+{
+    return line.isEmpty() || line.startsWith(';') || line.startsWith('#') || line.contains('=')
+        || (line.startsWith('[') && line.endsWith(']'));
+}
+
+/// QSettings takes a file that it can't open for an empty one, and nearly any line for a setting; then it would write
+/// over the file. So what is wrong is found out ahead of it.
+QString findProblem(const QString& fileName)
 {
     const QFileInfo info(fileName);
     if (!info.exists())
@@ -21,7 +28,16 @@ QString openProblem(const QString& fileName)
     if (!info.isFile())
         return QStringLiteral("it is no file");
     QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? QString() : file.errorString();
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    bool continued = false;
+    for (int number = 1; !file.atEnd(); ++number) {
+        const QByteArray line = file.readLine().trimmed();
+        if (!continued && !isSettingsLine(line))
+            return QStringLiteral("line %1: expected a setting as in \"name=value\"").arg(number);
+        continued = line.endsWith('\\');
+    }
+    return {};
 }
 
 } // namespace
@@ -36,7 +52,7 @@ AppSettings::AppSettings(Mode mode, const QString& fileName)
 {
     if (mode == Mode::None)
         return;
-    QString problem = openProblem(fileName);
+    QString problem = findProblem(fileName);
     if (problem.isEmpty()) {
         m_file = std::make_unique<QSettings>(fileName, QSettings::IniFormat);
         if (m_file->status() == QSettings::NoError)

@@ -13,7 +13,44 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QStyle>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <utility>
+
+namespace {
+
+/// An arrow that turns back, to the left; mirrored it turns to the right.
+QIcon turningArrow(const QPalette& palette, bool mirrored)
+{
+    QIcon icon;
+    for (const auto& [mode, group] :
+        {std::pair(QIcon::Normal, QPalette::Active), {QIcon::Disabled, QPalette::Disabled}}) {
+        for (const int size : {16, 24, 32, 48}) {
+            QPixmap pixmap(size, size);
+            pixmap.fill(Qt::transparent);
+            QPainter painter(&pixmap);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.scale((mirrored ? -size : size) / 16.0, size / 16.0);
+            if (mirrored)
+                painter.translate(-16, 0);
+            const QColor color = palette.color(group, QPalette::ButtonText);
+            painter.setPen(QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap));
+            QPainterPath path(QPointF(3.5, 6));
+            path.lineTo(9.5, 6);
+            path.arcTo(QRectF(6, 6, 7, 7), 90, -180);
+            path.lineTo(6, 13);
+            painter.drawPath(path);
+            painter.setBrush(color);
+            painter.drawPolygon(QPolygonF{{2, 6}, {5.5, 3}, {5.5, 9}});
+            painter.end();
+            icon.addPixmap(pixmap, mode);
+        }
+    }
+    return icon;
+}
+
+} // namespace
 
 EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
     : QObject(window)
@@ -28,11 +65,11 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
         return action;
     };
     m_undo = add(tr("&Undo"), QKeySequence::Undo, "editUndo");
-    m_undo->setIcon(window->style()->standardIcon(QStyle::SP_ArrowBack));
+    m_undo->setIcon(turningArrow(window->palette(), false));
     connect(m_undo, &QAction::triggered, &session.services(), &OrvServices::undo);
     m_redo = add(tr("&Redo"), {}, "editRedo");
     m_redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
-    m_redo->setIcon(window->style()->standardIcon(QStyle::SP_ArrowForward));
+    m_redo->setIcon(turningArrow(window->palette(), true));
     connect(m_redo, &QAction::triggered, &session.services(), &OrvServices::redo);
     menu->addSeparator();
     m_rename = add(tr("Re&name Node"), Qt::Key_F2, "editRename");

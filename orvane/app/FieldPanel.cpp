@@ -50,9 +50,10 @@ FieldPanel::FieldPanel(QWidget* parent)
     m_pages->addWidget(m_hint);
     m_pages->addWidget(page);
 
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& index) {
+    // Not the current index: a view that gets the focus makes its first row current by itself, which chooses nothing.
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!m_settingCurrent)
-            Q_EMIT fieldChosen(m_model->field(index));
+            Q_EMIT fieldChosen(currentField());
     });
     connect(m_view, &FieldTableView::currentPressed, this,
         [this](const QModelIndex& index) { Q_EMIT fieldChosen(m_model->field(index)); });
@@ -82,14 +83,17 @@ void FieldPanel::updateHeading()
 void FieldPanel::setCurrentField(const NxField* field)
 {
     const QScopedValueRollback guard(m_settingCurrent, true);
+    if (field == currentField())
+        return;
     const QModelIndex index = m_model->indexOf(field);
-    if (!index.isValid())
-        m_view->selectionModel()->clear();
-    else if (index.row() != m_view->currentIndex().row())
+    if (index.isValid())
         m_view->setCurrentIndex(index);
+    else
+        m_view->clearSelection();
 }
 
 NxField* FieldPanel::currentField() const
 {
-    return m_model->field(m_view->currentIndex());
+    const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? nullptr : m_model->field(selected.front());
 }

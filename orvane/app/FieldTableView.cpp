@@ -26,17 +26,20 @@ FieldTableView::FieldTableView(QWidget* parent)
 
 void FieldTableView::mousePressEvent(QMouseEvent* event)
 {
-    const QModelIndex before = currentIndex();
-    QTableView::mousePressEvent(event);
     const QModelIndex pressed = indexAt(event->pos());
-    if (pressed.isValid() && pressed.row() == before.row())
+    const bool chosenBefore = pressed.isValid() && selectionModel()->isRowSelected(pressed.row(), QModelIndex());
+    QTableView::mousePressEvent(event);
+    if (chosenBefore)
         Q_EMIT currentPressed(pressed);
 }
 
 void FieldTableView::keyPressEvent(QKeyEvent* event)
 {
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && currentIndex().isValid())
-        Q_EMIT currentPressed(currentIndex());
-    else
+    const QModelIndex current = currentIndex();
+    if ((event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) || !current.isValid())
         QTableView::keyPressEvent(event);
+    else if (selectionModel()->isRowSelected(current.row(), QModelIndex()))
+        Q_EMIT currentPressed(current);
+    else
+        selectRow(current.row());
 }

@@ -10,7 +10,7 @@ public:
     explicit FieldTableView(QWidget* parent = nullptr);
 
 Q_SIGNALS:
-    /// The user pressed the mouse or a key of activation on the row that is current already.
+    /// The user pressed the mouse or a key of activation on the row that is selected already.
     void currentPressed(const QModelIndex& index);
 
 protected:

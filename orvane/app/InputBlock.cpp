@@ -13,7 +13,6 @@ bool isInput(QEvent::Type type)
     case QEvent::MouseButtonDblClick:
     case QEvent::Wheel:
     case QEvent::KeyPress:
-    case QEvent::Shortcut:
     case QEvent::ShortcutOverride:
     case QEvent::ContextMenu:
     case QEvent::InputMethod:
@@ -39,6 +38,9 @@ InputBlock::~InputBlock() = default;
 
 bool InputBlock::eventFilter(QObject* object, QEvent* event)
 {
+    // The owner of a shortcut is an action.
+    if (event->type() == QEvent::Shortcut)
+        return true;
     // What comes to a window goes on to one of its widgets, where it is stopped if need be.
     const auto* widget = qobject_cast<QWidget*>(object);
     if (!isInput(event->type()) || widget == nullptr || widget == m_exempt || m_exempt->isAncestorOf(widget))

@@ -25,6 +25,7 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
@@ -34,7 +35,7 @@
 namespace {
 
 constexpr QSize firstSize(1280, 800);
-constexpr int treeWidth = 300;
+constexpr int treeWidth = 340;
 const QString geometryKey = QStringLiteral("window/geometry");
 const QString stateKey = QStringLiteral("window/state");
 
@@ -214,17 +215,20 @@ void MainWindow::reportSettled(const QString& error)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (m_mayClose) {
-        m_mayClose = false;
-        m_files->cancelLoading();
-        saveLayout();
+    if (!m_mayClose) {
+        const QScopedValueRollback inside(m_insideClose, true);
+        m_files->leaveScene([this] {
+            m_mayClose = true;
+            if (!m_insideClose) // a window that is being closed doesn't take another close
+                close();
+        });
+    }
+    if (!std::exchange(m_mayClose, false)) {
+        event->ignore();
         return;
     }
-    event->ignore();
-    m_files->leaveScene([this] {
-        m_mayClose = true;
-        close();
-    });
+    m_files->cancelLoading();
+    saveLayout();
 }
 
 void MainWindow::showEvent(QShowEvent* event)

@@ -79,4 +79,5 @@ private:
     FileMenu* m_fileMenu = nullptr;
     bool m_layoutRestored = false;
     bool m_mayClose = false;
+    bool m_insideClose = false;
 };

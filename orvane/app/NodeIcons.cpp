@@ -228,18 +228,29 @@ void (*drawingOf(NxType type))(QPainter&)
     return &drawNode;
 }
 
+QPixmap drawPixmap(void (*draw)(QPainter&), int size, bool onPlate)
+{
+    QPixmap pixmap(size, size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(size / 16.0, size / 16.0);
+    if (onPlate) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(255, 255, 255, 215));
+        painter.drawRoundedRect(QRectF(0, 0, 16, 16), 3, 3);
+    }
+    draw(painter);
+    return pixmap;
+}
+
 QIcon drawIcon(void (*draw)(QPainter&))
 {
     QIcon icon;
     for (const int size : {16, 24, 32, 48}) {
-        QPixmap pixmap(size, size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(size / 16.0, size / 16.0);
-        draw(painter);
-        painter.end();
-        icon.addPixmap(pixmap);
+        icon.addPixmap(drawPixmap(draw, size, false));
+        // In a selected row the icon would be tinted with a colour that may be its own.
+        icon.addPixmap(drawPixmap(draw, size, true), QIcon::Selected);
     }
     return icon;
 }

@@ -272,6 +272,6 @@ QString SceneTreeModel::toolTip(const QModelIndex& index) const
     if (!shown->getName().isEmpty())
         text += QStringLiteral(" \"%1\"").arg(orvane::toQString(shown->getName()));
     if (const std::size_t count = shown->getChildren().size(); count > 0)
-        text += tr(", %n node(s) in it", nullptr, static_cast<int>(count));
+        text += count == 1 ? tr(", 1 child node") : tr(", %1 child nodes").arg(count);
     return text;
 }

@@ -33,15 +33,17 @@ SceneTreePanel::SceneTreePanel(QWidget* parent)
     m_view->setTextElideMode(Qt::ElideMiddle);
     m_view->header()->setSectionResizeMode(SceneTreeModel::NameColumn, QHeaderView::Interactive);
     m_view->header()->setStretchLastSection(true);
-    m_view->header()->resizeSection(SceneTreeModel::NameColumn, fontMetrics().averageCharWidth() * 28);
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-        [this](const QModelIndex& index) { Q_EMIT currentChanged(m_model->node(index)); });
+    m_view->header()->resizeSection(SceneTreeModel::NameColumn, fontMetrics().averageCharWidth() * 30);
+    // Not the current index: a view that gets the focus makes its first row current by itself, which chooses nothing.
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        [this] { Q_EMIT currentChanged(currentNode()); });
     setFocusProxy(m_view);
 }
 
 QModelIndex SceneTreePanel::current() const
 {
-    return m_view->currentIndex().siblingAtColumn(SceneTreeModel::NameColumn);
+    const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? QModelIndex() : selected.front().siblingAtColumn(SceneTreeModel::NameColumn);
 }
 
 NxNode* SceneTreePanel::currentNode() const

@@ -19,7 +19,7 @@ public:
     [[nodiscard]] SceneTreeModel* model() const noexcept { return m_model; }
     [[nodiscard]] QTreeView* view() const noexcept { return m_view; }
 
-    /// The first cell of the current row, or an invalid index.
+    /// The first cell of the row that is selected, or an invalid index.
     [[nodiscard]] QModelIndex current() const;
     [[nodiscard]] NxNode* currentNode() const;
     /// Makes the row of a node current and brings it into view.

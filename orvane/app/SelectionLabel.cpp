@@ -7,7 +7,7 @@ SelectionLabel::SelectionLabel(QWidget* parent)
     : QLabel(parent)
 {
     setObjectName(QStringLiteral("selectionPath"));
-    setTextInteractionFlags(Qt::NoTextInteraction);
+    setContentsMargins(6, 0, 6, 0);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 

@@ -13,6 +13,16 @@
 #include <QLabel>
 #include <QStatusBar>
 
+namespace {
+
+/// "1 node", "2 nodes".
+QString counted(std::size_t count, const QString& one, const QString& many)
+{
+    return count == 1 ? QStringLiteral("1 %1").arg(one) : QStringLiteral("%1 %2").arg(count).arg(many);
+}
+
+} // namespace
+
 SelectionStatus::SelectionStatus(Session& session, SceneTreePanel* tree, QStatusBar* bar)
     : QObject(bar)
     , m_session(session)
@@ -51,15 +61,16 @@ void SelectionStatus::timerEvent(QTimerEvent*)
     NxNode* node = m_tree->currentNode();
     if (node == nullptr) {
         m_path->setPath({});
-        m_counts->setText(tr("%n top node(s)", nullptr, scene->getNumChildren()));
+        m_counts->setText(counted(scene->getChildren().size(), tr("top node"), tr("top nodes")));
         return;
     }
     const std::vector<NxNode*> nodes = m_tree->model()->path(m_tree->current());
     const NxField* field = m_session.services().getSelectedField();
     m_path->setPath(orvane::toQString(
         field != nullptr ? NxScenePath::toText(scene, nodes, field) : NxScenePath::toText(scene, nodes)));
-    QString counts = tr("%n field(s)", nullptr, node->getFieldData()->getNumFields());
+    const auto fields = static_cast<std::size_t>(node->getFieldData()->getNumFields());
+    QString counts = counted(fields, tr("field"), tr("fields"));
     if (const std::size_t children = node->getChildren().size(); children > 0)
-        counts = tr("%n node(s) in it, ", nullptr, static_cast<int>(children)) + counts;
+        counts += QStringLiteral(", ") + counted(children, tr("child node"), tr("child nodes"));
     m_counts->setText(counts);
 }

@@ -42,7 +42,6 @@ void WindowShell::addDockWidget(QDockWidget* dock, int area)
     const bool hidden = isHiddenOnPurpose(dock);
     m_docks.append(dock);
     connect(dock, &QObject::destroyed, this, &WindowShell::forget);
-    m_window->addDockWidget(static_cast<Qt::DockWidgetArea>(area), dock);
     if (m_places.contains(dock->objectName()) || !m_window->restoreDockWidget(dock))
         placeDock(dock, static_cast<Qt::DockWidgetArea>(area));
     // Whether it is seen is the extension's decision, not that of a saved state.
@@ -54,12 +53,12 @@ void WindowShell::placeDock(QDockWidget* dock, Qt::DockWidgetArea area)
 {
     const auto known = m_places.constFind(dock->objectName());
     if (known == m_places.constEnd()) {
+        m_window->addDockWidget(area, dock);
         m_unsized.append(dock);
         dock->installEventFilter(this);
         return;
     }
-    if (known->area != area && known->area != Qt::NoDockWidgetArea)
-        m_window->addDockWidget(known->area, dock);
+    m_window->addDockWidget(known->area != Qt::NoDockWidgetArea ? known->area : area, dock);
     if (known->floating) {
         dock->setFloating(true);
         dock->setGeometry(known->geometry);
@@ -72,14 +71,22 @@ bool WindowShell::eventFilter(QObject* object, QEvent* event)
         return false;
     auto* dock = qobject_cast<QDockWidget*>(object);
     dock->removeEventFilter(this);
-    if (!m_unsized.removeOne(dock) || dock->isFloating())
-        return false;
+    // The layout takes the dock in behind this event.
+    if (m_unsized.removeOne(dock))
+        QMetaObject::invokeMethod(
+            dock, [this, dock] { giveSize(dock); }, Qt::QueuedConnection);
+    return false;
+}
+
+void WindowShell::giveSize(QDockWidget* dock)
+{
+    if (dock->isFloating() || !m_docks.contains(dock))
+        return;
     const Qt::DockWidgetArea area = m_window->dockWidgetArea(dock);
     if (area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea)
         m_window->resizeDocks({dock}, {std::max(sideDockWidth, dock->sizeHint().width())}, Qt::Horizontal);
     else
         m_window->resizeDocks({dock}, {bottomDockHeight}, Qt::Vertical);
-    return false;
 }
 
 void WindowShell::removeDockWidget(QDockWidget* dock)

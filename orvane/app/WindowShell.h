@@ -48,6 +48,7 @@ private:
     };
 
     void placeDock(QDockWidget* dock, Qt::DockWidgetArea area);
+    void giveSize(QDockWidget* dock);
     void forget(QObject* object);
 
     QMainWindow* m_window;

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "meridane/base/NxDelayQueue.h"
+#include "meridane/base/VbString.h"
+#include "meridane/scene/NxGroup.h"
+#include "meridane/scene/NxRef.h"
+#include "meridane/scene/NxSceneReader.h"
+#include "meridane/scene/NxSceneWriter.h"
+
+#include <QFile>
+
+#include <string>
+
+/// Scenes and files for the tests of the application.
+namespace AppScenes {
+
+/// Two top nodes: a group "robot" that holds the meshes "arm", "hand" and one without a name, and a light "sun".
+inline const char* const robotText = "#mrd 1.0\n"
+                                     "Group \"robot\" {\n  Mesh \"arm\" {}\n  Mesh \"hand\" {}\n  Mesh {}\n}\n"
+                                     "PointLight \"sun\" {}\n";
+
+inline NxRef<NxGroup> read(const char* text)
+{
+    NxSceneReader reader(text, "test.mrd");
+    reader.run();
+    return reader.takeScene();
+}
+
+inline NxRef<NxGroup> robot()
+{
+    return read(robotText);
+}
+
+/// A group that holds a group with that many nodes.
+inline NxRef<NxGroup> wide(int count)
+{
+    NxRef<NxGroup> scene(new NxGroup);
+    NxRef<NxGroup> group(new NxGroup);
+    scene->addChild(group.get());
+    for (int i = 0; i < count; ++i)
+        group->addChild(new NxGroup);
+    return scene;
+}
+
+/// Runs the sensors that wait.
+inline void runSensors()
+{
+    while (NxDelayQueue::getDefault().process()) { }
+}
+
+inline void writeFile(const QString& fileName, const QByteArray& bytes)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("%s can't be written", qPrintable(fileName));
+}
+
+inline QByteArray readFile(const QString& fileName)
+{
+    QFile file(fileName);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace AppScenes

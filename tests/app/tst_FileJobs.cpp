@@ -1,0 +1,165 @@
+#include "app/AppScenes.h"
+
+#include "orvane/app/FileJobs.h"
+#include "orvane/app/LoadJob.h"
+#include "orvane/app/SaveJob.h"
+
+#include "meridane/base/NxReadError.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+/// Measures the longest time between two turns of the event loop.
+class Pulse : public QObject {
+public:
+    Pulse()
+    {
+        startTimer(0);
+        m_clock.start();
+    }
+
+    [[nodiscard]] qint64 longest() const { return m_longest; }
+
+protected:
+    void timerEvent(QTimerEvent*) override { m_longest = std::max(m_longest, m_clock.restart()); }
+
+private:
+    QElapsedTimer m_clock;
+    qint64 m_longest = 0;
+};
+
+int postedErrors = 0;
+
+} // namespace
+
+class TestFileJobs : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_fileName = m_folder->filePath(QStringLiteral("scene.mrd"));
+        postedErrors = 0;
+        NxReadError::setHandlerCallback([](const NxError*, void*) { ++postedErrors; }, nullptr);
+    }
+
+    void cleanup() { NxReadError::setHandlerCallback(nullptr, nullptr); }
+
+    void readsASceneFromTheEventLoop()
+    {
+        AppScenes::writeFile(m_fileName, AppScenes::robotText);
+        LoadJob job(m_fileName);
+        const QSignalSpy finished(&job, &FileJob::finished);
+        job.start();
+        QCOMPARE(finished.size(), 0);
+        QTRY_COMPARE(finished.size(), 1);
+        const NxRef<NxGroup> scene = job.takeScene();
+        QVERIFY(scene);
+        QCOMPARE(scene->getNumChildren(), 2);
+        QVERIFY(!job.takeScene());
+    }
+
+    void refusesWhatCannotBeRead_data()
+    {
+        QTest::addColumn<QString>("fileName");
+        QTest::addColumn<QString>("message");
+        AppScenes::writeFile(m_folder->filePath(QStringLiteral("broken.mrd")), "#mrd 1.0\nGroup {\n  Mesh ?\n}\n");
+        AppScenes::writeFile(m_folder->filePath(QStringLiteral("cut.mrd")), "#mrd 1.0\nGroup {\n");
+        AppScenes::writeFile(m_folder->filePath(QStringLiteral("newer.mrd")), "#mrd 9.0\n");
+        m_kept = std::move(m_folder);
+        const auto path = [this](const char* name) { return m_kept->filePath(QLatin1String(name)); };
+        QTest::newRow("missing file") << path("no.mrd") << QStringLiteral("no.mrd: ");
+        QTest::newRow("folder") << m_kept->path() << QStringLiteral("directory");
+        QTest::newRow("broken text") << path("broken.mrd") << QStringLiteral("broken.mrd:3:");
+        QTest::newRow("text that is cut off") << path("cut.mrd") << QStringLiteral("cut.mrd:");
+        QTest::newRow("another version") << path("newer.mrd") << QStringLiteral("newer.mrd:1:");
+    }
+
+    void refusesWhatCannotBeRead()
+    {
+        QFETCH(const QString, fileName);
+        QFETCH(const QString, message);
+        LoadJob job(fileName);
+        const QSignalSpy failed(&job, &FileJob::failed);
+        const QSignalSpy finished(&job, &FileJob::finished);
+        job.start();
+        QTRY_COMPARE(failed.size(), 1);
+        QVERIFY2(failed.front().front().toString().contains(message), qPrintable(failed.front().front().toString()));
+        QCOMPARE(finished.size(), 0);
+        QVERIFY(!job.takeScene());
+        QCOMPARE(postedErrors, 1);
+    }
+
+    void writesWhatItRead()
+    {
+        const NxRef<NxGroup> scene = AppScenes::robot();
+        SaveJob job(scene, m_fileName);
+        const QSignalSpy finished(&job, &FileJob::finished);
+        job.start();
+        QTRY_COMPARE(finished.size(), 1);
+        QCOMPARE(AppScenes::readFile(m_fileName), QByteArray::fromStdString(NxSceneWriter::toText(scene.get())));
+    }
+
+    void failsToWriteIntoAFolderThatIsMissing()
+    {
+        const QString fileName = m_folder->filePath(QStringLiteral("missing/scene.mrd"));
+        SaveJob job(AppScenes::robot(), fileName);
+        const QSignalSpy failed(&job, &FileJob::failed);
+        job.start();
+        QTRY_COMPARE(failed.size(), 1);
+        QVERIFY(failed.front().front().toString().contains(fileName));
+    }
+
+    void keepsTheOldFileWhenItIsCancelled()
+    {
+        AppScenes::writeFile(m_fileName, "old");
+        SaveJob job(AppScenes::wide(20000), m_fileName);
+        const QSignalSpy cancelled(&job, &FileJob::cancelled);
+        const QSignalSpy finished(&job, &FileJob::finished);
+        connect(&job, &FileJob::progressed, &job, [&job] { job.cancel(); });
+        job.start();
+        QTRY_COMPARE(cancelled.size() + finished.size(), 1);
+        QCOMPARE(cancelled.size(), 1);
+        QCOMPARE(AppScenes::readFile(m_fileName), QByteArray("old"));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+
+    void readsAndWritesALargeSceneInSlices()
+    {
+        Pulse pulse;
+        SaveJob save(AppScenes::wide(100000), m_fileName);
+        const QSignalSpy saved(&save, &FileJob::finished);
+        const QSignalSpy progressed(&save, &FileJob::progressed);
+        save.start();
+        QTRY_COMPARE_WITH_TIMEOUT(saved.size(), 1, 60000);
+        QVERIFY(progressed.size() > 1);
+        LoadJob load(m_fileName);
+        const QSignalSpy loaded(&load, &FileJob::finished);
+        load.start();
+        QTRY_COMPARE_WITH_TIMEOUT(loaded.size(), 1, 60000);
+        // A slice takes 8 ms; the rest is for a machine that has other things to do.
+        QVERIFY2(pulse.longest() < 500, qPrintable(QString::number(pulse.longest())));
+        QCOMPARE(load.takeScene()->getChild(0)->getChildren().size(), std::size_t{100000});
+    }
+
+    void choosesTheJobByTheFileName()
+    {
+        QVERIFY(dynamic_cast<LoadJob*>(orvane::makeLoadJob(QStringLiteral("a.MRD")).get()) != nullptr);
+        QVERIFY(dynamic_cast<LoadJob*>(orvane::makeLoadJob(QStringLiteral("a.glb")).get()) == nullptr);
+        QVERIFY(dynamic_cast<SaveJob*>(orvane::makeSaveJob(AppScenes::robot(), QStringLiteral("a.mrd")).get()));
+        QVERIFY(!dynamic_cast<SaveJob*>(orvane::makeSaveJob(AppScenes::robot(), QStringLiteral("a.obj")).get()));
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QTemporaryDir> m_kept; // holds the files that rows name
+    QString m_fileName;
+};
+
+QTEST_GUILESS_MAIN(TestFileJobs)
+#include "tst_FileJobs.moc"

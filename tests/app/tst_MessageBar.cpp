@@ -1,0 +1,111 @@
+#include "orvane/app/ErrorRelay.h"
+#include "orvane/app/MessageBar.h"
+
+#include "meridane/base/NxDebugError.h"
+#include "meridane/base/NxErrorStack.h"
+#include "meridane/base/NxGLError.h"
+#include "meridane/base/NxMemoryError.h"
+#include "meridane/base/NxReadError.h"
+
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+
+#include <thread>
+
+using Severity = MessageBar::Severity;
+
+class TestMessageBar : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void isSeenOnlyWithMessages()
+    {
+        MessageBar bar;
+        QVERIFY(bar.isHidden());
+        bar.showMessage(Severity::Error, QStringLiteral("a"));
+        QVERIFY(!bar.isHidden());
+        bar.clear();
+        QVERIFY(bar.isHidden());
+    }
+
+    void stacksMessagesAndDropsTheOldest()
+    {
+        MessageBar bar;
+        for (const char* text : {"a", "b", "b", "c", "d", "e"})
+            bar.showMessage(Severity::Warning, QLatin1String(text));
+        QCOMPARE(bar.texts().join(u' '), QStringLiteral("b c d e"));
+    }
+
+    void replacesTheMessageOfATopic()
+    {
+        MessageBar bar;
+        const QString topic = QStringLiteral("file");
+        bar.showMessage(Severity::Error, QStringLiteral("a"), topic);
+        bar.showMessage(Severity::Error, QStringLiteral("other"));
+        bar.showMessage(Severity::Error, QStringLiteral("b"), topic);
+        QCOMPARE(bar.texts().join(u' '), QStringLiteral("other b"));
+        bar.clearTopic(topic);
+        QCOMPARE(bar.texts().join(u' '), QStringLiteral("other"));
+    }
+
+    void closesAMessageByItsButton()
+    {
+        MessageBar bar;
+        bar.showMessage(Severity::Information, QStringLiteral("a"));
+        bar.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        QTest::mouseClick(bar.findChild<QToolButton*>(QStringLiteral("closeMessage")), Qt::LeftButton);
+        QVERIFY(bar.texts().isEmpty());
+        QVERIFY(bar.isHidden());
+    }
+
+    void showsTextAsItIsAndLetsItBeSelected()
+    {
+        MessageBar bar;
+        bar.showMessage(Severity::Error, QStringLiteral("<b>a</b>"));
+        const auto* label = bar.findChild<QLabel*>(QStringLiteral("messageText"));
+        QCOMPARE(label->textFormat(), Qt::PlainText);
+        QVERIFY(label->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+    }
+
+    void bringsEveryKindOfToolkitErrorFromAnyThread()
+    {
+        ErrorRelay relay;
+        QStringList reports;
+        QList<Severity> severities;
+        connect(&relay, &ErrorRelay::reported, this, [&](Severity severity, const QString& text) {
+            severities.append(severity);
+            reports.append(text);
+        });
+        std::thread([] {
+            NxError::post("one");
+            NxDebugError::post(NxDebugError::Warning, "two");
+            NxErrorStack::post({"three", "cause"});
+            NxGLError::post(1280, "four");
+            NxMemoryError::post(nullptr, 0, 5);
+            NxReadError::post("six.mrd", 1, 2, "bad");
+        }).join();
+        QVERIFY(reports.isEmpty());
+        QTRY_COMPARE(reports.size(), 6);
+        QCOMPARE(reports.front(), QStringLiteral("one"));
+        QCOMPARE(reports.at(2), QStringLiteral("three: cause"));
+        QCOMPARE(reports.back(), QStringLiteral("six.mrd:1:2: bad"));
+        QCOMPARE(severities.at(0), Severity::Error);
+        QCOMPARE(severities.at(1), Severity::Warning);
+    }
+
+    void givesTheHandlersBackWhenTheRelayGoes()
+    {
+        {
+            const ErrorRelay relay;
+            QVERIFY(NxError::getHandlerCallback() != nullptr);
+        }
+        QVERIFY(NxError::getHandlerCallback() == nullptr);
+        QVERIFY(NxReadError::getHandlerCallback() == nullptr);
+    }
+};
+
+QTEST_MAIN(TestMessageBar)
+#include "tst_MessageBar.moc"
