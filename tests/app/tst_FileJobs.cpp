@@ -118,7 +118,7 @@ private Q_SLOTS:
     void keepsTheOldFileWhenItIsCancelled()
     {
         AppScenes::writeFile(m_fileName, "old");
-        SaveJob job(AppScenes::wide(20000), m_fileName);
+        SaveJob job(AppScenes::wide(300000), m_fileName);
         const QSignalSpy cancelled(&job, &FileJob::cancelled);
         const QSignalSpy finished(&job, &FileJob::finished);
         connect(&job, &FileJob::progressed, &job, [&job] { job.cancel(); });
