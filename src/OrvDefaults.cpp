@@ -16,7 +16,10 @@ void OrvDefaults::load()
     addExtension(&m_sfDouble);
     addExtension(&m_sfFloat);
     addExtension(&m_sfInt32);
+    addExtension(&m_sfLine);
+    addExtension(&m_sfName);
     addExtension(&m_sfShort);
+    addExtension(&m_sfString);
     addExtension(&m_sfUInt32);
     addExtension(&m_sfUShort);
     addExtension(&m_fieldEditorDock);

@@ -3,7 +3,10 @@
 #include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
 #include "FieldEditors/SFWidgets/DvSFFloatWidget.h"
 #include "FieldEditors/SFWidgets/DvSFInt32Widget.h"
+#include "FieldEditors/SFWidgets/DvSFLineWidget.h"
+#include "FieldEditors/SFWidgets/DvSFNameWidget.h"
 #include "FieldEditors/SFWidgets/DvSFShortWidget.h"
+#include "FieldEditors/SFWidgets/DvSFStringWidget.h"
 #include "FieldEditors/SFWidgets/DvSFUInt32Widget.h"
 #include "FieldEditors/SFWidgets/DvSFUShortWidget.h"
 #include "OrvFieldEditorDockWin.h"
@@ -25,7 +28,10 @@ private:
     DvSFDoubleWidget m_sfDouble;
     DvSFFloatWidget m_sfFloat;
     DvSFInt32Widget m_sfInt32;
+    DvSFLineWidget m_sfLine;
+    DvSFNameWidget m_sfName;
     DvSFShortWidget m_sfShort;
+    DvSFStringWidget m_sfString;
     DvSFUInt32Widget m_sfUInt32;
     DvSFUShortWidget m_sfUShort;
     OrvFieldEditorDockWin m_fieldEditorDock;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/base/VbName.h"
 #include "meridane/base/VbString.h"
 
 #include <QString>
@@ -7,7 +8,7 @@
 namespace orvane {
 
 // Text crosses as UTF-16, Qt's own form, so that the toolkit is the one that judges what is valid: a lone surrogate
-// becomes U+FFFD.
+// becomes U+FFFD. Names cross as Latin-1, which is all that a name can hold.
 
 /// The toolkit's text as Qt's, NUL characters included; null for a null text.
 [[nodiscard]] inline QString toQString(const VbString& text)
@@ -21,6 +22,18 @@ namespace orvane {
 [[nodiscard]] inline VbString toVbString(const QString& text)
 {
     return VbString().fromUtf16(text.utf16());
+}
+
+/// A name as Qt's text.
+[[nodiscard]] inline QString toQString(const VbName& name)
+{
+    return QString::fromLatin1(name.getString());
+}
+
+/// Qt's text as a name, up to the first NUL character. A character outside Latin-1 becomes a question mark.
+[[nodiscard]] inline VbName toVbName(const QString& text)
+{
+    return {text.toLatin1().constData()};
 }
 
 } // namespace orvane

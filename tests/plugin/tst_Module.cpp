@@ -8,6 +8,7 @@
 #include "meridane/base/MrdMemory.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QLibrary>
 #include <QLineEdit>
 
@@ -31,9 +32,14 @@ private Q_SLOTS:
     void entryPointsAreFoundByName();
     void hostTakesThePluginIn();
     void selectedFieldIsShownInTheDock();
+    void fieldWithoutAnEditorOfItsOwnIsEditedAsALine();
     void allocationsAreCounted();
 
 private:
+    /// Loads the module and runs all its extensions, each of which controls all others.
+    void runEverything(OrvPluginsManager& manager);
+    [[nodiscard]] QDockWidget* fieldDock() const;
+
     std::unique_ptr<ToolHarness> m_tool;
 };
 
@@ -41,6 +47,25 @@ void tst_Module::cleanup()
 {
     m_tool.reset();
     QVERIFY(ToolHarness::noWidgetIsLeft());
+}
+
+void tst_Module::runEverything(OrvPluginsManager& manager)
+{
+    QVERIFY(!manager.loadPlugin(moduleFile));
+    const QStringList everything{QStringLiteral("*")};
+    const QList<OrvProfile::Entry> entries{{QStringLiteral("*"), true, everything}};
+    QVERIFY(!manager.addProfile(std::make_unique<OrvProfile>(QStringLiteral("All"), entries)));
+    manager.setActiveProfile(manager.getProfilesList().front());
+    m_tool->shell.window.show();
+}
+
+QDockWidget* tst_Module::fieldDock() const
+{
+    const QList<QDockWidget*> docks = m_tool->shell.window.findChildren<QDockWidget*>();
+    const auto isFieldDock
+        = [](const QDockWidget* dock) { return dock->windowTitle() == QLatin1String("Field Editor"); };
+    const auto dock = std::find_if(docks.begin(), docks.end(), isFieldDock);
+    return dock != docks.end() ? *dock : nullptr;
 }
 
 void tst_Module::loadingRegistersTheResources()
@@ -81,22 +106,13 @@ void tst_Module::hostTakesThePluginIn()
 void tst_Module::selectedFieldIsShownInTheDock()
 {
     OrvPluginsManager manager;
-    QVERIFY(!manager.loadPlugin(moduleFile));
-    const QStringList everything{QStringLiteral("*")};
-    const QList<OrvProfile::Entry> entries{{QStringLiteral("*"), true, everything}};
-    QVERIFY(!manager.addProfile(std::make_unique<OrvProfile>(QStringLiteral("All"), entries)));
-    manager.setActiveProfile(manager.getProfilesList().front());
-    m_tool->shell.window.show();
-
+    runEverything(manager);
     NxSFFloat& field = m_tool->node->sfFloat;
     m_tool->services.selectField(&field);
-    const QList<QDockWidget*> docks = m_tool->shell.window.findChildren<QDockWidget*>();
-    const auto isFieldDock
-        = [](const QDockWidget* dock) { return dock->windowTitle() == QLatin1String("Field Editor"); };
-    const auto dock = std::find_if(docks.begin(), docks.end(), isFieldDock);
-    QVERIFY(dock != docks.end());
-    QVERIFY((*dock)->isVisible());
-    auto* const line = (*dock)->findChild<QLineEdit*>();
+    const QDockWidget* const dock = fieldDock();
+    QVERIFY(dock != nullptr);
+    QVERIFY(dock->isVisible());
+    auto* const line = dock->findChild<QLineEdit*>();
     QVERIFY(line != nullptr);
     field.setValue(2.5F);
     ToolHarness::pump();
@@ -109,7 +125,26 @@ void tst_Module::selectedFieldIsShownInTheDock()
     QVERIFY(m_tool->services.canUndo());
     m_tool->services.clearHistory();
     m_tool->services.selectField(nullptr);
-    QVERIFY(!(*dock)->isVisible());
+    QVERIFY(!dock->isVisible());
+}
+
+void tst_Module::fieldWithoutAnEditorOfItsOwnIsEditedAsALine()
+{
+    OrvPluginsManager manager;
+    runEverything(manager);
+    NxSFTime& field = m_tool->node->sfTime;
+    m_tool->services.selectField(&field);
+    const QDockWidget* const dock = fieldDock();
+    QVERIFY(dock != nullptr);
+    QVERIFY(dock->isVisible());
+    QVERIFY(dock->findChild<QLabel*>(QStringLiteral("m_label"))->text().contains(QLatin1String("SField")));
+    auto* const line = dock->findChild<QLineEdit*>();
+    QVERIFY(line != nullptr);
+    line->selectAll();
+    QTest::keyClicks(line, QStringLiteral("2.5"));
+    QCOMPARE(ToolHarness::textOf(field), QStringLiteral("2.5"));
+    m_tool->services.clearHistory();
+    m_tool->services.selectField(nullptr);
 }
 
 void tst_Module::allocationsAreCounted()
