@@ -1,5 +1,6 @@
 #include "FieldEditors/LayoutMetrics.h"
 
+#include <QLayout>
 #include <QMap>
 #include <QString>
 
@@ -81,4 +82,11 @@ int getLayoutMetric(const QString& name)
         return 0;
     cache.insert(name, metric->value);
     return metric->value;
+}
+
+void setLayoutMetrics(QLayout* layout, const QString& marginMetric, const QString& spacingMetric)
+{
+    const int margin = getLayoutMetric(marginMetric);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(getLayoutMetric(spacingMetric));
 }

@@ -16,9 +16,7 @@ namespace {
 QHBoxLayout* makeRow(QWidget* parent, const QString& name, const QString& marginMetric, const QString& spacingMetric)
 {
     auto* const layout = new QHBoxLayout(parent);
-    const int margin = getLayoutMetric(marginMetric);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(getLayoutMetric(spacingMetric));
+    setLayoutMetrics(layout, marginMetric, spacingMetric);
     layout->setObjectName(name);
     return layout;
 }

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include <initializer_list>
+
+class DvSFieldWidget;
+class QLineEdit;
+
+// A line that holds one component of a value.
+namespace orvane {
+
+/// The text of a number in every line of a component: six significant digits.
+[[nodiscard]] QString numberText(float value);
+/// Shows a number in that format.
+void showNumber(QLineEdit* line, float value);
+/// The number in a line; 0 for a text that is none, an empty one included.
+[[nodiscard]] float numberIn(const QLineEdit* line);
+
+/// Has the line take any float, with six decimals at most.
+void acceptFloats(QLineEdit* line);
+/// Has Return in the line always write the value, and leaving the line write what was typed. Return in a line with
+/// typed text does both.
+void applyFromLine(QLineEdit* line, DvSFieldWidget* editor);
+
+/// Shows the beginning of each text.
+void resetCursors(std::initializer_list<QLineEdit*> lines);
+/// Whether any of the lines holds text that was typed and not written anew since.
+[[nodiscard]] bool anyModified(std::initializer_list<const QLineEdit*> lines);
+
+} // namespace orvane
