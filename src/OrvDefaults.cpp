@@ -18,10 +18,17 @@ void OrvDefaults::load()
     addExtension(&m_sfInt32);
     addExtension(&m_sfLine);
     addExtension(&m_sfName);
+    addExtension(&m_sfPlane);
+    addExtension(&m_sfRotation);
     addExtension(&m_sfShort);
     addExtension(&m_sfString);
     addExtension(&m_sfUInt32);
     addExtension(&m_sfUShort);
+    addExtension(&m_sfVec2f);
+    addExtension(&m_sfVec2i32);
+    addExtension(&m_sfVec2s);
+    addExtension(&m_sfVec3f);
+    addExtension(&m_sfVec4f);
     addExtension(&m_fieldEditorDock);
     addExtension(&m_nodeEditor);
     OrvPlugin::load();

@@ -5,10 +5,17 @@
 #include "FieldEditors/SFWidgets/DvSFInt32Widget.h"
 #include "FieldEditors/SFWidgets/DvSFLineWidget.h"
 #include "FieldEditors/SFWidgets/DvSFNameWidget.h"
+#include "FieldEditors/SFWidgets/DvSFPlaneWidget.h"
+#include "FieldEditors/SFWidgets/DvSFRotationWidget.h"
 #include "FieldEditors/SFWidgets/DvSFShortWidget.h"
 #include "FieldEditors/SFWidgets/DvSFStringWidget.h"
 #include "FieldEditors/SFWidgets/DvSFUInt32Widget.h"
 #include "FieldEditors/SFWidgets/DvSFUShortWidget.h"
+#include "FieldEditors/SFWidgets/DvSFVec2fWidget.h"
+#include "FieldEditors/SFWidgets/DvSFVec2i32Widget.h"
+#include "FieldEditors/SFWidgets/DvSFVec2sWidget.h"
+#include "FieldEditors/SFWidgets/DvSFVec3fWidget.h"
+#include "FieldEditors/SFWidgets/DvSFVec4fWidget.h"
 #include "OrvFieldEditorDockWin.h"
 #include "OrvNodeEditor.h"
 
@@ -30,10 +37,17 @@ private:
     DvSFInt32Widget m_sfInt32;
     DvSFLineWidget m_sfLine;
     DvSFNameWidget m_sfName;
+    DvSFPlaneWidget m_sfPlane;
+    DvSFRotationWidget m_sfRotation;
     DvSFShortWidget m_sfShort;
     DvSFStringWidget m_sfString;
     DvSFUInt32Widget m_sfUInt32;
     DvSFUShortWidget m_sfUShort;
+    DvSFVec2fWidget m_sfVec2f;
+    DvSFVec2i32Widget m_sfVec2i32;
+    DvSFVec2sWidget m_sfVec2s;
+    DvSFVec3fWidget m_sfVec3f;
+    DvSFVec4fWidget m_sfVec4f;
     OrvFieldEditorDockWin m_fieldEditorDock;
     OrvNodeEditor m_nodeEditor;
 };

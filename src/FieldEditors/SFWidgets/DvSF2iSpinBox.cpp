@@ -1,0 +1,64 @@
+#include "FieldEditors/SFWidgets/DvSF2iSpinBox.h"
+
+#include "FieldEditors/LayoutMetrics.h"
+#include "FieldEditors/SFWidgets/VectorColumn.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include <limits>
+
+DvSF2iSpinBox::DvSF2iSpinBox(const char* name)
+    : DvSFieldWidget(name)
+{
+    if (name == nullptr)
+        setObjectName(QLatin1String("DvSF2iSpinBox"));
+}
+
+DvSF2iSpinBox::~DvSF2iSpinBox() = default;
+
+void DvSF2iSpinBox::load()
+{
+    DvSFieldWidget::load();
+    setLayoutMetrics(m_editLayout, QStringLiteral("SF2BoxHMargin"), QStringLiteral("SF2BoxHSpacing"));
+    addColumn(m_xLabel, m_xSpinBox);
+    addColumn(m_yLabel, m_ySpinBox);
+}
+
+void DvSF2iSpinBox::addColumn(QLabel*& label, QSpinBox*& spinBox)
+{
+    label = new QLabel(m_editionFrame);
+    label->setObjectName(QStringLiteral("SF4flabel")); // the name that the four lines' labels have: meant
+    spinBox = new QSpinBox(m_editionFrame);
+    spinBox->setObjectName(QStringLiteral("SF2Box"));
+    QVBoxLayout* const column = orvane::addVectorColumn(m_editLayout, label, spinBox);
+    column->setObjectName(QStringLiteral("SF2BoxLayout"));
+    column->setSpacing(getLayoutMetric(QStringLiteral("SF2BoxVSpacing")));
+    connect(spinBox, &QSpinBox::valueChanged, this, &DvSF2iSpinBox::setCommandValue);
+}
+
+void DvSF2iSpinBox::setLabels(const QString* names)
+{
+    for (QLabel* const label : {m_xLabel, m_yLabel})
+        label->setText(tr("<p>") + *names++ + tr("</p>"));
+}
+
+void DvSF2iSpinBox::setSpinBoxRange(int kind)
+{
+    if (kind < 0 || kind > 2)
+        return;
+    for (QSpinBox* const spinBox : {m_xSpinBox, m_ySpinBox}) {
+        if (kind == 0)
+            spinBox->setRange(std::numeric_limits<short>::min(), std::numeric_limits<short>::max());
+        else
+            spinBox->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    }
+}
+
+void DvSF2iSpinBox::showNumbers(int x, int y)
+{
+    m_xSpinBox->setValue(x);
+    m_ySpinBox->setValue(y);
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "FieldEditors/SFWidgets/DvSFieldWidget.h"
+
+class QSpinBox;
+
+/// Base of the editors of two integers: a labelled spin box for x and one for y.
+///
+/// Each step of a spin box writes the field and pushes a command. A spin box that a refresh from the field changes does
+/// the same, with the other one still at its former value: a change of both numbers from outside makes two writes and
+/// two commands on its way through. That is meant.
+class DvSF2iSpinBox : public DvSFieldWidget {
+    Q_OBJECT
+
+public:
+    explicit DvSF2iSpinBox(const char* name = nullptr);
+    ~DvSF2iSpinBox() override;
+
+    void load() override;
+
+    /// Writes the two names, of x and y, above the spin boxes.
+    void setLabels(const QString* names);
+    /// 0 is the range of a short, 1 and 2 are that of an int; any other kind changes nothing.
+    void setSpinBoxRange(int kind);
+
+protected:
+    /// Shows x, then y; signals come through.
+    void showNumbers(int x, int y);
+
+    QSpinBox* m_ySpinBox = nullptr;
+    QSpinBox* m_xSpinBox = nullptr;
+    QLabel* m_yLabel = nullptr;
+    QLabel* m_xLabel = nullptr;
+
+private:
+    void addColumn(QLabel*& label, QSpinBox*& spinBox);
+};

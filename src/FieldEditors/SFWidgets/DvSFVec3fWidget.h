@@ -1,0 +1,29 @@
+#pragma once
+
+#include "FieldEditors/SFWidgets/DvSFieldWidget.h"
+
+class QLineEdit;
+
+/// Edits three floats.
+class DvSFVec3fWidget final : public DvSFieldWidget {
+    Q_OBJECT
+
+public:
+    explicit DvSFVec3fWidget(const char* name = nullptr);
+    ~DvSFVec3fWidget() override;
+
+    void load() override;
+    void updateFromField() override;
+    void applyChanges() override;
+    [[nodiscard]] bool edited() override;
+
+private:
+    void addColumn(QLabel*& label, QLineEdit*& line);
+
+    QLineEdit* m_zLine = nullptr;
+    QLineEdit* m_yLine = nullptr;
+    QLineEdit* m_xLine = nullptr;
+    QLabel* m_zLabel = nullptr;
+    QLabel* m_yLabel = nullptr;
+    QLabel* m_xLabel = nullptr;
+};
