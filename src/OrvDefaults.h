@@ -1,6 +1,9 @@
 #pragma once
 
+#include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
+#include "FieldEditors/SFWidgets/DvSFBoolWidget.h"
 #include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
+#include "FieldEditors/SFWidgets/DvSFEnumWidget.h"
 #include "FieldEditors/SFWidgets/DvSFFloatWidget.h"
 #include "FieldEditors/SFWidgets/DvSFInt32Widget.h"
 #include "FieldEditors/SFWidgets/DvSFLineWidget.h"
@@ -32,6 +35,9 @@ public:
 private:
     // In this order the docks meet the editors, since they walk them by address; among editors of the same type the one
     // declared last wins.
+    DvSFBitMaskWidget m_sfBitMask;
+    DvSFBoolWidget m_sfBool;
+    DvSFEnumWidget m_sfEnum;
     DvSFDoubleWidget m_sfDouble;
     DvSFFloatWidget m_sfFloat;
     DvSFInt32Widget m_sfInt32;

@@ -25,6 +25,9 @@ struct Entry {
 
 // In the order of registration.
 const QList<Entry> roster{
+    {QStringLiteral("SFBitMask"), QStringLiteral("SFBitMask")},
+    {QStringLiteral("SFBool"), QStringLiteral("SFBool")},
+    {QStringLiteral("SFEnum"), QStringLiteral("SFEnum")},
     {QStringLiteral("SFDouble"), QStringLiteral("SFDouble")},
     {QStringLiteral("SFFloat"), QStringLiteral("SFFloat")},
     {QStringLiteral("SFInt32"), QStringLiteral("SFInt32")},

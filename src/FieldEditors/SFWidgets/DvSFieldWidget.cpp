@@ -190,3 +190,10 @@ void DvSFieldWidget::setFieldTypeLabel(const QString& typeName)
         return;
     m_label->setText(tr("<p align=\"center\">") + typeName + tr("</p>"));
 }
+
+void DvSFieldWidget::centreEditionArea()
+{
+    for (QSpacerItem* const spacer : {m_labelSpacer, m_editionSpacer})
+        spacer->changeSize(0, 0, QSizePolicy::Expanding, QSizePolicy::Minimum);
+    m_mainLayout->invalidate();
+}

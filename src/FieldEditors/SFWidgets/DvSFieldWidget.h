@@ -51,6 +51,8 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)
 protected:
     /// Makes the label on first need. The text is set once: a later call changes nothing.
     void setFieldTypeLabel(const QString& typeName);
+    /// Keeps the edit area at its own width, in the middle between label and buttons, instead of over all the width.
+    void centreEditionArea();
 
     QLabel* m_label = nullptr;
     QPushButton* m_defaultButton = nullptr;

@@ -1,0 +1,207 @@
+#include "FieldEditors/SFWidgets/DvSFBoolWidget.h"
+#include "plugin/EditorHarness.h"
+#include "plugin/WriteCounter.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include <memory>
+
+class tst_DvSFBoolWidget : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_tool = std::make_unique<ToolHarness>(); }
+    void cleanup();
+
+    void editorBearsItsNames();
+    void boxHasItsSizeInTheMiddle();
+    void valueIsShownWithoutACommand();
+    void clickWritesAndPushesOnce();
+    void spaceKeyWritesLikeAClick();
+    void undoKeepsTheValue();
+    void outsideChangeIsFollowedWithoutACommand();
+    void changeWhileIdleIsReadAtTheNextActivation();
+    void commandValueIsWrittenUnchanged();
+    void defaultButtonWritesTheDefault();
+    void ignoreButtonSetsTheFlag();
+    void nullFieldWritesNothing();
+
+private:
+    NxSFBool& field() { return m_tool->node->sfBool; }
+    int pushed() const { return m_tool->services.pushed; }
+    static QCheckBox* boxOf(const EditorRun& run) { return run.find<QCheckBox>("m_box"); }
+    static void click(QCheckBox* box) { QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2)); }
+
+    std::unique_ptr<ToolHarness> m_tool;
+};
+
+void tst_DvSFBoolWidget::cleanup()
+{
+    m_tool.reset();
+    QVERIFY(ToolHarness::noWidgetIsLeft());
+}
+
+void tst_DvSFBoolWidget::editorBearsItsNames()
+{
+    DvSFBoolWidget editor;
+    const EditorRun run(editor);
+    QCOMPARE(editor.objectName(), QStringLiteral("DvSFBoolWidget"));
+    QCOMPARE(DvSFBoolWidget("mine").objectName(), QStringLiteral("mine"));
+    QCOMPARE(editor.metaObject()->superClass(), &DvSFieldWidget::staticMetaObject);
+    QCOMPARE(editor.getName(), VbString("SFBool"));
+    QVERIFY(editor.getHandledType() == NxSFBool::getClassTypeId());
+    QCOMPARE(run.find<QLabel>("m_label")->text(), QStringLiteral("<p align=\"center\">SFBool</p>"));
+}
+
+void tst_DvSFBoolWidget::boxHasItsSizeInTheMiddle()
+{
+    DvSFBoolWidget editor;
+    const EditorRun run(editor, field());
+    const QCheckBox* const box = boxOf(run);
+    QCOMPARE(box->text(), QString());
+    QCOMPARE(box->minimumSize(), QSize(16, 18));
+    QCOMPARE(box->maximumSize(), QSize(16, 18));
+    const auto* area = run.find<QFrame>("m_editionFrame");
+    QCOMPARE(box->parentWidget(), area);
+    QLayout* const row = editor.getFrame()->layout();
+    QLayout* const areaRow = row->itemAt(2)->layout();
+    for (QLayoutItem* const item : {row->itemAt(1), areaRow->itemAt(1)}) {
+        QVERIFY(item->spacerItem() != nullptr);
+        QCOMPARE(item->spacerItem()->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum));
+    }
+    QCOMPARE(areaRow->itemAt(0)->widget(), area);
+}
+
+void tst_DvSFBoolWidget::valueIsShownWithoutACommand()
+{
+    field().setValue(true);
+    DvSFBoolWidget editor;
+    const EditorRun run(editor, field());
+    QVERIFY(boxOf(run)->isChecked());
+    QCOMPARE(pushed(), 0);
+}
+
+void tst_DvSFBoolWidget::clickWritesAndPushesOnce()
+{
+    DvSFBoolWidget editor;
+    const EditorRun run(editor, field());
+    const WriteCounter counter(field());
+    click(boxOf(run));
+    QVERIFY(field().getValue());
+    QCOMPARE(counter.writes, 1);
+    QCOMPARE(pushed(), 1);
+    ToolHarness::pump();
+    click(boxOf(run));
+    QVERIFY(!field().getValue());
+    QCOMPARE(counter.writes, 2);
+    QCOMPARE(pushed(), 2);
+}
+
+void tst_DvSFBoolWidget::spaceKeyWritesLikeAClick()
+{
+    DvSFBoolWidget editor;
+    const EditorRun run(editor, field());
+    QTest::keyClick(boxOf(run), Qt::Key_Space);
+    QVERIFY(field().getValue());
+    QCOMPARE(pushed(), 1);
+}
+
+void tst_DvSFBoolWidget::undoKeepsTheValue()
+{
+    DvSFBoolWidget editor;
+    const EditorRun run(editor, field());
+    click(boxOf(run));
+    m_tool->services.undo();
+    QVERIFY(field().getValue());
+    m_tool->services.redo();
+    QVERIFY(field().getValue());
+    ToolHarness::pump();
+    QVERIFY(boxOf(run)->isChecked());
+    QCOMPARE(pushed(), 1);
+}
+
+void tst_DvSFBoolWidget::outsideChangeIsFollowedWithoutACommand()
+{
+    DvSFBoolWidget editor;
+    const EditorRun run(editor, field());
+    field().setValue(true);
+    const WriteCounter counter(field());
+    ToolHarness::pump();
+    QVERIFY(boxOf(run)->isChecked());
+    QCOMPARE(counter.writes, 0);
+    QCOMPARE(pushed(), 0);
+}
+
+void tst_DvSFBoolWidget::changeWhileIdleIsReadAtTheNextActivation()
+{
+    DvSFBoolWidget editor;
+    EditorRun run(editor, field());
+    editor.deactivate();
+    field().setValue(true);
+    ToolHarness::pump();
+    QVERIFY(!boxOf(run)->isChecked());
+    run.select(&field());
+    QVERIFY(boxOf(run)->isChecked());
+    QCOMPARE(pushed(), 0);
+}
+
+void tst_DvSFBoolWidget::commandValueIsWrittenUnchanged()
+{
+    DvSFBoolWidget editor;
+    const EditorRun run(editor, field());
+    const WriteCounter counter(field());
+    editor.setFocusLeaveEvent(); // there is no text to leave
+    QCOMPARE(pushed(), 0);
+    editor.setCommandValue();
+    QVERIFY(!field().getValue());
+    QCOMPARE(counter.writes, 1);
+    QCOMPARE(pushed(), 1);
+}
+
+void tst_DvSFBoolWidget::defaultButtonWritesTheDefault()
+{
+    field().setValue(true);
+    DvSFBoolWidget editor;
+    const EditorRun run(editor, field());
+    QTest::mouseClick(run.find<QPushButton>("m_defaultButton"), Qt::LeftButton);
+    QVERIFY(field().isDefault());
+    QCOMPARE(pushed(), 1);
+    ToolHarness::pump();
+    QVERIFY(!boxOf(run)->isChecked());
+    m_tool->services.undo();
+    QVERIFY(field().isDefault());
+}
+
+void tst_DvSFBoolWidget::ignoreButtonSetsTheFlag()
+{
+    DvSFBoolWidget editor;
+    const EditorRun run(editor, field());
+    auto* const button = run.find<QPushButton>("m_ignoreButton");
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(field().isIgnored());
+    QCOMPARE(pushed(), 1);
+    m_tool->services.undo();
+    QVERIFY(!field().isIgnored());
+    ToolHarness::pump();
+    QVERIFY(!button->isChecked());
+}
+
+void tst_DvSFBoolWidget::nullFieldWritesNothing()
+{
+    DvSFBoolWidget editor;
+    const EditorRun run(editor, field());
+    editor.setField(nullptr);
+    editor.updateFromField();
+    click(boxOf(run));
+    editor.applyChanges();
+    QTest::mouseClick(run.find<QPushButton>("m_defaultButton"), Qt::LeftButton);
+    QTest::mouseClick(run.find<QPushButton>("m_ignoreButton"), Qt::LeftButton);
+    QVERIFY(!field().getValue());
+    QVERIFY(!field().isIgnored());
+    QCOMPARE(pushed(), 0);
+}
+
+QTEST_MAIN(tst_DvSFBoolWidget)
+#include "tst_DvSFBoolWidget.moc"
