@@ -15,6 +15,8 @@ void OrvDefaults::load()
     // An order of its own, which is what the host shows; it isn't bound to the order of declaration.
     addExtension(&m_sfBitMask);
     addExtension(&m_sfBool);
+    addExtension(&m_sfColor);
+    addExtension(&m_sfColorRGBA);
     addExtension(&m_sfEnum);
     addExtension(&m_sfDouble);
     addExtension(&m_sfFloat);

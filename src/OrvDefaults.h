@@ -2,6 +2,8 @@
 
 #include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBoolWidget.h"
+#include "FieldEditors/SFWidgets/DvSFColorRGBAWidget.h"
+#include "FieldEditors/SFWidgets/DvSFColorWidget.h"
 #include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
 #include "FieldEditors/SFWidgets/DvSFEnumWidget.h"
 #include "FieldEditors/SFWidgets/DvSFFloatWidget.h"
@@ -37,6 +39,8 @@ private:
     // declared last wins.
     DvSFBitMaskWidget m_sfBitMask;
     DvSFBoolWidget m_sfBool;
+    DvSFColorWidget m_sfColor;
+    DvSFColorRGBAWidget m_sfColorRGBA;
     DvSFEnumWidget m_sfEnum;
     DvSFDoubleWidget m_sfDouble;
     DvSFFloatWidget m_sfFloat;

@@ -27,6 +27,8 @@ struct Entry {
 const QList<Entry> roster{
     {QStringLiteral("SFBitMask"), QStringLiteral("SFBitMask")},
     {QStringLiteral("SFBool"), QStringLiteral("SFBool")},
+    {QStringLiteral("SFColor"), QStringLiteral("SFColor")},
+    {QStringLiteral("SFColorRGBA"), QStringLiteral("SFColorRGBA")},
     {QStringLiteral("SFEnum"), QStringLiteral("SFEnum")},
     {QStringLiteral("SFDouble"), QStringLiteral("SFDouble")},
     {QStringLiteral("SFFloat"), QStringLiteral("SFFloat")},
