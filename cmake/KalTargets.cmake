@@ -71,7 +71,8 @@ function(kal_add_test area name)
   endif()
   add_test(NAME ${area}/${name} COMMAND ${target})
   set(home "${PROJECT_BINARY_DIR}/tests/home/${target}")
-  file(MAKE_DIRECTORY "${home}")
+  file(MAKE_DIRECTORY "${home}/runtime")
+  file(CHMOD "${home}/runtime" DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
   set_tests_properties(
     ${area}/${name}
     PROPERTIES TIMEOUT
@@ -79,7 +80,7 @@ function(kal_add_test area name)
                LABELS
                "${area};${arg_LABELS}"
                ENVIRONMENT
-               "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home};LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0;ASAN_OPTIONS=allocator_may_return_null=1;TSAN_OPTIONS=allocator_may_return_null=1:suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.supp"
+               "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;XDG_RUNTIME_DIR=${home}/runtime;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/cmake/lsan.supp:print_suppressions=0;ASAN_OPTIONS=allocator_may_return_null=1;TSAN_OPTIONS=allocator_may_return_null=1:suppressions=${PROJECT_SOURCE_DIR}/cmake/tsan.supp"
   )
 endfunction()
 

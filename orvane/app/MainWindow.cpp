@@ -60,6 +60,7 @@ MainWindow::MainWindow(Session& session)
     , m_tree(new SceneTreePanel(this))
     , m_jobBar(new JobBar(this))
 {
+    setObjectName(QStringLiteral("mainWindow"));
     setAcceptDrops(true);
     setDockOptions(AllowNestedDocks | AllowTabbedDocks);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);

@@ -1,7 +1,12 @@
 #include "orvane/app/SceneEdit.h"
 
+#include "orvane/app/FieldText.h"
+#include "orvane/app/TextConversion.h"
+
 #include "meridane/base/VbName.h"
 #include "meridane/scene/NxField.h"
+#include "meridane/scene/NxFieldData.h"
+#include "meridane/scene/NxRef.h"
 #include "meridane/scene/NxScenePath.h"
 
 #include <vector>
@@ -10,59 +15,60 @@ namespace orvane {
 
 namespace {
 
-constexpr std::size_t listedValueLength = 1000;
-
-QString fromUtf8(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
+constexpr qsizetype listedValueLength = 1000;
 
 // Follows a path that has to name a field.
 std::optional<QString> findField(NxGroup* scene, const QString& path, NxField*& field)
 {
     const NxScenePath::Target target = NxScenePath::find(scene, path.toStdString());
     if (!target.error.empty())
-        return fromUtf8(target.error);
+        return toQString(target.error);
     if (target.field == nullptr)
         return QStringLiteral("%1: this is a node; a field is named as %1.field").arg(path);
     field = target.field;
     return std::nullopt;
 }
 
-// The beginning of a field's text, without making the whole text of a value of megabytes.
-QString shortText(const NxField& field)
+// Tries a text on the same field of a new node of the class, so that nobody who looks at the field is told.
+bool acceptsText(NxField* field, const VbString& text)
 {
-    std::string text;
-    std::size_t position = 0;
-    while (text.size() <= listedValueLength && field.writeText(text, position, listedValueLength)) { }
-    QString value = fromUtf8(text);
-    if (value.size() > static_cast<qsizetype>(listedValueLength))
-        value = value.left(listedValueLength) + QChar(0x2026);
-    return value;
+    NxFieldContainer* const node = field->getContainer();
+    auto* const object = static_cast<NxTypedObject*>(node->getTypeId().createInstance(nullptr));
+    const NxRef<NxFieldContainer> trial(dynamic_cast<NxFieldContainer*>(object));
+    NxFieldData* const data = node->getFieldData();
+    return trial && data->getField(trial.get(), data->getIndex(node, field))->set(text);
 }
 
 void listNode(const NxGroup* scene, const std::vector<NxNode*>& path, QString& lines)
 {
     NxNode* const node = path.back();
     lines += QStringLiteral("%1\t%2\n")
-                 .arg(fromUtf8(NxScenePath::toText(scene, path)), QString::fromUtf8(node->getClassName()));
+                 .arg(toQString(NxScenePath::toText(scene, path)), QString::fromUtf8(node->getClassName()));
     for (const NxField* const field : node->getFields())
         lines += QStringLiteral("%1\t%2\t%3\n")
-                     .arg(fromUtf8(NxScenePath::toText(scene, path, field)),
-                         QString::fromLatin1(field->getTypeId().getName().getString()), shortText(*field));
+                     .arg(toQString(NxScenePath::toText(scene, path, field)), typeName(*field),
+                         beginningOf(*field, listedValueLength));
 }
 
 } // namespace
 
+std::optional<QString> findAssignedField(NxGroup* scene, const CommandLine::Assignment& assignment, NxField*& field)
+{
+    if (auto error = findField(scene, assignment.path, field))
+        return error;
+    if (acceptsText(field, VbString(assignment.text.toStdString())))
+        return std::nullopt;
+    return QStringLiteral("%1: '%2' is no value for a field of type %3")
+        .arg(assignment.path, assignment.text, typeName(*field));
+}
+
 std::optional<QString> setField(NxGroup* scene, const CommandLine::Assignment& assignment)
 {
     NxField* field = nullptr;
-    if (auto error = findField(scene, assignment.path, field))
+    if (auto error = findAssignedField(scene, assignment, field))
         return error;
-    if (field->set(VbString(assignment.text.toStdString())))
-        return std::nullopt;
-    return QStringLiteral("%1: '%2' is no value for a field of type %3")
-        .arg(assignment.path, assignment.text, QString::fromLatin1(field->getTypeId().getName().getString()));
+    field->set(VbString(assignment.text.toStdString()));
+    return std::nullopt;
 }
 
 std::optional<QString> getField(NxGroup* scene, const QString& path, QString& text)
@@ -72,7 +78,7 @@ std::optional<QString> getField(NxGroup* scene, const QString& path, QString& te
         return error;
     VbString value;
     field->get(value);
-    text = fromUtf8(std::string(value.view()));
+    text = toQString(value.view());
     return std::nullopt;
 }
 

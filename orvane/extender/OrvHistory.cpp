@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -80,8 +79,7 @@ public:
 
     void undo() override
     {
-        for (const auto& command : m_commands | std::views::reverse)
-            command->undo();
+        std::for_each(m_commands.rbegin(), m_commands.rend(), [](const auto& command) { command->undo(); });
     }
 
     bool mergeWith(const QUndoCommand* other) override

@@ -132,7 +132,7 @@ private Q_SLOTS:
     void readsAndWritesALargeSceneInSlices()
     {
         Pulse pulse;
-        SaveJob save(AppScenes::wide(100000), m_fileName);
+        SaveJob save(AppScenes::wide(300000), m_fileName);
         const QSignalSpy saved(&save, &FileJob::finished);
         const QSignalSpy progressed(&save, &FileJob::progressed);
         save.start();
@@ -144,7 +144,7 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(loaded.size(), 1, 60000);
         // A slice takes 8 ms; the rest is for a machine that has other things to do.
         QVERIFY2(pulse.longest() < 500, qPrintable(QString::number(pulse.longest())));
-        QCOMPARE(load.takeScene()->getChild(0)->getChildren().size(), std::size_t{100000});
+        QCOMPARE(load.takeScene()->getChild(0)->getChildren().size(), std::size_t{300000});
     }
 
     void choosesTheJobByTheFileName()

@@ -140,7 +140,9 @@ private Q_SLOTS:
         QVERIFY(safeMalloc("image.cpp", 5, tooMuch, &counter) == nullptr);
         QVERIFY(safeRealloc("image.cpp", 6, nullptr, tooMuch, &counter) == nullptr);
         QCOMPARE(recorder.texts().size(), std::size_t(2));
-        QCOMPARE(recorder.texts()[0], "image.cpp:5: no memory for " + std::to_string(tooMuch) + " bytes");
+        std::string expected = "image.cpp:5: no memory for ";
+        expected.append(std::to_string(tooMuch)).append(" bytes");
+        QCOMPARE(recorder.texts()[0], expected);
         QCOMPARE(counter.blocks.load(), 0);
         QCOMPARE(counter.bytes.load(), 0);
     }

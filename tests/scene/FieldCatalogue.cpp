@@ -179,26 +179,35 @@ Refused inList(const Refused& values, const std::string& good)
     return result;
 }
 
+std::string joined(std::initializer_list<std::string_view> parts)
+{
+    std::string text;
+    for (const std::string_view part : parts)
+        text += part;
+    return text;
+}
+
 // Vectors and the like: a number of components.
 Accepted components(std::size_t count)
 {
     std::string text;
     for (std::size_t i = 0; i < count; ++i)
-        text += (i > 0 ? " " : "") + std::to_string(i + 1);
-    return {{text, text}, {"\t" + text + " ", text}};
+        text.append(i > 0 ? " " : "").append(std::to_string(i + 1));
+    return {{text, text}, {joined({"\t", text, " "}), text}};
 }
 Refused notComponents(std::size_t count)
 {
     const std::string text = components(count).front().text;
     const std::string shorter = text.substr(0, text.rfind(' '));
-    return {"", "\"\"", shorter, text + " 1", shorter + " x", text + ",", shorter + ", 1", "(" + text + ")",
+    return {"", "\"\"", shorter, text + " 1", shorter + " x", text + ",", shorter + ", 1", joined({"(", text, ")"}),
         shorter + " 1e999"};
 }
 Refused notComponentsInList(std::size_t count)
 {
     const std::string text = components(count).front().text;
-    return {"", "[", "[" + text, "[" + text + ",]", "[" + text + " 1]", "[" + text.substr(0, text.rfind(' ')) + "]",
-        text + " 1", text + ", " + text};
+    const std::string shorter = text.substr(0, text.rfind(' '));
+    return {"", "[", joined({"[", text}), joined({"[", text, ",]"}), joined({"[", text, " 1]"}),
+        joined({"[", shorter, "]"}), joined({text, " 1"}), joined({text, ", ", text})};
 }
 
 const Accepted boolean{

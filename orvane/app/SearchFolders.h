@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QStringList>
+
+/// Where the tool looks for what isn't compiled in. A folder need not exist.
+namespace orvane {
+
+/// The folders with plug-ins: those of the environment's ORVANE_PLUGIN_PATH (separated by colons), the user's own
+/// `orvane/plugins` in the folder for data, and `lib` beside the program's `bin`.
+[[nodiscard]] QStringList pluginFolders();
+/// The folders with profiles: those that ship with the tool, then the user's own `orvane/profiles` in the folder for
+/// configuration.
+[[nodiscard]] QStringList profileFolders();
+
+} // namespace orvane

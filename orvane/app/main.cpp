@@ -1,0 +1,95 @@
+#include "orvane/app/BatchRun.h"
+#include "orvane/app/CommandLine.h"
+#include "orvane/app/WindowRun.h"
+
+#include <QApplication>
+#include <QTextStream>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr int statusFailed = 1;
+constexpr int statusUnusableArguments = 2;
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+int fail(const QString& message, int status)
+{
+    std::fprintf(stderr, "orvane: %s\n", qPrintable(message));
+    return status;
+}
+
+// The library would take options such as --plugin for its own, so it gets the program's name alone.
+template <typename Application>
+std::unique_ptr<QCoreApplication> makeApplication(char** argv)
+{
+    static int count = 1;
+    return std::make_unique<Application>(count, argv);
+}
+
+// Without a screen the platform has nothing to say that a user could use.
+void useNoScreen()
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+        const bool isNoise
+            = text.contains(QLatin1String("propagateSizeHints")) || text.startsWith(QLatin1String("QStandardPaths:"));
+        if (!isNoise || type == QtFatalMsg)
+            std::fprintf(stderr, "%s\n", qPrintable(text));
+    });
+}
+
+int runBatch(const CommandLine& commandLine, char** argv)
+{
+    // Plug-ins build widgets as they are loaded; nothing else here needs more than the event loop.
+    std::unique_ptr<QCoreApplication> application;
+    if (commandLine.listExtensions) {
+        useNoScreen();
+        application = makeApplication<QApplication>(argv);
+    } else {
+        application = makeApplication<QCoreApplication>(argv);
+    }
+    QTextStream output(stdout);
+    const auto failure = BatchRun(output).run(commandLine);
+    output.flush();
+    return failure ? fail(*failure, statusFailed) : 0;
+}
+
+int runWindow(const CommandLine& commandLine, char** argv)
+{
+    if (!hasDisplay()) {
+        if (commandLine.screenshotFile.isEmpty())
+            return fail(QStringLiteral("There is no display to open a window on; --screenshot works without one."),
+                statusFailed);
+        useNoScreen();
+    }
+    const auto application = makeApplication<QApplication>(argv);
+    return WindowRun(commandLine).run();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication::setApplicationName(QStringLiteral("orvane"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+
+    const auto [commandLine, error] = CommandLine::parse(arguments);
+    if (!error.isEmpty())
+        return fail(error, statusUnusableArguments);
+    if (commandLine.help || commandLine.version) {
+        QTextStream(stdout) << (commandLine.help ? CommandLine::helpText()
+                                                 : QStringLiteral("orvane " ORVANE_VERSION "\n"));
+        return 0;
+    }
+    return commandLine.isBatch() ? runBatch(commandLine, argv) : runWindow(commandLine, argv);
+}

@@ -1,0 +1,215 @@
+#include "endtoend/LiveTool.h"
+
+#include <QDeadlineTimer>
+#include <QTest>
+
+#include <algorithm>
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int patience = 30000; // milliseconds
+
+bool waitReadable(int descriptor)
+{
+    pollfd entry{descriptor, POLLIN, 0};
+    return ::poll(&entry, 1, patience) == 1;
+}
+
+QRect toRect(const QString& text)
+{
+    const QStringList numbers = text.split(u' ');
+    if (numbers.size() != 4)
+        return {};
+    return {numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(), numbers[3].toInt()};
+}
+
+} // namespace
+
+LiveTool::~LiveTool()
+{
+    if (m_probe >= 0)
+        ::close(m_probe);
+    for (QProcess* const process : {&m_tool, &m_windowManager, &m_server}) {
+        if (process->state() == QProcess::NotRunning)
+            continue;
+        process->terminate();
+        if (!process->waitForFinished(5000))
+            process->kill();
+        process->waitForFinished();
+    }
+}
+
+bool LiveTool::startServer()
+{
+    // The server picks a free display and tells its number.
+    m_server.setProgram(QStringLiteral("Xvfb"));
+    m_server.setArguments({QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+        QStringLiteral("0"), QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    m_server.start();
+    if (!m_server.waitForReadyRead(patience))
+        return false;
+    m_environment = QProcessEnvironment::systemEnvironment();
+    m_environment.insert(
+        QStringLiteral("DISPLAY"), u':' + QString::fromLatin1(m_server.readAllStandardOutput().trimmed()));
+    m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    // Without a window manager nobody would give the window the keyboard.
+    m_windowManager.setProcessEnvironment(m_environment);
+    m_windowManager.start(QStringLiteral("openbox"), {QStringLiteral("--config-file"), QStringLiteral("/dev/null")});
+    return m_windowManager.waitForStarted(patience);
+}
+
+bool LiveTool::acceptProbe(int listener)
+{
+    if (!waitReadable(listener))
+        return false;
+    m_probe = ::accept(listener, nullptr, nullptr);
+    return m_probe >= 0;
+}
+
+bool LiveTool::start(const QStringList& arguments)
+{
+    if (!startServer()) {
+        qWarning("Xvfb doesn't start.");
+        return false;
+    }
+    const QByteArray path = m_folder.filePath(QStringLiteral("probe")).toLocal8Bit();
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::copy(path.begin(), path.end(), address.sun_path);
+    const int listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (::bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0
+        || ::listen(listener, 1) != 0) {
+        ::close(listener);
+        return false;
+    }
+    m_environment.insert(QStringLiteral("ORVANE_PROBE_SOCKET"), QString::fromLocal8Bit(path));
+    m_tool.setProcessEnvironment(m_environment);
+    m_tool.setProcessChannelMode(QProcess::ForwardedChannels);
+    m_tool.setProgram(QStringLiteral(ORVANE_PROGRAM));
+    m_tool.setArguments(QStringList{QStringLiteral("--no-settings"), QStringLiteral("--plugin"),
+                            QStringLiteral(PROBE_PLUGIN), QStringLiteral("--size"), QStringLiteral("1200x760")}
+        + arguments);
+    m_tool.start();
+    const bool connected = m_tool.waitForStarted(patience) && acceptProbe(listener);
+    ::close(listener);
+    if (!connected) {
+        qWarning("The tool doesn't start.");
+        return false;
+    }
+    if (widget(QStringLiteral("sceneTree")).isEmpty())
+        return false;
+    xdotool(
+        {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
+            QStringLiteral("Orvane"), QStringLiteral("windowactivate"), QStringLiteral("--sync")});
+    return true;
+}
+
+int LiveTool::quit()
+{
+    key(QStringLiteral("ctrl+q"));
+    return m_tool.waitForFinished(patience) && m_tool.exitStatus() == QProcess::NormalExit ? m_tool.exitCode() : -1;
+}
+
+QString LiveTool::ask(const QString& request)
+{
+    const QByteArray line = request.toUtf8() + '\n';
+    if (::write(m_probe, line.constData(), static_cast<std::size_t>(line.size())) != line.size())
+        return {};
+    QByteArray reply;
+    char byte = 0;
+    while (waitReadable(m_probe) && ::read(m_probe, &byte, 1) == 1 && byte != '\n')
+        reply.append(byte);
+    return QString::fromUtf8(reply);
+}
+
+QString LiveTool::await(const QString& request)
+{
+    const QDeadlineTimer deadline(patience);
+    QString reply = ask(request);
+    while (reply.isEmpty() && !deadline.hasExpired() && m_tool.state() == QProcess::Running) {
+        QTest::qWait(20);
+        reply = ask(request);
+    }
+    if (reply.isEmpty())
+        qWarning("No answer to '%s'.", qPrintable(request));
+    return reply;
+}
+
+QRect LiveTool::widget(const QString& name)
+{
+    return toRect(await(QStringLiteral("widget ") + name));
+}
+
+QRect LiveTool::item(const QString& view, const QString& text)
+{
+    return toRect(await(QStringLiteral("item %1 %2").arg(view, text)));
+}
+
+QString LiveTool::property(const QString& name, const QString& key)
+{
+    return ask(QStringLiteral("property %1 %2").arg(name, key));
+}
+
+QString LiveTool::action(const QString& text)
+{
+    return ask(QStringLiteral("action ") + text);
+}
+
+void LiveTool::click(const QPoint& position)
+{
+    xdotool({QStringLiteral("mousemove"), QString::number(position.x()), QString::number(position.y()),
+        QStringLiteral("click"), QStringLiteral("1")});
+}
+
+void LiveTool::doubleClick(const QPoint& position)
+{
+    xdotool({QStringLiteral("mousemove"), QString::number(position.x()), QString::number(position.y()),
+        QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"), QStringLiteral("--delay"),
+        QStringLiteral("50"), QStringLiteral("1")});
+}
+
+void LiveTool::drag(const QPoint& from, const QPoint& to)
+{
+    constexpr int steps = 8;
+    QStringList commands{QStringLiteral("mousemove"), QString::number(from.x()), QString::number(from.y()),
+        QStringLiteral("mousedown"), QStringLiteral("1")};
+    for (int step = 1; step <= steps; ++step) {
+        const QPoint point = from + (to - from) * step / steps;
+        commands << QStringLiteral("mousemove") << QString::number(point.x()) << QString::number(point.y())
+                 << QStringLiteral("sleep") << QStringLiteral("0.02");
+    }
+    xdotool(commands + QStringList{QStringLiteral("mouseup"), QStringLiteral("1")});
+}
+
+void LiveTool::key(const QString& name)
+{
+    xdotool({QStringLiteral("key"), name});
+}
+
+void LiveTool::type(const QString& text)
+{
+    xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
+}
+
+void LiveTool::saveScreen(const QString& fileName)
+{
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.start(QStringLiteral("import"), {QStringLiteral("-window"), QStringLiteral("root"), fileName});
+    process.waitForFinished(patience);
+}
+
+void LiveTool::xdotool(const QStringList& arguments)
+{
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QStringLiteral("xdotool"), arguments);
+    if (!process.waitForFinished(patience) || process.exitCode() != 0)
+        qWarning("xdotool %s failed.", qPrintable(arguments.join(u' ')));
+}

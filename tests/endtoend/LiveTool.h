@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QPoint>
+#include <QProcess>
+#include <QRect>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// The real tool in a window of its own X server, with a window manager, worked by real mouse and key events. Each
+/// operation fails the test with a message when it can't be done in time, and gives false or nothing.
+class LiveTool {
+public:
+    LiveTool() = default;
+    ~LiveTool();
+    LiveTool(const LiveTool&) = delete;
+    LiveTool& operator=(const LiveTool&) = delete;
+
+    /// Starts server and tool and waits until the window stands.
+    [[nodiscard]] bool start(const QStringList& arguments);
+    /// Closes the window as Ctrl+Q does and gives the exit status, or -1.
+    [[nodiscard]] int quit();
+
+    /// The centre and extent of a widget, or of a row of a view, in pixels of the screen; waits for it to appear.
+    [[nodiscard]] QRect widget(const QString& name);
+    [[nodiscard]] QRect item(const QString& view, const QString& text);
+    [[nodiscard]] QString property(const QString& name, const QString& key);
+    [[nodiscard]] QString action(const QString& text);
+
+    void click(const QPoint& position);
+    void doubleClick(const QPoint& position);
+    /// Presses at the first point, moves to the second in steps, and releases.
+    void drag(const QPoint& from, const QPoint& to);
+    /// A key or chord as X names it, such as "ctrl+z" or "Return".
+    void key(const QString& name);
+    void type(const QString& text);
+    /// Writes a picture of the screen.
+    void saveScreen(const QString& fileName);
+
+private:
+    [[nodiscard]] QString ask(const QString& request);
+    /// Asks until the answer isn't empty.
+    [[nodiscard]] QString await(const QString& request);
+    void xdotool(const QStringList& arguments);
+    [[nodiscard]] bool startServer();
+    [[nodiscard]] bool acceptProbe(int listener);
+
+    QTemporaryDir m_folder;
+    QProcess m_server;
+    QProcess m_windowManager;
+    QProcess m_tool;
+    QProcessEnvironment m_environment;
+    int m_probe = -1;
+};

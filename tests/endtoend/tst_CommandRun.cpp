@@ -1,0 +1,214 @@
+#include <QtTest>
+
+namespace {
+
+const QByteArray scene = "#mrd 1.0\n"
+                         "\n"
+                         "Group \"rig\" {\n"
+                         "    Material \"paint\" {\n"
+                         "        transparency = 0.25\n"
+                         "    }\n"
+                         "}\n";
+
+struct Outcome {
+    int status = -1;
+    QByteArray output;
+    QByteArray errors;
+};
+
+} // namespace
+
+// The program on the command line, without a display: what it prints, what it writes and how it ends.
+class CommandRunTest : public QObject {
+    Q_OBJECT
+
+private:
+    [[nodiscard]] QString path(const QString& name) const { return m_folder->filePath(name); }
+
+    void write(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    [[nodiscard]] QByteArray read(const QString& name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    [[nodiscard]] static Outcome run(const QStringList& arguments)
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QLatin1String(name));
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(ORVANE_PROGRAM), QStringList{QStringLiteral("--no-settings")} + arguments);
+        if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+            return {};
+        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        write(QStringLiteral("rig.mrd"), scene);
+    }
+
+    void aValueIsPrinted()
+    {
+        const Outcome outcome = run(
+            {QStringLiteral("--get"), QStringLiteral("/rig/paint.transparency"), path(QStringLiteral("rig.mrd"))});
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.output, QByteArray("0.25\n"));
+        QCOMPARE(outcome.status, 0);
+    }
+
+    void aChangedSceneIsWrittenAndTheOriginalStays()
+    {
+        const Outcome outcome = run({QStringLiteral("--set"), QStringLiteral("/rig/paint.transparency=0.5"),
+            QStringLiteral("--set"), QStringLiteral("/rig/paint.shininess=0.75"), QStringLiteral("--export"),
+            path(QStringLiteral("new.mrd")), path(QStringLiteral("rig.mrd"))});
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        QCOMPARE(read(QStringLiteral("rig.mrd")), scene);
+        const QByteArray written = read(QStringLiteral("new.mrd"));
+        QVERIFY(written.contains("transparency = 0.5"));
+        QVERIFY(written.contains("shininess = 0.75"));
+    }
+
+    void anUnchangedSceneIsWrittenToTheSameBytes()
+    {
+        QCOMPARE(
+            run({QStringLiteral("--export"), path(QStringLiteral("new.mrd")), path(QStringLiteral("rig.mrd"))}).status,
+            0);
+        QCOMPARE(read(QStringLiteral("new.mrd")), scene);
+    }
+
+    void theSameModelInTwoFormatsGivesTheSameTriangles()
+    {
+        QByteArray indices[2];
+        const QString models[2]
+            = {QStringLiteral(MODEL_FOLDER "/crate.glb"), QStringLiteral(MODEL_FOLDER "/crate.obj")};
+        for (int i = 0; i < 2; ++i) {
+            const Outcome outcome = run({QStringLiteral("--list"), models[i]});
+            QCOMPARE(outcome.errors, QByteArray());
+            QCOMPARE(outcome.status, 0);
+            // One line a mesh: how many indices it has.
+            for (const QByteArray& line : outcome.output.split('\n')) {
+                if (line.contains(".indices\tMFInt32"))
+                    indices[i] += QByteArray::number(line.count(',')) + '\n';
+            }
+        }
+        QVERIFY(!indices[0].isEmpty());
+        QCOMPARE(indices[0], indices[1]);
+    }
+
+    void theRosterIsListedInOrder()
+    {
+        const Outcome outcome = run({QStringLiteral("--list-extensions")});
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        QVERIFY(outcome.output.contains("\tDvSFFloatWidget\tSFFloat\tSFFloat\n"));
+        QVERIFY(outcome.output.endsWith("\tOrvNodeEditor\tNode Editor\tnone\n"));
+        QVERIFY(outcome.output.startsWith("1\t"));
+    }
+
+    void aPictureIsWrittenWithoutADisplay()
+    {
+        const Outcome outcome = run({QStringLiteral("--screenshot"), path(QStringLiteral("window.png")),
+            QStringLiteral("--size"), QStringLiteral("900x600"), QStringLiteral("--select"),
+            QStringLiteral("/rig/paint.transparency"), path(QStringLiteral("rig.mrd"))});
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        const QImage picture(path(QStringLiteral("window.png")));
+        QCOMPARE(picture.size(), QSize(900, 600));
+    }
+
+    void badInputIsOneLineAndStatusOne_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("mentions");
+        const QStringList list{QStringLiteral("--list")};
+        QTest::newRow("missing file") << QByteArray() << list << QByteArray("No such file");
+        QTest::newRow("cut off") << QByteArray("#mrd 1.0\nGroup {\n") << list << QByteArray("bad.mrd:3:1: ");
+        QTest::newRow("another version") << QByteArray("#mrd 9.0\n") << list << QByteArray("bad.mrd:1:");
+        QTest::newRow("no scene") << QByteArray("hello\n") << list << QByteArray("bad.mrd:1:1: ");
+        QTest::newRow("invalid UTF-8") << QByteArray("#mrd 1.0\nGroup \"\xff\" {}\n") << list
+                                       << QByteArray("bad.mrd:2:8: ");
+        QTest::newRow("wrong type") << QByteArray("#mrd 1.0\nMaterial { transparency = red }\n") << list
+                                    << QByteArray("bad.mrd:2:27: ");
+        QTest::newRow("number out of range")
+            << QByteArray("#mrd 1.0\nSwitch { whichChild = 3000000000 }\n") << list << QByteArray("bad.mrd:2:23: ");
+        QTest::newRow("reference to nothing")
+            << QByteArray("#mrd 1.0\nuse \"x\"\n") << list << QByteArray("bad.mrd:2:");
+        QTest::newRow("cycle") << QByteArray("#mrd 1.0\nGroup \"x\" { use \"x\" }\n") << list
+                               << QByteArray("bad.mrd:2:");
+        QTest::newRow("no such node") << scene << QStringList{QStringLiteral("--get=/no.name")} << QByteArray("no");
+        QTest::newRow("refused value") << scene
+                                       << QStringList{QStringLiteral("--set=/rig/paint.transparency=red"),
+                                              QStringLiteral("--list")}
+                                       << QByteArray("'red'");
+        QTest::newRow("unwritable target")
+            << scene << QStringList{QStringLiteral("--export=/nowhere/out.mrd")} << QByteArray("/nowhere/out.mrd");
+        QTest::newRow("unknown export format")
+            << scene << QStringList{QStringLiteral("--export=/tmp/out.nothing")} << QByteArray("nothing");
+        QTest::newRow("missing plug-in") << scene
+                                         << QStringList{QStringLiteral("--plugin=/nowhere/p.so"),
+                                                QStringLiteral("--list-extensions")}
+                                         << QByteArray("/nowhere/p.so");
+    }
+
+    void badInputIsOneLineAndStatusOne()
+    {
+        QFETCH(const QByteArray, content);
+        QFETCH(const QStringList, arguments);
+        QFETCH(const QByteArray, mentions);
+        if (!content.isEmpty())
+            write(QStringLiteral("bad.mrd"), content);
+        const Outcome outcome = run(arguments + QStringList{path(QStringLiteral("bad.mrd"))});
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains(mentions), outcome.errors.constData());
+        QCOMPARE(outcome.errors.count('\n'), 1);
+        QVERIFY(outcome.errors.startsWith("orvane: "));
+        if (!content.isEmpty())
+            QCOMPARE(read(QStringLiteral("bad.mrd")), content);
+    }
+
+    void aFolderIsNoScene()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder.mrd")));
+        const Outcome outcome = run({QStringLiteral("--list"), path(QStringLiteral("folder.mrd"))});
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains("irectory"), outcome.errors.constData());
+    }
+
+    void unusableArgumentsAreStatusTwo()
+    {
+        const Outcome outcome = run({QStringLiteral("--nonsense")});
+        QCOMPARE(outcome.status, 2);
+        QCOMPARE(outcome.errors.count('\n'), 1);
+    }
+
+    void aWindowWithoutADisplayIsRefusedClearly()
+    {
+        const Outcome outcome = run({path(QStringLiteral("rig.mrd"))});
+        QCOMPARE(outcome.status, 1);
+        QVERIFY2(outcome.errors.contains("display"), outcome.errors.constData());
+    }
+
+    void versionAndHelpArePrinted()
+    {
+        QVERIFY(run({QStringLiteral("--version")}).output.startsWith("orvane "));
+        QVERIFY(run({QStringLiteral("--help")}).output.contains("--list-extensions"));
+    }
+};
+
+QTEST_GUILESS_MAIN(CommandRunTest)
+#include "tst_CommandRun.moc"
