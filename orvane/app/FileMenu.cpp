@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QMenuBar>
 #include <QStyle>
 
