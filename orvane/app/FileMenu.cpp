@@ -11,8 +11,8 @@
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
-#include <QRegularExpression>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QStyle>
 
 namespace {
