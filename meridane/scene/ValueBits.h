@@ -16,6 +16,7 @@ bool isSameValue(const Value& left, const Value& right)
 {
     // None of the value types has padding, so that comparing bytes compares values.
     static_assert(std::is_trivially_copyable_v<Value>);
+    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): floats are meant to be compared by their bits
     return std::memcmp(&left, &right, sizeof(Value)) == 0;
 }
 inline bool isSameValue(const VbString& left, const VbString& right)
@@ -29,6 +30,7 @@ bool areSameValues(std::span<const Value> left, std::span<const Value> right)
     if (left.size() != right.size())
         return false;
     if constexpr (std::is_trivially_copyable_v<Value>) {
+        // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): floats are meant to be compared by their bits
         return left.empty() || std::memcmp(left.data(), right.data(), left.size_bytes()) == 0;
     } else {
         for (std::size_t i = 0; i < left.size(); ++i) {

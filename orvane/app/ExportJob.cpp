@@ -119,6 +119,7 @@ void ExportJob::writeFiles()
 void ExportJob::commitFiles()
 {
     // What the main file refers to comes first, so that it never refers to something older than itself.
+    // NOLINTNEXTLINE(modernize-loop-convert): clang 14 knows no reversed view of this library
     for (auto replacer = m_replacers.rbegin(); replacer != m_replacers.rend(); ++replacer) {
         if (const std::optional<std::string> failure = (*replacer)->commit()) {
             fail(orvane::toQString(*failure));

@@ -50,7 +50,7 @@ QVariant rowColor(bool ignored, int column)
 QString cut(const std::string& text, int length)
 {
     const QString whole
-        = orvane::toQString(std::string_view(text).substr(0, static_cast<std::size_t>(4 * (length + 1))));
+        = orvane::toQString(std::string_view(text).substr(0, 4 * (static_cast<std::size_t>(length) + 1)));
     return whole.size() <= length ? whole : whole.left(length) + QChar(0x2026);
 }
 

@@ -166,9 +166,10 @@ void drawGallery(QPainter& painter)
     painter.setPen(Qt::NoPen);
     for (std::size_t cell = 0; cell < colors.size(); ++cell) {
         painter.setBrush(colors[cell]);
-        const auto column = static_cast<qreal>(cell % 3);
-        const auto row = static_cast<qreal>(cell / 3);
-        painter.drawRoundedRect(QRectF(1.5 + 4.5 * column, 1.5 + 4.5 * row, 3.8, 3.8), 0.8, 0.8);
+        const std::size_t column = cell % 3;
+        const std::size_t row = cell / 3;
+        const QPointF corner(1.5 + 4.5 * static_cast<qreal>(column), 1.5 + 4.5 * static_cast<qreal>(row));
+        painter.drawRoundedRect(QRectF(corner, QSizeF(3.8, 3.8)), 0.8, 0.8);
     }
 }
 

@@ -10,6 +10,7 @@
 #include "meridane/base/NxDelayQueue.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QPixmap>
 #include <QTimer>
 
@@ -92,11 +93,9 @@ void WindowRun::report(MainWindow& window, const QString& message)
 
 void WindowRun::takePicture(MainWindow& window)
 {
-    // Layouts settle and editors fill from posted events and from the sensors' queue, and either may cause the other.
-    do {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    } while (!NxDelayQueue::getDefault().isEmpty());
+    // Layouts settle and editors fill from events and from the sensors' queue, and either may cause the other.
+    QEventLoop loop;
+    while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty()) { }
     if (!m_failed && !window.grab().save(m_commandLine.screenshotFile)) {
         m_failed = true;
         std::fprintf(stderr, "orvane: %s: the picture can't be written\n", qPrintable(m_commandLine.screenshotFile));
