@@ -197,7 +197,7 @@ QStringList OrvPluginsManager::activateExtensions()
     if (m_activeProfile == nullptr)
         return {};
     const QList<OrvExtension*> extensions = getExtensions();
-    const QStringList missing = m_activeProfile->resolve(extensions);
+    QStringList missing = m_activeProfile->resolve(extensions);
     for (OrvExtension* const extension : extensions) {
         if (m_activeProfile->getSetting(extension) == nullptr)
             continue;
