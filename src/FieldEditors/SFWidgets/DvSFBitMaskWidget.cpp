@@ -5,6 +5,7 @@
 #include "meridane/scene/NxSFBitMask.h"
 
 #include <QCheckBox>
+#include <QFrame>
 #include <QVBoxLayout>
 
 DvSFBitMaskWidget::DvSFBitMaskWidget(const char* name)
@@ -83,6 +84,7 @@ void DvSFBitMaskWidget::setBitMaskValue()
         return;
     auto* const field = static_cast<NxSFEnum*>(m_field);
     int mask = 0;
+    // NOLINTNEXTLINE(modernize-loop-convert): from the last to the first
     for (auto box = m_checkBoxes.crbegin(); box != m_checkBoxes.crend(); ++box) {
         int value = 0;
         field->enumValueByName(orvane::toVbName((*box)->text()), value);

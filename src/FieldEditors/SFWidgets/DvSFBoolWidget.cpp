@@ -6,6 +6,7 @@
 #include "meridane/scene/NxSFBool.h"
 
 #include <QCheckBox>
+#include <QFrame>
 #include <QHBoxLayout>
 
 DvSFBoolWidget::DvSFBoolWidget(const char* name)

@@ -27,7 +27,7 @@ float numberIn(const QLineEdit* line)
 
 void acceptFloats(QLineEdit* line)
 {
-    constexpr double limit{std::numeric_limits<float>::max()};
+    constexpr auto limit = static_cast<double>(std::numeric_limits<float>::max());
     line->setValidator(new QDoubleValidator(-limit, limit, 6, line));
 }
 
