@@ -46,7 +46,10 @@ private:
         const NxMaterial* material = nullptr;
         const NxTexture* texture = nullptr;
 
-        friend auto operator<=>(const Look&, const Look&) = default;
+        friend bool operator<(const Look& a, const Look& b)
+        {
+            return std::tie(a.material, a.texture) < std::tie(b.material, b.texture);
+        }
     };
     /// A node of the model while it is being built.
     struct Node;
