@@ -17,6 +17,13 @@ if(KAL_CCACHE)
                                   "${KAL_CCACHE}")
 endif()
 
+# Linking with lld takes a sixth of the time; without it the compiler's own linker does.
+include(CheckLinkerFlag)
+check_linker_flag(CXX -fuse-ld=lld KAL_HAS_LLD)
+if(KAL_HAS_LLD)
+  add_link_options(-fuse-ld=lld)
+endif()
+
 # The compiler's warnings, for our own sources alone.
 add_library(kal_warnings INTERFACE)
 target_compile_options(
@@ -54,3 +61,9 @@ target_compile_definitions(
             QT_NO_CAST_FROM_BYTEARRAY
             QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
             QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+# The common precompiled header of the libraries with Qt code, made once. It names what many of them include, rather than
+# all of Qt: what a header holds costs time in each source that uses it.
+add_library(kal_qt_header OBJECT "${PROJECT_SOURCE_DIR}/cmake/QtHeader.cpp")
+target_link_libraries(kal_qt_header PRIVATE Qt6::Widgets kal_warnings kal_qt_rules)
+target_precompile_headers(kal_qt_header PRIVATE "${PROJECT_SOURCE_DIR}/cmake/QtHeader.h")

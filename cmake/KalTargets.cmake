@@ -19,6 +19,7 @@ function(kal_add_library name)
   set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
   if(arg_QT)
     kal_use_qt(${name})
+    target_precompile_headers(${name} REUSE_FROM kal_qt_header)
   endif()
 endfunction()
 
@@ -61,11 +62,14 @@ function(kal_add_test area name)
   if("toolkit" IN_LIST arg_LABELS)
     set(flavour core)
   endif()
-  add_executable(${target} tst_${name}.cpp ${arg_SOURCES})
+  set(moc_file "${CMAKE_CURRENT_BINARY_DIR}/tst_${name}.moc")
+  add_executable(${target} tst_${name}.cpp "${moc_file}" ${arg_SOURCES})
+  # Called straight away: CMake's automatic run adds two commands and an empty source to each of the many programs.
+  qt_generate_moc(tst_${name}.cpp "${moc_file}" TARGET ${target})
   target_link_libraries(${target} PRIVATE ${arg_DEPENDS})
-  kal_use_test_header(${target} ${area} ${flavour})
-  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-  set_target_properties(${target} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+  kal_use_test_header(${target} ${flavour})
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests" "${CMAKE_CURRENT_BINARY_DIR}")
+  set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
   if("toolkit" IN_LIST arg_LABELS)
     set_property(GLOBAL APPEND PROPERTY KAL_TOOLKIT_TESTS ${target})
   endif()
@@ -84,30 +88,30 @@ function(kal_add_test area name)
   )
 endfunction()
 
-# The precompiled header of the tests, made once a folder (whose path Qt Test compiles in), for those that know widgets
-# and those that do not: QtTest is most of what compiling a test costs. It is made for a program, since a library is
-# compiled with other flags.
-function(kal_use_test_header target area flavour)
-  set(carrier kal_test_header_${area}_${flavour})
+# The precompiled header of the tests, made once for those that know widgets and once for those that do not: QtTest is
+# most of what compiling a test costs. It is made for a program, since a library is compiled with other flags.
+function(kal_use_test_header target flavour)
+  set(carrier kal_test_header_${flavour})
   if(NOT TARGET ${carrier})
     file(GENERATE OUTPUT "${PROJECT_BINARY_DIR}/tests/${carrier}.cpp" CONTENT "int main() {}\n")
     add_executable(${carrier} "${PROJECT_BINARY_DIR}/tests/${carrier}.cpp")
-    kal_link_test_libraries(${carrier} ${flavour})
-    target_precompile_headers(${carrier} PRIVATE <QtTest>)
+    kal_set_test_options(${carrier} ${flavour})
+    target_precompile_headers(${carrier} PRIVATE <QSignalSpy> <QTemporaryDir> <QTest>)
     set_target_properties(${carrier} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
   endif()
-  kal_link_test_libraries(${target} ${flavour})
+  kal_set_test_options(${target} ${flavour})
   target_precompile_headers(${target} REUSE_FROM ${carrier})
 endfunction()
 
-function(kal_link_test_libraries target flavour)
+# What a test runs is optimised; the test itself needn't be.
+function(kal_set_test_options target flavour)
   target_link_libraries(${target} PRIVATE Qt6::Test $<$<STREQUAL:${flavour},widgets>:Qt6::Widgets> kal_warnings
                                           kal_qt_rules)
+  target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O0>)
 endfunction()
 
-# Qt's code generators and the common precompiled header.
+# Qt's code generators.
 function(kal_use_qt name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON AUTOUIC ON)
   target_link_libraries(${name} PRIVATE kal_qt_rules)
-  target_precompile_headers(${name} PRIVATE <QtWidgets>)
 endfunction()
