@@ -31,6 +31,8 @@ HelperProcess::HelperProcess(const HelperOptions& options, const QStringList& ar
     m_options.program = helperProgram(options);
     m_patience.setSingleShot(true);
     m_patience.setInterval(options.patience);
+    m_deadline.setSingleShot(true);
+    m_deadline.setInterval(options.timeLimit);
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &HelperProcess::takeOutputOfProcess);
     connect(&m_process, &QProcess::finished, this, &HelperProcess::takeEnd);
     // Queued, since a process that can't be started may say so at once.
@@ -43,6 +45,10 @@ HelperProcess::HelperProcess(const HelperOptions& options, const QStringList& ar
         fail(QStringLiteral("the import helper did nothing for %1 s and was stopped")
                  .arg(std::chrono::duration<double>(m_options.patience).count()));
     });
+    connect(&m_deadline, &QTimer::timeout, this, [this] {
+        fail(QStringLiteral("the import helper wasn't ready after %1 s and was stopped")
+                 .arg(std::chrono::duration<double>(m_options.timeLimit).count()));
+    });
 }
 
 HelperProcess::~HelperProcess()
@@ -54,6 +60,7 @@ HelperProcess::~HelperProcess()
 void HelperProcess::start()
 {
     m_patience.start();
+    m_deadline.start();
     m_process.start(
         m_options.program, QStringList{QStringLiteral("--memory"), QString::number(m_options.memoryMiB)} + m_arguments);
 }
@@ -62,6 +69,7 @@ void HelperProcess::kill()
 {
     m_ended = true;
     m_patience.stop();
+    m_deadline.stop();
     m_process.disconnect(this);
     m_process.kill();
 }
@@ -111,6 +119,7 @@ void HelperProcess::takeEnd(int exitCode, QProcess::ExitStatus status)
     } else {
         m_ended = true;
         m_patience.stop();
+        m_deadline.stop();
         Q_EMIT ended();
     }
 }

@@ -19,6 +19,8 @@ struct HelperOptions {
     int memoryMiB = 4096;
     /// How long it may go without taking or giving a byte.
     std::chrono::milliseconds patience = std::chrono::minutes(2);
+    /// How long it may run.
+    std::chrono::milliseconds timeLimit = std::chrono::minutes(10);
     /// The most that it may write, in bytes.
     std::size_t outputLimit = std::size_t{4} << 30;
 };
@@ -67,6 +69,7 @@ private:
     QStringList m_arguments;
     QProcess m_process;
     QTimer m_patience;
+    QTimer m_deadline;
     std::string m_output;
     bool m_ended = false;
 };

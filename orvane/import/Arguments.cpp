@@ -52,6 +52,7 @@ const char* usage() noexcept
            "       orvane-import --write EXTENSION      read a scene from standard input and write the model,\n"
            "                     [--name NAME]          as framed files, to standard output\n"
            "       orvane-import --formats              list the extensions that are read and written\n"
+           "       orvane-import --locks                tell which locks hold it on this machine\n"
            "Options: --memory MIB                       memory to take at most, 0 for no limit (default 4096,\n"
            "                                            or what ORVANE_IMPORT_MEMORY says)\n"
            "         --processor-time SECONDS           processor time to take at most, 0 for no limit (300)\n";
@@ -65,8 +66,10 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
         return std::nullopt;
     for (std::size_t index = 0; index < texts.size(); ++index) {
         const std::string option = texts[index];
-        if (option == "--help" || option == "--formats") {
-            arguments.task = option == "--help" ? Arguments::Task::Help : Arguments::Task::Formats;
+        if (option == "--help" || option == "--formats" || option == "--locks") {
+            arguments.task = option == "--help" ? Arguments::Task::Help
+                : option == "--formats"         ? Arguments::Task::Formats
+                                                : Arguments::Task::Locks;
             ++tasks;
             continue;
         }
@@ -89,7 +92,7 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
         tasks += value == &arguments.subject ? 1 : 0;
     }
     if (tasks != 1) {
-        error = "one of --read, --write and --formats is needed";
+        error = "one of --read, --write, --formats and --locks is needed";
         return std::nullopt;
     }
     return arguments;

@@ -1,5 +1,7 @@
 #include "orvane/import/ProcessLimits.h"
 
+#include "orvane/import/Sanitizer.h"
+
 #include <csignal>
 #include <cstdio>
 #include <new>
@@ -11,6 +13,9 @@
 namespace orvane {
 namespace {
 
+// A model and the files that it refers to are read one after the other.
+constexpr rlim_t openFiles = 64;
+
 char outOfMemoryText[128];
 int outOfMemoryLength = 0;
 
@@ -21,16 +26,6 @@ void setLimit(decltype(RLIMIT_AS) resource, rlim_t value)
         return;
     limit.rlim_cur = limit.rlim_max = value < limit.rlim_max ? value : limit.rlim_max;
     setrlimit(resource, &limit);
-}
-
-// The address sanitizer reserves terabytes of address space for itself.
-constexpr bool addressSpaceIsOurs()
-{
-#if defined(__SANITIZE_ADDRESS__)
-    return false;
-#else
-    return true;
-#endif
 }
 
 // The import library catches std::bad_alloc in some places and goes on with half a model, so nothing is thrown.
@@ -54,11 +49,14 @@ void applyLimits(const ProcessLimits& limits)
     outOfMemoryLength = std::snprintf(outOfMemoryText, sizeof outOfMemoryText,
         "out of memory: the model needs more than the %zu MiB that it may take\n", limits.memoryMiB);
     std::set_new_handler(&endOutOfMemory);
-    if (limits.memoryMiB != 0 && addressSpaceIsOurs())
+    if (limits.memoryMiB != 0 && !isSanitized())
         setLimit(RLIMIT_AS, static_cast<rlim_t>(limits.memoryMiB) << 20);
     if (limits.processorSeconds != 0)
         setLimit(RLIMIT_CPU, static_cast<rlim_t>(limits.processorSeconds));
     setLimit(RLIMIT_CORE, 0);
+    setLimit(RLIMIT_NOFILE, openFiles);
+    if (!isSanitized())
+        setLimit(RLIMIT_NPROC, 0);
     // A redirected standard output is a file that the user wants written.
     if (!writesToAFile())
         setLimit(RLIMIT_FSIZE, 0);

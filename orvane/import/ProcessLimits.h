@@ -15,7 +15,8 @@ struct ProcessLimits {
 /// Exit status of a process that ran out of the memory it is allowed.
 inline constexpr int outOfMemoryStatus = 3;
 
-/// Sets the limits for the rest of this process: memory, processor time, no core file, no file written. From here on
+/// Sets the limits for the rest of this process: memory, processor time, open
+/// files, no core file, no file written, no process of its own. From here on
 /// an allocation that fails ends the process with `outOfMemoryStatus` and one line on standard error.
 void applyLimits(const ProcessLimits& limits);
 

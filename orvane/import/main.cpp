@@ -1,4 +1,6 @@
 #include "orvane/import/Arguments.h"
+#include "orvane/import/FileRules.h"
+#include "orvane/import/Lock.h"
 #include "orvane/import/ModelFormats.h"
 #include "orvane/import/ModelReader.h"
 #include "orvane/import/ModelWriter.h"
@@ -13,6 +15,7 @@
 #include <exception>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <unistd.h>
 
@@ -101,6 +104,12 @@ int writeModel(const std::string& extension, const std::string& name)
     return good ? Success : fail(error);
 }
 
+int printText(const std::string& text)
+{
+    std::string error;
+    return writeAll(text, error) ? Success : fail(error);
+}
+
 int listFormats()
 {
     std::string text = "read";
@@ -109,11 +118,10 @@ int listFormats()
     text += "\nwrite";
     for (const std::string& extension : orvane::writableExtensions())
         text += " " + extension;
-    std::string error;
-    return writeAll(text + "\n", error) ? Success : fail(error);
+    return printText(text + "\n");
 }
 
-int run(const Arguments& arguments)
+int run(const Arguments& arguments, const orvane::Locks& locks)
 {
     switch (arguments.task) {
     case Arguments::Task::Read:
@@ -122,9 +130,10 @@ int run(const Arguments& arguments)
         return writeModel(arguments.subject, arguments.name);
     case Arguments::Task::Formats:
         return listFormats();
+    case Arguments::Task::Locks:
+        return printText(orvane::toText(locks));
     case Arguments::Task::Help:
-        std::fputs(orvane::usage(), stdout);
-        return Success;
+        return printText(orvane::usage());
     }
     return BadArguments;
 }
@@ -139,8 +148,11 @@ int main(int argc, char** argv)
     if (!arguments)
         return fail(error + "; --help tells how it is used", BadArguments);
     orvane::applyLimits(arguments->limits);
+    const bool reads = arguments->task == Arguments::Task::Read;
+    const orvane::Locks locks
+        = orvane::lockIn(reads ? orvane::foldersOf(arguments->subject) : std::vector<std::string>());
     try {
-        return run(*arguments);
+        return run(*arguments, locks);
     } catch (const std::exception& exception) {
         return fail(std::string("the import library gave up: ") + exception.what());
     }

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void everyFailureOfTheHelperIsOneMessage();
     void aMissingHelperIsReported();
     void aStoppedHelperIsKilled();
+    void aHelperThatNeverEndsIsStopped();
     void aHelperThatFloodsIsStopped();
     void cancelKillsTheHelper();
     void cancelWhileTheSceneIsReadDropsIt();
@@ -202,6 +203,18 @@ void tst_ImportJob::aStoppedHelperIsKilled()
     QVERIFY(record.waitForEnd());
     QCOMPARE(record.message(), QStringLiteral("box.obj: the import helper did nothing for 0.5 s and was stopped"));
     QVERIFY(processEnds(pidFile));
+}
+
+void tst_ImportJob::aHelperThatNeverEndsIsStopped()
+{
+    // It is never silent for long.
+    HelperOptions options = fakeHelper(m_folder, "while true; do echo; sleep 0.05; done");
+    options.timeLimit = std::chrono::milliseconds(500);
+    ImportJob job(QStringLiteral("box.obj"), options);
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.message(), QStringLiteral("box.obj: the import helper wasn't ready after 0.5 s and was stopped"));
 }
 
 void tst_ImportJob::aHelperThatFloodsIsStopped()
