@@ -1,0 +1,23 @@
+// The scene reader: what it accepts is written as a text that reads as the same text again.
+
+#include "Fuzz.h"
+
+#include "meridane/scene/NxSceneReader.h"
+#include "meridane/scene/NxSceneWriter.h"
+
+#include <string>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count)
+{
+    NxSceneReader reader(std::string(fuzz::toText(bytes, count)), "input");
+    if (reader.run() != NxSceneReader::State::Done) {
+        fuzz::check(!reader.failure().text().empty(), "a refused text has a message");
+        return 0;
+    }
+    const NxRef<NxGroup> scene = reader.takeScene();
+    const std::string text = NxSceneWriter::toText(scene.get());
+    NxSceneReader second(text, "output");
+    fuzz::check(second.run() == NxSceneReader::State::Done, "what was written is read");
+    fuzz::check(NxSceneWriter::toText(second.takeScene().get()) == text, "it is the same scene");
+    return 0;
+}
