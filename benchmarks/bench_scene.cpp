@@ -1,0 +1,104 @@
+// Opening a scene of a million small nodes without a window, and what its nodes take in memory.
+
+#include "Figure.h"
+#include "LargeScene.h"
+#include "Timing.h"
+#include "Tokens.h"
+
+#include "meridane/scene/Files.h"
+#include "meridane/scene/NxComplexity.h"
+#include "meridane/scene/NxField.h"
+#include "meridane/scene/NxFieldData.h"
+#include "meridane/scene/NxSceneReader.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include <malloc.h>
+
+namespace {
+
+std::string readFile(const std::string& name)
+{
+    constexpr std::size_t chunk = std::size_t{1} << 20;
+    meridane::FileReader file;
+    std::string bytes;
+    bool atEnd = false;
+    if (file.open(name))
+        std::abort();
+    while (!atEnd) {
+        if (file.read(bytes, chunk, atEnd))
+            std::abort();
+    }
+    return bytes;
+}
+
+NxRef<NxGroup> readScene(const std::string& name)
+{
+    NxSceneReader reader(readFile(name), name);
+    if (reader.run() != NxSceneReader::State::Done)
+        std::abort();
+    return reader.takeScene();
+}
+
+void measureOpening(const std::string& name)
+{
+    constexpr int rounds = 9;
+    bench::compare(
+        "scene of 1,000,000 small nodes: open", 3, rounds,
+        [&name] {
+            NxRef<NxGroup> scene;
+            return bench::seconds([&] { scene = readScene(name); });
+        },
+        [&name] {
+            return bench::seconds([&name] {
+                if (!bench::tokenise(readFile(name)).valid)
+                    std::abort();
+            });
+        });
+}
+
+/// What the fields of a node take by themselves: the size of each with all that its value holds.
+double bytesOfFields(const NxFieldContainer& node)
+{
+    auto& container = const_cast<NxFieldContainer&>(node);
+    const NxFieldData* const data = container.getFieldData();
+    std::size_t bytes = 0;
+    for (int i = 0; i < data->getNumFields(); ++i) {
+        // Fields stand one behind the other, the last one up to the end of the node.
+        const auto* const field = reinterpret_cast<const char*>(data->getField(&container, i));
+        const auto* const end = i + 1 < data->getNumFields()
+            ? reinterpret_cast<const char*>(data->getField(&container, i + 1))
+            : reinterpret_cast<const char*>(&node) + sizeof(NxComplexity);
+        bytes += static_cast<std::size_t>(end - field);
+    }
+    return static_cast<double>(bytes);
+}
+
+std::size_t allocatedBytes()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+void measureMemory(const std::string& name)
+{
+    const std::size_t before = allocatedBytes();
+    const NxRef<NxGroup> scene = readScene(name);
+    const auto bytes = static_cast<double>(allocatedBytes() - before);
+    const NxNode* const node = scene->getChildren().front()->getChildren().front();
+    bench::report({"scene of 1,000,000 small nodes: memory a node", "bytes", bytes / bench::largeSceneNodes,
+        bytesOfFields(*node), 1.5});
+}
+
+} // namespace
+
+int main()
+{
+    const std::string name = bench::sceneFile(bench::largeSceneNodes);
+    measureMemory(name);
+    measureOpening(name);
+    std::filesystem::remove(name);
+    return 0;
+}
