@@ -13,6 +13,7 @@ OrvDefaults::~OrvDefaults() = default;
 void OrvDefaults::load()
 {
     // An order of its own, which is what the host shows; it isn't bound to the order of declaration.
+    addExtension(&m_sfFilePathString); // ahead of the other editors of single values, unlike its declaration: meant
     addExtension(&m_sfBitMask);
     addExtension(&m_sfBool);
     addExtension(&m_sfColor);
@@ -20,6 +21,7 @@ void OrvDefaults::load()
     addExtension(&m_sfEnum);
     addExtension(&m_sfDouble);
     addExtension(&m_sfFloat);
+    addExtension(&m_sfImage);
     addExtension(&m_sfInt32);
     addExtension(&m_sfLine);
     addExtension(&m_sfName);

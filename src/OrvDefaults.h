@@ -6,7 +6,9 @@
 #include "FieldEditors/SFWidgets/DvSFColorWidget.h"
 #include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
 #include "FieldEditors/SFWidgets/DvSFEnumWidget.h"
+#include "FieldEditors/SFWidgets/DvSFFilePathStringWidget.h"
 #include "FieldEditors/SFWidgets/DvSFFloatWidget.h"
+#include "FieldEditors/SFWidgets/DvSFImageWidget.h"
 #include "FieldEditors/SFWidgets/DvSFInt32Widget.h"
 #include "FieldEditors/SFWidgets/DvSFLineWidget.h"
 #include "FieldEditors/SFWidgets/DvSFNameWidget.h"
@@ -43,7 +45,9 @@ private:
     DvSFColorRGBAWidget m_sfColorRGBA;
     DvSFEnumWidget m_sfEnum;
     DvSFDoubleWidget m_sfDouble;
+    DvSFFilePathStringWidget m_sfFilePathString;
     DvSFFloatWidget m_sfFloat;
+    DvSFImageWidget m_sfImage;
     DvSFInt32Widget m_sfInt32;
     DvSFLineWidget m_sfLine;
     DvSFNameWidget m_sfName;

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QApplication>
+#include "plugin/DialogDriver.h"
+
 #include <QColorDialog>
-#include <QTimer>
-#include <QtTest>
 
 #include <optional>
 
-/// Answers the next colour dialog, the toolkit's own, with its buttons, and keeps what it showed at first.
+/// Answers the next colour dialog with its buttons, and keeps what it showed at first.
 class ColorDialogDriver {
 public:
     /// Chooses a colour, or takes the one that is there, and accepts.
@@ -21,9 +20,9 @@ public:
     }
     ColorDialogDriver(const ColorDialogDriver&) = delete;
     ColorDialogDriver& operator=(const ColorDialogDriver&) = delete;
-    ~ColorDialogDriver() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false); }
 
-    int answered = 0;
+    [[nodiscard]] int answered() const { return m_driver.answered; }
+
     QColor first;
     QString title;
     QWidget* parent = nullptr;
@@ -31,24 +30,20 @@ public:
 
 private:
     ColorDialogDriver(std::optional<QColor> choice, Qt::Key key)
+        : m_driver([this, choice, key](QColorDialog& dialog) { answer(dialog, choice, key); })
     {
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true);
-        QTimer::singleShot(0, &m_context, [this, choice, key] { answer(choice, key); });
     }
 
-    void answer(const std::optional<QColor>& choice, Qt::Key key)
+    void answer(QColorDialog& dialog, const std::optional<QColor>& choice, Qt::Key key)
     {
-        auto* const dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialog != nullptr);
-        ++answered;
-        first = dialog->currentColor();
-        title = dialog->windowTitle();
-        parent = dialog->parentWidget();
-        showsAlpha = dialog->testOption(QColorDialog::ShowAlphaChannel);
+        first = dialog.currentColor();
+        title = dialog.windowTitle();
+        parent = dialog.parentWidget();
+        showsAlpha = dialog.testOption(QColorDialog::ShowAlphaChannel);
         if (choice)
-            dialog->setCurrentColor(*choice);
-        QTest::keyClick(dialog, key);
+            dialog.setCurrentColor(*choice);
+        QTest::keyClick(&dialog, key);
     }
 
-    QObject m_context;
+    DialogDriver<QColorDialog> m_driver;
 };

@@ -1,17 +1,20 @@
 #pragma once
 
+#include "FieldEditors/SFWidgets/DvSFieldWidget.h"
 #include "plugin/EditorHarness.h"
 
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <memory>
+
 /// A loaded and shown editor with one line, in an active window that has another control to move the focus to.
-template <typename Editor>
 class LineEditorRun {
 public:
-    LineEditorRun()
-        : m_run(editor)
-        , line(m_run.template find<QLineEdit>("lineEdit"))
+    explicit LineEditorRun(std::unique_ptr<DvSFieldWidget> lineEditor)
+        : editor(std::move(lineEditor))
+        , m_run(*editor)
+        , line(m_run.find<QLineEdit>("lineEdit"))
         , m_elsewhere(new QLineEdit)
     {
         m_run.window.layout()->addWidget(m_elsewhere);
@@ -19,8 +22,8 @@ public:
         [this] { QVERIFY(QTest::qWaitForWindowActive(&m_run.window)); }();
         m_elsewhere->setFocus();
     }
-    explicit LineEditorRun(NxField& field)
-        : LineEditorRun()
+    LineEditorRun(std::unique_ptr<DvSFieldWidget> lineEditor, NxField& field)
+        : LineEditorRun(std::move(lineEditor))
     {
         select(&field);
     }
@@ -45,14 +48,15 @@ public:
         enter();
         QTest::keyClick(line, Qt::Key_Return);
     }
-    /// Clicks one of the two buttons.
-    void click(const char* button) { QTest::mouseClick(m_run.template find<QPushButton>(button), Qt::LeftButton); }
-    [[nodiscard]] bool ignoreIsChecked() const
+    /// Clicks a button by its name.
+    void click(const char* button) { QTest::mouseClick(m_run.find<QPushButton>(button), Qt::LeftButton); }
+    template <typename Child>
+    [[nodiscard]] Child* find(const char* name) const
     {
-        return m_run.template find<QPushButton>("m_ignoreButton")->isChecked();
+        return m_run.find<Child>(name);
     }
 
-    Editor editor;
+    std::unique_ptr<DvSFieldWidget> editor;
 
 private:
     EditorRun m_run;

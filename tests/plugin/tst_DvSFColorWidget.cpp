@@ -216,7 +216,7 @@ void tst_DvSFColorWidget::halfComesBackFromTheDialogAs127()
 {
     const ColorDialogDriver dialog = ColorDialogDriver::accepting();
     m_run->click("m_colorDisp");
-    QCOMPARE(dialog.answered, 1);
+    QCOMPARE(dialog.answered(), 1);
     QCOMPARE(dialog.first, QColor(127, 63, 0));
     QCOMPARE(dialog.parent, m_run->editor->getFrame());
     QCOMPARE(dialog.showsAlpha, false);
@@ -241,7 +241,7 @@ void tst_DvSFColorWidget::cancelledDialogChangesNothing()
 {
     const ColorDialogDriver dialog = ColorDialogDriver::cancelling(QColor(255, 0, 51));
     m_run->click("m_colorDisp");
-    QCOMPARE(dialog.answered, 1);
+    QCOMPARE(dialog.answered(), 1);
     QCOMPARE(m_run->text(), m_start);
     QCOMPARE(m_run->texts(), m_start.split(QLatin1Char(' ')));
     QCOMPARE(shown(), QColor(127, 63, 0));

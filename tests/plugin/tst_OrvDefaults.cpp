@@ -25,6 +25,7 @@ struct Entry {
 
 // In the order of registration.
 const QList<Entry> roster{
+    {QStringLiteral("SFFilePathString"), QStringLiteral("SFFilePathString")},
     {QStringLiteral("SFBitMask"), QStringLiteral("SFBitMask")},
     {QStringLiteral("SFBool"), QStringLiteral("SFBool")},
     {QStringLiteral("SFColor"), QStringLiteral("SFColor")},
@@ -32,6 +33,7 @@ const QList<Entry> roster{
     {QStringLiteral("SFEnum"), QStringLiteral("SFEnum")},
     {QStringLiteral("SFDouble"), QStringLiteral("SFDouble")},
     {QStringLiteral("SFFloat"), QStringLiteral("SFFloat")},
+    {QStringLiteral("SFImage"), QStringLiteral("SFImage")},
     {QStringLiteral("SFInt32"), QStringLiteral("SFInt32")},
     {QStringLiteral("SField"), QStringLiteral("SField")},
     {QStringLiteral("SFName"), QStringLiteral("SFName")},
@@ -147,7 +149,17 @@ void tst_OrvDefaults::declarationDecidesTheAddresses()
     plugin.load();
     QList<OrvExtension*> byAddress = plugin.getExtensions();
     std::sort(byAddress.begin(), byAddress.end(), std::less<>());
-    QCOMPARE(byAddress, plugin.getExtensions());
+    QStringList declared;
+    for (const OrvExtension* const extension : byAddress)
+        declared << nameOf(extension);
+    QStringList expected;
+    for (const Entry& entry : roster)
+        expected << entry.name;
+    // The one that is registered elsewhere than it is declared.
+    const QString path = QStringLiteral("SFFilePathString");
+    expected.removeOne(path);
+    expected.insert(expected.indexOf(QStringLiteral("SFFloat")), path);
+    QCOMPARE(declared, expected);
     plugin.unload();
 }
 

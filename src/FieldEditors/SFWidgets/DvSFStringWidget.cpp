@@ -1,9 +1,6 @@
 #include "FieldEditors/SFWidgets/DvSFStringWidget.h"
 
-#include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/SFWidgets/EditLine.h"
-
-#include "orvane/extender/VbText.h"
 
 #include "meridane/scene/NxSFString.h"
 
@@ -29,27 +26,13 @@ void DvSFStringWidget::load()
 
 void DvSFStringWidget::updateFromField()
 {
-    VbString text;
-    if (m_field != nullptr) {
-        if (m_field->isOfType(NxSFString::getClassTypeId()))
-            text = static_cast<NxSFString*>(m_field)->getValue();
-        else
-            m_field->get(text);
-    }
-    lineEdit->setText(orvane::toQString(text));
+    orvane::showString(lineEdit, m_field, NxSFString::getClassTypeId());
     DvSFieldWidget::updateFromField();
 }
 
 void DvSFStringWidget::applyChanges()
 {
-    if (m_field == nullptr)
-        return;
-    const QString text = lineEdit->text();
-    if (m_field->isOfType(NxSFString::getClassTypeId()))
-        static_cast<NxSFString*>(m_field)->setValue(orvane::toVbString(text));
-    else
-        m_field->set(orvane::toVbString(text));
-    orvane::pushSetValueCommand(m_field);
+    orvane::applyString(lineEdit, m_field, NxSFString::getClassTypeId());
 }
 
 bool DvSFStringWidget::edited()
