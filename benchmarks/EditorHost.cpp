@@ -1,0 +1,67 @@
+#include "EditorHost.h"
+
+#include "orvane/extender/OrvProfile.h"
+
+#include <QToolBar>
+
+namespace bench {
+
+EditorHost::EditorHost()
+{
+    if (const auto error = m_manager.addPlugin(&plugin))
+        qFatal("%s", qUtf8Printable(*error));
+    const QString name = QStringLiteral("Editors");
+    const QList<OrvProfile::Entry> entries{{QStringLiteral("Field Editor"), true, {QStringLiteral("*")}}};
+    if (const auto error = m_manager.addProfile(std::make_unique<OrvProfile>(name, entries)))
+        qFatal("%s", qUtf8Printable(*error));
+    m_manager.setActiveProfile(m_manager.findProfile(name));
+    window.show();
+}
+
+EditorHost::~EditorHost()
+{
+    services.selectField(nullptr);
+    m_manager.unloadPlugins();
+}
+
+void EditorHost::addDockWidget(QDockWidget* added, int area)
+{
+    dock = added;
+    window.addDockWidget(static_cast<Qt::DockWidgetArea>(area), added);
+    added->hide();
+}
+
+void EditorHost::removeDockWidget(QDockWidget* removed)
+{
+    window.removeDockWidget(removed);
+    removed->setParent(nullptr);
+}
+
+void EditorHost::announceExtension(OrvExtension* /*extension*/, int /*value*/) { }
+
+void EditorHost::withdrawExtension(OrvExtension* /*extension*/) { }
+
+void EditorHost::addToolBar(QToolBar* toolBar, int area)
+{
+    window.addToolBar(static_cast<Qt::ToolBarArea>(area), toolBar);
+}
+
+void EditorHost::removeToolBar(QToolBar* toolBar)
+{
+    window.removeToolBar(toolBar);
+    toolBar->setParent(nullptr);
+}
+
+NxField* EditorHost::fieldOf(OrvEditor& editor) const
+{
+    // The generic editor of single values is there for the types that have no other.
+    if (editor.getHandledType() == NxSField::getClassTypeId())
+        return &node->sfTime;
+    for (NxField* const field : node->getFields()) {
+        if (field->getTypeId() == editor.getHandledType())
+            return field;
+    }
+    return nullptr;
+}
+
+} // namespace bench

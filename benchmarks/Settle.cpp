@@ -1,0 +1,57 @@
+#include "Settle.h"
+
+#include "Timing.h"
+
+#include "meridane/base/NxDelayQueue.h"
+
+#include <QEvent>
+#include <QEventLoop>
+#include <QWidget>
+
+namespace bench {
+
+namespace {
+
+class PaintCounter final : public QObject {
+public:
+    explicit PaintCounter(QWidget* widget)
+        : m_widget(widget)
+    {
+        m_widget->installEventFilter(this);
+    }
+    ~PaintCounter() override { m_widget->removeEventFilter(this); }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+private:
+    QWidget* m_widget;
+};
+
+} // namespace
+
+void settle()
+{
+    QEventLoop loop;
+    while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty()) { }
+}
+
+double secondsToPainted(QWidget* widget, const std::function<void()>& action)
+{
+    const PaintCounter counter(widget);
+    const double time = seconds([&action] {
+        action();
+        settle();
+    });
+    if (counter.count == 0)
+        qFatal("%s wasn't painted", widget->metaObject()->className());
+    return time;
+}
+
+} // namespace bench

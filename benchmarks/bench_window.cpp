@@ -1,0 +1,125 @@
+// The tool's window with a large scene: what a selection costs, and for how long opening and closing hold it up.
+
+#include "Figure.h"
+#include "LargeScene.h"
+#include "Settle.h"
+#include "Timing.h"
+
+#include "orvane/app/MainWindow.h"
+#include "orvane/app/SceneDocument.h"
+#include "orvane/app/Session.h"
+
+#include "meridane/base/NxDelayQueue.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QTreeView>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double millisecondsPerSecond = 1e3;
+
+class ToolWindow {
+public:
+    ToolWindow()
+        : window(session)
+    {
+        constexpr QSize size(1200, 800);
+        window.resize(size);
+        window.show();
+        bench::settle();
+    }
+
+    /// Opens a file and gives the longest time for which the window didn't answer, in seconds.
+    double open(const QString& fileName)
+    {
+        bool isOpen = false;
+        const QMetaObject::Connection connection
+            = QObject::connect(&window, &MainWindow::settled, &window, [&isOpen](const QString& error) {
+                  if (!error.isEmpty())
+                      qFatal("%s", qUtf8Printable(error));
+                  isOpen = true;
+              });
+        window.openFile(fileName);
+        const double longest = longestTurn([&isOpen] { return isOpen; });
+        QObject::disconnect(connection);
+        bench::settle();
+        return longest;
+    }
+
+    /// Closes the scene and gives the longest time for which the window didn't answer.
+    double close()
+    {
+        const double closing = bench::seconds([this] { window.document().close(); });
+        return std::max(closing, longestTurn([this] { return !session.disposal().isBusy(); }));
+    }
+
+    /// Selects two nodes in the middle of the scene in turn; gives the times.
+    std::vector<double> selectNodes(int rounds)
+    {
+        auto* const tree = window.findChild<QTreeView*>(QStringLiteral("sceneTree"));
+        const QModelIndex group = tree->model()->index(0, 0);
+        tree->expand(group);
+        bench::settle();
+        const int middle = tree->model()->rowCount(group) / 2;
+        std::vector<double> times;
+        for (int round = 0; round < rounds; ++round) {
+            const QModelIndex index = tree->model()->index(middle + round % 2, 0, group);
+            times.push_back(millisecondsPerSecond
+                * bench::secondsToPainted(tree->viewport(), [&] { tree->setCurrentIndex(index); }));
+        }
+        return times;
+    }
+
+    Session session{AppSettings::Mode::None};
+    MainWindow window;
+
+private:
+    template <typename Done>
+    static double longestTurn(Done done)
+    {
+        QEventLoop loop;
+        double longest = 0;
+        while (!done())
+            longest = std::max(longest, bench::seconds([&loop] { loop.processEvents(); }));
+        return longest;
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    const QString small = QString::fromStdString(bench::sceneFile(10));
+    const QString large = QString::fromStdString(bench::sceneFile(bench::largeSceneNodes));
+    ToolWindow tool;
+    std::vector<double> smallTimes;
+    std::vector<double> largeTimes;
+    std::vector<double> opening;
+    std::vector<double> closing;
+    constexpr int rounds = 5;
+    constexpr int selections = 41;
+    // One selection alone can't alternate between two scenes, of which one is open at a time.
+    for (int round = 0; round < rounds; ++round) {
+        tool.open(small);
+        const std::vector<double> inSmall = tool.selectNodes(selections);
+        smallTimes.insert(smallTimes.end(), inSmall.begin(), inSmall.end());
+        tool.close();
+        opening.push_back(tool.open(large) * millisecondsPerSecond);
+        const std::vector<double> inLarge = tool.selectNodes(selections);
+        largeTimes.insert(largeTimes.end(), inLarge.begin(), inLarge.end());
+        closing.push_back(tool.close() * millisecondsPerSecond);
+    }
+    bench::report({"selecting one of 1,000,000 nodes, and one of 10", "ms", bench::median(largeTimes),
+        bench::median(smallTimes), 1.1});
+    bench::report({"opening 1,000,000 nodes: longest wait of the window", "ms", bench::median(opening), 0, 0});
+    bench::report({"closing 1,000,000 nodes: longest wait of the window", "ms", bench::median(closing), 0, 100});
+    QFile::remove(small);
+    QFile::remove(large);
+    return 0;
+}
