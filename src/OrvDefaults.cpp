@@ -16,6 +16,8 @@ void OrvDefaults::load()
     addExtension(&m_sfFilePathString); // ahead of the other editors of single values, unlike its declaration: meant
     addExtension(&m_sfBitMask);
     addExtension(&m_sfBool);
+    addExtension(&m_sfBox2f);
+    addExtension(&m_sfBox3s);
     addExtension(&m_sfColor);
     addExtension(&m_sfColorRGBA);
     addExtension(&m_sfEnum);
@@ -24,6 +26,7 @@ void OrvDefaults::load()
     addExtension(&m_sfImage);
     addExtension(&m_sfInt32);
     addExtension(&m_sfLine);
+    addExtension(&m_sfMatrix);
     addExtension(&m_sfName);
     addExtension(&m_sfPlane);
     addExtension(&m_sfRotation);

@@ -2,6 +2,8 @@
 
 #include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBoolWidget.h"
+#include "FieldEditors/SFWidgets/DvSFBox2fWidget.h"
+#include "FieldEditors/SFWidgets/DvSFBox3sWidget.h"
 #include "FieldEditors/SFWidgets/DvSFColorRGBAWidget.h"
 #include "FieldEditors/SFWidgets/DvSFColorWidget.h"
 #include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
@@ -11,6 +13,7 @@
 #include "FieldEditors/SFWidgets/DvSFImageWidget.h"
 #include "FieldEditors/SFWidgets/DvSFInt32Widget.h"
 #include "FieldEditors/SFWidgets/DvSFLineWidget.h"
+#include "FieldEditors/SFWidgets/DvSFMatrixWidget.h"
 #include "FieldEditors/SFWidgets/DvSFNameWidget.h"
 #include "FieldEditors/SFWidgets/DvSFPlaneWidget.h"
 #include "FieldEditors/SFWidgets/DvSFRotationWidget.h"
@@ -41,6 +44,8 @@ private:
     // declared last wins.
     DvSFBitMaskWidget m_sfBitMask;
     DvSFBoolWidget m_sfBool;
+    DvSFBox2fWidget m_sfBox2f;
+    DvSFBox3sWidget m_sfBox3s;
     DvSFColorWidget m_sfColor;
     DvSFColorRGBAWidget m_sfColorRGBA;
     DvSFEnumWidget m_sfEnum;
@@ -50,6 +55,7 @@ private:
     DvSFImageWidget m_sfImage;
     DvSFInt32Widget m_sfInt32;
     DvSFLineWidget m_sfLine;
+    DvSFMatrixWidget m_sfMatrix;
     DvSFNameWidget m_sfName;
     DvSFPlaneWidget m_sfPlane;
     DvSFRotationWidget m_sfRotation;

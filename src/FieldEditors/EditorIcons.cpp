@@ -1,5 +1,6 @@
 #include "FieldEditors/EditorIcons.h"
 
+#include "editor_icons/edit.xpm"
 #include "editor_icons/ignore.xpm"
 #include "editor_icons/set_default.xpm"
 
@@ -15,6 +16,11 @@ QPixmap setDefaultIcon()
 QPixmap ignoreIcon()
 {
     return QPixmap(ignore_xpm);
+}
+
+QPixmap editIcon()
+{
+    return QPixmap(edit_xpm);
 }
 
 } // namespace orvane

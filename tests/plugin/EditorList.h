@@ -2,6 +2,8 @@
 
 #include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBoolWidget.h"
+#include "FieldEditors/SFWidgets/DvSFBox2fWidget.h"
+#include "FieldEditors/SFWidgets/DvSFBox3sWidget.h"
 #include "FieldEditors/SFWidgets/DvSFColorRGBAWidget.h"
 #include "FieldEditors/SFWidgets/DvSFColorWidget.h"
 #include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
@@ -11,6 +13,7 @@
 #include "FieldEditors/SFWidgets/DvSFImageWidget.h"
 #include "FieldEditors/SFWidgets/DvSFInt32Widget.h"
 #include "FieldEditors/SFWidgets/DvSFLineWidget.h"
+#include "FieldEditors/SFWidgets/DvSFMatrixWidget.h"
 #include "FieldEditors/SFWidgets/DvSFNameWidget.h"
 #include "FieldEditors/SFWidgets/DvSFPlaneWidget.h"
 #include "FieldEditors/SFWidgets/DvSFRotationWidget.h"
@@ -49,6 +52,8 @@ std::unique_ptr<DvSFieldWidget> makeEditor(const char* name)
 inline constexpr EditorEntry singleValueEditors[] = {
     {"SFBitMask", makeEditor<DvSFBitMaskWidget>, "VISIBLE | LOCKED"},
     {"SFBool", makeEditor<DvSFBoolWidget>, "true"},
+    {"SFBox2f", makeEditor<DvSFBox2fWidget>, "1 2 3 4"},
+    {"SFBox3s", makeEditor<DvSFBox3sWidget>, "1 2 3 4 5 6"},
     {"SFColor", makeEditor<DvSFColorWidget>, "0.5 0.25 1"},
     {"SFColorRGBA", makeEditor<DvSFColorRGBAWidget>, "0.5 0.25 1 0.75"},
     {"SFDouble", makeEditor<DvSFDoubleWidget>, "2.5"},
@@ -58,6 +63,7 @@ inline constexpr EditorEntry singleValueEditors[] = {
     {"SFImage", makeEditor<DvSFImageWidget>, "2 1 1 0x00 0xff"},
     {"SFInt32", makeEditor<DvSFInt32Widget>, "25"},
     {"SField", makeEditor<DvSFLineWidget>, "2.5"},
+    {"SFMatrix", makeEditor<DvSFMatrixWidget>, "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16"},
     {"SFName", makeEditor<DvSFNameWidget>, "\"abc\""},
     {"SFPlane", makeEditor<DvSFPlaneWidget>, "0 0 1 5"},
     {"SFRotation", makeEditor<DvSFRotationWidget>, "0 0 1 0.5"},

@@ -48,6 +48,7 @@ void tst_Icons::editorIconsAreSmallAndTransparent_data()
     QTest::addColumn<QPixmap>("pixmap");
     QTest::newRow("set to default") << orvane::setDefaultIcon();
     QTest::newRow("ignore") << orvane::ignoreIcon();
+    QTest::newRow("edit") << orvane::editIcon();
 }
 
 void tst_Icons::editorIconsAreSmallAndTransparent()
@@ -72,6 +73,8 @@ void tst_Icons::editorIconsAreSmallAndTransparent()
 void tst_Icons::editorIconsDiffer()
 {
     QVERIFY(orvane::setDefaultIcon().toImage() != orvane::ignoreIcon().toImage());
+    QVERIFY(orvane::setDefaultIcon().toImage() != orvane::editIcon().toImage());
+    QVERIFY(orvane::editIcon().toImage() != orvane::ignoreIcon().toImage());
 }
 
 QTEST_MAIN(tst_Icons)

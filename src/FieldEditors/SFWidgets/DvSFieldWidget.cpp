@@ -3,6 +3,7 @@
 #include "FieldEditors/DvSliderFactory.h"
 #include "FieldEditors/EditorIcons.h"
 #include "FieldEditors/FieldChanges.h"
+#include "FieldEditors/IconButton.h"
 #include "FieldEditors/LayoutMetrics.h"
 
 #include "meridane/scene/NxField.h"
@@ -33,18 +34,6 @@ QSpacerItem* addSpacer(QHBoxLayout* layout)
     auto* const spacer = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Minimum);
     layout->addItem(spacer);
     return spacer;
-}
-
-QPushButton* makeButton(QWidget* parent, const QString& name, const QPixmap& pixmap)
-{
-    auto* const button = new QPushButton(parent);
-    button->setObjectName(name);
-    button->setMaximumSize(
-        getLayoutMetric(QStringLiteral("buttonWidth")), getLayoutMetric(QStringLiteral("buttonHeight")));
-    button->setIcon(pixmap);
-    // A click must not take the focus from a line that is being edited.
-    button->setFocusPolicy(Qt::NoFocus);
-    return button;
 }
 
 } // namespace
@@ -115,11 +104,14 @@ void DvSFieldWidget::buildButtons()
     // The name is that of the main layout, too: meant, whoever looks a layout up by it finds the main one first.
     m_buttonsLayout = makeRow(nullptr, QStringLiteral("SFieldLayout"), QStringLiteral("SFButtonLayoutMargin"),
         QStringLiteral("SFButtonLayoutSpacing"));
-    m_defaultButton = makeButton(m_frame, QStringLiteral("m_defaultButton"), m_defaultPixmap);
-    m_buttonsLayout->addWidget(m_defaultButton, 0);
-    m_ignoreButton = makeButton(m_frame, QStringLiteral("m_ignoreButton"), m_ignorePixmap);
+    m_defaultButton = orvane::makeIconButton(m_frame, QStringLiteral("m_defaultButton"), m_defaultPixmap);
+    m_ignoreButton = orvane::makeIconButton(m_frame, QStringLiteral("m_ignoreButton"), m_ignorePixmap);
     m_ignoreButton->setCheckable(true);
-    m_buttonsLayout->addWidget(m_ignoreButton, 0);
+    for (QPushButton* const button : {m_defaultButton, m_ignoreButton}) {
+        // A click must not take the focus from a line that is being edited.
+        button->setFocusPolicy(Qt::NoFocus);
+        m_buttonsLayout->addWidget(button, 0);
+    }
     m_editionAreaLayout->addLayout(m_buttonsLayout);
 }
 

@@ -40,13 +40,13 @@ void applyFromLine(QLineEdit* line, DvSFieldWidget* editor)
     // clang-format on
 }
 
-void resetCursors(std::initializer_list<QLineEdit*> lines)
+void resetCursors(std::span<QLineEdit* const> lines)
 {
     for (QLineEdit* const line : lines)
         line->setCursorPosition(0);
 }
 
-bool anyModified(std::initializer_list<const QLineEdit*> lines)
+bool anyModified(std::span<QLineEdit* const> lines)
 {
     return std::any_of(lines.begin(), lines.end(), [](const QLineEdit* line) { return line->isModified(); });
 }

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <initializer_list>
+#include <span>
 
 class DvSFieldWidget;
 class QLineEdit;
@@ -24,8 +25,17 @@ void acceptFloats(QLineEdit* line);
 void applyFromLine(QLineEdit* line, DvSFieldWidget* editor);
 
 /// Shows the beginning of each text.
-void resetCursors(std::initializer_list<QLineEdit*> lines);
+void resetCursors(std::span<QLineEdit* const> lines);
+inline void resetCursors(std::initializer_list<QLineEdit*> lines)
+{
+    resetCursors({lines.begin(), lines.size()});
+}
+
 /// Whether any of the lines holds text that was typed and not written anew since.
-[[nodiscard]] bool anyModified(std::initializer_list<const QLineEdit*> lines);
+[[nodiscard]] bool anyModified(std::span<QLineEdit* const> lines);
+[[nodiscard]] inline bool anyModified(std::initializer_list<QLineEdit*> lines)
+{
+    return anyModified({lines.begin(), lines.size()});
+}
 
 } // namespace orvane

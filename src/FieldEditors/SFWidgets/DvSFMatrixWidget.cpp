@@ -1,0 +1,51 @@
+#include "FieldEditors/SFWidgets/DvSFMatrixWidget.h"
+
+#include "FieldEditors/FieldChanges.h"
+#include "FieldEditors/SFWidgets/NumberLine.h"
+
+#include "meridane/scene/NxSFMatrix.h"
+
+#include <QLineEdit>
+
+DvSFMatrixWidget::DvSFMatrixWidget(const char* name)
+    : DvPopupWidget(4, 4, name)
+{
+    m_handledType = NxSFMatrix::getClassTypeId();
+    if (name == nullptr)
+        setObjectName(QLatin1String("DvSFMatrixWidget"));
+    m_name = "SFMatrix";
+}
+
+DvSFMatrixWidget::~DvSFMatrixWidget() = default;
+
+void DvSFMatrixWidget::load()
+{
+    // First, since the label keeps the first text that it gets.
+    setFieldTypeLabel(QLatin1String("SFMatrix"));
+    DvPopupWidget::load();
+    setLinesValidator(3);
+}
+
+void DvSFMatrixWidget::updateFromField()
+{
+    if (m_field == nullptr)
+        return;
+    const VbMatrix& matrix = static_cast<NxSFMatrix*>(m_field)->getValue();
+    for (std::size_t index = 0; index < m_lines.size(); ++index)
+        orvane::showNumber(m_lines[index], matrix[index / 4][index % 4]);
+    resetLinesCursor();
+    DvSFLineWidget::updateFromField();
+}
+
+void DvSFMatrixWidget::applyChanges()
+{
+    if (m_field != nullptr) {
+        VbMatrix matrix;
+        for (std::size_t index = 0; index < m_lines.size(); ++index)
+            matrix[index / 4][index % 4] = orvane::numberIn(m_lines[index]);
+        static_cast<NxSFMatrix*>(m_field)->setValue(matrix);
+        orvane::pushSetValueCommand(m_field);
+    }
+    // Not this class's own: the line with the text form is brought up to date, the grid isn't.
+    DvSFLineWidget::updateFromField();
+}
