@@ -131,5 +131,6 @@ QString CommandLine::helpText()
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Inspects and edits a 3D scene graph."));
     Options().addTo(parser);
-    return parser.helpText();
+    // Before there is an application object the parser doesn't know the program's name.
+    return parser.helpText().replace(QLatin1String("<executable_name>"), QLatin1String("orvane"));
 }

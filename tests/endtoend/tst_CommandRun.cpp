@@ -206,7 +206,9 @@ private Q_SLOTS:
     void versionAndHelpArePrinted()
     {
         QVERIFY(run({QStringLiteral("--version")}).output.startsWith("orvane "));
-        QVERIFY(run({QStringLiteral("--help")}).output.contains("--list-extensions"));
+        const QByteArray help = run({QStringLiteral("--help")}).output;
+        QVERIFY2(help.startsWith("Usage: orvane [options] [file]"), help.constData());
+        QVERIFY2(help.contains("--list-extensions"), help.constData());
     }
 };
 
