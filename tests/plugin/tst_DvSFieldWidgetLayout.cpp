@@ -31,6 +31,7 @@ private Q_SLOTS:
     void layoutsHaveTheirNamesMarginsAndSpacings();
     void labelHasItsLook();
     void editAreaIsAPlainFrame();
+    void editAreaStaysAsLowAsItsControls();
     void itemsStandInTheirOrder();
     void buttonsHaveTheirLook_data();
     void buttonsHaveTheirLook();
@@ -158,6 +159,22 @@ void tst_DvSFieldWidgetLayout::editAreaIsAPlainFrame()
     QCOMPARE(frame->frameShape(), QFrame::Box);
     QCOMPARE(frame->frameShadow(), QFrame::Plain);
     QCOMPARE(frame->lineWidth(), 0);
+}
+
+void tst_DvSFieldWidgetLayout::editAreaStaysAsLowAsItsControls()
+{
+    PlainEditor editor;
+    EditorRun run(editor, m_tool->node->sfBool);
+    auto* const column = new QVBoxLayout;
+    for (int index = 0; index < 2; ++index) {
+        auto* const control = new QLabel(editor.editionFrame());
+        control->setFixedHeight(14);
+        column->addWidget(control);
+    }
+    editor.editLayout()->addLayout(column);
+    run.window.resize(300, 400);
+    QTRY_VERIFY(editor.getFrame()->height() > 300);
+    QCOMPARE(editor.editionFrame()->height(), editor.editionFrame()->sizeHint().height());
 }
 
 void tst_DvSFieldWidgetLayout::itemsStandInTheirOrder()

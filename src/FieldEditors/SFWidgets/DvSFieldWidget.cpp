@@ -91,6 +91,8 @@ void DvSFieldWidget::buildEditionArea()
     } else {
         m_editionFrame = new QFrame(m_frame);
         m_editionFrame->setObjectName(QStringLiteral("m_editionFrame"));
+        // In a high dock labels and controls stay together.
+        m_editionFrame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
         setBox(m_editionFrame, QStringLiteral("frameLineWidth"));
         m_editLayout = makeRow(m_editionFrame, QStringLiteral("editLayout"), QStringLiteral("SFieldEditLayoutMargin"),
             QStringLiteral("SFieldEditLayoutSpacing"));
