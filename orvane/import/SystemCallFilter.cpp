@@ -98,9 +98,9 @@ void allowTheProcessItself(Rules& rules)
 
 [[maybe_unused]] void allowTheSanitizer(Rules& rules)
 {
-    rules.allow({SCMP_SYS(clone), SCMP_SYS(ptrace), SCMP_SYS(wait4), SCMP_SYS(prctl), SCMP_SYS(kill), SCMP_SYS(tgkill),
-        SCMP_SYS(mmap), SCMP_SYS(mprotect), SCMP_SYS(getppid), SCMP_SYS(process_vm_readv), SCMP_SYS(pipe),
-        SCMP_SYS(pipe2)});
+    rules.allow({SCMP_SYS(clone), SCMP_SYS(getdents), SCMP_SYS(ptrace), SCMP_SYS(wait4), SCMP_SYS(prctl),
+        SCMP_SYS(kill), SCMP_SYS(tgkill), SCMP_SYS(mmap), SCMP_SYS(mprotect), SCMP_SYS(getppid),
+        SCMP_SYS(process_vm_readv), SCMP_SYS(pipe), SCMP_SYS(pipe2)});
 }
 
 } // namespace
