@@ -64,6 +64,7 @@ private Q_SLOTS:
     void clickOutsideCloses();
     void returnAppliesAndLeavesTheFrameOpen();
     void leavingALineAppliesWhatWasTyped();
+    void closingAppliesWhatWasTyped_data();
     void closingAppliesWhatWasTyped();
     void onlyTheGridCountsAsEdited();
     void validators_data();
@@ -309,14 +310,26 @@ void tst_DvPopupWidget::leavingALineAppliesWhatWasTyped()
     QCOMPARE(m_editor->applied, 1);
 }
 
+void tst_DvPopupWidget::closingAppliesWhatWasTyped_data()
+{
+    QTest::addColumn<bool>("byButton");
+    QTest::newRow("by the button") << true;
+    QTest::newRow("by a click elsewhere") << false;
+}
+
 void tst_DvPopupWidget::closingAppliesWhatWasTyped()
 {
+    QFETCH(bool, byButton);
     click();
     line(5)->setFocus();
     QTest::keyClicks(line(5), QStringLiteral("7"));
     QCOMPARE(m_editor->applied, 0);
-    clickAt(m_editor->text()->mapToGlobal(QPoint(3, 3)));
+    if (byButton)
+        m_editor->managePopFramePos();
+    else
+        clickAt(m_editor->text()->mapToGlobal(QPoint(3, 3)));
     QVERIFY(!m_editor->popup()->isVisible());
+    QVERIFY(!line(5)->hasFocus());
     QCOMPARE(m_editor->applied, 1);
 }
 

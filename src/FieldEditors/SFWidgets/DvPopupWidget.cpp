@@ -18,7 +18,9 @@
 
 namespace {
 
-/// A popup that the click on its own button only closes: passed on, the click would open it again.
+/// A popup that the click on its own button only closes: passed on, the click would open it again. When it closes, its
+/// line loses the focus at once, even if no other widget takes it, so that what was typed is written to the field that
+/// the popup was opened for.
 class GridFrame final : public QFrame {
 public:
     GridFrame(QWidget* parent, const QWidget* button)
@@ -34,6 +36,12 @@ protected:
         if (m_button->rect().contains(position))
             setAttribute(Qt::WA_NoMouseReplay);
         QFrame::mousePressEvent(event);
+    }
+    void hideEvent(QHideEvent* event) override
+    {
+        if (QWidget* const line = focusWidget(); line != nullptr)
+            line->clearFocus();
+        QFrame::hideEvent(event);
     }
 
 private:
