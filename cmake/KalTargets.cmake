@@ -61,6 +61,8 @@ function(kal_add_test area name)
   set(flavour widgets)
   if("toolkit" IN_LIST arg_LABELS)
     set(flavour core)
+  elseif("kal_orvane_extender_base_objects" IN_LIST arg_DEPENDS)
+    set(flavour editors)
   endif()
   set(moc_file "${CMAKE_CURRENT_BINARY_DIR}/tst_${name}.moc")
   add_executable(${target} tst_${name}.cpp "${moc_file}" ${arg_SOURCES})
@@ -88,8 +90,9 @@ function(kal_add_test area name)
   )
 endfunction()
 
-# The precompiled header of the tests, made once for those that know widgets and once for those that do not: QtTest is
-# most of what compiling a test costs. It is made for a program, since a library is compiled with other flags.
+# The precompiled header of the tests, made once for those that do not know widgets, once for those that do and once for
+# those of the editors, which all show one in a tool: QtTest and the field classes are most of what compiling a test
+# costs. It is made for a program, since a library is compiled with other flags.
 function(kal_use_test_header target flavour)
   set(carrier kal_test_header_${flavour})
   if(NOT TARGET ${carrier})
@@ -97,6 +100,10 @@ function(kal_use_test_header target flavour)
     add_executable(${carrier} "${PROJECT_BINARY_DIR}/tests/${carrier}.cpp")
     kal_set_test_options(${carrier} ${flavour})
     target_precompile_headers(${carrier} PRIVATE <QSignalSpy> <QTemporaryDir> <QTest>)
+    if(flavour STREQUAL "editors")
+      target_link_libraries(${carrier} PRIVATE kal_orvane_extender_base_objects)
+      target_precompile_headers(${carrier} PRIVATE "${PROJECT_SOURCE_DIR}/tests/plugin/EditorHarness.h")
+    endif()
     set_target_properties(${carrier} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
   endif()
   kal_set_test_options(${target} ${flavour})
@@ -105,7 +112,7 @@ endfunction()
 
 # What a test runs is optimised; the test itself needn't be.
 function(kal_set_test_options target flavour)
-  target_link_libraries(${target} PRIVATE Qt6::Test $<$<STREQUAL:${flavour},widgets>:Qt6::Widgets> kal_warnings
+  target_link_libraries(${target} PRIVATE Qt6::Test $<$<NOT:$<STREQUAL:${flavour},core>>:Qt6::Widgets> kal_warnings
                                           kal_qt_rules)
   target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O0>)
 endfunction()
