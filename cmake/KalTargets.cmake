@@ -111,10 +111,14 @@ function(kal_use_test_header target flavour)
 endfunction()
 
 # What a test runs is optimised; the test itself needn't be.
+function(kal_compile_as_test target)
+  target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O0>)
+endfunction()
+
 function(kal_set_test_options target flavour)
   target_link_libraries(${target} PRIVATE Qt6::Test $<$<NOT:$<STREQUAL:${flavour},core>>:Qt6::Widgets> kal_warnings
                                           kal_qt_rules)
-  target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O0>)
+  kal_compile_as_test(${target})
 endfunction()
 
 # Qt's code generators.

@@ -1,6 +1,6 @@
 #include "orvane/app/CommandLine.h"
 
-#include <QtTest>
+#include <QTest>
 
 class CommandLineTest : public QObject {
     Q_OBJECT

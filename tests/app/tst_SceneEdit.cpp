@@ -2,7 +2,7 @@
 
 #include "orvane/app/SceneEdit.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "meridane/scene/NxMaterial.h"
 
-#include <QtTest>
+#include <QTest>
 
 class TestSetFieldCommand : public QObject {
     Q_OBJECT

@@ -1,4 +1,6 @@
-#include <QtTest>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "endtoend/LiveTool.h"
 
-#include <QtTest>
+#include <QTemporaryDir>
+#include <QTest>
 
 namespace {
 

@@ -3,7 +3,8 @@
 #include "meridane/base/NxDelayQueue.h"
 #include "meridane/base/NxDelayQueueSensor.h"
 
-#include <QtTest>
+#include <QTest>
+#include <QTimer>
 
 #include <functional>
 #include <memory>

@@ -3,8 +3,8 @@
 #include "meridane/scene/NxMField.h"
 #include "meridane/scene/NxSFFloat.h"
 
+#include <QTest>
 #include <QWidget>
-#include <QtTest>
 
 namespace {
 

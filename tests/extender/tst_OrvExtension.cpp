@@ -3,7 +3,7 @@
 #include "orvane/extender/OrvPluginsManager.h"
 #include "orvane/extender/OrvProfile.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

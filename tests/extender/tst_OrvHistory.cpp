@@ -7,7 +7,7 @@
 #include "meridane/scene/NxPointLight.h"
 #include "meridane/scene/NxRef.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <malloc.h>
 

@@ -1,6 +1,6 @@
 #include "extender/Recording.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <stdexcept>
 

@@ -8,7 +8,8 @@
 #include "meridane/scene/NxPointLight.h"
 
 #include <QComboBox>
-#include <QtTest>
+#include <QSignalSpy>
+#include <QTest>
 
 #include <stdexcept>
 

@@ -3,7 +3,7 @@
 #include "orvane/extender/OrvProfile.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

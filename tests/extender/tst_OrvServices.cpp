@@ -8,7 +8,8 @@
 #include "meridane/scene/NxPointLight.h"
 #include "meridane/scene/NxRef.h"
 
-#include <QtTest>
+#include <QSignalSpy>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

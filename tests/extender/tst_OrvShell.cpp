@@ -1,6 +1,6 @@
 #include "orvane/extender/OrvShell.h"
 
-#include <QtTest>
+#include <QTest>
 
 namespace {
 

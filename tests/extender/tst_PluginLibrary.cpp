@@ -7,7 +7,7 @@
 #include "meridane/base/NxDebugError.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

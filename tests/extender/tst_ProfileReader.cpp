@@ -1,7 +1,7 @@
 #include "orvane/extender/ProfileReader.h"
 #include "orvane/extender/VbText.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

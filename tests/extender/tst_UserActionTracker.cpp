@@ -6,8 +6,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSlider>
+#include <QTest>
 #include <QVBoxLayout>
-#include <QtTest>
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QApplication>
+#include <QTest>
 #include <QTimer>
-#include <QtTest>
 
 #include <functional>
 

@@ -7,8 +7,8 @@
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSlider>
+#include <QTest>
 #include <QWheelEvent>
-#include <QtTest>
 
 /// Shows a slider frame in a window that has no layout, wide enough for a mouse to reach each of a hundred positions.
 inline void showIn(QWidget& window, QWidget& frame)

@@ -16,8 +16,8 @@
 #include <QMainWindow>
 #include <QRegularExpression>
 #include <QStringList>
+#include <QTest>
 #include <QToolBar>
-#include <QtTest>
 
 #include <vector>
 

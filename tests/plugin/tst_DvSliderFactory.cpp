@@ -7,7 +7,7 @@
 #include <QDoubleValidator>
 #include <QIntValidator>
 #include <QLineEdit>
-#include <QtTest>
+#include <QTest>
 
 class tst_DvSliderFactory : public QObject {
     Q_OBJECT

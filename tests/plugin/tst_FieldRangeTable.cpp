@@ -1,6 +1,6 @@
 #include "FieldEditors/FieldRangeTable.h"
 
-#include <QtTest>
+#include <QTest>
 
 class tst_FieldRangeTable : public QObject {
     Q_OBJECT

@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QPixmap>
 #include <QSet>
-#include <QtTest>
+#include <QTest>
 
 class tst_Icons : public QObject {
     Q_OBJECT

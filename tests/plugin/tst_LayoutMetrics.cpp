@@ -1,6 +1,6 @@
 #include "FieldEditors/LayoutMetrics.h"
 
-#include <QtTest>
+#include <QTest>
 
 class tst_LayoutMetrics : public QObject {
     Q_OBJECT
