@@ -6,6 +6,8 @@
 #include "orvane/extender/OrvPluginsManager.h"
 #include "orvane/extender/OrvProfile.h"
 
+#include <memory>
+
 /// A plug-in of some extensions that a test owns.
 class TestPlugin final : public OrvPlugin {
 public:
@@ -22,12 +24,14 @@ public:
 class HostHarness : public ToolHarness {
 public:
     HostHarness(const QList<OrvExtension*>& extensions, const QString& running, const QStringList& controlled)
-        : m_plugin(extensions)
+        : m_own(std::make_unique<TestPlugin>(extensions))
     {
-        if (const auto error = manager.addPlugin(&m_plugin))
-            qFatal("%s", qUtf8Printable(*error));
-        runProfile(running, controlled);
-        shell.window.show();
+        start(*m_own, running, controlled);
+    }
+    /// The same with a plug-in that outlives the host.
+    HostHarness(OrvPlugin& plugin, const QString& running, const QStringList& controlled)
+    {
+        start(plugin, running, controlled);
     }
     ~HostHarness() { manager.unloadPlugins(); }
 
@@ -47,7 +51,15 @@ public:
     OrvPluginsManager manager;
 
 private:
-    TestPlugin m_plugin;
+    void start(OrvPlugin& plugin, const QString& running, const QStringList& controlled)
+    {
+        if (const auto error = manager.addPlugin(&plugin))
+            qFatal("%s", qUtf8Printable(*error));
+        runProfile(running, controlled);
+        shell.window.show();
+    }
+
+    std::unique_ptr<TestPlugin> m_own;
     int m_profiles = 0;
 };
 
