@@ -1,7 +1,9 @@
 // A plug-in that ends the tool as soon as it has painted its window with the scene in the tree.
 
+#include "extender/plugins/LoadedPlugin.h"
+#include "extender/plugins/OneExtensionPlugin.h"
+
 #include "orvane/extender/OrvExtension.h"
-#include "orvane/extender/OrvPlugin.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -31,36 +33,16 @@ public:
     }
 };
 
-class FirstPicturePlugin final : public OrvPlugin {
-public:
-    FirstPicturePlugin() { m_name = "FirstPicture"; }
-    ~FirstPicturePlugin() override = default;
-
-    void load() override
-    {
-        addExtension(&m_extension);
-        OrvPlugin::load();
-    }
-
-private:
-    FirstPicture m_extension;
-};
-
-FirstPicturePlugin* plugin = nullptr;
+using Plugin = LoadedPlugin<OneExtensionPlugin<FirstPicture>>;
 
 } // namespace
 
-extern "C" OrvPlugin* loadPlugin();
-extern "C" void unloadPlugin();
-
 OrvPlugin* loadPlugin()
 {
-    plugin = new FirstPicturePlugin;
-    return plugin;
+    return Plugin::make();
 }
 
 void unloadPlugin()
 {
-    delete plugin;
-    plugin = nullptr;
+    Plugin::destroy();
 }

@@ -5,6 +5,8 @@
 #include <QIntValidator>
 #include <QLineEdit>
 
+#include <functional>
+
 DvIntSlider::DvIntSlider(int kind, int mode, OrvFieldEditors* owner, QWidget* parent, int row, int column)
     : DvSlider(mode, owner, parent, row, column)
     , m_validator(new QIntValidator(m_edit))
@@ -61,18 +63,7 @@ void DvIntSlider::readValueFromEdit()
     if (ok && m_radix != 10)
         value = limited(value, m_validator->bottom(), m_validator->top());
 
-    if (m_bounded) {
-        value = limited(value, m_min, m_max);
-    } else {
-        if (value > m_max) {
-            m_max = value;
-            setSliderMaximum(value);
-        }
-        if (value < m_min) {
-            m_min = value;
-            setSliderMinimum(value);
-        }
-    }
+    value = fitted(value, m_min, m_max, m_bounded, std::identity());
     m_position = value;
     m_value = value;
 }

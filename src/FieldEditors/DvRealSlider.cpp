@@ -64,19 +64,8 @@ void DvRealSlider::showValue()
 
 void DvRealSlider::readValueFromEdit()
 {
-    double value = m_edit->text().toDouble();
-    if (m_bounded) {
-        value = limited(value, m_min, m_max);
-    } else {
-        if (value > m_max) {
-            m_max = value;
-            setSliderMaximum(positionOf(value));
-        }
-        if (value < m_min) {
-            m_min = value;
-            setSliderMinimum(positionOf(value));
-        }
-    }
+    const double value = fitted(
+        m_edit->text().toDouble(), m_min, m_max, m_bounded, [this](double number) { return positionOf(number); });
     m_position = positionOf(value);
     m_value = value;
 }

@@ -56,6 +56,24 @@ protected:
         return std::min(std::max(value, lower), upper);
     }
 
+    /// What a typed value comes out as: a bounded range limits it, an unbounded one grows to it and takes the slider
+    /// along.
+    template <typename Value, typename PositionOf>
+    [[nodiscard]] Value fitted(Value value, Value& lower, Value& upper, bool bounded, PositionOf positionOf)
+    {
+        if (bounded)
+            return limited(value, lower, upper);
+        if (value > upper) {
+            upper = value;
+            setSliderMaximum(positionOf(value));
+        }
+        if (value < lower) {
+            lower = value;
+            setSliderMinimum(positionOf(value));
+        }
+        return value;
+    }
+
     /// Shows a text, takes its value and brings the slider in line.
     void takeText(const QString& text);
     /// Rewrites the line, which clears its modified flag, and shows the beginning of a long text.

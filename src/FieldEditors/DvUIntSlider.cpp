@@ -66,18 +66,7 @@ void DvUIntSlider::readValueFromEdit()
         return;
 
     value = limited(value, m_limitBottom, m_limitTop);
-    if (m_bounded) {
-        value = limited(value, m_min, m_max);
-    } else {
-        if (value > m_max) {
-            m_max = value;
-            setSliderMaximum(positionOf(value));
-        }
-        if (value < m_min) {
-            m_min = value;
-            setSliderMinimum(positionOf(value));
-        }
-    }
+    value = fitted(value, m_min, m_max, m_bounded, positionOf);
     m_position = positionOf(value);
     m_value = value;
 }

@@ -9,8 +9,10 @@
 // NAME is an object name, or "name/Class" for the first widget of that class inside the one of that name. A thing that
 // isn't there is answered with an empty line.
 
+#include "extender/plugins/LoadedPlugin.h"
+#include "extender/plugins/OneExtensionPlugin.h"
+
 #include "orvane/extender/OrvExtension.h"
-#include "orvane/extender/OrvPlugin.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -155,36 +157,16 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
-class ProbePlugin : public OrvPlugin {
-public:
-    ProbePlugin() { m_name = "Probe"; }
-    ~ProbePlugin() override = default;
-
-    void load() override
-    {
-        addExtension(&m_probe);
-        OrvPlugin::load();
-    }
-
-private:
-    Probe m_probe;
-};
-
-ProbePlugin* plugin = nullptr;
+using Plugin = LoadedPlugin<OneExtensionPlugin<Probe>>;
 
 } // namespace
 
-extern "C" OrvPlugin* loadPlugin();
-extern "C" void unloadPlugin();
-
 OrvPlugin* loadPlugin()
 {
-    plugin = new ProbePlugin;
-    return plugin;
+    return Plugin::make();
 }
 
 void unloadPlugin()
 {
-    delete plugin;
-    plugin = nullptr;
+    Plugin::destroy();
 }

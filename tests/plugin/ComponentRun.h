@@ -3,8 +3,6 @@
 #include "FieldEditors/SFWidgets/DvSFieldWidget.h"
 #include "plugin/EditorHarness.h"
 
-#include "meridane/base/VbName.h"
-
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,7 +16,7 @@ public:
     /// The type is a word such as "SFVec2f". Without a value the editor gets no field yet.
     ComponentRun(std::unique_ptr<DvSFieldWidget> componentEditor, const QString& type, const QString& value = {})
         : editor(std::move(componentEditor))
-        , field(m_harness.node->getField(VbName(("sf" + type.mid(2).toLatin1()).constData())))
+        , field(ToolHarness::fieldOf(*m_harness.node, type))
         , m_run(*editor)
     {
         m_run.window.resize(600, 60);

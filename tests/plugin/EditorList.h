@@ -26,11 +26,7 @@
 #include "FieldEditors/SFWidgets/DvSFVec2sWidget.h"
 #include "FieldEditors/SFWidgets/DvSFVec3fWidget.h"
 #include "FieldEditors/SFWidgets/DvSFVec4fWidget.h"
-
-#include "meridane/base/VbName.h"
-#include "meridane/scene/NxFieldGallery.h"
-
-#include <QString>
+#include "plugin/ToolHarness.h"
 
 #include <iterator>
 #include <memory>
@@ -40,6 +36,7 @@ struct EditorEntry {
     const char* type; // the type word, which is also the extension's name
     std::unique_ptr<DvSFieldWidget> (*make)(const char* name);
     const char* value; // the text form of one that isn't the default
+    const char* base = "DvSFieldWidget"; // the class that it derives from
 };
 
 template <typename Editor>
@@ -52,8 +49,8 @@ std::unique_ptr<DvSFieldWidget> makeEditor(const char* name)
 inline constexpr EditorEntry singleValueEditors[] = {
     {"SFBitMask", makeEditor<DvSFBitMaskWidget>, "VISIBLE | LOCKED"},
     {"SFBool", makeEditor<DvSFBoolWidget>, "true"},
-    {"SFBox2f", makeEditor<DvSFBox2fWidget>, "1 2 3 4"},
-    {"SFBox3s", makeEditor<DvSFBox3sWidget>, "1 2 3 4 5 6"},
+    {"SFBox2f", makeEditor<DvSFBox2fWidget>, "1 2 3 4", "DvPopupWidget"},
+    {"SFBox3s", makeEditor<DvSFBox3sWidget>, "1 2 3 4 5 6", "DvPopupWidget"},
     {"SFColor", makeEditor<DvSFColorWidget>, "0.5 0.25 1"},
     {"SFColorRGBA", makeEditor<DvSFColorRGBAWidget>, "0.5 0.25 1 0.75"},
     {"SFDouble", makeEditor<DvSFDoubleWidget>, "2.5"},
@@ -63,19 +60,19 @@ inline constexpr EditorEntry singleValueEditors[] = {
     {"SFImage", makeEditor<DvSFImageWidget>, "2 1 1 0x00 0xff"},
     {"SFInt32", makeEditor<DvSFInt32Widget>, "25"},
     {"SField", makeEditor<DvSFLineWidget>, "2.5"},
-    {"SFMatrix", makeEditor<DvSFMatrixWidget>, "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16"},
+    {"SFMatrix", makeEditor<DvSFMatrixWidget>, "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16", "DvPopupWidget"},
     {"SFName", makeEditor<DvSFNameWidget>, "\"abc\""},
-    {"SFPlane", makeEditor<DvSFPlaneWidget>, "0 0 1 5"},
-    {"SFRotation", makeEditor<DvSFRotationWidget>, "0 0 1 0.5"},
+    {"SFPlane", makeEditor<DvSFPlaneWidget>, "0 0 1 5", "DvSF4fBox"},
+    {"SFRotation", makeEditor<DvSFRotationWidget>, "0 0 1 0.5", "DvSF4fBox"},
     {"SFShort", makeEditor<DvSFShortWidget>, "25"},
     {"SFString", makeEditor<DvSFStringWidget>, "\"abc\""},
     {"SFUInt32", makeEditor<DvSFUInt32Widget>, "25"},
     {"SFUShort", makeEditor<DvSFUShortWidget>, "25"},
     {"SFVec2f", makeEditor<DvSFVec2fWidget>, "1 2"},
-    {"SFVec2i32", makeEditor<DvSFVec2i32Widget>, "1 2"},
-    {"SFVec2s", makeEditor<DvSFVec2sWidget>, "1 2"},
+    {"SFVec2i32", makeEditor<DvSFVec2i32Widget>, "1 2", "DvSF2iSpinBox"},
+    {"SFVec2s", makeEditor<DvSFVec2sWidget>, "1 2", "DvSF2iSpinBox"},
     {"SFVec3f", makeEditor<DvSFVec3fWidget>, "1 2 3"},
-    {"SFVec4f", makeEditor<DvSFVec4fWidget>, "1 2 3 4"},
+    {"SFVec4f", makeEditor<DvSFVec4fWidget>, "1 2 3 4", "DvSF4fBox"},
 };
 
 /// The editor of a type word, which must be in the list.
@@ -92,5 +89,5 @@ inline NxField& fieldFor(NxFieldGallery& node, const QString& type)
 {
     if (type == QLatin1String("SField"))
         return node.sfTime;
-    return *node.getField(VbName(("sf" + type.mid(2).toLatin1()).constData()));
+    return *ToolHarness::fieldOf(node, type);
 }

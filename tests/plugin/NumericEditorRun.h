@@ -34,7 +34,7 @@ class NumericEditorRun {
 public:
     explicit NumericEditorRun(const QString& type)
         : editor(makeNumericEditor(type))
-        , field(fieldOf(*m_harness.node, type))
+        , field(ToolHarness::fieldOf(*m_harness.node, type))
         , m_run(*editor)
         , driver(*editor->getFrame())
     {
@@ -53,7 +53,7 @@ public:
     /// Another field of the same type, in a node of its own.
     struct Other {
         explicit Other(const QString& type)
-            : field(fieldOf(*m_node, type))
+            : field(ToolHarness::fieldOf(*m_node, type))
         {
         }
 
@@ -93,12 +93,6 @@ public:
     [[nodiscard]] QPushButton& button(const char* name) const { return *m_run.find<QPushButton>(name); }
 
 private:
-    static NxField* fieldOf(NxFieldGallery& node, const QString& type)
-    {
-        const QByteArray name = "sf" + type.mid(2).toLatin1();
-        return node.getField(VbName(name.constData()));
-    }
-
     ToolHarness m_harness;
 
 public:

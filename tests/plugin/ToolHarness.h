@@ -6,6 +6,7 @@
 #include "orvane/extender/OrvShell.h"
 
 #include "meridane/base/NxDelayQueue.h"
+#include "meridane/base/VbName.h"
 #include "meridane/base/VbString.h"
 #include "meridane/scene/NxField.h"
 #include "meridane/scene/NxFieldGallery.h"
@@ -98,6 +99,12 @@ public:
         VbString text;
         field.get(text);
         return QString::fromUtf8(text.toUtf8());
+    }
+    /// The field of a gallery that is of a type word such as "SFFloat".
+    static NxField* fieldOf(NxFieldGallery& gallery, const QString& type)
+    {
+        const QByteArray name = "sf" + type.mid(2).toLatin1();
+        return gallery.getField(VbName(name.constData()));
     }
     /// Whether a test left no widget behind, to be asked when everything it made is gone.
     static bool noWidgetIsLeft() { return QApplication::topLevelWidgets().isEmpty(); }

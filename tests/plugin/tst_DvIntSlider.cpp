@@ -1,6 +1,4 @@
-#include "FieldEditors/DvIntSlider.h"
-#include "plugin/RecordingOwner.h"
-#include "plugin/SliderDriver.h"
+#include "plugin/IntSliderFixture.h"
 
 #include <QIntValidator>
 
@@ -14,12 +12,12 @@ constexpr int highest = std::numeric_limits<int>::max();
 
 } // namespace
 
-class tst_DvIntSlider : public QObject {
+class tst_DvIntSlider : public QObject, private IntSliderFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { start(); }
+    void cleanup() { finish(); }
 
     void validatorHasTheBoundsOfTheKind_data();
     void validatorHasTheBoundsOfTheKind();
@@ -35,35 +33,7 @@ private Q_SLOTS:
     void decimalTextIsHeldBackByTheValidator_data();
     void decimalTextIsHeldBackByTheValidator();
     void digitThatLeadsBelowTheTypeIsRefused();
-
-private:
-    void makeShown(int kind = 1);
-
-    QWidget m_window;
-    std::unique_ptr<RecordingOwner> m_owner;
-    std::unique_ptr<DvIntSlider> m_slider;
-    std::unique_ptr<SliderDriver> m_driver;
 };
-
-void tst_DvIntSlider::init()
-{
-    m_owner = std::make_unique<RecordingOwner>();
-    makeShown();
-}
-
-void tst_DvIntSlider::cleanup()
-{
-    m_slider.reset();
-    m_owner.reset();
-}
-
-void tst_DvIntSlider::makeShown(int kind)
-{
-    m_slider = std::make_unique<DvIntSlider>(kind, DvSlider::FieldEditor, m_owner.get(), &m_window);
-    m_slider->setRange(0, 100, false);
-    showIn(m_window, *m_slider);
-    m_driver = std::make_unique<SliderDriver>(*m_slider);
-}
 
 void tst_DvIntSlider::validatorHasTheBoundsOfTheKind_data()
 {

@@ -1,16 +1,14 @@
-#include "FieldEditors/DvIntSlider.h"
-#include "plugin/RecordingOwner.h"
-#include "plugin/SliderDriver.h"
+#include "plugin/IntSliderFixture.h"
 
 #include <memory>
 
 /// How a signed slider finds its radix and keeps to it.
-class tst_DvIntSliderRadix : public QObject {
+class tst_DvIntSliderRadix : public QObject, private IntSliderFixture {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { start(); }
+    void cleanup() { finish(); }
 
     void firstTextFixesTheRadix_data();
     void firstTextFixesTheRadix();
@@ -22,35 +20,7 @@ private Q_SLOTS:
     void dragWritesTheDigitsOfTheRadix();
     void commandValueHasNoPrefix_data();
     void commandValueHasNoPrefix();
-
-private:
-    void makeShown(int kind = 1);
-
-    QWidget m_window;
-    std::unique_ptr<RecordingOwner> m_owner;
-    std::unique_ptr<DvIntSlider> m_slider;
-    std::unique_ptr<SliderDriver> m_driver;
 };
-
-void tst_DvIntSliderRadix::init()
-{
-    m_owner = std::make_unique<RecordingOwner>();
-    makeShown();
-}
-
-void tst_DvIntSliderRadix::cleanup()
-{
-    m_slider.reset();
-    m_owner.reset();
-}
-
-void tst_DvIntSliderRadix::makeShown(int kind)
-{
-    m_slider = std::make_unique<DvIntSlider>(kind, DvSlider::FieldEditor, m_owner.get(), &m_window);
-    m_slider->setRange(0, 100, false);
-    showIn(m_window, *m_slider);
-    m_driver = std::make_unique<SliderDriver>(*m_slider);
-}
 
 void tst_DvIntSliderRadix::firstTextFixesTheRadix_data()
 {

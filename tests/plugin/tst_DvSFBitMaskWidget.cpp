@@ -4,7 +4,6 @@
 #include "plugin/WriteCounter.h"
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QMetaMethod>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -64,7 +63,6 @@ private Q_SLOTS:
     void init() { m_tool = std::make_unique<ToolHarness>(); }
     void cleanup();
 
-    void editorBearsItsNames();
     void slotStandsBehindTheSkeletons();
     void boxesStandInAColumnInTheMiddle();
     void boxesShowTheBitsWithoutACommand();
@@ -77,7 +75,6 @@ private Q_SLOTS:
     void spaceKeyWritesLikeAClick();
     void boxesDontFollowTheField();
     void defaultButtonChangesTheFieldAndNotTheBoxes();
-    void ignoreButtonSetsTheFlag();
     void newFieldReplacesTheBoxes();
     void fieldWithoutBitsGetsNoBoxes();
     void applyingWritesNothing();
@@ -95,18 +92,6 @@ void tst_DvSFBitMaskWidget::cleanup()
 {
     m_tool.reset();
     QVERIFY(ToolHarness::noWidgetIsLeft());
-}
-
-void tst_DvSFBitMaskWidget::editorBearsItsNames()
-{
-    DvSFBitMaskWidget editor;
-    const EditorRun run(editor);
-    QCOMPARE(editor.objectName(), QStringLiteral("DvSFBitMaskWidget"));
-    QCOMPARE(DvSFBitMaskWidget("mine").objectName(), QStringLiteral("mine"));
-    QCOMPARE(editor.metaObject()->superClass(), &DvSFieldWidget::staticMetaObject);
-    QCOMPARE(editor.getName(), VbString("SFBitMask"));
-    QVERIFY(editor.getHandledType() == NxSFBitMask::getClassTypeId());
-    QCOMPARE(run.find<QLabel>("m_label")->text(), QStringLiteral("<p align=\"center\">SFBitMask</p>"));
 }
 
 void tst_DvSFBitMaskWidget::slotStandsBehindTheSkeletons()
@@ -259,20 +244,6 @@ void tst_DvSFBitMaskWidget::defaultButtonChangesTheFieldAndNotTheBoxes()
     QVERIFY(field().isDefault());
 }
 
-void tst_DvSFBitMaskWidget::ignoreButtonSetsTheFlag()
-{
-    DvSFBitMaskWidget editor;
-    const EditorRun run(editor, field());
-    auto* const button = run.find<QPushButton>("m_ignoreButton");
-    QTest::mouseClick(button, Qt::LeftButton);
-    QVERIFY(field().isIgnored());
-    QCOMPARE(pushed(), 1);
-    m_tool->services.undo();
-    QVERIFY(!field().isIgnored());
-    ToolHarness::pump();
-    QVERIFY(!button->isChecked());
-}
-
 void tst_DvSFBitMaskWidget::newFieldReplacesTheBoxes()
 {
     const NxEnumeration names{{"ONE", 1}, {"TWO", 2}};
@@ -325,8 +296,6 @@ void tst_DvSFBitMaskWidget::nullFieldHasNoBoxes()
     editor.updateFromField();
     QCOMPARE(boxesOf(run).size(), 0);
     editor.setBitMaskValue();
-    QTest::mouseClick(run.find<QPushButton>("m_defaultButton"), Qt::LeftButton);
-    QTest::mouseClick(run.find<QPushButton>("m_ignoreButton"), Qt::LeftButton);
     QCOMPARE(field().getValue(), int{NxFieldGallery::LOCKED});
     QCOMPARE(pushed(), 0);
 }

@@ -3,8 +3,6 @@
 #include "plugin/WriteCounter.h"
 
 #include <QCheckBox>
-#include <QLabel>
-#include <QPushButton>
 
 #include <memory>
 
@@ -15,7 +13,6 @@ private Q_SLOTS:
     void init() { m_tool = std::make_unique<ToolHarness>(); }
     void cleanup();
 
-    void editorBearsItsNames();
     void boxHasItsSizeInTheMiddle();
     void valueIsShownWithoutACommand();
     void clickWritesAndPushesOnce();
@@ -24,8 +21,6 @@ private Q_SLOTS:
     void outsideChangeIsFollowedWithoutACommand();
     void changeWhileIdleIsReadAtTheNextActivation();
     void commandValueIsWrittenUnchanged();
-    void defaultButtonWritesTheDefault();
-    void ignoreButtonSetsTheFlag();
     void nullFieldWritesNothing();
 
 private:
@@ -41,18 +36,6 @@ void tst_DvSFBoolWidget::cleanup()
 {
     m_tool.reset();
     QVERIFY(ToolHarness::noWidgetIsLeft());
-}
-
-void tst_DvSFBoolWidget::editorBearsItsNames()
-{
-    DvSFBoolWidget editor;
-    const EditorRun run(editor);
-    QCOMPARE(editor.objectName(), QStringLiteral("DvSFBoolWidget"));
-    QCOMPARE(DvSFBoolWidget("mine").objectName(), QStringLiteral("mine"));
-    QCOMPARE(editor.metaObject()->superClass(), &DvSFieldWidget::staticMetaObject);
-    QCOMPARE(editor.getName(), VbString("SFBool"));
-    QVERIFY(editor.getHandledType() == NxSFBool::getClassTypeId());
-    QCOMPARE(run.find<QLabel>("m_label")->text(), QStringLiteral("<p align=\"center\">SFBool</p>"));
 }
 
 void tst_DvSFBoolWidget::boxHasItsSizeInTheMiddle()
@@ -160,34 +143,6 @@ void tst_DvSFBoolWidget::commandValueIsWrittenUnchanged()
     QCOMPARE(pushed(), 1);
 }
 
-void tst_DvSFBoolWidget::defaultButtonWritesTheDefault()
-{
-    field().setValue(true);
-    DvSFBoolWidget editor;
-    const EditorRun run(editor, field());
-    QTest::mouseClick(run.find<QPushButton>("m_defaultButton"), Qt::LeftButton);
-    QVERIFY(field().isDefault());
-    QCOMPARE(pushed(), 1);
-    ToolHarness::pump();
-    QVERIFY(!boxOf(run)->isChecked());
-    m_tool->services.undo();
-    QVERIFY(field().isDefault());
-}
-
-void tst_DvSFBoolWidget::ignoreButtonSetsTheFlag()
-{
-    DvSFBoolWidget editor;
-    const EditorRun run(editor, field());
-    auto* const button = run.find<QPushButton>("m_ignoreButton");
-    QTest::mouseClick(button, Qt::LeftButton);
-    QVERIFY(field().isIgnored());
-    QCOMPARE(pushed(), 1);
-    m_tool->services.undo();
-    QVERIFY(!field().isIgnored());
-    ToolHarness::pump();
-    QVERIFY(!button->isChecked());
-}
-
 void tst_DvSFBoolWidget::nullFieldWritesNothing()
 {
     DvSFBoolWidget editor;
@@ -196,10 +151,7 @@ void tst_DvSFBoolWidget::nullFieldWritesNothing()
     editor.updateFromField();
     click(boxOf(run));
     editor.applyChanges();
-    QTest::mouseClick(run.find<QPushButton>("m_defaultButton"), Qt::LeftButton);
-    QTest::mouseClick(run.find<QPushButton>("m_ignoreButton"), Qt::LeftButton);
     QVERIFY(!field().getValue());
-    QVERIFY(!field().isIgnored());
     QCOMPARE(pushed(), 0);
 }
 

@@ -5,8 +5,6 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
 
 #include <memory>
 
@@ -42,7 +40,6 @@ private Q_SLOTS:
     void init() { m_tool = std::make_unique<ToolHarness>(); }
     void cleanup();
 
-    void editorBearsItsNames();
     void comboBoxFillsTheEditArea();
     void namesAreOfferedInTheOrderOfTheField();
     void namesAreReadAsLatin1();
@@ -57,8 +54,6 @@ private Q_SLOTS:
     void outsideChangeIsFollowedWithoutACommand();
     void changeWhileIdleIsReadAtTheNextActivation();
     void fieldWithoutNamesGivesAnEmptyList();
-    void defaultButtonWritesTheDefault();
-    void ignoreButtonSetsTheFlag();
     void nullFieldWritesNothing();
 
 private:
@@ -73,18 +68,6 @@ void tst_DvSFEnumWidget::cleanup()
 {
     m_tool.reset();
     QVERIFY(ToolHarness::noWidgetIsLeft());
-}
-
-void tst_DvSFEnumWidget::editorBearsItsNames()
-{
-    DvSFEnumWidget editor;
-    const EditorRun run(editor);
-    QCOMPARE(editor.objectName(), QStringLiteral("DvSFEnumWidget"));
-    QCOMPARE(DvSFEnumWidget("mine").objectName(), QStringLiteral("mine"));
-    QCOMPARE(editor.metaObject()->superClass(), &DvSFieldWidget::staticMetaObject);
-    QCOMPARE(editor.getName(), VbString("SFEnum"));
-    QVERIFY(editor.getHandledType() == NxSFEnum::getClassTypeId());
-    QCOMPARE(run.find<QLabel>("m_label")->text(), QStringLiteral("<p align=\"center\">SFEnum</p>"));
 }
 
 void tst_DvSFEnumWidget::comboBoxFillsTheEditArea()
@@ -257,34 +240,6 @@ void tst_DvSFEnumWidget::fieldWithoutNamesGivesAnEmptyList()
     QCOMPARE(pushed(), 1);
 }
 
-void tst_DvSFEnumWidget::defaultButtonWritesTheDefault()
-{
-    field().setValue(NxFieldGallery::HIGH);
-    DvSFEnumWidget editor;
-    const EditorRun run(editor, field());
-    QTest::mouseClick(run.find<QPushButton>("m_defaultButton"), Qt::LeftButton);
-    QVERIFY(field().isDefault());
-    QCOMPARE(pushed(), 1);
-    ToolHarness::pump();
-    QCOMPARE(comboOf(run)->currentText(), QStringLiteral("LOW"));
-    m_tool->services.undo();
-    QVERIFY(field().isDefault());
-}
-
-void tst_DvSFEnumWidget::ignoreButtonSetsTheFlag()
-{
-    DvSFEnumWidget editor;
-    const EditorRun run(editor, field());
-    auto* const button = run.find<QPushButton>("m_ignoreButton");
-    QTest::mouseClick(button, Qt::LeftButton);
-    QVERIFY(field().isIgnored());
-    QCOMPARE(pushed(), 1);
-    m_tool->services.undo();
-    QVERIFY(!field().isIgnored());
-    ToolHarness::pump();
-    QVERIFY(!button->isChecked());
-}
-
 void tst_DvSFEnumWidget::nullFieldWritesNothing()
 {
     DvSFEnumWidget editor;
@@ -294,8 +249,6 @@ void tst_DvSFEnumWidget::nullFieldWritesNothing()
     editor.updateFromField();
     editor.applyChanges();
     QTest::keyClick(comboOf(run), Qt::Key_Down);
-    QTest::mouseClick(run.find<QPushButton>("m_defaultButton"), Qt::LeftButton);
-    QTest::mouseClick(run.find<QPushButton>("m_ignoreButton"), Qt::LeftButton);
     QCOMPARE(field().getValue(), int{NxFieldGallery::LOW});
     QCOMPARE(pushed(), 0);
 }

@@ -1,11 +1,8 @@
 #include "FieldEditors/SFWidgets/DvSFShortWidget.h"
 
 #include "FieldEditors/DvIntSlider.h"
-#include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
-
-#include "orvane/extender/VbText.h"
 
 #include "meridane/scene/NxSFShort.h"
 
@@ -37,11 +34,8 @@ void DvSFShortWidget::updateFromField()
 
 void DvSFShortWidget::applyChanges()
 {
-    if (m_field == nullptr)
-        return;
-    // Always decimal, whatever the radix of the slider.
-    m_field->set(orvane::toVbString(QString::number(m_slider->value())));
-    orvane::pushSetValueCommand(m_field, m_slider->commandValue());
+    if (m_field != nullptr)
+        orvane::applyInteger(*m_slider, *m_field, m_slider->value());
 }
 
 bool DvSFShortWidget::edited()

@@ -1,11 +1,8 @@
 #include "FieldEditors/SFWidgets/DvSFUInt32Widget.h"
 
 #include "FieldEditors/DvUIntSlider.h"
-#include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
-
-#include "orvane/extender/VbText.h"
 
 #include "meridane/scene/NxSFUInt32.h"
 
@@ -37,11 +34,8 @@ void DvSFUInt32Widget::updateFromField()
 
 void DvSFUInt32Widget::applyChanges()
 {
-    if (m_field == nullptr)
-        return;
-    // Always decimal, whatever the radix of the slider.
-    m_field->set(orvane::toVbString(QString::number(m_slider->value())));
-    orvane::pushSetValueCommand(m_field, m_slider->commandValue());
+    if (m_field != nullptr)
+        orvane::applyInteger(*m_slider, *m_field, m_slider->value());
 }
 
 bool DvSFUInt32Widget::edited()

@@ -1,6 +1,7 @@
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
 #include "FieldEditors/DvRealSlider.h"
+#include "FieldEditors/FieldChanges.h"
 
 #include "orvane/extender/VbText.h"
 
@@ -20,4 +21,10 @@ void orvane::showInteger(DvSlider& slider, const NxField& field)
     VbString text;
     field.get(text);
     slider.setValueText(toQString(text));
+}
+
+void orvane::applyInteger(DvSlider& slider, NxField& field, std::int64_t value)
+{
+    field.set(toVbString(QString::number(value)));
+    pushSetValueCommand(&field, slider.commandValue());
 }

@@ -1,20 +1,12 @@
 #include "extender/plugins/CountingPlugin.h"
-#include "extender/plugins/EntryPoints.h"
-
-namespace {
-
-CountingPlugin* thePlugin = nullptr;
-
-} // namespace
+#include "extender/plugins/LoadedPlugin.h"
 
 OrvPlugin* loadPlugin()
 {
-    thePlugin = new CountingPlugin(orvaneInterfaceVersion + 1);
-    return thePlugin;
+    return LoadedPlugin<CountingPlugin>::make(orvaneInterfaceVersion + 1);
 }
 
 void unloadPlugin()
 {
-    delete thePlugin;
-    thePlugin = nullptr;
+    LoadedPlugin<CountingPlugin>::destroy();
 }

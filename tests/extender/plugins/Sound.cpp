@@ -1,20 +1,12 @@
 #include "extender/plugins/CountingPlugin.h"
-#include "extender/plugins/EntryPoints.h"
-
-namespace {
-
-OrvPlugin* thePlugin = nullptr;
-
-} // namespace
+#include "extender/plugins/LoadedPlugin.h"
 
 OrvPlugin* loadPlugin()
 {
-    thePlugin = new CountingPlugin;
-    return thePlugin;
+    return LoadedPlugin<CountingPlugin>::make();
 }
 
 void unloadPlugin()
 {
-    delete static_cast<CountingPlugin*>(thePlugin);
-    thePlugin = nullptr;
+    LoadedPlugin<CountingPlugin>::destroy();
 }

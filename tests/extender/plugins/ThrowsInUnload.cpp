@@ -1,5 +1,5 @@
 #include "extender/plugins/CountingPlugin.h"
-#include "extender/plugins/EntryPoints.h"
+#include "extender/plugins/LoadedPlugin.h"
 
 namespace {
 
@@ -24,19 +24,15 @@ private:
     ThrowingExtension m_throwing{"Throwing"};
 };
 
-ThrowingPlugin* thePlugin = nullptr;
-
 } // namespace
 
 OrvPlugin* loadPlugin()
 {
-    thePlugin = new ThrowingPlugin;
-    return thePlugin;
+    return LoadedPlugin<ThrowingPlugin>::make();
 }
 
 void unloadPlugin()
 {
-    delete thePlugin;
-    thePlugin = nullptr;
+    LoadedPlugin<ThrowingPlugin>::destroy();
     throw 1;
 }

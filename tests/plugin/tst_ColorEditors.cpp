@@ -1,17 +1,18 @@
-#include "FieldEditors/SFWidgets/DvSFColorRGBAWidget.h"
 #include "plugin/ColorDialogDriver.h"
 #include "plugin/ComponentRun.h"
+#include "plugin/EditorList.h"
 
 #include <QMetaMethod>
 
-class tst_DvSFColorRGBAWidget : public QObject {
+/// What the editors of a colour do, the one without and the one with opacity.
+class tst_ColorEditors : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase_data();
     void init();
     void cleanup();
 
-    void constructorNamesTheEditor();
     void slotsHaveTheirOrder();
     void loadBuildsDisplayAndRows();
     void linesHaveNoValidator();
@@ -31,9 +32,24 @@ private Q_SLOTS:
     void changeFromOutsideIsFollowedWithoutACommand();
     void refreshRoundsTheComponentsToSixDigits();
     void nullFieldIsLeftAlone();
-    void buttonsPushTheirCommands();
 
 private:
+    // The editor anew, without a field if there is no value.
+    void make(const QString& start)
+    {
+        m_run.reset();
+        m_run = std::make_unique<ComponentRun>(editorEntry(m_type).make(nullptr), m_type, start);
+    }
+    // The text form of a colour, which has its opacity at the end if there is one.
+    [[nodiscard]] QString value(const char* color, const char* opacity) const
+    {
+        return QLatin1String(color) + (m_hasOpacity ? QStringLiteral(" ") + QLatin1String(opacity) : QString());
+    }
+    [[nodiscard]] QColor opaqueOr(int opacity, const QColor& color) const
+    {
+        return {color.red(), color.green(), color.blue(), m_hasOpacity ? opacity : 255};
+    }
+    [[nodiscard]] QColor startColor() const { return opaqueOr(191, {127, 63, 0}); }
     [[nodiscard]] QColor shown() const
     {
         const QPushButton* const display = m_run->find<QPushButton>("m_colorDisp");
@@ -42,99 +58,104 @@ private:
     }
 
     std::unique_ptr<ComponentRun> m_run;
-    const QString m_start = QStringLiteral("0.5 0.25 0 0.75");
+    QString m_type;
+    QString m_start;
+    bool m_hasOpacity = false;
+    int m_count = 0; // of components
 };
 
-void tst_DvSFColorRGBAWidget::init()
+void tst_ColorEditors::initTestCase_data()
 {
-    m_run = std::make_unique<ComponentRun>(
-        std::make_unique<DvSFColorRGBAWidget>(), QStringLiteral("SFColorRGBA"), m_start);
+    QTest::addColumn<QString>("type");
+    QTest::newRow("without opacity") << "SFColor";
+    QTest::newRow("with opacity") << "SFColorRGBA";
 }
 
-void tst_DvSFColorRGBAWidget::cleanup()
+void tst_ColorEditors::init()
+{
+    QFETCH_GLOBAL(QString, type);
+    m_type = type;
+    m_hasOpacity = type == QLatin1String("SFColorRGBA");
+    m_count = m_hasOpacity ? 4 : 3;
+    m_start = value("0.5 0.25 0", "0.75");
+    make(m_start);
+}
+
+void tst_ColorEditors::cleanup()
 {
     m_run.reset();
     QVERIFY(ToolHarness::noWidgetIsLeft());
 }
 
-void tst_DvSFColorRGBAWidget::constructorNamesTheEditor()
+void tst_ColorEditors::slotsHaveTheirOrder()
 {
-    DvSFColorRGBAWidget plain;
-    QCOMPARE(plain.objectName(), QStringLiteral("DvSFColorRGBAWidget"));
-    QCOMPARE(plain.getName(), VbString("SFColorRGBA"));
-    QCOMPARE(QString::fromLatin1(plain.getHandledType().getName().getString()), QStringLiteral("SFColorRGBA"));
-    QCOMPARE(DvSFColorRGBAWidget("mine").objectName(), QStringLiteral("mine"));
-}
-
-void tst_DvSFColorRGBAWidget::slotsHaveTheirOrder()
-{
-    const QMetaObject& meta = DvSFColorRGBAWidget::staticMetaObject;
+    const QMetaObject& meta = *m_run->editor->metaObject();
     QStringList names;
     for (int index = meta.methodOffset(); index < meta.methodCount(); ++index)
         names << QString::fromLatin1(meta.method(index).methodSignature());
-    const QStringList expected{QStringLiteral("changeRValue(QString)"), QStringLiteral("changeGValue(QString)"),
-        QStringLiteral("changeBValue(QString)"), QStringLiteral("changeAValue(QString)"),
-        QStringLiteral("getColorEditor()")};
-    QCOMPARE(names, expected);
+    QStringList expected{QStringLiteral("changeRValue(QString)"), QStringLiteral("changeGValue(QString)"),
+        QStringLiteral("changeBValue(QString)")};
+    if (m_hasOpacity)
+        expected << QStringLiteral("changeAValue(QString)");
+    QCOMPARE(names, expected << QStringLiteral("getColorEditor()"));
 }
 
-void tst_DvSFColorRGBAWidget::loadBuildsDisplayAndRows()
+void tst_ColorEditors::loadBuildsDisplayAndRows()
 {
-    QCOMPARE(m_run->find<QLabel>("m_label")->text(), QStringLiteral("<p align=\"center\">SFColorRGBA</p>"));
+    QCOMPARE(m_run->find<QLabel>("m_label")->text(), QStringLiteral("<p align=\"center\">%1</p>").arg(m_type));
     QCOMPARE(m_run->row()->spacing(), 6);
     QCOMPARE(m_run->row()->contentsMargins(), QMargins());
     const auto* const display = m_run->find<QPushButton>("m_colorDisp");
     QCOMPARE(m_run->row()->itemAt(0)->widget(), display);
     QCOMPARE(display->size(), QSize(20, 18));
     QCOMPARE(display->parentWidget(), m_run->frame());
-    QCOMPARE(m_run->parts().size(), 4);
+    QCOMPARE(m_run->parts().size(), m_count);
     QStringList labels;
-    for (const char* const component : {"R", "G", "B", "A"})
-        labels << QStringLiteral("<p align=\"right\">%1</p>").arg(QLatin1String(component));
+    for (const QChar component : QStringLiteral("RGBA").left(m_count))
+        labels << QStringLiteral("<p align=\"right\">%1</p>").arg(component);
     QCOMPARE(m_run->labelTexts(), labels);
     for (const QBoxLayout* const part : m_run->parts()) {
         QCOMPARE(part->direction(), QBoxLayout::LeftToRight);
-        QCOMPARE(part->objectName(), QStringLiteral("SFColorRGBALayout"));
-        QCOMPARE(part->spacing(), 0);
+        QCOMPARE(part->objectName(), m_type + QStringLiteral("Layout"));
+        QCOMPARE(part->spacing(), m_hasOpacity ? 0 : 2);
         QCOMPARE(part->sizeConstraint(), QLayout::SetMinimumSize);
     }
     for (const QLabel* const label : m_run->labels()) {
-        QCOMPARE(label->objectName(), QStringLiteral("SFColorRGBALabel"));
+        QCOMPARE(label->objectName(), m_type + QStringLiteral("Label"));
         QCOMPARE(label->height(), 18);
         QCOMPARE(label->parentWidget(), m_run->frame());
     }
     for (const QLineEdit* const line : m_run->controls()) {
-        QCOMPARE(line->objectName(), QStringLiteral("SFColorRGBALine"));
+        QCOMPARE(line->objectName(), m_type + QStringLiteral("Line"));
         QCOMPARE(line->height(), 18);
         QCOMPARE(line->parentWidget(), m_run->frame());
     }
 }
 
-void tst_DvSFColorRGBAWidget::linesHaveNoValidator()
+void tst_ColorEditors::linesHaveNoValidator()
 {
     for (const QLineEdit* const line : m_run->controls())
         QVERIFY(line->validator() == nullptr);
 }
 
-void tst_DvSFColorRGBAWidget::loadedEditorShowsBlackAndZeros()
+void tst_ColorEditors::loadedEditorShowsBlackAndZeros()
 {
-    m_run.reset();
-    m_run = std::make_unique<ComponentRun>(std::make_unique<DvSFColorRGBAWidget>(), QStringLiteral("SFColorRGBA"));
+    make({});
     QCOMPARE(shown(), QColor(0, 0, 0, 255));
-    QCOMPARE(m_run->texts(), QStringList(4, QStringLiteral("0")));
+    QCOMPARE(m_run->texts(), QStringList(m_count, QStringLiteral("0")));
 }
 
-void tst_DvSFColorRGBAWidget::fieldIsShownFromTheBeginning()
+void tst_ColorEditors::fieldIsShownFromTheBeginning()
 {
     QCOMPARE(m_run->texts(), m_start.split(QLatin1Char(' ')));
-    QCOMPARE(shown(), QColor(127, 63, 0, 191));
+    QCOMPARE(shown(), startColor());
     for (const QLineEdit* const line : m_run->controls())
         QCOMPARE(line->cursorPosition(), 0);
     QVERIFY(!m_run->editor->edited());
     QCOMPARE(m_run->pushed(), 0);
 }
 
-void tst_DvSFColorRGBAWidget::typingChangesTheDisplayAtOnceAndTheFieldOnReturn()
+void tst_ColorEditors::typingChangesTheDisplayAtOnceAndTheFieldOnReturn()
 {
     m_run->type(2, QStringLiteral("1"));
     QCOMPARE(shown().blue(), 255);
@@ -142,12 +163,12 @@ void tst_DvSFColorRGBAWidget::typingChangesTheDisplayAtOnceAndTheFieldOnReturn()
     QCOMPARE(m_run->text(), m_start);
     QCOMPARE(m_run->pushed(), 0);
     m_run->press(2, Qt::Key_Return);
-    QCOMPARE(m_run->text(), QStringLiteral("0.5 0.25 1 0.75"));
+    QCOMPARE(m_run->text(), value("0.5 0.25 1", "0.75"));
     // Return itself, and then the line counts as finished with typed text in it.
     QCOMPARE(m_run->pushed(), 2);
 }
 
-void tst_DvSFColorRGBAWidget::leavingALineWritesWhatWasTyped()
+void tst_ColorEditors::leavingALineWritesWhatWasTyped()
 {
     m_run->controls().constFirst()->setFocus();
     m_run->press(0, Qt::Key_Tab);
@@ -155,30 +176,30 @@ void tst_DvSFColorRGBAWidget::leavingALineWritesWhatWasTyped()
     QCOMPARE(m_run->pushed(), 0);
     m_run->type(2, QStringLiteral("1"));
     m_run->press(2, Qt::Key_Tab);
-    QCOMPARE(m_run->text(), QStringLiteral("0.5 0.25 1 0.75"));
+    QCOMPARE(m_run->text(), value("0.5 0.25 1", "0.75"));
     QCOMPARE(m_run->pushed(), 1);
 }
 
-void tst_DvSFColorRGBAWidget::returnAlwaysPushes()
+void tst_ColorEditors::returnAlwaysPushes()
 {
     m_run->press(0, Qt::Key_Return);
-    m_run->press(4 - 1, Qt::Key_Return);
+    m_run->press(m_count - 1, Qt::Key_Return);
     QCOMPARE(m_run->pushed(), 2);
     QCOMPARE(m_run->text(), m_start);
 }
 
-void tst_DvSFColorRGBAWidget::undoWritesTheValueThatIsThere()
+void tst_ColorEditors::undoWritesTheValueThatIsThere()
 {
     m_run->type(2, QStringLiteral("1"));
     m_run->press(2, Qt::Key_Tab);
     m_run->lastCommand().undo();
-    QCOMPARE(m_run->text(), QStringLiteral("0.5 0.25 1 0.75"));
+    QCOMPARE(m_run->text(), value("0.5 0.25 1", "0.75"));
     m_run->set(m_start);
     m_run->lastCommand().redo();
-    QCOMPARE(m_run->text(), QStringLiteral("0.5 0.25 1 0.75"));
+    QCOMPARE(m_run->text(), value("0.5 0.25 1", "0.75"));
 }
 
-void tst_DvSFColorRGBAWidget::componentOutsideReachesTheFieldAndNotTheDisplay_data()
+void tst_ColorEditors::componentOutsideReachesTheFieldAndNotTheDisplay_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("lastRed"); // of the last colour on the way to that text
@@ -188,7 +209,7 @@ void tst_DvSFColorRGBAWidget::componentOutsideReachesTheFieldAndNotTheDisplay_da
     QTest::newRow("far below") << "-1e30" << 0;
 }
 
-void tst_DvSFColorRGBAWidget::componentOutsideReachesTheFieldAndNotTheDisplay()
+void tst_ColorEditors::componentOutsideReachesTheFieldAndNotTheDisplay()
 {
     QFETCH(QString, typed);
     QFETCH(int, lastRed);
@@ -196,7 +217,7 @@ void tst_DvSFColorRGBAWidget::componentOutsideReachesTheFieldAndNotTheDisplay()
     const QString expected = m_run->text();
     ToolHarness::pump();
     QCOMPARE(m_run->texts().constFirst().toFloat(), typed.toFloat());
-    QCOMPARE(shown(), QColor(127, 63, 0, 191));
+    QCOMPARE(shown(), startColor());
     m_run->set(m_start);
     ToolHarness::pump();
     m_run->type(0, typed);
@@ -206,7 +227,7 @@ void tst_DvSFColorRGBAWidget::componentOutsideReachesTheFieldAndNotTheDisplay()
     QCOMPARE(m_run->pushed(), 1);
 }
 
-void tst_DvSFColorRGBAWidget::textThatIsNoNumberReadsAsZero()
+void tst_ColorEditors::textThatIsNoNumberReadsAsZero()
 {
     m_run->type(1, QStringLiteral("green"));
     QCOMPARE(shown().green(), 0);
@@ -214,43 +235,44 @@ void tst_DvSFColorRGBAWidget::textThatIsNoNumberReadsAsZero()
     QCOMPARE(m_run->text().split(QLatin1Char(' ')).at(1), QStringLiteral("0"));
 }
 
-void tst_DvSFColorRGBAWidget::halfComesBackFromTheDialogAs127()
+void tst_ColorEditors::halfComesBackFromTheDialogAs127()
 {
     const ColorDialogDriver dialog = ColorDialogDriver::accepting();
     m_run->click("m_colorDisp");
     QCOMPARE(dialog.answered(), 1);
-    QCOMPARE(dialog.first, QColor(127, 63, 0, 191));
+    QCOMPARE(dialog.first, startColor());
     QCOMPARE(dialog.parent, m_run->editor->getFrame());
-    QCOMPARE(dialog.showsAlpha, true);
+    QCOMPARE(dialog.showsAlpha, m_hasOpacity);
     QCOMPARE(dialog.title, QStringLiteral("Select Color")); // its own, as it is given none
     QCOMPARE(m_run->texts().constFirst(), QStringLiteral("0.498039"));
     QCOMPARE(m_run->text().split(QLatin1Char(' ')).constFirst().toFloat(), 0.498039F);
     QCOMPARE(m_run->pushed(), 1);
 }
 
-void tst_DvSFColorRGBAWidget::choiceInTheDialogPushesOneCommand()
+void tst_ColorEditors::choiceInTheDialogPushesOneCommand()
 {
-    const ColorDialogDriver dialog = ColorDialogDriver::accepting(QColor(255, 0, 255, 102));
+    const QColor chosen = opaqueOr(102, {255, 0, 255});
+    const ColorDialogDriver dialog = ColorDialogDriver::accepting(chosen);
     m_run->click("m_colorDisp");
-    QCOMPARE(m_run->text(), QStringLiteral("1 0 1 0.4"));
-    QCOMPARE(shown(), QColor(255, 0, 255, 102));
+    QCOMPARE(m_run->text(), value("1 0 1", "0.4"));
+    QCOMPARE(shown(), chosen);
     QCOMPARE(m_run->pushed(), 1);
     ToolHarness::pump();
     QCOMPARE(m_run->pushed(), 1);
 }
 
-void tst_DvSFColorRGBAWidget::cancelledDialogChangesNothing()
+void tst_ColorEditors::cancelledDialogChangesNothing()
 {
     const ColorDialogDriver dialog = ColorDialogDriver::cancelling(QColor(255, 0, 51));
     m_run->click("m_colorDisp");
     QCOMPARE(dialog.answered(), 1);
     QCOMPARE(m_run->text(), m_start);
     QCOMPARE(m_run->texts(), m_start.split(QLatin1Char(' ')));
-    QCOMPARE(shown(), QColor(127, 63, 0, 191));
+    QCOMPARE(shown(), startColor());
     QCOMPARE(m_run->pushed(), 0);
 }
 
-void tst_DvSFColorRGBAWidget::everyByteComesBackFromTheDialogUnchanged()
+void tst_ColorEditors::everyByteComesBackFromTheDialogUnchanged()
 {
     for (const int byte : {0, 1, 51, 128, 255}) {
         const ColorDialogDriver dialog = ColorDialogDriver::accepting(QColor(byte, 0, 0));
@@ -260,48 +282,38 @@ void tst_DvSFColorRGBAWidget::everyByteComesBackFromTheDialogUnchanged()
     QCOMPARE(m_run->pushed(), 5);
 }
 
-void tst_DvSFColorRGBAWidget::changeFromOutsideIsFollowedWithoutACommand()
+void tst_ColorEditors::changeFromOutsideIsFollowedWithoutACommand()
 {
-    m_run->set(QStringLiteral("0 0 1 1"));
+    m_run->set(value("0 0 1", "1"));
     m_run->field->setIgnored(1);
     QCOMPARE(m_run->texts(), m_start.split(QLatin1Char(' ')));
     ToolHarness::pump();
-    QCOMPARE(m_run->texts(), QStringLiteral("0 0 1 1").split(QLatin1Char(' ')));
+    QCOMPARE(m_run->texts(), value("0 0 1", "1").split(QLatin1Char(' ')));
     QCOMPARE(shown(), QColor(0, 0, 255));
     QVERIFY(m_run->find<QPushButton>("m_ignoreButton")->isChecked());
     QCOMPARE(m_run->pushed(), 0);
 }
 
-void tst_DvSFColorRGBAWidget::refreshRoundsTheComponentsToSixDigits()
+void tst_ColorEditors::refreshRoundsTheComponentsToSixDigits()
 {
-    m_run->set(QStringLiteral("0.12345678 0 0 1"));
+    m_run->set(value("0.12345678 0 0", "1"));
     ToolHarness::pump();
     QCOMPARE(m_run->texts().constFirst(), QStringLiteral("0.123457"));
     m_run->press(1, Qt::Key_Return);
     QCOMPARE(m_run->text().split(QLatin1Char(' ')).constFirst().toFloat(), 0.123457F);
 }
 
-void tst_DvSFColorRGBAWidget::nullFieldIsLeftAlone()
+void tst_ColorEditors::nullFieldIsLeftAlone()
 {
-    m_run.reset();
-    m_run = std::make_unique<ComponentRun>(std::make_unique<DvSFColorRGBAWidget>(), QStringLiteral("SFColorRGBA"));
+    make({});
     m_run->editor->updateFromField();
     m_run->editor->applyChanges();
-    for (int index = 0; index < 4; ++index)
+    for (int index = 0; index < m_count; ++index)
         m_run->type(index, QStringLiteral("1"));
     m_run->press(0, Qt::Key_Return);
     QCOMPARE(shown(), QColor(255, 255, 255));
     QCOMPARE(m_run->pushed(), 0);
 }
 
-void tst_DvSFColorRGBAWidget::buttonsPushTheirCommands()
-{
-    m_run->click("m_ignoreButton");
-    QVERIFY(m_run->field->isIgnored());
-    m_run->click("m_defaultButton");
-    QCOMPARE(m_run->text(), QStringLiteral("0 0 0 1"));
-    QCOMPARE(m_run->pushed(), 2);
-}
-
-QTEST_MAIN(tst_DvSFColorRGBAWidget)
-#include "tst_DvSFColorRGBAWidget.moc"
+QTEST_MAIN(tst_ColorEditors)
+#include "tst_ColorEditors.moc"
