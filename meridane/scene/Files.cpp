@@ -6,9 +6,12 @@
 #include <climits>
 #include <cstdio>
 #include <exception>
+#include <functional>
+#include <string_view>
 #include <system_error>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -48,17 +51,61 @@ bool followLinks(std::string& path)
     return false;
 }
 
-/// Makes a new file beside the target, open for writing, with the permissions that new files get.
+/// The same for a file at each run, so that what a killed process left there is found again; short enough for a file
+/// whose own name is as long as names may be.
+std::string hiddenName(const std::string& target, int attempt)
+{
+    const std::string_view name = std::string_view(target).substr(target.rfind('/') + 1);
+    return folderOf(target) + "/.mrd-" + std::to_string(std::hash<std::string_view>()(name)) + '-'
+        + std::to_string(attempt) + ".tmp";
+}
+
+/// Removes a file of that name that its maker holds no lock on: it was killed before it was ready. True when the name
+/// is free.
+bool removeAbandoned(const std::string& name)
+{
+    const int descriptor = ::open(name.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return errno == ENOENT;
+    struct stat locked { };
+    struct stat named { };
+    // With the lock held, the name can't be one that another process is about to give to a finished file.
+    const bool abandoned = ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::fstat(descriptor, &locked) == 0
+        && ::lstat(name.c_str(), &named) == 0 && locked.st_ino == named.st_ino && locked.st_dev == named.st_dev
+        && S_ISREG(locked.st_mode) && locked.st_uid == ::geteuid();
+    const bool removed = abandoned && ::unlink(name.c_str()) == 0;
+    ::close(descriptor);
+    return removed;
+}
+
+/// Locks a file that was just made. False when somebody took it for abandoned in between. A file system without locks
+/// has no such people.
+bool lockNew(int descriptor)
+{
+    struct stat status { };
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0)
+        return errno != EWOULDBLOCK;
+    return ::fstat(descriptor, &status) == 0 && status.st_nlink > 0;
+}
+
+/// Makes a new file beside the target, open for writing, with the permissions that new files get, and locks it.
 int createBeside(const std::string& target, std::string& name)
 {
     constexpr int maxAttempts = 1000;
-    const std::string prefix = folderOf(target) + "/.mrd-" + std::to_string(::getpid()) + '-';
     for (int attempt = 0; attempt < maxAttempts; ++attempt) {
-        name = prefix + std::to_string(attempt) + ".tmp";
-        const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (descriptor >= 0 || errno != EEXIST)
+        name = hiddenName(target, attempt);
+        int descriptor = -1;
+        do {
+            descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+            if (descriptor < 0 && errno != EEXIST)
+                return -1;
+        } while (descriptor < 0 && removeAbandoned(name));
+        if (descriptor >= 0 && lockNew(descriptor))
             return descriptor;
+        if (descriptor >= 0)
+            ::close(descriptor);
     }
+    errno = EEXIST;
     return -1;
 }
 
@@ -133,10 +180,10 @@ std::optional<std::string> FileReader::read(std::string& bytes, std::size_t coun
 
 FileReplacer::~FileReplacer()
 {
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
     if (!m_temporary.empty())
         ::unlink(m_temporary.c_str());
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
 }
 
 std::optional<std::string> FileReplacer::open(const std::string& path)
@@ -184,13 +231,14 @@ std::optional<std::string> FileReplacer::commit()
 {
     if (::fsync(m_descriptor) != 0)
         return systemFailure(m_path);
+    // The lock goes with the descriptor, which must outlive the name.
+    if (std::rename(m_temporary.c_str(), m_target.c_str()) != 0)
+        return systemFailure(m_path);
+    m_temporary.clear();
     const int descriptor = m_descriptor;
     m_descriptor = -1;
     if (::close(descriptor) != 0)
         return systemFailure(m_path);
-    if (std::rename(m_temporary.c_str(), m_target.c_str()) != 0)
-        return systemFailure(m_path);
-    m_temporary.clear();
     if (!syncFolder(folderOf(m_target)))
         return systemFailure(m_path);
     return std::nullopt;

@@ -31,7 +31,8 @@ private:
 
 /// Replaces a file whole or not at all: writes a new file beside it, syncs it to the disk and renames it into place.
 /// The permissions of a file that is replaced are kept, and a symbolic link is followed. An object that is destroyed
-/// without `commit` leaves the old file as it was and no new one behind.
+/// without `commit` leaves the old file as it was and no new one behind. A process that is killed meanwhile leaves the
+/// old file as well, and a hidden one beside it that the next replacing of the same file removes.
 class FileReplacer {
 public:
     FileReplacer() = default;

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QTextStream>
 
+#include <csignal>
 #include <cstdio>
 #include <memory>
 
@@ -58,7 +59,12 @@ int runBatch(const CommandLine& commandLine, char** argv)
     QTextStream output(stdout);
     const auto failure = BatchRun(output).run(commandLine);
     output.flush();
-    return failure ? fail(*failure, statusFailed) : 0;
+    if (failure)
+        return fail(*failure, statusFailed);
+    // Whoever reads a file of half the output must not take it for the whole.
+    if (output.status() != QTextStream::Ok || std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+        return fail(QStringLiteral("standard output: %1").arg(qt_error_string()), statusFailed);
+    return 0;
 }
 
 int runWindow(const CommandLine& commandLine, char** argv)
@@ -77,6 +83,8 @@ int runWindow(const CommandLine& commandLine, char** argv)
 
 int main(int argc, char* argv[])
 {
+    // A file that outgrows the user's limit is a write error with a message, not the end of the process.
+    std::signal(SIGXFSZ, SIG_IGN);
     QCoreApplication::setApplicationName(QStringLiteral("orvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
     QStringList arguments;

@@ -40,14 +40,18 @@ private:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    [[nodiscard]] static Outcome run(const QStringList& arguments)
+    [[nodiscard]] static Outcome run(const QStringList& arguments, const QString& ahead = {})
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
             environment.remove(QLatin1String(name));
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(ORVANE_PROGRAM), QStringList{QStringLiteral("--no-settings")} + arguments);
+        // A shell that first does what a test wants to have done to it.
+        process.start(QStringLiteral("/bin/sh"),
+            QStringList{QStringLiteral("-c"), ahead + QStringLiteral(" exec \"$0\" \"$@\""),
+                QStringLiteral(ORVANE_PROGRAM), QStringLiteral("--no-settings")}
+                + arguments);
         if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
             return {};
         return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
@@ -189,6 +193,24 @@ private Q_SLOTS:
         const Outcome outcome = run({QStringLiteral("--list"), path(QStringLiteral("folder.mrd"))});
         QCOMPARE(outcome.status, 1);
         QVERIFY2(outcome.errors.contains("irectory"), outcome.errors.constData());
+    }
+
+    void aFileThatCanNotBeWrittenWholeStaysAsItWas()
+    {
+        const QString file = path(QStringLiteral("rig.mrd"));
+        const Outcome outcome = run({QStringLiteral("--export=") + file, file}, QStringLiteral("ulimit -f 0;"));
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.errors, "orvane: " + QFile::encodeName(file) + ": File too large\n");
+        QCOMPARE(read(QStringLiteral("rig.mrd")), scene);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+
+    void outputThatCanNotBeWrittenIsReported()
+    {
+        const Outcome outcome
+            = run({QStringLiteral("--list"), path(QStringLiteral("rig.mrd"))}, QStringLiteral("exec >/dev/full;"));
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.errors, QByteArray("orvane: standard output: No space left on device\n"));
     }
 
     void unusableArgumentsAreStatusTwo()

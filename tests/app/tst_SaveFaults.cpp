@@ -1,0 +1,175 @@
+#include "app/AppScenes.h"
+#include "app/SaveScene.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <random>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace {
+
+/// Lets no file of this process grow beyond that many bytes as long as it lives.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+        : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_old);
+        const rlimit limit{bytes, m_old.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_old);
+        std::signal(SIGXFSZ, m_oldHandler);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    struct rlimit m_old { };
+    void (*m_oldHandler)(int);
+};
+
+QByteArray textOf(const NxRef<NxGroup>& scene)
+{
+    return QByteArray::fromStdString(NxSceneWriter::toText(scene.get()));
+}
+
+} // namespace
+
+/// Saving while something goes wrong: the file is the old one or the new one, whole.
+class tst_SaveFaults : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+        m_fileName = m_folder->filePath(QStringLiteral("scene.mrd"));
+    }
+
+    void killedAtAnyMomentTheFileIsOldOrNew();
+    void whatAKilledProcessLeftIsRemovedByTheNextSave();
+    void aFileSystemThatRefusesKeepsTheOldFile_data();
+    void aFileSystemThatRefusesKeepsTheOldFile();
+    void aWriteErrorKeepsTheOldFile_data();
+    void aWriteErrorKeepsTheOldFile();
+
+private:
+    [[nodiscard]] QStringList entries() const
+    {
+        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_fileName;
+};
+
+// How many times stands in ORVANE_TEST_KILLS; `script/faults` kills a thousand times.
+void tst_SaveFaults::killedAtAnyMomentTheFileIsOldOrNew()
+{
+    const QByteArray first = textOf(SaveScene::named("first"));
+    const QByteArray second = textOf(SaveScene::named("second"));
+    bool given = false;
+    const int kills = qEnvironmentVariableIntValue("ORVANE_TEST_KILLS", &given);
+    std::mt19937 random(9);
+    int firsts = 0;
+    int duringASave = 0;
+    AppScenes::writeFile(m_fileName, second);
+    for (int kill = 0; kill < (given ? kills : 50); ++kill) {
+        QProcess process;
+        process.start(QStringLiteral(SAVE_UNDER_FAULT), {m_fileName, QStringLiteral("loop")});
+        QVERIFY(process.waitForReadyRead());
+        // A random moment of what it does is what this test is about.
+        ::usleep(std::uniform_int_distribution<unsigned>(0, 20000)(random));
+        QCOMPARE(process.state(), QProcess::Running);
+        process.kill();
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), SIGKILL);
+        const QByteArray content = AppScenes::readFile(m_fileName);
+        QVERIFY2(content == first || content == second, qPrintable(QStringLiteral("kill %1").arg(kill)));
+        firsts += content == first ? 1 : 0;
+        // What the last one left has been removed by the first save of this one.
+        QVERIFY(entries().size() <= 2);
+        duringASave += entries().size() == 2 ? 1 : 0;
+    }
+    qInfo("%d kills, %d of them while a file was written; the first scene was found %d times", given ? kills : 50,
+        duringASave, firsts);
+    QVERIFY(duringASave > 0);
+    QVERIFY(!SaveScene::save(SaveScene::named("first"), m_fileName));
+    QCOMPARE(entries(), QStringList(QStringLiteral("scene.mrd")));
+}
+
+void tst_SaveFaults::whatAKilledProcessLeftIsRemovedByTheNextSave()
+{
+    // Two files that are being written at once, and one that nobody will finish.
+    meridane::FileReplacer running;
+    QVERIFY(!running.open(m_fileName.toStdString()));
+    QVERIFY(!SaveScene::save(AppScenes::robot(), m_fileName));
+    const QStringList withHidden = entries();
+    QCOMPARE(withHidden.size(), 2);
+    AppScenes::writeFile(
+        m_folder->filePath(QString(withHidden[0]).replace(QStringLiteral("-0."), QStringLiteral("-1."))),
+        "the beginning of a scene");
+    QCOMPARE(entries().size(), 3);
+    QVERIFY(!SaveScene::save(AppScenes::robot(), m_fileName));
+    QCOMPARE(entries(), withHidden);
+    QVERIFY(!running.write("x", 1));
+    QVERIFY(!running.commit());
+    QCOMPARE(entries(), QStringList(QStringLiteral("scene.mrd")));
+    QCOMPARE(AppScenes::readFile(m_fileName), QByteArray("x"));
+}
+
+void tst_SaveFaults::aFileSystemThatRefusesKeepsTheOldFile_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("full") << QStringLiteral("size=8k") << QStringLiteral("No space left on device");
+    QTest::newRow("full of files") << QStringLiteral("nr_inodes=2") << QStringLiteral("No space left on device");
+    QTest::newRow("read only") << QStringLiteral("size=1m,then-ro") << QStringLiteral("Read-only file system");
+}
+
+void tst_SaveFaults::aFileSystemThatRefusesKeepsTheOldFile()
+{
+    QFETCH(QString, options);
+    QFETCH(QString, message);
+    QProcess process;
+    process.start(QStringLiteral(SAVE_UNDER_FAULT), {m_folder->path(), options});
+    QVERIFY(process.waitForFinished());
+    if (process.exitCode() == 77)
+        QSKIP("this machine lets nobody mount a file system");
+    QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts),
+        (QStringList{m_fileName + QStringLiteral(": ") + message, QStringLiteral("whole"), QStringLiteral("1")}));
+}
+
+void tst_SaveFaults::aWriteErrorKeepsTheOldFile_data()
+{
+    QTest::addColumn<rlim_t>("limit");
+    QTest::newRow("at once") << rlim_t{0};
+    QTest::newRow("in the middle") << rlim_t{5000};
+}
+
+void tst_SaveFaults::aWriteErrorKeepsTheOldFile()
+{
+    QFETCH(rlim_t, limit);
+    AppScenes::writeFile(m_fileName, AppScenes::robotText);
+    std::optional<QString> failure;
+    {
+        const FileSizeLimit files(limit);
+        failure = SaveScene::save(SaveScene::named("second"), m_fileName);
+    }
+    QCOMPARE(failure.value_or(QStringLiteral("no failure")), m_fileName + QStringLiteral(": File too large"));
+    QCOMPARE(AppScenes::readFile(m_fileName), QByteArray(AppScenes::robotText));
+    QCOMPARE(entries(), QStringList(QStringLiteral("scene.mrd")));
+}
+
+QTEST_GUILESS_MAIN(tst_SaveFaults)
+#include "tst_SaveFaults.moc"
