@@ -13,7 +13,13 @@ OrvDefaults::~OrvDefaults() = default;
 void OrvDefaults::load()
 {
     // An order of its own, which is what the host shows; it isn't bound to the order of declaration.
+    addExtension(&m_mfDouble);
     addExtension(&m_sfFilePathString); // ahead of the other editors of single values, unlike its declaration: meant
+    addExtension(&m_mfFloat);
+    addExtension(&m_mfInt32);
+    addExtension(&m_mfShort);
+    addExtension(&m_mfUInt32);
+    addExtension(&m_mfUShort);
     addExtension(&m_sfBitMask);
     addExtension(&m_sfBool);
     addExtension(&m_sfBox2f);

@@ -1,5 +1,11 @@
 #pragma once
 
+#include "FieldEditors/MFWidgets/DvMFDoubleWidget.h"
+#include "FieldEditors/MFWidgets/DvMFFloatWidget.h"
+#include "FieldEditors/MFWidgets/DvMFInt32Widget.h"
+#include "FieldEditors/MFWidgets/DvMFShortWidget.h"
+#include "FieldEditors/MFWidgets/DvMFUInt32Widget.h"
+#include "FieldEditors/MFWidgets/DvMFUShortWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBoolWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBox2fWidget.h"
@@ -42,6 +48,12 @@ public:
 private:
     // In this order the docks meet the editors, since they walk them by address; among editors of the same type the one
     // declared last wins.
+    DvMFDoubleWidget m_mfDouble;
+    DvMFFloatWidget m_mfFloat;
+    DvMFInt32Widget m_mfInt32;
+    DvMFShortWidget m_mfShort;
+    DvMFUInt32Widget m_mfUInt32;
+    DvMFUShortWidget m_mfUShort;
     DvSFBitMaskWidget m_sfBitMask;
     DvSFBoolWidget m_sfBool;
     DvSFBox2fWidget m_sfBox2f;

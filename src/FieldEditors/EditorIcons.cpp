@@ -1,7 +1,11 @@
 #include "FieldEditors/EditorIcons.h"
 
+#include "editor_icons/add_row.xpm"
+#include "editor_icons/delete_row.xpm"
 #include "editor_icons/edit.xpm"
 #include "editor_icons/ignore.xpm"
+#include "editor_icons/move_down.xpm"
+#include "editor_icons/move_up.xpm"
 #include "editor_icons/set_default.xpm"
 
 #include <QPixmap>
@@ -21,6 +25,26 @@ QPixmap ignoreIcon()
 QPixmap editIcon()
 {
     return QPixmap(edit_xpm);
+}
+
+QPixmap addRowIcon()
+{
+    return QPixmap(add_row_xpm);
+}
+
+QPixmap deleteRowIcon()
+{
+    return QPixmap(delete_row_xpm);
+}
+
+QPixmap moveUpIcon()
+{
+    return QPixmap(move_up_xpm);
+}
+
+QPixmap moveDownIcon()
+{
+    return QPixmap(move_down_xpm);
 }
 
 } // namespace orvane

@@ -10,5 +10,13 @@ namespace orvane {
 [[nodiscard]] QPixmap ignoreIcon();
 /// The icon of the button that opens the numbers of a value, 16 by 16 pixels.
 [[nodiscard]] QPixmap editIcon();
+/// The icon of "Add a row", 16 by 16 pixels.
+[[nodiscard]] QPixmap addRowIcon();
+/// The icon of "Delete current row", 16 by 16 pixels.
+[[nodiscard]] QPixmap deleteRowIcon();
+/// The icon of "Bring up current row", 16 by 16 pixels.
+[[nodiscard]] QPixmap moveUpIcon();
+/// The icon of "Bring down current row", 16 by 16 pixels.
+[[nodiscard]] QPixmap moveDownIcon();
 
 } // namespace orvane

@@ -2,6 +2,7 @@
 
 #include "FieldEditors/OrvFieldIgnoredCommand.h"
 #include "FieldEditors/OrvFieldSetDefaultCommand.h"
+#include "FieldEditors/OrvMFSetValueCommand.h"
 #include "FieldEditors/OrvSFSetValueCommand.h"
 
 #include "orvane/extender/OrvServices.h"
@@ -21,6 +22,12 @@ void pushSetValueCommand(NxField* field)
 void pushSetValueCommand(NxField* field, VbString& previousValue)
 {
     OrvServices::getInstance()->pushCommand(new OrvSFSetValueCommand(field, previousValue));
+}
+
+void pushSetRowCommand(NxMField* field, int row)
+{
+    VbString none;
+    OrvServices::getInstance()->pushCommand(new OrvMFSetValueCommand(field, row, none));
 }
 
 void writeFieldText(NxField* field, const VbString& text)

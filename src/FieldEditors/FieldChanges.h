@@ -1,6 +1,7 @@
 #pragma once
 
 class NxField;
+class NxMField;
 class VbString;
 
 // What a user's action does to a field: the field is written first, and only then is the command built and pushed. So a
@@ -13,6 +14,9 @@ void pushSetValueCommand(NxField* field);
 /// The same with a snapshot of the former value in text form, which is what undo writes. It serves one command and is
 /// null afterwards. An empty snapshot counts as none.
 void pushSetValueCommand(NxField* field, VbString& previousValue);
+
+/// Pushes the command of a row that has just been written to the list; its undo writes that same value.
+void pushSetRowCommand(NxMField* field, int row);
 
 /// Takes the value from its text form; a text that the field refuses leaves it as it was. Then pushes the command.
 void writeFieldText(NxField* field, const VbString& text);

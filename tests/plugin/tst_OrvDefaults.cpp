@@ -25,7 +25,13 @@ struct Entry {
 
 // In the order of registration.
 const QList<Entry> roster{
+    {QStringLiteral("MFDouble"), QStringLiteral("MFDouble")},
     {QStringLiteral("SFFilePathString"), QStringLiteral("SFFilePathString")},
+    {QStringLiteral("MFFloat"), QStringLiteral("MFFloat")},
+    {QStringLiteral("MFInt32"), QStringLiteral("MFInt32")},
+    {QStringLiteral("MFShort"), QStringLiteral("MFShort")},
+    {QStringLiteral("MFUInt32"), QStringLiteral("MFUInt32")},
+    {QStringLiteral("MFUShort"), QStringLiteral("MFUShort")},
     {QStringLiteral("SFBitMask"), QStringLiteral("SFBitMask")},
     {QStringLiteral("SFBool"), QStringLiteral("SFBool")},
     {QStringLiteral("SFBox2f"), QStringLiteral("SFBox2f")},

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QSpinBox>
+
+/// The spin box that names a row of a list, counted from 1.
+class AccessButtonPrivate final : public QSpinBox {
+    Q_OBJECT
+
+public:
+    AccessButtonPrivate(int minimum, int maximum, int step, QWidget* parent, const char* name);
+    AccessButtonPrivate(QWidget* parent, const char* name);
+
+public Q_SLOTS:
+    /// Shows the number of a row that is counted from 0.
+    void setNewValue(int value);
+
+protected:
+    /// Return goes to the row once more, although the number hasn't changed.
+    void keyPressEvent(QKeyEvent* event) override;
+};

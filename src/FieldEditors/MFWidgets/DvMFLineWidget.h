@@ -1,0 +1,28 @@
+#pragma once
+
+#include "FieldEditors/MFWidgets/DvMFieldWidget.h"
+
+/// The base of the editors of plain numbers: one column, and in it the text form of the row's value as the field
+/// writes it.
+///
+/// An edited cell goes to the field and nowhere else: no command is pushed, so it cannot be undone. That is meant.
+class DvMFLineWidget : public DvMFieldWidget {
+    Q_OBJECT
+
+public:
+    explicit DvMFLineWidget(const char* name = nullptr);
+    ~DvMFLineWidget() override;
+
+    void load() override;
+    /// Exchanges two rows without a command; does nothing if one of them doesn't exist.
+    void swapRows(int first, int second) override;
+    void reservedRowOperation() override;
+    /// Writes a row, whatever the column.
+    void setCellValue(int row, int column, QString value) override;
+    QString getCellValue(int row, int column) override;
+    bool prepareForField(NxField* field) override;
+
+protected:
+    /// Gives the table its one column and no rows.
+    void setUpTable();
+};

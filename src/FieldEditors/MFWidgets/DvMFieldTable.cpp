@@ -1,0 +1,237 @@
+#include "FieldEditors/MFWidgets/DvMFieldTable.h"
+
+#include "FieldEditors/DvSlider.h"
+#include "FieldEditors/MFWidgets/AccessButtonPrivate.h"
+#include "FieldEditors/MFWidgets/DvMFieldTableItemDelegate.h"
+#include "FieldEditors/MFWidgets/DvMFieldWidget.h"
+#include "FieldEditors/OrvMFAddRowsCommand.h"
+#include "FieldEditors/OrvMFDeleteRowsCommand.h"
+#include "FieldEditors/OrvMFSwapRowsCommand.h"
+
+#include "orvane/extender/OrvServices.h"
+
+#include <QCursor>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <cstdio>
+
+DvMFieldTable::DvMFieldTable(DvMFieldWidget* owner, QWidget* parent, const char* name)
+    : QTableWidget(parent)
+    , m_owner(owner)
+    , m_delegate(new DvMFieldTableItemDelegate(owner, this))
+{
+    setObjectName(QLatin1String(name != nullptr ? name : "DvMFieldTable"));
+    setItemDelegate(m_delegate);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setCurrentCell(0, 0);
+}
+
+DvMFieldTable::~DvMFieldTable()
+{
+    delete m_delegate;
+}
+
+void DvMFieldTable::setValueKind(int kind)
+{
+    m_delegate->setValueKind(kind);
+}
+
+void DvMFieldTable::setRealRange(double min, double max)
+{
+    m_delegate->setRealRange(min, max);
+}
+
+void DvMFieldTable::setRangeBounded(bool bounded)
+{
+    m_delegate->setRangeBounded(bounded);
+}
+
+void DvMFieldTable::setPlaceholder(int row, int column)
+{
+    // The table would neither show nor own an item for a cell that it doesn't have.
+    if (row >= 0 && row < rowCount() && column >= 0 && column < columnCount())
+        setItem(row, column, new QTableWidgetItem);
+}
+
+void DvMFieldTable::keyboardSearch(const QString& /*search*/) { }
+
+void DvMFieldTable::setNumRows(int row)
+{
+    if (row < 0)
+        return;
+    AccessButtonPrivate* const box = m_owner->accessBox();
+    box->setMinimum(row != 0 ? 1 : 0);
+    box->setMaximum(row);
+    setRowCount(row);
+}
+
+// The box counts rows from 1 and the swaps read it so, but its number comes in here as a row that is counted from 0. So
+// 1 goes to the second row, and the highest number nowhere. That is meant.
+void DvMFieldTable::showTableRow(int row)
+{
+    if (row < 0 || row >= rowCount())
+        return;
+    // Without a placeholder there is nothing to go to, and no cell is the current one from here on: meant.
+    QTableWidgetItem* const first = item(row, 0);
+    scrollToItem(first, QAbstractItemView::EnsureVisible);
+    setCurrentItem(first);
+}
+
+void DvMFieldTable::swapUpRow()
+{
+    const int row = m_owner->accessBox()->value() - 1;
+    std::fprintf(stderr, "DvMFieldTable::swapUpRow() %d\n", row); // stays, and comes also when nothing is swapped
+    if (row <= 0)
+        return;
+    commitOpenEditor();
+    swapRows(row, row - 1);
+    setCurrentCell(row - 1, 0);
+    m_owner->accessBox()->setNewValue(row - 1);
+}
+
+void DvMFieldTable::swapDownRow()
+{
+    const int value = m_owner->accessBox()->value();
+    const int row = value - 1;
+    std::fprintf(stderr, "DvMFieldTable::swapDownRow() %d\n", row); // stays, and comes also when nothing is swapped
+    if (row <= -1 || row >= rowCount() - 1)
+        return;
+    commitOpenEditor();
+    swapRows(row, value);
+    setCurrentCell(value, 0);
+    m_owner->accessBox()->setNewValue(value);
+}
+
+void DvMFieldTable::swapRows(int row1, int row2)
+{
+    if (m_owner->field() == nullptr)
+        return;
+    OrvServices::getInstance()->pushCommand(new OrvMFSwapRowsCommand(m_owner->field(), row1, row2));
+}
+
+void DvMFieldTable::addRow()
+{
+    if (m_owner->field() == nullptr)
+        return;
+    commitOpenEditor();
+    const int current = currentRow();
+    const int row = current + 1;
+    clearContents();
+    insertRow(row);
+    for (int column = 0; column < columnCount(); ++column)
+        setPlaceholder(row, column);
+    AccessButtonPrivate* const box = m_owner->accessBox();
+    const int maximum = box->maximum(); // ahead of the minimum, which would raise it
+    box->setMinimum(1);
+    box->setMaximum(maximum + 1);
+    OrvServices::getInstance()->pushCommand(new OrvMFAddRowsCommand(m_owner->field(), row, 1));
+    // The new row doesn't become the current one, and the table says itself that the current one changed: meant.
+    if (row < 1) {
+        setCurrentCell(row, 0);
+        Q_EMIT currentCellChanged(row, 0, 0, 0);
+    } else {
+        setCurrentCell(current, 0);
+        Q_EMIT currentCellChanged(current, 0, row, 0);
+    }
+}
+
+void DvMFieldTable::deleteRow()
+{
+    if (m_owner->field() == nullptr || rowCount() < 1)
+        return;
+    commitOpenEditor();
+    if (m_multiRowMode) {
+        deleteSelectedRows();
+        return;
+    }
+    const int row = currentRow();
+    if (row == -1)
+        return;
+    AccessButtonPrivate* const box = m_owner->accessBox();
+    box->setMaximum(box->maximum() - 1);
+    OrvServices::getInstance()->pushCommand(new OrvMFDeleteRowsCommand(m_owner->field(), row, 1));
+    if (rowCount() == 0)
+        box->setMinimum(0);
+    removeRow(row);
+}
+
+void DvMFieldTable::deleteSelectedRows()
+{
+    const QList<QTableWidgetSelectionRange> ranges = selectedRanges();
+    if (ranges.isEmpty())
+        return;
+    const int top = ranges.constFirst().topRow(); // the other ranges stay: meant
+    const int count = ranges.constFirst().bottomRow() - top + 1;
+    AccessButtonPrivate* const box = m_owner->accessBox();
+    box->setMaximum(box->maximum() - count);
+    OrvServices::getInstance()->pushCommand(new OrvMFDeleteRowsCommand(m_owner->field(), top, count));
+    if (rowCount() == 0)
+        box->setMinimum(0);
+    model()->removeRows(top, count, QModelIndex());
+}
+
+void DvMFieldTable::editorDestroyed(QObject* editor)
+{
+    if (editor == nullptr)
+        return;
+    if (const auto* const slider = qobject_cast<DvSlider*>(editor)) {
+        const QLineEdit* const line = slider->edit();
+        if (line->rect().contains(line->mapFromGlobal(QCursor::pos())) || line->hasFocus())
+            return;
+    }
+    QAbstractItemView::editorDestroyed(editor);
+}
+
+void DvMFieldTable::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Plus:
+        addRow();
+        break;
+    case Qt::Key_Minus:
+    case Qt::Key_Delete:
+        deleteRow();
+        break;
+    case Qt::Key_Shift:
+        setSelectionMode(QAbstractItemView::ContiguousSelection);
+        m_multiRowMode = true;
+        break;
+    default:
+        QAbstractItemView::keyPressEvent(event);
+        break;
+    }
+    event->accept();
+}
+
+void DvMFieldTable::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Shift) {
+        // So from the first Shift on nothing can be selected unless it is held: meant.
+        setSelectionMode(QAbstractItemView::NoSelection);
+        m_multiRowMode = false;
+    } else {
+        QWidget::keyReleaseEvent(event);
+    }
+    event->accept();
+}
+
+void DvMFieldTable::hideEvent(QHideEvent* event)
+{
+    // Another field may be selected next: what was typed belongs to this one.
+    commitOpenEditor();
+    QTableWidget::hideEvent(event);
+}
+
+// The editor of a cell that loses the focus writes what was typed. A change of rows would throw it away.
+void DvMFieldTable::commitOpenEditor()
+{
+    QWidget* const inCell = viewport()->focusWidget();
+    if (state() != EditingState || inCell == nullptr)
+        return;
+    if (isVisible())
+        setFocus();
+    else
+        inCell->clearFocus();
+}

@@ -1,0 +1,187 @@
+#include "FieldEditors/MFWidgets/DvMFieldTableItemDelegate.h"
+
+#include "FieldEditors/DvIntSlider.h"
+#include "FieldEditors/DvRealSlider.h"
+#include "FieldEditors/DvUIntSlider.h"
+#include "FieldEditors/MFWidgets/CellText.h"
+#include "FieldEditors/MFWidgets/DvMFieldWidget.h"
+#include "FieldEditors/MFWidgets/QUIntValidator.h"
+#include "FieldEditors/MFWidgets/QULongValidator.h"
+
+#include <QDoubleValidator>
+#include <QIntValidator>
+#include <QLineEdit>
+#include <QPainter>
+#include <QTableWidget>
+
+#include <limits>
+
+DvMFieldTableItemDelegate::DvMFieldTableItemDelegate(DvMFieldWidget* owner, QObject* table)
+    : QItemDelegate(table)
+    , m_owner(owner)
+{
+}
+
+DvMFieldTableItemDelegate::~DvMFieldTableItemDelegate() = default;
+
+void DvMFieldTableItemDelegate::setRealRange(double min, double max)
+{
+    m_realMin = min;
+    m_realMax = max;
+}
+
+void DvMFieldTableItemDelegate::paint(
+    QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    painter->save();
+    if (option.state.testFlag(QStyle::State_Selected))
+        painter->fillRect(option.rect, option.palette.brush(QPalette::Current, QPalette::Highlight));
+    const QString text = m_owner->getCellValue(index.row(), index.column());
+    // Centred in every table, and in the same pen when the cell is selected: meant.
+    painter->drawText(
+        option.rect, Qt::AlignCenter, orvane::fittingText(text, painter->fontMetrics(), option.rect.width() - 4));
+    painter->restore();
+}
+
+QWidget* DvMFieldTableItemDelegate::createEditor(
+    QWidget* parent, const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const
+{
+    const QString text = m_owner->getCellValue(index.row(), index.column());
+    QWidget* editor = nullptr;
+    if (index.column() == 0 && index.model()->columnCount() == 1)
+        editor = makeSlider(parent, index.row(), text);
+    if (editor == nullptr)
+        editor = makeLine(parent, text);
+    editor->setFocusPolicy(Qt::StrongFocus);
+    return editor;
+}
+
+QWidget* DvMFieldTableItemDelegate::makeLine(QWidget* parent, const QString& text) const
+{
+    auto* const line = new QLineEdit(parent);
+    line->setObjectName(QStringLiteral("qt_lineeditor"));
+    line->setFrame(false);
+    line->setMaxLength(std::numeric_limits<int>::max()); // a text that is cut here would be cut in the field
+    line->setText(text);
+    installValidator(line);
+    return line;
+}
+
+QWidget* DvMFieldTableItemDelegate::makeSlider(QWidget* parent, int row, const QString& text) const
+{
+    constexpr int mode = DvSlider::TableCell;
+    switch (m_valueKind) {
+    case 1:
+    case 5: {
+        auto* const slider = new DvIntSlider(m_valueKind == 1 ? 3 : 1, mode, m_owner, parent, row, 0);
+        slider->setRange(m_intMin, m_intMax, m_bounded);
+        slider->setValueText(text);
+        return slider;
+    }
+    case 2:
+    case 6: {
+        auto* const slider = new DvUIntSlider(m_valueKind == 2 ? 4 : 2, mode, m_owner, parent, row, 0);
+        slider->setRange(static_cast<unsigned>(m_intMin), static_cast<unsigned>(m_intMax), m_bounded);
+        slider->setValueText(text);
+        return slider;
+    }
+    case 7: {
+        // The row stands where the precision is selected, and the cell is given as row 0, column 1. So the first row
+        // gets a slider of double precision, and every row's slider writes the first value of the field. That is meant.
+        auto* const slider = new DvRealSlider(mode, m_owner, parent, row != 0, 0, 1);
+        slider->setRange(m_realMin, m_realMax, m_bounded);
+        slider->setValue(static_cast<double>(text.toFloat()));
+        return slider;
+    }
+    default:
+        return nullptr;
+    }
+}
+
+void DvMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    const QString text = m_owner->getCellValue(index.row(), index.column());
+    if (auto* const line = qobject_cast<QLineEdit*>(editor)) {
+        line->setText(text);
+        return;
+    }
+    switch (m_valueKind) {
+    case 1:
+    case 2:
+    case 5:
+    case 6:
+        static_cast<DvSlider*>(editor)->setValueText(text);
+        break;
+    case 7:
+        static_cast<DvRealSlider*>(editor)->setValue(static_cast<double>(text.toFloat()));
+        break;
+    default:
+        break;
+    }
+}
+
+void DvMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
+{
+    if (editor == nullptr)
+        return;
+    auto* const table = static_cast<QTableWidget*>(parent());
+    const bool hadFocus = editor->hasFocus();
+    table->setCellWidget(index.row(), index.column(), nullptr);
+    auto* const line = qobject_cast<QLineEdit*>(editor);
+    if (line == nullptr) {
+        QItemDelegate::setModelData(editor, model, index);
+        return;
+    }
+    if (hadFocus && table->isVisible())
+        table->setFocus(); // the line stays until the event loop deletes it, and keys would go on into it
+    if (!line->isModified())
+        return;
+    QString text = line->text();
+    int position = 0;
+    const QValidator* const validator = line->validator();
+    if (validator == nullptr || validator->validate(text, position) == QValidator::Acceptable)
+        m_owner->setCellValue(index.row(), index.column(), text);
+    // What the validator holds back stands in the item only, where nobody sees it: meant.
+    model->setData(index, text, Qt::DisplayRole);
+}
+
+void DvMFieldTableItemDelegate::updateEditorGeometry(
+    QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const
+{
+    editor->setGeometry(option.rect);
+}
+
+void DvMFieldTableItemDelegate::installValidator(QLineEdit* edit) const
+{
+    using Short = std::numeric_limits<short>;
+    using Int = std::numeric_limits<int>;
+    constexpr auto floatLimit = static_cast<double>(std::numeric_limits<float>::max());
+    switch (m_valueKind) {
+    case 1:
+        edit->setValidator(new QIntValidator(-Short::max(), Short::max(), edit)); // one short of the lowest: meant
+        break;
+    case 2:
+        edit->setValidator(new QIntValidator(0, std::numeric_limits<unsigned short>::max(), edit));
+        break;
+    case 3:
+        edit->setValidator(new QIntValidator(edit));
+        break;
+    case 4:
+        edit->setValidator(new QUIntValidator(0, std::numeric_limits<unsigned>::max(), edit));
+        break;
+    case 5:
+        edit->setValidator(new QIntValidator(-Int::max(), Int::max(), edit)); // one short of the lowest: meant
+        break;
+    case 6:
+        edit->setValidator(new QULongValidator(0, std::numeric_limits<unsigned>::max(), edit));
+        break;
+    case 7:
+        edit->setValidator(new QDoubleValidator(-floatLimit, floatLimit, 6, edit));
+        break;
+    case 8:
+        edit->setValidator(new QDoubleValidator(edit));
+        break;
+    default:
+        break;
+    }
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QItemDelegate>
+
+class DvMFieldWidget;
+class QLineEdit;
+
+/// Paints the cells of a row table with the texts of its owner, and makes their editors.
+///
+/// What a cell takes follows from the value kind: 0 any text, 1 and 2 numbers of 16 bits with and without sign, 5 and 6
+/// the same of 32 bits, 7 a float, 8 a double; 3 and 4, two more kinds of 32 bits, are free for editors to come. In a
+/// table of one column the kinds 1, 2, 5, 6 and 7 are edited with a slider, everything else in a line.
+class DvMFieldTableItemDelegate : public QItemDelegate {
+    Q_OBJECT
+
+public:
+    /// `table` is the delegate's parent. `owner` isn't owned and outlives the delegate.
+    DvMFieldTableItemDelegate(DvMFieldWidget* owner, QObject* table);
+    ~DvMFieldTableItemDelegate() override;
+
+    void setValueKind(int kind) { m_valueKind = kind; }
+    void setRealRange(double min, double max);
+    void setRangeBounded(bool bounded) { m_bounded = bounded; }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    /// Writes a changed line that its validator accepts to the field. A slider has written it already.
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+    void updateEditorGeometry(
+        QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+public Q_SLOTS:
+    /// Gives a line the validator of the value kind, which the line owns.
+    virtual void installValidator(QLineEdit* edit) const;
+
+protected:
+    DvMFieldWidget* m_owner;
+    int m_valueKind = 0;
+    int m_intMax = 10;
+    int m_intMin = 0;
+    double m_realMax = 10.0;
+    double m_realMin = 0.0;
+    bool m_bounded = false;
+
+private:
+    [[nodiscard]] QWidget* makeLine(QWidget* parent, const QString& text) const;
+    [[nodiscard]] QWidget* makeSlider(QWidget* parent, int row, const QString& text) const;
+};

@@ -1,0 +1,38 @@
+#include "FieldEditors/OrvMFAddRowsCommand.h"
+
+#include "FieldEditors/RowChanges.h"
+
+#include "meridane/base/VbString.h"
+#include "meridane/scene/NxMField.h"
+
+OrvMFAddRowsCommand::OrvMFAddRowsCommand(NxMField* field, int start, int count)
+    : m_field(field)
+    , m_start(start)
+    , m_count(count)
+{
+}
+
+OrvMFAddRowsCommand::~OrvMFAddRowsCommand() = default;
+
+void OrvMFAddRowsCommand::execute()
+{
+    m_added = orvane::openRows(*m_field, m_start, m_count);
+    if (m_added) {
+        // A string takes it as empty. Other kinds mostly refuse it and keep what the new row holds. That is meant.
+        const VbString empty("\"\"");
+        for (int row = m_start; row < m_start + m_count; ++row)
+            m_field->set1(row, empty);
+    }
+    m_field->valueChanged(0, m_field->getNum(), 1);
+}
+
+void OrvMFAddRowsCommand::undo()
+{
+    if (m_added)
+        m_field->deleteValues(m_start, m_count);
+}
+
+void OrvMFAddRowsCommand::redo()
+{
+    execute();
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "orvane/extender/OrvCommand.h"
+
+#include "meridane/base/VbString.h"
+
+class NxMField;
+
+/// A row that the caller has written before it built this command, so undo writes the value that stands there already.
+/// That is meant: the command has no memory of what was there before. The field isn't owned and must outlive the
+/// command.
+class OrvMFSetFieldValueCommand final : public OrvCommand {
+public:
+    OrvMFSetFieldValueCommand(NxMField* field, int row);
+
+    /// Does nothing: the field is written.
+    void execute() override;
+    void undo() override;
+    void redo() override;
+    ~OrvMFSetFieldValueCommand() override;
+
+private:
+    NxMField* m_field;
+    int m_row;
+    VbString m_oldValue;
+    VbString m_newValue;
+};
