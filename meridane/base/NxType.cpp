@@ -7,6 +7,7 @@
 #include <memory>
 #include <mutex>
 #include <unordered_map>
+#include <utility>
 
 namespace {
 
@@ -44,15 +45,18 @@ public:
         auto& chunk = m_chunks[position / chunkSize];
         if (!chunk)
             chunk = std::make_unique<Chunk>();
+        std::vector<std::uint32_t> lineage;
+        if (parentRecord != nullptr)
+            lineage = parentRecord->lineage;
+        lineage.push_back(position + 1);
+        byName.insert_or_assign(name.getString(), position + 1);
+        // Memory can't run out any more: there is a whole record or none.
         ClassRecord& record = (*chunk)[position % chunkSize];
         record.name = name;
         record.parent = parent;
         record.factory = factory;
-        if (parentRecord != nullptr)
-            record.lineage = parentRecord->lineage;
-        record.lineage.push_back(position + 1);
+        record.lineage = std::move(lineage);
         m_count.store(position + 1, std::memory_order_release);
-        byName[name.getString()] = position + 1;
         return position + 1;
     }
 

@@ -7,14 +7,23 @@
 
 namespace {
 
-// The class that is being described on this thread, and the instance that its fields belong to. The instance may make
-// other containers, whose fields don't count; describing their classes nests.
-struct Collector {
-    NxFieldData* data = nullptr;
-    const NxFieldContainer* container = nullptr;
-};
+// The description that is being made on this thread. Describing other classes meanwhile nests.
+constinit thread_local NxFieldData* collector = nullptr;
 
-constinit thread_local Collector collector;
+// Makes a description the collecting one as long as it lives, also when the making of the instance fails.
+class Collecting {
+public:
+    explicit Collecting(NxFieldData* data)
+        : m_outer(std::exchange(collector, data))
+    {
+    }
+    ~Collecting() { collector = m_outer; }
+    Collecting(const Collecting&) = delete;
+    Collecting& operator=(const Collecting&) = delete;
+
+private:
+    NxFieldData* m_outer;
+};
 
 // Where a field stands relative to its container. Both are parts of one object, but not as the language's arrays are.
 std::ptrdiff_t offsetOf(const NxFieldContainer* container, const NxField* field)
@@ -26,10 +35,11 @@ std::ptrdiff_t offsetOf(const NxFieldContainer* container, const NxField* field)
 
 NxFieldData::NxFieldData(NxFieldContainer* (*create)())
 {
-    const Collector outer = std::exchange(collector, Collector{this, nullptr});
+    const Collecting collecting(this);
     m_prototype = create();
+    // The making of the instance may make other containers, before and within; their fields don't count.
+    std::erase_if(m_fields, [this](const Entry& entry) { return entry.container != m_prototype; });
     m_prototype->ref();
-    collector = outer;
 }
 
 NxFieldData::~NxFieldData()
@@ -37,17 +47,17 @@ NxFieldData::~NxFieldData()
     m_prototype->unref();
 }
 
-void NxFieldData::collectContainer(NxFieldContainer* container)
+void NxFieldData::collectContainer(const NxFieldContainer* container)
 {
-    if (collector.data != nullptr && collector.container == nullptr)
-        collector.container = container;
+    // What stood here before is gone.
+    if (collector != nullptr)
+        std::erase_if(collector->m_fields, [&](const Entry& entry) { return entry.container == container; });
 }
 
 void NxFieldData::collectField(const NxFieldContainer* container, const NxField* field, const char* name)
 {
-    if (collector.data == nullptr || container == nullptr || container != collector.container)
-        return;
-    collector.data->m_fields.push_back({VbName(name), offsetOf(container, field)});
+    if (collector != nullptr && container != nullptr)
+        collector->m_fields.push_back({VbName(name), offsetOf(container, field), container});
 }
 
 int NxFieldData::getIndex(const NxFieldContainer* container, const NxField* field) const

@@ -14,7 +14,8 @@ class NxFieldContainer;
 /// Fields stand in the order of declaration, those of base classes first.
 class NxFieldData {
 public:
-    /// Makes an instance with `create` and describes it. The instance is kept.
+    /// Makes an instance with `create` and describes it. The instance is kept. What `create` throws goes on to the
+    /// caller, and nothing is left of the try.
     explicit NxFieldData(NxFieldContainer* (*create)());
     ~NxFieldData();
     NxFieldData(const NxFieldData&) = delete;
@@ -39,10 +40,11 @@ private:
     struct Entry {
         VbName name;
         std::ptrdiff_t offset; // from the container to the field
+        const NxFieldContainer* container; // that it was collected from
     };
 
     /// Called by the constructors of container and fields while an instance is being described.
-    static void collectContainer(NxFieldContainer* container);
+    static void collectContainer(const NxFieldContainer* container);
     static void collectField(const NxFieldContainer* container, const NxField* field, const char* name);
 
     std::vector<Entry> m_fields;

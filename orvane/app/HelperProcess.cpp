@@ -4,6 +4,7 @@
 #include <QDir>
 
 #include <csignal>
+#include <new>
 
 namespace {
 
@@ -14,11 +15,12 @@ QString helperProgram(const HelperOptions& options)
         : options.program;
 }
 
+constexpr qsizetype longestMessage = 2000;
+
 // The last line that isn't blank: earlier ones are the chatter of a library.
 QString lastLine(const QByteArray& bytes)
 {
-    constexpr qsizetype longest = 2000;
-    const QStringList lines = QString::fromUtf8(bytes.right(longest)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList lines = QString::fromUtf8(bytes).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     return lines.isEmpty() ? QString() : lines.last().simplified();
 }
 
@@ -34,6 +36,7 @@ HelperProcess::HelperProcess(const HelperOptions& options, const QStringList& ar
     m_deadline.setSingleShot(true);
     m_deadline.setInterval(options.timeLimit);
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &HelperProcess::takeOutputOfProcess);
+    connect(&m_process, &QProcess::readyReadStandardError, this, &HelperProcess::takeMessagesOfProcess);
     connect(&m_process, &QProcess::finished, this, &HelperProcess::takeEnd);
     // Queued, since a process that can't be started may say so at once.
     connect(&m_process, &QProcess::errorOccurred, this, &HelperProcess::takeError, Qt::QueuedConnection);
@@ -97,19 +100,31 @@ std::string HelperProcess::takeOutput()
 void HelperProcess::takeOutputOfProcess()
 {
     m_patience.start();
-    const QByteArray bytes = m_process.readAllStandardOutput();
-    m_output.append(bytes.data(), static_cast<std::size_t>(bytes.size()));
+    try {
+        const QByteArray bytes = m_process.readAllStandardOutput();
+        m_output.append(bytes.data(), static_cast<std::size_t>(bytes.size()));
+    } catch (const std::bad_alloc&) {
+        fail(QStringLiteral("what the import helper wrote doesn't fit in memory"));
+        return;
+    }
     if (m_output.size() > m_options.outputLimit)
         fail(QStringLiteral("the import helper wrote more than %1 MiB and was stopped")
                  .arg(m_options.outputLimit >> 20));
 }
 
+void HelperProcess::takeMessagesOfProcess()
+{
+    // However much it says, the end is kept.
+    m_messages = (m_messages + m_process.readAllStandardError()).right(longestMessage);
+}
+
 void HelperProcess::takeEnd(int exitCode, QProcess::ExitStatus status)
 {
     takeOutputOfProcess();
+    takeMessagesOfProcess();
     if (m_ended)
         return;
-    const QString message = lastLine(m_process.readAllStandardError());
+    const QString message = lastLine(m_messages);
     if (status == QProcess::CrashExit) {
         fail(crashReason(exitCode));
     } else if (exitCode != 0 && !message.isEmpty()) {
@@ -135,6 +150,7 @@ void HelperProcess::takeError(QProcess::ProcessError error)
 void HelperProcess::fail(const QString& reason, bool byHelper)
 {
     kill();
+    m_output = {};
     Q_EMIT failed(reason, byHelper);
 }
 

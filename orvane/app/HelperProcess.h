@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QProcess>
 #include <QString>
@@ -60,6 +61,7 @@ Q_SIGNALS:
 
 private:
     void takeOutputOfProcess();
+    void takeMessagesOfProcess();
     void takeEnd(int exitCode, QProcess::ExitStatus status);
     void takeError(QProcess::ProcessError error);
     void fail(const QString& reason, bool byHelper = false);
@@ -71,5 +73,6 @@ private:
     QTimer m_patience;
     QTimer m_deadline;
     std::string m_output;
+    QByteArray m_messages; // the end of what it said on standard error
     bool m_ended = false;
 };

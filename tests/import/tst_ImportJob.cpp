@@ -150,6 +150,10 @@ void tst_ImportJob::everyFailureOfTheHelperIsOneMessage_data()
     const QString noScene = QStringLiteral("the import helper gave something that is no scene: ");
     QTest::newRow("garbage") << QByteArray("echo garbage") << noScene;
     QTest::newRow("nothing") << QByteArray("exit 0") << noScene;
+    QTest::newRow("zeros") << QByteArray("head -c 100000 /dev/zero") << noScene;
+    QTest::newRow("a newer format") << QByteArray("echo '#mrd 9.0'") << noScene;
+    QTest::newRow("nodes in nodes without end")
+        << QByteArray("echo '#mrd 1.0'; yes 'Group {' | head -n 1000000") << noScene;
     QTest::newRow("half a scene") << QByteArray("printf '#mrd 1.0\\nGroup {\\n  Mesh {'") << noScene;
     QTest::newRow("half a scene, then a crash") << QByteArray("printf '#mrd 1.0\\nGroup {\\n'; kill -SEGV $$")
                                                 << QStringLiteral("the import helper crashed with signal 11");

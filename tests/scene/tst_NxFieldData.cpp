@@ -5,6 +5,39 @@
 
 #include <QTest>
 
+#include <new>
+
+namespace {
+
+// A class whose constructor fails when it is told to, behind its fields.
+class FailingNode : public ProbeNode {
+public:
+    FailingNode()
+    {
+        if (fails)
+            throw std::bad_alloc();
+    }
+
+    static inline bool fails = true;
+    NxSFFloat extra{this, "extra"};
+};
+
+NxFieldContainer* makeFailingNode()
+{
+    return new FailingNode;
+}
+
+NxFieldContainer* makeAnotherNodeFirst()
+{
+    const NxRef<ProbeNode> another(new ProbeNode);
+    { // its place may be the instance's
+        const NxRef<ExtendedProbeNode> gone(new ExtendedProbeNode);
+    }
+    return new ExtendedProbeNode;
+}
+
+} // namespace
+
 class tst_NxFieldData : public QObject {
     Q_OBJECT
 
@@ -12,6 +45,8 @@ private Q_SLOTS:
     void aClassHasOneDescription();
     void fieldsOfBaseClassesComeFirst();
     void anotherNodeMadeMeanwhileAddsNoFields();
+    void anotherNodeMadeAheadAddsNoFields();
+    void aConstructorThatThrowsLeavesNothingBehind();
     void theSameIndexGivesTheOtherInstancesField();
     void unknownFieldsAndIndicesGiveNothing();
     void theDefaultsAreThoseOfANewNode();
@@ -50,6 +85,25 @@ void tst_NxFieldData::anotherNodeMadeMeanwhileAddsNoFields()
     NxSFFloat lone(node.get(), "late");
     QCOMPARE(node->getFieldData()->getNumFields(), 5);
     QCOMPARE(node->getFieldData()->getIndex(VbName("late")), -1);
+}
+
+void tst_NxFieldData::anotherNodeMadeAheadAddsNoFields()
+{
+    const NxFieldData data(&makeAnotherNodeFirst);
+    QCOMPARE(data.getNumFields(), 5);
+    QVERIFY(data.getFieldName(4) == VbName("last"));
+}
+
+void tst_NxFieldData::aConstructorThatThrowsLeavesNothingBehind()
+{
+    FailingNode::fails = true;
+    QVERIFY_THROWS_EXCEPTION(std::bad_alloc, [[maybe_unused]] const NxFieldData failed(&makeFailingNode));
+    // Nobody collects any more.
+    const NxRef<ProbeNode> node(new ProbeNode);
+    FailingNode::fails = false;
+    const NxFieldData data(&makeFailingNode);
+    QCOMPARE(data.getNumFields(), 4);
+    QVERIFY(data.getFieldName(3) == VbName("extra"));
 }
 
 void tst_NxFieldData::theSameIndexGivesTheOtherInstancesField()
