@@ -2,11 +2,33 @@
 
 #include "orvane/extender/OrvProfile.h"
 
+#include "meridane/scene/Files.h"
+#include "meridane/scene/NxGroup.h"
+#include "meridane/scene/NxSceneReader.h"
+
 #include <QToolBar>
 
 namespace bench {
 
+namespace {
+
+NxRef<NxFieldGallery> readGallery()
+{
+    std::string text;
+    if (meridane::readFile(GALLERY_FILE, text))
+        qFatal("%s can't be read", GALLERY_FILE);
+    NxSceneReader reader(std::move(text), GALLERY_FILE);
+    reader.run();
+    const NxRef<NxGroup> scene = reader.takeScene();
+    if (!scene)
+        qFatal("%s is no scene", GALLERY_FILE);
+    return dynamic_cast<NxFieldGallery*>(scene->getChild(0));
+}
+
+} // namespace
+
 EditorHost::EditorHost()
+    : node(readGallery())
 {
     if (const auto error = m_manager.addPlugin(&plugin))
         qFatal("%s", qUtf8Printable(*error));

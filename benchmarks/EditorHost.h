@@ -13,7 +13,7 @@
 namespace bench {
 
 /// The host framework with the default plug-in, of which the dock of field editors runs and controls every editor, and
-/// a node with a field of every class.
+/// the node of the gallery with a field of every class.
 class EditorHost final : public OrvShell {
 public:
     EditorHost();
@@ -33,7 +33,7 @@ public:
     DockWindow window;
     OrvDefaults plugin;
     QDockWidget* dock = nullptr;
-    NxRef<NxFieldGallery> node = new NxFieldGallery;
+    NxRef<NxFieldGallery> node;
 
 private:
     OrvPluginsManager m_manager;

@@ -9,10 +9,13 @@
 #include "orvane/extender/VbText.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QSlider>
 #include <QTest>
+
+#include <optional>
 
 #include <malloc.h>
 
@@ -29,31 +32,95 @@ void exchange(QDockWidget* dock, QWidget* frame)
     frame->show();
 }
 
+/// The classes of all that can be seen in a frame, in the order of their making.
+QStringList controlsOf(const QWidget* frame)
+{
+    QStringList classes;
+    for (const QWidget* const child : frame->findChildren<QWidget*>()) {
+        if (child->isVisibleTo(frame))
+            classes << QString::fromLatin1(child->metaObject()->className());
+    }
+    return classes;
+}
+
+/// Bare check boxes in the place of those of a ready frame, made anew for each exchange: an editor whose boxes bear the
+/// names of its field has none until it gets the field.
+class FreshBoxes {
+public:
+    explicit FreshBoxes(const QWidget* frame)
+        : m_ready(frame->findChildren<QCheckBox*>())
+    {
+        m_column = m_ready.constFirst()->parentWidget()->layout()->itemAt(0)->layout();
+        for (QCheckBox* const box : m_ready) {
+            m_column->removeWidget(box);
+            box->hide();
+        }
+    }
+    FreshBoxes(const FreshBoxes&) = delete;
+    FreshBoxes& operator=(const FreshBoxes&) = delete;
+    ~FreshBoxes() { remove(); }
+
+    void remove()
+    {
+        for (QCheckBox* const box : m_fresh) {
+            m_column->removeWidget(box);
+            delete box;
+        }
+        m_fresh.clear();
+    }
+    void make()
+    {
+        for (const QCheckBox* const ready : m_ready) {
+            auto* const box = new QCheckBox(ready->text(), ready->parentWidget());
+            box->setChecked(ready->isChecked());
+            m_column->addWidget(box);
+            m_fresh << box;
+        }
+    }
+
+private:
+    QList<QCheckBox*> m_ready;
+    QList<QCheckBox*> m_fresh;
+    QLayout* m_column = nullptr;
+};
+
 /// An editor against the frame of its twin, which has shown the field before.
-void measureSelection(EditorHost& host, OrvEditor& editor, OrvEditor& twin, QDockWidget* dock, QWidget* otherFrame)
+void measureSelection(EditorHost& host, OrvEditor& editor, OrvEditor& twin, QDockWidget* dock, OrvEditor& otherTwin)
 {
     NxField* const field = host.fieldOf(editor);
+    NxField* const otherField = host.fieldOf(otherTwin);
     if (field == nullptr)
         return;
     twin.setEditedObject(field);
     twin.activate();
     twin.deactivate();
     QWidget* const readyFrame = twin.getWidget();
+    std::optional<FreshBoxes> boxes;
+    if (editor.getHandledType() == NxSFBitMask::getClassTypeId())
+        boxes.emplace(readyFrame);
     bench::compare(
         "field selected to editor painted: " + std::string(editor.getName().toUtf8()), 1.3, rounds,
         [&] {
-            host.services.selectField(&host.node->sfName);
+            host.services.selectField(otherField);
             bench::settle();
             return bench::secondsToPainted(editor.getWidget(), [&] { host.services.selectField(field); });
         },
         [&] {
-            exchange(dock, otherFrame);
+            exchange(dock, otherTwin.getWidget());
+            if (boxes)
+                boxes->remove();
             bench::settle();
-            return bench::secondsToPainted(readyFrame, [&] { exchange(dock, readyFrame); });
+            return bench::secondsToPainted(readyFrame, [&] {
+                if (boxes)
+                    boxes->make();
+                exchange(dock, readyFrame);
+            });
         });
+    if (controlsOf(editor.getWidget()) != controlsOf(readyFrame))
+        qFatal("the twin of %s has other controls", editor.getName().toUtf8());
 }
 
-/// All editors, each one in turn with the editor of names.
+/// All editors, each one in turn with the editor of names, and that one with the editor of texts.
 void measureSelections(EditorHost& host)
 {
     OrvDefaults twins;
@@ -61,24 +128,28 @@ void measureSelections(EditorHost& host)
     bench::DockWindow window;
     QDockWidget* const dock = window.addDock();
     window.show();
-    QWidget* otherFrame = nullptr;
-    QList<QPair<OrvEditor*, OrvEditor*>> pairs;
+    const auto twinFor = [&twins](const NxType& type) {
+        for (OrvExtension* const extension : twins.getExtensions()) {
+            auto* const editor = dynamic_cast<OrvEditor*>(extension);
+            if (editor != nullptr && editor->getHandledType() == type)
+                return editor;
+        }
+        qFatal("no editor of names or texts");
+    };
+    OrvEditor* const names = twinFor(NxSFName::getClassTypeId());
+    OrvEditor* const texts = twinFor(NxSFString::getClassTypeId());
+    QList<QWidget*> frames;
     for (qsizetype i = 0; i < twins.getExtensions().size(); ++i) {
         auto* const editor = dynamic_cast<OrvEditor*>(host.plugin.getExtensions().at(i));
+        auto* const twin = dynamic_cast<OrvEditor*>(twins.getExtensions().at(i));
         if (editor == nullptr)
             continue;
-        auto* const twin = dynamic_cast<OrvEditor*>(twins.getExtensions().at(i));
-        if (editor->getHandledType() == NxSFName::getClassTypeId())
-            otherFrame = twin->getWidget();
-        else
-            pairs.emplaceBack(editor, twin);
+        measureSelection(host, *editor, *twin, dock, twin == names ? *texts : *names);
+        frames << twin->getWidget();
     }
-    for (const auto& [editor, twin] : pairs)
-        measureSelection(host, *editor, *twin, dock, otherFrame);
     // The editors own the frames that they show nowhere.
-    for (const auto& [editor, twin] : pairs)
-        twin->getWidget()->setParent(nullptr);
-    otherFrame->setParent(nullptr);
+    for (QWidget* const frame : frames)
+        frame->setParent(nullptr);
     twins.unload();
 }
 
