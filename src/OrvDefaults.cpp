@@ -13,13 +13,25 @@ OrvDefaults::~OrvDefaults() = default;
 void OrvDefaults::load()
 {
     // An order of its own, which is what the host shows; it isn't bound to the order of declaration.
+    addExtension(&m_mfColor);
+    addExtension(&m_mfColorRGBA);
+    addExtension(&m_mfDefaultField);
     addExtension(&m_mfDouble);
     addExtension(&m_sfFilePathString); // ahead of the other editors of single values, unlike its declaration: meant
     addExtension(&m_mfFloat);
     addExtension(&m_mfInt32);
+    addExtension(&m_mfMatrix);
+    addExtension(&m_mfPlane);
+    addExtension(&m_mfRotation);
     addExtension(&m_mfShort);
+    addExtension(&m_mfString);
     addExtension(&m_mfUInt32);
     addExtension(&m_mfUShort);
+    addExtension(&m_mfVec2f);
+    addExtension(&m_mfVec2i32);
+    addExtension(&m_mfVec2s);
+    addExtension(&m_mfVec3f);
+    addExtension(&m_mfVec4f);
     addExtension(&m_sfBitMask);
     addExtension(&m_sfBool);
     addExtension(&m_sfBox2f);

@@ -1,11 +1,23 @@
 #pragma once
 
+#include "FieldEditors/MFWidgets/DvMFColorRGBAWidget.h"
+#include "FieldEditors/MFWidgets/DvMFColorWidget.h"
+#include "FieldEditors/MFWidgets/DvMFDefaultFieldWidget.h"
 #include "FieldEditors/MFWidgets/DvMFDoubleWidget.h"
 #include "FieldEditors/MFWidgets/DvMFFloatWidget.h"
 #include "FieldEditors/MFWidgets/DvMFInt32Widget.h"
+#include "FieldEditors/MFWidgets/DvMFMatrixWidget.h"
+#include "FieldEditors/MFWidgets/DvMFPlaneWidget.h"
+#include "FieldEditors/MFWidgets/DvMFRotationWidget.h"
 #include "FieldEditors/MFWidgets/DvMFShortWidget.h"
+#include "FieldEditors/MFWidgets/DvMFStringWidget.h"
 #include "FieldEditors/MFWidgets/DvMFUInt32Widget.h"
 #include "FieldEditors/MFWidgets/DvMFUShortWidget.h"
+#include "FieldEditors/MFWidgets/DvMFVec2fWidget.h"
+#include "FieldEditors/MFWidgets/DvMFVec2i32Widget.h"
+#include "FieldEditors/MFWidgets/DvMFVec2sWidget.h"
+#include "FieldEditors/MFWidgets/DvMFVec3fWidget.h"
+#include "FieldEditors/MFWidgets/DvMFVec4fWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBoolWidget.h"
 #include "FieldEditors/SFWidgets/DvSFBox2fWidget.h"
@@ -48,12 +60,24 @@ public:
 private:
     // In this order the docks meet the editors, since they walk them by address; among editors of the same type the one
     // declared last wins.
+    DvMFColorWidget m_mfColor;
+    DvMFColorRGBAWidget m_mfColorRGBA;
+    DvMFDefaultFieldWidget m_mfDefaultField;
     DvMFDoubleWidget m_mfDouble;
     DvMFFloatWidget m_mfFloat;
     DvMFInt32Widget m_mfInt32;
+    DvMFMatrixWidget m_mfMatrix;
+    DvMFPlaneWidget m_mfPlane;
+    DvMFRotationWidget m_mfRotation;
     DvMFShortWidget m_mfShort;
+    DvMFStringWidget m_mfString;
     DvMFUInt32Widget m_mfUInt32;
     DvMFUShortWidget m_mfUShort;
+    DvMFVec2fWidget m_mfVec2f;
+    DvMFVec2i32Widget m_mfVec2i32;
+    DvMFVec2sWidget m_mfVec2s;
+    DvMFVec3fWidget m_mfVec3f;
+    DvMFVec4fWidget m_mfVec4f;
     DvSFBitMaskWidget m_sfBitMask;
     DvSFBoolWidget m_sfBool;
     DvSFBox2fWidget m_sfBox2f;

@@ -2,6 +2,7 @@
 
 #include "FieldEditors/OrvFieldIgnoredCommand.h"
 #include "FieldEditors/OrvFieldSetDefaultCommand.h"
+#include "FieldEditors/OrvMFSetFieldValueCommand.h"
 #include "FieldEditors/OrvMFSetValueCommand.h"
 #include "FieldEditors/OrvSFSetValueCommand.h"
 
@@ -28,6 +29,11 @@ void pushSetRowCommand(NxMField* field, int row)
 {
     VbString none;
     OrvServices::getInstance()->pushCommand(new OrvMFSetValueCommand(field, row, none));
+}
+
+void pushSetRowValueCommand(NxMField* field, int row)
+{
+    OrvServices::getInstance()->pushCommand(new OrvMFSetFieldValueCommand(field, row));
 }
 
 void writeFieldText(NxField* field, const VbString& text)

@@ -17,6 +17,8 @@ void pushSetValueCommand(NxField* field, VbString& previousValue);
 
 /// Pushes the command of a row that has just been written to the list; its undo writes that same value.
 void pushSetRowCommand(NxMField* field, int row);
+/// The same for a row that was written as a whole from a dialog.
+void pushSetRowValueCommand(NxMField* field, int row);
 
 /// Takes the value from its text form; a text that the field refuses leaves it as it was. Then pushes the command.
 void writeFieldText(NxField* field, const VbString& text);

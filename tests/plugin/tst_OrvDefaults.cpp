@@ -25,13 +25,25 @@ struct Entry {
 
 // In the order of registration.
 const QList<Entry> roster{
+    {QStringLiteral("MFColor"), QStringLiteral("MFColor")},
+    {QStringLiteral("MFColorRGBA"), QStringLiteral("MFColorRGBA")},
+    {QStringLiteral("MField"), QStringLiteral("MField")},
     {QStringLiteral("MFDouble"), QStringLiteral("MFDouble")},
     {QStringLiteral("SFFilePathString"), QStringLiteral("SFFilePathString")},
     {QStringLiteral("MFFloat"), QStringLiteral("MFFloat")},
     {QStringLiteral("MFInt32"), QStringLiteral("MFInt32")},
+    {QStringLiteral("MFMatrix"), QStringLiteral("MFMatrix")},
+    {QStringLiteral("MFPlane"), QStringLiteral("MFPlane")},
+    {QStringLiteral("MFRotation"), QStringLiteral("MFRotation")},
     {QStringLiteral("MFShort"), QStringLiteral("MFShort")},
+    {QStringLiteral("MFString"), QStringLiteral("MFString")},
     {QStringLiteral("MFUInt32"), QStringLiteral("MFUInt32")},
     {QStringLiteral("MFUShort"), QStringLiteral("MFUShort")},
+    {QStringLiteral("MFVec2f"), QStringLiteral("MFVec2f")},
+    {QStringLiteral("MFVec2i32"), QStringLiteral("MFVec2i32")},
+    {QStringLiteral("MFVec2s"), QStringLiteral("MFVec2s")},
+    {QStringLiteral("MFVec3f"), QStringLiteral("MFVec3f")},
+    {QStringLiteral("MFVec4f"), QStringLiteral("MFVec4f")},
     {QStringLiteral("SFBitMask"), QStringLiteral("SFBitMask")},
     {QStringLiteral("SFBool"), QStringLiteral("SFBool")},
     {QStringLiteral("SFBox2f"), QStringLiteral("SFBox2f")},
@@ -145,7 +157,9 @@ void tst_OrvDefaults::editorsBearTheNamesOfTheirClasses()
     for (const OrvExtension* const extension : plugin.getExtensions()) {
         // Some have no meta object of their own, so their class has to be told from the name.
         const QString word = nameOf(extension);
-        const QString stem = word == QLatin1String("SField") ? QStringLiteral("SFLine") : word;
+        const QHash<QString, QString> stems{{QStringLiteral("SField"), QStringLiteral("SFLine")},
+            {QStringLiteral("MField"), QStringLiteral("MFDefaultField")}};
+        const QString stem = stems.value(word, word);
         if (dynamic_cast<const OrvEditor*>(extension) != nullptr)
             QCOMPARE(extension->objectName(), QStringLiteral("Dv%1Widget").arg(stem));
     }

@@ -33,10 +33,14 @@ void DvMFieldTableItemDelegate::setRealRange(double min, double max)
 void DvMFieldTableItemDelegate::paint(
     QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
+    paintText(painter, option, m_owner->getCellValue(index.row(), index.column()));
+}
+
+void DvMFieldTableItemDelegate::paintText(QPainter* painter, const QStyleOptionViewItem& option, const QString& text)
+{
     painter->save();
     if (option.state.testFlag(QStyle::State_Selected))
         painter->fillRect(option.rect, option.palette.brush(QPalette::Current, QPalette::Highlight));
-    const QString text = m_owner->getCellValue(index.row(), index.column());
     // Centred in every table, and in the same pen when the cell is selected: meant.
     painter->drawText(
         option.rect, Qt::AlignCenter, orvane::fittingText(text, painter->fontMetrics(), option.rect.width() - 4));
@@ -120,29 +124,40 @@ void DvMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex
     }
 }
 
-void DvMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
+QLineEdit* DvMFieldTableItemDelegate::takeLine(QWidget* editor, const QModelIndex& index) const
 {
-    if (editor == nullptr)
-        return;
     auto* const table = static_cast<QTableWidget*>(parent());
     const bool hadFocus = editor->hasFocus();
     table->setCellWidget(index.row(), index.column(), nullptr);
     auto* const line = qobject_cast<QLineEdit*>(editor);
+    if (line != nullptr && hadFocus && table->isVisible())
+        table->setFocus(); // the line stays until the event loop deletes it, and keys would go on into it
+    return line;
+}
+
+bool DvMFieldTableItemDelegate::isAcceptable(const QLineEdit* line)
+{
+    QString text = line->text();
+    int position = 0;
+    const QValidator* const validator = line->validator();
+    return validator == nullptr || validator->validate(text, position) == QValidator::Acceptable;
+}
+
+void DvMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
+{
+    if (editor == nullptr)
+        return;
+    const QLineEdit* const line = takeLine(editor, index);
     if (line == nullptr) {
         QItemDelegate::setModelData(editor, model, index);
         return;
     }
-    if (hadFocus && table->isVisible())
-        table->setFocus(); // the line stays until the event loop deletes it, and keys would go on into it
     if (!line->isModified())
         return;
-    QString text = line->text();
-    int position = 0;
-    const QValidator* const validator = line->validator();
-    if (validator == nullptr || validator->validate(text, position) == QValidator::Acceptable)
-        m_owner->setCellValue(index.row(), index.column(), text);
+    if (isAcceptable(line))
+        m_owner->setCellValue(index.row(), index.column(), line->text());
     // What the validator holds back stands in the item only, where nobody sees it: meant.
-    model->setData(index, text, Qt::DisplayRole);
+    model->setData(index, line->text(), Qt::DisplayRole);
 }
 
 void DvMFieldTableItemDelegate::updateEditorGeometry(

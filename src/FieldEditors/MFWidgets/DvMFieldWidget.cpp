@@ -5,6 +5,7 @@
 #include "FieldEditors/IconButton.h"
 #include "FieldEditors/LayoutMetrics.h"
 #include "FieldEditors/MFWidgets/AccessButtonPrivate.h"
+#include "FieldEditors/MFWidgets/DvMFColorTable.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
 #include "meridane/scene/NxFieldSensor.h"
@@ -36,8 +37,10 @@ private:
 
 namespace {
 
-DvMFieldTable* makeTable(int /*tableKind*/, DvMFieldWidget* owner)
+DvMFieldTable* makeTable(int tableKind, DvMFieldWidget* owner)
 {
+    if (tableKind == 1)
+        return new DvMFColorTable(owner, owner->getFrame(), "m_table");
     return new DvMFieldTable(owner, owner->getFrame(), "m_table");
 }
 

@@ -38,10 +38,14 @@ QHBoxLayout* addColorRow(QHBoxLayout* row, QLabel* label, QLineEdit* line)
 
 int shownComponent(float component)
 {
-    const float scaled = component * 255.0F;
+    return wholeComponent(static_cast<double>(component * 255.0F));
+}
+
+int wholeComponent(double component)
+{
     // The cast of anything else has no defined result.
-    const bool isInt = scaled > -2147483648.0F && scaled < 2147483648.0F;
-    return isInt ? static_cast<int>(scaled) : -1;
+    const bool isInt = component > -2147483648.0 && component < 2147483648.0;
+    return isInt ? static_cast<int>(component) : -1;
 }
 
 void showColor(QPushButton* display, const QColor& color)

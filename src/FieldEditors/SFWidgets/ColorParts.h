@@ -20,6 +20,8 @@ QHBoxLayout* addColorRow(QHBoxLayout* row, QLabel* label, QLineEdit* line);
 /// A component from 0 to 1 as one from 0 to 255, the fraction cut off: 0.5 is 127. What is beyond an int, or no number,
 /// comes out as a value that no colour has.
 [[nodiscard]] int shownComponent(float component);
+/// The same for a component that is scaled already.
+[[nodiscard]] int wholeComponent(double component);
 /// Fills the button's icon with a colour; one that isn't valid leaves the icon as it is.
 void showColor(QPushButton* display, const QColor& color);
 

@@ -2,77 +2,14 @@
 
 #include "FieldEditors/EditorIcons.h"
 #include "FieldEditors/IconButton.h"
-#include "FieldEditors/LayoutMetrics.h"
+#include "FieldEditors/PopupGrid.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
-#include <QDoubleValidator>
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QIntValidator>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
-
-#include <limits>
-
-namespace {
-
-/// A popup that the click on its own button only closes: passed on, the click would open it again. When it closes, its
-/// line loses the focus at once, even if no other widget takes it, so that what was typed is written to the field that
-/// the popup was opened for.
-class GridFrame final : public QFrame {
-public:
-    GridFrame(QWidget* parent, const QWidget* button)
-        : QFrame(parent, Qt::Popup)
-        , m_button(button)
-    {
-    }
-
-protected:
-    void mousePressEvent(QMouseEvent* event) override
-    {
-        const QPoint position = m_button->mapFromGlobal(event->globalPosition().toPoint());
-        if (m_button->rect().contains(position))
-            setAttribute(Qt::WA_NoMouseReplay);
-        QFrame::mousePressEvent(event);
-    }
-    void hideEvent(QHideEvent* event) override
-    {
-        if (QWidget* const line = focusWidget(); line != nullptr)
-            line->clearFocus();
-        QFrame::hideEvent(event);
-    }
-
-private:
-    const QWidget* m_button;
-};
-
-void setValidator(QLineEdit* line, int kind)
-{
-    using Short = std::numeric_limits<short>;
-    switch (kind) {
-    case 0:
-        line->setValidator(nullptr);
-        break;
-    case 1:
-        line->setValidator(new QIntValidator(Short::min(), Short::max(), line));
-        break;
-    case 2:
-        line->setValidator(new QIntValidator(line));
-        break;
-    case 3:
-        orvane::acceptFloats(line);
-        break;
-    case 4:
-        line->setValidator(new QDoubleValidator(line));
-        break;
-    default:
-        break;
-    }
-}
-
-} // namespace
 
 DvPopupWidget::DvPopupWidget(int rows, int columns, const char* name)
     : DvSFLineWidget(name)
@@ -103,14 +40,8 @@ void DvPopupWidget::buildButton()
 
 void DvPopupWidget::buildPopup()
 {
-    m_popupFrame = new GridFrame(getFrame(), m_editButton);
-    m_popupFrame->resize(
-        getLayoutMetric(QStringLiteral("PopupFrameWidth")), getLayoutMetric(QStringLiteral("PopupFrameHeight")));
-    m_popupFrame->setFrameShape(QFrame::StyledPanel);
-    m_popupFrame->setFrameShadow(QFrame::Raised);
-    auto* const grid = new QGridLayout(m_popupFrame);
-    setLayoutMetrics(grid, QStringLiteral("PopupLayoutMargin"), QStringLiteral("PopupLayoutSpacing"));
-    grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
+    m_popupFrame = orvane::makePopupGrid(getFrame(), m_editButton);
+    auto* const grid = qobject_cast<QGridLayout*>(m_popupFrame->layout());
     m_lines.clear();
     for (int row = 0; row < m_rows; ++row) {
         for (int column = 0; column < m_columns; ++column) {
@@ -150,7 +81,7 @@ bool DvPopupWidget::edited()
 void DvPopupWidget::setLinesValidator(int kind)
 {
     for (QLineEdit* const line : m_lines)
-        setValidator(line, kind);
+        orvane::setLineValidator(line, kind);
 }
 
 void DvPopupWidget::resetLinesCursor()

@@ -1,0 +1,61 @@
+#include "FieldEditors/MFWidgets/DvMFDefaultFieldWidget.h"
+
+#include "FieldEditors/FieldChanges.h"
+#include "FieldEditors/MFWidgets/DvMFieldTable.h"
+#include "FieldEditors/MFWidgets/RowColumns.h"
+#include "FieldEditors/MFWidgets/RowValues.h"
+#include "FieldEditors/RowChanges.h"
+
+#include "orvane/extender/VbText.h"
+
+#include "meridane/scene/NxMField.h"
+
+DvMFDefaultFieldWidget::DvMFDefaultFieldWidget(const char* name)
+    : DvMFieldWidget(name)
+{
+    m_handledType = NxMField::getClassTypeId();
+    if (name == nullptr)
+        setObjectName(QLatin1String("DvMFDefaultFieldWidget"));
+    m_name = "MField";
+}
+
+DvMFDefaultFieldWidget::~DvMFDefaultFieldWidget() = default;
+
+void DvMFDefaultFieldWidget::load()
+{
+    setElementTypeLabel(QStringLiteral("MField"));
+    DvMFieldWidget::load();
+    orvane::setUpColumn(m_table);
+}
+
+void DvMFDefaultFieldWidget::swapRows(int first, int second)
+{
+    if (m_field != nullptr && orvane::hasRow(*m_field, first) && orvane::hasRow(*m_field, second))
+        orvane::swapRowTexts(*m_field, first, second);
+}
+
+void DvMFDefaultFieldWidget::reservedRowOperation() { }
+
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is that of all editors
+void DvMFDefaultFieldWidget::setCellValue(int row, int /*column*/, QString value)
+{
+    if (m_field == nullptr)
+        return;
+    // A text that the field refuses changes nothing there, and the command is pushed all the same: meant.
+    m_field->set1(row, orvane::toVbString(value));
+    orvane::pushSetRowCommand(m_field, row);
+}
+
+QString DvMFDefaultFieldWidget::getCellValue(int row, int column)
+{
+    if (m_field == nullptr || column >= 1 || row >= m_field->getNum())
+        return {};
+    VbString text;
+    m_field->get1(row, text);
+    return orvane::toQString(text);
+}
+
+bool DvMFDefaultFieldWidget::prepareForField(NxField* field)
+{
+    return field != nullptr && field->isOfType(NxMField::getClassTypeId());
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "FieldEditors/MFWidgets/DvMFieldWidget.h"
+
+/// Edits a list of vectors of two floats, a component a column.
+class DvMFVec2fWidget final : public DvMFieldWidget {
+public:
+    explicit DvMFVec2fWidget(const char* name = nullptr);
+    ~DvMFVec2fWidget() override;
+
+    void load() override;
+    void swapRows(int first, int second) override;
+    void reservedRowOperation() override;
+    void setCellValue(int row, int column, QString value) override;
+    QString getCellValue(int row, int column) override;
+    int getCellAlignment() override;
+    bool prepareForField(NxField* field) override;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "FieldEditors/MFWidgets/DvMFieldWidget.h"
+
+/// Edits a list of vectors of three floats, a component a column.
+class DvMFVec3fWidget : public DvMFieldWidget {
+public:
+    explicit DvMFVec3fWidget(const char* name = nullptr);
+    /// For a table of a kind that the base knows: 1 is that of colours.
+    DvMFVec3fWidget(int tableKind, const char* name);
+    ~DvMFVec3fWidget() override;
+
+    void load() override;
+    void swapRows(int first, int second) override;
+    void reservedRowOperation() override;
+    void setCellValue(int row, int column, QString value) override;
+    QString getCellValue(int row, int column) override;
+    int getCellAlignment() override;
+    bool prepareForField(NxField* field) override;
+
+    /// Writes one component of a row and pushes the command.
+    virtual void setRowComponent(float value, int row, int component);
+};

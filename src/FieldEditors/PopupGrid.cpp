@@ -1,0 +1,88 @@
+#include "FieldEditors/PopupGrid.h"
+
+#include "FieldEditors/LayoutMetrics.h"
+#include "FieldEditors/SFWidgets/NumberLine.h"
+
+#include <QDoubleValidator>
+#include <QFrame>
+#include <QGridLayout>
+#include <QIntValidator>
+#include <QLineEdit>
+#include <QMouseEvent>
+
+#include <limits>
+
+namespace {
+
+/// A popup that the click on its own button only closes: passed on, the click would open it again. When it closes, its
+/// line loses the focus at once, even if no other widget takes it, so that what was typed is written to the field that
+/// the popup was opened for.
+class GridFrame final : public QFrame {
+public:
+    GridFrame(QWidget* parent, const QWidget* button)
+        : QFrame(parent, Qt::Popup)
+        , m_button(button)
+    {
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        const QPoint position = m_button->mapFromGlobal(event->globalPosition().toPoint());
+        if (m_button->rect().contains(position))
+            setAttribute(Qt::WA_NoMouseReplay);
+        QFrame::mousePressEvent(event);
+    }
+    void hideEvent(QHideEvent* event) override
+    {
+        if (QWidget* const line = focusWidget(); line != nullptr)
+            line->clearFocus();
+        QFrame::hideEvent(event);
+    }
+
+private:
+    const QWidget* m_button;
+};
+
+} // namespace
+
+namespace orvane {
+
+QFrame* makePopupGrid(QWidget* parent, const QWidget* button)
+{
+    auto* const frame = new GridFrame(parent, button);
+    frame->resize(
+        getLayoutMetric(QStringLiteral("PopupFrameWidth")), getLayoutMetric(QStringLiteral("PopupFrameHeight")));
+    frame->setFrameShape(QFrame::StyledPanel);
+    frame->setFrameShadow(QFrame::Raised);
+    auto* const grid = new QGridLayout(frame);
+    setLayoutMetrics(grid, QStringLiteral("PopupLayoutMargin"), QStringLiteral("PopupLayoutSpacing"));
+    grid->setObjectName(QStringLiteral("m_popupFrameLayout"));
+    return frame;
+}
+
+void setLineValidator(QLineEdit* line, int kind)
+{
+    using Short = std::numeric_limits<short>;
+    switch (kind) {
+    case 0:
+        line->setValidator(nullptr);
+        break;
+    case 1:
+        line->setValidator(new QIntValidator(Short::min(), Short::max(), line));
+        break;
+    case 2:
+        line->setValidator(new QIntValidator(line));
+        break;
+    case 3:
+        acceptFloats(line);
+        break;
+    case 4:
+        line->setValidator(new QDoubleValidator(line));
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace orvane

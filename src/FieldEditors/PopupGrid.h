@@ -1,0 +1,18 @@
+#pragma once
+
+class QFrame;
+class QLineEdit;
+class QWidget;
+
+// The popup with a grid of lines that a button opens beside a value of many numbers.
+namespace orvane {
+
+/// Makes a hidden popup with an empty grid as its layout; the parent owns it. A click on the button while it is open
+/// closes it for good.
+[[nodiscard]] QFrame* makePopupGrid(QWidget* parent, const QWidget* button);
+
+/// Gives a line a validator of its own: 1 takes 16-bit integers, 2 any integers, 3 floats, 4 any numbers, and 0 takes
+/// the validator away. Any other kind does nothing.
+void setLineValidator(QLineEdit* line, int kind);
+
+} // namespace orvane
