@@ -2,6 +2,7 @@
 
 #include "meridane/base/NxDelayQueue.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QEventLoop>
 #include <QWidget>
@@ -47,6 +48,8 @@ void settle()
 {
     QEventLoop loop;
     while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty()) { }
+    // Only a loop that runs for good deletes what asked for it; left alone, these events would slow down all others.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 double secondsToPainted(QWidget* widget, const std::function<void()>& action)
