@@ -9,6 +9,9 @@
 #include <cstdio>
 #include <memory>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace {
 
 constexpr int statusFailed = 1;
@@ -24,6 +27,17 @@ int fail(const QString& message, int status)
 {
     std::fprintf(stderr, "orvane: %s\n", qPrintable(message));
     return status;
+}
+
+// Without them the first files that are opened would take their numbers, and get every message written into them.
+void openStandardStreams()
+{
+    int descriptor = 0;
+    do {
+        // For reading alone, so that output that goes nowhere is still an error.
+        descriptor = ::open("/dev/null", O_RDONLY);
+    } while (descriptor >= 0 && descriptor <= STDERR_FILENO);
+    ::close(descriptor);
 }
 
 // The library would take options such as --plugin for its own, so it gets the program's name alone.
@@ -83,6 +97,7 @@ int runWindow(const CommandLine& commandLine, char** argv)
 
 int main(int argc, char* argv[])
 {
+    openStandardStreams();
     // A file that outgrows the user's limit is a write error with a message, not the end of the process.
     std::signal(SIGXFSZ, SIG_IGN);
     QCoreApplication::setApplicationName(QStringLiteral("orvane"));

@@ -213,6 +213,19 @@ private Q_SLOTS:
         QCOMPARE(outcome.errors, QByteArray("orvane: standard output: No space left on device\n"));
     }
 
+    void closedStandardStreamsReachNoFile()
+    {
+        const QString copy = path(QStringLiteral("copy.mrd"));
+        const QStringList arguments{QStringLiteral("--list"), QStringLiteral("--export=") + copy};
+        const QStringList rig{path(QStringLiteral("rig.mrd"))};
+        const Outcome outcome = run(arguments + rig, QStringLiteral("exec <&- >&-;"));
+        QCOMPARE(outcome.status, 1);
+        QCOMPARE(outcome.errors, QByteArray("orvane: standard output: Bad file descriptor\n"));
+        QCOMPARE(read(QStringLiteral("copy.mrd")), scene);
+        QCOMPARE(
+            run({QStringLiteral("--list"), copy + QStringLiteral("x")}, QStringLiteral("exec <&- 2>&-;")).status, 1);
+    }
+
     void unusableArgumentsAreStatusTwo()
     {
         const Outcome outcome = run({QStringLiteral("--nonsense")});
