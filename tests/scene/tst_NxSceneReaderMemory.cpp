@@ -8,10 +8,11 @@
 
 namespace {
 
-/// How many allocations still succeed before one fails; negative for all.
-long allocationsLeft = -1;
-/// How many blocks there are.
-long blocks = 0;
+/// How many allocations of this thread still succeed before one fails; negative for all. The test library has threads
+/// too.
+constinit thread_local long allocationsLeft = -1;
+/// How many blocks this thread has more than it gave back.
+constinit thread_local long blocks = 0;
 
 void* allocate(std::size_t size)
 {
