@@ -44,6 +44,8 @@ private Q_SLOTS:
     void rangeIsThatOfTheType();
     void eachStepPushesOneCommand_data() { editors(); }
     void eachStepPushesOneCommand();
+    void digitThatLeadsBeyondTheTypeIsRefused_data() { editors(); }
+    void digitThatLeadsBeyondTheTypeIsRefused();
     void undoWritesTheValueThatIsThere_data() { editors(); }
     void undoWritesTheValueThatIsThere();
     void changeOfOneNumberFromOutsideMakesOneCommand_data() { editors(); }
@@ -177,6 +179,18 @@ void tst_DvSF2iSpinBox::eachStepPushesOneCommand()
     ToolHarness::pump();
     QCOMPARE(run.pushed(), 3);
     QCOMPARE(valuesOf(run), (QList<int>{-1, 2}));
+}
+
+void tst_DvSF2iSpinBox::digitThatLeadsBeyondTheTypeIsRefused()
+{
+    const ComponentRun run(makeEditor(type()), type(), QStringLiteral("0 7"));
+    QSpinBox* const x = run.controls<QSpinBox>().constFirst();
+    x->setFocus();
+    x->selectAll();
+    QTest::keyClicks(x, QString(20, QLatin1Char('9')));
+    const int nines = type() == QLatin1String("SFVec2s") ? 9'999 : 999'999'999;
+    QCOMPARE(x->value(), nines);
+    QCOMPARE(run.text(), QStringLiteral("%1 7").arg(nines));
 }
 
 void tst_DvSF2iSpinBox::undoWritesTheValueThatIsThere()

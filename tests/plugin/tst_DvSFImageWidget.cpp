@@ -7,7 +7,18 @@
 
 #include <QHBoxLayout>
 
+#include <malloc.h>
 #include <unistd.h>
+
+namespace {
+
+std::size_t heapBytes()
+{
+    const auto info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+} // namespace
 
 class tst_DvSFImageWidget : public QObject {
     Q_OBJECT
@@ -127,8 +138,12 @@ void tst_DvSFImageWidget::vastImageLeavesOneCopy()
         QSKIP("This machine has too little memory left.");
     QVERIFY(field().setValue(VbVec2s(side, side), 1, std::vector<unsigned char>(pixels, 200)));
     const auto bytes = pMrd_memCnt->bytes.load();
+    const std::size_t heap = heapBytes();
     const EditorRun run(*m_editor, field());
     QVERIFY(pMrd_memCnt->bytes.load() - bytes < std::int64_t{side});
+    // The picture itself, and little besides.
+    constexpr std::size_t pixelSize = 4;
+    QVERIFY(heapBytes() - heap < pixelSize * pixels + pixels / 10);
     const QPixmap small = thumbnail(run)->pixmap(Qt::ReturnByValue);
     QCOMPARE(small.size(), QSize(side, side));
     QCOMPARE(small.cacheKey(), picture(run)->pixmap(Qt::ReturnByValue).cacheKey());

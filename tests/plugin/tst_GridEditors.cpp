@@ -35,6 +35,8 @@ private Q_SLOTS:
     void outsideChangeIsFollowed();
     void badTextIsWrittenAsZero_data();
     void badTextIsWrittenAsZero();
+    void numberBeyondAFloatIsWrittenAsInfinity_data();
+    void numberBeyondAFloatIsWrittenAsInfinity();
     void linesTakeTheTypesNumbers_data();
     void linesTakeTheTypesNumbers();
     void floatsHaveSixSignificantDigits_data();
@@ -236,6 +238,23 @@ void tst_GridEditors::badTextIsWrittenAsZero()
     m_editor->applyChanges();
     QStringList expected = value().split(u' ');
     expected[3] = QStringLiteral("0");
+    QCOMPARE(ToolHarness::textOf(field()), expected.join(u' '));
+    QCOMPARE(pushed(), 1);
+}
+
+void tst_GridEditors::numberBeyondAFloatIsWrittenAsInfinity_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::newRow("box") << QStringLiteral("SFBox2f");
+    QTest::newRow("matrix") << QStringLiteral("SFMatrix");
+}
+
+void tst_GridEditors::numberBeyondAFloatIsWrittenAsInfinity()
+{
+    lines().at(3)->setText(QStringLiteral("1e39"));
+    m_editor->applyChanges();
+    QStringList expected = value().split(u' ');
+    expected[3] = QStringLiteral("inf");
     QCOMPARE(ToolHarness::textOf(field()), expected.join(u' '));
     QCOMPARE(pushed(), 1);
 }

@@ -81,6 +81,8 @@ private Q_SLOTS:
     void leavingAnUntouchedLinePushesNothing();
     void emptyLineReadsAsZero_data() { editors(); }
     void emptyLineReadsAsZero();
+    void numberBeyondAFloatFinishesNoLine_data() { editors(); }
+    void numberBeyondAFloatFinishesNoLine();
     void undoWritesTheValueThatIsThere_data() { editors(); }
     void undoWritesTheValueThatIsThere();
     void changeFromOutsideIsFollowedWithoutACommand_data() { editors(); }
@@ -270,6 +272,16 @@ void tst_VectorFieldEditors::emptyLineReadsAsZero()
     QStringList expected = fetch("value").split(QLatin1Char(' '));
     expected.back() = QStringLiteral("0");
     QCOMPARE(run.text(), expected.join(QLatin1Char(' ')));
+}
+
+void tst_VectorFieldEditors::numberBeyondAFloatFinishesNoLine()
+{
+    const ComponentRun run(makeEditor(type()), type(), fetch("value"));
+    run.type(0, QStringLiteral("1e39"));
+    run.press(0, Qt::Key_Return);
+    run.press(0, Qt::Key_Tab);
+    QCOMPARE(run.pushed(), 0);
+    QCOMPARE(run.text(), fetch("value"));
 }
 
 void tst_VectorFieldEditors::undoWritesTheValueThatIsThere()
