@@ -15,6 +15,7 @@
 #include <QLineEdit>
 
 #include <cstdio>
+#include <utility>
 
 DvMFieldTable::DvMFieldTable(DvMFieldWidget* owner, QWidget* parent, const char* name)
     : QTableWidget(parent)
@@ -26,6 +27,7 @@ DvMFieldTable::DvMFieldTable(DvMFieldWidget* owner, QWidget* parent, const char*
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setCurrentCell(0, 0);
+    connect(model(), &QAbstractItemModel::dataChanged, this, &DvMFieldTable::noteItem);
 }
 
 DvMFieldTable::~DvMFieldTable()
@@ -118,7 +120,7 @@ void DvMFieldTable::addRow()
     commitOpenEditor();
     const int current = currentRow();
     const int row = current + 1;
-    clearContents();
+    clearPlaceholders();
     insertRow(row);
     for (int column = 0; column < columnCount(); ++column)
         setPlaceholder(row, column);
@@ -135,6 +137,21 @@ void DvMFieldTable::addRow()
         setCurrentCell(current, 0);
         Q_EMIT currentCellChanged(current, 0, row, 0);
     }
+}
+
+void DvMFieldTable::noteItem(const QModelIndex& index)
+{
+    if (item(index.row(), index.column()) != nullptr)
+        m_itemPlaces.append(index);
+}
+
+// What clearContents does, but only where there is something to clear: that one walks all cells and has the headers
+// made anew, which takes longer than inserting a row into a long list. The sizes of the headers outlive this one.
+void DvMFieldTable::clearPlaceholders()
+{
+    for (const QPersistentModelIndex& place : std::exchange(m_itemPlaces, {}))
+        delete takeItem(place.row(), place.column());
+    reset();
 }
 
 void DvMFieldTable::deleteRow()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+#include <QPersistentModelIndex>
 #include <QTableWidget>
 
 class DvMFieldTableItemDelegate;
@@ -53,5 +55,9 @@ protected:
 
 private:
     void commitOpenEditor();
+    void noteItem(const QModelIndex& index);
+    void clearPlaceholders();
     void deleteSelectedRows();
+
+    QList<QPersistentModelIndex> m_itemPlaces; // the cells that were given an item since the last clearing
 };
