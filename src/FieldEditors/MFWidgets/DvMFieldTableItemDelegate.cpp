@@ -8,6 +8,7 @@
 #include "FieldEditors/MFWidgets/QUIntValidator.h"
 #include "FieldEditors/MFWidgets/QULongValidator.h"
 
+#include <QApplication>
 #include <QDoubleValidator>
 #include <QIntValidator>
 #include <QLineEdit>
@@ -127,12 +128,11 @@ void DvMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex
 QLineEdit* DvMFieldTableItemDelegate::takeLine(QWidget* editor, const QModelIndex& index) const
 {
     auto* const table = static_cast<QTableWidget*>(parent());
-    const bool hadFocus = editor->hasFocus();
+    const bool hadFocus = editor->hasFocus() || editor->isAncestorOf(QApplication::focusWidget());
     table->setCellWidget(index.row(), index.column(), nullptr);
-    auto* const line = qobject_cast<QLineEdit*>(editor);
-    if (line != nullptr && hadFocus && table->isVisible())
-        table->setFocus(); // the line stays until the event loop deletes it, and keys would go on into it
-    return line;
+    if (hadFocus && table->isVisible())
+        table->setFocus(); // the editor stays until the event loop deletes it, and keys would go on into it
+    return qobject_cast<QLineEdit*>(editor);
 }
 
 bool DvMFieldTableItemDelegate::isAcceptable(const QLineEdit* line)
