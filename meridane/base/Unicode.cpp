@@ -1,6 +1,7 @@
 #include "meridane/base/Unicode.h"
 
 #include <cstdint>
+#include <cstring>
 
 namespace meridane {
 
@@ -58,11 +59,24 @@ char32_t nextCodePoint(std::string_view valid, std::size_t& index) noexcept
     return codePoint;
 }
 
+// Most text is ASCII for long stretches, which are passed by a word at a time.
+std::size_t skipAscii(std::string_view text, std::size_t index) noexcept
+{
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    std::uint64_t word = 0;
+    for (; text.size() - index >= sizeof word; index += sizeof word) {
+        std::memcpy(&word, text.data() + index, sizeof word);
+        if ((word & highBits) != 0)
+            break;
+    }
+    return index;
+}
+
 } // namespace
 
 std::size_t findInvalidUtf8(std::string_view text) noexcept
 {
-    for (std::size_t index = 0; index < text.size();) {
+    for (std::size_t index = skipAscii(text, 0); index < text.size(); index = skipAscii(text, index)) {
         const std::size_t length = sequenceLength(text, index);
         if (length == 0)
             return index;
