@@ -9,7 +9,7 @@ bool EnumFormat::readTerm(TextReader& reader, int& value) const
     reader.skipBlanks();
     const char first = reader.peek();
     const bool number = (first >= '0' && first <= '9') || first == '+' || first == '-';
-    if (number && m_kind == Kind::Mask && first != '-') {
+    if (number && isMask() && first != '-') {
         unsigned int bits = 0;
         if (!readValue(reader, bits))
             return false;
@@ -21,12 +21,12 @@ bool EnumFormat::readTerm(TextReader& reader, int& value) const
 
     const std::size_t start = reader.position();
     std::string_view word;
-    if (reader.readWord(word, "a name") && m_enumeration->valueByName(word, value))
+    if (reader.readWord(word, "a name") && enumeration().valueByName(word, value))
         return true;
     std::string expected = "one of";
-    for (int i = 0; i < m_enumeration->getCount(); ++i)
-        expected.append(i == 0 ? " " : ", ").append(m_enumeration->getNames()[i].getString());
-    return reader.failAt(start, m_enumeration->getCount() == 0 ? "a number" : expected);
+    for (int i = 0; i < enumeration().getCount(); ++i)
+        expected.append(i == 0 ? " " : ", ").append(enumeration().getNames()[i].getString());
+    return reader.failAt(start, enumeration().getCount() == 0 ? "a number" : expected);
 }
 
 bool EnumFormat::read(TextReader& reader, int& value) const
@@ -34,7 +34,7 @@ bool EnumFormat::read(TextReader& reader, int& value) const
     int read = 0;
     if (!readTerm(reader, read))
         return false;
-    while (m_kind == Kind::Mask && reader.accept('|')) {
+    while (isMask() && reader.accept('|')) {
         int more = 0;
         if (!readTerm(reader, more))
             return false;
@@ -46,10 +46,10 @@ bool EnumFormat::read(TextReader& reader, int& value) const
 
 void EnumFormat::write(std::string& text, int value) const
 {
-    const VbName* const name = m_enumeration->nameByValue(value);
+    const VbName* const name = enumeration().nameByValue(value);
     if (name != nullptr)
         text += name->getString();
-    else if (m_kind == Kind::Mask)
+    else if (isMask())
         writeMask(text, value);
     else
         writeValue(text, value);
@@ -59,11 +59,11 @@ void EnumFormat::writeMask(std::string& text, int value) const
 {
     auto rest = static_cast<unsigned int>(value);
     const char* separator = "";
-    for (int i = 0; i < m_enumeration->getCount(); ++i) {
-        const auto bits = static_cast<unsigned int>(m_enumeration->getValues()[i]);
+    for (int i = 0; i < enumeration().getCount(); ++i) {
+        const auto bits = static_cast<unsigned int>(enumeration().getValues()[i]);
         if (bits == 0 || (static_cast<unsigned int>(value) & bits) != bits || (rest & bits) == 0)
             continue;
-        text.append(separator).append(m_enumeration->getNames()[i].getString());
+        text.append(separator).append(enumeration().getNames()[i].getString());
         separator = " | ";
         rest &= ~bits;
     }

@@ -3,6 +3,7 @@
 #include "meridane/scene/NxEnumeration.h"
 #include "meridane/scene/TextReader.h"
 
+#include <cstdint>
 #include <string>
 
 namespace meridane {
@@ -17,12 +18,15 @@ public:
     enum class Kind { Value, Mask };
 
     EnumFormat(const NxEnumeration& enumeration, Kind kind) noexcept
-        : m_enumeration(&enumeration)
-        , m_kind(kind)
+        : m_word(reinterpret_cast<std::uintptr_t>(&enumeration) | (kind == Kind::Mask ? maskBit : 0))
     {
     }
 
-    [[nodiscard]] const NxEnumeration& enumeration() const noexcept { return *m_enumeration; }
+    [[nodiscard]] const NxEnumeration& enumeration() const noexcept
+    {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): see below
+        return *reinterpret_cast<const NxEnumeration*>(m_word & ~maskBit);
+    }
 
     bool read(TextReader& reader, int& value) const;
     bool readWhole(TextReader& reader, int& value) const { return read(reader, value) && reader.expectEnd(); }
@@ -32,8 +36,14 @@ private:
     bool readTerm(TextReader& reader, int& value) const;
     void writeMask(std::string& text, int value) const;
 
-    const NxEnumeration* m_enumeration;
-    Kind m_kind;
+    /// The lowest bit of the enumeration's address is free.
+    static constexpr std::uintptr_t maskBit = 1;
+    static_assert(alignof(NxEnumeration) > maskBit);
+
+    [[nodiscard]] bool isMask() const noexcept { return (m_word & maskBit) != 0; }
+
+    /// Enumeration and kind in one word: every such field of every node holds one.
+    std::uintptr_t m_word;
 };
 
 } // namespace meridane

@@ -9,6 +9,7 @@
 #include "meridane/scene/TextReader.h"
 
 #include <limits>
+#include <utility>
 
 NxType NxField::getClassTypeId()
 {
@@ -32,7 +33,7 @@ void NxField::get(VbString& text) const
     std::string result;
     std::size_t position = 0;
     while (writeText(result, position, std::numeric_limits<std::size_t>::max())) { }
-    text = VbString(std::string_view(result));
+    text = VbString(std::move(result));
 }
 
 bool NxField::set(const VbString& text)
@@ -70,6 +71,6 @@ bool NxField::isDefault() const
 void NxField::touch()
 {
     m_sensors.notify();
-    if (m_container != nullptr && !m_container->m_sensors.isEmpty())
+    if (m_container != nullptr && m_container->isWatched())
         m_container->touch();
 }

@@ -20,7 +20,8 @@ NxFieldContainer::NxFieldContainer()
 
 NxFieldContainer::~NxFieldContainer()
 {
-    m_sensors.dyingReference();
+    if (m_rare)
+        m_rare->sensors.dyingReference();
 }
 
 void NxFieldContainer::unref() const
@@ -61,18 +62,24 @@ std::vector<NxField*> NxFieldContainer::getFields()
 
 void NxFieldContainer::addUnknownField(UnknownField field)
 {
-    if (!m_unknownFields)
-        m_unknownFields = std::make_unique<std::vector<UnknownField>>();
-    m_unknownFields->push_back(std::move(field));
+    rare().unknownFields.push_back(std::move(field));
 }
 
 const std::vector<NxFieldContainer::UnknownField>& NxFieldContainer::getUnknownFields() const noexcept
 {
     static const std::vector<UnknownField> none;
-    return m_unknownFields ? *m_unknownFields : none;
+    return m_rare ? m_rare->unknownFields : none;
 }
 
 void NxFieldContainer::touch()
 {
-    m_sensors.notify();
+    if (m_rare)
+        m_rare->sensors.notify();
+}
+
+NxFieldContainer::Rare& NxFieldContainer::rare()
+{
+    if (!m_rare)
+        m_rare = std::make_unique<Rare>();
+    return *m_rare;
 }

@@ -62,8 +62,15 @@ private:
     friend class NxField;
     friend class NxNodeSensor;
 
+    /// What few of many nodes have: made with the first sensor or unknown field.
+    struct Rare {
+        meridane::SensorList<NxNodeSensor> sensors;
+        std::vector<UnknownField> unknownFields;
+    };
+    Rare& rare();
+    [[nodiscard]] bool isWatched() const noexcept { return m_rare != nullptr && !m_rare->sensors.isEmpty(); }
+
     mutable int m_references = 0;
     VbString m_name;
-    meridane::SensorList<NxNodeSensor> m_sensors;
-    std::unique_ptr<std::vector<UnknownField>> m_unknownFields;
+    std::unique_ptr<Rare> m_rare;
 };

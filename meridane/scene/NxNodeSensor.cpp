@@ -15,14 +15,14 @@ void NxNodeSensor::attach(NxFieldContainer* node)
     if (node == nullptr)
         return;
     m_node = node;
-    node->m_sensors.append(this);
+    node->rare().sensors.append(this);
 }
 
 void NxNodeSensor::detach()
 {
     if (m_node == nullptr)
         return;
-    m_node->m_sensors.remove(this);
+    m_node->rare().sensors.remove(this);
     m_node = nullptr;
     unschedule();
 }

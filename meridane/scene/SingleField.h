@@ -20,8 +20,8 @@ public:
     /// `container` may be null, for a field that stands alone. `name` must be a literal.
     SingleField(NxFieldContainer* container, const char* name, Read value = Value(), Format format = Format())
         : NxSField(container, name)
-        , m_format(format)
         , m_value(value)
+        , m_format(format)
     {
     }
 
@@ -45,8 +45,8 @@ protected:
 private:
     bool assignText(TextReader& reader) override;
 
+    Value m_value; // first: a small one fits behind the flag of the field
     [[no_unique_address]] Format m_format;
-    Value m_value;
 };
 
 } // namespace meridane
