@@ -44,6 +44,11 @@ VbString::VbString(std::string_view utf8)
     assign(utf8);
 }
 
+VbString::VbString(std::string&& utf8)
+{
+    take(std::move(utf8));
+}
+
 VbString::VbString(const VbString& other)
 {
     *this = other;
@@ -89,11 +94,19 @@ VbString& VbString::operator=(VbString&& other) noexcept
 // The new text is built before the old one goes, so that a view into this very string may be assigned to it.
 void VbString::assign(std::string_view utf8)
 {
+    take(std::string(utf8));
+}
+
+void VbString::take(std::string&& utf8)
+{
     std::unique_ptr<Text> text;
     if (!utf8.empty()) {
         text = std::make_unique<Text>();
+        // A text that was put together piece by piece may have much more room than it needs.
+        if (utf8.capacity() > utf8.size() + utf8.size() / 2)
+            utf8.shrink_to_fit();
         if (meridane::findInvalidUtf8(utf8) == std::string_view::npos)
-            text->utf8 = utf8;
+            text->utf8 = std::move(utf8);
         else
             text->utf8 = meridane::replaceInvalidUtf8(utf8);
     }

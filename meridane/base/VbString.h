@@ -18,6 +18,8 @@ public:
     VbString(const char* utf8); // NOLINT(google-explicit-constructor): text literals are strings
     /// Takes UTF-8 of any content, NUL bytes included.
     explicit VbString(std::string_view utf8);
+    /// The same without a copy.
+    explicit VbString(std::string&& utf8);
     VbString(const VbString& other);
     VbString(VbString&& other) noexcept;
     ~VbString();
@@ -57,6 +59,7 @@ private:
 
     static Text* nullText() noexcept;
     void assign(std::string_view utf8);
+    void take(std::string&& utf8);
 
     Text* m_text = nullptr;
 };

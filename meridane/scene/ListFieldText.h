@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <limits>
 #include <new>
+#include <utility>
 
 namespace meridane {
 
@@ -17,7 +18,7 @@ void ListField<Value, Format>::get1(int index, VbString& text) const
     std::string result;
     if (index >= 0 && index < getNum())
         m_format.write(result, m_values[static_cast<std::size_t>(index)]);
-    text = VbString(std::string_view(result));
+    text = VbString(std::move(result));
 }
 
 template <typename Value, typename Format>
