@@ -46,8 +46,13 @@ NxField* NodeClass::field(const NxNode& node, std::size_t index) const
 
 const NodeClass& NodeClasses::find(std::string_view name)
 {
+    // Nodes of a class tend to come in rows.
+    if (m_latest != nullptr && m_latest->name() == name)
+        return *m_latest;
     const auto place = m_classes.find(name);
-    return place != m_classes.end() ? place->second : m_classes.try_emplace(std::string(name), name).first->second;
+    m_latest
+        = &(place != m_classes.end() ? place->second : m_classes.try_emplace(std::string(name), name).first->second);
+    return *m_latest;
 }
 
 } // namespace meridane

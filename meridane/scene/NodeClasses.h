@@ -50,6 +50,7 @@ private:
         std::size_t operator()(std::string_view text) const noexcept { return std::hash<std::string_view>()(text); }
     };
     std::unordered_map<std::string, NodeClass, Hash, std::equal_to<>> m_classes;
+    const NodeClass* m_latest = nullptr;
 };
 
 } // namespace meridane

@@ -7,8 +7,10 @@
 
 namespace {
 
-// The description that is being made on this thread. Describing other classes meanwhile nests.
-constinit thread_local NxFieldData* collector = nullptr;
+// The description that is being made on this thread. Describing other classes meanwhile nests. The library is there
+// from the start of the program, so that its variables of a thread are found without a call: every constructor of a
+// field looks.
+[[gnu::tls_model("initial-exec")]] constinit thread_local NxFieldData* collector = nullptr;
 
 // Makes a description the collecting one as long as it lives, also when the making of the instance fails.
 class Collecting {

@@ -117,10 +117,12 @@ void NxGroup::removeAllChildren()
         release(child);
 }
 
-void NxGroup::appendUnchecked(NxNode* node)
+void NxGroup::appendUnchecked(NxNode* node, NxGroup* group)
 {
     m_children.push_back(node);
-    hold(node);
+    node->ref();
+    if (group != nullptr)
+        ++group->m_places;
 }
 
 void NxGroup::hold(NxNode* node)

@@ -33,8 +33,8 @@ protected:
 private:
     friend class NxSceneReader;
 
-    /// For a node that is known not to hold this group.
-    void appendUnchecked(NxNode* node);
+    /// For a node that is known not to hold this group; `group` is the same node, or null if it is none.
+    void appendUnchecked(NxNode* node, NxGroup* group);
     static void hold(NxNode* node);
     static void release(NxNode* node);
 

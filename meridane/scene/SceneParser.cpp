@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view signature = "#mrd ";
 constexpr std::string_view version = "1.0";
-constexpr std::size_t unitsPerLookAtTheClock = 16;
+constexpr std::size_t unitsPerLookAtTheClock = 32;
 constexpr std::size_t bytesPerSlice = std::size_t{1} << 16U;
 
 } // namespace
@@ -154,7 +154,7 @@ void NxSceneReader::Parser::findReference()
         return;
     NxNode* node = m_references.find(m_reference);
     if (node != nullptr) {
-        top().group->appendUnchecked(node);
+        top().group->appendUnchecked(node, dynamic_cast<NxGroup*>(node));
         return endStatement();
     }
     const std::string found = meridane::describeToken(m_text, m_referencePlace);

@@ -2,14 +2,15 @@
 #include "meridane/scene/SceneParser.h"
 #include "meridane/scene/TextPlace.h"
 
-#include <algorithm>
-
 // The grammar of scene files: one statement after the other.
 
 using meridane::maxNameLength;
 using meridane::TextReader;
 
 namespace {
+
+constexpr std::string_view expectedOutside = "a node";
+constexpr std::string_view expectedInside = "a field, a node or \"}\"";
 
 bool isLetter(char character)
 {
@@ -37,7 +38,7 @@ void NxSceneReader::Parser::readStatement()
         return endNode();
     std::size_t place = m_reader.position();
     std::string_view word;
-    if (!readIdentifier(word, m_depth == 0 ? "a node" : "a field, a node or \"}\""))
+    if (!readIdentifier(word, m_depth == 0 ? expectedOutside : expectedInside))
         return failAsNoted();
     if (isEqualsAhead())
         return startField(word, place, false);
@@ -108,12 +109,13 @@ void NxSceneReader::Parser::startNode(std::string_view className, std::size_t pl
     const NxRef<NxNode> node = nodeClass.create();
     if (!name.empty())
         node->setName(VbString(name));
-    top().group->appendUnchecked(node.get());
+    NxGroup* const group = nodeClass.isGroup() ? static_cast<NxGroup*>(node.get()) : nullptr;
+    top().group->appendUnchecked(node.get(), group);
     if (++m_depth == m_open.size())
         m_open.emplace_back();
     OpenNode& open = top();
     open.node = node.get();
-    open.group = nodeClass.isGroup() ? static_cast<NxGroup*>(node.get()) : nullptr;
+    open.group = group;
     open.nodeClass = &nodeClass;
     open.label = std::move(label);
     open.place = place;
@@ -182,8 +184,7 @@ void NxSceneReader::Parser::startField(std::string_view name, std::size_t place,
         return failAt(place, "a field stands in a node, expected a node");
     m_reader.advance(1);
     // A value begins in the line of its field: a forgotten one must not swallow the next line.
-    const std::string_view rest = m_reader.rest();
-    m_reader.advance(std::min(rest.find_first_not_of(" \t"), rest.size()));
+    m_reader.skipBlanksOfLine();
     if (m_reader.atEnd() || endsStatement(m_reader.peek()))
         return failExpecting(m_reader.position(), "a value");
     const int index = top().nodeClass->findField(name, top().nextField);
@@ -228,9 +229,8 @@ void NxSceneReader::Parser::endStatement()
     const std::string_view before = std::string_view(m_text).substr(0, m_reader.position());
     const std::size_t last = before.find_last_not_of(" \t\r");
     const bool newLine = last != std::string_view::npos && before[last] == '\n';
-    const std::string_view rest = m_reader.rest();
     if (!newLine)
-        m_reader.advance(std::min(rest.find_first_not_of(" \t"), rest.size()));
+        m_reader.skipBlanksOfLine();
     if (!newLine && !m_reader.atEnd() && !endsStatement(m_reader.peek()))
         return failExpecting(m_reader.position(), "the end of the line or \";\"");
     m_phase = Phase::Statement;

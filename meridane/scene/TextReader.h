@@ -39,6 +39,8 @@ public:
     void advance(std::size_t count) noexcept { m_at += count < rest().size() ? count : rest().size(); }
 
     void skipBlanks() noexcept;
+    /// Skips spaces and tabs only.
+    void skipBlanksOfLine() noexcept;
     /// Skips blanks, and then `character` if it stands there; true if it does. Leaves no note.
     bool accept(char character) noexcept;
     /// The same, but it must stand there.
@@ -111,6 +113,12 @@ inline void TextReader::skipBlanks() noexcept
         else if (character != '\n' && character != '\r')
             return;
     }
+}
+
+inline void TextReader::skipBlanksOfLine() noexcept
+{
+    while (m_at != m_end && (*m_at == ' ' || *m_at == '\t'))
+        ++m_at;
 }
 
 inline bool TextReader::accept(char character) noexcept
