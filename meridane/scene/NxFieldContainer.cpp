@@ -7,6 +7,8 @@
 
 #include <utility>
 
+std::uint64_t NxFieldContainer::s_structureRevision = 0;
+
 NxType NxFieldContainer::getClassTypeId()
 {
     static const NxType type = NxType::registerClass("FieldContainer", NxTypedObject::getClassTypeId(), nullptr);
@@ -33,6 +35,7 @@ void NxFieldContainer::unref() const
 void NxFieldContainer::setName(const VbString& name)
 {
     m_name = name;
+    noteStructureChange();
     touch();
 }
 

@@ -4,6 +4,7 @@
 #include "meridane/base/VbString.h"
 #include "meridane/scene/SensorList.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -51,12 +52,19 @@ public:
     void addUnknownField(UnknownField field);
     [[nodiscard]] const std::vector<UnknownField>& getUnknownFields() const noexcept;
 
+    /// A number that changes whenever a node is renamed or a list of children changes, in whatever scene: who keeps
+    /// something that follows from names and places compares it.
+    [[nodiscard]] static std::uint64_t getStructureRevision() noexcept { return s_structureRevision; }
+
     /// Tells the node sensors that the name, a field or the list of children changed.
     void touch();
 
 protected:
     NxFieldContainer();
     ~NxFieldContainer() override;
+
+    /// Says that a name or a list of children changed.
+    static void noteStructureChange() noexcept { ++s_structureRevision; }
 
 private:
     friend class NxField;
@@ -69,6 +77,8 @@ private:
     };
     Rare& rare();
     [[nodiscard]] bool isWatched() const noexcept { return m_rare != nullptr && !m_rare->sensors.isEmpty(); }
+
+    static std::uint64_t s_structureRevision;
 
     mutable int m_references = 0;
     VbString m_name;

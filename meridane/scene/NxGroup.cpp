@@ -34,6 +34,7 @@ bool holds(NxNode* top, const NxNode* wanted)
 
 NxGroup::~NxGroup()
 {
+    noteStructureChange();
     // Nodes that die with this one are taken apart from the bottom up without recursion and without memory: on the way
     // down, the place of the child in its group's list holds the group above.
     NxGroup* group = this;
@@ -91,6 +92,7 @@ bool NxGroup::insertChild(NxNode* node, int index)
         return false;
     m_children.insert(m_children.begin() + index, node);
     hold(node);
+    noteStructureChange();
     touch();
     return true;
 }
@@ -101,6 +103,7 @@ bool NxGroup::removeChild(int index)
     if (child == nullptr)
         return false;
     m_children.erase(m_children.begin() + index);
+    noteStructureChange();
     touch();
     release(child);
     return true;
@@ -112,6 +115,7 @@ void NxGroup::removeAllChildren()
         return;
     std::vector<NxNode*> children;
     children.swap(m_children);
+    noteStructureChange();
     touch();
     for (NxNode* child : children)
         release(child);
@@ -120,6 +124,7 @@ void NxGroup::removeAllChildren()
 void NxGroup::appendUnchecked(NxNode* node, NxGroup* group)
 {
     m_children.push_back(node);
+    noteStructureChange();
     node->ref();
     if (group != nullptr)
         ++group->m_places;

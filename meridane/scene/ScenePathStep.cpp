@@ -22,21 +22,33 @@ std::size_t plainLength(std::string_view text)
     return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
 }
 
+// A group may hold a million nodes: it is left at the second one of the name.
+bool isUnique(std::string_view name, std::span<NxNode* const> siblings)
+{
+    const auto hasName = [name](const NxNode* sibling) { return sibling->getName().view() == name; };
+    const auto first = std::find_if(siblings.begin(), siblings.end(), hasName);
+    return first == siblings.end() || std::find_if(first + 1, siblings.end(), hasName) == siblings.end();
+}
+
 } // namespace
 
 ScenePathStep ScenePathStep::of(const NxNode& parent, const NxNode& child)
 {
     const std::string_view name = child.getName().view();
-    const std::string_view className = child.getClassName();
     const auto siblings = parent.getChildren();
-    const auto sameName = std::count_if(
-        siblings.begin(), siblings.end(), [name](const NxNode* sibling) { return sibling->getName().view() == name; });
-    if (!name.empty() && sameName == 1)
+    if (!name.empty() && isUnique(name, siblings))
         return {std::string(name), -1};
+    // Only a class that isn't known here has other names than that of its type.
+    const NxType type = child.getTypeId();
+    const char* const className = child.getClassName();
     const auto place = std::find(siblings.begin(), siblings.end(), &child);
-    const auto before = std::count_if(
-        siblings.begin(), place, [className](const NxNode* sibling) { return sibling->getClassName() == className; });
-    return {std::string(className), static_cast<int>(before)};
+    const auto before = std::count_if(siblings.begin(), place, [type, className](const NxNode* sibling) {
+        if (sibling->getTypeId() != type)
+            return false;
+        const char* const other = sibling->getClassName();
+        return other == className || std::string_view(other) == className;
+    });
+    return {className, static_cast<int>(before)};
 }
 
 std::string ScenePathStep::parse(std::string_view path, std::size_t& at)

@@ -4,14 +4,16 @@
 #include "orvane/app/SceneTreePanel.h"
 #include "orvane/app/SelectionLabel.h"
 #include "orvane/app/Session.h"
+#include "orvane/app/SliceClock.h"
 #include "orvane/app/TextConversion.h"
 
 #include "meridane/scene/NxField.h"
 #include "meridane/scene/NxFieldData.h"
-#include "meridane/scene/NxScenePath.h"
 
 #include <QLabel>
 #include <QStatusBar>
+
+#include <algorithm>
 
 namespace {
 
@@ -45,32 +47,52 @@ SelectionStatus::SelectionStatus(Session& session, SceneTreePanel* tree, QStatus
 
 void SelectionStatus::updateSoon()
 {
-    // Naming a node looks through all of its siblings: once for many changes, and not while the user waits.
+    // Once for many changes, and not while the user waits.
     m_timer.start(0, this);
 }
 
 void SelectionStatus::timerEvent(QTimerEvent*)
 {
-    m_timer.stop();
-    NxGroup* scene = m_session.document().scene();
-    if (scene == nullptr) {
-        m_path->setPath({});
-        m_counts->clear();
-        return;
-    }
+    const NxGroup* scene = m_session.document().scene();
     NxNode* node = m_tree->currentNode();
-    if (node == nullptr) {
+    const std::optional<std::vector<int>> way = scene != nullptr && node != nullptr ? places(*scene) : std::nullopt;
+    if (scene == nullptr || node == nullptr) {
         m_path->setPath({});
-        m_counts->setText(counted(scene->getChildren().size(), tr("top node"), tr("top nodes")));
-        return;
+        m_counts->setText(
+            scene == nullptr ? QString() : counted(scene->getChildren().size(), tr("top node"), tr("top nodes")));
+        m_namer.clear();
+    } else if (way) {
+        const auto path = m_namer.name(*scene, *way, m_session.services().getSelectedField(), SliceClock::length);
+        if (!path)
+            return; // the timer goes on
+        m_path->setPath(orvane::toQString(*path));
+        showCounts(*node);
     }
-    const std::vector<NxNode*> nodes = m_tree->model()->path(m_tree->current());
-    const NxField* field = m_session.services().getSelectedField();
-    m_path->setPath(orvane::toQString(
-        field != nullptr ? NxScenePath::toText(scene, nodes, field) : NxScenePath::toText(scene, nodes)));
-    const auto fields = static_cast<std::size_t>(node->getFieldData()->getNumFields());
+    m_timer.stop();
+}
+
+std::optional<std::vector<int>> SelectionStatus::places(const NxGroup& scene) const
+{
+    std::vector<int> rows;
+    for (QModelIndex step = m_tree->current(); step.isValid(); step = step.parent())
+        rows.push_back(step.row());
+    std::reverse(rows.begin(), rows.end());
+    // The tree may be behind the scene for a moment; it tells when it has caught up.
+    const NxNode* node = &scene;
+    for (const int row : rows) {
+        const auto children = node->getChildren();
+        if (static_cast<std::size_t>(row) >= children.size())
+            return std::nullopt;
+        node = children[static_cast<std::size_t>(row)];
+    }
+    return node == m_tree->currentNode() ? std::optional(rows) : std::nullopt;
+}
+
+void SelectionStatus::showCounts(NxNode& node)
+{
+    const auto fields = static_cast<std::size_t>(node.getFieldData()->getNumFields());
     QString counts = counted(fields, tr("field"), tr("fields"));
-    if (const std::size_t children = node->getChildren().size(); children > 0)
+    if (const std::size_t children = node.getChildren().size(); children > 0)
         counts += QStringLiteral(", ") + counted(children, tr("child node"), tr("child nodes"));
     m_counts->setText(counts);
 }

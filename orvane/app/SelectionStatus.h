@@ -1,8 +1,14 @@
 #pragma once
 
+#include "meridane/scene/NxScenePathNamer.h"
+
 #include <QBasicTimer>
 #include <QObject>
 
+#include <optional>
+#include <vector>
+
+class NxGroup;
 class QLabel;
 class QStatusBar;
 class SceneTreePanel;
@@ -21,10 +27,13 @@ protected:
 
 private:
     void updateSoon();
+    void showCounts(NxNode& node);
+    [[nodiscard]] std::optional<std::vector<int>> places(const NxGroup& scene) const;
 
     Session& m_session;
     SceneTreePanel* m_tree;
     SelectionLabel* m_path;
     QLabel* m_counts;
+    NxScenePathNamer m_namer;
     QBasicTimer m_timer;
 };
