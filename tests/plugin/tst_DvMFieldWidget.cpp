@@ -5,12 +5,16 @@
 #include "VirtualSlot.h"
 #include "WriteCounter.h"
 
+#include "meridane/base/NxMemoryError.h"
 #include "meridane/base/VbVec.h"
 
 #include <QLabel>
 #include <QMetaMethod>
 
+#include <limits>
 #include <optional>
+
+#include <sys/resource.h>
 
 class tst_DvMFieldWidget : public QObject {
     Q_OBJECT
@@ -30,6 +34,7 @@ private Q_SLOTS:
     void ignoreButtonWritesTheFlagAndPushes();
     void defaultButtonWritesTheDefaultAndPushes();
     void fieldThatDiesLeavesAnEditorThatDoesNothing();
+    void rowsThatDoNotFitInMemoryAreReported();
     void revisionChangesWithTheValueAtOnce();
 };
 
@@ -255,6 +260,31 @@ void tst_DvMFieldWidget::fieldThatDiesLeavesAnEditorThatDoesNothing()
         run.press(button);
     run.doubleClick(2);
     QCOMPARE(run.services.pushed, 0);
+}
+
+void tst_DvMFieldWidget::rowsThatDoNotFitInMemoryAreReported()
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    QSKIP("the sanitizer ends the program when an allocation fails");
+#endif
+    ListRun<DvMFInt32Widget> run;
+    run.node->mfInt32.set("[1, 2, 3]");
+    run.show(run.node->mfInt32);
+    int errors = 0;
+    const auto formerCallback = NxMemoryError::getHandlerCallback();
+    void* const formerData = NxMemoryError::getHandlerData();
+    NxMemoryError::setHandlerCallback([](const NxError*, void* data) { ++*static_cast<int*>(data); }, &errors);
+    rlimit former{};
+    getrlimit(RLIMIT_AS, &former);
+    rlimit tight = former;
+    tight.rlim_cur = std::size_t{1} << 32U;
+    setrlimit(RLIMIT_AS, &tight);
+    run.table->setNumRows(std::numeric_limits<int>::max());
+    setrlimit(RLIMIT_AS, &former);
+    NxMemoryError::setHandlerCallback(formerCallback, formerData);
+    QCOMPARE(errors, 1);
+    QCOMPARE(run.table->rowCount(), 3);
+    QCOMPARE(run.box->maximum(), 3);
 }
 
 void tst_DvMFieldWidget::revisionChangesWithTheValueAtOnce()

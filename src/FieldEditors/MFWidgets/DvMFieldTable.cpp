@@ -10,11 +10,15 @@
 
 #include "orvane/extender/OrvServices.h"
 
+#include "meridane/scene/MemoryGuard.h"
+
 #include <QCursor>
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <cstddef>
 #include <cstdio>
+#include <new>
 #include <utility>
 
 DvMFieldTable::DvMFieldTable(DvMFieldWidget* owner, QWidget* parent, const char* name)
@@ -61,12 +65,26 @@ void DvMFieldTable::keyboardSearch(const QString& /*search*/) { }
 
 void DvMFieldTable::setNumRows(int row)
 {
-    if (row < 0)
+    if (row < 0 || !hasRoomFor(row))
         return;
     AccessButtonPrivate* const box = m_owner->accessBox();
     box->setMinimum(row != 0 ? 1 : 0);
     box->setMaximum(row);
     setRowCount(row);
+}
+
+// The base class keeps some words for each row, and would end in the middle of its work if it ran out of them.
+bool DvMFieldTable::hasRoomFor(int rows) const
+{
+    constexpr int manyRows = 100'000;
+    if (rows - rowCount() < manyRows)
+        return true;
+    const std::size_t words = 2 * (static_cast<std::size_t>(columnCount()) + 2); // lists grow ahead of what they hold
+    const std::size_t bytes = static_cast<std::size_t>(rows) * words * sizeof(void*);
+    return meridane::withinMemory(bytes, [bytes] {
+        ::operator delete(::operator new(bytes));
+        return true;
+    });
 }
 
 // The box counts rows from 1 and the swaps read it so, but its number comes in here as a row that is counted from 0. So
@@ -166,12 +184,8 @@ void DvMFieldTable::deleteRow()
     const int row = currentRow();
     if (row == -1)
         return;
-    AccessButtonPrivate* const box = m_owner->accessBox();
-    box->setMaximum(box->maximum() - 1);
-    OrvServices::getInstance()->pushCommand(new OrvMFDeleteRowsCommand(m_owner->field(), row, 1));
-    if (rowCount() == 0)
-        box->setMinimum(0);
-    removeRow(row);
+    if (pushDeletion(row, 1))
+        removeRow(row);
 }
 
 void DvMFieldTable::deleteSelectedRows()
@@ -181,12 +195,25 @@ void DvMFieldTable::deleteSelectedRows()
         return;
     const int top = ranges.constFirst().topRow(); // the other ranges stay: meant
     const int count = ranges.constFirst().bottomRow() - top + 1;
+    if (pushDeletion(top, count))
+        model()->removeRows(top, count, QModelIndex());
+}
+
+bool DvMFieldTable::pushDeletion(int row, int count)
+{
+    OrvMFDeleteRowsCommand* command = nullptr;
+    const auto makeCommand = [this, &command, row, count] {
+        command = new OrvMFDeleteRowsCommand(m_owner->field(), row, count);
+        return true;
+    };
+    if (!meridane::withinMemory(static_cast<std::size_t>(count) * sizeof(VbString), makeCommand))
+        return false; // what can't be saved isn't removed
     AccessButtonPrivate* const box = m_owner->accessBox();
     box->setMaximum(box->maximum() - count);
-    OrvServices::getInstance()->pushCommand(new OrvMFDeleteRowsCommand(m_owner->field(), top, count));
+    OrvServices::getInstance()->pushCommand(command);
     if (rowCount() == 0)
         box->setMinimum(0);
-    model()->removeRows(top, count, QModelIndex());
+    return true;
 }
 
 void DvMFieldTable::editorDestroyed(QObject* editor)

@@ -31,7 +31,8 @@ public:
 
     // The order of the slots is that of the meta object.
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)
-    /// Sets the number of rows and the bounds of the access box; a negative number changes nothing.
+    /// Sets the number of rows and the bounds of the access box. A negative number changes nothing, nor does one that
+    /// doesn't fit in memory, which is reported as an `NxMemoryError`.
     void setNumRows(int row);
     void swapUpRow();
     void swapDownRow();
@@ -58,6 +59,8 @@ private:
     void noteItem(const QModelIndex& index);
     void clearPlaceholders();
     void deleteSelectedRows();
+    [[nodiscard]] bool pushDeletion(int row, int count);
+    [[nodiscard]] bool hasRoomFor(int rows) const;
 
     QList<QPersistentModelIndex> m_itemPlaces; // the cells that were given an item since the last clearing
 };
