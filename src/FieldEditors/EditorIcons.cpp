@@ -9,42 +9,59 @@
 #include "editor_icons/set_default.xpm"
 
 #include <QPixmap>
+#include <QPixmapCache>
 
 namespace orvane {
 
+namespace {
+
+// Each editor has buttons with the same pictures, whose text takes longer to read than the button to make.
+QPixmap picture(const char* const* xpm)
+{
+    const QString key = QStringLiteral("orvane/editor-icon/%1").arg(reinterpret_cast<quintptr>(xpm));
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = QPixmap(xpm);
+        QPixmapCache::insert(key, pixmap);
+    }
+    return pixmap;
+}
+
+} // namespace
+
 QPixmap setDefaultIcon()
 {
-    return QPixmap(set_default_xpm);
+    return picture(set_default_xpm);
 }
 
 QPixmap ignoreIcon()
 {
-    return QPixmap(ignore_xpm);
+    return picture(ignore_xpm);
 }
 
 QPixmap editIcon()
 {
-    return QPixmap(edit_xpm);
+    return picture(edit_xpm);
 }
 
 QPixmap addRowIcon()
 {
-    return QPixmap(add_row_xpm);
+    return picture(add_row_xpm);
 }
 
 QPixmap deleteRowIcon()
 {
-    return QPixmap(delete_row_xpm);
+    return picture(delete_row_xpm);
 }
 
 QPixmap moveUpIcon()
 {
-    return QPixmap(move_up_xpm);
+    return picture(move_up_xpm);
 }
 
 QPixmap moveDownIcon()
 {
-    return QPixmap(move_down_xpm);
+    return picture(move_down_xpm);
 }
 
 } // namespace orvane
