@@ -16,6 +16,9 @@ public:
     void append(std::string& text, std::string_view part);
 
 private:
+    std::size_t passQuoted(std::string_view part) noexcept;
+    std::size_t passPlain(std::string_view part) noexcept;
+
     std::size_t m_column = 0;
     std::size_t m_indentation = 0;
     bool m_inBrackets = false;
