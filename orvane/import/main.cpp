@@ -17,6 +17,7 @@
 #include <string_view>
 #include <vector>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -71,8 +72,10 @@ int readModel(const std::string& path)
     NxSceneWriter writer(scene.get());
     std::string text;
     bool more = true;
+    // Short, so that the tool takes one part in while the next one is made.
+    constexpr std::chrono::milliseconds slice(2);
     while (more) {
-        more = writer.step(text, std::chrono::milliseconds(20));
+        more = writer.step(text, slice);
         if (!writeAll(text, error))
             return fail(error);
         text.clear();
@@ -149,6 +152,10 @@ int main(int argc, char** argv)
         return fail(error + "; --help tells how it is used", BadArguments);
     orvane::applyLimits(arguments->limits);
     const bool reads = arguments->task == Arguments::Task::Read;
+    // A large pipe, where the system grants it, keeps the tool from holding up the writing.
+    constexpr int pipeSize = 1 << 20;
+    if (reads)
+        fcntl(STDOUT_FILENO, F_SETPIPE_SZ, pipeSize);
     const orvane::Locks locks
         = orvane::lockIn(reads ? orvane::foldersOf(arguments->subject) : std::vector<std::string>());
     try {
