@@ -1,5 +1,6 @@
 #include "orvane/app/EditMenu.h"
 
+#include "orvane/app/DrawnIcon.h"
 #include "orvane/app/NodeCommands.h"
 #include "orvane/app/SceneTreeModel.h"
 #include "orvane/app/SceneTreePanel.h"
@@ -23,31 +24,22 @@ namespace {
 /// An arrow that turns back, to the left; mirrored it turns to the right.
 QIcon turningArrow(const QPalette& palette, bool mirrored)
 {
-    QIcon icon;
-    for (const auto& [mode, group] :
-        {std::pair(QIcon::Normal, QPalette::Active), {QIcon::Disabled, QPalette::Disabled}}) {
-        for (const int size : {16, 24, 32, 48}) {
-            QPixmap pixmap(size, size);
-            pixmap.fill(Qt::transparent);
-            QPainter painter(&pixmap);
-            painter.setRenderHint(QPainter::Antialiasing);
-            painter.scale((mirrored ? -size : size) / 16.0, size / 16.0);
-            if (mirrored)
-                painter.translate(-16, 0);
-            const QColor color = palette.color(group, QPalette::ButtonText);
-            painter.setPen(QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap));
-            QPainterPath path(QPointF(3.5, 6));
-            path.lineTo(9.5, 6);
-            path.arcTo(QRectF(6, 6, 7, 7), 90, -180);
-            path.lineTo(6, 13);
-            painter.drawPath(path);
-            painter.setBrush(color);
-            painter.drawPolygon(QPolygonF{{2, 6}, {5.5, 3}, {5.5, 9}});
-            painter.end();
-            icon.addPixmap(pixmap, mode);
+    return orvane::drawnIcon([palette, mirrored](QPainter& painter, QIcon::Mode mode) {
+        if (mirrored) {
+            painter.translate(16, 0);
+            painter.scale(-1, 1);
         }
-    }
-    return icon;
+        const QColor color
+            = palette.color(mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active, QPalette::ButtonText);
+        painter.setPen(QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap));
+        QPainterPath path(QPointF(3.5, 6));
+        path.lineTo(9.5, 6);
+        path.arcTo(QRectF(6, 6, 7, 7), 90, -180);
+        path.lineTo(6, 13);
+        painter.drawPath(path);
+        painter.setBrush(color);
+        painter.drawPolygon(QPolygonF{{2, 6}, {5.5, 3}, {5.5, 9}});
+    });
 }
 
 } // namespace

@@ -32,7 +32,10 @@ JobBar::JobBar(QWidget* parent)
     connect(m_cancel, &QToolButton::clicked, this, &JobBar::cancel);
     m_timer.setSingleShot(true);
     m_timer.setInterval(patience);
-    connect(&m_timer, &QTimer::timeout, this, &QWidget::show);
+    connect(&m_timer, &QTimer::timeout, this, [this] {
+        show();
+        showProgress(m_share);
+    });
     hide();
 }
 
@@ -58,6 +61,9 @@ void JobBar::cancel()
 
 void JobBar::showProgress(double share)
 {
+    m_share = share;
+    if (isHidden())
+        return;
     m_progress->setRange(0, share < 0 ? 0 : progressSteps);
     m_progress->setValue(static_cast<int>(share * progressSteps));
 }

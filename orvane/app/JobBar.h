@@ -32,4 +32,5 @@ private:
     QProgressBar* m_progress;
     QToolButton* m_cancel;
     QTimer m_timer;
+    double m_share = 0; // of the work that is done
 };

@@ -55,7 +55,6 @@ MainWindow::MainWindow(Session& session)
     , m_recent(new RecentFiles(session.settings(), this))
     , m_messages(new MessageBar(this))
     , m_middle(new QStackedWidget(this))
-    , m_startPage(new StartPage(this))
     , m_fields(new FieldPanel(this))
     , m_tree(new SceneTreePanel(this))
     , m_jobBar(new JobBar(this))
@@ -133,7 +132,6 @@ void MainWindow::buildMiddle()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_messages);
-    m_middle->addWidget(m_startPage);
     m_middle->addWidget(m_fields);
     layout->addWidget(m_middle, 1);
     setCentralWidget(container);
@@ -170,13 +168,21 @@ void MainWindow::buildMenus()
     toolBar->addSeparator();
     toolBar->addActions(editMenu->toolBarActions());
     viewMenu->update();
+}
 
-    connect(m_startPage, &StartPage::openRequested, m_fileMenu, &FileMenu::chooseFileToOpen);
-    connect(m_startPage, &StartPage::newRequested, m_files, &FileFlow::newScene);
-    connect(m_startPage, &StartPage::fileChosen, this, &MainWindow::openFile);
-    const auto listRecent = [this] { m_startPage->setRecentFiles(m_recent->fileNames()); };
-    connect(m_recent, &RecentFiles::changed, m_startPage, listRecent);
-    listRecent();
+void MainWindow::showStartPage()
+{
+    if (m_startPage == nullptr) {
+        m_startPage = new StartPage(this);
+        m_middle->addWidget(m_startPage);
+        connect(m_startPage, &StartPage::openRequested, m_fileMenu, &FileMenu::chooseFileToOpen);
+        connect(m_startPage, &StartPage::newRequested, m_files, &FileFlow::newScene);
+        connect(m_startPage, &StartPage::fileChosen, this, &MainWindow::openFile);
+        const auto listRecent = [this] { m_startPage->setRecentFiles(m_recent->fileNames()); };
+        connect(m_recent, &RecentFiles::changed, m_startPage, listRecent);
+        listRecent();
+    }
+    m_middle->setCurrentWidget(m_startPage);
 }
 
 void MainWindow::connectDocument()
@@ -199,10 +205,11 @@ void MainWindow::updateTitle()
 void MainWindow::updateMiddle()
 {
     m_tree->setScene(document().scene());
+    // Before the window is seen it isn't known what it will show.
     if (document().isOpen())
         m_middle->setCurrentWidget(m_fields);
-    else
-        m_middle->setCurrentWidget(m_startPage);
+    else if (isVisible())
+        showStartPage();
 }
 
 void MainWindow::reportSettled(const QString& error)
@@ -237,6 +244,8 @@ void MainWindow::showEvent(QShowEvent* event)
     // By now the extensions of the first profile have added their docks and tool bars.
     if (!std::exchange(m_layoutRestored, true))
         restoreLayout();
+    if (!document().isOpen())
+        showStartPage();
     QMainWindow::showEvent(event);
 }
 

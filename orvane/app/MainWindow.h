@@ -61,6 +61,7 @@ private:
     void connectDocument();
     void updateTitle();
     void updateMiddle();
+    void showStartPage();
     void reportSettled(const QString& error);
     void saveLayout();
     void restoreLayout();
@@ -71,7 +72,7 @@ private:
     RecentFiles* m_recent;
     MessageBar* m_messages;
     QStackedWidget* m_middle;
-    StartPage* m_startPage;
+    StartPage* m_startPage = nullptr; // made when it is first shown
     FieldPanel* m_fields;
     SceneTreePanel* m_tree;
     JobBar* m_jobBar;

@@ -1,5 +1,7 @@
 #include "orvane/app/NodeIcons.h"
 
+#include "orvane/app/DrawnIcon.h"
+
 #include "meridane/base/VbName.h"
 
 #include <QHash>
@@ -229,31 +231,18 @@ void (*drawingOf(NxType type))(QPainter&)
     return &drawNode;
 }
 
-QPixmap drawPixmap(void (*draw)(QPainter&), int size, bool onPlate)
+QIcon iconOf(void (*draw)(QPainter&))
 {
-    QPixmap pixmap(size, size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size / 16.0, size / 16.0);
-    if (onPlate) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(255, 255, 255, 215));
-        painter.drawRoundedRect(QRectF(0, 0, 16, 16), 3, 3);
-    }
-    draw(painter);
-    return pixmap;
-}
-
-QIcon drawIcon(void (*draw)(QPainter&))
-{
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48}) {
-        icon.addPixmap(drawPixmap(draw, size, false));
+    return drawnIcon([draw](QPainter& painter, QIcon::Mode mode) {
         // In a selected row the icon would be tinted with a colour that may be its own.
-        icon.addPixmap(drawPixmap(draw, size, true), QIcon::Selected);
-    }
-    return icon;
+        if (mode == QIcon::Selected) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(QColor(255, 255, 255, 215));
+            painter.drawRoundedRect(QRectF(0, 0, 16, 16), 3, 3);
+        }
+        painter.setOpacity(mode == QIcon::Disabled ? 0.5 : 1);
+        draw(painter);
+    });
 }
 
 } // namespace
@@ -264,7 +253,7 @@ QIcon nodeIcon(NxType type)
     static QHash<QByteArray, QIcon> icons;
     QIcon& icon = icons[QByteArray(type.getName().getString())];
     if (icon.isNull())
-        icon = drawIcon(drawingOf(type));
+        icon = iconOf(drawingOf(type));
     return icon;
 }
 

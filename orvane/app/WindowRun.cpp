@@ -14,6 +14,7 @@
 #include <QPixmap>
 #include <QTimer>
 
+#include <chrono>
 #include <cstdio>
 
 WindowRun::WindowRun(CommandLine commandLine)
@@ -28,7 +29,7 @@ int WindowRun::run()
     prepare(session, window);
     if (m_commandLine.size.isValid())
         window.resize(m_commandLine.size);
-    window.show();
+    showSoon(window);
     openFile(window);
     if (m_commandLine.file.isEmpty() && !m_commandLine.screenshotFile.isEmpty())
         QTimer::singleShot(0, this, [this, &window] { takePicture(window); });
@@ -47,6 +48,18 @@ int WindowRun::run()
     });
     const int status = QApplication::exec();
     return m_commandLine.screenshotFile.isEmpty() || !m_failed ? status : 1;
+}
+
+void WindowRun::showSoon(MainWindow& window)
+{
+    if (m_commandLine.file.isEmpty()) {
+        window.show();
+        return;
+    }
+    // A small scene is there before the user would have seen anything: the window's first picture shows it at once.
+    constexpr std::chrono::milliseconds patience(50);
+    connect(&window, &MainWindow::settled, &window, &QWidget::show, Qt::SingleShotConnection);
+    QTimer::singleShot(patience, &window, &QWidget::show);
 }
 
 void WindowRun::prepare(Session& session, MainWindow& window)

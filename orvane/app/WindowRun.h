@@ -22,6 +22,7 @@ public:
 
 private:
     void prepare(Session& session, MainWindow& window);
+    void showSoon(MainWindow& window);
     void openFile(MainWindow& window);
     void applyTo(Session& session, MainWindow& window);
     void report(MainWindow& window, const QString& message);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QIcon>
+
+#include <functional>
+
+class QPainter;
+
+namespace orvane {
+
+/// Draws an icon on a square of 16 units. It is told the mode, of which only `Selected` and `Disabled` may look
+/// different from `Normal`.
+using DrawIcon = std::function<void(QPainter& painter, QIcon::Mode mode)>;
+
+/// An icon that is drawn when it is needed, once in each size and mode.
+[[nodiscard]] QIcon drawnIcon(DrawIcon draw);
+
+} // namespace orvane
