@@ -55,6 +55,8 @@ private Q_SLOTS:
     void constructorWritesTheNames();
     void loadBuildsTheColumns_data() { rows(); }
     void loadBuildsTheColumns();
+    void columnsShareTheWidth_data() { rows(); }
+    void columnsShareTheWidth();
     void rowsBeforeLoadGetPlaceholders_data() { rows(); }
     void rowsBeforeLoadGetPlaceholders();
     void cellsShowTheirTexts_data() { rows(); }
@@ -118,6 +120,26 @@ void tst_VectorRowEditors::loadBuildsTheColumns()
         QCOMPARE(run.table()->horizontalHeader()->sectionResizeMode(column), QHeaderView::Interactive);
     const QString label = QStringLiteral("<p align=\"center\">%1</p>").arg(QLatin1String(entry().type));
     QCOMPARE(run.find<QLabel>("m_label")->text(), label);
+}
+
+void tst_VectorRowEditors::columnsShareTheWidth()
+{
+    const RowEditorRun run = runWithField();
+    QHeaderView* const header = run.table()->horizontalHeader();
+    const auto isFilled = [&run, header] {
+        const int left = run.table()->viewport()->width() - header->length();
+        return left >= 0 && left < header->count();
+    };
+    QVERIFY(isFilled());
+    run.table()->window()->resize(500, 260);
+    QTRY_VERIFY(run.table()->viewport()->width() < 500);
+    QVERIFY(isFilled());
+    // What the user drags stays as it is.
+    header->resizeSection(0, 50);
+    run.table()->window()->resize(600, 260);
+    QTRY_VERIFY(run.table()->viewport()->width() > 450);
+    QCOMPARE(header->sectionSize(0), 50);
+    QVERIFY(!isFilled());
 }
 
 void tst_VectorRowEditors::rowsBeforeLoadGetPlaceholders()

@@ -13,6 +13,7 @@
 #include "meridane/scene/MemoryGuard.h"
 
 #include <QCursor>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -32,6 +33,7 @@ DvMFieldTable::DvMFieldTable(DvMFieldWidget* owner, QWidget* parent, const char*
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setCurrentCell(0, 0);
     connect(model(), &QAbstractItemModel::dataChanged, this, &DvMFieldTable::noteItem);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { m_widthIsShared = false; });
 }
 
 DvMFieldTable::~DvMFieldTable()
@@ -266,6 +268,22 @@ void DvMFieldTable::hideEvent(QHideEvent* event)
     // Another field may be selected next: what was typed belongs to this one.
     commitOpenEditor();
     QTableWidget::hideEvent(event);
+}
+
+void DvMFieldTable::resizeEvent(QResizeEvent* event)
+{
+    QTableWidget::resizeEvent(event);
+    if (m_widthIsShared)
+        shareWidth();
+}
+
+// Nothing scrolls sideways, so what stood beyond the edge would be out of reach.
+void DvMFieldTable::shareWidth()
+{
+    if (columnCount() == 0)
+        return;
+    horizontalHeader()->setDefaultSectionSize(viewport()->width() / columnCount());
+    m_widthIsShared = true; // the header's signal came from here
 }
 
 // The editor of a cell that loses the focus writes what was typed. A change of rows would throw it away.

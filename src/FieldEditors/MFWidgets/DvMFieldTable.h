@@ -49,6 +49,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
     DvMFieldWidget* m_owner;
     DvMFieldTableItemDelegate* m_delegate;
@@ -61,6 +62,8 @@ private:
     void deleteSelectedRows();
     [[nodiscard]] bool pushDeletion(int row, int count);
     [[nodiscard]] bool hasRoomFor(int rows) const;
+    void shareWidth();
 
     QList<QPersistentModelIndex> m_itemPlaces; // the cells that were given an item since the last clearing
+    bool m_widthIsShared = true; // until the user drags a column
 };
