@@ -38,6 +38,7 @@ private Q_SLOTS:
     void firstRowOfAFloatTableHasDoublePrecision();
     void rangeFollowsTheNode();
     void typedTextIsWrittenWhenAnotherFieldIsSelected();
+    void paintedTextIsNeverStale();
 };
 
 void tst_LineCellEdits::doubleCellsTakeLinesThatReturnWrites()
@@ -235,6 +236,23 @@ void tst_LineCellEdits::typedTextIsWrittenWhenAnotherFieldIsSelected()
     QCOMPARE(run.textOf(other), QStringLiteral("[8, 9]"));
     QCOMPARE(run.table->rowCount(), 2);
     run.show(*static_cast<NxField*>(&run.node->mfDouble));
+}
+
+void tst_LineCellEdits::paintedTextIsNeverStale()
+{
+    ListRun<DvMFDoubleWidget> run;
+    run.node->mfDouble.set("[1, 2]");
+    run.show(run.node->mfDouble);
+    const QImage one = run.picture(0);
+    const QImage two = run.picture(1);
+    // Between the write and the sensor's call.
+    run.node->mfDouble.set("[2, 1]");
+    QCOMPARE(run.picture(0), two);
+    QCOMPARE(run.picture(1), one);
+    // A row that is gone, but not yet from the table, is blank.
+    run.node->mfDouble.set("[2]");
+    QVERIFY(run.picture(1) != one);
+    QVERIFY(run.picture(1) != two);
 }
 
 QTEST_MAIN(tst_LineCellEdits)
