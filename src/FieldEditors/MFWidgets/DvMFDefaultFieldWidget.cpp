@@ -1,10 +1,8 @@
 #include "FieldEditors/MFWidgets/DvMFDefaultFieldWidget.h"
 
 #include "FieldEditors/FieldChanges.h"
-#include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/RowColumns.h"
-#include "FieldEditors/MFWidgets/RowValues.h"
-#include "FieldEditors/RowChanges.h"
+#include "FieldEditors/MFWidgets/RowTexts.h"
 
 #include "orvane/extender/VbText.h"
 
@@ -30,8 +28,7 @@ void DvMFDefaultFieldWidget::load()
 
 void DvMFDefaultFieldWidget::swapRows(int first, int second)
 {
-    if (m_field != nullptr && orvane::hasRow(*m_field, first) && orvane::hasRow(*m_field, second))
-        orvane::swapRowTexts(*m_field, first, second);
+    orvane::swapExistingRows(m_field, first, second);
 }
 
 void DvMFDefaultFieldWidget::reservedRowOperation() { }
@@ -48,11 +45,7 @@ void DvMFDefaultFieldWidget::setCellValue(int row, int /*column*/, QString value
 
 QString DvMFDefaultFieldWidget::getCellValue(int row, int column)
 {
-    if (m_field == nullptr || column >= 1 || row >= m_field->getNum())
-        return {};
-    VbString text;
-    m_field->get1(row, text);
-    return orvane::toQString(text);
+    return orvane::rowText(m_field, row, column);
 }
 
 bool DvMFDefaultFieldWidget::prepareForField(NxField* field)

@@ -1,13 +1,11 @@
 #include "FieldEditors/MFWidgets/DvMFLineWidget.h"
 
-#include "FieldEditors/MFWidgets/DvMFieldTable.h"
-#include "FieldEditors/RowChanges.h"
+#include "FieldEditors/MFWidgets/RowColumns.h"
+#include "FieldEditors/MFWidgets/RowTexts.h"
 
 #include "orvane/extender/VbText.h"
 
 #include "meridane/scene/NxMField.h"
-
-#include <QHeaderView>
 
 DvMFLineWidget::DvMFLineWidget(const char* name)
     : DvMFieldWidget(name != nullptr ? name : "DvMFLineWidget")
@@ -24,16 +22,12 @@ void DvMFLineWidget::load()
 
 void DvMFLineWidget::setUpTable()
 {
-    m_table->setColumnCount(1);
-    m_table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Interactive);
-    m_table->setNumRows(0);
+    orvane::setUpColumn(m_table);
 }
 
 void DvMFLineWidget::swapRows(int first, int second)
 {
-    const int rows = m_field != nullptr ? m_field->getNum() : 0;
-    if (first >= 0 && second >= 0 && first < rows && second < rows)
-        orvane::swapRowTexts(*m_field, first, second);
+    orvane::swapExistingRows(m_field, first, second);
 }
 
 void DvMFLineWidget::reservedRowOperation() { }
@@ -47,11 +41,7 @@ void DvMFLineWidget::setCellValue(int row, int /*column*/, QString value)
 
 QString DvMFLineWidget::getCellValue(int row, int column)
 {
-    if (m_field == nullptr || column >= 1 || row >= m_field->getNum())
-        return {};
-    VbString text;
-    m_field->get1(row, text);
-    return orvane::toQString(text);
+    return orvane::rowText(m_field, row, column);
 }
 
 bool DvMFLineWidget::prepareForField(NxField* field)

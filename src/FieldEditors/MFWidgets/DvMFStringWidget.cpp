@@ -1,8 +1,8 @@
 #include "FieldEditors/MFWidgets/DvMFStringWidget.h"
 
 #include "FieldEditors/FieldChanges.h"
-#include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/RowColumns.h"
+#include "FieldEditors/MFWidgets/RowTexts.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
 #include "FieldEditors/OrvMFSwapRowsCommand.h"
 
@@ -58,9 +58,7 @@ QString DvMFStringWidget::getCellValue(int row, int column)
         return {};
     if (const auto* const list = orvane::listAs<NxMFString>(m_field); list != nullptr)
         return orvane::toQString(orvane::valueOf(*list, row));
-    VbString text;
-    m_field->get1(row, text);
-    return orvane::toQString(text);
+    return orvane::rowText(m_field, row, column);
 }
 
 bool DvMFStringWidget::prepareForField(NxField* field)
