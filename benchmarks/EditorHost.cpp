@@ -30,20 +30,20 @@ NxRef<NxFieldGallery> readGallery()
 EditorHost::EditorHost()
     : node(readGallery())
 {
-    if (const auto error = m_manager.addPlugin(&plugin))
+    if (const auto error = manager.addPlugin(&plugin))
         qFatal("%s", qUtf8Printable(*error));
     const QString name = QStringLiteral("Editors");
     const QList<OrvProfile::Entry> entries{{QStringLiteral("Field Editor"), true, {QStringLiteral("*")}}};
-    if (const auto error = m_manager.addProfile(std::make_unique<OrvProfile>(name, entries)))
+    if (const auto error = manager.addProfile(std::make_unique<OrvProfile>(name, entries)))
         qFatal("%s", qUtf8Printable(*error));
-    m_manager.setActiveProfile(m_manager.findProfile(name));
+    manager.setActiveProfile(manager.findProfile(name));
     window.show();
 }
 
 EditorHost::~EditorHost()
 {
     services.selectField(nullptr);
-    m_manager.unloadPlugins();
+    manager.unloadPlugins();
 }
 
 void EditorHost::addDockWidget(QDockWidget* added, int area)

@@ -34,9 +34,7 @@ public:
     OrvDefaults plugin;
     QDockWidget* dock = nullptr;
     NxRef<NxFieldGallery> node;
-
-private:
-    OrvPluginsManager m_manager;
+    OrvPluginsManager manager;
 };
 
 } // namespace bench

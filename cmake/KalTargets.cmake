@@ -1,7 +1,7 @@
 # The project's ways to declare a target, one function a kind.
 
 # kal_add_library(name [OBJECT|STATIC] [QT] SOURCES … HEADERS … [DEPENDS …] [BASE_DIR dir])
-# A library with its public headers, shared unless told otherwise. QT turns on moc, rcc, uic and the precompiled header.
+# A library with its public headers, shared unless told otherwise. QT turns on moc, rcc and the precompiled header.
 function(kal_add_library name)
   cmake_parse_arguments(arg "OBJECT;STATIC;QT" "BASE_DIR" "SOURCES;HEADERS;DEPENDS" ${ARGN})
   set(kind SHARED)
@@ -123,6 +123,6 @@ endfunction()
 
 # Qt's code generators.
 function(kal_use_qt name)
-  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON AUTOUIC ON)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
   target_link_libraries(${name} PRIVATE kal_qt_rules)
 endfunction()

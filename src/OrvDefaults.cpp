@@ -13,6 +13,8 @@ OrvDefaults::~OrvDefaults() = default;
 void OrvDefaults::load()
 {
     // An order of its own, which is what the host shows; it isn't bound to the order of declaration.
+    addExtension(&m_profileSelector);
+    addExtension(&m_console);
     addExtension(&m_mfColor);
     addExtension(&m_mfColorRGBA);
     addExtension(&m_mfDefaultField);

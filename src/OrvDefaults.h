@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Console/OrvConsole.h"
 #include "FieldEditors/MFWidgets/DvMFColorRGBAWidget.h"
 #include "FieldEditors/MFWidgets/DvMFColorWidget.h"
 #include "FieldEditors/MFWidgets/DvMFDefaultFieldWidget.h"
@@ -46,6 +47,7 @@
 #include "FieldEditors/SFWidgets/DvSFVec4fWidget.h"
 #include "OrvFieldEditorDockWin.h"
 #include "OrvNodeEditor.h"
+#include "Profiles/OrvProfileSelectorExtension.h"
 
 #include "orvane/extender/OrvPlugin.h"
 
@@ -60,6 +62,8 @@ public:
 private:
     // In this order the docks meet the editors, since they walk them by address; among editors of the same type the one
     // declared last wins.
+    OrvProfileSelectorExtension m_profileSelector;
+    OrvConsole m_console;
     DvMFColorWidget m_mfColor;
     DvMFColorRGBAWidget m_mfColorRGBA;
     DvMFDefaultFieldWidget m_mfDefaultField;

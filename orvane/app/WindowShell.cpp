@@ -9,9 +9,9 @@
 
 namespace {
 
-/// Wide enough for the editors of most fields.
+/// Wide enough for the editors of most fields, and high enough for a column of five buttons.
 constexpr int sideDockWidth = 380;
-constexpr int bottomDockHeight = 160;
+constexpr int bottomDockHeight = 250;
 
 void giveName(QWidget* widget, const QString& title)
 {

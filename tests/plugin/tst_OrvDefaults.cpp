@@ -25,6 +25,8 @@ struct Entry {
 
 // In the order of registration.
 const QList<Entry> roster{
+    {QStringLiteral("Profile Selector"), {}},
+    {QStringLiteral("Console"), {}},
     {QStringLiteral("MFColor"), QStringLiteral("MFColor")},
     {QStringLiteral("MFColorRGBA"), QStringLiteral("MFColorRGBA")},
     {QStringLiteral("MField"), QStringLiteral("MField")},

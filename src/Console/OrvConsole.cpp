@@ -1,0 +1,250 @@
+#include "Console/OrvConsole.h"
+
+#include "orvane/extender/OrvShell.h"
+
+#include "meridane/base/NxDebugError.h"
+#include "meridane/base/NxError.h"
+#include "meridane/base/NxErrorStack.h"
+#include "meridane/base/NxGLError.h"
+#include "meridane/base/NxMemoryError.h"
+#include "meridane/base/NxPreferences.h"
+#include "meridane/base/NxReadError.h"
+
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QFrame>
+
+#include <cstdint>
+#include <iostream>
+#include <utility>
+
+namespace {
+
+/// Each error class has a handler of its own, reached through static operations.
+struct ErrorClass {
+    NxErrorHandler (*getHandlerCallback)();
+    void* (*getHandlerData)();
+    void (*setHandlerCallback)(NxErrorHandler callback, void* data);
+};
+
+template <typename Error>
+constexpr ErrorClass errorClass{&Error::getHandlerCallback, &Error::getHandlerData, &Error::setHandlerCallback};
+
+constexpr std::array errorClasses{errorClass<NxDebugError>, errorClass<NxError>, errorClass<NxErrorStack>,
+    errorClass<NxGLError>, errorClass<NxMemoryError>, errorClass<NxReadError>};
+
+/// In characters. The default way to break lines looks for the end of a word over and over, which takes minutes for a
+/// word of a megabyte.
+constexpr qsizetype longText = 10'000;
+
+constexpr std::int32_t errorCategory = 0;
+constexpr std::int32_t infoCategory = 1;
+constexpr std::int32_t warningCategory = 2;
+
+std::int32_t categoryOf(const NxError& error)
+{
+    if (!error.isOfType(NxDebugError::getClassTypeId()))
+        return errorCategory;
+    switch (static_cast<const NxDebugError&>(error).getSeverity()) {
+    case NxDebugError::Warning:
+        return warningCategory;
+    case NxDebugError::Information:
+        return infoCategory;
+    default:
+        return errorCategory;
+    }
+}
+
+} // namespace
+
+/// One error on its way to the thread of the user interface.
+class OrvConsole::ConsoleEvent final : QEvent {
+public:
+    static constexpr Type eventType = User;
+
+    explicit ConsoleEvent(const QString& text)
+        : QEvent(eventType)
+        , m_text(text)
+    {
+    }
+
+    [[nodiscard]] const QString& text() const noexcept { return m_text; }
+    [[nodiscard]] std::int32_t category() const noexcept { return m_category; }
+    /// Any value but those of an information and a warning stands for an error.
+    void setCategory(std::int32_t category) noexcept { m_category = category; }
+
+private:
+    friend OrvConsole; // which posts it, and meets it again
+
+    QString m_text;
+    std::int32_t m_category = errorCategory;
+};
+
+OrvConsole::OrvConsole()
+{
+    m_name = "Console";
+    m_author = "KLD";
+    m_description = "A console which prints the standard output and error.";
+    m_version = "1.0.0";
+}
+
+OrvConsole::~OrvConsole() = default;
+
+void OrvConsole::activate()
+{
+    OrvShell* const shell = OrvShell::getInstance();
+    shell->announceExtension(this, 1);
+    OrvExtension::activate();
+    m_dockWidget->setWidget(m_consoleFrameWidget);
+    m_dockWidget->setWindowTitle(QStringLiteral("Console"));
+    if (NxPreferences::getBool("ORVANE_STDOUT_CAPTURE", 1) != 0) {
+        m_stderrRedirector = std::make_unique<Redirector>(std::cerr, &consoleErrorStreamCallback, this);
+        m_stdoutRedirector = std::make_unique<Redirector>(std::cout, &consoleOutputStreamCallback, this);
+    }
+    shell->addDockWidget(m_dockWidget, Qt::BottomDockWidgetArea);
+    show();
+}
+
+void OrvConsole::deactivate()
+{
+    OrvExtension::deactivate();
+    m_dockWidget->setWidget(nullptr);
+    m_stderrRedirector.reset();
+    m_stdoutRedirector.reset();
+    OrvShell* const shell = OrvShell::getInstance();
+    shell->removeDockWidget(m_dockWidget);
+    hide();
+    shell->withdrawExtension(this);
+}
+
+void OrvConsole::hide()
+{
+    OrvExtension::hide();
+    m_dockWidget->hide();
+    m_consoleFrameWidget->hide();
+}
+
+void OrvConsole::load()
+{
+    m_dockWidget = new QDockWidget;
+    m_consoleFrameWidget = new QFrame(m_dockWidget);
+    setupUi(m_consoleFrameWidget);
+    m_outputErrors = true;
+    m_outputInfos = true;
+    m_outputWarnings = true;
+    connect(m_clearButton, &QPushButton::clicked, this, &OrvConsole::clear);
+    connect(m_errorsButton, &QPushButton::toggled, this, &OrvConsole::outputErrors);
+    connect(m_infosButton, &QPushButton::toggled, this, &OrvConsole::outputInfos);
+    connect(m_saveButton, &QPushButton::clicked, this, &OrvConsole::save);
+    connect(m_warningsButton, &QPushButton::toggled, this, &OrvConsole::outputWarnings);
+    static_assert(errorClasses.size() == errorClassCount);
+    for (std::size_t index = 0; index < errorClassCount; ++index) {
+        m_savedHandlerCallbacks[index] = errorClasses[index].getHandlerCallback();
+        m_savedHandlerData[index] = errorClasses[index].getHandlerData();
+    }
+    // The former handlers aren't called meanwhile: what the console takes goes to the console alone.
+    for (const ErrorClass& one : errorClasses)
+        one.setHandlerCallback(&handleError, this);
+}
+
+void OrvConsole::show()
+{
+    OrvExtension::show();
+    m_dockWidget->show();
+    m_consoleFrameWidget->show();
+}
+
+void OrvConsole::unload()
+{
+    delete std::exchange(m_consoleFrameWidget, nullptr);
+    delete std::exchange(m_dockWidget, nullptr);
+    for (std::size_t index = 0; index < errorClassCount; ++index)
+        errorClasses[index].setHandlerCallback(m_savedHandlerCallbacks[index], m_savedHandlerData[index]);
+}
+
+bool OrvConsole::event(QEvent* event)
+{
+    // An error may still be under way when the view is gone.
+    if (event->type() == ConsoleEvent::eventType && m_consoleFrameWidget != nullptr) {
+        const auto* const message = static_cast<ConsoleEvent*>(event);
+        switch (message->category()) {
+        case infoCategory:
+            append(m_outputInfos, m_infoColor, message->text());
+            break;
+        case warningCategory:
+            append(m_outputWarnings, m_warningColor, message->text());
+            break;
+        default:
+            append(m_outputErrors, m_errorColor, message->text());
+        }
+    }
+    return QObject::event(event);
+}
+
+void OrvConsole::clear()
+{
+    m_consoleOutput->clear();
+    m_consoleOutput->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+// The flags don't read the buttons: both start on, and each toggle inverts once.
+void OrvConsole::outputErrors()
+{
+    m_outputErrors = !m_outputErrors;
+}
+
+void OrvConsole::outputInfos()
+{
+    m_outputInfos = !m_outputInfos;
+}
+
+void OrvConsole::outputWarnings()
+{
+    m_outputWarnings = !m_outputWarnings;
+}
+
+void OrvConsole::save()
+{
+    const QString fileName = QFileDialog::getSaveFileName(m_consoleFrameWidget, tr("Save the content of the console"),
+        QStringLiteral("."), tr("Console outputs (*.txt)"));
+    if (fileName.isEmpty())
+        return;
+    QFile file(fileName);
+    // Without truncating: a longer file keeps its remainder behind the text. That is meant.
+    if (file.open(QIODevice::ReadWrite | QIODevice::Text))
+        file.write(m_consoleOutput->toPlainText().toLatin1().constData());
+}
+
+/// Runs on the thread that reports the error, so it touches no widget.
+void OrvConsole::handleError(const NxError* error, void* console)
+{
+    auto message = std::make_unique<ConsoleEvent>(QString::fromUtf8(error->getDebugString().toUtf8()));
+    message->setCategory(categoryOf(*error));
+    QCoreApplication::postEvent(static_cast<OrvConsole*>(console), message.release());
+}
+
+/// What is filtered out when it arrives is gone for good, and what is shown stays whatever is filtered later.
+void OrvConsole::append(bool isShown, const QColor& color, const QString& text)
+{
+    if (!isShown)
+        return;
+    if (text.size() > longText)
+        m_consoleOutput->setWordWrapMode(QTextOption::WrapAnywhere);
+    m_consoleOutput->setTextColor(color);
+    m_consoleOutput->append(text);
+}
+
+void consoleErrorStreamCallback(const char* text, std::streamsize /*count*/, void* userData)
+{
+    auto* const console = static_cast<OrvConsole*>(userData);
+    console->append(console->m_outputErrors, console->m_errorColor, QString::fromUtf8(text));
+}
+
+void consoleOutputStreamCallback(const char* text, std::streamsize /*count*/, void* userData)
+{
+    auto* const console = static_cast<OrvConsole*>(userData);
+    console->append(console->m_outputInfos, console->m_infoColor, QString::fromUtf8(text));
+}
