@@ -17,6 +17,11 @@ qsizetype characterEnd(const QString& text, qsizetype start)
 
 bool fits(const QString& text, const QFontMetrics& metrics, int room)
 {
+    // Most cells hold a short number in a wide column, which needs no measuring: its glyphs are the font's own.
+    const auto isAscii = [](QChar character) { return character.unicode() < 0x80; };
+    if (text.size() <= room && text.size() * metrics.maxWidth() <= room
+        && std::all_of(text.begin(), text.end(), isAscii))
+        return true;
     // Of a text that is far too long its beginning tells as much: characters are rarely narrower than a pixel.
     const qsizetype enough = std::max(4 * room, 64);
     if (text.size() > enough && metrics.horizontalAdvance(text.left(enough)) > 2 * room)
