@@ -73,6 +73,7 @@ private Q_SLOTS:
     void frameIsAPopup();
     void linesStandInColumns();
     void openingFillsTheLinesInOrder();
+    void openingShowsTheBeginningOfEachText();
     void openingWritesEachChangedLine();
     void secondOpeningWritesNothing();
     void typedCharacterWritesTheRow();
@@ -193,6 +194,14 @@ void tst_DvTablePopupWidget::openingFillsTheLinesInOrder()
         QStringLiteral("1/3"), QStringLiteral("1/4"), QStringLiteral("1/5")};
     QCOMPARE(popup().asked, expected);
     QVERIFY(popup().writes.isEmpty()); // no line changed
+}
+
+void tst_DvTablePopupWidget::openingShowsTheBeginningOfEachText()
+{
+    popup().texts = QStringList(6, QStringLiteral("-0.123456"));
+    open();
+    for (const DvTablePopupLineEdit* const line : popup().lines())
+        QCOMPARE(line->cursorPosition(), 0);
 }
 
 void tst_DvTablePopupWidget::openingWritesEachChangedLine()

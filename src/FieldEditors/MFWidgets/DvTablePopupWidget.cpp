@@ -68,8 +68,10 @@ void DvTablePopupWidget::buildPopup()
 void DvTablePopupWidget::setEditFrame()
 {
     const int row = currentRow();
-    for (std::size_t index = 0; index < m_popupEdits.size(); ++index)
+    for (std::size_t index = 0; index < m_popupEdits.size(); ++index) {
         m_popupEdits[index]->setText(getPopupCellValue(row, static_cast<int>(index)));
+        m_popupEdits[index]->setCursorPosition(0); // a long number would hide its sign
+    }
     if (m_popupFrame->isVisible()) {
         m_popupFrame->hide();
         return;
