@@ -162,7 +162,5 @@ void tst_VectorRowTexts::zeroQuaternionGivesTheDefault()
     QVERIFY(std::isfinite(run.node().mfRotation[0].getAngle()));
 }
 
-Q_DECLARE_METATYPE(VbVec3f)
-
 QTEST_MAIN(tst_VectorRowTexts)
 #include "tst_VectorRowTexts.moc"
