@@ -20,7 +20,7 @@ DvMFColorRGBAWidget::~DvMFColorRGBAWidget() = default;
 void DvMFColorRGBAWidget::load()
 {
     setElementTypeLabel(QStringLiteral("MFColorRGBA"));
-    // Past the direct base, whose columns are others.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the direct base, whose columns are others
     DvMFieldWidget::load();
     orvane::setUpColorColumns(m_table,
         {QStringLiteral("Color"), QStringLiteral("R"), QStringLiteral("G"), QStringLiteral("B"), QStringLiteral("A")});

@@ -20,7 +20,7 @@ DvMFColorWidget::~DvMFColorWidget() = default;
 void DvMFColorWidget::load()
 {
     setElementTypeLabel(QStringLiteral("MFColor"));
-    // Past the direct base, whose columns are others.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the direct base, whose columns are others
     DvMFieldWidget::load();
     orvane::setUpColorColumns(
         m_table, {QStringLiteral("Color"), QStringLiteral("R"), QStringLiteral("G"), QStringLiteral("B")});
