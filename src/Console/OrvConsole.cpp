@@ -16,6 +16,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFrame>
+#include <QTextOption>
 
 #include <cstdint>
 #include <iostream>

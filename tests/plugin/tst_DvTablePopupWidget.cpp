@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvTablePopupLineEdit.h"
 #include "FieldEditors/MFWidgets/DvTablePopupWidget.h"
+#include "GridValidatorRows.h"
 #include "plugin/RowEditorRun.h"
 
 #include <QDoubleValidator>
@@ -274,15 +275,7 @@ void tst_DvTablePopupWidget::noCurrentRowOpensAllTheSame()
 
 void tst_DvTablePopupWidget::validators_data()
 {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<bool>("isReal");
-    QTest::addColumn<double>("bottom");
-    QTest::addColumn<double>("top");
-    QTest::newRow("16-bit integers") << 1 << false << -32768.0 << 32767.0;
-    QTest::newRow("integers") << 2 << false << -2147483648.0 << 2147483647.0;
-    QTest::newRow("floats") << 3 << true << -3.4028234663852886e+38 << 3.4028234663852886e+38;
-    const QDoubleValidator plain;
-    QTest::newRow("numbers") << 4 << true << plain.bottom() << plain.top();
+    addGridValidatorRows();
 }
 
 void tst_DvTablePopupWidget::validators()
