@@ -11,10 +11,12 @@
     F(PFNGLBINDBUFFERPROC, BindBuffer)                                                                                 \
     F(PFNGLBINDBUFFERBASEPROC, BindBufferBase)                                                                         \
     F(PFNGLBINDFRAMEBUFFERPROC, BindFramebuffer)                                                                       \
+    F(PFNGLBINDRENDERBUFFERPROC, BindRenderbuffer)                                                                     \
     F(PFNGLBINDSAMPLERPROC, BindSampler)                                                                               \
     F(PFNGLBINDTEXTUREPROC, BindTexture)                                                                               \
     F(PFNGLBINDVERTEXARRAYPROC, BindVertexArray)                                                                       \
     F(PFNGLBLENDFUNCSEPARATEPROC, BlendFuncSeparate)                                                                   \
+    F(PFNGLBLITFRAMEBUFFERPROC, BlitFramebuffer)                                                                       \
     F(PFNGLBUFFERDATAPROC, BufferData)                                                                                 \
     F(PFNGLBUFFERSUBDATAPROC, BufferSubData)                                                                           \
     F(PFNGLCHECKFRAMEBUFFERSTATUSPROC, CheckFramebufferStatus)                                                         \
@@ -70,6 +72,7 @@
     F(PFNGLPOLYGONOFFSETPROC, PolygonOffset)                                                                           \
     F(PFNGLREADPIXELSPROC, ReadPixels)                                                                                 \
     F(PFNGLRENDERBUFFERSTORAGEPROC, RenderbufferStorage)                                                               \
+    F(PFNGLRENDERBUFFERSTORAGEMULTISAMPLEPROC, RenderbufferStorageMultisample)                                         \
     F(PFNGLSAMPLERPARAMETERFPROC, SamplerParameterf)                                                                   \
     F(PFNGLSAMPLERPARAMETERIPROC, SamplerParameteri)                                                                   \
     F(PFNGLSHADERSOURCEPROC, ShaderSource)                                                                             \
