@@ -5,6 +5,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <vector>
+
 namespace {
 
 QStringList objectNames(const QLayout* layout)
@@ -26,6 +28,27 @@ QStringList objectNames(const QLayout* layout)
     return names;
 }
 
+class EventCount final : public QObject {
+public:
+    EventCount(QWidget* widget, QEvent::Type type)
+        : m_type(type)
+    {
+        widget->installEventFilter(this);
+    }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == m_type ? 1 : 0;
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+};
+
 QLayout* layoutNamed(const QWidget* frame, const char* name)
 {
     return frame->findChild<QLayout*>(QLatin1String(name));
@@ -43,6 +66,8 @@ private Q_SLOTS:
     void marginsAndSpacings();
     void controlsHaveTheirSizesAndNames();
     void labelIsSetOnce();
+    void countIsShownWhole();
+    void newCountLeavesTheLayoutAlone();
 };
 
 void tst_DvMFieldWidgetLayout::gridHoldsLabelStripAndTable()
@@ -148,6 +173,41 @@ void tst_DvMFieldWidgetLayout::labelIsSetOnce()
     PlainListEditor editor;
     const EditorRun run(editor);
     QCOMPARE(run.find<QLabel>("m_label")->text(), QStringLiteral("<p align=\"center\">MFPlain</p>"));
+}
+
+void tst_DvMFieldWidgetLayout::countIsShownWhole()
+{
+    ListRun<PlainListEditor> list;
+    NxMFInt32 field(nullptr, "numbers");
+    list.show(field);
+    auto* const count = list.run.find<QLabel>("m_labelNumElement");
+    const QSize none = count->size();
+    QCOMPARE(none, count->sizeHint());
+    field.setValues(std::vector<int>(100'000));
+    list.settle();
+    QCOMPARE(count->size(), count->sizeHint());
+    QVERIFY(count->width() > none.width());
+    QFont large = count->font();
+    large.setPointSize(2 * large.pointSize());
+    count->setFont(large);
+    list.settle();
+    QCOMPARE(count->size(), count->sizeHint());
+    QVERIFY(count->height() > none.height());
+}
+
+void tst_DvMFieldWidgetLayout::newCountLeavesTheLayoutAlone()
+{
+    ListRun<PlainListEditor> list;
+    NxMFInt32 field(nullptr, "numbers");
+    field.setValues(std::vector<int>(20));
+    list.show(field);
+    list.click(3);
+    list.settle();
+    EventCount layouts(list.editor.getFrame(), QEvent::LayoutRequest);
+    list.press("m_addButton");
+    list.settle();
+    QCOMPARE(list.run.find<QLabel>("m_labelNumElement")->text(), QStringLiteral("<p align=\"center\">21 elements</p>"));
+    QCOMPARE(layouts.count, 0);
 }
 
 QTEST_MAIN(tst_DvMFieldWidgetLayout)

@@ -133,6 +133,14 @@ void DvMFieldTable::swapRows(int row1, int row2)
     OrvServices::getInstance()->pushCommand(new OrvMFSwapRowsCommand(m_owner->field(), row1, row2));
 }
 
+// Rows that came or went are laid out first: otherwise the cells would be painted twice, now and when the table gets
+// round to its layout.
+void DvMFieldTable::repaintCells()
+{
+    executeDelayedItemsLayout();
+    viewport()->update();
+}
+
 void DvMFieldTable::addRow()
 {
     if (m_owner->field() == nullptr)

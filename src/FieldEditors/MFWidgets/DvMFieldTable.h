@@ -25,6 +25,8 @@ public:
     void setRangeBounded(bool bounded);
     /// Puts a new placeholder into a cell; does nothing where there is no such cell.
     void setPlaceholder(int row, int column);
+    /// Has all cells in sight painted anew, soon.
+    void repaintCells();
 
     /// Finds nothing: what the user sees doesn't stand in the items.
     void keyboardSearch(const QString& search) override;

@@ -11,6 +11,7 @@
 #include "meridane/scene/NxFieldSensor.h"
 #include "meridane/scene/NxMField.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -36,6 +37,22 @@ private:
 };
 
 namespace {
+
+// The label of a count has the size of its text, and a fixed one to its layout, as the access box has. Otherwise each
+// new count would have the whole dock laid out and painted anew, which takes longer than to show the row that was
+// added.
+class CountLabel final : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::FontChange)
+            setFixedSize(sizeHint());
+    }
+};
 
 DvMFieldTable* makeTable(int tableKind, DvMFieldWidget* owner)
 {
@@ -151,13 +168,13 @@ void DvMFieldWidget::buildAccess()
     m_manageAccessSpacer = addElasticSpacer(
         m_buttonsLayout, QStringLiteral("MFManageAccessSpacerWidth"), QStringLiteral("MFManageAccessSpacerHeight"));
     m_accessBox = new AccessButtonPrivate(0, 0, 1, m_frame, "m_accessBox");
-    m_accessBox->setMaximumSize(
+    m_accessBox->setFixedSize(
         getLayoutMetric(QStringLiteral("MFAccessWidth")), getLayoutMetric(QStringLiteral("buttonHeight")));
     m_buttonsLayout->addWidget(m_accessBox);
     m_accessMoveSpacer = addElasticSpacer(
         m_buttonsLayout, QStringLiteral("MFAccessMoveSpacerWidth"), QStringLiteral("MFAccessMoveSpacerHeight"));
     m_buttonsLayout->addItem(fixedSpacer(0, 4));
-    m_labelNumElement = new QLabel(m_frame);
+    m_labelNumElement = new CountLabel(m_frame);
     m_labelNumElement->setObjectName(QStringLiteral("m_labelNumElement"));
     refreshElementCount();
     m_buttonsLayout->addWidget(m_labelNumElement);
@@ -212,7 +229,7 @@ void DvMFieldWidget::updateFromField()
         return;
     m_table->setNumRows(m_field->getNum());
     m_table->update();
-    m_table->viewport()->update(); // which is where the cells are: the table's own update leaves them as they are
+    m_table->repaintCells(); // the table's own update leaves them as they are
     m_ignoreButton->setChecked(m_field->isIgnored());
     refreshElementCount();
 }
@@ -291,4 +308,5 @@ void DvMFieldWidget::refreshElementCount()
     // One value has the plural as well, and it isn't translated: meant.
     m_labelNumElement->setText(
         tr("<p align=\"center\">") + QString::number(m_field->getNum()) + QStringLiteral(" elements") + tr("</p>"));
+    m_labelNumElement->setFixedSize(m_labelNumElement->sizeHint());
 }
