@@ -1,0 +1,109 @@
+#include "meridane/gl/NxRayPick.h"
+
+#include "meridane/gl/MatrixMath.h"
+#include "meridane/gl/MeshHit.h"
+#include "meridane/scene/NxMesh.h"
+#include "meridane/scene/NxSwitch.h"
+
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <span>
+
+using namespace meridane;
+
+namespace {
+
+// Groups that share groups may stand for more places than could ever be visited.
+constexpr std::size_t mostPlaces = 20'000'000;
+
+/// A group on the way down, and the first of its children that is still to be visited.
+struct Step {
+    std::span<NxNode* const> children;
+    std::size_t next = 0;
+    VbMatrix matrix; // from the children to the ray
+};
+
+std::span<NxNode* const> shownChildren(const NxNode& node)
+{
+    const std::span<NxNode* const> children = node.getChildren();
+    const auto* group = dynamic_cast<const NxSwitch*>(&node);
+    if (group == nullptr)
+        return children;
+    const int which = group->whichChild.isIgnored() ? int{NxSwitch::NONE} : group->whichChild.getValue();
+    if (which == NxSwitch::ALL)
+        return children;
+    const bool exists = which >= 0 && static_cast<std::size_t>(which) < children.size();
+    return exists ? children.subspan(static_cast<std::size_t>(which), 1) : std::span<NxNode* const>();
+}
+
+bool isFinite(const VbMatrix& matrix)
+{
+    for (std::size_t i = 0; i < 16; ++i) {
+        if (!std::isfinite(matrix[i / 4][i % 4]))
+            return false;
+    }
+    return true;
+}
+
+// Turns and moves so that the ray runs along z from the origin: what it meets has x and y of 0.
+VbMatrix sceneToRay(const NxRay& ray)
+{
+    const VbVec3f ahead = normalized(ray.direction, VbVec3f(0, 0, -1));
+    const VbVec3f across = std::abs(ahead[0]) < 0.6F ? VbVec3f(1, 0, 0) : VbVec3f(0, 1, 0);
+    const VbVec3f x = normalized(cross(across, ahead), VbVec3f(1, 0, 0));
+    const VbVec3f y = cross(ahead, x);
+    const VbMatrix turned(x[0], y[0], ahead[0], 0, x[1], y[1], ahead[1], 0, x[2], y[2], ahead[2], 0, 0, 0, 0, 1);
+    return multiply(translationMatrix(scaled(ray.origin, -1.0)), turned);
+}
+
+} // namespace
+
+NxRayPick::NxRayPick(const NxRay& ray)
+    : m_ray(ray)
+    , m_farthest(std::numeric_limits<float>::max())
+{
+}
+
+void NxRayPick::setTolerance(float radius, float slope) noexcept
+{
+    m_radius = radius;
+    m_slope = slope;
+}
+
+void NxRayPick::setDistances(float nearest, float farthest) noexcept
+{
+    m_nearest = nearest;
+    m_farthest = farthest;
+}
+
+std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
+{
+    MeshHit search(m_radius, m_slope, m_nearest, m_farthest);
+    std::optional<NxRayHit> hit;
+    // Not by recursion: a scene may be deeper than the stack.
+    std::vector<Step> steps{{shownChildren(root), 0, multiply(placementOf(root), sceneToRay(m_ray))}};
+    for (std::size_t places = 0; !steps.empty() && places < mostPlaces; ++places) {
+        Step& step = steps.back();
+        if (step.next == step.children.size()) {
+            steps.pop_back();
+            continue;
+        }
+        const NxNode& node = *step.children[step.next++];
+        if (const auto* mesh = dynamic_cast<const NxMesh*>(&node)) {
+            if (!search.meet(*mesh, step.matrix))
+                continue;
+            hit = NxRayHit{{}, VbVec3f(), search.distance(), search.primitive()};
+            for (const Step& above : steps)
+                hit->path.push_back(above.children[above.next - 1]);
+        } else if (const std::span<NxNode* const> children = shownChildren(node); !children.empty()) {
+            const VbMatrix matrix = multiply(placementOf(node), step.matrix);
+            if (isFinite(matrix))
+                steps.push_back({children, 0, matrix});
+        }
+    }
+    if (hit)
+        hit->point = add(
+            m_ray.origin, scaled(normalized(m_ray.direction, VbVec3f(0, 0, -1)), static_cast<double>(hit->distance)));
+    return hit;
+}
