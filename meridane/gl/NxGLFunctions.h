@@ -75,6 +75,7 @@
     F(PFNGLRENDERBUFFERSTORAGEMULTISAMPLEPROC, RenderbufferStorageMultisample)                                         \
     F(PFNGLSAMPLERPARAMETERFPROC, SamplerParameterf)                                                                   \
     F(PFNGLSAMPLERPARAMETERIPROC, SamplerParameteri)                                                                   \
+    F(PFNGLSCISSORPROC, Scissor)                                                                                       \
     F(PFNGLSHADERSOURCEPROC, ShaderSource)                                                                             \
     F(PFNGLTEXIMAGE2DPROC, TexImage2D)                                                                                 \
     F(PFNGLTEXPARAMETERIPROC, TexParameteri)                                                                           \
@@ -84,7 +85,7 @@
     F(PFNGLUNIFORM3FVPROC, Uniform3fv)                                                                                 \
     F(PFNGLUNIFORM4FVPROC, Uniform4fv)                                                                                 \
     F(PFNGLUNIFORMBLOCKBINDINGPROC, UniformBlockBinding)                                                               \
-    F(PFNGLUNIFORMMATRIX4X3FVPROC, UniformMatrix4x3fv)                                                                 \
+    F(PFNGLUNIFORMMATRIX3FVPROC, UniformMatrix3fv)                                                                     \
     F(PFNGLUNIFORMMATRIX4FVPROC, UniformMatrix4fv)                                                                     \
     F(PFNGLUSEPROGRAMPROC, UseProgram)                                                                                 \
     F(PFNGLVERTEXATTRIBPOINTERPROC, VertexAttribPointer)                                                               \

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "meridane/gl/NodeRecord.h"
+#include "meridane/scene/NxGroup.h"
+
+#include <span>
+
+namespace meridane {
+
+/// What drawing keeps about a group.
+class GroupRecord : public NodeRecord {
+public:
+    GroupRecord(NxGroup& group, NodeRecordListener& listener);
+
+    [[nodiscard]] NxGroup& group() const noexcept { return static_cast<NxGroup&>(*node()); }
+    /// Whether the group may place its children.
+    [[nodiscard]] bool isTransform() const noexcept { return m_isTransform; }
+    /// Notes which children count by now; true if they are others than at the latest call. Not exact when nodes died
+    /// meanwhile, since others may have taken their addresses.
+    bool noteChildren();
+
+    /// The first of the places of the group, which are linked among each other.
+    Id firstPlace = noId;
+
+private:
+    std::uint64_t m_fingerprint = 0; // of the children
+    std::uint64_t m_revision = 0; // at that time
+    bool m_isTransform;
+    bool m_isSwitch;
+};
+
+/// The children that count: of a switch those that it shows.
+[[nodiscard]] std::span<NxNode* const> shownChildren(const NxGroup& group);
+
+} // namespace meridane

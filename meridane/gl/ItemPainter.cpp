@@ -1,0 +1,342 @@
+#include "meridane/gl/ItemPainter.h"
+
+#include "meridane/gl/MatrixMath.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace meridane {
+namespace {
+
+/// The matrix that normals are turned by: their direction is right for any scale, and finite for matrices without an
+/// inverse.
+std::array<float, 9> normalMatrixOf(const VbMatrix& m) noexcept
+{
+    std::array<VbVec3f, 3> rows;
+    for (std::size_t row = 0; row < 3; ++row)
+        rows[row] = VbVec3f(m[row][0], m[row][1], m[row][2]);
+    std::array<float, 9> result{};
+    for (std::size_t row = 0; row < 3; ++row) {
+        const VbVec3f cofactors = cross(rows[(row + 1) % 3], rows[(row + 2) % 3]);
+        std::copy_n(cofactors.getValue(), 3, result.begin() + static_cast<std::ptrdiff_t>(3 * row));
+    }
+    return result;
+}
+
+bool isMirror(const VbMatrix& m) noexcept
+{
+    const VbVec3f across = cross(VbVec3f(m[0][0], m[0][1], m[0][2]), VbVec3f(m[1][0], m[1][1], m[1][2]));
+    return dot(across, VbVec3f(m[2][0], m[2][1], m[2][2])) < 0;
+}
+
+const VbMatrix* placementOf(const PlacedScene& scene, const Item& item)
+{
+    return &scene.table().placementOf(item);
+}
+
+GLenum primitiveOf(const MeshRecord& mesh)
+{
+    switch (mesh.shape.primitive) {
+    case NxMesh::LINES:
+        return GL_LINES;
+    case NxMesh::POINTS:
+        return GL_POINTS;
+    default:
+        return GL_TRIANGLES;
+    }
+}
+
+bool isBox(const Look& look)
+{
+    return look.complexity != nullptr && look.complexity->values.type == NxComplexity::BOUNDING_BOX;
+}
+
+float textureQuality(const Look& look)
+{
+    return look.complexity == nullptr ? ComplexityValues().textureQuality : look.complexity->values.textureQuality;
+}
+
+const MaterialValues& materialOf(const Look& look)
+{
+    static const MaterialValues usual = materialValues(nullptr);
+    return look.material == nullptr ? usual : look.material->values;
+}
+
+} // namespace
+
+ItemPainter::ItemPainter(const NxGLFunctions& gl)
+    : m_gl(gl)
+    , m_meshes(gl)
+    , m_textures(gl)
+{
+}
+
+ItemPainter::~ItemPainter()
+{
+    m_gl.DeleteBuffers(1, &m_lightBuffer);
+}
+
+void ItemPainter::forget()
+{
+    m_meshes.forget();
+    m_textures.forget();
+    for (SurfaceProgram& program : m_programs) {
+        program.program.forget();
+        program = SurfaceProgram();
+    }
+    m_lightBuffer = 0;
+    m_hasLights = false;
+}
+
+void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const NxDrawingStyle& style,
+    const NxSceneDrawing::ImageLoader& loader, NxDrawingCounts& counts)
+{
+    m_frame = frame;
+    m_pointSize = style.pointSize * frame.scale;
+    if (m_lightBuffer != 0)
+        m_gl.BindBufferBase(GL_UNIFORM_BUFFER, lightsBinding, m_lightBuffer);
+    m_boxesOfAll = style.boundingBoxes;
+    m_boxColor = style.boundingBoxColor;
+    m_found.clear();
+    scene.tree().find(Frustum(frame.sceneToClip), m_found);
+    for (const Id id : m_found) {
+        const Item& item = scene.table().item(id);
+        const Look& look = scene.looks()[item.look];
+        if (isBox(look))
+            continue;
+        if (item.mesh->isStale)
+            m_meshes.request(*item.mesh);
+        if (look.texture != nullptr)
+            m_textures.update(*look.texture, loader, scene.problems(), counts);
+    }
+    m_meshes.upload(counts);
+    m_textures.clean();
+    sort(scene, m_found);
+    counts.drawnItems = m_found.size();
+    counts.culledItems = scene.tree().count() - m_found.size();
+}
+
+void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
+{
+    constexpr unsigned int variantShift = 60;
+    constexpr unsigned int pageShift = 32;
+    m_opaque.clear();
+    m_translucent.clear();
+    m_boxes.clear();
+    for (const Id id : found) {
+        const Item& item = scene.table().item(id);
+        const Look& look = scene.looks()[item.look];
+        if (isBox(look)) {
+            m_boxes.push_back(id);
+            continue;
+        }
+        if (item.mesh->range.page == noId)
+            continue;
+        const SurfaceVariant variant = variantOf(item, look);
+        const std::uint64_t order = std::uint64_t{variant.number()} << variantShift
+            | std::uint64_t{item.mesh->range.page} << pageShift | item.look;
+        if (isTranslucent(item, look, variant))
+            m_translucent.push_back({id, order, m_frame.depthOf(scene.tree().boundsOf(id).getCenter()), variant});
+        else
+            m_opaque.push_back({id, order, 0, variant});
+    }
+    std::sort(m_opaque.begin(), m_opaque.end(),
+        [](const Drawn& a, const Drawn& b) { return std::tie(a.order, a.item) < std::tie(b.order, b.item); });
+    std::sort(m_translucent.begin(), m_translucent.end(), [](const Drawn& a, const Drawn& b) {
+        return std::tie(b.depth, a.order, a.item) < std::tie(a.depth, b.order, b.item);
+    });
+}
+
+SurfaceVariant ItemPainter::variantOf(const Item& item, const Look& look) const
+{
+    const MeshShape& shape = item.mesh->shape;
+    SurfaceVariant variant;
+    if (shape.primitive == NxMesh::TRIANGLES)
+        variant.light = shape.hasNormals ? SurfaceVariant::Smooth : SurfaceVariant::Flat;
+    else
+        variant.light = shape.hasNormals ? SurfaceVariant::Line : SurfaceVariant::Unlit;
+    variant.isTextured
+        = shape.hasCoordinates && look.texture != nullptr && look.texture->name != 0 && textureQuality(look) > 0;
+    variant.hasColors = shape.colors != MeshShape::Colors::None;
+    return variant;
+}
+
+bool ItemPainter::isTranslucent(const Item& item, const Look& look, SurfaceVariant variant)
+{
+    constexpr std::size_t opacity = 3;
+    const bool byColor = variant.hasColors ? item.mesh->shape.isTranslucent : materialOf(look)[opacity] < 1;
+    return byColor || (variant.isTextured && look.texture->isTranslucent);
+}
+
+void ItemPainter::drawOpaque(PlacedScene& scene, NxDrawingCounts& counts)
+{
+    State state;
+    for (const Drawn& drawn : m_opaque)
+        draw(scene, drawn, state, counts);
+}
+
+void ItemPainter::drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts)
+{
+    if (m_translucent.empty())
+        return;
+    m_gl.Enable(GL_BLEND);
+    m_gl.BlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    m_gl.DepthMask(GL_FALSE);
+    State state;
+    for (const Drawn& drawn : m_translucent) {
+        const Item& item = scene.table().item(drawn.item);
+        if (item.mesh->shape.primitive != NxMesh::TRIANGLES) {
+            draw(scene, drawn, state, counts);
+            continue;
+        }
+        // What faces away is behind what faces the eye, on every body without dents.
+        m_gl.Enable(GL_CULL_FACE);
+        m_gl.FrontFace(isMirror(*placementOf(scene, item)) ? GL_CW : GL_CCW);
+        for (const int hidden : {GL_FRONT, GL_BACK}) {
+            m_gl.CullFace(static_cast<GLenum>(hidden));
+            draw(scene, drawn, state, counts);
+        }
+        m_gl.Disable(GL_CULL_FACE);
+    }
+    m_gl.FrontFace(GL_CCW);
+    m_gl.CullFace(GL_BACK);
+    m_gl.DepthMask(GL_TRUE);
+    m_gl.Disable(GL_BLEND);
+}
+
+void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxDrawingCounts& counts)
+{
+    const Item& item = scene.table().item(drawn.item);
+    const Look& look = scene.looks()[item.look];
+    const unsigned int number = drawn.variant.number();
+    if (state.variant != number) {
+        setVariant(drawn.variant);
+        state = State();
+        state.variant = number;
+    }
+    const SurfaceProgram& program = m_programs[number];
+    if (!program.program.isUsable())
+        return;
+    if (state.look != item.look) {
+        state.look = item.look;
+        setLook(look, drawn.variant);
+        setLights(scene, look.lights.get());
+    }
+    if (state.page != item.mesh->range.page) {
+        state.page = item.mesh->range.page;
+        m_meshes.bind(state.page);
+    }
+    if (item.mesh->shape.colors == MeshShape::Colors::One) {
+        const VbVec4f& color = item.mesh->shape.oneColor;
+        m_gl.VertexAttrib4f(static_cast<GLuint>(Attribute::Color), color[0], color[1], color[2], color[3]);
+    }
+    setPlacement(*placementOf(scene, item), program);
+    issue(*item.mesh, counts);
+}
+
+void ItemPainter::setVariant(SurfaceVariant variant)
+{
+    SurfaceProgram& program = m_programs[variant.number()];
+    if (!program.program.isMade())
+        program = makeSurfaceProgram(m_gl, variant);
+    if (!program.program.isUsable())
+        return;
+    program.program.use();
+    m_gl.UniformMatrix4fv(program.sceneToClip, 1, GL_FALSE, m_frame.sceneToClip[0].data());
+    m_gl.Uniform4fv(program.eye, 1, m_frame.eye.data());
+    m_gl.Uniform1f(program.pointSize, m_pointSize);
+}
+
+void ItemPainter::setLook(const Look& look, SurfaceVariant variant)
+{
+    m_gl.Uniform4fv(m_programs[variant.number()].material, 4, materialOf(look).data());
+    if (variant.isTextured)
+        m_textures.bind(*look.texture, textureQuality(look));
+}
+
+void ItemPainter::setLights(const PlacedScene& scene, const LightList* lights)
+{
+    if (m_hasLights && m_lights == lights && m_lighting == scene.lighting())
+        return;
+    m_hasLights = true;
+    m_lights = lights;
+    m_lighting = scene.lighting();
+    std::array<LightValues, LightList::most> values;
+    std::size_t count = 0;
+    for (const LightList* list = lights; list != nullptr; list = list->above())
+        values[count++] = lightValues(list->light().light(), scene.table().placements[list->placement()]);
+    if (lights == nullptr)
+        values[count++] = cameraLightValues();
+    constexpr std::size_t headBytes = 4 * sizeof(float);
+    const std::array<float, 4> head{static_cast<float>(count), 0, 0, 0};
+    if (m_lightBuffer == 0)
+        m_gl.GenBuffers(1, &m_lightBuffer);
+    m_gl.BindBufferBase(GL_UNIFORM_BUFFER, lightsBinding, m_lightBuffer);
+    m_gl.BufferData(GL_UNIFORM_BUFFER, static_cast<GLsizeiptr>(headBytes + sizeof(values)), nullptr, GL_DYNAMIC_DRAW);
+    m_gl.BufferSubData(GL_UNIFORM_BUFFER, 0, headBytes, head.data());
+    m_gl.BufferSubData(
+        GL_UNIFORM_BUFFER, headBytes, static_cast<GLsizeiptr>(count * sizeof(LightValues)), values.data());
+}
+
+void ItemPainter::setPlacement(const VbMatrix& placement, const SurfaceProgram& program)
+{
+    m_gl.UniformMatrix4fv(program.placement, 1, GL_FALSE, placement[0].data());
+    if (program.normalMatrix >= 0)
+        m_gl.UniformMatrix3fv(program.normalMatrix, 1, GL_FALSE, normalMatrixOf(placement).data());
+}
+
+void ItemPainter::issue(const MeshRecord& mesh, NxDrawingCounts& counts) const
+{
+    const MeshRange& range = mesh.range;
+    const GLenum primitive = primitiveOf(mesh);
+    if (mesh.shape.hasIndices) {
+        if (range.indexCount == 0)
+            return;
+        const auto* const start = static_cast<const char*>(nullptr) + range.firstIndex * sizeof(std::uint32_t);
+        m_gl.DrawElementsBaseVertex(primitive, static_cast<GLsizei>(range.indexCount), GL_UNSIGNED_INT, start,
+            static_cast<GLint>(range.firstVertex));
+    } else {
+        m_gl.DrawArrays(primitive, static_cast<GLint>(range.firstVertex), static_cast<GLsizei>(range.vertexCount));
+    }
+    ++counts.drawCalls;
+}
+
+void ItemPainter::addBoxes(PlacedScene& scene, LinePainter& lines) const
+{
+    for (const Id id : m_boxes) {
+        const Item& item = scene.table().item(id);
+        const MaterialValues& material = materialOf(scene.looks()[item.look]);
+        lines.addBox(
+            item.mesh->shape.bounds, *placementOf(scene, item), VbColorRGBA(material[0], material[1], material[2], 1));
+    }
+    if (!m_boxesOfAll)
+        return;
+    for (const Id id : m_found)
+        lines.addBox(
+            scene.tree().boundsOf(id), VbMatrix(), VbColorRGBA(m_boxColor[0], m_boxColor[1], m_boxColor[2], 1));
+}
+
+void ItemPainter::drawShapes(
+    PlacedScene& scene, std::span<const Id> items, int placementUniform, NxDrawingCounts& counts)
+{
+    Id page = noId;
+    for (const Id id : items) {
+        const Item& item = scene.table().item(id);
+        if (item.mesh->range.page == noId)
+            continue;
+        if (page != item.mesh->range.page) {
+            page = item.mesh->range.page;
+            m_meshes.bind(page);
+        }
+        m_gl.UniformMatrix4fv(placementUniform, 1, GL_FALSE, placementOf(scene, item)[0][0].data());
+        issue(*item.mesh, counts);
+    }
+}
+
+std::size_t ItemPainter::bytes() const noexcept
+{
+    return (m_opaque.capacity() + m_translucent.capacity()) * sizeof(Drawn)
+        + (m_boxes.capacity() + m_found.capacity()) * sizeof(Id);
+}
+
+} // namespace meridane

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "meridane/base/VbColor.h"
+#include "meridane/base/VbMatrix.h"
+#include "meridane/gl/GLProgram.h"
+#include "meridane/gl/NxBounds.h"
+#include "meridane/gl/NxDrawingCounts.h"
+
+#include <vector>
+
+namespace meridane {
+
+/// Draws coloured lines that aren't part of the scene: collects them and draws them together.
+class LinePainter {
+public:
+    explicit LinePainter(const NxGLFunctions& gl)
+        : m_gl(gl)
+    {
+    }
+    LinePainter(const LinePainter&) = delete;
+    LinePainter& operator=(const LinePainter&) = delete;
+    /// The context must be current, or `forget` have been called.
+    ~LinePainter();
+
+    /// A line whose colour goes from one to the other.
+    void add(const VbVec3f& from, const VbVec3f& to, const VbColorRGBA& fromColor, const VbColorRGBA& toColor);
+    void addBox(const NxBounds& box, const VbMatrix& placement, const VbColorRGBA& color);
+    /// Draws the lines, and forgets them.
+    void draw(const VbMatrix& sceneToClip, NxDrawingCounts& counts);
+    void forget();
+
+private:
+    struct Vertex {
+        VbVec3f position;
+        VbVec4f color;
+    };
+
+    void prepare();
+
+    const NxGLFunctions& m_gl;
+    GLProgram m_program;
+    int m_sceneToClip = -1;
+    unsigned int m_vertexArray = 0;
+    unsigned int m_buffer = 0;
+    std::vector<Vertex> m_vertices;
+};
+
+} // namespace meridane

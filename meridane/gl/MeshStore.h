@@ -1,0 +1,77 @@
+#pragma once
+
+#include "meridane/gl/MeshRecord.h"
+#include "meridane/gl/NxDrawingCounts.h"
+#include "meridane/gl/NxGLFunctions.h"
+#include "meridane/gl/RangeList.h"
+#include "meridane/gl/SlotTable.h"
+#include "meridane/gl/SurfaceShaders.h"
+
+#include <array>
+#include <span>
+#include <vector>
+
+namespace meridane {
+
+/// The buffers of the meshes on the card. Meshes with the same lists share buffers, so that drawing many small meshes
+/// needs no change from one to the next; a buffer is made just large enough for the meshes that are uploaded together.
+class MeshStore {
+public:
+    explicit MeshStore(const NxGLFunctions& gl)
+        : m_gl(gl)
+    {
+    }
+    MeshStore(const MeshStore&) = delete;
+    MeshStore& operator=(const MeshStore&) = delete;
+    /// The context must be current, or `forget` have been called.
+    ~MeshStore();
+
+    /// Asks for a mesh to be on the card as it is now.
+    void request(MeshRecord& mesh) { m_requests.push_back(&mesh); }
+    /// Uploads what was asked for.
+    void upload(NxDrawingCounts& counts);
+    /// Gives up the place of a mesh. Needs no context.
+    void release(MeshRecord& mesh);
+    /// Lets the vertices of a page be drawn.
+    void bind(Id page) const { m_gl.BindVertexArray(m_pages[page].vertexArray); }
+    /// The context is gone; all meshes must be released before.
+    void forget();
+
+    [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
+
+private:
+    struct Page {
+        unsigned int layout = 0;
+        unsigned int vertexArray = 0;
+        std::array<unsigned int, MeshRecord::lists> buffers{};
+        RangeList vertices;
+        RangeList indices;
+        std::size_t meshes = 0;
+        std::size_t bytes = 0;
+    };
+    /// A mesh on its way to the card.
+    struct Transfer {
+        MeshRecord* mesh = nullptr;
+        unsigned int layout = 0;
+        std::uint32_t vertexCount = 0;
+        std::uint32_t indexCount = 0;
+        bool isDone = false;
+    };
+
+    [[nodiscard]] static Transfer describe(MeshRecord& mesh);
+    [[nodiscard]] bool fitsInPlace(const Transfer& transfer) const;
+    bool findPlace(const Transfer& transfer);
+    bool takePlace(const Transfer& transfer, Id page);
+    Id makePage(std::span<const Transfer> transfers, std::size_t first);
+    void send(const Transfer& transfer, NxDrawingCounts& counts);
+    void sendList(MeshRecord& mesh, std::size_t list, std::span<const std::byte> bytes, NxDrawingCounts& counts);
+    void deletePage(Page& page);
+
+    const NxGLFunctions& m_gl;
+    std::vector<MeshRecord*> m_requests;
+    SlotTable<Page> m_pages;
+    std::vector<Id> m_pageIds;
+    std::size_t m_bytes = 0;
+};
+
+} // namespace meridane

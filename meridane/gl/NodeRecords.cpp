@@ -1,0 +1,57 @@
+#include "meridane/gl/NodeRecords.h"
+
+#include "meridane/gl/GroupRecord.h"
+#include "meridane/gl/Lights.h"
+#include "meridane/gl/LookRecords.h"
+#include "meridane/gl/MeshRecord.h"
+
+#include <utility>
+
+namespace meridane {
+
+void NodeRecords::forgetNode(NodeRecord& record)
+{
+    const auto place = m_records.find(record.node());
+    m_orphans.emplace(&record, std::move(place->second));
+    m_records.erase(place);
+}
+
+void NodeRecords::destroy(NodeRecord& record)
+{
+    m_bytes -= bytesOf(record);
+    if (record.node() == nullptr)
+        m_orphans.erase(&record);
+    else
+        m_records.erase(record.node());
+}
+
+const NodeRecord* NodeRecords::find(const NxNode* node) const
+{
+    const auto place = m_records.find(node);
+    return place == m_records.end() ? nullptr : place->second.get();
+}
+
+std::size_t NodeRecords::bytesOf(const NodeRecord& record) noexcept
+{
+    // The entry of the table, what the node needs for being watched, and the heads of three blocks of the heap.
+    constexpr std::size_t besides = 3 * sizeof(void*) + 5 * sizeof(void*) + 3 * 2 * sizeof(void*);
+    switch (record.kind()) {
+    case NodeKind::Group:
+        return sizeof(GroupRecord) + besides;
+    case NodeKind::Mesh:
+        return sizeof(MeshRecord) + besides;
+    case NodeKind::Material:
+        return sizeof(MaterialRecord) + besides;
+    case NodeKind::Texture:
+        return sizeof(TextureRecord) + besides;
+    case NodeKind::Complexity:
+        return sizeof(ComplexityRecord) + besides;
+    case NodeKind::Light:
+        return sizeof(LightRecord) + besides;
+    case NodeKind::Other:
+        break;
+    }
+    return besides;
+}
+
+} // namespace meridane

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "meridane/gl/NodeRecord.h"
+#include "meridane/scene/NxNode.h"
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace meridane {
+
+/// The records of all nodes that drawing needs, one for a node however often it is used.
+class NodeRecords {
+public:
+    /// The node's record, which is made when there is none. The caller must `retain` what it keeps.
+    template <typename Record, typename Node>
+    Record& of(Node& node, NodeRecordListener& listener)
+    {
+        std::unique_ptr<NodeRecord>& place = m_records[&node];
+        if (!place) {
+            place = std::make_unique<Record>(node, listener);
+            m_bytes += bytesOf(*place);
+            markUnused(*place);
+        }
+        return static_cast<Record&>(*place);
+    }
+
+    static void retain(NodeRecord& record) noexcept { ++record.uses; }
+    void release(NodeRecord& record)
+    {
+        if (--record.uses == 0)
+            markUnused(record);
+    }
+    /// The node is dead: its address may soon be another node's.
+    void forgetNode(NodeRecord& record);
+    /// Destroys the records that nobody uses by now; `isGoing` is told of each before.
+    template <typename Callback>
+    void bury(Callback isGoing)
+    {
+        for (NodeRecord* record : m_unused) {
+            record->isUnused = false;
+            if (record->uses == 0) {
+                isGoing(*record);
+                destroy(*record);
+            }
+        }
+        m_unused.clear();
+    }
+
+    /// The node's record, or null when it has none.
+    [[nodiscard]] const NodeRecord* find(const NxNode* node) const;
+    template <typename Visit>
+    void forEach(Visit visit)
+    {
+        for (auto& [node, record] : m_records)
+            visit(*record);
+        for (auto& [orphan, record] : m_orphans)
+            visit(*record);
+    }
+    [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
+
+private:
+    void markUnused(NodeRecord& record)
+    {
+        if (record.isUnused)
+            return;
+        record.isUnused = true;
+        m_unused.push_back(&record);
+    }
+    void destroy(NodeRecord& record);
+    [[nodiscard]] static std::size_t bytesOf(const NodeRecord& record) noexcept;
+
+    std::unordered_map<const NxNode*, std::unique_ptr<NodeRecord>> m_records;
+    /// Of dead nodes.
+    std::unordered_map<const NodeRecord*, std::unique_ptr<NodeRecord>> m_orphans;
+    std::vector<NodeRecord*> m_unused;
+    std::size_t m_bytes = 0;
+};
+
+} // namespace meridane

@@ -1,0 +1,270 @@
+#include "meridane/gl/NxSceneDrawing.h"
+
+#include "meridane/base/NxGLError.h"
+#include "meridane/gl/Ground.h"
+#include "meridane/gl/ItemPainter.h"
+#include "meridane/gl/LinePainter.h"
+#include "meridane/gl/NxViewpoint.h"
+#include "meridane/gl/OutlinePainter.h"
+#include "meridane/gl/PlacedScene.h"
+#include "meridane/gl/ScreenPass.h"
+
+#include <set>
+#include <utility>
+
+using namespace meridane;
+
+namespace {
+
+constexpr const char* backgroundSource = R"(
+uniform vec3 bottom;
+uniform vec3 top;
+uniform float height;
+out vec4 pictureColor;
+void main()
+{
+    pictureColor = vec4(mix(bottom, top, gl_FragCoord.y / height), 1.0);
+}
+)";
+
+} // namespace
+
+class NxSceneDrawing::Private {
+public:
+    explicit Private(const NxGLFunctions& functions)
+        : gl(functions)
+        , painter(functions)
+        , lines(functions)
+        , outline(functions)
+        , background(functions, "the background", backgroundSource)
+        , scene({[this] { noteChange(); }, [this](MeshRecord& mesh) { painter.meshes().release(mesh); },
+              [this](TextureRecord& texture) { painter.textures().release(texture); }})
+    {
+    }
+
+    void noteChange()
+    {
+        if (!std::exchange(isChangeTold, true) && changeHook)
+            changeHook();
+    }
+    void updateSelection();
+    void drawBackground(int height);
+    void checkErrors();
+
+    const NxGLFunctions& gl;
+    NxDrawingStyle style;
+    ImageLoader loader;
+    std::function<void()> changeHook;
+    NxDrawingCounts counts;
+    std::vector<const NxNode*> selection; // a path, or one node in all its places
+    bool isSelectionPath = false;
+    bool isChangeTold = false;
+    std::vector<Id> selectedItems;
+    std::uint64_t selectedStructure = 0;
+    bool isSelectionStale = false;
+    std::set<GLenum> toldErrors;
+
+    ItemPainter painter;
+    LinePainter lines;
+    OutlinePainter outline;
+    ScreenPass background;
+    PlacedScene scene; // last: it gives up what the painters hold
+};
+
+void NxSceneDrawing::Private::updateSelection()
+{
+    if (!isSelectionStale && selectedStructure == scene.structure())
+        return;
+    isSelectionStale = false;
+    selectedStructure = scene.structure();
+    selectedItems.clear();
+    if (!selection.empty())
+        selectedItems = isSelectionPath ? scene.itemsBelow(selection) : scene.itemsBelow(selection.front());
+}
+
+void NxSceneDrawing::Private::drawBackground(int height)
+{
+    gl.Clear(GL_DEPTH_BUFFER_BIT);
+    if (!background.use())
+        return;
+    gl.Uniform3fv(background.uniform("bottom"), 1, style.backgroundBottom.getValue());
+    gl.Uniform3fv(background.uniform("top"), 1, style.backgroundTop.getValue());
+    gl.Uniform1f(background.uniform("height"), static_cast<float>(height));
+    background.draw();
+}
+
+void NxSceneDrawing::Private::checkErrors()
+{
+    constexpr int most = 16; // a lost context may report errors without end
+    for (int i = 0; i < most; ++i) {
+        const GLenum error = gl.GetError();
+        if (error == GL_NO_ERROR)
+            return;
+        if (toldErrors.insert(error).second)
+            NxGLError::post(error, VbString("Drawing the scene"));
+    }
+}
+
+NxSceneDrawing::NxSceneDrawing(const NxGLFunctions& functions)
+    : m_private(std::make_unique<Private>(functions))
+{
+}
+
+NxSceneDrawing::~NxSceneDrawing() = default;
+
+void NxSceneDrawing::setScene(NxNode* root)
+{
+    m_private->toldErrors.clear();
+    m_private->selection.clear();
+    m_private->isSelectionStale = true;
+    m_private->scene.setRoot(root);
+    m_private->noteChange();
+}
+
+NxNode* NxSceneDrawing::getScene() const
+{
+    return m_private->scene.root();
+}
+
+void NxSceneDrawing::setSelectedNode(NxNode* node)
+{
+    m_private->selection.clear();
+    if (node != nullptr)
+        m_private->selection.push_back(node);
+    m_private->isSelectionPath = false;
+    m_private->isSelectionStale = true;
+    m_private->noteChange();
+}
+
+void NxSceneDrawing::setSelectedPath(std::span<NxNode* const> nodes)
+{
+    m_private->selection.assign(nodes.begin(), nodes.end());
+    m_private->isSelectionPath = true;
+    m_private->isSelectionStale = true;
+    m_private->noteChange();
+}
+
+void NxSceneDrawing::setStyle(const NxDrawingStyle& style)
+{
+    if (style == m_private->style)
+        return;
+    m_private->style = style;
+    m_private->noteChange();
+}
+
+const NxDrawingStyle& NxSceneDrawing::getStyle() const
+{
+    return m_private->style;
+}
+
+void NxSceneDrawing::setImageLoader(ImageLoader loader)
+{
+    m_private->loader = std::move(loader);
+}
+
+void NxSceneDrawing::setChangeHook(std::function<void()> hook)
+{
+    m_private->changeHook = std::move(hook);
+}
+
+void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, float scale)
+{
+    if (width <= 0 || height <= 0)
+        return;
+    Private& self = *m_private;
+    const NxGLFunctions& gl = self.gl;
+    self.isChangeTold = false;
+    self.counts.drawCalls = 0;
+    self.scene.update();
+    self.updateSelection();
+    const Ground ground(viewpoint, self.style);
+    NxBounds shown = self.scene.tree().bounds();
+    shown.include(ground.bounds());
+    const PictureFrame frame(viewpoint, shown, width, height, scale);
+
+    gl.Viewport(0, 0, width, height);
+    gl.ActiveTexture(GL_TEXTURE0);
+    self.drawBackground(height);
+    self.painter.prepare(self.scene, frame, self.style, self.loader, self.counts);
+    gl.Enable(GL_DEPTH_TEST);
+    gl.DepthFunc(GL_LEQUAL);
+    gl.Enable(GL_PROGRAM_POINT_SIZE);
+    gl.PolygonMode(GL_FRONT_AND_BACK, self.style.surfaces == NxDrawingStyle::WIREFRAME ? GL_LINE : GL_FILL);
+    self.painter.drawOpaque(self.scene, self.counts);
+    gl.PolygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    gl.Enable(GL_BLEND);
+    gl.BlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    ground.addLines(self.lines);
+    self.painter.addBoxes(self.scene, self.lines);
+    self.lines.draw(frame.sceneToClip, self.counts);
+    gl.Disable(GL_BLEND);
+    gl.PolygonMode(GL_FRONT_AND_BACK, self.style.surfaces == NxDrawingStyle::WIREFRAME ? GL_LINE : GL_FILL);
+    self.painter.drawTranslucent(self.scene, self.counts);
+    gl.PolygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    self.outline.draw(self.scene, self.selectedItems, self.painter, frame, self.style, self.counts);
+
+    gl.Disable(GL_DEPTH_TEST);
+    gl.DepthFunc(GL_LESS);
+    gl.Disable(GL_PROGRAM_POINT_SIZE);
+    gl.BlendFuncSeparate(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
+    gl.BindVertexArray(0);
+    gl.BindBuffer(GL_ARRAY_BUFFER, 0);
+    gl.BindTexture(GL_TEXTURE_2D, 0);
+    gl.BindSampler(0, 0);
+    gl.UseProgram(0);
+    ++self.counts.pictures;
+    self.checkErrors();
+}
+
+NxBounds NxSceneDrawing::getBounds()
+{
+    m_private->scene.update();
+    return m_private->scene.tree().bounds();
+}
+
+NxBounds NxSceneDrawing::getBounds(const NxNode* node)
+{
+    m_private->scene.update();
+    NxBounds bounds;
+    for (const Id id : m_private->scene.itemsBelow(node))
+        bounds.include(m_private->scene.tree().boundsOf(id));
+    return bounds;
+}
+
+NxBounds NxSceneDrawing::getBounds(std::span<NxNode* const> nodes)
+{
+    m_private->scene.update();
+    const std::vector<const NxNode*> path(nodes.begin(), nodes.end());
+    NxBounds bounds;
+    for (const Id id : m_private->scene.itemsBelow(path))
+        bounds.include(m_private->scene.tree().boundsOf(id));
+    return bounds;
+}
+
+NxDrawingCounts NxSceneDrawing::getCounts() const
+{
+    NxDrawingCounts counts = m_private->counts;
+    counts.bufferBytes = m_private->painter.meshes().bytes();
+    counts.textureBytes = m_private->painter.textures().bytes();
+    counts.ownBytes = m_private->scene.bytes() + m_private->painter.bytes();
+    return counts;
+}
+
+void NxSceneDrawing::contextLost()
+{
+    Private& self = *m_private;
+    self.scene.forEach<MeshRecord>(NodeKind::Mesh, [&](MeshRecord& mesh) {
+        self.painter.meshes().release(mesh);
+        mesh.fingerprints.fill(0);
+        mesh.isStale = true;
+    });
+    self.scene.forEach<TextureRecord>(NodeKind::Texture, [&](TextureRecord& texture) {
+        self.painter.textures().release(texture);
+        texture.isStale = true;
+    });
+    self.painter.forget();
+    self.lines.forget();
+    self.outline.forget();
+    self.background.forget();
+    self.noteChange();
+}

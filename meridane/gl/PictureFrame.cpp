@@ -1,0 +1,67 @@
+#include "meridane/gl/PictureFrame.h"
+
+#include "meridane/gl/MatrixMath.h"
+#include "meridane/gl/NxBounds.h"
+#include "meridane/gl/NxViewpoint.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace meridane {
+namespace {
+
+/// What is nearest and farthest along the line of sight, with what lies between shown in as many steps of depth as can
+/// be: in perspective the nearest distance decides on that.
+std::pair<float, float> depthRange(const NxViewpoint& viewpoint, const NxBounds& shown)
+{
+    constexpr float farShare = 1.0F / 2000;
+    constexpr float leastShare = 1e-6F;
+    constexpr float margin = 0.01F;
+    float nearest = std::numeric_limits<float>::max();
+    float farthest = std::numeric_limits<float>::lowest();
+    for (unsigned int corner = 0; corner < 8; ++corner) {
+        const float distance = viewpoint.getDistance(VbVec3f((corner & 1U) != 0 ? shown.max[0] : shown.min[0],
+            (corner & 2U) != 0 ? shown.max[1] : shown.min[1], (corner & 4U) != 0 ? shown.max[2] : shown.min[2]));
+        nearest = std::min(nearest, distance);
+        farthest = std::max(farthest, distance);
+    }
+    const float focal = viewpoint.focalDistance > 0 ? viewpoint.focalDistance : 1;
+    if (shown.isEmpty() || !(farthest > nearest - 1)) { // nothing to show, or farther away than floats reach
+        nearest = focal / 2;
+        farthest = focal * 2;
+    }
+    const float gap = std::max((farthest - nearest) * margin, focal * leastShare);
+    if (viewpoint.projection == NxViewpoint::ORTHOGRAPHIC)
+        return {nearest - gap, farthest + gap};
+    if (!(farthest > focal * leastShare)) // all is behind the eye
+        farthest = focal * 2;
+    farthest += gap;
+    const float wanted = std::min(farthest * farShare, focal / 10);
+    return {std::max({nearest - gap, wanted, farthest * leastShare}), farthest};
+}
+
+} // namespace
+
+PictureFrame::PictureFrame(
+    const NxViewpoint& viewpoint, const NxBounds& shown, int pictureWidth, int pictureHeight, float pixelsPerPoint)
+    : direction(viewpoint.getDirection())
+    , width(pictureWidth)
+    , height(pictureHeight)
+    , scale(pixelsPerPoint)
+{
+    const auto [nearest, farthest] = depthRange(viewpoint, shown);
+    const float aspect = static_cast<float>(width) / static_cast<float>(height);
+    sceneToClip = multiply(viewpoint.getViewMatrix(), viewpoint.getProjectionMatrix(aspect, nearest, farthest));
+    const bool isFlat = viewpoint.projection == NxViewpoint::ORTHOGRAPHIC;
+    const VbVec3f place = isFlat ? meridane::scaled(direction, -1) : viewpoint.position;
+    eye = {place[0], place[1], place[2], isFlat ? 0.0F : 1.0F};
+    pixelsPerUnit = static_cast<float>(height) / viewpoint.getHeightAt(1);
+}
+
+double PictureFrame::depthOf(const VbVec3f& point) const noexcept
+{
+    return dot(point, direction);
+}
+
+} // namespace meridane

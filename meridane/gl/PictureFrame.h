@@ -1,0 +1,35 @@
+#pragma once
+
+#include "meridane/base/VbMatrix.h"
+#include "meridane/base/VbVec.h"
+
+#include <array>
+
+class NxViewpoint;
+struct NxBounds;
+
+namespace meridane {
+
+/// What the parts of a picture need to know about it.
+struct PictureFrame {
+    VbMatrix sceneToClip;
+    /// The position of the eye and 1, or the direction to it and 0.
+    std::array<float, 4> eye{};
+    /// The line of sight.
+    VbVec3f direction;
+    /// Device pixels that a length of 1 covers at a distance of 1; at any distance in an orthographic picture.
+    float pixelsPerUnit = 1;
+    int width = 0;
+    int height = 0;
+    float scale = 1;
+
+    /// Of a picture that shows all that lies in the box.
+    PictureFrame(
+        const NxViewpoint& viewpoint, const NxBounds& shown, int pictureWidth, int pictureHeight, float pixelsPerPoint);
+    PictureFrame() = default;
+
+    /// How far away a point is along the line of sight, but for a constant.
+    [[nodiscard]] double depthOf(const VbVec3f& point) const noexcept;
+};
+
+} // namespace meridane

@@ -1,0 +1,59 @@
+#include "meridane/gl/PlaceTable.h"
+
+namespace meridane {
+
+Id PlaceTable::addPlace(const Place& place)
+{
+    const Id id = m_places.add(place);
+    Place& entry = m_places[id];
+    if (entry.parent != noId) {
+        entry.nextSibling = m_places[entry.parent].firstChild;
+        m_places[entry.parent].firstChild = id;
+    }
+    if (entry.group == nullptr)
+        return id;
+    entry.nextOfGroup = entry.group->firstPlace;
+    if (entry.nextOfGroup != noId)
+        m_places[entry.nextOfGroup].previousOfGroup = id;
+    entry.group->firstPlace = id;
+    return id;
+}
+
+void PlaceTable::removePlace(Id id)
+{
+    const Place entry = m_places[id];
+    if (entry.nextOfGroup != noId)
+        m_places[entry.nextOfGroup].previousOfGroup = entry.previousOfGroup;
+    if (entry.previousOfGroup != noId)
+        m_places[entry.previousOfGroup].nextOfGroup = entry.nextOfGroup;
+    else if (entry.group != nullptr)
+        entry.group->firstPlace = entry.nextOfGroup;
+    m_places.remove(id);
+}
+
+Id PlaceTable::addItem(const Item& item)
+{
+    const Id id = m_items.add(item);
+    Item& entry = m_items[id];
+    entry.nextInPlace = m_places[entry.place].firstItem;
+    m_places[entry.place].firstItem = id;
+    entry.nextOfMesh = entry.mesh->firstItem;
+    if (entry.nextOfMesh != noId)
+        m_items[entry.nextOfMesh].previousOfMesh = id;
+    entry.mesh->firstItem = id;
+    return id;
+}
+
+void PlaceTable::removeItem(Id id)
+{
+    const Item entry = m_items[id];
+    if (entry.nextOfMesh != noId)
+        m_items[entry.nextOfMesh].previousOfMesh = entry.previousOfMesh;
+    if (entry.previousOfMesh != noId)
+        m_items[entry.previousOfMesh].nextOfMesh = entry.nextOfMesh;
+    else
+        entry.mesh->firstItem = entry.nextOfMesh;
+    m_items.remove(id);
+}
+
+} // namespace meridane

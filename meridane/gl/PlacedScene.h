@@ -1,0 +1,105 @@
+#pragma once
+
+#include "meridane/gl/BoundsTree.h"
+#include "meridane/gl/Looks.h"
+#include "meridane/gl/PlaceTable.h"
+#include "meridane/gl/Problems.h"
+#include "meridane/scene/NxRef.h"
+
+#include <functional>
+#include <span>
+#include <vector>
+
+namespace meridane {
+
+/// The scene as it is drawn: each mesh in each of its places, with the matrix and the look that it has there, and where
+/// it lies. It knows nothing of OpenGL.
+///
+/// Sensors tell what changes, `update` brings that in line: the places below a moved transform, the contents of a group
+/// with other children, what hangs on the node itself for all other kinds.
+class PlacedScene final : private NodeRecordListener {
+public:
+    /// Groups in each other and shared may stand in more places than any memory holds; from here on they are left out.
+    static constexpr std::size_t mostPlaces = 4'000'000;
+
+    /// Who holds what the card has of a node is told when nobody needs it any more.
+    struct Listener {
+        std::function<void()> changed; ///< something changed; `update` is due
+        std::function<void(MeshRecord&)> meshIsGoing;
+        std::function<void(TextureRecord&)> textureIsGoing;
+    };
+
+    explicit PlacedScene(Listener listener);
+    PlacedScene(const PlacedScene&) = delete;
+    PlacedScene& operator=(const PlacedScene&) = delete;
+    ~PlacedScene();
+
+    void setRoot(NxNode* root);
+    [[nodiscard]] NxNode* root() const noexcept { return m_root.get(); }
+    /// Follows the changes since the latest call.
+    void update();
+
+    [[nodiscard]] const PlaceTable& table() const noexcept { return m_table; }
+    [[nodiscard]] const Looks& looks() const noexcept { return m_looks; }
+    [[nodiscard]] BoundsTree& tree() noexcept { return m_tree; }
+    [[nodiscard]] Problems& problems() noexcept { return m_problems; }
+    /// A number that changes with the places.
+    [[nodiscard]] std::uint64_t structure() const noexcept { return m_structure; }
+    /// A number that changes with the lights and where they are.
+    [[nodiscard]] std::uint64_t lighting() const noexcept { return m_lighting; }
+
+    /// The meshes below a node, in all its places.
+    [[nodiscard]] std::vector<Id> itemsBelow(const NxNode* node) const;
+    /// The same for one place, told by the nodes from a child of the root down.
+    [[nodiscard]] std::vector<Id> itemsBelow(std::span<const NxNode* const> path) const;
+    /// Calls `visit` with each record of a texture or mesh.
+    template <typename Record, typename Visit>
+    void forEach(NodeKind kind, Visit visit)
+    {
+        m_records.forEach([&](NodeRecord& record) {
+            if (record.kind() == kind)
+                visit(static_cast<Record&>(record));
+        });
+    }
+    [[nodiscard]] std::size_t bytes() const noexcept;
+
+private:
+    struct Filling;
+
+    void nodeChanged(NodeRecord& record) override;
+    void nodeDied(NodeRecord& record) override;
+    void follow(NodeRecord& record);
+    void followGroup(GroupRecord& group);
+    void followMesh(MeshRecord& mesh);
+
+    void fill(Id top);
+    void visit(NxNode& node, std::vector<Filling>& stack);
+    [[nodiscard]] Id lookOf(Filling& filling);
+    void addLight(NxLight& light, Filling& filling);
+    void addGroup(NxGroup& group, std::vector<Filling>& stack);
+    void addMesh(NxMesh& mesh, Filling& filling);
+    void empty(Id top);
+    void removeItem(Id id);
+    void move(Id top);
+    [[nodiscard]] VbMatrix placementIn(GroupRecord& group, const VbMatrix& parent);
+    void inspectMesh(MeshRecord& mesh);
+    [[nodiscard]] NxBounds boundsOf(const Item& item) const;
+    void collect(Id top, std::vector<Id>& items) const;
+    void bury();
+
+    Listener m_listener;
+    NxRef<NxNode> m_root;
+    NodeRecords m_records;
+    Looks m_looks{m_records};
+    PlaceTable m_table;
+    BoundsTree m_tree;
+    Problems m_problems;
+    std::vector<NodeRecord*> m_pending;
+    std::uint64_t m_structure = 0;
+    std::uint64_t m_lighting = 0;
+    std::size_t m_visits = 0;
+    bool m_someoneDied = false;
+    bool m_isFullTold = false;
+};
+
+} // namespace meridane

@@ -1,0 +1,162 @@
+// How a scene becomes places: walks the nodes in order, with what precedes each of them in mind.
+
+#include "meridane/base/NxDebugError.h"
+#include "meridane/gl/PlacedScene.h"
+
+#include <string>
+#include <utility>
+
+namespace meridane {
+
+/// A group on the way from the top down to where the walk is.
+struct PlacedScene::Filling {
+    Id place = noId;
+    std::span<NxNode* const> children;
+    std::size_t next = 0;
+    NxMaterial* material = nullptr;
+    NxTexture* texture = nullptr;
+    NxComplexity* complexity = nullptr;
+    std::shared_ptr<const LightList> lights;
+    /// The look that follows from these, which counts as used by the walk; none until it is needed.
+    Id look = noId;
+};
+
+void PlacedScene::fill(Id top)
+{
+    const Place& place = m_table.place(top);
+    const Look& look = m_looks[place.look];
+    NxNode* const root = m_root.get();
+    std::vector<Filling> stack;
+    Filling first;
+    first.place = top;
+    first.children = place.group == nullptr ? std::span(&root, 1) : shownChildren(place.group->group());
+    first.look = place.look;
+    first.lights = look.lights;
+    const auto nodeOf = [](const NodeRecord* record) { return record == nullptr ? nullptr : record->node(); };
+    first.material = static_cast<NxMaterial*>(nodeOf(look.material));
+    first.texture = static_cast<NxTexture*>(nodeOf(look.texture));
+    first.complexity = static_cast<NxComplexity*>(nodeOf(look.complexity));
+    m_looks.useAgain(first.look);
+    stack.push_back(std::move(first));
+    m_visits = 0;
+    while (!stack.empty()) {
+        Filling& filling = stack.back();
+        const bool isFull = m_table.count() >= mostPlaces || m_visits >= 4 * mostPlaces;
+        if (isFull && !m_isFullTold) {
+            m_isFullTold = true;
+            const std::string text = "The scene has more than " + std::to_string(mostPlaces)
+                + " places of groups and meshes; the others aren't drawn";
+            NxDebugError::post(NxDebugError::Warning, VbString(text));
+        }
+        if (isFull || filling.next == filling.children.size()) {
+            if (filling.look != noId)
+                m_looks.release(filling.look);
+            stack.pop_back();
+            continue;
+        }
+        ++m_visits;
+        visit(*filling.children[filling.next++], stack);
+    }
+}
+
+void PlacedScene::visit(NxNode& node, std::vector<Filling>& stack)
+{
+    Filling& filling = stack.back();
+    const auto changeLook = [&](auto& part, NxNode& value) {
+        part = static_cast<std::remove_reference_t<decltype(part)>>(&value);
+        if (filling.look != noId)
+            m_looks.release(std::exchange(filling.look, noId));
+    };
+    switch (kindOf(node)) {
+    case NodeKind::Group:
+        addGroup(static_cast<NxGroup&>(node), stack);
+        break;
+    case NodeKind::Mesh:
+        addMesh(static_cast<NxMesh&>(node), filling);
+        break;
+    case NodeKind::Material:
+        changeLook(filling.material, node);
+        break;
+    case NodeKind::Texture:
+        changeLook(filling.texture, node);
+        break;
+    case NodeKind::Complexity:
+        changeLook(filling.complexity, node);
+        break;
+    case NodeKind::Light:
+        addLight(static_cast<NxLight&>(node), filling);
+        break;
+    case NodeKind::Other:
+        break;
+    }
+}
+
+Id PlacedScene::lookOf(Filling& filling)
+{
+    if (filling.look == noId) {
+        Look look;
+        if (filling.material != nullptr)
+            look.material = &m_records.of<MaterialRecord>(*filling.material, *this);
+        if (filling.texture != nullptr)
+            look.texture = &m_records.of<TextureRecord>(*filling.texture, *this);
+        if (filling.complexity != nullptr)
+            look.complexity = &m_records.of<ComplexityRecord>(*filling.complexity, *this);
+        look.lights = filling.lights;
+        filling.look = m_looks.use(look);
+    }
+    m_looks.useAgain(filling.look);
+    return filling.look;
+}
+
+void PlacedScene::addLight(NxLight& light, Filling& filling)
+{
+    auto& record = m_records.of<LightRecord>(light, *this);
+    const bool isTooMany = filling.lights && filling.lights->count() >= LightList::most;
+    m_problems.note(record, Problem::TooManyLights, isTooMany, [] {
+        return "more than " + std::to_string(LightList::most) + " lights shine on what follows; this one is left out";
+    });
+    ++m_lighting;
+    if (isTooMany)
+        return;
+    filling.lights
+        = std::make_shared<LightList>(filling.lights, record, m_table.place(filling.place).placement, m_records);
+    if (filling.look != noId)
+        m_looks.release(std::exchange(filling.look, noId));
+}
+
+void PlacedScene::addGroup(NxGroup& group, std::vector<Filling>& stack)
+{
+    Filling& above = stack.back();
+    auto& record = m_records.of<GroupRecord>(group, *this);
+    NodeRecords::retain(record);
+    record.noteChildren();
+    Place place;
+    place.group = &record;
+    place.parent = above.place;
+    place.placement = m_table.place(above.place).placement;
+    if (record.isTransform())
+        place.placement = m_table.placements.add(placementIn(record, m_table.placements[place.placement]));
+    place.look = lookOf(above);
+    Filling inner = above;
+    inner.place = m_table.addPlace(place);
+    inner.children = shownChildren(group);
+    inner.next = 0;
+    m_looks.useAgain(inner.look);
+    stack.push_back(std::move(inner));
+}
+
+void PlacedScene::addMesh(NxMesh& mesh, Filling& filling)
+{
+    auto& record = m_records.of<MeshRecord>(mesh, *this);
+    NodeRecords::retain(record);
+    if (!record.isInspected)
+        inspectMesh(record);
+    Item item;
+    item.mesh = &record;
+    item.place = filling.place;
+    item.look = lookOf(filling);
+    const Id id = m_table.addItem(item);
+    m_tree.set(id, boundsOf(item));
+}
+
+} // namespace meridane

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "meridane/gl/GLProgram.h"
+
+#include <array>
+
+namespace meridane {
+
+/// What a mesh is drawn with.
+struct SurfaceVariant {
+    enum Light : unsigned int {
+        Unlit, ///< lines and points without normals
+        Smooth, ///< surfaces by the normals of their corners
+        Flat, ///< surfaces by their own normals
+        Line, ///< lines and points by the normals of their corners
+    };
+    static constexpr unsigned int count = 16;
+
+    Light light = Unlit;
+    bool isTextured = false;
+    bool hasColors = false;
+
+    [[nodiscard]] unsigned int number() const noexcept
+    {
+        return static_cast<unsigned int>(light) * 4 + (isTextured ? 2U : 0U) + (hasColors ? 1U : 0U);
+    }
+};
+
+/// A program for a variant and the places of its variables.
+struct SurfaceProgram {
+    GLProgram program;
+    int placement = -1; ///< mat4, from the mesh to the scene
+    int normalMatrix = -1; ///< mat3
+    int sceneToClip = -1; ///< mat4
+    int eye = -1; ///< vec4: the position and 1, or the direction to the viewer and 0
+    int material = -1; ///< vec4[4], as `MaterialValues`
+    int pointSize = -1;
+};
+
+/// The places of the corners' values, in the order of the lists of a mesh; the indices come behind them.
+enum class Attribute : unsigned int { Position, Normal, Coordinate, Color };
+inline constexpr std::size_t attributes = 4;
+
+/// The block of uniforms with the lights: their number, then `LightValues` of each.
+inline constexpr unsigned int lightsBinding = 0;
+
+[[nodiscard]] SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant variant);
+
+} // namespace meridane

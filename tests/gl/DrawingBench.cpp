@@ -1,0 +1,130 @@
+#include "gl/DrawingBench.h"
+
+#include <array>
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+struct Target {
+    explicit Target(const NxGLFunctions& functions, int width, int height)
+        : gl(functions)
+    {
+        gl.GenFramebuffers(1, &framebuffer);
+        gl.GenRenderbuffers(2, buffers.data());
+        gl.BindFramebuffer(GL_FRAMEBUFFER, framebuffer);
+        add(buffers[0], GL_RGBA8, GL_COLOR_ATTACHMENT0, width, height);
+        add(buffers[1], GL_DEPTH_COMPONENT24, GL_DEPTH_ATTACHMENT, width, height);
+    }
+    ~Target()
+    {
+        gl.DeleteFramebuffers(1, &framebuffer);
+        gl.DeleteRenderbuffers(2, buffers.data());
+    }
+    Target(const Target&) = delete;
+    Target& operator=(const Target&) = delete;
+
+    void add(unsigned int buffer, GLenum format, GLenum place, int width, int height) const
+    {
+        gl.BindRenderbuffer(GL_RENDERBUFFER, buffer);
+        gl.RenderbufferStorage(GL_RENDERBUFFER, format, width, height);
+        gl.FramebufferRenderbuffer(GL_FRAMEBUFFER, place, GL_RENDERBUFFER, buffer);
+    }
+
+    const NxGLFunctions& gl;
+    unsigned int framebuffer = 0;
+    std::array<unsigned int, 2> buffers{};
+};
+
+} // namespace
+
+QImage DrawingBench::draw(const NxViewpoint& viewpoint, int width, int height)
+{
+    NxDelayQueue::getDefault().process();
+    const Target target(m_gl, width, height);
+    m_drawing->draw(viewpoint, width, height, 1);
+    QImage image(width, height, QImage::Format_RGBA8888);
+    m_gl.ReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, image.bits());
+    return image.mirrored();
+}
+
+QStringList DrawingBench::takeMessages()
+{
+    QStringList messages;
+    const std::vector<std::string> all = m_recorder.texts();
+    for (; m_taken < all.size(); ++m_taken)
+        messages.append(QString::fromStdString(all[m_taken]));
+    return messages;
+}
+
+QColor pixelAt(const QImage& picture, double x, double y)
+{
+    const auto place
+        = [](double at, int size) { return std::clamp(static_cast<int>((at + 1) / 2 * size), 0, size - 1); };
+    return picture.pixelColor(place(x, picture.width()), place(-y, picture.height()));
+}
+
+bool isNear(const QColor& color, const QColor& expected, int tolerance)
+{
+    return std::abs(color.red() - expected.red()) <= tolerance
+        && std::abs(color.green() - expected.green()) <= tolerance
+        && std::abs(color.blue() - expected.blue()) <= tolerance;
+}
+
+QByteArray text(const QColor& color)
+{
+    return color.name().toUtf8();
+}
+
+NxRef<NxMesh> rectangle(float left, float bottom, float right, float top, float z)
+{
+    NxRef<NxMesh> mesh = new NxMesh;
+    mesh->positions.setValues({{left, bottom, z}, {right, bottom, z}, {right, top, z}, {left, top, z}});
+    mesh->normals.setValues(std::vector<VbVec3f>(4, VbVec3f(0, 0, 1)));
+    mesh->textureCoordinates.setValues({{0, 0}, {1, 0}, {1, 1}, {0, 1}});
+    mesh->indices.setValues({0, 1, 2, 0, 2, 3});
+    return mesh;
+}
+
+NxRef<NxMesh> ball(float radius, int steps)
+{
+    std::vector<VbVec3f> positions;
+    std::vector<VbVec3f> normals;
+    std::vector<int> indices;
+    for (int i = 0; i <= steps; ++i) {
+        for (int j = 0; j <= steps; ++j) {
+            const double across = 2 * std::numbers::pi * j / steps;
+            const double down = std::numbers::pi * i / steps;
+            const VbVec3f normal(static_cast<float>(std::sin(down) * std::sin(across)),
+                static_cast<float>(std::cos(down)), static_cast<float>(std::sin(down) * std::cos(across)));
+            normals.push_back(normal);
+            positions.emplace_back(normal[0] * radius, normal[1] * radius, normal[2] * radius);
+            if (i == steps || j == steps)
+                continue;
+            const int first = i * (steps + 1) + j;
+            indices.insert(
+                indices.end(), {first, first + steps + 1, first + 1, first + 1, first + steps + 1, first + steps + 2});
+        }
+    }
+    NxRef<NxMesh> mesh = new NxMesh;
+    mesh->positions.setValues(std::move(positions));
+    mesh->normals.setValues(std::move(normals));
+    mesh->indices.setValues(std::move(indices));
+    return mesh;
+}
+
+NxRef<NxMesh> meshOf(std::vector<VbVec3f> positions, int primitive)
+{
+    NxRef<NxMesh> mesh = new NxMesh;
+    mesh->positions.setValues(std::move(positions));
+    mesh->primitive.setValue(primitive);
+    return mesh;
+}
+
+NxRef<NxGroup> groupOf(std::initializer_list<NxNode*> nodes)
+{
+    NxRef<NxGroup> group = new NxGroup;
+    for (NxNode* node : nodes)
+        group->addChild(node);
+    return group;
+}

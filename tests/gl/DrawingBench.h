@@ -1,0 +1,101 @@
+#pragma once
+
+#include "base/HandlerGuard.h"
+
+#include "meridane/base/NxDebugError.h"
+#include "meridane/base/NxDelayQueue.h"
+#include "meridane/base/NxGLError.h"
+#include "meridane/base/NxReadError.h"
+#include "meridane/gl/NxGLFunctions.h"
+#include "meridane/gl/NxOffscreenContext.h"
+#include "meridane/gl/NxSceneDrawing.h"
+#include "meridane/gl/NxViewpoint.h"
+#include "meridane/scene/NxGroup.h"
+#include "meridane/scene/NxMesh.h"
+#include "meridane/scene/NxRef.h"
+
+#include <QColor>
+#include <QImage>
+#include <QTest>
+
+#include <memory>
+
+/// A drawing that draws into memory, and the messages that came meanwhile.
+class DrawingBench {
+public:
+    DrawingBench()
+    {
+        if (!m_context.isValid() || !m_context.makeCurrent())
+            qFatal("no OpenGL: %s", m_context.getError().toUtf8());
+        if (!m_gl.load(&NxOffscreenContext::getProcAddress))
+            qFatal("no OpenGL: %s", m_gl.getError().c_str());
+        m_drawing = std::make_unique<NxSceneDrawing>(m_gl);
+        NxDrawingStyle style;
+        style.grid = false;
+        style.axes = false;
+        style.backgroundBottom = style.backgroundTop = VbColor();
+        m_drawing->setStyle(style);
+    }
+    DrawingBench(const DrawingBench&) = delete;
+    DrawingBench& operator=(const DrawingBench&) = delete;
+    ~DrawingBench() = default;
+
+    [[nodiscard]] NxSceneDrawing& drawing() { return *m_drawing; }
+    [[nodiscard]] const NxGLFunctions& gl() const { return m_gl; }
+    /// Changes the style.
+    template <typename Change>
+    void restyle(Change change)
+    {
+        NxDrawingStyle style = m_drawing->getStyle();
+        change(style);
+        m_drawing->setStyle(style);
+    }
+    /// From the front, with what is between -1 and 1 filling the picture.
+    [[nodiscard]] static NxViewpoint front()
+    {
+        NxViewpoint viewpoint;
+        viewpoint.projection = NxViewpoint::ORTHOGRAPHIC;
+        viewpoint.height = 2;
+        return viewpoint;
+    }
+
+    /// Lets the sensors tell what changed, and draws.
+    [[nodiscard]] QImage draw(const NxViewpoint& viewpoint = front(), int width = 101, int height = 101);
+    [[nodiscard]] NxDrawingCounts counts() const { return m_drawing->getCounts(); }
+
+    /// The messages since the latest call, of any class.
+    [[nodiscard]] QStringList takeMessages();
+
+private:
+    NxOffscreenContext m_context;
+    NxGLFunctions m_gl;
+    TextRecorder m_recorder;
+    std::size_t m_taken = 0;
+    HandlerGuard<NxDebugError> m_warnings{&TextRecorder::record, &m_recorder};
+    HandlerGuard<NxGLError> m_glErrors{&TextRecorder::record, &m_recorder};
+    HandlerGuard<NxReadError> m_readErrors{&TextRecorder::record, &m_recorder};
+    std::unique_ptr<NxSceneDrawing> m_drawing;
+};
+
+/// The colour at a place of the picture, told by coordinates from -1 to 1 that grow to the right and upwards.
+[[nodiscard]] QColor pixelAt(const QImage& picture, double x, double y);
+/// Whether colours differ by no more than `tolerance` of 255 a component.
+[[nodiscard]] bool isNear(const QColor& color, const QColor& expected, int tolerance = 3);
+[[nodiscard]] QByteArray text(const QColor& color);
+
+#define COMPARE_PIXEL(picture, x, y, ...)                                                                              \
+    QVERIFY2(isNear(pixelAt(picture, x, y), __VA_ARGS__), text(pixelAt(picture, x, y)).constData())
+
+/// A rectangle in the plane of that z, facing the viewer, with texture coordinates from 0 to 1.
+[[nodiscard]] NxRef<NxMesh> rectangle(float left, float bottom, float right, float top, float z = 0);
+/// A ball around the origin with normals.
+[[nodiscard]] NxRef<NxMesh> ball(float radius, int steps = 48);
+/// A mesh of those positions in order.
+[[nodiscard]] NxRef<NxMesh> meshOf(std::vector<VbVec3f> positions, int primitive);
+/// A group of these nodes.
+[[nodiscard]] NxRef<NxGroup> groupOf(std::initializer_list<NxNode*> nodes);
+template <typename Node>
+[[nodiscard]] NxRef<Node> make()
+{
+    return new Node;
+}
