@@ -16,9 +16,10 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFrame>
+#include <QScrollBar>
+#include <QTextCursor>
 #include <QTextOption>
 
-#include <cstdint>
 #include <iostream>
 #include <utility>
 
@@ -40,6 +41,10 @@ constexpr std::array errorClasses{errorClass<NxDebugError>, errorClass<NxError>,
 /// In characters. The default way to break lines looks for the end of a word over and over, which takes minutes for a
 /// word of a megabyte.
 constexpr qsizetype longText = 10'000;
+
+constexpr auto turnEvent = static_cast<QEvent::Type>(QEvent::User + 1);
+constexpr qint64 longestTurn = 200; // in milliseconds
+constexpr int largestTurn = 2000; // in messages, which the view then takes about half of that time to lay out
 
 constexpr std::int32_t errorCategory = 0;
 constexpr std::int32_t infoCategory = 1;
@@ -160,6 +165,7 @@ void OrvConsole::show()
 
 void OrvConsole::unload()
 {
+    m_arrived.clear();
     delete std::exchange(m_consoleFrameWidget, nullptr);
     delete std::exchange(m_dockWidget, nullptr);
     for (std::size_t index = 0; index < errorClassCount; ++index)
@@ -168,21 +174,69 @@ void OrvConsole::unload()
 
 bool OrvConsole::event(QEvent* event)
 {
-    // An error may still be under way when the view is gone.
-    if (event->type() == ConsoleEvent::eventType && m_consoleFrameWidget != nullptr) {
-        const auto* const message = static_cast<ConsoleEvent*>(event);
-        switch (message->category()) {
-        case infoCategory:
-            append(m_outputInfos, m_infoColor, message->text());
-            break;
-        case warningCategory:
-            append(m_outputWarnings, m_warningColor, message->text());
-            break;
-        default:
-            append(m_outputErrors, m_errorColor, message->text());
-        }
-    }
+    if (event->type() == ConsoleEvent::eventType)
+        receive(*static_cast<ConsoleEvent*>(event));
+    else if (event->type() == turnEvent)
+        beginTurn();
     return QObject::event(event);
+}
+
+// The view takes its time for each line. So that many errors at once don't hold up the window, they are shown in turns,
+// and whatever else waits in the event loop comes in between.
+void OrvConsole::receive(const ConsoleEvent& event)
+{
+    // An error may still be under way when the view is gone.
+    if (m_consoleFrameWidget == nullptr)
+        return;
+    if (!m_turn.isValid()) {
+        m_turn.start();
+        QCoreApplication::postEvent(this, new QEvent(turnEvent), Qt::LowEventPriority);
+    }
+    const Message message{event.text(), event.category()};
+    if (m_arrived.empty() && !turnIsOver())
+        showMessage(message);
+    else
+        m_arrived.push_back(message);
+}
+
+void OrvConsole::beginTurn()
+{
+    m_turn.invalidate();
+    if (m_arrived.empty())
+        return;
+    m_turn.start();
+    QCoreApplication::postEvent(this, new QEvent(turnEvent), Qt::LowEventPriority);
+    // In one edit, so that the view lays out its lines once.
+    QScrollBar* const bar = m_consoleOutput->verticalScrollBar();
+    const bool endIsInSight = bar->value() >= bar->maximum();
+    QTextCursor edit(m_consoleOutput->document());
+    edit.beginEditBlock();
+    for (int shown = 0; !m_arrived.empty() && shown < largestTurn && !turnIsOver(); ++shown) {
+        showMessage(m_arrived.front());
+        m_arrived.pop_front();
+    }
+    edit.endEditBlock();
+    if (endIsInSight)
+        bar->setValue(bar->maximum());
+}
+
+bool OrvConsole::turnIsOver() const
+{
+    return m_turn.hasExpired(longestTurn);
+}
+
+void OrvConsole::showMessage(const Message& message)
+{
+    switch (message.category) {
+    case infoCategory:
+        append(m_outputInfos, m_infoColor, message.text);
+        break;
+    case warningCategory:
+        append(m_outputWarnings, m_warningColor, message.text);
+        break;
+    default:
+        append(m_outputErrors, m_errorColor, message.text);
+    }
 }
 
 void OrvConsole::clear()

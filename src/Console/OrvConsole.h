@@ -8,9 +8,13 @@
 #include "meridane/base/NxErrorHandler.h"
 
 #include <QColor>
+#include <QElapsedTimer>
+#include <QString>
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <deque>
 #include <ios>
 #include <memory>
 #include <string>
@@ -62,6 +66,16 @@ private:
     friend void consoleOutputStreamCallback(const char* text, std::streamsize count, void* userData);
     static void handleError(const NxError* error, void* console);
 
+    /// A message that arrived and isn't shown yet.
+    struct Message {
+        QString text;
+        std::int32_t category;
+    };
+
+    void receive(const ConsoleEvent& event);
+    void beginTurn();
+    [[nodiscard]] bool turnIsOver() const;
+    void showMessage(const Message& message);
     void append(bool isShown, const QColor& color, const QString& text);
 
     bool m_outputErrors = true;
@@ -76,4 +90,6 @@ private:
     std::array<void*, errorClassCount> m_savedHandlerData{};
     std::unique_ptr<Redirector> m_stderrRedirector;
     std::unique_ptr<Redirector> m_stdoutRedirector;
+    std::deque<Message> m_arrived; // of a burst, in their order
+    QElapsedTimer m_turn; // valid while a turn is under way
 };

@@ -7,7 +7,11 @@
 #include "meridane/base/NxReadError.h"
 
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTextDocument>
 #include <QTextEdit>
+#include <QThread>
+#include <QTimer>
 
 #include <array>
 #include <atomic>
@@ -30,6 +34,7 @@ private Q_SLOTS:
     void doubleToggleShowsAgain();
     void errorArrivesFromTheEventLoopOnly();
     void errorsOfThreadsKeepTheirOrder();
+    void manyErrorsLeaveTheEventLoopRunning();
     void errorsArriveWhileItIsLoadedOnly();
     void errorsUnderWayAtTheEndAreDropped();
     void threadsMayReportWhileItIsUnloaded();
@@ -123,7 +128,7 @@ void tst_ConsoleErrors::errorArrivesFromTheEventLoopOnly()
 void tst_ConsoleErrors::errorsOfThreadsKeepTheirOrder()
 {
     constexpr int threadCount = 8;
-    constexpr int errorCount = 200;
+    constexpr int errorCount = 12'500;
     const ConsoleRun run;
     std::vector<std::thread> threads;
     for (int thread = 0; thread < threadCount; ++thread) {
@@ -136,8 +141,9 @@ void tst_ConsoleErrors::errorsOfThreadsKeepTheirOrder()
     }
     for (std::thread& thread : threads)
         thread.join();
+    const QTextDocument& shown = *run.output().document();
+    QTRY_COMPARE_WITH_TIMEOUT(shown.blockCount(), threadCount * errorCount, 60'000);
     const QStringList lines = run.lines();
-    QCOMPARE(lines.size(), threadCount * errorCount);
     std::array<int, threadCount> next{};
     for (const QString& line : lines) {
         const QStringList parts = line.split(QLatin1Char(' '));
@@ -145,6 +151,30 @@ void tst_ConsoleErrors::errorsOfThreadsKeepTheirOrder()
         QCOMPARE(parts.at(1).toInt(), expected);
         ++expected;
     }
+}
+
+void tst_ConsoleErrors::manyErrorsLeaveTheEventLoopRunning()
+{
+    const ConsoleRun run;
+    // A view that is slow enough for few errors to be many.
+    connect(&run.output(), &QTextEdit::textChanged, &run.output(), [] { QThread::msleep(20); });
+    constexpr int errorCount = 100;
+    QStringList expected;
+    for (int error = 0; error < errorCount; ++error) {
+        expected << QString::number(error);
+        NxDebugError::post(error % 3, VbString(std::to_string(error)));
+    }
+    int shownAtFirst = 0;
+    QTimer::singleShot(0, &run.output(), [&] { shownAtFirst = run.output().document()->blockCount(); });
+    QCoreApplication::processEvents();
+    QVERIFY(shownAtFirst > 0);
+    QVERIFY(shownAtFirst < errorCount);
+    NxError::post(VbString("last"));
+    expected << QStringLiteral("last");
+    QTRY_COMPARE(run.output().toPlainText().split(QLatin1Char('\n')), expected);
+    const QScrollBar& bar = *run.output().verticalScrollBar();
+    QVERIFY(bar.maximum() > 0);
+    QCOMPARE(bar.value(), bar.maximum());
 }
 
 void tst_ConsoleErrors::errorsArriveWhileItIsLoadedOnly()
