@@ -55,7 +55,7 @@ endfunction()
 # kal_add_test(area name [SOURCES …] [DEPENDS …] [LABELS …] [TIMEOUT s])
 # A QtTest program from tst_<name>.cpp, run without a display, in the C.UTF-8 locale and with folders of its own.
 # Under a sanitizer, too, a request for more memory than there is gives null, so that tests see what users would.
-# Tests with the label toolkit are also built by the target toolkit_tests and run under the thread sanitizer.
+# Tests with the label toolkit or threads are also built by the target thread_tests and run under the thread sanitizer.
 function(kal_add_test area name)
   cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;DEPENDS;LABELS" ${ARGN})
   if(NOT arg_TIMEOUT)
@@ -76,8 +76,8 @@ function(kal_add_test area name)
   kal_use_test_header(${target} ${flavour})
   target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests" "${CMAKE_CURRENT_BINARY_DIR}")
   set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
-  if("toolkit" IN_LIST arg_LABELS)
-    set_property(GLOBAL APPEND PROPERTY KAL_TOOLKIT_TESTS ${target})
+  if("toolkit" IN_LIST arg_LABELS OR "threads" IN_LIST arg_LABELS)
+    set_property(GLOBAL APPEND PROPERTY KAL_THREAD_TESTS ${target})
   endif()
   add_test(NAME ${area}/${name} COMMAND ${target})
   set(home "${PROJECT_BINARY_DIR}/tests/home/${target}")
