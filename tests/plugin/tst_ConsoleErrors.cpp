@@ -1,4 +1,5 @@
 #include "ConsoleRun.h"
+#include "ErrorThreads.h"
 
 #include "meridane/base/NxDebugError.h"
 #include "meridane/base/NxErrorStack.h"
@@ -13,7 +14,6 @@
 #include <QThread>
 #include <QTimer>
 
-#include <array>
 #include <atomic>
 #include <functional>
 #include <iostream>
@@ -127,30 +127,12 @@ void tst_ConsoleErrors::errorArrivesFromTheEventLoopOnly()
 
 void tst_ConsoleErrors::errorsOfThreadsKeepTheirOrder()
 {
-    constexpr int threadCount = 8;
-    constexpr int errorCount = 12'500;
     const ConsoleRun run;
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < threadCount; ++thread) {
-        threads.emplace_back([thread] {
-            for (int error = 0; error < errorCount; ++error) {
-                const std::string text = std::to_string(thread) + ' ' + std::to_string(error);
-                NxDebugError::post(error % 3, VbString(text));
-            }
-        });
-    }
-    for (std::thread& thread : threads)
-        thread.join();
+    ErrorThreads threads(8, 12'500);
+    threads.join();
     const QTextDocument& shown = *run.output().document();
-    QTRY_COMPARE_WITH_TIMEOUT(shown.blockCount(), threadCount * errorCount, 60'000);
-    const QStringList lines = run.lines();
-    std::array<int, threadCount> next{};
-    for (const QString& line : lines) {
-        const QStringList parts = line.split(QLatin1Char(' '));
-        int& expected = next.at(parts.at(0).toUInt());
-        QCOMPARE(parts.at(1).toInt(), expected);
-        ++expected;
-    }
+    QTRY_COMPARE_WITH_TIMEOUT(shown.blockCount(), threads.total(), 60'000);
+    QCOMPARE(threads.firstOutOfOrder(run.lines()), QString());
 }
 
 void tst_ConsoleErrors::manyErrorsLeaveTheEventLoopRunning()

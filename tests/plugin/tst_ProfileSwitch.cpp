@@ -1,3 +1,4 @@
+#include "ErrorThreads.h"
 #include "OrvDefaults.h"
 #include "SliderDriver.h"
 #include "ToolHarness.h"
@@ -9,6 +10,7 @@
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QTableWidget>
+#include <QTextDocument>
 #include <QTextEdit>
 
 #include <iostream>
@@ -78,6 +80,7 @@ private Q_SLOTS:
     void dragUnderWayKeepsWhatItWrote();
     void textInAnOpenCellReachesItsRow();
     void streamsComeBackWithoutTheConsole();
+    void errorsOfThreadsArriveWhileItSwitches();
     void choiceInTheToolBarSwitches();
 };
 
@@ -191,6 +194,25 @@ void tst_ProfileSwitch::streamsComeBackWithoutTheConsole()
     tool.use(QStringLiteral("A"));
     std::cout << "again";
     QCOMPARE(console->toPlainText(), QStringLiteral("seen\nagain"));
+}
+
+void tst_ProfileSwitch::errorsOfThreadsArriveWhileItSwitches()
+{
+    SwitchingTool tool;
+    tool.services.selectNode(tool.node.get());
+    tool.services.selectField(&tool.node->sfFloat);
+    ErrorThreads threads(8, 500);
+    int switches = 0;
+    while (threads.areRunning() || switches < 6) {
+        tool.use(switches % 2 == 0 ? QStringLiteral("Quiet") : QStringLiteral("A"));
+        QCoreApplication::processEvents();
+        ++switches;
+    }
+    tool.use(QStringLiteral("A"));
+    QVERIFY(tool.console() != nullptr);
+    const QTextDocument& shown = *tool.console()->document();
+    QTRY_COMPARE(shown.blockCount(), threads.total());
+    QCOMPARE(threads.firstOutOfOrder(shown.toPlainText().split(QLatin1Char('\n'))), QString());
 }
 
 void tst_ProfileSwitch::choiceInTheToolBarSwitches()
