@@ -2,6 +2,10 @@
 
 NX_NODE_SOURCE(NxFieldGallery, NxNode, "FieldGallery")
 
+// Here, rather than in each source that makes a gallery: the fields are many.
+NxFieldGallery::NxFieldGallery() = default;
+NxFieldGallery::~NxFieldGallery() = default;
+
 const NxEnumeration& NxFieldGallery::qualities()
 {
     static const NxEnumeration names{{"LOW", LOW}, {"MEDIUM", MEDIUM}, {"HIGH", HIGH}, {"ULTRA", ULTRA}};

@@ -167,8 +167,10 @@ public:
     /// Vectors of four numbers.
     NxMFVec4f mfVec4f{this, "mfVec4f"};
 
+    NxFieldGallery();
+
 protected:
-    ~NxFieldGallery() override = default;
+    ~NxFieldGallery() override;
 
 private:
     static const NxEnumeration& qualities();

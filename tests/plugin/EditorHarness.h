@@ -9,37 +9,14 @@
 /// Loads an editor and shows it in a window, and takes all that back at the end.
 class EditorRun {
 public:
-    explicit EditorRun(OrvFieldEditors& editor)
-        : m_editor(editor)
-        , m_layout(new QVBoxLayout(&window))
-    {
-        m_editor.load();
-        m_layout->addWidget(m_editor.getFrame());
-        window.show();
-    }
-    EditorRun(OrvFieldEditors& editor, NxField& field)
-        : EditorRun(editor)
-    {
-        select(&field);
-    }
+    explicit EditorRun(OrvFieldEditors& editor);
+    EditorRun(OrvFieldEditors& editor, NxField& field);
     EditorRun(const EditorRun&) = delete;
     EditorRun& operator=(const EditorRun&) = delete;
-    ~EditorRun()
-    {
-        m_editor.deactivate();
-        m_editor.setEditedObject(nullptr);
-        m_editor.getFrame()->setParent(nullptr);
-        m_editor.unload();
-    }
+    ~EditorRun();
 
     /// Gives the editor another field, as a dock does.
-    void select(NxTypedObject* object)
-    {
-        if (m_editor.isActive())
-            m_editor.deactivate();
-        m_editor.setEditedObject(object);
-        m_editor.activate();
-    }
+    void select(NxTypedObject* object);
 
     /// The only child of that type and name.
     template <typename Child>
