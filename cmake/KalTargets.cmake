@@ -50,6 +50,7 @@ function(kal_add_plugin name)
     set_target_properties(${name} PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${arg_DIRECTORY}")
   endif()
   kal_use_qt(${name})
+  target_precompile_headers(${name} REUSE_FROM kal_qt_header)
 endfunction()
 
 # kal_add_test(area name [SOURCES …] [DEPENDS …] [LABELS …] [TIMEOUT s])
