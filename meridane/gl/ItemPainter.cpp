@@ -64,10 +64,10 @@ const MaterialValues& materialOf(const Look& look)
 
 } // namespace
 
-ItemPainter::ItemPainter(const NxGLFunctions& gl)
+ItemPainter::ItemPainter(const NxGLFunctions& gl, GLErrors& errors)
     : m_gl(gl)
-    , m_meshes(gl)
-    , m_textures(gl)
+    , m_meshes(gl, errors)
+    , m_textures(gl, errors)
 {
 }
 

@@ -18,7 +18,7 @@ namespace meridane {
 /// isn't, from back to front.
 class ItemPainter {
 public:
-    explicit ItemPainter(const NxGLFunctions& gl);
+    ItemPainter(const NxGLFunctions& gl, GLErrors& errors);
     ItemPainter(const ItemPainter&) = delete;
     ItemPainter& operator=(const ItemPainter&) = delete;
     /// The context must be current, or `forget` have been called.

@@ -40,7 +40,7 @@ std::size_t countOutOfRange(std::span<const int> indices, std::size_t vertexCoun
 bool hasEach(std::size_t count, std::size_t positions, const char* what, Problem problem, NodeRecord& record,
     Problems& problems, bool oneIsFine = false)
 {
-    const bool isWrong = count != 0 && count != positions && !(oneIsFine && count == 1);
+    const bool isWrong = positions != 0 && count != 0 && count != positions && !(oneIsFine && count == 1);
     problems.note(record, problem, isWrong, [&] {
         return std::to_string(count) + " " + what + " for " + std::to_string(positions)
             + " positions; drawn as if it had none";

@@ -1,11 +1,9 @@
 #include "meridane/gl/MeshStore.h"
 
-#include "meridane/base/NxGLError.h"
 #include "meridane/gl/FieldValue.h"
 #include "meridane/gl/Fingerprint.h"
 
 #include <algorithm>
-#include <string>
 #include <utility>
 
 namespace meridane {
@@ -106,12 +104,19 @@ void MeshStore::upload(NxDrawingCounts& counts)
         mesh->fingerprints.fill(0);
         transfers.push_back(transfer);
     }
+    deleteEmptyPages();
     std::stable_sort(
         transfers.begin(), transfers.end(), [](const Transfer& a, const Transfer& b) { return a.layout < b.layout; });
+    if (!transfers.empty())
+        m_errors.report("Drawing the scene"); // ahead of what must go well
     for (std::size_t i = 0; i < transfers.size(); ++i) {
         if (findPlace(transfers[i]) || takePlace(transfers[i], makePage(transfers, i)))
             send(transfers[i], counts);
     }
+}
+
+void MeshStore::deleteEmptyPages()
+{
     const auto isEmpty = [this](Id id) { return m_pages[id].meshes == 0; };
     for (const Id id : m_pageIds) {
         if (isEmpty(id))
@@ -188,9 +193,7 @@ Id MeshStore::makePage(std::span<const Transfer> transfers, std::size_t first)
     }
     m_bytes += page.bytes;
     // Drawing from a buffer that there was no memory for could read anything.
-    if (const GLenum error = m_gl.GetError(); error != GL_NO_ERROR) {
-        const std::string text = "Making room for " + std::to_string(page.bytes) + " bytes of meshes";
-        NxGLError::post(error, VbString(text));
+    if (m_errors.report("Making room for meshes")) {
         deletePage(page);
         return noId;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/gl/GLErrors.h"
 #include "meridane/gl/MeshRecord.h"
 #include "meridane/gl/NxDrawingCounts.h"
 #include "meridane/gl/NxGLFunctions.h"
@@ -17,8 +18,9 @@ namespace meridane {
 /// needs no change from one to the next; a buffer is made just large enough for the meshes that are uploaded together.
 class MeshStore {
 public:
-    explicit MeshStore(const NxGLFunctions& gl)
+    MeshStore(const NxGLFunctions& gl, GLErrors& errors)
         : m_gl(gl)
+        , m_errors(errors)
     {
     }
     MeshStore(const MeshStore&) = delete;
@@ -66,8 +68,10 @@ private:
     void send(const Transfer& transfer, NxDrawingCounts& counts);
     void sendList(MeshRecord& mesh, std::size_t list, std::span<const std::byte> bytes, NxDrawingCounts& counts);
     void deletePage(Page& page);
+    void deleteEmptyPages();
 
     const NxGLFunctions& m_gl;
+    GLErrors& m_errors;
     std::vector<MeshRecord*> m_requests;
     SlotTable<Page> m_pages;
     std::vector<Id> m_pageIds;

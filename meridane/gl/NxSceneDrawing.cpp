@@ -1,6 +1,5 @@
 #include "meridane/gl/NxSceneDrawing.h"
 
-#include "meridane/base/NxGLError.h"
 #include "meridane/gl/Ground.h"
 #include "meridane/gl/ItemPainter.h"
 #include "meridane/gl/LinePainter.h"
@@ -9,7 +8,6 @@
 #include "meridane/gl/PlacedScene.h"
 #include "meridane/gl/ScreenPass.h"
 
-#include <set>
 #include <utility>
 
 using namespace meridane;
@@ -33,7 +31,8 @@ class NxSceneDrawing::Private {
 public:
     explicit Private(const NxGLFunctions& functions)
         : gl(functions)
-        , painter(functions)
+        , errors(functions)
+        , painter(functions, errors)
         , lines(functions)
         , outline(functions)
         , background(functions, "the background", backgroundSource)
@@ -49,7 +48,6 @@ public:
     }
     void updateSelection();
     void drawBackground(int height);
-    void checkErrors();
 
     const NxGLFunctions& gl;
     NxDrawingStyle style;
@@ -62,8 +60,8 @@ public:
     std::vector<Id> selectedItems;
     std::uint64_t selectedStructure = 0;
     bool isSelectionStale = false;
-    std::set<GLenum> toldErrors;
 
+    GLErrors errors;
     ItemPainter painter;
     LinePainter lines;
     OutlinePainter outline;
@@ -93,18 +91,6 @@ void NxSceneDrawing::Private::drawBackground(int height)
     background.draw();
 }
 
-void NxSceneDrawing::Private::checkErrors()
-{
-    constexpr int most = 16; // a lost context may report errors without end
-    for (int i = 0; i < most; ++i) {
-        const GLenum error = gl.GetError();
-        if (error == GL_NO_ERROR)
-            return;
-        if (toldErrors.insert(error).second)
-            NxGLError::post(error, VbString("Drawing the scene"));
-    }
-}
-
 NxSceneDrawing::NxSceneDrawing(const NxGLFunctions& functions)
     : m_private(std::make_unique<Private>(functions))
 {
@@ -114,7 +100,7 @@ NxSceneDrawing::~NxSceneDrawing() = default;
 
 void NxSceneDrawing::setScene(NxNode* root)
 {
-    m_private->toldErrors.clear();
+    m_private->errors.forget();
     m_private->selection.clear();
     m_private->isSelectionStale = true;
     m_private->scene.setRoot(root);
@@ -213,7 +199,7 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
     gl.BindSampler(0, 0);
     gl.UseProgram(0);
     ++self.counts.pictures;
-    self.checkErrors();
+    self.errors.report("Drawing the scene");
 }
 
 NxBounds NxSceneDrawing::getBounds()

@@ -1,13 +1,11 @@
 #include "meridane/gl/TextureStore.h"
 
-#include "meridane/base/NxGLError.h"
 #include "meridane/gl/FieldValue.h"
 #include "meridane/gl/Fingerprint.h"
 #include "meridane/gl/TextureImage.h"
 
 #include <algorithm>
 #include <span>
-#include <string>
 #include <utility>
 
 namespace meridane {
@@ -90,6 +88,7 @@ void TextureStore::update(
 void TextureStore::upload(TextureRecord& texture, const TextureImage& image)
 {
     const Format format = formatOf(image.components);
+    m_errors.report("Drawing the scene"); // ahead of what must go well
     m_gl.GenTextures(1, &texture.name);
     m_gl.BindTexture(GL_TEXTURE_2D, texture.name);
     m_gl.PixelStorei(GL_UNPACK_ALIGNMENT, 1);
@@ -103,10 +102,7 @@ void TextureStore::upload(TextureRecord& texture, const TextureImage& image)
         m_gl.TexParameteri(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_A, image.components == 2 ? GL_GREEN : GL_ONE);
     }
     m_gl.GenerateMipmap(GL_TEXTURE_2D);
-    if (const GLenum error = m_gl.GetError(); error != GL_NO_ERROR) {
-        const std::string text
-            = "Making an image of " + std::to_string(image.width) + " by " + std::to_string(image.height) + " pixels";
-        NxGLError::post(error, VbString(text));
+    if (m_errors.report("Making the image of a texture")) {
         release(texture);
         clean();
         return;

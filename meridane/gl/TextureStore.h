@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/gl/GLErrors.h"
 #include "meridane/gl/LookRecords.h"
 #include "meridane/gl/NxDrawingCounts.h"
 #include "meridane/gl/NxGLFunctions.h"
@@ -16,8 +17,9 @@ struct TextureImage;
 /// The images of the textures on the card, and the ways in which they are looked up.
 class TextureStore {
 public:
-    explicit TextureStore(const NxGLFunctions& gl)
+    TextureStore(const NxGLFunctions& gl, GLErrors& errors)
         : m_gl(gl)
+        , m_errors(errors)
     {
     }
     TextureStore(const TextureStore&) = delete;
@@ -45,6 +47,7 @@ private:
     unsigned int sampler(bool repeatsS, bool repeatsT, std::size_t quality);
 
     const NxGLFunctions& m_gl;
+    GLErrors& m_errors;
     std::array<unsigned int, 4 * qualities> m_samplers{};
     std::vector<unsigned int> m_garbage;
     std::size_t m_bytes = 0;

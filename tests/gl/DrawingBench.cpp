@@ -41,11 +41,25 @@ struct Target {
 QImage DrawingBench::draw(const NxViewpoint& viewpoint, int width, int height)
 {
     NxDelayQueue::getDefault().process();
+    return drawUntold(viewpoint, width, height);
+}
+
+QImage DrawingBench::drawUntold(const NxViewpoint& viewpoint, int width, int height)
+{
     const Target target(m_gl, width, height);
     m_drawing->draw(viewpoint, width, height, 1);
     QImage image(width, height, QImage::Format_RGBA8888);
     m_gl.ReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, image.bits());
     return image.mirrored();
+}
+
+QImage DrawingBench::pictureOf(std::initializer_list<NxNode*> nodes, const NxViewpoint& viewpoint)
+{
+    const auto scene = groupOf(nodes);
+    m_drawing->setScene(scene.get());
+    QImage picture = draw(viewpoint);
+    m_drawing->setScene(nullptr);
+    return picture;
 }
 
 QStringList DrawingBench::takeMessages()
@@ -55,6 +69,14 @@ QStringList DrawingBench::takeMessages()
     for (; m_taken < all.size(); ++m_taken)
         messages.append(QString::fromStdString(all[m_taken]));
     return messages;
+}
+
+void DrawingBench::loseContext()
+{
+    m_context = std::make_unique<NxOffscreenContext>();
+    if (!m_context->makeCurrent())
+        qFatal("no OpenGL: %s", m_context->getError().toUtf8());
+    m_drawing->contextLost();
 }
 
 QColor pixelAt(const QImage& picture, double x, double y)
@@ -74,6 +96,28 @@ bool isNear(const QColor& color, const QColor& expected, int tolerance)
 QByteArray text(const QColor& color)
 {
     return color.name().toUtf8();
+}
+
+QColor color(double r, double g, double b)
+{
+    return QColor::fromRgbF(static_cast<float>(r), static_cast<float>(g), static_cast<float>(b));
+}
+
+NxRef<NxMaterial> plain(float r, float g, float b, float transparency)
+{
+    NxRef<NxMaterial> material = new NxMaterial;
+    material->ambientColor.setValue(VbColor());
+    material->diffuseColor.setValue(VbColor(r, g, b));
+    material->transparency.setValue(transparency);
+    return material;
+}
+
+NxRef<NxTexture> fourPixels()
+{
+    constexpr unsigned char bytes[] = {255, 0, 0, 0, 255, 0, 0, 0, 255, 255, 255, 255};
+    NxRef<NxTexture> texture = new NxTexture;
+    texture->image.setValue(VbVec2s(2, 2), 3, bytes);
+    return texture;
 }
 
 NxRef<NxMesh> rectangle(float left, float bottom, float right, float top, float z)

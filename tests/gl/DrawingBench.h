@@ -11,8 +11,10 @@
 #include "meridane/gl/NxSceneDrawing.h"
 #include "meridane/gl/NxViewpoint.h"
 #include "meridane/scene/NxGroup.h"
+#include "meridane/scene/NxMaterial.h"
 #include "meridane/scene/NxMesh.h"
 #include "meridane/scene/NxRef.h"
+#include "meridane/scene/NxTexture.h"
 
 #include <QColor>
 #include <QImage>
@@ -25,8 +27,8 @@ class DrawingBench {
 public:
     DrawingBench()
     {
-        if (!m_context.isValid() || !m_context.makeCurrent())
-            qFatal("no OpenGL: %s", m_context.getError().toUtf8());
+        if (!m_context->isValid() || !m_context->makeCurrent())
+            qFatal("no OpenGL: %s", m_context->getError().toUtf8());
         if (!m_gl.load(&NxOffscreenContext::getProcAddress))
             qFatal("no OpenGL: %s", m_gl.getError().c_str());
         m_drawing = std::make_unique<NxSceneDrawing>(m_gl);
@@ -61,13 +63,19 @@ public:
 
     /// Lets the sensors tell what changed, and draws.
     [[nodiscard]] QImage draw(const NxViewpoint& viewpoint = front(), int width = 101, int height = 101);
+    /// Draws without letting the sensors tell anything.
+    [[nodiscard]] QImage drawUntold(const NxViewpoint& viewpoint = front(), int width = 101, int height = 101);
+    /// The picture of a scene of these nodes, which is gone afterwards.
+    [[nodiscard]] QImage pictureOf(std::initializer_list<NxNode*> nodes, const NxViewpoint& viewpoint = front());
     [[nodiscard]] NxDrawingCounts counts() const { return m_drawing->getCounts(); }
 
     /// The messages since the latest call, of any class.
     [[nodiscard]] QStringList takeMessages();
+    /// The context is lost, and there is another one.
+    void loseContext();
 
 private:
-    NxOffscreenContext m_context;
+    std::unique_ptr<NxOffscreenContext> m_context = std::make_unique<NxOffscreenContext>();
     NxGLFunctions m_gl;
     TextRecorder m_recorder;
     std::size_t m_taken = 0;
@@ -76,6 +84,14 @@ private:
     HandlerGuard<NxReadError> m_readErrors{&TextRecorder::record, &m_recorder};
     std::unique_ptr<NxSceneDrawing> m_drawing;
 };
+
+inline const QColor black(0, 0, 0);
+inline const QColor red(255, 0, 0);
+inline const QColor green(0, 255, 0);
+inline const QColor blue(0, 0, 255);
+inline const QColor white(255, 255, 255);
+/// Of components from 0 to 1.
+[[nodiscard]] QColor color(double r, double g, double b);
 
 /// The colour at a place of the picture, told by coordinates from -1 to 1 that grow to the right and upwards.
 [[nodiscard]] QColor pixelAt(const QImage& picture, double x, double y);
@@ -86,6 +102,10 @@ private:
 #define COMPARE_PIXEL(picture, x, y, ...)                                                                              \
     QVERIFY2(isNear(pixelAt(picture, x, y), __VA_ARGS__), text(pixelAt(picture, x, y)).constData())
 
+/// A material that reflects direct light only.
+[[nodiscard]] NxRef<NxMaterial> plain(float r, float g, float b, float transparency = 0);
+/// Four pixels: red and green below, blue and white above.
+[[nodiscard]] NxRef<NxTexture> fourPixels();
 /// A rectangle in the plane of that z, facing the viewer, with texture coordinates from 0 to 1.
 [[nodiscard]] NxRef<NxMesh> rectangle(float left, float bottom, float right, float top, float z = 0);
 /// A ball around the origin with normals.
