@@ -10,7 +10,7 @@ namespace meridane {
 
 namespace {
 
-double wide(float value)
+double toDouble(float value)
 {
     return static_cast<double>(value);
 }
@@ -18,10 +18,10 @@ double wide(float value)
 } // namespace
 
 MeshHit::MeshHit(float radius, float slope, float nearest, float farthest)
-    : m_radius(wide(radius))
-    , m_slope(wide(slope))
-    , m_nearest(wide(nearest))
-    , m_rank(wide(farthest))
+    : m_radius(toDouble(radius))
+    , m_slope(toDouble(slope))
+    , m_nearest(toDouble(nearest))
+    , m_rank(toDouble(farthest))
 {
 }
 
@@ -45,14 +45,14 @@ void MeshHit::place(std::span<const VbVec3f> positions, const VbMatrix& matrix)
 {
     std::array<std::array<double, 4>, 4> m{};
     for (std::size_t i = 0; i < 16; ++i)
-        m[i / 4][i % 4] = wide(matrix[i / 4][i % 4]);
+        m[i / 4][i % 4] = toDouble(matrix[i / 4][i % 4]);
     const bool isAffine = m[0][3] == 0.0 && m[1][3] == 0.0 && m[2][3] == 0.0 && m[3][3] == 1.0;
     m_points.resize(positions.size());
     Point* point = m_points.data();
     for (const VbVec3f& position : positions) {
-        const double x = wide(position[0]);
-        const double y = wide(position[1]);
-        const double z = wide(position[2]);
+        const double x = toDouble(position[0]);
+        const double y = toDouble(position[1]);
+        const double z = toDouble(position[2]);
         point->x = x * m[0][0] + y * m[1][0] + z * m[2][0] + m[3][0];
         point->y = x * m[0][1] + y * m[1][1] + z * m[2][1] + m[3][1];
         point->z = x * m[0][2] + y * m[1][2] + z * m[2][2] + m[3][2];

@@ -165,11 +165,12 @@ void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPai
     const Rectangle part = rectangleOf(scene, items, frame, static_cast<int>(std::ceil(width)) + 2);
 
     m_gl.Disable(GL_DEPTH_TEST);
-    m_gl.Enable(GL_SCISSOR_TEST);
-    m_gl.Scissor(part.left, part.bottom, part.width, part.height);
     m_gl.BindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
+    // All of it: at the edge of the part, pixels beyond it are asked too.
     m_gl.ClearColor(0, 0, 0, 0);
     m_gl.Clear(GL_COLOR_BUFFER_BIT);
+    m_gl.Enable(GL_SCISSOR_TEST);
+    m_gl.Scissor(part.left, part.bottom, part.width, part.height);
     m_shapes.use();
     m_gl.UniformMatrix4fv(m_sceneToClip, 1, GL_FALSE, frame.sceneToClip[0].data());
     m_gl.Uniform1f(m_pointSize, style.pointSize * frame.scale);

@@ -43,3 +43,13 @@ void FieldTableView::keyPressEvent(QKeyEvent* event)
     else
         selectRow(current.row());
 }
+
+void FieldTableView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    const QModelIndex current = currentIndex();
+    const int place = rowViewportPosition(current.row());
+    // A dock with the field's editor may have appeared below, and taken the room that the row stood in.
+    if (current.isValid() && place >= 0 && place < event->oldSize().height())
+        scrollTo(current);
+}

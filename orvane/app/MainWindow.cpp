@@ -1,5 +1,6 @@
 #include "orvane/app/MainWindow.h"
 
+#include "orvane/app/CameraMenu.h"
 #include "orvane/app/EditMenu.h"
 #include "orvane/app/ErrorRelay.h"
 #include "orvane/app/FieldPanel.h"
@@ -11,11 +12,14 @@
 #include "orvane/app/RecentFiles.h"
 #include "orvane/app/SceneTreeModel.h"
 #include "orvane/app/SceneTreePanel.h"
+#include "orvane/app/SceneView.h"
 #include "orvane/app/SelectionLink.h"
 #include "orvane/app/SelectionStatus.h"
 #include "orvane/app/Session.h"
 #include "orvane/app/StartPage.h"
 #include "orvane/app/TextConversion.h"
+#include "orvane/app/ViewActions.h"
+#include "orvane/app/ViewLink.h"
 #include "orvane/app/ViewMenu.h"
 #include "orvane/app/WindowShell.h"
 
@@ -25,6 +29,7 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QMimeData>
+#include <QPixmap>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -35,7 +40,8 @@
 namespace {
 
 constexpr QSize firstSize(1280, 800);
-constexpr int treeWidth = 340;
+constexpr int treeWidth = 330;
+constexpr int fieldsWidth = 380;
 const QString geometryKey = QStringLiteral("window/geometry");
 const QString stateKey = QStringLiteral("window/state");
 
@@ -55,6 +61,7 @@ MainWindow::MainWindow(Session& session)
     , m_recent(new RecentFiles(session.settings(), this))
     , m_messages(new MessageBar(this))
     , m_middle(new QStackedWidget(this))
+    , m_view(new SceneView(this))
     , m_fields(new FieldPanel(this))
     , m_tree(new SceneTreePanel(this))
     , m_jobBar(new JobBar(this))
@@ -65,7 +72,7 @@ MainWindow::MainWindow(Session& session)
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     buildMiddle();
-    buildTree();
+    buildDocks();
     buildMenus();
     connectDocument();
 
@@ -110,6 +117,13 @@ QString MainWindow::selectPath(const QString& path)
     return {};
 }
 
+QPixmap MainWindow::picture()
+{
+    if (m_view->isVisible())
+        m_view->start();
+    return grab();
+}
+
 void MainWindow::showError(const QString& message)
 {
     m_messages->showMessage(MessageBar::Severity::Error, message);
@@ -132,22 +146,28 @@ void MainWindow::buildMiddle()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_messages);
-    m_middle->addWidget(m_fields);
+    m_middle->addWidget(m_view);
     layout->addWidget(m_middle, 1);
     setCentralWidget(container);
     connect(m_errorRelay.get(), &ErrorRelay::reported, this,
         [this](MessageBar::Severity severity, const QString& text) { m_messages->showMessage(severity, text); });
 }
 
-void MainWindow::buildTree()
+void MainWindow::buildDocks()
 {
     auto* dock = new QDockWidget(tr("Scene"), this);
     dock->setObjectName(QStringLiteral("sceneDock"));
     dock->setWidget(m_tree);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
-    resizeDocks({dock}, {treeWidth}, Qt::Horizontal);
+    // Above the docks of extensions that edit the field that is chosen here.
+    auto* fieldsDock = new QDockWidget(tr("Fields"), this);
+    fieldsDock->setObjectName(QStringLiteral("fieldsDock"));
+    fieldsDock->setWidget(m_fields);
+    addDockWidget(Qt::RightDockWidgetArea, fieldsDock);
+    resizeDocks({dock, fieldsDock}, {treeWidth, fieldsWidth}, Qt::Horizontal);
     new SelectionLink(m_session.services(), m_tree, m_fields);
     new SelectionStatus(m_session, m_tree, statusBar());
+    new ViewLink(m_session, m_view, m_tree, statusBar());
     statusBar()->addPermanentWidget(m_jobBar);
     connect(m_tree->model(), &QAbstractItemModel::dataChanged, m_fields, &FieldPanel::updateHeading);
 }
@@ -158,7 +178,8 @@ void MainWindow::buildMenus()
     connect(m_files, &FileFlow::ended, this, &MainWindow::reportSettled, Qt::QueuedConnection);
     m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
     auto* editMenu = new EditMenu(this, m_session, m_tree);
-    auto* viewMenu = new ViewMenu(this);
+    auto* viewMenu
+        = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), new CameraMenu(m_view, document()));
     new HelpMenu(this, *m_shell);
     connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);
 
@@ -207,7 +228,7 @@ void MainWindow::updateMiddle()
     m_tree->setScene(document().scene());
     // Before the window is seen it isn't known what it will show.
     if (document().isOpen())
-        m_middle->setCurrentWidget(m_fields);
+        m_middle->setCurrentWidget(m_view);
     else if (isVisible())
         showStartPage();
 }

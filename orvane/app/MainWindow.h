@@ -14,11 +14,12 @@ class QStackedWidget;
 class RecentFiles;
 class SceneDocument;
 class SceneTreePanel;
+class SceneView;
 class Session;
 class StartPage;
 class WindowShell;
 
-/// The tool's window: the scene tree, the fields of the selected node, and what extensions add.
+/// The tool's window: the view of the scene, the scene tree, the fields of the selected node, and what extensions add.
 ///
 /// It shows a session and is the shell of its extensions, so the session's plug-ins and profile come after the window.
 /// Its destructor shuts the session down.
@@ -38,6 +39,8 @@ public:
     /// Selects what a path such as `/robot/arm.rotation` leads to, in tree and table. The result says what is wrong
     /// with the path, or is empty.
     QString selectPath(const QString& path);
+    /// A picture of the window, the view included.
+    [[nodiscard]] QPixmap picture();
     /// Shows a message to the user.
     void showError(const QString& message);
     void showWarning(const QString& message);
@@ -56,7 +59,7 @@ protected:
 
 private:
     void buildMiddle();
-    void buildTree();
+    void buildDocks();
     void buildMenus();
     void connectDocument();
     void updateTitle();
@@ -72,6 +75,7 @@ private:
     RecentFiles* m_recent;
     MessageBar* m_messages;
     QStackedWidget* m_middle;
+    SceneView* m_view;
     StartPage* m_startPage = nullptr; // made when it is first shown
     FieldPanel* m_fields;
     SceneTreePanel* m_tree;

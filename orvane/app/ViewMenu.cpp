@@ -1,5 +1,8 @@
 #include "orvane/app/ViewMenu.h"
 
+#include "orvane/app/CameraMenu.h"
+#include "orvane/app/ViewActions.h"
+
 #include <QAction>
 #include <QDockWidget>
 #include <QMainWindow>
@@ -7,9 +10,11 @@
 #include <QMenuBar>
 #include <QToolBar>
 
-ViewMenu::ViewMenu(QMainWindow* window)
+ViewMenu::ViewMenu(QMainWindow* window, ViewActions* actions, CameraMenu* cameras)
     : QObject(window)
     , m_window(window)
+    , m_actions(actions)
+    , m_cameras(cameras)
     , m_menu(window->menuBar()->addMenu(tr("&View")))
 {
     m_menu->setObjectName(QStringLiteral("viewMenu"));
@@ -19,6 +24,11 @@ ViewMenu::ViewMenu(QMainWindow* window)
 void ViewMenu::update()
 {
     m_menu->clear();
+    if (m_actions != nullptr) {
+        m_actions->addTo(m_menu);
+        m_menu->addMenu(m_cameras->update());
+        m_menu->addSeparator();
+    }
     for (QDockWidget* dock : m_window->findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
         m_menu->addAction(dock->toggleViewAction());
     m_menu->addSeparator();

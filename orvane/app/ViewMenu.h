@@ -2,20 +2,26 @@
 
 #include <QObject>
 
+class CameraMenu;
 class QMainWindow;
 class QMenu;
+class ViewActions;
 
-/// The View menu: shows and hides every dock and tool bar that the window has at the moment.
+/// The View menu: what the user can do with the view, and every dock and tool bar that the window has at the moment, to
+/// be shown and hidden.
 class ViewMenu : public QObject {
     Q_OBJECT
 
 public:
-    explicit ViewMenu(QMainWindow* window);
+    /// For a window without a view, actions and cameras are null.
+    explicit ViewMenu(QMainWindow* window, ViewActions* actions = nullptr, CameraMenu* cameras = nullptr);
 
     /// Lists what there is now.
     void update();
 
 private:
     QMainWindow* m_window;
+    ViewActions* m_actions;
+    CameraMenu* m_cameras;
     QMenu* m_menu;
 };

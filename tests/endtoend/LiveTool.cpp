@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cstdlib>
 
 #include <poll.h>
 #include <sys/socket.h>
@@ -175,6 +176,12 @@ void LiveTool::doubleClick(const QPoint& position)
 
 void LiveTool::drag(const QPoint& from, const QPoint& to)
 {
+    dragAndHold(from, to);
+    release();
+}
+
+void LiveTool::dragAndHold(const QPoint& from, const QPoint& to)
+{
     constexpr int steps = 8;
     QStringList commands{QStringLiteral("mousemove"), QString::number(from.x()), QString::number(from.y()),
         QStringLiteral("mousedown"), QStringLiteral("1")};
@@ -183,7 +190,19 @@ void LiveTool::drag(const QPoint& from, const QPoint& to)
         commands << QStringLiteral("mousemove") << QString::number(point.x()) << QString::number(point.y())
                  << QStringLiteral("sleep") << QStringLiteral("0.02");
     }
-    xdotool(commands + QStringList{QStringLiteral("mouseup"), QStringLiteral("1")});
+    xdotool(commands);
+}
+
+void LiveTool::release()
+{
+    xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});
+}
+
+void LiveTool::turnWheel(const QPoint& position, int notches)
+{
+    xdotool({QStringLiteral("mousemove"), QString::number(position.x()), QString::number(position.y()),
+        QStringLiteral("click"), QStringLiteral("--repeat"), QString::number(std::abs(notches)),
+        notches > 0 ? QStringLiteral("4") : QStringLiteral("5")});
 }
 
 void LiveTool::key(const QString& name)
@@ -202,6 +221,13 @@ void LiveTool::saveScreen(const QString& fileName)
     process.setProcessEnvironment(m_environment);
     process.start(QStringLiteral("import"), {QStringLiteral("-window"), QStringLiteral("root"), fileName});
     process.waitForFinished(patience);
+}
+
+QImage LiveTool::screen()
+{
+    const QString fileName = m_folder.filePath(QStringLiteral("screen.png"));
+    saveScreen(fileName);
+    return QImage(fileName);
 }
 
 void LiveTool::xdotool(const QStringList& arguments)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QPoint>
 #include <QProcess>
 #include <QRect>
@@ -31,11 +32,18 @@ public:
     void doubleClick(const QPoint& position);
     /// Presses at the first point, moves to the second in steps, and releases.
     void drag(const QPoint& from, const QPoint& to);
+    /// The same without the release.
+    void dragAndHold(const QPoint& from, const QPoint& to);
+    void release();
+    /// Turns the wheel by so many notches at that point, upwards for more than 0.
+    void turnWheel(const QPoint& position, int notches);
     /// A key or chord as X names it, such as "ctrl+z" or "Return".
     void key(const QString& name);
     void type(const QString& text);
     /// Writes a picture of the screen.
     void saveScreen(const QString& fileName);
+    /// What the screen shows now.
+    [[nodiscard]] QImage screen();
 
 private:
     [[nodiscard]] QString ask(const QString& request);

@@ -136,6 +136,34 @@ private Q_SLOTS:
         QCOMPARE(picture.size(), QSize(900, 600));
     }
 
+    void aPictureShowsTheSceneAtAnyScale_data()
+    {
+        QTest::addColumn<int>("scale");
+        QTest::newRow("one") << 1;
+        QTest::newRow("two") << 2;
+    }
+    void aPictureShowsTheSceneAtAnyScale()
+    {
+        QFETCH(const int, scale);
+        write(QStringLiteral("red.mrd"),
+            "#mrd 1.0\nMaterial { ambientColor = 0 0 0; diffuseColor = 0 0 0; emissiveColor = 1 0 0 }\n"
+            "Mesh { positions = [0 0 0, 1 0 0, 0 1 0] }\n");
+        const Outcome outcome
+            = run({QStringLiteral("--screenshot"), path(QStringLiteral("red.png")), QStringLiteral("--size"),
+                      QStringLiteral("900x600"), path(QStringLiteral("red.mrd"))},
+                QStringLiteral("QT_SCALE_FACTOR=%1").arg(scale));
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        const QImage picture(path(QStringLiteral("red.png")));
+        QCOMPARE(picture.size(), QSize(900, 600) * scale);
+        int red = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x)
+                red += picture.pixelColor(x, y) == QColor(Qt::red) ? 1 : 0;
+        }
+        QVERIFY2(red > 2000 * scale * scale, qPrintable(QString::number(red)));
+    }
+
     void badInputIsOneLineAndStatusOne_data()
     {
         QTest::addColumn<QByteArray>("content");

@@ -1,0 +1,77 @@
+#include "orvane/app/ViewLink.h"
+
+#include "orvane/app/SceneTreeModel.h"
+#include "orvane/app/SceneTreePanel.h"
+#include "orvane/app/SceneView.h"
+#include "orvane/app/Session.h"
+
+#include "meridane/base/NxDelayQueue.h"
+
+#include <QFileInfo>
+#include <QLabel>
+#include <QStatusBar>
+
+namespace {
+
+QString folderOf(const QString& fileName)
+{
+    return fileName.isEmpty() ? QString() : QFileInfo(fileName).absolutePath();
+}
+
+} // namespace
+
+ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QStatusBar* bar)
+    : QObject(view)
+    , m_session(session)
+    , m_view(view)
+    , m_tree(tree)
+    , m_point(new QLabel(bar))
+    , m_cameras(session.settings())
+{
+    m_point->setObjectName(QStringLiteral("pickedPoint"));
+    m_point->setToolTip(tr("The point of the scene that was clicked"));
+    m_point->hide();
+    bar->addPermanentWidget(m_point);
+    const SceneDocument& document = session.document();
+    connect(&document, &SceneDocument::sceneAboutToChange, this, &ViewLink::leaveScene);
+    connect(&document, &SceneDocument::sceneChanged, this, &ViewLink::showScene);
+    connect(&document, &SceneDocument::fileNameChanged, this,
+        [this] { m_view->drawing().setFolder(folderOf(m_session.document().fileName())); });
+    connect(tree, &SceneTreePanel::currentChanged, this, &ViewLink::showSelection);
+    connect(view, &SceneView::picked, this, &ViewLink::choose);
+    connect(view, &SceneView::pickedNothing, this, &ViewLink::chooseNothing);
+}
+
+void ViewLink::leaveScene()
+{
+    if (m_view->hasMoved())
+        m_cameras.store(m_session.document().fileName(), m_view->viewpoint());
+    m_view->setScene(nullptr, QString());
+}
+
+void ViewLink::showScene()
+{
+    const SceneDocument& document = m_session.document();
+    m_view->setScene(document.scene(), folderOf(document.fileName()), m_cameras.find(document.fileName()));
+}
+
+void ViewLink::showSelection()
+{
+    m_point->hide();
+    m_view->setSelectedPath(m_tree->model()->path(m_tree->current()));
+}
+
+void ViewLink::choose(const std::vector<NxNode*>& nodes, const VbVec3f& point)
+{
+    NxDelayQueue::getDefault().process(); // the tree may be behind the scene
+    m_tree->setCurrent(m_tree->model()->indexOfPath(nodes));
+    const auto number = [&point](std::size_t i) { return QString::number(static_cast<double>(point[i]), 'g', 5); };
+    m_point->setText(tr("at %1, %2, %3").arg(number(0), number(1), number(2)));
+    m_point->show();
+}
+
+void ViewLink::chooseNothing()
+{
+    m_tree->setCurrent(QModelIndex());
+    m_point->hide();
+}

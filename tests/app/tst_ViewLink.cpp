@@ -1,0 +1,297 @@
+#include "app/ViewScenes.h"
+
+#include "orvane/app/MainWindow.h"
+#include "orvane/app/MessageBar.h"
+#include "orvane/app/SceneCameras.h"
+#include "orvane/app/SceneTreePanel.h"
+#include "orvane/app/SceneView.h"
+#include "orvane/app/Session.h"
+
+#include "meridane/scene/NxCamera.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+#include <limits>
+
+class TestViewLink : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_squares = m_folder->filePath(QStringLiteral("two squares.mrd"));
+        AppScenes::writeFile(m_squares, ViewScenes::squaresText);
+        m_settings = m_folder->filePath(QStringLiteral("orvane.ini"));
+        makeWindow();
+        open(m_squares);
+        QTRY_VERIFY(view()->drawing().isStarted());
+    }
+
+    void cleanup()
+    {
+        m_window.reset();
+        m_session.reset();
+        qunsetenv("ORVANE_VIEW");
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+
+    void standsInTheMiddleOfTheWindow()
+    {
+        QVERIFY(view()->isVisible());
+        QVERIFY(view()->width() > m_window->width() / 3);
+        QVERIFY(ViewScenes::count(m_window->picture().toImage(), Qt::red) > 500);
+    }
+
+    void selectsInTheTreeWhatIsClicked()
+    {
+        lookAhead();
+        click(clickable(Qt::green));
+        QCOMPARE(m_session->services().getSelectedNode(), greenSquare());
+        QCOMPARE(tree()->currentNode(), greenSquare());
+        const auto* point = m_window->findChild<QLabel*>(QStringLiteral("pickedPoint"));
+        QVERIFY(point->isVisible());
+        QVERIFY2(std::abs(point->text().section(u' ', 1).section(u',', 0, 0).toDouble() - 2) < 0.1,
+            qPrintable(point->text()));
+        click(QPoint(3, 3));
+        QCOMPARE(m_session->services().getSelectedNode(), nullptr);
+        QVERIFY(!tree()->current().isValid());
+        QVERIFY(!point->isVisible());
+    }
+
+    void outlinesWhatIsSelectedInTheTree()
+    {
+        const VbColor& outline = view()->style().outlineColor;
+        const QColor color = QColor::fromRgbF(outline[0], outline[1], outline[2]);
+        QCOMPARE(ViewScenes::count(picture(), color), 0);
+        m_window->selectPath(QStringLiteral("/right/greenSquare"));
+        QVERIFY(ViewScenes::count(picture(), color) > 50);
+        m_session->services().selectNode(nullptr);
+        QCOMPARE(ViewScenes::count(picture(), color), 0);
+    }
+
+    void followsUndo()
+    {
+        lookAhead();
+        const QPoint place = clickable(Qt::green);
+        m_window->selectPath(QStringLiteral("/right"));
+        QAction* remove = action("editDelete");
+        remove->trigger();
+        QTRY_COMPARE(ViewScenes::count(shown(), Qt::green), 0);
+        m_session->services().undo();
+        QTRY_VERIFY(ViewScenes::isLike(shown().pixelColor(place), Qt::green));
+    }
+
+    void keysCountInTheViewOnly()
+    {
+        tree()->setFocus();
+        const NxViewpoint before = view()->viewpoint();
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_1);
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_A);
+        QCOMPARE(view()->viewpoint(), before);
+        view()->setFocus();
+        QTest::keyClick(view(), Qt::Key_5);
+        QVERIFY(view()->viewpoint().getDirection()[1] < -0.999F);
+        QTest::keyClick(view(), Qt::Key_1);
+        QVERIFY(view()->viewpoint().getDirection()[2] < -0.999F);
+        m_window->selectPath(QStringLiteral("/right"));
+        view()->setFocus();
+        QTest::keyClick(view(), Qt::Key_F);
+        QVERIFY(std::abs(view()->viewpoint().getFocalPoint()[0] - 2) < 0.01F);
+        QTest::keyClick(view(), Qt::Key_A);
+        static_cast<void>(picture());
+        QVERIFY(std::abs(view()->viewpoint().getFocalPoint()[0]) < 0.01F);
+    }
+
+    void keepsWhatIsSwitchedOn()
+    {
+        QVERIFY(action("grid")->isChecked());
+        QVERIFY(action("solid")->isChecked());
+        action("grid")->trigger();
+        action("wireframe")->trigger();
+        action("boundingBoxes")->trigger();
+        QVERIFY(!view()->style().grid);
+        makeWindow();
+        QVERIFY(!action("grid")->isChecked());
+        QVERIFY(action("axes")->isChecked());
+        QVERIFY(action("wireframe")->isChecked());
+        QVERIFY(!view()->style().grid);
+        QVERIFY(view()->style().boundingBoxes);
+        QCOMPARE(view()->style().surfaces, NxDrawingStyle::WIREFRAME);
+        action("solid")->trigger();
+        QCOMPARE(view()->style().surfaces, NxDrawingStyle::SOLID);
+    }
+
+    void changesTheProjection()
+    {
+        action("orthographic")->trigger();
+        QCOMPARE(view()->viewpoint().projection, NxViewpoint::ORTHOGRAPHIC);
+        action("perspective")->trigger();
+        QCOMPARE(view()->viewpoint().projection, NxViewpoint::PERSPECTIVE);
+    }
+
+    void looksThroughACameraAndFollowsIt()
+    {
+        lookAhead();
+        cameraAction(QStringLiteral("camera"))->trigger();
+        QCOMPARE(view()->viewpoint().position, VbVec3f(2, 0, 10));
+        auto* camera = dynamic_cast<NxCamera*>(m_window->document().scene()->getChild(0));
+        camera->position.setValue(VbVec3f(-2, 0, 6));
+        QTRY_COMPARE(view()->viewpoint().position, VbVec3f(-2, 0, 6));
+        QVERIFY(ViewScenes::isLike(picture().pixelColor(view()->rect().center()), Qt::red));
+        QVERIFY(cameraAction(QStringLiteral("camera"))->isChecked());
+        QTest::keyClick(view(), Qt::Key_Minus);
+        QVERIFY(cameraAction(QStringLiteral("Free"))->isChecked());
+        const NxViewpoint before = view()->viewpoint();
+        camera->position.setValue(VbVec3f(9, 9, 9));
+        AppScenes::runSensors();
+        QCOMPARE(view()->viewpoint(), before);
+    }
+
+    void keepsTheViewpointOfEachScene()
+    {
+        QTest::keyClick(view(), Qt::Key_Left);
+        QTest::keyClick(view(), Qt::Key_Plus);
+        const NxViewpoint mine = view()->viewpoint();
+        const QString other = m_folder->filePath(QStringLiteral("other.mrd"));
+        AppScenes::writeFile(other, ViewScenes::squaresText);
+        open(other);
+        QVERIFY(!(view()->viewpoint() == mine));
+        open(m_squares);
+        QCOMPARE(view()->viewpoint(), mine);
+        makeWindow();
+        open(m_squares);
+        QCOMPARE(view()->viewpoint(), mine);
+    }
+
+    void keepsViewpointsOfTheLatestScenesOnly()
+    {
+        AppSettings settings(AppSettings::Mode::None);
+        SceneCameras cameras(settings);
+        NxViewpoint viewpoint;
+        for (int scene = 0; scene < SceneCameras::mostScenes + 5; ++scene) {
+            viewpoint.height = static_cast<float>(scene + 1);
+            cameras.store(QStringLiteral("/a folder/%1.mrd").arg(scene), viewpoint);
+        }
+        QVERIFY(!cameras.find(QStringLiteral("/a folder/4.mrd")));
+        QCOMPARE(cameras.find(QStringLiteral("/a folder/5.mrd"))->height, 6.F);
+        QVERIFY(!cameras.find(QString()));
+        viewpoint.projection = NxViewpoint::ORTHOGRAPHIC;
+        viewpoint.position = VbVec3f(1.F / 3, -1e20F, 1e-20F);
+        cameras.store(QStringLiteral("/a folder/5.mrd"), viewpoint);
+        QVERIFY(cameras.find(QStringLiteral("/a folder/5.mrd")) == viewpoint);
+        QVERIFY(cameras.find(QStringLiteral("/a folder/6.mrd")));
+    }
+
+    void passesOverAViewpointThatIsNone()
+    {
+        AppSettings settings(AppSettings::Mode::None);
+        settings.setValue(QStringLiteral("view/cameras"),
+            QStringList{QStringLiteral("1 2 three 4 5 6 7 8 9 10 11 /a.mrd"), QStringLiteral("/b.mrd"),
+                QStringLiteral("nan nan nan 0 0 0 nan 1 -1 0 inf /c.mrd")});
+        const SceneCameras cameras(settings);
+        QVERIFY(!cameras.find(QStringLiteral("/a.mrd")));
+        QVERIFY(!cameras.find(QStringLiteral("/b.mrd")));
+        view()->setViewpoint(*cameras.find(QStringLiteral("/c.mrd")));
+        QVERIFY(!picture().isNull());
+        view()->setFocus();
+        QTest::keyClick(view(), Qt::Key_A);
+        QVERIFY(ViewScenes::count(picture(), Qt::red) > 500);
+    }
+
+    void worksWithoutADrawing()
+    {
+        qputenv("ORVANE_VIEW", "0");
+        makeWindow();
+        open(m_squares);
+        QTRY_VERIFY(m_window->findChild<QLabel*>(QStringLiteral("viewMessage")) != nullptr);
+        m_window->selectPath(QStringLiteral("/right/greenSquare"));
+        QCOMPARE(m_session->services().getSelectedNode(), greenSquare());
+        cameraAction(QStringLiteral("camera"))->trigger();
+        action("frameSelection")->trigger();
+        QVERIFY(!m_window->picture().isNull());
+        QVERIFY(m_window->findChild<MessageBar*>()->texts().isEmpty());
+    }
+
+private:
+    void makeWindow()
+    {
+        m_window.reset();
+        m_session.reset();
+        m_session = std::make_unique<Session>(AppSettings::Mode::File, m_settings);
+        m_window = std::make_unique<MainWindow>(*m_session);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+
+    void open(const QString& fileName)
+    {
+        QSignalSpy settled(m_window.get(), &MainWindow::settled);
+        m_window->openFile(fileName);
+        QVERIFY(settled.wait());
+        QCOMPARE(settled.front().front().toString(), QString());
+    }
+
+    void lookAhead()
+    {
+        view()->lookAlong(VbVec3f(0, 0, -1), VbVec3f(0, 1, 0));
+        view()->setStyle(ViewScenes::withoutLines(view()->style()));
+        static_cast<void>(picture());
+    }
+
+    /// The middle of what has that colour.
+    QPoint clickable(const QColor& color)
+    {
+        const QImage image = picture();
+        QPoint sum;
+        int found = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (!ViewScenes::isLike(image.pixelColor(x, y), color))
+                    continue;
+                sum += QPoint(x, y);
+                ++found;
+            }
+        }
+        return found > 0 ? sum / found : QPoint(-1, -1);
+    }
+
+    void click(const QPoint& place) { QTest::mouseClick(view(), Qt::LeftButton, Qt::NoModifier, place); }
+    QImage picture() { return view()->grab().toImage(); }
+    QImage shown()
+    {
+        AppScenes::runSensors();
+        return picture();
+    }
+
+    QAction* action(const char* name) { return m_window->findChild<QAction*>(QLatin1String(name)); }
+    QAction* cameraAction(const QString& text)
+    {
+        Q_EMIT m_window->findChild<QMenu*>(QStringLiteral("viewMenu"))->aboutToShow();
+        for (QAction* action : m_window->findChild<QMenu*>(QStringLiteral("cameraMenu"))->actions()) {
+            if (action->text() == text)
+                return action;
+        }
+        return nullptr;
+    }
+
+    SceneView* view() { return m_window->findChild<SceneView*>(); }
+    SceneTreePanel* tree() { return m_window->findChild<SceneTreePanel*>(); }
+    NxNode* greenSquare() { return m_window->document().scene()->getChild(2)->getChildren()[1]; }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_squares;
+    QString m_settings;
+    std::unique_ptr<Session> m_session;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+QTEST_MAIN(TestViewLink)
+#include "tst_ViewLink.moc"
