@@ -89,11 +89,16 @@ bool LiveTool::start(const QStringList& arguments)
         return false;
     }
     m_environment.insert(QStringLiteral("ORVANE_PROBE_SOCKET"), QString::fromLocal8Bit(path));
+    // The thread that would talk to the session's bus ends when it likes, which a leak check takes for a leak.
+    m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("disabled:"));
+    if (!m_settingsFolder.isEmpty())
+        m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_settingsFolder);
     m_tool.setProcessEnvironment(m_environment);
     m_tool.setProcessChannelMode(QProcess::ForwardedChannels);
     m_tool.setProgram(QStringLiteral(ORVANE_PROGRAM));
-    m_tool.setArguments(QStringList{QStringLiteral("--no-settings"), QStringLiteral("--plugin"),
-                            QStringLiteral(PROBE_PLUGIN), QStringLiteral("--size"), QStringLiteral("1200x760")}
+    m_tool.setArguments(settingsArguments()
+        + QStringList{QStringLiteral("--plugin"), QStringLiteral(PROBE_PLUGIN), QStringLiteral("--size"),
+            QStringLiteral("1200x760")}
         + arguments);
     m_tool.start();
     const bool connected = m_tool.waitForStarted(patience) && acceptProbe(listener);
@@ -108,6 +113,11 @@ bool LiveTool::start(const QStringList& arguments)
         {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
             QStringLiteral("Orvane"), QStringLiteral("windowactivate"), QStringLiteral("--sync")});
     return true;
+}
+
+QStringList LiveTool::settingsArguments() const
+{
+    return m_settingsFolder.isEmpty() ? QStringList(QStringLiteral("--no-settings")) : QStringList();
 }
 
 int LiveTool::quit()
@@ -154,6 +164,11 @@ QRect LiveTool::item(const QString& view, const QString& text)
 QString LiveTool::property(const QString& name, const QString& key)
 {
     return ask(QStringLiteral("property %1 %2").arg(name, key));
+}
+
+bool LiveTool::isShown(const QString& name)
+{
+    return !ask(QStringLiteral("widget ") + name).isEmpty();
 }
 
 QString LiveTool::action(const QString& text)

@@ -17,6 +17,8 @@ public:
     LiveTool(const LiveTool&) = delete;
     LiveTool& operator=(const LiveTool&) = delete;
 
+    /// Lets the tool read and write settings, in a folder that the test owns. Without, it has none.
+    void keepSettingsIn(const QString& folder) { m_settingsFolder = folder; }
     /// Starts server and tool and waits until the window stands.
     [[nodiscard]] bool start(const QStringList& arguments);
     /// Closes the window as Ctrl+Q does and gives the exit status, or -1.
@@ -26,6 +28,8 @@ public:
     [[nodiscard]] QRect widget(const QString& name);
     [[nodiscard]] QRect item(const QString& view, const QString& text);
     [[nodiscard]] QString property(const QString& name, const QString& key);
+    /// Whether a widget of that name is seen now.
+    [[nodiscard]] bool isShown(const QString& name);
     [[nodiscard]] QString action(const QString& text);
 
     void click(const QPoint& position);
@@ -46,6 +50,7 @@ public:
     [[nodiscard]] QImage screen();
 
 private:
+    [[nodiscard]] QStringList settingsArguments() const;
     [[nodiscard]] QString ask(const QString& request);
     /// Asks until the answer isn't empty.
     [[nodiscard]] QString await(const QString& request);
@@ -54,6 +59,7 @@ private:
     [[nodiscard]] bool acceptProbe(int listener);
 
     QTemporaryDir m_folder;
+    QString m_settingsFolder;
     QProcess m_server;
     QProcess m_windowManager;
     QProcess m_tool;

@@ -7,7 +7,7 @@
 //   property NAME KEY     a property of the visible widget of that object name, as text
 //   action TEXT           "enabled" or "disabled" for the menu entry of that text
 // NAME is an object name, or "name/Class" for the first widget of that class inside the one of that name. A thing that
-// isn't there is answered with an empty line.
+// isn't there is answered with an empty line. Blanks in NAME are written %20, line ends in an answer come as blanks.
 
 #include "extender/plugins/LoadedPlugin.h"
 #include "extender/plugins/OneExtensionPlugin.h"
@@ -19,6 +19,7 @@
 #include <QApplication>
 #include <QMainWindow>
 #include <QSocketNotifier>
+#include <QUrl>
 #include <QWidget>
 
 #include <memory>
@@ -92,7 +93,7 @@ QString answerAction(const QString& text)
 QString answer(const QString& request)
 {
     const QString verb = request.section(u' ', 0, 0);
-    const QString name = request.section(u' ', 1, 1);
+    const QString name = QUrl::fromPercentEncoding(request.section(u' ', 1, 1).toUtf8());
     const QString rest = request.section(u' ', 2);
     if (verb == QLatin1String("action"))
         return answerAction(request.section(u' ', 1));
@@ -103,7 +104,7 @@ QString answer(const QString& request)
         return {};
     if (verb == QLatin1String("widget"))
         return rectangle(widget, widget->rect());
-    return widget->property(rest.toLatin1().constData()).toString();
+    return widget->property(rest.toLatin1().constData()).toString().replace(u'\n', u' ');
 }
 
 // Connects to the test's socket, whose path stands in the environment, and answers from the event loop.

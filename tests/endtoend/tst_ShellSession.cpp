@@ -1,0 +1,111 @@
+#include "endtoend/LiveTool.h"
+
+#include <QColor>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+// A number is missing where the comment stands.
+const QByteArray brokenScene = "#mrd 1.0\nMaterial \"paint\" {\n    transparency = oops\n}\n";
+
+const QString console = QStringLiteral("m_consoleOutput");
+const QString profiles = QStringLiteral("Profile%20Selector/QComboBox");
+
+} // namespace
+
+// What surrounds the scene in the running tool: the console and the profiles.
+class ShellSessionTest : public QObject {
+    Q_OBJECT
+
+private:
+    void write(const QString& name, const QByteArray& text) const
+    {
+        QFile file(m_folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+
+    void start()
+    {
+        m_tool = std::make_unique<LiveTool>();
+        m_tool->keepSettingsIn(m_folder.path());
+        QVERIFY(m_tool->start({}));
+    }
+
+    void openFromTheMenu(const QString& name)
+    {
+        m_tool->key(QStringLiteral("ctrl+o"));
+        QVERIFY(!m_tool->widget(QStringLiteral("fileNameEdit")).isEmpty());
+        m_tool->type(m_folder.filePath(name));
+        m_tool->key(QStringLiteral("Return"));
+    }
+
+    [[nodiscard]] QString activeProfile() const { return m_tool->property(profiles, QStringLiteral("currentText")); }
+
+    /// Goes through the list by keys, since the list that pops up is the window manager's business.
+    void pickProfile(const QString& name)
+    {
+        m_tool->click(m_tool->widget(profiles).center());
+        m_tool->type(name.left(2));
+        m_tool->key(QStringLiteral("Return"));
+        QTRY_COMPARE(activeProfile(), name);
+    }
+
+    [[nodiscard]] int pixelsOf(const QString& widget, const QColor& color) const
+    {
+        const QImage picture = m_tool->screen().copy(m_tool->widget(widget));
+        int count = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                count += picture.pixelColor(x, y) == color ? 1 : 0;
+        return count;
+    }
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<LiveTool> m_tool;
+
+private Q_SLOTS:
+    void cleanup() { m_tool.reset(); }
+
+    void aBrokenSceneLeavesItsMessageInTheConsole()
+    {
+        write(QStringLiteral("broken.mrd"), brokenScene);
+        start();
+        QCOMPARE(pixelsOf(console, Qt::darkRed), 0);
+        openFromTheMenu(QStringLiteral("broken.mrd"));
+        const QString place = m_folder.filePath(QStringLiteral("broken.mrd:3:20: "));
+        QTRY_VERIFY(m_tool->property(console, QStringLiteral("plainText")).contains(place));
+        QTRY_VERIFY(pixelsOf(console, Qt::darkRed) > 0);
+        QCOMPARE(m_tool->quit(), 0);
+    }
+
+    void aProfileRebuildsTheDocksAndIsKept()
+    {
+        start();
+        QCOMPARE(activeProfile(), QStringLiteral("All editors"));
+        QVERIFY(!m_tool->widget(console).isEmpty());
+        pickProfile(QStringLiteral("Inspection"));
+        QTRY_VERIFY(!m_tool->isShown(console));
+        QCOMPARE(m_tool->quit(), 0);
+
+        start();
+        QTRY_COMPARE(activeProfile(), QStringLiteral("Inspection"));
+        QVERIFY(!m_tool->isShown(console));
+        pickProfile(QStringLiteral("All editors"));
+        QVERIFY(!m_tool->widget(console).isEmpty());
+        QCOMPARE(m_tool->quit(), 0);
+    }
+};
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    ShellSessionTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_ShellSession.moc"
