@@ -1,5 +1,6 @@
 #include "meridane/gl/ItemPainter.h"
 
+#include "meridane/gl/DetailLevel.h"
 #include "meridane/gl/MatrixMath.h"
 
 #include <algorithm>
@@ -104,14 +105,14 @@ void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const N
         const Look& look = scene.looks()[item.look];
         if (isBox(look))
             continue;
-        if (item.mesh->isStale)
-            m_meshes.request(*item.mesh);
+        m_meshes.request(*item.mesh, cellsOf(scene, id));
         if (look.texture != nullptr)
             m_textures.update(*look.texture, loader, scene.problems(), counts);
     }
     m_meshes.upload(counts);
     m_textures.clean();
     sort(scene, m_found);
+    counts.drawnCorners = 0;
     counts.drawnItems = m_found.size();
     counts.culledItems = scene.tree().count() - m_found.size();
 }
@@ -130,21 +131,32 @@ void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
             m_boxes.push_back(id);
             continue;
         }
-        if (item.mesh->range.page == noId)
+        const MeshRange range = item.mesh->rangeOf(cellsOf(scene, id));
+        if (range.page == noId)
             continue;
         const SurfaceVariant variant = variantOf(item, look);
-        const std::uint64_t order = std::uint64_t{variant.number()} << variantShift
-            | std::uint64_t{item.mesh->range.page} << pageShift | item.look;
+        const std::uint64_t order
+            = std::uint64_t{variant.number()} << variantShift | std::uint64_t{range.page} << pageShift | item.look;
         if (isTranslucent(item, look, variant))
-            m_translucent.push_back({id, order, m_frame.depthOf(scene.tree().boundsOf(id).getCenter()), variant});
+            m_translucent.push_back(
+                {id, order, m_frame.depthOf(scene.tree().boundsOf(id).getCenter()), variant, range});
         else
-            m_opaque.push_back({id, order, 0, variant});
+            m_opaque.push_back({id, order, 0, variant, range});
     }
     std::sort(m_opaque.begin(), m_opaque.end(),
         [](const Drawn& a, const Drawn& b) { return std::tie(a.order, a.item) < std::tie(b.order, b.item); });
     std::sort(m_translucent.begin(), m_translucent.end(), [](const Drawn& a, const Drawn& b) {
         return std::tie(b.depth, a.order, a.item) < std::tie(a.depth, b.order, b.item);
     });
+}
+
+std::uint32_t ItemPainter::cellsOf(PlacedScene& scene, Id id) const
+{
+    const Item& item = scene.table().item(id);
+    const ComplexityRecord* const complexity = scene.looks()[item.look].complexity;
+    return complexity == nullptr
+        ? 0
+        : detailCells(complexity->values, item.mesh->shape, scene.tree().boundsOf(id), m_frame);
 }
 
 SurfaceVariant ItemPainter::variantOf(const Item& item, const Look& look) const
@@ -222,8 +234,8 @@ void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxD
         setLook(look, drawn.variant);
         setLights(scene, look.lights.get());
     }
-    if (state.page != item.mesh->range.page) {
-        state.page = item.mesh->range.page;
+    if (state.page != drawn.range.page) {
+        state.page = drawn.range.page;
         m_meshes.bind(state.page);
     }
     if (item.mesh->shape.colors == MeshShape::Colors::One) {
@@ -231,7 +243,7 @@ void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxD
         m_gl.VertexAttrib4f(static_cast<GLuint>(Attribute::Color), color[0], color[1], color[2], color[3]);
     }
     setPlacement(*placementOf(scene, item), program);
-    issue(*item.mesh, counts);
+    issue(*item.mesh, drawn.range, counts);
 }
 
 void ItemPainter::setVariant(SurfaceVariant variant)
@@ -285,17 +297,15 @@ void ItemPainter::setPlacement(const VbMatrix& placement, const SurfaceProgram& 
         m_gl.UniformMatrix3fv(program.normalMatrix, 1, GL_FALSE, normalMatrixOf(placement).data());
 }
 
-void ItemPainter::issue(const MeshRecord& mesh, NxDrawingCounts& counts) const
+void ItemPainter::issue(const MeshRecord& mesh, const MeshRange& range, NxDrawingCounts& counts) const
 {
-    const MeshRange& range = mesh.range;
     const GLenum primitive = primitiveOf(mesh);
-    if (mesh.shape.hasIndices) {
-        if (range.indexCount == 0)
-            return;
+    counts.drawnCorners += range.indexCount != 0 ? range.indexCount : range.vertexCount;
+    if (range.indexCount != 0) {
         const auto* const start = static_cast<const char*>(nullptr) + range.firstIndex * sizeof(std::uint32_t);
         m_gl.DrawElementsBaseVertex(primitive, static_cast<GLsizei>(range.indexCount), GL_UNSIGNED_INT, start,
             static_cast<GLint>(range.firstVertex));
-    } else {
+    } else if (!mesh.shape.hasIndices) {
         m_gl.DrawArrays(primitive, static_cast<GLint>(range.firstVertex), static_cast<GLsizei>(range.vertexCount));
     }
     ++counts.drawCalls;
@@ -322,14 +332,15 @@ void ItemPainter::drawShapes(
     Id page = noId;
     for (const Id id : items) {
         const Item& item = scene.table().item(id);
-        if (item.mesh->range.page == noId)
+        const MeshRange range = item.mesh->rangeOf(cellsOf(scene, id));
+        if (range.page == noId)
             continue;
-        if (page != item.mesh->range.page) {
-            page = item.mesh->range.page;
+        if (page != range.page) {
+            page = range.page;
             m_meshes.bind(page);
         }
         m_gl.UniformMatrix4fv(placementUniform, 1, GL_FALSE, placementOf(scene, item)[0][0].data());
-        issue(*item.mesh, counts);
+        issue(*item.mesh, range, counts);
     }
 }
 

@@ -47,6 +47,7 @@ private:
         std::uint64_t order; ///< equal numbers need no change of state between them
         double depth;
         SurfaceVariant variant;
+        MeshRange range;
     };
     /// What the context is set to while items are drawn one after the other.
     struct State {
@@ -58,6 +59,7 @@ private:
     };
 
     void sort(PlacedScene& scene, const std::vector<Id>& found);
+    [[nodiscard]] std::uint32_t cellsOf(PlacedScene& scene, Id id) const;
     [[nodiscard]] SurfaceVariant variantOf(const Item& item, const Look& look) const;
     [[nodiscard]] static bool isTranslucent(const Item& item, const Look& look, SurfaceVariant variant);
     void draw(PlacedScene& scene, const Drawn& drawn, State& state, NxDrawingCounts& counts);
@@ -65,7 +67,7 @@ private:
     void setLook(const Look& look, SurfaceVariant variant);
     void setLights(const PlacedScene& scene, const LightList* lights);
     void setPlacement(const VbMatrix& placement, const SurfaceProgram& program);
-    void issue(const MeshRecord& mesh, NxDrawingCounts& counts) const;
+    void issue(const MeshRecord& mesh, const MeshRange& range, NxDrawingCounts& counts) const;
 
     const NxGLFunctions& m_gl;
     MeshStore m_meshes;

@@ -14,7 +14,7 @@ namespace {
 
 bool isUsable(const VbVec3f& point)
 {
-    // One test for three: a sum of finite numbers that aren't too great is finite.
+    // One test for three: what isn't finite stays no number when it is multiplied by 0.
     return std::isfinite(point[0] * 0 + point[1] * 0 + point[2] * 0);
 }
 

@@ -5,6 +5,7 @@
 #include "meridane/scene/NxMesh.h"
 
 #include <array>
+#include <vector>
 
 namespace meridane {
 
@@ -15,6 +16,12 @@ struct MeshRange {
     std::uint32_t vertexCount = 0;
     std::uint32_t firstIndex = 0;
     std::uint32_t indexCount = 0;
+};
+
+/// A mesh on the card with less detail.
+struct MeshLevel {
+    std::uint32_t cells = 0; ///< as `simplified` takes them
+    MeshRange range;
 };
 
 /// What drawing keeps about a mesh. Of its values it keeps none.
@@ -29,15 +36,28 @@ public:
     }
     [[nodiscard]] const NxMesh* mesh() const noexcept { return static_cast<const NxMesh*>(node()); }
 
+    /// Where the mesh is with that much detail, 0 for all; a range of no page if it isn't on the card.
+    [[nodiscard]] MeshRange rangeOf(std::uint32_t cells) const
+    {
+        for (const MeshLevel& level : levels) {
+            if (level.cells == cells)
+                return level.range;
+        }
+        return cells == 0 ? range : MeshRange();
+    }
+
     MeshShape shape;
     MeshRange range;
+    std::vector<MeshLevel> levels;
     /// The first of the places of the mesh, which are linked among each other.
     Id firstItem = noId;
     /// Of the lists that the card has, which tell what must go there again.
     std::array<std::uint64_t, lists> fingerprints{};
     bool isInspected = false;
-    /// The card doesn't have what the mesh has by now.
+    /// The card doesn't have what the mesh has by now, with all its detail.
     bool isStale = true;
+    /// The same for what it has with less detail.
+    bool areLevelsStale = false;
 };
 
 } // namespace meridane

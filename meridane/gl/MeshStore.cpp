@@ -10,6 +10,7 @@ namespace meridane {
 namespace {
 
 constexpr std::size_t indexList = attributes;
+constexpr unsigned int layoutWithIndices = 1U << indexList;
 /// The numbers of floats of the attributes.
 constexpr std::array<std::size_t, attributes> components{3, 3, 2, 4};
 /// A page that holds several meshes isn't made larger.
@@ -29,10 +30,26 @@ bool hasList(unsigned int layout, std::size_t list)
 unsigned int layoutOf(const MeshShape& shape)
 {
     return 1U | (shape.hasNormals ? 2U : 0U) | (shape.hasCoordinates ? 4U : 0U)
-        | (shape.colors == MeshShape::Colors::Each ? 8U : 0U) | (shape.hasIndices ? 16U : 0U);
+        | (shape.colors == MeshShape::Colors::Each ? 8U : 0U) | (shape.hasIndices ? layoutWithIndices : 0U);
 }
 
-std::span<const std::byte> listBytes(const NxMesh& mesh, std::size_t list)
+std::span<const std::byte> bytesOfSimplified(const SimplifiedMesh& mesh, std::size_t list)
+{
+    switch (list) {
+    case 0:
+        return std::as_bytes(std::span(mesh.positions));
+    case 1:
+        return std::as_bytes(std::span(mesh.normals));
+    case 2:
+        return std::as_bytes(std::span(mesh.coordinates));
+    case 3:
+        return std::as_bytes(std::span(mesh.colors));
+    default:
+        return std::as_bytes(std::span(mesh.indices));
+    }
+}
+
+std::span<const std::byte> bytesOfMesh(const NxMesh& mesh, std::size_t list)
 {
     switch (list) {
     case 0:
@@ -64,22 +81,45 @@ void MeshStore::forget()
     m_bytes = 0;
 }
 
-void MeshStore::release(MeshRecord& mesh)
+void MeshStore::releaseRange(MeshRange& range)
 {
-    if (mesh.range.page == noId)
+    if (range.page == noId)
         return;
-    Page& page = m_pages[mesh.range.page];
-    page.vertices.giveBack(mesh.range.firstVertex, mesh.range.vertexCount);
-    page.indices.giveBack(mesh.range.firstIndex, mesh.range.indexCount);
+    Page& page = m_pages[range.page];
+    page.vertices.giveBack(range.firstVertex, range.vertexCount);
+    page.indices.giveBack(range.firstIndex, range.indexCount);
     --page.meshes;
-    mesh.range = MeshRange();
+    range = MeshRange();
 }
 
-MeshStore::Transfer MeshStore::describe(MeshRecord& mesh)
+void MeshStore::releaseLevels(MeshRecord& mesh)
+{
+    for (MeshLevel& level : mesh.levels)
+        releaseRange(level.range);
+    mesh.levels.clear();
+}
+
+void MeshStore::release(MeshRecord& mesh)
+{
+    releaseRange(mesh.range);
+    releaseLevels(mesh);
+    mesh.fingerprints.fill(0);
+    mesh.isStale = true;
+}
+
+MeshStore::Transfer MeshStore::describe(MeshRecord& mesh, std::uint32_t cells)
 {
     Transfer transfer;
     transfer.mesh = &mesh;
+    transfer.cells = cells;
     transfer.layout = layoutOf(mesh.shape);
+    if (cells != 0) {
+        transfer.simplified = std::make_shared<SimplifiedMesh>(simplified(*mesh.mesh(), mesh.shape, cells));
+        transfer.layout |= layoutWithIndices;
+        transfer.vertexCount = static_cast<std::uint32_t>(transfer.simplified->positions.size());
+        transfer.indexCount = static_cast<std::uint32_t>(transfer.simplified->indices.size());
+        return transfer;
+    }
     transfer.vertexCount = mesh.shape.vertexCount;
     if (mesh.shape.needsFilter)
         transfer.indexCount = static_cast<std::uint32_t>(usableIndices(*mesh.mesh()).size());
@@ -88,21 +128,38 @@ MeshStore::Transfer MeshStore::describe(MeshRecord& mesh)
     return transfer;
 }
 
+void MeshStore::request(MeshRecord& mesh, std::uint32_t cells)
+{
+    if (mesh.mesh() == nullptr)
+        return;
+    if (std::exchange(mesh.areLevelsStale, false))
+        releaseLevels(mesh);
+    const bool isThere = cells == 0
+        ? !mesh.isStale
+        : std::any_of(mesh.levels.begin(), mesh.levels.end(), [cells](const MeshLevel& l) { return l.cells == cells; });
+    if (isThere)
+        return;
+    if (cells == 0)
+        mesh.isStale = false;
+    else
+        mesh.levels.push_back({cells, {}});
+    m_requests.emplace_back(&mesh, cells);
+}
+
 void MeshStore::upload(NxDrawingCounts& counts)
 {
     std::vector<Transfer> transfers;
-    for (MeshRecord* mesh : std::exchange(m_requests, {})) {
-        if (!mesh->isStale || mesh->mesh() == nullptr)
-            continue;
-        mesh->isStale = false;
-        const Transfer transfer = describe(*mesh);
+    for (const auto& [mesh, cells] : std::exchange(m_requests, {})) {
+        Transfer transfer = describe(*mesh, cells);
         if (fitsInPlace(transfer)) {
             send(transfer, counts);
             continue;
         }
-        release(*mesh);
-        mesh->fingerprints.fill(0);
-        transfers.push_back(transfer);
+        if (cells == 0) {
+            releaseRange(mesh->range);
+            mesh->fingerprints.fill(0);
+        }
+        transfers.push_back(std::move(transfer));
     }
     deleteEmptyPages();
     std::stable_sort(
@@ -132,7 +189,7 @@ void MeshStore::deleteEmptyPages()
 bool MeshStore::fitsInPlace(const Transfer& transfer) const
 {
     const MeshRange& range = transfer.mesh->range;
-    return range.page != noId && m_pages[range.page].layout == transfer.layout
+    return transfer.cells == 0 && range.page != noId && m_pages[range.page].layout == transfer.layout
         && range.vertexCount == transfer.vertexCount && range.indexCount == transfer.indexCount;
 }
 
@@ -152,7 +209,14 @@ bool MeshStore::takePlace(const Transfer& transfer, Id id)
     if (!firstVertex)
         return false;
     const std::uint32_t firstIndex = page.indices.take(transfer.indexCount).value_or(0);
-    transfer.mesh->range = {id, *firstVertex, transfer.vertexCount, firstIndex, transfer.indexCount};
+    const MeshRange range{id, *firstVertex, transfer.vertexCount, firstIndex, transfer.indexCount};
+    MeshRecord& mesh = *transfer.mesh;
+    if (transfer.cells == 0)
+        mesh.range = range;
+    for (MeshLevel& level : mesh.levels) {
+        if (level.cells == transfer.cells)
+            level.range = range;
+    }
     ++page.meshes;
     return true;
 }
@@ -202,31 +266,43 @@ Id MeshStore::makePage(std::span<const Transfer> transfers, std::size_t first)
     return id;
 }
 
+std::span<const std::byte> MeshStore::bytesOf(const Transfer& transfer, std::size_t list)
+{
+    return transfer.simplified ? bytesOfSimplified(*transfer.simplified, list)
+                               : bytesOfMesh(*transfer.mesh->mesh(), list);
+}
+
 void MeshStore::send(const Transfer& transfer, NxDrawingCounts& counts)
 {
-    MeshRecord& mesh = *transfer.mesh;
     const std::uint64_t before = counts.uploadedBytes;
     for (std::size_t list = 0; list < MeshRecord::lists; ++list) {
         if (!hasList(transfer.layout, list))
             continue;
-        if (list == indexList && mesh.shape.needsFilter) {
-            const std::vector<std::uint32_t> indices = usableIndices(*mesh.mesh());
-            sendList(mesh, list, std::as_bytes(std::span(indices)), counts);
+        if (list == indexList && !transfer.simplified && transfer.mesh->shape.needsFilter) {
+            const std::vector<std::uint32_t> indices = usableIndices(*transfer.mesh->mesh());
+            sendList(transfer, list, std::as_bytes(std::span(indices)), counts);
         } else {
-            sendList(mesh, list, listBytes(*mesh.mesh(), list), counts);
+            sendList(transfer, list, bytesOf(transfer, list), counts);
         }
     }
     counts.meshUploads += counts.uploadedBytes != before ? 1U : 0U;
 }
 
-void MeshStore::sendList(MeshRecord& mesh, std::size_t list, std::span<const std::byte> bytes, NxDrawingCounts& counts)
+void MeshStore::sendList(
+    const Transfer& transfer, std::size_t list, std::span<const std::byte> bytes, NxDrawingCounts& counts)
 {
-    const std::uint64_t fingerprint = fingerprintOf(bytes);
-    if (bytes.empty() || fingerprint == std::exchange(mesh.fingerprints[list], fingerprint))
+    if (bytes.empty())
         return;
-    const std::uint32_t first = list == indexList ? mesh.range.firstIndex : mesh.range.firstVertex;
+    MeshRecord& mesh = *transfer.mesh;
+    if (transfer.cells == 0) {
+        const std::uint64_t fingerprint = fingerprintOf(bytes);
+        if (fingerprint == std::exchange(mesh.fingerprints[list], fingerprint))
+            return;
+    }
+    const MeshRange range = mesh.rangeOf(transfer.cells);
+    const std::uint32_t first = list == indexList ? range.firstIndex : range.firstVertex;
     // Not as an element buffer: that would change the vertex array that is bound.
-    m_gl.BindBuffer(GL_ARRAY_BUFFER, m_pages[mesh.range.page].buffers[list]);
+    m_gl.BindBuffer(GL_ARRAY_BUFFER, m_pages[range.page].buffers[list]);
     m_gl.BufferSubData(GL_ARRAY_BUFFER, static_cast<GLintptr>(first * elementBytes(list)),
         static_cast<GLsizeiptr>(bytes.size()), bytes.data());
     counts.uploadedBytes += bytes.size();

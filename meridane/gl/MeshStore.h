@@ -2,6 +2,7 @@
 
 #include "meridane/gl/GLErrors.h"
 #include "meridane/gl/MeshRecord.h"
+#include "meridane/gl/MeshSimplification.h"
 #include "meridane/gl/NxDrawingCounts.h"
 #include "meridane/gl/NxGLFunctions.h"
 #include "meridane/gl/RangeList.h"
@@ -9,7 +10,9 @@
 #include "meridane/gl/SurfaceShaders.h"
 
 #include <array>
+#include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace meridane {
@@ -28,8 +31,8 @@ public:
     /// The context must be current, or `forget` have been called.
     ~MeshStore();
 
-    /// Asks for a mesh to be on the card as it is now.
-    void request(MeshRecord& mesh) { m_requests.push_back(&mesh); }
+    /// Asks for a mesh to be on the card as it is now, with that much detail (see `simplified`), 0 for all.
+    void request(MeshRecord& mesh, std::uint32_t cells);
     /// Uploads what was asked for.
     void upload(NxDrawingCounts& counts);
     /// Gives up the place of a mesh. Needs no context.
@@ -54,25 +57,30 @@ private:
     /// A mesh on its way to the card.
     struct Transfer {
         MeshRecord* mesh = nullptr;
+        std::uint32_t cells = 0;
+        std::shared_ptr<const SimplifiedMesh> simplified; // with less detail only
         unsigned int layout = 0;
         std::uint32_t vertexCount = 0;
         std::uint32_t indexCount = 0;
-        bool isDone = false;
     };
 
-    [[nodiscard]] static Transfer describe(MeshRecord& mesh);
+    [[nodiscard]] static Transfer describe(MeshRecord& mesh, std::uint32_t cells);
+    [[nodiscard]] static std::span<const std::byte> bytesOf(const Transfer& transfer, std::size_t list);
+    void releaseRange(MeshRange& range);
+    void releaseLevels(MeshRecord& mesh);
     [[nodiscard]] bool fitsInPlace(const Transfer& transfer) const;
     bool findPlace(const Transfer& transfer);
     bool takePlace(const Transfer& transfer, Id page);
     Id makePage(std::span<const Transfer> transfers, std::size_t first);
     void send(const Transfer& transfer, NxDrawingCounts& counts);
-    void sendList(MeshRecord& mesh, std::size_t list, std::span<const std::byte> bytes, NxDrawingCounts& counts);
+    void sendList(
+        const Transfer& transfer, std::size_t list, std::span<const std::byte> bytes, NxDrawingCounts& counts);
     void deletePage(Page& page);
     void deleteEmptyPages();
 
     const NxGLFunctions& m_gl;
     GLErrors& m_errors;
-    std::vector<MeshRecord*> m_requests;
+    std::vector<std::pair<MeshRecord*, std::uint32_t>> m_requests;
     SlotTable<Page> m_pages;
     std::vector<Id> m_pageIds;
     std::size_t m_bytes = 0;

@@ -10,6 +10,7 @@ struct NxDrawingCounts {
     std::uint64_t pictures = 0;
 
     std::uint64_t drawCalls = 0;
+    std::uint64_t drawnCorners = 0; ///< of the primitives of meshes
     std::uint64_t drawnItems = 0; ///< places of meshes that were in view
     std::uint64_t culledItems = 0; ///< places of meshes that were not
 

@@ -239,11 +239,7 @@ NxDrawingCounts NxSceneDrawing::getCounts() const
 void NxSceneDrawing::contextLost()
 {
     Private& self = *m_private;
-    self.scene.forEach<MeshRecord>(NodeKind::Mesh, [&](MeshRecord& mesh) {
-        self.painter.meshes().release(mesh);
-        mesh.fingerprints.fill(0);
-        mesh.isStale = true;
-    });
+    self.scene.forEach<MeshRecord>(NodeKind::Mesh, [&](MeshRecord& mesh) { self.painter.meshes().release(mesh); });
     self.scene.forEach<TextureRecord>(NodeKind::Texture, [&](TextureRecord& texture) {
         self.painter.textures().release(texture);
         texture.isStale = true;

@@ -140,6 +140,7 @@ void PlacedScene::inspectMesh(MeshRecord& mesh)
     mesh.shape = inspect(*mesh.mesh(), mesh, m_problems);
     mesh.isInspected = true;
     mesh.isStale = true;
+    mesh.areLevelsStale = true;
 }
 
 VbMatrix PlacedScene::placementIn(GroupRecord& group, const VbMatrix& parent)

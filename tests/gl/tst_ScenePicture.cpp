@@ -57,6 +57,8 @@ private Q_SLOTS:
     void aSwitchShowsOneChild();
     void aMaterialEndsWithItsGroup();
     void ignoredFieldsCountWithTheirDefault();
+    void lowComplexityDrawsLessDetail_data();
+    void lowComplexityDrawsLessDetail();
 
 private:
     QImage pictureOf(std::initializer_list<NxNode*> nodes, const NxViewpoint& viewpoint = DrawingBench::front())
@@ -346,6 +348,41 @@ void TestScenePicture::ignoredFieldsCountWithTheirDefault()
     COMPARE_PIXEL(pictureOf({material.get(), transform.get()}), 0, 0, red);
     material->diffuseColor.setIgnored(1);
     COMPARE_PIXEL(pictureOf({material.get(), transform.get()}), 0, 0, color(0.8, 0.8, 0.8));
+}
+
+void TestScenePicture::lowComplexityDrawsLessDetail_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<float>("value");
+    QTest::addColumn<float>("size"); // of the whole picture
+    QTest::addColumn<bool>("isWhole");
+    QTest::newRow("full") << int{NxComplexity::OBJECT_SPACE} << 1.0F << 2.0F << true;
+    QTest::newRow("usual") << int{NxComplexity::OBJECT_SPACE} << 0.5F << 2.0F << true;
+    QTest::newRow("low") << int{NxComplexity::OBJECT_SPACE} << 0.1F << 2.0F << false;
+    QTest::newRow("least") << int{NxComplexity::OBJECT_SPACE} << 0.0F << 2.0F << false;
+    QTest::newRow("large in the picture") << int{NxComplexity::SCREEN_SPACE} << 1.0F << 2.0F << true;
+    QTest::newRow("small in the picture") << int{NxComplexity::SCREEN_SPACE} << 1.0F << 10.0F << false;
+}
+
+void TestScenePicture::lowComplexityDrawsLessDetail()
+{
+    QFETCH(int, type);
+    QFETCH(float, value);
+    QFETCH(float, size);
+    QFETCH(bool, isWhole);
+    const auto complexity = make<NxComplexity>();
+    complexity->type.setValue(type);
+    complexity->value.setValue(value);
+    const auto mesh = ball(0.9F, 64);
+    NxViewpoint viewpoint = DrawingBench::front();
+    viewpoint.height = size;
+    const QImage picture = pictureOf({complexity.get(), plain(1, 0, 0).get(), mesh.get()}, viewpoint);
+    const auto all = static_cast<std::uint64_t>(mesh->indices.getNum());
+    const std::uint64_t drawn = m_bench.counts().drawnCorners;
+    QVERIFY(isWhole ? drawn == all : drawn > 0 && drawn < all / 4);
+    const QColor middle = pixelAt(picture, 0, 0);
+    QVERIFY2(middle.red() > 200, text(middle).constData());
+    COMPARE_PIXEL(picture, 1, 1, black);
 }
 
 } // namespace
