@@ -1,12 +1,15 @@
 #include "meridane/gl/BoundsTree.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace meridane {
 namespace {
 
 /// From this share of changed items on the tree is built anew.
 constexpr std::size_t rebuildShare = 8;
+/// The same when something is so many times deeper down than it would be in a balanced tree.
+constexpr std::size_t depthShare = 4;
 
 double halfSurface(const NxBounds& box) noexcept
 {
@@ -111,7 +114,7 @@ void BoundsTree::flush()
 {
     if (m_changed.empty())
         return;
-    if (m_changed.size() > m_count / rebuildShare) {
+    if (m_isTooDeep || m_changed.size() > m_count / rebuildShare) {
         rebuild();
     } else {
         for (const Id item : m_changed) {
@@ -130,6 +133,7 @@ void BoundsTree::rebuild()
     m_nodes.clear();
     m_freeNodes.clear();
     m_nodes.reserve(2 * m_count);
+    m_isTooDeep = false;
     std::vector<Id> items;
     items.reserve(m_count);
     for (Id item = 0; item < m_items.size(); ++item) {
@@ -181,13 +185,19 @@ Id BoundsTree::newNode()
 }
 
 // Goes down to where the boxes grow the least.
-Id BoundsTree::findSibling(const NxBounds& box) const
+Id BoundsTree::findSibling(const NxBounds& box)
 {
+    const std::size_t depthOfBalance = std::bit_width(m_count);
+    std::size_t depth = 0;
     Id id = m_root;
     while (!m_nodes[id].isLeaf()) {
+        m_isTooDeep = m_isTooDeep || ++depth > depthShare * depthOfBalance;
         const auto growth
             = [&](Id child) { return halfSurface(joined(m_nodes[child].box, box)) - halfSurface(m_nodes[child].box); };
-        id = growth(m_nodes[id].left) <= growth(m_nodes[id].right) ? m_nodes[id].left : m_nodes[id].right;
+        const double left = growth(m_nodes[id].left);
+        const double right = growth(m_nodes[id].right);
+        m_goesLeft = !m_goesLeft;
+        id = left < right || (left == right && m_goesLeft) ? m_nodes[id].left : m_nodes[id].right;
     }
     return id;
 }

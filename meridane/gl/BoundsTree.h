@@ -48,7 +48,7 @@ private:
     void insert(Id item);
     void takeOut(Id item);
     void refit(Id node);
-    [[nodiscard]] Id findSibling(const NxBounds& box) const;
+    [[nodiscard]] Id findSibling(const NxBounds& box);
     Id newNode();
     void collect(Id node, std::vector<Id>& items) const;
 
@@ -58,6 +58,8 @@ private:
     std::vector<Id> m_freeNodes;
     Id m_root = noId;
     std::size_t m_count = 0; // of items with a box
+    bool m_goesLeft = false; // where both ways are as good
+    bool m_isTooDeep = false;
 };
 
 } // namespace meridane

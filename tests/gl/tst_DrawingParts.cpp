@@ -22,7 +22,8 @@ class TestDrawingParts : public QObject {
 private Q_SLOTS:
     void theTreeFindsWhatAWalkFinds_data();
     void theTreeFindsWhatAWalkFinds();
-    void theTreeTakesWhatIsInOnePlace();
+    void theTreeTakesItemsInAnyOrder_data();
+    void theTreeTakesItemsInAnyOrder();
     void rangesDontOverlap();
     void rangesGrowTogetherAgain();
     void fingerprintsDiffer();
@@ -95,13 +96,21 @@ void TestDrawingParts::theTreeFindsWhatAWalkFinds()
     QVERIFY(tree.boundsOf(0).isEmpty());
 }
 
-void TestDrawingParts::theTreeTakesWhatIsInOnePlace()
+void TestDrawingParts::theTreeTakesItemsInAnyOrder_data()
 {
+    QTest::addColumn<float>("step");
+    QTest::newRow("in one place") << 0.0F;
+    QTest::newRow("from left to right") << 1e-4F;
+}
+
+void TestDrawingParts::theTreeTakesItemsInAnyOrder()
+{
+    QFETCH(float, step);
     BoundsTree tree;
-    NxBounds point;
-    point.include(VbVec3f());
     std::vector<Id> found;
     for (Id item = 0; item < 5000; ++item) {
+        NxBounds point;
+        point.include(VbVec3f(step * static_cast<float>(item), 0, 0));
         tree.set(item, point);
         if (item % 100 == 0)
             (void)tree.bounds();
