@@ -42,7 +42,7 @@ FieldPanel::FieldPanel(QWidget* parent)
     m_view->setColumnWidth(FieldTableModel::TypeColumn, unit * 18);
 
     auto* hintLayout = new QVBoxLayout(m_hint);
-    auto* hint = new QLabel(tr("Select a node in the scene tree to see its fields."), m_hint);
+    auto* hint = new QLabel(tr("Select a node in the view or the scene tree to see its fields."), m_hint);
     hint->setAlignment(Qt::AlignCenter);
     hint->setWordWrap(true);
     hint->setForegroundRole(QPalette::PlaceholderText);

@@ -9,15 +9,19 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleHints>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <chrono>
 #include <limits>
 #include <utility>
 
 namespace {
 
+/// Whatever else the window's first picture has led to goes first: the context takes longer than all of it.
+constexpr std::chrono::milliseconds startDelay(15);
 /// How close to a line or point a click must be, in points of the screen.
 constexpr float pickRadius = 4;
 /// From the right, from above and from the front: the sides of a thing that tell most.
@@ -221,7 +225,7 @@ void SceneView::paintEvent(QPaintEvent*)
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
     if (!std::exchange(m_startQueued, true))
-        QMetaObject::invokeMethod(this, &SceneView::start, Qt::QueuedConnection);
+        QTimer::singleShot(startDelay, this, &SceneView::start);
 }
 
 void SceneView::resizeEvent(QResizeEvent*)
