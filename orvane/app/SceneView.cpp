@@ -224,8 +224,11 @@ void SceneView::paintEvent(QPaintEvent*)
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
-    if (!std::exchange(m_startQueued, true))
-        QTimer::singleShot(startDelay, this, &SceneView::start);
+    if (!std::exchange(m_startQueued, true)) {
+        // The delay begins when the whole window is painted: its first texts take longer than that.
+        const auto startSoon = [this] { QTimer::singleShot(startDelay, this, &SceneView::start); };
+        QMetaObject::invokeMethod(this, startSoon, Qt::QueuedConnection);
+    }
 }
 
 void SceneView::resizeEvent(QResizeEvent*)
