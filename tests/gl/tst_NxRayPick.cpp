@@ -15,8 +15,6 @@
 
 using namespace meridane;
 
-Q_DECLARE_METATYPE(VbMatrix)
-
 namespace {
 
 constexpr float infinity = std::numeric_limits<float>::infinity();

@@ -12,8 +12,6 @@
 
 using namespace meridane;
 
-Q_DECLARE_METATYPE(NxViewpoint)
-
 namespace {
 
 constexpr float aspect = 1.5F;

@@ -466,8 +466,5 @@ void TestSceneChanges::anotherSceneGivesEverythingUp()
 
 } // namespace
 
-Q_DECLARE_METATYPE(Edit)
-Q_DECLARE_METATYPE(Cost)
-
 QTEST_APPLESS_MAIN(TestSceneChanges)
 #include "tst_SceneChanges.moc"

@@ -403,9 +403,5 @@ void TestSceneProblems::errorsOfOthersAreReportedOnce()
 
 } // namespace
 
-Q_DECLARE_METATYPE(Damage)
-Q_DECLARE_METATYPE(VbMatrix)
-Q_DECLARE_METATYPE(VbVec3f)
-
 QTEST_APPLESS_MAIN(TestSceneProblems)
 #include "tst_SceneProblems.moc"
