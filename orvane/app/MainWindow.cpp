@@ -29,7 +29,6 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QMimeData>
-#include <QPixmap>
 #include <QScopedValueRollback>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -117,11 +116,10 @@ QString MainWindow::selectPath(const QString& path)
     return {};
 }
 
-QPixmap MainWindow::picture()
+void MainWindow::startView()
 {
     if (m_view->isVisible())
         m_view->start();
-    return grab();
 }
 
 void MainWindow::showError(const QString& message)

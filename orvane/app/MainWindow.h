@@ -39,8 +39,8 @@ public:
     /// Selects what a path such as `/robot/arm.rotation` leads to, in tree and table. The result says what is wrong
     /// with the path, or is empty.
     QString selectPath(const QString& path);
-    /// A picture of the window, the view included.
-    [[nodiscard]] QPixmap picture();
+    /// Sets the view's drawing up now rather than behind the first picture: for whoever takes pictures of the window.
+    void startView();
     /// Shows a message to the user.
     void showError(const QString& message);
     void showWarning(const QString& message);

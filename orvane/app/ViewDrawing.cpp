@@ -61,8 +61,8 @@ bool ViewDrawing::makeContext()
 void ViewDrawing::giveUp(const QString& reason)
 {
     m_problem = QCoreApplication::translate("ViewDrawing",
-        "The scene can't be drawn here: %1. Install a driver with OpenGL 3.3, such as the package libgl1-mesa-dri, and "
-        "start Orvane anew. Everything else works without it.")
+        "The scene can't be drawn here: %1. Install a driver with OpenGL 3.3, such as the packages libegl-mesa0 and "
+        "libgl1-mesa-dri, and start Orvane anew. Everything else works without it.")
                     .arg(reason);
 }
 

@@ -106,10 +106,12 @@ void WindowRun::report(MainWindow& window, const QString& message)
 
 void WindowRun::takePicture(MainWindow& window)
 {
-    // Layouts settle and editors fill from events and from the sensors' queue, and either may cause the other.
+    window.startView();
+    // Layouts settle, editors fill and the view tells what it can't draw from events and from the sensors' queue, and
+    // either may cause the other.
     QEventLoop loop;
     while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty()) { }
-    if (!m_failed && !window.picture().save(m_commandLine.screenshotFile)) {
+    if (!m_failed && !window.grab().save(m_commandLine.screenshotFile)) {
         m_failed = true;
         std::fprintf(stderr, "orvane: %s: the picture can't be written\n", qPrintable(m_commandLine.screenshotFile));
     }

@@ -47,7 +47,7 @@ private Q_SLOTS:
     {
         QVERIFY(view()->isVisible());
         QVERIFY(view()->width() > m_window->width() / 3);
-        QVERIFY(ViewScenes::count(m_window->picture().toImage(), Qt::red) > 500);
+        QVERIFY(ViewScenes::count(m_window->grab().toImage(), Qt::red) > 500);
     }
 
     void selectsInTheTreeWhatIsClicked()
@@ -216,7 +216,7 @@ private Q_SLOTS:
         QCOMPARE(m_session->services().getSelectedNode(), greenSquare());
         cameraAction(QStringLiteral("camera"))->trigger();
         action("frameSelection")->trigger();
-        QVERIFY(!m_window->picture().isNull());
+        QVERIFY(!m_window->grab().isNull());
         QVERIFY(m_window->findChild<MessageBar*>()->texts().isEmpty());
     }
 
