@@ -16,7 +16,8 @@ std::string logOf(GetLength getLength, GetText getText)
     getLength(&length);
     std::string log(static_cast<std::size_t>(length > 0 ? length : 1), '\0');
     getText(static_cast<GLsizei>(log.size()), log.data());
-    return log.c_str(); // without the final zero
+    log.resize(log.find('\0') == std::string::npos ? log.size() : log.find('\0'));
+    return log;
 }
 
 void reportLog(const char* action, const char* name, const std::string& log)

@@ -302,7 +302,7 @@ void ItemPainter::issue(const MeshRecord& mesh, const MeshRange& range, NxDrawin
     const GLenum primitive = primitiveOf(mesh);
     counts.drawnCorners += range.indexCount != 0 ? range.indexCount : range.vertexCount;
     if (range.indexCount != 0) {
-        const auto* const start = static_cast<const char*>(nullptr) + range.firstIndex * sizeof(std::uint32_t);
+        const auto* const start = reinterpret_cast<const void*>(range.firstIndex * sizeof(std::uint32_t));
         m_gl.DrawElementsBaseVertex(primitive, static_cast<GLsizei>(range.indexCount), GL_UNSIGNED_INT, start,
             static_cast<GLint>(range.firstVertex));
     } else if (!mesh.shape.hasIndices) {

@@ -72,7 +72,7 @@ void LinePainter::prepare()
     m_gl.EnableVertexAttribArray(1);
     m_gl.VertexAttribPointer(0, 3, GL_FLOAT, GL_FALSE, sizeof(Vertex), nullptr);
     m_gl.VertexAttribPointer(
-        1, 4, GL_FLOAT, GL_FALSE, sizeof(Vertex), static_cast<const char*>(nullptr) + offsetof(Vertex, color));
+        1, 4, GL_FLOAT, GL_FALSE, sizeof(Vertex), reinterpret_cast<const void*>(offsetof(Vertex, color)));
 }
 
 void LinePainter::draw(const VbMatrix& sceneToClip, NxDrawingCounts& counts)

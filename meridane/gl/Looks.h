@@ -6,6 +6,7 @@
 
 #include <map>
 #include <memory>
+#include <tuple>
 
 namespace meridane {
 
@@ -17,7 +18,11 @@ struct Look {
     std::shared_ptr<const LightList> lights;
 
     friend bool operator==(const Look&, const Look&) noexcept = default;
-    friend auto operator<=>(const Look&, const Look&) noexcept = default;
+    friend bool operator<(const Look& a, const Look& b) noexcept
+    {
+        return std::tie(a.material, a.texture, a.complexity, a.lights)
+            < std::tie(b.material, b.texture, b.complexity, b.lights);
+    }
 };
 
 /// All looks of a scene, each once: things that look the same are drawn together.

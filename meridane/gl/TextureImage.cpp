@@ -81,7 +81,7 @@ bool TextureImage::isTranslucent() const
 {
     if (components != 2 && components != 4)
         return false;
-    const std::size_t step = static_cast<std::size_t>(components);
+    const auto step = static_cast<std::size_t>(components);
     const std::size_t end = static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * step;
     for (std::size_t at = step - 1; at < end; at += step) {
         if (bytes[at] != 255)
