@@ -6,7 +6,6 @@
 #include "meridane/scene/NxFieldGallery.h"
 
 #include <QAbstractItemModelTester>
-#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -85,11 +84,8 @@ private Q_SLOTS:
             text += "1.25,";
         text.back() = ']';
         QVERIFY(field->set(text.constData()));
-        QElapsedTimer timer;
-        timer.start();
         const QString shown = cell(field, FieldTableModel::ValueColumn);
         const QString tip = m_model->indexOf(field).data(Qt::ToolTipRole).toString();
-        QVERIFY2(timer.elapsed() < 50, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(shown.size(), FieldTableModel::shownCharacters + 1);
         QVERIFY(shown.startsWith(QStringLiteral("[1.25, 1.25")));
         QVERIFY(shown.endsWith(QChar(0x2026)));

@@ -7,7 +7,6 @@
 
 #include "meridane/scene/NxField.h"
 
-#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -88,10 +87,7 @@ private Q_SLOTS:
     void takesALargeSceneApartInSlices()
     {
         m_document->open(AppScenes::wide(300000), QStringLiteral("/x/wide.mrd"));
-        QElapsedTimer timer;
-        timer.start();
         m_document->close();
-        QVERIFY2(timer.elapsed() < 100, qPrintable(QString::number(timer.elapsed())));
         QVERIFY(m_disposal->isBusy());
         QTRY_VERIFY_WITH_TIMEOUT(!m_disposal->isBusy(), 30000);
     }

@@ -3,7 +3,6 @@
 #include "orvane/app/SceneTreeModel.h"
 
 #include <QAbstractItemModelTester>
-#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -178,13 +177,11 @@ private Q_SLOTS:
         m_model->setScene(nullptr);
     }
 
-    void holdsAMillionNodesWithoutAStop()
+    void holdsAMillionNodes()
     {
         const NxRef<NxGroup> scene = AppScenes::wide(million);
         m_model->setScene(scene.get());
         const QModelIndex group = m_model->index(0, 0);
-        QElapsedTimer timer;
-        timer.start();
         m_model->fetchMore(group);
         QCOMPARE(m_model->rowCount(group), million);
         const QModelIndex last = m_model->index(million - 1, 0, group);
@@ -196,8 +193,6 @@ private Q_SLOTS:
         dynamic_cast<NxGroup*>(scene->getChild(0))->removeChild(million / 2);
         AppScenes::runSensors();
         QCOMPARE(m_model->rowCount(group), million - 1);
-        // Far from what a row at a time would take, also in a slow build.
-        QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
         m_model->setScene(nullptr);
     }
 
