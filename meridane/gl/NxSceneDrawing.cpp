@@ -8,6 +8,8 @@
 #include "meridane/gl/PlacedScene.h"
 #include "meridane/gl/ScreenPass.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 using namespace meridane;
@@ -47,6 +49,7 @@ public:
             changeHook();
     }
     void updateSelection();
+    [[nodiscard]] float lineWidth(float wanted) const;
     void drawBackground(int height);
 
     const NxGLFunctions& gl;
@@ -78,6 +81,18 @@ void NxSceneDrawing::Private::updateSelection()
     selectedItems.clear();
     if (!selection.empty())
         selectedItems = isSelectionPath ? scene.itemsBelow(selection) : scene.itemsBelow(selection.front());
+}
+
+// Lines as wide as a point of the screen, as far as the context has them.
+float NxSceneDrawing::Private::lineWidth(float wanted) const
+{
+    int flags = 0;
+    gl.GetIntegerv(GL_CONTEXT_FLAGS, &flags);
+    if ((flags & GL_CONTEXT_FLAG_FORWARD_COMPATIBLE_BIT) != 0 || !(wanted > 1))
+        return 1;
+    std::array<float, 2> range{1, 1};
+    gl.GetFloatv(GL_ALIASED_LINE_WIDTH_RANGE, range.data());
+    return std::clamp(wanted, range[0], range[1]);
 }
 
 void NxSceneDrawing::Private::drawBackground(int height)
@@ -146,6 +161,9 @@ const NxDrawingStyle& NxSceneDrawing::getStyle() const
 void NxSceneDrawing::setImageLoader(ImageLoader loader)
 {
     m_private->loader = std::move(loader);
+    // What couldn't be loaded may be loaded now; what is the same isn't uploaded again.
+    m_private->scene.forEach<TextureRecord>(NodeKind::Texture, [](TextureRecord& texture) { texture.isStale = true; });
+    m_private->noteChange();
 }
 
 void NxSceneDrawing::setChangeHook(std::function<void()> hook)
@@ -175,6 +193,7 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
     gl.Enable(GL_DEPTH_TEST);
     gl.DepthFunc(GL_LEQUAL);
     gl.Enable(GL_PROGRAM_POINT_SIZE);
+    gl.LineWidth(self.lineWidth(scale));
     gl.PolygonMode(GL_FRONT_AND_BACK, self.style.surfaces == NxDrawingStyle::WIREFRAME ? GL_LINE : GL_FILL);
     self.painter.drawOpaque(self.scene, self.counts);
     gl.PolygonMode(GL_FRONT_AND_BACK, GL_FILL);
@@ -192,6 +211,7 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
     gl.Disable(GL_DEPTH_TEST);
     gl.DepthFunc(GL_LESS);
     gl.Disable(GL_PROGRAM_POINT_SIZE);
+    gl.LineWidth(1);
     gl.BlendFuncSeparate(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
     gl.BindVertexArray(0);
     gl.BindBuffer(GL_ARRAY_BUFFER, 0);

@@ -46,7 +46,8 @@ public:
 
     void setStyle(const NxDrawingStyle& style);
     [[nodiscard]] const NxDrawingStyle& getStyle() const;
-    /// Who loads image files. Without a loader, textures that only name a file aren't drawn.
+    /// Who loads image files; asked again for all of them when it changes. Without a loader, textures that only name a
+    /// file aren't drawn.
     void setImageLoader(ImageLoader loader);
     /// Called when the next picture would differ from the latest one: once until the next `draw`. It must only make a
     /// note, and must not draw itself.

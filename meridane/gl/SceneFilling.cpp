@@ -129,7 +129,9 @@ void PlacedScene::addGroup(NxGroup& group, std::vector<Filling>& stack)
     Filling& above = stack.back();
     auto& record = m_records.of<GroupRecord>(group, *this);
     NodeRecords::retain(record);
-    record.noteChildren();
+    // Where it stands elsewhere as well, its other places may still have to follow its children.
+    if (record.firstPlace == noId)
+        record.noteChildren();
     Place place;
     place.group = &record;
     place.parent = above.place;

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace {
 
@@ -69,6 +70,13 @@ QStringList DrawingBench::takeMessages()
     for (; m_taken < all.size(); ++m_taken)
         messages.append(QString::fromStdString(all[m_taken]));
     return messages;
+}
+
+void DrawingBench::renew(NxNode* scene)
+{
+    m_former = std::exchange(m_drawing, std::make_unique<NxSceneDrawing>(m_gl));
+    m_drawing->setStyle(m_former->getStyle());
+    m_drawing->setScene(scene);
 }
 
 void DrawingBench::loseContext()

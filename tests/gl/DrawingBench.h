@@ -71,6 +71,9 @@ public:
 
     /// The messages since the latest call, of any class.
     [[nodiscard]] QStringList takeMessages();
+    /// Draws that scene with a new drawing, until `takeBack` brings the former one back.
+    void renew(NxNode* scene);
+    void takeBack() { m_drawing = std::move(m_former); }
     /// The context is lost, and there is another one.
     void loseContext();
 
@@ -83,6 +86,7 @@ private:
     HandlerGuard<NxGLError> m_glErrors{&TextRecorder::record, &m_recorder};
     HandlerGuard<NxReadError> m_readErrors{&TextRecorder::record, &m_recorder};
     std::unique_ptr<NxSceneDrawing> m_drawing;
+    std::unique_ptr<NxSceneDrawing> m_former;
 };
 
 inline const QColor black(0, 0, 0);
