@@ -54,6 +54,7 @@ SceneView::SceneView(QWidget* parent)
            "minus zoom, F frames the selection, A frames all, 1 to 6 look along the axes."));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
     m_viewpoint.lookAlong(firstDirection, upwards);
     orvane::setViewColors(m_style, palette());
     m_drawing.setStyle(m_style);
@@ -92,13 +93,14 @@ void SceneView::setScene(NxGroup* scene, const QString& folder, const std::optio
     m_scene = NxRef<NxGroup>(scene);
     m_selected.clear();
     m_drawing.setScene(scene, folder);
-    m_navigation.endDrag();
+    endDrag();
     m_viewpoint = NxViewpoint();
     m_viewpoint.lookAlong(firstDirection, upwards);
     if (viewpoint)
         m_viewpoint = *viewpoint;
     m_hasMoved = viewpoint.has_value();
     m_showsAll = !viewpoint.has_value();
+    m_framesAll = m_showsAll;
     redrawLater();
 }
 
@@ -113,6 +115,7 @@ void SceneView::setViewpoint(const NxViewpoint& viewpoint)
     m_viewpoint = viewpoint;
     m_hasMoved = true;
     m_showsAll = false;
+    m_framesAll = false;
     redrawLater();
 }
 
@@ -120,14 +123,22 @@ void SceneView::noteMove()
 {
     m_hasMoved = true;
     m_showsAll = false;
+    m_framesAll = false;
     redrawLater();
     Q_EMIT moved();
+}
+
+void SceneView::showAll()
+{
+    m_showsAll = true;
+    m_framesAll = true;
+    redrawLater();
 }
 
 void SceneView::frameAll()
 {
     noteMove();
-    m_showsAll = true;
+    showAll();
 }
 
 void SceneView::frameSelection()
@@ -153,7 +164,8 @@ void SceneView::lookAlong(const VbVec3f& direction, const VbVec3f& up)
     const bool showedAll = m_showsAll;
     noteMove();
     m_viewpoint.lookAlong(direction, up);
-    m_showsAll = showedAll;
+    if (showedAll)
+        showAll();
 }
 
 void SceneView::setProjection(NxViewpoint::Projection projection)
@@ -163,7 +175,8 @@ void SceneView::setProjection(NxViewpoint::Projection projection)
     const bool showedAll = m_showsAll;
     noteMove();
     m_viewpoint.setProjection(projection);
-    m_showsAll = showedAll;
+    if (showedAll)
+        showAll();
 }
 
 void SceneView::setStyle(const NxDrawingStyle& style)
@@ -190,24 +203,25 @@ void SceneView::redrawLater()
     update();
 }
 
-void SceneView::redraw()
+void SceneView::redraw(const QSize& deviceSize)
 {
-    if (m_showsAll) {
-        const NxBounds bounds = m_drawing.bounds();
-        if (!bounds.isEmpty())
-            m_viewpoint.frame(bounds.min, bounds.max, m_navigation.aspect());
+    // Not with each picture: a thing that is being moved would seem to stand still.
+    if (const NxBounds bounds = m_framesAll ? m_drawing.bounds() : NxBounds(); !bounds.isEmpty()) {
+        m_viewpoint.frame(bounds.min, bounds.max, m_navigation.aspect());
+        m_framesAll = false;
     }
-    const qreal ratio = devicePixelRatioF();
     m_stale = false;
-    m_picture = m_drawing.draw(m_viewpoint, (QSizeF(size()) * ratio).toSize(), static_cast<float>(ratio));
+    m_drawnSize = deviceSize;
+    m_picture = m_drawing.draw(m_viewpoint, deviceSize, static_cast<float>(devicePixelRatioF()));
     if (!m_drawing.isStarted())
         showProblem();
 }
 
 void SceneView::paintEvent(QPaintEvent*)
 {
-    if (m_drawing.isStarted() && m_stale)
-        redraw();
+    const QSize deviceSize = (QSizeF(size()) * devicePixelRatioF()).toSize();
+    if (m_drawing.isStarted() && (m_stale || deviceSize != m_drawnSize))
+        redraw(deviceSize);
     QPainter painter(this);
     if (!m_picture.isNull() && m_message == nullptr) {
         painter.drawImage(QRectF(rect()), m_picture);
@@ -233,6 +247,8 @@ void SceneView::paintEvent(QPaintEvent*)
 void SceneView::resizeEvent(QResizeEvent*)
 {
     m_navigation.setSize(size());
+    if (m_showsAll)
+        showAll();
     redrawLater();
 }
 
@@ -287,6 +303,10 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
     const ViewNavigation::Drag drag = m_navigation.dragUnderWay();
     if (drag == ViewNavigation::Drag::None)
         return;
+    if (!event->buttons().testFlag(m_button)) { // whoever took the mouse got the release
+        endDrag();
+        return;
+    }
     const QPointF way = event->position() - m_pressed;
     // A click with an unsteady hand is no drag.
     if (!m_dragging && way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
@@ -297,12 +317,17 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
     noteMove();
 }
 
+void SceneView::endDrag()
+{
+    m_navigation.endDrag();
+    unsetCursor();
+}
+
 void SceneView::mouseReleaseEvent(QMouseEvent* event)
 {
     if (m_navigation.dragUnderWay() == ViewNavigation::Drag::None || event->button() != m_button)
         return;
-    m_navigation.endDrag();
-    unsetCursor();
+    endDrag();
     if (!m_dragging && event->button() == Qt::LeftButton)
         pick(event->position());
 }

@@ -77,7 +77,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void redraw();
+    void redraw(const QSize& deviceSize);
+    void showAll();
+    void endDrag();
     void redrawLater();
     void noteMove();
     void showProblem();
@@ -91,6 +93,7 @@ private:
     NxRef<NxGroup> m_scene;
     std::vector<NxRef<NxNode>> m_selected;
     QImage m_picture;
+    QSize m_drawnSize; // in device pixels
     QLabel* m_message = nullptr;
     QPointF m_pressed;
     Qt::MouseButton m_button = Qt::NoButton; // of the drag under way
@@ -98,5 +101,6 @@ private:
     bool m_startQueued = false;
     bool m_hasMoved = false;
     bool m_showsAll = true; // whatever the size, until the user moves
+    bool m_framesAll = true; // with the next picture
     bool m_dragging = false; // rather than clicking
 };

@@ -230,6 +230,40 @@ private Q_SLOTS:
         QTRY_VERIFY(!ViewScenes::isLike(shown().pixelColor(at(2, 0)), Qt::blue));
     }
 
+    void staysWhereItIsWhenThingsMove()
+    {
+        const NxViewpoint before = m_view->viewpoint();
+        const QPoint place = at(2, 0);
+        auto* transform = dynamic_cast<NxTransform*>(m_scene->getChild(2));
+        transform->translation.setValue(VbVec3f(2, 8, 0));
+        QTRY_VERIFY(!ViewScenes::isLike(shown().pixelColor(place), Qt::green));
+        QCOMPARE(m_view->viewpoint(), before);
+        m_view->frameAll();
+        QTRY_VERIFY(ViewScenes::isLike(shown().pixelColor(at(2, 8)), Qt::green));
+    }
+
+    void framesWhatComesIntoAnEmptyScene()
+    {
+        m_scene = NxRef<NxGroup>(new NxGroup);
+        m_view->setScene(m_scene.get(), QString());
+        static_cast<void>(picture());
+        const NxRef<NxGroup> squares = ViewScenes::squares();
+        m_scene->addChild(squares->getChild(1));
+        QTRY_VERIFY(ViewScenes::isLike(shown().pixelColor(300, 200), Qt::red));
+    }
+
+    void endsADragWhoseReleaseIsLost()
+    {
+        QTest::mousePress(m_view.get(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
+        QMouseEvent move(QEvent::MouseMove, QPointF(200, 100), m_view->mapToGlobal(QPointF(200, 100)), Qt::NoButton,
+            Qt::NoButton, Qt::NoModifier);
+        const NxViewpoint before = m_view->viewpoint();
+        QApplication::sendEvent(m_view.get(), &move);
+        QApplication::sendEvent(m_view.get(), &move);
+        QCOMPARE(m_view->viewpoint(), before);
+        QTest::mouseRelease(m_view.get(), Qt::LeftButton, Qt::NoModifier, QPoint(200, 100));
+    }
+
     void drawsOnePictureForManyChangesAndNoneForNone()
     {
         const int before = m_view->drawing().pictures();
