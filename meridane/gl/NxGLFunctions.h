@@ -22,7 +22,6 @@
     F(PFNGLCHECKFRAMEBUFFERSTATUSPROC, CheckFramebufferStatus)                                                         \
     F(PFNGLCLEARPROC, Clear)                                                                                           \
     F(PFNGLCLEARCOLORPROC, ClearColor)                                                                                 \
-    F(PFNGLCOLORMASKPROC, ColorMask)                                                                                   \
     F(PFNGLCOMPILESHADERPROC, CompileShader)                                                                           \
     F(PFNGLCREATEPROGRAMPROC, CreateProgram)                                                                           \
     F(PFNGLCREATESHADERPROC, CreateShader)                                                                             \
@@ -62,14 +61,12 @@
     F(PFNGLGETSHADERINFOLOGPROC, GetShaderInfoLog)                                                                     \
     F(PFNGLGETSHADERIVPROC, GetShaderiv)                                                                               \
     F(PFNGLGETSTRINGPROC, GetString)                                                                                   \
-    F(PFNGLGETSTRINGIPROC, GetStringi)                                                                                 \
     F(PFNGLGETUNIFORMBLOCKINDEXPROC, GetUniformBlockIndex)                                                             \
     F(PFNGLGETUNIFORMLOCATIONPROC, GetUniformLocation)                                                                 \
     F(PFNGLLINEWIDTHPROC, LineWidth)                                                                                   \
     F(PFNGLLINKPROGRAMPROC, LinkProgram)                                                                               \
     F(PFNGLPIXELSTOREIPROC, PixelStorei)                                                                               \
     F(PFNGLPOLYGONMODEPROC, PolygonMode)                                                                               \
-    F(PFNGLPOLYGONOFFSETPROC, PolygonOffset)                                                                           \
     F(PFNGLREADPIXELSPROC, ReadPixels)                                                                                 \
     F(PFNGLRENDERBUFFERSTORAGEPROC, RenderbufferStorage)                                                               \
     F(PFNGLRENDERBUFFERSTORAGEMULTISAMPLEPROC, RenderbufferStorageMultisample)                                         \
@@ -80,8 +77,6 @@
     F(PFNGLTEXIMAGE2DPROC, TexImage2D)                                                                                 \
     F(PFNGLTEXPARAMETERIPROC, TexParameteri)                                                                           \
     F(PFNGLUNIFORM1FPROC, Uniform1f)                                                                                   \
-    F(PFNGLUNIFORM1IPROC, Uniform1i)                                                                                   \
-    F(PFNGLUNIFORM2FPROC, Uniform2f)                                                                                   \
     F(PFNGLUNIFORM3FVPROC, Uniform3fv)                                                                                 \
     F(PFNGLUNIFORM4FVPROC, Uniform4fv)                                                                                 \
     F(PFNGLUNIFORMBLOCKBINDINGPROC, UniformBlockBinding)                                                               \

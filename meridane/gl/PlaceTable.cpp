@@ -5,11 +5,9 @@ namespace meridane {
 Id PlaceTable::addPlace(const Place& place)
 {
     const Id id = m_places.add(place);
+    if (place.parent != noId)
+        attachPlace(id);
     Place& entry = m_places[id];
-    if (entry.parent != noId) {
-        entry.nextSibling = m_places[entry.parent].firstChild;
-        m_places[entry.parent].firstChild = id;
-    }
     if (entry.group == nullptr)
         return id;
     entry.nextOfGroup = entry.group->firstPlace;
@@ -17,6 +15,20 @@ Id PlaceTable::addPlace(const Place& place)
         m_places[entry.nextOfGroup].previousOfGroup = id;
     entry.group->firstPlace = id;
     return id;
+}
+
+void PlaceTable::attachPlace(Id id)
+{
+    Place& parent = m_places[m_places[id].parent];
+    m_places[id].nextSibling = parent.firstChild;
+    parent.firstChild = id;
+}
+
+void PlaceTable::attachItem(Id id)
+{
+    Place& place = m_places[m_items[id].place];
+    m_items[id].nextInPlace = place.firstItem;
+    place.firstItem = id;
 }
 
 void PlaceTable::removePlace(Id id)
@@ -34,9 +46,8 @@ void PlaceTable::removePlace(Id id)
 Id PlaceTable::addItem(const Item& item)
 {
     const Id id = m_items.add(item);
+    attachItem(id);
     Item& entry = m_items[id];
-    entry.nextInPlace = m_places[entry.place].firstItem;
-    m_places[entry.place].firstItem = id;
     entry.nextOfMesh = entry.mesh->firstItem;
     if (entry.nextOfMesh != noId)
         m_items[entry.nextOfMesh].previousOfMesh = id;

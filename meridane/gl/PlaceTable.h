@@ -37,6 +37,9 @@ struct Item {
 class PlaceTable {
 public:
     Id addPlace(const Place& place);
+    /// Links a place or an item to the place that it stands in, whose links were taken away.
+    void attachPlace(Id id);
+    void attachItem(Id id);
     /// Unlinks a place from its group; its parent and its contents are the caller's to mend.
     void removePlace(Id id);
     Id addItem(const Item& item);

@@ -119,10 +119,8 @@ void PlacedScene::followGroup(GroupRecord& group)
     }
     if (!group.noteChildren() && !m_someoneDied)
         return;
-    for (Id id = group.firstPlace; id != noId; id = m_table.place(id).nextOfGroup) {
-        empty(id);
-        fill(id);
-    }
+    for (Id id = group.firstPlace; id != noId; id = m_table.place(id).nextOfGroup)
+        refill(id);
 }
 
 void PlacedScene::followMesh(MeshRecord& mesh)
@@ -208,15 +206,19 @@ void PlacedScene::empty(Id top)
         Place& place = m_table.place(id);
         place.firstItem = noId;
         place.firstChild = noId;
-        if (id == top)
-            continue;
-        m_looks.release(place.look);
-        if (place.group->isTransform())
-            m_table.placements.remove(place.placement);
-        GroupRecord& group = *place.group;
-        m_table.removePlace(id);
-        m_records.release(group);
+        if (id != top)
+            removePlace(id);
     }
+}
+
+void PlacedScene::removePlace(Id id)
+{
+    const Place place = m_table.place(id);
+    m_looks.release(place.look);
+    if (place.group->isTransform())
+        m_table.placements.remove(place.placement);
+    m_table.removePlace(id);
+    m_records.release(*place.group);
 }
 
 void PlacedScene::removeItem(Id id)
@@ -281,6 +283,10 @@ void PlacedScene::collect(Id top, std::vector<Id>& items) const
 
 void PlacedScene::bury()
 {
+    if (m_lightLists.size() > m_lightListsToSweep) {
+        std::erase_if(m_lightLists, [](const auto& entry) { return entry.second.expired(); });
+        m_lightListsToSweep = 2 * m_lightLists.size() + LightList::most;
+    }
     m_records.bury([this](NodeRecord& record) {
         if (record.kind() == NodeKind::Mesh)
             m_listener.meshIsGoing(static_cast<MeshRecord&>(record));

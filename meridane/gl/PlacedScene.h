@@ -7,7 +7,10 @@
 #include "meridane/scene/NxRef.h"
 
 #include <functional>
+#include <map>
+#include <memory>
 #include <span>
+#include <tuple>
 #include <vector>
 
 namespace meridane {
@@ -65,6 +68,8 @@ public:
 
 private:
     struct Filling;
+    /// What stood in a place that is filled again.
+    struct Kept;
 
     void nodeChanged(NodeRecord& record) override;
     void nodeDied(NodeRecord& record) override;
@@ -72,13 +77,15 @@ private:
     void followGroup(GroupRecord& group);
     void followMesh(MeshRecord& mesh);
 
-    void fill(Id top);
+    void fill(Id top, Kept* kept = nullptr);
+    void refill(Id top);
     void visit(NxNode& node, std::vector<Filling>& stack);
     [[nodiscard]] Id lookOf(Filling& filling);
     void addLight(NxLight& light, Filling& filling);
     void addGroup(NxGroup& group, std::vector<Filling>& stack);
     void addMesh(NxMesh& mesh, Filling& filling);
     void empty(Id top);
+    void removePlace(Id id);
     void removeItem(Id id);
     void move(Id top);
     [[nodiscard]] VbMatrix placementIn(GroupRecord& group, const VbMatrix& parent);
@@ -91,6 +98,9 @@ private:
     NxRef<NxNode> m_root;
     NodeRecords m_records;
     Looks m_looks{m_records};
+    /// By what they consist of, so that a group that is filled again finds its lists of lights again.
+    std::map<std::tuple<const LightList*, const LightRecord*, Id>, std::weak_ptr<const LightList>> m_lightLists;
+    std::size_t m_lightListsToSweep = LightList::most; // from how many entries on those of no list are taken out
     PlaceTable m_table;
     BoundsTree m_tree;
     Problems m_problems;

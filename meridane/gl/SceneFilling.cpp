@@ -3,7 +3,9 @@
 #include "meridane/base/NxDebugError.h"
 #include "meridane/gl/PlacedScene.h"
 
+#include <algorithm>
 #include <string>
+#include <unordered_map>
 #include <utility>
 
 namespace meridane {
@@ -17,11 +19,52 @@ struct PlacedScene::Filling {
     NxTexture* texture = nullptr;
     NxComplexity* complexity = nullptr;
     std::shared_ptr<const LightList> lights;
+    /// What may be taken again instead of being made anew.
+    Kept* kept = nullptr;
     /// The look that follows from these, which counts as used by the walk; none until it is needed.
     Id look = noId;
 };
 
-void PlacedScene::fill(Id top)
+struct PlacedScene::Kept {
+    using Places = std::unordered_multimap<const NodeRecord*, Id>;
+
+    Places groups;
+    Places meshes;
+
+    /// Takes out the place of a node that had that look; none if there is none.
+    template <typename LookOf>
+    static Id take(Places& places, const NodeRecord& record, Id look, LookOf lookOf)
+    {
+        const auto [first, last] = places.equal_range(&record);
+        const auto place = std::find_if(first, last, [&](const auto& entry) { return lookOf(entry.second) == look; });
+        if (place == last)
+            return noId;
+        const Id id = place->second;
+        places.erase(place);
+        return id;
+    }
+};
+
+// Groups and meshes that still stand there, and look as they did, are left as they are with all that is below them.
+void PlacedScene::refill(Id top)
+{
+    ++m_structure;
+    Kept kept;
+    Place& place = m_table.place(top);
+    for (Id id = std::exchange(place.firstChild, noId); id != noId; id = m_table.place(id).nextSibling)
+        kept.groups.emplace(m_table.place(id).group, id);
+    for (Id id = std::exchange(place.firstItem, noId); id != noId; id = m_table.item(id).nextInPlace)
+        kept.meshes.emplace(m_table.item(id).mesh, id);
+    fill(top, &kept);
+    for (const auto& [record, id] : kept.groups) {
+        empty(id);
+        removePlace(id);
+    }
+    for (const auto& [record, id] : kept.meshes)
+        removeItem(id);
+}
+
+void PlacedScene::fill(Id top, Kept* kept)
 {
     const Place& place = m_table.place(top);
     const Look& look = m_looks[place.look];
@@ -29,6 +72,7 @@ void PlacedScene::fill(Id top)
     std::vector<Filling> stack;
     Filling first;
     first.place = top;
+    first.kept = kept;
     first.children = place.group == nullptr ? std::span(&root, 1) : shownChildren(place.group->group());
     first.look = place.look;
     first.lights = look.lights;
@@ -118,8 +162,14 @@ void PlacedScene::addLight(NxLight& light, Filling& filling)
     ++m_lighting;
     if (isTooMany)
         return;
-    filling.lights
-        = std::make_shared<LightList>(filling.lights, record, m_table.place(filling.place).placement, m_records);
+    const Id placement = m_table.place(filling.place).placement;
+    std::weak_ptr<const LightList>& known = m_lightLists[{filling.lights.get(), &record, placement}];
+    std::shared_ptr<const LightList> list = known.lock();
+    if (!list) {
+        list = std::make_shared<LightList>(filling.lights, record, placement, m_records);
+        known = list;
+    }
+    filling.lights = std::move(list);
     if (filling.look != noId)
         m_looks.release(std::exchange(filling.look, noId));
 }
@@ -128,6 +178,15 @@ void PlacedScene::addGroup(NxGroup& group, std::vector<Filling>& stack)
 {
     Filling& above = stack.back();
     auto& record = m_records.of<GroupRecord>(group, *this);
+    if (above.kept != nullptr) {
+        const Id look = lookOf(above);
+        const Id id = Kept::take(above.kept->groups, record, look, [this](Id i) { return m_table.place(i).look; });
+        m_looks.release(look);
+        if (id != noId) {
+            m_table.attachPlace(id);
+            return;
+        }
+    }
     NodeRecords::retain(record);
     // Where it stands elsewhere as well, its other places may still have to follow its children.
     if (record.firstPlace == noId)
@@ -143,6 +202,7 @@ void PlacedScene::addGroup(NxGroup& group, std::vector<Filling>& stack)
     inner.place = m_table.addPlace(place);
     inner.children = shownChildren(group);
     inner.next = 0;
+    inner.kept = nullptr;
     m_looks.useAgain(inner.look);
     stack.push_back(std::move(inner));
 }
@@ -150,6 +210,15 @@ void PlacedScene::addGroup(NxGroup& group, std::vector<Filling>& stack)
 void PlacedScene::addMesh(NxMesh& mesh, Filling& filling)
 {
     auto& record = m_records.of<MeshRecord>(mesh, *this);
+    if (filling.kept != nullptr) {
+        const Id look = lookOf(filling);
+        const Id id = Kept::take(filling.kept->meshes, record, look, [this](Id i) { return m_table.item(i).look; });
+        m_looks.release(look);
+        if (id != noId) {
+            m_table.attachItem(id);
+            return;
+        }
+    }
     NodeRecords::retain(record);
     if (!record.isInspected)
         inspectMesh(record);
