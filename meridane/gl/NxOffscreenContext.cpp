@@ -71,8 +71,8 @@ EGLContext createContext(EGLDisplay display, EGLConfig config)
     // So that a reset of the graphics processor is told rather than guessed.
     std::vector<EGLint> robust = attributes;
     robust.insert(robust.end(), {EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY, EGL_LOSE_CONTEXT_ON_RESET, EGL_NONE});
-    const EGLContext context = eglCreateContext(display, config, EGL_NO_CONTEXT, robust.data());
-    if (context != EGL_NO_CONTEXT)
+    if (EGLContext context = eglCreateContext(display, config, EGL_NO_CONTEXT, robust.data());
+        context != EGL_NO_CONTEXT)
         return context;
     attributes.push_back(EGL_NONE);
     return eglCreateContext(display, config, EGL_NO_CONTEXT, attributes.data());
@@ -83,7 +83,7 @@ EGLContext createContext(EGLDisplay display, EGLConfig config)
 NxOffscreenContext::NxOffscreenContext()
 {
     m_error = "there is no EGL display";
-    for (const EGLDisplay display : displays()) {
+    for (EGLDisplay display : displays()) {
         // A display stays initialised until the process ends: others in the process may use it as well.
         if (display == EGL_NO_DISPLAY || eglInitialize(display, nullptr, nullptr) != EGL_TRUE)
             continue;
@@ -100,8 +100,8 @@ bool NxOffscreenContext::setUp(void* display)
         m_error = "the driver has no OpenGL";
         return false;
     }
-    const EGLConfig config = chooseConfig(display);
-    const EGLContext context = createContext(display, config);
+    EGLConfig config = chooseConfig(display);
+    EGLContext context = createContext(display, config);
     if (context == EGL_NO_CONTEXT) {
         m_error = "the driver has no OpenGL 3.3";
         return false;

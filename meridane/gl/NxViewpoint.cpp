@@ -263,7 +263,7 @@ void NxViewpoint::frame(const VbVec3f& min, const VbVec3f& max, float aspect)
     if (!isFinite(center) || !isFinite(half))
         return;
     *this = sensible();
-    const double ratio = static_cast<double>(sensibleLength(aspect, 1));
+    const auto ratio = static_cast<double>(sensibleLength(aspect, 1));
     const double slope = std::tan(static_cast<double>(heightAngle) / 2);
     double halfHeight = 0;
     double distance = 0;

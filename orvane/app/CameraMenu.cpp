@@ -89,6 +89,7 @@ std::vector<std::vector<NxNode*>> CameraMenu::cameras() const
         NxNode* node = step.children[step.next++];
         if (dynamic_cast<NxCamera*>(node) != nullptr) {
             std::vector<NxNode*> path;
+            path.reserve(steps.size());
             for (const Step& above : steps)
                 path.push_back(above.children[above.next - 1]);
             result.push_back(std::move(path));

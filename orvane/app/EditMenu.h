@@ -21,6 +21,8 @@ public:
     void renameNode(NxNode* node, const QString& name);
     void deleteNode();
     [[nodiscard]] QList<QAction*> toolBarActions() const;
+    /// Deletes the selected node. Its key counts in the tree; whoever else shows the selection adds the action.
+    [[nodiscard]] QAction* deleteAction() const noexcept { return m_delete; }
 
     bool eventFilter(QObject* object, QEvent* event) override;
 

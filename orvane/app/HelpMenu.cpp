@@ -41,6 +41,21 @@ QString tableRow(const QString& left, const QString& right)
         .arg(left.toHtmlEscaped(), right.toHtmlEscaped());
 }
 
+/// What the keys of a menu and its submenus do.
+QString keyRows(const QMenu* menu)
+{
+    QString rows;
+    for (const QAction* action : menu->actions()) {
+        if (action->menu() != nullptr)
+            rows += keyRows(action->menu());
+        const QString keys = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText);
+        QString text = action->text();
+        if (!keys.isEmpty())
+            rows += tableRow(text.remove(u'&').remove(QChar(0x2026)), keys);
+    }
+    return rows;
+}
+
 } // namespace
 
 HelpMenu::HelpMenu(QMainWindow* window, const WindowShell& shell)
@@ -72,14 +87,12 @@ void HelpMenu::showAbout()
 QString HelpMenu::keysText() const
 {
     QString rows;
-    for (const QAction* menu : m_window->menuBar()->actions()) {
-        for (const QAction* action : menu->menu()->actions()) {
-            const QString keys = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText);
-            QString text = action->text();
-            if (!keys.isEmpty())
-                rows += tableRow(text.remove(u'&').remove(QChar(0x2026)), keys);
-        }
-    }
+    for (const QAction* menu : m_window->menuBar()->actions())
+        rows += keyRows(menu->menu());
+    rows += tableRow(tr("Go round the scene in the view"), tr("Arrow keys"));
+    rows += tableRow(tr("Move the picture of the view"), tr("Shift and arrow keys"));
+    rows += tableRow(tr("Come closer in the view, go back"), tr("+, -"));
+    rows += tableRow(tr("Select nothing in the view"), tr("Esc"));
     rows += tableRow(tr("Unfold and fold a node"), tr("Right, Left"));
     rows += tableRow(tr("Show the editor of a field"), tr("Return"));
     rows += tableRow(tr("From one part of the window to the next"), tr("Tab"));

@@ -176,6 +176,7 @@ void MainWindow::buildMenus()
     connect(m_files, &FileFlow::ended, this, &MainWindow::reportSettled, Qt::QueuedConnection);
     m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
     auto* editMenu = new EditMenu(this, m_session, m_tree);
+    m_view->addAction(editMenu->deleteAction());
     auto* viewMenu
         = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), new CameraMenu(m_view, document()));
     new HelpMenu(this, *m_shell);

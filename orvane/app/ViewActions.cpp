@@ -5,7 +5,6 @@
 
 #include <QAction>
 #include <QActionGroup>
-#include <QKeySequence>
 #include <QMenu>
 
 namespace {

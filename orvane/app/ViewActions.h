@@ -2,12 +2,12 @@
 
 #include "meridane/gl/NxViewpoint.h"
 
+#include <QKeySequence>
 #include <QObject>
 
 class AppSettings;
 class QAction;
 class QActionGroup;
-class QKeySequence;
 class QMenu;
 class QString;
 class SceneView;

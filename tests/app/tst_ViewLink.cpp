@@ -10,6 +10,7 @@
 #include "meridane/scene/NxCamera.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -87,6 +88,28 @@ private Q_SLOTS:
         QTRY_COMPARE(ViewScenes::count(shown(), Qt::green), 0);
         m_session->services().undo();
         QTRY_VERIFY(ViewScenes::isLike(shown().pixelColor(place), Qt::green));
+    }
+
+    void deletesWhatIsSelectedByItsKey()
+    {
+        lookAhead();
+        const QPoint place = clickable(Qt::green);
+        view()->setFocus();
+        click(place);
+        QTest::keyClick(view(), Qt::Key_Delete);
+        QTRY_COMPARE(ViewScenes::count(shown(), Qt::green), 0);
+        QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
+        QTRY_VERIFY(ViewScenes::isLike(shown().pixelColor(place), Qt::green));
+    }
+
+    void tellsItsKeys()
+    {
+        action("helpKeys")->trigger();
+        auto* dialog = m_window->findChild<QDialog*>(QStringLiteral("keysDialog"));
+        const QString text = dialog->findChild<QLabel*>()->text();
+        for (const char* row : {"<td>F</td>", "<td>A</td>", "<td>6</td>", "Arrow keys"})
+            QVERIFY2(text.contains(QLatin1String(row)), row);
+        dialog->reject();
     }
 
     void keysCountInTheViewOnly()
