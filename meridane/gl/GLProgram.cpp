@@ -26,6 +26,7 @@ void reportLog(const char* action, const char* name, const std::string& log)
     NxGLError::post(GL_INVALID_OPERATION, VbString(text));
 }
 
+/// The shader, or 0 when it can't be compiled.
 unsigned int compile(const NxGLFunctions& gl, GLenum kind, const char* name, const std::string& source)
 {
     const unsigned int shader = gl.CreateShader(kind);
@@ -34,12 +35,13 @@ unsigned int compile(const NxGLFunctions& gl, GLenum kind, const char* name, con
     gl.CompileShader(shader);
     int isCompiled = 0;
     gl.GetShaderiv(shader, GL_COMPILE_STATUS, &isCompiled);
-    if (isCompiled == 0) {
-        reportLog("Compiling", name,
-            logOf([&](int* length) { gl.GetShaderiv(shader, GL_INFO_LOG_LENGTH, length); },
-                [&](GLsizei size, char* text) { gl.GetShaderInfoLog(shader, size, nullptr, text); }));
-    }
-    return shader;
+    if (isCompiled != 0)
+        return shader;
+    reportLog("Compiling", name,
+        logOf([&](int* length) { gl.GetShaderiv(shader, GL_INFO_LOG_LENGTH, length); },
+            [&](GLsizei size, char* text) { gl.GetShaderInfoLog(shader, size, nullptr, text); }));
+    gl.DeleteShader(shader);
+    return 0;
 }
 
 } // namespace
@@ -47,23 +49,29 @@ unsigned int compile(const NxGLFunctions& gl, GLenum kind, const char* name, con
 GLProgram::GLProgram(
     const NxGLFunctions& gl, const char* name, const std::string& vertexSource, const std::string& fragmentSource)
     : m_gl(&gl)
-    , m_name(gl.CreateProgram())
 {
     const unsigned int vertex = compile(gl, GL_VERTEX_SHADER, name, vertexSource);
     const unsigned int fragment = compile(gl, GL_FRAGMENT_SHADER, name, fragmentSource);
-    gl.AttachShader(m_name, vertex);
-    gl.AttachShader(m_name, fragment);
-    gl.LinkProgram(m_name);
-    gl.DeleteShader(vertex);
+    if (vertex != 0 && fragment != 0)
+        link(name, vertex, fragment);
+    gl.DeleteShader(vertex); // nothing happens for 0
     gl.DeleteShader(fragment);
+}
+
+void GLProgram::link(const char* name, unsigned int vertex, unsigned int fragment)
+{
+    m_name = m_gl->CreateProgram();
+    m_gl->AttachShader(m_name, vertex);
+    m_gl->AttachShader(m_name, fragment);
+    m_gl->LinkProgram(m_name);
     int isLinked = 0;
-    gl.GetProgramiv(m_name, GL_LINK_STATUS, &isLinked);
+    m_gl->GetProgramiv(m_name, GL_LINK_STATUS, &isLinked);
     if (isLinked != 0)
         return;
     reportLog("Linking", name,
-        logOf([&](int* length) { gl.GetProgramiv(m_name, GL_INFO_LOG_LENGTH, length); },
-            [&](GLsizei size, char* text) { gl.GetProgramInfoLog(m_name, size, nullptr, text); }));
-    gl.DeleteProgram(std::exchange(m_name, 0));
+        logOf([&](int* length) { m_gl->GetProgramiv(m_name, GL_INFO_LOG_LENGTH, length); },
+            [&](GLsizei size, char* text) { m_gl->GetProgramInfoLog(m_name, size, nullptr, text); }));
+    m_gl->DeleteProgram(std::exchange(m_name, 0));
 }
 
 GLProgram::GLProgram(GLProgram&& other) noexcept

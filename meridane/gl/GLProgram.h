@@ -32,6 +32,8 @@ public:
     void forget() noexcept;
 
 private:
+    void link(const char* name, unsigned int vertex, unsigned int fragment);
+
     const NxGLFunctions* m_gl = nullptr;
     unsigned int m_name = 0;
 };

@@ -54,8 +54,6 @@ private:
         unsigned int variant = SurfaceVariant::count;
         Id page = noId;
         Id look = noId;
-        const LightList* lights = nullptr;
-        bool hasLights = false;
     };
 
     void sort(PlacedScene& scene, const std::vector<Id>& found);

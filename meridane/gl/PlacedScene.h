@@ -79,6 +79,7 @@ private:
 
     void fill(Id top, Kept* kept = nullptr);
     void refill(Id top);
+    bool isFull();
     void visit(NxNode& node, std::vector<Filling>& stack);
     [[nodiscard]] Id lookOf(Filling& filling);
     void addLight(NxLight& light, Filling& filling);
@@ -107,7 +108,7 @@ private:
     std::vector<NodeRecord*> m_pending;
     std::uint64_t m_structure = 0;
     std::uint64_t m_lighting = 0;
-    std::size_t m_visits = 0;
+    std::size_t m_visits = 0; // of nodes, since the filling began
     bool m_someoneDied = false;
     bool m_isFullTold = false;
 };

@@ -85,14 +85,7 @@ void PlacedScene::fill(Id top, Kept* kept)
     m_visits = 0;
     while (!stack.empty()) {
         Filling& filling = stack.back();
-        const bool isFull = m_table.count() >= mostPlaces || m_visits >= 4 * mostPlaces;
-        if (isFull && !m_isFullTold) {
-            m_isFullTold = true;
-            const std::string text = "The scene has more than " + std::to_string(mostPlaces)
-                + " places of groups and meshes; the others aren't drawn";
-            NxDebugError::post(NxDebugError::Warning, VbString(text));
-        }
-        if (isFull || filling.next == filling.children.size()) {
+        if (isFull() || filling.next == filling.children.size()) {
             if (filling.look != noId)
                 m_looks.release(filling.look);
             stack.pop_back();
@@ -101,6 +94,18 @@ void PlacedScene::fill(Id top, Kept* kept)
         ++m_visits;
         visit(*filling.children[filling.next++], stack);
     }
+}
+
+bool PlacedScene::isFull()
+{
+    if (m_table.count() < mostPlaces && m_visits < 4 * mostPlaces)
+        return false;
+    if (!std::exchange(m_isFullTold, true)) {
+        const std::string text = "The scene has more than " + std::to_string(mostPlaces)
+            + " places of groups and meshes; the others aren't drawn";
+        NxDebugError::post(NxDebugError::Warning, VbString(text));
+    }
+    return true;
 }
 
 void PlacedScene::visit(NxNode& node, std::vector<Filling>& stack)
