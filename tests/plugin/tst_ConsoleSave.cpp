@@ -21,7 +21,7 @@ private Q_SLOTS:
     void saveLosesWhatLatin1CannotHold();
     void cancelledSaveDoesNothing();
     void saveToAnUnwritableFileChangesNothing();
-    void saveDialogAsksAsTold();
+    void saveDialogAsksForATextFile();
 
 private:
     void saveAs(const ConsoleRun& run, const QString& fileName);
@@ -99,7 +99,7 @@ void tst_ConsoleSave::saveToAnUnwritableFileChangesNothing()
     QCOMPARE(run.lines(), QStringList(QStringLiteral("text")));
 }
 
-void tst_ConsoleSave::saveDialogAsksAsTold()
+void tst_ConsoleSave::saveDialogAsksForATextFile()
 {
     const ConsoleRun run;
     QString title;
