@@ -45,10 +45,10 @@ QImage DrawingBench::draw(const NxViewpoint& viewpoint, int width, int height)
     return drawUntold(viewpoint, width, height);
 }
 
-QImage DrawingBench::drawUntold(const NxViewpoint& viewpoint, int width, int height)
+QImage DrawingBench::drawUntold(const NxViewpoint& viewpoint, int width, int height, float scale)
 {
     const Target target(m_gl, width, height);
-    m_drawing->draw(viewpoint, width, height, 1);
+    m_drawing->draw(viewpoint, width, height, scale);
     QImage image(width, height, QImage::Format_RGBA8888);
     m_gl.ReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, image.bits());
     return image.mirrored();

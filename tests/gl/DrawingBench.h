@@ -64,7 +64,8 @@ public:
     /// Lets the sensors tell what changed, and draws.
     [[nodiscard]] QImage draw(const NxViewpoint& viewpoint = front(), int width = 101, int height = 101);
     /// Draws without letting the sensors tell anything.
-    [[nodiscard]] QImage drawUntold(const NxViewpoint& viewpoint = front(), int width = 101, int height = 101);
+    [[nodiscard]] QImage drawUntold(
+        const NxViewpoint& viewpoint = front(), int width = 101, int height = 101, float scale = 1);
     /// The picture of a scene of these nodes, which is gone afterwards.
     [[nodiscard]] QImage pictureOf(std::initializer_list<NxNode*> nodes, const NxViewpoint& viewpoint = front());
     [[nodiscard]] NxDrawingCounts counts() const { return m_drawing->getCounts(); }

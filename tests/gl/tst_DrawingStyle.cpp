@@ -19,6 +19,7 @@ private Q_SLOTS:
     void gridAxesAndBoxesAreDrawnWhenTheyAreOn();
     void theSelectionIsOutlinedEvenWhenHidden();
     void aPathOutlinesOnePlace();
+    void linesAndPointsGrowWithTheScale();
     void stateIsBackAtItsDefault();
     void linesAreDrawn();
     void pointsAreDrawn();
@@ -146,6 +147,28 @@ void TestDrawingStyle::aPathOutlinesOnePlace()
     COMPARE_PIXEL(picture, 0.26, 0, red);
     COMPARE_PIXEL(picture, -0.26, 0, red);
     QCOMPARE(m_bench.drawing().getBounds(mesh.get()).min[0], -0.7F);
+    m_bench.drawing().setScene(nullptr);
+}
+
+void TestDrawingStyle::linesAndPointsGrowWithTheScale()
+{
+    const auto line = meshOf({{-0.8F, 0.5F, 0}, {0.8F, 0.5F, 0}}, NxMesh::LINES);
+    const auto point = meshOf({{0, -0.5F, 0}}, NxMesh::POINTS);
+    const auto scene = groupOf({plain(1, 0, 0).get(), line.get(), point.get()});
+    m_bench.drawing().setScene(scene.get());
+    // How many pixels of a column are lit.
+    const auto heightAt = [&](const QImage& picture, bool isUpper) {
+        int count = 0;
+        for (int y = 0; y < picture.height() / 2; ++y)
+            count += picture.pixelColor(picture.width() / 2, isUpper ? y : picture.height() - 1 - y) == red ? 1 : 0;
+        return count;
+    };
+    for (const int scale : {1, 2, 3}) {
+        const QImage picture
+            = m_bench.drawUntold(DrawingBench::front(), 100 * scale, 100 * scale, static_cast<float>(scale));
+        QCOMPARE(heightAt(picture, true), scale);
+        QCOMPARE(heightAt(picture, false), 4 * scale);
+    }
     m_bench.drawing().setScene(nullptr);
 }
 
