@@ -89,15 +89,16 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
             steps.pop_back();
             continue;
         }
-        const NxNode* node = step.children[step.next++];
-        if (const auto* mesh = dynamic_cast<const NxMesh*>(node)) {
+        const NxNode& node = *step.children[step.next++];
+        const std::span<NxNode* const> children = shownChildren(node);
+        if (const auto* mesh = dynamic_cast<const NxMesh*>(&node)) {
             if (!search.meet(*mesh, step.matrix))
                 continue;
             hit = NxRayHit{{}, VbVec3f(), search.distance(), search.primitive()};
             for (const Step& above : steps)
                 hit->path.push_back(above.children[above.next - 1]);
-        } else if (const std::span<NxNode* const> children = shownChildren(*node); !children.empty()) {
-            const VbMatrix matrix = multiply(placementOf(*node), step.matrix);
+        } else if (!children.empty()) {
+            const VbMatrix matrix = multiply(placementOf(node), step.matrix);
             if (isFinite(matrix))
                 steps.push_back({children, 0, matrix});
         }
