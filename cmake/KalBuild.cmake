@@ -24,6 +24,11 @@ if(KAL_HAS_LLD)
   add_link_options(-fuse-ld=lld)
 endif()
 
+# The compiler looks for its own garbage once it holds a gigabyte: earlier costs time, and memory there is enough of.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  add_compile_options(--param=ggc-min-heapsize=1000000)
+endif()
+
 # The compiler's warnings, for our own sources alone.
 add_library(kal_warnings INTERFACE)
 target_compile_options(
