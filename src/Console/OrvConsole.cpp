@@ -177,7 +177,7 @@ bool OrvConsole::event(QEvent* event)
     if (event->type() == ConsoleEvent::eventType)
         receive(*static_cast<ConsoleEvent*>(event));
     else if (event->type() == turnEvent)
-        beginTurn();
+        takeTurn();
     return QObject::event(event);
 }
 
@@ -188,36 +188,21 @@ void OrvConsole::receive(const ConsoleEvent& event)
     // An error may still be under way when the view is gone.
     if (m_consoleFrameWidget == nullptr)
         return;
-    if (!m_turn.isValid()) {
-        m_turn.start();
-        QCoreApplication::postEvent(this, new QEvent(turnEvent), Qt::LowEventPriority);
-    }
-    const Message message{event.text(), event.category()};
+    const Channel channel = channelOf(event.category());
+    if (!channel.isShown)
+        return;
+    if (!m_turn.isValid())
+        startTurn();
     if (m_arrived.empty() && !turnIsOver())
-        showMessage(message);
+        append(channel.color, event.text());
     else
-        m_arrived.push_back(message);
+        m_arrived.push_back({channel.color, event.text()});
 }
 
-void OrvConsole::beginTurn()
+void OrvConsole::startTurn()
 {
-    m_turn.invalidate();
-    if (m_arrived.empty())
-        return;
     m_turn.start();
     QCoreApplication::postEvent(this, new QEvent(turnEvent), Qt::LowEventPriority);
-    // In one edit, so that the view lays out its lines once.
-    QScrollBar* const bar = m_consoleOutput->verticalScrollBar();
-    const bool endIsInSight = bar->value() >= bar->maximum();
-    QTextCursor edit(m_consoleOutput->document());
-    edit.beginEditBlock();
-    for (int shown = 0; !m_arrived.empty() && shown < largestTurn && !turnIsOver(); ++shown) {
-        showMessage(m_arrived.front());
-        m_arrived.pop_front();
-    }
-    edit.endEditBlock();
-    if (endIsInSight)
-        bar->setValue(bar->maximum());
 }
 
 bool OrvConsole::turnIsOver() const
@@ -225,17 +210,35 @@ bool OrvConsole::turnIsOver() const
     return m_turn.hasExpired(longestTurn);
 }
 
-void OrvConsole::showMessage(const Message& message)
+void OrvConsole::takeTurn()
 {
-    switch (message.category) {
+    m_turn.invalidate();
+    if (m_arrived.empty())
+        return;
+    startTurn();
+    // In one edit, so that the view lays out its lines once.
+    QScrollBar* const bar = m_consoleOutput->verticalScrollBar();
+    const bool endIsInSight = bar->value() >= bar->maximum();
+    QTextCursor edit(m_consoleOutput->document());
+    edit.beginEditBlock();
+    for (int shown = 0; !m_arrived.empty() && shown < largestTurn && !turnIsOver(); ++shown) {
+        append(m_arrived.front().color, m_arrived.front().text);
+        m_arrived.pop_front();
+    }
+    edit.endEditBlock();
+    if (endIsInSight)
+        bar->setValue(bar->maximum());
+}
+
+OrvConsole::Channel OrvConsole::channelOf(std::int32_t category) const
+{
+    switch (category) {
     case infoCategory:
-        append(m_outputInfos, m_infoColor, message.text);
-        break;
+        return {m_outputInfos, m_infoColor};
     case warningCategory:
-        append(m_outputWarnings, m_warningColor, message.text);
-        break;
+        return {m_outputWarnings, m_warningColor};
     default:
-        append(m_outputErrors, m_errorColor, message.text);
+        return {m_outputErrors, m_errorColor};
     }
 }
 
@@ -281,11 +284,8 @@ void OrvConsole::handleError(const NxError* error, void* console)
     QCoreApplication::postEvent(static_cast<OrvConsole*>(console), message.release());
 }
 
-/// What is filtered out when it arrives is gone for good, and what is shown stays whatever is filtered later.
-void OrvConsole::append(bool isShown, const QColor& color, const QString& text)
+void OrvConsole::append(const QColor& color, const QString& text)
 {
-    if (!isShown)
-        return;
     if (text.size() > longText)
         m_consoleOutput->setWordWrapMode(QTextOption::WrapAnywhere);
     m_consoleOutput->setTextColor(color);
@@ -295,11 +295,15 @@ void OrvConsole::append(bool isShown, const QColor& color, const QString& text)
 void consoleErrorStreamCallback(const char* text, std::streamsize /*count*/, void* userData)
 {
     auto* const console = static_cast<OrvConsole*>(userData);
-    console->append(console->m_outputErrors, console->m_errorColor, QString::fromUtf8(text));
+    const QString shown = QString::fromUtf8(text);
+    if (console->m_outputErrors)
+        console->append(console->m_errorColor, shown);
 }
 
 void consoleOutputStreamCallback(const char* text, std::streamsize /*count*/, void* userData)
 {
     auto* const console = static_cast<OrvConsole*>(userData);
-    console->append(console->m_outputInfos, console->m_infoColor, QString::fromUtf8(text));
+    const QString shown = QString::fromUtf8(text);
+    if (console->m_outputInfos)
+        console->append(console->m_infoColor, shown);
 }

@@ -66,17 +66,24 @@ private:
     friend void consoleOutputStreamCallback(const char* text, std::streamsize count, void* userData);
     static void handleError(const NxError* error, void* console);
 
-    /// A message that arrived and isn't shown yet.
+    /// What becomes of a category's messages. What is filtered out when it arrives is gone for good, and what has
+    /// arrived is shown whatever is filtered later.
+    struct Channel {
+        bool isShown;
+        QColor color;
+    };
+    /// A message that arrived and waits for a turn.
     struct Message {
+        QColor color;
         QString text;
-        std::int32_t category;
     };
 
+    [[nodiscard]] Channel channelOf(std::int32_t category) const;
     void receive(const ConsoleEvent& event);
-    void beginTurn();
+    void startTurn();
     [[nodiscard]] bool turnIsOver() const;
-    void showMessage(const Message& message);
-    void append(bool isShown, const QColor& color, const QString& text);
+    void takeTurn();
+    void append(const QColor& color, const QString& text);
 
     bool m_outputErrors = true;
     bool m_outputInfos = true;
