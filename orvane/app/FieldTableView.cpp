@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 FieldTableView::FieldTableView(QWidget* parent)
     : QTableView(parent)
@@ -31,6 +32,13 @@ void FieldTableView::mousePressEvent(QMouseEvent* event)
     QTableView::mousePressEvent(event);
     if (chosenBefore)
         Q_EMIT currentPressed(pressed);
+}
+
+void FieldTableView::mouseMoveEvent(QMouseEvent* event)
+{
+    // The dock of the field's editor may appear at the press and move other rows under the pointer: they aren't meant.
+    if (event->buttons() == Qt::NoButton)
+        QTableView::mouseMoveEvent(event);
 }
 
 void FieldTableView::keyPressEvent(QKeyEvent* event)

@@ -76,6 +76,20 @@ private Q_SLOTS:
         QCOMPARE(selected.size(), 2);
     }
 
+    void choosesNoOtherFieldWhileTheButtonIsHeld()
+    {
+        open(m_robot);
+        clickRow(tree(), tree()->model()->index(1, 0));
+        QWidget* viewport = table()->viewport();
+        const auto middle = [&](int row) { return table()->visualRect(table()->model()->index(row, 0)).center(); };
+        QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, middle(0));
+        QMouseEvent move(QEvent::MouseMove, QPointF(middle(2)), viewport->mapToGlobal(QPointF(middle(2))), Qt::NoButton,
+            Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(viewport, &move);
+        QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, middle(2));
+        QCOMPARE(m_session->services().getSelectedField(), sun()->getFields().front());
+    }
+
     void choosesNothingByTakingTheFocus()
     {
         open(m_robot);
