@@ -238,6 +238,8 @@ void measureRowChanges(ListRun& run, int rounds)
 void measureMatrices(ListRun& run, int rounds)
 {
     NxMFMatrix& field = run.host.node->mfMatrix;
+    constexpr int height = 360; // which ten rows fill, so as many are in sight
+    run.host.window.resize(run.host.window.width(), height);
     const auto paintOf = [&run, &field](int rows) {
         return [&run, &field, rows] {
             field.setValues(std::vector<VbMatrix>(static_cast<std::size_t>(rows)));

@@ -22,10 +22,12 @@ bool fits(const QString& text, const QFontMetrics& metrics, int room)
     if (text.size() <= room && text.size() * metrics.maxWidth() <= room
         && std::all_of(text.begin(), text.end(), isAscii))
         return true;
-    // Of a text that is far too long its beginning tells as much: characters are rarely narrower than a pixel.
-    const qsizetype enough = std::max(4 * room, 64);
-    if (text.size() > enough && metrics.horizontalAdvance(text.left(enough)) > 2 * room)
-        return false;
+    // Of a text that is far too long its beginning tells as much.
+    constexpr qsizetype beginning = 64;
+    for (qsizetype size = beginning; size < text.size(); size *= 2) {
+        if (metrics.horizontalAdvance(text.left(size)) > 2 * room)
+            return false;
+    }
     return metrics.horizontalAdvance(text) <= room;
 }
 
@@ -36,17 +38,18 @@ QString orvane::fittingText(const QString& text, const QFontMetrics& metrics, in
     if (text.isEmpty() || fits(text, metrics, room))
         return text;
     const QString dots = QStringLiteral("...");
-    QString shown = dots;
-    for (qsizetype start = 0; start < text.size();) {
-        const qsizetype end = characterEnd(text, start);
-        const QString longer = shown + text.mid(start, end - start);
-        if (metrics.horizontalAdvance(longer) >= room)
-            break;
-        shown = longer;
-        start = end;
+    const auto fitsAhead = [&](qsizetype count) { return metrics.horizontalAdvance(dots + text.left(count)) < room; };
+    // The most characters that fit, looked for among the first 1, 2, 4 … and then by halves: each look shapes a text.
+    qsizetype shown = 0;
+    qsizetype beyond = 1;
+    for (; beyond <= text.size() && fitsAhead(beyond); beyond *= 2)
+        shown = beyond;
+    beyond = std::min(beyond, text.size() + 1);
+    while (beyond - shown > 1) {
+        const qsizetype middle = shown + (beyond - shown) / 2;
+        (fitsAhead(middle) ? shown : beyond) = middle;
     }
-    shown.remove(0, dots.size());
-    if (shown.isEmpty())
-        shown = text.left(characterEnd(text, 0));
-    return shown + dots;
+    if (shown > 0 && shown < text.size() && text.at(shown - 1).isHighSurrogate() && text.at(shown).isLowSurrogate())
+        --shown;
+    return text.left(std::max(shown, characterEnd(text, 0))) + dots;
 }

@@ -12,9 +12,11 @@
 #include "meridane/scene/NxMField.h"
 
 #include <QEvent>
+#include <QFontMetricsF>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QtMath>
 
 // The editor's own sensor speaks late, is attached to refused fields as well, and says nothing of a field's death. The
 // table however reads the field whenever a cell is painted: so this one keeps the pointer to it good.
@@ -306,7 +308,9 @@ void DvMFieldWidget::refreshElementCount()
     if (m_field == nullptr)
         return;
     // One value has the plural as well, and it isn't translated: meant.
-    m_labelNumElement->setText(
-        tr("<p align=\"center\">") + QString::number(m_field->getNum()) + QStringLiteral(" elements") + tr("</p>"));
-    m_labelNumElement->setFixedSize(m_labelNumElement->sizeHint());
+    const QString text = QString::number(m_field->getNum()) + QStringLiteral(" elements");
+    m_labelNumElement->setText(tr("<p align=\"center\">") + text + tr("</p>"));
+    // As the hint of its size would have it, which lays the text out three times.
+    const int width = qCeil(QFontMetricsF(m_labelNumElement->font()).horizontalAdvance(text));
+    m_labelNumElement->setFixedSize(width, m_labelNumElement->heightForWidth(width));
 }
