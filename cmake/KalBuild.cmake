@@ -13,15 +13,15 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 find_program(KAL_CCACHE ccache)
 if(KAL_CCACHE)
   # Precompiled headers are cacheable only when their timestamps are left out of the comparison.
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime"
+  set(CMAKE_CXX_COMPILER_LAUNCHER env "CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime"
                                   "${KAL_CCACHE}")
 endif()
 
-# Linking with lld takes a sixth of the time; without it the compiler's own linker does.
+# Linking with lld takes a sixth of the time; without it the compiler's own linker does. Several run at once anyway.
 include(CheckLinkerFlag)
 check_linker_flag(CXX -fuse-ld=lld KAL_HAS_LLD)
 if(KAL_HAS_LLD)
-  add_link_options(-fuse-ld=lld)
+  add_link_options(-fuse-ld=lld LINKER:--threads=1)
 endif()
 
 # The compiler looks for its own garbage once it holds a gigabyte: earlier costs time, and memory there is enough of.
@@ -72,3 +72,8 @@ target_compile_definitions(
 add_library(kal_qt_header OBJECT "${PROJECT_SOURCE_DIR}/cmake/QtHeader.cpp")
 target_link_libraries(kal_qt_header PRIVATE Qt6::Widgets kal_warnings kal_qt_rules)
 target_precompile_headers(kal_qt_header PRIVATE "${PROJECT_SOURCE_DIR}/cmake/QtHeader.h")
+
+# The same for the libraries without Qt.
+add_library(kal_std_header OBJECT "${PROJECT_SOURCE_DIR}/cmake/StdHeader.cpp")
+target_link_libraries(kal_std_header PRIVATE kal_warnings)
+target_precompile_headers(kal_std_header PRIVATE "${PROJECT_SOURCE_DIR}/cmake/StdHeader.h")

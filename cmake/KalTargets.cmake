@@ -1,7 +1,8 @@
 # The project's ways to declare a target, one function a kind.
 
 # kal_add_library(name [OBJECT|STATIC] [QT] SOURCES … HEADERS … [DEPENDS …] [BASE_DIR dir])
-# A library with its public headers, shared unless told otherwise. QT turns on moc, rcc and the precompiled header.
+# A library with its public headers, shared unless told otherwise. QT turns on moc, rcc and the precompiled header
+# that has Qt in it.
 function(kal_add_library name)
   cmake_parse_arguments(arg "OBJECT;STATIC;QT" "BASE_DIR" "SOURCES;HEADERS;DEPENDS" ${ARGN})
   set(kind SHARED)
@@ -24,6 +25,8 @@ function(kal_add_library name)
   if(arg_QT)
     kal_use_qt(${name})
     target_precompile_headers(${name} REUSE_FROM kal_qt_header)
+  else()
+    target_precompile_headers(${name} REUSE_FROM kal_std_header)
   endif()
 endfunction()
 

@@ -6,7 +6,9 @@ std::string NxReadFailure::text() const
     for (const int number : {line, column}) {
         if (number == 0)
             break;
-        result += (result.empty() ? "" : ":") + std::to_string(number);
+        if (!result.empty())
+            result += ':';
+        result += std::to_string(number);
     }
     return result.empty() ? message : result + ": " + message;
 }
