@@ -43,8 +43,8 @@ constexpr std::array errorClasses{errorClass<NxDebugError>, errorClass<NxError>,
 constexpr qsizetype longText = 10'000;
 
 constexpr auto turnEvent = static_cast<QEvent::Type>(QEvent::User + 1);
-constexpr qint64 longestTurn = 200; // in milliseconds
-constexpr int largestTurn = 2000; // in messages, which the view then takes about half of that time to lay out
+constexpr qint64 longestTurn = 400; // in milliseconds
+constexpr int largestTurn = 2000; // in messages, which the view then takes some tens of milliseconds to lay out
 
 constexpr std::int32_t errorCategory = 0;
 constexpr std::int32_t infoCategory = 1;
@@ -182,7 +182,8 @@ bool OrvConsole::event(QEvent* event)
 }
 
 // The view takes its time for each line. So that many errors at once don't hold up the window, they are shown in turns,
-// and whatever else waits in the event loop comes in between.
+// and whatever else waits in the event loop comes in between. Those that wait are under way as in the event queue,
+// which can't hand them over in parts: nothing is kept once it is shown.
 void OrvConsole::receive(const ConsoleEvent& event)
 {
     // An error may still be under way when the view is gone.
