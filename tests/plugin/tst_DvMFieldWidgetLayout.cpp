@@ -67,6 +67,7 @@ private Q_SLOTS:
     void controlsHaveTheirSizesAndNames();
     void labelIsSetOnce();
     void countIsShownWhole();
+    void countLooksLikeItsRichText();
     void newCountLeavesTheLayoutAlone();
 };
 
@@ -193,6 +194,23 @@ void tst_DvMFieldWidgetLayout::countIsShownWhole()
     list.settle();
     QCOMPARE(count->size(), count->sizeHint());
     QVERIFY(count->height() > none.height());
+}
+
+void tst_DvMFieldWidgetLayout::countLooksLikeItsRichText()
+{
+    ListRun<PlainListEditor> list;
+    NxMFInt32 field(nullptr, "numbers");
+    field.setValues(std::vector<int>(12'345));
+    list.show(field);
+    auto* const count = list.run.find<QLabel>("m_labelNumElement");
+    QLabel bare(count->text());
+    bare.setFont(count->font());
+    bare.resize(count->size());
+    QCOMPARE(count->grab().toImage(), bare.grab().toImage());
+    const QImage before = count->grab().toImage();
+    field.setValues(std::vector<int>(12'346));
+    list.settle();
+    QVERIFY(count->grab().toImage() != before);
 }
 
 void tst_DvMFieldWidgetLayout::newCountLeavesTheLayoutAlone()

@@ -135,7 +135,7 @@ void DvMFieldTable::swapRows(int row1, int row2)
 
 // Rows that came or went are laid out first: otherwise the cells would be painted twice, now and when the table gets
 // round to its layout.
-void DvMFieldTable::repaintCells()
+void DvMFieldTable::update()
 {
     executeDelayedItemsLayout();
     viewport()->update();

@@ -25,8 +25,9 @@ public:
     void setRangeBounded(bool bounded);
     /// Puts a new placeholder into a cell; does nothing where there is no such cell.
     void setPlaceholder(int row, int column);
-    /// Has all cells in sight painted anew, soon.
-    void repaintCells();
+    using QTableWidget::update;
+    /// Has all cells in sight painted anew, soon, and nothing around them: that never tells of the field.
+    void update();
 
     /// Finds nothing: what the user sees doesn't stand in the items.
     void keyboardSearch(const QString& search) override;

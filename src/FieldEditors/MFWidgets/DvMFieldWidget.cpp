@@ -5,18 +5,16 @@
 #include "FieldEditors/IconButton.h"
 #include "FieldEditors/LayoutMetrics.h"
 #include "FieldEditors/MFWidgets/AccessButtonPrivate.h"
+#include "FieldEditors/MFWidgets/CountLabel.h"
 #include "FieldEditors/MFWidgets/DvMFColorTable.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
 #include "meridane/scene/NxFieldSensor.h"
 #include "meridane/scene/NxMField.h"
 
-#include <QEvent>
-#include <QFontMetricsF>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QtMath>
 
 // The editor's own sensor speaks late, is attached to refused fields as well, and says nothing of a field's death. The
 // table however reads the field whenever a cell is painted: so this one keeps the pointer to it good.
@@ -39,22 +37,6 @@ private:
 };
 
 namespace {
-
-// The label of a count has the size of its text, and a fixed one to its layout, as the access box has. Otherwise each
-// new count would have the whole dock laid out and painted anew, which takes longer than to show the row that was
-// added.
-class CountLabel final : public QLabel {
-public:
-    using QLabel::QLabel;
-
-protected:
-    void changeEvent(QEvent* event) override
-    {
-        QLabel::changeEvent(event);
-        if (event->type() == QEvent::FontChange)
-            setFixedSize(sizeHint());
-    }
-};
 
 DvMFieldTable* makeTable(int tableKind, DvMFieldWidget* owner)
 {
@@ -231,7 +213,6 @@ void DvMFieldWidget::updateFromField()
         return;
     m_table->setNumRows(m_field->getNum());
     m_table->update();
-    m_table->repaintCells(); // the table's own update leaves them as they are
     m_ignoreButton->setChecked(m_field->isIgnored());
     refreshElementCount();
 }
@@ -309,8 +290,5 @@ void DvMFieldWidget::refreshElementCount()
         return;
     // One value has the plural as well, and it isn't translated: meant.
     const QString text = QString::number(m_field->getNum()) + QStringLiteral(" elements");
-    m_labelNumElement->setText(tr("<p align=\"center\">") + text + tr("</p>"));
-    // As the hint of its size would have it, which lays the text out three times.
-    const int width = qCeil(QFontMetricsF(m_labelNumElement->font()).horizontalAdvance(text));
-    m_labelNumElement->setFixedSize(width, m_labelNumElement->heightForWidth(width));
+    m_labelNumElement->setLine(text, tr("<p align=\"center\">") + text + tr("</p>"));
 }

@@ -7,6 +7,7 @@
 #include <memory>
 
 class AccessButtonPrivate;
+class CountLabel;
 class DvMFieldTable;
 class NxMField;
 class QGridLayout;
@@ -77,7 +78,7 @@ protected:
     QPushButton* m_deleteButton = nullptr;
     QPushButton* m_addButton = nullptr;
     QLabel* m_label = nullptr;
-    QLabel* m_labelNumElement = nullptr;
+    CountLabel* m_labelNumElement = nullptr;
     DvMFieldTable* m_table = nullptr;
     NxMField* m_field = nullptr;
     QGridLayout* m_globalLayout = nullptr;
