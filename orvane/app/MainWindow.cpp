@@ -40,7 +40,6 @@ namespace {
 
 constexpr QSize firstSize(1280, 800);
 constexpr int treeWidth = 330;
-constexpr int fieldsWidth = 380;
 const QString geometryKey = QStringLiteral("window/geometry");
 const QString stateKey = QStringLiteral("window/state");
 
@@ -162,7 +161,7 @@ void MainWindow::buildDocks()
     fieldsDock->setObjectName(QStringLiteral("fieldsDock"));
     fieldsDock->setWidget(m_fields);
     addDockWidget(Qt::RightDockWidgetArea, fieldsDock);
-    resizeDocks({dock, fieldsDock}, {treeWidth, fieldsWidth}, Qt::Horizontal);
+    resizeDocks({dock, fieldsDock}, {treeWidth, WindowShell::sideDockWidth}, Qt::Horizontal);
     new SelectionLink(m_session.services(), m_tree, m_fields);
     new SelectionStatus(m_session, m_tree, statusBar());
     new ViewLink(m_session, m_view, m_tree, statusBar());

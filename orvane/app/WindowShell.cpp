@@ -9,8 +9,7 @@
 
 namespace {
 
-/// Wide enough for the editors of most fields, and high enough for a column of five buttons.
-constexpr int sideDockWidth = 380;
+/// High enough for a column of five buttons.
 constexpr int bottomDockHeight = 250;
 
 void giveName(QWidget* widget, const QString& title)
@@ -71,20 +70,31 @@ bool WindowShell::eventFilter(QObject* object, QEvent* event)
         return false;
     auto* dock = qobject_cast<QDockWidget*>(object);
     dock->removeEventFilter(this);
-    // The layout takes the dock in behind this event.
+    // The layout takes the dock in behind this event, and widens the docks that are there already for a wide one.
     if (m_unsized.removeOne(dock))
         QMetaObject::invokeMethod(
-            dock, [this, dock] { giveSize(dock); }, Qt::QueuedConnection);
+            dock, [this, dock, width = widthFor(dock)] { giveSize(dock, width); }, Qt::QueuedConnection);
     return false;
 }
 
-void WindowShell::giveSize(QDockWidget* dock)
+// A dock that joins others gets their width, which the user may have chosen.
+int WindowShell::widthFor(QDockWidget* dock) const
+{
+    const Qt::DockWidgetArea area = m_window->dockWidgetArea(dock);
+    for (QDockWidget* const other : m_window->findChildren<QDockWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (other != dock && other->isVisible() && !other->isFloating() && m_window->dockWidgetArea(other) == area)
+            return other->width();
+    }
+    return std::max(sideDockWidth, dock->sizeHint().width());
+}
+
+void WindowShell::giveSize(QDockWidget* dock, int width)
 {
     if (dock->isFloating() || !m_docks.contains(dock))
         return;
     const Qt::DockWidgetArea area = m_window->dockWidgetArea(dock);
     if (area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea)
-        m_window->resizeDocks({dock}, {std::max(sideDockWidth, dock->sizeHint().width())}, Qt::Horizontal);
+        m_window->resizeDocks({dock}, {width}, Qt::Horizontal);
     else
         m_window->resizeDocks({dock}, {bottomDockHeight}, Qt::Vertical);
 }

@@ -17,6 +17,9 @@ class WindowShell : public QObject, public OrvShell {
     Q_OBJECT
 
 public:
+    /// The width, in pixels, that a column of docks starts with: enough for the editors of most fields.
+    static constexpr int sideDockWidth = 410;
+
     explicit WindowShell(QMainWindow* window);
     ~WindowShell() override;
 
@@ -48,7 +51,8 @@ private:
     };
 
     void placeDock(QDockWidget* dock, Qt::DockWidgetArea area);
-    void giveSize(QDockWidget* dock);
+    [[nodiscard]] int widthFor(QDockWidget* dock) const;
+    void giveSize(QDockWidget* dock, int width);
     void forget(QObject* object);
 
     QMainWindow* m_window;

@@ -2,6 +2,8 @@
 #include "orvane/app/WindowShell.h"
 
 #include <QDockWidget>
+#include <QHBoxLayout>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -46,7 +48,29 @@ private Q_SLOTS:
         QCOMPARE(m_dock->objectName(), QStringLiteral("Field Editor"));
         QVERIFY(m_dock->isHidden());
         m_dock->show();
-        QTRY_VERIFY(m_dock->width() >= 380);
+        QTRY_VERIFY(m_dock->width() >= WindowShell::sideDockWidth);
+    }
+
+    void aDockThatJoinsOthersTakesTheirWidth()
+    {
+        QDockWidget other;
+        other.setWidget(new QWidget);
+        m_window->addDockWidget(Qt::RightDockWidgetArea, &other);
+        m_window->show();
+        constexpr int width = 250;
+        m_window->resizeDocks({&other}, {width}, Qt::Horizontal);
+        QTRY_COMPARE(other.width(), width);
+        // The widget would like more than that, but can do with less.
+        auto* row = new QWidget;
+        auto* layout = new QHBoxLayout(row);
+        for (int i = 0; i < 5; ++i)
+            layout->addWidget(new QLineEdit);
+        m_dock->setWidget(row);
+        QVERIFY(row->sizeHint().width() > width);
+        m_shell->addDockWidget(m_dock.get(), Qt::RightDockWidgetArea);
+        m_dock->show();
+        QTRY_COMPARE(m_dock->width(), width);
+        QCOMPARE(other.width(), width);
     }
 
     void leavesARemovedDockWithoutParent()
