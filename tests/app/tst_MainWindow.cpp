@@ -1,11 +1,10 @@
 #include "app/AppScenes.h"
+#include "app/WindowCase.h"
 
 #include "orvane/app/FieldTableView.h"
-#include "orvane/app/MainWindow.h"
 #include "orvane/app/MessageBar.h"
 #include "orvane/app/SceneTreeModel.h"
 #include "orvane/app/SceneTreePanel.h"
-#include "orvane/app/Session.h"
 
 #include "meridane/base/NxError.h"
 #include "meridane/scene/NxField.h"
@@ -18,31 +17,21 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTreeView>
 #include <QUrl>
 
-class TestMainWindow : public QObject {
+class TestMainWindow : public WindowCase {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_robot = m_folder->filePath(QStringLiteral("robot.mrd"));
+        startTool();
+        m_robot = filePath("robot.mrd");
         AppScenes::writeFile(m_robot, AppScenes::robotText);
-        m_settings = m_folder->filePath(QStringLiteral("orvane.ini"));
-        makeWindow();
     }
 
-    void cleanup()
-    {
-        m_window.reset();
-        m_session.reset();
-        QVERIFY(QApplication::topLevelWidgets().isEmpty());
-    }
+    void cleanup() { endTool(); }
 
     void hintsAtWhatToDoWhileNothingIsOpen()
     {
@@ -222,7 +211,7 @@ private Q_SLOTS:
         open(m_robot);
         renameRobot("machine");
         m_session->services().setClean();
-        const QString other = m_folder->filePath(QStringLiteral("other.mrd"));
+        const QString other = filePath("other.mrd");
         if (!content.isEmpty())
             AppScenes::writeFile(other, content);
         QVERIFY(open(other).contains(other));
@@ -277,14 +266,15 @@ private Q_SLOTS:
     {
         m_window.reset();
         m_session.reset();
-        AppScenes::writeFile(m_settings, "what is this\n");
+        const QString settings = filePath("orvane.ini");
+        AppScenes::writeFile(settings, "what is this\n");
         makeWindow();
         QCOMPARE(messages().size(), 1);
-        QVERIFY(messages().front().contains(m_settings));
+        QVERIFY(messages().front().contains(settings));
         QVERIFY(m_window->close());
         m_window.reset();
         m_session.reset();
-        QCOMPARE(AppScenes::readFile(m_settings), QByteArray("what is this\n"));
+        QCOMPARE(AppScenes::readFile(settings), QByteArray("what is this\n"));
     }
 
     void showsToolkitErrorsThatNobodyElseHandles()
@@ -298,7 +288,7 @@ private Q_SLOTS:
     {
         open(m_robot);
         renameRobot("machine");
-        const QString fileName = m_folder->filePath(QStringLiteral("missing/robot.mrd"));
+        const QString fileName = filePath("missing/robot.mrd");
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
         m_window->saveTo(fileName);
         QTRY_COMPARE(settled.size(), 1);
@@ -312,7 +302,7 @@ private Q_SLOTS:
         open(m_robot);
         clickRow(tree(), tree()->model()->index(0, 0));
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
-        m_window->saveTo(m_folder->filePath(QStringLiteral("copy.mrd")));
+        m_window->saveTo(filePath("copy.mrd"));
         QTest::keyClick(tree(), Qt::Key_Delete);
         QCOMPARE(m_window->document().scene()->getNumChildren(), 2);
         QTRY_COMPARE(settled.size(), 1);
@@ -321,24 +311,6 @@ private Q_SLOTS:
     }
 
 private:
-    void makeWindow()
-    {
-        m_window.reset();
-        m_session.reset();
-        m_session = std::make_unique<Session>(AppSettings::Mode::File, m_settings);
-        m_window = std::make_unique<MainWindow>(*m_session);
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    }
-
-    QString open(const QString& fileName)
-    {
-        QSignalSpy settled(m_window.get(), &MainWindow::settled);
-        m_window->openFile(fileName);
-        settled.wait();
-        return settled.isEmpty() ? QStringLiteral("nothing settled") : settled.front().front().toString();
-    }
-
     void renameRobot(const char* name)
     {
         Q_EMIT m_window->findChild<SceneTreePanel*>()->model()->renameRequested(robot(), QLatin1String(name));
@@ -357,11 +329,7 @@ private:
     NxGroup* robot() { return dynamic_cast<NxGroup*>(m_window->document().scene()->getChild(0)); }
     NxNode* sun() { return m_window->document().scene()->getChild(1); }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     QString m_robot;
-    QString m_settings;
-    std::unique_ptr<Session> m_session;
-    std::unique_ptr<MainWindow> m_window;
 };
 
 QTEST_MAIN(TestMainWindow)

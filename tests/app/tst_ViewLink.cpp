@@ -1,11 +1,10 @@
 #include "app/ViewScenes.h"
+#include "app/WindowCase.h"
 
-#include "orvane/app/MainWindow.h"
 #include "orvane/app/MessageBar.h"
 #include "orvane/app/SceneCameras.h"
 #include "orvane/app/SceneTreePanel.h"
 #include "orvane/app/SceneView.h"
-#include "orvane/app/Session.h"
 
 #include "meridane/scene/NxCamera.h"
 
@@ -14,34 +13,27 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <cmath>
 #include <limits>
 
-class TestViewLink : public QObject {
+class TestViewLink : public WindowCase {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_squares = m_folder->filePath(QStringLiteral("two squares.mrd"));
+        startTool();
+        m_squares = filePath("two squares.mrd");
         AppScenes::writeFile(m_squares, ViewScenes::squaresText);
-        m_settings = m_folder->filePath(QStringLiteral("orvane.ini"));
-        makeWindow();
-        open(m_squares);
+        QCOMPARE(open(m_squares), QString());
         QTRY_VERIFY(view()->drawing().isStarted());
     }
 
     void cleanup()
     {
-        m_window.reset();
-        m_session.reset();
         qunsetenv("ORVANE_VIEW");
-        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+        endTool();
     }
 
     void standsInTheMiddleOfTheWindow()
@@ -183,14 +175,14 @@ private Q_SLOTS:
         QTest::keyClick(view(), Qt::Key_Left);
         QTest::keyClick(view(), Qt::Key_Plus);
         const NxViewpoint mine = view()->viewpoint();
-        const QString other = m_folder->filePath(QStringLiteral("other.mrd"));
+        const QString other = filePath("other.mrd");
         AppScenes::writeFile(other, ViewScenes::squaresText);
-        open(other);
+        QCOMPARE(open(other), QString());
         QVERIFY(!(view()->viewpoint() == mine));
-        open(m_squares);
+        QCOMPARE(open(m_squares), QString());
         QCOMPARE(view()->viewpoint(), mine);
         makeWindow();
-        open(m_squares);
+        QCOMPARE(open(m_squares), QString());
         QCOMPARE(view()->viewpoint(), mine);
     }
 
@@ -233,7 +225,7 @@ private Q_SLOTS:
     {
         qputenv("ORVANE_VIEW", "0");
         makeWindow();
-        open(m_squares);
+        QCOMPARE(open(m_squares), QString());
         QTRY_VERIFY(m_window->findChild<QLabel*>(QStringLiteral("viewMessage")) != nullptr);
         m_window->selectPath(QStringLiteral("/right/greenSquare"));
         QCOMPARE(m_session->services().getSelectedNode(), greenSquare());
@@ -244,24 +236,6 @@ private Q_SLOTS:
     }
 
 private:
-    void makeWindow()
-    {
-        m_window.reset();
-        m_session.reset();
-        m_session = std::make_unique<Session>(AppSettings::Mode::File, m_settings);
-        m_window = std::make_unique<MainWindow>(*m_session);
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    }
-
-    void open(const QString& fileName)
-    {
-        QSignalSpy settled(m_window.get(), &MainWindow::settled);
-        m_window->openFile(fileName);
-        QVERIFY(settled.wait());
-        QCOMPARE(settled.front().front().toString(), QString());
-    }
-
     void lookAhead()
     {
         view()->lookAlong(VbVec3f(0, 0, -1), VbVec3f(0, 1, 0));
@@ -309,11 +283,7 @@ private:
     SceneTreePanel* tree() { return m_window->findChild<SceneTreePanel*>(); }
     NxNode* greenSquare() { return m_window->document().scene()->getChild(2)->getChildren()[1]; }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     QString m_squares;
-    QString m_settings;
-    std::unique_ptr<Session> m_session;
-    std::unique_ptr<MainWindow> m_window;
 };
 
 QTEST_MAIN(TestViewLink)
