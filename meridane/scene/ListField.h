@@ -57,6 +57,13 @@ public:
         m_values = std::move(values);
         touch();
     }
+    /// Hands all values over without a copy, leaves the list empty and tells the observers once.
+    [[nodiscard]] std::vector<Value> takeValues()
+    {
+        std::vector<Value> values = std::exchange(m_values, {});
+        touch();
+        return values;
+    }
 
     void get1(int index, VbString& text) const override;
     void deleteValues(int start, int count) override;

@@ -3,8 +3,10 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <algorithm>
 #include <csignal>
-#include <new>
+#include <exception>
+#include <utility>
 
 namespace {
 
@@ -94,22 +96,38 @@ std::size_t HelperProcess::pendingInput() const
 
 std::string HelperProcess::takeOutput()
 {
-    return std::move(m_output);
+    return std::exchange(m_output, {});
+}
+
+void HelperProcess::expectOutput(std::size_t size)
+{
+    try {
+        m_output.reserve(std::min(size, m_options.outputLimit));
+    } catch (const std::exception&) {
+        // Perhaps it promises more than it has.
+    }
 }
 
 void HelperProcess::takeOutputOfProcess()
 {
     m_patience.start();
+    const std::size_t before = m_output.size();
     try {
-        const QByteArray bytes = m_process.readAllStandardOutput();
-        m_output.append(bytes.data(), static_cast<std::size_t>(bytes.size()));
-    } catch (const std::bad_alloc&) {
+        while (const qint64 available = m_process.bytesAvailable()) {
+            const std::size_t size = m_output.size();
+            m_output.resize(size + static_cast<std::size_t>(available));
+            const qint64 count = m_process.read(m_output.data() + size, available);
+            m_output.resize(size + static_cast<std::size_t>(std::max<qint64>(count, 0)));
+        }
+    } catch (const std::exception&) { // for want of memory, or of length
         fail(QStringLiteral("what the import helper wrote doesn't fit in memory"));
         return;
     }
     if (m_output.size() > m_options.outputLimit)
         fail(QStringLiteral("the import helper wrote more than %1 MiB and was stopped")
                  .arg(m_options.outputLimit >> 20));
+    else if (m_output.size() > before)
+        Q_EMIT outputGrew();
 }
 
 void HelperProcess::takeMessagesOfProcess()

@@ -48,12 +48,19 @@ public:
     /// How many bytes wait to be read by the process.
     [[nodiscard]] std::size_t pendingInput() const;
 
-    /// What the process has written so far, at `ended` all of it.
+    /// What the process has written since the last `takeOutput`.
+    [[nodiscard]] const std::string& output() const noexcept { return m_output; }
+    /// Makes room for that much output in all. What is more than may be written or doesn't fit in memory is found when
+    /// it arrives.
+    void expectOutput(std::size_t size);
+    /// Hands over what the process has written so far, at `ended` all of it.
     [[nodiscard]] std::string takeOutput();
 
 Q_SIGNALS:
     /// The process took some of what was written to it.
     void inputTaken();
+    /// The process wrote something.
+    void outputGrew();
     /// The process ended by itself and says that all is well.
     void ended();
     /// Why there will be no result. `byHelper` tells that the text is the helper's own message, which names the file.

@@ -2,6 +2,7 @@
 
 #include "orvane/app/SliceClock.h"
 #include "orvane/app/TextConversion.h"
+#include "orvane/import/PackedScene.h"
 
 #include "meridane/base/NxReadError.h"
 
@@ -9,9 +10,13 @@
 
 ImportJob::ImportJob(const QString& fileName, const HelperOptions& options)
     : SceneJob(fileName)
-    , m_helper(options, {QStringLiteral("--read"), QFileInfo(fileName).absoluteFilePath()})
+    , m_helper(options, {QStringLiteral("--packed"), QStringLiteral("--read"), QFileInfo(fileName).absoluteFilePath()})
 {
-    connect(&m_helper, &HelperProcess::ended, this, &ImportJob::readScene);
+    connect(&m_helper, &HelperProcess::outputGrew, this, &ImportJob::lookAtOutput);
+    connect(&m_helper, &HelperProcess::ended, this, [this] {
+        m_helperEnded = true;
+        m_reader ? finishWhenAllIsDone() : readScene();
+    });
     connect(&m_helper, &HelperProcess::failed, this, [this](const QString& reason, bool byHelper) {
         fail(byHelper ? reason : QStringLiteral("%1: %2").arg(this->fileName(), reason));
     });
@@ -34,29 +39,58 @@ void ImportJob::cancel()
     QMetaObject::invokeMethod(this, &FileJob::cancelled, Qt::QueuedConnection);
 }
 
+void ImportJob::lookAtOutput()
+{
+    if (m_reader) {
+        failForNoScene(QStringLiteral("there are bytes behind its end"));
+        return;
+    }
+    // Bytes that tell no size aren't a packed scene; that is told when the helper ends, if it has no message of its
+    // own.
+    const std::optional<std::size_t> size = orvane::packedSceneSize(m_helper.output());
+    if (size && m_helper.output().size() < *size)
+        m_helper.expectOutput(*size);
+    else if (size)
+        readScene();
+}
+
 void ImportJob::readScene()
 {
-    m_reader = std::make_unique<NxSceneReader>(m_helper.takeOutput(), std::string());
+    m_reader = std::make_unique<orvane::PackedSceneReader>(m_helper.takeOutput());
     m_slices.start(0);
 }
 
 void ImportJob::readSlice()
 {
+    using State = orvane::PackedSceneReader::State;
     switch (m_reader->step(SliceClock::length)) {
-    case NxSceneReader::State::Working:
+    case State::Working:
         Q_EMIT progressed(m_reader->progress());
         break;
-    case NxSceneReader::State::Done:
-        setScene(m_reader->takeScene());
-        end();
-        Q_EMIT progressed(1);
-        Q_EMIT finished();
+    case State::Done:
+        m_slices.stop();
+        finishWhenAllIsDone();
         break;
-    case NxSceneReader::State::Failed:
-        fail(QStringLiteral("%1: the import helper gave something that is no scene: %2")
-                 .arg(fileName(), orvane::toQString(m_reader->failure().text())));
+    case State::Failed:
+        failForNoScene(orvane::toQString(m_reader->failure()));
         break;
     }
+}
+
+void ImportJob::finishWhenAllIsDone()
+{
+    // A helper that ends badly may have written anything.
+    if (!m_helperEnded || m_reader->state() != orvane::PackedSceneReader::State::Done)
+        return;
+    setScene(m_reader->takeScene());
+    end();
+    Q_EMIT progressed(1);
+    Q_EMIT finished();
+}
+
+void ImportJob::failForNoScene(const QString& reason)
+{
+    fail(QStringLiteral("%1: the import helper gave something that is no scene: %2").arg(fileName(), reason));
 }
 
 void ImportJob::fail(const QString& message)

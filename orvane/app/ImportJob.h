@@ -2,15 +2,15 @@
 
 #include "orvane/app/FileJob.h"
 #include "orvane/app/HelperProcess.h"
-
-#include "meridane/scene/NxSceneReader.h"
+#include "orvane/import/PackedSceneReader.h"
 
 #include <QTimer>
 
 #include <memory>
 
-/// Reads a foreign model: the import helper turns it into the text of a scene, which is read in slices. The paths of
-/// textures in the scene are relative to the folder of the model. A failure is posted as an `NxReadError` too.
+/// Reads a foreign model: the import helper turns it into a packed scene, which is read in slices as soon as it is
+/// there as a whole, while the helper ends. The paths of textures in the scene are relative to the folder of the model.
+/// A failure is posted as an `NxReadError` too.
 class ImportJob : public SceneJob {
     Q_OBJECT
 
@@ -22,13 +22,17 @@ public:
     void cancel() override;
 
 private:
+    void lookAtOutput();
     void readScene();
     void readSlice();
+    void finishWhenAllIsDone();
+    void failForNoScene(const QString& reason);
     void fail(const QString& message);
     void end();
 
     HelperProcess m_helper;
-    std::unique_ptr<NxSceneReader> m_reader;
+    std::unique_ptr<orvane::PackedSceneReader> m_reader;
     QTimer m_slices;
+    bool m_helperEnded = false;
     bool m_ended = false;
 };

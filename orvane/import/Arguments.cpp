@@ -48,7 +48,9 @@ std::size_t* numberOf(std::string_view option, Arguments& arguments)
 
 const char* usage() noexcept
 {
-    return "Usage: orvane-import --read FILE            write the model as a scene to standard output\n"
+    return "Usage: orvane-import --read FILE            write the model as a scene to standard output,\n"
+           "                     [--packed]             with its long lists as they lie in memory, for a tool of\n"
+           "                                            the same build\n"
            "       orvane-import --write EXTENSION      read a scene from standard input and write the model,\n"
            "                     [--name NAME]          as framed files, to standard output\n"
            "       orvane-import --formats              list the extensions that are read and written\n"
@@ -73,6 +75,10 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
             ++tasks;
             continue;
         }
+        if (option == "--packed") {
+            arguments.packed = true;
+            continue;
+        }
         std::string* const value = valueOf(option, arguments);
         std::size_t* const number = numberOf(option, arguments);
         if (value == nullptr && number == nullptr) {
@@ -93,6 +99,10 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
     }
     if (tasks != 1) {
         error = "one of --read, --write, --formats and --locks is needed";
+        return std::nullopt;
+    }
+    if (arguments.packed && arguments.task != Arguments::Task::Read) {
+        error = "--packed goes with --read only";
         return std::nullopt;
     }
     return arguments;

@@ -15,6 +15,8 @@ struct Arguments {
     Task task = Task::Help;
     /// Read: the path of the model. Write: the extension that names the format.
     std::string subject;
+    /// Read: whether the scene goes out packed (see `PackedScene`) rather than as text.
+    bool packed = false;
     /// Write: the name of the model's files without extension.
     std::string name = "model";
     ProcessLimits limits;

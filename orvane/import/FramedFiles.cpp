@@ -1,7 +1,8 @@
 #include "orvane/import/FramedFiles.h"
 
+#include "orvane/import/Frames.h"
+
 #include <algorithm>
-#include <charconv>
 
 namespace orvane {
 namespace {
@@ -16,29 +17,16 @@ bool isPlainName(std::string_view name)
         && std::none_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; });
 }
 
-bool takeStart(std::string_view& bytes, std::string_view start)
-{
-    if (!bytes.starts_with(start))
-        return false;
-    bytes.remove_prefix(start.size());
-    return true;
-}
-
 std::optional<NamedFile> takeFile(std::string_view& bytes)
 {
-    const std::size_t lineEnd = bytes.find('\n');
-    if (!takeStart(bytes, fileWord) || lineEnd == std::string_view::npos)
+    std::optional<std::string_view> line = takeLine(bytes);
+    if (!line || !takeStart(*line, fileWord))
         return std::nullopt;
-    const std::string_view line = bytes.substr(0, lineEnd - fileWord.size());
-    bytes.remove_prefix(line.size() + 1);
-
-    std::size_t size = 0;
-    const auto [behind, error] = std::from_chars(line.data(), line.data() + line.size(), size);
-    const auto digits = static_cast<std::size_t>(behind - line.data());
-    if (error != std::errc() || digits >= line.size() || line[digits] != ' ' || size > bytes.size())
+    const std::optional<std::size_t> size = takeNumber(*line);
+    if (!size || !takeStart(*line, " ") || *size > bytes.size())
         return std::nullopt;
-    NamedFile file{std::string(line.substr(digits + 1)), std::string(bytes.substr(0, size))};
-    bytes.remove_prefix(size);
+    NamedFile file{std::string(*line), std::string(bytes.substr(0, *size))};
+    bytes.remove_prefix(*size);
     return file;
 }
 

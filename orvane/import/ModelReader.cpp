@@ -40,17 +40,23 @@ std::string failureText(const std::string& path, const Assimp::Importer& importe
 
 } // namespace
 
-NxRef<NxGroup> readModel(const std::string& path, std::string& error)
+ModelReader::ModelReader()
+    : m_importer(std::make_unique<Assimp::Importer>())
+{
+}
+
+ModelReader::~ModelReader() = default;
+
+NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
 {
     // The library has one message for all that can be wrong with a file; the toolkit tells them apart.
     if (const std::optional<std::string> failure = meridane::FileReader().open(path)) {
         error = *failure;
         return {};
     }
-    Assimp::Importer importer;
-    const aiScene* model = importer.ReadFile(path, steps);
+    const aiScene* model = m_importer->ReadFile(path, steps);
     if (model == nullptr || model->mRootNode == nullptr) {
-        error = path + ": " + failureText(path, importer);
+        error = path + ": " + failureText(path, *m_importer);
         return {};
     }
     NxRef<NxGroup> scene = SceneBuilder(*model, std::filesystem::path(path).filename().string()).build(error);

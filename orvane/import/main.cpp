@@ -4,13 +4,17 @@
 #include "orvane/import/ModelFormats.h"
 #include "orvane/import/ModelReader.h"
 #include "orvane/import/ModelWriter.h"
+#include "orvane/import/PackedScene.h"
+#include "orvane/import/Sanitizer.h"
 
 #include "meridane/scene/NxSceneReader.h"
 #include "meridane/scene/NxSceneWriter.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <limits>
@@ -65,25 +69,43 @@ bool readAll(std::string& bytes, std::string& error)
     }
 }
 
-int readModel(const std::string& path)
+bool writeText(NxGroup& scene, std::string& error)
 {
-    std::string error;
-    const NxRef<NxGroup> scene = orvane::readModel(path, error);
-    if (!scene)
-        return fail(error);
-    NxSceneWriter writer(scene.get());
+    NxSceneWriter writer(&scene);
     std::string text;
     bool more = true;
-    // Short, so that the tool takes one part in while the next one is made.
-    constexpr std::chrono::milliseconds slice(2);
     while (more) {
-        more = writer.step(text, slice);
+        more = writer.step(text, std::chrono::milliseconds(2));
         if (!writeAll(text, error))
-            return fail(error);
+            return false;
         text.clear();
     }
-    if (!writer.failure().empty())
-        return fail(writer.failure());
+    error = writer.failure();
+    return error.empty();
+}
+
+bool writePacked(NxGroup& scene, std::string& error)
+{
+    const orvane::PackedScene packed(scene);
+    error = packed.failure();
+    if (!error.empty())
+        return false;
+    const std::vector<std::string_view> portions = packed.portions();
+    return std::all_of(
+        portions.begin(), portions.end(), [&](std::string_view portion) { return writeAll(portion, error); });
+}
+
+int readModel(const std::string& path, bool packed)
+{
+    std::string error;
+    orvane::ModelReader reader;
+    const NxRef<NxGroup> scene = reader.read(path, error);
+    if (!scene || !(packed ? writePacked(*scene, error) : writeText(*scene, error)))
+        return fail(error);
+    // The end of the process gives all memory back at once, which takes less time than doing so bit by bit. Only the
+    // search for leaks needs that.
+    if constexpr (!orvane::isSanitized())
+        std::_Exit(Success);
     return Success;
 }
 
@@ -144,7 +166,7 @@ int run(const Arguments& arguments, const orvane::Locks& locks)
 {
     switch (arguments.task) {
     case Arguments::Task::Read:
-        return readModel(arguments.subject);
+        return readModel(arguments.subject, arguments.packed);
     case Arguments::Task::Write:
         return writeModel(arguments.subject, arguments.name);
     case Arguments::Task::Formats:

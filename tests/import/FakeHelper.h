@@ -17,3 +17,17 @@ inline HelperOptions fakeHelper(const QTemporaryDir& folder, const QByteArray& s
     }
     return options;
 }
+
+/// A command of such a script that writes the head of a packed scene which has no lists and a text of that size.
+inline QByteArray packedHead(qsizetype textSize)
+{
+    const QByteArray head = "text " + QByteArray::number(textSize) + '\n';
+    return "printf 'orvane-scene 1 " + QByteArray::number(head.size() + textSize) + "\\ntext "
+        + QByteArray::number(textSize) + "\\n'";
+}
+
+/// A command that writes a packed scene which has no lists and that text, without a quote or a backslash in it.
+inline QByteArray packedText(const QByteArray& text)
+{
+    return packedHead(text.size()) + "; printf '%s' '" + text + '\'';
+}

@@ -158,8 +158,9 @@ void tst_HelperFaults::chatterTakesNoMemoryOfTheTool()
 void tst_HelperFaults::oneThatKeepsTheToolWaitingIsStopped_data()
 {
     QTest::addColumn<QByteArray>("script");
-    QTest::newRow("a whole scene, then nothing") << QByteArray("echo '#mrd 1.0'; exec sleep 1000");
-    QTest::newRow("half a scene, then nothing") << QByteArray("echo '#mrd 1.0'; echo 'Group {'; exec sleep 1000");
+    QTest::newRow("a whole scene, then nothing") << packedText("#mrd 1.0\n") + "; exec sleep 1000";
+    QTest::newRow("half a scene, then nothing")
+        << packedHead(1000) + "; echo '#mrd 1.0'; echo 'Group {'; exec sleep 1000";
     QTest::newRow("no output any more") << QByteArray("exec >&-; exec sleep 1000");
     QTest::newRow("messages without end") << QByteArray("while true; do echo busy >&2; sleep 0.05; done");
 }

@@ -5,6 +5,7 @@
 #include "orvane/app/ImportJob.h"
 
 #include "meridane/base/NxReadError.h"
+#include "meridane/scene/NxSceneWriter.h"
 
 #include <QTest>
 
@@ -35,7 +36,10 @@ private Q_SLOTS:
     void cleanupTestCase();
 
     void aModelArrivesAsAScene();
+    void itIsTheSceneThatTheHelperTellsAsText_data();
+    void itIsTheSceneThatTheHelperTellsAsText();
     void theSceneIsGivenOnce();
+    void aSceneIsReadWhileTheHelperEnds();
     void progressIsUnknownUntilTheSceneIsRead();
     void aPathMayHoldAnyCharacter();
     void theHelpersMessageIsTheJobs();
@@ -96,6 +100,59 @@ void tst_ImportJob::aModelArrivesAsAScene()
     QCOMPARE(scene->getChild(1)->getName(), VbString("stack"));
 }
 
+void tst_ImportJob::itIsTheSceneThatTheHelperTellsAsText_data()
+{
+    QTest::addColumn<QString>("fileName");
+    QTest::newRow("short lists") << modelFile("crate.glb");
+    // A strip of triangles.
+    QByteArray model;
+    for (int index = 0; index < 1000; ++index)
+        model += "v 0." + QByteArray::number(index) + ' ' + QByteArray::number(index) + " -0\n";
+    for (int index = 1; index < 998; ++index)
+        model += "f " + QByteArray::number(index) + ' ' + QByteArray::number(index + 1) + ' '
+            + QByteArray::number(index + 2) + '\n';
+    const QString fileName = m_folder.filePath(QStringLiteral("strip.obj"));
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(model) == model.size());
+    QTest::newRow("long lists") << fileName;
+}
+
+void tst_ImportJob::itIsTheSceneThatTheHelperTellsAsText()
+{
+    QFETCH(QString, fileName);
+    const HelperRun run = runHelper({QStringLiteral("--read"), fileName});
+    QCOMPARE(run.status, 0);
+    ImportJob job(fileName, realHelper());
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    const NxRef<NxGroup> scene = job.takeScene();
+    QVERIFY(scene);
+    QVERIFY(NxSceneWriter::toText(scene.get()) == run.output);
+}
+
+void tst_ImportJob::aSceneIsReadWhileTheHelperEnds()
+{
+    const QString readFile = m_folder.filePath(QStringLiteral("read"));
+    ImportJob job(QStringLiteral("box.obj"),
+        fakeHelper(m_folder,
+            packedHead(9 + 10 * 100000) + "; echo '#mrd 1.0'; yes 'Group { }' | head -n 100000; while [ ! -e '"
+                + QFile::encodeName(readFile) + "' ]; do sleep 0.01; done"));
+    const JobRecord record(job);
+    // The helper doesn't end ahead of the first slice.
+    connect(&job, &FileJob::progressed, this, [&](double share) {
+        QFile file(readFile);
+        QVERIFY(share == -1 || file.open(QIODevice::WriteOnly));
+    });
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.message(), QString());
+    QCOMPARE(record.finished, 1);
+    const NxRef<NxGroup> scene = job.takeScene();
+    QVERIFY(scene);
+    QCOMPARE(scene->getNumChildren(), 100000);
+}
+
 void tst_ImportJob::theSceneIsGivenOnce()
 {
     ImportJob job(modelFile("crate.obj"), realHelper());
@@ -151,14 +208,27 @@ void tst_ImportJob::everyFailureOfTheHelperIsOneMessage_data()
     QTest::newRow("garbage") << QByteArray("echo garbage") << noScene;
     QTest::newRow("nothing") << QByteArray("exit 0") << noScene;
     QTest::newRow("zeros") << QByteArray("head -c 100000 /dev/zero") << noScene;
-    QTest::newRow("a newer format") << QByteArray("echo '#mrd 9.0'") << noScene;
+    QTest::newRow("a newer way of packing") << QByteArray("echo 'orvane-scene 2 0'") << noScene;
+    QTest::newRow("a scene that isn't packed") << QByteArray("echo '#mrd 1.0'") << noScene;
+    QTest::newRow("a newer format") << packedText("#mrd 9.0\n") << noScene;
     QTest::newRow("nodes in nodes without end")
-        << QByteArray("echo '#mrd 1.0'; yes 'Group {' | head -n 1000000") << noScene;
-    QTest::newRow("half a scene") << QByteArray("printf '#mrd 1.0\\nGroup {\\n  Mesh {'") << noScene;
-    QTest::newRow("half a scene, then a crash") << QByteArray("printf '#mrd 1.0\\nGroup {\\n'; kill -SEGV $$")
+        << packedHead(9 + 8 * 1000000) + "; echo '#mrd 1.0'; yes 'Group {' | head -n 1000000" << noScene;
+    QTest::newRow("half a scene") << packedText("#mrd 1.0\nGroup {\n  Mesh {") << noScene;
+    QTest::newRow("what is no scene, then nothing") << packedText("#mrd 1.0\nGroup {") + "; exec sleep 1000" << noScene;
+    QTest::newRow("half a packed scene") << packedHead(1000) + "; echo '#mrd 1.0'" << noScene;
+    QTest::newRow("more than it tells ahead") << packedText("#mrd 1.0\n") + "; echo" << noScene;
+    QTest::newRow("more than it tells ahead, after a while")
+        << packedText("#mrd 1.0\n") + "; sleep 0.2; echo" << noScene;
+    QTest::newRow("far less than it tells ahead")
+        << QByteArray("echo 'orvane-scene 1 18446744073709551000'") << noScene;
+    QTest::newRow("half a scene, then a crash") << packedHead(1000) + "; printf '#mrd 1.0\\nGroup {'; kill -SEGV $$"
                                                 << QStringLiteral("the import helper crashed with signal 11");
-    QTest::newRow("a whole scene, then a failure") << QByteArray(
-        "printf '#mrd 1.0\\n'; exit 1") << QStringLiteral("the import helper ended with status 1 and didn't say why");
+    QTest::newRow("a whole scene, then a crash")
+        << packedText("#mrd 1.0\n") + "; kill -SEGV $$" << QStringLiteral("the import helper crashed with signal 11");
+    QTest::newRow("a whole scene, a while, then a crash") << packedText("#mrd 1.0\n") + "; sleep 0.2; kill -SEGV $$"
+                                                          << QStringLiteral("the import helper crashed with signal 11");
+    QTest::newRow("a whole scene, then a failure") << packedText("#mrd 1.0\n")
+            + "; exit 1" << QStringLiteral("the import helper ended with status 1 and didn't say why");
     QTest::newRow("aborted") << QByteArray("kill -ABRT $$")
                              << QStringLiteral("the import helper crashed with signal 6");
     QTest::newRow("killed") << QByteArray("kill -KILL $$")
@@ -252,7 +322,8 @@ void tst_ImportJob::cancelKillsTheHelper()
 
 void tst_ImportJob::cancelWhileTheSceneIsReadDropsIt()
 {
-    ImportJob job(QStringLiteral("box.obj"), fakeHelper(m_folder, "echo '#mrd 1.0'; yes 'Group { }' | head -n 300000"));
+    ImportJob job(QStringLiteral("box.obj"),
+        fakeHelper(m_folder, packedHead(9 + 10 * 300000) + "; echo '#mrd 1.0'; yes 'Group { }' | head -n 300000"));
     const JobRecord record(job);
     connect(&job, &FileJob::progressed, this, [&] {
         if (record.shares.size() > 1)

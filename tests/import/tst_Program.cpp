@@ -1,7 +1,10 @@
 #include "import/Gltf.h"
 #include "import/HelperRun.h"
+#include "import/PackedBytes.h"
 
 #include "orvane/import/ProcessLimits.h"
+
+#include "meridane/scene/NxSceneWriter.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -16,6 +19,7 @@ class tst_Program : public QObject {
 private Q_SLOTS:
     void itListsItsFormats();
     void itTellsHowItIsUsed();
+    void aModelIsPackedWhenAsked();
     void unusableArgumentsGiveStatusTwo_data();
     void unusableArgumentsGiveStatusTwo();
     void anUnusableEnvironmentGivesStatusTwo();
@@ -55,6 +59,32 @@ void tst_Program::itTellsHowItIsUsed()
     QVERIFY(run.output.starts_with("Usage: orvane-import --read FILE"));
 }
 
+void tst_Program::aModelIsPackedWhenAsked()
+{
+    // A fan of triangles, with lists that are long enough.
+    QByteArray model("v 0 0 0\n");
+    for (int index = 0; index < 200; ++index)
+        model += "v 1 0.1 " + QByteArray::number(index) + '\n';
+    for (int index = 2; index <= 200; ++index)
+        model += "f 1 " + QByteArray::number(index) + ' ' + QByteArray::number(index + 1) + '\n';
+    const QString fileName = m_folder.filePath(QStringLiteral("fan.obj"));
+    QVERIFY(writeFile(fileName, model));
+    const HelperRun text = runHelper({QStringLiteral("--read"), fileName});
+    QCOMPARE(text.status, 0);
+    for (const QStringList& arguments : {QStringList{QStringLiteral("--read"), fileName, QStringLiteral("--packed")},
+             QStringList{QStringLiteral("--packed"), QStringLiteral("--read"), fileName}}) {
+        const HelperRun packed = runHelper(arguments);
+        QCOMPARE(packed.status, 0);
+        QCOMPARE(packed.error, QString());
+        QVERIFY(packed.output.size() < text.output.size());
+        QVERIFY(packed.output.find("\nlist ") != std::string::npos);
+        std::string failure;
+        const NxRef<NxGroup> scene = unpack(packed.output, failure);
+        QVERIFY2(scene, failure.c_str());
+        QVERIFY(NxSceneWriter::toText(scene.get()) == text.output);
+    }
+}
+
 void tst_Program::unusableArgumentsGiveStatusTwo_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -67,6 +97,10 @@ void tst_Program::unusableArgumentsGiveStatusTwo_data()
     QTest::newRow("unknown") << QStringList{QStringLiteral("--fly")}
                              << QStringLiteral("unknown argument \"--fly\"") + end;
     QTest::newRow("no value") << QStringList{QStringLiteral("--read")} << QStringLiteral("--read needs a value") + end;
+    const QString alone = QStringLiteral("--packed goes with --read only") + end;
+    QTest::newRow("packed writing") << QStringList{QStringLiteral("--packed"), QStringLiteral("--write"),
+        QStringLiteral("obj")} << alone;
+    QTest::newRow("packed formats") << QStringList{QStringLiteral("--formats"), QStringLiteral("--packed")} << alone;
     QTest::newRow("no number") << QStringList{QStringLiteral("--formats"), QStringLiteral("--memory"),
         QStringLiteral("1x")} << QStringLiteral("--memory needs a whole number, not \"1x\"") + end;
     QTest::newRow("number too large") << QStringList{QStringLiteral("--formats"), QStringLiteral("--memory"),

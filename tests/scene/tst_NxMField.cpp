@@ -335,6 +335,12 @@ void tst_NxMField::bulkValuesAreContiguous()
     QVERIFY(field.getValues().data() == data);
     QCOMPARE(notifications.take(), 1);
     QVERIFY(field.valueBytes() >= 3 * sizeof(float));
+
+    const std::vector<float> taken = field.takeValues();
+    QVERIFY(taken.data() == data);
+    QCOMPARE(taken.size(), std::size_t{3});
+    QCOMPARE(field.getNum(), 0);
+    QCOMPARE(notifications.take(), 1);
 }
 
 void tst_NxMField::typedRowsOutOfRangeAreRefused()

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "orvane/import/PackedScene.h"
+#include "orvane/import/PackedSceneReader.h"
+
+#include "meridane/scene/NxSceneReader.h"
+
+#include <string>
+#include <vector>
+
+/// The bytes of a packed scene, whose long lists go with them; empty for a scene that can't be told.
+inline std::string pack(NxGroup& scene)
+{
+    const orvane::PackedScene packed(scene);
+    std::string bytes;
+    if (packed.failure().empty()) {
+        for (const std::string_view portion : packed.portions())
+            bytes += portion;
+    }
+    return bytes;
+}
+
+/// A scene from its bytes; null with the reason in `failure` for bytes that are none.
+inline NxRef<NxGroup> unpack(const std::string& bytes, std::string& failure)
+{
+    orvane::PackedSceneReader reader(bytes);
+    reader.run();
+    failure = reader.failure();
+    return reader.takeScene();
+}
+
+/// A scene from its text; null for a text that is none.
+inline NxRef<NxGroup> sceneOf(const std::string& text)
+{
+    NxSceneReader reader(text, "scene");
+    reader.run();
+    return reader.takeScene();
+}
+
+/// That many values, all different.
+template <typename Value>
+std::vector<Value> numbers(int count)
+{
+    std::vector<Value> values(static_cast<std::size_t>(count));
+    int number = 0;
+    for (Value& value : values) {
+        for (std::size_t component = 0; component < Value::count; ++component)
+            value[component] = static_cast<typename Value::Component>(++number) / 7;
+    }
+    return values;
+}
