@@ -33,7 +33,10 @@ SceneTreePanel::SceneTreePanel(QWidget* parent)
     m_view->setTextElideMode(Qt::ElideMiddle);
     m_view->header()->setSectionResizeMode(SceneTreeModel::NameColumn, QHeaderView::Interactive);
     m_view->header()->setStretchLastSection(true);
-    m_view->header()->resizeSection(SceneTreeModel::NameColumn, fontMetrics().averageCharWidth() * 30);
+    // Scenes are deep, and the names of classes short: so there is as much room for the name as they leave.
+    constexpr int indentation = 14;
+    m_view->setIndentation(indentation);
+    m_view->header()->resizeSection(SceneTreeModel::NameColumn, fontMetrics().averageCharWidth() * 32);
     // Not the current index: a view that gets the focus makes its first row current by itself, which chooses nothing.
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         [this] { Q_EMIT currentChanged(currentNode()); });
