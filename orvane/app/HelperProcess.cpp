@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QProcessEnvironment>
 
 #include <algorithm>
 #include <csignal>
@@ -15,6 +16,19 @@ QString helperProgram(const HelperOptions& options)
     return options.program.isEmpty()
         ? QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("orvane-import"))
         : options.program;
+}
+
+// The import library takes and gives back blocks of a few bytes by the hundred thousand: it is faster by a twentieth
+// when the C library keeps more of them at hand. That can be told from outside only. What the user has set comes behind
+// and so prevails.
+QProcessEnvironment helperEnvironment()
+{
+    const QString name = QStringLiteral("GLIBC_TUNABLES");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const QString others = environment.value(name);
+    const QString own = QStringLiteral("glibc.malloc.tcache_count=8192");
+    environment.insert(name, others.isEmpty() ? own : own + QLatin1Char(':') + others);
+    return environment;
 }
 
 constexpr qsizetype longestMessage = 2000;
@@ -66,6 +80,7 @@ void HelperProcess::start()
 {
     m_patience.start();
     m_deadline.start();
+    m_process.setProcessEnvironment(helperEnvironment());
     m_process.start(
         m_options.program, QStringList{QStringLiteral("--memory"), QString::number(m_options.memoryMiB)} + m_arguments);
 }

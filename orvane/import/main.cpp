@@ -1,31 +1,28 @@
 #include "orvane/import/Arguments.h"
 #include "orvane/import/FileRules.h"
+#include "orvane/import/KeptMemory.h"
 #include "orvane/import/Lock.h"
 #include "orvane/import/ModelFormats.h"
 #include "orvane/import/ModelReader.h"
 #include "orvane/import/ModelWriter.h"
 #include "orvane/import/PackedScene.h"
 #include "orvane/import/Sanitizer.h"
+#include "orvane/import/StandardStreams.h"
 
 #include "meridane/scene/NxSceneReader.h"
 #include "meridane/scene/NxSceneWriter.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <exception>
-#include <limits>
-#include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include <fcntl.h>
-#include <malloc.h>
-#include <sys/mman.h>
 #include <unistd.h>
 
 namespace {
@@ -40,37 +37,6 @@ int fail(const std::string& message, Status status = Failure)
     return status;
 }
 
-bool writeAll(std::string_view bytes, std::string& error)
-{
-    while (!bytes.empty()) {
-        const ssize_t written = write(STDOUT_FILENO, bytes.data(), bytes.size());
-        if (written > 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        } else if (errno != EINTR) {
-            error = std::string("standard output: ") + std::strerror(errno);
-            return false;
-        }
-    }
-    return true;
-}
-
-bool readAll(std::string& bytes, std::string& error)
-{
-    constexpr std::size_t portion = std::size_t{1} << 16;
-    for (;;) {
-        const std::size_t size = bytes.size();
-        bytes.resize(size + portion);
-        const ssize_t count = read(STDIN_FILENO, bytes.data() + size, portion);
-        bytes.resize(size + (count > 0 ? static_cast<std::size_t>(count) : 0));
-        if (count == 0)
-            return true;
-        if (count < 0 && errno != EINTR) {
-            error = std::string("standard input: ") + std::strerror(errno);
-            return false;
-        }
-    }
-}
-
 bool writeText(NxGroup& scene, std::string& error)
 {
     NxSceneWriter writer(&scene);
@@ -78,7 +44,7 @@ bool writeText(NxGroup& scene, std::string& error)
     bool more = true;
     while (more) {
         more = writer.step(text, std::chrono::milliseconds(2));
-        if (!writeAll(text, error))
+        if (!orvane::writeAll(text, error))
             return false;
         text.clear();
     }
@@ -94,7 +60,7 @@ bool writePacked(NxGroup& scene, std::string& error)
         return false;
     const std::vector<std::string_view> portions = packed.portions();
     return std::all_of(
-        portions.begin(), portions.end(), [&](std::string_view portion) { return writeAll(portion, error); });
+        portions.begin(), portions.end(), [&](std::string_view portion) { return orvane::writeAll(portion, error); });
 }
 
 int readModel(const std::string& path, bool packed)
@@ -117,7 +83,7 @@ int writeModel(const std::string& extension, const std::string& name)
     std::string error;
     if (orvane::exportFormat(extension).empty())
         return fail(name + "." + extension + ": models of this format can't be written");
-    if (!readAll(text, error))
+    if (!orvane::readAll(text, error))
         return fail(error);
     NxSceneReader reader(std::move(text), "standard input");
     if (reader.run() != NxSceneReader::State::Done)
@@ -125,40 +91,18 @@ int writeModel(const std::string& extension, const std::string& name)
     const std::vector<orvane::NamedFile> files = orvane::writeModel(*reader.takeScene(), extension, name, error);
     if (files.empty())
         return fail(name + "." + extension + ": " + error);
-    bool good = writeAll(orvane::framedFilesStart(), error);
+    bool good = orvane::writeAll(orvane::framedFilesStart(), error);
     for (const orvane::NamedFile& file : files)
-        good = good && writeAll(orvane::framedFileHeader(file.name, file.bytes.size()), error)
-            && writeAll(file.bytes, error);
-    good = good && writeAll(orvane::framedFilesEnd(), error);
+        good = good && orvane::writeAll(orvane::framedFileHeader(file.name, file.bytes.size()), error)
+            && orvane::writeAll(file.bytes, error);
+    good = good && orvane::writeAll(orvane::framedFilesEnd(), error);
     return good ? Success : fail(error);
-}
-
-/// Reading a model takes much memory for short times. It is kept for the next time, since to hand it back and have it
-/// given anew, page by page, takes a sixth of the time, and the first of it comes in large pages, which takes another
-/// sixth. Where little may be taken, it isn't taken ahead. A sanitizer has a heap of its own.
-void keepMemory(const orvane::ProcessLimits& limits)
-{
-    constexpr std::size_t enough = 1024; // MiB
-    if (orvane::isSanitized() || (limits.memoryMiB != 0 && limits.memoryMiB < enough))
-        return;
-    constexpr int largestOwnBlock = 32 << 20; // more is always handed back
-    constexpr int stock = 256 << 20; // of addresses; memory follows with its use
-    mallopt(M_MMAP_THRESHOLD, largestOwnBlock);
-    mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
-    mallopt(M_TOP_PAD, stock);
-    // A block that is larger than the heap at first brings the stock. It keeps what lies ahead of the first large page,
-    // of which nothing is used.
-    constexpr std::size_t largePage = std::size_t{2} << 20;
-    void* const block = std::malloc(largePage);
-    const std::size_t ahead = largePage - reinterpret_cast<std::uintptr_t>(block) % largePage;
-    static char* const start = static_cast<char*>(std::realloc(block, ahead));
-    madvise(start + ahead, stock, MADV_HUGEPAGE);
 }
 
 int printText(const std::string& text)
 {
     std::string error;
-    return writeAll(text, error) ? Success : fail(error);
+    return orvane::writeAll(text, error) ? Success : fail(error);
 }
 
 int listFormats()
@@ -198,7 +142,7 @@ int main(int argc, char** argv)
     const std::optional<Arguments> arguments = orvane::parseArguments(texts.subspan(argc > 0 ? 1 : 0), error);
     if (!arguments)
         return fail(error + "; --help tells how it is used", BadArguments);
-    keepMemory(arguments->limits);
+    orvane::keepMemory(arguments->limits);
     orvane::applyLimits(arguments->limits);
     const bool reads = arguments->task == Arguments::Task::Read;
     // A large pipe, where the system grants it, keeps the tool from holding up the writing.

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void theHelpersMessageIsTheJobs();
     void everyFailureOfTheHelperIsOneMessage_data();
     void everyFailureOfTheHelperIsOneMessage();
+    void settingsOfTheUsersHeapGoOnToTheHelper();
     void aMissingHelperIsReported();
     void aStoppedHelperIsKilled();
     void aHelperThatNeverEndsIsStopped();
@@ -250,6 +251,19 @@ void tst_ImportJob::everyFailureOfTheHelperIsOneMessage()
     QVERIFY(!record.message().contains(QLatin1Char('\n')));
     QVERIFY(!job.takeScene());
     QCOMPARE(m_errors, 1);
+}
+
+void tst_ImportJob::settingsOfTheUsersHeapGoOnToTheHelper()
+{
+    qputenv("GLIBC_TUNABLES", "glibc.malloc.check=1:glibc.malloc.tcache_count=3");
+    ImportJob job(QStringLiteral("box.obj"), fakeHelper(m_folder, "echo \"$GLIBC_TUNABLES\" >&2; exit 1"));
+    const JobRecord record(job);
+    job.start();
+    qunsetenv("GLIBC_TUNABLES");
+    QVERIFY(record.waitForEnd());
+    // The last one counts.
+    QVERIFY2(record.message().endsWith(QStringLiteral(":glibc.malloc.check=1:glibc.malloc.tcache_count=3")),
+        qPrintable(record.message()));
 }
 
 void tst_ImportJob::aMissingHelperIsReported()

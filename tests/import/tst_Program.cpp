@@ -19,6 +19,7 @@ class tst_Program : public QObject {
 private Q_SLOTS:
     void itListsItsFormats();
     void itTellsHowItIsUsed();
+    void aModelIsPackedWhenAsked_data();
     void aModelIsPackedWhenAsked();
     void unusableArgumentsGiveStatusTwo_data();
     void unusableArgumentsGiveStatusTwo();
@@ -59,14 +60,28 @@ void tst_Program::itTellsHowItIsUsed()
     QVERIFY(run.output.starts_with("Usage: orvane-import --read FILE"));
 }
 
+void tst_Program::aModelIsPackedWhenAsked_data()
+{
+    QTest::addColumn<int>("meshes");
+    QTest::newRow("one mesh") << 1;
+    QTest::newRow("many meshes, with more bytes than a pipe holds") << 300;
+}
+
 void tst_Program::aModelIsPackedWhenAsked()
 {
-    // A fan of triangles, with lists that are long enough.
-    QByteArray model("v 0 0 0\n");
-    for (int index = 0; index < 200; ++index)
-        model += "v 1 0.1 " + QByteArray::number(index) + '\n';
-    for (int index = 2; index <= 200; ++index)
-        model += "f 1 " + QByteArray::number(index) + ' ' + QByteArray::number(index + 1) + '\n';
+    QFETCH(int, meshes);
+    // Fans of triangles, with lists that are long enough.
+    QByteArray model;
+    int corner = 1;
+    for (int mesh = 0; mesh < meshes; ++mesh) {
+        model += "o fan" + QByteArray::number(mesh) + "\nv 0 0 " + QByteArray::number(mesh) + '\n';
+        for (int index = 0; index < 200; ++index)
+            model += "v 1 0.1 " + QByteArray::number(index) + '\n';
+        for (int index = 1; index < 200; ++index)
+            model += "f " + QByteArray::number(corner) + ' ' + QByteArray::number(corner + index) + ' '
+                + QByteArray::number(corner + index + 1) + '\n';
+        corner += 201;
+    }
     const QString fileName = m_folder.filePath(QStringLiteral("fan.obj"));
     QVERIFY(writeFile(fileName, model));
     const HelperRun text = runHelper({QStringLiteral("--read"), fileName});

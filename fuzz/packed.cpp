@@ -1,0 +1,34 @@
+// Packed scenes, from behind their first line, which tells the number of bytes: what is accepted is packed into bytes
+// that give the same scene again.
+
+#include "Fuzz.h"
+
+#include "orvane/import/PackedScene.h"
+#include "orvane/import/PackedSceneReader.h"
+
+#include "meridane/scene/NxSceneWriter.h"
+
+#include <string>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count)
+{
+    using orvane::PackedSceneReader;
+    PackedSceneReader reader(
+        std::string("orvane-scene 1 ").append(std::to_string(count)).append("\n").append(fuzz::toText(bytes, count)));
+    if (reader.run() != PackedSceneReader::State::Done) {
+        fuzz::check(!reader.failure().empty(), "refused bytes have a message");
+        fuzz::check(reader.failure().find('\n') == std::string::npos, "the message is one line");
+        return 0;
+    }
+    const NxRef<NxGroup> scene = reader.takeScene();
+    const std::string text = NxSceneWriter::toText(scene.get());
+    const orvane::PackedScene packed(*scene);
+    fuzz::check(packed.failure().empty(), "what was read is packed");
+    std::string again;
+    for (const std::string_view portion : packed.portions())
+        again += portion;
+    PackedSceneReader second(again);
+    fuzz::check(second.run() == PackedSceneReader::State::Done, "what was packed is read");
+    fuzz::check(NxSceneWriter::toText(second.takeScene().get()) == text, "it is the same scene");
+    return 0;
+}
