@@ -112,7 +112,8 @@ bool LiveTool::start(const QStringList& arguments)
     xdotool(
         {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
             QStringLiteral("Orvane"), QStringLiteral("windowactivate"), QStringLiteral("--sync")});
-    return true;
+    // By then it has also heard where the window manager put it, and so tells the right places.
+    return becomes(QStringLiteral("mainWindow"), QStringLiteral("isActiveWindow"));
 }
 
 QStringList LiveTool::settingsArguments() const
@@ -164,6 +165,14 @@ QRect LiveTool::item(const QString& view, const QString& text)
 QString LiveTool::property(const QString& name, const QString& key)
 {
     return ask(QStringLiteral("property %1 %2").arg(name, key));
+}
+
+bool LiveTool::becomes(const QString& name, const QString& key)
+{
+    const bool became = QTest::qWaitFor([&] { return property(name, key) == QLatin1String("true"); }, patience);
+    if (!became)
+        qWarning("'%s' of '%s' isn't true.", qPrintable(key), qPrintable(name));
+    return became;
 }
 
 bool LiveTool::isShown(const QString& name)

@@ -28,6 +28,8 @@ public:
     [[nodiscard]] QRect widget(const QString& name);
     [[nodiscard]] QRect item(const QString& view, const QString& text);
     [[nodiscard]] QString property(const QString& name, const QString& key);
+    /// Waits until a property is true.
+    [[nodiscard]] bool becomes(const QString& name, const QString& key);
     /// Whether a widget of that name is seen now.
     [[nodiscard]] bool isShown(const QString& name);
     [[nodiscard]] QString action(const QString& text);

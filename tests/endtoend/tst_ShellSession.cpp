@@ -40,7 +40,8 @@ private:
     void openFromTheMenu(const QString& name)
     {
         m_tool->key(QStringLiteral("ctrl+o"));
-        QVERIFY(!m_tool->widget(QStringLiteral("fileNameEdit")).isEmpty());
+        // Keys go to the main window until the dialog has the focus.
+        QVERIFY(m_tool->becomes(QStringLiteral("fileNameEdit"), QStringLiteral("focus")));
         m_tool->type(m_folder.filePath(name));
         m_tool->key(QStringLiteral("Return"));
     }
