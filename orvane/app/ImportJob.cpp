@@ -15,7 +15,10 @@ ImportJob::ImportJob(const QString& fileName, const HelperOptions& options)
     connect(&m_helper, &HelperProcess::outputGrew, this, &ImportJob::lookAtOutput);
     connect(&m_helper, &HelperProcess::ended, this, [this] {
         m_helperEnded = true;
-        m_reader ? finishWhenAllIsDone() : readScene();
+        if (m_reader)
+            finishWhenAllIsDone();
+        else
+            readScene();
     });
     connect(&m_helper, &HelperProcess::failed, this, [this](const QString& reason, bool byHelper) {
         fail(byHelper ? reason : QStringLiteral("%1: %2").arg(this->fileName(), reason));

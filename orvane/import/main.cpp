@@ -41,9 +41,11 @@ bool writeText(NxGroup& scene, std::string& error)
 {
     NxSceneWriter writer(&scene);
     std::string text;
+    // In portions, so that the text of a large scene needn't fit in memory as a whole.
+    constexpr std::chrono::milliseconds portion(2);
     bool more = true;
     while (more) {
-        more = writer.step(text, std::chrono::milliseconds(2));
+        more = writer.step(text, portion);
         if (!orvane::writeAll(text, error))
             return false;
         text.clear();

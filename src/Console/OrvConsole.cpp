@@ -293,18 +293,19 @@ void OrvConsole::append(const QColor& color, const QString& text)
     m_consoleOutput->append(text);
 }
 
+void OrvConsole::appendStreamed(std::int32_t category, const char* text)
+{
+    const Channel channel = channelOf(category);
+    if (channel.isShown)
+        append(channel.color, QString::fromUtf8(text));
+}
+
 void consoleErrorStreamCallback(const char* text, std::streamsize /*count*/, void* userData)
 {
-    auto* const console = static_cast<OrvConsole*>(userData);
-    const QString shown = QString::fromUtf8(text);
-    if (console->m_outputErrors)
-        console->append(console->m_errorColor, shown);
+    static_cast<OrvConsole*>(userData)->appendStreamed(errorCategory, text);
 }
 
 void consoleOutputStreamCallback(const char* text, std::streamsize /*count*/, void* userData)
 {
-    auto* const console = static_cast<OrvConsole*>(userData);
-    const QString shown = QString::fromUtf8(text);
-    if (console->m_outputInfos)
-        console->append(console->m_infoColor, shown);
+    static_cast<OrvConsole*>(userData)->appendStreamed(infoCategory, text);
 }

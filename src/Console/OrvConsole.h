@@ -83,6 +83,7 @@ private:
     void startTurn();
     [[nodiscard]] bool turnIsOver() const;
     void takeTurn();
+    void appendStreamed(std::int32_t category, const char* text);
     void append(const QColor& color, const QString& text);
 
     bool m_outputErrors = true;

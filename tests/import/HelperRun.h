@@ -1,6 +1,6 @@
 #pragma once
 
-#include "meridane/scene/NxSceneReader.h"
+#include "import/SceneOf.h"
 
 #include <QProcess>
 #include <QString>
@@ -39,15 +39,6 @@ inline HelperRun runHelper(const QStringList& arguments, const std::string& inpu
     run.output = process.readAllStandardOutput().toStdString();
     run.error = QString::fromUtf8(process.readAllStandardError());
     return run;
-}
-
-/// A scene from its text; null with the reason in `error` for a text that is none.
-inline NxRef<NxGroup> sceneOf(const std::string& text, std::string& error)
-{
-    NxSceneReader reader(text, "scene");
-    reader.run();
-    error = reader.failure().text();
-    return reader.takeScene();
 }
 
 /// A file of the models that the tests come with.

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "import/SceneOf.h"
+
 #include "orvane/import/PackedScene.h"
 #include "orvane/import/PackedSceneReader.h"
-
-#include "meridane/scene/NxSceneReader.h"
 
 #include <string>
 #include <vector>
@@ -26,14 +26,6 @@ inline NxRef<NxGroup> unpack(const std::string& bytes, std::string& failure)
     orvane::PackedSceneReader reader(bytes);
     reader.run();
     failure = reader.failure();
-    return reader.takeScene();
-}
-
-/// A scene from its text; null for a text that is none.
-inline NxRef<NxGroup> sceneOf(const std::string& text)
-{
-    NxSceneReader reader(text, "scene");
-    reader.run();
     return reader.takeScene();
 }
 

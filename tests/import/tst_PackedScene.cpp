@@ -165,10 +165,12 @@ void tst_PackedScene::anEmptySceneIsPacked()
 
 void tst_PackedScene::aNodeInSeveralPlacesKeepsItsLists()
 {
+    std::string failure;
     const NxRef<NxGroup> scene
         = sceneOf("#mrd 1.0\nGroup {\n Switch {\n Group as \"g\" {\n Mesh \"m\" {}\n }\n use \"m\" }\n use \"g\"\n"
-                  "Transform { Mesh \"last\" {} use \"m\" }\n}\nuse \"m\"\nMesh \"end\" {}\n");
-    QVERIFY(scene);
+                  "Transform { Mesh \"last\" {} use \"m\" }\n}\nuse \"m\"\nMesh \"end\" {}\n",
+            failure);
+    QVERIFY2(scene, failure.c_str());
     // Each gets another number of positions.
     orvane::NodeOrder order(*scene);
     int meshes = 0;
@@ -178,7 +180,6 @@ void tst_PackedScene::aNodeInSeveralPlacesKeepsItsLists()
     }
     QCOMPARE(meshes, 3);
     const std::string text = NxSceneWriter::toText(scene.get());
-    std::string failure;
     const NxRef<NxGroup> result = unpack(pack(*scene), failure);
     QVERIFY2(result, failure.c_str());
     QCOMPARE(NxSceneWriter::toText(result.get()), text);
@@ -186,10 +187,12 @@ void tst_PackedScene::aNodeInSeveralPlacesKeepsItsLists()
 
 void tst_PackedScene::nodesOfUnknownClassesAreCounted()
 {
+    std::string failure;
     const NxRef<NxGroup> scene
         = sceneOf("#mrd 1.0\nStrange {\n x = 1\n Stranger \"s\" {}\n Mesh \"a\" {} use \"s\"\n}\n"
-                  "Mesh \"b\" {}\n");
-    QVERIFY(scene);
+                  "Mesh \"b\" {}\n",
+            failure);
+    QVERIFY2(scene, failure.c_str());
     orvane::NodeOrder order(*scene);
     int count = 100;
     while (NxNode* node = order.next()) {
@@ -197,7 +200,6 @@ void tst_PackedScene::nodesOfUnknownClassesAreCounted()
             mesh->indices.setValues(std::vector<int>(static_cast<std::size_t>(count++), 5));
     }
     const std::string text = NxSceneWriter::toText(scene.get());
-    std::string failure;
     const NxRef<NxGroup> result = unpack(pack(*scene), failure);
     QVERIFY2(result, failure.c_str());
     QCOMPARE(NxSceneWriter::toText(result.get()), text);

@@ -176,15 +176,15 @@ void tst_PackedSceneReader::damagedBytesAreRefused()
 
 void tst_PackedSceneReader::bytesThatAreCutAnywhereAreRefused()
 {
-    const NxRef<NxGroup> scene = sceneOf("#mrd 1.0\nGroup { Mesh \"a\" {} }\nMesh \"b\" { indices = [1] }\n");
-    QVERIFY(scene);
+    std::string failure;
+    const NxRef<NxGroup> scene = sceneOf("#mrd 1.0\nGroup { Mesh \"a\" {} }\nMesh \"b\" { indices = [1] }\n", failure);
+    QVERIFY2(scene, failure.c_str());
     orvane::NodeOrder order(*scene);
     while (NxNode* node = order.next()) {
         if (auto* mesh = dynamic_cast<NxMesh*>(node))
             mesh->positions.setValues(numbers<VbVec3f>(64));
     }
     const std::string bytes = pack(*scene);
-    std::string failure;
     QVERIFY(unpack(bytes, failure));
     for (std::size_t size = 0; size < bytes.size(); ++size) {
         QVERIFY2(!unpack(bytes.substr(0, size), failure), std::to_string(size).c_str());
