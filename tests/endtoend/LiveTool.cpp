@@ -61,7 +61,17 @@ bool LiveTool::startServer()
     // Without a window manager nobody would give the window the keyboard.
     m_windowManager.setProcessEnvironment(m_environment);
     m_windowManager.start(QStringLiteral("openbox"), {QStringLiteral("--config-file"), QStringLiteral("/dev/null")});
-    return m_windowManager.waitForStarted(patience);
+    // Until it answers, no window can be activated.
+    return m_windowManager.waitForStarted(patience)
+        && QTest::qWaitFor([this] { return windowManagerAnswers(); }, patience);
+}
+
+bool LiveTool::windowManagerAnswers() const
+{
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.start(QStringLiteral("xdotool"), {QStringLiteral("get_desktop")});
+    return process.waitForFinished(patience) && process.exitCode() == 0;
 }
 
 bool LiveTool::acceptProbe(int listener)
@@ -75,7 +85,7 @@ bool LiveTool::acceptProbe(int listener)
 bool LiveTool::start(const QStringList& arguments)
 {
     if (!startServer()) {
-        qWarning("Xvfb doesn't start.");
+        qWarning("Xvfb or openbox doesn't start.");
         return false;
     }
     const QByteArray path = m_folder.filePath(QStringLiteral("probe")).toLocal8Bit();
