@@ -58,12 +58,25 @@ bool LiveTool::startServer()
     m_environment.insert(
         QStringLiteral("DISPLAY"), u':' + QString::fromLatin1(m_server.readAllStandardOutput().trimmed()));
     m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-    // Without a window manager nobody would give the window the keyboard.
+    return startWindowManager();
+}
+
+// Without a window manager nobody would give the window the keyboard, and until it answers no window can be activated.
+// Now and then one doesn't come up, and another one does.
+bool LiveTool::startWindowManager()
+{
+    constexpr int attempts = 6;
     m_windowManager.setProcessEnvironment(m_environment);
-    m_windowManager.start(QStringLiteral("openbox"), {QStringLiteral("--config-file"), QStringLiteral("/dev/null")});
-    // Until it answers, no window can be activated.
-    return m_windowManager.waitForStarted(patience)
-        && QTest::qWaitFor([this] { return windowManagerAnswers(); }, patience);
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        m_windowManager.start(
+            QStringLiteral("openbox"), {QStringLiteral("--config-file"), QStringLiteral("/dev/null")});
+        if (QTest::qWaitFor([this] { return windowManagerAnswers(); }, patience / attempts))
+            return true;
+        qWarning("openbox doesn't answer: %s", m_windowManager.readAllStandardError().constData());
+        m_windowManager.kill();
+        m_windowManager.waitForFinished();
+    }
+    return false;
 }
 
 bool LiveTool::windowManagerAnswers() const

@@ -58,6 +58,7 @@ private:
     [[nodiscard]] QString await(const QString& request);
     void xdotool(const QStringList& arguments);
     [[nodiscard]] bool startServer();
+    [[nodiscard]] bool startWindowManager();
     [[nodiscard]] bool windowManagerAnswers() const;
     [[nodiscard]] bool acceptProbe(int listener);
 
