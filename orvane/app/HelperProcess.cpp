@@ -1,5 +1,7 @@
 #include "orvane/app/HelperProcess.h"
 
+#include "orvane/import/WorkTime.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcessEnvironment>
@@ -40,17 +42,22 @@ QString lastLine(const QByteArray& bytes)
     return lines.isEmpty() ? QString() : lines.last().simplified();
 }
 
+double inSeconds(const QTimer& timer)
+{
+    return std::chrono::duration<double>(timer.intervalAsDuration()).count();
+}
+
 } // namespace
 
-HelperProcess::HelperProcess(const HelperOptions& options, const QStringList& arguments)
+HelperProcess::HelperProcess(const HelperOptions& options, const QStringList& arguments, std::uintmax_t inputSize)
     : m_options(options)
     , m_arguments(arguments)
+    , m_inputSize(inputSize)
 {
     m_options.program = helperProgram(options);
     m_patience.setSingleShot(true);
-    m_patience.setInterval(options.patience);
     m_deadline.setSingleShot(true);
-    m_deadline.setInterval(options.timeLimit);
+    setTimes();
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &HelperProcess::takeOutputOfProcess);
     connect(&m_process, &QProcess::readyReadStandardError, this, &HelperProcess::takeMessagesOfProcess);
     connect(&m_process, &QProcess::finished, this, &HelperProcess::takeEnd);
@@ -61,12 +68,10 @@ HelperProcess::HelperProcess(const HelperOptions& options, const QStringList& ar
         Q_EMIT inputTaken();
     });
     connect(&m_patience, &QTimer::timeout, this, [this] {
-        fail(QStringLiteral("the import helper did nothing for %1 s and was stopped")
-                 .arg(std::chrono::duration<double>(m_options.patience).count()));
+        fail(QStringLiteral("the import helper did nothing for %1 s and was stopped").arg(inSeconds(m_patience)));
     });
     connect(&m_deadline, &QTimer::timeout, this, [this] {
-        fail(QStringLiteral("the import helper wasn't ready after %1 s and was stopped")
-                 .arg(std::chrono::duration<double>(m_options.timeLimit).count()));
+        fail(QStringLiteral("the import helper wasn't ready after %1 s and was stopped").arg(inSeconds(m_deadline)));
     });
 }
 
@@ -81,8 +86,24 @@ void HelperProcess::start()
     m_patience.start();
     m_deadline.start();
     m_process.setProcessEnvironment(helperEnvironment());
-    m_process.start(
-        m_options.program, QStringList{QStringLiteral("--memory"), QString::number(m_options.memoryMiB)} + m_arguments);
+    m_process.start(m_options.program, allArguments());
+}
+
+QStringList HelperProcess::allArguments() const
+{
+    QStringList arguments{QStringLiteral("--parent"), QString::number(QCoreApplication::applicationPid())};
+    if (m_options.memoryMiB)
+        arguments << QStringLiteral("--memory") << QString::number(*m_options.memoryMiB);
+    return arguments + m_arguments;
+}
+
+// A timer that runs begins again.
+void HelperProcess::setTimes()
+{
+    // The processor may have other work, or be waiting for a slow disk.
+    const std::chrono::milliseconds processorTime = orvane::processorTimeFor(m_inputSize);
+    m_patience.setInterval(m_options.patience.value_or(3 * processorTime));
+    m_deadline.setInterval(m_options.timeLimit.value_or(6 * processorTime));
 }
 
 void HelperProcess::kill()
@@ -97,6 +118,8 @@ void HelperProcess::kill()
 void HelperProcess::write(std::string_view bytes)
 {
     m_process.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    m_inputSize += bytes.size();
+    setTimes();
 }
 
 void HelperProcess::closeInput()

@@ -9,6 +9,8 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,12 +18,13 @@
 struct HelperOptions {
     /// The program; empty for the one beside the application.
     QString program;
-    /// Memory that it may take, in MiB.
-    int memoryMiB = 4096;
-    /// How long it may go without taking or giving a byte.
-    std::chrono::milliseconds patience = std::chrono::minutes(2);
-    /// How long it may run.
-    std::chrono::milliseconds timeLimit = std::chrono::minutes(10);
+    /// Memory that it may take, in MiB; nothing for its own default, which the user can set in the environment.
+    std::optional<int> memoryMiB;
+    /// How long it may go without taking or giving a byte; nothing for three times the processor time that it may take
+    /// (see `orvane::processorTimeFor`).
+    std::optional<std::chrono::milliseconds> patience;
+    /// How long it may run after the last byte of its input; nothing for six times that processor time.
+    std::optional<std::chrono::milliseconds> timeLimit;
     /// The most that it may write, in bytes.
     std::size_t outputLimit = std::size_t{4} << 30;
 };
@@ -29,12 +32,14 @@ struct HelperOptions {
 /// The import helper at work: a process that is fed, listened to, watched and, if need be, killed.
 ///
 /// It ends with exactly one of `ended` and `failed`, emitted from the event loop, unless it is destroyed first; then
-/// the process is killed. Thread of the user interface only.
+/// the process is killed. When the tool itself ends, however that ends, the process is killed as well. Thread of the
+/// user interface only.
 class HelperProcess : public QObject {
     Q_OBJECT
 
 public:
-    HelperProcess(const HelperOptions& options, const QStringList& arguments);
+    /// `inputSize` is the number of bytes that the process reads from files.
+    HelperProcess(const HelperOptions& options, const QStringList& arguments, std::uintmax_t inputSize = 0);
     ~HelperProcess() override;
 
     void start();
@@ -73,9 +78,12 @@ private:
     void takeError(QProcess::ProcessError error);
     void fail(const QString& reason, bool byHelper = false);
     [[nodiscard]] QString crashReason(int signal) const;
+    [[nodiscard]] QStringList allArguments() const;
+    void setTimes();
 
     HelperOptions m_options;
     QStringList m_arguments;
+    std::uintmax_t m_inputSize; // of files, and what was written to the process
     QProcess m_process;
     QTimer m_patience;
     QTimer m_deadline;

@@ -3,6 +3,7 @@
 #include "orvane/app/SliceClock.h"
 #include "orvane/app/TextConversion.h"
 #include "orvane/import/PackedScene.h"
+#include "orvane/import/WorkTime.h"
 
 #include "meridane/base/NxReadError.h"
 
@@ -10,7 +11,8 @@
 
 ImportJob::ImportJob(const QString& fileName, const HelperOptions& options)
     : SceneJob(fileName)
-    , m_helper(options, {QStringLiteral("--packed"), QStringLiteral("--read"), QFileInfo(fileName).absoluteFilePath()})
+    , m_helper(options, {QStringLiteral("--packed"), QStringLiteral("--read"), QFileInfo(fileName).absoluteFilePath()},
+          orvane::modelSize(orvane::toStdFileName(fileName)))
 {
     connect(&m_helper, &HelperProcess::outputGrew, this, &ImportJob::lookAtOutput);
     connect(&m_helper, &HelperProcess::ended, this, [this] {

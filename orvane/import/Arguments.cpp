@@ -41,7 +41,9 @@ std::size_t* numberOf(std::string_view option, Arguments& arguments)
 {
     if (option == "--memory")
         return &arguments.limits.memoryMiB;
-    return option == "--processor-time" ? &arguments.limits.processorSeconds : nullptr;
+    if (option == "--processor-time")
+        return &arguments.processorSeconds.emplace();
+    return option == "--parent" ? &arguments.parent : nullptr;
 }
 
 } // namespace
@@ -57,7 +59,10 @@ const char* usage() noexcept
            "       orvane-import --locks                tell which locks hold it on this machine\n"
            "Options: --memory MIB                       memory to take at most, 0 for no limit (default 4096,\n"
            "                                            or what ORVANE_IMPORT_MEMORY says)\n"
-           "         --processor-time SECONDS           processor time to take at most, 0 for no limit (300)\n";
+           "         --processor-time SECONDS           processor time to take at most, 0 for no limit (default 20\n"
+           "                                            and 2 more for each MiB that is read)\n"
+           "         --parent PROCESS                   end when that process ends, which must have started this\n"
+           "                                            one\n";
 }
 
 std::optional<Arguments> parseArguments(std::span<const char* const> texts, std::string& error)

@@ -20,6 +20,10 @@ struct Arguments {
     /// Write: the name of the model's files without extension.
     std::string name = "model";
     ProcessLimits limits;
+    /// Processor time to take at most, 0 for no limit; nothing for what the size of the input allows.
+    std::optional<std::size_t> processorSeconds;
+    /// The process to end with; 0 for none.
+    std::size_t parent = 0;
 };
 
 /// How the helper is called, a few lines.

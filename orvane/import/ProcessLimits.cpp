@@ -2,10 +2,12 @@
 
 #include "orvane/import/Sanitizer.h"
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <new>
 
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -19,13 +21,19 @@ constexpr rlim_t openFiles = 64;
 char outOfMemoryText[128];
 int outOfMemoryLength = 0;
 
-void setLimit(decltype(RLIMIT_AS) resource, rlim_t value)
+void setLimit(decltype(RLIMIT_AS) resource, rlim_t value, rlim_t hardValue)
 {
     rlimit limit{};
     if (getrlimit(resource, &limit) != 0)
         return;
-    limit.rlim_cur = limit.rlim_max = value < limit.rlim_max ? value : limit.rlim_max;
+    limit.rlim_max = std::min(hardValue, limit.rlim_max);
+    limit.rlim_cur = std::min(value, limit.rlim_max);
     setrlimit(resource, &limit);
+}
+
+void setLimit(decltype(RLIMIT_AS) resource, rlim_t value)
+{
+    setLimit(resource, value, value);
 }
 
 // The import library catches std::bad_alloc in some places and goes on with half a model, so nothing is thrown.
@@ -51,8 +59,6 @@ void applyLimits(const ProcessLimits& limits)
     std::set_new_handler(&endOutOfMemory);
     if (limits.memoryMiB != 0 && !isSanitized())
         setLimit(RLIMIT_AS, static_cast<rlim_t>(limits.memoryMiB) << 20);
-    if (limits.processorSeconds != 0)
-        setLimit(RLIMIT_CPU, static_cast<rlim_t>(limits.processorSeconds));
     setLimit(RLIMIT_CORE, 0);
     setLimit(RLIMIT_NOFILE, openFiles);
     if (!isSanitized())
@@ -63,6 +69,20 @@ void applyLimits(const ProcessLimits& limits)
     // A write that is refused is an error like any other, not the death of the process.
     std::signal(SIGXFSZ, SIG_IGN);
     std::signal(SIGPIPE, SIG_IGN);
+}
+
+void limitProcessorTime(std::chrono::seconds time)
+{
+    // At the hard limit the kernel sends SIGKILL instead, which says nothing about the reason.
+    const auto seconds = static_cast<rlim_t>(time.count());
+    if (seconds != 0)
+        setLimit(RLIMIT_CPU, seconds, seconds + 1);
+}
+
+bool endWithParent(pid_t parent)
+{
+    // A parent that ended before the call sends no signal; another process is the parent then.
+    return prctl(PR_SET_PDEATHSIG, SIGKILL, 0, 0, 0) == 0 && getppid() == parent;
 }
 
 } // namespace orvane

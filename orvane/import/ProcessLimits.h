@@ -1,6 +1,9 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
+
+#include <sys/types.h>
 
 /// What the helper allows itself, so that a hostile or broken model harms nobody.
 namespace orvane {
@@ -8,16 +11,21 @@ namespace orvane {
 struct ProcessLimits {
     /// Address space in MiB; 0 for no limit.
     std::size_t memoryMiB = 4096;
-    /// Processor time in seconds; 0 for no limit.
-    std::size_t processorSeconds = 300;
 };
 
 /// Exit status of a process that ran out of the memory it is allowed.
 inline constexpr int outOfMemoryStatus = 3;
 
-/// Sets the limits for the rest of this process: memory, processor time, open
-/// files, no core file, no file written, no process of its own. From here on
-/// an allocation that fails ends the process with `outOfMemoryStatus` and one line on standard error.
+/// Sets the limits for the rest of this process: memory, open files, no core file, no file written, no process of its
+/// own. From here on an allocation that fails ends the process with `outOfMemoryStatus` and one line on standard error.
 void applyLimits(const ProcessLimits& limits);
+
+/// Ends this process with SIGXCPU when it has used that much processor time in all; 0 for no limit.
+void limitProcessorTime(std::chrono::seconds time);
+
+/// Makes the kernel kill this process when the process that started it ends, however that ends. False when that parent
+/// isn't the process `parent` any more: it has ended meanwhile. The kernel watches the thread that started this
+/// process, so that thread must live as long as the result is wanted.
+[[nodiscard]] bool endWithParent(pid_t parent);
 
 } // namespace orvane

@@ -8,6 +8,7 @@
 #include "orvane/import/PackedScene.h"
 #include "orvane/import/Sanitizer.h"
 #include "orvane/import/StandardStreams.h"
+#include "orvane/import/WorkTime.h"
 
 #include "meridane/scene/NxSceneReader.h"
 #include "meridane/scene/NxSceneWriter.h"
@@ -20,6 +21,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <fcntl.h>
@@ -79,15 +81,10 @@ int readModel(const std::string& path, bool packed)
     return Success;
 }
 
-int writeModel(const std::string& extension, const std::string& name)
+int writeModel(const std::string& extension, const std::string& name, std::string sceneText)
 {
-    std::string text;
     std::string error;
-    if (orvane::exportFormat(extension).empty())
-        return fail(name + "." + extension + ": models of this format can't be written");
-    if (!orvane::readAll(text, error))
-        return fail(error);
-    NxSceneReader reader(std::move(text), "standard input");
+    NxSceneReader reader(std::move(sceneText), "standard input");
     if (reader.run() != NxSceneReader::State::Done)
         return fail(reader.failure().text());
     const std::vector<orvane::NamedFile> files = orvane::writeModel(*reader.takeScene(), extension, name, error);
@@ -118,13 +115,33 @@ int listFormats()
     return printText(text + "\n");
 }
 
-int run(const Arguments& arguments, const orvane::Locks& locks)
+// The input is read before the process is locked in, because the time limit depends on its size. Nothing looks at it
+// yet.
+bool readInput(const Arguments& arguments, std::string& input, std::string& error)
+{
+    if (arguments.task != Arguments::Task::Write)
+        return true;
+    if (!orvane::exportFormat(arguments.subject).empty())
+        return orvane::readAll(input, error);
+    error = arguments.name + "." + arguments.subject + ": models of this format can't be written";
+    return false;
+}
+
+std::chrono::seconds processorTime(const Arguments& arguments, const std::string& input)
+{
+    if (arguments.processorSeconds)
+        return std::chrono::seconds(*arguments.processorSeconds);
+    return orvane::processorTimeFor(
+        arguments.task == Arguments::Task::Read ? orvane::modelSize(arguments.subject) : input.size());
+}
+
+int run(const Arguments& arguments, std::string input, const orvane::Locks& locks)
 {
     switch (arguments.task) {
     case Arguments::Task::Read:
         return readModel(arguments.subject, arguments.packed);
     case Arguments::Task::Write:
-        return writeModel(arguments.subject, arguments.name);
+        return writeModel(arguments.subject, arguments.name, std::move(input));
     case Arguments::Task::Formats:
         return listFormats();
     case Arguments::Task::Locks:
@@ -146,6 +163,12 @@ int main(int argc, char** argv)
         return fail(error + "; --help tells how it is used", BadArguments);
     orvane::keepMemory(arguments->limits);
     orvane::applyLimits(arguments->limits);
+    if (arguments->parent != 0 && !orvane::endWithParent(static_cast<pid_t>(arguments->parent)))
+        return fail("the process that started this one has ended");
+    std::string input;
+    if (!readInput(*arguments, input, error))
+        return fail(error);
+    orvane::limitProcessorTime(processorTime(*arguments, input));
     const bool reads = arguments->task == Arguments::Task::Read;
     // A large pipe, where the system grants it, keeps the tool from holding up the writing.
     constexpr int pipeSize = 1 << 20;
@@ -154,7 +177,7 @@ int main(int argc, char** argv)
     const orvane::Locks locks
         = orvane::lockIn(reads ? orvane::foldersOf(arguments->subject) : std::vector<std::string>());
     try {
-        return run(*arguments, locks);
+        return run(*arguments, std::move(input), locks);
     } catch (const std::exception& exception) {
         return fail(std::string("the import library gave up: ") + exception.what());
     }

@@ -46,6 +46,8 @@ private Q_SLOTS:
     void everyFailureOfTheHelperIsOneMessage_data();
     void everyFailureOfTheHelperIsOneMessage();
     void settingsOfTheUsersHeapGoOnToTheHelper();
+    void theHelperIsToldWhomToEndWith();
+    void theUsersMemoryLimitReachesTheHelper();
     void aMissingHelperIsReported();
     void aStoppedHelperIsKilled();
     void aHelperThatNeverEndsIsStopped();
@@ -264,6 +266,37 @@ void tst_ImportJob::settingsOfTheUsersHeapGoOnToTheHelper()
     // The last one counts.
     QVERIFY2(record.message().endsWith(QStringLiteral(":glibc.malloc.check=1:glibc.malloc.tcache_count=3")),
         qPrintable(record.message()));
+}
+
+void tst_ImportJob::theHelperIsToldWhomToEndWith()
+{
+    ImportJob job(m_folder.filePath(QStringLiteral("box.obj")), fakeHelper(m_folder, "echo \"$*\" >&2; exit 1"));
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.message(),
+        QStringLiteral("--parent %1 --packed --read %2/box.obj")
+            .arg(QCoreApplication::applicationPid())
+            .arg(m_folder.path()));
+}
+
+void tst_ImportJob::theUsersMemoryLimitReachesTheHelper()
+{
+#if defined(__SANITIZE_ADDRESS__)
+    QSKIP("the address sanitizer needs more address space than any limit leaves");
+#endif
+    const QString fileName = m_folder.filePath(QStringLiteral("large.obj"));
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray("v 0 0 0\n").repeated(8 << 20)) > 0);
+    file.close();
+    qputenv("ORVANE_IMPORT_MEMORY", "100");
+    ImportJob job(fileName, realHelper());
+    const JobRecord record(job);
+    job.start();
+    qunsetenv("ORVANE_IMPORT_MEMORY");
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.messages,
+        QStringList(QStringLiteral("out of memory: the model needs more than the 100 MiB that it may take")));
 }
 
 void tst_ImportJob::aMissingHelperIsReported()

@@ -30,7 +30,6 @@ private Q_SLOTS:
     void whatCanNotBeWrittenGivesOneLine_data();
     void whatCanNotBeWrittenGivesOneLine();
     void aModelBeyondTheMemoryLimitGivesOneLine();
-    void aModelBeyondTheTimeLimitIsGivenUp();
     void damagedModelsNeverHangOrFlood();
 
 private:
@@ -242,18 +241,6 @@ void tst_Program::aModelBeyondTheMemoryLimitGivesOneLine()
     const HelperRun sameRun = runHelper({QStringLiteral("--read"), fileName});
     qunsetenv("ORVANE_IMPORT_MEMORY");
     QCOMPARE(sameRun.status, orvane::outOfMemoryStatus);
-}
-
-void tst_Program::aModelBeyondTheTimeLimitIsGivenUp()
-{
-    QByteArray model("v 0 0 0\nv 1 0 0\nv 0 1 0\n");
-    for (int index = 0; index < 3000000; ++index)
-        model += "f 1 2 3\n";
-    const QString fileName = m_folder.filePath(QStringLiteral("slow.obj"));
-    QVERIFY(writeFile(fileName, model));
-    const HelperRun run
-        = runHelper({QStringLiteral("--processor-time"), QStringLiteral("1"), QStringLiteral("--read"), fileName});
-    QVERIFY(run.crashed);
 }
 
 void tst_Program::damagedModelsNeverHangOrFlood()
