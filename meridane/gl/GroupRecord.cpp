@@ -1,12 +1,19 @@
 #include "meridane/gl/GroupRecord.h"
 
 #include "meridane/gl/FieldValue.h"
-#include "meridane/gl/Fingerprint.h"
 #include "meridane/scene/NxMatrixTransform.h"
 #include "meridane/scene/NxSwitch.h"
 #include "meridane/scene/NxTransform.h"
 
 namespace meridane {
+namespace {
+
+int choiceOf(const NxSwitch& group)
+{
+    return counting(group.whichChild).getValue();
+}
+
+} // namespace
 
 GroupRecord::GroupRecord(NxGroup& group, NodeRecordListener& listener)
     : NodeRecord(group, NodeKind::Group, listener)
@@ -18,14 +25,11 @@ GroupRecord::GroupRecord(NxGroup& group, NodeRecordListener& listener)
 
 bool GroupRecord::noteChildren()
 {
-    const std::uint64_t revision = NxFieldContainer::getStructureRevision();
-    if (!m_isSwitch && revision == m_revision)
-        return false;
+    const std::uint64_t revision = group().getChildrenRevision();
+    const int choice = m_isSwitch ? choiceOf(static_cast<const NxSwitch&>(group())) : 0;
+    const bool isOther = revision != m_revision || choice != m_choice;
     m_revision = revision;
-    const std::span<NxNode* const> children = shownChildren(group());
-    const std::uint64_t fingerprint = fingerprintOf(std::as_bytes(children));
-    const bool isOther = fingerprint != m_fingerprint;
-    m_fingerprint = fingerprint;
+    m_choice = choice;
     return isOther;
 }
 
@@ -36,7 +40,7 @@ std::span<NxNode* const> shownChildren(const NxGroup& group)
         = group.isOfType(NxSwitch::getClassTypeId()) ? static_cast<const NxSwitch*>(&group) : nullptr;
     if (choice == nullptr)
         return children;
-    const int which = counting(choice->whichChild).getValue();
+    const int which = choiceOf(*choice);
     if (which == NxSwitch::ALL)
         return children;
     if (which < 0 || which >= group.getNumChildren())

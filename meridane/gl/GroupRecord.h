@@ -15,16 +15,15 @@ public:
     [[nodiscard]] NxGroup& group() const noexcept { return static_cast<NxGroup&>(*node()); }
     /// Whether the group may place its children.
     [[nodiscard]] bool isTransform() const noexcept { return m_isTransform; }
-    /// Notes which children count by now; true if they are others than at the latest call. Not exact when nodes died
-    /// meanwhile, since others may have taken their addresses.
+    /// Notes which children count by now; true if they may be others than at the latest call.
     bool noteChildren();
 
     /// The first of the places of the group, which are linked among each other.
     Id firstPlace = noId;
 
 private:
-    std::uint64_t m_fingerprint = 0; // of the children
-    std::uint64_t m_revision = 0; // at that time
+    std::uint64_t m_revision = 0; // of the children at that time
+    int m_choice = 0; // of a switch
     bool m_isTransform;
     bool m_isSwitch;
 };

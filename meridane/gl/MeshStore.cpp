@@ -65,6 +65,12 @@ std::span<const std::byte> bytesOfMesh(const NxMesh& mesh, std::size_t list)
     }
 }
 
+/// Whether the shape of the mesh is that of its lists.
+bool isUpToDate(const MeshRecord& mesh)
+{
+    return mesh.mesh() != nullptr && !mesh.isPending;
+}
+
 } // namespace
 
 MeshStore::~MeshStore()
@@ -130,7 +136,7 @@ MeshStore::Transfer MeshStore::describe(MeshRecord& mesh, std::uint32_t cells)
 
 void MeshStore::request(MeshRecord& mesh, std::uint32_t cells)
 {
-    if (mesh.mesh() == nullptr)
+    if (!isUpToDate(mesh))
         return;
     if (std::exchange(mesh.areLevelsStale, false))
         releaseLevels(mesh);
@@ -146,10 +152,22 @@ void MeshStore::request(MeshRecord& mesh, std::uint32_t cells)
     m_requests.emplace_back(&mesh, cells);
 }
 
+void MeshStore::withdraw(MeshRecord& mesh, std::uint32_t cells)
+{
+    if (cells == 0)
+        mesh.isStale = true;
+    else
+        std::erase_if(mesh.levels, [cells](const MeshLevel& level) { return level.cells == cells; });
+}
+
 void MeshStore::upload(NxDrawingCounts& counts)
 {
     std::vector<Transfer> transfers;
     for (const auto& [mesh, cells] : std::exchange(m_requests, {})) {
+        if (!isUpToDate(*mesh)) {
+            withdraw(*mesh, cells);
+            continue;
+        }
         Transfer transfer = describe(*mesh, cells);
         if (fitsInPlace(transfer)) {
             send(transfer, counts);

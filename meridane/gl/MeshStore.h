@@ -31,7 +31,9 @@ public:
     /// The context must be current, or `forget` have been called.
     ~MeshStore();
 
-    /// Asks for a mesh to be on the card as it is now, with that much detail (see `simplified`), 0 for all.
+    /// Asks for a mesh to be on the GPU as it is now, with that much detail (see `simplified`), 0 for all. Its shape
+    /// must be that of its lists; a mesh that is pending, since it changed after the scene was updated, waits for the
+    /// next picture.
     void request(MeshRecord& mesh, std::uint32_t cells);
     /// Uploads what was asked for.
     void upload(NxDrawingCounts& counts);
@@ -66,6 +68,7 @@ private:
 
     [[nodiscard]] static Transfer describe(MeshRecord& mesh, std::uint32_t cells);
     [[nodiscard]] static std::span<const std::byte> bytesOf(const Transfer& transfer, std::size_t list);
+    static void withdraw(MeshRecord& mesh, std::uint32_t cells);
     void releaseRange(MeshRange& range);
     void releaseLevels(MeshRecord& mesh);
     [[nodiscard]] bool fitsInPlace(const Transfer& transfer) const;

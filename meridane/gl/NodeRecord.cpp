@@ -34,6 +34,13 @@ NodeRecord::NodeRecord(NxNode& node, NodeKind kind, NodeRecordListener& listener
     attach(&node);
 }
 
+void NodeRecord::notify()
+{
+    if (!isPending)
+        m_listener->nodeTouched(*this);
+    NxNodeSensor::notify();
+}
+
 void NodeRecord::dyingReference()
 {
     detach();

@@ -26,7 +26,10 @@ public:
     NodeRecordListener(const NodeRecordListener&) = delete;
     NodeRecordListener& operator=(const NodeRecordListener&) = delete;
 
-    /// From the delay queue: a field, the name or the list of children changed.
+    /// From the call that changes a field, the name or the list of children, unless the record is pending already. It
+    /// must only make a note.
+    virtual void nodeTouched(NodeRecord& record) = 0;
+    /// The same from the delay queue.
     virtual void nodeChanged(NodeRecord& record) = 0;
     /// The node is being destroyed.
     virtual void nodeDied(NodeRecord& record) = 0;
@@ -44,6 +47,7 @@ public:
     /// The node, or null once it is dead.
     [[nodiscard]] NxNode* node() const noexcept { return m_node; }
     [[nodiscard]] NodeKind kind() const noexcept { return m_kind; }
+    void notify() override;
     void dyingReference() override;
 
     /// How many places, meshes and lists of lights need the record.

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace meridane {
@@ -16,13 +17,15 @@ public:
     template <typename Record, typename Node>
     Record& of(Node& node, NodeRecordListener& listener)
     {
-        std::unique_ptr<NodeRecord>& place = m_records[&node];
-        if (!place) {
-            place = std::make_unique<Record>(node, listener);
-            m_bytes += bytesOf(*place);
-            markUnused(*place);
-        }
-        return static_cast<Record&>(*place);
+        const auto known = m_records.find(&node);
+        if (known != m_records.end())
+            return static_cast<Record&>(*known->second);
+        auto made = std::make_unique<Record>(node, listener);
+        Record& record = *made;
+        m_records.emplace(&node, std::move(made));
+        m_bytes += bytesOf(record);
+        markUnused(record);
+        return record;
     }
 
     static void retain(NodeRecord& record) noexcept { ++record.uses; }

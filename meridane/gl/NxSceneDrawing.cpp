@@ -57,7 +57,8 @@ public:
     ImageLoader loader;
     std::function<void()> changeHook;
     NxDrawingCounts counts;
-    std::vector<const NxNode*> selection; // a path, or one node in all its places
+    /// A path, or one node in all its places; held, so that no other node can take the address.
+    std::vector<NxRef<NxNode>> selection;
     bool isSelectionPath = false;
     bool isChangeTold = false;
     std::vector<Id> selectedItems;
@@ -79,8 +80,11 @@ void NxSceneDrawing::Private::updateSelection()
     isSelectionStale = false;
     selectedStructure = scene.structure();
     selectedItems.clear();
-    if (!selection.empty())
-        selectedItems = isSelectionPath ? scene.itemsBelow(selection) : scene.itemsBelow(selection.front());
+    std::vector<const NxNode*> nodes;
+    for (const NxRef<NxNode>& node : selection)
+        nodes.push_back(node.get());
+    if (!nodes.empty())
+        selectedItems = isSelectionPath ? scene.itemsBelow(nodes) : scene.itemsBelow(nodes.front());
 }
 
 // Lines as wide as a point of the screen, as far as the context has them.
@@ -131,7 +135,7 @@ void NxSceneDrawing::setSelectedNode(NxNode* node)
 {
     m_private->selection.clear();
     if (node != nullptr)
-        m_private->selection.push_back(node);
+        m_private->selection.emplace_back(node);
     m_private->isSelectionPath = false;
     m_private->isSelectionStale = true;
     m_private->noteChange();

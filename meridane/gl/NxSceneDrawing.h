@@ -17,9 +17,10 @@ struct NxImage;
 
 /// Draws a scene with OpenGL 3.3 and follows its changes.
 ///
-/// The scene is watched through sensors, so a change is seen from the next pass of the delay queue on. Of what changed,
-/// only that goes to the card again. Thread of the user interface only; the context that the functions belong to must
-/// be current in the constructor, in `draw` and in the destructor, and nowhere else.
+/// A picture shows the scene as it is when it is drawn, and so do the boxes. Sensors watch it: the change hook is
+/// called from the next pass of the delay queue. Of what changed, only that goes to the GPU again. Thread of the user
+/// interface only; the context that the functions belong to must be current in the constructor, in `draw` and in the
+/// destructor, and nowhere else.
 ///
 /// What can't be drawn as it stands is reported once: contents of the scene as a warning of `NxDebugError`, images that
 /// can't be loaded as an `NxReadError`, OpenGL's own errors and what its compiler says as an `NxGLError`.
@@ -39,7 +40,7 @@ public:
     void setScene(NxNode* root);
     [[nodiscard]] NxNode* getScene() const;
 
-    /// Outlines a node in all its places; null for none.
+    /// Outlines a node in all its places; null for none. The drawing holds a reference on what is outlined.
     void setSelectedNode(NxNode* node);
     /// Outlines a node in one place, told by the nodes from a child of the scene's node down to it; empty for none.
     void setSelectedPath(std::span<NxNode* const> nodes);

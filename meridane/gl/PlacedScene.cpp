@@ -29,9 +29,6 @@ PlacedScene::~PlacedScene()
 
 void PlacedScene::setRoot(NxNode* root)
 {
-    for (NodeRecord* record : m_pending)
-        record->isPending = false;
-    m_pending.clear();
     if (m_root) {
         m_tree.clear();
         empty(topPlace);
@@ -47,22 +44,23 @@ void PlacedScene::setRoot(NxNode* root)
     }
     if (m_root)
         fill(topPlace);
-    m_someoneDied = false;
+    followPending(); // nodes of the former scene that are in this one as well
     bury();
 }
 
-void PlacedScene::nodeChanged(NodeRecord& record)
+void PlacedScene::nodeTouched(NodeRecord& record)
 {
-    if (!record.isPending) {
-        record.isPending = true;
-        m_pending.push_back(&record);
-    }
+    m_pending.push_back(&record);
+    record.isPending = true;
+}
+
+void PlacedScene::nodeChanged(NodeRecord& /*record*/)
+{
     m_listener.changed();
 }
 
 void PlacedScene::nodeDied(NodeRecord& record)
 {
-    m_someoneDied = true;
     m_records.forgetNode(record);
 }
 
@@ -70,26 +68,32 @@ void PlacedScene::update()
 {
     if (m_pending.empty())
         return;
-    const std::vector<NodeRecord*> pending = std::exchange(m_pending, {});
-    // Groups first: what they let go needn't be followed any more.
-    for (const bool groups : {true, false}) {
-        for (NodeRecord* record : pending) {
-            if ((record->kind() == NodeKind::Group) != groups)
-                continue;
-            record->isPending = false;
-            if (record->node() != nullptr && record->uses > 0)
-                follow(*record);
-        }
-    }
-    m_someoneDied = false;
+    followPending();
     bury();
+}
+
+void PlacedScene::followPending()
+{
+    const std::vector<NodeRecord*> pending = std::exchange(m_pending, {});
+    for (NodeRecord* record : pending)
+        record->isPending = false;
+    const auto isNeeded = [](const NodeRecord& record) { return record.node() != nullptr && record.uses > 0; };
+    // Children first: what groups let go needn't be followed any more, and may be dead.
+    for (NodeRecord* record : pending) {
+        if (record->kind() == NodeKind::Group && isNeeded(*record))
+            followChildren(static_cast<GroupRecord&>(*record));
+    }
+    for (NodeRecord* record : pending) {
+        if (isNeeded(*record))
+            follow(*record);
+    }
 }
 
 void PlacedScene::follow(NodeRecord& record)
 {
     switch (record.kind()) {
     case NodeKind::Group:
-        followGroup(static_cast<GroupRecord&>(record));
+        followTransform(static_cast<GroupRecord&>(record));
         break;
     case NodeKind::Mesh:
         followMesh(static_cast<MeshRecord&>(record));
@@ -111,16 +115,20 @@ void PlacedScene::follow(NodeRecord& record)
     }
 }
 
-void PlacedScene::followGroup(GroupRecord& group)
+void PlacedScene::followChildren(GroupRecord& group)
 {
-    if (group.isTransform()) {
-        for (Id id = group.firstPlace; id != noId; id = m_table.place(id).nextOfGroup)
-            move(id);
-    }
-    if (!group.noteChildren() && !m_someoneDied)
+    if (!group.noteChildren())
         return;
     for (Id id = group.firstPlace; id != noId; id = m_table.place(id).nextOfGroup)
         refill(id);
+}
+
+void PlacedScene::followTransform(GroupRecord& group)
+{
+    if (!group.isTransform())
+        return;
+    for (Id id = group.firstPlace; id != noId; id = m_table.place(id).nextOfGroup)
+        move(id);
 }
 
 void PlacedScene::followMesh(MeshRecord& mesh)
@@ -288,6 +296,8 @@ void PlacedScene::bury()
         m_lightListsToSweep = 2 * m_lightLists.size() + LightList::most;
     }
     m_records.bury([this](NodeRecord& record) {
+        if (record.isPending) // changed by whoever was told of a problem
+            std::erase(m_pending, &record);
         if (record.kind() == NodeKind::Mesh)
             m_listener.meshIsGoing(static_cast<MeshRecord&>(record));
         else if (record.kind() == NodeKind::Texture)

@@ -18,8 +18,9 @@ namespace meridane {
 /// The scene as it is drawn: each mesh in each of its places, with the matrix and the look that it has there, and where
 /// it lies. It knows nothing of OpenGL.
 ///
-/// Sensors tell what changes, `update` brings that in line: the places below a moved transform, the contents of a group
-/// with other children, what hangs on the node itself for all other kinds.
+/// Sensors note what changes at once, and tell the listener with the next pass of the delay queue. `update` brings all
+/// that changed up to then in line: the places below a moved transform, the contents of a group with other children,
+/// what hangs on the node itself for all other kinds. Until the next change, places and records fit the nodes.
 class PlacedScene final : private NodeRecordListener {
 public:
     /// Groups in each other and shared may stand in more places than any memory holds; from here on they are left out.
@@ -71,10 +72,13 @@ private:
     /// What stood in a place that is filled again.
     struct Kept;
 
+    void nodeTouched(NodeRecord& record) override;
     void nodeChanged(NodeRecord& record) override;
     void nodeDied(NodeRecord& record) override;
+    void followPending();
     void follow(NodeRecord& record);
-    void followGroup(GroupRecord& group);
+    void followChildren(GroupRecord& group);
+    void followTransform(GroupRecord& group);
     void followMesh(MeshRecord& mesh);
 
     void fill(Id top, Kept* kept = nullptr);
@@ -105,11 +109,10 @@ private:
     PlaceTable m_table;
     BoundsTree m_tree;
     Problems m_problems;
-    std::vector<NodeRecord*> m_pending;
+    std::vector<NodeRecord*> m_pending; // changed since the latest update
     std::uint64_t m_structure = 0;
     std::uint64_t m_lighting = 0;
     std::size_t m_visits = 0; // of nodes, since the filling began
-    bool m_someoneDied = false;
     bool m_isFullTold = false;
 };
 

@@ -92,7 +92,7 @@ bool NxGroup::insertChild(NxNode* node, int index)
         return false;
     m_children.insert(m_children.begin() + index, node);
     hold(node);
-    noteStructureChange();
+    noteChildrenChange();
     touch();
     return true;
 }
@@ -103,7 +103,7 @@ bool NxGroup::removeChild(int index)
     if (child == nullptr)
         return false;
     m_children.erase(m_children.begin() + index);
-    noteStructureChange();
+    noteChildrenChange();
     touch();
     release(child);
     return true;
@@ -115,7 +115,7 @@ void NxGroup::removeAllChildren()
         return;
     std::vector<NxNode*> children;
     children.swap(m_children);
-    noteStructureChange();
+    noteChildrenChange();
     touch();
     for (NxNode* child : children)
         release(child);
@@ -124,10 +124,16 @@ void NxGroup::removeAllChildren()
 void NxGroup::appendUnchecked(NxNode* node, NxGroup* group)
 {
     m_children.push_back(node);
-    noteStructureChange();
+    noteChildrenChange();
     node->ref();
     if (group != nullptr)
         ++group->m_places;
+}
+
+void NxGroup::noteChildrenChange() noexcept
+{
+    noteStructureChange();
+    m_childrenRevision = getStructureRevision();
 }
 
 void NxGroup::hold(NxNode* node)

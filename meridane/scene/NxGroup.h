@@ -15,6 +15,9 @@ public:
     [[nodiscard]] int getNumChildren() const noexcept { return static_cast<int>(m_children.size()); }
     /// The child at that index, or null when there is none.
     [[nodiscard]] NxNode* getChild(int index) const;
+    /// A number that changes with the list of children. No other list, of whatever group and time, has the same one, so
+    /// that two lists can be told apart even if nodes of one have taken the addresses of dead nodes of the other.
+    [[nodiscard]] std::uint64_t getChildrenRevision() const noexcept { return m_childrenRevision; }
     /// The index of the first place where the node stands, or -1.
     [[nodiscard]] int findChild(const NxNode* node) const;
 
@@ -35,9 +38,11 @@ private:
 
     /// For a node that is known not to hold this group; `group` is the same node, or null if it is none.
     void appendUnchecked(NxNode* node, NxGroup* group);
+    void noteChildrenChange() noexcept;
     static void hold(NxNode* node);
     static void release(NxNode* node);
 
     std::vector<NxNode*> m_children;
+    std::uint64_t m_childrenRevision = 0;
     std::size_t m_places = 0; // in which groups hold this one
 };
