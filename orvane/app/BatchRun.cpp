@@ -53,61 +53,87 @@ std::optional<QString> BatchRun::finish(FileJob& job)
     return failure;
 }
 
-std::optional<QString> BatchRun::open(const QString& fileName)
+std::optional<QString> BatchRun::open(NxRef<NxGroup>& scene) const
 {
-    const std::unique_ptr<SceneJob> job = orvane::makeLoadJob(fileName);
+    const std::unique_ptr<SceneJob> job = orvane::makeLoadJob(m_commandLine.file);
     auto failure = finish(*job);
-    m_scene = job->takeScene();
+    scene = job->takeScene();
     return failure;
 }
 
-std::optional<QString> BatchRun::store(const QString& fileName) const
+std::optional<QString> BatchRun::startExtensions(Session& session)
 {
-    return finish(*orvane::makeSaveJob(m_scene, fileName));
+    QStringList plugins = m_commandLine.plugins;
+    if (m_commandLine.listExtensions)
+        plugins = OrvPluginsManager::findPlugins(orvane::pluginFolders()) + plugins;
+    QStringList failures = session.loadPlugins(plugins);
+    if (!m_commandLine.profile.isEmpty()) {
+        // Without a window nothing runs, so the profile has to be there and no more.
+        const QStringList unreadable = session.loadProfiles(orvane::profileFolders());
+        if (const auto failure = session.checkProfile(m_commandLine.profile))
+            failures += unreadable + QStringList(*failure);
+    }
+    listExtensions(session);
+    return failures.isEmpty() ? std::nullopt : std::optional(failures.join(QStringLiteral("; ")));
 }
 
-std::optional<QString> BatchRun::listExtensions(const CommandLine& commandLine)
+void BatchRun::listExtensions(Session& session)
 {
-    Session session(commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
-    const QStringList failures
-        = session.loadPlugins(OrvPluginsManager::findPlugins(orvane::pluginFolders()) + commandLine.plugins);
+    if (!m_commandLine.listExtensions)
+        return;
     int order = 0;
     const QList<OrvExtension*> extensions = session.plugins().getExtensions();
     for (OrvExtension* const extension : extensions)
         m_output << ++order << '\t' << className(*extension) << '\t' << extension->getName().toUtf8() << '\t'
                  << handledType(extension) << '\n';
-    session.shutDown();
-    return failures.isEmpty() ? std::nullopt : std::optional(failures.join(QStringLiteral("; ")));
 }
 
-std::optional<QString> BatchRun::run(const CommandLine& commandLine)
+std::optional<QString> BatchRun::run()
 {
     // A job that fails gives its message back; the same read error must not stand on standard error a second time.
     NxReadError::setHandlerCallback([](const NxError* /*error*/, void* /*data*/) {}, nullptr);
-    if (commandLine.listExtensions) {
-        if (auto failure = listExtensions(commandLine))
-            return failure;
-    }
-    if (commandLine.file.isEmpty())
+    if (!m_commandLine.needsExtensions())
+        return runScene();
+    // Outlives the scene, whose nodes may be of classes of the plug-ins.
+    Session session(m_commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
+    const auto failure = startExtensions(session);
+    return failure ? failure : runScene();
+}
+
+std::optional<QString> BatchRun::runScene()
+{
+    if (m_commandLine.file.isEmpty())
         return std::nullopt;
-    if (auto failure = open(commandLine.file))
+    NxRef<NxGroup> scene;
+    if (auto failure = open(scene))
         return failure;
-    for (const CommandLine::Assignment& assignment : commandLine.assignments) {
-        if (auto failure = orvane::setField(m_scene.get(), assignment))
+    for (const CommandLine::Assignment& assignment : m_commandLine.assignments) {
+        if (auto failure = orvane::setField(scene.get(), assignment))
             return failure;
     }
-    if (!commandLine.select.isEmpty()) {
-        const auto target = NxScenePath::find(m_scene.get(), commandLine.select.toStdString());
+    if (!m_commandLine.select.isEmpty()) {
+        const auto target = NxScenePath::find(scene.get(), m_commandLine.select.toStdString());
         if (!target.error.empty())
             return QString::fromStdString(target.error);
     }
-    for (const QString& query : commandLine.queries) {
+    return writeOutput(scene);
+}
+
+std::optional<QString> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
+{
+    if (!scene)
+        return std::nullopt;
+    for (const QString& query : m_commandLine.queries) {
         QString text;
-        if (auto failure = orvane::getField(m_scene.get(), query, text))
+        if (auto failure = orvane::getField(scene.get(), query, text))
             return failure;
         m_output << text << '\n';
     }
-    if (commandLine.list)
-        m_output << orvane::listScene(m_scene.get());
-    return commandLine.exportFile.isEmpty() ? std::nullopt : store(commandLine.exportFile);
+    if (m_commandLine.list)
+        m_output << orvane::listScene(scene.get());
+    for (const QString& fileName : m_commandLine.exportFiles) {
+        if (auto failure = finish(*orvane::makeSaveJob(scene, fileName)))
+            return failure;
+    }
+    return std::nullopt;
 }

@@ -3,7 +3,16 @@
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
+#include <optional>
+
 namespace {
+
+QString sizeLimits()
+{
+    return QStringLiteral("at most %1 a side and %2 million in all")
+        .arg(CommandLine::longestSide)
+        .arg(CommandLine::mostPixels / 1000000);
+}
 
 // The options in the order in which the help shows them.
 struct Options {
@@ -22,12 +31,13 @@ struct Options {
     QCommandLineOption listExtensions{QStringLiteral("list-extensions"),
         QStringLiteral("Print each extension's order, class, name and handled type.")};
     QCommandLineOption exportTo{QStringLiteral("export"),
-        QStringLiteral("Write the scene to a file, in the format that its extension names."), QStringLiteral("FILE")};
+        QStringLiteral("Write the scene to a file, in the format that its extension names; repeatable."),
+        QStringLiteral("FILE")};
     QCommandLineOption screenshot{QStringLiteral("screenshot"),
         QStringLiteral("Write a picture of the window, once it has settled, and quit; needs no display."),
         QStringLiteral("FILE")};
-    QCommandLineOption size{
-        QStringLiteral("size"), QStringLiteral("Size of the window in pixels."), QStringLiteral("WxH")};
+    QCommandLineOption size{QStringLiteral("size"),
+        QStringLiteral("Size of the window in pixels, %1.").arg(sizeLimits()), QStringLiteral("WxH")};
     QCommandLineOption noSettings{QStringLiteral("no-settings"), QStringLiteral("Neither read nor write settings.")};
     QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Print the version.")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this help.")};
@@ -59,14 +69,42 @@ bool splitAssignment(const QString& argument, CommandLine::Assignment& assignmen
     return false;
 }
 
-bool parseSize(const QString& argument, QSize& size)
+std::optional<QString> parseSize(const QString& argument, QSize& size)
 {
-    static const QRegularExpression pattern(QStringLiteral("^([0-9]{1,5})x([0-9]{1,5})$"));
+    static const QRegularExpression pattern(QStringLiteral("^([0-9]{1,9})x([0-9]{1,9})$"));
     const QRegularExpressionMatch match = pattern.match(argument);
-    if (!match.hasMatch())
-        return false;
-    size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
-    return !size.isEmpty();
+    if (match.hasMatch())
+        size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+    if (size.isEmpty())
+        return QStringLiteral("--size expects WxH, such as 1280x800, not '%1'.").arg(argument);
+    if (!CommandLine::isUsableSize(size))
+        return QStringLiteral("--size %1 is too large: %2.").arg(argument, sizeLimits());
+    return std::nullopt;
+}
+
+QString nameOf(const QCommandLineOption& option)
+{
+    return QStringLiteral("--") + option.names().constFirst();
+}
+
+// What the parser lets pass although it would be ignored, or taken for what was not given at all.
+std::optional<QString> findMisuse(const QCommandLineParser& parser, const Options& options)
+{
+    for (const QCommandLineOption& option : {options.plugin, options.profile, options.select, options.set, options.get,
+             options.exportTo, options.screenshot, options.size}) {
+        if (parser.values(option).contains(QString()))
+            return QStringLiteral("%1 expects %2, not an empty text.").arg(nameOf(option), option.valueName());
+    }
+    for (const QCommandLineOption& option : {options.profile, options.select, options.screenshot, options.size}) {
+        if (parser.values(option).size() > 1)
+            return QStringLiteral("%1 can be given once only.").arg(nameOf(option));
+    }
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1)
+        return QStringLiteral("One file at a time: '%1' is one too many.").arg(files[1]);
+    if (files.contains(QString()))
+        return QStringLiteral("The name of the file is empty.");
+    return std::nullopt;
 }
 
 CommandLine::ParseResult failure(const QString& error)
@@ -78,8 +116,19 @@ CommandLine::ParseResult failure(const QString& error)
 
 bool CommandLine::isBatch() const
 {
-    const bool asksForOutput = list || listExtensions || !queries.isEmpty() || !exportFile.isEmpty();
+    const bool asksForOutput = list || listExtensions || !queries.isEmpty() || !exportFiles.isEmpty();
     return asksForOutput && screenshotFile.isEmpty();
+}
+
+bool CommandLine::needsExtensions() const
+{
+    return !isBatch() || listExtensions || !plugins.isEmpty() || !profile.isEmpty();
+}
+
+bool CommandLine::isUsableSize(const QSize& size)
+{
+    return !size.isEmpty() && size.width() <= longestSide && size.height() <= longestSide
+        && qint64{size.width()} * size.height() <= mostPixels;
 }
 
 CommandLine::ParseResult CommandLine::parse(const QStringList& arguments)
@@ -96,15 +145,14 @@ CommandLine::ParseResult CommandLine::parse(const QStringList& arguments)
     if (result.help || result.version)
         return {result, QString()};
 
-    if (parser.positionalArguments().size() > 1)
-        return failure(
-            QStringLiteral("One file at a time: '%1' is one too many.").arg(parser.positionalArguments()[1]));
+    if (const auto misuse = findMisuse(parser, options))
+        return failure(*misuse);
     result.file = parser.positionalArguments().value(0);
     result.plugins = parser.values(options.plugin);
     result.profile = parser.value(options.profile);
     result.select = parser.value(options.select);
     result.queries = parser.values(options.get);
-    result.exportFile = parser.value(options.exportTo);
+    result.exportFiles = parser.values(options.exportTo);
     result.screenshotFile = parser.value(options.screenshot);
     result.list = parser.isSet(options.list);
     result.listExtensions = parser.isSet(options.listExtensions);
@@ -115,12 +163,13 @@ CommandLine::ParseResult CommandLine::parse(const QStringList& arguments)
             return failure(QStringLiteral("--set expects PATH=TEXT, not '%1'.").arg(argument));
         result.assignments.append(assignment);
     }
-    if (parser.isSet(options.size) && !parseSize(parser.value(options.size), result.size))
-        return failure(
-            QStringLiteral("--size expects WxH, such as 1280x800, not '%1'.").arg(parser.value(options.size)));
+    if (parser.isSet(options.size)) {
+        if (const auto error = parseSize(parser.value(options.size), result.size))
+            return failure(*error);
+    }
 
     const bool needsScene = result.list || !result.queries.isEmpty() || !result.assignments.isEmpty()
-        || !result.select.isEmpty() || !result.exportFile.isEmpty();
+        || !result.select.isEmpty() || !result.exportFiles.isEmpty();
     if (needsScene && result.file.isEmpty())
         return failure(QStringLiteral("A file is missing: --get, --set, --list, --select and --export work on one."));
     return {result, QString()};

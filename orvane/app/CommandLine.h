@@ -13,13 +13,18 @@ struct CommandLine {
         QString text;
     };
 
+    /// The longest side of a window, in pixels, and the most pixels that it may have: 7680x4320 and a little more. A
+    /// picture of that size takes 2 GB of memory.
+    static constexpr int longestSide = 8192;
+    static constexpr qint64 mostPixels = qint64{32} << 20;
+
     QString file;
     QStringList plugins;
     QString profile;
     QString select;
     QList<Assignment> assignments;
     QStringList queries;
-    QString exportFile;
+    QStringList exportFiles;
     QString screenshotFile;
     QSize size;
     bool list = false;
@@ -30,6 +35,10 @@ struct CommandLine {
 
     /// True when all that is asked for can be done without a window.
     [[nodiscard]] bool isBatch() const;
+    /// True when plug-ins or profiles have to be loaded, even without a window.
+    [[nodiscard]] bool needsExtensions() const;
+    /// True when a window of this size, in pixels, is within the limits.
+    [[nodiscard]] static bool isUsableSize(const QSize& size);
 
     struct ParseResult;
     /// `arguments` come with the program's name first.

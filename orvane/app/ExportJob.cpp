@@ -38,6 +38,16 @@ ExportJob::~ExportJob() = default;
 
 void ExportJob::start()
 {
+    const QFileInfo file(fileName());
+    if (file.suffix().isEmpty() || file.completeBaseName().isEmpty()) {
+        const QString message
+            = QStringLiteral("%1: the name of a model needs a format behind its dot and something before it, as in "
+                             "model.glb")
+                  .arg(fileName());
+        QMetaObject::invokeMethod(
+            this, [this, message] { fail(message); }, Qt::QueuedConnection);
+        return;
+    }
     m_writer = std::make_unique<NxSceneWriter>(m_scene.get());
     m_helper.start();
     m_slices.start(0);

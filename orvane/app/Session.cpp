@@ -63,17 +63,27 @@ QStringList Session::loadProfiles(const QStringList& folders)
     return messages;
 }
 
+std::optional<QString> Session::checkProfile(const QString& name) const
+{
+    if (m_plugins.findProfile(name) != nullptr)
+        return std::nullopt;
+    QStringList names;
+    for (const OrvProfile* profile : m_plugins.getProfilesList())
+        names.append(u'"' + orvane::toQString(profile->getName()) + u'"');
+    return QStringLiteral("There is no profile \"%1\", only %2.").arg(name, names.join(QStringLiteral(", ")));
+}
+
 std::optional<QString> Session::activateProfile(const QString& name)
 {
-    OrvProfile* profile = m_plugins.findProfile(name.isEmpty() ? m_settings.value(profileKey).toString() : name);
-    if (profile == nullptr && !name.isEmpty())
-        return QStringLiteral("There is no profile \"%1\".").arg(name);
-    if (profile == nullptr && !m_plugins.getProfilesList().empty())
-        profile = m_plugins.getProfilesList().front();
-    if (profile == nullptr)
+    if (m_plugins.getProfilesList().empty())
         return QStringLiteral("No profile was found, so no extension runs.");
+    OrvProfile* profile = m_plugins.findProfile(name);
+    if (profile == nullptr)
+        profile = m_plugins.findProfile(m_settings.value(profileKey).toString());
+    if (profile == nullptr)
+        profile = m_plugins.getProfilesList().front();
     m_plugins.setActiveProfile(profile);
-    return std::nullopt;
+    return name.isEmpty() ? std::nullopt : checkProfile(name);
 }
 
 void Session::shutDown()

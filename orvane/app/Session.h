@@ -30,8 +30,10 @@ public:
     /// Loads the profiles (`*.json`) of these folders, in the order of the folders and, in each, of the file names.
     /// The result has one message for each that is refused.
     QStringList loadProfiles(const QStringList& folders);
-    /// Activates the profile of that name; the empty name stands for the one used last, else the first of the list.
-    /// The result says why there is none. Needs a window.
+    /// The message that there is no profile of that name, or nothing.
+    [[nodiscard]] std::optional<QString> checkProfile(const QString& name) const;
+    /// Activates the profile of that name; the empty name means the one used last, else the first of the list. So does
+    /// a name that no profile has, with a message. The result is the message of what went wrong. Needs a window.
     [[nodiscard]] std::optional<QString> activateProfile(const QString& name);
 
     /// Takes everything down in order: selection, profile, history, plug-ins, scene. Does nothing the second time. The

@@ -1,11 +1,14 @@
 #include "orvane/app/WindowRun.h"
 
+#include "orvane/app/BatchRun.h"
 #include "orvane/app/MainWindow.h"
+#include "orvane/app/PictureFile.h"
 #include "orvane/app/SceneDocument.h"
 #include "orvane/app/SceneEdit.h"
 #include "orvane/app/SearchFolders.h"
 #include "orvane/app/Session.h"
 #include "orvane/app/SetFieldCommand.h"
+#include "orvane/app/StandardOutput.h"
 
 #include "meridane/base/NxDelayQueue.h"
 
@@ -15,7 +18,6 @@
 #include <QTimer>
 
 #include <chrono>
-#include <cstdio>
 
 WindowRun::WindowRun(CommandLine commandLine)
     : m_commandLine(std::move(commandLine))
@@ -24,6 +26,10 @@ WindowRun::WindowRun(CommandLine commandLine)
 
 int WindowRun::run()
 {
+    if (const auto mistake = findMistake()) {
+        orvane::printError(*mistake);
+        return 1;
+    }
     Session session(m_commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
     MainWindow window(session);
     prepare(session, window);
@@ -31,8 +37,8 @@ int WindowRun::run()
         window.resize(m_commandLine.size);
     showSoon(window);
     openFile(window);
-    if (m_commandLine.file.isEmpty() && !m_commandLine.screenshotFile.isEmpty())
-        QTimer::singleShot(0, this, [this, &window] { takePicture(window); });
+    if (m_commandLine.file.isEmpty() && takesPicture())
+        QTimer::singleShot(0, this, [this, &session, &window] { finish(session, window); });
     connect(&window, &MainWindow::settled, this, [this, &session, &window](const QString& error) {
         // Only the first time: what the user opens later is the user's own affair.
         disconnect(&window, &MainWindow::settled, this, nullptr);
@@ -40,14 +46,28 @@ int WindowRun::run()
             applyTo(session, window);
         else
             m_failed = true;
-        if (m_commandLine.screenshotFile.isEmpty())
+        if (!takesPicture())
             return;
         if (!error.isEmpty())
-            std::fprintf(stderr, "orvane: %s\n", qPrintable(error));
-        takePicture(window);
+            orvane::printError(error);
+        finish(session, window);
     });
     const int status = QApplication::exec();
-    return m_commandLine.screenshotFile.isEmpty() || !m_failed ? status : 1;
+    return takesPicture() && m_failed ? 1 : status;
+}
+
+std::optional<QString> WindowRun::findMistake() const
+{
+    if (!takesPicture())
+        return std::nullopt;
+    if (auto mistake = orvane::checkPictureName(m_commandLine.screenshotFile))
+        return mistake;
+    const QSize pixels = m_commandLine.size * qApp->devicePixelRatio();
+    if (m_commandLine.size.isValid() && !CommandLine::isUsableSize(pixels))
+        return QStringLiteral("The picture would have %1x%2 pixels, which is too large.")
+            .arg(pixels.width())
+            .arg(pixels.height());
+    return std::nullopt;
 }
 
 void WindowRun::showSoon(MainWindow& window)
@@ -100,22 +120,35 @@ void WindowRun::report(MainWindow& window, const QString& message)
 {
     m_failed = true;
     window.showError(message);
-    if (!m_commandLine.screenshotFile.isEmpty())
-        std::fprintf(stderr, "orvane: %s\n", qPrintable(message));
+    if (takesPicture())
+        orvane::printError(message);
 }
 
-void WindowRun::takePicture(MainWindow& window)
+void WindowRun::finish(Session& session, MainWindow& window)
 {
+    if (!m_failed) {
+        if (const auto failure = writeAll(session, window)) {
+            m_failed = true;
+            orvane::printError(*failure);
+        }
+    }
+    // Not quit, which closes the windows and so asks about changes that aren't saved: all that was wanted is done.
+    QCoreApplication::exit(0);
+}
+
+std::optional<QString> WindowRun::writeAll(Session& session, MainWindow& window)
+{
+    orvane::StandardOutput output;
+    BatchRun others(m_commandLine, output.stream());
+    others.listExtensions(session);
+    auto failure = others.writeOutput(NxRef<NxGroup>(window.document().scene()));
+    const auto outputFailure = output.finish();
+    if (failure || outputFailure)
+        return failure ? failure : outputFailure;
     window.startView();
     // Layouts settle, editors fill and the view tells what it can't draw from events and from the sensors' queue, and
     // either may cause the other.
     QEventLoop loop;
     while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty()) { }
-    if (!m_failed && !window.grab().save(m_commandLine.screenshotFile)) {
-        m_failed = true;
-        std::fprintf(stderr, "orvane: %s: the picture can't be written\n", qPrintable(m_commandLine.screenshotFile));
-    }
-    // Not quit, which closes the windows and so asks about changes that aren't saved: the picture is all that was
-    // wanted.
-    QCoreApplication::exit(0);
+    return orvane::writePicture(window.grab(), m_commandLine.screenshotFile);
 }

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QStringList>
 
+#include <optional>
+
 class MainWindow;
 class Session;
 
@@ -16,18 +18,23 @@ class WindowRun : public QObject {
 public:
     explicit WindowRun(CommandLine commandLine);
 
-    /// Runs until the window is closed or the picture is written. The result is the exit status; what went wrong is in
-    /// the window or, with a picture, on standard error.
+    /// Runs until the window is closed or the picture is written, and what else is asked for beside a picture. The
+    /// result is the exit status; what went wrong is in the window or, with a picture, on standard error.
     [[nodiscard]] int run();
 
 private:
+    [[nodiscard]] bool takesPicture() const { return !m_commandLine.screenshotFile.isEmpty(); }
+    /// What can't work, whatever becomes of the window.
+    [[nodiscard]] std::optional<QString> findMistake() const;
     void prepare(Session& session, MainWindow& window);
     void showSoon(MainWindow& window);
     void openFile(MainWindow& window);
     void applyTo(Session& session, MainWindow& window);
     void report(MainWindow& window, const QString& message);
-    /// Lets queued work run until nothing is left, then writes the picture.
-    void takePicture(MainWindow& window);
+    /// Ends a run that takes a picture.
+    void finish(Session& session, MainWindow& window);
+    /// Prints, exports, and writes the picture, once nothing is left of the queued work.
+    [[nodiscard]] std::optional<QString> writeAll(Session& session, MainWindow& window);
 
     CommandLine m_commandLine;
     bool m_failed = false;

@@ -1,13 +1,17 @@
 #include "orvane/app/BatchRun.h"
 #include "orvane/app/CommandLine.h"
+#include "orvane/app/StandardOutput.h"
 #include "orvane/app/WindowRun.h"
 
 #include <QApplication>
-#include <QTextStream>
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <memory>
+#include <new>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -17,16 +21,38 @@ namespace {
 constexpr int statusFailed = 1;
 constexpr int statusUnusableArguments = 2;
 
+bool isSet(const char* name)
+{
+    return !qEnvironmentVariableIsEmpty(name);
+}
+
 bool hasDisplay()
 {
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
-        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
 }
 
 int fail(const QString& message, int status)
 {
-    std::fprintf(stderr, "orvane: %s\n", qPrintable(message));
+    orvane::printError(message);
     return status;
+}
+
+// An exception that nothing catches, such as one for want of memory in the middle of the event loop.
+[[noreturn]] void endByException()
+{
+    const char* reason = "an exception of unknown kind";
+    try {
+        if (const std::exception_ptr exception = std::current_exception())
+            std::rethrow_exception(exception);
+    } catch (const std::bad_alloc&) {
+        reason = "out of memory";
+    } catch (const std::exception& exception) {
+        reason = exception.what();
+    } catch (...) {
+    }
+    // There may be no memory for more than this.
+    std::fprintf(stderr, "orvane: %s\n", reason);
+    std::_Exit(statusFailed);
 }
 
 // Without them the first files that are opened would take their numbers, and get every message written into them.
@@ -48,8 +74,9 @@ std::unique_ptr<QCoreApplication> makeApplication(char** argv)
     return std::make_unique<Application>(count, argv);
 }
 
-// Without a screen the platform has nothing to say that a user could use.
-void useNoScreen()
+// Whatever display there is, a picture or a list doesn't depend on it. Without one the platform has nothing to say that
+// a user could use.
+std::unique_ptr<QCoreApplication> makeApplicationWithoutScreen(char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
@@ -58,61 +85,88 @@ void useNoScreen()
         if (!isNoise || type == QtFatalMsg)
             std::fprintf(stderr, "%s\n", qPrintable(text));
     });
+    return makeApplication<QApplication>(argv);
+}
+
+// Where the display can't be reached, the library says so in many lines and aborts. Here it is one line.
+std::unique_ptr<QCoreApplication> makeApplicationOnScreen(char** argv)
+{
+    static QStringList problems;
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+        problems.append(text.trimmed());
+        if (type != QtFatalMsg)
+            return;
+        orvane::printError(QStringLiteral("No window can be opened: %1. --screenshot works without a display.")
+                               .arg(problems.constFirst()));
+        std::_Exit(statusFailed);
+    });
+    auto application = makeApplication<QApplication>(argv);
+    qInstallMessageHandler(nullptr);
+    for (const QString& problem : std::as_const(problems))
+        orvane::printError(problem);
+    return application;
 }
 
 int runBatch(const CommandLine& commandLine, char** argv)
 {
     // Plug-ins build widgets as they are loaded; nothing else here needs more than the event loop.
-    std::unique_ptr<QCoreApplication> application;
-    if (commandLine.listExtensions) {
-        useNoScreen();
-        application = makeApplication<QApplication>(argv);
-    } else {
-        application = makeApplication<QCoreApplication>(argv);
-    }
-    QTextStream output(stdout);
-    const auto failure = BatchRun(output).run(commandLine);
-    output.flush();
+    const auto application
+        = commandLine.needsExtensions() ? makeApplicationWithoutScreen(argv) : makeApplication<QCoreApplication>(argv);
+    orvane::StandardOutput output;
+    const auto failure = BatchRun(commandLine, output.stream()).run();
+    const auto outputFailure = output.finish();
     if (failure)
         return fail(*failure, statusFailed);
     // Whoever reads a file of half the output must not take it for the whole.
-    if (output.status() != QTextStream::Ok || std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
-        return fail(QStringLiteral("standard output: %1").arg(qt_error_string()), statusFailed);
-    return 0;
+    return outputFailure ? fail(*outputFailure, statusFailed) : 0;
 }
 
 int runWindow(const CommandLine& commandLine, char** argv)
 {
-    if (!hasDisplay()) {
-        if (commandLine.screenshotFile.isEmpty())
-            return fail(QStringLiteral("There is no display to open a window on; --screenshot works without one."),
-                statusFailed);
-        useNoScreen();
-    }
-    const auto application = makeApplication<QApplication>(argv);
+    const bool takesPicture = !commandLine.screenshotFile.isEmpty();
+    if (!takesPicture && !hasDisplay())
+        return fail(
+            QStringLiteral("There is no display to open a window on; --screenshot works without one."), statusFailed);
+    const auto application = takesPicture ? makeApplicationWithoutScreen(argv) : makeApplicationOnScreen(argv);
     return WindowRun(commandLine).run();
+}
+
+int print(const QString& text)
+{
+    orvane::StandardOutput output;
+    output.stream() << text;
+    const auto failure = output.finish();
+    return failure ? fail(*failure, statusFailed) : 0;
+}
+
+int run(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+    const auto [commandLine, error] = CommandLine::parse(arguments);
+    if (!error.isEmpty())
+        return fail(error, statusUnusableArguments);
+    if (commandLine.help)
+        return print(CommandLine::helpText());
+    if (commandLine.version)
+        return print(QStringLiteral("orvane " ORVANE_VERSION "\n"));
+    return commandLine.isBatch() ? runBatch(commandLine, argv) : runWindow(commandLine, argv);
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
+    std::set_terminate(endByException);
     openStandardStreams();
     // A file that outgrows the user's limit is a write error with a message, not the end of the process.
     std::signal(SIGXFSZ, SIG_IGN);
     QCoreApplication::setApplicationName(QStringLiteral("orvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments += QString::fromLocal8Bit(argv[i]);
-
-    const auto [commandLine, error] = CommandLine::parse(arguments);
-    if (!error.isEmpty())
-        return fail(error, statusUnusableArguments);
-    if (commandLine.help || commandLine.version) {
-        QTextStream(stdout) << (commandLine.help ? CommandLine::helpText()
-                                                 : QStringLiteral("orvane " ORVANE_VERSION "\n"));
-        return 0;
+    try {
+        return run(argc, argv);
+    } catch (...) {
+        endByException();
     }
-    return commandLine.isBatch() ? runBatch(commandLine, argv) : runWindow(commandLine, argv);
 }

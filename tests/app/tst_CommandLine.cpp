@@ -27,9 +27,9 @@ private Q_SLOTS:
             QStringLiteral("--select"), QStringLiteral("/a"), QStringLiteral("--set"), QStringLiteral("/a.b=1"),
             QStringLiteral("--set"), QStringLiteral("/\"x=y\".b=c=d"), QStringLiteral("--get"), QStringLiteral("/a.b"),
             QStringLiteral("--list"), QStringLiteral("--list-extensions"), QStringLiteral("--export"),
-            QStringLiteral("out.obj"), QStringLiteral("--screenshot"), QStringLiteral("p.png"),
-            QStringLiteral("--size"), QStringLiteral("640x480"), QStringLiteral("--no-settings"),
-            QStringLiteral("in.mrd")});
+            QStringLiteral("out.obj"), QStringLiteral("--export=out.stl"), QStringLiteral("--screenshot"),
+            QStringLiteral("p.png"), QStringLiteral("--size"), QStringLiteral("640x480"),
+            QStringLiteral("--no-settings"), QStringLiteral("in.mrd")});
         QCOMPARE(error, QString());
         QCOMPARE(commandLine.plugins, QStringList({QStringLiteral("a.so"), QStringLiteral("b.so")}));
         QCOMPARE(commandLine.profile, QStringLiteral("Text only"));
@@ -42,7 +42,7 @@ private Q_SLOTS:
         QCOMPARE(commandLine.queries, QStringList({QStringLiteral("/a.b")}));
         QVERIFY(commandLine.list);
         QVERIFY(commandLine.listExtensions);
-        QCOMPARE(commandLine.exportFile, QStringLiteral("out.obj"));
+        QCOMPARE(commandLine.exportFiles, QStringList({QStringLiteral("out.obj"), QStringLiteral("out.stl")}));
         QCOMPARE(commandLine.screenshotFile, QStringLiteral("p.png"));
         QCOMPARE(commandLine.size, QSize(640, 480));
         QVERIFY(commandLine.noSettings);
@@ -63,7 +63,31 @@ private Q_SLOTS:
         QTest::newRow("option without value") << QStringList{QStringLiteral("--get")} << QStringLiteral("get");
         QTest::newRow("size without height") << QStringList{QStringLiteral("--size=640")} << QStringLiteral("WxH");
         QTest::newRow("size of nothing") << QStringList{QStringLiteral("--size=0x0")} << QStringLiteral("WxH");
-        QTest::newRow("size beyond reason") << QStringList{QStringLiteral("--size=123456x1")} << QStringLiteral("WxH");
+        QTest::newRow("size of nothing in one direction")
+            << QStringList{QStringLiteral("--size=640x0")} << QStringLiteral("WxH");
+        QTest::newRow("size below nothing") << QStringList{QStringLiteral("--size=-640x480")} << QStringLiteral("WxH");
+        QTest::newRow("size with more behind it")
+            << QStringList{QStringLiteral("--size=640x480x24")} << QStringLiteral("WxH");
+        QTest::newRow("size beyond all numbers")
+            << QStringList{QStringLiteral("--size=99999999999x480")} << QStringLiteral("WxH");
+        QTest::newRow("side that is too long")
+            << QStringList{QStringLiteral("--size=8193x1")} << QStringLiteral("8192");
+        QTest::newRow("too many pixels") << QStringList{QStringLiteral("--size=8192x8192")}
+                                         << QStringLiteral("33 million");
+        for (const char* const option :
+            {"--plugin", "--profile", "--select", "--set", "--get", "--export", "--screenshot", "--size"}) {
+            QTest::addRow("empty %s", option) << QStringList{QLatin1String(option), QString(), QStringLiteral("a.mrd")}
+                                              << QString::fromLatin1(option);
+        }
+        QTest::newRow("empty file") << QStringList{QString()} << QStringLiteral("empty");
+        QTest::newRow("one empty export of two")
+            << QStringList{QStringLiteral("--export=a.obj"), QStringLiteral("--export="), QStringLiteral("a.mrd")}
+            << QStringLiteral("--export");
+        for (const char* const option : {"--profile=a", "--select=/a", "--screenshot=a.png", "--size=10x10"}) {
+            const QString text = QLatin1String(option);
+            QTest::addRow("twice %s", option)
+                << QStringList{text, text, QStringLiteral("a.mrd")} << QString(text.section(u'=', 0, 0) + u' ');
+        }
         QTest::newRow("get without file") << QStringList{QStringLiteral("--get=/a.b")} << QStringLiteral("file");
         QTest::newRow("export without file") << QStringList{QStringLiteral("--export=a.obj")} << QStringLiteral("file");
     }
@@ -75,6 +99,24 @@ private Q_SLOTS:
         const QString error = parse(arguments).error;
         QVERIFY2(error.contains(mentions), qPrintable(error));
         QVERIFY(!error.contains(u'\n'));
+    }
+
+    void theLargestSizesAreTaken()
+    {
+        QCOMPARE(parse({QStringLiteral("--size=7680x4320")}).error, QString());
+        QCOMPARE(parse({QStringLiteral("--size=8192x4096")}).error, QString());
+        QCOMPARE(parse({QStringLiteral("--size=1x8192")}).error, QString());
+    }
+
+    void extensionsAreLoadedForAWindowAndWhereTheyAreAskedFor()
+    {
+        const QString file = QStringLiteral("a.mrd");
+        const QString list = QStringLiteral("--list");
+        QVERIFY(!parse({list, file}).commandLine.needsExtensions());
+        QVERIFY(parse({file}).commandLine.needsExtensions());
+        QVERIFY(parse({QStringLiteral("--list-extensions")}).commandLine.needsExtensions());
+        QVERIFY(parse({list, QStringLiteral("--plugin=p.so"), file}).commandLine.needsExtensions());
+        QVERIFY(parse({list, QStringLiteral("--profile=All"), file}).commandLine.needsExtensions());
     }
 
     void onlyOutputWithoutAPictureIsBatchWork()

@@ -1,6 +1,7 @@
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
+#include "endtoend/ProgramCase.h"
+
+#include <QDir>
+#include <QImage>
 
 namespace {
 
@@ -12,57 +13,16 @@ const QByteArray scene = "#mrd 1.0\n"
                          "    }\n"
                          "}\n";
 
-struct Outcome {
-    int status = -1;
-    QByteArray output;
-    QByteArray errors;
-};
-
 } // namespace
 
 // The program on the command line, without a display: what it prints, what it writes and how it ends.
-class CommandRunTest : public QObject {
+class CommandRunTest : public ProgramCase {
     Q_OBJECT
-
-private:
-    [[nodiscard]] QString path(const QString& name) const { return m_folder->filePath(name); }
-
-    void write(const QString& name, const QByteArray& bytes) const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    [[nodiscard]] QByteArray read(const QString& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    [[nodiscard]] static Outcome run(const QStringList& arguments, const QString& ahead = {})
-    {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-            environment.remove(QLatin1String(name));
-        process.setProcessEnvironment(environment);
-        // A shell that first does what a test wants to have done to it.
-        process.start(QStringLiteral("/bin/sh"),
-            QStringList{QStringLiteral("-c"), ahead + QStringLiteral(" exec \"$0\" \"$@\""),
-                QStringLiteral(ORVANE_PROGRAM), QStringLiteral("--no-settings")}
-                + arguments);
-        if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
-            return {};
-        return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
+        makeFolder();
         write(QStringLiteral("rig.mrd"), scene);
     }
 
@@ -217,7 +177,7 @@ private Q_SLOTS:
 
     void aFolderIsNoScene()
     {
-        QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder.mrd")));
+        QVERIFY(QDir(folder()).mkdir(QStringLiteral("folder.mrd")));
         const Outcome outcome = run({QStringLiteral("--list"), path(QStringLiteral("folder.mrd"))});
         QCOMPARE(outcome.status, 1);
         QVERIFY2(outcome.errors.contains("irectory"), outcome.errors.constData());
@@ -230,7 +190,7 @@ private Q_SLOTS:
         QCOMPARE(outcome.status, 1);
         QCOMPARE(outcome.errors, "orvane: " + QFile::encodeName(file) + ": File too large\n");
         QCOMPARE(read(QStringLiteral("rig.mrd")), scene);
-        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+        QCOMPARE(QDir(folder()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     }
 
     void outputThatCanNotBeWrittenIsReported()
