@@ -23,6 +23,18 @@ bool takeEnvironment(Arguments& arguments, std::string& error)
     return false;
 }
 
+// A task that takes no value.
+std::optional<Arguments::Task> plainTask(std::string_view option)
+{
+    if (option == "--pictures")
+        return Arguments::Task::Pictures;
+    if (option == "--formats")
+        return Arguments::Task::Formats;
+    if (option == "--locks")
+        return Arguments::Task::Locks;
+    return option == "--help" ? std::optional(Arguments::Task::Help) : std::nullopt;
+}
+
 // Null for an option that takes no value.
 std::string* valueOf(std::string_view option, Arguments& arguments)
 {
@@ -55,6 +67,8 @@ const char* usage() noexcept
            "                                            the same build\n"
            "       orvane-import --write EXTENSION      read a scene from standard input and write the model,\n"
            "                     [--name NAME]          as framed files, to standard output\n"
+           "       orvane-import --pictures             decode the image files that come from standard input, for a\n"
+           "                                            tool of the same build\n"
            "       orvane-import --formats              list the extensions that are read and written\n"
            "       orvane-import --locks                tell which locks hold it on this machine\n"
            "Options: --memory MIB                       memory to take at most, 0 for no limit (default 4096,\n"
@@ -73,10 +87,8 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
         return std::nullopt;
     for (std::size_t index = 0; index < texts.size(); ++index) {
         const std::string option = texts[index];
-        if (option == "--help" || option == "--formats" || option == "--locks") {
-            arguments.task = option == "--help" ? Arguments::Task::Help
-                : option == "--formats"         ? Arguments::Task::Formats
-                                                : Arguments::Task::Locks;
+        if (const std::optional<Arguments::Task> task = plainTask(option)) {
+            arguments.task = *task;
             ++tasks;
             continue;
         }
@@ -103,7 +115,7 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
         tasks += value == &arguments.subject ? 1 : 0;
     }
     if (tasks != 1) {
-        error = "one of --read, --write, --formats and --locks is needed";
+        error = "one of --read, --write, --pictures, --formats and --locks is needed";
         return std::nullopt;
     }
     if (arguments.packed && arguments.task != Arguments::Task::Read) {

@@ -6,6 +6,7 @@
 #include "orvane/import/ModelReader.h"
 #include "orvane/import/ModelWriter.h"
 #include "orvane/import/PackedScene.h"
+#include "orvane/import/PictureService.h"
 #include "orvane/import/Sanitizer.h"
 #include "orvane/import/StandardStreams.h"
 #include "orvane/import/WorkTime.h"
@@ -98,6 +99,12 @@ int writeModel(const std::string& extension, const std::string& name, std::strin
     return good ? Success : fail(error);
 }
 
+int decodePictures()
+{
+    std::string error;
+    return orvane::servePictures(error) ? Success : fail(error);
+}
+
 int printText(const std::string& text)
 {
     std::string error;
@@ -142,6 +149,8 @@ int run(const Arguments& arguments, std::string input, const orvane::Locks& lock
         return readModel(arguments.subject, arguments.packed);
     case Arguments::Task::Write:
         return writeModel(arguments.subject, arguments.name, std::move(input));
+    case Arguments::Task::Pictures:
+        return decodePictures();
     case Arguments::Task::Formats:
         return listFormats();
     case Arguments::Task::Locks:

@@ -105,9 +105,11 @@ void tst_Program::unusableArgumentsGiveStatusTwo_data()
     QTest::addColumn<QString>("message");
     const QString end = QStringLiteral("; --help tells how it is used");
     QTest::newRow("none") << QStringList()
-                          << QStringLiteral("one of --read, --write, --formats and --locks is needed") + end;
+                          << QStringLiteral("one of --read, --write, --pictures, --formats and --locks is needed")
+            + end;
     QTest::newRow("two tasks") << QStringList{QStringLiteral("--formats"), QStringLiteral("--read"),
-        QStringLiteral("a")} << QStringLiteral("one of --read, --write, --formats and --locks is needed") + end;
+        QStringLiteral(
+            "a")} << QStringLiteral("one of --read, --write, --pictures, --formats and --locks is needed") + end;
     QTest::newRow("unknown") << QStringList{QStringLiteral("--fly")}
                              << QStringLiteral("unknown argument \"--fly\"") + end;
     QTest::newRow("no value") << QStringList{QStringLiteral("--read")} << QStringLiteral("--read needs a value") + end;

@@ -1,0 +1,77 @@
+#include "orvane/import/Picture.h"
+#include "orvane/import/PictureFrames.h"
+
+#include <QTest>
+
+using orvane::parsePictureReply;
+using orvane::PictureReply;
+using State = PictureReply::State;
+
+class tst_PictureFrames : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aRequestTellsTheSizeOfItsFile()
+    {
+        QCOMPARE(orvane::pictureRequest(12), std::string("picture 12\n"));
+        QCOMPARE(orvane::pictureRequestSize("picture 12"), std::size_t{12});
+        QCOMPARE(orvane::pictureRequestSize("picture " + std::to_string(orvane::maxPictureFileSize)),
+            orvane::maxPictureFileSize);
+    }
+
+    void whatIsNoRequestHasNoSize()
+    {
+        for (const char* line : {"", "picture", "picture ", "picture 0", "picture -1", "picture 1 ", "picture 1x",
+                 "image 1", "picture 268435457", "picture 99999999999999999999999"})
+            QVERIFY2(orvane::pictureRequestSize(line) == 0, line);
+    }
+
+    void aPictureIsCompleteWithItsLastByte()
+    {
+        const std::string reply = orvane::pictureReply(2, 1, 3) + "123456";
+        for (std::size_t count = 0; count < reply.size(); ++count)
+            QVERIFY(parsePictureReply(reply.substr(0, count)).state == State::Incomplete);
+        const PictureReply result = parsePictureReply(reply);
+        QVERIFY(result.state == State::Complete);
+        QCOMPARE(result.width, 2);
+        QCOMPARE(result.height, 1);
+        QCOMPARE(result.components, 3);
+        QCOMPARE(reply.substr(result.start, result.size), std::string("123456"));
+    }
+
+    void aRefusalHasItsReason()
+    {
+        const PictureReply result = parsePictureReply(orvane::pictureRefusal("it is\nno picture"));
+        QVERIFY(result.state == State::Refused);
+        QCOMPARE(result.reason, std::string("it is no picture"));
+        QVERIFY(parsePictureReply(orvane::pictureRefusal(std::string(5000, 'x'))).state == State::Refused);
+    }
+
+    void whatIsNoReplyIsBroken_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("another word") << QByteArray("image 1 1 1\n1");
+        QTest::newRow("no numbers") << QByteArray("picture\n");
+        QTest::newRow("two numbers") << QByteArray("picture 1 1\n1");
+        QTest::newRow("four numbers") << QByteArray("picture 1 1 1 1\n1");
+        QTest::newRow("no width") << QByteArray("picture 0 1 1\n");
+        QTest::newRow("no height") << QByteArray("picture 1 0 1\n");
+        QTest::newRow("no component") << QByteArray("picture 1 1 0\n");
+        QTest::newRow("five components") << QByteArray("picture 1 1 5\n12345");
+        QTest::newRow("negative") << QByteArray("picture -1 -1 1\n1");
+        QTest::newRow("too wide") << QByteArray("picture 32768 1 1\n");
+        QTest::newRow("too many pixels") << QByteArray("picture 8193 8192 1\n");
+        QTest::newRow("beyond all numbers") << QByteArray("picture 99999999999999999999999 1 1\n");
+        QTest::newRow("more bytes than pixels") << QByteArray("picture 1 1 1\n12");
+        QTest::newRow("more after a refusal") << QByteArray("refused no\nx");
+        QTest::newRow("a line without end") << QByteArray(1000, 'p');
+    }
+    void whatIsNoReplyIsBroken()
+    {
+        QFETCH(QByteArray, bytes);
+        QVERIFY(parsePictureReply(bytes.toStdString()).state == State::Broken);
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_PictureFrames)
+#include "tst_PictureFrames.moc"
