@@ -24,10 +24,10 @@ void SelectionLink::chooseNode(NxFieldContainer* node)
 {
     if (node == m_services.getSelectedNode())
         return;
-    NxField* kept = keptField(node);
-    m_services.selectNode(node);
-    if (kept != nullptr)
-        m_services.selectField(kept);
+    if (NxField* kept = keptField(node))
+        m_services.select(node, kept);
+    else
+        m_services.selectNode(node);
 }
 
 NxField* SelectionLink::keptField(NxFieldContainer* node) const
@@ -51,7 +51,8 @@ void SelectionLink::showNode(NxFieldContainer* node)
 void SelectionLink::showField(NxField* field)
 {
     // A plug-in may select a field of a node that isn't selected.
-    if (field != nullptr && field->getContainer() != m_fields->model()->node())
-        m_services.selectNode(field->getContainer());
-    m_fields->setCurrentField(field);
+    if (field != nullptr && field->getContainer() != m_services.getSelectedNode())
+        m_services.select(field->getContainer(), field);
+    else
+        m_fields->setCurrentField(field);
 }

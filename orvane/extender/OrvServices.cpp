@@ -3,24 +3,16 @@
 #include "orvane/extender/DelayQueuePump.h"
 #include "orvane/extender/OrvCommand.h"
 #include "orvane/extender/OrvHistory.h"
+#include "orvane/extender/Selection.h"
 #include "orvane/extender/UserActionTracker.h"
 
 #include "meridane/base/NxDelayQueue.h"
-#include "meridane/scene/NxField.h"
-#include "meridane/scene/NxFieldContainer.h"
-#include "meridane/scene/NxFieldSensor.h"
 
 namespace {
 
 OrvServices* theServices = nullptr;
 
 } // namespace
-
-// Forgets the selected field when it dies. Its changes are nothing to it.
-class OrvServices::FieldWatch final : public NxFieldSensor {
-public:
-    void notify() override { }
-};
 
 // Emits historyChanged if what happens during its life changes one of the answers.
 class OrvServices::HistoryChange {
@@ -66,7 +58,7 @@ OrvServices* OrvServices::getInstance()
 OrvServices::OrvServices()
     : m_pump(std::make_unique<DelayQueuePump>(NxDelayQueue::getDefault()))
     , m_userAction(std::make_unique<UserActionTracker>())
-    , m_selectedField(std::make_unique<FieldWatch>())
+    , m_selection(std::make_unique<Selection>(*this))
     , m_history(std::make_unique<OrvHistory>())
 {
     Q_ASSERT_X(theServices == nullptr, "OrvServices", "there is one services object at a time");
@@ -84,40 +76,37 @@ void OrvServices::pushCommand(OrvCommand* command)
         return;
     const HistoryChange change(*this);
     m_history->push(std::unique_ptr<OrvCommand>(command),
-        {m_userAction->currentAction(), getSelectedField(), m_selectedNode.get(), m_selectedFieldOwner.get()});
+        {m_userAction->currentAction(), m_selection->field(), m_selection->node(), m_selection->fieldOwner()});
 }
 
 void OrvServices::selectNode(NxFieldContainer* node)
 {
-    // Two references: the new node may only be alive by the selected one, and the present one until its last slot ran.
-    const NxRef<NxFieldContainer> newNode(node);
-    const NxRef<NxFieldContainer> formerNode = m_selectedNode;
-    if (newNode != formerNode && getSelectedField() != nullptr)
-        selectField(nullptr);
-    m_selectedNode = newNode;
-    Q_EMIT selectedNodeChanged(node);
+    m_selection->selectNode(node);
 }
 
 void OrvServices::selectField(NxField* field)
 {
-    const NxRef<NxFieldContainer> newOwner(field != nullptr ? field->getContainer() : nullptr);
-    const NxRef<NxFieldContainer> formerOwner = m_selectedFieldOwner;
-    m_selectedFieldOwner = newOwner;
-    m_selectedField->attach(field);
-    Q_EMIT selectedFieldChanged(field);
+    m_selection->selectField(field);
+}
+
+void OrvServices::select(NxFieldContainer* node, NxField* field)
+{
+    m_selection->select(node, field);
 }
 
 void OrvServices::announceSelection()
 {
-    const NxRef<NxFieldContainer> node = m_selectedNode;
-    Q_EMIT selectedNodeChanged(node.get());
-    const NxRef<NxFieldContainer> owner = m_selectedFieldOwner;
-    Q_EMIT selectedFieldChanged(getSelectedField());
+    m_selection->announce();
+}
+
+NxFieldContainer* OrvServices::getSelectedNode() const noexcept
+{
+    return m_selection->node();
 }
 
 NxField* OrvServices::getSelectedField() const noexcept
 {
-    return m_selectedField->getAttachedField();
+    return m_selection->field();
 }
 
 void OrvServices::undo()

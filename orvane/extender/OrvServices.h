@@ -1,7 +1,5 @@
 #pragma once
 
-#include "meridane/scene/NxRef.h"
-
 #include <QObject>
 
 #include <cstddef>
@@ -12,6 +10,7 @@ class NxFieldContainer;
 class DelayQueuePump;
 class OrvCommand;
 class OrvHistory;
+class Selection;
 class UserActionTracker;
 
 /// Broadcasts the selection, keeps the undo history, and runs the toolkit's delay queue from the event loop.
@@ -40,17 +39,24 @@ public:
     /// of the same step; one that is pushed while another one is undone or redone is executed and then dropped.
     virtual void pushCommand(OrvCommand* command);
 
+    // A slot of a selection signal may select as well. That selection is announced as soon as all slots have seen the
+    // present one; until then the getters return the present one. Select a node together with its field in one call: a
+    // slot of the first of two calls could ask for another selection, which would come after both.
+
     /// Makes a node the current one; null for none. The signal is emitted also when it is the current one already. The
     /// node is held alive until another one is selected. If the node changes, no field is selected from then on, which
     /// is announced first.
     void selectNode(NxFieldContainer* node);
     /// Makes a field the current one; null for none. The signal is emitted also when it is the current one already. The
     /// field's node, which needn't be the current one, is held alive until another field is selected. A field that
-    /// stands alone may die while it is selected: then none is selected, which isn't announced.
+    /// stands alone may die while it is selected: then none is selected, which isn't announced. No slot of the signal
+    /// may destroy it.
     void selectField(NxField* field);
-    /// Emits both signals anew: the node first, then the field.
+    /// `selectNode`, then `selectField`, between which no other selection comes.
+    void select(NxFieldContainer* node, NxField* field);
+    /// Emits both signals again: the node first, then the field.
     void announceSelection();
-    [[nodiscard]] NxFieldContainer* getSelectedNode() const noexcept { return m_selectedNode.get(); }
+    [[nodiscard]] NxFieldContainer* getSelectedNode() const noexcept;
     [[nodiscard]] NxField* getSelectedField() const noexcept;
 
     /// Takes back the last step, its commands in reverse order; does nothing when there is none, or when a command
@@ -83,13 +89,10 @@ Q_SIGNALS:
     void historyChanged();
 
 private:
-    class FieldWatch;
     class HistoryChange;
 
     std::unique_ptr<DelayQueuePump> m_pump;
     std::unique_ptr<UserActionTracker> m_userAction;
-    NxRef<NxFieldContainer> m_selectedNode;
-    NxRef<NxFieldContainer> m_selectedFieldOwner;
-    std::unique_ptr<FieldWatch> m_selectedField;
+    std::unique_ptr<Selection> m_selection;
     std::unique_ptr<OrvHistory> m_history;
 };

@@ -124,6 +124,29 @@ private Q_SLOTS:
         QCOMPARE(m_window->findChild<SceneTreePanel*>()->currentNode(), robot()->getChild(1));
         m_session->services().selectField(sun()->getFields().back());
         QCOMPARE(m_session->services().getSelectedNode(), sun());
+        QCOMPARE(m_session->services().getSelectedField(), sun()->getFields().back());
+        QVERIFY(table()->selectionModel()->isRowSelected(table()->model()->rowCount() - 1));
+    }
+
+    void everySlotSeesTheSelectionThatASlotReplaces()
+    {
+        open(m_robot);
+        NxField* const wanted = sun()->getFields().back();
+        m_session->services().selectField(robot()->getChild(0)->getFields().front());
+        // As a plug-in that follows the node and has a favourite field.
+        const QObject plugin;
+        connect(&m_session->services(), &OrvServices::selectedNodeChanged, &plugin, [&](const NxFieldContainer* node) {
+            if (node == robot())
+                m_session->services().selectField(wanted);
+        });
+        const NxField* announced = nullptr;
+        connect(&m_session->services(), &OrvServices::selectedFieldChanged, &plugin,
+            [&](const NxField* field) { announced = field; });
+        clickRow(tree(), tree()->model()->index(0, 0));
+        QCOMPARE(m_session->services().getSelectedField(), wanted);
+        QCOMPARE(announced, wanted);
+        QCOMPARE(m_session->services().getSelectedNode(), sun());
+        QCOMPARE(m_window->findChild<SceneTreePanel*>()->currentNode(), sun());
         QVERIFY(table()->selectionModel()->isRowSelected(table()->model()->rowCount() - 1));
     }
 

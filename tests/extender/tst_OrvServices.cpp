@@ -100,7 +100,7 @@ private Q_SLOTS:
         QCOMPARE(seen, a.get());
     }
 
-    void theSelectionIsAnnouncedAnewNodeFirst()
+    void theSelectionIsAnnouncedAgainNodeFirst()
     {
         OrvServices services;
         const auto a = newLight("a");
@@ -109,6 +109,99 @@ private Q_SLOTS:
         noteSelection(services);
         services.announceSelection();
         QCOMPARE(taken(m_calls), (QStringList{u"node a"_s, u"field a"_s}));
+    }
+
+    void nodeAndFieldAreSelectedTogether()
+    {
+        OrvServices services;
+        const auto a = newLight("a");
+        const auto b = newLight("b");
+        noteSelection(services);
+        services.select(b.get(), &b->intensity);
+        QCOMPARE(taken(m_calls), (QStringList{u"node b"_s, u"field b"_s}));
+        QCOMPARE(services.getSelectedNode(), b.get());
+        QCOMPARE(services.getSelectedField(), &b->intensity);
+        services.select(a.get(), &a->intensity);
+        QCOMPARE(taken(m_calls), (QStringList{u"field -"_s, u"node a"_s, u"field a"_s}));
+        services.select(a.get(), nullptr);
+        QCOMPARE(taken(m_calls), (QStringList{u"node a"_s, u"field -"_s}));
+    }
+
+    void nothingComesBetweenANodeAndItsField()
+    {
+        OrvServices services;
+        const auto a = newLight("a");
+        const auto b = newLight("b");
+        connect(&services, &OrvServices::selectedNodeChanged, this, [&](const NxFieldContainer* node) {
+            if (node == a.get())
+                services.select(b.get(), &b->intensity);
+        });
+        noteSelection(services);
+        services.select(a.get(), &a->intensity);
+        QCOMPARE(taken(m_calls), (QStringList{u"node a"_s, u"field a"_s, u"field -"_s, u"node b"_s, u"field b"_s}));
+        QCOMPARE(services.getSelectedField(), &b->intensity);
+    }
+
+    void aSelectionMadeByASlotWaitsUntilAllSlotsWereCalled()
+    {
+        OrvServices services;
+        const auto a = newLight("a");
+        const auto b = newLight("b");
+        connect(&services, &OrvServices::selectedFieldChanged, this, [&](const NxField* field) {
+            if (field == &a->intensity)
+                services.selectField(&b->intensity);
+            else if (field == &b->intensity)
+                services.selectNode(b.get());
+        });
+        noteSelection(services);
+        QStringList disagreements;
+        connect(&services, &OrvServices::selectedNodeChanged, this, [&](const NxFieldContainer* node) {
+            if (services.getSelectedNode() != node)
+                disagreements.append(m_calls.last());
+        });
+        connect(&services, &OrvServices::selectedFieldChanged, this, [&](const NxField* field) {
+            if (services.getSelectedField() != field)
+                disagreements.append(m_calls.last());
+        });
+        services.selectField(&a->intensity);
+        QCOMPARE(taken(m_calls), (QStringList{u"field a"_s, u"field b"_s, u"field -"_s, u"node b"_s}));
+        QCOMPARE(disagreements, QStringList());
+        QVERIFY(services.getSelectedField() == nullptr);
+    }
+
+    void anAnnouncementAskedForByASlotComesAfterThePresentOne()
+    {
+        OrvServices services;
+        const auto a = newLight("a");
+        bool asked = false;
+        connect(&services, &OrvServices::selectedNodeChanged, this, [&] {
+            if (!std::exchange(asked, true))
+                services.announceSelection();
+        });
+        noteSelection(services);
+        services.select(a.get(), &a->intensity);
+        QCOMPARE(taken(m_calls), (QStringList{u"node a"_s, u"field a"_s, u"node a"_s, u"field a"_s}));
+    }
+
+    void whatASlotSelectsIsHeldUntilItsTurn()
+    {
+        OrvServices services;
+        const auto a = newLight("a");
+        auto b = newLight("b");
+        auto lone = std::make_unique<NxSFFloat>(nullptr, "lone", 1.0F);
+        connect(&services, &OrvServices::selectedNodeChanged, this, [&](const NxFieldContainer* node) {
+            if (node != a.get())
+                return;
+            services.selectField(lone.get());
+            services.selectField(&b->intensity);
+            lone.reset();
+            b = {};
+        });
+        noteSelection(services);
+        services.selectNode(a.get());
+        QCOMPARE(taken(m_calls), (QStringList{u"node a"_s, u"field -"_s, u"field b"_s}));
+        QVERIFY(services.getSelectedField() != nullptr);
+        QCOMPARE(services.getSelectedField()->getContainer()->getRefCount(), 1);
     }
 
     void theSelectedNodeAndTheFieldsOwnerAreHeldAlive()
