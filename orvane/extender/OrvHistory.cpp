@@ -1,5 +1,6 @@
 #include "orvane/extender/OrvHistory.h"
 
+#include "orvane/extender/FieldWatch.h"
 #include "orvane/extender/OrvCommand.h"
 
 #include "meridane/scene/NxFieldContainer.h"
@@ -22,24 +23,31 @@ constexpr std::size_t textBytesPerValueByte = 4;
 
 // Estimates what a command holds, from the field before the command's execution and after it. A command on a single
 // value keeps two texts of it. One on a list keeps two texts of a row, and the texts of the rows that it removes.
+// The execution may destroy the field.
 class CommandBytes {
 public:
-    explicit CommandBytes(const NxField* field)
-        : m_list(dynamic_cast<const NxMField*>(field))
-        , m_rows(m_list != nullptr ? m_list->getNum() : 1)
+    explicit CommandBytes(NxField* field)
+        : m_field(field)
+        , m_rows(rows(1))
         , m_rowBytes(field != nullptr && m_rows > 0 ? field->valueBytes() / static_cast<std::size_t>(m_rows) : 0)
     {
     }
 
     [[nodiscard]] std::size_t afterExecution() const
     {
-        const int removedRows = m_list != nullptr ? std::max(0, m_rows - m_list->getNum()) : 0;
+        const int removedRows = std::max(0, m_rows - rows(m_rows));
         const auto texts = 2 + static_cast<std::size_t>(removedRows);
         return bytesPerCommand + texts * (bytesPerText + textBytesPerValueByte * m_rowBytes);
     }
 
 private:
-    const NxMField* m_list;
+    [[nodiscard]] int rows(int withoutList) const
+    {
+        const auto* list = dynamic_cast<const NxMField*>(m_field.getAttachedField());
+        return list != nullptr ? list->getNum() : withoutList;
+    }
+
+    FieldWatch m_field;
     int m_rows;
     std::size_t m_rowBytes;
 };
@@ -51,7 +59,7 @@ class OrvHistory::Step : public QUndoCommand {
 public:
     Step(OrvHistory& history, std::unique_ptr<OrvCommand> command, const Context& context)
         : m_history(history)
-        , m_field(context.field)
+        , m_firstEstimate(std::make_unique<CommandBytes>(context.field))
         , m_action(context.action)
     {
         add(std::move(command), context);
@@ -69,12 +77,12 @@ public:
 
     void redo() override
     {
-        if (std::exchange(m_isExecuted, true)) {
-            for (const auto& command : m_commands)
-                command->redo();
-        } else {
-            execute(m_field);
+        if (const auto estimate = std::move(m_firstEstimate)) {
+            execute(*estimate);
+            return;
         }
+        for (const auto& command : m_commands)
+            command->redo();
     }
 
     void undo() override
@@ -96,8 +104,9 @@ public:
     // Takes in a command that is pushed while one of this step is executed, and executes it.
     void executeInside(std::unique_ptr<OrvCommand> command, const Context& context)
     {
+        const CommandBytes estimate(context.field);
         add(std::move(command), context);
-        execute(context.field);
+        execute(estimate);
     }
 
     // Destroys the commands, then gives up the nodes that they referred to.
@@ -124,10 +133,9 @@ private:
             m_nodes.emplace_back(node);
     }
 
-    void execute(const NxField* field)
+    void execute(const CommandBytes& estimate)
     {
         OrvCommand& command = *m_commands.back();
-        const CommandBytes estimate(field);
         command.execute();
         setBytes(m_bytes + estimate.afterExecution());
     }
@@ -139,11 +147,10 @@ private:
     }
 
     OrvHistory& m_history;
-    /// Only for the first execution.
-    const NxField* m_field;
+    /// Until the first execution.
+    std::unique_ptr<CommandBytes> m_firstEstimate;
     int m_action;
     std::size_t m_bytes = 0;
-    bool m_isExecuted = false;
     bool m_isEmptied = false;
     // Behind the nodes, so that the commands die first.
     std::vector<NxRef<NxFieldContainer>> m_nodes;

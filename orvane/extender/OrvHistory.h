@@ -31,8 +31,9 @@ public:
     struct Context {
         /// The action of the user, or -1 for a command that stands alone.
         int action;
-        /// The field that the command is about as far as one can tell, or null. Its size gives the command's.
-        const NxField* field;
+        /// The field that the command is about as far as one can tell, or null. Its size gives the command's. The
+        /// command may destroy it.
+        NxField* field;
         /// Held alive together with the command; either may be null.
         NxFieldContainer* node;
         NxFieldContainer* fieldOwner;

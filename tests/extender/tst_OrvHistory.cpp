@@ -9,6 +9,11 @@
 
 #include <QTest>
 
+#include <array>
+#include <cstddef>
+#include <new>
+#include <utility>
+
 #include <malloc.h>
 
 using namespace Qt::StringLiterals;
@@ -49,6 +54,29 @@ private:
     bool& m_isDead;
 };
 
+// A list that stands alone, in memory that it leaves cleared, so that whoever still uses it ends at a null pointer.
+class MortalList {
+public:
+    MortalList() { m_field->insertSpace(0, 100); }
+    MortalList(const MortalList&) = delete;
+    MortalList& operator=(const MortalList&) = delete;
+    ~MortalList() { destroy(); }
+
+    [[nodiscard]] NxField* field() const { return m_field; }
+    [[nodiscard]] bool isAlive() const { return m_field != nullptr; }
+    void destroy()
+    {
+        if (m_field == nullptr)
+            return;
+        std::exchange(m_field, nullptr)->~NxMFFloat();
+        m_memory.fill(std::byte());
+    }
+
+private:
+    alignas(NxMFFloat) std::array<std::byte, sizeof(NxMFFloat)> m_memory{};
+    NxMFFloat* m_field = new (m_memory.data()) NxMFFloat(nullptr, "list");
+};
+
 constexpr int alone = -1;
 
 } // namespace
@@ -58,7 +86,7 @@ class TestOrvHistory : public QObject {
 
     QStringList m_calls;
 
-    TestCommand* push(OrvHistory& history, const char* name, int action = alone, const NxField* field = nullptr)
+    TestCommand* push(OrvHistory& history, const char* name, int action = alone, NxField* field = nullptr)
     {
         auto command = std::make_unique<TestCommand>(QString::fromLatin1(name), m_calls);
         TestCommand* const result = command.get();
@@ -414,6 +442,54 @@ private Q_SLOTS:
         QVERIFY2(row < 1000, "one row of a long list is cheap");
         const std::size_t removal = costOf(list, [&] { list.deleteValues(0, 1000000); });
         QVERIFY2(removal > std::size_t(40) * 1000000, "each removed row has a text");
+    }
+
+    void aFieldMayDieWhileTheCommandIsExecuted()
+    {
+        OrvHistory history;
+        MortalList list;
+        history.push(std::make_unique<TestCommand>(u"a"_s, m_calls), {alone, list.field(), nullptr, nullptr});
+        const std::size_t bytes = history.bytes();
+        auto command = std::make_unique<TestCommand>(u"b"_s, m_calls);
+        command->whenExecuted = [&] { list.destroy(); };
+        history.push(std::move(command), {alone, list.field(), nullptr, nullptr});
+        QCOMPARE(history.undoDepth(), 2);
+        QCOMPARE(history.bytes(), 2 * bytes);
+    }
+
+    void aFieldMayDieWhileACommandOfACommandIsExecuted()
+    {
+        OrvHistory history;
+        MortalList list;
+        pushDoing(history, "a", [&] {
+            auto inner = std::make_unique<TestCommand>(u"b"_s, m_calls);
+            inner->whenExecuted = [&] { list.destroy(); };
+            history.push(std::move(inner), {alone, list.field(), nullptr, nullptr});
+        });
+        QCOMPARE(history.undoDepth(), 1);
+    }
+
+    void aFieldMayDieWithTheStepsThatAPushCutsOff()
+    {
+        class OwningCommand : public TestCommand {
+        public:
+            OwningCommand(QStringList& calls, MortalList& list)
+                : TestCommand(u"owner"_s, calls)
+                , m_list(list)
+            {
+            }
+            ~OwningCommand() override { m_list.destroy(); }
+
+        private:
+            MortalList& m_list;
+        };
+        OrvHistory history;
+        MortalList list;
+        history.push(std::make_unique<OwningCommand>(m_calls, list), {alone, list.field(), nullptr, nullptr});
+        history.undo();
+        push(history, "a", alone, list.field());
+        QVERIFY(!list.isAlive());
+        QCOMPARE(history.undoDepth(), 1);
     }
 
     void aLongDragTakesLittleMemoryAStep()
