@@ -86,7 +86,7 @@ private Q_SLOTS:
         for (const char* const option : {"--profile=a", "--select=/a", "--screenshot=a.png", "--size=10x10"}) {
             const QString text = QLatin1String(option);
             QTest::addRow("twice %s", option)
-                << QStringList{text, text, QStringLiteral("a.mrd")} << QString(text.section(u'=', 0, 0) + u' ');
+                << QStringList{text, text, QStringLiteral("a.mrd")} << text.section(u'=', 0, 0) + u' ';
         }
         QTest::newRow("get without file") << QStringList{QStringLiteral("--get=/a.b")} << QStringLiteral("file");
         QTest::newRow("export without file") << QStringList{QStringLiteral("--export=a.obj")} << QStringLiteral("file");
