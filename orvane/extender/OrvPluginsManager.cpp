@@ -118,7 +118,8 @@ std::optional<QString> OrvPluginsManager::takeIn(const LoadedPlugin& plugin)
 
 void OrvPluginsManager::unloadPlugins()
 {
-    Q_ASSERT_X(!m_isChanging, "unloadPlugins", "not to be called by an extension");
+    Q_ASSERT_X(!m_isChanging && !m_isUnloading, "unloadPlugins", "not to be called by an extension");
+    const QScopedValueRollback isUnloading(m_isUnloading, true);
     m_wishedProfile.reset();
     if (m_activeProfile != nullptr)
         changeProfile(nullptr);
@@ -163,6 +164,9 @@ OrvProfile* OrvPluginsManager::findProfile(const QString& name) const
 void OrvPluginsManager::setActiveProfile(OrvProfile* profile)
 {
     if (profile != nullptr && std::ranges::find(m_profilesList, profile) == m_profilesList.end())
+        return;
+    // Nothing may start again: the extensions of a profile are unloaded one after the other.
+    if (m_isUnloading)
         return;
     if (m_isChanging)
         changeProfileLater(profile);

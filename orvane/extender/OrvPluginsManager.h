@@ -62,7 +62,7 @@ public:
     ///
     /// May be called by an extension from within one of its own slots: nothing is destroyed in it. What is asked for
     /// during a change, be it by an extension that is being activated, is done from the event loop; the last wish
-    /// counts.
+    /// counts. What is asked for while `unloadPlugins` works is ignored.
     void setActiveProfile(OrvProfile* profile);
 
 Q_SIGNALS:
@@ -95,6 +95,7 @@ private:
     QList<OrvExtension*> m_running;
     OrvProfile* m_activeProfile = nullptr;
     bool m_isChanging = false;
+    bool m_isUnloading = false;
     /// The last wish that came in during a change, which may be null.
     std::optional<OrvProfile*> m_wishedProfile;
 };

@@ -296,6 +296,33 @@ private Q_SLOTS:
             taken(tool.calls).mid(4), words("FieldDock.activate NodeDock.activate ToolBar.activate Quiet node field"));
     }
 
+    void noProfileStartsWhilePluginsAreUnloaded_data()
+    {
+        QTest::addColumn<bool>("inUnload");
+        QTest::newRow("asked for by deactivate") << false;
+        QTest::newRow("asked for by unload") << true;
+    }
+
+    void noProfileStartsWhilePluginsAreUnloaded()
+    {
+        QFETCH(const bool, inUnload);
+        Tool tool;
+        tool.loadPlugins();
+        tool.run(u"All"_s);
+        (inUnload ? tool.toolBar.whenUnloaded : tool.toolBar.whenDeactivated) = [&] { tool.run(u"Quiet"_s); };
+        taken(tool.calls);
+        tool.manager.unloadPlugins();
+        QCOMPARE(taken(tool.calls),
+            words("ToolBar.deactivate NodeDock.deactivate FieldDock.deactivate Console.deactivate "
+                  "ToolBar.unload NodeDock.unload FieldDock.unload Console.unload Number.unload Text.unload"));
+        QVERIFY(tool.manager.getActiveProfile() == nullptr);
+        QCoreApplication::processEvents();
+        QVERIFY(tool.manager.getActiveProfile() == nullptr);
+        tool.loadPlugins();
+        tool.run(u"Quiet"_s);
+        QCOMPARE(tool.manager.getActiveProfile(), tool.profile(u"Quiet"_s));
+    }
+
     void anExtensionMayChangeTheProfileFromItsOwnSlot()
     {
         Tool tool;
