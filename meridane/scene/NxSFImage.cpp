@@ -51,6 +51,13 @@ bool NxSFImage::setValue(const VbVec2s& size, int components, std::vector<unsign
     return true;
 }
 
+std::vector<unsigned char> NxSFImage::takeBytes()
+{
+    Image image = std::exchange(m_image, {});
+    touch();
+    return std::move(image.bytes);
+}
+
 bool NxSFImage::isSame(const NxField& other) const
 {
     if (getTypeId() != other.getTypeId())

@@ -28,6 +28,9 @@ public:
     /// Takes the bytes over; their number must fit as well.
     bool setValue(const VbVec2s& size, int components, std::vector<unsigned char>&& bytes);
 
+    /// Hands the bytes over without a copy, leaves an empty image and tells the observers.
+    [[nodiscard]] std::vector<unsigned char> takeBytes();
+
     [[nodiscard]] bool isSame(const NxField& other) const override;
     bool copyFrom(const NxField& other) override;
     [[nodiscard]] std::size_t valueBytes() const override;

@@ -137,34 +137,26 @@ std::string HelperProcess::takeOutput()
     return std::exchange(m_output, {});
 }
 
-void HelperProcess::expectOutput(std::size_t size)
-{
-    try {
-        m_output.reserve(std::min(size, m_options.outputLimit));
-    } catch (const std::exception&) {
-        // Perhaps it promises more than it has.
-    }
-}
-
 void HelperProcess::takeOutputOfProcess()
 {
     m_patience.start();
-    const std::size_t before = m_output.size();
+    const std::size_t before = m_outputSize;
     try {
         while (const qint64 available = m_process.bytesAvailable()) {
             const std::size_t size = m_output.size();
             m_output.resize(size + static_cast<std::size_t>(available));
             const qint64 count = m_process.read(m_output.data() + size, available);
             m_output.resize(size + static_cast<std::size_t>(std::max<qint64>(count, 0)));
+            m_outputSize += m_output.size() - size;
         }
     } catch (const std::exception&) { // for want of memory, or of length
         fail(QStringLiteral("what the import helper wrote doesn't fit in memory"));
         return;
     }
-    if (m_output.size() > m_options.outputLimit)
+    if (m_outputSize > m_options.outputLimit)
         fail(QStringLiteral("the import helper wrote more than %1 MiB and was stopped")
                  .arg(m_options.outputLimit >> 20));
-    else if (m_output.size() > before)
+    else if (m_outputSize > before)
         Q_EMIT outputGrew();
 }
 

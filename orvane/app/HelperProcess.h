@@ -53,12 +53,7 @@ public:
     /// How many bytes wait to be read by the process.
     [[nodiscard]] std::size_t pendingInput() const;
 
-    /// What the process has written since the last `takeOutput`.
-    [[nodiscard]] const std::string& output() const noexcept { return m_output; }
-    /// Makes room for that much output in all. What is more than may be written or doesn't fit in memory is found when
-    /// it arrives.
-    void expectOutput(std::size_t size);
-    /// Hands over what the process has written so far, at `ended` all of it.
+    /// Hands over what the process has written since the last call; at `ended` that is all the rest.
     [[nodiscard]] std::string takeOutput();
 
 Q_SIGNALS:
@@ -87,7 +82,8 @@ private:
     QProcess m_process;
     QTimer m_patience;
     QTimer m_deadline;
-    std::string m_output;
+    std::string m_output; // that wasn't taken yet
+    std::size_t m_outputSize = 0; // of all of it
     QByteArray m_messages; // the end of what it said on standard error
     bool m_ended = false;
 };

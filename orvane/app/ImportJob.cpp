@@ -2,7 +2,6 @@
 
 #include "orvane/app/SliceClock.h"
 #include "orvane/app/TextConversion.h"
-#include "orvane/import/PackedScene.h"
 #include "orvane/import/WorkTime.h"
 
 #include "meridane/base/NxReadError.h"
@@ -14,13 +13,13 @@ ImportJob::ImportJob(const QString& fileName, const HelperOptions& options)
     , m_helper(options, {QStringLiteral("--packed"), QStringLiteral("--read"), QFileInfo(fileName).absoluteFilePath()},
           orvane::modelSize(orvane::toStdFileName(fileName)))
 {
-    connect(&m_helper, &HelperProcess::outputGrew, this, &ImportJob::lookAtOutput);
+    connect(&m_helper, &HelperProcess::outputGrew, this, &ImportJob::takeOutput);
     connect(&m_helper, &HelperProcess::ended, this, [this] {
         m_helperEnded = true;
         if (m_reader)
             finishWhenAllIsDone();
         else
-            readScene();
+            startReading();
     });
     connect(&m_helper, &HelperProcess::failed, this, [this](const QString& reason, bool byHelper) {
         fail(byHelper ? reason : QStringLiteral("%1: %2").arg(this->fileName(), reason));
@@ -44,24 +43,22 @@ void ImportJob::cancel()
     QMetaObject::invokeMethod(this, &FileJob::cancelled, Qt::QueuedConnection);
 }
 
-void ImportJob::lookAtOutput()
+void ImportJob::takeOutput()
 {
+    const std::string bytes = m_helper.takeOutput();
     if (m_reader) {
         failForNoScene(QStringLiteral("there are bytes behind its end"));
         return;
     }
-    // Bytes that tell no size aren't a packed scene; that is told when the helper ends, if it has no message of its
-    // own.
-    const std::optional<std::size_t> size = orvane::packedSceneSize(m_helper.output());
-    if (size && m_helper.output().size() < *size)
-        m_helper.expectOutput(*size);
-    else if (size)
-        readScene();
+    m_parts.take(bytes);
+    // Output that doesn't begin like a packed scene may be followed by the helper's own message.
+    if (m_parts.isComplete() || (m_parts.isBroken() && m_parts.hasBegun()))
+        startReading();
 }
 
-void ImportJob::readScene()
+void ImportJob::startReading()
 {
-    m_reader = std::make_unique<orvane::PackedSceneReader>(m_helper.takeOutput());
+    m_reader = std::make_unique<orvane::PackedSceneReader>(std::move(m_parts));
     m_slices.start(0);
 }
 

@@ -22,8 +22,8 @@ public:
     void cancel() override;
 
 private:
-    void lookAtOutput();
-    void readScene();
+    void takeOutput();
+    void startReading();
     void readSlice();
     void finishWhenAllIsDone();
     void failForNoScene(const QString& reason);
@@ -31,7 +31,8 @@ private:
     void end();
 
     HelperProcess m_helper;
-    std::unique_ptr<orvane::PackedSceneReader> m_reader;
+    orvane::PackedParts m_parts;
+    std::unique_ptr<orvane::PackedSceneReader> m_reader; // once all parts are there, or the helper has ended
     QTimer m_slices;
     bool m_helperEnded = false;
     bool m_ended = false;

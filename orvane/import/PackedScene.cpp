@@ -1,51 +1,63 @@
 #include "orvane/import/PackedScene.h"
 
-#include "orvane/import/Frames.h"
 #include "orvane/import/NodeOrder.h"
 #include "orvane/import/PackedLists.h"
 
 #include "meridane/scene/NxFieldData.h"
+#include "meridane/scene/NxSFImage.h"
 #include "meridane/scene/NxSceneWriter.h"
 
 #include <chrono>
+#include <utility>
 
 namespace orvane {
-namespace {
-
-constexpr std::string_view firstWords = "orvane-scene 1 ";
-constexpr std::size_t longestFirstLine = 64;
-
-} // namespace
 
 PackedScene::PackedScene(NxGroup& scene)
 {
     NodeOrder order(scene);
     std::size_t number = 0;
     while (NxNode* node = order.next())
-        takeLists(*node, number++);
+        takeBlocks(*node, number++);
     writeText(scene);
 }
 
-void PackedScene::takeLists(NxNode& node, std::size_t number)
+void PackedScene::takeBlocks(NxNode& node, std::size_t number)
 {
     const NxFieldData& data = *node.getFieldData();
     for (int index = 0; index < data.getNumFields(); ++index) {
-        withPackableList(*data.getField(&node, index), [&](auto& list) {
-            if (list.getNum() < shortestList)
-                return;
-            const auto values
-                = std::make_shared<const std::vector<ListValue<std::decay_t<decltype(list)>>>>(list.takeValues());
-            const std::size_t size = values->size() * sizeof(values->front());
-            m_lists.push_back({std::string("list ")
-                                   .append(std::to_string(size))
-                                   .append(" ")
-                                   .append(std::to_string(number))
-                                   .append(" ")
-                                   .append(data.getFieldName(index).getString())
-                                   .append("\n"),
-                values, {reinterpret_cast<const char*>(values->data()), size}});
+        NxField& field = *data.getField(&node, index);
+        const std::string name(data.getFieldName(index).getString());
+        if (auto* image = dynamic_cast<NxSFImage*>(&field))
+            takeImage(*image, std::to_string(number), name);
+        withPackableList(field, [&](auto& list) {
+            if (list.getNum() >= shortestList)
+                addBlock("list ", std::to_string(number), name, list.takeValues());
         });
     }
+}
+
+void PackedScene::takeImage(NxSFImage& field, const std::string& node, const std::string& name)
+{
+    VbVec2s size;
+    int components = 0;
+    field.getValue(size, components);
+    if (size[0] * size[1] < shortestList)
+        return;
+    std::string numbers = node;
+    for (const int number : {int{size[0]}, int{size[1]}, components})
+        numbers.append(" ").append(std::to_string(number));
+    addBlock("image ", numbers, name, field.takeBytes());
+}
+
+template <typename Value>
+void PackedScene::addBlock(
+    const char* word, const std::string& numbers, const std::string& name, std::vector<Value> values)
+{
+    const auto kept = std::make_shared<const std::vector<Value>>(std::move(values));
+    const std::size_t size = kept->size() * sizeof(Value);
+    std::string head(word);
+    head.append(std::to_string(size)).append(" ").append(numbers).append(" ").append(name).append("\n");
+    m_blocks.push_back({std::move(head), kept, {reinterpret_cast<const char*>(kept->data()), size}});
 }
 
 void PackedScene::writeText(NxGroup& scene)
@@ -55,30 +67,17 @@ void PackedScene::writeText(NxGroup& scene)
     m_failure = writer.failure();
     const std::string textHead = std::string("text ").append(std::to_string(m_text.size())).append("\n");
     std::size_t size = textHead.size() + m_text.size();
-    for (const List& list : m_lists)
-        size += list.head.size() + list.bytes.size();
+    for (const Block& block : m_blocks)
+        size += block.head.size() + block.bytes.size();
     m_head.append(firstWords).append(std::to_string(size)).append("\n").append(textHead);
 }
 
 std::vector<std::string_view> PackedScene::portions() const
 {
     std::vector<std::string_view> portions{m_head, m_text};
-    for (const List& list : m_lists)
-        portions.insert(portions.end(), {std::string_view(list.head), list.bytes});
+    for (const Block& block : m_blocks)
+        portions.insert(portions.end(), {std::string_view(block.head), block.bytes});
     return portions;
-}
-
-std::optional<std::size_t> packedSceneSize(std::string_view bytes)
-{
-    const std::size_t all = bytes.size();
-    std::optional<std::string_view> line = takeLine(bytes, longestFirstLine);
-    if (!line || !takeStart(*line, firstWords))
-        return std::nullopt;
-    const std::optional<std::size_t> size = takeNumber(*line);
-    const std::size_t head = all - bytes.size();
-    if (!size || !line->empty() || *size > std::string::npos - head)
-        return std::nullopt;
-    return head + *size;
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orvane/import/NodeOrder.h"
+#include "orvane/import/PackedParts.h"
 
 #include "meridane/scene/NxSceneReader.h"
 
@@ -10,18 +11,22 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
+
+class NxSFImage;
 
 namespace orvane {
 
-/// Reads a scene from the bytes of a packed scene, in slices, all or nothing.
+/// Reads a scene from the parts of a packed scene, in slices, all or nothing.
 ///
-/// Nothing is taken for granted: bytes that aren't a packed scene through and through, whose text isn't a scene, or
-/// whose lists don't fit the nodes of that scene are refused. Thread of the user interface only.
+/// Nothing is taken for granted: parts that aren't complete, whose text isn't a scene, or whose blocks don't fit the
+/// nodes of that scene are refused. An image is moved into its field, a list is copied, and its block is released at
+/// once. Thread of the user interface only.
 class PackedSceneReader {
 public:
     using State = NxSceneReader::State;
 
-    explicit PackedSceneReader(std::string bytes);
+    explicit PackedSceneReader(PackedParts parts);
     PackedSceneReader(const PackedSceneReader&) = delete;
     PackedSceneReader& operator=(const PackedSceneReader&) = delete;
 
@@ -30,7 +35,7 @@ public:
     /// Reads to the end.
     State run();
     [[nodiscard]] State state() const noexcept { return m_state; }
-    /// The share of the bytes that is read, 0 to 1.
+    /// The share of text and blocks that is read, 0 to 1.
     [[nodiscard]] double progress() const noexcept;
     /// Why the bytes were refused, one line; empty unless the state is `Failed`.
     [[nodiscard]] const std::string& failure() const noexcept { return m_failure; }
@@ -39,38 +44,35 @@ public:
     [[nodiscard]] NxRef<NxGroup> takeScene();
 
 private:
-    /// The list that is being read.
-    struct List {
-        std::string_view bytes;
-        std::size_t node = 0; // its number
-        std::string_view field; // its name
-    };
-
     void work(std::chrono::microseconds budget);
     void startText();
     void readText(std::chrono::microseconds budget);
-    void readListHead();
     void findNode();
-    void readList();
+    void readBlock();
+    void readValues(NxField& field);
     template <typename Values>
-    void readValues(Values& list);
+    void readList(Values& list);
+    void readImage(NxSFImage& image);
+    [[nodiscard]] PackedBlock& block() { return m_blocks[m_done]; }
     void fail(std::string reason);
-    void failAtList(std::string_view reason);
+    void failAtBlock(std::string_view reason);
 
-    const std::string m_bytes;
-    std::string_view m_rest; // what isn't read yet
+    PackedParts m_parts;
     State m_state = State::Working;
     std::string m_failure;
     std::unique_ptr<NxSceneReader> m_textReader;
     std::size_t m_textSize = 0;
+    std::size_t m_blockBytes = 0; // of all blocks
+    std::size_t m_doneBytes = 0; // of those that are read
     NxRef<NxGroup> m_scene;
+
+    std::vector<PackedBlock> m_blocks;
+    std::size_t m_done = 0; // blocks
 
     std::optional<NodeOrder> m_order;
     NxNode* m_node = nullptr; // where the walk is
     std::size_t m_walked = 0; // nodes, that one included
-    int m_nextField = 0; // of that node that a list may be for
-    std::optional<List> m_list;
-    std::size_t m_lists = 0; // that were found so far, that one included
+    int m_nextField = 0; // of that node that a block may be for
 };
 
 } // namespace orvane

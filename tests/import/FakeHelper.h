@@ -22,7 +22,7 @@ inline HelperOptions fakeHelper(const QTemporaryDir& folder, const QByteArray& s
 inline QByteArray packedHead(qsizetype textSize)
 {
     const QByteArray head = "text " + QByteArray::number(textSize) + '\n';
-    return "printf 'orvane-scene 1 " + QByteArray::number(head.size() + textSize) + "\\ntext "
+    return "printf 'orvane-scene 2 " + QByteArray::number(head.size() + textSize) + "\\ntext "
         + QByteArray::number(textSize) + "\\n'";
 }
 

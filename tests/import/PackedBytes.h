@@ -6,6 +6,7 @@
 #include "orvane/import/PackedSceneReader.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 /// The bytes of a packed scene, whose long lists go with them; empty for a scene that can't be told.
@@ -23,7 +24,9 @@ inline std::string pack(NxGroup& scene)
 /// A scene from its bytes; null with the reason in `failure` for bytes that are none.
 inline NxRef<NxGroup> unpack(const std::string& bytes, std::string& failure)
 {
-    orvane::PackedSceneReader reader(bytes);
+    orvane::PackedParts parts;
+    parts.take(bytes);
+    orvane::PackedSceneReader reader(std::move(parts));
     reader.run();
     failure = reader.failure();
     return reader.takeScene();

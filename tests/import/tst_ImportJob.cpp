@@ -1,4 +1,5 @@
 #include "import/FakeHelper.h"
+#include "import/Gltf.h"
 #include "import/HelperRun.h"
 #include "import/JobRecord.h"
 
@@ -7,6 +8,8 @@
 #include "meridane/base/NxReadError.h"
 #include "meridane/scene/NxSceneWriter.h"
 
+#include <QBuffer>
+#include <QImage>
 #include <QTest>
 
 #include <csignal>
@@ -118,13 +121,28 @@ void tst_ImportJob::itIsTheSceneThatTheHelperTellsAsText_data()
     QFile file(fileName);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(model) == model.size());
     QTest::newRow("long lists") << fileName;
+
+    QImage picture(40, 30, QImage::Format_RGB888);
+    for (int pixel = 0; pixel < 1200; ++pixel)
+        picture.setPixel(pixel % 40, pixel / 40, qRgb(pixel % 256, pixel / 7, 3));
+    QBuffer png;
+    QVERIFY(png.open(QIODevice::WriteOnly) && picture.save(&png, "png"));
+    const QByteArray uri = gltf::dataUri("image/png", png.data());
+    const QString textured = m_folder.filePath(QStringLiteral("textured.gltf"));
+    QVERIFY(writeFile(textured,
+        gltf::model(R"({"mesh": 0})",
+            R"("scenes": [{"nodes": [0]}], "materials": [{"pbrMetallicRoughness": {"baseColorTexture": {"index": 0}}}],
+            "textures": [{"source": 0}], "images": [{"name": "picture", "uri": )"
+                + uri + "}],",
+            R"(, "material": 0)")));
+    QTest::newRow("an image") << textured;
 }
 
 void tst_ImportJob::itIsTheSceneThatTheHelperTellsAsText()
 {
     QFETCH(QString, fileName);
     const HelperRun run = runHelper({QStringLiteral("--read"), fileName});
-    QCOMPARE(run.status, 0);
+    QCOMPARE(run.error, QString());
     ImportJob job(fileName, realHelper());
     const JobRecord record(job);
     job.start();
@@ -132,6 +150,8 @@ void tst_ImportJob::itIsTheSceneThatTheHelperTellsAsText()
     const NxRef<NxGroup> scene = job.takeScene();
     QVERIFY(scene);
     QVERIFY(NxSceneWriter::toText(scene.get()) == run.output);
+    const bool hasImage = run.output.find(" image = 40 30 3 0x") != std::string::npos;
+    QCOMPARE(hasImage, fileName.endsWith(QStringLiteral("textured.gltf")));
 }
 
 void tst_ImportJob::aSceneIsReadWhileTheHelperEnds()
@@ -211,7 +231,7 @@ void tst_ImportJob::everyFailureOfTheHelperIsOneMessage_data()
     QTest::newRow("garbage") << QByteArray("echo garbage") << noScene;
     QTest::newRow("nothing") << QByteArray("exit 0") << noScene;
     QTest::newRow("zeros") << QByteArray("head -c 100000 /dev/zero") << noScene;
-    QTest::newRow("a newer way of packing") << QByteArray("echo 'orvane-scene 2 0'") << noScene;
+    QTest::newRow("a newer way of packing") << QByteArray("echo 'orvane-scene 3 0'") << noScene;
     QTest::newRow("a scene that isn't packed") << QByteArray("echo '#mrd 1.0'") << noScene;
     QTest::newRow("a newer format") << packedText("#mrd 9.0\n") << noScene;
     QTest::newRow("nodes in nodes without end")
@@ -223,7 +243,7 @@ void tst_ImportJob::everyFailureOfTheHelperIsOneMessage_data()
     QTest::newRow("more than it tells ahead, after a while")
         << packedText("#mrd 1.0\n") + "; sleep 0.2; echo" << noScene;
     QTest::newRow("far less than it tells ahead")
-        << QByteArray("echo 'orvane-scene 1 18446744073709551000'") << noScene;
+        << QByteArray("echo 'orvane-scene 2 18446744073709551000'") << noScene;
     QTest::newRow("half a scene, then a crash") << packedHead(1000) + "; printf '#mrd 1.0\\nGroup {'; kill -SEGV $$"
                                                 << QStringLiteral("the import helper crashed with signal 11");
     QTest::newRow("a whole scene, then a crash")

@@ -4,6 +4,7 @@
 #include "meridane/scene/NxFieldGallery.h"
 #include "meridane/scene/NxMesh.h"
 #include "meridane/scene/NxSceneWriter.h"
+#include "meridane/scene/NxTexture.h"
 
 #include <QTest>
 
@@ -41,6 +42,9 @@ class tst_PackedScene : public QObject {
 private Q_SLOTS:
     void everyListComesBackToTheBit_data();
     void everyListComesBackToTheBit();
+    void everyImageComesBackToTheByte_data();
+    void everyImageComesBackToTheByte();
+    void smallImagesStayInTheText();
     void longListsLeaveTheText();
     void shortListsStayInTheText();
     void otherListsStayInTheText();
@@ -100,6 +104,50 @@ void tst_PackedScene::everyListComesBackToTheBit()
     const std::vector<NxField*> originals = original->getFields();
     for (std::size_t index = 0; index < fields.size(); ++index)
         QVERIFY2(fields[index]->isSame(*originals[index]), node->getFieldName(fields[index]).getString());
+}
+
+void tst_PackedScene::everyImageComesBackToTheByte_data()
+{
+    QTest::addColumn<VbVec2s>("size");
+    QTest::addColumn<int>("components");
+    for (int components = 1; components <= 4; ++components)
+        QTest::addRow("%d components", components) << VbVec2s(17, 9) << components;
+    QTest::newRow("a column") << VbVec2s(1, 32767) << 3;
+    QTest::newRow("a row") << VbVec2s(32767, 1) << 4;
+}
+
+void tst_PackedScene::everyImageComesBackToTheByte()
+{
+    QFETCH(VbVec2s, size);
+    QFETCH(int, components);
+    std::vector<unsigned char> bytes(static_cast<std::size_t>(size[0] * size[1] * components));
+    for (std::size_t index = 0; index < bytes.size(); ++index)
+        bytes[index] = static_cast<unsigned char>(index * 7);
+    const NxRef<NxGroup> scene = new NxGroup;
+    const NxRef<NxTexture> texture = new NxTexture;
+    const NxRef<NxTexture> original = new NxTexture;
+    scene->addChild(texture.get());
+    texture->image.setValue(size, components, bytes.data());
+    original->image.setValue(size, components, bytes.data());
+    const std::string packed = pack(*scene);
+    QVERIFY(packed.size() < bytes.size() + 200);
+    QVERIFY(texture->image.isDefault());
+    std::string failure;
+    const NxRef<NxGroup> result = unpack(packed, failure);
+    QVERIFY2(result, failure.c_str());
+    const auto* node = dynamic_cast<NxTexture*>(result->getChild(0));
+    QVERIFY(node != nullptr);
+    QVERIFY(node->image.isSame(original->image));
+}
+
+void tst_PackedScene::smallImagesStayInTheText()
+{
+    const NxRef<NxGroup> scene = new NxGroup;
+    const NxRef<NxTexture> texture = new NxTexture;
+    scene->addChild(texture.get());
+    texture->image.setValue(VbVec2s(9, 7), 1, std::vector<unsigned char>(63, 'x'));
+    const std::string text = NxSceneWriter::toText(scene.get());
+    QVERIFY(pack(*scene).ends_with("text " + std::to_string(text.size()) + "\n" + text));
 }
 
 void tst_PackedScene::longListsLeaveTheText()

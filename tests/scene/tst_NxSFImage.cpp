@@ -16,6 +16,7 @@ private Q_SLOTS:
     void bytesAreCopied();
     void bytesCanBeMovedIn();
     void aMovedVectorMustFit();
+    void bytesCanBeTakenOut();
     void sizesThatMakeNoImageAreRefused_data();
     void sizesThatMakeNoImageAreRefused();
     void theEmptyImageTakesNoBytes();
@@ -89,6 +90,22 @@ void tst_NxSFImage::aMovedVectorMustFit()
     QVERIFY(!image.field.setValue(VbVec2s(1, 1), 3, std::vector<unsigned char>(4)));
     QVERIFY(!image.field.setValue(VbVec2s(0, 0), 0, std::vector<unsigned char>(1)));
     QVERIFY(image.isUntouched());
+}
+
+void tst_NxSFImage::bytesCanBeTakenOut()
+{
+    TwoByTwo image;
+    VbVec2s size;
+    int components = 0;
+    const unsigned char* const place = image.field.getValue(size, components);
+    NotificationCount notifications(image.field);
+    const std::vector<unsigned char> bytes = image.field.takeBytes();
+    QVERIFY(bytes.data() == place);
+    QVERIFY(std::equal(twoByTwo.begin(), twoByTwo.end(), bytes.begin(), bytes.end()));
+    QVERIFY(image.field.getValue(size, components) == nullptr);
+    QCOMPARE(size, VbVec2s(0, 0));
+    QCOMPARE(components, 0);
+    QCOMPARE(notifications.take(), 1);
 }
 
 void tst_NxSFImage::sizesThatMakeNoImageAreRefused_data()
