@@ -1,9 +1,7 @@
 #include "orvane/app/FileFlow.h"
 
+#include "orvane/app/FileDialogs.h"
 #include "orvane/app/FileJobs.h"
-#include "orvane/app/InputBlock.h"
-#include "orvane/app/JobBar.h"
-#include "orvane/app/MessageBar.h"
 #include "orvane/app/NodeCommands.h"
 #include "orvane/app/PendingEdits.h"
 #include "orvane/app/RecentFiles.h"
@@ -15,214 +13,279 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 
-namespace {
-
-const QString topic = QStringLiteral("file");
-
-} // namespace
+#include <utility>
 
 FileFlow::FileFlow(Session& session, RecentFiles& recent, MessageBar& messages, JobBar& jobBar, QWidget* window)
+    : FileFlow(session, recent, messages, jobBar, window, {orvane::makeLoadJob, orvane::makeSaveJob})
+{
+}
+
+FileFlow::FileFlow(
+    Session& session, RecentFiles& recent, MessageBar& messages, JobBar& jobBar, QWidget* window, JobMakers jobMakers)
     : QObject(window)
     , m_session(session)
     , m_recent(recent)
-    , m_messages(messages)
-    , m_jobBar(jobBar)
     , m_window(window)
+    , m_jobMakers(std::move(jobMakers))
+    , m_work(messages, jobBar, this)
 {
+    connect(&m_work, &FileWork::writingEnded, this, &FileFlow::ended);
+    connect(&session.document(), &SceneDocument::sceneChanged, this,
+        [this] { m_work.dropOtherScenes(m_session.document().sceneNumber()); });
 }
 
 FileFlow::~FileFlow() = default;
 
 void FileFlow::newScene()
 {
-    leaveScene([this] { m_session.document().newScene(); });
+    requestForAnyScene(Kind::New, [this] {
+        leave({[this] {
+            m_work.stopReading(tr("A new scene was made instead."));
+            m_session.document().newScene();
+        }});
+    });
 }
 
 void FileFlow::closeScene()
 {
-    leaveScene([this] { m_session.document().close(); });
+    request(Kind::Close, [this] {
+        leave({[this] {
+            m_work.stopReading(tr("The scene was closed."));
+            m_session.document().close();
+        }});
+    });
 }
 
-void FileFlow::open(const QString& fileName)
+void FileFlow::open(const QString& fileName, const Opened& opened)
 {
-    leaveScene([this, fileName] {
-        load(fileName, [this, fileName](const NxRef<NxGroup>& scene) {
-            // The old scene could be edited while the new one was read.
-            leaveScene([this, scene, fileName] { m_session.document().open(scene, fileName); });
-        });
-    });
+    m_work.push({Kind::Open, fileName, FileRequest::anyScene, [this, fileName, opened] { startOpen(fileName, opened); },
+        [this, opened](const QString& reason) { endOpen(opened, reason); }});
 }
 
 void FileFlow::import(const QString& fileName)
 {
-    if (!m_session.document().isOpen())
-        open(fileName);
-    else
-        load(fileName, [this, fileName](const NxRef<NxGroup>& content) { addToScene(content, fileName); });
+    request(
+        Kind::Add, [this, fileName] { startAdd(fileName); }, fileName);
 }
 
 void FileFlow::save()
 {
-    saveThen({});
+    request(Kind::Save, [this] { saveThen({}); });
 }
 
 void FileFlow::saveAs()
 {
-    if (m_session.document().isOpen())
-        chooseSaveFile({});
+    request(Kind::SaveAs, [this] { chooseSaveFile({}); });
 }
 
 void FileFlow::saveTo(const QString& fileName)
 {
-    if (SceneDocument::isSceneFileName(fileName)) {
-        write(fileName, tr("Saving"), [this, fileName] {
-            m_session.document().setSaved(fileName);
-            m_recent.add(fileName);
-        });
-    } else {
+    if (!SceneDocument::isSceneFileName(fileName)) {
         exportTo(fileName);
+        return;
     }
+    request(
+        Kind::Save, [this, fileName] { writeScene(fileName, {}); }, fileName);
 }
 
 void FileFlow::exportTo(const QString& fileName)
 {
-    write(fileName, tr("Exporting"), [this, fileName] {
-        m_messages.showMessage(MessageBar::Severity::Information, tr("Exported to %1.").arg(fileName), topic);
+    request(
+        Kind::Export, [this, fileName] { writeModel(fileName); }, fileName);
+}
+
+// What is chosen in a dialog is begun at once: the request had its turn when the dialog was opened.
+
+void FileFlow::chooseFileToOpen()
+{
+    requestForAnyScene(Kind::Open, [this] {
+        QFileDialog* dialog = orvane::makeOpenDialog(m_window, m_session.document());
+        connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& name) { startOpen(name, {}); });
+        m_work.open(dialog);
     });
 }
 
-void FileFlow::leaveScene(const Action& proceed)
+void FileFlow::chooseFileToImport()
 {
-    if (m_block != nullptr) {
-        m_afterJob = [this, proceed] { leaveScene(proceed); };
-        return;
-    }
+    request(Kind::Add, [this] {
+        QFileDialog* dialog = orvane::makeImportDialog(m_window, m_session.document());
+        connect(dialog, &QFileDialog::fileSelected, this, &FileFlow::startAdd);
+        m_work.open(dialog);
+    });
+}
+
+void FileFlow::chooseFileToExport()
+{
+    request(Kind::Export, [this] {
+        if (!m_session.document().isOpen())
+            return;
+        QFileDialog* dialog = orvane::makeExportDialog(m_window, m_session.document());
+        connect(dialog, &QFileDialog::fileSelected, this, &FileFlow::writeModel);
+        m_work.open(dialog);
+    });
+}
+
+void FileFlow::leaveForQuit(const Action& proceed)
+{
+    requestForAnyScene(Kind::Quit, [this, proceed] { leave({proceed}); });
+}
+
+void FileFlow::abandon()
+{
+    m_work.abandon();
+}
+
+void FileFlow::request(Kind kind, const Action& run, const QString& fileName)
+{
+    m_work.push({kind, fileName, m_session.document().sceneNumber(), run});
+}
+
+void FileFlow::requestForAnyScene(Kind kind, const Action& run)
+{
+    m_work.push({kind, {}, FileRequest::anyScene, run});
+}
+
+void FileFlow::leave(const Next& next)
+{
     orvane::commitPendingEdit();
     if (!m_session.document().isModified()) {
-        proceed();
+        next.proceed();
         return;
     }
     auto* question = new SaveQuestion(m_session.document().displayName(), m_window);
-    connect(question, &SaveQuestion::saveChosen, this, [this, proceed] { saveThen(proceed); });
-    connect(question, &SaveQuestion::discardChosen, this, proceed);
-    question->open();
+    connect(question, &SaveQuestion::saveChosen, this, [this, next] { saveThen(next); });
+    connect(question, &SaveQuestion::discardChosen, this, next.proceed);
+    connect(question, &SaveQuestion::cancelChosen, this, next.giveUp);
+    m_work.open(question);
 }
 
-void FileFlow::cancelLoading()
+void FileFlow::startOpen(const QString& fileName, const Opened& opened)
 {
-    if (m_block == nullptr)
-        m_jobBar.cancel();
+    const FileWork::Reader reader{
+        [this, fileName, opened](const NxRef<NxGroup>& scene) { takeScene(scene, fileName, opened); },
+        [this, fileName, opened](const QString& reason, const QString& error) {
+            forgetIfMissing(fileName);
+            endOpen(opened, reason, error);
+        }};
+    leave({[this, fileName, reader] { m_work.read(Kind::Open, m_jobMakers.load(fileName), reader); },
+        [this, fileName, opened] { cancelOpen(opened, fileName); }});
 }
 
-void FileFlow::load(const QString& fileName, std::function<void(NxRef<NxGroup>)> take)
+void FileFlow::startAdd(const QString& fileName)
 {
-    std::unique_ptr<SceneJob> job = orvane::makeLoadJob(fileName);
-    SceneJob* running = job.get();
-    connect(running, &FileJob::failed, &m_recent, [this, fileName] {
-        if (!QFileInfo::exists(fileName))
-            m_recent.remove(fileName);
-    });
-    run(std::move(job), tr("Opening %1").arg(QFileInfo(fileName).fileName()),
-        [this, running, fileName, take = std::move(take)] {
-            m_recent.add(fileName);
-            take(running->takeScene());
-        });
-}
-
-void FileFlow::write(const QString& fileName, const QString& text, const Action& done)
-{
-    if (!mayWrite())
-        return;
-    run(orvane::makeSaveJob(NxRef<NxGroup>(m_session.document().scene()), fileName),
-        tr("%1 %2").arg(text, QFileInfo(fileName).fileName()), done);
-    m_block = std::make_unique<InputBlock>(&m_jobBar);
-    connect(m_block.get(), &InputBlock::escapePressed, &m_jobBar, &JobBar::cancel);
-}
-
-bool FileFlow::mayWrite()
-{
-    if (!m_session.document().isOpen() || m_block != nullptr)
-        return false;
-    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
-        // A drag in progress goes on changing the scene.
-        m_messages.showMessage(
-            MessageBar::Severity::Warning, tr("Nothing was saved: a mouse button is held down."), topic);
-        return false;
-    }
-    orvane::commitPendingEdit();
-    return true;
-}
-
-void FileFlow::run(std::unique_ptr<FileJob> job, const QString& text, const Action& done)
-{
-    m_job = std::move(job); // ends a job that still reads
-    FileJob* running = m_job.get();
-    connect(running, &FileJob::finished, this, [this, done] {
-        m_messages.clearTopic(topic);
-        m_block.reset();
-        done();
-        end({});
-    });
-    connect(running, &FileJob::failed, this, [this](const QString& message) {
-        m_messages.showMessage(MessageBar::Severity::Error, message, topic);
-        m_afterJob = {};
-        end(message);
-    });
-    connect(running, &FileJob::cancelled, this, [this] {
-        m_afterJob = {};
-        end({});
-    });
-    m_jobBar.watch(running, text);
-    running->start();
-}
-
-void FileFlow::end(const QString& error)
-{
-    m_block.reset();
-    // The job is inside its own signal.
-    if (m_job != nullptr)
-        m_job.release()->deleteLater();
-    if (const Action next = std::exchange(m_afterJob, {}))
-        next();
-    Q_EMIT ended(error);
-}
-
-void FileFlow::saveThen(const Action& proceed)
-{
-    if (!m_session.document().isOpen())
-        return;
-    const QString fileName = m_session.document().saveFileName();
-    if (fileName.isEmpty()) {
-        chooseSaveFile(proceed);
+    if (const QString opening = m_work.fileBeingOpened(); !opening.isEmpty()) {
+        // It would be lost with the present scene, and nobody has seen the next one yet.
+        m_work.reportGivenUp(
+            {FileRequest::name(Kind::Add, fileName)}, tr("%1 is being opened.").arg(QFileInfo(opening).fileName()));
         return;
     }
-    saveTo(fileName);
-    m_afterJob = proceed;
+    if (!m_session.document().isOpen()) {
+        startOpen(fileName, {});
+        return;
+    }
+    m_work.read(Kind::Add, m_jobMakers.load(fileName),
+        {[this, fileName](const NxRef<NxGroup>& content) { addToScene(content, fileName); },
+            [this, fileName](const QString& /*reason*/, const QString& error) {
+                forgetIfMissing(fileName);
+                Q_EMIT ended(error);
+            }});
 }
 
-void FileFlow::chooseSaveFile(const Action& proceed)
+void FileFlow::takeScene(const NxRef<NxGroup>& scene, const QString& fileName, const Opened& opened)
 {
-    const SceneDocument& document = m_session.document();
-    auto* dialog = new QFileDialog(m_window, tr("Save Scene"));
-    dialog->setObjectName(QStringLiteral("saveDialog"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilter(orvane::saveFilters());
-    dialog->setDefaultSuffix(QStringLiteral("mrd"));
-    const QFileInfo present(document.fileName());
-    if (!document.fileName().isEmpty())
-        dialog->setDirectory(present.absolutePath());
-    dialog->selectFile(
-        (document.fileName().isEmpty() ? tr("Untitled") : present.completeBaseName()) + QStringLiteral(".mrd"));
-    connect(dialog, &QFileDialog::fileSelected, this, [this, proceed](const QString& fileName) {
-        saveTo(SceneDocument::isSceneFileName(fileName) ? fileName : fileName + QStringLiteral(".mrd"));
-        m_afterJob = proceed;
-    });
-    dialog->open();
+    m_recent.add(fileName);
+    // The old scene could be edited while the new one was read.
+    leave({[this, scene, fileName, opened] {
+               m_session.document().open(scene, fileName);
+               endOpen(opened, {});
+           },
+        [this, fileName, opened] { cancelOpen(opened, fileName); }});
 }
 
 void FileFlow::addToScene(const NxRef<NxGroup>& content, const QString& fileName)
 {
+    m_recent.add(fileName);
     content->setName(orvane::toVbString(QFileInfo(fileName).completeBaseName()));
     m_session.services().pushCommand(new AddNodeCommand(m_session.document().scene(), content, m_session.disposal()));
+    Q_EMIT ended({});
+}
+
+void FileFlow::endOpen(const Opened& opened, const QString& failure, const QString& error)
+{
+    if (opened)
+        opened(failure);
+    Q_EMIT ended(error);
+}
+
+void FileFlow::cancelOpen(const Opened& opened, const QString& fileName)
+{
+    endOpen(opened, tr("Opening %1 was cancelled.").arg(fileName));
+}
+
+void FileFlow::forgetIfMissing(const QString& fileName)
+{
+    if (!QFileInfo::exists(fileName))
+        m_recent.remove(fileName);
+}
+
+void FileFlow::saveThen(const Next& next)
+{
+    const QString fileName = m_session.document().saveFileName();
+    if (fileName.isEmpty())
+        chooseSaveFile(next);
+    else
+        writeScene(fileName, next);
+}
+
+void FileFlow::chooseSaveFile(const Next& next)
+{
+    if (!m_session.document().isOpen()) {
+        next.giveUp();
+        return;
+    }
+    QFileDialog* dialog = orvane::makeSaveDialog(m_window, m_session.document());
+    connect(dialog, &QFileDialog::fileSelected, this, [this, next](const QString& fileName) {
+        writeScene(SceneDocument::isSceneFileName(fileName) ? fileName : fileName + QStringLiteral(".mrd"), next);
+    });
+    connect(dialog, &QDialog::rejected, this, next.giveUp);
+    m_work.open(dialog);
+}
+
+void FileFlow::writeScene(const QString& fileName, const Next& next)
+{
+    write(fileName, tr("Saving"),
+        {[this, fileName, next] {
+             m_session.document().setSaved(fileName);
+             m_recent.add(fileName);
+             next.proceed();
+         },
+            next.giveUp});
+}
+
+void FileFlow::writeModel(const QString& fileName)
+{
+    write(fileName, tr("Exporting"),
+        {[this, fileName] { m_work.showWritingMessage(false, tr("Exported to %1.").arg(fileName)); }});
+}
+
+void FileFlow::write(const QString& fileName, const QString& text, const Next& next)
+{
+    if (!mayWrite()) {
+        next.giveUp();
+        return;
+    }
+    m_work.write(m_jobMakers.save(NxRef<NxGroup>(m_session.document().scene()), fileName), text, next);
+}
+
+bool FileFlow::mayWrite()
+{
+    if (!m_session.document().isOpen())
+        return false;
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+        // A drag in progress goes on changing the scene.
+        m_work.showWritingMessage(true, tr("Nothing was saved: a mouse button is held down."));
+        return false;
+    }
+    orvane::commitPendingEdit();
+    return true;
 }

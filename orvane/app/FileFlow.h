@@ -1,7 +1,6 @@
 #pragma once
 
-#include "meridane/scene/NxGroup.h"
-#include "meridane/scene/NxRef.h"
+#include "orvane/app/FileWork.h"
 
 #include <QObject>
 #include <QString>
@@ -9,67 +8,93 @@
 #include <functional>
 #include <memory>
 
-class FileJob;
-class InputBlock;
 class JobBar;
 class MessageBar;
 class RecentFiles;
-class SceneJob;
 class Session;
 
-/// What happens to the scene and its file when the user opens, imports, saves, exports or closes: one job at a time,
-/// and a question ahead of whatever would lose changes.
+/// What happens to the scene and its file when the user opens, adds, saves, exports, closes or quits, and a question
+/// before whatever would lose changes.
 ///
-/// An open that fails leaves the open scene as it is. While a scene is written, the user can't change it.
+/// What was asked for belongs to the scene that was open then. A file that is opened takes the place of one that is
+/// still read. What is under way is in `FileWork`; docs/robustness.md has the whole table of what becomes of a request
+/// while a job runs.
+///
+/// An open that fails leaves the open scene as it is.
 class FileFlow : public QObject {
     Q_OBJECT
 
 public:
     using Action = std::function<void()>;
+    /// How the opening of a file ended: empty when its scene is open now, else why it isn't.
+    using Opened = std::function<void(const QString& failure)>;
 
+    /// What makes the jobs.
+    struct JobMakers {
+        std::function<std::unique_ptr<SceneJob>(const QString& fileName)> load;
+        std::function<std::unique_ptr<FileJob>(const NxRef<NxGroup>& scene, const QString& fileName)> save;
+    };
+
+    /// The session, the bars and the window live longer than the flow.
     FileFlow(Session& session, RecentFiles& recent, MessageBar& messages, JobBar& jobBar, QWidget* window);
+    FileFlow(Session& session, RecentFiles& recent, MessageBar& messages, JobBar& jobBar, QWidget* window,
+        JobMakers jobMakers);
     ~FileFlow() override;
 
     void newScene();
     void closeScene();
-    void open(const QString& fileName);
+    /// `opened` is called once, unless the window is closed first.
+    void open(const QString& fileName, const Opened& opened = {});
     /// Adds the content of a file to the open scene, in a group of the file's name, as one step of the history; opens
     /// it when no scene is open.
     void import(const QString& fileName);
     /// Saves to the scene's own file, or asks for one.
     void save();
     void saveAs();
+    /// Saves or exports, as the file's extension says.
     void saveTo(const QString& fileName);
     /// Writes the scene to a file that doesn't become the scene's own.
     void exportTo(const QString& fileName);
+    void chooseFileToOpen();
+    void chooseFileToImport();
+    void chooseFileToExport();
 
-    /// Goes on with `proceed` once nothing can be lost: asks about changes, and waits for a scene that is being
+    /// Goes on with `proceed` once the window may be closed: asks about changes, and waits for a scene that is being
     /// written. Doesn't go on when the user cancels.
-    void leaveScene(const Action& proceed);
-    /// Ends a job that only reads.
-    void cancelLoading();
-    [[nodiscard]] bool isBusy() const noexcept { return static_cast<bool>(m_job); }
+    void leaveForQuit(const Action& proceed);
+    /// Gives up what is read and what waits, without a message: the window is closed.
+    void abandon();
 
 Q_SIGNALS:
-    /// A job ended; `error` is empty unless it failed.
+    /// A job ended, or was given up; `error` is empty unless it failed.
     void ended(const QString& error);
 
 private:
-    void load(const QString& fileName, std::function<void(NxRef<NxGroup>)> take);
-    void write(const QString& fileName, const QString& text, const Action& done);
-    void run(std::unique_ptr<FileJob> job, const QString& text, const Action& done);
-    void end(const QString& error);
-    void saveThen(const Action& proceed);
-    void chooseSaveFile(const Action& proceed);
+    using Kind = FileRequest::Kind;
+    using Next = FileWork::Next;
+
+    void request(Kind kind, const Action& run, const QString& fileName = {});
+    void requestForAnyScene(Kind kind, const Action& run);
+
+    void leave(const Next& next);
+    void startOpen(const QString& fileName, const Opened& opened);
+    void startAdd(const QString& fileName);
+    void takeScene(const NxRef<NxGroup>& scene, const QString& fileName, const Opened& opened);
     void addToScene(const NxRef<NxGroup>& content, const QString& fileName);
+    void endOpen(const Opened& opened, const QString& failure, const QString& error = {});
+    void cancelOpen(const Opened& opened, const QString& fileName);
+    void forgetIfMissing(const QString& fileName);
+
+    void saveThen(const Next& next);
+    void chooseSaveFile(const Next& next);
+    void writeScene(const QString& fileName, const Next& next);
+    void writeModel(const QString& fileName);
+    void write(const QString& fileName, const QString& text, const Next& next);
     [[nodiscard]] bool mayWrite();
 
     Session& m_session;
     RecentFiles& m_recent;
-    MessageBar& m_messages;
-    JobBar& m_jobBar;
     QWidget* m_window;
-    std::unique_ptr<FileJob> m_job;
-    std::unique_ptr<InputBlock> m_block; // while a scene is written
-    Action m_afterJob; // what waits for the job
+    JobMakers m_jobMakers;
+    FileWork m_work;
 };

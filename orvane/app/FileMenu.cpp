@@ -1,40 +1,15 @@
 #include "orvane/app/FileMenu.h"
 
 #include "orvane/app/FileFlow.h"
-#include "orvane/app/FileJobs.h"
 #include "orvane/app/RecentFiles.h"
 #include "orvane/app/SceneDocument.h"
 
 #include <QAction>
 #include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QRegularExpression>
 #include <QStyle>
-
-namespace {
-
-QFileDialog* makeDialog(QWidget* window, const QString& title, const QString& filters, const SceneDocument& document)
-{
-    auto* dialog = new QFileDialog(window, title);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setNameFilters(filters.split(QStringLiteral(";;")));
-    if (!document.fileName().isEmpty())
-        dialog->setDirectory(QFileInfo(document.fileName()).absolutePath());
-    return dialog;
-}
-
-/// The extension that a name filter such as "STL (*.stl)" stands for.
-QString suffixOf(const QString& filter)
-{
-    const qsizetype start = filter.indexOf(QStringLiteral("*.")) + 2;
-    return filter.mid(start, filter.indexOf(QRegularExpression(QStringLiteral("[ )]")), start) - start);
-}
-
-} // namespace
 
 FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, SceneDocument& document)
     : QObject(window)
@@ -52,7 +27,7 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     m_open = addAction(tr("&Open…"), "fileOpen");
     m_open->setShortcut(QKeySequence::Open);
     m_open->setIcon(style->standardIcon(QStyle::SP_DialogOpenButton));
-    connect(m_open, &QAction::triggered, this, &FileMenu::chooseFileToOpen);
+    connect(m_open, &QAction::triggered, &flow, &FileFlow::chooseFileToOpen);
     m_recentMenu = m_menu->addMenu(tr("Open &Recent"));
     m_recentMenu->setObjectName(QStringLiteral("recentMenu"));
     m_menu->addSeparator();
@@ -66,10 +41,10 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     m_menu->addSeparator();
     QAction* import = addAction(tr("&Import…"), "fileImport");
     import->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
-    connect(import, &QAction::triggered, this, &FileMenu::chooseFileToImport);
+    connect(import, &QAction::triggered, &flow, &FileFlow::chooseFileToImport);
     m_export = addAction(tr("&Export…"), "fileExport");
     m_export->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
-    connect(m_export, &QAction::triggered, this, &FileMenu::chooseFileToExport);
+    connect(m_export, &QAction::triggered, &flow, &FileFlow::chooseFileToExport);
     m_menu->addSeparator();
     m_close = addAction(tr("&Close"), "fileClose");
     m_close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
@@ -95,36 +70,6 @@ QAction* FileMenu::addAction(const QString& text, const char* name)
 QList<QAction*> FileMenu::toolBarActions() const
 {
     return {m_new, m_open, m_save};
-}
-
-void FileMenu::chooseFileToOpen()
-{
-    QFileDialog* dialog = makeDialog(m_window, tr("Open"), orvane::openFilters(), m_document);
-    dialog->setObjectName(QStringLiteral("openDialog"));
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    connect(dialog, &QFileDialog::fileSelected, &m_flow, &FileFlow::open);
-    dialog->open();
-}
-
-void FileMenu::chooseFileToImport()
-{
-    QFileDialog* dialog = makeDialog(m_window, tr("Import"), orvane::importFilters(), m_document);
-    dialog->setObjectName(QStringLiteral("importDialog"));
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    connect(dialog, &QFileDialog::fileSelected, &m_flow, &FileFlow::import);
-    dialog->open();
-}
-
-void FileMenu::chooseFileToExport()
-{
-    QFileDialog* dialog = makeDialog(m_window, tr("Export"), orvane::exportFilters(), m_document);
-    dialog->setObjectName(QStringLiteral("exportDialog"));
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    const auto setSuffix = [dialog](const QString& filter) { dialog->setDefaultSuffix(suffixOf(filter)); };
-    setSuffix(dialog->selectedNameFilter());
-    connect(dialog, &QFileDialog::filterSelected, dialog, setSuffix);
-    connect(dialog, &QFileDialog::fileSelected, &m_flow, &FileFlow::exportTo);
-    dialog->open();
 }
 
 void FileMenu::fillRecentMenu()

@@ -9,22 +9,18 @@ class QMenu;
 class RecentFiles;
 class SceneDocument;
 
-/// The File menu and its tool bar: the actions, the dialogs that choose files, and the files of late.
+/// The File menu and its tool bar: the actions and the recent files.
 class FileMenu : public QObject {
     Q_OBJECT
 
 public:
     FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, SceneDocument& document);
 
-    /// Lets the user choose a file to open.
-    void chooseFileToOpen();
     /// The actions that belong on a tool bar.
     [[nodiscard]] QList<QAction*> toolBarActions() const;
 
 private:
     QAction* addAction(const QString& text, const char* name);
-    void chooseFileToImport();
-    void chooseFileToExport();
     void fillRecentMenu();
     void updateActions();
 

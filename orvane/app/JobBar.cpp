@@ -34,45 +34,57 @@ JobBar::JobBar(QWidget* parent)
     m_timer.setInterval(patience);
     connect(&m_timer, &QTimer::timeout, this, [this] {
         show();
-        showProgress(m_share);
+        showLast();
     });
     hide();
 }
 
 void JobBar::watch(FileJob* job, const QString& text)
 {
-    stop();
-    m_job = job;
-    m_label->setText(text);
-    showProgress(0);
-    connect(job, &FileJob::progressed, this, &JobBar::showProgress);
-    for (const auto end : {&FileJob::finished, &FileJob::cancelled})
-        connect(job, end, this, &JobBar::stop);
-    connect(job, &FileJob::failed, this, &JobBar::stop);
-    connect(job, &QObject::destroyed, this, &JobBar::stop);
-    m_timer.start();
+    m_jobs.push_back({job, text, 0});
+    connect(job, &FileJob::progressed, this, [this, job](double share) { setShare(job, share); });
+    const auto end = [this, job] { stop(job); };
+    connect(job, &FileJob::finished, this, end);
+    connect(job, &FileJob::cancelled, this, end);
+    connect(job, &FileJob::failed, this, end);
+    connect(job, &QObject::destroyed, this, end);
+    showLast();
+    if (isHidden() && !m_timer.isActive())
+        m_timer.start();
 }
 
 void JobBar::cancel()
 {
-    if (m_job != nullptr)
-        m_job->cancel();
+    if (!m_jobs.empty())
+        m_jobs.back().job->cancel();
 }
 
-void JobBar::showProgress(double share)
+void JobBar::setShare(const FileJob* job, double share)
 {
-    m_share = share;
-    if (isHidden())
+    for (Watched& watched : m_jobs) {
+        if (watched.job == job)
+            watched.share = share;
+    }
+    showLast();
+}
+
+void JobBar::stop(const FileJob* job)
+{
+    std::erase_if(m_jobs, [job](const Watched& watched) { return watched.job == job; });
+    if (m_jobs.empty()) {
+        m_timer.stop();
+        hide();
+    } else {
+        showLast();
+    }
+}
+
+void JobBar::showLast()
+{
+    if (isHidden() || m_jobs.empty())
         return;
-    m_progress->setRange(0, share < 0 ? 0 : progressSteps);
-    m_progress->setValue(static_cast<int>(share * progressSteps));
-}
-
-void JobBar::stop()
-{
-    if (m_job != nullptr)
-        disconnect(m_job, nullptr, this, nullptr);
-    m_job = nullptr;
-    m_timer.stop();
-    hide();
+    const Watched& shown = m_jobs.back();
+    m_label->setText(shown.text);
+    m_progress->setRange(0, shown.share < 0 ? 0 : progressSteps);
+    m_progress->setValue(static_cast<int>(shown.share * progressSteps));
 }

@@ -3,12 +3,15 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <vector>
+
 class FileJob;
 class QLabel;
 class QProgressBar;
 class QToolButton;
 
-/// Shows how far a running job is, with a button that cancels it. It comes up only when the job takes a while.
+/// Shows how far the running job that was started last is, with a button that cancels it; when that job ends, the one
+/// before it. It comes up only when a job takes a while.
 class JobBar : public QWidget {
     Q_OBJECT
 
@@ -20,17 +23,23 @@ public:
 
     /// Watches a job that is about to start, until it ends or dies.
     void watch(FileJob* job, const QString& text);
-    /// Cancels the watched job, if there is one.
+    /// Cancels the job that is shown, if there is one.
     void cancel();
 
 private:
-    void showProgress(double share);
-    void stop();
+    struct Watched {
+        FileJob* job;
+        QString text;
+        double share; // of the work that is done, below 0 while it isn't known
+    };
 
-    FileJob* m_job = nullptr;
+    void setShare(const FileJob* job, double share);
+    void stop(const FileJob* job);
+    void showLast();
+
+    std::vector<Watched> m_jobs;
     QLabel* m_label;
     QProgressBar* m_progress;
     QToolButton* m_cancel;
     QTimer m_timer;
-    double m_share = 0; // of the work that is done
 };

@@ -27,6 +27,8 @@ void LoadJob::start()
 
 void LoadJob::cancel()
 {
+    if (!m_timer.isActive())
+        return; // ended, or cancelled already
     m_timer.stop();
     m_reader.reset();
     QMetaObject::invokeMethod(this, &LoadJob::cancelled, Qt::QueuedConnection);

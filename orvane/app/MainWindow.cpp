@@ -92,9 +92,9 @@ SceneDocument& MainWindow::document() const
     return m_session.document();
 }
 
-void MainWindow::openFile(const QString& fileName)
+void MainWindow::openFile(const QString& fileName, const std::function<void(const QString&)>& opened)
 {
-    m_files->open(fileName);
+    m_files->open(fileName, opened);
 }
 
 void MainWindow::saveTo(const QString& fileName)
@@ -194,9 +194,9 @@ void MainWindow::showStartPage()
     if (m_startPage == nullptr) {
         m_startPage = new StartPage(this);
         m_middle->addWidget(m_startPage);
-        connect(m_startPage, &StartPage::openRequested, m_fileMenu, &FileMenu::chooseFileToOpen);
+        connect(m_startPage, &StartPage::openRequested, m_files, &FileFlow::chooseFileToOpen);
         connect(m_startPage, &StartPage::newRequested, m_files, &FileFlow::newScene);
-        connect(m_startPage, &StartPage::fileChosen, this, &MainWindow::openFile);
+        connect(m_startPage, &StartPage::fileChosen, this, [this](const QString& fileName) { openFile(fileName); });
         const auto listRecent = [this] { m_startPage->setRecentFiles(m_recent->fileNames()); };
         connect(m_recent, &RecentFiles::changed, m_startPage, listRecent);
         listRecent();
@@ -244,7 +244,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (!m_mayClose) {
         const QScopedValueRollback inside(m_insideClose, true);
-        m_files->leaveScene([this] {
+        m_files->leaveForQuit([this] {
             m_mayClose = true;
             if (!m_insideClose) // a window that is being closed doesn't take another close
                 close();
@@ -254,7 +254,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    m_files->cancelLoading();
+    m_files->abandon();
     saveLayout();
 }
 

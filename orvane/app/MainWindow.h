@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 
 class ErrorRelay;
@@ -32,8 +33,10 @@ public:
 
     [[nodiscard]] SceneDocument& document() const;
 
-    /// Opens a scene or imports a model. The user is asked first about changes that aren't saved; `settled` follows.
-    void openFile(const QString& fileName);
+    /// Opens a scene or imports a model. The user is asked first about changes that aren't saved. `opened` is called
+    /// once, unless the window is closed first: with the empty text when the scene of the file has just become the open
+    /// one, else with the reason why not. `settled` follows.
+    void openFile(const QString& fileName, const std::function<void(const QString& failure)>& opened = {});
     /// Saves or exports to that file, as its extension says; `settled` follows.
     void saveTo(const QString& fileName);
     /// Selects what a path such as `/robot/arm.rotation` leads to, in tree and table. The result says what is wrong

@@ -19,6 +19,8 @@ void SaveJob::start()
 
 void SaveJob::cancel()
 {
+    if (!m_timer.isActive())
+        return; // ended, or cancelled already
     m_timer.stop();
     m_file.reset();
     QMetaObject::invokeMethod(this, &SaveJob::cancelled, Qt::QueuedConnection);

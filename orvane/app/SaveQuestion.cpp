@@ -17,5 +17,7 @@ SaveQuestion::SaveQuestion(const QString& sceneName, QWidget* parent)
             Q_EMIT saveChosen();
         else if (result == Discard)
             Q_EMIT discardChosen();
+        else
+            Q_EMIT cancelChosen();
     });
 }

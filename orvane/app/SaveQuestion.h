@@ -12,4 +12,6 @@ public:
 Q_SIGNALS:
     void saveChosen();
     void discardChosen();
+    /// Also when the question is closed otherwise.
+    void cancelChosen();
 };

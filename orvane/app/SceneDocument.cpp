@@ -70,6 +70,7 @@ void SceneDocument::replace(NxRef<NxGroup> scene, const QString& fileName)
     Q_EMIT sceneAboutToChange();
     m_services.clearHistory();
     m_disposal.dispose(std::exchange(m_scene, std::move(scene)));
+    ++m_sceneNumber;
     m_fileName = fileName; // whoever shows the scene may ask for its folder
     Q_EMIT sceneChanged();
     setFileName(fileName);

@@ -30,6 +30,9 @@ public:
     /// What to call the scene in front of the user.
     [[nodiscard]] QString displayName() const;
     [[nodiscard]] bool isModified() const;
+    /// Another number for each scene that was open, and for each time without one. So long work can check that the
+    /// scene it was started for is still the one that is open.
+    [[nodiscard]] int sceneNumber() const noexcept { return m_sceneNumber; }
 
     /// Opens an empty scene in place of the present one.
     void newScene();
@@ -59,5 +62,6 @@ private:
     SceneDisposal& m_disposal;
     NxRef<NxGroup> m_scene;
     QString m_fileName;
+    int m_sceneNumber = 1;
     bool m_reportedModified = false;
 };

@@ -36,22 +36,7 @@ int WindowRun::run()
     if (m_commandLine.size.isValid())
         window.resize(m_commandLine.size);
     showSoon(window);
-    openFile(window);
-    if (m_commandLine.file.isEmpty() && takesPicture())
-        QTimer::singleShot(0, this, [this, &session, &window] { finish(session, window); });
-    connect(&window, &MainWindow::settled, this, [this, &session, &window](const QString& error) {
-        // Only the first time: what the user opens later is the user's own affair.
-        disconnect(&window, &MainWindow::settled, this, nullptr);
-        if (error.isEmpty())
-            applyTo(session, window);
-        else
-            m_failed = true;
-        if (!takesPicture())
-            return;
-        if (!error.isEmpty())
-            orvane::printError(error);
-        finish(session, window);
-    });
+    QTimer::singleShot(0, &window, [this, &session, &window] { start(session, window); });
     const int status = QApplication::exec();
     return takesPicture() && m_failed ? 1 : status;
 }
@@ -94,10 +79,34 @@ void WindowRun::prepare(Session& session, MainWindow& window)
         report(window, message);
 }
 
-void WindowRun::openFile(MainWindow& window)
+void WindowRun::start(Session& session, MainWindow& window)
 {
-    if (!m_commandLine.file.isEmpty())
-        QTimer::singleShot(0, &window, [this, &window] { window.openFile(m_commandLine.file); });
+    if (m_commandLine.file.isEmpty()) {
+        if (takesPicture())
+            finish(session, window);
+        return;
+    }
+    window.openFile(m_commandLine.file, [this, &session, &window](const QString& failure) {
+        // At once, while the scene that is open is the one of this file.
+        if (failure.isEmpty())
+            applyTo(session, window);
+        else
+            reportNotOpened(window, failure);
+        if (takesPicture())
+            connect(
+                &window, &MainWindow::settled, this, [this, &session, &window] { finish(session, window); },
+                Qt::SingleShotConnection);
+    });
+}
+
+void WindowRun::reportNotOpened(MainWindow& window, const QString& failure)
+{
+    m_failed = true; // the window shows why
+    if (takesPicture())
+        orvane::printError(failure);
+    if (!m_commandLine.assignments.isEmpty() || !m_commandLine.select.isEmpty())
+        report(window,
+            tr("%1 wasn't opened, so what the command line sets and selects is left out.").arg(m_commandLine.file));
 }
 
 void WindowRun::applyTo(Session& session, MainWindow& window)

@@ -28,7 +28,9 @@ private:
     [[nodiscard]] std::optional<QString> findMistake() const;
     void prepare(Session& session, MainWindow& window);
     void showSoon(MainWindow& window);
-    void openFile(MainWindow& window);
+    /// Opens the file of the command line, and applies to it what is asked for.
+    void start(Session& session, MainWindow& window);
+    void reportNotOpened(MainWindow& window, const QString& failure);
     void applyTo(Session& session, MainWindow& window);
     void report(MainWindow& window, const QString& message);
     /// Ends a run that takes a picture.

@@ -2,6 +2,7 @@
 #include "app/WindowCase.h"
 
 #include "orvane/app/FieldTableView.h"
+#include "orvane/app/FileFlow.h"
 #include "orvane/app/MessageBar.h"
 #include "orvane/app/SceneTreeModel.h"
 #include "orvane/app/SceneTreePanel.h"
@@ -244,6 +245,40 @@ private Q_SLOTS:
         QVERIFY(m_window->windowTitle().startsWith(QStringLiteral("robot.mrd")));
         QVERIFY(open(m_robot).isEmpty());
         QVERIFY(!messages().join(u'\n').contains(other));
+    }
+
+    void closingTheSceneDropsTheModelBeingAdded_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::newRow("close") << QStringLiteral("fileClose");
+        QTest::newRow("new") << QStringLiteral("fileNew");
+    }
+
+    void closingTheSceneDropsTheModelBeingAdded()
+    {
+        QFETCH(const QString, action);
+        open(m_robot);
+        QSignalSpy settled(m_window.get(), &MainWindow::settled);
+        m_window->findChild<FileFlow*>()->import(m_robot);
+        m_window->findChild<QAction*>(action)->trigger();
+        QTRY_COMPARE(settled.size(), 1);
+        QVERIFY(!m_window->document().isOpen() || m_window->document().scene()->getNumChildren() == 0);
+        QVERIFY2(messages().join(u'\n').startsWith(QStringLiteral("Not done: adding robot.mrd.")),
+            qPrintable(messages().join(u'\n')));
+    }
+
+    void savingDoesNotStopAnOpen()
+    {
+        open(m_robot);
+        renameRobot("machine");
+        const QString other = filePath("other.mrd");
+        AppScenes::writeFile(other, "#mrd 1.0\nGroup \"other\" {}\n");
+        m_session->services().setClean();
+        m_window->openFile(other);
+        QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+        QTRY_COMPARE(m_window->document().fileName(), other);
+        QVERIFY(AppScenes::readFile(m_robot).contains("\"machine\""));
+        QCOMPARE(AppScenes::readFile(other), QByteArray("#mrd 1.0\nGroup \"other\" {}\n"));
     }
 
     void opensADroppedFile()
