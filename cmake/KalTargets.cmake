@@ -98,6 +98,21 @@ function(kal_add_test area name)
   )
 endfunction()
 
+# Runs a test a second time in a build with the address sanitizer: memory that was given back is given out again at once,
+# as it is outside of tests. The usual run keeps such memory back, which shows every access to it.
+function(kal_also_test_without_quarantine area name)
+  if(NOT KAL_SANITIZE MATCHES "address")
+    return()
+  endif()
+  set(again ${area}/${name}WithoutQuarantine)
+  add_test(NAME ${again} COMMAND tst_${area}_${name})
+  foreach(property TIMEOUT LABELS ENVIRONMENT)
+    get_test_property(${area}/${name} ${property} value)
+    string(REPLACE "ASAN_OPTIONS=" "ASAN_OPTIONS=quarantine_size_mb=0:thread_local_quarantine_size_kb=0:" value "${value}")
+    set_tests_properties(${again} PROPERTIES ${property} "${value}")
+  endforeach()
+endfunction()
+
 # The precompiled header of the tests, made once for those that do not know widgets, once for those that do and once for
 # those of the editors, which all show one in a tool: QtTest and the field classes are most of what compiling a test
 # costs. It is made for a program, since a library is compiled with other flags.
