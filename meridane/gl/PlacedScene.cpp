@@ -6,15 +6,9 @@
 #include <utility>
 
 namespace meridane {
-namespace {
-
-/// The place above the scene's own node.
-constexpr Id topPlace = 0;
-
-} // namespace
-
-PlacedScene::PlacedScene(Listener listener)
+PlacedScene::PlacedScene(Listener listener, std::size_t mostPlaces)
     : m_listener(std::move(listener))
+    , m_mostPlaces(mostPlaces)
 {
     setRoot(nullptr);
 }
@@ -34,7 +28,8 @@ void PlacedScene::setRoot(NxNode* root)
         empty(topPlace);
     }
     m_problems.forget();
-    m_isFullTold = false;
+    m_isCut = false;
+    m_isCutTold = false;
     m_root = root;
     if (m_table.count() == 0) {
         Place top;
@@ -69,6 +64,7 @@ void PlacedScene::update()
     if (m_pending.empty())
         return;
     followPending();
+    fillFreeRoom();
     bury();
 }
 
@@ -162,6 +158,7 @@ void PlacedScene::move(Id top)
 {
     std::vector<Id> waiting{top};
     while (!waiting.empty()) {
+        ++m_steps;
         const Place& place = m_table.place(waiting.back());
         waiting.pop_back();
         if (place.group->isTransform()) {

@@ -6,6 +6,7 @@
 #include "meridane/gl/Problems.h"
 #include "meridane/scene/NxRef.h"
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
@@ -15,6 +16,8 @@
 
 namespace meridane {
 
+class KeptPlaces;
+
 /// The scene as it is drawn: each mesh in each of its places, with the matrix and the look that it has there, and where
 /// it lies. It knows nothing of OpenGL.
 ///
@@ -23,8 +26,8 @@ namespace meridane {
 /// what hangs on the node itself for all other kinds. Until the next change, places and records fit the nodes.
 class PlacedScene final : private NodeRecordListener {
 public:
-    /// Groups in each other and shared may stand in more places than any memory holds; from here on they are left out.
-    static constexpr std::size_t mostPlaces = 4'000'000;
+    /// Groups in each other and shared may stand in more places than any memory holds.
+    static constexpr std::size_t usualMostPlaces = 4'000'000;
 
     /// Who holds what the card has of a node is told when nobody needs it any more.
     struct Listener {
@@ -33,7 +36,10 @@ public:
         std::function<void(TextureRecord&)> textureIsGoing;
     };
 
-    explicit PlacedScene(Listener listener);
+    /// What would take more than `mostPlaces` places of groups and meshes is left out, which is reported once for a
+    /// scene. It comes in when the group that it stands in changes and there is room, or when a quarter of the places
+    /// is free.
+    explicit PlacedScene(Listener listener, std::size_t mostPlaces = usualMostPlaces);
     PlacedScene(const PlacedScene&) = delete;
     PlacedScene& operator=(const PlacedScene&) = delete;
     ~PlacedScene();
@@ -49,6 +55,8 @@ public:
     [[nodiscard]] Problems& problems() noexcept { return m_problems; }
     /// A number that changes with the places.
     [[nodiscard]] std::uint64_t structure() const noexcept { return m_structure; }
+    /// What following the scene has cost so far: nodes visited, places moved and keys of places compared.
+    [[nodiscard]] std::uint64_t steps() const noexcept { return m_steps; }
     /// A number that changes with the lights and where they are.
     [[nodiscard]] std::uint64_t lighting() const noexcept { return m_lighting; }
 
@@ -68,9 +76,9 @@ public:
     [[nodiscard]] std::size_t bytes() const noexcept;
 
 private:
+    /// The place above the scene's own node.
+    static constexpr Id topPlace = 0;
     struct Filling;
-    /// What stood in a place that is filled again.
-    struct Kept;
 
     void nodeTouched(NodeRecord& record) override;
     void nodeChanged(NodeRecord& record) override;
@@ -81,9 +89,12 @@ private:
     void followTransform(GroupRecord& group);
     void followMesh(MeshRecord& mesh);
 
-    void fill(Id top, Kept* kept = nullptr);
+    /// False when something was left out.
+    bool fill(Id top, KeptPlaces* kept = nullptr);
     void refill(Id top);
-    bool isFull();
+    bool hasRoom();
+    void reportCut();
+    void fillFreeRoom();
     void visit(NxNode& node, std::vector<Filling>& stack);
     [[nodiscard]] Id lookOf(Filling& filling);
     void addLight(NxLight& light, Filling& filling);
@@ -112,8 +123,10 @@ private:
     std::vector<NodeRecord*> m_pending; // changed since the latest update
     std::uint64_t m_structure = 0;
     std::uint64_t m_lighting = 0;
-    std::size_t m_visits = 0; // of nodes, since the filling began
-    bool m_isFullTold = false;
+    std::uint64_t m_steps = 0;
+    std::size_t m_mostPlaces;
+    bool m_isCut = false; // something was left out for want of room
+    bool m_isCutTold = false;
 };
 
 } // namespace meridane

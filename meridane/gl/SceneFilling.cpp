@@ -1,11 +1,11 @@
 // How a scene becomes places: walks the nodes in order, with what precedes each of them in mind.
 
 #include "meridane/base/NxDebugError.h"
+#include "meridane/gl/KeptPlaces.h"
 #include "meridane/gl/PlacedScene.h"
 
 #include <algorithm>
 #include <string>
-#include <unordered_map>
 #include <utility>
 
 namespace meridane {
@@ -20,51 +20,34 @@ struct PlacedScene::Filling {
     NxComplexity* complexity = nullptr;
     std::shared_ptr<const LightList> lights;
     /// What may be taken again instead of being made anew.
-    Kept* kept = nullptr;
+    KeptPlaces* kept = nullptr;
     /// The look that follows from these, which counts as used by the walk; none until it is needed.
     Id look = noId;
-};
-
-struct PlacedScene::Kept {
-    using Places = std::unordered_multimap<const NodeRecord*, Id>;
-
-    Places groups;
-    Places meshes;
-
-    /// Takes out the place of a node that had that look; none if there is none.
-    template <typename LookOf>
-    static Id take(Places& places, const NodeRecord& record, Id look, LookOf lookOf)
-    {
-        const auto [first, last] = places.equal_range(&record);
-        const auto place = std::find_if(first, last, [&](const auto& entry) { return lookOf(entry.second) == look; });
-        if (place == last)
-            return noId;
-        const Id id = place->second;
-        places.erase(place);
-        return id;
-    }
 };
 
 // Groups and meshes that still stand there, and look as they did, are left as they are with all that is below them.
 void PlacedScene::refill(Id top)
 {
     ++m_structure;
-    Kept kept;
-    Place& place = m_table.place(top);
-    for (Id id = std::exchange(place.firstChild, noId); id != noId; id = m_table.place(id).nextSibling)
-        kept.groups.emplace(m_table.place(id).group, id);
-    for (Id id = std::exchange(place.firstItem, noId); id != noId; id = m_table.item(id).nextInPlace)
-        kept.meshes.emplace(m_table.item(id).mesh, id);
-    fill(top, &kept);
-    for (const auto& [record, id] : kept.groups) {
-        empty(id);
-        removePlace(id);
+    bool makesRoom = true;
+    for (bool isCut = true; isCut && makesRoom;) { // what is taken out may leave room for what was left out
+        KeptPlaces kept(m_table, top);
+        isCut = !fill(top, &kept);
+        makesRoom = false;
+        for (Id id = kept.takeAnyPlace(); id != noId; id = kept.takeAnyPlace()) {
+            empty(id);
+            removePlace(id);
+            makesRoom = true;
+        }
+        for (Id id = kept.takeAnyItem(); id != noId; id = kept.takeAnyItem()) {
+            removeItem(id);
+            makesRoom = true;
+        }
+        m_steps += kept.comparisons();
     }
-    for (const auto& [record, id] : kept.meshes)
-        removeItem(id);
 }
 
-void PlacedScene::fill(Id top, Kept* kept)
+bool PlacedScene::fill(Id top, KeptPlaces* kept)
 {
     const Place& place = m_table.place(top);
     const Look& look = m_looks[place.look];
@@ -82,30 +65,53 @@ void PlacedScene::fill(Id top, Kept* kept)
     first.complexity = static_cast<NxComplexity*>(nodeOf(look.complexity));
     m_looks.useAgain(first.look);
     stack.push_back(std::move(first));
-    m_visits = 0;
+    const bool wasCut = std::exchange(m_isCut, false);
+    const std::uint64_t lastStep = m_steps + 4 * m_mostPlaces;
     while (!stack.empty()) {
         Filling& filling = stack.back();
-        if (isFull() || filling.next == filling.children.size()) {
+        // Shared groups may also hold many nodes that take no place.
+        const bool isTooLong = m_steps > lastStep && filling.kept == nullptr && filling.next < filling.children.size();
+        if (isTooLong)
+            reportCut();
+        if (isTooLong || filling.next == filling.children.size()) {
             if (filling.look != noId)
                 m_looks.release(filling.look);
             stack.pop_back();
             continue;
         }
-        ++m_visits;
+        ++m_steps;
         visit(*filling.children[filling.next++], stack);
     }
+    const bool isWhole = !m_isCut;
+    m_isCut = m_isCut || wasCut;
+    return isWhole;
 }
 
-bool PlacedScene::isFull()
+bool PlacedScene::hasRoom()
 {
-    if (m_table.count() < mostPlaces && m_visits < 4 * mostPlaces)
-        return false;
-    if (!std::exchange(m_isFullTold, true)) {
-        const std::string text = "The scene has more than " + std::to_string(mostPlaces)
-            + " places of groups and meshes; the others aren't drawn";
-        NxDebugError::post(NxDebugError::Warning, VbString(text));
-    }
-    return true;
+    if (m_table.count() < m_mostPlaces)
+        return true;
+    m_isCut = true;
+    reportCut();
+    return false;
+}
+
+void PlacedScene::reportCut()
+{
+    if (std::exchange(m_isCutTold, true))
+        return;
+    const std::string text = "The scene has more than " + std::to_string(m_mostPlaces)
+        + " places of groups and meshes; the others aren't drawn";
+    NxDebugError::post(NxDebugError::Warning, VbString(text));
+}
+
+void PlacedScene::fillFreeRoom()
+{
+    if (!m_isCut || m_table.count() > m_mostPlaces / 4 * 3)
+        return;
+    m_isCut = false;
+    empty(topPlace);
+    fill(topPlace);
 }
 
 void PlacedScene::visit(NxNode& node, std::vector<Filling>& stack)
@@ -185,13 +191,15 @@ void PlacedScene::addGroup(NxGroup& group, std::vector<Filling>& stack)
     auto& record = m_records.of<GroupRecord>(group, *this);
     if (above.kept != nullptr) {
         const Id look = lookOf(above);
-        const Id id = Kept::take(above.kept->groups, record, look, [this](Id i) { return m_table.place(i).look; });
+        const Id id = above.kept->takePlace(record, look);
         m_looks.release(look);
         if (id != noId) {
             m_table.attachPlace(id);
             return;
         }
     }
+    if (!hasRoom())
+        return;
     NodeRecords::retain(record);
     // Where it stands elsewhere as well, its other places may still have to follow its children.
     if (record.firstPlace == noId)
@@ -217,13 +225,15 @@ void PlacedScene::addMesh(NxMesh& mesh, Filling& filling)
     auto& record = m_records.of<MeshRecord>(mesh, *this);
     if (filling.kept != nullptr) {
         const Id look = lookOf(filling);
-        const Id id = Kept::take(filling.kept->meshes, record, look, [this](Id i) { return m_table.item(i).look; });
+        const Id id = filling.kept->takeItem(record, look);
         m_looks.release(look);
         if (id != noId) {
             m_table.attachItem(id);
             return;
         }
     }
+    if (!hasRoom())
+        return;
     NodeRecords::retain(record);
     if (!record.isInspected)
         inspectMesh(record);

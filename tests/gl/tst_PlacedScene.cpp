@@ -1,5 +1,9 @@
+#include "base/HandlerGuard.h"
+
+#include "meridane/base/NxDebugError.h"
 #include "meridane/base/NxDelayQueue.h"
 #include "meridane/gl/PlacedScene.h"
+#include "meridane/scene/NxMaterial.h"
 #include "meridane/scene/NxMesh.h"
 #include "meridane/scene/NxSwitch.h"
 #include "meridane/scene/NxTransform.h"
@@ -7,6 +11,7 @@
 #include <QTest>
 
 #include <chrono>
+#include <functional>
 #include <set>
 #include <vector>
 
@@ -66,6 +71,10 @@ private Q_SLOTS:
     void aGroupThatDiesBelowAMovedTransformIsGone();
     void aNodeOfTheFormerSceneIsFollowed();
     void aRenamedGroupKeepsItsPlaces();
+    void anEditAtTheLimitOfPlacesKeepsWhatIsPlaced();
+    void whatWasLeftOutComesInWhenThereIsRoom();
+    void aChildAmongUsesOfOneNodeCostsWhatItCostsAmongSeparateOnes_data();
+    void aChildAmongUsesOfOneNodeCostsWhatItCostsAmongSeparateOnes();
 };
 
 void TestPlacedScene::aNodeAtTheAddressOfADeadOneTakesItsPlace()
@@ -157,6 +166,100 @@ void TestPlacedScene::aRenamedGroupKeepsItsPlaces()
     scene->whichChild.setValue(NxSwitch::NONE);
     placed.update();
     QCOMPARE(leftSides(placed), Sides{});
+}
+
+void TestPlacedScene::anEditAtTheLimitOfPlacesKeepsWhatIsPlaced()
+{
+    TextRecorder recorder;
+    const HandlerGuard<NxDebugError> warnings(&TextRecorder::record, &recorder);
+    const NxRef<NxGroup> scene = new NxGroup;
+    for (int i = 0; i < 6; ++i)
+        scene->addChild(triangle(static_cast<float>(i)).get());
+    PlacedScene placed(deaf(), 6);
+    placed.setRoot(scene.get());
+    QCOMPARE(leftSides(placed), (Sides{0, 1, 2, 3}));
+    const NxRef<NxGroup> group = new NxGroup;
+    group->addChild(triangle(10).get());
+    scene->insertChild(group.get(), 0);
+    placed.update();
+    QCOMPARE(leftSides(placed), (Sides{0, 1, 2, 3}));
+    scene->removeChild(1); // the mesh on the left; the group takes its place, but there is none for what it holds
+    placed.update();
+    QCOMPARE(leftSides(placed), (Sides{1, 2, 3}));
+    scene->removeChild(0);
+    placed.update();
+    QCOMPARE(leftSides(placed), (Sides{1, 2, 3, 4}));
+    QCOMPARE(recorder.texts().size(), 1U);
+    QVERIFY(recorder.texts().front().find("more than 6 places") != std::string::npos);
+}
+
+void TestPlacedScene::whatWasLeftOutComesInWhenThereIsRoom()
+{
+    TextRecorder recorder;
+    const HandlerGuard<NxDebugError> warnings(&TextRecorder::record, &recorder);
+    const NxRef<NxGroup> scene = new NxGroup;
+    for (int i = 0; i < 2; ++i) {
+        const NxRef<NxGroup> group = new NxGroup;
+        for (int j = 0; j < 5; ++j)
+            group->addChild(triangle(static_cast<float>(10 * i + j)).get());
+        scene->addChild(group.get());
+    }
+    PlacedScene placed(deaf(), 12);
+    placed.setRoot(scene.get());
+    QCOMPARE(leftSides(placed), (Sides{0, 1, 2, 3, 4, 10, 11, 12}));
+    auto* const group = static_cast<NxGroup*>(scene->getChild(0));
+    group->removeChild(0);
+    placed.update();
+    group->removeChild(0);
+    placed.update();
+    QCOMPARE(leftSides(placed), (Sides{2, 3, 4, 10, 11, 12}));
+    group->removeChild(0);
+    placed.update();
+    QCOMPARE(leftSides(placed), (Sides{3, 4, 10, 11, 12, 13, 14}));
+}
+
+using Fill = std::function<void(NxGroup&, int)>;
+
+void TestPlacedScene::aChildAmongUsesOfOneNodeCostsWhatItCostsAmongSeparateOnes_data()
+{
+    QTest::addColumn<Fill>("fill");
+    const NxRef<NxMesh> mesh = triangle();
+    const NxRef<NxGroup> group = new NxGroup;
+    group->addChild(mesh.get());
+    QTest::newRow("a mesh") << Fill([mesh](NxGroup& scene, int uses) {
+        while (scene.getNumChildren() < uses)
+            scene.addChild(mesh.get());
+    });
+    QTest::newRow("a group") << Fill([group](NxGroup& scene, int uses) {
+        while (scene.getNumChildren() < uses)
+            scene.addChild(group.get());
+    });
+    QTest::newRow("a mesh with many materials") << Fill([mesh](NxGroup& scene, int uses) {
+        while (scene.getNumChildren() < 2 * uses) {
+            scene.addChild(NxRef<NxMaterial>(new NxMaterial).get());
+            scene.addChild(mesh.get());
+        }
+    });
+    QTest::newRow("separate meshes") << Fill([](NxGroup& scene, int uses) {
+        while (scene.getNumChildren() < uses)
+            scene.addChild(triangle().get());
+    });
+}
+
+void TestPlacedScene::aChildAmongUsesOfOneNodeCostsWhatItCostsAmongSeparateOnes()
+{
+    QFETCH(Fill, fill);
+    constexpr int uses = 4000;
+    const NxRef<NxGroup> scene = new NxGroup;
+    fill(*scene, uses);
+    PlacedScene placed(deaf());
+    placed.setRoot(scene.get());
+    const std::uint64_t before = placed.steps();
+    scene->addChild(triangle().get());
+    placed.update();
+    QCOMPARE(placed.itemsBelow(scene.get()).size(), uses + 1U);
+    const auto steps = static_cast<double>(placed.steps() - before);
+    QVERIFY2(steps >= uses && steps < 10.0 * uses, qPrintable(QString::number(steps)));
 }
 
 } // namespace
