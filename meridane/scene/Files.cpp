@@ -11,8 +11,10 @@
 #include <system_error>
 
 #include <fcntl.h>
+#include <linux/limits.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace meridane {
@@ -88,15 +90,16 @@ bool lockNew(int descriptor)
     return ::fstat(descriptor, &status) == 0 && status.st_nlink > 0;
 }
 
-/// Makes a new file beside the target, open for writing, with the permissions that new files get, and locks it.
-int createBeside(const std::string& target, std::string& name)
+/// Makes a new file beside the target, open for writing, with these permissions as far as the user's mask lets them be,
+/// and locks it.
+int createBeside(const std::string& target, std::string& name, mode_t mode)
 {
     constexpr int maxAttempts = 1000;
     for (int attempt = 0; attempt < maxAttempts; ++attempt) {
         name = hiddenName(target, attempt);
         int descriptor = -1;
         do {
-            descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+            descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
             if (descriptor < 0 && errno != EEXIST)
                 return -1;
         } while (descriptor < 0 && removeAbandoned(name));
@@ -107,6 +110,25 @@ int createBeside(const std::string& target, std::string& name)
     }
     errno = EEXIST;
     return -1;
+}
+
+constexpr const char* accessList = "system.posix_acl_access";
+
+/// The access control list of a file; empty if it has none, or the file system knows none.
+std::string accessListOf(const std::string& path)
+{
+    std::string list(XATTR_SIZE_MAX, '\0');
+    const ssize_t size = ::getxattr(path.c_str(), accessList, list.data(), list.size());
+    list.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
+    return list;
+}
+
+/// The permissions for a file that couldn't be given to the group it was to have. The members of the group that it has
+/// instead were among the others, and those of the old group now are.
+mode_t withoutGroup(mode_t mode)
+{
+    const mode_t common = (mode >> 3U) & mode & S_IRWXO;
+    return (mode & S_IRWXU) | (common << 3U) | common;
 }
 
 /// Syncs the folder, so that the new name of a file survives a loss of power.
@@ -203,14 +225,39 @@ std::optional<std::string> FileReplacer::open(const std::string& path)
     // The folder alone decides about renaming; a file that its owner protected is left alone all the same.
     if (replaces && ::faccessat(AT_FDCWD, m_target.c_str(), W_OK, AT_EACCESS) != 0)
         return systemFailure(path);
+    if (replaces)
+        m_oldAccess = Access{old.st_mode & 07777U, old.st_uid, old.st_gid, accessListOf(m_target)};
     std::string temporary;
-    m_descriptor = createBeside(m_target, temporary);
+    m_descriptor = createBeside(m_target, temporary, replaces ? 0600 : 0666);
     if (m_descriptor < 0)
         return systemFailure(path);
     m_temporary = temporary;
-    if (replaces && ::fchmod(m_descriptor, old.st_mode & 07777U) != 0)
-        return systemFailure(path);
     return std::nullopt;
+}
+
+bool FileReplacer::adoptAccess() const
+{
+    if (!m_oldAccess)
+        return true;
+    struct stat present { };
+    if (::fstat(m_descriptor, &present) != 0)
+        return false;
+    const bool owned = present.st_uid == m_oldAccess->owner
+        || ::fchown(m_descriptor, m_oldAccess->owner, static_cast<gid_t>(-1)) == 0;
+    const bool grouped = present.st_gid == m_oldAccess->group
+        || ::fchown(m_descriptor, static_cast<uid_t>(-1), m_oldAccess->group) == 0;
+    mode_t mode = m_oldAccess->mode;
+    // With another owner or group these bits would lend somebody else's rights.
+    if (!owned || !grouped)
+        mode &= ~static_cast<mode_t>(S_ISUID | S_ISGID);
+    if (!grouped)
+        mode = withoutGroup(mode);
+    if (m_oldAccess->list.empty())
+        return ::fchmod(m_descriptor, mode) == 0;
+    // The mode of a file with a list shows the most that the list gives to anybody, not what the group has.
+    const bool listed
+        = grouped && ::fsetxattr(m_descriptor, accessList, m_oldAccess->list.data(), m_oldAccess->list.size(), 0) == 0;
+    return ::fchmod(m_descriptor, listed ? mode : mode & S_IRWXU) == 0;
 }
 
 std::optional<std::string> FileReplacer::write(const char* bytes, std::size_t count)
@@ -229,7 +276,7 @@ std::optional<std::string> FileReplacer::write(const char* bytes, std::size_t co
 
 std::optional<std::string> FileReplacer::commit()
 {
-    if (::fsync(m_descriptor) != 0)
+    if (!adoptAccess() || ::fsync(m_descriptor) != 0)
         return systemFailure(m_path);
     // The lock goes with the descriptor, which must outlive the name.
     if (std::rename(m_temporary.c_str(), m_target.c_str()) != 0)

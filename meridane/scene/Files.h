@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include <sys/types.h>
+
 /// Reads and replaces whole files, safely and in slices.
 namespace meridane {
 
@@ -30,7 +32,10 @@ private:
 };
 
 /// Replaces a file whole or not at all: writes a new file beside it, syncs it to the disk and renames it into place.
-/// The permissions of a file that is replaced are kept, and a symbolic link is followed. An object that is destroyed
+/// Owner, group, permissions and access control list of a file that is replaced are kept. Where the user may not give
+/// the new file to that owner or group, its permissions are narrowed, so that nobody gains access. A symbolic link is
+/// followed; other hard links to the file keep the old content. Until the end only the user can read the new file, if
+/// there was an old one. An object that is destroyed
 /// without `commit` leaves the old file as it was and no new one behind. A process that is killed meanwhile leaves the
 /// old file as well, and a hidden one beside it that the next replacing of the same file removes.
 class FileReplacer {
@@ -46,10 +51,21 @@ public:
     [[nodiscard]] std::optional<std::string> commit();
 
 private:
+    /// Who may do what with the file that is replaced.
+    struct Access {
+        mode_t mode;
+        uid_t owner;
+        gid_t group;
+        std::string list; // the access control list, as the system keeps it; may be empty
+    };
+
+    [[nodiscard]] bool adoptAccess() const;
+
     std::string m_path; // as it was given, for messages
     std::string m_target; // the file itself, behind symbolic links
     std::string m_temporary;
     int m_descriptor = -1;
+    std::optional<Access> m_oldAccess; // nothing for a new file
 };
 
 /// Reads a whole file; the result is the message of the failure, or nothing.
