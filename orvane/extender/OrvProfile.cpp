@@ -7,6 +7,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 const QString everything = QStringLiteral("*");
@@ -19,18 +22,16 @@ bool runsByItself(const OrvExtension* extension)
     return qobject_cast<const OrvEditor*>(extension) == nullptr;
 }
 
-void note(QStringList& names, const QString& name)
-{
-    if (!names.contains(name))
-        names.append(name);
-}
-
 } // namespace
 
 OrvProfile::OrvProfile(const QString& name, QList<Entry> entries)
     : m_name(name)
     , m_entries(std::move(entries))
 {
+    for (const Entry& entry : std::as_const(m_entries)) {
+        if (!m_entryOf.contains(entry.extension))
+            m_entryOf.insert(entry.extension, &entry);
+    }
 }
 
 OrvProfile::~OrvProfile() = default;
@@ -40,56 +41,65 @@ VbString OrvProfile::getName() const
     return orvane::toVbString(m_name);
 }
 
-const OrvProfile::Entry* OrvProfile::findEntry(const OrvExtension& extension) const
-{
-    const QString name = orvane::toQString(extension.getName());
-    const Entry* forOthers = nullptr;
-    for (const Entry& entry : m_entries) {
-        if (entry.extension == name)
-            return &entry;
-        if (entry.extension == everything)
-            forOthers = &entry;
-    }
-    return forOthers;
-}
-
 QStringList OrvProfile::resolve(const QList<OrvExtension*>& extensions)
 {
     m_settings.clear();
-    std::vector<std::pair<OrvExtension*, const Entry*>> running;
+    QMultiHash<QString, OrvExtension*> byName;
+    QList<std::pair<OrvExtension*, const Entry*>> running;
     for (OrvExtension* const extension : extensions) {
-        const Entry* const entry = runsByItself(extension) ? findEntry(*extension) : nullptr;
+        const QString name = orvane::toQString(extension->getName());
+        byName.insert(name, extension);
+        const Entry* const entry
+            = runsByItself(extension) ? m_entryOf.value(name, m_entryOf.value(everything)) : nullptr;
         if (entry == nullptr || !entry->runs)
             continue;
-        running.emplace_back(extension, entry);
+        running.append({extension, entry});
         m_settings.emplace(extension, std::make_unique<OrvProfileSetting>());
     }
-
-    QStringList names;
-    QStringList namesOfRunning;
-    for (const OrvExtension* const extension : extensions) {
-        names.append(orvane::toQString(extension->getName()));
-        if (runsByItself(extension))
-            namesOfRunning.append(names.constLast());
-    }
-    for (const auto& [extension, entry] : running) {
-        for (qsizetype i = 0; i < extensions.size(); ++i) {
-            OrvExtension* const controlled = extensions.at(i);
-            const bool isNamed = entry->controlled.contains(names.at(i)) || entry->controlled.contains(everything);
-            if (isNamed && controlled != extension)
-                getSetting(extension)->addControlledExtension(controlled, getSetting(controlled));
+    // One entry may hold for several extensions, and it may have many names.
+    QHash<const Entry*, QSet<OrvExtension*>> controlledBy;
+    for (const auto& [extension, entry] : std::as_const(running)) {
+        if (!controlledBy.contains(entry))
+            controlledBy.insert(entry, controlledExtensions(*entry, byName));
+        const QSet<OrvExtension*> controlled = controlledBy.value(entry);
+        for (OrvExtension* const other : extensions) {
+            if (other != extension && controlled.contains(other))
+                getSetting(extension)->addControlledExtension(other, getSetting(other));
         }
     }
+    return missingNames(byName);
+}
 
+QSet<OrvExtension*> OrvProfile::controlledExtensions(
+    const Entry& entry, const QMultiHash<QString, OrvExtension*>& extensions)
+{
+    QSet<OrvExtension*> controlled;
+    for (const QString& name : entry.controlled) {
+        const auto [begin, end]
+            = name == everything ? std::pair(extensions.begin(), extensions.end()) : extensions.equal_range(name);
+        controlled.unite(QSet<OrvExtension*>(begin, end));
+    }
+    return controlled;
+}
+
+QStringList OrvProfile::missingNames(const QMultiHash<QString, OrvExtension*>& extensions) const
+{
     QStringList missing;
+    QSet<QString> noted{everything};
+    const auto note = [&](const QString& name) {
+        if (!noted.contains(name))
+            missing.append(name);
+        noted.insert(name);
+    };
     for (const Entry& entry : m_entries) {
         if (!entry.runs)
             continue;
-        if (entry.extension != everything && !namesOfRunning.contains(entry.extension))
-            note(missing, entry.extension);
+        const auto [begin, end] = extensions.equal_range(entry.extension);
+        if (std::none_of(begin, end, &runsByItself))
+            note(entry.extension);
         for (const QString& name : entry.controlled) {
-            if (name != everything && !names.contains(name))
-                note(missing, name);
+            if (!extensions.contains(name))
+                note(name);
         }
     }
     return missing;

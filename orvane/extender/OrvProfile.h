@@ -4,7 +4,10 @@
 
 #include "meridane/base/VbString.h"
 
+#include <QHash>
 #include <QList>
+#include <QMultiHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -53,9 +56,12 @@ public:
     [[nodiscard]] static ReadResult fromJson(const QByteArray& json, const QString& fileName);
 
 private:
-    [[nodiscard]] const Entry* findEntry(const OrvExtension& extension) const;
+    [[nodiscard]] static QSet<OrvExtension*> controlledExtensions(
+        const Entry& entry, const QMultiHash<QString, OrvExtension*>& extensions);
+    [[nodiscard]] QStringList missingNames(const QMultiHash<QString, OrvExtension*>& extensions) const;
 
     QString m_name;
-    QList<Entry> m_entries;
+    const QList<Entry> m_entries;
+    QHash<QString, const Entry*> m_entryOf; // by the name of the extension
     std::unordered_map<const OrvExtension*, std::unique_ptr<OrvProfileSetting>> m_settings;
 };

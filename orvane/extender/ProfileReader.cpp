@@ -2,6 +2,8 @@
 
 #include "meridane/base/Unicode.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <string_view>
 
@@ -150,6 +152,7 @@ bool ProfileReader::readEntry(const JsonToken& key)
 
 bool ProfileReader::readControlled(OrvProfile::Entry& entry)
 {
+    QSet<QString> names;
     advance();
     if (m_token.kind == Kind::ArrayEnd)
         return true;
@@ -158,10 +161,11 @@ bool ProfileReader::readControlled(OrvProfile::Entry& entry)
             return failExpecting("the name of an extension");
         if (m_token.text.isEmpty())
             return fail(m_token.position, QStringLiteral("the name of an extension is empty"));
-        if (entry.controlled.contains(m_token.text))
+        if (names.contains(m_token.text))
             return fail(m_token.position, QStringLiteral("%1 stands twice in the list").arg(quoted(m_token.text)));
         if (m_token.text == entry.extension && m_token.text != u"*")
             return fail(m_token.position, QStringLiteral("%1 can't control itself").arg(quoted(m_token.text)));
+        names.insert(m_token.text);
         entry.controlled.append(m_token.text);
         advance();
         if (m_token.kind == Kind::ArrayEnd)
@@ -174,7 +178,7 @@ bool ProfileReader::readControlled(OrvProfile::Entry& entry)
 template <typename ReadMember>
 bool ProfileReader::readObject(const ReadMember& readMember)
 {
-    QStringList keys;
+    QSet<QString> keys;
     advance();
     if (m_token.kind == Kind::ObjectEnd)
         return true;
@@ -184,7 +188,7 @@ bool ProfileReader::readObject(const ReadMember& readMember)
         const JsonToken key = m_token;
         if (keys.contains(key.text))
             return fail(key.position, QStringLiteral("%1 stands here for the second time").arg(quoted(key.text)));
-        keys.append(key.text);
+        keys.insert(key.text);
         if (!expect(Kind::Colon, "\":\""))
             return false;
         advance();

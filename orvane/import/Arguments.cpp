@@ -74,7 +74,8 @@ const char* usage() noexcept
            "Options: --memory MIB                       memory to take at most, 0 for no limit (default 4096,\n"
            "                                            or what ORVANE_IMPORT_MEMORY says)\n"
            "         --processor-time SECONDS           processor time to take at most, 0 for no limit (default 20\n"
-           "                                            and 2 more for each MiB that is read)\n"
+           "                                            and 2 more for each MiB that is read; 300\n"
+           "                                            for --pictures)\n"
            "         --parent PROCESS                   end when that process ends, which must have started this\n"
            "                                            one\n";
 }

@@ -138,6 +138,10 @@ std::chrono::seconds processorTime(const Arguments& arguments, const std::string
 {
     if (arguments.processorSeconds)
         return std::chrono::seconds(*arguments.processorSeconds);
+    // Nobody knows how many pictures will be asked for; each of them is limited by its number of pixels.
+    constexpr std::chrono::seconds pictures{300};
+    if (arguments.task == Arguments::Task::Pictures)
+        return pictures;
     return orvane::processorTimeFor(
         arguments.task == Arguments::Task::Read ? orvane::modelSize(arguments.subject) : input.size());
 }

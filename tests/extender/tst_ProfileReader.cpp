@@ -14,6 +14,28 @@ class TestProfileReader : public QObject {
     }
 
 private Q_SLOTS:
+    // Work that grows with the square of the number of names takes longer than this program may run.
+    void twoHundredThousandNamesAreReadAndResolved()
+    {
+        constexpr int count = 200000;
+        QByteArray controlled;
+        QByteArray entries;
+        for (int i = 0; i < count; ++i) {
+            controlled += (i == 0 ? "\"" : ", \"") + QByteArray::number(i) + '"';
+            entries += ", \"e" + QByteArray::number(i) + "\": false";
+        }
+        OrvProfile::ReadResult result
+            = read("{\"name\": \"P\", \"extensions\": {\"a\": [" + controlled + "]" + entries + "}}");
+        QCOMPARE(result.error, QString());
+        const QStringList missing = result.profile->resolve({});
+        QCOMPARE(missing.size(), count + 1);
+        QCOMPARE(missing.first(), u"a"_s);
+        QCOMPARE(missing.last(), QString::number(count - 1));
+        // One that comes twice is still found.
+        result = read("{\"name\": \"P\", \"extensions\": {\"a\": [" + controlled + ", \"7\"]}}");
+        QVERIFY2(result.error.endsWith(u"\"7\" stands twice in the list"_s), qPrintable(result.error));
+    }
+
     void aBadProfileIsRefusedWithItsPlace_data()
     {
         QTest::addColumn<QByteArray>("json");
