@@ -1,5 +1,7 @@
 #include "orvane/app/MessageRow.h"
 
+#include "orvane/app/MessageText.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -40,7 +42,7 @@ MessageRow::MessageRow(MessageBar::Severity severity, const QString& text, const
     : QFrame(parent)
     , m_severity(severity)
     , m_topic(topic)
-    , m_label(new QLabel(text, this))
+    , m_text(new MessageText(text, this))
 {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 6, 6, 6);
@@ -49,11 +51,8 @@ MessageRow::MessageRow(MessageBar::Severity severity, const QString& text, const
     icon->setPixmap(style()->standardIcon(pixmapOf(severity)).pixmap(size));
     layout->addWidget(icon, 0, Qt::AlignTop);
 
-    m_label->setObjectName(QStringLiteral("messageText"));
-    m_label->setTextFormat(Qt::PlainText);
-    m_label->setWordWrap(true);
-    m_label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    layout->addWidget(m_label, 1);
+    m_text->setObjectName(QStringLiteral("messageText"));
+    layout->addWidget(m_text, 1, Qt::AlignTop);
 
     auto* button = new QToolButton(this);
     button->setObjectName(QStringLiteral("closeMessage"));
@@ -67,7 +66,7 @@ MessageRow::MessageRow(MessageBar::Severity severity, const QString& text, const
 
 QString MessageRow::text() const
 {
-    return m_label->text();
+    return m_text->toPlainText();
 }
 
 void MessageRow::paintEvent(QPaintEvent*)

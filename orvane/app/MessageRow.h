@@ -4,7 +4,7 @@
 
 #include <QFrame>
 
-class QLabel;
+class MessageText;
 
 /// One message of the message bar: icon, text that can be selected, and a button that closes it.
 class MessageRow : public QFrame {
@@ -25,5 +25,5 @@ protected:
 private:
     MessageBar::Severity m_severity;
     QString m_topic;
-    QLabel* m_label;
+    MessageText* m_text;
 };

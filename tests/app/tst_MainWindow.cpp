@@ -355,6 +355,18 @@ private Q_SLOTS:
         QCOMPARE(m_window->document().fileName(), m_robot);
     }
 
+    void staysAsWideAsItWasWhenAMessageHasALongName()
+    {
+        m_window->resize(800, 600);
+        QCoreApplication::processEvents();
+        const QSize before = m_window->size();
+        QVERIFY(!open(m_folder->filePath(QString(200, u'x') + QStringLiteral(".mrd"))).isEmpty());
+        m_window->showError(QString(20000, u'y'));
+        QCoreApplication::processEvents();
+        QCOMPARE(m_window->size(), before);
+        QVERIFY(m_window->minimumSizeHint().width() <= before.width());
+    }
+
     void blocksInputWhileASceneIsWritten()
     {
         open(m_robot);

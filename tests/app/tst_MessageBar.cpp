@@ -7,7 +7,8 @@
 #include "meridane/base/NxMemoryError.h"
 #include "meridane/base/NxReadError.h"
 
-#include <QLabel>
+#include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
@@ -65,9 +66,43 @@ private Q_SLOTS:
     {
         MessageBar bar;
         bar.showMessage(Severity::Error, QStringLiteral("<b>a</b>"));
-        const auto* label = bar.findChild<QLabel*>(QStringLiteral("messageText"));
-        QCOMPARE(label->textFormat(), Qt::PlainText);
-        QVERIFY(label->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+        auto* text = bar.findChild<QPlainTextEdit*>(QStringLiteral("messageText"));
+        QCOMPARE(text->toPlainText(), QStringLiteral("<b>a</b>"));
+        bar.show();
+        QVERIFY(QTest::qWaitForWindowActive(&bar));
+        QTest::mouseDClick(text->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(8, text->height() / 2));
+        QVERIFY(text->textCursor().hasSelection());
+        QTest::keyClick(text, Qt::Key_X);
+        QCOMPARE(text->toPlainText(), QStringLiteral("<b>a</b>"));
+    }
+
+    void aLongNameIsBrokenAndWidensNothing()
+    {
+        MessageBar bar;
+        bar.showMessage(Severity::Error, QStringLiteral("short"));
+        const int width = bar.minimumSizeHint().width();
+        const QString name(400, u'x');
+        bar.showMessage(Severity::Error, name + QStringLiteral(".mrd: No such file or directory"));
+        QCOMPARE(bar.minimumSizeHint().width(), width);
+        bar.resize(500, 200);
+        bar.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        const auto* text = bar.findChildren<QPlainTextEdit*>(QStringLiteral("messageText")).back();
+        QVERIFY(text->height() > text->fontMetrics().lineSpacing());
+        QVERIFY(!text->verticalScrollBar()->isVisible() || text->verticalScrollBar()->maximum() > 0);
+        QVERIFY(text->width() < bar.width());
+    }
+
+    void aTextOfManyLinesIsScrolled()
+    {
+        MessageBar bar;
+        bar.showMessage(Severity::Error, QStringList(200, QStringLiteral("line")).join(u'\n'));
+        bar.resize(500, 200);
+        bar.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        const auto* text = bar.findChild<QPlainTextEdit*>(QStringLiteral("messageText"));
+        QCOMPARE(text->height(), 5 * text->fontMetrics().lineSpacing());
+        QVERIFY(text->verticalScrollBar()->isVisible());
     }
 
     void bringsEveryKindOfToolkitErrorFromAnyThread()
