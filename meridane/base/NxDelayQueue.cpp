@@ -36,10 +36,15 @@ void NxDelayQueue::schedule(NxDelayQueueSensor* sensor)
 {
     if (sensor->m_queue != nullptr)
         return;
-    sensor->m_queue = this;
     sensor->m_sequence = ++m_lastSequence;
     sensor->m_place = m_waiting.insert(sensor).first;
-    wakeUp();
+    sensor->m_queue = this; // only now, for the insertion may run out of memory
+    try {
+        wakeUp();
+    } catch (...) {
+        unschedule(sensor);
+        throw;
+    }
 }
 
 void NxDelayQueue::unschedule(NxDelayQueueSensor* sensor)
@@ -49,6 +54,16 @@ void NxDelayQueue::unschedule(NxDelayQueueSensor* sensor)
     // By its place and not by its value: the sensor may be half destroyed, and is not to be compared any more.
     listOf(sensor).erase(sensor->m_place);
     sensor->m_queue = nullptr;
+}
+
+void NxDelayQueue::setPriority(NxDelayQueueSensor* sensor, int priority)
+{
+    // The sensor keeps its entry, so that this can't run out of memory.
+    Sensors::node_type entry = listOf(sensor).extract(sensor->m_place);
+    sensor->m_priority = priority;
+    sensor->m_sequence = ++m_lastSequence;
+    sensor->m_place = m_waiting.insert(std::move(entry)).position;
+    wakeUp();
 }
 
 bool NxDelayQueue::process()
@@ -114,5 +129,10 @@ void NxDelayQueue::wakeUp()
 {
     if (m_hook == nullptr || std::exchange(m_hostIsTold, true))
         return;
-    m_hook(m_hookData);
+    try {
+        m_hook(m_hookData);
+    } catch (...) {
+        m_hostIsTold = false; // so that the next sensor asks again
+        throw;
+    }
 }

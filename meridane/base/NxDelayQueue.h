@@ -26,7 +26,8 @@ public:
     /// The queue that sensors schedule themselves on. It lives until the process ends.
     static NxDelayQueue& getDefault();
 
-    /// Queues a sensor. Does nothing when it waits in a queue already, be it another one.
+    /// Queues a sensor. Does nothing when it waits in a queue already, be it another one. When there is no
+    /// memory for it, or the wake-up hook throws, the sensor isn't queued and the exception is passed on.
     void schedule(NxDelayQueueSensor* sensor);
     /// Takes a sensor out. Does nothing when it doesn't wait in this queue.
     void unschedule(NxDelayQueueSensor* sensor);
@@ -52,6 +53,7 @@ private:
     using Clock = std::chrono::steady_clock;
     using Sensors = std::set<NxDelayQueueSensor*, Order>;
 
+    void setPriority(NxDelayQueueSensor* sensor, int priority);
     bool processUntil(Clock::time_point end);
     NxDelayQueueSensor* takeNext();
     Sensors& listOf(const NxDelayQueueSensor* sensor);

@@ -42,10 +42,8 @@ void NxDelayQueueSensor::setPriority(int priority)
 {
     if (priority == m_priority)
         return;
-    NxDelayQueue* const queue = m_queue;
-    if (queue != nullptr)
-        queue->unschedule(this);
-    m_priority = priority;
-    if (queue != nullptr)
-        queue->schedule(this);
+    if (m_queue != nullptr)
+        m_queue->setPriority(this, priority);
+    else
+        m_priority = priority;
 }

@@ -1,3 +1,4 @@
+#include "base/FailingMemory.h"
 #include "base/LetterSensor.h"
 
 #include "meridane/base/NxDelayQueue.h"
@@ -6,6 +7,7 @@
 
 #include <limits>
 #include <memory>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -78,6 +80,63 @@ private Q_SLOTS:
         b.setPriority(100); // behind the other one of its new priority
         queue.process();
         QCOMPARE(protocol, "baab");
+    }
+
+    void aSensorThatThereIsNoMemoryForStaysOutside()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        auto a = std::make_unique<LetterSensor>('a', protocol);
+        LetterSensor b('b', protocol);
+        FailingMemory::allocationsLeft = 0;
+        QVERIFY_THROWS_EXCEPTION(std::bad_alloc, queue.schedule(a.get()));
+        QVERIFY(!a->isScheduled());
+        QVERIFY(queue.isEmpty());
+        a->unschedule();
+        queue.schedule(&b);
+        queue.schedule(a.get());
+        FailingMemory::allocationsLeft = 0;
+        auto c = LetterSensor('c', protocol);
+        QVERIFY_THROWS_EXCEPTION(std::bad_alloc, queue.schedule(&c));
+        queue.process();
+        QCOMPARE(protocol, "ba");
+    }
+
+    void aNewPriorityTakesNoMemory()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        LetterSensor b('b', protocol);
+        queue.schedule(&a);
+        queue.schedule(&b);
+        FailingMemory::allocationsLeft = 0;
+        b.setPriority(1);
+        const bool tookNone = FailingMemory::allocationsLeft == 0;
+        FailingMemory::allocationsLeft = -1;
+        QVERIFY(tookNone);
+        queue.process();
+        QCOMPARE(protocol, "ba");
+    }
+
+    void aWakeUpThatThrowsIsAskedForAgain()
+    {
+        std::string protocol;
+        NxDelayQueue queue;
+        LetterSensor a('a', protocol);
+        int failures = 1;
+        queue.setWakeUpHook(
+            [](void* data) {
+                if (int& left = *static_cast<int*>(data); left-- > 0)
+                    throw std::bad_alloc();
+            },
+            &failures);
+        QVERIFY_THROWS_EXCEPTION(std::bad_alloc, queue.schedule(&a));
+        QVERIFY(!a.isScheduled());
+        queue.schedule(&a);
+        QCOMPARE(failures, -1);
+        queue.process();
+        QCOMPARE(protocol, "a");
     }
 
     void whatIsScheduledMeanwhileWaitsForTheNextPass()

@@ -1,55 +1,12 @@
+#include "base/FailingMemory.h"
 #include "scene/SceneText.h"
 
 #include <QTest>
 
-#include <cstdlib>
 #include <memory>
-#include <new>
 
-namespace {
-
-/// How many allocations of this thread still succeed before one fails; negative for all. The test library has threads
-/// too.
-constinit thread_local long allocationsLeft = -1;
-/// How many blocks this thread has more than it gave back.
-constinit thread_local long blocks = 0;
-
-void* allocate(std::size_t size)
-{
-    if (allocationsLeft == 0) {
-        allocationsLeft = -1;
-        return nullptr;
-    }
-    if (allocationsLeft > 0)
-        --allocationsLeft;
-    void* const memory = std::malloc(size == 0 ? 1 : size);
-    blocks += memory == nullptr ? 0 : 1;
-    return memory;
-}
-
-void release(void* memory)
-{
-    blocks -= memory == nullptr ? 0 : 1;
-    std::free(memory);
-}
-
-} // namespace
-
-// The program's own allocation, which serves the toolkit's libraries too.
-void* operator new(std::size_t size)
-{
-    if (void* const memory = allocate(size))
-        return memory;
-    throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept
-{
-    release(memory);
-}
-void operator delete(void* memory, std::size_t /*size*/) noexcept
-{
-    release(memory);
-}
+using FailingMemory::allocationsLeft;
+using FailingMemory::blocks;
 
 /// Lets each allocation of reading and writing fail in turn.
 class tst_NxSceneReaderMemory : public QObject {
