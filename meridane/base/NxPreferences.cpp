@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -110,14 +111,18 @@ int NxPreferences::getBool(const char* name, int defaultValue)
 int NxPreferences::getInt(const char* name, int defaultValue)
 {
     const std::string value = find(name).value_or("");
-    const bool isHexadecimal = value.starts_with("0x") || value.starts_with("0X");
-    return (isHexadecimal ? parseWhole<int>(std::string_view(value).substr(2), 16) : parseWhole<int>(value, 10))
-        .value_or(defaultValue);
+    if (!value.starts_with("0x") && !value.starts_with("0X"))
+        return parseWhole<int>(value, 10).value_or(defaultValue);
+    const std::string_view digits = std::string_view(value).substr(2);
+    if (digits.starts_with('-')) // which parsing would take as well
+        return defaultValue;
+    return parseWhole<int>(digits, 16).value_or(defaultValue);
 }
 
 float NxPreferences::getFloat(const char* name, float defaultValue)
 {
-    return parseWhole<float>(find(name).value_or("")).value_or(defaultValue);
+    const float value = parseWhole<float>(find(name).value_or("")).value_or(defaultValue);
+    return std::isfinite(value) ? value : defaultValue;
 }
 
 VbString NxPreferences::getString(const char* name, const VbString& defaultValue)

@@ -85,6 +85,10 @@ private Q_SLOTS:
         QTest::newRow("word") << QByteArray("many") << 99;
         QTest::newRow("empty") << QByteArray("") << 99;
         QTest::newRow("prefix alone") << QByteArray("0x") << 99;
+        QTest::newRow("sign behind the prefix") << QByteArray("0x-5") << 99;
+        QTest::newRow("plus behind the prefix") << QByteArray("0x+5") << 99;
+        QTest::newRow("two prefixes") << QByteArray("0x0x5") << 99;
+        QTest::newRow("sign before the prefix") << QByteArray("-0x5") << 99;
     }
     void integers()
     {
@@ -103,6 +107,9 @@ private Q_SLOTS:
         QTest::newRow("comma") << QByteArray("1,25") << 99.0F;
         QTest::newRow("with a rest") << QByteArray("1.25x") << 99.0F;
         QTest::newRow("too great") << QByteArray("1e999") << 99.0F;
+        QTest::newRow("infinite") << QByteArray("-inf") << 99.0F;
+        QTest::newRow("no number") << QByteArray("nan") << 99.0F;
+        QTest::newRow("no number with a word") << QByteArray("nan(zz_9)") << 99.0F;
         QTest::newRow("empty") << QByteArray("") << 99.0F;
     }
     void floats()
