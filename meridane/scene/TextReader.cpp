@@ -1,6 +1,9 @@
 #include "meridane/scene/TextReader.h"
 
+#include "meridane/scene/NanBits.h"
+
 #include <algorithm>
+#include <bit>
 #include <limits>
 #include <type_traits>
 
@@ -49,6 +52,25 @@ bool isSmallFraction(std::string_view number)
     return exponent < first - point;
 }
 
+bool isNan(std::string_view text)
+{
+    const auto lower = [](char character) { return static_cast<char>(character | 0x20); };
+    return text.size() >= 3 && lower(text[0]) == 'n' && lower(text[1]) == 'a' && lower(text[2]) == 'n';
+}
+
+// Reads what follows `nan`: nothing, or the fraction in brackets. Null where neither stands.
+template <typename Bits>
+const char* readNanFraction(const char* place, const char* end, Bits& fraction)
+{
+    if (place == end || *place != '(')
+        return place;
+    const bool hexadecimal = end - place > 3 && place[1] == '0' && (place[2] == 'x' || place[2] == 'X');
+    if (!hexadecimal)
+        return nullptr;
+    const auto [behind, error] = std::from_chars(place + 3, end, fraction, 16);
+    return error == std::errc() && behind != end && *behind == ')' ? behind + 1 : nullptr;
+}
+
 } // namespace
 
 void TextReader::skipComment() noexcept
@@ -68,8 +90,8 @@ bool TextReader::expectEnd()
     return atEnd() || fail("the end of the text");
 }
 
-// What the fast path doesn't take: a leading plus, hexadecimal integers, fractions too small for the type, and whatever
-// is no number at all.
+// What the fast path doesn't take: a leading plus, hexadecimal integers, fractions too small for the type, NaN, and
+// whatever is no number at all.
 template <typename Number>
 bool TextReader::readUnusualNumber(Number& number)
 {
@@ -94,6 +116,8 @@ bool TextReader::readUnusualNumber(Number& number)
         number = static_cast<Number>(negative ? 0ULL - magnitude : magnitude);
         m_at = end;
     } else {
+        if (isNan({place, static_cast<std::size_t>(m_end - place)}))
+            return readNan(place, negative, number);
         Number magnitude = 0;
         auto [end, error] = std::from_chars(place, m_end, magnitude);
         if (!digitFollows || error == std::errc::invalid_argument || !endsHere(end))
@@ -108,6 +132,21 @@ bool TextReader::readUnusualNumber(Number& number)
         number = negative ? -magnitude : magnitude;
         m_at = end;
     }
+    return true;
+}
+
+template <typename Number>
+bool TextReader::readNan(const char* place, bool negative, Number& number)
+{
+    using Nan = NanBits<Number>;
+    typename Nan::Bits fraction = Nan::plainFraction;
+    const char* const end = readNanFraction(place + 3, m_end, fraction);
+    if (end == nullptr || !endsHere(end) || fraction == 0 || fraction > Nan::greatestFraction) {
+        return fail(std::is_same_v<Number, float> ? "nan, or nan(0x1) to nan(0x7fffff)"
+                                                  : "nan, or nan(0x1) to nan(0xfffffffffffff)");
+    }
+    number = std::bit_cast<Number>((negative ? Nan::sign : 0) | Nan::exponent | fraction);
+    m_at = end;
     return true;
 }
 

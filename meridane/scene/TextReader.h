@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -49,8 +50,9 @@ public:
     bool expectEnd();
 
     /// Reads a number: decimal, with or without a sign, for integers also `0x` and hexadecimal digits, for floating
-    /// point also `inf` and `nan`. One that the type can't hold is refused, but a fraction too small for it becomes 0.
-    /// `number` changes only if this gives true.
+    /// point also `inf` and `nan`, with the bits of its fraction as `nan(0x1)` where they aren't the usual ones. A
+    /// number that the type can't hold is refused, but a fraction too small for it becomes 0. `number` changes only if
+    /// this gives true.
     template <typename Number>
     bool readNumber(Number& number);
     /// Reads a word: the characters up to a blank, a comma, a semicolon, a bar, a quote, a bracket, a brace or `#`. It
@@ -88,6 +90,8 @@ private:
     void skipComment() noexcept;
     template <typename Number>
     bool readUnusualNumber(Number& number);
+    template <typename Number>
+    bool readNan(const char* place, bool negative, Number& number);
 
     const char* m_begin;
     const char* m_at;
@@ -136,7 +140,10 @@ inline bool TextReader::readNumber(Number& number)
     skipBlanks();
     Number read{};
     const auto [end, error] = std::from_chars(m_at, m_end, read);
-    if (error != std::errc() || !endsHere(end)) [[unlikely]]
+    bool isUsual = error == std::errc() && endsHere(end);
+    if constexpr (std::is_floating_point_v<Number>)
+        isUsual = isUsual && !std::isnan(read); // whose brackets may hold anything here
+    if (!isUsual) [[unlikely]]
         return readUnusualNumber(number);
     number = read;
     m_at = end;

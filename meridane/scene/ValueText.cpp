@@ -3,8 +3,10 @@
 #include "meridane/base/Unicode.h"
 #include "meridane/base/VbName.h"
 #include "meridane/base/VbString.h"
+#include "meridane/scene/NanBits.h"
 
 #include <algorithm>
+#include <bit>
 #include <optional>
 
 namespace meridane {
@@ -62,7 +64,33 @@ bool takeName(TextReader& reader, std::string_view text, VbName& value)
     return true;
 }
 
+template <typename Number>
+void writeNanBits(std::string& text, Number value)
+{
+    using Nan = NanBits<Number>;
+    const auto bits = std::bit_cast<typename Nan::Bits>(value);
+    text += (bits & Nan::sign) != 0 ? "-nan" : "nan";
+    const auto fraction = bits & Nan::greatestFraction;
+    if (fraction == Nan::plainFraction)
+        return;
+    std::array<char, 16> digits; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by the next line
+    char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), fraction, 16).ptr;
+    text += "(0x";
+    text.append(digits.data(), end);
+    text += ')';
+}
+
 } // namespace
+
+void writeNan(std::string& text, float value)
+{
+    writeNanBits(text, value);
+}
+
+void writeNan(std::string& text, double value)
+{
+    writeNanBits(text, value);
+}
 
 bool readValue(TextReader& reader, Flag& value)
 {

@@ -9,6 +9,7 @@
 #include "meridane/scene/Flag.h"
 #include "meridane/scene/TextReader.h"
 
+#include <cmath>
 #include <concepts>
 #include <string>
 
@@ -28,10 +29,19 @@ bool readValue(TextReader& reader, Number& value)
 {
     return reader.readNumber(value);
 }
+/// `nan` or `-nan`, with the bits of its fraction in brackets where they aren't the usual ones.
+void writeNan(std::string& text, float value);
+void writeNan(std::string& text, double value);
 /// The shortest decimal text that reads back to the same value.
 template <TextNumber Number>
 void writeValue(std::string& text, const Number& value)
 {
+    if constexpr (std::floating_point<Number>) {
+        if (std::isnan(value)) [[unlikely]] {
+            writeNan(text, value);
+            return;
+        }
+    }
     std::array<char, 32> digits; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by the next line
     text.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr);
 }

@@ -135,10 +135,12 @@ FieldKind kindOf(Accepted accepted, Refused refused)
 }
 
 const Accepted real{{"1", "1"}, {"+1.50", "1.5"}, {" -2\t", "-2"}, {"1e3", "1000"}, {".5", "0.5"}, {"5.", "5"},
-    {"inf", "inf"}, {"-Infinity", "-inf"}, {"nan", "nan"}, {"-nan", "-nan"}, {"-0", "-0"}, {"1e-999", "0"},
-    {"-1e-999999999999999999999", "-0"}};
+    {"inf", "inf"}, {"-Infinity", "-inf"}, {"nan", "nan"}, {"-nan", "-nan"}, {"+NaN", "nan"}, {"nan(0x1)", "nan(0x1)"},
+    {"-NAN(0X02aB)", "-nan(0x2ab)"}, {"-0", "-0"}, {"1e-999", "0"}, {"-1e-999999999999999999999", "-0"}};
 const Refused notReal{"", " ", "\"\"", "x", "1 2", "1,", "1x", "+", "-", "+-1", "--1", "0x10", "1e", "1e999",
-    "1e999999999999999999999", "[1]", "1.2.3", "1#", "nanx"};
+    "1e999999999999999999999", "[1]", "1.2.3", "1#", "nanx", "na", "nan(", "nan()", "nan(zz_9)", "nan(1)", "nan(0x)",
+    "nan(0x0)", "nan(0xg)", "nan(0x-1)", "nan(0x1", "nan(0x1)x", "nan (0x1)", "nan( 0x1)", "nan(0x10000000000000)",
+    "+-nan", "inf(0x1)"};
 
 Accepted whole(const std::string& min, const std::string& max)
 {

@@ -11,7 +11,6 @@
 
 #include <array>
 #include <bit>
-#include <cmath>
 #include <concepts>
 #include <cstdint>
 #include <limits>
@@ -19,7 +18,7 @@
 #include <string>
 
 /// Random values of every type, the same ones in each run. Awkward values come often: limits, zeros of both signs,
-/// infinities, NaN of both signs, denormal numbers, texts full of quotes and escapes.
+/// infinities, NaN of both signs and kinds, denormal numbers, texts full of quotes and escapes.
 class RandomValues {
 public:
     explicit RandomValues(unsigned int seed)
@@ -115,11 +114,9 @@ private:
     {
         using Limits = std::numeric_limits<Number>;
         constexpr std::array edges{Number(0), Number(1), Number(0.1), Limits::infinity(), Limits::quiet_NaN(),
-            Limits::denorm_min(), Limits::min(), Limits::max(), Limits::epsilon()};
+            Limits::signaling_NaN(), Limits::denorm_min(), Limits::min(), Limits::max(), Limits::epsilon()};
         const std::size_t edge = below(2 * edges.size());
-        // A text tells a NaN's sign, but not its other bits.
-        const Number plain = std::isnan(otherwise) ? Limits::quiet_NaN() : otherwise;
-        const Number value = edge < edges.size() ? edges[edge] : plain;
+        const Number value = edge < edges.size() ? edges[edge] : otherwise;
         return below(2) == 0 ? -value : value;
     }
 
