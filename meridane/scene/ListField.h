@@ -27,6 +27,7 @@ public:
         , m_format(format)
         , m_values(std::move(values))
     {
+        assert(canHave(m_values.size()) && "rows are counted by int");
     }
 
     [[nodiscard]] int getNum() const final { return static_cast<int>(m_values.size()); }
@@ -48,15 +49,11 @@ public:
 
     /// All values, next to each other; valid until the list changes.
     [[nodiscard]] std::span<const Value> getValues() const noexcept { return m_values; }
-    /// Copies all values at once and tells the observers once. Values that don't fit in memory are reported as an
-    /// `NxMemoryError`, change nothing and give false.
+    /// Copies all values at once and tells the observers once. Values that don't fit in memory, or are more than
+    /// `getMaximumNum`, are reported as an `NxMemoryError`, change nothing and give false.
     bool setValues(std::span<const Value> values);
     /// The same without a copy.
-    void setValues(std::vector<Value>&& values)
-    {
-        m_values = std::move(values);
-        touch();
-    }
+    bool setValues(std::vector<Value>&& values);
     /// Hands all values over without a copy, leaves the list empty and tells the observers once.
     [[nodiscard]] std::vector<Value> takeValues()
     {

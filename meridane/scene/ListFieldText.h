@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <limits>
 #include <new>
+#include <string>
 #include <utility>
 
 namespace meridane {
@@ -45,7 +46,7 @@ void ListField<Value, Format>::insertCopies(int start, int count, const Value& v
         return;
     const auto number = static_cast<std::size_t>(count);
     const bool fits = withinMemory((m_values.size() + number) * sizeof(Value), [&] {
-        if (count > std::numeric_limits<int>::max() - getNum())
+        if (!canHave(m_values.size() + number))
             throw std::bad_alloc();
         m_values.insert(m_values.begin() + std::clamp(start, 0, getNum()), number, value);
         return true;
@@ -57,23 +58,33 @@ void ListField<Value, Format>::insertCopies(int start, int count, const Value& v
 template <typename Value, typename Format>
 bool ListField<Value, Format>::setValues(std::span<const Value> values)
 {
-    return withinMemory(values.size_bytes(), [this, values] {
-        setValues(std::vector<Value>(values.begin(), values.end()));
+    std::vector<Value> copy;
+    return withinMemory(values.size_bytes(), [&] {
+        copy.assign(values.begin(), values.end());
         return true;
-    });
+    }) && setValues(std::move(copy));
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::setValues(std::vector<Value>&& values)
+{
+    if (!canHave(values.size()))
+        return reportMemory(values.size() * sizeof(Value));
+    m_values = std::move(values);
+    touch();
+    return true;
 }
 
 template <typename Value, typename Format>
 bool ListField<Value, Format>::isSame(const NxField& other) const
 {
-    return getTypeId() == other.getTypeId()
-        && areSameValues<Value>(m_values, static_cast<const ListField&>(other).m_values);
+    return isOfSameClass(other) && areSameValues<Value>(m_values, static_cast<const ListField&>(other).m_values);
 }
 
 template <typename Value, typename Format>
 bool ListField<Value, Format>::copyFrom(const NxField& other)
 {
-    return getTypeId() == other.getTypeId() && setValues(static_cast<const ListField&>(other).getValues());
+    return isOfSameClass(other) && setValues(static_cast<const ListField&>(other).getValues());
 }
 
 template <typename Value, typename Format>
@@ -112,9 +123,14 @@ NxField::Progress ListField<Value, Format>::readValues(
         if (!bracket)
             return Progress::Done;
     }
+    const auto maximum = static_cast<std::size_t>(getMaximumNum());
     for (; budget > 0; --budget) {
         if (!reader.accept(',') && reader.accept(']'))
             return Progress::Done;
+        if (values.size() >= maximum) {
+            reader.fail("the end of a list, which has at most " + std::to_string(maximum) + " values");
+            return Progress::Failed;
+        }
         if (!m_format.read(reader, value))
             return Progress::Failed;
         values.push_back(value);

@@ -9,6 +9,7 @@
 #include "meridane/scene/TextReader.h"
 
 #include <limits>
+#include <typeinfo>
 #include <utility>
 
 NxType NxField::getClassTypeId()
@@ -66,6 +67,12 @@ bool NxField::isDefault() const
     const NxFieldData* const data = m_container->getFieldData();
     const NxField* const original = data->getDefault(data->getIndex(m_container, this));
     return original != nullptr && isSame(*original);
+}
+
+bool NxField::isOfSameClass(const NxField& other) const
+{
+    const NxType type = getTypeId();
+    return type == other.getTypeId() && (!type.isBad() || typeid(*this) == typeid(other));
 }
 
 void NxField::touch()

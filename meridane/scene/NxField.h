@@ -66,6 +66,10 @@ public:
     virtual bool writeText(std::string& text, std::size_t& position, std::size_t budget) const = 0;
 
 protected:
+    /// True when the other field is of the same class, so that it may be cast to it. The types of two classes that
+    /// couldn't be registered are equal, though the classes aren't.
+    [[nodiscard]] bool isOfSameClass(const NxField& other) const;
+
     /// Registers the field with the class of the container while the class is being described. The name must be a
     /// literal.
     NxField(NxFieldContainer* container, const char* name);

@@ -5,10 +5,33 @@
 #include "meridane/scene/MemoryGuard.h"
 #include "meridane/scene/TextReader.h"
 
+#include <limits>
+
+namespace {
+
+constinit int maximumNum = std::numeric_limits<int>::max();
+
+} // namespace
+
 NxType NxMField::getClassTypeId()
 {
     static const NxType type = NxType::registerClass("MField", NxField::getClassTypeId(), nullptr);
     return type;
+}
+
+int NxMField::getMaximumNum() noexcept
+{
+    return maximumNum;
+}
+
+void NxMField::setMaximumNum(int count) noexcept
+{
+    maximumNum = count;
+}
+
+bool NxMField::canHave(std::size_t count) noexcept
+{
+    return count <= static_cast<std::size_t>(maximumNum);
 }
 
 bool NxMField::set1(int index, const VbString& text)

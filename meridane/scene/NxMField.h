@@ -9,6 +9,12 @@ class NxMField : public NxField {
 public:
     [[nodiscard]] static NxType getClassTypeId();
 
+    /// The most values that a list can have: 2^31 - 1, for rows are counted by `int`. A list that would have more stays
+    /// as it is, and what was asked for is reported like a list that doesn't fit in memory.
+    [[nodiscard]] static int getMaximumNum() noexcept;
+    /// Lowers that number, to see what happens there without the gigabytes.
+    static void setMaximumNum(int count) noexcept;
+
     /// The number of values.
     [[nodiscard]] virtual int getNum() const = 0;
     /// Writes one value in text form; the empty text for a row that doesn't exist.
@@ -30,6 +36,9 @@ public:
 
 protected:
     using NxField::NxField;
+
+    /// True for a number of values that a list can have.
+    [[nodiscard]] static bool canHave(std::size_t count) noexcept;
 
 private:
     virtual bool assign1Text(int index, meridane::TextReader& reader) = 0;

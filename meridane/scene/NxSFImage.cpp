@@ -60,7 +60,7 @@ std::vector<unsigned char> NxSFImage::takeBytes()
 
 bool NxSFImage::isSame(const NxField& other) const
 {
-    if (getTypeId() != other.getTypeId())
+    if (!isOfSameClass(other))
         return false;
     const Image& image = static_cast<const NxSFImage&>(other).m_image;
     return m_image.size == image.size && m_image.components == image.components && m_image.bytes == image.bytes;
@@ -68,7 +68,7 @@ bool NxSFImage::isSame(const NxField& other) const
 
 bool NxSFImage::copyFrom(const NxField& other)
 {
-    if (getTypeId() != other.getTypeId())
+    if (!isOfSameClass(other))
         return false;
     const Image& image = static_cast<const NxSFImage&>(other).m_image;
     return setValue(image.size, image.components, image.bytes.data());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/scene/MemoryGuard.h"
 #include "meridane/scene/SingleField.h"
 #include "meridane/scene/ValueBits.h"
 
@@ -10,16 +11,22 @@ namespace meridane {
 template <typename Value, typename Format>
 bool SingleField<Value, Format>::isSame(const NxField& other) const
 {
-    return getTypeId() == other.getTypeId() && isSameValue(m_value, static_cast<const SingleField&>(other).m_value);
+    return isOfSameClass(other) && isSameValue(m_value, static_cast<const SingleField&>(other).m_value);
 }
 
 template <typename Value, typename Format>
 bool SingleField<Value, Format>::copyFrom(const NxField& other)
 {
-    if (getTypeId() != other.getTypeId())
+    if (!isOfSameClass(other))
         return false;
-    setValue(static_cast<const SingleField&>(other).m_value);
-    return true;
+    const Value& value = static_cast<const SingleField&>(other).m_value;
+    const bool fits = withinMemory(bytesOfValue(value), [&] {
+        m_value = value;
+        return true;
+    });
+    if (fits)
+        touch();
+    return fits;
 }
 
 template <typename Value, typename Format>

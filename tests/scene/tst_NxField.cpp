@@ -1,15 +1,24 @@
 #include "FieldCatalogue.h"
 #include "NotificationCount.h"
+#include "base/FailingMemory.h"
+#include "base/HandlerGuard.h"
 
+#include "meridane/base/NxMemoryError.h"
 #include "meridane/base/VbName.h"
 #include "meridane/base/VbString.h"
 #include "meridane/scene/NxFieldData.h"
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/NxMFFloat.h"
 #include "meridane/scene/NxNodeSensor.h"
 #include "meridane/scene/NxSFFloat.h"
+#include "meridane/scene/NxSFImage.h"
+#include "meridane/scene/NxSFString.h"
 #include "meridane/scene/NxSField.h"
 
 #include <QTest>
+
+#include <array>
+#include <initializer_list>
+#include <string>
 
 // What every field class does alike.
 class tst_NxField : public QObject {
@@ -34,10 +43,16 @@ private Q_SLOTS:
     void copiesAreTheSame();
     void otherClassesAreNeitherCopiedNorTheSame_data() { addFieldKindRows(); }
     void otherClassesAreNeitherCopiedNorTheSame();
+    void copiesThatDoNotFitInMemoryChangeNothing_data() { addFieldKindRows(); }
+    void copiesThatDoNotFitInMemoryChangeNothing();
+    void classesWithoutATypeAreToldApart();
     void theIgnoredFlagIsNoPartOfTheValue();
     void aLoneFieldHasNoContainerAndNoDefault();
     void aNullTextIsRefused();
     void theOverheadIsThreePointersAndAFlag();
+
+private:
+    int m_memoryErrors = 0;
 };
 
 void tst_NxField::theTypeIsNamedAndPlaced()
@@ -195,6 +210,79 @@ void tst_NxField::otherClassesAreNeitherCopiedNorTheSame()
         QVERIFY(!fieldOf(node).isSame(fieldOf(foreign)));
         QCOMPARE(notifications.take(), 0);
     }
+}
+
+void tst_NxField::copiesThatDoNotFitInMemoryChangeNothing()
+{
+    QFETCH(const FieldKind*, kind);
+    RandomValues random(6);
+    const std::array nodes{kind->makeNode(), kind->makeNode(), kind->makeNode()};
+    NxField& source = fieldOf(nodes[0]);
+    NxField& copy = fieldOf(nodes[1]);
+    NxField& before = fieldOf(nodes[2]);
+    const HandlerGuard<NxMemoryError> guard(
+        [](const NxError*, void* data) { ++*static_cast<int*>(data); }, &m_memoryErrors);
+    m_memoryErrors = 0;
+    int failures = 0;
+    for (int i = 0; i < 20; ++i) {
+        kind->setRandom(source, random);
+        kind->setRandom(copy, random);
+        QVERIFY(before.copyFrom(copy));
+        for (long succeed = 0;; ++succeed) {
+            FailingMemory::allocationsLeft = succeed;
+            const bool copied = copy.copyFrom(source);
+            const bool ranOut = FailingMemory::allocationsLeft < 0;
+            FailingMemory::allocationsLeft = -1;
+            QCOMPARE(copied, !ranOut);
+            QVERIFY(copy.isSame(copied ? source : before));
+            if (copied)
+                break;
+            ++failures;
+        }
+    }
+    QCOMPARE(m_memoryErrors, failures);
+    const std::string name = kind->type.getName().getString();
+    const bool needsMemory = name.starts_with("MF") || name.ends_with("String") || name.ends_with("Image");
+    QCOMPARE(failures > 0, needsMemory);
+}
+
+void tst_NxField::classesWithoutATypeAreToldApart()
+{
+    // As a class is whose name was taken.
+    class NamelessText : public NxSFString {
+    public:
+        using NxSFString::NxSFString;
+        [[nodiscard]] NxType getTypeId() const override { return {}; }
+    };
+    class NamelessNumber : public NxSFFloat {
+    public:
+        using NxSFFloat::NxSFFloat;
+        [[nodiscard]] NxType getTypeId() const override { return {}; }
+    };
+    class NamelessList : public NxMFFloat {
+    public:
+        using NxMFFloat::NxMFFloat;
+        [[nodiscard]] NxType getTypeId() const override { return {}; }
+    };
+    class NamelessImage : public NxSFImage {
+    public:
+        using NxSFImage::NxSFImage;
+        [[nodiscard]] NxType getTypeId() const override { return {}; }
+    };
+    NamelessText text(nullptr, "text", "a");
+    NamelessNumber number(nullptr, "number", 2);
+    NamelessList list(nullptr, "list", {1, 2});
+    NamelessImage image(nullptr, "image");
+    for (NxField* left : std::initializer_list<NxField*>{&text, &number, &list, &image}) {
+        for (const NxField* right : std::initializer_list<const NxField*>{&text, &number, &list, &image}) {
+            QCOMPARE(left->isSame(*right), left == right);
+            QCOMPARE(left->copyFrom(*right), left == right);
+        }
+    }
+    const NamelessText another(nullptr, "another", "b");
+    QVERIFY(text.copyFrom(another));
+    QCOMPARE(text.getValue(), VbString("b"));
+    QCOMPARE(number.getValue(), 2.0F);
 }
 
 void tst_NxField::theIgnoredFlagIsNoPartOfTheValue()

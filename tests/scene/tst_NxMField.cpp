@@ -10,7 +10,9 @@
 #include "meridane/scene/NxMFInt32.h"
 #include "meridane/scene/NxMFMatrix.h"
 #include "meridane/scene/NxMFString.h"
+#include "meridane/scene/TextReader.h"
 
+#include <QScopeGuard>
 #include <QTest>
 
 #include <limits>
@@ -90,6 +92,7 @@ private Q_SLOTS:
     void moreRowsThanCanBeCountedAreAMemoryError_data() { addListRows(); }
     void moreRowsThanCanBeCountedAreAMemoryError();
     void rowsThatDoNotFitInMemoryAreAMemoryError();
+    void noListHasMoreRowsThanCanBeCounted();
     void valueChangedNotifies_data() { addListRows(); }
     void valueChangedNotifies();
     void twoQuotesEmptyATextAndNothingElse_data() { addListRows(); }
@@ -272,6 +275,39 @@ void tst_NxMField::rowsThatDoNotFitInMemoryAreAMemoryError()
     QCOMPARE(errors.texts().size(), std::size_t{1});
     QCOMPARE(field.getNum(), 1);
 #endif
+}
+
+void tst_NxMField::noListHasMoreRowsThanCanBeCounted()
+{
+    const auto usualMaximum = qScopeGuard([] { NxMField::setMaximumNum(maxInt); });
+    QCOMPARE(NxMField::getMaximumNum(), maxInt);
+    const std::vector<float> four{1, 2, 3, 4};
+    const NxMFFloat large(nullptr, "large", four);
+    NxMField::setMaximumNum(3);
+    TextRecorder errors;
+    const HandlerGuard<NxMemoryError> guard(&TextRecorder::record, &errors);
+    NxMFFloat field(nullptr, "field", {7, 8});
+    NotificationCount notifications(field);
+
+    QVERIFY(!field.setValues(four));
+    QVERIFY(!field.setValues(std::vector(four)));
+    QVERIFY(!field.copyFrom(large));
+    field.insertSpace(0, 2);
+    QCOMPARE(errors.texts().size(), std::size_t{4});
+    QVERIFY(!field.set("[1, 2, 3, 4]"));
+    QCOMPARE(rowTexts(field), (std::vector<std::string>{"7", "8"}));
+    QCOMPARE(notifications.take(), 0);
+
+    meridane::TextReader reader("[1, 2, 3, 4]");
+    NxMFFloat sliced(nullptr, "sliced");
+    NxField::Progress progress = sliced.readText(reader, true, 1);
+    while (progress == NxField::Progress::More)
+        progress = sliced.readText(reader, false, 1);
+    QCOMPARE(progress, NxField::Progress::Failed);
+    QCOMPARE(reader.expected(), std::string("the end of a list, which has at most 3 values"));
+
+    QVERIFY(field.set("[1, 2, 3]"));
+    QCOMPARE(field.getNum(), 3);
 }
 
 void tst_NxMField::valueChangedNotifies()
