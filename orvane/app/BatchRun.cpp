@@ -2,6 +2,7 @@
 
 #include "orvane/app/FileJobs.h"
 #include "orvane/app/SceneEdit.h"
+#include "orvane/app/SceneListing.h"
 #include "orvane/app/SearchFolders.h"
 #include "orvane/app/Session.h"
 #include "orvane/extender/OrvEditor.h"
@@ -130,7 +131,7 @@ std::optional<QString> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
         m_output << text << '\n';
     }
     if (m_commandLine.list)
-        m_output << orvane::listScene(scene.get());
+        SceneListing(scene.get(), m_output).print();
     for (const QString& fileName : m_commandLine.exportFiles) {
         if (auto failure = finish(*orvane::makeSaveJob(scene, fileName)))
             return failure;

@@ -27,7 +27,8 @@ struct Options {
     QCommandLineOption get{
         QStringLiteral("get"), QStringLiteral("Print a field's value; repeatable."), QStringLiteral("PATH")};
     QCommandLineOption list{QStringLiteral("list"),
-        QStringLiteral("Print each node with its class and each field with its type and value.")};
+        QStringLiteral("Print each node with its class and each field with its type and value. A node that is "
+                       "in several places is printed in full once, then with the path of the first place.")};
     QCommandLineOption listExtensions{QStringLiteral("list-extensions"),
         QStringLiteral("Print each extension's order, class, name and handled type.")};
     QCommandLineOption exportTo{QStringLiteral("export"),

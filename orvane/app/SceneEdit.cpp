@@ -9,13 +9,9 @@
 #include "meridane/scene/NxRef.h"
 #include "meridane/scene/NxScenePath.h"
 
-#include <vector>
-
 namespace orvane {
 
 namespace {
-
-constexpr qsizetype listedValueLength = 1000;
 
 // Follows a path that has to name a field.
 std::optional<QString> findField(NxGroup* scene, const QString& path, NxField*& field)
@@ -37,17 +33,6 @@ bool acceptsText(NxField* field, const VbString& text)
     const NxRef<NxFieldContainer> trial(dynamic_cast<NxFieldContainer*>(object));
     NxFieldData* const data = node->getFieldData();
     return trial && data->getField(trial.get(), data->getIndex(node, field))->set(text);
-}
-
-void listNode(const NxGroup* scene, const std::vector<NxNode*>& path, QString& lines)
-{
-    NxNode* const node = path.back();
-    lines += QStringLiteral("%1\t%2\n")
-                 .arg(toQString(NxScenePath::toText(scene, path)), QString::fromUtf8(node->getClassName()));
-    for (const NxField* const field : node->getFields())
-        lines += QStringLiteral("%1\t%2\t%3\n")
-                     .arg(toQString(NxScenePath::toText(scene, path, field)), typeName(*field),
-                         beginningOf(*field, listedValueLength));
 }
 
 } // namespace
@@ -80,32 +65,6 @@ std::optional<QString> getField(NxGroup* scene, const QString& path, QString& te
     field->get(value);
     text = toQString(value.view());
     return std::nullopt;
-}
-
-QString listScene(NxGroup* scene)
-{
-    // A stack of its own: scenes may be nested deeper than the call stack would like.
-    struct Level {
-        std::span<NxNode* const> children;
-        std::size_t next = 0;
-    };
-    QString lines;
-    std::vector<NxNode*> path;
-    std::vector<Level> levels{{scene->getChildren()}};
-    while (!levels.empty()) {
-        Level& level = levels.back();
-        if (level.next == level.children.size()) {
-            levels.pop_back();
-            if (!path.empty())
-                path.pop_back();
-            continue;
-        }
-        NxNode* const node = level.children[level.next++];
-        path.push_back(node);
-        listNode(scene, path, lines);
-        levels.push_back({node->getChildren()});
-    }
-    return lines;
 }
 
 } // namespace orvane

@@ -20,8 +20,5 @@ namespace orvane {
 [[nodiscard]] std::optional<QString> setField(NxGroup* scene, const CommandLine::Assignment& assignment);
 /// Gives the field's text form in `text`.
 [[nodiscard]] std::optional<QString> getField(NxGroup* scene, const QString& path, QString& text);
-/// One line for each node (path, class) and for each of its fields (path, type, value), separated by tabs, in the order
-/// of the scene. Values of more than a thousand characters are cut and end in an ellipsis.
-[[nodiscard]] QString listScene(NxGroup* scene);
 
 } // namespace orvane

@@ -89,15 +89,6 @@ private Q_SLOTS:
         QVERIFY(field != nullptr);
         QCOMPARE(value(QStringLiteral("/rig/paint.transparency")), QStringLiteral("0.25"));
     }
-
-    void theListHasALineForEachNodeAndField()
-    {
-        const QStringList lines = orvane::listScene(m_scene.get()).split(u'\n', Qt::SkipEmptyParts);
-        QCOMPARE(lines.first(), QStringLiteral("/rig\tGroup"));
-        QVERIFY(lines.contains(QStringLiteral("/rig/paint\tMaterial")));
-        QVERIFY(lines.contains(QStringLiteral("/rig/paint.transparency\tSFFloat\t0.25")));
-        QVERIFY(lines.contains(QStringLiteral("/rig/Complexity[0].value\tSFFloat\t0.5")));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestSceneEdit)

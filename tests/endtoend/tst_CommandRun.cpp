@@ -13,6 +13,29 @@ const QByteArray scene = "#mrd 1.0\n"
                          "    }\n"
                          "}\n";
 
+// One line for each place of a mesh in a list of a scene: how many indices it has.
+QByteArray indexCounts(const QByteArray& list)
+{
+    QByteArrayList places; // of what is listed, or listed further up
+    for (const QByteArray& line : list.split('\n')) {
+        const QByteArrayList parts = line.split('\t');
+        if (parts.size() == 3 && parts[2].startsWith("same as ")) {
+            const QByteArray first = parts[2].mid(8);
+            const QByteArrayList before = places;
+            for (const QByteArray& other : before) {
+                if (other.startsWith(first + '/') || other.startsWith(first + '.'))
+                    places += other;
+            }
+        } else if (line.contains(".indices\tMFInt32")) {
+            places += line;
+        }
+    }
+    QByteArray counts;
+    for (const QByteArray& line : places)
+        counts += QByteArray::number(line.count(',')) + '\n';
+    return counts;
+}
+
 } // namespace
 
 // The program on the command line, without a display: what it prints, what it writes and how it ends.
@@ -65,11 +88,7 @@ private Q_SLOTS:
             const Outcome outcome = run({QStringLiteral("--list"), models[i]});
             QCOMPARE(outcome.errors, QByteArray());
             QCOMPARE(outcome.status, 0);
-            // One line a mesh: how many indices it has.
-            for (const QByteArray& line : outcome.output.split('\n')) {
-                if (line.contains(".indices\tMFInt32"))
-                    indices[i] += QByteArray::number(line.count(',')) + '\n';
-            }
+            indices[i] = indexCounts(outcome.output);
         }
         QVERIFY(!indices[0].isEmpty());
         QCOMPARE(indices[0], indices[1]);
@@ -191,6 +210,21 @@ private Q_SLOTS:
         QCOMPARE(outcome.errors, "orvane: " + QFile::encodeName(file) + ": File too large\n");
         QCOMPARE(read(QStringLiteral("rig.mrd")), scene);
         QCOMPARE(QDir(folder()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+
+    void aSceneOfGroupsUsedTwiceIsListedOnce()
+    {
+        QByteArray groups = "#mrd 1.0\nGroup \"0\" {}\n";
+        for (int i = 1; i <= 40; ++i) {
+            const QByteArray below = QByteArray::number(i - 1);
+            groups += "Group \"" + QByteArray::number(i) + "\" { use \"" + below + "\"; use \"" + below + "\" }\n";
+        }
+        write(QStringLiteral("shared.mrd"), groups);
+        const Outcome outcome = run({QStringLiteral("--list"), path(QStringLiteral("shared.mrd"))});
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        // One for each group at the top, and two in each but one of them.
+        QCOMPARE(outcome.output.count("\tGroup"), 41 + 2 * 40);
     }
 
     void outputThatCanNotBeWrittenIsReported()
