@@ -170,6 +170,20 @@ void NxSceneDrawing::setImageLoader(ImageLoader loader)
     m_private->noteChange();
 }
 
+void NxSceneDrawing::reloadImage(const std::string& path)
+{
+    bool isNamed = false;
+    m_private->scene.forEach<TextureRecord>(NodeKind::Texture, [&](TextureRecord& record) {
+        const NxTexture* const texture = record.texture();
+        if (texture == nullptr || texture->filePath.getValue().view() != path)
+            return;
+        record.isStale = true;
+        isNamed = true;
+    });
+    if (isNamed)
+        m_private->noteChange();
+}
+
 void NxSceneDrawing::setChangeHook(std::function<void()> hook)
 {
     m_private->changeHook = std::move(hook);

@@ -13,6 +13,7 @@
 class NxGLFunctions;
 class NxNode;
 class NxViewpoint;
+enum class NxImageState;
 struct NxImage;
 
 /// Draws a scene with OpenGL 3.3 and follows its changes.
@@ -26,8 +27,10 @@ struct NxImage;
 /// can't be loaded as an `NxReadError`, OpenGL's own errors and what its compiler says as an `NxGLError`.
 class NxSceneDrawing {
 public:
-    /// Loads the image file that a texture names, in whatever way the path is meant. False when it can't.
-    using ImageLoader = std::function<bool(const std::string& path, NxImage& image)>;
+    /// Loads the image file that a texture names, in whatever way the path is meant. Sets `reason`, in half a sentence,
+    /// when it fails. Called while a picture is drawn, so it must not wait for anything: an image that takes time is
+    /// pending.
+    using ImageLoader = std::function<NxImageState(const std::string& path, NxImage& image, std::string& reason)>;
 
     /// The functions must be loaded and outlive the drawing.
     explicit NxSceneDrawing(const NxGLFunctions& functions);
@@ -50,6 +53,9 @@ public:
     /// Who loads image files; asked again for all of them when it changes. Without a loader, textures that only name a
     /// file aren't drawn.
     void setImageLoader(ImageLoader loader);
+    /// What the loader says about a file has changed: the textures that name it ask again with the next picture that
+    /// they are seen in. Until then they keep the image that they have.
+    void reloadImage(const std::string& path);
     /// Called when the next picture would differ from the latest one: once until the next `draw`. It must only make a
     /// note, and must not draw itself.
     void setChangeHook(std::function<void()> hook);

@@ -32,9 +32,14 @@ std::string sizeText(int width, int height)
 void load(TextureImage& image, const std::string& path, TextureRecord& record,
     const NxSceneDrawing::ImageLoader& loader, Problems& problems)
 {
-    const bool isLoaded = loader && loader(path, image.loaded);
-    problems.note(
-        record, Problem::ImageFile, !isLoaded, [&] { return "its image file '" + path + "' can't be loaded"; });
+    std::string reason;
+    const NxImageState state = loader ? loader(path, image.loaded, reason) : NxImageState::Failed;
+    const bool isLoaded = state == NxImageState::Loaded;
+    image.isPending = state == NxImageState::Pending;
+    if (image.isPending)
+        return;
+    problems.note(record, Problem::ImageFile, state == NxImageState::Failed,
+        [&] { return "its image file '" + path + "' can't be loaded" + (reason.empty() ? "" : ": " + reason); });
     const bool isBad = isLoaded && !isWhole(image.loaded);
     problems.note(record, Problem::ImageBytes, isBad, [&] {
         return "its image of " + sizeText(image.loaded.width, image.loaded.height) + " pixels with "

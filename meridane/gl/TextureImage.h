@@ -17,6 +17,7 @@ struct TextureImage {
     int components = 0;
     const unsigned char* bytes = nullptr;
     NxImage loaded;
+    bool isPending = false; ///< it comes later
 
     /// Whether some pixel isn't opaque.
     [[nodiscard]] bool isTranslucent() const;

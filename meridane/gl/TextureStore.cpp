@@ -73,6 +73,8 @@ void TextureStore::update(
     texture.repeatsS = counting(texture.texture()->wrapS).getValue() != NxTexture::CLAMP;
     texture.repeatsT = counting(texture.texture()->wrapT).getValue() != NxTexture::CLAMP;
     const TextureImage image = imageOf(texture, loader, m_mostSide, problems);
+    if (image.isPending)
+        return;
     const std::uint64_t fingerprint = image.width == 0 ? 0 : fingerprintOf(image);
     if (fingerprint == texture.fingerprint)
         return;

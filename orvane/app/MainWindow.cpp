@@ -7,6 +7,7 @@
 #include "orvane/app/FileFlow.h"
 #include "orvane/app/FileMenu.h"
 #include "orvane/app/HelpMenu.h"
+#include "orvane/app/ImageFolderQuestion.h"
 #include "orvane/app/JobBar.h"
 #include "orvane/app/MessageBar.h"
 #include "orvane/app/RecentFiles.h"
@@ -60,6 +61,7 @@ MainWindow::MainWindow(Session& session)
     , m_messages(new MessageBar(this))
     , m_middle(new QStackedWidget(this))
     , m_view(new SceneView(this))
+    , m_imageFolders(new ImageFolderQuestion(m_view->drawing().textures(), session.settings(), *m_messages, this))
     , m_fields(new FieldPanel(this))
     , m_tree(new SceneTreePanel(this))
     , m_jobBar(new JobBar(this))
@@ -121,6 +123,11 @@ void MainWindow::startView()
         m_view->start();
 }
 
+bool MainWindow::isLoadingImages() const
+{
+    return m_view->drawing().textures().isLoading();
+}
+
 void MainWindow::showError(const QString& message)
 {
     m_messages->showMessage(MessageBar::Severity::Error, message);
@@ -146,6 +153,7 @@ void MainWindow::buildMiddle()
     m_middle->addWidget(m_view);
     layout->addWidget(m_middle, 1);
     setCentralWidget(container);
+    connect(&m_view->drawing().textures(), &TextureFiles::folderRefused, this, &MainWindow::imageFolderRefused);
     connect(m_errorRelay.get(), &ErrorRelay::reported, this,
         [this](MessageBar::Severity severity, const QString& text) { m_messages->showMessage(severity, text); });
 }
@@ -186,6 +194,14 @@ void MainWindow::buildMenus()
     toolBar->addActions(m_fileMenu->toolBarActions());
     toolBar->addSeparator();
     toolBar->addActions(editMenu->toolBarActions());
+    auto* forget = new QAction(tr("Forget Allowed &Image Folders"), this);
+    forget->setObjectName(QStringLiteral("forgetImageFolders"));
+    forget->setStatusTip(tr("Takes back that scenes may refer to images in folders outside their own"));
+    const auto enable = [this, forget] { forget->setEnabled(!m_imageFolders->allowedFolders().isEmpty()); };
+    enable();
+    connect(m_imageFolders, &ImageFolderQuestion::changed, forget, enable);
+    connect(forget, &QAction::triggered, m_imageFolders, &ImageFolderQuestion::forgetFolders);
+    viewMenu->append(forget);
     viewMenu->update();
 }
 
@@ -208,6 +224,7 @@ void MainWindow::connectDocument()
 {
     const SceneDocument& scene = document();
     connect(&scene, &SceneDocument::sceneAboutToChange, this, [this] { m_tree->setScene(nullptr); });
+    connect(&scene, &SceneDocument::sceneAboutToChange, m_imageFolders, &ImageFolderQuestion::reset);
     connect(&scene, &SceneDocument::sceneChanged, this, &MainWindow::updateMiddle);
     connect(&scene, &SceneDocument::fileNameChanged, this, &MainWindow::updateTitle);
     connect(&scene, &SceneDocument::modifiedChanged, this, &QWidget::setWindowModified);

@@ -9,6 +9,7 @@ class ErrorRelay;
 class FieldPanel;
 class FileFlow;
 class FileMenu;
+class ImageFolderQuestion;
 class JobBar;
 class MessageBar;
 class QStackedWidget;
@@ -44,6 +45,8 @@ public:
     QString selectPath(const QString& path);
     /// Sets the view's drawing up now rather than behind the first picture: for whoever takes pictures of the window.
     void startView();
+    /// Whether images of textures are still to come into the view.
+    [[nodiscard]] bool isLoadingImages() const;
     /// Shows a message to the user.
     void showError(const QString& message);
     void showWarning(const QString& message);
@@ -53,6 +56,8 @@ Q_SIGNALS:
     /// Work on a file ended, for good or bad, and what the window shows has caught up with it. `error` is the message
     /// of a failure, or empty.
     void settled(const QString& error);
+    /// Images of the scene in that folder aren't loaded, because it is outside the scene's and isn't allowed.
+    void imageFolderRefused(const QString& folder);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -79,6 +84,7 @@ private:
     MessageBar* m_messages;
     QStackedWidget* m_middle;
     SceneView* m_view;
+    ImageFolderQuestion* m_imageFolders;
     StartPage* m_startPage = nullptr; // made when it is first shown
     FieldPanel* m_fields;
     SceneTreePanel* m_tree;

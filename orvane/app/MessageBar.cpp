@@ -18,14 +18,41 @@ MessageBar::MessageBar(QWidget* parent)
 void MessageBar::showMessage(Severity severity, const QString& text, const QString& topic)
 {
     clearTopic(topic);
-    const bool shown
-        = std::any_of(m_rows.begin(), m_rows.end(), [&text](const MessageRow* row) { return row->text() == text; });
-    if (shown)
+    if (!isShown(text))
+        add(new MessageRow(severity, text, topic, this));
+}
+
+void MessageBar::showQuestion(
+    const QString& text, const QString& topic, const QString& buttonText, const std::function<void()>& accept)
+{
+    clearTopic(topic);
+    if (isShown(text))
         return;
-    if (m_rows.size() == capacity)
-        remove(m_rows.front());
-    auto* row = new MessageRow(severity, text, topic, this);
-    connect(row, &MessageRow::closed, this, [this, row] { remove(row); });
+    auto* row = new MessageRow(Severity::Warning, text, topic, this);
+    row->addButton(buttonText);
+    connect(row, &MessageRow::accepted, this, [this, row, accept] {
+        remove(row);
+        accept();
+    });
+    add(row);
+}
+
+bool MessageBar::isShown(const QString& text) const
+{
+    return std::any_of(m_rows.begin(), m_rows.end(), [&text](const MessageRow* row) { return row->text() == text; });
+}
+
+void MessageBar::add(MessageRow* row)
+{
+    if (m_rows.size() == capacity) {
+        const auto oldest
+            = std::find_if(m_rows.begin(), m_rows.end(), [](const MessageRow* each) { return !each->hasButton(); });
+        remove(oldest != m_rows.end() ? *oldest : m_rows.front());
+    }
+    connect(row, &MessageRow::closed, this, [this, row] {
+        remove(row);
+        Q_EMIT closed(row->topic());
+    });
     m_rows.push_back(row);
     m_layout->addWidget(row);
     show();

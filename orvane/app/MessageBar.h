@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
 #include <vector>
 
 class MessageRow;
@@ -22,6 +23,10 @@ public:
     explicit MessageBar(QWidget* parent = nullptr);
 
     void showMessage(Severity severity, const QString& text, const QString& topic = {});
+    /// Asks for the user's consent: a message with a button that calls `accept` and closes it. Other messages don't
+    /// displace it.
+    void showQuestion(
+        const QString& text, const QString& topic, const QString& buttonText, const std::function<void()>& accept);
     /// Takes the message about a topic away.
     void clearTopic(const QString& topic);
     void clear();
@@ -29,7 +34,13 @@ public:
     /// The texts shown, from the top.
     [[nodiscard]] QStringList texts() const;
 
+Q_SIGNALS:
+    /// The user closed the message about that topic, without an answer if it is a question.
+    void closed(const QString& topic);
+
 private:
+    void add(MessageRow* row);
+    [[nodiscard]] bool isShown(const QString& text) const;
     void remove(MessageRow* row);
 
     QVBoxLayout* m_layout;

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyle>
 #include <QToolButton>
 
@@ -43,16 +44,16 @@ MessageRow::MessageRow(MessageBar::Severity severity, const QString& text, const
     , m_severity(severity)
     , m_topic(topic)
     , m_text(new MessageText(text, this))
+    , m_layout(new QHBoxLayout(this))
 {
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(12, 6, 6, 6);
+    m_layout->setContentsMargins(12, 6, 6, 6);
     auto* icon = new QLabel(this);
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     icon->setPixmap(style()->standardIcon(pixmapOf(severity)).pixmap(size));
-    layout->addWidget(icon, 0, Qt::AlignTop);
+    m_layout->addWidget(icon, 0, Qt::AlignTop);
 
     m_text->setObjectName(QStringLiteral("messageText"));
-    layout->addWidget(m_text, 1, Qt::AlignTop);
+    m_layout->addWidget(m_text, 1, Qt::AlignTop);
 
     auto* button = new QToolButton(this);
     button->setObjectName(QStringLiteral("closeMessage"));
@@ -61,7 +62,16 @@ MessageRow::MessageRow(MessageBar::Severity severity, const QString& text, const
     button->setToolTip(tr("Close this message"));
     button->setAccessibleName(button->toolTip());
     connect(button, &QToolButton::clicked, this, &MessageRow::closed);
-    layout->addWidget(button, 0, Qt::AlignTop);
+    m_layout->addWidget(button, 0, Qt::AlignTop);
+}
+
+void MessageRow::addButton(const QString& text)
+{
+    m_hasButton = true;
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QStringLiteral("acceptMessage"));
+    connect(button, &QPushButton::clicked, this, &MessageRow::accepted);
+    m_layout->insertWidget(m_layout->indexOf(m_text) + 1, button, 0, Qt::AlignTop);
 }
 
 QString MessageRow::text() const

@@ -5,6 +5,7 @@
 #include <QFrame>
 
 class MessageText;
+class QHBoxLayout;
 
 /// One message of the message bar: icon, text that can be selected, and a button that closes it.
 class MessageRow : public QFrame {
@@ -15,8 +16,12 @@ public:
 
     [[nodiscard]] QString text() const;
     [[nodiscard]] const QString& topic() const noexcept { return m_topic; }
+    /// Adds the button that accepts what the message asks for.
+    void addButton(const QString& text);
+    [[nodiscard]] bool hasButton() const noexcept { return m_hasButton; }
 
 Q_SIGNALS:
+    void accepted();
     void closed();
 
 protected:
@@ -26,4 +31,6 @@ private:
     MessageBar::Severity m_severity;
     QString m_topic;
     MessageText* m_text;
+    QHBoxLayout* m_layout;
+    bool m_hasButton = false;
 };

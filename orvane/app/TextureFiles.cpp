@@ -1,60 +1,128 @@
 #include "orvane/app/TextureFiles.h"
 
+#include "orvane/app/ImageFile.h"
 #include "orvane/app/TextConversion.h"
 
-#include "meridane/gl/NxImage.h"
+#include <algorithm>
+#include <utility>
 
-#include <QDir>
-#include <QFileInfo>
-#include <QImage>
-#include <QImageReader>
-
-#include <cstddef>
-#include <cstring>
-
-namespace {
-
-/// With four bytes each as much memory as Qt itself gives an image.
-constexpr qint64 mostPixels = qint64{8192} * 8192;
-
-bool isTooLarge(const QSize& size)
+TextureFiles::TextureFiles(const HelperOptions& options)
+    : m_decoder(options)
 {
-    return size.width() > TextureFiles::largestSide || size.height() > TextureFiles::largestSide
-        || qint64{size.width()} * size.height() > mostPixels;
+    connect(&m_decoder, &PictureDecoder::decoded, this, &TextureFiles::takeImage);
+    connect(&m_decoder, &PictureDecoder::failed, this, [this](const QString& reason) {
+        finish({NxImageState::Failed, {}, reason.toStdString()});
+    });
 }
 
-NxImage toImage(const QImage& picture, QImage::Format format, int components)
+TextureFiles::~TextureFiles() = default;
+
+void TextureFiles::setFolder(const QString& folder)
 {
-    const QImage pixels = picture.convertToFormat(format);
-    NxImage image{pixels.width(), pixels.height(), components, {}};
-    const auto line = static_cast<std::size_t>(image.width) * static_cast<std::size_t>(components);
-    image.bytes.resize(line * static_cast<std::size_t>(image.height));
-    for (int row = 0; row < image.height; ++row)
-        std::memcpy(image.bytes.data() + static_cast<std::size_t>(row) * line,
-            pixels.constScanLine(image.height - 1 - row), line);
-    return image;
+    m_folders.setSceneFolder(folder);
+    m_results.clear();
+    askAgain();
 }
 
-} // namespace
-
-bool TextureFiles::read(const std::string& fileName, NxImage& image) const
+void TextureFiles::setAllowedFolders(const QStringList& folders)
 {
-    const QString name = orvane::toQString(fileName);
-    if (name.isEmpty() || (m_folder.isEmpty() && QDir::isRelativePath(name)))
-        return false;
-    const QString path = QDir(m_folder).filePath(name);
-    // A pipe or a device could be read without end.
-    if (!QFileInfo(path).isFile())
-        return false;
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    if (isTooLarge(reader.size()))
-        return false;
-    const QImage picture = reader.read();
-    if (picture.isNull() || isTooLarge(picture.size()))
-        return false;
-    const bool hasAlpha = picture.hasAlphaChannel();
-    image = toImage(picture, hasAlpha ? QImage::Format_RGBA8888 : QImage::Format_RGB888, hasAlpha ? 4 : 3);
-    return true;
+    m_folders.setAllowedFolders(folders);
+    askAgain();
+}
+
+void TextureFiles::clear()
+{
+    m_decoder.cancel();
+    m_decoder.rest();
+    m_isDecoding = false;
+    m_queue.clear();
+    m_results.clear();
+    m_missing.clear();
+    m_refused.clear();
+}
+
+NxImageState TextureFiles::load(const std::string& fileName, NxImage& image, std::string& reason)
+{
+    const auto result = m_results.find(fileName);
+    if (result != m_results.end()) {
+        image = result->second.image;
+        reason = result->second.reason;
+        return result->second.state;
+    }
+    if (std::find(m_queue.begin(), m_queue.end(), fileName) == m_queue.end()) {
+        m_queue.push_back(fileName);
+        goOnLater();
+    }
+    return NxImageState::Pending;
+}
+
+void TextureFiles::dropResults()
+{
+    m_results.clear();
+}
+
+void TextureFiles::askAgain()
+{
+    m_refused.clear();
+    const std::set<std::string> missing = std::exchange(m_missing, {});
+    for (const std::string& fileName : missing) {
+        m_results.erase(fileName);
+        Q_EMIT changed(fileName);
+    }
+}
+
+// One file each turn of the event loop, and none while a picture is drawn.
+void TextureFiles::goOnLater()
+{
+    if (!m_isDecoding && !std::exchange(m_isGoingOn, true))
+        QMetaObject::invokeMethod(this, &TextureFiles::goOn, Qt::QueuedConnection);
+}
+
+void TextureFiles::goOn()
+{
+    m_isGoingOn = false;
+    if (m_isDecoding)
+        return;
+    if (m_queue.empty()) {
+        m_decoder.rest();
+        return;
+    }
+    auto file = std::make_unique<ImageFile>(orvane::toQString(m_queue.front()), m_folders);
+    switch (file->state()) {
+    case ImageFile::State::Open:
+        m_isDecoding = true;
+        m_decoder.decode(std::move(file));
+        break;
+    case ImageFile::State::Failed:
+        finish({NxImageState::Failed, {}, file->problem().toStdString()});
+        break;
+    case ImageFile::State::Outside:
+        finish({NxImageState::Withheld, {}, {}});
+        if (!m_refused.contains(file->folder())) {
+            m_refused.append(file->folder());
+            Q_EMIT folderRefused(file->folder());
+        }
+        break;
+    }
+}
+
+void TextureFiles::takeImage()
+{
+    NxImage image = m_decoder.takeImage();
+    if (image.width > largestSide || image.height > largestSide)
+        finish({NxImageState::Failed, {}, "it is larger than " + std::to_string(largestSide) + " pixels a side"});
+    else
+        finish({NxImageState::Loaded, std::move(image), {}});
+}
+
+void TextureFiles::finish(Result result)
+{
+    m_isDecoding = false;
+    const std::string fileName = m_queue.front();
+    m_queue.pop_front();
+    if (result.state != NxImageState::Loaded)
+        m_missing.insert(fileName);
+    m_results.insert_or_assign(fileName, std::move(result));
+    goOnLater();
+    Q_EMIT changed(fileName);
 }

@@ -9,7 +9,13 @@
 
 #include <QCoreApplication>
 
-ViewDrawing::ViewDrawing() = default;
+ViewDrawing::ViewDrawing()
+{
+    QObject::connect(&m_textures, &TextureFiles::changed, &m_textures, [this](const std::string& fileName) {
+        if (m_drawing != nullptr)
+            m_drawing->reloadImage(fileName);
+    });
+}
 
 ViewDrawing::~ViewDrawing()
 {
@@ -32,8 +38,9 @@ bool ViewDrawing::start()
         return false;
     m_buffer = std::make_unique<PictureBuffer>(m_functions);
     m_drawing = std::make_unique<NxSceneDrawing>(m_functions);
-    m_drawing->setImageLoader(
-        [this](const std::string& fileName, NxImage& image) { return m_textures.read(fileName, image); });
+    m_drawing->setImageLoader([this](const std::string& fileName, NxImage& image, std::string& reason) {
+        return m_textures.load(fileName, image, reason);
+    });
     m_drawing->setStyle(m_style);
     m_drawing->setScene(m_scene.get());
     std::vector<NxNode*> selected;
@@ -86,6 +93,7 @@ void ViewDrawing::setScene(NxGroup* scene, const QString& folder)
 {
     m_scene = NxRef<NxGroup>(scene);
     m_selected.clear();
+    m_textures.clear();
     m_textures.setFolder(folder);
     if (m_drawing != nullptr)
         m_drawing->setScene(scene);
@@ -117,6 +125,7 @@ QImage ViewDrawing::draw(const NxViewpoint& viewpoint, QSize size, float scale)
     if (possible.isEmpty())
         return {};
     m_drawing->draw(viewpoint, possible.width(), possible.height(), scale);
+    m_textures.dropResults();
     ++m_pictures;
     return m_buffer->read();
 }

@@ -43,6 +43,8 @@ public:
     /// Draws that scene from now on; null for none. Names of texture files count from the folder.
     void setScene(NxGroup* scene, const QString& folder);
     void setFolder(const QString& folder) { m_textures.setFolder(folder); }
+    /// The images of the scene's textures, which come while the scene is shown.
+    [[nodiscard]] TextureFiles& textures() noexcept { return m_textures; }
     /// Outlines the last of these nodes, each a child of the one before; none for nothing.
     void setSelectedPath(const std::vector<NxNode*>& nodes);
     void setStyle(const NxDrawingStyle& style);

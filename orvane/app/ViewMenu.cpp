@@ -34,4 +34,6 @@ void ViewMenu::update()
     m_menu->addSeparator();
     for (QToolBar* toolBar : m_window->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
         m_menu->addAction(toolBar->toggleViewAction());
+    m_menu->addSeparator();
+    m_menu->addActions(m_appended);
 }

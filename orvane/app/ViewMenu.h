@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 
 class CameraMenu;
+class QAction;
 class QMainWindow;
 class QMenu;
 class ViewActions;
@@ -16,6 +18,8 @@ public:
     /// For a window without a view, actions and cameras are null.
     explicit ViewMenu(QMainWindow* window, ViewActions* actions = nullptr, CameraMenu* cameras = nullptr);
 
+    /// Lists this action at the end, from the next `update` on.
+    void append(QAction* action) { m_appended.append(action); }
     /// Lists what there is now.
     void update();
 
@@ -24,4 +28,5 @@ private:
     ViewActions* m_actions;
     CameraMenu* m_cameras;
     QMenu* m_menu;
+    QList<QAction*> m_appended;
 };

@@ -35,6 +35,13 @@ int WindowRun::run()
     prepare(session, window);
     if (m_commandLine.size.isValid())
         window.resize(m_commandLine.size);
+    if (takesPicture())
+        connect(&window, &MainWindow::imageFolderRefused, this, [](const QString& folder) {
+            orvane::printError(
+                tr("%1: The scene refers to images in this folder, outside its own. They aren't loaded; open the scene "
+                   "in a window to allow it.")
+                    .arg(folder));
+        });
     showSoon(window);
     QTimer::singleShot(0, &window, [this, &session, &window] { start(session, window); });
     const int status = QApplication::exec();
@@ -158,6 +165,9 @@ std::optional<QString> WindowRun::writeAll(Session& session, MainWindow& window)
     // Layouts settle, editors fill and the view tells what it can't draw from events and from the sensors' queue, and
     // either may cause the other.
     QEventLoop loop;
-    while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty()) { }
+    while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty() || window.isLoadingImages()) {
+        if (window.isLoadingImages())
+            loop.processEvents(QEventLoop::WaitForMoreEvents);
+    }
     return orvane::writePicture(window.grab(), m_commandLine.screenshotFile);
 }

@@ -1,7 +1,6 @@
 #include "orvane/import/PictureFrames.h"
 
 #include "orvane/import/Frames.h"
-#include "orvane/import/Picture.h"
 
 #include <algorithm>
 
@@ -17,22 +16,6 @@ bool takeSize(std::string_view& line, std::size_t most, std::size_t& number)
     const std::optional<std::size_t> taken = takeNumber(line);
     number = taken.value_or(0);
     return number >= 1 && number <= most;
-}
-
-bool takePicture(std::string_view line, PictureReply& reply)
-{
-    constexpr std::size_t mostComponents = 4;
-    std::size_t width = 0;
-    std::size_t height = 0;
-    std::size_t components = 0;
-    const bool whole = takeStart(line, pictureWord) && takeSize(line, maxPictureSide, width) && takeStart(line, " ")
-        && takeSize(line, maxPictureSide, height) && takeStart(line, " ") && takeSize(line, mostComponents, components)
-        && line.empty() && isUsablePictureSize(width, height);
-    reply.width = static_cast<int>(width);
-    reply.height = static_cast<int>(height);
-    reply.components = static_cast<int>(components);
-    reply.size = width * height * components;
-    return whole;
 }
 
 } // namespace
@@ -68,26 +51,50 @@ std::string pictureRefusal(std::string_view reason)
     return std::string(refusedWord).append(line).append("\n");
 }
 
-PictureReply parsePictureReply(std::string_view bytes)
+PictureReply::State PictureReply::take(std::string_view bytes)
 {
-    PictureReply reply;
-    std::string_view rest = bytes;
-    std::optional<std::string_view> line = takeLine(rest, longestLine);
-    if (!line) {
-        if (bytes.size() >= longestLine)
-            reply.state = PictureReply::State::Broken;
-        return reply;
+    if (m_state == State::Incomplete && m_size == 0)
+        m_state = takeHead(bytes);
+    if (bytes.empty())
+        return m_state;
+    if (m_state != State::Incomplete || bytes.size() > m_size - m_picture.bytes.size())
+        return m_state = State::Broken;
+    m_picture.bytes.insert(m_picture.bytes.end(), bytes.begin(), bytes.end());
+    if (m_picture.bytes.size() == m_size)
+        m_state = State::Complete;
+    return m_state;
+}
+
+PictureReply::State PictureReply::takeHead(std::string_view& bytes)
+{
+    const std::size_t end = bytes.find('\n');
+    const std::string_view part = bytes.substr(0, end);
+    bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
+    if (m_line.size() + part.size() > longestLine)
+        return State::Broken;
+    m_line += part;
+    return end == std::string_view::npos ? State::Incomplete : takeLine(m_line);
+}
+
+PictureReply::State PictureReply::takeLine(std::string_view line)
+{
+    constexpr std::size_t mostComponents = 4;
+    std::size_t width = 0;
+    std::size_t height = 0;
+    std::size_t components = 0;
+    if (takeStart(line, refusedWord)) {
+        m_reason = line;
+        return State::Refused;
     }
-    reply.start = bytes.size() - rest.size();
-    if (takeStart(*line, refusedWord)) {
-        reply.reason = *line;
-        reply.state = rest.empty() ? PictureReply::State::Refused : PictureReply::State::Broken;
-    } else if (!takePicture(*line, reply) || rest.size() > reply.size) {
-        reply.state = PictureReply::State::Broken;
-    } else if (rest.size() == reply.size) {
-        reply.state = PictureReply::State::Complete;
-    }
-    return reply;
+    const bool isPicture = takeStart(line, pictureWord) && takeSize(line, maxPictureSide, width) && takeStart(line, " ")
+        && takeSize(line, maxPictureSide, height) && takeStart(line, " ") && takeSize(line, mostComponents, components)
+        && line.empty() && isUsablePictureSize(width, height);
+    if (!isPicture)
+        return State::Broken;
+    m_size = width * height * components;
+    m_picture = {static_cast<int>(width), static_cast<int>(height), static_cast<int>(components), {}};
+    m_picture.bytes.reserve(m_size);
+    return State::Incomplete;
 }
 
 } // namespace orvane

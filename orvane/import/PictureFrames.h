@@ -1,8 +1,11 @@
 #pragma once
 
+#include "orvane/import/Picture.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// How image files travel to the import helper and come back as pictures, one after the other.
 ///
@@ -22,27 +25,34 @@ namespace orvane {
 /// The reply for a file that can't be decoded.
 [[nodiscard]] std::string pictureRefusal(std::string_view reason);
 
-/// What the bytes of a reply say.
-struct PictureReply {
+/// Puts a reply together from its bytes as they come. They aren't trusted: a picture beyond the limits of `Picture.h`
+/// and bytes after the end of the reply are no reply.
+class PictureReply {
+public:
     enum class State {
         Incomplete, ///< more bytes must follow
-        Complete, ///< the bytes of the picture begin at `start`
-        Refused, ///< there is no picture, for that `reason`
+        Complete, ///< there is a picture
+        Refused, ///< there is no picture, for a `reason`
         Broken, ///< this is no reply
     };
-    State state = State::Incomplete;
-    int width = 0;
-    int height = 0;
-    int components = 0;
-    /// Where the bytes of the picture begin; 0 while the first line isn't complete.
-    std::size_t start = 0;
-    /// The number of bytes of the picture.
-    std::size_t size = 0;
-    std::string reason;
-};
 
-/// Looks at the bytes that came so far. They aren't trusted: a picture beyond the limits of `Picture.h` and bytes after
-/// the end of the reply are no reply.
-[[nodiscard]] PictureReply parsePictureReply(std::string_view bytes);
+    /// Takes the next bytes. Throws `std::bad_alloc` when the picture doesn't fit in memory.
+    State take(std::string_view bytes);
+    [[nodiscard]] State state() const noexcept { return m_state; }
+    /// The picture of a reply that is complete.
+    [[nodiscard]] Picture takePicture() { return std::move(m_picture); }
+    /// Why the file can't be decoded.
+    [[nodiscard]] const std::string& reason() const noexcept { return m_reason; }
+
+private:
+    State takeHead(std::string_view& bytes);
+    State takeLine(std::string_view line);
+
+    State m_state = State::Incomplete;
+    std::string m_line; // the first one, while it isn't complete
+    std::string m_reason;
+    Picture m_picture;
+    std::size_t m_size = 0; // of the picture in bytes; 0 before its line is complete
+};
 
 } // namespace orvane

@@ -8,6 +8,7 @@
 #include "meridane/base/NxReadError.h"
 
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -49,6 +50,45 @@ private Q_SLOTS:
         QCOMPARE(bar.texts().join(u' '), QStringLiteral("other b"));
         bar.clearTopic(topic);
         QCOMPARE(bar.texts().join(u' '), QStringLiteral("other"));
+    }
+
+    void aQuestionIsAnsweredByItsButton()
+    {
+        MessageBar bar;
+        QSignalSpy closed(&bar, &MessageBar::closed);
+        int accepted = 0;
+        bar.showQuestion(
+            QStringLiteral("May I?"), QStringLiteral("consent"), QStringLiteral("Yes"), [&] { ++accepted; });
+        bar.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        auto* button = bar.findChild<QPushButton*>(QStringLiteral("acceptMessage"));
+        QCOMPARE(button->text(), QStringLiteral("Yes"));
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(accepted, 1);
+        QVERIFY(bar.texts().isEmpty());
+        QVERIFY(closed.isEmpty());
+    }
+
+    void aQuestionThatIsClosedIsReported()
+    {
+        MessageBar bar;
+        QSignalSpy closed(&bar, &MessageBar::closed);
+        bar.showQuestion(
+            QStringLiteral("May I?"), QStringLiteral("consent"), QStringLiteral("Yes"), [] { QFAIL("no"); });
+        bar.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        QTest::mouseClick(bar.findChild<QToolButton*>(QStringLiteral("closeMessage")), Qt::LeftButton);
+        QCOMPARE(closed.size(), 1);
+        QCOMPARE(closed.front().front().toString(), QStringLiteral("consent"));
+    }
+
+    void messagesDoNotDisplaceAQuestion()
+    {
+        MessageBar bar;
+        bar.showQuestion(QStringLiteral("May I?"), QStringLiteral("consent"), QStringLiteral("Yes"), [] {});
+        for (const char* text : {"a", "b", "c", "d", "e"})
+            bar.showMessage(Severity::Warning, QLatin1String(text));
+        QCOMPARE(bar.texts().join(u' '), QStringLiteral("May I? c d e"));
     }
 
     void closesAMessageByItsButton()

@@ -143,6 +143,51 @@ private Q_SLOTS:
         QVERIFY2(red > 2000 * scale * scale, qPrintable(QString::number(red)));
     }
 
+    void aPictureShowsTheImagesOfTextures_data()
+    {
+        QTest::addColumn<QString>("image");
+        QTest::addColumn<QByteArray>("error");
+        QTest::addColumn<bool>("isShown");
+        QTest::newRow("beside the scene") << QStringLiteral("images/green.png") << QByteArray() << true;
+        QTest::newRow("outside its folder")
+            << QStringLiteral("../green.png")
+            << QByteArray("orvane: %1: The scene refers to images in this folder, outside its own. They aren't loaded; "
+                          "open the scene in a window to allow it.\n")
+            << false;
+        QTest::newRow("a drawing that reads a device") << QStringLiteral("vector.png") << QByteArray() << false;
+    }
+    void aPictureShowsTheImagesOfTextures()
+    {
+        QFETCH(const QString, image);
+        QFETCH(const QByteArray, error);
+        QFETCH(const bool, isShown);
+        QVERIFY(QDir(folder()).mkpath(QStringLiteral("scene/images")));
+        QImage green(2, 2, QImage::Format_RGB32);
+        green.fill(Qt::green);
+        QVERIFY(green.save(path(QStringLiteral("scene/images/green.png"))));
+        QVERIFY(green.save(path(QStringLiteral("green.png"))));
+        write(QStringLiteral("scene/vector.png"),
+            "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"9\" "
+            "height=\"9\"><image width=\"9\" height=\"9\" xlink:href=\"/dev/zero\"/></svg>");
+        write(QStringLiteral("scene/green.mrd"),
+            "#mrd 1.0\nMaterial { ambientColor = 0 0 0; diffuseColor = 0 0 0; emissiveColor = 1 1 1 }\n"
+            "Texture { filePath = \""
+                + image.toUtf8()
+                + "\" }\nMesh { positions = [0 0 0, 1 0 0, 0 1 0]\n"
+                  "textureCoordinates = [0 0, 1 0, 0 1] }\n");
+        const Outcome outcome = run({QStringLiteral("--screenshot"), path(QStringLiteral("green-view.png")),
+            QStringLiteral("--size"), QStringLiteral("900x600"), path(QStringLiteral("scene/green.mrd"))});
+        QCOMPARE(outcome.errors, QByteArray(error).replace("%1", folder().toLocal8Bit()));
+        QCOMPARE(outcome.status, 0);
+        const QImage picture(path(QStringLiteral("green-view.png")));
+        int shown = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x)
+                shown += picture.pixelColor(x, y) == QColor(Qt::green) ? 1 : 0;
+        }
+        QVERIFY2((shown > 2000) == isShown, qPrintable(QString::number(shown)));
+    }
+
     void badInputIsOneLineAndStatusOne_data()
     {
         QTest::addColumn<QByteArray>("content");

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void aTextureLiesOnTheSurface_data();
     void aTextureLiesOnTheSurface();
     void aTextureComesFromItsFile();
+    void aTextureIsPlainUntilItsFileIsLoaded();
     void theOpacityOfATextureCounts();
     void perspectiveMakesDistantThingsSmall();
     void transformsAddUp();
@@ -231,16 +232,53 @@ void TestScenePicture::aTextureLiesOnTheSurface()
 void TestScenePicture::aTextureComesFromItsFile()
 {
     QStringList paths;
-    m_bench.drawing().setImageLoader([&paths](const std::string& path, NxImage& image) {
+    m_bench.drawing().setImageLoader([&paths](const std::string& path, NxImage& image, std::string&) {
         paths.append(QString::fromStdString(path));
         image = {1, 1, 2, {128, 255}}; // grey and opaque
-        return true;
+        return NxImageState::Loaded;
     });
     const auto texture = make<NxTexture>();
     texture->filePath.setValue(VbString("wood.png"));
     const QImage picture = pictureOf({texture.get(), plain(1, 1, 1).get(), rectangle(-1, -1, 1, 1).get()});
     COMPARE_PIXEL(picture, 0, 0, QColor(128, 128, 128));
     QCOMPARE(paths, QStringList{QStringLiteral("wood.png")});
+    m_bench.drawing().setImageLoader({});
+}
+
+void TestScenePicture::aTextureIsPlainUntilItsFileIsLoaded()
+{
+    NxImageState state = NxImageState::Pending;
+    int asked = 0;
+    m_bench.drawing().setImageLoader([&](const std::string&, NxImage& image, std::string&) {
+        ++asked;
+        image = {1, 1, 3, {0, 255, 0}};
+        return state;
+    });
+    bool isChanged = false;
+    const auto texture = make<NxTexture>();
+    texture->filePath.setValue(VbString("wood.png"));
+    const auto scene = groupOf({texture.get(), plain(1, 1, 1).get(), rectangle(-1, -1, 1, 1).get()});
+    m_bench.drawing().setScene(scene.get());
+    COMPARE_PIXEL(m_bench.draw(), 0, 0, white);
+    COMPARE_PIXEL(m_bench.draw(), 0, 0, white);
+    QCOMPARE(asked, 1);
+    m_bench.drawing().setChangeHook([&] { isChanged = true; });
+    m_bench.drawing().reloadImage("stone.png");
+    QVERIFY(!isChanged);
+    state = NxImageState::Loaded;
+    m_bench.drawing().reloadImage("wood.png");
+    QVERIFY(isChanged);
+    COMPARE_PIXEL(m_bench.draw(), 0, 0, QColor(0, 255, 0));
+    // What is being loaded once more stays as it is.
+    state = NxImageState::Pending;
+    m_bench.drawing().reloadImage("wood.png");
+    COMPARE_PIXEL(m_bench.draw(), 0, 0, QColor(0, 255, 0));
+    state = NxImageState::Withheld;
+    m_bench.drawing().reloadImage("wood.png");
+    COMPARE_PIXEL(m_bench.draw(), 0, 0, white);
+    QCOMPARE(asked, 4);
+    m_bench.drawing().setChangeHook({});
+    m_bench.drawing().setScene(nullptr);
     m_bench.drawing().setImageLoader({});
 }
 

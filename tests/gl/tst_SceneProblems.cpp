@@ -236,9 +236,9 @@ void TestSceneProblems::aTextureWithoutAnImageIsReportedOnce()
     QFETCH(bool, isLoaded);
     QFETCH(QList<int>, image);
     QFETCH(QString, message);
-    m_bench.drawing().setImageLoader([&](const std::string&, NxImage& loaded) {
+    m_bench.drawing().setImageLoader([&](const std::string&, NxImage& loaded, std::string&) {
         loaded = {image[0], image[1], image[2], std::vector<unsigned char>(static_cast<std::size_t>(image[3]))};
-        return isLoaded;
+        return isLoaded ? NxImageState::Loaded : NxImageState::Failed;
     });
     const auto texture = make<NxTexture>();
     texture->filePath.setValue(VbString(path.toStdString()));
@@ -252,10 +252,10 @@ void TestSceneProblems::aTextureWithoutAnImageIsReportedOnce()
 void TestSceneProblems::anImageThatIsTooLargeIsMadeSmaller()
 {
     constexpr int width = 32768;
-    m_bench.drawing().setImageLoader([](const std::string&, NxImage& image) {
+    m_bench.drawing().setImageLoader([](const std::string&, NxImage& image, std::string&) {
         image = {width, 2, 1, std::vector<unsigned char>(std::size_t{width} * 2, 255)};
         std::fill_n(image.bytes.begin(), width / 2, 0); // black at the lower left
-        return true;
+        return NxImageState::Loaded;
     });
     int most = 0;
     m_bench.gl().GetIntegerv(GL_MAX_TEXTURE_SIZE, &most);

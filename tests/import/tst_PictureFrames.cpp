@@ -3,7 +3,6 @@
 
 #include <QTest>
 
-using orvane::parsePictureReply;
 using orvane::PictureReply;
 using State = PictureReply::State;
 
@@ -28,23 +27,25 @@ private Q_SLOTS:
 
     void aPictureIsCompleteWithItsLastByte()
     {
-        const std::string reply = orvane::pictureReply(2, 1, 3) + "123456";
-        for (std::size_t count = 0; count < reply.size(); ++count)
-            QVERIFY(parsePictureReply(reply.substr(0, count)).state == State::Incomplete);
-        const PictureReply result = parsePictureReply(reply);
-        QVERIFY(result.state == State::Complete);
-        QCOMPARE(result.width, 2);
-        QCOMPARE(result.height, 1);
-        QCOMPARE(result.components, 3);
-        QCOMPARE(reply.substr(result.start, result.size), std::string("123456"));
+        const std::string bytes = orvane::pictureReply(2, 1, 3) + "123456";
+        for (std::size_t count = 1; count < bytes.size(); ++count) {
+            PictureReply reply;
+            QVERIFY(reply.take(std::string_view(bytes).substr(0, count)) == State::Incomplete);
+            QVERIFY(reply.take(std::string_view(bytes).substr(count)) == State::Complete);
+            const orvane::Picture picture = reply.takePicture();
+            QCOMPARE(picture.width, 2);
+            QCOMPARE(picture.height, 1);
+            QCOMPARE(picture.components, 3);
+            QCOMPARE(picture.bytes, (std::vector<unsigned char>{'1', '2', '3', '4', '5', '6'}));
+        }
     }
 
     void aRefusalHasItsReason()
     {
-        const PictureReply result = parsePictureReply(orvane::pictureRefusal("it is\nno picture"));
-        QVERIFY(result.state == State::Refused);
-        QCOMPARE(result.reason, std::string("it is no picture"));
-        QVERIFY(parsePictureReply(orvane::pictureRefusal(std::string(5000, 'x'))).state == State::Refused);
+        PictureReply reply;
+        QVERIFY(reply.take(orvane::pictureRefusal("it is\nno picture")) == State::Refused);
+        QCOMPARE(reply.reason(), std::string("it is no picture"));
+        QVERIFY(PictureReply().take(orvane::pictureRefusal(std::string(5000, 'x'))) == State::Refused);
     }
 
     void whatIsNoReplyIsBroken_data()
@@ -69,7 +70,11 @@ private Q_SLOTS:
     void whatIsNoReplyIsBroken()
     {
         QFETCH(QByteArray, bytes);
-        QVERIFY(parsePictureReply(bytes.toStdString()).state == State::Broken);
+        QVERIFY(PictureReply().take(bytes.toStdString()) == State::Broken);
+        PictureReply slowly;
+        for (const char byte : bytes)
+            slowly.take({&byte, 1});
+        QVERIFY(slowly.state() == State::Broken);
     }
 };
 

@@ -76,10 +76,12 @@ private Q_SLOTS:
         image.fill(7);
         const HelperRun run = runHelper({QStringLiteral("--pictures")}, request(png(image)));
         QCOMPARE(run.status, 0);
-        const orvane::PictureReply reply = orvane::parsePictureReply(run.output);
-        QVERIFY(reply.state == orvane::PictureReply::State::Complete);
-        QCOMPARE(reply.width, 8192);
-        QCOMPARE(reply.size, std::size_t{8192} * 8192);
+        orvane::PictureReply reply;
+        QVERIFY(reply.take(run.output) == orvane::PictureReply::State::Complete);
+        const orvane::Picture picture = reply.takePicture();
+        QCOMPARE(picture.width, 8192);
+        QCOMPARE(picture.bytes.size(), std::size_t{8192} * 8192);
+        QCOMPARE(int{picture.bytes.back()}, 7);
     }
 };
 
