@@ -1,5 +1,6 @@
 #include "orvane/app/CameraMenu.h"
 
+#include "orvane/app/PlainText.h"
 #include "orvane/app/SceneDocument.h"
 #include "orvane/app/SceneView.h"
 #include "orvane/app/TextConversion.h"
@@ -38,7 +39,8 @@ QMenu* CameraMenu::update()
     m_menu->clear();
     auto* group = new QActionGroup(m_menu);
     const auto add = [&](const QString& text, const NxNode* camera, int index) {
-        auto* action = new QAction(text, m_menu);
+        auto* action = new QAction(orvane::menuText(text), m_menu);
+        action->setToolTip(orvane::plainToolTip(orvane::shortLine(text)));
         action->setCheckable(true);
         action->setChecked(camera == m_follower.camera());
         connect(action, &QAction::triggered, this, [this, index] { choose(index); });
@@ -50,10 +52,7 @@ QMenu* CameraMenu::update()
     for (std::size_t i = 0; i < all.size(); ++i) {
         const NxNode* camera = all[i].back();
         const QString name = orvane::toQString(camera->getName());
-        // Otherwise the menu would take it for the mark of a key.
-        add(name.isEmpty() ? QString::fromUtf8(camera->getClassName())
-                           : QString(name).replace(u'&', QStringLiteral("&&")),
-            camera, static_cast<int>(i));
+        add(name.isEmpty() ? QString::fromUtf8(camera->getClassName()) : name, camera, static_cast<int>(i));
     }
     m_menu->setEnabled(!all.empty());
     return m_menu;

@@ -3,6 +3,7 @@
 #include "orvane/app/FieldTableModel.h"
 #include "orvane/app/FieldTableView.h"
 #include "orvane/app/NodeIcons.h"
+#include "orvane/app/PlainText.h"
 #include "orvane/app/TextConversion.h"
 
 #include "meridane/scene/NxNode.h"
@@ -76,8 +77,8 @@ void FieldPanel::updateHeading()
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     m_icon->setPixmap(orvane::nodeIcon(node->getTypeId()).pixmap(size));
     const QString className = QString::fromUtf8(node->getClassName());
-    m_heading->setText(
-        node->getName().isEmpty() ? className : tr("%1 — %2").arg(orvane::toQString(node->getName()), className));
+    const QString name = orvane::shortLine(orvane::toQString(node->getName()));
+    m_heading->setText(name.isEmpty() ? className : tr("%1 — %2").arg(name, className));
 }
 
 void FieldPanel::setCurrentField(const NxField* field)

@@ -1,6 +1,7 @@
 #include "orvane/app/FieldTableModel.h"
 
 #include "orvane/app/FieldText.h"
+#include "orvane/app/PlainText.h"
 #include "orvane/app/TextConversion.h"
 
 #include "meridane/base/VbName.h"
@@ -28,7 +29,7 @@ QString fieldToolTip(const NxField& field)
         text += u'\n' + FieldTableModel::tr("This is the default.");
     if (field.isIgnored())
         text += u'\n' + FieldTableModel::tr("Ignored: the scene takes no notice of this value.");
-    return text;
+    return orvane::plainToolTip(text);
 }
 
 /// Ignored rows step back and are struck out; values that aren't the default stand out.
@@ -144,7 +145,7 @@ QVariant FieldTableModel::fieldData(Row& row, int column, int role) const
         if (column == TypeColumn)
             return orvane::typeName(field);
         if (row.text.isNull())
-            row.text = orvane::beginningOf(field, shownCharacters);
+            row.text = orvane::oneLine(orvane::beginningOf(field, shownCharacters));
         return row.text;
     case Qt::FontRole:
         return rowFont(field.isIgnored(), !field.isDefault(), column);
@@ -162,8 +163,8 @@ QVariant FieldTableModel::unknownData(const NxFieldContainer::UnknownField& fiel
     switch (role) {
     case Qt::DisplayRole:
         if (column == NameColumn)
-            return orvane::toQString(field.name);
-        return column == TypeColumn ? tr("unknown") : cut(field.text, shownCharacters);
+            return orvane::shortLine(orvane::toQString(field.name));
+        return column == TypeColumn ? tr("unknown") : orvane::oneLine(cut(field.text, shownCharacters));
     case Qt::FontRole:
         return rowFont(field.ignored, true, column);
     case Qt::ForegroundRole:

@@ -1,6 +1,7 @@
 #include "orvane/app/FileMenu.h"
 
 #include "orvane/app/FileFlow.h"
+#include "orvane/app/PlainText.h"
 #include "orvane/app/RecentFiles.h"
 #include "orvane/app/SceneDocument.h"
 
@@ -77,10 +78,10 @@ void FileMenu::fillRecentMenu()
     m_recentMenu->clear();
     int number = 0;
     for (const QString& fileName : m_recent.fileNames()) {
-        QString shown = QDir::toNativeSeparators(fileName);
-        shown.replace(u'&', QStringLiteral("&&"));
+        const QString shown = orvane::menuText(QDir::toNativeSeparators(fileName));
         QAction* action = m_recentMenu->addAction(
             ++number < 10 ? QStringLiteral("&%1  %2").arg(number).arg(shown) : QStringLiteral("    %1").arg(shown));
+        action->setToolTip(orvane::plainToolTip(orvane::oneLine(fileName)));
         action->setData(fileName);
         connect(action, &QAction::triggered, &m_flow, [this, fileName] { m_flow.open(fileName); });
     }

@@ -1,6 +1,7 @@
 #include "orvane/app/JobBar.h"
 
 #include "orvane/app/FileJob.h"
+#include "orvane/app/PlainText.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -22,6 +23,7 @@ JobBar::JobBar(QWidget* parent)
     setObjectName(QStringLiteral("jobBar"));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    m_label->setTextFormat(Qt::PlainText);
     layout->addWidget(m_label);
     m_progress->setFixedWidth(160);
     m_progress->setMaximumHeight(fontMetrics().height() + 4);
@@ -84,7 +86,9 @@ void JobBar::showLast()
     if (isHidden() || m_jobs.empty())
         return;
     const Watched& shown = m_jobs.back();
-    m_label->setText(shown.text);
+    // It has its place in the status bar, which must not widen the window.
+    constexpr qsizetype mostCharacters = 40;
+    m_label->setText(orvane::shortLine(shown.text, mostCharacters));
     m_progress->setRange(0, shown.share < 0 ? 0 : progressSteps);
     m_progress->setValue(static_cast<int>(shown.share * progressSteps));
 }

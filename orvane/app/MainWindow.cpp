@@ -10,6 +10,7 @@
 #include "orvane/app/ImageFolderQuestion.h"
 #include "orvane/app/JobBar.h"
 #include "orvane/app/MessageBar.h"
+#include "orvane/app/PlainText.h"
 #include "orvane/app/RecentFiles.h"
 #include "orvane/app/SceneTreeModel.h"
 #include "orvane/app/SceneTreePanel.h"
@@ -19,6 +20,7 @@
 #include "orvane/app/Session.h"
 #include "orvane/app/StartPage.h"
 #include "orvane/app/TextConversion.h"
+#include "orvane/app/TextGuard.h"
 #include "orvane/app/ViewActions.h"
 #include "orvane/app/ViewLink.h"
 #include "orvane/app/ViewMenu.h"
@@ -66,6 +68,7 @@ MainWindow::MainWindow(Session& session)
     , m_tree(new SceneTreePanel(this))
     , m_jobBar(new JobBar(this))
 {
+    new TextGuard(this);
     setObjectName(QStringLiteral("mainWindow"));
     setAcceptDrops(true);
     setDockOptions(AllowNestedDocks | AllowTabbedDocks);
@@ -234,7 +237,8 @@ void MainWindow::connectDocument()
 
 void MainWindow::updateTitle()
 {
-    setWindowTitle(document().isOpen() ? tr("%1[*] — Orvane").arg(document().displayName()) : tr("Orvane"));
+    setWindowTitle(
+        document().isOpen() ? tr("%1[*] — Orvane").arg(orvane::titleText(document().displayName())) : tr("Orvane"));
     setWindowModified(document().isModified());
 }
 

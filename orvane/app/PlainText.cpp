@@ -1,16 +1,16 @@
 #include "orvane/app/PlainText.h"
 
-#include <QImage>
+#include <QStringList>
 #include <QTextDocument>
-#include <QUrl>
-
-#include <algorithm>
 
 namespace orvane {
 
 namespace {
 
 constexpr char16_t replacement = 0xFFFD;
+// Of a tool tip.
+constexpr qsizetype mostInALine = 100;
+constexpr qsizetype mostLines = 20;
 
 // Marks that turn the direction of writing: with them a name could rearrange the text around it.
 bool turnsDirection(char16_t unit)
@@ -70,7 +70,20 @@ QString shortLine(const QString& text, qsizetype length)
 
 QString plainToolTip(const QString& text)
 {
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpacePre) : text;
+    QStringList lines;
+    for (QString rest : text.split(u'\n')) {
+        while (rest.size() > mostInALine) {
+            const qsizetype blank = rest.lastIndexOf(u' ', mostInALine - 1);
+            const qsizetype length = blank > mostInALine / 2 ? blank + 1 : mostInALine;
+            lines.append(oneLine(rest.left(length)));
+            rest = rest.mid(length);
+        }
+        lines.append(oneLine(rest));
+    }
+    if (lines.size() > mostLines)
+        lines = lines.mid(0, mostLines - 1) + QStringList(QChar(0x2026));
+    const QString plain = lines.join(u'\n');
+    return Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain, Qt::WhiteSpacePre) : plain;
 }
 
 QString menuText(const QString& text)
@@ -82,18 +95,6 @@ QString titleText(const QString& text)
 {
     // The mark for a changed document, which counts as text when it is doubled.
     return shortLine(text).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
-}
-
-void lockTextDocuments()
-{
-    QTextDocument::setDefaultResourceProvider([](const QUrl& url) {
-        if (url.scheme() == QStringLiteral("qrc"))
-            return QVariant(); // the document loads it
-        // One that is there: for one that isn't, Qt reads the file in another place.
-        QImage nothing(1, 1, QImage::Format_ARGB32);
-        nothing.fill(Qt::transparent);
-        return QVariant::fromValue(nothing);
-    });
 }
 
 } // namespace orvane

@@ -13,15 +13,11 @@ namespace orvane {
 /// One line of at most `length` characters; what is cut out of the middle leaves an ellipsis. For places that grow with
 /// their text or would take long to lay it out.
 [[nodiscard]] QString shortLine(const QString& text, qsizetype length = 80);
-/// A tool tip that shows the text as it is, in its lines.
+/// A tool tip that shows the text as it is, in its lines; these are broken at 100 characters and end after 20.
 [[nodiscard]] QString plainToolTip(const QString& text);
 /// The text of a menu entry or a button, at most 80 characters, without marks for keys.
 [[nodiscard]] QString menuText(const QString& text);
 /// The text as a part of a window's title, at most 80 characters.
 [[nodiscard]] QString titleText(const QString& text);
-
-/// Keeps HTML from reading files, in all of the process: pictures and style sheets that aren't resources of the program
-/// or of a plug-in are empty. What the tool itself shows is plain text; this is for widgets of plug-ins and of Qt.
-void lockTextDocuments();
 
 } // namespace orvane

@@ -1,5 +1,7 @@
 #include "orvane/app/SaveQuestion.h"
 
+#include "orvane/app/PlainText.h"
+
 SaveQuestion::SaveQuestion(const QString& sceneName, QWidget* parent)
     : QMessageBox(parent)
 {
@@ -7,7 +9,8 @@ SaveQuestion::SaveQuestion(const QString& sceneName, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setIcon(Warning);
     setWindowTitle(tr("Unsaved Changes"));
-    setText(tr("Save the changes to \"%1\"?").arg(sceneName));
+    setTextFormat(Qt::PlainText);
+    setText(tr("Save the changes to \"%1\"?").arg(orvane::shortLine(sceneName)));
     setInformativeText(tr("They are lost if you don't save them."));
     setStandardButtons(Save | Discard | Cancel);
     setDefaultButton(Save);

@@ -2,6 +2,7 @@
 
 #include "orvane/app/NodeIcons.h"
 #include "orvane/app/NodeSearch.h"
+#include "orvane/app/PlainText.h"
 #include "orvane/app/SceneBranch.h"
 #include "orvane/app/ShownNodes.h"
 #include "orvane/app/TextConversion.h"
@@ -9,6 +10,15 @@
 #include <QFont>
 
 #include <algorithm>
+
+namespace {
+
+/// Of a name; the time to lay a row out grows with it.
+constexpr qsizetype mostCharacters = 200;
+/// What the line of an editor takes, by its default: the rest of a longer name is cut off in it.
+constexpr qsizetype mostInALine = 32767;
+
+} // namespace
 
 SceneTreeModel::SceneTreeModel(QObject* parent)
     : QAbstractItemModel(parent)
@@ -127,7 +137,7 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         if (index.column() == NameColumn && !unnamed)
-            return orvane::toQString(shown->getName());
+            return orvane::shortLine(orvane::toQString(shown->getName()), mostCharacters);
         return QString::fromUtf8(shown->getClassName());
     case Qt::EditRole:
         return index.column() == NameColumn ? orvane::toQString(shown->getName())
@@ -150,7 +160,7 @@ bool SceneTreeModel::setData(const QModelIndex& index, const QVariant& value, in
 {
     if (!index.isValid() || index.column() != NameColumn || role != Qt::EditRole)
         return false;
-    if (value.toString() != orvane::toQString(node(index)->getName()))
+    if (value.toString() != orvane::toQString(node(index)->getName()).left(mostInALine))
         Q_EMIT renameRequested(node(index), value.toString());
     return true;
 }
@@ -270,8 +280,8 @@ QString SceneTreeModel::toolTip(const QModelIndex& index) const
     const NxNode* shown = node(index);
     QString text = QString::fromUtf8(shown->getClassName());
     if (!shown->getName().isEmpty())
-        text += QStringLiteral(" \"%1\"").arg(orvane::toQString(shown->getName()));
+        text += QStringLiteral(" \"%1\"").arg(orvane::shortLine(orvane::toQString(shown->getName()), mostCharacters));
     if (const std::size_t count = shown->getChildren().size(); count > 0)
         text += count == 1 ? tr(", 1 child node") : tr(", %1 child nodes").arg(count);
-    return text;
+    return orvane::plainToolTip(text);
 }

@@ -77,6 +77,7 @@ void SceneView::showProblem()
     if (m_message != nullptr)
         return;
     m_message = new QLabel(m_drawing.problem(), this);
+    m_message->setTextFormat(Qt::PlainText);
     m_message->setObjectName(QStringLiteral("viewMessage"));
     m_message->setWordWrap(true);
     m_message->setAlignment(Qt::AlignCenter);

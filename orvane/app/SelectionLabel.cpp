@@ -1,5 +1,7 @@
 #include "orvane/app/SelectionLabel.h"
 
+#include "orvane/app/PlainText.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -13,9 +15,10 @@ SelectionLabel::SelectionLabel(QWidget* parent)
 
 void SelectionLabel::setPath(const QString& path)
 {
-    m_path = path;
-    setToolTip(path);
-    setAccessibleName(path);
+    constexpr qsizetype mostCharacters = 2000;
+    m_path = orvane::shortLine(path, mostCharacters);
+    setToolTip(orvane::plainToolTip(m_path));
+    setAccessibleName(m_path);
     update();
 }
 

@@ -1,5 +1,7 @@
 #include "orvane/app/StartPage.h"
 
+#include "orvane/app/PlainText.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -11,6 +13,8 @@
 namespace {
 
 constexpr int shownFiles = 5;
+/// Of a file's name, so that it fits in a narrow window.
+constexpr qsizetype mostCharacters = 60;
 
 /// The scenes that come with the tool: beside an installed program, or in the source tree that it was built in.
 QStringList exampleFiles()
@@ -36,7 +40,7 @@ QString linksTo(const QString& title, const QStringList& fileNames)
         const QFileInfo file(fileName);
         text += QStringLiteral("<p><a href=\"%1\">%2</a></p>")
                     .arg(QString::fromLatin1(QUrl::fromLocalFile(fileName).toEncoded()),
-                        file.fileName().toHtmlEscaped());
+                        orvane::shortLine(file.fileName(), mostCharacters).toHtmlEscaped());
     }
     return text;
 }

@@ -1,5 +1,7 @@
 #include "orvane/app/WindowShell.h"
 
+#include "orvane/app/TextGuard.h"
+
 #include <QDockWidget>
 #include <QEvent>
 #include <QMainWindow>
@@ -37,6 +39,7 @@ void WindowShell::addDockWidget(QDockWidget* dock, int area)
 {
     if (dock == nullptr || m_docks.contains(dock))
         return;
+    TextGuard::guard(dock);
     giveName(dock, dock->windowTitle());
     const bool hidden = isHiddenOnPurpose(dock);
     m_docks.append(dock);
