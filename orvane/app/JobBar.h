@@ -23,6 +23,7 @@ public:
 
     /// Watches a job that is about to start, until it ends or dies.
     void watch(FileJob* job, const QString& text);
+    [[nodiscard]] bool isIdle() const noexcept { return m_jobs.empty(); }
     /// Cancels the job that is shown, if there is one.
     void cancel();
 
