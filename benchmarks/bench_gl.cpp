@@ -7,6 +7,7 @@
 #include "meridane/base/NxDelayQueue.h"
 #include "meridane/gl/Lights.h"
 #include "meridane/gl/LookRecords.h"
+#include "meridane/gl/MatrixMath.h"
 #include "meridane/gl/NxGLFunctions.h"
 #include "meridane/gl/NxOffscreenContext.h"
 #include "meridane/gl/NxSceneDrawing.h"
@@ -134,7 +135,8 @@ public:
     void draw() const
     {
         constexpr std::array<float, 9> turn{1, 0, 0, 0, 1, 0, 0, 0, 1};
-        const VbMatrix placement;
+        const VbMatrix placement
+            = meridane::narrowed(meridane::translationMatrix(meridane::scaled(m_frame.position, -1)));
         m_gl.Viewport(0, 0, width, height);
         m_gl.ClearColor(0, 0, 0, 1);
         m_gl.Clear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
@@ -143,7 +145,7 @@ public:
         m_gl.BindBufferBase(GL_UNIFORM_BUFFER, meridane::lightsBinding, m_buffers[3]);
         m_program.program.use();
         m_gl.UniformMatrix4fv(m_program.placement, 1, GL_FALSE, placement[0].data());
-        m_gl.UniformMatrix4fv(m_program.sceneToClip, 1, GL_FALSE, m_frame.sceneToClip[0].data());
+        m_gl.UniformMatrix4fv(m_program.eyeToClip, 1, GL_FALSE, m_frame.eyeToClip[0].data());
         m_gl.UniformMatrix3fv(m_program.normalMatrix, 1, GL_FALSE, turn.data());
         m_gl.Uniform4fv(m_program.eye, 1, m_frame.eye.data());
         m_gl.Uniform4fv(m_program.material, 4, meridane::materialValues(nullptr).data());

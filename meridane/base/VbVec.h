@@ -96,6 +96,20 @@ public:
     }
 };
 
+/// Three doubles: a point however far from the origin.
+class VbVec3d : public meridane::VecBase<VbVec3d, double, 3> {
+public:
+    constexpr VbVec3d() noexcept = default;
+    constexpr VbVec3d(double x, double y, double z) noexcept
+        : VecBase(x, y, z)
+    {
+    }
+    constexpr VbVec3d(const VbVec3f& vector) noexcept // NOLINT(google-explicit-constructor): nothing is lost
+        : VecBase(static_cast<double>(vector[0]), static_cast<double>(vector[1]), static_cast<double>(vector[2]))
+    {
+    }
+};
+
 /// Three 16-bit integers.
 class VbVec3s : public meridane::VecBase<VbVec3s, short, 3> {
 public:

@@ -20,8 +20,7 @@ float pixelsOf(const NxBounds& bounds, const PictureFrame& frame)
     const float longest = std::max({size[0], size[1], size[2]});
     if (!(frame.eye[3] > 0)) // the same size at any distance
         return longest * frame.pixelsPerUnit;
-    const VbVec3f eye(frame.eye[0], frame.eye[1], frame.eye[2]);
-    const auto distance = static_cast<float>(length(subtract(bounds.getCenter(), eye))) - longest;
+    const auto distance = static_cast<float>(length(bounds.getCenter())) - longest;
     return distance > 0 ? longest * frame.pixelsPerUnit / distance : static_cast<float>(mostCells);
 }
 

@@ -1,16 +1,20 @@
 #include "meridane/gl/Frustum.h"
 
+#include <cmath>
+
 namespace meridane {
 
-Frustum::Frustum(const VbMatrix& sceneToClip) noexcept
+Frustum::Frustum(const VbMatrix& eyeToClip, const VbVec3d& eye) noexcept
     : m_planes()
 {
     for (std::size_t side = 0; side < 6; ++side) {
         const double sign = side % 2 == 0 ? 1 : -1;
         for (std::size_t row = 0; row < 4; ++row) {
             m_planes[side][row]
-                = static_cast<double>(sceneToClip[row][3]) + sign * static_cast<double>(sceneToClip[row][side / 2]);
+                = static_cast<double>(eyeToClip[row][3]) + sign * static_cast<double>(eyeToClip[row][side / 2]);
         }
+        for (std::size_t axis = 0; axis < 3; ++axis)
+            m_planes[side][3] -= m_planes[side][axis] * eye[axis];
     }
 }
 
@@ -23,8 +27,9 @@ Frustum::Overlap Frustum::overlap(const NxBounds& box) const noexcept
         for (std::size_t axis = 0; axis < 3; ++axis) {
             const double a = plane[axis] * static_cast<double>(box.min[axis]);
             const double b = plane[axis] * static_cast<double>(box.max[axis]);
-            least += a < b ? a : b;
-            greatest += a < b ? b : a;
+            const double rounding = NxBounds::rounding * (std::abs(a) + std::abs(b));
+            least += (a < b ? a : b) - rounding;
+            greatest += (a < b ? b : a) + rounding;
         }
         if (greatest < 0)
             return Overlap::None;

@@ -12,10 +12,10 @@ class Frustum {
 public:
     enum class Overlap { None, Some, All };
 
-    /// `sceneToClip` takes the scene to the cube that OpenGL clips at.
-    explicit Frustum(const VbMatrix& sceneToClip) noexcept;
+    /// `eyeToClip` takes points relative to the eye to the cube that OpenGL clips at.
+    explicit Frustum(const VbMatrix& eyeToClip, const VbVec3d& eye = VbVec3d()) noexcept;
 
-    /// Where a box lies; `Some` also for some boxes just outside.
+    /// Where a box lies; `Some` also for some boxes just outside, as far as floats may have rounded them.
     [[nodiscard]] Overlap overlap(const NxBounds& box) const noexcept;
 
 private:

@@ -15,17 +15,22 @@ class Ground {
 public:
     Ground(const NxViewpoint& viewpoint, const NxDrawingStyle& style);
 
-    /// Where there are lines; empty when the style has none.
+    /// Where there are lines, as far as they aren't much farther from the focal point than the grid reaches; empty when
+    /// the style has none.
     [[nodiscard]] NxBounds bounds() const;
+    /// Adds the lines, relative to the eye.
     void addLines(LinePainter& lines) const;
 
 private:
+    [[nodiscard]] NxBounds partNearFocus(NxBounds box) const;
     void addGrid(LinePainter& lines) const;
     void addAxes(LinePainter& lines) const;
 
     const NxDrawingStyle& m_style;
     float m_cell;
-    VbVec3f m_center;
+    VbVec3d m_eye;
+    VbVec3d m_focus;
+    VbVec3d m_center; // of the grid
 };
 
 } // namespace meridane

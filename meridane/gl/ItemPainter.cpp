@@ -9,13 +9,20 @@
 namespace meridane {
 namespace {
 
-/// The matrix that normals are turned by: their direction is right for any scale, and finite for matrices without an
-/// inverse.
-std::array<float, 9> normalMatrixOf(const VbMatrix& m) noexcept
+/// What a matrix makes of the axes.
+std::array<VbVec3f, 3> rowsOf(const Matrix4d& m) noexcept
 {
     std::array<VbVec3f, 3> rows;
     for (std::size_t row = 0; row < 3; ++row)
-        rows[row] = VbVec3f(m[row][0], m[row][1], m[row][2]);
+        rows[row] = narrowed(VbVec3d(m[row][0], m[row][1], m[row][2]));
+    return rows;
+}
+
+/// The matrix that normals are turned by: their direction is right for any scale, and finite for matrices without an
+/// inverse.
+std::array<float, 9> normalMatrixOf(const Matrix4d& m) noexcept
+{
+    const std::array<VbVec3f, 3> rows = rowsOf(m);
     std::array<float, 9> result{};
     for (std::size_t row = 0; row < 3; ++row) {
         const VbVec3f cofactors = cross(rows[(row + 1) % 3], rows[(row + 2) % 3]);
@@ -24,15 +31,25 @@ std::array<float, 9> normalMatrixOf(const VbMatrix& m) noexcept
     return result;
 }
 
-bool isMirror(const VbMatrix& m) noexcept
+bool isMirror(const Matrix4d& m) noexcept
 {
-    const VbVec3f across = cross(VbVec3f(m[0][0], m[0][1], m[0][2]), VbVec3f(m[1][0], m[1][1], m[1][2]));
-    return dot(across, VbVec3f(m[2][0], m[2][1], m[2][2])) < 0;
+    const std::array<VbVec3f, 3> rows = rowsOf(m);
+    return dot(cross(rows[0], rows[1]), rows[2]) < 0;
 }
 
-const VbMatrix* placementOf(const PlacedScene& scene, const Item& item)
+/// The matrix that takes points relative to `origin` to where the placement puts them, relative to the eye.
+Matrix4d relativeTo(const VbVec3d& eye, const VbVec3d& origin, const Matrix4d& placement) noexcept
 {
-    return &scene.table().placementOf(item);
+    Matrix4d result = placement;
+    for (std::size_t column = 0; column < 4; ++column) {
+        for (std::size_t axis = 0; axis < 3; ++axis)
+            result[3][column] += origin[axis] * placement[axis][column];
+    }
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (std::size_t axis = 0; axis < 3; ++axis)
+            result[row][axis] -= eye[axis] * result[row][3];
+    }
+    return result;
 }
 
 GLenum primitiveOf(const MeshRecord& mesh)
@@ -99,7 +116,7 @@ void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const N
     m_boxesOfAll = style.boundingBoxes;
     m_boxColor = style.boundingBoxColor;
     m_found.clear();
-    scene.tree().find(Frustum(frame.sceneToClip), m_found);
+    scene.tree().find(Frustum(frame.eyeToClip, frame.position), m_found);
     for (const Id id : m_found) {
         const Item& item = scene.table().item(id);
         const Look& look = scene.looks()[item.look];
@@ -138,8 +155,7 @@ void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
         const std::uint64_t order
             = std::uint64_t{variant.number()} << variantShift | std::uint64_t{range.page} << pageShift | item.look;
         if (isTranslucent(item, look, variant))
-            m_translucent.push_back(
-                {id, order, m_frame.depthOf(scene.tree().boundsOf(id).getCenter()), variant, range});
+            m_translucent.push_back({id, order, depthOf(scene, item), variant, range});
         else
             m_opaque.push_back({id, order, 0, variant, range});
     }
@@ -156,7 +172,12 @@ std::uint32_t ItemPainter::cellsOf(PlacedScene& scene, Id id) const
     const ComplexityRecord* const complexity = scene.looks()[item.look].complexity;
     return complexity == nullptr
         ? 0
-        : detailCells(complexity->values, item.mesh->shape, scene.tree().boundsOf(id), m_frame);
+        : detailCells(complexity->values, item.mesh->shape, scene.boundsOf(item, m_frame.position), m_frame);
+}
+
+double ItemPainter::depthOf(const PlacedScene& scene, const Item& item) const
+{
+    return m_frame.depthOf(transformPoint(item.mesh->shape.bounds.getCenter(), scene.table().placementOf(item)));
 }
 
 SurfaceVariant ItemPainter::variantOf(const Item& item, const Look& look) const
@@ -203,7 +224,7 @@ void ItemPainter::drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts)
         }
         // What faces away is behind what faces the eye, on every body without dents.
         m_gl.Enable(GL_CULL_FACE);
-        m_gl.FrontFace(isMirror(*placementOf(scene, item)) ? GL_CW : GL_CCW);
+        m_gl.FrontFace(isMirror(scene.table().placementOf(item)) ? GL_CW : GL_CCW);
         for (const int hidden : {GL_FRONT, GL_BACK}) {
             m_gl.CullFace(static_cast<GLenum>(hidden));
             draw(scene, drawn, state, counts);
@@ -242,7 +263,16 @@ void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxD
         const VbVec4f& color = item.mesh->shape.oneColor;
         m_gl.VertexAttrib4f(static_cast<GLuint>(Attribute::Color), color[0], color[1], color[2], color[3]);
     }
-    setPlacement(*placementOf(scene, item), program);
+    const Id placement = scene.table().place(item.place).placement;
+    const VbVec3f& origin = item.mesh->shape.origin;
+    if (state.placement != placement || !(state.origin == origin)) {
+        state.placement = placement;
+        state.origin = origin;
+        place(scene, item, {program.origin, program.placement});
+        if (program.normalMatrix >= 0)
+            m_gl.UniformMatrix3fv(
+                program.normalMatrix, 1, GL_FALSE, normalMatrixOf(scene.table().placementOf(item)).data());
+    }
     issue(*item.mesh, drawn.range, counts);
 }
 
@@ -254,7 +284,7 @@ void ItemPainter::setVariant(SurfaceVariant variant)
     if (!program.program.isUsable())
         return;
     program.program.use();
-    m_gl.UniformMatrix4fv(program.sceneToClip, 1, GL_FALSE, m_frame.sceneToClip[0].data());
+    m_gl.UniformMatrix4fv(program.eyeToClip, 1, GL_FALSE, m_frame.eyeToClip[0].data());
     m_gl.Uniform4fv(program.eye, 1, m_frame.eye.data());
     m_gl.Uniform1f(program.pointSize, m_pointSize);
 }
@@ -268,15 +298,17 @@ void ItemPainter::setLook(const Look& look, SurfaceVariant variant)
 
 void ItemPainter::setLights(const PlacedScene& scene, const LightList* lights)
 {
-    if (m_hasLights && m_lights == lights && m_lighting == scene.lighting())
+    if (m_hasLights && m_lights == lights && m_lighting == scene.lighting() && m_lightingEye == m_frame.position)
         return;
     m_hasLights = true;
     m_lights = lights;
     m_lighting = scene.lighting();
+    m_lightingEye = m_frame.position;
     std::array<LightValues, LightList::most> values;
     std::size_t count = 0;
     for (const LightList* list = lights; list != nullptr; list = list->above())
-        values[count++] = lightValues(list->light().light(), scene.table().placements[list->placement()]);
+        values[count++]
+            = lightValues(list->light().light(), scene.table().placements[list->placement()], m_frame.position);
     if (lights == nullptr)
         values[count++] = cameraLightValues();
     constexpr std::size_t headBytes = 4 * sizeof(float);
@@ -290,11 +322,12 @@ void ItemPainter::setLights(const PlacedScene& scene, const LightList* lights)
         GL_UNIFORM_BUFFER, headBytes, static_cast<GLsizeiptr>(count * sizeof(LightValues)), values.data());
 }
 
-void ItemPainter::setPlacement(const VbMatrix& placement, const SurfaceProgram& program)
+void ItemPainter::place(const PlacedScene& scene, const Item& item, const PlacementUniforms& uniforms) const
 {
-    m_gl.UniformMatrix4fv(program.placement, 1, GL_FALSE, placement[0].data());
-    if (program.normalMatrix >= 0)
-        m_gl.UniformMatrix3fv(program.normalMatrix, 1, GL_FALSE, normalMatrixOf(placement).data());
+    const VbVec3f& origin = item.mesh->shape.origin;
+    const VbMatrix placement = narrowed(relativeTo(m_frame.position, origin, scene.table().placementOf(item)));
+    m_gl.Uniform3fv(uniforms.origin, 1, origin.getValue());
+    m_gl.UniformMatrix4fv(uniforms.placement, 1, GL_FALSE, placement[0].data());
 }
 
 void ItemPainter::issue(const MeshRecord& mesh, const MeshRange& range, NxDrawingCounts& counts) const
@@ -316,18 +349,18 @@ void ItemPainter::addBoxes(PlacedScene& scene, LinePainter& lines) const
     for (const Id id : m_boxes) {
         const Item& item = scene.table().item(id);
         const MaterialValues& material = materialOf(scene.looks()[item.look]);
-        lines.addBox(
-            item.mesh->shape.bounds, *placementOf(scene, item), VbColorRGBA(material[0], material[1], material[2], 1));
+        lines.addBox(item.mesh->shape.bounds, relativeTo(m_frame.position, VbVec3d(), scene.table().placementOf(item)),
+            VbColorRGBA(material[0], material[1], material[2], 1));
     }
     if (!m_boxesOfAll)
         return;
     for (const Id id : m_found)
-        lines.addBox(
-            scene.tree().boundsOf(id), VbMatrix(), VbColorRGBA(m_boxColor[0], m_boxColor[1], m_boxColor[2], 1));
+        lines.addBox(scene.boundsOf(scene.table().item(id), m_frame.position), Matrix4d(),
+            VbColorRGBA(m_boxColor[0], m_boxColor[1], m_boxColor[2], 1));
 }
 
 void ItemPainter::drawShapes(
-    PlacedScene& scene, std::span<const Id> items, int placementUniform, NxDrawingCounts& counts)
+    PlacedScene& scene, std::span<const Id> items, const PlacementUniforms& uniforms, NxDrawingCounts& counts)
 {
     Id page = noId;
     for (const Id id : items) {
@@ -339,7 +372,7 @@ void ItemPainter::drawShapes(
             page = range.page;
             m_meshes.bind(page);
         }
-        m_gl.UniformMatrix4fv(placementUniform, 1, GL_FALSE, placementOf(scene, item)[0][0].data());
+        place(scene, item, uniforms);
         issue(*item.mesh, range, counts);
     }
 }

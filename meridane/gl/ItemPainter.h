@@ -31,8 +31,14 @@ public:
     void drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts);
     /// The boxes of what is drawn as a box, and all boxes if the style says so.
     void addBoxes(PlacedScene& scene, LinePainter& lines) const;
-    /// Draws the shapes of some items, whether in view or not, with a program whose first uniform is given.
-    void drawShapes(PlacedScene& scene, std::span<const Id> items, int placementUniform, NxDrawingCounts& counts);
+    /// The variables of a program that place a mesh: see `SurfaceProgram`.
+    struct PlacementUniforms {
+        int origin;
+        int placement;
+    };
+    /// Draws the shapes of some items, whether in view or not, with the program in use.
+    void drawShapes(
+        PlacedScene& scene, std::span<const Id> items, const PlacementUniforms& uniforms, NxDrawingCounts& counts);
 
     [[nodiscard]] MeshStore& meshes() noexcept { return m_meshes; }
     [[nodiscard]] TextureStore& textures() noexcept { return m_textures; }
@@ -54,17 +60,20 @@ private:
         unsigned int variant = SurfaceVariant::count;
         Id page = noId;
         Id look = noId;
+        Id placement = noId;
+        VbVec3f origin;
     };
 
     void sort(PlacedScene& scene, const std::vector<Id>& found);
     [[nodiscard]] std::uint32_t cellsOf(PlacedScene& scene, Id id) const;
+    [[nodiscard]] double depthOf(const PlacedScene& scene, const Item& item) const;
     [[nodiscard]] SurfaceVariant variantOf(const Item& item, const Look& look) const;
     [[nodiscard]] static bool isTranslucent(const Item& item, const Look& look, SurfaceVariant variant);
     void draw(PlacedScene& scene, const Drawn& drawn, State& state, NxDrawingCounts& counts);
     void setVariant(SurfaceVariant variant);
     void setLook(const Look& look, SurfaceVariant variant);
     void setLights(const PlacedScene& scene, const LightList* lights);
-    void setPlacement(const VbMatrix& placement, const SurfaceProgram& program);
+    void place(const PlacedScene& scene, const Item& item, const PlacementUniforms& uniforms) const;
     void issue(const MeshRecord& mesh, const MeshRange& range, NxDrawingCounts& counts) const;
 
     const NxGLFunctions& m_gl;
@@ -75,6 +84,7 @@ private:
     /// What is in that buffer.
     const LightList* m_lights = nullptr;
     std::uint64_t m_lighting = 0;
+    VbVec3d m_lightingEye;
     bool m_hasLights = false;
 
     PictureFrame m_frame;

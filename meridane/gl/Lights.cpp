@@ -29,15 +29,15 @@ float kindValue(LightKind kind)
     return static_cast<float>(kind);
 }
 
-VbVec3f placedDirection(const NxSFVec3f& field, const VbMatrix& placement)
+VbVec3f placedDirection(const NxSFVec3f& field, const Matrix4d& placement)
 {
     return normalized(transformDirection(counting(field).getValue(), placement), VbVec3f(0, 0, -1));
 }
 
-VbVec3f placedPoint(const NxSFVec3f& field, const VbMatrix& placement)
+VbVec3f placedPoint(const NxSFVec3f& field, const Matrix4d& placement, const VbVec3d& eye)
 {
-    const VbVec3f point = transformPoint(counting(field).getValue(), placement);
-    return isFinite(point) ? point : VbVec3f();
+    const VbVec3d point = transformPoint(counting(field).getValue(), placement);
+    return narrowed(subtract(isFinite(point) ? point : VbVec3d(), eye));
 }
 
 float usable(float value, float greatest)
@@ -45,10 +45,10 @@ float usable(float value, float greatest)
     return value > 0 ? std::min(value, greatest) : 0; // 0 for a NaN
 }
 
-void putPoint(LightValues& values, const NxPointLight& light, const VbMatrix& placement)
+void putPoint(LightValues& values, const NxPointLight& light, const Matrix4d& placement, const VbVec3d& eye)
 {
     constexpr float greatest = 1e18F;
-    put(values, Part::Location, placedPoint(light.location, placement), kindValue(LightKind::Point));
+    put(values, Part::Location, placedPoint(light.location, placement, eye), kindValue(LightKind::Point));
     VbVec3f parts = counting(light.attenuation).getValue();
     for (std::size_t i = 0; i < 3; ++i)
         parts[i] = usable(parts[i], greatest);
@@ -57,11 +57,11 @@ void putPoint(LightValues& values, const NxPointLight& light, const VbMatrix& pl
     put(values, Part::Fading, parts, 0);
 }
 
-void putSpot(LightValues& values, const NxSpotLight& light, const VbMatrix& placement)
+void putSpot(LightValues& values, const NxSpotLight& light, const Matrix4d& placement, const VbVec3d& eye)
 {
     const float outer = usable(counting(light.cutOffAngle).getValue(), std::numbers::pi_v<float> / 2);
     const float inner = outer * (1 - usable(counting(light.dropOffRate).getValue(), 1));
-    put(values, Part::Location, placedPoint(light.location, placement), kindValue(LightKind::Spot));
+    put(values, Part::Location, placedPoint(light.location, placement, eye), kindValue(LightKind::Spot));
     put(values, Part::Fading, VbVec3f(1, 0, 0), outer);
     put(values, Part::Direction, placedDirection(light.direction, placement), inner);
 }
@@ -83,7 +83,7 @@ LightList::~LightList()
     m_records->release(*m_light);
 }
 
-LightValues lightValues(const NxLight* light, const VbMatrix& placement)
+LightValues lightValues(const NxLight* light, const Matrix4d& placement, const VbVec3d& eye)
 {
     LightValues values{};
     if (light == nullptr || !counting(light->on).getValue())
@@ -97,9 +97,9 @@ LightValues lightValues(const NxLight* light, const VbMatrix& placement)
         put(values, Part::Location, VbVec3f(), kindValue(LightKind::Directional));
         put(values, Part::Direction, placedDirection(sun->direction, placement), 0);
     } else if (const auto* lamp = dynamic_cast<const NxPointLight*>(light)) {
-        putPoint(values, *lamp, placement);
+        putPoint(values, *lamp, placement, eye);
     } else if (const auto* spot = dynamic_cast<const NxSpotLight*>(light)) {
-        putSpot(values, *spot, placement);
+        putSpot(values, *spot, placement, eye);
     }
     return values;
 }

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "meridane/base/VbVec.h"
+#include "meridane/gl/Matrix4d.h"
 #include "meridane/gl/NodeRecords.h"
 #include "meridane/scene/NxLight.h"
 
 #include <array>
 #include <memory>
-
-class VbMatrix;
 
 namespace meridane {
 
@@ -46,13 +46,14 @@ private:
     std::uint32_t m_count;
 };
 
-/// A light as the shaders take it, all in the units of the scene: where it is and its kind; its colour; how it fades,
-/// and the angle of its cone; where it shines, and the angle up to which it is as bright as on the axis.
+/// A light as the shaders take it, all in the units of the scene: where it is relative to the eye, and its kind; its
+/// colour; how it fades, and the angle of its cone; where it shines, and the angle up to which it is as bright as on
+/// the axis.
 using LightValues = std::array<float, 16>;
 /// The kinds of light that shaders know.
 enum class LightKind { Directional, Point, Spot, AtCamera };
 
-[[nodiscard]] LightValues lightValues(const NxLight* light, const VbMatrix& placement);
+[[nodiscard]] LightValues lightValues(const NxLight* light, const Matrix4d& placement, const VbVec3d& eye = VbVec3d());
 /// The light at the camera, for what no light shines on.
 [[nodiscard]] LightValues cameraLightValues();
 

@@ -11,12 +11,12 @@ namespace {
 constexpr const char* lineVertexSource = R"(
 layout(location = 0) in vec3 position;
 layout(location = 1) in vec4 color;
-uniform mat4 sceneToClip;
+uniform mat4 eyeToClip;
 out vec4 lineColor;
 void main()
 {
     lineColor = color;
-    gl_Position = sceneToClip * vec4(position, 1.0);
+    gl_Position = eyeToClip * vec4(position, 1.0);
 }
 )";
 
@@ -43,13 +43,13 @@ void LinePainter::add(const VbVec3f& from, const VbVec3f& to, const VbColorRGBA&
     m_vertices.push_back({to, toColor});
 }
 
-void LinePainter::addBox(const NxBounds& box, const VbMatrix& placement, const VbColorRGBA& color)
+void LinePainter::addBox(const NxBounds& box, const Matrix4d& placement, const VbColorRGBA& color)
 {
     std::array<VbVec3f, 8> corners;
     for (unsigned int i = 0; i < corners.size(); ++i) {
         const VbVec3f corner((i & 1U) != 0 ? box.max[0] : box.min[0], (i & 2U) != 0 ? box.max[1] : box.min[1],
             (i & 4U) != 0 ? box.max[2] : box.min[2]);
-        corners[i] = transformPoint(corner, placement);
+        corners[i] = narrowed(transformPoint(corner, placement));
     }
     // Corners whose numbers differ in one bit are the ends of a side.
     for (unsigned int i = 0; i < corners.size(); ++i) {
@@ -63,7 +63,7 @@ void LinePainter::addBox(const NxBounds& box, const VbMatrix& placement, const V
 void LinePainter::prepare()
 {
     m_program = GLProgram(m_gl, "lines", lineVertexSource, lineFragmentSource);
-    m_sceneToClip = m_program.isUsable() ? m_program.uniform("sceneToClip") : -1;
+    m_eyeToClip = m_program.isUsable() ? m_program.uniform("eyeToClip") : -1;
     m_gl.GenVertexArrays(1, &m_vertexArray);
     m_gl.GenBuffers(1, &m_buffer);
     m_gl.BindVertexArray(m_vertexArray);
@@ -75,7 +75,7 @@ void LinePainter::prepare()
         1, 4, GL_FLOAT, GL_FALSE, sizeof(Vertex), reinterpret_cast<const void*>(offsetof(Vertex, color)));
 }
 
-void LinePainter::draw(const VbMatrix& sceneToClip, NxDrawingCounts& counts)
+void LinePainter::draw(const VbMatrix& eyeToClip, NxDrawingCounts& counts)
 {
     if (m_vertices.empty())
         return;
@@ -83,7 +83,7 @@ void LinePainter::draw(const VbMatrix& sceneToClip, NxDrawingCounts& counts)
         prepare();
     if (m_program.isUsable()) {
         m_program.use();
-        m_gl.UniformMatrix4fv(m_sceneToClip, 1, GL_FALSE, sceneToClip[0].data());
+        m_gl.UniformMatrix4fv(m_eyeToClip, 1, GL_FALSE, eyeToClip[0].data());
         m_gl.BindVertexArray(m_vertexArray);
         m_gl.BindBuffer(GL_ARRAY_BUFFER, m_buffer);
         m_gl.BufferData(GL_ARRAY_BUFFER, static_cast<GLsizeiptr>(m_vertices.size() * sizeof(Vertex)), m_vertices.data(),

@@ -3,6 +3,7 @@
 #include "meridane/base/VbColor.h"
 #include "meridane/base/VbMatrix.h"
 #include "meridane/gl/GLProgram.h"
+#include "meridane/gl/Matrix4d.h"
 #include "meridane/gl/NxBounds.h"
 #include "meridane/gl/NxDrawingCounts.h"
 
@@ -10,7 +11,8 @@
 
 namespace meridane {
 
-/// Draws coloured lines that aren't part of the scene: collects them and draws them together.
+/// Draws coloured lines that aren't part of the scene: collects them and draws them together. All points are relative
+/// to the eye.
 class LinePainter {
 public:
     explicit LinePainter(const NxGLFunctions& gl)
@@ -24,9 +26,9 @@ public:
 
     /// A line whose colour goes from one to the other.
     void add(const VbVec3f& from, const VbVec3f& to, const VbColorRGBA& fromColor, const VbColorRGBA& toColor);
-    void addBox(const NxBounds& box, const VbMatrix& placement, const VbColorRGBA& color);
+    void addBox(const NxBounds& box, const Matrix4d& placement, const VbColorRGBA& color);
     /// Draws the lines, and forgets them.
-    void draw(const VbMatrix& sceneToClip, NxDrawingCounts& counts);
+    void draw(const VbMatrix& eyeToClip, NxDrawingCounts& counts);
     void forget();
 
 private:
@@ -39,7 +41,7 @@ private:
 
     const NxGLFunctions& m_gl;
     GLProgram m_program;
-    int m_sceneToClip = -1;
+    int m_eyeToClip = -1;
     unsigned int m_vertexArray = 0;
     unsigned int m_buffer = 0;
     std::vector<Vertex> m_vertices;

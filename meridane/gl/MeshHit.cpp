@@ -25,7 +25,7 @@ MeshHit::MeshHit(float radius, float slope, float nearest, float farthest)
 {
 }
 
-bool MeshHit::meet(const NxMesh& mesh, const VbMatrix& meshToLine)
+bool MeshHit::meet(const NxMesh& mesh, const Matrix4d& meshToLine)
 {
     if (mesh.positions.isIgnored())
         return false;
@@ -41,11 +41,8 @@ bool MeshHit::meet(const NxMesh& mesh, const VbMatrix& meshToLine)
     }
 }
 
-void MeshHit::place(std::span<const VbVec3f> positions, const VbMatrix& matrix)
+void MeshHit::place(std::span<const VbVec3f> positions, const Matrix4d& m)
 {
-    std::array<std::array<double, 4>, 4> m{};
-    for (std::size_t i = 0; i < 16; ++i)
-        m[i / 4][i % 4] = toDouble(matrix[i / 4][i % 4]);
     const bool isAffine = m[0][3] == 0.0 && m[1][3] == 0.0 && m[2][3] == 0.0 && m[3][3] == 1.0;
     m_points.resize(positions.size());
     Point* point = m_points.data();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "meridane/base/VbMatrix.h"
 #include "meridane/base/VbVec.h"
+#include "meridane/gl/Matrix4d.h"
 
 #include <array>
 #include <cstddef>
@@ -20,9 +20,9 @@ public:
     MeshHit(float radius, float slope, float nearest, float farthest);
 
     /// Whether the line meets the mesh, which that matrix brings to the line, ahead of all earlier ones.
-    [[nodiscard]] bool meet(const NxMesh& mesh, const VbMatrix& meshToLine);
+    [[nodiscard]] bool meet(const NxMesh& mesh, const Matrix4d& meshToLine);
 
-    [[nodiscard]] float distance() const noexcept { return static_cast<float>(m_distance); }
+    [[nodiscard]] double distance() const noexcept { return m_distance; }
     [[nodiscard]] int primitive() const noexcept { return m_primitive; }
 
 private:
@@ -32,7 +32,7 @@ private:
         double z = 0;
     };
 
-    void place(std::span<const VbVec3f> positions, const VbMatrix& matrix);
+    void place(std::span<const VbVec3f> positions, const Matrix4d& matrix);
     template <std::size_t Corners, typename Test>
     bool meetEach(std::span<const int> indices, Test test);
     bool meetTriangle(const std::array<const Point*, 3>& corners);

@@ -30,6 +30,28 @@ std::size_t inspectPositions(std::span<const VbVec3f> positions, NxBounds& bound
     return useless;
 }
 
+/// Neighbours should have the same origin, so that what they share is placed at the same pixels: only the upper bits of
+/// the middle count.
+VbVec3f originOf(const NxBounds& bounds)
+{
+    constexpr float farAway = 64; // in sizes of the mesh
+    constexpr int bits = 16;
+    VbVec3f origin;
+    if (bounds.isEmpty())
+        return origin;
+    const VbVec3f center = bounds.getCenter();
+    const VbVec3f size = bounds.getSize();
+    const float longest = std::max({size[0], size[1], size[2]});
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        if (!(std::abs(center[axis]) > farAway * longest))
+            continue;
+        int exponent = 0;
+        const float fraction = std::frexp(center[axis], &exponent);
+        origin[axis] = std::ldexp(std::round(std::ldexp(fraction, bits)), exponent - bits);
+    }
+    return origin;
+}
+
 std::size_t countOutOfRange(std::span<const int> indices, std::size_t vertexCount)
 {
     return static_cast<std::size_t>(std::count_if(indices.begin(), indices.end(),
@@ -81,6 +103,7 @@ MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems)
     shape.vertexCount = static_cast<std::uint32_t>(positions.size());
     shape.primitive = static_cast<std::uint8_t>(primitiveOf(mesh));
     const std::size_t uselessPositions = inspectPositions(positions, shape.bounds);
+    shape.origin = originOf(shape.bounds);
     const std::size_t corners = cornersOf(shape.primitive);
     const std::size_t count = indices.empty() ? positions.size() : indices.size();
     const std::size_t outOfRange = countOutOfRange(indices, positions.size());

@@ -19,6 +19,9 @@ struct MeshShape {
 
     /// Around all finite positions, in the units of the mesh.
     NxBounds bounds;
+    /// What positions are told relative to while they are placed: not zero for a mesh far from its own origin, where
+    /// floats are too coarse to place it. Differences from it are exact.
+    VbVec3f origin;
     std::uint32_t vertexCount = 0;
     /// One of NxMesh::Primitive.
     std::uint8_t primitive = 0;

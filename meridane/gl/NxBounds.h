@@ -6,6 +6,9 @@
 
 /// A box along the axes of the world, in scene units. The default is empty: it holds no point.
 struct NxBounds {
+    /// By which share of themselves the numbers may be off, since they are floats.
+    static constexpr double rounding = 1.0 / (1U << 23U);
+
     VbVec3f min{
         std::numeric_limits<float>::max(), std::numeric_limits<float>::max(), std::numeric_limits<float>::max()};
     VbVec3f max{std::numeric_limits<float>::lowest(), std::numeric_limits<float>::lowest(),

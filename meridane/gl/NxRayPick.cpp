@@ -21,7 +21,7 @@ constexpr std::size_t mostPlaces = 20'000'000;
 struct Step {
     std::span<NxNode* const> children;
     std::size_t next = 0;
-    VbMatrix matrix; // from the children to the ray
+    Matrix4d matrix; // from the children to the ray
 };
 
 std::span<NxNode* const> shownChildren(const NxNode& node)
@@ -37,17 +37,17 @@ std::span<NxNode* const> shownChildren(const NxNode& node)
     return exists ? children.subspan(static_cast<std::size_t>(which), 1) : std::span<NxNode* const>();
 }
 
-bool isFinite(const VbMatrix& matrix)
+bool isFinite(const Matrix4d& matrix)
 {
     for (std::size_t i = 0; i < 16; ++i) {
-        if (!std::isfinite(matrix[i / 4][i % 4]))
+        if (!std::isfinite(static_cast<float>(matrix[i / 4][i % 4])))
             return false;
     }
     return true;
 }
 
 // Turns and moves so that the ray runs along z from the origin: what it meets has x and y of 0.
-VbMatrix sceneToRay(const NxRay& ray)
+Matrix4d sceneToRay(const NxRay& ray)
 {
     const VbVec3f ahead = normalized(ray.direction, VbVec3f(0, 0, -1));
     const VbVec3f across = std::abs(ahead[0]) < 0.6F ? VbVec3f(1, 0, 0) : VbVec3f(0, 1, 0);
@@ -94,17 +94,18 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
         if (const auto* mesh = dynamic_cast<const NxMesh*>(&node)) {
             if (!search.meet(*mesh, step.matrix))
                 continue;
-            hit = NxRayHit{{}, VbVec3f(), search.distance(), search.primitive()};
+            hit = NxRayHit{{}, VbVec3d(), static_cast<float>(search.distance()), search.primitive()};
             for (const Step& above : steps)
                 hit->path.push_back(above.children[above.next - 1]);
         } else if (!children.empty()) {
-            const VbMatrix matrix = multiply(placementOf(node), step.matrix);
+            const Matrix4d matrix = multiply(placementOf(node), step.matrix);
             if (isFinite(matrix))
                 steps.push_back({children, 0, matrix});
         }
     }
-    if (hit)
-        hit->point = add(
-            m_ray.origin, scaled(normalized(m_ray.direction, VbVec3f(0, 0, -1)), static_cast<double>(hit->distance)));
+    if (hit) {
+        const VbVec3d ahead = normalized(m_ray.direction, VbVec3f(0, 0, -1));
+        hit->point = add(m_ray.origin, scaled(ahead, search.distance()));
+    }
     return hit;
 }

@@ -12,7 +12,7 @@ class NxNode;
 struct NxRayHit {
     /// The nodes from a child of the searched node down to the mesh.
     std::vector<NxNode*> path;
-    VbVec3f point; ///< in scene units
+    VbVec3d point; ///< in scene units
     float distance = 0; ///< from the origin of the ray, in scene units
     int primitive = 0; ///< the triangle, line or point of the mesh, counted from 0
 };

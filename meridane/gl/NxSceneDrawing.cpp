@@ -219,7 +219,7 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
     gl.BlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
     ground.addLines(self.lines);
     self.painter.addBoxes(self.scene, self.lines);
-    self.lines.draw(frame.sceneToClip, self.counts);
+    self.lines.draw(frame.eyeToClip, self.counts);
     gl.Disable(GL_BLEND);
     gl.PolygonMode(GL_FRONT_AND_BACK, self.style.surfaces == NxDrawingStyle::WIREFRAME ? GL_LINE : GL_FILL);
     self.painter.drawTranslucent(self.scene, self.counts);

@@ -67,12 +67,12 @@ float heightOf(float heightAngle, float distance)
 
 } // namespace
 
-NxViewpoint NxViewpoint::ofCamera(const NxCamera& camera, const VbMatrix& cameraToScene)
+NxViewpoint NxViewpoint::ofCamera(const NxCamera& camera, const Matrix4d& cameraToScene)
 {
     const auto* orthographic = dynamic_cast<const NxOrthographicCamera*>(&camera);
     const auto* perspective = dynamic_cast<const NxPerspectiveCamera*>(&camera);
     NxViewpoint own;
-    own.position = camera.position.isIgnored() ? zAxis : camera.position.getValue();
+    own.position = VbVec3d(camera.position.isIgnored() ? zAxis : camera.position.getValue());
     if (!camera.orientation.isIgnored())
         own.orientation = camera.orientation.getValue();
     own = own.sensible();
@@ -110,14 +110,18 @@ NxViewpoint NxViewpoint::sensible() const
 
 VbMatrix NxViewpoint::getViewMatrix() const
 {
-    const NxViewpoint eye = sensible();
-    VbMatrix turned = rotationMatrix(eye.orientation);
+    return narrowed(multiply(translationMatrix(scaled(getPosition(), -1.0)), getTurn()));
+}
+
+VbMatrix NxViewpoint::getTurn() const
+{
+    VbMatrix turned = rotationMatrix(sensible().orientation);
     // The inverse of a rotation is its transpose.
     for (std::size_t row = 0; row < 3; ++row) {
         for (std::size_t column = row + 1; column < 3; ++column)
             std::swap(turned[row][column], turned[column][row]);
     }
-    return multiply(translationMatrix(scaled(eye.position, -1.0)), turned);
+    return turned;
 }
 
 VbMatrix NxViewpoint::getProjectionMatrix(float aspect, float nearDistance, float farDistance) const
@@ -157,10 +161,10 @@ VbVec3f NxViewpoint::getDirection() const
     return normalized(transformDirection(ahead, rotationMatrix(sensible().orientation)), ahead);
 }
 
-VbVec3f NxViewpoint::getFocalPoint() const
+VbVec3d NxViewpoint::getFocalPoint() const
 {
     const NxViewpoint eye = sensible();
-    return add(eye.position, scaled(getDirection(), static_cast<double>(eye.focalDistance)));
+    return add(eye.position, scaled(VbVec3d(getDirection()), static_cast<double>(eye.focalDistance)));
 }
 
 float NxViewpoint::getHeightAt(float distance) const
@@ -169,14 +173,14 @@ float NxViewpoint::getHeightAt(float distance) const
     return projection == ORTHOGRAPHIC ? eye.height : heightOf(eye.heightAngle, distance);
 }
 
-VbVec3f NxViewpoint::getPoint(const VbVec2f& place, float aspect, float distance) const
+VbVec3d NxViewpoint::getPoint(const VbVec2f& place, float aspect, float distance) const
 {
     const NxViewpoint eye = sensible();
     const auto tall = static_cast<double>(getHeightAt(distance));
     const double wide = tall * static_cast<double>(sensibleLength(aspect, 1));
-    const VbVec3f ahead = add(eye.position, scaled(getDirection(), static_cast<double>(distance)));
-    const VbVec3f across = scaled(getRight(), (static_cast<double>(place[0]) - 0.5) * wide);
-    return add(ahead, add(across, scaled(getUp(), (static_cast<double>(place[1]) - 0.5) * tall)));
+    const VbVec3d ahead = add(eye.position, scaled(VbVec3d(getDirection()), static_cast<double>(distance)));
+    const VbVec3d across = scaled(VbVec3d(getRight()), (static_cast<double>(place[0]) - 0.5) * wide);
+    return add(ahead, add(across, scaled(VbVec3d(getUp()), (static_cast<double>(place[1]) - 0.5) * tall)));
 }
 
 NxRay NxViewpoint::getRay(const VbVec2f& place, float aspect) const
@@ -184,14 +188,14 @@ NxRay NxViewpoint::getRay(const VbVec2f& place, float aspect) const
     if (projection == ORTHOGRAPHIC)
         return {getPoint(place, aspect, 0), getDirection()};
     NxViewpoint atOrigin = sensible();
-    const VbVec3f origin = atOrigin.position;
-    atOrigin.position = VbVec3f();
-    return {origin, normalized(atOrigin.getPoint(place, aspect, 1), getDirection())};
+    const VbVec3d origin = atOrigin.position;
+    atOrigin.position = VbVec3d();
+    return {origin, normalized(narrowed(atOrigin.getPoint(place, aspect, 1)), getDirection())};
 }
 
-float NxViewpoint::getDistance(const VbVec3f& point) const
+float NxViewpoint::getDistance(const VbVec3d& point) const
 {
-    return static_cast<float>(dot(subtract(point, sensible().position), getDirection()));
+    return static_cast<float>(dot(subtract(point, getPosition()), VbVec3d(getDirection())));
 }
 
 void NxViewpoint::turn(const VbVec3f& direction, const VbVec3f& up)
@@ -206,9 +210,9 @@ void NxViewpoint::turn(const VbVec3f& direction, const VbVec3f& up)
     orientation = rotationOf(right, cross(back, right), back);
 }
 
-void NxViewpoint::placeAhead(const VbVec3f& focalPoint)
+void NxViewpoint::placeAhead(const VbVec3d& focalPoint)
 {
-    position = subtract(focalPoint, scaled(getDirection(), static_cast<double>(focalDistance)));
+    position = subtract(focalPoint, scaled(VbVec3d(getDirection()), static_cast<double>(focalDistance)));
 }
 
 void NxViewpoint::orbit(float right, float up)
@@ -216,7 +220,7 @@ void NxViewpoint::orbit(float right, float up)
     if (!std::isfinite(right) || !std::isfinite(up))
         return;
     *this = sensible();
-    const VbVec3f focalPoint = getFocalPoint();
+    const VbVec3d focalPoint = getFocalPoint();
     const bool headDown = getUp()[1] < -0.001F;
     // To rise above the focal point is to look downwards.
     float pitch = -up;
@@ -236,12 +240,12 @@ void NxViewpoint::orbit(float right, float up)
 
 void NxViewpoint::pan(const VbVec2f& from, const VbVec2f& to, float aspect, float distance)
 {
-    const VbVec3f way = subtract(getPoint(from, aspect, distance), getPoint(to, aspect, distance));
+    const VbVec3d way = subtract(getPoint(from, aspect, distance), getPoint(to, aspect, distance));
     if (isFinite(way))
         position = add(sensible().position, way);
 }
 
-void NxViewpoint::zoom(float factor, const VbVec3f& point)
+void NxViewpoint::zoom(float factor, const VbVec3d& point)
 {
     if (!(factor > 0) || !std::isfinite(factor) || !isFinite(point))
         return;
@@ -249,17 +253,18 @@ void NxViewpoint::zoom(float factor, const VbVec3f& point)
     float& size = projection == ORTHOGRAPHIC ? height : focalDistance;
     const float newSize = std::clamp(size / factor, shortest, longest);
     const double share = 1.0 - static_cast<double>(newSize) / static_cast<double>(size);
-    VbVec3f way = subtract(point, position);
+    const VbVec3d ahead = getDirection();
+    VbVec3d way = subtract(point, position);
     if (projection == ORTHOGRAPHIC)
-        way = subtract(way, scaled(getDirection(), dot(way, getDirection())));
+        way = subtract(way, scaled(ahead, dot(way, ahead)));
     position = add(position, scaled(way, share));
     size = newSize;
 }
 
 void NxViewpoint::frame(const VbVec3f& min, const VbVec3f& max, float aspect)
 {
-    const VbVec3f center = add(scaled(min, 0.5), scaled(max, 0.5));
-    const VbVec3f half = subtract(max, center);
+    const VbVec3d center = add(scaled(VbVec3d(min), 0.5), scaled(VbVec3d(max), 0.5));
+    const VbVec3f half = narrowed(subtract(VbVec3d(max), center));
     if (!isFinite(center) || !isFinite(half))
         return;
     *this = sensible();
@@ -286,7 +291,7 @@ void NxViewpoint::frame(const VbVec3f& min, const VbVec3f& max, float aspect)
 void NxViewpoint::lookAlong(const VbVec3f& direction, const VbVec3f& up)
 {
     *this = sensible();
-    const VbVec3f focalPoint = getFocalPoint();
+    const VbVec3d focalPoint = getFocalPoint();
     turn(direction, up);
     placeAhead(focalPoint);
 }
@@ -296,7 +301,7 @@ void NxViewpoint::setProjection(Projection newProjection)
     *this = sensible();
     if (newProjection == projection)
         return;
-    const VbVec3f focalPoint = getFocalPoint();
+    const VbVec3d focalPoint = getFocalPoint();
     if (newProjection == ORTHOGRAPHIC)
         height = sensibleLength(heightOf(heightAngle, focalDistance), height);
     else
@@ -305,7 +310,7 @@ void NxViewpoint::setProjection(Projection newProjection)
     placeAhead(focalPoint);
 }
 
-void NxViewpoint::focus(const VbVec3f& point)
+void NxViewpoint::focus(const VbVec3d& point)
 {
     const float distance = getDistance(point);
     if (distance > shortest && std::isfinite(distance))

@@ -10,12 +10,13 @@ namespace {
 
 constexpr const char* shapeVertexSource = R"(
 layout(location = 0) in vec3 position;
+uniform vec3 origin;
 uniform mat4 placement;
-uniform mat4 sceneToClip;
+uniform mat4 eyeToClip;
 uniform float pointSize;
 void main()
 {
-    gl_Position = sceneToClip * (placement * vec4(position, 1.0));
+    gl_Position = eyeToClip * (placement * vec4(position - origin, 1.0));
     gl_PointSize = pointSize;
 }
 )";
@@ -67,12 +68,16 @@ Rectangle rectangleOf(PlacedScene& scene, std::span<const Id> items, const Pictu
     std::array<double, 2> least{1, 1};
     std::array<double, 2> greatest{-1, -1};
     for (unsigned int corner = 0; corner < 8; ++corner) {
-        const std::array<float, 4> point{(corner & 1U) != 0 ? bounds.max[0] : bounds.min[0],
-            (corner & 2U) != 0 ? bounds.max[1] : bounds.min[1], (corner & 4U) != 0 ? bounds.max[2] : bounds.min[2], 1};
         std::array<double, 4> clip{};
-        for (std::size_t row = 0; row < 4; ++row) {
-            for (std::size_t column = 0; column < 4; ++column)
-                clip[column] += static_cast<double>(point[row]) * static_cast<double>(frame.sceneToClip[row][column]);
+        for (std::size_t column = 0; column < 4; ++column) {
+            clip[column] = static_cast<double>(frame.eyeToClip[3][column]);
+            for (std::size_t axis = 0; axis < 3; ++axis) {
+                const auto place
+                    = static_cast<double>((corner >> axis & 1U) != 0 ? bounds.max[axis] : bounds.min[axis]);
+                const double rounding = NxBounds::rounding * std::abs(place) * ((corner >> axis & 1U) != 0 ? 1 : -1);
+                clip[column]
+                    += (place + rounding - frame.position[axis]) * static_cast<double>(frame.eyeToClip[axis][column]);
+            }
         }
         if (!(clip[3] > 0)) // beside or behind the eye
             return {0, 0, frame.width, frame.height};
@@ -150,8 +155,9 @@ void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPai
     if (!m_shapes.isMade()) {
         m_shapes = GLProgram(m_gl, "shapes", shapeVertexSource, shapeFragmentSource);
         if (m_shapes.isUsable()) {
+            m_origin = m_shapes.uniform("origin");
             m_placement = m_shapes.uniform("placement");
-            m_sceneToClip = m_shapes.uniform("sceneToClip");
+            m_eyeToClip = m_shapes.uniform("eyeToClip");
             m_pointSize = m_shapes.uniform("pointSize");
         }
     }
@@ -172,9 +178,9 @@ void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPai
     m_gl.Enable(GL_SCISSOR_TEST);
     m_gl.Scissor(part.left, part.bottom, part.width, part.height);
     m_shapes.use();
-    m_gl.UniformMatrix4fv(m_sceneToClip, 1, GL_FALSE, frame.sceneToClip[0].data());
+    m_gl.UniformMatrix4fv(m_eyeToClip, 1, GL_FALSE, frame.eyeToClip[0].data());
     m_gl.Uniform1f(m_pointSize, style.pointSize * frame.scale);
-    painter.drawShapes(scene, items, m_placement, counts);
+    painter.drawShapes(scene, items, {m_origin, m_placement}, counts);
 
     m_gl.BindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(picture));
     if (m_border.use()) {

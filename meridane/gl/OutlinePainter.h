@@ -28,8 +28,9 @@ private:
     const NxGLFunctions& m_gl;
     ScreenPass m_border;
     GLProgram m_shapes;
+    int m_origin = -1;
     int m_placement = -1;
-    int m_sceneToClip = -1;
+    int m_eyeToClip = -1;
     int m_pointSize = -1;
     unsigned int m_framebuffer = 0;
     unsigned int m_mask = 0;

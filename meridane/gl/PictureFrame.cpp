@@ -5,11 +5,21 @@
 #include "meridane/gl/NxViewpoint.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <utility>
 
 namespace meridane {
 namespace {
+
+/// How far the corners of a box may be off in any direction.
+float roundingOf(const NxBounds& box)
+{
+    double sum = 0;
+    for (std::size_t axis = 0; axis < 3; ++axis)
+        sum += std::max(std::abs(static_cast<double>(box.min[axis])), std::abs(static_cast<double>(box.max[axis])));
+    return static_cast<float>(sum * NxBounds::rounding);
+}
 
 /// What is nearest and farthest along the line of sight, with what lies between shown in as many steps of depth as can
 /// be: in perspective the nearest distance decides on that.
@@ -31,37 +41,40 @@ std::pair<float, float> depthRange(const NxViewpoint& viewpoint, const NxBounds&
         nearest = focal / 2;
         farthest = focal * 2;
     }
-    const float gap = std::max((farthest - nearest) * margin, focal * leastShare);
+    const float gap = std::max({(farthest - nearest) * margin, focal * leastShare, roundingOf(shown)});
     if (viewpoint.projection == NxViewpoint::ORTHOGRAPHIC)
         return {nearest - gap, farthest + gap};
     if (!(farthest > focal * leastShare)) // all is behind the eye
         farthest = focal * 2;
     farthest += gap;
     const float wanted = std::min(farthest * farShare, focal / 10);
-    return {std::max({nearest - gap, wanted, farthest * leastShare}), farthest};
+    return {std::max(nearest - gap, wanted), farthest};
 }
 
 } // namespace
 
 PictureFrame::PictureFrame(
     const NxViewpoint& viewpoint, const NxBounds& shown, int pictureWidth, int pictureHeight, float pixelsPerPoint)
-    : direction(viewpoint.getDirection())
+    : position(viewpoint.getPosition())
+    , direction(viewpoint.getDirection())
     , width(pictureWidth)
     , height(pictureHeight)
     , scale(pixelsPerPoint)
 {
     const auto [nearest, farthest] = depthRange(viewpoint, shown);
     const float aspect = static_cast<float>(width) / static_cast<float>(height);
-    sceneToClip = multiply(viewpoint.getViewMatrix(), viewpoint.getProjectionMatrix(aspect, nearest, farthest));
+    eyeToClip = multiply(viewpoint.getTurn(), viewpoint.getProjectionMatrix(aspect, nearest, farthest));
     const bool isFlat = viewpoint.projection == NxViewpoint::ORTHOGRAPHIC;
-    const VbVec3f place = isFlat ? meridane::scaled(direction, -1) : viewpoint.position;
-    eye = {place[0], place[1], place[2], isFlat ? 0.0F : 1.0F};
+    if (isFlat)
+        eye = {-direction[0], -direction[1], -direction[2], 0};
+    else
+        eye = {0, 0, 0, 1};
     pixelsPerUnit = static_cast<float>(height) / viewpoint.getHeightAt(1);
 }
 
-double PictureFrame::depthOf(const VbVec3f& point) const noexcept
+double PictureFrame::depthOf(const VbVec3d& point) const noexcept
 {
-    return dot(point, direction);
+    return dot(subtract(point, position), VbVec3d(direction));
 }
 
 } // namespace meridane

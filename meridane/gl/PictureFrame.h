@@ -12,8 +12,12 @@ namespace meridane {
 
 /// What the parts of a picture need to know about it.
 struct PictureFrame {
-    VbMatrix sceneToClip;
-    /// The position of the eye and 1, or the direction to it and 0.
+    /// Where the eye is. Everything is drawn relative to it, along the axes of the scene, so that floats are exact
+    /// enough wherever in the scene it is.
+    VbVec3d position;
+    /// From points relative to the eye to the cube that OpenGL clips at.
+    VbMatrix eyeToClip;
+    /// The origin, where the eye is, and 1; or the direction to it and 0.
     std::array<float, 4> eye{};
     /// The line of sight.
     VbVec3f direction;
@@ -28,8 +32,8 @@ struct PictureFrame {
         const NxViewpoint& viewpoint, const NxBounds& shown, int pictureWidth, int pictureHeight, float pixelsPerPoint);
     PictureFrame() = default;
 
-    /// How far away a point is along the line of sight, but for a constant.
-    [[nodiscard]] double depthOf(const VbVec3f& point) const noexcept;
+    /// How far away a point is along the line of sight.
+    [[nodiscard]] double depthOf(const VbVec3d& point) const noexcept;
 };
 
 } // namespace meridane

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "meridane/base/VbMatrix.h"
 #include "meridane/gl/GroupRecord.h"
+#include "meridane/gl/Matrix4d.h"
 #include "meridane/gl/MeshRecord.h"
 #include "meridane/gl/SlotTable.h"
 
@@ -50,7 +50,7 @@ public:
     [[nodiscard]] const Place& place(Id id) const noexcept { return m_places[id]; }
     [[nodiscard]] Item& item(Id id) noexcept { return m_items[id]; }
     [[nodiscard]] const Item& item(Id id) const noexcept { return m_items[id]; }
-    [[nodiscard]] const VbMatrix& placementOf(const Item& item) const noexcept
+    [[nodiscard]] const Matrix4d& placementOf(const Item& item) const noexcept
     {
         return placements[m_places[item.place].placement];
     }
@@ -59,7 +59,7 @@ public:
     [[nodiscard]] std::size_t count() const noexcept { return m_places.count() + m_items.count(); }
     [[nodiscard]] std::size_t bytes() const noexcept { return m_places.bytes() + m_items.bytes() + placements.bytes(); }
 
-    SlotTable<VbMatrix> placements;
+    SlotTable<Matrix4d> placements;
 
 private:
     SlotTable<Place> m_places;

@@ -33,7 +33,7 @@ void PlacedScene::setRoot(NxNode* root)
     m_root = root;
     if (m_table.count() == 0) {
         Place top;
-        top.placement = m_table.placements.add(VbMatrix());
+        top.placement = m_table.placements.add(Matrix4d());
         top.look = m_looks.use(Look());
         m_table.addPlace(top);
     }
@@ -145,10 +145,10 @@ void PlacedScene::inspectMesh(MeshRecord& mesh)
     mesh.areLevelsStale = true;
 }
 
-VbMatrix PlacedScene::placementIn(GroupRecord& group, const VbMatrix& parent)
+Matrix4d PlacedScene::placementIn(GroupRecord& group, const Matrix4d& parent)
 {
-    const VbMatrix own = placementOf(group.group());
-    m_problems.note(group, Problem::Transform, !inverse(own).has_value(),
+    const Matrix4d own = placementOf(group.group());
+    m_problems.note(group, Problem::Transform, !inverse(narrowed(own)).has_value(),
         [] { return "its matrix can't be inverted; what it places is flat or can't be drawn"; });
     return multiply(own, parent);
 }
@@ -163,7 +163,7 @@ void PlacedScene::move(Id top)
         waiting.pop_back();
         if (place.group->isTransform()) {
             const Id above = m_table.place(place.parent).placement;
-            const VbMatrix matrix = placementIn(*place.group, m_table.placements[above]);
+            const Matrix4d matrix = placementIn(*place.group, m_table.placements[above]);
             if (matrix == m_table.placements[place.placement])
                 continue;
             m_table.placements[place.placement] = matrix;
@@ -176,17 +176,17 @@ void PlacedScene::move(Id top)
     }
 }
 
-NxBounds PlacedScene::boundsOf(const Item& item) const
+NxBounds PlacedScene::boundsOf(const Item& item, const VbVec3d& from) const
 {
     const NxBounds& own = item.mesh->shape.bounds;
     NxBounds bounds;
     if (own.isEmpty())
         return bounds;
-    const VbMatrix& placement = m_table.placementOf(item);
+    const Matrix4d& placement = m_table.placementOf(item);
     for (unsigned int corner = 0; corner < 8; ++corner) {
         const VbVec3f point((corner & 1U) != 0 ? own.max[0] : own.min[0], (corner & 2U) != 0 ? own.max[1] : own.min[1],
             (corner & 4U) != 0 ? own.max[2] : own.min[2]);
-        const VbVec3f place = transformPoint(point, placement);
+        const VbVec3f place = narrowed(subtract(transformPoint(point, placement), from));
         if (!isFinite(place))
             return {};
         bounds.include(place);

@@ -64,6 +64,9 @@ public:
     [[nodiscard]] std::vector<Id> itemsBelow(const NxNode* node) const;
     /// The same for one place, told by the nodes from a child of the root down.
     [[nodiscard]] std::vector<Id> itemsBelow(std::span<const NxNode* const> path) const;
+    /// The box around an item, relative to that point, which makes it exact far from the origin; empty for one that
+    /// lies farther away than floats reach.
+    [[nodiscard]] NxBounds boundsOf(const Item& item, const VbVec3d& from = VbVec3d()) const;
     /// Calls `visit` with each record of a texture or mesh.
     template <typename Record, typename Visit>
     void forEach(NodeKind kind, Visit visit)
@@ -104,9 +107,8 @@ private:
     void removePlace(Id id);
     void removeItem(Id id);
     void move(Id top);
-    [[nodiscard]] VbMatrix placementIn(GroupRecord& group, const VbMatrix& parent);
+    [[nodiscard]] Matrix4d placementIn(GroupRecord& group, const Matrix4d& parent);
     void inspectMesh(MeshRecord& mesh);
-    [[nodiscard]] NxBounds boundsOf(const Item& item) const;
     void collect(Id top, std::vector<Id>& items) const;
     void bury();
 

@@ -12,8 +12,9 @@ layout(location = 0) in vec3 position;
 layout(location = 1) in vec3 normal;
 layout(location = 2) in vec2 coordinate;
 layout(location = 3) in vec4 color;
+uniform vec3 origin;
 uniform mat4 placement;
-uniform mat4 sceneToClip;
+uniform mat4 eyeToClip;
 uniform mat3 normalMatrix;
 uniform float pointSize;
 out vec3 scenePoint;
@@ -28,7 +29,8 @@ out vec4 ownColor;
 #endif
 void main()
 {
-    vec4 point = placement * vec4(position, 1.0);
+    // The difference of two numbers that are near each other is exact, however large they are.
+    vec4 point = placement * vec4(position - origin, 1.0);
     scenePoint = point.xyz / point.w;
 #if LIGHT == SMOOTH || LIGHT == LINE
     sceneNormal = normalMatrix * normal;
@@ -39,12 +41,13 @@ void main()
 #ifdef COLORED
     ownColor = color;
 #endif
-    gl_Position = sceneToClip * point;
+    gl_Position = eyeToClip * point;
     gl_PointSize = pointSize;
 }
 )";
 
-// Colours are those of the screen throughout, as fields and images tell them, and so are sums of light.
+// Points are relative to the eye. Colours are those of the screen throughout, as fields and images tell them, and so
+// are sums of light.
 constexpr const char* fragmentSource = R"(
 in vec3 scenePoint;
 #if LIGHT == SMOOTH || LIGHT == LINE
@@ -159,9 +162,10 @@ SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant varian
     SurfaceProgram result{GLProgram(gl, "meshes", head + vertexSource, head + fragmentSource)};
     if (!result.program.isUsable())
         return result;
+    result.origin = result.program.uniform("origin");
     result.placement = result.program.uniform("placement");
     result.normalMatrix = result.program.uniform("normalMatrix");
-    result.sceneToClip = result.program.uniform("sceneToClip");
+    result.eyeToClip = result.program.uniform("eyeToClip");
     result.eye = result.program.uniform("eye");
     result.material = result.program.uniform("material");
     result.pointSize = result.program.uniform("pointSize");

@@ -29,10 +29,11 @@ struct SurfaceVariant {
 /// A program for a variant and the places of its variables.
 struct SurfaceProgram {
     GLProgram program;
-    int placement = -1; ///< mat4, from the mesh to the scene
+    int origin = -1; ///< vec3: `MeshShape::origin`
+    int placement = -1; ///< mat4, from the mesh, relative to its origin, to the scene, relative to the eye
     int normalMatrix = -1; ///< mat3
-    int sceneToClip = -1; ///< mat4
-    int eye = -1; ///< vec4: the position and 1, or the direction to the viewer and 0
+    int eyeToClip = -1; ///< mat4
+    int eye = -1; ///< vec4, as in `PictureFrame`
     int material = -1; ///< vec4[4], as `MaterialValues`
     int pointSize = -1;
 };

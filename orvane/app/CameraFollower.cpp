@@ -39,7 +39,7 @@ void CameraFollower::changed(void* follower, NxSensor* /*sensor*/)
 
 void CameraFollower::look() const
 {
-    VbMatrix cameraToScene;
+    meridane::Matrix4d cameraToScene;
     for (const NxRef<NxNode>& node : m_nodes)
         cameraToScene = meridane::multiply(meridane::placementOf(*node), cameraToScene);
     m_look(NxViewpoint::ofCamera(*camera(), cameraToScene));

@@ -42,7 +42,7 @@ std::vector<NxRef<NxNode>> held(const std::vector<NxNode*>& nodes)
 
 SceneView::SceneView(QWidget* parent)
     : QWidget(parent)
-    , m_navigation(m_viewpoint, [this](const QPointF& position) -> std::optional<VbVec3f> {
+    , m_navigation(m_viewpoint, [this](const QPointF& position) -> std::optional<VbVec3d> {
         const std::optional<NxRayHit> hit = hitAt(position);
         return hit ? std::optional(hit->point) : std::nullopt;
     })

@@ -58,7 +58,7 @@ public:
 
 Q_SIGNALS:
     /// The user clicked on a node, seen at that point; the nodes lead down to it from the scene.
-    void picked(const std::vector<NxNode*>& nodes, const VbVec3f& point);
+    void picked(const std::vector<NxNode*>& nodes, const VbVec3d& point);
     /// The user clicked on nothing.
     void pickedNothing();
     /// The user moved, not through `setViewpoint`.

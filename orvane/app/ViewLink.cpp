@@ -61,7 +61,7 @@ void ViewLink::showSelection()
     m_view->setSelectedPath(m_tree->model()->path(m_tree->current()));
 }
 
-void ViewLink::choose(const std::vector<NxNode*>& nodes, const VbVec3f& point)
+void ViewLink::choose(const std::vector<NxNode*>& nodes, const VbVec3d& point)
 {
     NxDelayQueue::getDefault().process(); // the tree may be behind the scene
     m_tree->setCurrent(m_tree->model()->indexOfPath(nodes));

@@ -12,7 +12,7 @@ class QStatusBar;
 class SceneTreePanel;
 class SceneView;
 class Session;
-class VbVec3f;
+class VbVec3d;
 
 /// Ties the view to the scene that is open, to the selection in the tree, and to the viewpoint kept for each scene.
 class ViewLink : public QObject {
@@ -25,7 +25,7 @@ private:
     void leaveScene();
     void showScene();
     void showSelection();
-    void choose(const std::vector<NxNode*>& nodes, const VbVec3f& point);
+    void choose(const std::vector<NxNode*>& nodes, const VbVec3d& point);
     void chooseNothing();
 
     Session& m_session;

@@ -35,7 +35,7 @@ VbVec2f ViewNavigation::place(const QPointF& position) const
 
 float ViewNavigation::distanceAt(const QPointF& position) const
 {
-    const std::optional<VbVec3f> point = m_findPoint(position);
+    const std::optional<VbVec3d> point = m_findPoint(position);
     return point ? m_viewpoint.getDistance(*point) : m_viewpoint.focalDistance;
 }
 

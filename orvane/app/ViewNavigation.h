@@ -17,7 +17,7 @@ class ViewNavigation {
 public:
     enum class Drag { None, Orbit, Pan };
     /// Tells which point of the scene is seen at a position, or nothing.
-    using PointFinder = std::function<std::optional<VbVec3f>(const QPointF& position)>;
+    using PointFinder = std::function<std::optional<VbVec3d>(const QPointF& position)>;
 
     /// The viewpoint outlives this.
     ViewNavigation(NxViewpoint& viewpoint, PointFinder findPoint);
@@ -47,7 +47,7 @@ private:
     Drag m_drag = Drag::None;
     QPointF m_last;
     float m_panDistance = 0;
-    std::optional<VbVec3f> m_zoomPoint; // what the latest zoom went to
+    std::optional<VbVec3d> m_zoomPoint; // what the latest zoom went to
     QPointF m_zoomPosition; // where it was found
     NxViewpoint m_zoomed; // what the latest zoom led to
 };

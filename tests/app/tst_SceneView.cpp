@@ -142,11 +142,11 @@ private Q_SLOTS:
         QFETCH(const Qt::Key, key);
         QFETCH(const Qt::KeyboardModifier, modifier);
         QFETCH(const VbVec3f, way);
-        const VbVec3f before = m_view->viewpoint().position;
+        const VbVec3d before = m_view->viewpoint().position;
         QTest::keyClick(m_view.get(), key, modifier);
-        const VbVec3f moved = subtract(m_view->viewpoint().position, before);
+        const VbVec3d moved = subtract(m_view->viewpoint().position, before);
         for (std::size_t i = 0; i < 3; ++i) {
-            const float sign = std::abs(moved[i]) < 1e-4F ? 0.F : std::copysign(1.F, moved[i]);
+            const float sign = std::abs(moved[i]) < 1e-4 ? 0.F : std::copysign(1.F, static_cast<float>(moved[i]));
             QCOMPARE(sign, way[i]);
         }
     }
@@ -176,8 +176,8 @@ private Q_SLOTS:
     void picksTheNodeThatIsClicked()
     {
         std::vector<NxNode*> nodes;
-        VbVec3f point;
-        connect(m_view.get(), &SceneView::picked, this, [&](const std::vector<NxNode*>& path, const VbVec3f& place) {
+        VbVec3d point;
+        connect(m_view.get(), &SceneView::picked, this, [&](const std::vector<NxNode*>& path, const VbVec3d& place) {
             nodes = path;
             point = place;
         });

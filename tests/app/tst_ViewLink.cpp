@@ -119,10 +119,10 @@ private Q_SLOTS:
         m_window->selectPath(QStringLiteral("/right"));
         view()->setFocus();
         QTest::keyClick(view(), Qt::Key_F);
-        QVERIFY(std::abs(view()->viewpoint().getFocalPoint()[0] - 2) < 0.01F);
+        QVERIFY(std::abs(view()->viewpoint().getFocalPoint()[0] - 2) < 0.01);
         QTest::keyClick(view(), Qt::Key_A);
         static_cast<void>(picture());
-        QVERIFY(std::abs(view()->viewpoint().getFocalPoint()[0]) < 0.01F);
+        QVERIFY(std::abs(view()->viewpoint().getFocalPoint()[0]) < 0.01);
     }
 
     void keepsWhatIsSwitchedOn()
@@ -156,10 +156,10 @@ private Q_SLOTS:
     {
         lookAhead();
         cameraAction(QStringLiteral("camera"))->trigger();
-        QCOMPARE(view()->viewpoint().position, VbVec3f(2, 0, 10));
+        QCOMPARE(view()->viewpoint().position, VbVec3d(2, 0, 10));
         auto* camera = dynamic_cast<NxCamera*>(m_window->document().scene()->getChild(0));
         camera->position.setValue(VbVec3f(-2, 0, 6));
-        QTRY_COMPARE(view()->viewpoint().position, VbVec3f(-2, 0, 6));
+        QTRY_COMPARE(view()->viewpoint().position, VbVec3d(-2, 0, 6));
         QVERIFY(ViewScenes::isLike(picture().pixelColor(view()->rect().center()), Qt::red));
         QVERIFY(cameraAction(QStringLiteral("camera"))->isChecked());
         QTest::keyClick(view(), Qt::Key_Minus);

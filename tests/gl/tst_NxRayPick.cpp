@@ -34,7 +34,7 @@ NxRef<NxMesh> makeTriangle()
     return mesh;
 }
 
-bool isNear(const VbVec3f& left, const VbVec3f& right)
+bool isNear(const VbVec3d& left, const VbVec3d& right)
 {
     return length(subtract(left, right)) < 1e-4;
 }

@@ -17,16 +17,16 @@ namespace {
 constexpr float aspect = 1.5F;
 const VbVec2f middle(0.5F, 0.5F);
 
-bool isNear(const VbVec3f& left, const VbVec3f& right, double tolerance = 1e-4)
+bool isNear(const VbVec3d& left, const VbVec3d& right, double tolerance = 1e-4)
 {
     return length(subtract(left, right)) <= tolerance;
 }
 
 /// Where a point of the scene stands in the picture, from (0, 0) to (1, 1).
-VbVec2f placeOf(const VbVec3f& point, const NxViewpoint& viewpoint)
+VbVec2f placeOf(const VbVec3d& point, const NxViewpoint& viewpoint)
 {
     const VbMatrix matrix = multiply(viewpoint.getViewMatrix(), viewpoint.getProjectionMatrix(aspect, 0.1F, 100));
-    const VbVec3f clipped = transformPoint(point, matrix);
+    const VbVec3f clipped = transformPoint(narrowed(point), matrix);
     return {(clipped[0] + 1) / 2, (clipped[1] + 1) / 2};
 }
 
@@ -71,7 +71,7 @@ private Q_SLOTS:
     {
         const NxViewpoint viewpoint;
         QCOMPARE(viewpoint.getDirection(), VbVec3f(0, 0, -1));
-        QCOMPARE(viewpoint.getFocalPoint(), VbVec3f());
+        QCOMPARE(viewpoint.getFocalPoint(), VbVec3d());
         QVERIFY(isNear(transformPoint(VbVec3f(1, 2, 0), viewpoint.getViewMatrix()), VbVec3f(1, 2, -5)));
     }
 
@@ -102,7 +102,7 @@ private Q_SLOTS:
     {
         NxViewpoint viewpoint;
         viewpoint.position = VbVec3f(1, 2, 8);
-        const VbVec3f focalPoint = viewpoint.getFocalPoint();
+        const VbVec3d focalPoint = viewpoint.getFocalPoint();
         viewpoint.orbit(std::numbers::pi_v<float> / 2, 0);
         QVERIFY(isNear(viewpoint.getFocalPoint(), focalPoint));
         QVERIFY(isNear(viewpoint.position, add(focalPoint, VbVec3f(5, 0, 0))));
@@ -136,7 +136,7 @@ private Q_SLOTS:
         QFETCH(NxViewpoint, viewpoint);
         const VbVec2f from(0.3F, 0.3F);
         const VbVec2f to(0.6F, 0.2F);
-        const VbVec3f grabbed = viewpoint.getPoint(from, aspect, 6);
+        const VbVec3d grabbed = viewpoint.getPoint(from, aspect, 6);
         viewpoint.pan(from, to, aspect, 6);
         QVERIFY(isNear(placeOf(grabbed, viewpoint), to));
     }
@@ -146,7 +146,7 @@ private Q_SLOTS:
     {
         QFETCH(NxViewpoint, viewpoint);
         const VbVec2f place(0.25F, 0.7F);
-        const VbVec3f point = viewpoint.getPoint(place, aspect, 5);
+        const VbVec3d point = viewpoint.getPoint(place, aspect, 5);
         const float height = viewpoint.getHeightAt(viewpoint.getDistance(point));
         viewpoint.zoom(2, point);
         QVERIFY(isNear(placeOf(point, viewpoint), place));
@@ -187,7 +187,7 @@ private Q_SLOTS:
     {
         NxViewpoint viewpoint;
         viewpoint.frame(VbVec3f(3, 3, 3), VbVec3f(3, 3, 3), aspect);
-        QCOMPARE(viewpoint.position, VbVec3f(3, 3, 8));
+        QCOMPARE(viewpoint.position, VbVec3d(3, 3, 8));
         const NxViewpoint before = viewpoint;
         viewpoint.frame(VbVec3f(3, std::numeric_limits<float>::quiet_NaN(), 3), VbVec3f(3, 3, 3), aspect);
         QCOMPARE(viewpoint, before);
@@ -225,7 +225,7 @@ private Q_SLOTS:
         const NxViewpoint before = viewpoint;
         viewpoint.zoom(3, VbVec3f(0.5F, 0.1F, 0));
         const float height = viewpoint.getHeightAt(viewpoint.focalDistance);
-        const VbVec3f focalPoint = viewpoint.getFocalPoint();
+        const VbVec3d focalPoint = viewpoint.getFocalPoint();
         viewpoint.setProjection(NxViewpoint::ORTHOGRAPHIC);
         QVERIFY(std::abs(viewpoint.getHeightAt(1) - height) < 1e-4F);
         viewpoint.zoom(2, focalPoint);
@@ -250,7 +250,7 @@ private Q_SLOTS:
         camera->heightAngle.setIgnored(1);
         camera->position.setIgnored(1);
         QCOMPARE(NxViewpoint::ofCamera(*camera, VbMatrix()).heightAngle, NxViewpoint().heightAngle);
-        QCOMPARE(NxViewpoint::ofCamera(*camera, VbMatrix()).position, VbVec3f(0, 0, 1));
+        QCOMPARE(NxViewpoint::ofCamera(*camera, VbMatrix()).position, VbVec3d(0, 0, 1));
     }
 
     void takesOverAnOrthographicCamera()
