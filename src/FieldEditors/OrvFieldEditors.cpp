@@ -23,8 +23,10 @@ void OrvFieldEditors::activate()
 {
     OrvExtension::activate();
     auto* const field = dynamic_cast<NxField*>(m_editedObject);
-    if (field == nullptr)
+    if (field == nullptr) {
+        m_frame->hide(); // which the dock showed by taking it in
         return;
+    }
     setField(field);
     updateFromField();
     show();

@@ -114,6 +114,7 @@ void tst_OrvFieldEditors::activateWithAnObjectThatIsNoFieldShowsNothing()
 {
     EditorRun run(*m_editor);
     m_editor->setEditedObject(m_tool->node.get());
+    m_editor->getFrame()->show(); // as a dock does that takes it in
     m_calls.clear();
     m_editor->activate();
     QCOMPARE(m_calls, QStringList(QStringLiteral("E activate")));

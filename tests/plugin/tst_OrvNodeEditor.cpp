@@ -34,6 +34,7 @@ private:
 struct Extensions {
     QStringList calls;
     RecordingEditor line{"line", NxSField::getClassTypeId(), calls};
+    RecordingEditor fieldsOfNodes{"fields of nodes", NxFieldGallery::getClassTypeId(), calls};
     GalleryEditor gallery;
     OrvNodeEditor dock;
 };
@@ -51,14 +52,15 @@ private Q_SLOTS:
     void editorOfTheNodeIsShown();
     void selectedFieldsAreNotFollowed();
     void fieldEditorsFitNoNode();
+    void aFieldEditorOfANodeStaysHiddenInTheDock();
     void noSelectionReleasesTheEditor();
     void slotIsTheOnlyMetaMethod();
 
 private:
     void start(const QStringList& controlled)
     {
-        m_tool = std::make_unique<HostHarness>(
-            QList<OrvExtension*>{&m_extensions->line, &m_extensions->gallery, &m_extensions->dock},
+        m_tool = std::make_unique<HostHarness>(QList<OrvExtension*>{&m_extensions->line, &m_extensions->fieldsOfNodes,
+                                                   &m_extensions->gallery, &m_extensions->dock},
             QStringLiteral("Node Editor"), controlled);
     }
 
@@ -120,6 +122,22 @@ void tst_OrvNodeEditor::fieldEditorsFitNoNode()
     m_tool->services.selectNode(m_tool->node.get());
     QVERIFY(m_tool->dock()->isHidden());
     QVERIFY(m_tool->dock()->widget() == nullptr);
+}
+
+void tst_OrvNodeEditor::aFieldEditorOfANodeStaysHiddenInTheDock()
+{
+    start({QStringLiteral("fields of nodes")});
+    m_extensions->calls.clear();
+    m_tool->services.selectNode(m_tool->node.get());
+    QVERIFY(m_tool->dock()->isVisible());
+    QCOMPARE(m_tool->dock()->widget(), m_extensions->fieldsOfNodes.getFrame());
+    QVERIFY(m_extensions->fieldsOfNodes.isActive());
+    QVERIFY(m_extensions->fieldsOfNodes.getFrame()->isHidden());
+    QVERIFY(!m_extensions->calls.contains(QStringLiteral("fields of nodes hide")));
+    QCoreApplication::processEvents();
+    QVERIFY(!m_extensions->fieldsOfNodes.getFrame()->isVisible());
+    m_tool->services.selectNode(nullptr);
+    QVERIFY(m_tool->dock()->isHidden());
 }
 
 void tst_OrvNodeEditor::noSelectionReleasesTheEditor()
