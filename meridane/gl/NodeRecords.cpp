@@ -5,9 +5,17 @@
 #include "meridane/gl/LookRecords.h"
 #include "meridane/gl/MeshRecord.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace meridane {
+
+void NodeRecords::makeRoom()
+{
+    const std::size_t records = m_records.size() + m_orphans.size() + 1;
+    if (records > m_unused.capacity())
+        m_unused.reserve(std::max(records, 2 * m_unused.capacity()));
+}
 
 void NodeRecords::forgetNode(NodeRecord& record)
 {

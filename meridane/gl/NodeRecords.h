@@ -20,6 +20,7 @@ public:
         const auto known = m_records.find(&node);
         if (known != m_records.end())
             return static_cast<Record&>(*known->second);
+        makeRoom();
         auto made = std::make_unique<Record>(node, listener);
         Record& record = *made;
         m_records.emplace(&node, std::move(made));
@@ -29,7 +30,7 @@ public:
     }
 
     static void retain(NodeRecord& record) noexcept { ++record.uses; }
-    void release(NodeRecord& record)
+    void release(NodeRecord& record) noexcept
     {
         if (--record.uses == 0)
             markUnused(record);
@@ -63,12 +64,12 @@ public:
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
 
 private:
-    void markUnused(NodeRecord& record)
+    // For one record more to be marked as unused, which then can't run out of memory.
+    void makeRoom();
+    void markUnused(NodeRecord& record) noexcept
     {
-        if (record.isUnused)
-            return;
-        record.isUnused = true;
-        m_unused.push_back(&record);
+        if (!std::exchange(record.isUnused, true))
+            m_unused.push_back(&record);
     }
     void destroy(NodeRecord& record);
     [[nodiscard]] static std::size_t bytesOf(const NodeRecord& record) noexcept;

@@ -14,8 +14,8 @@ void NxNodeSensor::attach(NxFieldContainer* node)
     detach();
     if (node == nullptr)
         return;
-    m_node = node;
     node->rare().sensors.append(this);
+    m_node = node; // only now, for there may be no memory for the list
 }
 
 void NxNodeSensor::detach()

@@ -1,4 +1,5 @@
 #include "TestNodes.h"
+#include "base/FailingMemory.h"
 
 #include "meridane/base/NxDelayQueue.h"
 #include "meridane/base/VbString.h"
@@ -37,6 +38,7 @@ class tst_NxNodeSensor : public QObject {
 
 private Q_SLOTS:
     void attachingDoesNotNotify();
+    void aSensorThatThereIsNoMemoryForStaysDetached();
     void anyFieldNotifies();
     void theNameNotifies();
     void changesOfSeveralFieldsGiveOneCallback();
@@ -53,6 +55,19 @@ void tst_NxNodeSensor::attachingDoesNotNotify()
     Watched watched;
     QVERIFY(watched.sensor.getAttachedNode() == watched.node.get());
     QCOMPARE(watched.take(), 0);
+}
+
+void tst_NxNodeSensor::aSensorThatThereIsNoMemoryForStaysDetached()
+{
+    const NxRef<ProbeNode> node(new ProbeNode);
+    NxNodeSensor sensor;
+    FailingMemory::allocationsLeft = 0;
+    QVERIFY_THROWS_EXCEPTION(std::bad_alloc, sensor.attach(node.get()));
+    FailingMemory::allocationsLeft = -1;
+    QVERIFY(sensor.getAttachedNode() == nullptr);
+    sensor.detach();
+    sensor.attach(node.get());
+    QVERIFY(sensor.getAttachedNode() == node.get());
 }
 
 void tst_NxNodeSensor::anyFieldNotifies()
