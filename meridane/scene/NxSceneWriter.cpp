@@ -9,6 +9,11 @@ NxSceneWriter::NxSceneWriter(NxGroup* scene)
 
 NxSceneWriter::~NxSceneWriter() = default;
 
+void NxSceneWriter::setPathMap(PathMap map)
+{
+    m_printer->setPathMap(std::move(map));
+}
+
 bool NxSceneWriter::step(std::string& text, std::chrono::microseconds budget)
 {
     return m_printer->step(text, budget);

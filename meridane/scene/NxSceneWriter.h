@@ -4,8 +4,10 @@
 #include "meridane/scene/NxRef.h"
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 /// Writes a scene as the text of a scene file, in slices. The same scene gives the same bytes. The scene must not
 /// change while it is written. Thread of the user interface only.
@@ -14,6 +16,12 @@ public:
     /// `scene` is the group that holds the top nodes; its own name and fields aren't written.
     explicit NxSceneWriter(NxGroup* scene);
     ~NxSceneWriter();
+
+    /// Gives the path to write in place of one that the scene has.
+    using PathMap = std::function<std::string(std::string_view path)>;
+    /// Writes what `map` makes of the file paths in the scene, the values of `NxSFFilePathString`; null for the paths
+    /// themselves. The scene isn't changed. Comes before the first `step`.
+    void setPathMap(PathMap map);
 
     /// Goes on writing until done or until the budget is spent, and appends to `text`, which the caller may empty
     /// between two calls. True while there is more to write.

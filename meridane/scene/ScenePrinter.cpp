@@ -4,6 +4,7 @@
 #include "meridane/base/VbString.h"
 #include "meridane/scene/NxField.h"
 #include "meridane/scene/NxFieldData.h"
+#include "meridane/scene/NxSFFilePathString.h"
 #include "meridane/scene/NxSceneReader.h"
 #include "meridane/scene/SceneLimits.h"
 #include "meridane/scene/ValueText.h"
@@ -111,6 +112,8 @@ bool NxSceneWriter::Printer::startNextField(std::string& text)
             continue;
         const std::size_t lineStart = text.size();
         startField(text, open.data->getFieldName(index).getString(), field->isIgnored());
+        if (writeMappedPath(text, *field))
+            return true;
         m_wrapper.start(text.size() - lineStart, m_open.size() * blanksPerLevel);
         m_field = field;
         m_position = 0;
@@ -118,6 +121,16 @@ bool NxSceneWriter::Printer::startNextField(std::string& text)
         return true;
     }
     return false;
+}
+
+bool NxSceneWriter::Printer::writeMappedPath(std::string& text, const NxField& field) const
+{
+    if (!m_pathMap || !field.isOfType(NxSFFilePathString::getClassTypeId()))
+        return false;
+    const VbString& path = static_cast<const NxSFFilePathString&>(field).getValue();
+    meridane::writeValue(text, VbString(m_pathMap(path.view())));
+    text += '\n';
+    return true;
 }
 
 void NxSceneWriter::Printer::startField(std::string& text, std::string_view name, bool ignored)

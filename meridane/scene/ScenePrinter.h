@@ -6,6 +6,7 @@
 #include "meridane/scene/ValueWrapper.h"
 
 #include <string_view>
+#include <utility>
 #include <vector>
 
 class NxField;
@@ -16,6 +17,7 @@ class NxSceneWriter::Printer {
 public:
     explicit Printer(NxGroup* scene);
 
+    void setPathMap(PathMap map) { m_pathMap = std::move(map); }
     bool step(std::string& text, std::chrono::microseconds budget);
     [[nodiscard]] double progress() const noexcept;
     [[nodiscard]] const std::string& failure() const noexcept { return m_failure; }
@@ -36,6 +38,7 @@ private:
     void lookOver(std::string& text);
     void writeNext(std::string& text);
     bool startNextField(std::string& text);
+    bool writeMappedPath(std::string& text, const NxField& field) const;
     void startField(std::string& text, std::string_view name, bool ignored);
     void writeValueSlice(std::string& text);
     void writeUnknownField(std::string& text, const NxFieldContainer::UnknownField& field);
@@ -50,6 +53,7 @@ private:
     std::vector<OpenNode> m_open; // from the scene itself on
     std::size_t m_written = 0; // nodes
     std::string m_failure;
+    PathMap m_pathMap;
 
     // The value that is being written over several slices.
     const NxField* m_field = nullptr;

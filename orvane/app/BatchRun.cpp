@@ -3,6 +3,7 @@
 #include "orvane/app/FileJobs.h"
 #include "orvane/app/SceneEdit.h"
 #include "orvane/app/SceneListing.h"
+#include "orvane/app/ScenePaths.h"
 #include "orvane/app/SearchFolders.h"
 #include "orvane/app/Session.h"
 #include "orvane/extender/OrvEditor.h"
@@ -133,7 +134,7 @@ std::optional<QString> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
     if (m_commandLine.list)
         SceneListing(scene.get(), m_output).print();
     for (const QString& fileName : m_commandLine.exportFiles) {
-        if (auto failure = finish(*orvane::makeSaveJob(scene, fileName)))
+        if (auto failure = finish(*orvane::makeSaveJob(scene, fileName, orvane::folderOf(m_commandLine.file))))
             return failure;
     }
     return std::nullopt;

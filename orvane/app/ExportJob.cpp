@@ -1,5 +1,6 @@
 #include "orvane/app/ExportJob.h"
 
+#include "orvane/app/ScenePaths.h"
 #include "orvane/app/SliceClock.h"
 #include "orvane/app/TextConversion.h"
 
@@ -22,9 +23,11 @@ QStringList helperArguments(const QString& fileName)
 
 } // namespace
 
-ExportJob::ExportJob(const NxRef<NxGroup>& scene, const QString& fileName, const HelperOptions& options)
+ExportJob::ExportJob(
+    const NxRef<NxGroup>& scene, const QString& fileName, const HelperOptions& options, const QString& pathFolder)
     : FileJob(fileName)
     , m_scene(scene)
+    , m_pathFolder(pathFolder)
     , m_helper(options, helperArguments(fileName))
 {
     connect(&m_helper, &HelperProcess::ended, this, &ExportJob::takeFiles);
@@ -49,6 +52,7 @@ void ExportJob::start()
         return;
     }
     m_writer = std::make_unique<NxSceneWriter>(m_scene.get());
+    m_writer->setPathMap(orvane::pathMap(m_pathFolder, orvane::folderOf(fileName())));
     m_helper.start();
     m_slices.start(0);
 }

@@ -20,7 +20,9 @@ class ExportJob : public FileJob {
     Q_OBJECT
 
 public:
-    ExportJob(const NxRef<NxGroup>& scene, const QString& fileName, const HelperOptions& options = {});
+    /// Relative file paths in the scene count from `pathFolder`, see `orvane::rebasedPath`.
+    ExportJob(const NxRef<NxGroup>& scene, const QString& fileName, const HelperOptions& options = {},
+        const QString& pathFolder = {});
     ~ExportJob() override;
 
     void start() override;
@@ -35,6 +37,7 @@ private:
     void fail(const QString& message);
 
     NxRef<NxGroup> m_scene;
+    QString m_pathFolder;
     HelperProcess m_helper;
     QTimer m_slices;
     std::unique_ptr<NxSceneWriter> m_writer;

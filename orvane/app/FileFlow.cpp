@@ -6,6 +6,7 @@
 #include "orvane/app/PendingEdits.h"
 #include "orvane/app/RecentFiles.h"
 #include "orvane/app/SaveQuestion.h"
+#include "orvane/app/ScenePaths.h"
 #include "orvane/app/Session.h"
 #include "orvane/app/TextConversion.h"
 
@@ -205,6 +206,7 @@ void FileFlow::takeScene(const NxRef<NxGroup>& scene, const QString& fileName, c
 void FileFlow::addToScene(const NxRef<NxGroup>& content, const QString& fileName)
 {
     m_recent.add(fileName);
+    orvane::rebasePaths(*content, orvane::folderOf(fileName), m_session.document().pathFolder());
     content->setName(orvane::toVbString(QFileInfo(fileName).completeBaseName()));
     m_session.services().pushCommand(new AddNodeCommand(m_session.document().scene(), content, m_session.disposal()));
     Q_EMIT ended({});
@@ -274,7 +276,8 @@ void FileFlow::write(const QString& fileName, const QString& text, const Next& n
         next.giveUp();
         return;
     }
-    m_work.write(m_jobMakers.save(NxRef<NxGroup>(m_session.document().scene()), fileName), text, next);
+    const SceneDocument& document = m_session.document();
+    m_work.write(m_jobMakers.save(NxRef<NxGroup>(document.scene()), fileName, document.pathFolder()), text, next);
 }
 
 bool FileFlow::mayWrite()

@@ -32,7 +32,9 @@ public:
     /// What makes the jobs.
     struct JobMakers {
         std::function<std::unique_ptr<SceneJob>(const QString& fileName)> load;
-        std::function<std::unique_ptr<FileJob>(const NxRef<NxGroup>& scene, const QString& fileName)> save;
+        std::function<std::unique_ptr<FileJob>(
+            const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder)>
+            save;
     };
 
     /// The session, the bars and the window live longer than the flow.

@@ -15,11 +15,11 @@ std::unique_ptr<SceneJob> makeLoadJob(const QString& fileName)
     return std::make_unique<ImportJob>(fileName);
 }
 
-std::unique_ptr<FileJob> makeSaveJob(const NxRef<NxGroup>& scene, const QString& fileName)
+std::unique_ptr<FileJob> makeSaveJob(const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder)
 {
     if (SceneDocument::isSceneFileName(fileName))
-        return std::make_unique<SaveJob>(scene, fileName);
-    return std::make_unique<ExportJob>(scene, fileName);
+        return std::make_unique<SaveJob>(scene, fileName, pathFolder);
+    return std::make_unique<ExportJob>(scene, fileName, HelperOptions(), pathFolder);
 }
 
 QString openFilters()

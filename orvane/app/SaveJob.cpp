@@ -1,11 +1,13 @@
 #include "orvane/app/SaveJob.h"
 
+#include "orvane/app/ScenePaths.h"
 #include "orvane/app/SliceClock.h"
 #include "orvane/app/TextConversion.h"
 
-SaveJob::SaveJob(const NxRef<NxGroup>& scene, const QString& fileName)
+SaveJob::SaveJob(const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder)
     : FileJob(fileName)
     , m_scene(scene)
+    , m_pathFolder(pathFolder)
 {
 }
 
@@ -14,6 +16,7 @@ SaveJob::~SaveJob() = default;
 void SaveJob::start()
 {
     m_writer = std::make_unique<NxSceneWriter>(m_scene.get());
+    m_writer->setPathMap(orvane::pathMap(m_pathFolder, orvane::folderOf(fileName())));
     m_timer.start(0, this);
 }
 

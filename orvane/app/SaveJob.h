@@ -16,7 +16,8 @@ class SaveJob : public FileJob {
     Q_OBJECT
 
 public:
-    SaveJob(const NxRef<NxGroup>& scene, const QString& fileName);
+    /// Relative file paths in the scene count from `pathFolder`, see `orvane::rebasedPath`.
+    SaveJob(const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder = {});
     ~SaveJob() override;
 
     void start() override;
@@ -30,6 +31,7 @@ private:
 
     QBasicTimer m_timer;
     NxRef<NxGroup> m_scene;
+    QString m_pathFolder;
     std::unique_ptr<NxSceneWriter> m_writer;
     std::unique_ptr<meridane::FileReplacer> m_file; // once it is open
 };

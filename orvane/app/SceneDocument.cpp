@@ -1,6 +1,7 @@
 #include "orvane/app/SceneDocument.h"
 
 #include "orvane/app/SceneDisposal.h"
+#include "orvane/app/ScenePaths.h"
 #include "orvane/extender/OrvServices.h"
 
 #include <QFileInfo>
@@ -53,6 +54,8 @@ void SceneDocument::close()
 void SceneDocument::setSaved(const QString& fileName)
 {
     m_services.setClean();
+    if (m_pathFolder.isEmpty())
+        m_pathFolder = orvane::folderOf(fileName);
     setFileName(QFileInfo(fileName).absoluteFilePath());
     reportModified();
 }
@@ -71,6 +74,7 @@ void SceneDocument::replace(NxRef<NxGroup> scene, const QString& fileName)
     m_services.clearHistory();
     m_disposal.dispose(std::exchange(m_scene, std::move(scene)));
     ++m_sceneNumber;
+    m_pathFolder = orvane::folderOf(fileName);
     m_fileName = fileName; // whoever shows the scene may ask for its folder
     Q_EMIT sceneChanged();
     setFileName(fileName);

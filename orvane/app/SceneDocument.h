@@ -25,6 +25,10 @@ public:
     [[nodiscard]] NxGroup* scene() const noexcept { return m_scene.get(); }
     /// The file that the scene came from or was last saved to, absolute; empty for a new scene.
     [[nodiscard]] const QString& fileName() const noexcept { return m_fileName; }
+    /// The folder that relative file paths in the scene count from: that of the file that the scene was opened from, or
+    /// first saved to; empty for a new scene. Saving elsewhere doesn't change the scene, so it doesn't change this
+    /// either.
+    [[nodiscard]] const QString& pathFolder() const noexcept { return m_pathFolder; }
     /// The file that saving writes: empty where the user must choose one, as for a scene that was imported.
     [[nodiscard]] QString saveFileName() const;
     /// What to call the scene in front of the user.
@@ -62,6 +66,7 @@ private:
     SceneDisposal& m_disposal;
     NxRef<NxGroup> m_scene;
     QString m_fileName;
+    QString m_pathFolder;
     int m_sceneNumber = 1;
     bool m_reportedModified = false;
 };

@@ -7,18 +7,8 @@
 
 #include "meridane/base/NxDelayQueue.h"
 
-#include <QFileInfo>
 #include <QLabel>
 #include <QStatusBar>
-
-namespace {
-
-QString folderOf(const QString& fileName)
-{
-    return fileName.isEmpty() ? QString() : QFileInfo(fileName).absolutePath();
-}
-
-} // namespace
 
 ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QStatusBar* bar)
     : QObject(view)
@@ -36,7 +26,7 @@ ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QSta
     connect(&document, &SceneDocument::sceneAboutToChange, this, &ViewLink::leaveScene);
     connect(&document, &SceneDocument::sceneChanged, this, &ViewLink::showScene);
     connect(&document, &SceneDocument::fileNameChanged, this,
-        [this] { m_view->drawing().setFolder(folderOf(m_session.document().fileName())); });
+        [this] { m_view->drawing().setFolder(m_session.document().pathFolder()); });
     connect(tree, &SceneTreePanel::currentChanged, this, &ViewLink::showSelection);
     connect(view, &SceneView::picked, this, &ViewLink::choose);
     connect(view, &SceneView::pickedNothing, this, &ViewLink::chooseNothing);
@@ -52,7 +42,7 @@ void ViewLink::leaveScene()
 void ViewLink::showScene()
 {
     const SceneDocument& document = m_session.document();
-    m_view->setScene(document.scene(), folderOf(document.fileName()), m_cameras.find(document.fileName()));
+    m_view->setScene(document.scene(), document.pathFolder(), m_cameras.find(document.fileName()));
 }
 
 void ViewLink::showSelection()

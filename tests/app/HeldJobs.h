@@ -62,7 +62,7 @@ public:
     [[nodiscard]] FileFlow::JobMakers makers()
     {
         return {[this](const QString& fileName) { return std::make_unique<Load>(*this, fileName); },
-            [this](const NxRef<NxGroup>& scene, const QString& fileName) {
+            [this](const NxRef<NxGroup>& scene, const QString& fileName, const QString& /*pathFolder*/) {
                 return std::make_unique<Save>(*this, scene, fileName);
             }};
     }

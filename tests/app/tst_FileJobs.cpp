@@ -162,8 +162,8 @@ private Q_SLOTS:
     {
         QVERIFY(dynamic_cast<LoadJob*>(orvane::makeLoadJob(QStringLiteral("a.MRD")).get()) != nullptr);
         QVERIFY(dynamic_cast<LoadJob*>(orvane::makeLoadJob(QStringLiteral("a.glb")).get()) == nullptr);
-        QVERIFY(dynamic_cast<SaveJob*>(orvane::makeSaveJob(AppScenes::robot(), QStringLiteral("a.mrd")).get()));
-        QVERIFY(!dynamic_cast<SaveJob*>(orvane::makeSaveJob(AppScenes::robot(), QStringLiteral("a.obj")).get()));
+        QVERIFY(dynamic_cast<SaveJob*>(orvane::makeSaveJob(AppScenes::robot(), QStringLiteral("a.mrd"), {}).get()));
+        QVERIFY(!dynamic_cast<SaveJob*>(orvane::makeSaveJob(AppScenes::robot(), QStringLiteral("a.obj"), {}).get()));
     }
 
 private:

@@ -51,6 +51,18 @@ private Q_SLOTS:
         QCOMPARE(modified.size(), 4);
     }
 
+    void pathsCountFromWhereTheSceneWasOpened()
+    {
+        m_document->open(AppScenes::robot(), QStringLiteral("/x/robot.mrd"));
+        QCOMPARE(m_document->pathFolder(), QStringLiteral("/x"));
+        m_document->setSaved(QStringLiteral("/y/robot.mrd"));
+        QCOMPARE(m_document->pathFolder(), QStringLiteral("/x"));
+        m_document->newScene();
+        QCOMPARE(m_document->pathFolder(), QString());
+        m_document->setSaved(QStringLiteral("/y/new.mrd"));
+        QCOMPARE(m_document->pathFolder(), QStringLiteral("/y"));
+    }
+
     void asksForAFileWhereTheSceneWasImported()
     {
         m_document->open(AppScenes::robot(), QStringLiteral("/x/robot.glb"));

@@ -36,6 +36,21 @@ private Q_SLOTS:
         QCOMPARE(NxSceneWriter::toText(NxRef<NxGroup>(new NxGroup).get()), std::string("#mrd 1.0\n"));
     }
 
+    void filePathsAreWrittenAsTheMapHasThem()
+    {
+        const std::string text = "#mrd 1.0\n\nTexture \"wood\" {\n    ignored filePath = \"a\\\"b.png\"\n}\n";
+        NxSceneReader reader(text, "test");
+        QVERIFY(reader.run() == NxSceneReader::State::Done);
+        const NxRef<NxGroup> scene = reader.takeScene();
+        NxSceneWriter writer(scene.get());
+        writer.setPathMap([](std::string_view path) { return "\"x/" + std::string(path); });
+        std::string written;
+        while (writer.step(written, 1ms)) { }
+        QCOMPARE(written, "#mrd 1.0\n\nTexture \"wood\" {\n    ignored filePath = \"\\\"x/a\\\"b.png\"\n}\n");
+        // The scene is as it was.
+        QCOMPARE(NxSceneWriter::toText(scene.get()), text);
+    }
+
     void theExamplesAreWrittenAsTheyStand_data()
     {
         QTest::addColumn<QByteArray>("file");
