@@ -5,9 +5,11 @@
 #include "orvane/app/TextConversion.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -19,6 +21,23 @@ QStringList helperArguments(const QString& fileName)
 {
     const QFileInfo file(fileName);
     return {QStringLiteral("--write"), file.suffix(), QStringLiteral("--name"), file.completeBaseName()};
+}
+
+bool hasContent(const QString& fileName, const std::string& bytes)
+{
+    const QFileInfo info(fileName);
+    QFile file(fileName);
+    if (!info.isFile() || info.size() != static_cast<qint64>(bytes.size()) || !file.open(QIODevice::ReadOnly))
+        return false;
+    constexpr std::size_t portion = std::size_t{1} << 20;
+    QByteArray present(static_cast<qsizetype>(std::min(portion, bytes.size())), Qt::Uninitialized);
+    for (std::size_t at = 0; at < bytes.size(); at += portion) {
+        const std::size_t count = std::min(portion, bytes.size() - at);
+        if (file.read(present.data(), static_cast<qint64>(count)) != static_cast<qint64>(count)
+            || std::memcmp(present.constData(), bytes.data() + at, count) != 0)
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -34,7 +53,14 @@ ExportJob::ExportJob(
     connect(&m_helper, &HelperProcess::failed, this, [this](const QString& reason, bool byHelper) {
         fail(byHelper ? reason : QStringLiteral("%1: %2").arg(this->fileName(), reason));
     });
-    connect(&m_slices, &QTimer::timeout, this, [this] { m_writer ? writeScene() : writeFiles(); });
+    connect(&m_slices, &QTimer::timeout, this, [this] {
+        if (m_writer)
+            writeScene();
+        else if (m_unchecked > 1)
+            checkFile();
+        else
+            writeFiles();
+    });
 }
 
 ExportJob::~ExportJob() = default;
@@ -103,7 +129,25 @@ void ExportJob::takeFiles()
         return;
     }
     m_files = std::move(*files);
+    m_unchecked = m_files.size();
+    m_replacesModel = QFileInfo::exists(fileName());
     m_slices.start(0);
+}
+
+void ExportJob::checkFile()
+{
+    const auto file = m_files.begin() + static_cast<std::ptrdiff_t>(--m_unchecked);
+    const QString path = QFileInfo(fileName()).absoluteDir().filePath(QFile::decodeName(file->name.c_str()));
+    const QFileInfo present(path);
+    if (!present.exists() && !present.isSymLink())
+        return;
+    if (hasContent(path, file->bytes))
+        m_files.erase(file); // an earlier export of the same image, perhaps
+    else if (!m_replacesModel || QFileInfo(path).completeBaseName() != QFileInfo(fileName()).completeBaseName())
+        fail(tr(
+            "%1: This file exists already and would be overwritten by one that belongs to %2. Choose another name for "
+            "the model, or move the file away.")
+                 .arg(path, QFileInfo(fileName()).fileName()));
 }
 
 void ExportJob::writeFiles()

@@ -14,8 +14,10 @@
 #include <vector>
 
 /// Writes a scene as a foreign model, in the format that the file's extension names: the text of the scene goes to the
-/// import helper, and the files that come back replace those of the same names, once all of them are written. The scene
-/// must not change meanwhile.
+/// import helper, and the files that come back are written, all of them or none. The scene must not change meanwhile.
+///
+/// The model's file replaces one of its name, and so do the files that belong to it by the same name with another
+/// extension. No other file is ever replaced: not such a file without a model, nor what has the name of an image.
 class ExportJob : public FileJob {
     Q_OBJECT
 
@@ -30,6 +32,7 @@ public:
 
 private:
     void writeScene();
+    void checkFile();
     void takeFiles();
     void writeFiles();
     void commitFiles();
@@ -42,6 +45,8 @@ private:
     QTimer m_slices;
     std::unique_ptr<NxSceneWriter> m_writer;
     std::vector<orvane::NamedFile> m_files;
+    std::size_t m_unchecked = 0; // of them, from the first; the model's own file needn't be checked
+    bool m_replacesModel = false;
     std::vector<std::unique_ptr<meridane::FileReplacer>> m_replacers; // of the files that are open, in their order
     std::size_t m_written = 0; // of the last of them, in bytes
     bool m_ended = false;

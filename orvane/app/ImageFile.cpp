@@ -65,7 +65,7 @@ void ImageFile::open(const QString& path, const ImageFolders& folders)
     // opened for reading then, even if the name means another file by now.
     const int looked = ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
     if (looked < 0) {
-        fail(qt_error_string(errno));
+        fail(QStringLiteral("%1: %2").arg(path, qt_error_string(errno)));
         return;
     }
     const QString realPath = realPathOf(looked);

@@ -11,6 +11,7 @@
 #include "meridane/scene/NxSwitch.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <iterator>
 #include <utility>
@@ -47,6 +48,22 @@ void release(std::vector<std::unique_ptr<T>>& objects, T**& array, unsigned int&
     count = static_cast<unsigned int>(objects.size());
     for (std::size_t index = 0; index < objects.size(); ++index)
         array[index] = objects[index].release();
+}
+
+/// Sixteen digits that follow from the bytes, the same ones on every machine (FNV-1a).
+std::string fingerprintText(std::string_view bytes)
+{
+    constexpr std::uint64_t start = 0xcbf29ce484222325;
+    constexpr std::uint64_t prime = 0x100000001b3;
+    constexpr unsigned int digits = 16;
+    constexpr unsigned int bitsPerDigit = 4;
+    std::uint64_t value = start;
+    for (const char byte : bytes)
+        value = (value ^ static_cast<unsigned char>(byte)) * prime;
+    std::string text;
+    for (unsigned int digit = digits; digit-- > 0;)
+        text += "0123456789abcdef"[(value >> (bitsPerDigit * digit)) & 0xF];
+    return text;
 }
 
 bool isShown(const NxGroup& group, int index)
@@ -214,10 +231,9 @@ std::string ModelBuilder::picturePath(const NxTexture& texture)
     picture.height = size[1];
     const std::size_t pixels = static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height);
     picture.bytes.assign(bytes, bytes + pixels * static_cast<std::size_t>(picture.components));
-    const std::string file = encodePng(picture);
+    std::string file = encodePng(picture);
     if (m_images == Images::Beside) {
-        place->second = m_imageName + "_" + std::to_string(m_imageFiles.size()) + ".png";
-        m_imageFiles.push_back({place->second, file});
+        place->second = addImageFile(std::move(file));
         return place->second;
     }
     aiTexture& made = *m_textures.emplace_back(std::make_unique<aiTexture>());
@@ -229,6 +245,22 @@ std::string ModelBuilder::picturePath(const NxTexture& texture)
     std::memcpy(made.pcData, file.data(), file.size());
     place->second = "*" + std::to_string(m_textures.size() - 1);
     return place->second;
+}
+
+std::string ModelBuilder::addImageFile(std::string bytes)
+{
+    const std::string stem = m_imageName + "_" + fingerprintText(bytes);
+    for (int number = 1;; ++number) {
+        const std::string name = stem + (number == 1 ? "" : "_" + std::to_string(number)) + ".png";
+        const auto present = std::find_if(
+            m_imageFiles.begin(), m_imageFiles.end(), [&](const NamedFile& file) { return file.name == name; });
+        if (present == m_imageFiles.end()) {
+            m_imageFiles.push_back({name, std::move(bytes)});
+            return name;
+        }
+        if (present->bytes == bytes)
+            return name;
+    }
 }
 
 std::string ModelBuilder::uniqueName(const VbString& name, const char* otherwise)

@@ -27,7 +27,8 @@ namespace orvane {
 /// gives what it shows. A light that is off isn't there.
 class ModelBuilder {
 public:
-    /// Where images of textures go: nowhere, into the model, or into files named `imageName` and a number.
+    /// Where images of textures go: nowhere, into the model, or into files whose names are `imageName` and a number
+    /// that follows from their content. So the same image has the same file, and another one never has.
     enum class Images { Nowhere, Inside, Beside };
     /// How many meshes a node may hold.
     enum class MeshesPerNode { One, Many };
@@ -63,6 +64,7 @@ private:
     Node& addPlaced(Node& node, const VbString& name, const char* otherwise, const aiMatrix4x4& placement);
     [[nodiscard]] unsigned int materialIndex(const Look& look);
     [[nodiscard]] std::string picturePath(const NxTexture& texture);
+    [[nodiscard]] std::string addImageFile(std::string bytes);
     [[nodiscard]] std::string uniqueName(const VbString& name, const char* otherwise);
 
     Images m_images;

@@ -4,12 +4,15 @@
 #include "orvane/import/MemoryFiles.h"
 #include "orvane/import/ModelBuilder.h"
 #include "orvane/import/ModelFormats.h"
+#include "orvane/import/Texts.h"
 
 #include <algorithm>
 #include <assimp/Exporter.hpp>
 #include <optional>
 #include <span>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace orvane {
@@ -46,6 +49,23 @@ void completeColors(const aiScene& model)
     }
 }
 
+// That format tells materials apart by their names alone, and one material with two textures is two of them.
+void makeMaterialNamesUnique(const aiScene& model)
+{
+    std::unordered_set<std::string> names;
+    std::unordered_map<std::string, int> counts; // of materials that want the same name
+    for (aiMaterial* material : std::span(model.mMaterials, model.mNumMaterials)) {
+        aiString name;
+        material->Get(AI_MATKEY_NAME, name);
+        const std::string wanted(name.data, name.length);
+        std::string unique = wanted;
+        for (int& count = counts[wanted]; !names.insert(unique).second;)
+            unique = wanted + "_" + std::to_string(++count + 1);
+        name = toAiText(unique);
+        material->AddProperty(&name, AI_MATKEY_NAME);
+    }
+}
+
 } // namespace
 
 std::vector<NamedFile> writeModel(
@@ -62,6 +82,8 @@ std::vector<NamedFile> writeModel(
         return {};
     if (mixesColors(format))
         completeColors(*model);
+    if (format == "obj")
+        makeMaterialNamesUnique(*model);
 
     std::optional<GltfAdditions> additions;
     if (isGltf)

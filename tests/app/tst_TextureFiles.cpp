@@ -54,7 +54,7 @@ private Q_SLOTS:
         QCOMPARE(read("images/../images/./one.png"), NxImageState::Loaded);
         QCOMPARE(read(file("scene/images/one.png").toStdString()), NxImageState::Loaded);
         QCOMPARE(read("one.png"), NxImageState::Failed);
-        QCOMPARE(m_reason, std::string("No such file or directory"));
+        QCOMPARE(m_reason, file("scene/one.png").toStdString() + ": No such file or directory");
         m_files->setFolder(QString());
         QCOMPARE(read("images/one.png"), NxImageState::Failed);
         QVERIFY(m_reason.starts_with("the scene has no folder"));

@@ -25,6 +25,20 @@ NxRef<NxGroup> scene()
         error);
 }
 
+/// Three squares: with an image, with a file that is called like one, and with two images more, of which one is the
+/// first once more.
+NxRef<NxGroup> texturedScene()
+{
+    const auto square = [](const char* texture) {
+        return std::string("Group { Material \"paint\" { }\nTexture { ") + texture
+            + " }\nMesh { positions = [0 0 0, 1 0 0, 1 1 0]; textureCoordinates = [0 0, 1 0, 1 1] } }\n";
+    };
+    std::string error;
+    return sceneOf("#mrd 1.0\n" + square("image = 1 1 3 0xff0000") + square("filePath = \"box_0.png\"")
+            + square("image = 1 1 3 0x00ff00") + square("image = 1 1 3 0xff0000"),
+        error);
+}
+
 // Several times what fits in a pipe and in the job's own store.
 NxRef<NxGroup> makeLargeScene()
 {
@@ -57,6 +71,10 @@ private Q_SLOTS:
     void aLargeSceneArrivesWhole();
     void aModelReplacesTheOldOne();
     void anotherFormatIsRefusedWithTheHelpersMessage();
+    void eachImageHasAFileOfItsOwn();
+    void noImageIsEverOverwritten();
+    void aFileBesideIsOverwrittenOnlyWithItsModel();
+    void pathsOfImagesCountFromTheModel();
     void everyFailureLeavesTheOldFile_data();
     void everyFailureLeavesTheOldFile();
     void aHelperThatDoesNotReadIsKilled();
@@ -69,6 +87,11 @@ private Q_SLOTS:
 private:
     [[nodiscard]] QString path(const char* name) const { return m_models->filePath(QString::fromUtf8(name)); }
     [[nodiscard]] QByteArray content(const char* name) const;
+    void write(const char* name, const QByteArray& bytes) const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
     [[nodiscard]] QStringList names() const
     {
         return QDir(m_models->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
@@ -130,6 +153,82 @@ void tst_ExportJob::aModelReplacesTheOldOne()
     }
     QCOMPARE(content("box.stl").size(), 84 + 50); // one triangle
     QCOMPARE(names(), QStringList(QStringLiteral("box.stl")));
+}
+
+void tst_ExportJob::eachImageHasAFileOfItsOwn()
+{
+    const auto run = [this] {
+        ExportJob job(texturedScene(), path("box.obj"), realHelper());
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.message(), QString());
+    };
+    run();
+    const QStringList images = names().filter(QStringLiteral(".png"));
+    QCOMPARE(images.size(), 2);
+    const QByteArray materials = content("box.mtl");
+    QCOMPARE(materials.count("map_Kd " + images[0].toUtf8()) + materials.count("map_Kd " + images[1].toUtf8()), 3);
+    QCOMPARE(materials.count("map_Kd box_0.png"), 1);
+    QVERIFY(content(images[0].toUtf8().constData()) != content(images[1].toUtf8().constData()));
+    // Once more gives the same names.
+    run();
+    QCOMPARE(names().filter(QStringLiteral(".png")), images);
+}
+
+void tst_ExportJob::noImageIsEverOverwritten()
+{
+    {
+        ExportJob job(texturedScene(), path("box.obj"), realHelper());
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.message(), QString());
+    }
+    const QStringList before = names();
+    const QString image = before.filter(QStringLiteral(".png")).first();
+    write(image.toUtf8().constData(), "the user's own");
+    write("box.obj", "old");
+    ExportJob job(texturedScene(), path("box.obj"), realHelper());
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.messages.size(), 1);
+    QVERIFY2(
+        record.message().startsWith(path(image.toUtf8().constData()) + QStringLiteral(": This file exists already")),
+        qPrintable(record.message()));
+    QCOMPARE(content(image.toUtf8().constData()), QByteArray("the user's own"));
+    QCOMPARE(content("box.obj"), QByteArray("old"));
+    QCOMPARE(names(), before);
+}
+
+void tst_ExportJob::aFileBesideIsOverwrittenOnlyWithItsModel()
+{
+    write("box.mtl", "old");
+    const auto run = [this] {
+        ExportJob job(scene(), path("box.obj"), realHelper());
+        const JobRecord record(job);
+        job.start();
+        return record.waitForEnd() ? record.message() : QStringLiteral("no end");
+    };
+    const QString message = run();
+    QVERIFY2(message.startsWith(path("box.mtl") + QStringLiteral(": This file exists already")), qPrintable(message));
+    QCOMPARE(content("box.mtl"), QByteArray("old"));
+    QCOMPARE(names(), QStringList(QStringLiteral("box.mtl")));
+    write("box.obj", "old");
+    QCOMPARE(run(), QString());
+    QVERIFY(content("box.mtl").contains("newmtl"));
+}
+
+void tst_ExportJob::pathsOfImagesCountFromTheModel()
+{
+    QVERIFY(QDir().mkpath(path("scenes")));
+    ExportJob job(texturedScene(), path("box.obj"), realHelper(), path("scenes"));
+    const JobRecord record(job);
+    job.start();
+    QVERIFY(record.waitForEnd());
+    QCOMPARE(record.message(), QString());
+    QVERIFY2(content("box.mtl").contains("map_Kd scenes/box_0.png"), content("box.mtl").constData());
 }
 
 void tst_ExportJob::anotherFormatIsRefusedWithTheHelpersMessage()

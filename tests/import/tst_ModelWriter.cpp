@@ -90,6 +90,7 @@ private Q_SLOTS:
     void lightsAndCamerasComeBack();
     void filesAreNamedAfterTheModel_data();
     void filesAreNamedAfterTheModel();
+    void aMaterialWithTwoTexturesIsTwoMaterials();
     void aSwitchGivesWhatItShows_data();
     void aSwitchGivesWhatItShows();
     void materialsEndWithTheirGroup();
@@ -212,8 +213,9 @@ void tst_ModelWriter::filesAreNamedAfterTheModel_data()
     QTest::newRow("glb") << QStringLiteral("glb") << QStringList{QStringLiteral("box.glb")};
     QTest::newRow("gltf") << QStringLiteral("gltf")
                           << QStringList{QStringLiteral("box.gltf"), QStringLiteral("box.bin")};
-    QTest::newRow("obj") << QStringLiteral(
-        "obj") << QStringList{QStringLiteral("box.obj"), QStringLiteral("box.mtl"), QStringLiteral("box_0.png")};
+    QTest::newRow("obj") << QStringLiteral("obj")
+                         << QStringList{QStringLiteral("box.obj"), QStringLiteral("box.mtl"),
+                                QStringLiteral("box_0e71e7c0c0e49b57.png")};
     QTest::newRow("stl") << QStringLiteral("stl") << QStringList{QStringLiteral("box.stl")};
     QTest::newRow("extension in capitals") << QStringLiteral("GLB") << QStringList{QStringLiteral("box.GLB")};
 }
@@ -227,6 +229,23 @@ void tst_ModelWriter::filesAreNamedAfterTheModel()
     for (const orvane::NamedFile& file : m_files)
         written.append(QString::fromStdString(file.name));
     QCOMPARE(written, names);
+}
+
+void tst_ModelWriter::aMaterialWithTwoTexturesIsTwoMaterials()
+{
+    const std::string scene
+        = "#mrd 1.0\nMaterial \"paint\" {}\n"
+          "Texture { filePath = \"a.png\" }\n"
+          "Mesh \"one\" { positions = [0 0 0, 1 0 0, 1 1 0]; textureCoordinates = [0 0, 1 0, 1 1] }\n"
+          "Texture { filePath = \"b.png\" }\n"
+          "Mesh \"two\" { positions = [0 0 1, 1 0 1, 1 1 1]; textureCoordinates = [0 0, 1 0, 1 1] }\n";
+    QVERIFY2(roundTrip(scene, QStringLiteral("obj")), qPrintable(m_error));
+    const std::string& materials = m_files[1].bytes;
+    for (const char* line : {"newmtl paint\n", "newmtl paint_2\n", "map_Kd a.png\n", "map_Kd b.png\n"})
+        QVERIFY2(materials.find(line) != std::string::npos, materials.c_str());
+    const std::string& model = m_files[0].bytes;
+    for (const char* line : {"usemtl paint\n", "usemtl paint_2\n"})
+        QVERIFY2(model.find(line) != std::string::npos, model.c_str());
 }
 
 void tst_ModelWriter::aSwitchGivesWhatItShows_data()
