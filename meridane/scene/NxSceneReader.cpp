@@ -11,7 +11,7 @@ NxSceneReader::NxSceneReader(std::string text, std::string fileName)
 
 NxSceneReader::~NxSceneReader() = default;
 
-NxSceneReader::State NxSceneReader::step(std::chrono::microseconds budget)
+NxSceneReader::State NxSceneReader::step(const meridane::WorkBudget& budget)
 {
     return m_parser->step(budget);
 }

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "meridane/base/WorkBudget.h"
 #include "meridane/scene/NxGroup.h"
 #include "meridane/scene/NxReadFailure.h"
 #include "meridane/scene/NxRef.h"
 
-#include <chrono>
 #include <memory>
 #include <string>
 
@@ -25,7 +25,7 @@ public:
     ~NxSceneReader();
 
     /// Goes on reading until done or until the budget is spent; it may overrun it by about a millisecond.
-    State step(std::chrono::microseconds budget);
+    State step(const meridane::WorkBudget& budget);
     /// Reads to the end.
     State run();
     [[nodiscard]] State state() const noexcept;

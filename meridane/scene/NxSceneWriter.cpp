@@ -14,7 +14,7 @@ void NxSceneWriter::setPathMap(PathMap map)
     m_printer->setPathMap(std::move(map));
 }
 
-bool NxSceneWriter::step(std::string& text, std::chrono::microseconds budget)
+bool NxSceneWriter::step(std::string& text, const meridane::WorkBudget& budget)
 {
     return m_printer->step(text, budget);
 }

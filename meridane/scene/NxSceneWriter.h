@@ -1,9 +1,9 @@
 #pragma once
 
+#include "meridane/base/WorkBudget.h"
 #include "meridane/scene/NxGroup.h"
 #include "meridane/scene/NxRef.h"
 
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -25,7 +25,7 @@ public:
 
     /// Goes on writing until done or until the budget is spent, and appends to `text`, which the caller may empty
     /// between two calls. True while there is more to write.
-    bool step(std::string& text, std::chrono::microseconds budget);
+    bool step(std::string& text, const meridane::WorkBudget& budget);
     /// The whole text; empty for a scene that can't be written.
     [[nodiscard]] static std::string toText(NxGroup* scene);
     /// Why the scene can't be written, such as nodes nested deeper than a reader takes; empty if it can. Known when

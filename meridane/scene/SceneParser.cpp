@@ -30,15 +30,13 @@ NxSceneReader::Parser::Parser(std::string text, std::string fileName)
     scene.group = m_scene.get();
 }
 
-NxSceneReader::State NxSceneReader::Parser::step(std::chrono::microseconds budget)
+NxSceneReader::State NxSceneReader::Parser::step(const meridane::WorkBudget& budget)
 {
-    using Clock = std::chrono::steady_clock;
-    const Clock::time_point end = Clock::now() + budget;
     try {
         do {
             for (std::size_t unit = 0; unit < unitsPerLookAtTheClock && state() == State::Working; ++unit)
                 work();
-        } while (state() == State::Working && Clock::now() < end);
+        } while (state() == State::Working && !budget.isSpent());
     } catch (const std::bad_alloc&) {
         failForMemory();
     } catch (const std::length_error&) {

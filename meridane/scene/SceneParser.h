@@ -15,7 +15,7 @@ class NxSceneReader::Parser {
 public:
     Parser(std::string text, std::string fileName);
 
-    State step(std::chrono::microseconds budget);
+    State step(const meridane::WorkBudget& budget);
     [[nodiscard]] State state() const noexcept;
     [[nodiscard]] double progress() const noexcept;
     [[nodiscard]] const NxReadFailure& failure() const noexcept { return m_failure; }

@@ -26,15 +26,13 @@ NxSceneWriter::Printer::Printer(NxGroup* scene)
     m_open.push_back({scene, nullptr});
 }
 
-bool NxSceneWriter::Printer::step(std::string& text, std::chrono::microseconds budget)
+bool NxSceneWriter::Printer::step(std::string& text, const meridane::WorkBudget& budget)
 {
-    using Clock = std::chrono::steady_clock;
-    const Clock::time_point end = Clock::now() + budget;
     try {
         do {
             for (std::size_t unit = 0; unit < unitsPerLookAtTheClock && m_phase != Phase::Done; ++unit)
                 work(text);
-        } while (m_phase != Phase::Done && Clock::now() < end);
+        } while (m_phase != Phase::Done && !budget.isSpent());
     } catch (const std::exception&) {
         fail("the text of the scene doesn't fit in memory");
     }

@@ -18,7 +18,7 @@ public:
     explicit Printer(NxGroup* scene);
 
     void setPathMap(PathMap map) { m_pathMap = std::move(map); }
-    bool step(std::string& text, std::chrono::microseconds budget);
+    bool step(std::string& text, const meridane::WorkBudget& budget);
     [[nodiscard]] double progress() const noexcept;
     [[nodiscard]] const std::string& failure() const noexcept { return m_failure; }
 

@@ -1,6 +1,5 @@
 #include "orvane/app/LoadJob.h"
 
-#include "orvane/app/SliceClock.h"
 #include "orvane/app/TextConversion.h"
 
 #include "meridane/base/NxReadError.h"
@@ -13,8 +12,9 @@ constexpr double readingShare = 0.1;
 
 } // namespace
 
-LoadJob::LoadJob(const QString& fileName)
+LoadJob::LoadJob(const QString& fileName, SliceClock::Clock clock)
     : SceneJob(fileName)
+    , m_clock(clock)
 {
 }
 
@@ -51,9 +51,9 @@ void LoadJob::readBytes()
         }
         m_opened = true;
     }
-    const SliceClock slice;
+    const SliceClock slice(m_clock);
     bool atEnd = false;
-    while (!atEnd && !slice.isOver()) {
+    while (!atEnd && !slice.isSpent()) {
         if (const auto message = m_file.read(m_bytes, chunk, atEnd)) {
             fail(*message);
             return;
@@ -67,7 +67,7 @@ void LoadJob::readBytes()
 
 void LoadJob::readScene()
 {
-    switch (m_reader->step(SliceClock::length)) {
+    switch (m_reader->step(SliceClock(m_clock))) {
     case NxSceneReader::State::Working:
         Q_EMIT progressed(readingShare + (1 - readingShare) * m_reader->progress());
         break;

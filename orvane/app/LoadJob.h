@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orvane/app/FileJob.h"
+#include "orvane/app/SliceClock.h"
 
 #include "meridane/scene/Files.h"
 #include "meridane/scene/NxSceneReader.h"
@@ -17,7 +18,7 @@ class LoadJob : public SceneJob {
     Q_OBJECT
 
 public:
-    explicit LoadJob(const QString& fileName);
+    explicit LoadJob(const QString& fileName, SliceClock::Clock clock = &std::chrono::steady_clock::now);
     ~LoadJob() override;
 
     void start() override;
@@ -31,6 +32,7 @@ private:
     void readScene();
     void fail(const std::string& message);
 
+    SliceClock::Clock m_clock;
     QBasicTimer m_timer;
     meridane::FileReader m_file;
     std::string m_bytes;

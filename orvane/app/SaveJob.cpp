@@ -1,11 +1,12 @@
 #include "orvane/app/SaveJob.h"
 
 #include "orvane/app/ScenePaths.h"
-#include "orvane/app/SliceClock.h"
 #include "orvane/app/TextConversion.h"
 
-SaveJob::SaveJob(const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder)
+SaveJob::SaveJob(
+    const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder, SliceClock::Clock clock)
     : FileJob(fileName)
+    , m_clock(clock)
     , m_scene(scene)
     , m_pathFolder(pathFolder)
 {
@@ -53,7 +54,7 @@ std::optional<std::string> SaveJob::writeSlice(bool& done)
             return message;
     }
     std::string text;
-    const bool more = m_writer->step(text, SliceClock::length);
+    const bool more = m_writer->step(text, SliceClock(m_clock));
     // What can't be written whole must not replace the old file.
     if (!m_writer->failure().empty())
         return orvane::toStdFileName(fileName()) + ": " + m_writer->failure();

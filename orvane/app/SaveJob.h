@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orvane/app/FileJob.h"
+#include "orvane/app/SliceClock.h"
 
 #include "meridane/scene/Files.h"
 #include "meridane/scene/NxSceneWriter.h"
@@ -17,7 +18,8 @@ class SaveJob : public FileJob {
 
 public:
     /// Relative file paths in the scene count from `pathFolder`, see `orvane::rebasedPath`.
-    SaveJob(const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder = {});
+    SaveJob(const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder = {},
+        SliceClock::Clock clock = &std::chrono::steady_clock::now);
     ~SaveJob() override;
 
     void start() override;
@@ -29,6 +31,7 @@ protected:
 private:
     [[nodiscard]] std::optional<std::string> writeSlice(bool& done);
 
+    SliceClock::Clock m_clock;
     QBasicTimer m_timer;
     NxRef<NxGroup> m_scene;
     QString m_pathFolder;

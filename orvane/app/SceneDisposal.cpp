@@ -27,7 +27,7 @@ void SceneDisposal::finish()
 void SceneDisposal::timerEvent(QTimerEvent*)
 {
     const SliceClock slice;
-    while (!m_nodes.empty() && !slice.isOver())
+    while (!m_nodes.empty() && !slice.isSpent())
         takeOneApart();
     if (m_nodes.empty())
         m_timer.stop();

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <chrono>
+#include "meridane/base/WorkBudget.h"
 
 /// Measures one slice of long work that is done from the event loop: short enough that the window stays lively.
-class SliceClock {
+class SliceClock : public meridane::WorkBudget {
 public:
     static constexpr std::chrono::microseconds length{8000};
 
-    [[nodiscard]] bool isOver() const { return std::chrono::steady_clock::now() >= m_end; }
-
-private:
-    std::chrono::steady_clock::time_point m_end = std::chrono::steady_clock::now() + length;
+    explicit SliceClock(Clock clock = &std::chrono::steady_clock::now)
+        : WorkBudget(length, clock)
+    {
+    }
 };
