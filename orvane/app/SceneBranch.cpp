@@ -25,9 +25,8 @@ SceneBranch* SceneBranch::branch(int row) const
 
 SceneBranch& SceneBranch::addBranch(int row)
 {
-    std::unique_ptr<SceneBranch>& place = m_branches[row];
-    place = std::make_unique<SceneBranch>(child(row), this, row);
-    return *place;
+    auto made = std::make_unique<SceneBranch>(child(row), this, row);
+    return *m_branches.insert_or_assign(row, std::move(made)).first->second;
 }
 
 void SceneBranch::insertRows(int row, std::span<NxNode* const> nodes)

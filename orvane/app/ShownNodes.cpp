@@ -45,12 +45,13 @@ ShownNodes::~ShownNodes() = default;
 
 void ShownNodes::note(SceneBranch& branch, NxNode& node)
 {
-    std::unique_ptr<Watch>& watch = m_watches[&node];
-    if (watch == nullptr) {
-        watch = std::make_unique<Watch>(this, &node);
+    auto watch = m_watches.find(&node);
+    if (watch == m_watches.end()) {
+        auto made = std::make_unique<Watch>(this, &node);
         m_order.push_back(&node);
+        watch = m_watches.emplace(&node, std::move(made)).first;
     }
-    std::vector<SceneBranch*>& branches = watch->branches;
+    std::vector<SceneBranch*>& branches = watch->second->branches;
     if (std::find(branches.begin(), branches.end(), &branch) == branches.end())
         branches.push_back(&branch);
     if (m_watches.size() > capacity || m_order.size() > 2 * capacity)
