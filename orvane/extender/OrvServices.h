@@ -41,7 +41,8 @@ public:
 
     // A slot of a selection signal may select as well. That selection is announced as soon as all slots have seen the
     // present one; until then the getters return the present one. Select a node together with its field in one call: a
-    // slot of the first of two calls could ask for another selection, which would come after both.
+    // slot of the first of two calls could ask for another selection, which would come after both. Slots that answer
+    // each other's selections without end are stopped after 1000 of them, which is posted as an `NxDebugError`.
 
     /// Makes a node the current one; null for none. The signal is emitted also when it is the current one already. The
     /// node is held alive until another one is selected. If the node changes, no field is selected from then on, which

@@ -3,11 +3,19 @@
 #include "orvane/extender/FieldWatch.h"
 #include "orvane/extender/OrvServices.h"
 
+#include "meridane/base/NxDebugError.h"
 #include "meridane/scene/NxField.h"
 
 #include <QScopedValueRollback>
 
 #include <utility>
+
+namespace {
+
+// Slots that answer a selection by another one come to an end long before this, unless they answer each other.
+constexpr int mostAtOnce = 1000;
+
+} // namespace
 
 // What somebody asked for. It keeps the nodes alive until its turn comes, and notices the death of a field without one.
 struct Selection::Request {
@@ -57,7 +65,14 @@ void Selection::request(Kind kind, NxFieldContainer* node, NxField* field)
     if (m_announcing)
         return;
     const QScopedValueRollback announcing(m_announcing, true);
-    while (!m_requests.empty()) {
+    for (int carriedOut = 0; !m_requests.empty(); ++carriedOut) {
+        if (carriedOut == mostAtOnce) {
+            m_requests.clear();
+            NxDebugError::post(NxDebugError::Error,
+                "Extensions answer each other's selections without end: the last one announced stays. Switch to a "
+                "profile without one of them.");
+            return;
+        }
         const Request next = std::move(m_requests.front());
         m_requests.pop_front();
         carryOut(next);

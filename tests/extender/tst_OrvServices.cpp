@@ -1,8 +1,10 @@
+#include "base/HandlerGuard.h"
 #include "extender/Recording.h"
 #include "extender/TestCommand.h"
 
 #include "orvane/extender/OrvServices.h"
 
+#include "meridane/base/NxDebugError.h"
 #include "meridane/base/NxDelayQueue.h"
 #include "meridane/scene/NxFieldSensor.h"
 #include "meridane/scene/NxPointLight.h"
@@ -167,6 +169,29 @@ private Q_SLOTS:
         QCOMPARE(taken(m_calls), (QStringList{u"field a"_s, u"field b"_s, u"field -"_s, u"node b"_s}));
         QCOMPARE(disagreements, QStringList());
         QVERIFY(services.getSelectedField() == nullptr);
+    }
+
+    void slotsThatSelectWithoutEndAreStopped()
+    {
+        OrvServices services;
+        const auto a = newLight("a");
+        const auto b = newLight("b");
+        TextRecorder errors;
+        const HandlerGuard<NxDebugError> guard(&TextRecorder::record, &errors);
+        const NxFieldContainer* announced = nullptr;
+        QObject plugins;
+        connect(&services, &OrvServices::selectedNodeChanged, &plugins,
+            [&](const NxFieldContainer* node) { services.selectNode(node == a.get() ? b.get() : a.get()); });
+        connect(&services, &OrvServices::selectedNodeChanged, this,
+            [&](const NxFieldContainer* node) { announced = node; });
+        services.selectNode(a.get());
+        QCOMPARE(errors.texts().size(), std::size_t{1});
+        QVERIFY(announced != nullptr);
+        QCOMPARE(services.getSelectedNode(), announced);
+        services.disconnect(&plugins);
+        services.selectNode(a.get());
+        QCOMPARE(services.getSelectedNode(), a.get());
+        QCOMPARE(errors.texts().size(), std::size_t{1});
     }
 
     void anAnnouncementAskedForByASlotComesAfterThePresentOne()
