@@ -10,6 +10,22 @@
 #include <QLabel>
 #include <QStatusBar>
 
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Five digits, or as many as it takes for thousandths.
+QString coordinate(double value)
+{
+    constexpr int least = 5;
+    constexpr int most = 12;
+    const double size = std::clamp(std::log10(std::abs(value)), 0.0, double{most});
+    return QString::number(value, 'g', std::clamp(static_cast<int>(size) + 4, least, most));
+}
+
+} // namespace
+
 ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QStatusBar* bar)
     : QObject(view)
     , m_session(session)
@@ -55,8 +71,7 @@ void ViewLink::choose(const std::vector<NxNode*>& nodes, const VbVec3d& point)
 {
     NxDelayQueue::getDefault().process(); // the tree may be behind the scene
     m_tree->setCurrent(m_tree->model()->indexOfPath(nodes));
-    const auto number = [&point](std::size_t i) { return QString::number(static_cast<double>(point[i]), 'g', 5); };
-    m_point->setText(tr("at %1, %2, %3").arg(number(0), number(1), number(2)));
+    m_point->setText(tr("at %1, %2, %3").arg(coordinate(point[0]), coordinate(point[1]), coordinate(point[2])));
     m_point->show();
 }
 

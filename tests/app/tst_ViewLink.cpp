@@ -6,7 +6,9 @@
 #include "orvane/app/SceneTreePanel.h"
 #include "orvane/app/SceneView.h"
 
+#include "meridane/base/NxDelayQueue.h"
 #include "meridane/scene/NxCamera.h"
+#include "meridane/scene/NxTransform.h"
 
 #include <QAction>
 #include <QDialog>
@@ -57,6 +59,23 @@ private Q_SLOTS:
         QCOMPARE(m_session->services().getSelectedNode(), nullptr);
         QVERIFY(!tree()->current().isValid());
         QVERIFY(!point->isVisible());
+    }
+
+    void tellsExactlyWhereSomethingFarAwayIsClicked()
+    {
+        auto* const right = static_cast<NxTransform*>(m_window->document().scene()->getChild(2));
+        right->translation.setValue(VbVec3f(1e7F, -1e7F, 0));
+        NxDelayQueue::getDefault().process();
+        m_window->selectPath(QStringLiteral("/right/greenSquare"));
+        view()->frameSelection();
+        lookAhead();
+        click(view()->rect().center());
+        const auto* point = m_window->findChild<QLabel*>(QStringLiteral("pickedPoint"));
+        QVERIFY(point->isVisible());
+        const QString text = point->text();
+        QVERIFY2(std::abs(text.section(u' ', 1).section(u',', 0, 0).toDouble() - 1e7) < 0.1, qPrintable(text));
+        QVERIFY2(std::abs(text.section(u',', 1, 1).toDouble() + 1e7) < 0.1, qPrintable(text));
+        QVERIFY2(!text.section(u' ', 1).section(u',', 0, 1).contains(u'e'), qPrintable(text));
     }
 
     void outlinesWhatIsSelectedInTheTree()
