@@ -83,7 +83,10 @@ QString plainToolTip(const QString& text)
     if (lines.size() > mostLines)
         lines = lines.mid(0, mostLines - 1) + QStringList(QChar(0x2026));
     const QString plain = lines.join(u'\n');
-    return Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain, Qt::WhiteSpacePre) : plain;
+    if (!Qt::mightBeRichText(plain))
+        return plain;
+    // In this way the lines aren't broken a second time, for a narrower tool tip.
+    return QStringLiteral("<div style=\"white-space: pre\">%1</div>").arg(plain.toHtmlEscaped());
 }
 
 QString menuText(const QString& text)

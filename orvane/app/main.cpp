@@ -74,15 +74,18 @@ std::unique_ptr<QCoreApplication> makeApplication(char** argv)
     return std::make_unique<Application>(count, argv);
 }
 
-// Whatever display there is, a picture or a list doesn't depend on it. Without one the platform has nothing to say that
-// a user could use.
+// What the platform says although a user can't do anything about it.
+bool isNoise(const QString& text)
+{
+    return text.contains(QLatin1String("propagateSizeHints")) || text.startsWith(QLatin1String("QStandardPaths:"));
+}
+
+// A picture or a list doesn't depend on the display, whatever there is.
 std::unique_ptr<QCoreApplication> makeApplicationWithoutScreen(char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-        const bool isNoise
-            = text.contains(QLatin1String("propagateSizeHints")) || text.startsWith(QLatin1String("QStandardPaths:"));
-        if (!isNoise || type == QtFatalMsg)
+        if (!isNoise(text) || type == QtFatalMsg)
             std::fprintf(stderr, "%s\n", qPrintable(text));
     });
     return makeApplication<QApplication>(argv);
@@ -93,11 +96,12 @@ std::unique_ptr<QCoreApplication> makeApplicationOnScreen(char** argv)
 {
     static QStringList problems;
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-        problems.append(text.trimmed());
+        if (!isNoise(text))
+            problems.append(text.trimmed());
         if (type != QtFatalMsg)
             return;
         orvane::printError(QStringLiteral("No window can be opened: %1. --screenshot works without a display.")
-                               .arg(problems.constFirst()));
+                               .arg(problems.value(0, text.trimmed())));
         std::_Exit(statusFailed);
     });
     auto application = makeApplication<QApplication>(argv);
