@@ -1,5 +1,6 @@
 #include "meridane/gl/Problems.h"
 
+#include "meridane/base/MessageText.h"
 #include "meridane/base/NxDebugError.h"
 #include "meridane/base/NxReadError.h"
 #include "meridane/scene/NxNode.h"
@@ -9,9 +10,10 @@ namespace {
 
 std::string nameOf(const NxNode& node)
 {
+    constexpr std::size_t mostBytes = 60;
     std::string name = node.getClassName();
     if (!node.getName().isEmpty())
-        name.append(" '").append(node.getName().view()).append("'");
+        name.append(" '").append(excerpt(node.getName().view(), mostBytes)).append("'");
     return name;
 }
 
@@ -34,7 +36,8 @@ void Problems::report(const NodeRecord& record, Problem problem, const std::stri
     int& count = m_counts[static_cast<std::size_t>(problem)];
     if (++count > mostReports + 1)
         return;
-    std::string message = nameOf(*record.node()) + ": " + text;
+    // The names of the node and its files come from the scene.
+    std::string message = withoutMarkup(nameOf(*record.node()) + ": " + text);
     if (count > mostReports)
         message += "; more nodes of the same problem aren't reported";
     if (problem == Problem::ImageFile)

@@ -1,6 +1,6 @@
 #include "meridane/scene/TextPlace.h"
 
-#include "meridane/base/Unicode.h"
+#include "meridane/base/MessageText.h"
 #include "meridane/scene/TextReader.h"
 
 #include <algorithm>
@@ -33,20 +33,6 @@ std::string_view tokenAt(std::string_view text)
     return text.substr(0, std::max<std::size_t>(1, static_cast<std::size_t>(end - text.begin())));
 }
 
-std::string visible(std::string_view token)
-{
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string result;
-    for (const char character : replaceInvalidUtf8(token)) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (byte >= 0x20 && byte != 0x7F)
-            result += character;
-        else
-            ((result += "\\x") += digits[byte >> 4U]) += digits[byte & 15U];
-    }
-    return result;
-}
-
 } // namespace
 
 TextPlace findPlace(std::string_view text, std::size_t offset)
@@ -69,16 +55,11 @@ std::string describeToken(std::string_view text, std::size_t offset)
     text = text.substr(offset);
     if (text.front() == '\n' || text.starts_with("\r\n"))
         return "the end of the line";
-    // What is cut off is cut ahead of a character, not within it.
     const std::string_view token = tokenAt(text.substr(0, 2 * maxShown));
-    std::size_t shown = std::min(token.size(), maxShown);
-    while (shown < token.size() && shown > 1 && isContinuation(token[shown]))
-        --shown;
-    const bool cut = shown < token.size();
-    const std::string_view head = token.substr(0, shown);
-    if (head.front() == '"' && head.size() > 1)
-        return visible(head) + (cut ? "…\"" : "");
-    return '"' + visible(head) + (cut ? "…\"" : "\"");
+    const std::string shown = excerpt(token, maxShown);
+    if (token.front() != '"' || token.size() == 1)
+        return '"' + shown + '"';
+    return token.size() > maxShown ? shown + '"' : shown;
 }
 
 } // namespace meridane

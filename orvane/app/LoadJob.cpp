@@ -2,7 +2,10 @@
 
 #include "orvane/app/TextConversion.h"
 
+#include "meridane/base/MessageText.h"
 #include "meridane/base/NxReadError.h"
+
+using meridane::withoutMarkup;
 
 namespace {
 
@@ -73,7 +76,8 @@ void LoadJob::readScene()
         break;
     case NxSceneReader::State::Failed: {
         const NxReadFailure failure = m_reader->failure();
-        NxReadError::post(VbString(failure.file), failure.line, failure.column, VbString(failure.message));
+        NxReadError::post(VbString(withoutMarkup(failure.file)), failure.line, failure.column,
+            VbString(withoutMarkup(failure.message)));
         m_timer.stop();
         Q_EMIT failed(orvane::toQString(failure.text()));
         break;
@@ -89,6 +93,6 @@ void LoadJob::readScene()
 void LoadJob::fail(const std::string& message)
 {
     m_timer.stop();
-    NxReadError::post(VbString(), 0, 0, VbString(message));
+    NxReadError::post(VbString(), 0, 0, VbString(withoutMarkup(message)));
     Q_EMIT failed(orvane::toQString(message));
 }

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void whatIsMendedAndBreaksAgainIsReportedAgain();
     void aMeshInManyPlacesIsReportedOnce();
     void manyDamagedMeshesDontFloodTheMessages();
+    void namesInMessagesAreShortAndNoMarkup();
     void aDegenerateTransformIsReportedOnce_data();
     void aDegenerateTransformIsReportedOnce();
     void aTextureWithoutAnImageIsReportedOnce_data();
@@ -177,6 +178,18 @@ void TestSceneProblems::manyDamagedMeshesDontFloodTheMessages()
     QCOMPARE(messages.size(), meridane::Problems::mostReports + 1);
     QCOMPARE(messages.last(),
         QStringLiteral("Mesh: it has no positions to draw; more nodes of the same problem aren't reported"));
+}
+
+void TestSceneProblems::namesInMessagesAreShortAndNoMarkup()
+{
+    const NxRef<NxGroup> scene(new NxGroup);
+    const NxRef<NxMesh> mesh(new NxMesh);
+    mesh->setName(VbString(QByteArray("<table>").repeated(5000).toStdString()));
+    scene->addChild(mesh.get());
+    const QStringList messages = messagesOf(*scene);
+    QCOMPARE(messages.size(), 1);
+    QVERIFY2(messages.front().size() < 200, qPrintable(messages.front()));
+    QVERIFY2(messages.front().contains(QStringLiteral("Mesh '<\u2060table>")), qPrintable(messages.front()));
 }
 
 void TestSceneProblems::aDegenerateTransformIsReportedOnce_data()

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// Texts from files in messages to the user.
+namespace meridane {
+
+/// The beginning of a text: at most `most` bytes, with an ellipsis where something was cut off. Invalid bytes become
+/// U+FFFD, control characters an escape such as \x1b.
+[[nodiscard]] std::string excerpt(std::string_view text, std::size_t most);
+
+/// The same text, but not taken for HTML or XML by who shows it: an invisible word joiner (U+2060) follows each
+/// character that begins a tag or an entity.
+[[nodiscard]] std::string withoutMarkup(std::string_view text);
+
+} // namespace meridane
