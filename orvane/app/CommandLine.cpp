@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -95,6 +96,13 @@ std::optional<QString> findMisuse(const QCommandLineParser& parser, const Option
              options.exportTo, options.screenshot, options.size}) {
         if (parser.values(option).contains(QString()))
             return QStringLiteral("%1 expects %2, not an empty text.").arg(nameOf(option), option.valueName());
+    }
+    // Names of files may be any bytes.
+    for (const QCommandLineOption& option :
+        {options.plugin, options.profile, options.select, options.set, options.get}) {
+        const QStringList values = parser.values(option);
+        if (!std::all_of(values.begin(), values.end(), [](const QString& value) { return value.isValidUtf16(); }))
+            return QStringLiteral("%1 expects UTF-8.").arg(nameOf(option));
     }
     for (const QCommandLineOption& option : {options.profile, options.select, options.screenshot, options.size}) {
         if (parser.values(option).size() > 1)

@@ -137,7 +137,8 @@ void ExportJob::takeFiles()
 void ExportJob::checkFile()
 {
     const auto file = m_files.begin() + static_cast<std::ptrdiff_t>(--m_unchecked);
-    const QString path = QFileInfo(fileName()).absoluteDir().filePath(QFile::decodeName(file->name.c_str()));
+    const QString path
+        = QFileInfo(orvane::absoluteFileName(fileName())).dir().filePath(orvane::fromStdFileName(file->name));
     const QFileInfo present(path);
     if (!present.exists() && !present.isSymLink())
         return;
@@ -152,14 +153,14 @@ void ExportJob::checkFile()
 
 void ExportJob::writeFiles()
 {
-    const QDir folder = QFileInfo(fileName()).absoluteDir();
+    const QDir folder = QFileInfo(orvane::absoluteFileName(fileName())).dir();
     std::optional<std::string> failure;
     if (m_replacers.empty() || m_written == m_files[m_replacers.size() - 1].bytes.size()) {
         if (m_replacers.size() == m_files.size()) {
             commitFiles();
             return;
         }
-        const QString name = QFile::decodeName(m_files[m_replacers.size()].name.c_str());
+        const QString name = orvane::fromStdFileName(m_files[m_replacers.size()].name);
         m_replacers.push_back(std::make_unique<meridane::FileReplacer>());
         m_written = 0;
         failure = m_replacers.back()->open(orvane::toStdFileName(folder.filePath(name)));

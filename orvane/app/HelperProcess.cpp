@@ -1,5 +1,6 @@
 #include "orvane/app/HelperProcess.h"
 
+#include "orvane/app/TextConversion.h"
 #include "orvane/import/WorkTime.h"
 
 #include <QCoreApplication>
@@ -31,6 +32,22 @@ QProcessEnvironment helperEnvironment()
     const QString own = QStringLiteral("glibc.malloc.tcache_count=8192");
     environment.insert(name, others.isEmpty() ? own : own + QLatin1Char(':') + others);
     return environment;
+}
+
+// Arguments are passed as text. A name that isn't UTF-8 makes them go percent-encoded.
+QStringList encoded(const QStringList& arguments)
+{
+    const bool isText = std::all_of(
+        arguments.begin(), arguments.end(), [](const QString& argument) { return argument.isValidUtf16(); });
+    if (isText)
+        return arguments;
+    QStringList result{QStringLiteral("--encoded")};
+    for (const QString& argument : arguments) {
+        const QByteArray bytes = QByteArray::fromStdString(orvane::toStdFileName(argument));
+        result
+            += argument.startsWith(QStringLiteral("--")) ? argument : QString::fromLatin1(bytes.toPercentEncoding("/"));
+    }
+    return result;
 }
 
 constexpr qsizetype longestMessage = 2000;
@@ -94,7 +111,7 @@ QStringList HelperProcess::allArguments() const
     QStringList arguments{QStringLiteral("--parent"), QString::number(QCoreApplication::applicationPid())};
     if (m_options.memoryMiB)
         arguments << QStringLiteral("--memory") << QString::number(*m_options.memoryMiB);
-    return arguments + m_arguments;
+    return arguments + encoded(m_arguments);
 }
 
 // A timer that runs begins again.

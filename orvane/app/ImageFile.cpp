@@ -29,7 +29,7 @@ QString realPathOf(int descriptor)
 {
     std::array<char, PATH_MAX> path{};
     const ssize_t length = ::readlink(linkOf(descriptor).toLatin1().constData(), path.data(), path.size());
-    return length <= 0 ? QString() : QFile::decodeName(QByteArray(path.data(), length));
+    return length <= 0 ? QString() : orvane::fromStdFileName({path.data(), static_cast<std::size_t>(length)});
 }
 
 /// Whether the kernel makes the contents of a file up when it is read.
@@ -63,7 +63,7 @@ void ImageFile::open(const QString& path, const ImageFolders& folders)
 {
     // This way of opening has no effect on the file, whatever it is, and doesn't wait. What was looked at is what is
     // opened for reading then, even if the name means another file by now.
-    const int looked = ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
+    const int looked = ::open(orvane::toStdFileName(path).c_str(), O_PATH | O_CLOEXEC);
     if (looked < 0) {
         fail(QStringLiteral("%1: %2").arg(path, qt_error_string(errno)));
         return;

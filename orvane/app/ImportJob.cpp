@@ -4,13 +4,12 @@
 #include "orvane/app/TextConversion.h"
 #include "orvane/import/WorkTime.h"
 
+#include "meridane/base/MessageText.h"
 #include "meridane/base/NxReadError.h"
-
-#include <QFileInfo>
 
 ImportJob::ImportJob(const QString& fileName, const HelperOptions& options)
     : SceneJob(fileName)
-    , m_helper(options, {QStringLiteral("--packed"), QStringLiteral("--read"), QFileInfo(fileName).absoluteFilePath()},
+    , m_helper(options, {QStringLiteral("--packed"), QStringLiteral("--read"), orvane::absoluteFileName(fileName)},
           orvane::modelSize(orvane::toStdFileName(fileName)))
 {
     connect(&m_helper, &HelperProcess::outputGrew, this, &ImportJob::takeOutput);
@@ -98,7 +97,7 @@ void ImportJob::failForNoScene(const QString& reason)
 void ImportJob::fail(const QString& message)
 {
     end();
-    NxReadError::post(VbString(), 0, 0, orvane::toVbString(message));
+    NxReadError::post(VbString(), 0, 0, VbString(meridane::withoutMarkup(message.toStdString())));
     Q_EMIT failed(message);
 }
 

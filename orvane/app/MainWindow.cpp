@@ -50,7 +50,7 @@ const QString stateKey = QStringLiteral("window/state");
 QString draggedFile(const QMimeData* data)
 {
     const QList<QUrl> urls = data->urls();
-    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+    return urls.size() == 1 ? orvane::fromFileUrl(urls.front().toEncoded()) : QString();
 }
 
 } // namespace

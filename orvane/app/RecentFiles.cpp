@@ -1,12 +1,23 @@
 #include "orvane/app/RecentFiles.h"
 
 #include "orvane/app/AppSettings.h"
-
-#include <QFileInfo>
+#include "orvane/app/TextConversion.h"
 
 namespace {
 
 const QString key = QStringLiteral("recentFiles");
+const QString urlStart = QStringLiteral("file://");
+
+// A settings file is text, so a name that isn't is kept as a URL.
+QString toSetting(const QString& fileName)
+{
+    return fileName.isValidUtf16() ? fileName : QString::fromLatin1(orvane::toFileUrl(fileName));
+}
+
+QString fromSetting(const QString& text)
+{
+    return text.startsWith(urlStart) ? orvane::fromFileUrl(text.toLatin1()) : text;
+}
 
 } // namespace
 
@@ -18,12 +29,15 @@ RecentFiles::RecentFiles(AppSettings& settings, QObject* parent)
 
 QStringList RecentFiles::fileNames() const
 {
-    return m_settings.value(key).toStringList().mid(0, capacity);
+    QStringList names;
+    for (const QString& text : m_settings.value(key).toStringList().mid(0, capacity))
+        names.append(fromSetting(text));
+    return names;
 }
 
 void RecentFiles::add(const QString& fileName)
 {
-    const QString absolute = QFileInfo(fileName).absoluteFilePath();
+    const QString absolute = orvane::absoluteFileName(fileName);
     QStringList names = fileNames();
     names.removeAll(absolute);
     names.prepend(absolute);
@@ -33,7 +47,7 @@ void RecentFiles::add(const QString& fileName)
 void RecentFiles::remove(const QString& fileName)
 {
     QStringList names = fileNames();
-    if (names.removeAll(QFileInfo(fileName).absoluteFilePath()) > 0)
+    if (names.removeAll(orvane::absoluteFileName(fileName)) > 0)
         set(names);
 }
 
@@ -44,6 +58,9 @@ void RecentFiles::clear()
 
 void RecentFiles::set(const QStringList& fileNames)
 {
-    m_settings.setValue(key, fileNames);
+    QStringList texts;
+    for (const QString& fileName : fileNames)
+        texts.append(toSetting(fileName));
+    m_settings.setValue(key, texts);
     Q_EMIT changed();
 }

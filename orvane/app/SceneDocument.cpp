@@ -2,6 +2,7 @@
 
 #include "orvane/app/SceneDisposal.h"
 #include "orvane/app/ScenePaths.h"
+#include "orvane/app/TextConversion.h"
 #include "orvane/extender/OrvServices.h"
 
 #include <QFileInfo>
@@ -42,7 +43,7 @@ void SceneDocument::newScene()
 
 void SceneDocument::open(NxRef<NxGroup> scene, const QString& fileName)
 {
-    replace(std::move(scene), QFileInfo(fileName).absoluteFilePath());
+    replace(std::move(scene), orvane::absoluteFileName(fileName));
 }
 
 void SceneDocument::close()
@@ -56,7 +57,7 @@ void SceneDocument::setSaved(const QString& fileName)
     m_services.setClean();
     if (m_pathFolder.isEmpty())
         m_pathFolder = orvane::folderOf(fileName);
-    setFileName(QFileInfo(fileName).absoluteFilePath());
+    setFileName(orvane::absoluteFileName(fileName));
     reportModified();
 }
 

@@ -58,7 +58,7 @@ namespace orvane {
 
 QString folderOf(const QString& fileName)
 {
-    return fileName.isEmpty() ? QString() : QDir::cleanPath(QFileInfo(fileName).absolutePath());
+    return fileName.isEmpty() ? QString() : QFileInfo(orvane::absoluteFileName(fileName)).path();
 }
 
 QString rebasedPath(const QString& path, const QString& from, const QString& to)

@@ -1,13 +1,13 @@
 #include "orvane/app/StartPage.h"
 
 #include "orvane/app/PlainText.h"
+#include "orvane/app/TextConversion.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -39,7 +39,7 @@ QString linksTo(const QString& title, const QStringList& fileNames)
     for (const QString& fileName : fileNames.mid(0, shownFiles)) {
         const QFileInfo file(fileName);
         text += QStringLiteral("<p><a href=\"%1\">%2</a></p>")
-                    .arg(QString::fromLatin1(QUrl::fromLocalFile(fileName).toEncoded()),
+                    .arg(QString::fromLatin1(orvane::toFileUrl(fileName)),
                         orvane::shortLine(file.fileName(), mostCharacters).toHtmlEscaped());
     }
     return text;
@@ -103,7 +103,7 @@ QLabel* StartPage::addLinks(QVBoxLayout* layout, const char* name)
     label->setAlignment(Qt::AlignCenter);
     label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     connect(label, &QLabel::linkActivated, this,
-        [this](const QString& link) { Q_EMIT fileChosen(QUrl(link).toLocalFile()); });
+        [this](const QString& link) { Q_EMIT fileChosen(orvane::fromFileUrl(link.toLatin1())); });
     layout->addWidget(label);
     return label;
 }

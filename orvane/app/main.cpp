@@ -1,6 +1,7 @@
 #include "orvane/app/BatchRun.h"
 #include "orvane/app/CommandLine.h"
 #include "orvane/app/StandardOutput.h"
+#include "orvane/app/TextConversion.h"
 #include "orvane/app/WindowRun.h"
 
 #include <QApplication>
@@ -147,7 +148,7 @@ int run(int argc, char** argv)
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
-        arguments += QString::fromLocal8Bit(argv[i]);
+        arguments += orvane::fromStdFileName(argv[i]);
     const auto [commandLine, error] = CommandLine::parse(arguments);
     if (!error.isEmpty())
         return fail(error, statusUnusableArguments);

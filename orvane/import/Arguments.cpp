@@ -58,6 +58,26 @@ std::size_t* numberOf(std::string_view option, Arguments& arguments)
     return option == "--parent" ? &arguments.parent : nullptr;
 }
 
+// Replaces each %41 by the byte of that number in hexadecimal digits.
+bool decode(std::string& text)
+{
+    std::string bytes;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        if (text[index] != '%') {
+            bytes += text[index];
+            continue;
+        }
+        unsigned int byte = 0;
+        const char* const digits = text.data() + index + 1;
+        if (index + 2 >= text.size() || std::from_chars(digits, digits + 2, byte, 16).ptr != digits + 2 || byte == 0)
+            return false;
+        bytes += static_cast<char>(byte);
+        index += 2;
+    }
+    text = bytes;
+    return true;
+}
+
 } // namespace
 
 const char* usage() noexcept
@@ -76,6 +96,7 @@ const char* usage() noexcept
            "         --processor-time SECONDS           processor time to take at most, 0 for no limit (default 20\n"
            "                                            and 2 more for each MiB that is read; 300\n"
            "                                            for --pictures)\n"
+           "         --encoded                          FILE and NAME have %41 for the byte 0x41, as in a URL\n"
            "         --parent PROCESS                   end when that process ends, which must have started this\n"
            "                                            one\n";
 }
@@ -84,6 +105,7 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
 {
     Arguments arguments;
     int tasks = 0;
+    bool encoded = false;
     if (!takeEnvironment(arguments, error))
         return std::nullopt;
     for (std::size_t index = 0; index < texts.size(); ++index) {
@@ -95,6 +117,10 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
         }
         if (option == "--packed") {
             arguments.packed = true;
+            continue;
+        }
+        if (option == "--encoded") {
+            encoded = true;
             continue;
         }
         std::string* const value = valueOf(option, arguments);
@@ -121,6 +147,10 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
     }
     if (arguments.packed && arguments.task != Arguments::Task::Read) {
         error = "--packed goes with --read only";
+        return std::nullopt;
+    }
+    if (encoded && !(decode(arguments.subject) && decode(arguments.name))) {
+        error = "with --encoded each % needs two hexadecimal digits behind it, other than 00";
         return std::nullopt;
     }
     return arguments;

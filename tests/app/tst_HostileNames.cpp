@@ -7,8 +7,10 @@
 #include "orvane/app/PlainText.h"
 #include "orvane/app/SceneTreeModel.h"
 #include "orvane/app/SceneTreePanel.h"
+#include "orvane/app/TextConversion.h"
 #include "orvane/extender/OrvShell.h"
 
+#include "meridane/scene/Files.h"
 #include "meridane/scene/NxMesh.h"
 #include "meridane/scene/NxPerspectiveCamera.h"
 
@@ -268,6 +270,36 @@ private Q_SLOTS:
         QTest::keyClick(line, Qt::Key_Return);
         QCOMPARE(m_window->document().scene()->getChild(0)->getName(), VbString(name.toStdString()));
         QVERIFY(!m_session->services().canUndo());
+    }
+
+    void aFileWhoseNameIsNoTextIsKeptAmongTheRecentOnes()
+    {
+        const std::string bytes = m_folder->path().toStdString() + "/a\xFF\x80.mrd";
+        meridane::FileReplacer file;
+        const std::string text = "#mrd 1.0\nGroup \"one\" {}\n";
+        QVERIFY(!file.open(bytes) && !file.write(text.data(), text.size()) && !file.commit());
+        QCOMPARE(open(orvane::fromStdFileName(bytes)), QString());
+        QVERIFY2(m_window->windowTitle().startsWith(QStringLiteral("a\ufffd\ufffd.mrd")),
+            qPrintable(m_window->windowTitle()));
+
+        makeWindow();
+        const auto* recent = m_window->findChild<QMenu*>(QStringLiteral("recentMenu"));
+        QSignalSpy settled(m_window.get(), &MainWindow::settled);
+        recent->actions().front()->trigger();
+        QVERIFY(settled.wait());
+        QCOMPARE(settled.front().front().toString(), QString());
+        QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("one"));
+
+        makeWindow();
+        auto* links = m_window->findChild<QLabel*>(QStringLiteral("recentLinks"));
+        QSignalSpy opened(m_window.get(), &MainWindow::settled);
+        links->setFocus();
+        QTest::keyClick(links, Qt::Key_Tab);
+        QTest::keyClick(links, Qt::Key_Return);
+        QVERIFY(opened.wait());
+        QCOMPARE(opened.front().front().toString(), QString());
+        QCOMPARE(m_window->document().fileName(), orvane::fromStdFileName(bytes));
+        QCOMPARE(::unlink(bytes.c_str()), 0); // since the folder of the test can't
     }
 
     void htmlInTextEditsReadsNoFile_data()

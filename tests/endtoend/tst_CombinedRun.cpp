@@ -203,6 +203,54 @@ private Q_SLOTS:
         QCOMPARE(closed.status, 1);
     }
 
+    void namesThatLookLikeHtmlDontStopTheWindow_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("nested tables") << QByteArray("<table><tr><td>").repeated(4000);
+        QTest::newRow("a table beyond all sizes")
+            << QByteArray("<table width=100000000 border=100000000 cellpadding=100000000><tr><td>x");
+        QTest::newRow("picture without end") << QByteArray("<img src=/dev/zero>");
+    }
+    void namesThatLookLikeHtmlDontStopTheWindow()
+    {
+        QFETCH(const QByteArray, name);
+        // A mesh without positions, whose message goes to the console.
+        write(file, "#mrd 1.0\nMesh \"" + name + "\" {}\n");
+        const Outcome outcome = run({QStringLiteral("--screenshot=window.png"), file});
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.status, 0);
+    }
+
+    void filesWhoseNamesAreNoTextAreReadAndWritten()
+    {
+        // The shell makes the names, since they can't be passed as text.
+        const QStringList names{QStringLiteral(ORVANE_PROGRAM), QStringLiteral(MODEL_FOLDER "/crate.glb")};
+        const Outcome outcome
+            = runShell(QStringLiteral("set -e; x=$(printf 'a\\377\\200b%%41'); mkdir \"$x\"; cd \"$x\"\n"
+                                      "cp ../rig.mrd \"$x.mrd\"; cp \"$1\" \"$x.glb\"\n"
+                                      "\"$0\" --no-settings --get /rig/paint.transparency \"$x.mrd\"\n"
+                                      "\"$0\" --no-settings --list \"$x.glb\" >list\n"
+                                      "\"$0\" --no-settings --export \"new$x.mrd\" --export \"new$x.obj\" "
+                                      "--screenshot \"new$x.png\" \"$PWD/$x.mrd\"\n"
+                                      "test -s list; test -s \"new$x.mrd\"; test -s \"new$x.obj\"; "
+                                      "test -s \"new$x.png\"; ls | wc -l; rm -r \"$PWD\""),
+                names);
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(
+            outcome.output, QByteArray("0.25\n7\n")); // two given, the list, and four written: a model is two files
+        QCOMPARE(outcome.status, 0);
+    }
+
+    void aTextThatIsNoneIsRefused()
+    {
+        for (const char* const option : {"--get", "--set", "--select", "--profile", "--plugin"}) {
+            const Outcome outcome = runShell(QStringLiteral("\"$0\" $1 \"$(printf '/rig/paint.name=\\377')\" rig.mrd"),
+                {QStringLiteral(ORVANE_PROGRAM), QLatin1String(option)});
+            QCOMPARE(outcome.errors, QByteArray("orvane: ") + option + " expects UTF-8.\n");
+            QCOMPARE(outcome.status, 2);
+        }
+    }
+
     void helpStatesTheLargestSize()
     {
         const QByteArray help = run({QStringLiteral("--help")}).output.simplified();

@@ -114,6 +114,11 @@ void tst_Program::unusableArgumentsGiveStatusTwo_data()
                              << QStringLiteral("unknown argument \"--fly\"") + end;
     QTest::newRow("no value") << QStringList{QStringLiteral("--read")} << QStringLiteral("--read needs a value") + end;
     const QString alone = QStringLiteral("--packed goes with --read only") + end;
+    for (const char* const name : {"a%4", "a%", "a%zz", "a%00"}) {
+        QTest::addRow("badly encoded %s", name)
+            << QStringList{QStringLiteral("--encoded"), QStringLiteral("--read"), QLatin1String(name)}
+            << QStringLiteral("with --encoded each % needs two hexadecimal digits behind it, other than 00") + end;
+    }
     QTest::newRow("packed writing") << QStringList{QStringLiteral("--packed"), QStringLiteral("--write"),
         QStringLiteral("obj")} << alone;
     QTest::newRow("packed formats") << QStringList{QStringLiteral("--formats"), QStringLiteral("--packed")} << alone;
