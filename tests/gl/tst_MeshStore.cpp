@@ -1,5 +1,6 @@
 #include "gl/DrawingBench.h"
 
+#include "meridane/gl/NxImage.h"
 #include "meridane/scene/NxComplexity.h"
 #include "meridane/scene/NxTransform.h"
 
@@ -119,12 +120,12 @@ void TestMeshStore::aMeshThatChangesWhileItIsDrawnWaits()
     pair.scene->insertChild(texture.get(), 0);
     bench.drawing().setScene(pair.scene.get());
     (void)bench.draw();
-    bench.drawing().setImageLoader([&pair](const std::string&, NxImage&) {
+    bench.drawing().setImageLoader([&pair](const std::string&, NxImage&, std::string&) {
         const auto other = ball(0.35F, 60);
         pair.changed->positions.copyFrom(other->positions);
         pair.changed->normals.copyFrom(other->normals);
         pair.changed->indices.copyFrom(other->indices);
-        return false;
+        return NxImageState::Withheld;
     });
     const auto pixels = [&bench] { return pixelAt(bench.drawUntold(), 0.5, 0); };
     bench.loseContext();
