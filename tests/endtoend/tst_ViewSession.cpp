@@ -1,5 +1,6 @@
 #include "endtoend/LiveTool.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -109,6 +110,31 @@ private Q_SLOTS:
         QTRY_COMPARE(m_tool->action(QStringLiteral("Undo")), QStringLiteral("enabled"));
         m_tool->key(QStringLiteral("ctrl+z"));
         QTRY_VERIFY(find(Qt::red).size > 200);
+        QCOMPARE(m_tool->quit(), 0);
+    }
+
+    void theUserAllowsAFolderOfImages()
+    {
+        m_tool.reset();
+        QImage blue(2, 2, QImage::Format_RGB32);
+        blue.fill(Qt::blue);
+        QVERIFY(blue.save(m_folder.filePath(QStringLiteral("blue.png"))));
+        QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("deep")));
+        QFile file(m_folder.filePath(QStringLiteral("deep/textured.mrd")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("#mrd 1.0\nTexture { filePath = \"../blue.png\" }\n"
+                   "Material { ambientColor = 0 0 0; diffuseColor = 0 0 0; emissiveColor = 1 1 1 }\n"
+                   "Mesh { positions = [0 0 0, 1 0 0, 0 1 0]; textureCoordinates = [0 0, 1 0, 0 1] }\n");
+        file.close();
+        m_tool = std::make_unique<LiveTool>();
+        QVERIFY(m_tool->start({file.fileName()}));
+        const QRect allow = m_tool->widget(QStringLiteral("acceptMessage"));
+        QVERIFY(!allow.isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(find(Qt::white).size > 200, 30000);
+        QCOMPARE(find(Qt::blue).size, 0);
+        m_tool->click(allow.center());
+        QTRY_VERIFY_WITH_TIMEOUT(find(Qt::blue).size > 200, 30000);
+        QTRY_VERIFY(!m_tool->isShown(QStringLiteral("acceptMessage")));
         QCOMPARE(m_tool->quit(), 0);
     }
 
