@@ -1,5 +1,6 @@
 #include "orvane/import/ModelReader.h"
 
+#include "orvane/import/ModelFiles.h"
 #include "orvane/import/SceneBuilder.h"
 
 #include "meridane/scene/Files.h"
@@ -54,6 +55,7 @@ NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
         error = *failure;
         return {};
     }
+    m_importer->SetIOHandler(new ModelFiles(path)); // the importer's own
     const aiScene* model = m_importer->ReadFile(path, steps);
     if (model == nullptr || model->mRootNode == nullptr) {
         error = path + ": " + failureText(path, *m_importer);

@@ -2,6 +2,8 @@
 #include "import/HelperRun.h"
 #include "import/WorldMeshes.h"
 
+#include "orvane/import/ModelReader.h"
+
 #include "meridane/scene/NxCamera.h"
 #include "meridane/scene/NxMaterial.h"
 #include "meridane/scene/NxMatrixTransform.h"
@@ -9,11 +11,15 @@
 #include "meridane/scene/NxPerspectiveCamera.h"
 #include "meridane/scene/NxPointLight.h"
 #include "meridane/scene/NxScenePath.h"
+#include "meridane/scene/NxSceneWriter.h"
 #include "meridane/scene/NxTexture.h"
 #include "meridane/scene/NxTransform.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -41,6 +47,8 @@ private Q_SLOTS:
     void lightsComeFirstAndStandWhereTheirNodesPutThem();
     void embeddedPicturesBecomeImages();
     void otherPicturesArePathsRelativeToTheModel();
+    void aModelIsMadeOfRegularFilesInItsFolder_data();
+    void aModelIsMadeOfRegularFilesInItsFolder();
     void theSameModelInTwoFormatsGivesTheSameMeshes();
     void nodesTooDeepInEachOtherAreRefused();
     void modelsOfOthersAreRead_data();
@@ -252,6 +260,40 @@ void tst_ModelReader::otherPicturesArePathsRelativeToTheModel()
     QVERIFY(texture != nullptr);
     QCOMPARE(texture->filePath.getValue(), VbString("crate.png"));
     QVERIFY(texture->image.isDefault());
+}
+
+void tst_ModelReader::aModelIsMadeOfRegularFilesInItsFolder_data()
+{
+    QTest::addColumn<QByteArray>("materials");
+    QTest::addColumn<bool>("isRead");
+    QTest::newRow("beside") << QByteArray("inner/red.mtl") << true;
+    QTest::newRow("behind a link to a file below") << QByteArray("good.mtl") << true;
+    QTest::newRow("above") << QByteArray("../red.mtl") << false;
+    QTest::newRow("behind a link to a file above") << QByteArray("bad.mtl") << false;
+    QTest::newRow("a pipe") << QByteArray("pipe.mtl") << false;
+    QTest::newRow("a device") << QByteArray("device.mtl") << false;
+}
+
+void tst_ModelReader::aModelIsMadeOfRegularFilesInItsFolder()
+{
+    QFETCH(QByteArray, materials);
+    QFETCH(bool, isRead);
+    const QTemporaryDir root;
+    const auto path = [&root](const char* name) { return root.filePath(QString::fromUtf8(name)); };
+    QVERIFY(QDir().mkpath(path("model/inner")));
+    for (const char* name : {"red.mtl", "model/inner/red.mtl"})
+        QVERIFY(writeFile(path(name), "newmtl red\nKd 1 0 0\n"));
+    QVERIFY(QFile::link(path("red.mtl"), path("model/bad.mtl")));
+    QVERIFY(QFile::link(QStringLiteral("inner/red.mtl"), path("model/good.mtl")));
+    QVERIFY(QFile::link(QStringLiteral("/dev/zero"), path("model/device.mtl")));
+    QCOMPARE(::mkfifo(path("model/pipe.mtl").toLocal8Bit().constData(), S_IRUSR | S_IWUSR), 0);
+    QVERIFY(
+        writeFile(path("model/box.obj"), "mtllib " + materials + "\nv 0 0 0\nv 1 0 0\nv 0 1 0\nusemtl red\nf 1 2 3\n"));
+    // In this process, which isn't locked in.
+    std::string error;
+    const NxRef<NxGroup> scene = orvane::ModelReader().read(path("model/box.obj").toStdString(), error);
+    QVERIFY2(scene, error.c_str());
+    QCOMPARE(NxSceneWriter::toText(scene.get()).find("diffuseColor = 1 0 0") != std::string::npos, isRead);
 }
 
 void tst_ModelReader::theSameModelInTwoFormatsGivesTheSameMeshes()
