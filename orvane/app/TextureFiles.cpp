@@ -3,12 +3,23 @@
 #include "orvane/app/ImageFile.h"
 #include "orvane/app/TextConversion.h"
 
-#include <algorithm>
+#include <chrono>
 #include <utility>
+#include <vector>
+
+namespace {
+
+// Each announcement leads to another picture, which takes time of its own.
+constexpr std::chrono::milliseconds betweenAnnouncements(100);
+
+} // namespace
 
 TextureFiles::TextureFiles(const HelperOptions& options)
     : m_decoder(options)
 {
+    m_announcement.setSingleShot(true);
+    m_announcement.setInterval(betweenAnnouncements);
+    connect(&m_announcement, &QTimer::timeout, this, &TextureFiles::announce);
     connect(&m_decoder, &PictureDecoder::decoded, this, &TextureFiles::takeImage);
     connect(&m_decoder, &PictureDecoder::failed, this, [this](const QString& reason) {
         finish({NxImageState::Failed, {}, reason.toStdString()});
@@ -35,7 +46,10 @@ void TextureFiles::clear()
     m_decoder.cancel();
     m_decoder.rest();
     m_isDecoding = false;
+    m_announcement.stop();
     m_queue.clear();
+    m_queued.clear();
+    m_arrived.clear();
     m_results.clear();
     m_missing.clear();
     m_refused.clear();
@@ -49,7 +63,7 @@ NxImageState TextureFiles::load(const std::string& fileName, NxImage& image, std
         reason = result->second.reason;
         return result->second.state;
     }
-    if (std::find(m_queue.begin(), m_queue.end(), fileName) == m_queue.end()) {
+    if (!m_arrived.contains(fileName) && m_queued.insert(fileName).second) {
         m_queue.push_back(fileName);
         goOnLater();
     }
@@ -64,8 +78,10 @@ void TextureFiles::dropResults()
 void TextureFiles::askAgain()
 {
     m_refused.clear();
-    const std::set<std::string> missing = std::exchange(m_missing, {});
-    for (const std::string& fileName : missing) {
+    std::set<std::string> fileNames = std::exchange(m_missing, {});
+    for (const auto& [fileName, result] : std::exchange(m_arrived, {}))
+        fileNames.insert(fileName);
+    for (const std::string& fileName : fileNames) {
         m_results.erase(fileName);
         Q_EMIT changed(fileName);
     }
@@ -120,9 +136,25 @@ void TextureFiles::finish(Result result)
     m_isDecoding = false;
     const std::string fileName = m_queue.front();
     m_queue.pop_front();
+    m_queued.erase(fileName);
     if (result.state != NxImageState::Loaded)
         m_missing.insert(fileName);
-    m_results.insert_or_assign(fileName, std::move(result));
+    m_arrived.insert_or_assign(fileName, std::move(result));
     goOnLater();
-    Q_EMIT changed(fileName);
+    if (m_queue.empty())
+        announce();
+    else if (!m_announcement.isActive())
+        m_announcement.start();
+}
+
+void TextureFiles::announce()
+{
+    m_announcement.stop();
+    std::vector<std::string> fileNames;
+    for (auto& [fileName, result] : std::exchange(m_arrived, {})) {
+        fileNames.push_back(fileName);
+        m_results.insert_or_assign(fileName, std::move(result));
+    }
+    for (const std::string& fileName : fileNames)
+        Q_EMIT changed(fileName);
 }

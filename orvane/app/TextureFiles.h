@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 
 #include <deque>
 #include <map>
@@ -42,7 +43,7 @@ public:
     /// needed.
     void dropResults();
     /// Whether some image will still come.
-    [[nodiscard]] bool isLoading() const noexcept { return !m_queue.empty(); }
+    [[nodiscard]] bool isLoading() const noexcept { return !m_queue.empty() || !m_arrived.empty(); }
 
 Q_SIGNALS:
     /// What `load` says about this file has changed.
@@ -61,12 +62,16 @@ private:
     void goOn();
     void finish(Result result);
     void takeImage();
+    void announce();
     void askAgain();
 
     ImageFolders m_folders;
     PictureDecoder m_decoder;
     std::deque<std::string> m_queue; // the first is being loaded
-    std::map<std::string, Result> m_results;
+    std::set<std::string> m_queued; // the same
+    std::map<std::string, Result> m_arrived; // what hasn't been announced yet
+    std::map<std::string, Result> m_results; // what has
+    QTimer m_announcement;
     std::set<std::string> m_missing; // what couldn't be loaded, or wasn't allowed
     QStringList m_refused; // folders
     bool m_isDecoding = false;

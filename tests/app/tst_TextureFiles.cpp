@@ -246,6 +246,40 @@ private Q_SLOTS:
         QCOMPARE(QString::fromStdString(m_reason), reason);
     }
 
+    void everyImageIsAnnouncedOnce()
+    {
+        constexpr int count = 200;
+        for (int index = 0; index < count; ++index)
+            savePixel(qPrintable(QStringLiteral("scene/%1.png").arg(index)));
+        QSignalSpy changed(m_files.get(), &TextureFiles::changed);
+        NxImage image;
+        std::string reason;
+        for (int index = 0; index < count; ++index)
+            QCOMPARE(m_files->load(std::to_string(index) + ".png", image, reason), NxImageState::Pending);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_files->isLoading(), 60000);
+        QCOMPARE(changed.size(), count);
+        for (int index = 0; index < count; ++index)
+            QCOMPARE(m_files->load(std::to_string(index) + ".png", image, reason), NxImageState::Loaded);
+    }
+
+    void aPictureMeanwhileLosesNoImage()
+    {
+        for (const char* name : {"scene/a.png", "scene/b.png"})
+            savePixel(name);
+        NxImage image;
+        std::string reason;
+        QSignalSpy changed(m_files.get(), &TextureFiles::changed);
+        connect(m_files.get(), &TextureFiles::changed, this,
+            [&](const std::string& name) { QCOMPARE(m_files->load(name, image, reason), NxImageState::Loaded); });
+        QCOMPARE(m_files->load("a.png", image, reason), NxImageState::Pending);
+        QCOMPARE(m_files->load("b.png", image, reason), NxImageState::Pending);
+        while (m_files->isLoading()) {
+            m_files->dropResults(); // as after each picture
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        QCOMPARE(changed.size(), 2);
+    }
+
     void nobodyWaitsForAnImage()
     {
         QTemporaryDir scripts;
