@@ -138,10 +138,9 @@ void WindowMonkey::askForFile()
     case 2:
         return m_window->openFile(anyFileToRead());
     case 3:
-    case 4: {
-        noteAdd();
+    case 4:
+        ++m_addsAsked;
         return flow()->import(chance(80) ? path("part.mrd") : path("part.obj"));
-    }
     case 5:
         return flow()->save();
     case 6: {
@@ -250,7 +249,7 @@ void WindowMonkey::choose(QFileDialog* dialog)
     else if (dialog->objectName() == QLatin1String("importDialog"))
         fileName = path("part.mrd");
     if (dialog->objectName() == QLatin1String("importDialog"))
-        noteAdd();
+        ++m_addsAsked;
     dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(fileName);
     const auto* buttons = dialog->findChild<QDialogButtonBox*>();
     for (QAbstractButton* const button : buttons->buttons()) {
@@ -303,11 +302,6 @@ void WindowMonkey::takeNewScene()
     stamp->setName(orvane::toVbString(stampPrefix + QString::number(m_stamp)));
     open->insertChild(stamp.get(), 0);
     noteSave(m_session->document().saveFileName()); // by any key or button, from now on
-}
-
-void WindowMonkey::noteAdd()
-{
-    ++m_addsAsked;
 }
 
 void WindowMonkey::noteSave(const QString& fileName)

@@ -52,7 +52,6 @@ private:
     void leaveWindow();
 
     void takeNewScene();
-    void noteAdd();
     void noteSave(const QString& fileName);
     void noteDialog();
     void checkAdds();

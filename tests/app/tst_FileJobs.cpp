@@ -143,6 +143,31 @@ private Q_SLOTS:
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     }
 
+    void aJobThatIsCancelledTwiceEndsOnce_data()
+    {
+        QTest::addColumn<bool>("reads");
+        QTest::newRow("load") << true;
+        QTest::newRow("save") << false;
+    }
+
+    void aJobThatIsCancelledTwiceEndsOnce()
+    {
+        QFETCH(const bool, reads);
+        AppScenes::writeFile(m_fileName, AppScenes::robotText);
+        const std::unique_ptr<FileJob> job
+            = reads ? orvane::makeLoadJob(m_fileName) : orvane::makeSaveJob(AppScenes::robot(), m_fileName, {});
+        const QSignalSpy cancelled(job.get(), &FileJob::cancelled);
+        const QSignalSpy finished(job.get(), &FileJob::finished);
+        job->start();
+        job->cancel();
+        job->cancel();
+        QCoreApplication::processEvents();
+        job->cancel();
+        QCoreApplication::processEvents();
+        QCOMPARE(cancelled.size(), 1);
+        QCOMPARE(finished.size(), 0);
+    }
+
     void readsAndWritesALargeSceneInSlices()
     {
         constexpr int nodes = 30000;
