@@ -43,8 +43,9 @@ int addedGroups(const NxGroup* scene)
 
 } // namespace
 
-WindowMonkey::WindowMonkey(unsigned seed)
+WindowMonkey::WindowMonkey(unsigned seed, QHash<QString, int>& done)
     : m_random(seed)
+    , m_done(done)
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, true);
     makeFiles();
@@ -129,7 +130,7 @@ void WindowMonkey::act()
 
 void WindowMonkey::askForFile()
 {
-    const int what = below(10);
+    const int what = below(12);
     ++m_done[QStringLiteral("request %1").arg(what)];
     switch (what) {
     case 0:
@@ -224,6 +225,7 @@ QDialog* WindowMonkey::openDialog() const
 void WindowMonkey::answer(QDialog* dialog)
 {
     ++m_done[dialog->objectName()];
+    ++m_done[QStringLiteral("dialog")];
     if (auto* const files = qobject_cast<QFileDialog*>(dialog)) {
         choose(files);
         return;
@@ -364,13 +366,6 @@ void WindowMonkey::checkItStillWorks()
     QTRY_COMPARE(m_session->document().sceneNumber(), before + 2);
     QTRY_VERIFY(!settled.isEmpty());
     checkFiles();
-}
-
-void WindowMonkey::checkReach() const
-{
-    for (const char* what :
-        {"scene", "saved", "added", "quit", "saveQuestion", "saveDialog", "openDialog", "importDialog", "exportDialog"})
-        QVERIFY2(m_done.value(QLatin1String(what)) > 0, what);
 }
 
 QString WindowMonkey::anyFileToRead()

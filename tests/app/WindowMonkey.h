@@ -25,15 +25,14 @@ class NxGroup;
 /// the one that it was meant for, and that no change was lost without a question.
 class WindowMonkey : public QObject {
 public:
-    explicit WindowMonkey(unsigned seed);
+    /// Counts what has happened, by its kind, in `done`, which lives longer.
+    WindowMonkey(unsigned seed, QHash<QString, int>& done);
     ~WindowMonkey() override;
 
     /// Does one thing, and lets the event loop turn a few times.
     void step();
     /// Cancels dialogs and lets all jobs end; then the window must do what it is asked for.
     void checkItStillWorks();
-    /// Checks that enough of each kind has happened, without which the rest would say little.
-    void checkReach() const;
 
 private:
     [[nodiscard]] int below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
@@ -77,5 +76,5 @@ private:
     QPointer<QDialog> m_dialog; // of the tool, that is open
     int m_dialogStamp = 0; // of the scene that it is about
     QMultiHash<QString, int> m_stampsFor; // which scenes may be in which file
-    QHash<QString, int> m_done;
+    QHash<QString, int>& m_done;
 };
