@@ -111,31 +111,39 @@ template <typename Value, typename Format>
 NxField::Progress ListField<Value, Format>::readValues(
     std::vector<Value>& values, TextReader& reader, bool first, std::size_t budget) const
 {
-    Value value{};
-    if (first) {
+    if (first)
         values.clear();
-        const bool bracket = reader.accept('[');
-        if (bracket && reader.accept(']'))
-            return Progress::Done;
-        if (!m_format.read(reader, value))
-            return Progress::Failed;
-        values.push_back(value);
-        if (!bracket)
-            return Progress::Done;
-    }
-    const auto maximum = static_cast<std::size_t>(getMaximumNum());
-    for (; budget > 0; --budget) {
-        if (!reader.accept(',') && reader.accept(']'))
-            return Progress::Done;
-        if (values.size() >= maximum) {
-            reader.fail("the end of a list, which has at most " + std::to_string(maximum) + " values");
-            return Progress::Failed;
+    for (; budget > 0 && !reader.isSpent(); --budget) {
+        const std::size_t start = reader.position();
+        const Progress progress = readNextValue(values, reader);
+        if (reader.isInterrupted()) {
+            reader.goBack(start);
+            return Progress::More;
         }
-        if (!m_format.read(reader, value))
-            return Progress::Failed;
-        values.push_back(value);
+        if (progress != Progress::More)
+            return progress;
+        reader.forget();
     }
     return Progress::More;
+}
+
+template <typename Value, typename Format>
+NxField::Progress ListField<Value, Format>::readNextValue(std::vector<Value>& values, TextReader& reader) const
+{
+    const bool first = values.empty();
+    const bool bracket = first && reader.accept('[');
+    const bool ends = first ? bracket && reader.accept(']') : !reader.accept(',') && reader.accept(']');
+    if (ends)
+        return Progress::Done;
+    if (const auto maximum = static_cast<std::size_t>(getMaximumNum()); values.size() >= maximum) {
+        reader.fail("the end of a list, which has at most " + std::to_string(maximum) + " values");
+        return Progress::Failed;
+    }
+    Value value{};
+    if (!m_format.read(reader, value) || reader.isInterrupted())
+        return Progress::Failed;
+    values.push_back(std::move(value));
+    return first && !bracket ? Progress::Done : Progress::More;
 }
 
 template <typename Value, typename Format>
@@ -143,16 +151,21 @@ bool ListField<Value, Format>::writeText(std::string& text, std::size_t& positio
 {
     if (position == 0)
         text += '[';
-    const std::size_t end = m_values.size() - position > budget ? position + budget : m_values.size();
-    for (; position < end; ++position) {
-        if (position > 0)
-            text += ", ";
-        m_format.write(text, m_values[position]);
+    bool more = false;
+    if constexpr (std::is_same_v<Value, VbString>) {
+        more = writeValuesPart(text, m_values, position, textBytesOf(budget));
+    } else {
+        const std::size_t end = m_values.size() - position > budget ? position + budget : m_values.size();
+        for (; position < end; ++position) {
+            if (position > 0)
+                text += ", ";
+            m_format.write(text, m_values[position]);
+        }
+        more = position < m_values.size();
     }
-    if (position < m_values.size())
-        return true;
-    text += ']';
-    return false;
+    if (!more)
+        text += ']';
+    return more;
 }
 
 template <typename Value, typename Format>

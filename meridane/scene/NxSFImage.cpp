@@ -115,15 +115,22 @@ bool NxSFImage::readPixel(Image& image, meridane::TextReader& reader)
 
 NxField::Progress NxSFImage::readText(meridane::TextReader& reader, bool first, std::size_t budget)
 {
-    if (first && !readHeader(m_image, reader))
-        return Progress::Failed;
-    for (; m_image.bytes.size() < m_image.byteCount(); --budget) {
-        if (budget == 0)
+    if (first)
+        m_image = {};
+    std::size_t start = reader.position();
+    bool isRead = m_image.components > 0 || readHeader(m_image, reader);
+    for (; isRead && !reader.isInterrupted() && m_image.bytes.size() < m_image.byteCount(); --budget) {
+        if (budget == 0 || reader.isSpent())
             return Progress::More;
-        if (!readPixel(m_image, reader))
-            return Progress::Failed;
+        start = reader.position();
+        isRead = readPixel(m_image, reader);
+        if (isRead)
+            reader.forget();
     }
-    return Progress::Done;
+    if (!reader.isInterrupted())
+        return isRead ? Progress::Done : Progress::Failed;
+    reader.goBack(start);
+    return Progress::More;
 }
 
 bool NxSFImage::writeText(std::string& text, std::size_t& position, std::size_t budget) const

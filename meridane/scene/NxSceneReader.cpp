@@ -11,6 +11,13 @@ NxSceneReader::NxSceneReader(std::string text, std::string fileName)
 
 NxSceneReader::~NxSceneReader() = default;
 
+std::optional<NxReadFailure> NxSceneReader::checkBeginning(std::string beginning, std::string fileName)
+{
+    Parser parser(std::move(beginning), std::move(fileName));
+    parser.readFirstLine();
+    return parser.state() == State::Failed ? std::optional(parser.failure()) : std::nullopt;
+}
+
 NxSceneReader::State NxSceneReader::step(const meridane::WorkBudget& budget)
 {
     return m_parser->step(budget);

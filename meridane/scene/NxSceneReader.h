@@ -6,6 +6,7 @@
 #include "meridane/scene/NxRef.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 /// Reads a scene from the text of a scene file, in slices, all or nothing.
@@ -22,6 +23,9 @@ public:
 
     /// `text` is the whole content of the file, `fileName` the name for messages.
     NxSceneReader(std::string text, std::string fileName);
+    /// Why a file that begins with these bytes is no scene file, judged by its first line alone; nothing if it may be
+    /// one. Made for a look at a file before all of it is read.
+    [[nodiscard]] static std::optional<NxReadFailure> checkBeginning(std::string beginning, std::string fileName);
     ~NxSceneReader();
 
     /// Goes on reading until done or until the budget is spent; it may overrun it by about a millisecond.

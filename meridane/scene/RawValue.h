@@ -26,6 +26,7 @@ private:
 
     std::string_view m_text; // all that follows until the end is found
     std::size_t m_start = 0;
+    std::size_t m_length = 0; // without the blanks at the end
     std::size_t m_depth = 0;
     bool m_quoted = false;
     bool m_comment = false;

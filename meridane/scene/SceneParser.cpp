@@ -15,7 +15,8 @@ namespace {
 constexpr std::string_view signature = "#mrd ";
 constexpr std::string_view version = "1.0";
 constexpr std::size_t unitsPerLookAtTheClock = 32;
-constexpr std::size_t bytesPerSlice = std::size_t{1} << 16U;
+constexpr std::size_t bytesPerSlice = std::size_t{1} << 13U;
+constexpr std::size_t checkedBytesPerSlice = std::size_t{1} << 16U; // which takes less time
 
 } // namespace
 
@@ -34,8 +35,7 @@ NxSceneReader::State NxSceneReader::Parser::step(const meridane::WorkBudget& bud
 {
     try {
         do {
-            for (std::size_t unit = 0; unit < unitsPerLookAtTheClock && state() == State::Working; ++unit)
-                work();
+            workInSlice();
         } while (state() == State::Working && !budget.isSpent());
     } catch (const std::bad_alloc&) {
         failForMemory();
@@ -66,6 +66,20 @@ NxRef<NxGroup> NxSceneReader::Parser::takeScene()
     return m_phase == Phase::Done ? std::exchange(m_scene, nullptr) : nullptr;
 }
 
+// Until it is worth a look at the clock.
+void NxSceneReader::Parser::workInSlice()
+{
+    bool isShort = true;
+    for (std::size_t unit = 0; unit < unitsPerLookAtTheClock && isShort && state() == State::Working; ++unit) {
+        const std::size_t start = m_reader.position();
+        m_reader.startSlice(bytesPerSlice);
+        work();
+        isShort = !m_reader.isSpent();
+        if (m_reader.isInterrupted())
+            m_reader.goBack(start);
+    }
+}
+
 void NxSceneReader::Parser::work()
 {
     switch (m_phase) {
@@ -79,8 +93,12 @@ void NxSceneReader::Parser::work()
         return readValue();
     case Phase::RawValue:
         return readRawValue();
+    case Phase::RawText:
+        return takeRawText();
     case Phase::Reference:
         return findReference();
+    case Phase::EndOfStatement:
+        return endStatement();
     case Phase::Done:
     case Phase::Failed:
         return;
@@ -108,7 +126,7 @@ void NxSceneReader::Parser::readFirstLine()
 void NxSceneReader::Parser::checkEncoding()
 {
     constexpr std::size_t longestCharacter = 4;
-    const std::string_view rest = std::string_view(m_text).substr(m_checked, bytesPerSlice);
+    const std::string_view rest = std::string_view(m_text).substr(m_checked, checkedBytesPerSlice);
     const bool last = m_checked + rest.size() == m_text.size();
     const std::size_t invalid = meridane::findInvalidUtf8(rest);
     if (invalid == std::string_view::npos) {
@@ -140,8 +158,18 @@ void NxSceneReader::Parser::readRawValue()
         return failAsNoted();
     if (progress == meridane::RawValue::Progress::More)
         return;
-    m_unknownField.text = m_rawValue.text();
-    top().node->addUnknownField(std::move(m_unknownField));
+    m_unknownField.text.clear();
+    m_unknownField.text.reserve(m_rawValue.text().size());
+    m_phase = Phase::RawText;
+}
+
+void NxSceneReader::Parser::takeRawText()
+{
+    const std::string_view rest = m_rawValue.text().substr(m_unknownField.text.size());
+    m_unknownField.text += rest.substr(0, checkedBytesPerSlice);
+    if (rest.size() > checkedBytesPerSlice)
+        return;
+    top().node->addUnknownField(std::exchange(m_unknownField, {}));
     endStatement();
 }
 
@@ -171,6 +199,12 @@ bool NxSceneReader::Parser::isOpen(std::string_view nameOrLabel) const
 
 void NxSceneReader::Parser::failAt(std::size_t offset, std::string message)
 {
+    if (!m_reader.isInterrupted())
+        endAt(offset, std::move(message));
+}
+
+void NxSceneReader::Parser::endAt(std::size_t offset, std::string message)
+{
     const meridane::TextPlace place = meridane::findPlace(m_text, offset);
     m_failure.line = place.line;
     m_failure.column = place.column;
@@ -182,7 +216,7 @@ void NxSceneReader::Parser::failAt(std::size_t offset, std::string message)
 void NxSceneReader::Parser::failForMemory()
 {
     m_scene = nullptr; // makes room for the message
-    failAt(m_reader.position(), "the scene doesn't fit in memory");
+    endAt(m_reader.position(), "the scene doesn't fit in memory");
 }
 
 void NxSceneReader::Parser::failExpecting(std::size_t offset, std::string_view expected)

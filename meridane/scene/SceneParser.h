@@ -16,13 +16,26 @@ public:
     Parser(std::string text, std::string fileName);
 
     State step(const meridane::WorkBudget& budget);
+    /// The first unit of the work.
+    void readFirstLine();
     [[nodiscard]] State state() const noexcept;
     [[nodiscard]] double progress() const noexcept;
     [[nodiscard]] const NxReadFailure& failure() const noexcept { return m_failure; }
     [[nodiscard]] NxRef<NxGroup> takeScene();
 
 private:
-    enum class Phase { FirstLine, Encoding, Statement, Value, RawValue, Reference, Done, Failed };
+    enum class Phase {
+        FirstLine,
+        Encoding,
+        Statement,
+        Value,
+        RawValue,
+        RawText,
+        Reference,
+        EndOfStatement,
+        Done,
+        Failed
+    };
 
     /// A node whose closing brace is still to come. The list keeps its elements for reuse.
     struct OpenNode {
@@ -36,12 +49,13 @@ private:
         std::unordered_set<std::string_view> seenUnknownFields;
     };
 
+    void workInSlice();
     void work();
-    void readFirstLine();
     void checkEncoding();
     void readStatement();
     void readValue();
     void readRawValue();
+    void takeRawText();
     void findReference();
 
     [[nodiscard]] OpenNode& top() noexcept { return m_open[m_depth]; }
@@ -60,7 +74,9 @@ private:
     void endText();
     [[nodiscard]] bool isOpen(std::string_view nameOrLabel) const;
 
+    /// Does nothing while the reader of texts is interrupted: then nothing is known to be wrong.
     void failAt(std::size_t offset, std::string message);
+    void endAt(std::size_t offset, std::string message);
     void failTwice(std::string_view name, std::size_t place);
     void failForMemory();
     void failExpecting(std::size_t offset, std::string_view expected);

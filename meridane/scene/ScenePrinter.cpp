@@ -63,6 +63,8 @@ void NxSceneWriter::Printer::work(std::string& text)
         return writeNext(text);
     case Phase::Value:
         return writeValueSlice(text);
+    case Phase::UnknownValue:
+        return writeUnknownSlice(text);
     case Phase::Done:
         return;
     }
@@ -87,8 +89,13 @@ void NxSceneWriter::Printer::writeNext(std::string& text)
     OpenNode& open = m_open.back();
     const std::vector<NxFieldContainer::UnknownField>& unknown = open.node->getUnknownFields();
     const auto children = open.node->getChildren();
-    if (open.data != nullptr && open.nextUnknownField < unknown.size())
-        return writeUnknownField(text, unknown[open.nextUnknownField++]);
+    if (open.data != nullptr && open.nextUnknownField < unknown.size()) {
+        m_unknownField = &unknown[open.nextUnknownField++];
+        startField(text, m_unknownField->name, m_unknownField->ignored);
+        m_position = 0;
+        m_phase = Phase::UnknownValue;
+        return;
+    }
     if (open.nextChild < children.size())
         return writeChild(text, children[open.nextChild++]);
     m_open.pop_back();
@@ -151,11 +158,16 @@ void NxSceneWriter::Printer::writeValueSlice(std::string& text)
     m_phase = Phase::Nodes;
 }
 
-void NxSceneWriter::Printer::writeUnknownField(std::string& text, const NxFieldContainer::UnknownField& field)
+void NxSceneWriter::Printer::writeUnknownSlice(std::string& text)
 {
-    startField(text, field.name, field.ignored);
-    text += field.text;
+    constexpr std::size_t bytesPerSlice = std::size_t{1} << 14U;
+    const std::string_view part = std::string_view(m_unknownField->text).substr(m_position, bytesPerSlice);
+    text += part;
+    m_position += part.size();
+    if (m_position < m_unknownField->text.size())
+        return;
     text += '\n';
+    m_phase = Phase::Nodes;
 }
 
 void NxSceneWriter::Printer::writeChild(std::string& text, NxNode* child)

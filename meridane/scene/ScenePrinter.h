@@ -23,7 +23,7 @@ public:
     [[nodiscard]] const std::string& failure() const noexcept { return m_failure; }
 
 private:
-    enum class Phase { Sharing, Nodes, Value, Done };
+    enum class Phase { Sharing, Nodes, Value, UnknownValue, Done };
 
     /// A node whose closing brace is still to come.
     struct OpenNode {
@@ -41,7 +41,7 @@ private:
     bool writeMappedPath(std::string& text, const NxField& field) const;
     void startField(std::string& text, std::string_view name, bool ignored);
     void writeValueSlice(std::string& text);
-    void writeUnknownField(std::string& text, const NxFieldContainer::UnknownField& field);
+    void writeUnknownSlice(std::string& text);
     void writeChild(std::string& text, NxNode* child);
     void startNode(std::string& text, NxNode* node, const std::string& label);
     void writeQuoted(std::string& text, std::string_view name);
@@ -57,6 +57,7 @@ private:
 
     // The value that is being written over several slices.
     const NxField* m_field = nullptr;
+    const NxFieldContainer::UnknownField* m_unknownField = nullptr;
     std::size_t m_position = 0;
     std::string m_slice;
     meridane::ValueWrapper m_wrapper;

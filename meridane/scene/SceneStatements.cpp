@@ -32,6 +32,8 @@ bool endsStatement(char character)
 void NxSceneReader::Parser::readStatement()
 {
     skipSeparators();
+    if (m_reader.isInterrupted() || m_reader.isSpent())
+        return;
     if (m_reader.atEnd())
         return endText();
     if (m_depth > 0 && m_reader.peek() == '}')
@@ -57,7 +59,7 @@ void NxSceneReader::Parser::readStatement()
 
 void NxSceneReader::Parser::skipSeparators()
 {
-    while (m_reader.accept(';')) { }
+    while (m_reader.accept(';') && !m_reader.isSpent()) { }
 }
 
 bool NxSceneReader::Parser::readIdentifier(std::string_view& word, std::string_view expected)
@@ -66,7 +68,7 @@ bool NxSceneReader::Parser::readIdentifier(std::string_view& word, std::string_v
     if (rest.empty() || !isLetter(rest.front()))
         return m_reader.fail(expected);
     std::size_t length = 1;
-    while (length < rest.size() && isLetterOrDigit(rest[length]))
+    while (length < rest.size() && length <= maxNameLength && isLetterOrDigit(rest[length]))
         ++length;
     if (length > maxNameLength)
         return m_reader.fail("a word of at most 65536 bytes");
@@ -136,11 +138,10 @@ bool NxSceneReader::Parser::readNodeHead(std::string& name, std::string& label)
         expected = "\"as\" or \"{\"";
     }
     if (isLetter(m_reader.peek())) {
-        TextReader ahead(m_reader);
+        const std::size_t place = m_reader.position();
         std::string_view word;
-        if (!ahead.readWord(word, expected) || word != "as")
-            return m_reader.fail(expected);
-        m_reader.advance(word.size());
+        if (!m_reader.readWord(word, expected) || word != "as")
+            return m_reader.failAt(place, expected);
         if (!readNameText(label))
             return false;
         m_reader.skipBlanks();
@@ -226,11 +227,15 @@ void NxSceneReader::Parser::failTwice(std::string_view name, std::size_t place)
 void NxSceneReader::Parser::endStatement()
 {
     // The value may have looked for its continuation in the next line already.
-    const std::string_view before = std::string_view(m_text).substr(0, m_reader.position());
-    const std::size_t last = before.find_last_not_of(" \t\r");
-    const bool newLine = last != std::string_view::npos && before[last] == '\n';
+    const bool newLine = m_reader.isBehindLineEnd();
+    const std::size_t start = m_reader.position();
     if (!newLine)
         m_reader.skipBlanksOfLine();
+    if (m_reader.isInterrupted()) {
+        m_reader.goBack(start);
+        m_phase = Phase::EndOfStatement;
+        return;
+    }
     if (!newLine && !m_reader.atEnd() && !endsStatement(m_reader.peek()))
         return failExpecting(m_reader.position(), "the end of the line or \";\"");
     m_phase = Phase::Statement;

@@ -4,6 +4,7 @@
 #include "meridane/scene/SingleField.h"
 #include "meridane/scene/ValueBits.h"
 
+#include <type_traits>
 #include <utility>
 
 namespace meridane {
@@ -38,12 +39,19 @@ std::size_t SingleField<Value, Format>::valueBytes() const
 template <typename Value, typename Format>
 NxField::Progress SingleField<Value, Format>::readText(TextReader& reader, bool /*first*/, std::size_t /*budget*/)
 {
-    return m_format.read(reader, m_value) ? Progress::Done : Progress::Failed;
+    const std::size_t start = reader.position();
+    const bool isRead = m_format.read(reader, m_value);
+    if (!reader.isInterrupted())
+        return isRead ? Progress::Done : Progress::Failed;
+    reader.goBack(start);
+    return Progress::More;
 }
 
 template <typename Value, typename Format>
-bool SingleField<Value, Format>::writeText(std::string& text, std::size_t& /*position*/, std::size_t /*budget*/) const
+bool SingleField<Value, Format>::writeText(std::string& text, std::size_t& position, std::size_t budget) const
 {
+    if constexpr (std::is_same_v<Value, VbString>)
+        return writeValuePart(text, m_value, position, textBytesOf(budget));
     m_format.write(text, m_value);
     return false;
 }

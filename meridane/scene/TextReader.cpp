@@ -6,6 +6,7 @@
 #include <bit>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
 namespace meridane {
 
@@ -17,6 +18,8 @@ std::string rangeText()
     return "a whole number from " + std::to_string(std::numeric_limits<Number>::min()) + " to "
         + std::to_string(std::numeric_limits<Number>::max());
 }
+
+constexpr std::string_view knownEscapes = "one of the escapes \\\", \\\\, \\n and \\t";
 
 // The character that an escape stands for, NUL for an escape that doesn't exist.
 char unescape(char character)
@@ -73,10 +76,81 @@ const char* readNanFraction(const char* place, const char* end, Bits& fraction)
 
 } // namespace
 
-void TextReader::skipComment() noexcept
+void TextReader::startSlice(std::size_t bytes)
 {
-    while (m_end - m_at > 1 && *m_at != '\n')
-        ++m_at;
+    if (!m_goesBack)
+        forget();
+    m_goesBack = false;
+    m_interrupted = false;
+    m_slice = bytes;
+    m_sliceStart = position();
+}
+
+void TextReader::goBack(std::size_t position) noexcept
+{
+    m_at = m_begin + position;
+    m_interrupted = false;
+    m_goesBack = true;
+}
+
+bool TextReader::interrupt() noexcept
+{
+    m_interrupted = true;
+    m_at = m_end;
+    return false;
+}
+
+const char* TextReader::endOfSlice(const char* begin, const char* end) const noexcept
+{
+    return static_cast<std::size_t>(end - begin) > m_slice ? begin + m_slice : end;
+}
+
+TextReader::Run& TextReader::runHere(Blanks blanks)
+{
+    const auto isThis = [&](const Run& run) { return run.begin == m_at && run.blanks == blanks; };
+    const auto known = std::find_if(m_runs.begin(), m_runs.end(), isThis);
+    if (known != m_runs.end())
+        return *known;
+    const bool hasLineEnd = isBehindLineEnd();
+    if (m_slice == noSlice)
+        m_runs.clear(); // nobody goes back
+    return m_runs.emplace_back(Run{m_at, m_at, blanks, false, hasLineEnd});
+}
+
+void TextReader::skipFarBlanks(Blanks blanks)
+{
+    Run& run = runHere(blanks);
+    const char* const end = endOfSlice(run.at, m_end);
+    for (; run.at != end; ++run.at) {
+        if (run.inComment)
+            run.at = std::find(run.at, end, '\n');
+        if (run.at == end)
+            break;
+        run.inComment = false;
+        const char character = *run.at;
+        if (character == ' ' || character == '\t')
+            continue;
+        if (blanks == Blanks::Line || (character != '\n' && character != '\r' && character != '#'))
+            break;
+        run.inComment = character == '#';
+        run.hasLineEnd = run.hasLineEnd || character == '\n';
+    }
+    m_at = run.at;
+    if (run.at == end && end != m_end)
+        interrupt();
+}
+
+bool TextReader::isBehindLineEnd() const noexcept
+{
+    const char* place = m_at;
+    for (std::ptrdiff_t count = 0; count <= 2 * nearBlanks && place != m_begin; ++count) {
+        --place;
+        if (*place != ' ' && *place != '\t' && *place != '\r')
+            return *place == '\n';
+    }
+    // So many blanks were passed as a run, if there is anything else before them.
+    return std::any_of(
+        m_runs.begin(), m_runs.end(), [this](const Run& run) { return run.at == m_at && run.hasLineEnd; });
 }
 
 bool TextReader::expect(char character)
@@ -95,6 +169,7 @@ bool TextReader::expectEnd()
 template <typename Number>
 bool TextReader::readUnusualNumber(Number& number)
 {
+    const char* const last = endOfWord();
     const char* place = m_at;
     const bool negative = place != m_end && *place == '-';
     if (place != m_end && (*place == '+' || *place == '-'))
@@ -105,7 +180,7 @@ bool TextReader::readUnusualNumber(Number& number)
         const bool hexadecimal = m_end - place > 2 && place[0] == '0' && (place[1] == 'x' || place[1] == 'X');
         unsigned long long magnitude = 0;
         const auto [end, error]
-            = std::from_chars(hexadecimal ? place + 2 : place, m_end, magnitude, hexadecimal ? 16 : 10);
+            = std::from_chars(hexadecimal ? place + 2 : place, last, magnitude, hexadecimal ? 16 : 10);
         if (!digitFollows || error == std::errc::invalid_argument || !endsHere(end))
             return fail("a whole number");
         const unsigned long long limit = negative
@@ -119,7 +194,7 @@ bool TextReader::readUnusualNumber(Number& number)
         if (isNan({place, static_cast<std::size_t>(m_end - place)}))
             return readNan(place, negative, number);
         Number magnitude = 0;
-        auto [end, error] = std::from_chars(place, m_end, magnitude);
+        auto [end, error] = std::from_chars(place, last, magnitude);
         if (!digitFollows || error == std::errc::invalid_argument || !endsHere(end))
             return fail("a number");
         if (error == std::errc::result_out_of_range) {
@@ -140,7 +215,7 @@ bool TextReader::readNan(const char* place, bool negative, Number& number)
 {
     using Nan = NanBits<Number>;
     typename Nan::Bits fraction = Nan::plainFraction;
-    const char* const end = readNanFraction(place + 3, m_end, fraction);
+    const char* const end = readNanFraction(place + 3, endOfWord(), fraction);
     if (end == nullptr || !endsHere(end) || fraction == 0 || fraction > Nan::greatestFraction) {
         return fail(std::is_same_v<Number, float> ? "nan, or nan(0x1) to nan(0x7fffff)"
                                                   : "nan, or nan(0x1) to nan(0xfffffffffffff)");
@@ -160,11 +235,14 @@ template bool TextReader::readUnusualNumber(unsigned int&);
 bool TextReader::readWord(std::string_view& word, std::string_view expected)
 {
     skipBlanks();
+    const char* const last = endOfWord();
     const char* end = m_at;
-    while (!endsHere(end))
+    while (end != last && !isDelimiter(*end))
         ++end;
     if (end == m_at)
         return fail(expected);
+    if (!endsHere(end))
+        return fail("a word of at most " + std::to_string(longestWord) + " bytes");
     word = {m_at, static_cast<std::size_t>(end - m_at)};
     m_at = end;
     return true;
@@ -172,12 +250,23 @@ bool TextReader::readWord(std::string_view& word, std::string_view expected)
 
 bool TextReader::readQuoted(std::string_view& text)
 {
+    // More than two names have, so that a place where there may be two of them never holds two long texts.
+    constexpr std::size_t nearText = 2 * longestWord;
     if (!accept('"'))
         return fail("a text in double quotes");
+    if (m_longText.begin == m_at)
+        return readLongText(text);
     const char* const start = m_at;
+    const char* const near = m_slice == noSlice || rest().size() <= nearText ? m_end : m_at + nearText;
     bool escaped = false;
     while (true) {
-        const std::size_t run = rest().find_first_of("\"\\");
+        const std::string_view left(m_at, static_cast<std::size_t>(near - m_at));
+        const std::size_t run = left.find_first_of("\"\\");
+        const bool isCut = run == std::string_view::npos || (left[run] == '\\' && run + 1 == left.size());
+        if (isCut && near != m_end) {
+            m_longText = {start, start, nullptr, 0};
+            return readLongText(text);
+        }
         if (run == std::string_view::npos) {
             m_at = start - 1;
             return fail("a text with a closing quote");
@@ -197,15 +286,74 @@ bool TextReader::readQuoted(std::string_view& text)
         m_unescaped += plain;
         const char character = m_end - m_at > 1 ? unescape(m_at[1]) : '\0';
         if (character == '\0')
-            return fail("one of the escapes \\\", \\\\, \\n and \\t");
+            return fail(knownEscapes);
         m_unescaped += character;
         m_at += 2;
     }
 }
 
+bool TextReader::readLongText(std::string_view& text)
+{
+    if (m_longText.end == nullptr && !findEndOfLongText())
+        return false;
+    LongText& part = m_longText;
+    const char* const end = endOfSlice(part.at, part.end);
+    while (part.at < end) {
+        const std::string_view left(part.at, static_cast<std::size_t>(end - part.at));
+        const std::size_t run = std::min(left.find('\\'), left.size());
+        m_unescaped += left.substr(0, run);
+        part.at += run;
+        if (run == left.size())
+            break;
+        const char character = unescape(part.at[1]);
+        if (character == '\0') {
+            m_at = part.at;
+            return fail(knownEscapes);
+        }
+        m_unescaped += character;
+        part.at += 2;
+    }
+    if (part.at < part.end)
+        return interrupt();
+    text = m_unescaped;
+    m_at = part.end + 1;
+    m_longText = {};
+    return true;
+}
+
+bool TextReader::findEndOfLongText()
+{
+    LongText& part = m_longText;
+    const char* const end = endOfSlice(part.at, m_end);
+    while (part.at < end) {
+        const std::string_view left(part.at, static_cast<std::size_t>(end - part.at));
+        const std::size_t run = std::min(left.find_first_of("\"\\"), left.size());
+        part.at += run;
+        if (run == left.size())
+            break;
+        if (*part.at == '"') {
+            m_unescaped.clear();
+            m_unescaped.reserve(static_cast<std::size_t>(part.at - part.begin) - part.escapes);
+            part.end = std::exchange(part.at, part.begin);
+            return true;
+        }
+        ++part.escapes;
+        part.at += std::min<std::ptrdiff_t>(2, m_end - part.at);
+    }
+    if (part.at != m_end)
+        return interrupt();
+    m_at = part.begin - 1;
+    return fail("a text with a closing quote");
+}
+
+std::string TextReader::takeQuoted(std::string_view text)
+{
+    return text.data() == m_unescaped.data() ? std::exchange(m_unescaped, {}) : std::string(text);
+}
+
 bool TextReader::failAt(std::size_t position, std::string_view expected)
 {
-    if (m_expected.empty()) {
+    if (m_expected.empty() && !m_interrupted) {
         m_expected = expected;
         m_failurePosition = position;
     }

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 namespace meridane {
 
@@ -14,6 +15,11 @@ namespace meridane {
 ///
 /// Every operation that gives false leaves a note of what was expected and where; the first note stays. The text isn't
 /// copied and must outlive the reader. Numbers are read without a locale.
+///
+/// Blanks, comments and texts may be of any length. A caller that reads in slices calls `startSlice`: an operation that
+/// meets more of them than the slice has bytes is interrupted. From then on the reader behaves as at the end of the
+/// text and notes no failure. The caller goes back to a place from which it can read again; in the next slices the
+/// reader passes in one step what it has passed already.
 class TextReader {
 public:
     enum class Blanks {
@@ -39,11 +45,28 @@ public:
     /// Moves the cursor on; not beyond the end.
     void advance(std::size_t count) noexcept { m_at += count < rest().size() ? count : rest().size(); }
 
-    void skipBlanks() noexcept;
+    /// Begins a slice of about that many bytes at the cursor, and lets the reader go on after an interruption.
+    void startSlice(std::size_t bytes);
+    /// Whether the cursor has passed as many bytes as the slice has; always false without slices.
+    [[nodiscard]] bool isSpent() const noexcept { return m_slice != noSlice && position() - m_sliceStart >= m_slice; }
+    /// Whether an operation was interrupted.
+    [[nodiscard]] bool isInterrupted() const noexcept { return m_interrupted; }
+    /// Ends an interruption: moves the cursor back to where the next slice begins.
+    void goBack(std::size_t position) noexcept;
+    /// Forgets what was passed: nobody goes back to a place before the cursor any more.
+    void forget() noexcept
+    {
+        m_runs.clear();
+        m_longText.begin = nullptr;
+    }
+
+    void skipBlanks();
     /// Skips spaces and tabs only.
-    void skipBlanksOfLine() noexcept;
+    void skipBlanksOfLine();
+    /// Whether there is a line end before the cursor and nothing but spaces and tabs between them.
+    [[nodiscard]] bool isBehindLineEnd() const noexcept;
     /// Skips blanks, and then `character` if it stands there; true if it does. Leaves no note.
-    bool accept(char character) noexcept;
+    bool accept(char character);
     /// The same, but it must stand there.
     bool expect(char character);
     /// Skips blanks; then the text must be at its end.
@@ -60,6 +83,8 @@ public:
     bool readWord(std::string_view& word, std::string_view expected);
     /// Reads a text in double quotes. The view is valid until the next call, or until the text goes.
     bool readQuoted(std::string_view& text);
+    /// The text that `readQuoted` gave last, without a copy if the reader has put it together itself.
+    [[nodiscard]] std::string takeQuoted(std::string_view text);
 
     /// Notes what was expected at the cursor, unless there is a note already. Always false.
     bool fail(std::string_view expected) { return failAt(position(), expected); }
@@ -68,6 +93,9 @@ public:
     [[nodiscard]] const std::string& expected() const noexcept { return m_expected; }
     /// The byte offset of the first failure.
     [[nodiscard]] std::size_t failurePosition() const noexcept { return m_failurePosition; }
+
+    /// The most bytes that a number or a word may have.
+    static constexpr std::size_t longestWord = 65536;
 
     /// True for the characters that end a number or a word.
     [[nodiscard]] static bool isDelimiter(char character) noexcept
@@ -85,9 +113,38 @@ private:
     }
     static const std::array<bool, 256> s_delimiters;
 
+    static constexpr std::size_t noSlice = std::string_view::npos;
+    /// So many blanks are passed without a look at the slice.
+    static constexpr std::ptrdiff_t nearBlanks = 64;
+
+    /// Blanks and comments that are passed in several slices.
+    struct Run {
+        const char* begin = nullptr;
+        const char* at = nullptr;
+        Blanks blanks = Blanks::Line;
+        bool inComment = false;
+        bool hasLineEnd = false;
+    };
+    /// A quoted text that is passed in several slices: first its end is found, then it is put together.
+    struct LongText {
+        const char* begin = nullptr;
+        const char* at = nullptr;
+        const char* end = nullptr; // the closing quote, when it is known
+        std::size_t escapes = 0;
+    };
+
     [[nodiscard]] bool endsHere(const char* place) const noexcept { return place == m_end || isDelimiter(*place); }
-    // Moves to the last character of a comment.
-    void skipComment() noexcept;
+    /// Where a number or a word that begins at the cursor ends at the latest.
+    [[nodiscard]] const char* endOfWord() const noexcept
+    {
+        return static_cast<std::size_t>(m_end - m_at) > longestWord ? m_at + longestWord : m_end;
+    }
+    [[nodiscard]] const char* endOfSlice(const char* begin, const char* end) const noexcept;
+    void skipFarBlanks(Blanks blanks);
+    [[nodiscard]] Run& runHere(Blanks blanks);
+    bool readLongText(std::string_view& text);
+    bool findEndOfLongText();
+    bool interrupt() noexcept;
     template <typename Number>
     bool readUnusualNumber(Number& number);
     template <typename Number>
@@ -99,33 +156,46 @@ private:
     Blanks m_blanks;
     std::size_t m_failurePosition = 0;
     std::string m_expected;
-    std::string m_unescaped; // holds a quoted text with escapes
+    std::string m_unescaped; // holds a quoted text with escapes, or a long one
+
+    std::size_t m_slice = noSlice; // bytes
+    std::size_t m_sliceStart = 0;
+    bool m_interrupted = false;
+    bool m_goesBack = false; // what was passed will be passed again
+    std::vector<Run> m_runs;
+    LongText m_longText;
 };
 
 inline constexpr std::array<bool, 256> TextReader::s_delimiters = makeDelimiters();
 
-inline void TextReader::skipBlanks() noexcept
+inline void TextReader::skipBlanks()
 {
-    for (; m_at != m_end; ++m_at) {
+    const char* const near = m_end - m_at > nearBlanks ? m_at + nearBlanks : m_end;
+    for (; m_at != near; ++m_at) {
         const char character = *m_at;
         if (character == ' ' || character == '\t')
             continue;
         if (character > '#' || m_blanks == Blanks::Line)
             return;
         if (character == '#')
-            skipComment();
-        else if (character != '\n' && character != '\r')
+            return skipFarBlanks(m_blanks);
+        if (character != '\n' && character != '\r')
             return;
     }
+    if (near != m_end)
+        skipFarBlanks(m_blanks);
 }
 
-inline void TextReader::skipBlanksOfLine() noexcept
+inline void TextReader::skipBlanksOfLine()
 {
-    while (m_at != m_end && (*m_at == ' ' || *m_at == '\t'))
+    const char* const near = m_end - m_at > nearBlanks ? m_at + nearBlanks : m_end;
+    while (m_at != near && (*m_at == ' ' || *m_at == '\t'))
         ++m_at;
+    if (m_at == near && near != m_end)
+        skipFarBlanks(Blanks::Line);
 }
 
-inline bool TextReader::accept(char character) noexcept
+inline bool TextReader::accept(char character)
 {
     skipBlanks();
     if (m_at == m_end || *m_at != character)
@@ -139,7 +209,7 @@ inline bool TextReader::readNumber(Number& number)
 {
     skipBlanks();
     Number read{};
-    const auto [end, error] = std::from_chars(m_at, m_end, read);
+    const auto [end, error] = std::from_chars(m_at, endOfWord(), read);
     bool isUsual = error == std::errc() && endsHere(end);
     if constexpr (std::is_floating_point_v<Number>)
         isUsual = isUsual && !std::isnan(read); // whose brackets may hold anything here

@@ -13,18 +13,24 @@ namespace meridane {
 
 namespace {
 
+void writeEscaped(std::string& text, std::string_view value)
+{
+    while (!value.empty()) {
+        const std::size_t run = std::min(value.find_first_of("\"\\\n\t"), value.size());
+        text += value.substr(0, run);
+        value.remove_prefix(run);
+        if (value.empty())
+            break;
+        text += '\\';
+        text += value.front() == '\n' ? 'n' : value.front() == '\t' ? 't' : value.front();
+        value.remove_prefix(1);
+    }
+}
+
 void writeQuoted(std::string& text, std::string_view value)
 {
     text += '"';
-    for (std::size_t at = 0; at < value.size();) {
-        const std::size_t run = std::min(value.find_first_of("\"\\\n\t", at), value.size());
-        text += value.substr(at, run - at);
-        at = run + 1;
-        if (run == value.size())
-            break;
-        text += '\\';
-        text += value[run] == '\n' ? 'n' : value[run] == '\t' ? 't' : value[run];
-    }
+    writeEscaped(text, value);
     text += '"';
 }
 
@@ -114,16 +120,51 @@ void writeValue(std::string& text, const Flag& value)
 
 bool readValue(TextReader& reader, VbString& value)
 {
+    // A text that takes longer than this to copy isn't copied.
+    constexpr std::size_t largeText = 1 << 16;
     std::string_view text;
     if (!readText(reader, text))
         return false;
-    value = VbString(text);
+    value = text.size() < largeText ? VbString(text) : VbString(reader.takeQuoted(text));
     return true;
 }
 
 void writeValue(std::string& text, const VbString& value)
 {
     writeQuoted(text, value.view());
+}
+
+bool writeValuePart(std::string& text, const VbString& value, std::size_t& position, std::size_t bytes)
+{
+    if (position == 0)
+        text += '"';
+    const std::string_view part = value.view().substr(position, bytes);
+    writeEscaped(text, part);
+    position += part.size();
+    if (position < value.view().size())
+        return true;
+    text += '"';
+    return false;
+}
+
+// A part may end within a text: the upper bits of the position are the row, the lower ones the place in its text.
+bool writeValuesPart(std::string& text, std::span<const VbString> values, std::size_t& position, std::size_t bytes)
+{
+    constexpr unsigned int placeBits = 33;
+    constexpr std::size_t placeMask = (std::size_t{1} << placeBits) - 1;
+    const std::size_t start = text.size();
+    std::size_t row = position >> placeBits;
+    std::size_t place = position & placeMask;
+    while (row < values.size() && text.size() - start < bytes) {
+        if (row > 0 && place == 0)
+            text += ", ";
+        if (writeValuePart(text, values[row], place, bytes))
+            continue;
+        ++row;
+        place = 0;
+    }
+    position = row << placeBits | place;
+    return row < values.size();
 }
 
 bool readValue(TextReader& reader, VbName& value)

@@ -11,6 +11,8 @@
 
 #include <cmath>
 #include <concepts>
+#include <limits>
+#include <span>
 #include <string>
 
 class VbName;
@@ -53,6 +55,17 @@ void writeValue(std::string& text, const Flag& value);
 /// Text in double quotes; a word without them is read as well.
 bool readValue(TextReader& reader, VbString& value);
 void writeValue(std::string& text, const VbString& value);
+/// The same in parts of about that many bytes. `position` begins at 0 and is the function's own from then on. True when
+/// there is more to write.
+bool writeValuePart(std::string& text, const VbString& value, std::size_t& position, std::size_t bytes);
+/// The same for the values of a list, with commas between them.
+bool writeValuesPart(std::string& text, std::span<const VbString> values, std::size_t& position, std::size_t bytes);
+/// So many bytes of text take as long as that many numbers.
+constexpr std::size_t textBytesOf(std::size_t values) noexcept
+{
+    constexpr std::size_t bytesOfNumber = 16;
+    return values < std::numeric_limits<std::size_t>::max() / bytesOfNumber ? values * bytesOfNumber : values;
+}
 bool readValue(TextReader& reader, VbName& value);
 void writeValue(std::string& text, const VbName& value);
 

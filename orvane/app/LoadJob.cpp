@@ -5,6 +5,8 @@
 #include "meridane/base/MessageText.h"
 #include "meridane/base/NxReadError.h"
 
+#include <exception>
+
 using meridane::withoutMarkup;
 
 namespace {
@@ -47,25 +49,54 @@ void LoadJob::timerEvent(QTimerEvent*)
 
 void LoadJob::readBytes()
 {
-    if (!m_opened) {
-        if (const auto message = m_file.open(orvane::toStdFileName(fileName()))) {
-            fail(*message);
-            return;
-        }
-        m_opened = true;
-    }
     const SliceClock slice(m_clock);
-    bool atEnd = false;
-    while (!atEnd && !slice.isSpent()) {
-        if (const auto message = m_file.read(m_bytes, chunk, atEnd)) {
-            fail(*message);
-            return;
-        }
+    if (!m_opened && !open())
+        return;
+    while (!m_atEnd && !slice.isSpent()) {
+        if (const auto message = m_file.read(m_bytes, chunk, m_atEnd))
+            return fail(*message);
+        if (m_bytes.size() > largestFile)
+            return failForSize();
     }
-    if (atEnd)
+    if (m_atEnd)
         m_reader = std::make_unique<NxSceneReader>(std::move(m_bytes), orvane::toStdFileName(fileName()));
     else if (m_file.size() > 0)
         Q_EMIT progressed(readingShare * static_cast<double>(m_bytes.size()) / static_cast<double>(m_file.size()));
+}
+
+bool LoadJob::open()
+{
+    constexpr std::size_t beginning = 4096;
+    const std::string name = orvane::toStdFileName(fileName());
+    m_opened = true;
+    auto message = m_file.open(name);
+    if (!message)
+        message = m_file.read(m_bytes, chunk, m_atEnd);
+    if (message) {
+        fail(*message);
+        return false;
+    }
+    if (const auto failure = NxSceneReader::checkBeginning(m_bytes.substr(0, beginning), name)) {
+        fail(*failure);
+        return false;
+    }
+    if (m_file.size() > largestFile) {
+        failForSize();
+        return false;
+    }
+    try {
+        // One block for all, which isn't moved as it grows.
+        m_bytes.reserve(m_file.size() + chunk);
+    } catch (const std::exception&) {
+        fail(name + ": the file doesn't fit in memory");
+        return false;
+    }
+    return true;
+}
+
+void LoadJob::failForSize()
+{
+    fail(orvane::toStdFileName(fileName()) + ": the file has more than 4 GiB, which is the most that is read");
 }
 
 void LoadJob::readScene()
@@ -74,14 +105,9 @@ void LoadJob::readScene()
     case NxSceneReader::State::Working:
         Q_EMIT progressed(readingShare + (1 - readingShare) * m_reader->progress());
         break;
-    case NxSceneReader::State::Failed: {
-        const NxReadFailure failure = m_reader->failure();
-        NxReadError::post(VbString(withoutMarkup(failure.file)), failure.line, failure.column,
-            VbString(withoutMarkup(failure.message)));
-        m_timer.stop();
-        Q_EMIT failed(orvane::toQString(failure.text()));
+    case NxSceneReader::State::Failed:
+        fail(NxReadFailure(m_reader->failure()));
         break;
-    }
     case NxSceneReader::State::Done:
         m_timer.stop();
         setScene(m_reader->takeScene());
@@ -95,4 +121,12 @@ void LoadJob::fail(const std::string& message)
     m_timer.stop();
     NxReadError::post(VbString(), 0, 0, VbString(withoutMarkup(message)));
     Q_EMIT failed(orvane::toQString(message));
+}
+
+void LoadJob::fail(const NxReadFailure& failure)
+{
+    m_timer.stop();
+    NxReadError::post(
+        VbString(withoutMarkup(failure.file)), failure.line, failure.column, VbString(withoutMarkup(failure.message)));
+    Q_EMIT failed(orvane::toQString(failure.text()));
 }

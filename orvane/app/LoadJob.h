@@ -8,16 +8,20 @@
 
 #include <QBasicTimer>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 
-/// Reads a scene file in slices of some milliseconds.
+/// Reads a scene file in slices of some milliseconds. The first line is checked before the rest is read.
 ///
 /// A failure is posted as an `NxReadError` too.
 class LoadJob : public SceneJob {
     Q_OBJECT
 
 public:
+    /// The most bytes that a scene file may have.
+    static constexpr std::size_t largestFile = std::size_t{4} << 30;
+
     explicit LoadJob(const QString& fileName, SliceClock::Clock clock = &std::chrono::steady_clock::now);
     ~LoadJob() override;
 
@@ -29,8 +33,12 @@ protected:
 
 private:
     void readBytes();
+    /// Opens the file and looks at its beginning. False after a failure.
+    bool open();
+    void failForSize();
     void readScene();
     void fail(const std::string& message);
+    void fail(const NxReadFailure& failure);
 
     SliceClock::Clock m_clock;
     QBasicTimer m_timer;
@@ -38,4 +46,5 @@ private:
     std::string m_bytes;
     std::unique_ptr<NxSceneReader> m_reader; // once the file is in memory
     bool m_opened = false;
+    bool m_atEnd = false;
 };

@@ -48,6 +48,13 @@ private:
 
 int postedErrors = 0;
 
+// By this process, in all.
+qint64 bytesRead()
+{
+    QFile file(QStringLiteral("/proc/self/io"));
+    return file.open(QIODevice::ReadOnly) ? file.readLine().mid(7).trimmed().toLongLong() : -1;
+}
+
 } // namespace
 
 class TestFileJobs : public QObject {
@@ -107,6 +114,39 @@ private Q_SLOTS:
         QCOMPARE(finished.size(), 0);
         QVERIFY(!job.takeScene());
         QCOMPARE(postedErrors, 1);
+    }
+
+    void looksAtTheFirstLineBeforeItReadsTheRest()
+    {
+        // It takes no room on the disk.
+        QFile file(m_fileName);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64{3} << 30));
+        LoadJob job(m_fileName);
+        const QSignalSpy failed(&job, &FileJob::failed);
+        const qint64 before = bytesRead();
+        job.start();
+        QTRY_COMPARE(failed.size(), 1);
+        QVERIFY(bytesRead() - before < 20000000);
+        const QString message = failed.front().front().toString();
+        QVERIFY2(message.startsWith(m_fileName + QStringLiteral(":1:1: expected the first line of a scene file")),
+            qPrintable(message));
+        QCOMPARE(postedErrors, 1);
+    }
+
+    void refusesAFileThatIsTooLarge()
+    {
+        QFile file(m_fileName);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("#mrd 1.0\n") > 0);
+        QVERIFY(file.resize(qint64{LoadJob::largestFile} + 1));
+        file.close();
+        LoadJob job(m_fileName);
+        const QSignalSpy failed(&job, &FileJob::failed);
+        const qint64 before = bytesRead();
+        job.start();
+        QTRY_COMPARE(failed.size(), 1);
+        QVERIFY(bytesRead() - before < 20000000);
+        QCOMPARE(failed.front().front().toString(),
+            m_fileName + QStringLiteral(": the file has more than 4 GiB, which is the most that is read"));
     }
 
     void writesWhatItRead()
