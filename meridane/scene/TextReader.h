@@ -47,8 +47,12 @@ public:
 
     /// Begins a slice of about that many bytes at the cursor, and lets the reader go on after an interruption.
     void startSlice(std::size_t bytes);
-    /// Whether the cursor has passed as many bytes as the slice has; always false without slices.
-    [[nodiscard]] bool isSpent() const noexcept { return m_slice != noSlice && position() - m_sliceStart >= m_slice; }
+    /// Whether the slice is over: the cursor has passed as many bytes as it has, or went back. Always false without
+    /// slices.
+    [[nodiscard]] bool isSpent() const noexcept
+    {
+        return m_goesBack || (m_slice != noSlice && position() - m_sliceStart >= m_slice);
+    }
     /// Whether an operation was interrupted.
     [[nodiscard]] bool isInterrupted() const noexcept { return m_interrupted; }
     /// Ends an interruption: moves the cursor back to where the next slice begins.
