@@ -38,8 +38,8 @@ KeptPlaces::KeptPlaces(PlaceTable& table, Id place)
 
 std::size_t KeptPlaces::Hash::operator()(const Key& key) const noexcept
 {
-    constexpr std::size_t factor = 0x9E3779B97F4A7C15U; // odd, without a pattern in its bits
-    return (std::hash<const NodeRecord*>()(key.node) + key.look) * factor;
+    // Neighbours stay neighbours: records of the same time lie next to each other, and are looked up in that order.
+    return std::hash<const NodeRecord*>()(key.node) + key.look;
 }
 
 template <typename NextOf>
