@@ -1,5 +1,6 @@
 #include "orvane/import/PictureCodecs.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <memory>

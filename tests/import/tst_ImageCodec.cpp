@@ -164,6 +164,7 @@ void tst_ImageCodec::brokenFilesAreRefused_data()
     QTest::newRow("WebP, moving") << "RIFF" + QByteArray::fromHex("16000000") + "WEBPVP8X"
             + QByteArray::fromHex("0a00000002000000000000000000");
     QTest::newRow("PPM, larger than it may be") << QByteArray("P6 16384 16384 255 ");
+    QTest::newRow("TGA, of too few bytes") << QByteArray::fromBase64("AAAKAAAAZgB1cmUgMQphYiAAIGFNYXRlcmlhbG1lag==");
     QTest::newRow("PPM, cut off") << QByteArray("P6 20 20 255 abc");
     for (const char* name :
         {"plain.gif", "plain.psd", "plain.tga", "packed.tga", "packed.tif", "big.tif", "plain.webp"})
