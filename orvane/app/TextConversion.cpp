@@ -47,7 +47,8 @@ QString fromStdFileName(std::string_view bytes)
     QString fileName;
     while (!bytes.empty()) {
         const std::size_t invalid = meridane::findInvalidUtf8(bytes);
-        fileName += toQString(bytes.substr(0, invalid));
+        // Qt's own conversions drop a byte order mark.
+        fileName += QStringView(meridane::utf8ToUtf16(bytes.substr(0, invalid)));
         if (invalid == std::string_view::npos)
             break;
         fileName += QChar(static_cast<char16_t>(firstOfBytes + static_cast<unsigned char>(bytes[invalid])));

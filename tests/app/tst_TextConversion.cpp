@@ -18,6 +18,8 @@ private Q_SLOTS:
         QTest::newRow("empty") << QByteArray() << true;
         QTest::newRow("plain") << QByteArray("/tmp/robot.mrd") << true;
         QTest::newRow("UTF-8") << QByteArray("\xC3\xBC\xE2\x82\xAC\xF0\x9F\x98\x80") << true;
+        QTest::newRow("byte order mark inside") << QByteArray("a\xEF\xBB\xBF") << true;
+        QTest::newRow("byte order mark behind a byte") << QByteArray("\xFC\xEF\xBB\xBFz") << false;
         QTest::newRow("Latin-1") << QByteArray("gr\xFC\xDF.mrd") << false;
         QTest::newRow("cut character") << QByteArray("a\xE2\x82") << false;
         QTest::newRow("half of a pair in UTF-8") << QByteArray("a\xED\xB2\x80") << false;
