@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/MonkeyFiles.h"
+
 #include "orvane/app/MainWindow.h"
 #include "orvane/app/Session.h"
 
@@ -11,7 +13,6 @@
 #include <QPointer>
 #include <QSet>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <memory>
@@ -38,7 +39,6 @@ private:
     [[nodiscard]] int below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
     [[nodiscard]] bool chance(int percent) { return below(100) < percent; }
 
-    void makeFiles();
     void makeWindow();
     void act();
     void askForFile();
@@ -56,15 +56,13 @@ private:
     void checkAdds();
     void checkFiles();
 
-    [[nodiscard]] QString anyFileToRead();
-    [[nodiscard]] QString anyFileToWrite();
+    [[nodiscard]] static QString openNames();
     [[nodiscard]] QDialog* openDialog() const;
     [[nodiscard]] FileFlow* flow() const;
     [[nodiscard]] NxGroup* scene() const;
-    [[nodiscard]] QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
 
     std::mt19937 m_random;
-    QTemporaryDir m_folder;
+    MonkeyFiles m_files;
     std::unique_ptr<Session> m_session;
     std::unique_ptr<MainWindow> m_window;
     QTimer m_others; // answers the dialogs of editors, and questions inside of dialogs
