@@ -75,20 +75,27 @@ std::unique_ptr<QCoreApplication> makeApplication(char** argv)
     return std::make_unique<Application>(count, argv);
 }
 
-// What the platform says although a user can't do anything about it.
+// What Qt says although a user can't do anything about it. The last one is what the image editor's setting of a colour
+// of an image without a colour table leads to.
 bool isNoise(const QString& text)
 {
-    return text.contains(QLatin1String("propagateSizeHints")) || text.startsWith(QLatin1String("QStandardPaths:"));
+    return text.contains(QLatin1String("propagateSizeHints")) || text.startsWith(QLatin1String("QStandardPaths:"))
+        || text == QLatin1String("QImage::setColor: Index out of bound 0");
+}
+
+QtMessageHandler qtMessageHandler = nullptr; // Qt's own
+
+void passOnUnlessNoise(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (!isNoise(text) || type == QtFatalMsg)
+        qtMessageHandler(type, context, text);
 }
 
 // A picture or a list doesn't depend on the display, whatever there is.
 std::unique_ptr<QCoreApplication> makeApplicationWithoutScreen(char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-        if (!isNoise(text) || type == QtFatalMsg)
-            std::fprintf(stderr, "%s\n", qPrintable(text));
-    });
+    qtMessageHandler = qInstallMessageHandler(&passOnUnlessNoise);
     return makeApplication<QApplication>(argv);
 }
 
@@ -96,17 +103,18 @@ std::unique_ptr<QCoreApplication> makeApplicationWithoutScreen(char** argv)
 std::unique_ptr<QCoreApplication> makeApplicationOnScreen(char** argv)
 {
     static QStringList problems;
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-        if (!isNoise(text))
-            problems.append(text.trimmed());
-        if (type != QtFatalMsg)
-            return;
-        orvane::printError(QStringLiteral("No window can be opened: %1. --screenshot works without a display.")
-                               .arg(problems.value(0, text.trimmed())));
-        std::_Exit(statusFailed);
-    });
+    qtMessageHandler
+        = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+              if (!isNoise(text))
+                  problems.append(text.trimmed());
+              if (type != QtFatalMsg)
+                  return;
+              orvane::printError(QStringLiteral("No window can be opened: %1. --screenshot works without a display.")
+                                     .arg(problems.value(0, text.trimmed())));
+              std::_Exit(statusFailed);
+          });
     auto application = makeApplication<QApplication>(argv);
-    qInstallMessageHandler(nullptr);
+    qInstallMessageHandler(&passOnUnlessNoise);
     for (const QString& problem : std::as_const(problems))
         orvane::printError(problem);
     return application;

@@ -46,6 +46,15 @@ private Q_SLOTS:
         QVERIFY(!read(QStringLiteral("two.stl")).isEmpty());
     }
 
+    void anImageEditorWritesNoWarnings()
+    {
+        write(file, "#mrd 1.0\nFieldGallery \"gallery\" { sfImage = 1 1 3 0x365876 }\n");
+        const Outcome outcome
+            = run({QStringLiteral("--select=/gallery.sfImage"), QStringLiteral("--screenshot=window.png"), file});
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.status, 0);
+    }
+
     void everyExportIsWritten()
     {
         const Outcome outcome = run({QStringLiteral("--export=a.mrd"), QStringLiteral("--export=b.mrd"),

@@ -67,8 +67,11 @@ void turnRows(unsigned char* target, const Source& source)
 
 void setColors(QImage& image)
 {
-    if (image.format() != QImage::Format_Indexed8)
+    if (image.format() != QImage::Format_Indexed8) {
+        // Without effect, and Qt says so on each such image. Contract: it is called all the same.
+        image.setColor(0, 0xFF000000);
         return;
+    }
     image.setColorCount(256);
     for (int grey = 0; grey < 256; ++grey)
         image.setColor(grey, qRgb(grey, grey, grey));
