@@ -21,10 +21,12 @@ constexpr std::size_t bytesPerText = 48;
 // A value of four bytes takes up to sixteen characters with its separator; others take less for a byte.
 constexpr std::size_t textBytesPerValueByte = 4;
 
+} // namespace
+
 // Estimates what a command holds, from the field before the command's execution and after it. A command on a single
 // value keeps two texts of it. One on a list keeps two texts of a row, and the texts of the rows that it removes.
 // The execution may destroy the field.
-class CommandBytes {
+class OrvHistory::CommandBytes {
 public:
     explicit CommandBytes(NxField* field)
         : m_field(field)
@@ -51,8 +53,6 @@ private:
     int m_rows;
     std::size_t m_rowBytes;
 };
-
-} // namespace
 
 // The commands of one action. The first redo(), which the stack calls as the step is pushed, executes the command.
 class OrvHistory::Step : public QUndoCommand {

@@ -56,6 +56,7 @@ public:
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
 
 private:
+    class CommandBytes;
     class Step;
     enum class Work { None, Executing, Moving };
     class Working;
