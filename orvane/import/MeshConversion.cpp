@@ -83,7 +83,7 @@ void setVertices(aiMesh& target, const NxMesh& mesh)
         target.mColors[0] = new aiColor4D[count];
         std::fill_n(target.mColors[0], count, toAiColor(colors.front()));
     } else if (!colors.empty()) {
-        target.mColors[0] = newArray<aiColor4D>(colors, count, &toAiColor);
+        target.mColors[0] = newArray<aiColor4D>(colors, count, [](const VbVec4f& color) { return toAiColor(color); });
     }
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::string_view pictureWord = "picture ";
 constexpr std::string_view refusedWord = "refused ";
-constexpr std::size_t longestLine = 300;
+constexpr std::size_t longestReplyLine = 300;
 
 bool takeSize(std::string_view& line, std::size_t most, std::size_t& number)
 {
@@ -45,7 +45,7 @@ std::string pictureReply(int width, int height, int components)
 
 std::string pictureRefusal(std::string_view reason)
 {
-    std::string line(reason.substr(0, longestLine - refusedWord.size() - 1));
+    std::string line(reason.substr(0, longestReplyLine - refusedWord.size() - 1));
     std::replace_if(
         line.begin(), line.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
     return std::string(refusedWord).append(line).append("\n");
@@ -70,7 +70,7 @@ PictureReply::State PictureReply::takeHead(std::string_view& bytes)
     const std::size_t end = bytes.find('\n');
     const std::string_view part = bytes.substr(0, end);
     bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
-    if (m_line.size() + part.size() > longestLine)
+    if (m_line.size() + part.size() > longestReplyLine)
         return State::Broken;
     m_line += part;
     return end == std::string_view::npos ? State::Incomplete : takeLine(m_line);
