@@ -40,10 +40,11 @@ QString FileRequest::name(Kind kind, const QString& fileName)
 
 void FileRequests::push(FileRequest request)
 {
-    const bool known = request.kind != Kind::Add && !request.lost
-        && std::any_of(m_waiting.begin(), m_waiting.end(), [&request](const FileRequest& other) {
-               return other.kind == request.kind && other.fileName == request.fileName && other.scene == request.scene;
-           });
+    const auto repeatsLast = [this, &request] {
+        const FileRequest& last = m_waiting.back();
+        return last.kind == request.kind && last.fileName == request.fileName && last.scene == request.scene;
+    };
+    const bool known = request.kind != Kind::Add && !request.lost && !m_waiting.empty() && repeatsLast();
     if (!known)
         m_waiting.push_back(std::move(request));
 }

@@ -27,8 +27,8 @@ struct FileRequest {
 /// The requests that wait until they can be carried out, in the order in which they were made.
 class FileRequests {
 public:
-    /// Appends a request. One that waits already isn't kept a second time, but for models to be added, of which a user
-    /// may want several.
+    /// Appends a request. One that repeats the last isn't kept, unless it has a `lost` to be called, or adds a model,
+    /// of which a user may want several.
     void push(FileRequest request);
     /// Takes the first request that may run out of the queue.
     [[nodiscard]] std::optional<FileRequest> takeFirst(const std::function<bool(const FileRequest&)>& mayRun);
