@@ -5,7 +5,6 @@
 // The grammar of scene files: one statement after the other.
 
 using meridane::maxNameLength;
-using meridane::TextReader;
 
 namespace {
 
