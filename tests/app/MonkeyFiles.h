@@ -2,6 +2,8 @@
 
 #include "app/AppScenes.h"
 
+#include "orvane/app/TextConversion.h"
+
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -27,6 +29,15 @@ public:
 
     /// Writes the file that is added to scenes. One that was saved to, parts included, would grow beyond all bounds.
     void restorePart() { AppScenes::writeFile(path("part.mrd"), "#mrd 1.0\nMesh \"bolt\" {}\n"); }
+
+    /// How many models from those files have been added to a scene.
+    [[nodiscard]] static int countParts(const NxGroup* scene)
+    {
+        int count = 0;
+        for (const NxNode* child : scene->getChildren())
+            count += orvane::toQString(child->getName()) == QLatin1String("part") ? 1 : 0;
+        return count;
+    }
 
     /// A file for a random number.
     [[nodiscard]] QString toRead(std::size_t number) const

@@ -1,19 +1,15 @@
 #include "app/WindowMonkey.h"
 
-#include "app/AppScenes.h"
-
 #include "orvane/app/FileFlow.h"
 #include "orvane/app/JobBar.h"
-#include "orvane/app/NodeCommands.h"
+#include "orvane/app/MessageBar.h"
 #include "orvane/app/SceneDocument.h"
 #include "orvane/app/SearchFolders.h"
-#include "orvane/app/TextConversion.h"
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -23,21 +19,7 @@
 
 namespace {
 
-const QString stampPrefix = QStringLiteral("stamp");
-const QString addedName = QStringLiteral("part"); // of the files that are added
-
-QString nameOf(const NxNode* node)
-{
-    return orvane::toQString(node->getName());
-}
-
-int addedGroups(const NxGroup* scene)
-{
-    int count = 0;
-    for (const NxNode* child : scene->getChildren())
-        count += nameOf(child) == addedName ? 1 : 0;
-    return count;
-}
+constexpr int patience = 60000; // in milliseconds, for a machine that does much else
 
 } // namespace
 
@@ -61,7 +43,7 @@ void WindowMonkey::makeWindow()
 {
     m_window.reset();
     m_session.reset();
-    m_stamp = 0;
+    m_marks.clear();
     m_session = std::make_unique<Session>(AppSettings::Mode::File, m_files.path("orvane.ini"));
     m_window = std::make_unique<MainWindow>(*m_session);
     connect(&m_session->document(), &SceneDocument::sceneChanged, this, &WindowMonkey::takeNewScene);
@@ -232,7 +214,7 @@ void WindowMonkey::choose(QFileDialog* dialog)
     }
     QString fileName = m_files.toRead(m_random());
     if (dialog->objectName() == QLatin1String("saveDialog"))
-        m_stampsFor.insert(fileName = m_files.toWrite(m_random()), m_dialogStamp);
+        m_marks.allow(fileName = m_files.toWrite(m_random()), m_dialogMark);
     else if (dialog->objectName() == QLatin1String("exportDialog"))
         fileName = m_files.path(chance(50) ? "out.obj" : "out.glb");
     else if (dialog->objectName() == QLatin1String("importDialog"))
@@ -280,24 +262,15 @@ void WindowMonkey::takeNewScene()
     if (open == nullptr)
         return;
     ++m_done[QStringLiteral("scene")];
-    m_addsThere = addedGroups(open);
-    for (int index = open->getNumChildren() - 1; index >= 0; --index) {
-        if (nameOf(open->getChild(index)).startsWith(stampPrefix))
-            open->removeChild(index);
-    }
-    static int lastStamp = 0;
-    m_stamp = ++lastStamp;
-    const NxRef<NxGroup> stamp(new NxGroup);
-    // Twice, since a random edit of the name could make it that of another scene.
-    stamp->setName(orvane::toVbString(stampPrefix + QStringLiteral("%1-%1z").arg(m_stamp)));
-    open->insertChild(stamp.get(), 0);
+    m_addsThere = MonkeyFiles::countParts(open);
+    m_marks.mark(open);
     noteSave(m_session->document().saveFileName()); // by any key or button, from now on
 }
 
 void WindowMonkey::noteSave(const QString& fileName)
 {
     if (scene() != nullptr && !fileName.isEmpty())
-        m_stampsFor.insert(fileName, m_stamp);
+        m_marks.allow(fileName, m_marks.current());
 }
 
 // What a dialog chooses is meant for the scene that was open when it came up.
@@ -306,17 +279,17 @@ void WindowMonkey::noteDialog()
     if (openDialog() == m_dialog)
         return;
     m_dialog = openDialog();
-    m_dialogStamp = m_stamp;
+    m_dialogMark = m_marks.current();
     // The name that a dialog suggests can be accepted too.
     if (const auto* files = qobject_cast<QFileDialog*>(m_dialog); files != nullptr && !files->selectedFiles().isEmpty())
-        m_stampsFor.insert(files->selectedFiles().front(), m_stamp);
+        m_marks.allow(files->selectedFiles().front(), m_marks.current());
 }
 
 void WindowMonkey::checkAdds()
 {
     if (scene() == nullptr)
         return;
-    const int added = addedGroups(scene());
+    const int added = MonkeyFiles::countParts(scene());
     if (added > m_addsThere)
         ++m_done[QStringLiteral("added")];
     QVERIFY2(added <= m_addsThere + m_addsAsked, "a model was added to a scene that it wasn't meant for");
@@ -324,16 +297,8 @@ void WindowMonkey::checkAdds()
 
 void WindowMonkey::checkFiles()
 {
-    static const QRegularExpression pattern(stampPrefix + QStringLiteral("([0-9]+)-\\1z"));
-    for (const QString& fileName : m_stampsFor.uniqueKeys()) {
-        const QRegularExpressionMatch match = pattern.match(QString::fromUtf8(AppScenes::readFile(fileName).left(200)));
-        if (!match.hasMatch())
-            continue;
-        ++m_done[QStringLiteral("saved")];
-        const int stamp = match.captured(1).toInt();
-        QVERIFY2(m_stampsFor.contains(fileName, stamp),
-            qPrintable(fileName + QStringLiteral(" has the scene %1").arg(stamp)));
-    }
+    const QString wrong = m_marks.findWrongFile(m_done[QStringLiteral("saved")]);
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 
 void WindowMonkey::checkItStillWorks()
@@ -346,38 +311,79 @@ void WindowMonkey::checkItStillWorks()
         m_window->findChild<JobBar*>()->cancel();
         return m_window->findChild<JobBar*>()->isIdle();
     };
-    QTRY_VERIFY_WITH_TIMEOUT(idle(), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(idle(), patience);
     if (m_window->isHidden())
         makeWindow();
-    m_session->services().clearHistory(); // nothing to ask about
-    // What has waited has its turn first. A number that was typed and not confirmed is taken over, and then there is
-    // something to ask about.
-    const auto isOpen = [this](const QString& fileName) {
-        if (auto* const question = qobject_cast<QMessageBox*>(openDialog()))
-            QTest::mouseClick(question->button(QMessageBox::Discard), Qt::LeftButton);
-        else if (QDialog* const dialog = openDialog())
-            dialog->reject();
-        return scene() != nullptr && m_session->document().fileName() == fileName;
-    };
+    checkItAnswers();
     const int before = m_session->document().sceneNumber();
     flow()->newScene();
-    QTRY_VERIFY2(isOpen({}) && m_session->document().sceneNumber() > before, qPrintable(openNames()));
+    settle();
+    QVERIFY2(hasNewScene(before), qPrintable(state()));
     QSignalSpy settled(m_window.get(), &MainWindow::settled);
     m_window->openFile(m_files.path("small.mrd"));
-    QTRY_VERIFY2(isOpen(m_files.path("small.mrd")), qPrintable(openNames()));
-    QTRY_VERIFY(!settled.isEmpty());
+    settle();
+    QVERIFY2(scene() != nullptr && m_session->document().fileName() == m_files.path("small.mrd"), qPrintable(state()));
+    QVERIFY(!settled.isEmpty());
     checkFiles();
 }
 
+// What waits has its turn first: a quit closes the window, and a save that fails gives the new scene up.
+void WindowMonkey::checkItAnswers()
+{
+    m_window->findChild<MessageBar*>()->clear();
+    const int before = m_session->document().sceneNumber();
+    if (chance(50))
+        flow()->saveTo(m_files.path("folder.mrd")); // which can't be written
+    flow()->newScene();
+    settle();
+    if (m_window->isHidden()) {
+        leaveWindow();
+        return;
+    }
+    ++m_done[hasNewScene(before) ? QStringLiteral("new scene made") : QStringLiteral("new scene given up")];
+    const QStringList reasons = m_window->findChild<MessageBar*>()->texts().filter(
+        QRegularExpression(QStringLiteral("^Not done: .*making a new scene.* wasn't written\\.$")));
+    QVERIFY2(hasNewScene(before) != !reasons.isEmpty(), qPrintable(state()));
+}
+
+// Ends the dialogs and waits for the jobs, until nothing is left that a request could wait for.
+void WindowMonkey::settle()
+{
+    const auto isFree
+        = [this] { return QApplication::activeModalWidget() == nullptr && m_window->findChild<JobBar*>()->isIdle(); };
+    const auto isSettled = [this, isFree] {
+        if (auto* const question = qobject_cast<QMessageBox*>(openDialog())) {
+            m_discarded = true;
+            QTest::mouseClick(question->button(QMessageBox::Discard), Qt::LeftButton);
+        } else if (QDialog* const dialog = openDialog()) {
+            dialog->reject();
+        }
+        if (!isFree())
+            return false;
+        QCoreApplication::sendPostedEvents(); // what has waited for the last dialog or job begins with one of them
+        return isFree();
+    };
+    QTRY_VERIFY2_WITH_TIMEOUT(isSettled(), qPrintable(state()), patience);
+}
+
+bool WindowMonkey::hasNewScene(int before) const
+{
+    const SceneDocument& document = m_session->document();
+    return document.isOpen() && document.fileName().isEmpty() && document.sceneNumber() > before;
+}
+
 // For a message about a window that doesn't do what it is asked for.
-QString WindowMonkey::openNames()
+QString WindowMonkey::state() const
 {
     QStringList names;
     for (const QWidget* const widget : QApplication::topLevelWidgets()) {
         if (widget->isVisible())
             names += QLatin1String(widget->metaObject()->className()) + u' ' + widget->objectName();
     }
-    return QStringLiteral("open: ") + names.join(QStringLiteral(", "));
+    return QStringLiteral("The scene %1 of \"%2\". Open: %3. Messages: %4")
+        .arg(m_session->document().sceneNumber())
+        .arg(m_session->document().fileName(), names.join(QStringLiteral(", ")),
+            m_window->findChild<MessageBar*>()->texts().join(u' '));
 }
 
 FileFlow* WindowMonkey::flow() const

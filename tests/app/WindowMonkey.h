@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/MonkeyFiles.h"
+#include "app/SceneMarks.h"
 
 #include "orvane/app/MainWindow.h"
 #include "orvane/app/Session.h"
@@ -9,7 +10,6 @@
 #include <QFileDialog>
 #include <QHash>
 #include <QMessageBox>
-#include <QMultiHash>
 #include <QPointer>
 #include <QSet>
 #include <QStringList>
@@ -32,7 +32,8 @@ public:
 
     /// Does one thing, and lets the event loop turn a few times.
     void step();
-    /// Cancels dialogs and lets all jobs end; then the window must do what it is asked for.
+    /// Cancels dialogs and jobs. Then the window must do what it is asked for, or show why not, while other requests
+    /// wait; and do it once none waits.
     void checkItStillWorks();
 
 private:
@@ -56,23 +57,26 @@ private:
     void checkAdds();
     void checkFiles();
 
-    [[nodiscard]] static QString openNames();
+    void checkItAnswers();
+    void settle();
+
+    [[nodiscard]] bool hasNewScene(int before) const;
+    [[nodiscard]] QString state() const;
     [[nodiscard]] QDialog* openDialog() const;
     [[nodiscard]] FileFlow* flow() const;
     [[nodiscard]] NxGroup* scene() const;
 
     std::mt19937 m_random;
     MonkeyFiles m_files;
+    SceneMarks m_marks;
     std::unique_ptr<Session> m_session;
     std::unique_ptr<MainWindow> m_window;
     QTimer m_others; // answers the dialogs of editors, and questions inside of dialogs
 
-    int m_stamp = 0; // of the open scene: in the name of one of its nodes, so that its file shows whose it is
     int m_addsThere = 0; // added groups in the scene as it was read
     int m_addsAsked = 0; // for the open scene
     bool m_discarded = false;
     QPointer<QDialog> m_dialog; // of the tool, that is open
-    int m_dialogStamp = 0; // of the scene that it is about
-    QMultiHash<QString, int> m_stampsFor; // which scenes may be in which file
+    int m_dialogMark = 0; // of the scene that it is about
     QHash<QString, int>& m_done;
 };
