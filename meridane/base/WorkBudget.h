@@ -9,19 +9,31 @@ class WorkBudget {
 public:
     using Clock = std::chrono::steady_clock::time_point (*)();
 
-    /// Implicit, so that a slice can be asked for by its length.
+    /// Implicit, so that a slice can be asked for by its length. One that ends beyond the clock's last time has no end.
     template <typename Number, typename Period>
     WorkBudget(std::chrono::duration<Number, Period> length, Clock clock = &std::chrono::steady_clock::now)
         : m_clock(clock)
-        , m_end(clock() + std::chrono::duration_cast<std::chrono::steady_clock::duration>(length))
+        , m_end(endOf(clock(), length))
     {
     }
 
     [[nodiscard]] bool isSpent() const { return m_clock() >= m_end; }
 
 private:
+    using Time = std::chrono::steady_clock::time_point;
+
+    template <typename Length>
+    static Time endOf(Time begin, Length length)
+    {
+        // In floating point, since the longest time of one unit can't be converted to another.
+        using Seconds = std::chrono::duration<double>;
+        if (Seconds(length) >= Seconds(Time::max() - begin))
+            return Time::max();
+        return begin + std::chrono::duration_cast<Time::duration>(length);
+    }
+
     Clock m_clock;
-    std::chrono::steady_clock::time_point m_end;
+    Time m_end;
 };
 
 } // namespace meridane

@@ -18,10 +18,8 @@ NxScenePathNamer::NxScenePathNamer() = default;
 NxScenePathNamer::~NxScenePathNamer() = default;
 
 std::optional<std::string> NxScenePathNamer::name(
-    const NxGroup& scene, std::span<const int> places, const NxField* field, std::chrono::microseconds budget)
+    const NxGroup& scene, std::span<const int> places, const NxField* field, const meridane::WorkBudget& budget)
 {
-    using Clock = std::chrono::steady_clock;
-    const Clock::time_point end = Clock::now() + budget;
     if (m_revision != NxFieldContainer::getStructureRevision())
         clear();
     m_revision = NxFieldContainer::getStructureRevision();
@@ -37,7 +35,7 @@ std::optional<std::string> NxScenePathNamer::name(
         } else {
             SiblingIndex& siblings = m_indices.try_emplace(parent, *parent).first->second;
             while (!siblings.gather(fewSiblings)) {
-                if (Clock::now() >= end)
+                if (budget.isSpent())
                     return std::nullopt;
             }
             siblings.step(place).appendTo(text);

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "meridane/base/WorkBudget.h"
 #include "meridane/scene/NxGroup.h"
 
-#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -31,7 +31,7 @@ public:
     /// scene; with a field of that node, unless it is null. Null when the budget was spent first: the next call goes
     /// on.
     [[nodiscard]] std::optional<std::string> name(
-        const NxGroup& scene, std::span<const int> places, const NxField* field, std::chrono::microseconds budget);
+        const NxGroup& scene, std::span<const int> places, const NxField* field, const meridane::WorkBudget& budget);
     /// Forgets everything.
     void clear();
 

@@ -82,7 +82,7 @@ QString plainToolTip(const QString& text)
     }
     if (lines.size() > mostLines)
         lines = lines.mid(0, mostLines - 1) + QStringList(QChar(0x2026));
-    const QString plain = lines.join(u'\n');
+    QString plain = lines.join(u'\n');
     if (!Qt::mightBeRichText(plain))
         return plain;
     // In this way the lines aren't broken a second time, for a narrower tool tip.

@@ -70,7 +70,6 @@ void SceneListing::printNode(NxNode& node, const Places& places, const Places* f
 
 QString SceneListing::pathOf(const Places& places)
 {
-    const std::optional<std::string> path
-        = m_namer.name(*m_scene, places, nullptr, std::chrono::microseconds::max() / 1000);
+    const std::optional<std::string> path = m_namer.name(*m_scene, places, nullptr, std::chrono::nanoseconds::max());
     return orvane::toQString(path.value_or(std::string()));
 }

@@ -65,6 +65,19 @@ private Q_SLOTS:
         QVERIFY(lines.contains(QStringLiteral("/rig/Complexity[0].value\tSFFloat\t0.5")));
     }
 
+    void eachOfManySiblingsHasItsPath()
+    {
+        constexpr int count = 1000;
+        QByteArray text("#mrd 1.0\nGroup \"many\" {\n");
+        for (int i = 0; i < count; ++i)
+            text += "Group \"part " + QByteArray::number(i) + "\" { }\n";
+        const NxRef<NxGroup> scene = AppScenes::read((text + "}\n").constData());
+        const QStringList lines = linesOf(scene.get());
+        QCOMPARE(lines.size(), 1 + count);
+        for (int i = 0; i < count; ++i)
+            QCOMPARE(lines[1 + i], QStringLiteral("/many/part %1\tGroup").arg(i));
+    }
+
     void aNodeInSeveralPlacesIsListedOnce()
     {
         const NxRef<NxGroup> scene = AppScenes::read("#mrd 1.0\n"
