@@ -65,7 +65,7 @@ QString rebasedPath(const QString& path, const QString& from, const QString& to)
 {
     if (path.isEmpty() || from.isEmpty() || from == to || QDir::isAbsolutePath(path) || isForeign(path))
         return path;
-    const QString absolute = QDir::cleanPath(QDir(from).filePath(path));
+    QString absolute = QDir::cleanPath(QDir(from).filePath(path));
     if (to.isEmpty() || topFolder(absolute) != topFolder(to) || isBehindLink(to))
         return absolute;
     return QDir(to).relativeFilePath(absolute);

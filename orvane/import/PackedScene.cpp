@@ -27,8 +27,8 @@ void PackedScene::takeBlocks(NxNode& node, std::size_t number)
     for (int index = 0; index < data.getNumFields(); ++index) {
         NxField& field = *data.getField(&node, index);
         const std::string name(data.getFieldName(index).getString());
-        if (auto* image = dynamic_cast<NxSFImage*>(&field))
-            takeImage(*image, std::to_string(number), name);
+        if (field.isOfType(NxSFImage::getClassTypeId()))
+            takeImage(static_cast<NxSFImage&>(field), std::to_string(number), name);
         withPackableList(field, [&](auto& list) {
             if (list.getNum() >= shortestList)
                 addBlock("list ", std::to_string(number), name, list.takeValues());
