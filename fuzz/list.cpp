@@ -31,7 +31,7 @@ std::vector<NxRef<NxGroup>> makeGroups(const std::uint8_t* bytes, std::size_t co
             groups[number]->setName(VbString(number % 3 == 1 ? "a \"b\"" : std::to_string(number).c_str()));
     }
     for (std::size_t place = 1; place + 1 < count; place += 2) {
-        const auto [lower, upper] = std::minmax(bytes[place] % groups.size(), bytes[place + 1] % groups.size());
+        const auto [lower, upper] = std::minmax({bytes[place] % groups.size(), bytes[place + 1] % groups.size()});
         if (lower != upper)
             groups[upper]->addChild(groups[lower].get());
     }
