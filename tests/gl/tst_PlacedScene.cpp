@@ -85,7 +85,7 @@ void TestPlacedScene::aNodeAtTheAddressOfADeadOneTakesItsPlace()
     scene->addChild(other.get());
     PlacedScene placed(deaf());
     placed.setRoot(scene.get());
-    // The queue tells of this change alone before the next picture.
+    // The queue reports only this change before the next picture.
     other->translation.setValue(VbVec3f(0, 1, 0));
     const auto mesh = replaceAtTheSameAddress<NxMesh>(*scene, 0);
     if (!mesh)
