@@ -1,7 +1,7 @@
 #include "DrawingScenes.h"
 
-#include "meridane/scene/NxMaterial.h"
-#include "meridane/scene/NxTransform.h"
+#include "meridane/scene/nodes/NxMaterial.h"
+#include "meridane/scene/nodes/NxTransform.h"
 
 #include <cmath>
 #include <vector>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "meridane/scene/NxGroup.h"
-#include "meridane/scene/NxMesh.h"
-#include "meridane/scene/NxRef.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxGroup.h"
+#include "meridane/scene/nodes/NxMesh.h"
 
 #include <cstddef>
 

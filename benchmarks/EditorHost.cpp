@@ -2,9 +2,9 @@
 
 #include "orvane/extender/OrvProfile.h"
 
-#include "meridane/scene/Files.h"
-#include "meridane/scene/NxGroup.h"
-#include "meridane/scene/NxSceneReader.h"
+#include "meridane/base/Files.h"
+#include "meridane/scene/file/NxSceneReader.h"
+#include "meridane/scene/nodes/NxGroup.h"
 
 #include <QToolBar>
 

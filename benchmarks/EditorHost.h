@@ -7,8 +7,8 @@
 #include "orvane/extender/OrvServices.h"
 #include "orvane/extender/OrvShell.h"
 
-#include "meridane/scene/NxFieldGallery.h"
-#include "meridane/scene/NxRef.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxFieldGallery.h"
 
 namespace bench {
 

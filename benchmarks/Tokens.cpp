@@ -1,6 +1,6 @@
 #include "Tokens.h"
 
-#include "meridane/base/Unicode.h"
+#include "meridane/base/values/Unicode.h"
 
 #include <array>
 

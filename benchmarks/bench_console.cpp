@@ -6,7 +6,7 @@
 
 #include "orvane/extender/OrvProfile.h"
 
-#include "meridane/base/NxDebugError.h"
+#include "meridane/base/errors/NxDebugError.h"
 
 #include <QApplication>
 #include <QPushButton>

@@ -3,10 +3,10 @@
 #include "Pairs.h"
 
 #include "meridane/base/NxDelayQueue.h"
-#include "meridane/base/VbString.h"
-#include "meridane/scene/NxFieldSensor.h"
-#include "meridane/scene/NxMFFloat.h"
-#include "meridane/scene/NxSFFloat.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/NxFieldSensor.h"
+#include "meridane/scene/fields/list/NxMFFloat.h"
+#include "meridane/scene/fields/single/NxSFFloat.h"
 
 #include <array>
 #include <charconv>

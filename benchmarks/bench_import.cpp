@@ -2,7 +2,7 @@
 
 #include "Timing.h"
 
-#include "orvane/app/ImportJob.h"
+#include "orvane/app/files/ImportJob.h"
 
 #include <QApplication>
 #include <QEventLoop>

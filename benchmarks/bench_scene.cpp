@@ -5,11 +5,11 @@
 #include "Timing.h"
 #include "Tokens.h"
 
-#include "meridane/scene/Files.h"
-#include "meridane/scene/NxComplexity.h"
-#include "meridane/scene/NxField.h"
-#include "meridane/scene/NxFieldData.h"
-#include "meridane/scene/NxSceneReader.h"
+#include "meridane/base/Files.h"
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxFieldData.h"
+#include "meridane/scene/file/NxSceneReader.h"
+#include "meridane/scene/nodes/NxComplexity.h"
 
 #include <cstdio>
 #include <cstdlib>

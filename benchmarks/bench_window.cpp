@@ -5,9 +5,9 @@
 #include "Settle.h"
 #include "Timing.h"
 
-#include "orvane/app/MainWindow.h"
-#include "orvane/app/SceneDocument.h"
-#include "orvane/app/Session.h"
+#include "orvane/app/scene/SceneDocument.h"
+#include "orvane/app/scene/Session.h"
+#include "orvane/app/window/MainWindow.h"
 
 #include "meridane/base/NxDelayQueue.h"
 

@@ -57,7 +57,9 @@ function(kal_add_plugin name)
 endfunction()
 
 # kal_add_test(area name [SOURCES …] [DEPENDS …] [LABELS …] [TIMEOUT s])
-# A QtTest program from tst_<name>.cpp, run without a display, in the C.UTF-8 locale and with folders of its own.
+# A QtTest program from tst_<name>.cpp, where the name may begin with a folder (room/Name is room/tst_Name.cpp). Its target
+# is tst_<area>_<room>_<Name>, the test is called area/room/Name. It is run without a display, in the C.UTF-8 locale and with
+# folders of its own.
 # Under a sanitizer, too, a request for more memory than there is gives null, so that tests see what users would.
 # Tests with the label toolkit or threads are also built by the target thread_tests and run under the thread sanitizer.
 function(kal_add_test area name)
@@ -65,20 +67,25 @@ function(kal_add_test area name)
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)
   endif()
-  set(target tst_${area}_${name})
+  cmake_path(GET name FILENAME class)
+  cmake_path(GET name PARENT_PATH room)
+  kal_test_target(${area} ${name} target)
   set(flavour widgets)
   if("toolkit" IN_LIST arg_LABELS)
     set(flavour core)
   elseif("kal_orvane_extender_base_objects" IN_LIST arg_DEPENDS)
     set(flavour editors)
   endif()
-  set(moc_file "${CMAKE_CURRENT_BINARY_DIR}/tst_${name}.moc")
-  add_executable(${target} tst_${name}.cpp "${moc_file}" ${arg_SOURCES})
+  cmake_path(APPEND room "tst_${class}.cpp" OUTPUT_VARIABLE source)
+  cmake_path(APPEND CMAKE_CURRENT_BINARY_DIR "${room}" OUTPUT_VARIABLE moc_folder)
+  set(moc_file "${moc_folder}/tst_${class}.moc")
+  file(MAKE_DIRECTORY "${moc_folder}")
+  add_executable(${target} ${source} "${moc_file}" ${arg_SOURCES})
   # Called straight away: CMake's automatic run adds two commands and an empty source to each of the many programs.
-  qt_generate_moc(tst_${name}.cpp "${moc_file}" TARGET ${target})
+  qt_generate_moc(${source} "${moc_file}" TARGET ${target})
   target_link_libraries(${target} PRIVATE ${arg_DEPENDS})
   kal_use_test_header(${target} ${flavour})
-  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests" "${CMAKE_CURRENT_BINARY_DIR}")
+  target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests" "${moc_folder}")
   set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
   if("toolkit" IN_LIST arg_LABELS OR "threads" IN_LIST arg_LABELS)
     set_property(GLOBAL APPEND PROPERTY KAL_THREAD_TESTS ${target})
@@ -98,6 +105,21 @@ function(kal_add_test area name)
   )
 endfunction()
 
+# The target of a test, from its area and its name.
+function(kal_test_target area name result)
+  string(REPLACE "/" "_" target "tst_${area}_${name}")
+  set(${result} "${target}" PARENT_SCOPE)
+endfunction()
+
+# The test runs the real import helper, and finds the models of the tests.
+function(kal_use_import_helper target)
+  add_dependencies(${target} orvane-import)
+  target_compile_definitions(
+    ${target}
+    PRIVATE ORVANE_IMPORT_PROGRAM="$<TARGET_FILE:orvane-import>"
+            ORVANE_TEST_MODELS="${PROJECT_SOURCE_DIR}/tests/import/models" ORVANE_SOURCES="${PROJECT_SOURCE_DIR}")
+endfunction()
+
 # Runs a test a second time in a build with the address sanitizer: memory that was given back is given out again at once,
 # as it is outside of tests. The usual run keeps such memory back, which shows every access to it.
 function(kal_also_test_without_quarantine area name)
@@ -105,7 +127,8 @@ function(kal_also_test_without_quarantine area name)
     return()
   endif()
   set(again ${area}/${name}WithoutQuarantine)
-  add_test(NAME ${again} COMMAND tst_${area}_${name})
+  kal_test_target(${area} ${name} target)
+  add_test(NAME ${again} COMMAND ${target})
   foreach(property TIMEOUT LABELS ENVIRONMENT)
     get_test_property(${area}/${name} ${property} value)
     string(REPLACE "ASAN_OPTIONS=" "ASAN_OPTIONS=quarantine_size_mb=0:thread_local_quarantine_size_kb=0:" value "${value}")

@@ -4,12 +4,12 @@
 
 #include "Fuzz.h"
 
-#include "orvane/app/SceneListing.h"
+#include "orvane/app/command_line/SceneListing.h"
 
-#include "meridane/base/VbString.h"
-#include "meridane/scene/NxGroup.h"
-#include "meridane/scene/NxRef.h"
-#include "meridane/scene/NxScenePath.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/file/NxScenePath.h"
+#include "meridane/scene/nodes/NxGroup.h"
 
 #include <QStringList>
 #include <QTextStream>

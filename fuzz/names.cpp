@@ -5,17 +5,17 @@
 
 #include "Fuzz.h"
 
-#include "orvane/app/FieldTableModel.h"
-#include "orvane/app/PlainText.h"
-#include "orvane/app/SceneTreeModel.h"
-#include "orvane/app/SelectionLabel.h"
-#include "orvane/app/TextConversion.h"
+#include "orvane/app/base/PlainText.h"
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/fields/FieldTableModel.h"
+#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/scene/SelectionLabel.h"
 
-#include "meridane/base/MessageText.h"
-#include "meridane/base/Unicode.h"
-#include "meridane/scene/NxMesh.h"
-#include "meridane/scene/NxRef.h"
-#include "meridane/scene/NxSceneReader.h"
+#include "meridane/base/values/MessageText.h"
+#include "meridane/base/values/Unicode.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/file/NxSceneReader.h"
+#include "meridane/scene/nodes/NxMesh.h"
 
 #include <QAbstractItemModel>
 #include <QApplication>

@@ -3,10 +3,10 @@
 
 #include "Fuzz.h"
 
-#include "orvane/import/PackedScene.h"
-#include "orvane/import/PackedSceneReader.h"
+#include "orvane/transfer/PackedScene.h"
+#include "orvane/transfer/PackedSceneReader.h"
 
-#include "meridane/scene/NxSceneWriter.h"
+#include "meridane/scene/file/NxSceneWriter.h"
 
 #include <algorithm>
 #include <string>

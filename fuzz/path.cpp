@@ -3,12 +3,12 @@
 
 #include "Fuzz.h"
 
-#include "orvane/app/CommandLine.h"
-#include "orvane/app/SceneEdit.h"
+#include "orvane/app/command_line/CommandLine.h"
+#include "orvane/app/command_line/SceneEdit.h"
 
-#include "meridane/scene/NxScenePath.h"
-#include "meridane/scene/NxSceneReader.h"
-#include "meridane/scene/NxSceneWriter.h"
+#include "meridane/scene/file/NxScenePath.h"
+#include "meridane/scene/file/NxSceneReader.h"
+#include "meridane/scene/file/NxSceneWriter.h"
 
 #include <string>
 

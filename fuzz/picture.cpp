@@ -2,9 +2,9 @@
 
 #include "Fuzz.h"
 
-#include "orvane/import/ImageCodec.h"
-#include "orvane/import/Orientation.h"
-#include "orvane/import/PictureFrames.h"
+#include "orvane/import/pictures/ImageCodec.h"
+#include "orvane/import/pictures/Orientation.h"
+#include "orvane/transfer/PictureFrames.h"
 
 #include <string>
 #include <utility>

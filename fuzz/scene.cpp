@@ -2,8 +2,8 @@
 
 #include "Fuzz.h"
 
-#include "meridane/scene/NxSceneReader.h"
-#include "meridane/scene/NxSceneWriter.h"
+#include "meridane/scene/file/NxSceneReader.h"
+#include "meridane/scene/file/NxSceneWriter.h"
 
 #include <string>
 

@@ -3,11 +3,11 @@
 
 #include "Fuzz.h"
 
-#include "meridane/base/VbString.h"
-#include "meridane/scene/NxField.h"
-#include "meridane/scene/NxFieldData.h"
-#include "meridane/scene/NxFieldGallery.h"
-#include "meridane/scene/NxRef.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxFieldData.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxFieldGallery.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count)
 {

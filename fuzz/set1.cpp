@@ -3,11 +3,11 @@
 
 #include "Fuzz.h"
 
-#include "meridane/base/VbString.h"
-#include "meridane/scene/NxFieldData.h"
-#include "meridane/scene/NxFieldGallery.h"
-#include "meridane/scene/NxMField.h"
-#include "meridane/scene/NxRef.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/NxFieldData.h"
+#include "meridane/scene/fields/NxMField.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxFieldGallery.h"
 
 #include <vector>
 

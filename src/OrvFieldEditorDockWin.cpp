@@ -4,7 +4,7 @@
 
 #include "orvane/extender/OrvServices.h"
 
-#include "meridane/scene/NxField.h"
+#include "meridane/scene/fields/NxField.h"
 
 #include <QDockWidget>
 

@@ -4,7 +4,7 @@
 
 #include "orvane/extender/OrvServices.h"
 
-#include "meridane/scene/NxFieldContainer.h"
+#include "meridane/scene/fields/NxFieldContainer.h"
 
 #include <QDockWidget>
 

@@ -4,7 +4,7 @@
 #include "orvane/extender/OrvProfileSetting.h"
 #include "orvane/extender/OrvShell.h"
 
-#include "meridane/base/NxTypedObject.h"
+#include "meridane/base/types/NxTypedObject.h"
 
 #include <QDockWidget>
 

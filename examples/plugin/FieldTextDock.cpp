@@ -4,7 +4,7 @@
 #include "orvane/extender/OrvShell.h"
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxField.h"
+#include "meridane/scene/fields/NxField.h"
 
 #include <QDockWidget>
 #include <QLabel>

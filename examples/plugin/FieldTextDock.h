@@ -2,7 +2,7 @@
 
 #include "orvane/extender/OrvExtension.h"
 
-#include "meridane/scene/NxFieldSensor.h"
+#include "meridane/scene/fields/NxFieldSensor.h"
 
 class NxField;
 class QDockWidget;

@@ -1,6 +1,6 @@
 #include "meridane/base/MrdMemory.h"
 
-#include "meridane/base/NxMemoryError.h"
+#include "meridane/base/errors/NxMemoryError.h"
 
 #include <cstdlib>
 #include <new>

@@ -1,7 +1,7 @@
 #include "meridane/base/NxPreferences.h"
 
-#include "meridane/base/NxReadError.h"
-#include "meridane/base/SettingsText.h"
+#include "meridane/base/detail/SettingsText.h"
+#include "meridane/base/errors/NxReadError.h"
 
 #include <algorithm>
 #include <array>

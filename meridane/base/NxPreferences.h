@@ -1,6 +1,6 @@
 #pragma once
 
-#include "meridane/base/VbString.h"
+#include "meridane/base/values/VbString.h"
 
 /// Named settings of the process. A setting is looked for in the environment first, then among those that the process
 /// set itself, then in the settings file; the first place that has it decides.

@@ -1,9 +1,9 @@
 #include "meridane/gl/NxRayPick.h"
 
-#include "meridane/gl/MatrixMath.h"
-#include "meridane/gl/MeshHit.h"
-#include "meridane/scene/NxMesh.h"
-#include "meridane/scene/NxSwitch.h"
+#include "meridane/gl/detail/MeshHit.h"
+#include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/scene/nodes/NxMesh.h"
+#include "meridane/scene/nodes/NxSwitch.h"
 
 #include <cmath>
 #include <cstddef>

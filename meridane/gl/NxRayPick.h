@@ -1,7 +1,7 @@
 #pragma once
 
-#include "meridane/base/VbVec.h"
-#include "meridane/gl/NxViewpoint.h"
+#include "meridane/base/values/VbVec.h"
+#include "meridane/gl/geometry/NxViewpoint.h"
 
 #include <optional>
 #include <vector>

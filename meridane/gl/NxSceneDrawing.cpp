@@ -1,12 +1,12 @@
 #include "meridane/gl/NxSceneDrawing.h"
 
-#include "meridane/gl/Ground.h"
-#include "meridane/gl/ItemPainter.h"
-#include "meridane/gl/LinePainter.h"
-#include "meridane/gl/NxViewpoint.h"
-#include "meridane/gl/OutlinePainter.h"
-#include "meridane/gl/PlacedScene.h"
-#include "meridane/gl/ScreenPass.h"
+#include "meridane/gl/geometry/NxViewpoint.h"
+#include "meridane/gl/painting/detail/Ground.h"
+#include "meridane/gl/painting/detail/ItemPainter.h"
+#include "meridane/gl/painting/detail/LinePainter.h"
+#include "meridane/gl/painting/detail/OutlinePainter.h"
+#include "meridane/gl/painting/detail/ScreenPass.h"
+#include "meridane/gl/places/detail/PlacedScene.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "meridane/gl/NxBounds.h"
-#include "meridane/gl/NxDrawingCounts.h"
-#include "meridane/gl/NxDrawingStyle.h"
+#include "meridane/gl/geometry/NxBounds.h"
+#include "meridane/gl/gpu/NxDrawingCounts.h"
+#include "meridane/gl/painting/NxDrawingStyle.h"
 
 #include <functional>
 #include <memory>

@@ -2,7 +2,7 @@
 
 #include "orvane/extender/OrvExtension.h"
 
-#include "meridane/base/NxType.h"
+#include "meridane/base/types/NxType.h"
 
 class NxTypedObject;
 class QWidget;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "meridane/base/VbString.h"
+#include "meridane/base/values/VbString.h"
 
 #include <QObject>
 

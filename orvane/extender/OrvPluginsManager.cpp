@@ -1,14 +1,14 @@
 #include "orvane/extender/OrvPluginsManager.h"
 
-#include "orvane/extender/Guarded.h"
 #include "orvane/extender/OrvEditor.h"
 #include "orvane/extender/OrvPlugin.h"
 #include "orvane/extender/OrvProfile.h"
 #include "orvane/extender/OrvServices.h"
-#include "orvane/extender/PluginLibrary.h"
 #include "orvane/extender/VbText.h"
+#include "orvane/extender/detail/Guarded.h"
+#include "orvane/extender/detail/PluginLibrary.h"
 
-#include "meridane/base/NxDebugError.h"
+#include "meridane/base/errors/NxDebugError.h"
 
 #include <QDir>
 #include <QFileInfo>

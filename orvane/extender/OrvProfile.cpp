@@ -1,8 +1,8 @@
 #include "orvane/extender/OrvProfile.h"
 
 #include "orvane/extender/OrvEditor.h"
-#include "orvane/extender/ProfileReader.h"
 #include "orvane/extender/VbText.h"
+#include "orvane/extender/detail/ProfileReader.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,10 +1,10 @@
 #include "orvane/extender/OrvServices.h"
 
-#include "orvane/extender/DelayQueuePump.h"
 #include "orvane/extender/OrvCommand.h"
-#include "orvane/extender/OrvHistory.h"
-#include "orvane/extender/Selection.h"
-#include "orvane/extender/UserActionTracker.h"
+#include "orvane/extender/detail/DelayQueuePump.h"
+#include "orvane/extender/detail/OrvHistory.h"
+#include "orvane/extender/detail/Selection.h"
+#include "orvane/extender/detail/UserActionTracker.h"
 
 #include "meridane/base/NxDelayQueue.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "meridane/base/VbName.h"
-#include "meridane/base/VbString.h"
+#include "meridane/base/values/VbName.h"
+#include "meridane/base/values/VbString.h"
 
 #include <QString>
 

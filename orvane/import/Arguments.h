@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/import/ProcessLimits.h"
+#include "orvane/import/sandbox/ProcessLimits.h"
 
 #include <optional>
 #include <span>

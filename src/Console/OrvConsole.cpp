@@ -2,13 +2,13 @@
 
 #include "orvane/extender/OrvShell.h"
 
-#include "meridane/base/NxDebugError.h"
-#include "meridane/base/NxError.h"
-#include "meridane/base/NxErrorStack.h"
-#include "meridane/base/NxGLError.h"
-#include "meridane/base/NxMemoryError.h"
 #include "meridane/base/NxPreferences.h"
-#include "meridane/base/NxReadError.h"
+#include "meridane/base/errors/NxDebugError.h"
+#include "meridane/base/errors/NxError.h"
+#include "meridane/base/errors/NxErrorStack.h"
+#include "meridane/base/errors/NxGLError.h"
+#include "meridane/base/errors/NxMemoryError.h"
+#include "meridane/base/errors/NxReadError.h"
 
 #include <QCoreApplication>
 #include <QDockWidget>

@@ -5,7 +5,7 @@
 
 #include "orvane/extender/OrvExtension.h"
 
-#include "meridane/base/NxErrorHandler.h"
+#include "meridane/base/errors/NxErrorHandler.h"
 
 #include <QColor>
 #include <QElapsedTimer>

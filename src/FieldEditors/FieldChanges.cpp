@@ -8,9 +8,9 @@
 
 #include "orvane/extender/OrvServices.h"
 
-#include "meridane/scene/NxField.h"
-#include "meridane/scene/NxFieldContainer.h"
-#include "meridane/scene/NxFieldData.h"
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxFieldContainer.h"
+#include "meridane/scene/fields/NxFieldData.h"
 
 namespace orvane {
 

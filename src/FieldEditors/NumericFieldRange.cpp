@@ -2,10 +2,10 @@
 
 #include "FieldEditors/FieldRangeTable.h"
 
-#include "meridane/scene/NxComplexity.h"
-#include "meridane/scene/NxDirectionalLight.h"
-#include "meridane/scene/NxFieldContainer.h"
-#include "meridane/scene/NxMaterial.h"
+#include "meridane/scene/fields/NxFieldContainer.h"
+#include "meridane/scene/nodes/NxComplexity.h"
+#include "meridane/scene/nodes/NxDirectionalLight.h"
+#include "meridane/scene/nodes/NxMaterial.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "FieldEditors/OrvFieldEditors.h"
 
-#include "meridane/scene/NxField.h"
-#include "meridane/scene/NxFieldSensor.h"
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxFieldSensor.h"
 
 #include <QFrame>
 

@@ -1,6 +1,6 @@
 #include "FieldEditors/OrvFieldIgnoredCommand.h"
 
-#include "meridane/scene/NxField.h"
+#include "meridane/scene/fields/NxField.h"
 
 OrvFieldIgnoredCommand::OrvFieldIgnoredCommand(NxField* field, bool ignored)
     : m_field(field)

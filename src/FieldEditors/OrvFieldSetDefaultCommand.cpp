@@ -1,6 +1,6 @@
 #include "FieldEditors/OrvFieldSetDefaultCommand.h"
 
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxMField.h"
 
 OrvFieldSetDefaultCommand::OrvFieldSetDefaultCommand(NxField* field, const NxField* defaultField)
     : m_field(field)

@@ -2,7 +2,7 @@
 
 #include "orvane/extender/OrvCommand.h"
 
-#include "meridane/base/VbString.h"
+#include "meridane/base/values/VbString.h"
 
 class NxField;
 

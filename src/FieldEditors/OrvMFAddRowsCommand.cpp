@@ -2,8 +2,8 @@
 
 #include "FieldEditors/RowChanges.h"
 
-#include "meridane/base/VbString.h"
-#include "meridane/scene/NxMField.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/NxMField.h"
 
 OrvMFAddRowsCommand::OrvMFAddRowsCommand(NxMField* field, int start, int count)
     : m_field(field)

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/RowChanges.h"
 
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxMField.h"
 
 OrvMFDeleteRowsCommand::OrvMFDeleteRowsCommand(NxMField* field, int start, int count)
     : m_field(field)

@@ -1,6 +1,6 @@
 #include "FieldEditors/OrvMFSetFieldValueCommand.h"
 
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxMField.h"
 
 OrvMFSetFieldValueCommand::OrvMFSetFieldValueCommand(NxMField* field, int row)
     : m_field(field)

@@ -1,6 +1,6 @@
 #include "FieldEditors/OrvMFSetValueCommand.h"
 
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxMField.h"
 
 OrvMFSetValueCommand::OrvMFSetValueCommand(NxMField* field, int row, VbString& previousValue)
     : m_field(field)

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/RowChanges.h"
 
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxMField.h"
 
 OrvMFSwapRowsCommand::OrvMFSwapRowsCommand(NxMField* field, int first, int second)
     : m_field(field)

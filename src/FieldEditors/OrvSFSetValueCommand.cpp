@@ -1,6 +1,6 @@
 #include "FieldEditors/OrvSFSetValueCommand.h"
 
-#include "meridane/scene/NxField.h"
+#include "meridane/scene/fields/NxField.h"
 
 OrvSFSetValueCommand::OrvSFSetValueCommand(NxField* field, VbString& previousValue)
     : m_field(field)

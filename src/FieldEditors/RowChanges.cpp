@@ -1,7 +1,7 @@
 #include "FieldEditors/RowChanges.h"
 
-#include "meridane/base/VbString.h"
-#include "meridane/scene/NxMField.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/NxMField.h"
 
 bool orvane::openRows(NxMField& field, int start, int count)
 {

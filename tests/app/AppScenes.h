@@ -1,11 +1,11 @@
 #pragma once
 
 #include "meridane/base/NxDelayQueue.h"
-#include "meridane/base/VbString.h"
-#include "meridane/scene/NxGroup.h"
-#include "meridane/scene/NxRef.h"
-#include "meridane/scene/NxSceneReader.h"
-#include "meridane/scene/NxSceneWriter.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/file/NxSceneReader.h"
+#include "meridane/scene/file/NxSceneWriter.h"
+#include "meridane/scene/nodes/NxGroup.h"
 
 #include <QFile>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "orvane/app/SaveJob.h"
+#include "orvane/app/files/SaveJob.h"
 
-#include "meridane/base/VbString.h"
-#include "meridane/scene/NxGroup.h"
-#include "meridane/scene/NxMesh.h"
-#include "meridane/scene/NxRef.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxGroup.h"
+#include "meridane/scene/nodes/NxMesh.h"
 
 #include <QEventLoop>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orvane/app/MainWindow.h"
-#include "orvane/app/Session.h"
+#include "orvane/app/scene/Session.h"
+#include "orvane/app/window/MainWindow.h"
 
 #include <QApplication>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "meridane/base/NxError.h"
+#include "meridane/base/errors/NxError.h"
 
 #include <mutex>
 #include <string>

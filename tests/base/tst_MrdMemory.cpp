@@ -1,7 +1,7 @@
 #include "base/HandlerGuard.h"
 
 #include "meridane/base/MrdMemory.h"
-#include "meridane/base/NxMemoryError.h"
+#include "meridane/base/errors/NxMemoryError.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 #include "base/HandlerGuard.h"
 
 #include "meridane/base/NxPreferences.h"
-#include "meridane/base/NxReadError.h"
+#include "meridane/base/errors/NxReadError.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "orvane/extender/DelayQueuePump.h"
+#include "orvane/extender/detail/DelayQueuePump.h"
 
 #include "meridane/base/NxDelayQueue.h"
 #include "meridane/base/NxDelayQueueSensor.h"

@@ -1,7 +1,7 @@
 #include "orvane/extender/OrvEditor.h"
 
-#include "meridane/scene/NxMField.h"
-#include "meridane/scene/NxSFFloat.h"
+#include "meridane/scene/fields/NxMField.h"
+#include "meridane/scene/fields/single/NxSFFloat.h"
 
 #include <QTest>
 #include <QWidget>

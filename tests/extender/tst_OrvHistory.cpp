@@ -1,11 +1,11 @@
 #include "extender/Recording.h"
 #include "extender/TestCommand.h"
 
-#include "orvane/extender/OrvHistory.h"
+#include "orvane/extender/detail/OrvHistory.h"
 
-#include "meridane/scene/NxFieldGallery.h"
-#include "meridane/scene/NxPointLight.h"
-#include "meridane/scene/NxRef.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxFieldGallery.h"
+#include "meridane/scene/nodes/NxPointLight.h"
 
 #include <QTest>
 

@@ -4,8 +4,8 @@
 #include "orvane/extender/OrvProfile.h"
 #include "orvane/extender/OrvServices.h"
 
-#include "meridane/base/NxDebugError.h"
-#include "meridane/scene/NxPointLight.h"
+#include "meridane/base/errors/NxDebugError.h"
+#include "meridane/scene/nodes/NxPointLight.h"
 
 #include <QComboBox>
 #include <QSignalSpy>

@@ -4,11 +4,11 @@
 
 #include "orvane/extender/OrvServices.h"
 
-#include "meridane/base/NxDebugError.h"
 #include "meridane/base/NxDelayQueue.h"
-#include "meridane/scene/NxFieldSensor.h"
-#include "meridane/scene/NxPointLight.h"
-#include "meridane/scene/NxRef.h"
+#include "meridane/base/errors/NxDebugError.h"
+#include "meridane/scene/fields/NxFieldSensor.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxPointLight.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -4,7 +4,7 @@
 #include "orvane/extender/OrvPluginsManager.h"
 #include "orvane/extender/OrvProfile.h"
 
-#include "meridane/base/NxDebugError.h"
+#include "meridane/base/errors/NxDebugError.h"
 
 #include <QTemporaryDir>
 #include <QTest>

@@ -1,5 +1,5 @@
-#include "orvane/extender/ProfileReader.h"
 #include "orvane/extender/VbText.h"
+#include "orvane/extender/detail/ProfileReader.h"
 
 #include <QTest>
 

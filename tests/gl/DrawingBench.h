@@ -2,19 +2,19 @@
 
 #include "base/HandlerGuard.h"
 
-#include "meridane/base/NxDebugError.h"
 #include "meridane/base/NxDelayQueue.h"
-#include "meridane/base/NxGLError.h"
-#include "meridane/base/NxReadError.h"
-#include "meridane/gl/NxGLFunctions.h"
-#include "meridane/gl/NxOffscreenContext.h"
+#include "meridane/base/errors/NxDebugError.h"
+#include "meridane/base/errors/NxGLError.h"
+#include "meridane/base/errors/NxReadError.h"
 #include "meridane/gl/NxSceneDrawing.h"
-#include "meridane/gl/NxViewpoint.h"
-#include "meridane/scene/NxGroup.h"
-#include "meridane/scene/NxMaterial.h"
-#include "meridane/scene/NxMesh.h"
-#include "meridane/scene/NxRef.h"
-#include "meridane/scene/NxTexture.h"
+#include "meridane/gl/geometry/NxViewpoint.h"
+#include "meridane/gl/gpu/NxGLFunctions.h"
+#include "meridane/gl/gpu/NxOffscreenContext.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxGroup.h"
+#include "meridane/scene/nodes/NxMaterial.h"
+#include "meridane/scene/nodes/NxMesh.h"
+#include "meridane/scene/nodes/NxTexture.h"
 
 #include <QColor>
 #include <QImage>

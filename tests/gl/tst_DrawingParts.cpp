@@ -1,6 +1,6 @@
-#include "meridane/gl/BoundsTree.h"
-#include "meridane/gl/Fingerprint.h"
-#include "meridane/gl/RangeList.h"
+#include "meridane/gl/gpu/detail/Fingerprint.h"
+#include "meridane/gl/gpu/detail/RangeList.h"
+#include "meridane/gl/places/detail/BoundsTree.h"
 
 #include <QTest>
 

@@ -1,8 +1,8 @@
 #include "gl/DrawingBench.h"
 
-#include "meridane/scene/NxComplexity.h"
-#include "meridane/scene/NxMaterial.h"
-#include "meridane/scene/NxTransform.h"
+#include "meridane/scene/nodes/NxComplexity.h"
+#include "meridane/scene/nodes/NxMaterial.h"
+#include "meridane/scene/nodes/NxTransform.h"
 
 #include <cmath>
 

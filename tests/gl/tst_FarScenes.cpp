@@ -1,13 +1,13 @@
 #include "gl/DrawingBench.h"
 
-#include "meridane/gl/MatrixMath.h"
 #include "meridane/gl/NxRayPick.h"
-#include "meridane/scene/NxComplexity.h"
-#include "meridane/scene/NxMatrixTransform.h"
-#include "meridane/scene/NxPerspectiveCamera.h"
-#include "meridane/scene/NxPointLight.h"
-#include "meridane/scene/NxSpotLight.h"
-#include "meridane/scene/NxTransform.h"
+#include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/scene/nodes/NxComplexity.h"
+#include "meridane/scene/nodes/NxMatrixTransform.h"
+#include "meridane/scene/nodes/NxPerspectiveCamera.h"
+#include "meridane/scene/nodes/NxPointLight.h"
+#include "meridane/scene/nodes/NxSpotLight.h"
+#include "meridane/scene/nodes/NxTransform.h"
 
 #include <functional>
 #include <memory>

@@ -1,11 +1,11 @@
-#include "meridane/gl/MatrixMath.h"
 #include "meridane/gl/NxRayPick.h"
-#include "meridane/scene/NxGroup.h"
-#include "meridane/scene/NxMatrixTransform.h"
-#include "meridane/scene/NxMesh.h"
-#include "meridane/scene/NxRef.h"
-#include "meridane/scene/NxSwitch.h"
-#include "meridane/scene/NxTransform.h"
+#include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxGroup.h"
+#include "meridane/scene/nodes/NxMatrixTransform.h"
+#include "meridane/scene/nodes/NxMesh.h"
+#include "meridane/scene/nodes/NxSwitch.h"
+#include "meridane/scene/nodes/NxTransform.h"
 
 #include <QTest>
 

@@ -1,11 +1,11 @@
 #include "gl/DrawingBench.h"
 
-#include "meridane/scene/NxComplexity.h"
-#include "meridane/scene/NxDirectionalLight.h"
-#include "meridane/scene/NxMatrixTransform.h"
-#include "meridane/scene/NxPointLight.h"
-#include "meridane/scene/NxSwitch.h"
-#include "meridane/scene/NxTransform.h"
+#include "meridane/scene/nodes/NxComplexity.h"
+#include "meridane/scene/nodes/NxDirectionalLight.h"
+#include "meridane/scene/nodes/NxMatrixTransform.h"
+#include "meridane/scene/nodes/NxPointLight.h"
+#include "meridane/scene/nodes/NxSwitch.h"
+#include "meridane/scene/nodes/NxTransform.h"
 
 #include <functional>
 

@@ -1,15 +1,15 @@
 #include "gl/DrawingBench.h"
 
-#include "meridane/gl/NxImage.h"
-#include "meridane/scene/NxComplexity.h"
-#include "meridane/scene/NxDirectionalLight.h"
-#include "meridane/scene/NxMaterial.h"
-#include "meridane/scene/NxMatrixTransform.h"
-#include "meridane/scene/NxPointLight.h"
-#include "meridane/scene/NxSpotLight.h"
-#include "meridane/scene/NxSwitch.h"
-#include "meridane/scene/NxTexture.h"
-#include "meridane/scene/NxTransform.h"
+#include "meridane/gl/gpu/NxImage.h"
+#include "meridane/scene/nodes/NxComplexity.h"
+#include "meridane/scene/nodes/NxDirectionalLight.h"
+#include "meridane/scene/nodes/NxMaterial.h"
+#include "meridane/scene/nodes/NxMatrixTransform.h"
+#include "meridane/scene/nodes/NxPointLight.h"
+#include "meridane/scene/nodes/NxSpotLight.h"
+#include "meridane/scene/nodes/NxSwitch.h"
+#include "meridane/scene/nodes/NxTexture.h"
+#include "meridane/scene/nodes/NxTransform.h"
 
 #include <cmath>
 

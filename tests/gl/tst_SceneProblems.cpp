@@ -1,12 +1,12 @@
 #include "gl/DrawingBench.h"
 
-#include "meridane/gl/GLProgram.h"
-#include "meridane/gl/NxImage.h"
-#include "meridane/gl/PlacedScene.h"
-#include "meridane/scene/NxComplexity.h"
-#include "meridane/scene/NxMatrixTransform.h"
-#include "meridane/scene/NxPointLight.h"
-#include "meridane/scene/NxTransform.h"
+#include "meridane/gl/gpu/NxImage.h"
+#include "meridane/gl/gpu/detail/GLProgram.h"
+#include "meridane/gl/places/detail/PlacedScene.h"
+#include "meridane/scene/nodes/NxComplexity.h"
+#include "meridane/scene/nodes/NxMatrixTransform.h"
+#include "meridane/scene/nodes/NxPointLight.h"
+#include "meridane/scene/nodes/NxTransform.h"
 
 #include <functional>
 #include <limits>

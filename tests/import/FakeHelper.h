@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/app/HelperProcess.h"
+#include "orvane/app/base/HelperProcess.h"
 
 #include <QFile>
 #include <QTemporaryDir>

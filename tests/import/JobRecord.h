@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/app/FileJob.h"
+#include "orvane/app/files/FileJob.h"
 
 #include <QList>
 #include <QStringList>

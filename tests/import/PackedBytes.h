@@ -2,8 +2,8 @@
 
 #include "import/SceneOf.h"
 
-#include "orvane/import/PackedScene.h"
-#include "orvane/import/PackedSceneReader.h"
+#include "orvane/transfer/PackedScene.h"
+#include "orvane/transfer/PackedSceneReader.h"
 
 #include <string>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "meridane/scene/NxSceneReader.h"
+#include "meridane/scene/file/NxSceneReader.h"
 
 #include <string>
 

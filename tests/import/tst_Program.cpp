@@ -2,9 +2,9 @@
 #include "import/HelperRun.h"
 #include "import/PackedBytes.h"
 
-#include "orvane/import/ProcessLimits.h"
+#include "orvane/import/sandbox/ProcessLimits.h"
 
-#include "meridane/scene/NxSceneWriter.h"
+#include "meridane/scene/file/NxSceneWriter.h"
 
 #include <QDir>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "meridane/base/NxDebugError.h"
+#include "meridane/base/errors/NxDebugError.h"
 
 #include <QStringList>
 

@@ -5,7 +5,7 @@
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxMField.h"
 
 #include <QLineEdit>
 #include <QPushButton>

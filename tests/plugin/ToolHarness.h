@@ -6,11 +6,11 @@
 #include "orvane/extender/OrvShell.h"
 
 #include "meridane/base/NxDelayQueue.h"
-#include "meridane/base/VbName.h"
-#include "meridane/base/VbString.h"
-#include "meridane/scene/NxField.h"
-#include "meridane/scene/NxFieldGallery.h"
-#include "meridane/scene/NxRef.h"
+#include "meridane/base/values/VbName.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxFieldGallery.h"
 
 #include <QApplication>
 #include <QDockWidget>

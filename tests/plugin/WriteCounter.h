@@ -1,6 +1,6 @@
 #pragma once
 
-#include "meridane/scene/NxFieldSensor.h"
+#include "meridane/scene/fields/NxFieldSensor.h"
 
 /// Counts how often a field is written, also when the editor's own sensor hears of several writes in one call.
 class WriteCounter final : public NxFieldSensor {

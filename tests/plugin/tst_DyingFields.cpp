@@ -2,8 +2,8 @@
 #include "plugin/HostHarness.h"
 #include "plugin/Monkey.h"
 
-#include "meridane/scene/NxFieldData.h"
-#include "meridane/scene/NxGroup.h"
+#include "meridane/scene/fields/NxFieldData.h"
+#include "meridane/scene/nodes/NxGroup.h"
 
 #include <QAbstractSlider>
 #include <QLineEdit>

@@ -4,8 +4,8 @@
 #include "plugin/WriteCounter.h"
 #include "scene/SceneText.h"
 
-#include "meridane/scene/Files.h"
-#include "meridane/scene/NxSField.h"
+#include "meridane/base/Files.h"
+#include "meridane/scene/fields/NxSField.h"
 
 namespace {
 

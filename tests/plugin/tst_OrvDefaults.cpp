@@ -4,7 +4,7 @@
 #include "orvane/extender/OrvEditor.h"
 #include "orvane/extender/OrvPluginsManager.h"
 
-#include "meridane/base/VbName.h"
+#include "meridane/base/values/VbName.h"
 
 #include <QPointer>
 

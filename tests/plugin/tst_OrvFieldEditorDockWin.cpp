@@ -3,9 +3,9 @@
 #include "OrvNodeEditor.h"
 #include "RecordingEditor.h"
 
-#include "meridane/scene/NxMField.h"
-#include "meridane/scene/NxSFFloat.h"
-#include "meridane/scene/NxSField.h"
+#include "meridane/scene/fields/NxMField.h"
+#include "meridane/scene/fields/NxSField.h"
+#include "meridane/scene/fields/single/NxSFFloat.h"
 
 #include <QMetaMethod>
 #include <QPointer>

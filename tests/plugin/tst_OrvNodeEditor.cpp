@@ -5,7 +5,7 @@
 
 #include "orvane/extender/OrvEditor.h"
 
-#include "meridane/scene/NxSField.h"
+#include "meridane/scene/fields/NxSField.h"
 
 #include <QLabel>
 #include <QMetaMethod>

@@ -2,8 +2,8 @@
 
 #include "RandomValues.h"
 
-#include "meridane/scene/NxFieldContainer.h"
-#include "meridane/scene/NxRef.h"
+#include "meridane/scene/fields/NxFieldContainer.h"
+#include "meridane/scene/fields/NxRef.h"
 
 #include <QMetaType>
 

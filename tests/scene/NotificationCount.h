@@ -1,7 +1,7 @@
 #pragma once
 
 #include "meridane/base/NxDelayQueue.h"
-#include "meridane/scene/NxFieldSensor.h"
+#include "meridane/scene/fields/NxFieldSensor.h"
 
 /// Counts how often a field's observers are told, change by change: processing the delay queue behind each of them.
 class NotificationCount {

@@ -2,8 +2,8 @@
 
 #include "FieldCatalogue.h"
 
-#include "meridane/scene/NxField.h"
-#include "meridane/scene/NxUnknownNode.h"
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/nodes/NxUnknownNode.h"
 
 #include <array>
 #include <map>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "meridane/scene/NxGroup.h"
-#include "meridane/scene/NxRef.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxGroup.h"
 
 #include <string>
 

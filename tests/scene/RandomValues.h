@@ -1,13 +1,13 @@
 #pragma once
 
-#include "meridane/base/VbBox.h"
-#include "meridane/base/VbColor.h"
-#include "meridane/base/VbMatrix.h"
-#include "meridane/base/VbName.h"
-#include "meridane/base/VbPlane.h"
-#include "meridane/base/VbRotation.h"
-#include "meridane/base/VbString.h"
-#include "meridane/scene/Flag.h"
+#include "meridane/base/values/VbBox.h"
+#include "meridane/base/values/VbColor.h"
+#include "meridane/base/values/VbMatrix.h"
+#include "meridane/base/values/VbName.h"
+#include "meridane/base/values/VbPlane.h"
+#include "meridane/base/values/VbRotation.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/text/Flag.h"
 
 #include <array>
 #include <bit>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "meridane/scene/NxSceneReader.h"
-#include "meridane/scene/NxSceneWriter.h"
+#include "meridane/scene/file/NxSceneReader.h"
+#include "meridane/scene/file/NxSceneWriter.h"
 
 #include <string>
 #include <string_view>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "meridane/scene/NxMFFloat.h"
-#include "meridane/scene/NxNode.h"
-#include "meridane/scene/NxRef.h"
-#include "meridane/scene/NxSFFloat.h"
-#include "meridane/scene/NxSFString.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/fields/list/NxMFFloat.h"
+#include "meridane/scene/fields/single/NxSFFloat.h"
+#include "meridane/scene/fields/single/NxSFString.h"
+#include "meridane/scene/nodes/NxNode.h"
 
 /// A node with three fields.
 class ProbeNode : public NxNode {

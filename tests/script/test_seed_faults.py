@@ -51,9 +51,9 @@ class CodeMask(unittest.TestCase):
 
 class Stages(unittest.TestCase):
     def test_tests_of_the_class_come_first_and_all_run_once(self):
-        tests = ["app/FileFlow", "scene/NxField", "scene/Files", "endtoend/CommandRun"]
-        stages = seed_faults.stages("meridane/scene/Files.cpp", tests)
-        self.assertEqual(stages[0], ["scene/Files"])
+        tests = ["app/files/FileFlow", "scene/fields/NxField", "base/Files", "endtoend/CommandRun"]
+        stages = seed_faults.stages("meridane/base/Files.cpp", tests)
+        self.assertEqual(stages[0], ["base/Files"])
         self.assertEqual(sorted(sum(stages, [])), sorted(tests))
 
 

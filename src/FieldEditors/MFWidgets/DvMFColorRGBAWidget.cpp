@@ -4,7 +4,7 @@
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
 
-#include "meridane/scene/NxMFColorRGBA.h"
+#include "meridane/scene/fields/list/NxMFColorRGBA.h"
 
 DvMFColorRGBAWidget::DvMFColorRGBAWidget(const char* name)
     : DvMFVec4fWidget(1, name)

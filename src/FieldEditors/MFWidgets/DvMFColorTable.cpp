@@ -4,7 +4,7 @@
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 #include "FieldEditors/MFWidgets/RowColor.h"
 
-#include "meridane/base/VbVec.h"
+#include "meridane/base/values/VbVec.h"
 
 #include <QColorDialog>
 

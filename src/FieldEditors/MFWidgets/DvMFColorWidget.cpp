@@ -4,7 +4,7 @@
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
 
-#include "meridane/scene/NxMFColor.h"
+#include "meridane/scene/fields/list/NxMFColor.h"
 
 DvMFColorWidget::DvMFColorWidget(const char* name)
     : DvMFVec3fWidget(1, name)

@@ -6,7 +6,7 @@
 
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxMField.h"
 
 DvMFDefaultFieldWidget::DvMFDefaultFieldWidget(const char* name)
     : DvMFieldWidget(name)

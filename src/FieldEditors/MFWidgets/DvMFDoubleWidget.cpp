@@ -3,7 +3,7 @@
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/NumericFieldRange.h"
 
-#include "meridane/scene/NxMFDouble.h"
+#include "meridane/scene/fields/list/NxMFDouble.h"
 
 DvMFDoubleWidget::DvMFDoubleWidget(const char* name)
     : DvMFLineWidget(name != nullptr ? name : "DvMFDoubleWidget")

@@ -3,7 +3,7 @@
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/NumericFieldRange.h"
 
-#include "meridane/scene/NxMFFloat.h"
+#include "meridane/scene/fields/list/NxMFFloat.h"
 
 DvMFFloatWidget::DvMFFloatWidget(const char* name)
     : DvMFLineWidget(name != nullptr ? name : "DvMFFloatWidget")

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
-#include "meridane/scene/NxMFInt32.h"
+#include "meridane/scene/fields/list/NxMFInt32.h"
 
 DvMFInt32Widget::DvMFInt32Widget(const char* name)
     : DvMFLineWidget(name != nullptr ? name : "DvMFInt32Widget")

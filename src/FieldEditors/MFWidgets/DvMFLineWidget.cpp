@@ -5,7 +5,7 @@
 
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxMField.h"
 
 DvMFLineWidget::DvMFLineWidget(const char* name)
     : DvMFieldWidget(name != nullptr ? name : "DvMFLineWidget")

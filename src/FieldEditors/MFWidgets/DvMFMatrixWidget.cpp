@@ -7,7 +7,7 @@
 
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxMFMatrix.h"
+#include "meridane/scene/fields/list/NxMFMatrix.h"
 
 #include <string>
 

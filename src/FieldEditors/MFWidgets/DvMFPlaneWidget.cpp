@@ -5,7 +5,7 @@
 #include "FieldEditors/MFWidgets/RowValues.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
-#include "meridane/scene/NxMFPlane.h"
+#include "meridane/scene/fields/list/NxMFPlane.h"
 
 DvMFPlaneWidget::DvMFPlaneWidget(const char* name)
     : DvMFieldWidget(name)

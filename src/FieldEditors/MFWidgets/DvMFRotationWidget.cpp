@@ -5,7 +5,7 @@
 #include "FieldEditors/MFWidgets/RowValues.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
-#include "meridane/scene/NxMFRotation.h"
+#include "meridane/scene/fields/list/NxMFRotation.h"
 
 #include <array>
 

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
-#include "meridane/scene/NxMFShort.h"
+#include "meridane/scene/fields/list/NxMFShort.h"
 
 DvMFShortWidget::DvMFShortWidget(const char* name)
     : DvMFLineWidget(name != nullptr ? name : "DvMFShortWidget")

@@ -9,7 +9,7 @@
 #include "orvane/extender/OrvServices.h"
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxMFString.h"
+#include "meridane/scene/fields/list/NxMFString.h"
 
 DvMFStringWidget::DvMFStringWidget(const char* name)
     : DvMFieldWidget(name)

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
-#include "meridane/scene/NxMFUInt32.h"
+#include "meridane/scene/fields/list/NxMFUInt32.h"
 
 DvMFUInt32Widget::DvMFUInt32Widget(const char* name)
     : DvMFLineWidget(name != nullptr ? name : "DvMFUInt32Widget")

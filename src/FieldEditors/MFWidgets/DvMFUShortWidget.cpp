@@ -2,7 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
-#include "meridane/scene/NxMFUShort.h"
+#include "meridane/scene/fields/list/NxMFUShort.h"
 
 DvMFUShortWidget::DvMFUShortWidget(const char* name)
     : DvMFLineWidget(name != nullptr ? name : "DvMFUShortWidget")

@@ -4,7 +4,7 @@
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
 
-#include "meridane/scene/NxMFVec2f.h"
+#include "meridane/scene/fields/list/NxMFVec2f.h"
 
 DvMFVec2fWidget::DvMFVec2fWidget(const char* name)
     : DvMFieldWidget(name)

@@ -4,7 +4,7 @@
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
 
-#include "meridane/scene/NxMFVec2i32.h"
+#include "meridane/scene/fields/list/NxMFVec2i32.h"
 
 DvMFVec2i32Widget::DvMFVec2i32Widget(const char* name)
     : DvMFieldWidget(name)

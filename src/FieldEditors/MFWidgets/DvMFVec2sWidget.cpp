@@ -4,7 +4,7 @@
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
 
-#include "meridane/scene/NxMFVec2s.h"
+#include "meridane/scene/fields/list/NxMFVec2s.h"
 
 DvMFVec2sWidget::DvMFVec2sWidget(const char* name)
     : DvMFieldWidget(name)

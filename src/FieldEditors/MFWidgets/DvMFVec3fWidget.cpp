@@ -4,7 +4,7 @@
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
 
-#include "meridane/scene/NxMFVec3f.h"
+#include "meridane/scene/fields/list/NxMFVec3f.h"
 
 DvMFVec3fWidget::DvMFVec3fWidget(const char* name)
     : DvMFVec3fWidget(0, name)

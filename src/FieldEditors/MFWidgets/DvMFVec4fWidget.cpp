@@ -4,7 +4,7 @@
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
 
-#include "meridane/scene/NxMFVec4f.h"
+#include "meridane/scene/fields/list/NxMFVec4f.h"
 
 DvMFVec4fWidget::DvMFVec4fWidget(const char* name)
     : DvMFVec4fWidget(0, name)

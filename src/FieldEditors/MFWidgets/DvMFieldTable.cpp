@@ -10,7 +10,7 @@
 
 #include "orvane/extender/OrvServices.h"
 
-#include "meridane/scene/MemoryGuard.h"
+#include "meridane/scene/fields/MemoryGuard.h"
 
 #include <QCursor>
 #include <QHeaderView>

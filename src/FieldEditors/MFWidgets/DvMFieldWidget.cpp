@@ -9,8 +9,8 @@
 #include "FieldEditors/MFWidgets/DvMFColorTable.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
-#include "meridane/scene/NxFieldSensor.h"
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxFieldSensor.h"
+#include "meridane/scene/fields/NxMField.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -4,7 +4,7 @@
 
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxMField.h"
 
 namespace orvane {
 

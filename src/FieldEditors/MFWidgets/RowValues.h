@@ -3,7 +3,7 @@
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
-#include "meridane/scene/NxMField.h"
+#include "meridane/scene/fields/NxMField.h"
 
 #include <QString>
 

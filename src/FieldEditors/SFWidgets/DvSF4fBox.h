@@ -2,7 +2,7 @@
 
 #include "FieldEditors/SFWidgets/DvSFieldWidget.h"
 
-#include "meridane/base/VbVec.h"
+#include "meridane/base/values/VbVec.h"
 
 class QLineEdit;
 

@@ -2,7 +2,7 @@
 
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxSFBitMask.h"
+#include "meridane/scene/fields/single/NxSFBitMask.h"
 
 #include <QCheckBox>
 #include <QFrame>

@@ -3,7 +3,7 @@
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/LayoutMetrics.h"
 
-#include "meridane/scene/NxSFBool.h"
+#include "meridane/scene/fields/single/NxSFBool.h"
 
 #include <QCheckBox>
 #include <QFrame>

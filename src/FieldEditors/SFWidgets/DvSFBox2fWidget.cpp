@@ -3,7 +3,7 @@
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
-#include "meridane/scene/NxSFBox2f.h"
+#include "meridane/scene/fields/single/NxSFBox2f.h"
 
 #include <QLineEdit>
 

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/FieldChanges.h"
 
-#include "meridane/scene/NxSFBox3s.h"
+#include "meridane/scene/fields/single/NxSFBox3s.h"
 
 #include <QLineEdit>
 

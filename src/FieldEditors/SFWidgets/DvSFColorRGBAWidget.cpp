@@ -5,7 +5,7 @@
 #include "FieldEditors/SFWidgets/ColorParts.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
-#include "meridane/scene/NxSFColorRGBA.h"
+#include "meridane/scene/fields/single/NxSFColorRGBA.h"
 
 #include <QColorDialog>
 #include <QHBoxLayout>

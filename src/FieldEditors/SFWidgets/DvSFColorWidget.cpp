@@ -5,7 +5,7 @@
 #include "FieldEditors/SFWidgets/ColorParts.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
-#include "meridane/scene/NxSFColor.h"
+#include "meridane/scene/fields/single/NxSFColor.h"
 
 #include <QColorDialog>
 #include <QHBoxLayout>

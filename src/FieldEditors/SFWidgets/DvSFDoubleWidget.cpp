@@ -5,7 +5,7 @@
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
-#include "meridane/scene/NxSFDouble.h"
+#include "meridane/scene/fields/single/NxSFDouble.h"
 
 DvSFDoubleWidget::DvSFDoubleWidget(const char* name)
     : DvSFieldWidget(2, name)

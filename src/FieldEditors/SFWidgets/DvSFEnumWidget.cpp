@@ -4,7 +4,7 @@
 
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxSFEnum.h"
+#include "meridane/scene/fields/single/NxSFEnum.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

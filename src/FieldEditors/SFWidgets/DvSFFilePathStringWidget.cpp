@@ -2,7 +2,7 @@
 
 #include "FieldEditors/SFWidgets/EditLine.h"
 
-#include "meridane/scene/NxSFFilePathString.h"
+#include "meridane/scene/fields/single/NxSFFilePathString.h"
 
 #include <QFileDialog>
 #include <QHBoxLayout>

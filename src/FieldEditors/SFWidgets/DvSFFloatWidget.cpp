@@ -5,7 +5,7 @@
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
-#include "meridane/scene/NxSFFloat.h"
+#include "meridane/scene/fields/single/NxSFFloat.h"
 
 DvSFFloatWidget::DvSFFloatWidget(const char* name)
     : DvSFieldWidget(1, name)

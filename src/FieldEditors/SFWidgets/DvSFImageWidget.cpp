@@ -4,7 +4,7 @@
 #include "FieldEditors/SFWidgets/DvSFImageLabel.h"
 #include "FieldEditors/SFWidgets/ImagePixmap.h"
 
-#include "meridane/scene/NxSFImage.h"
+#include "meridane/scene/fields/single/NxSFImage.h"
 
 #include <QHBoxLayout>
 

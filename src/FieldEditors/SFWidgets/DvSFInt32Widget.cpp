@@ -5,7 +5,7 @@
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
-#include "meridane/scene/NxSFInt32.h"
+#include "meridane/scene/fields/single/NxSFInt32.h"
 
 DvSFInt32Widget::DvSFInt32Widget(const char* name)
     : DvSFieldWidget(3, name)

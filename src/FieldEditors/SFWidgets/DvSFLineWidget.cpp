@@ -5,7 +5,7 @@
 
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxSField.h"
+#include "meridane/scene/fields/NxSField.h"
 
 #include <QLineEdit>
 #include <QSignalBlocker>

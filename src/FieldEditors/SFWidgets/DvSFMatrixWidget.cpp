@@ -3,7 +3,7 @@
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
-#include "meridane/scene/NxSFMatrix.h"
+#include "meridane/scene/fields/single/NxSFMatrix.h"
 
 #include <QLineEdit>
 

@@ -5,7 +5,7 @@
 
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxSFName.h"
+#include "meridane/scene/fields/single/NxSFName.h"
 
 #include <QLineEdit>
 

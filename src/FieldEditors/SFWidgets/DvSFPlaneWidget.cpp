@@ -2,7 +2,7 @@
 
 #include "FieldEditors/FieldChanges.h"
 
-#include "meridane/scene/NxSFPlane.h"
+#include "meridane/scene/fields/single/NxSFPlane.h"
 
 DvSFPlaneWidget::DvSFPlaneWidget(const char* name)
     : DvSF4fBox(name)

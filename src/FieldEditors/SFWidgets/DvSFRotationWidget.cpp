@@ -2,7 +2,7 @@
 
 #include "FieldEditors/FieldChanges.h"
 
-#include "meridane/scene/NxSFRotation.h"
+#include "meridane/scene/fields/single/NxSFRotation.h"
 
 #include <QLineEdit>
 

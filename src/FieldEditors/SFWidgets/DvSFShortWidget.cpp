@@ -4,7 +4,7 @@
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
-#include "meridane/scene/NxSFShort.h"
+#include "meridane/scene/fields/single/NxSFShort.h"
 
 DvSFShortWidget::DvSFShortWidget(const char* name)
     : DvSFieldWidget(5, name)

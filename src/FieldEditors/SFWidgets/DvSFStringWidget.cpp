@@ -2,7 +2,7 @@
 
 #include "FieldEditors/SFWidgets/EditLine.h"
 
-#include "meridane/scene/NxSFString.h"
+#include "meridane/scene/fields/single/NxSFString.h"
 
 #include <QLineEdit>
 

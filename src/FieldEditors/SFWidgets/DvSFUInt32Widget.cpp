@@ -4,7 +4,7 @@
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
-#include "meridane/scene/NxSFUInt32.h"
+#include "meridane/scene/fields/single/NxSFUInt32.h"
 
 DvSFUInt32Widget::DvSFUInt32Widget(const char* name)
     : DvSFieldWidget(4, name)

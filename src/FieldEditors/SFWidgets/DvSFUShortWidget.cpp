@@ -4,7 +4,7 @@
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
-#include "meridane/scene/NxSFUShort.h"
+#include "meridane/scene/fields/single/NxSFUShort.h"
 
 DvSFUShortWidget::DvSFUShortWidget(const char* name)
     : DvSFieldWidget(6, name)

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/SFWidgets/VectorColumn.h"
 
-#include "meridane/scene/NxSFVec2i32.h"
+#include "meridane/scene/fields/single/NxSFVec2i32.h"
 
 #include <QSpinBox>
 

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/SFWidgets/VectorColumn.h"
 
-#include "meridane/scene/NxSFVec2s.h"
+#include "meridane/scene/fields/single/NxSFVec2s.h"
 
 #include <QSpinBox>
 

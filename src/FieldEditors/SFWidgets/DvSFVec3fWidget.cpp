@@ -4,7 +4,7 @@
 #include "FieldEditors/SFWidgets/NumberLine.h"
 #include "FieldEditors/SFWidgets/VectorColumn.h"
 
-#include "meridane/scene/NxSFVec3f.h"
+#include "meridane/scene/fields/single/NxSFVec3f.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

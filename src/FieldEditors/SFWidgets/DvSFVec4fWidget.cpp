@@ -2,7 +2,7 @@
 
 #include "FieldEditors/SFWidgets/VectorColumn.h"
 
-#include "meridane/scene/NxSFVec4f.h"
+#include "meridane/scene/fields/single/NxSFVec4f.h"
 
 DvSFVec4fWidget::DvSFVec4fWidget(const char* name)
     : DvSF4fBox(name)

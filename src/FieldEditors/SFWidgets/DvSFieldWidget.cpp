@@ -6,7 +6,7 @@
 #include "FieldEditors/IconButton.h"
 #include "FieldEditors/LayoutMetrics.h"
 
-#include "meridane/scene/NxField.h"
+#include "meridane/scene/fields/NxField.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

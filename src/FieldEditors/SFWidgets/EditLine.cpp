@@ -4,7 +4,7 @@
 
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxSFString.h"
+#include "meridane/scene/fields/single/NxSFString.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 #include "FieldEditors/SFWidgets/ImagePixmap.h"
 
 #include "meridane/base/MrdMemory.h"
-#include "meridane/scene/NxSFImage.h"
+#include "meridane/scene/fields/single/NxSFImage.h"
 
 #include <QImage>
 #include <QPixmap>

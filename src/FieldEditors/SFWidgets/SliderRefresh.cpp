@@ -5,7 +5,7 @@
 
 #include "orvane/extender/VbText.h"
 
-#include "meridane/scene/NxField.h"
+#include "meridane/scene/fields/NxField.h"
 
 void orvane::showReal(DvRealSlider& slider, double value)
 {

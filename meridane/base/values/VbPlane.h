@@ -1,0 +1,22 @@
+#pragma once
+
+#include "meridane/base/values/VbVec.h"
+
+/// A plane: the points whose product with the unit normal is the distance from the origin.
+class VbPlane {
+public:
+    /// The plane through the origin that faces along z.
+    constexpr VbPlane() noexcept = default;
+    /// Normalises the normal and leaves the distance as it is. A normal that is already of unit length but for
+    /// rounding, of no length, or not finite stays to the bit, so that reading back what was written changes nothing.
+    VbPlane(const VbVec3f& normal, float distance) noexcept;
+
+    [[nodiscard]] const VbVec3f& getNormal() const noexcept { return m_normal; }
+    [[nodiscard]] float getDistanceFromOrigin() const noexcept { return m_distance; }
+
+    friend bool operator==(const VbPlane&, const VbPlane&) noexcept = default;
+
+private:
+    VbVec3f m_normal{0, 0, 1};
+    float m_distance = 0;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "meridane/base/values/VbMatrix.h"
+
+#include <array>
+#include <cstddef>
+
+namespace meridane {
+
+/// A matrix in double precision, row by row, the identity at first. Places in a scene are composed of these: with
+/// floats a place ten million units from the origin would be rounded to whole units.
+class Matrix4d {
+public:
+    constexpr Matrix4d() noexcept = default;
+    constexpr Matrix4d(const VbMatrix& matrix) noexcept // NOLINT(google-explicit-constructor): nothing is lost
+    {
+        for (std::size_t row = 0; row < 4; ++row) {
+            for (std::size_t column = 0; column < 4; ++column)
+                m_rows[row][column] = static_cast<double>(matrix[row][column]);
+        }
+    }
+
+    [[nodiscard]] constexpr std::array<double, 4>& operator[](std::size_t row) noexcept { return m_rows[row]; }
+    [[nodiscard]] constexpr const std::array<double, 4>& operator[](std::size_t row) const noexcept
+    {
+        return m_rows[row];
+    }
+
+    friend constexpr bool operator==(const Matrix4d&, const Matrix4d&) noexcept = default;
+
+private:
+    std::array<std::array<double, 4>, 4> m_rows{{{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}}};
+};
+
+} // namespace meridane

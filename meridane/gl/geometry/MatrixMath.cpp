@@ -1,0 +1,315 @@
+#include "meridane/gl/geometry/MatrixMath.h"
+
+#include "meridane/scene/nodes/NxMatrixTransform.h"
+#include "meridane/scene/nodes/NxTransform.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <utility>
+
+namespace meridane {
+
+namespace {
+
+double wide(float value) noexcept
+{
+    return static_cast<double>(value);
+}
+
+VbVec3f narrow(double x, double y, double z) noexcept
+{
+    return {static_cast<float>(x), static_cast<float>(y), static_cast<float>(z)};
+}
+
+using Rows = std::array<std::array<double, 8>, 4>;
+
+// Brings the column's largest element into the row of the same index; false when all are 0 or none is a number.
+bool choosePivot(Rows& rows, std::size_t column) noexcept
+{
+    std::size_t best = column;
+    for (std::size_t row = column + 1; row < 4; ++row) {
+        if (std::abs(rows[row][column]) > std::abs(rows[best][column]))
+            best = row;
+    }
+    std::swap(rows[column], rows[best]);
+    return std::abs(rows[column][column]) > 0.0;
+}
+
+void eliminate(Rows& rows, std::size_t column) noexcept
+{
+    const double pivot = rows[column][column];
+    for (double& element : rows[column])
+        element /= pivot;
+    for (std::size_t row = 0; row < 4; ++row) {
+        const double factor = rows[row][column];
+        if (row == column || factor == 0.0)
+            continue;
+        for (std::size_t i = 0; i < 8; ++i)
+            rows[row][i] -= factor * rows[column][i];
+    }
+}
+
+std::array<VbVec3d, 3> rotationRows(const VbRotation& rotation) noexcept
+{
+    const std::array<float, 4> quaternion = rotation.getQuaternion();
+    const double x = wide(quaternion[0]);
+    const double y = wide(quaternion[1]);
+    const double z = wide(quaternion[2]);
+    const double w = wide(quaternion[3]);
+    return {VbVec3d(1 - 2 * (y * y + z * z), 2 * (x * y + w * z), 2 * (x * z - w * y)),
+        VbVec3d(2 * (x * y - w * z), 1 - 2 * (x * x + z * z), 2 * (y * z + w * x)),
+        VbVec3d(2 * (x * z + w * y), 2 * (y * z - w * x), 1 - 2 * (x * x + y * y))};
+}
+
+// First about the center by scale and rotation, then back and on by the translation.
+Matrix4d placementOf(const NxTransform& node) noexcept
+{
+    const auto valueOf = [](const NxSFVec3f& field, const VbVec3f& fallback) -> VbVec3d {
+        return field.isIgnored() ? fallback : field.getValue();
+    };
+    const VbVec3d center = valueOf(node.center, VbVec3f());
+    const VbVec3d scale = valueOf(node.scaleFactor, VbVec3f(1, 1, 1));
+    const std::array<VbVec3d, 3> rows
+        = rotationRows(node.rotation.isIgnored() ? VbRotation() : node.rotation.getValue());
+    Matrix4d matrix;
+    VbVec3d moved = add(center, valueOf(node.translation, VbVec3f()));
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column)
+            matrix[row][column] = scale[row] * rows[row][column];
+        moved = subtract(moved, scaled(rows[row], center[row] * scale[row]));
+    }
+    std::copy_n(moved.getValue(), 3, matrix[3].begin());
+    return matrix;
+}
+
+template <typename Matrix>
+std::array<double, 3> directionSums(const VbVec3f& direction, const Matrix& matrix) noexcept
+{
+    std::array<double, 3> sums{};
+    for (std::size_t column = 0; column < 3; ++column) {
+        for (std::size_t i = 0; i < 3; ++i)
+            sums[column] += wide(direction[i]) * static_cast<double>(matrix[i][column]);
+    }
+    return sums;
+}
+
+} // namespace
+
+VbMatrix multiply(const VbMatrix& first, const VbMatrix& second) noexcept
+{
+    VbMatrix product;
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (std::size_t column = 0; column < 4; ++column) {
+            double sum = 0.0;
+            for (std::size_t i = 0; i < 4; ++i)
+                sum += wide(first[row][i]) * wide(second[i][column]);
+            product[row][column] = static_cast<float>(sum);
+        }
+    }
+    return product;
+}
+
+std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept
+{
+    Rows rows{};
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (std::size_t column = 0; column < 4; ++column)
+            rows[row][column] = wide(matrix[row][column]);
+        rows[row][4 + row] = 1.0;
+    }
+    for (std::size_t column = 0; column < 4; ++column) {
+        if (!choosePivot(rows, column))
+            return std::nullopt;
+        eliminate(rows, column);
+    }
+    VbMatrix result;
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (std::size_t column = 0; column < 4; ++column) {
+            result[row][column] = static_cast<float>(rows[row][4 + column]);
+            if (!std::isfinite(result[row][column]))
+                return std::nullopt;
+        }
+    }
+    return result;
+}
+
+VbMatrix translationMatrix(const VbVec3f& distance) noexcept
+{
+    VbMatrix matrix;
+    for (std::size_t i = 0; i < 3; ++i)
+        matrix[3][i] = distance[i];
+    return matrix;
+}
+
+VbMatrix scaleMatrix(const VbVec3f& factors) noexcept
+{
+    VbMatrix matrix;
+    for (std::size_t i = 0; i < 3; ++i)
+        matrix[i][i] = factors[i];
+    return matrix;
+}
+
+VbMatrix rotationMatrix(const VbRotation& rotation) noexcept
+{
+    const std::array<VbVec3d, 3> rows = rotationRows(rotation);
+    VbMatrix matrix;
+    for (std::size_t row = 0; row < 3; ++row) {
+        for (std::size_t column = 0; column < 3; ++column)
+            matrix[row][column] = static_cast<float>(rows[row][column]);
+    }
+    return matrix;
+}
+
+Matrix4d translationMatrix(const VbVec3d& distance) noexcept
+{
+    Matrix4d matrix;
+    std::copy_n(distance.getValue(), 3, matrix[3].begin());
+    return matrix;
+}
+
+Matrix4d multiply(const Matrix4d& first, const Matrix4d& second) noexcept
+{
+    Matrix4d product;
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (std::size_t column = 0; column < 4; ++column) {
+            double sum = 0.0;
+            for (std::size_t i = 0; i < 4; ++i)
+                sum += first[row][i] * second[i][column];
+            product[row][column] = sum;
+        }
+    }
+    return product;
+}
+
+VbVec3d transformPoint(const VbVec3d& point, const Matrix4d& matrix) noexcept
+{
+    std::array<double, 4> sums = matrix[3];
+    for (std::size_t column = 0; column < 4; ++column) {
+        for (std::size_t i = 0; i < 3; ++i)
+            sums[column] += point[i] * matrix[i][column];
+    }
+    return {sums[0] / sums[3], sums[1] / sums[3], sums[2] / sums[3]};
+}
+
+VbMatrix narrowed(const Matrix4d& matrix) noexcept
+{
+    VbMatrix result;
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (std::size_t column = 0; column < 4; ++column)
+            result[row][column] = static_cast<float>(matrix[row][column]);
+    }
+    return result;
+}
+
+VbVec3f narrowed(const VbVec3d& vector) noexcept
+{
+    return narrow(vector[0], vector[1], vector[2]);
+}
+
+VbVec3f transformPoint(const VbVec3f& point, const VbMatrix& matrix) noexcept
+{
+    std::array<double, 4> sums{};
+    for (std::size_t column = 0; column < 4; ++column) {
+        sums[column] = wide(matrix[3][column]);
+        for (std::size_t i = 0; i < 3; ++i)
+            sums[column] += wide(point[i]) * wide(matrix[i][column]);
+    }
+    return narrow(sums[0] / sums[3], sums[1] / sums[3], sums[2] / sums[3]);
+}
+
+VbVec3f transformDirection(const VbVec3f& direction, const VbMatrix& matrix) noexcept
+{
+    const std::array<double, 3> sums = directionSums(direction, matrix);
+    return narrow(sums[0], sums[1], sums[2]);
+}
+
+VbVec3f transformDirection(const VbVec3f& direction, const Matrix4d& matrix) noexcept
+{
+    const std::array<double, 3> sums = directionSums(direction, matrix);
+    return narrow(sums[0], sums[1], sums[2]);
+}
+
+Matrix4d placementOf(const NxNode& node) noexcept
+{
+    if (const auto* transform = dynamic_cast<const NxTransform*>(&node))
+        return placementOf(*transform);
+    const auto* matrix = dynamic_cast<const NxMatrixTransform*>(&node);
+    return matrix != nullptr && !matrix->matrix.isIgnored() ? matrix->matrix.getValue() : Matrix4d();
+}
+
+VbVec3f add(const VbVec3f& left, const VbVec3f& right) noexcept
+{
+    return {left[0] + right[0], left[1] + right[1], left[2] + right[2]};
+}
+
+VbVec3f subtract(const VbVec3f& left, const VbVec3f& right) noexcept
+{
+    return {left[0] - right[0], left[1] - right[1], left[2] - right[2]};
+}
+
+VbVec3f scaled(const VbVec3f& vector, double factor) noexcept
+{
+    return narrow(wide(vector[0]) * factor, wide(vector[1]) * factor, wide(vector[2]) * factor);
+}
+
+VbVec3f cross(const VbVec3f& left, const VbVec3f& right) noexcept
+{
+    const auto part
+        = [&](std::size_t i, std::size_t j) { return wide(left[i]) * wide(right[j]) - wide(left[j]) * wide(right[i]); };
+    return narrow(part(1, 2), part(2, 0), part(0, 1));
+}
+
+double dot(const VbVec3f& left, const VbVec3f& right) noexcept
+{
+    return wide(left[0]) * wide(right[0]) + wide(left[1]) * wide(right[1]) + wide(left[2]) * wide(right[2]);
+}
+
+double length(const VbVec3f& vector) noexcept
+{
+    return std::sqrt(dot(vector, vector));
+}
+
+VbVec3f normalized(const VbVec3f& vector, const VbVec3f& otherwise) noexcept
+{
+    const double size = length(vector);
+    return size > 0.0 && std::isfinite(size) ? scaled(vector, 1.0 / size) : otherwise;
+}
+
+bool isFinite(const VbVec3f& vector) noexcept
+{
+    return std::isfinite(vector[0]) && std::isfinite(vector[1]) && std::isfinite(vector[2]);
+}
+
+VbVec3d add(const VbVec3d& left, const VbVec3d& right) noexcept
+{
+    return {left[0] + right[0], left[1] + right[1], left[2] + right[2]};
+}
+
+VbVec3d subtract(const VbVec3d& left, const VbVec3d& right) noexcept
+{
+    return {left[0] - right[0], left[1] - right[1], left[2] - right[2]};
+}
+
+VbVec3d scaled(const VbVec3d& vector, double factor) noexcept
+{
+    return {vector[0] * factor, vector[1] * factor, vector[2] * factor};
+}
+
+double dot(const VbVec3d& left, const VbVec3d& right) noexcept
+{
+    return left[0] * right[0] + left[1] * right[1] + left[2] * right[2];
+}
+
+double length(const VbVec3d& vector) noexcept
+{
+    return std::sqrt(dot(vector, vector));
+}
+
+bool isFinite(const VbVec3d& vector) noexcept
+{
+    return isFinite(narrowed(vector));
+}
+
+} // namespace meridane

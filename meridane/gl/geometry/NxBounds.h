@@ -1,0 +1,40 @@
+#pragma once
+
+#include "meridane/base/values/VbVec.h"
+
+#include <limits>
+
+/// A box along the axes of the world, in scene units. The default is empty: it holds no point.
+struct NxBounds {
+    /// By which share of themselves the numbers may be off, since they are floats.
+    static constexpr double rounding = 1.0 / (1U << 23U);
+
+    VbVec3f min{
+        std::numeric_limits<float>::max(), std::numeric_limits<float>::max(), std::numeric_limits<float>::max()};
+    VbVec3f max{std::numeric_limits<float>::lowest(), std::numeric_limits<float>::lowest(),
+        std::numeric_limits<float>::lowest()};
+
+    [[nodiscard]] bool isEmpty() const noexcept { return !(min[0] <= max[0]); }
+    [[nodiscard]] VbVec3f getCenter() const noexcept
+    {
+        return {min[0] / 2 + max[0] / 2, min[1] / 2 + max[1] / 2, min[2] / 2 + max[2] / 2};
+    }
+    [[nodiscard]] VbVec3f getSize() const noexcept { return {max[0] - min[0], max[1] - min[1], max[2] - min[2]}; }
+
+    void include(const VbVec3f& point) noexcept
+    {
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            min[axis] = point[axis] < min[axis] ? point[axis] : min[axis];
+            max[axis] = point[axis] > max[axis] ? point[axis] : max[axis];
+        }
+    }
+    void include(const NxBounds& other) noexcept
+    {
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            min[axis] = other.min[axis] < min[axis] ? other.min[axis] : min[axis];
+            max[axis] = other.max[axis] > max[axis] ? other.max[axis] : max[axis];
+        }
+    }
+
+    friend bool operator==(const NxBounds&, const NxBounds&) noexcept = default;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "meridane/gl/gpu/NxGLFunctions.h"
+
+#include <string>
+
+namespace meridane {
+
+/// A vertex and a fragment shader, linked. What OpenGL says when it can't compile them is reported as an `NxGLError`;
+/// such a program draws nothing.
+class GLProgram {
+public:
+    /// No program yet.
+    GLProgram() = default;
+    /// The sources come without the line of the version; `name` is for messages.
+    GLProgram(
+        const NxGLFunctions& gl, const char* name, const std::string& vertexSource, const std::string& fragmentSource);
+    GLProgram(const GLProgram&) = delete;
+    GLProgram(GLProgram&& other) noexcept;
+    GLProgram& operator=(const GLProgram&) = delete;
+    GLProgram& operator=(GLProgram&& other) noexcept;
+    ~GLProgram();
+
+    [[nodiscard]] bool isUsable() const noexcept { return m_name != 0; }
+    /// Whether it was tried to make the program.
+    [[nodiscard]] bool isMade() const noexcept { return m_gl != nullptr; }
+    void use() const { m_gl->UseProgram(m_name); }
+    /// The place of a uniform variable; -1, which setting ignores, for one that the program doesn't use.
+    [[nodiscard]] int uniform(const char* name) const;
+    [[nodiscard]] unsigned int name() const noexcept { return m_name; }
+    /// The context is gone.
+    void forget() noexcept;
+
+private:
+    void link(const char* name, unsigned int vertex, unsigned int fragment);
+
+    const NxGLFunctions* m_gl = nullptr;
+    unsigned int m_name = 0;
+};
+
+} // namespace meridane

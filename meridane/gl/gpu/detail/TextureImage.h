@@ -1,0 +1,31 @@
+#pragma once
+
+#include "meridane/gl/NxSceneDrawing.h"
+#include "meridane/gl/gpu/NxImage.h"
+
+class NxTexture;
+
+namespace meridane {
+
+class Problems;
+class TextureRecord;
+
+/// An image ready for the card. The bytes are those of the texture's field or of `loaded`.
+struct TextureImage {
+    int width = 0; ///< 0 for no image
+    int height = 0;
+    int components = 0;
+    const unsigned char* bytes = nullptr;
+    NxImage loaded;
+    bool isPending = false; ///< it comes later
+
+    /// Whether some pixel isn't opaque.
+    [[nodiscard]] bool isTranslucent() const;
+};
+
+/// The image of a texture's field, or else of its file, made smaller if it is wider or higher than `mostSide`. Reports
+/// what is wrong with it.
+[[nodiscard]] TextureImage imageOf(
+    TextureRecord& record, const NxSceneDrawing::ImageLoader& loader, int mostSide, Problems& problems);
+
+} // namespace meridane

@@ -1,0 +1,386 @@
+#include "meridane/gl/painting/detail/ItemPainter.h"
+
+#include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/gl/places/detail/DetailLevel.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace meridane {
+namespace {
+
+/// What a matrix makes of the axes.
+std::array<VbVec3f, 3> rowsOf(const Matrix4d& m) noexcept
+{
+    std::array<VbVec3f, 3> rows;
+    for (std::size_t row = 0; row < 3; ++row)
+        rows[row] = narrowed(VbVec3d(m[row][0], m[row][1], m[row][2]));
+    return rows;
+}
+
+/// The matrix that normals are turned by: their direction is right for any scale, and finite for matrices without an
+/// inverse.
+std::array<float, 9> normalMatrixOf(const Matrix4d& m) noexcept
+{
+    const std::array<VbVec3f, 3> rows = rowsOf(m);
+    std::array<float, 9> result{};
+    for (std::size_t row = 0; row < 3; ++row) {
+        const VbVec3f cofactors = cross(rows[(row + 1) % 3], rows[(row + 2) % 3]);
+        std::copy_n(cofactors.getValue(), 3, result.begin() + static_cast<std::ptrdiff_t>(3 * row));
+    }
+    return result;
+}
+
+bool isMirror(const Matrix4d& m) noexcept
+{
+    const std::array<VbVec3f, 3> rows = rowsOf(m);
+    return dot(cross(rows[0], rows[1]), rows[2]) < 0;
+}
+
+/// The matrix that takes points relative to `origin` to where the placement puts them, relative to the eye.
+Matrix4d relativeTo(const VbVec3d& eye, const VbVec3d& origin, const Matrix4d& placement) noexcept
+{
+    Matrix4d result = placement;
+    for (std::size_t column = 0; column < 4; ++column) {
+        for (std::size_t axis = 0; axis < 3; ++axis)
+            result[3][column] += origin[axis] * placement[axis][column];
+    }
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (std::size_t axis = 0; axis < 3; ++axis)
+            result[row][axis] -= eye[axis] * result[row][3];
+    }
+    return result;
+}
+
+GLenum primitiveOf(const MeshRecord& mesh)
+{
+    switch (mesh.shape.primitive) {
+    case NxMesh::LINES:
+        return GL_LINES;
+    case NxMesh::POINTS:
+        return GL_POINTS;
+    default:
+        return GL_TRIANGLES;
+    }
+}
+
+bool isBox(const Look& look)
+{
+    return look.complexity != nullptr && look.complexity->values.type == NxComplexity::BOUNDING_BOX;
+}
+
+float textureQuality(const Look& look)
+{
+    return look.complexity == nullptr ? ComplexityValues().textureQuality : look.complexity->values.textureQuality;
+}
+
+const MaterialValues& materialOf(const Look& look)
+{
+    static const MaterialValues usual = materialValues(nullptr);
+    return look.material == nullptr ? usual : look.material->values;
+}
+
+} // namespace
+
+ItemPainter::ItemPainter(const NxGLFunctions& gl, GLErrors& errors)
+    : m_gl(gl)
+    , m_meshes(gl, errors)
+    , m_textures(gl, errors)
+{
+}
+
+ItemPainter::~ItemPainter()
+{
+    m_gl.DeleteBuffers(1, &m_lightBuffer);
+}
+
+void ItemPainter::forget()
+{
+    m_meshes.forget();
+    m_textures.forget();
+    for (SurfaceProgram& program : m_programs) {
+        program.program.forget();
+        program = SurfaceProgram();
+    }
+    m_lightBuffer = 0;
+    m_hasLights = false;
+}
+
+void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const NxDrawingStyle& style,
+    const NxSceneDrawing::ImageLoader& loader, NxDrawingCounts& counts)
+{
+    m_frame = frame;
+    m_pointSize = style.pointSize * frame.scale;
+    if (m_lightBuffer != 0)
+        m_gl.BindBufferBase(GL_UNIFORM_BUFFER, lightsBinding, m_lightBuffer);
+    m_boxesOfAll = style.boundingBoxes;
+    m_boxColor = style.boundingBoxColor;
+    m_found.clear();
+    scene.tree().find(Frustum(frame.eyeToClip, frame.position), m_found);
+    for (const Id id : m_found) {
+        const Item& item = scene.table().item(id);
+        const Look& look = scene.looks()[item.look];
+        if (isBox(look))
+            continue;
+        m_meshes.request(*item.mesh, cellsOf(scene, id));
+        if (look.texture != nullptr)
+            m_textures.update(*look.texture, loader, scene.problems(), counts);
+    }
+    m_meshes.upload(counts);
+    m_textures.clean();
+    sort(scene, m_found);
+    counts.drawnCorners = 0;
+    counts.drawnItems = m_found.size();
+    counts.culledItems = scene.tree().count() - m_found.size();
+}
+
+void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
+{
+    constexpr unsigned int variantShift = 60;
+    constexpr unsigned int pageShift = 32;
+    m_opaque.clear();
+    m_translucent.clear();
+    m_boxes.clear();
+    for (const Id id : found) {
+        const Item& item = scene.table().item(id);
+        const Look& look = scene.looks()[item.look];
+        if (isBox(look)) {
+            m_boxes.push_back(id);
+            continue;
+        }
+        const MeshRange range = item.mesh->rangeOf(cellsOf(scene, id));
+        if (range.page == noId)
+            continue;
+        const SurfaceVariant variant = variantOf(item, look);
+        const std::uint64_t order
+            = std::uint64_t{variant.number()} << variantShift | std::uint64_t{range.page} << pageShift | item.look;
+        if (isTranslucent(item, look, variant))
+            m_translucent.push_back({id, order, depthOf(scene, item), variant, range});
+        else
+            m_opaque.push_back({id, order, 0, variant, range});
+    }
+    std::sort(m_opaque.begin(), m_opaque.end(),
+        [](const Drawn& a, const Drawn& b) { return std::tie(a.order, a.item) < std::tie(b.order, b.item); });
+    std::sort(m_translucent.begin(), m_translucent.end(), [](const Drawn& a, const Drawn& b) {
+        return std::tie(b.depth, a.order, a.item) < std::tie(a.depth, b.order, b.item);
+    });
+}
+
+std::uint32_t ItemPainter::cellsOf(PlacedScene& scene, Id id) const
+{
+    const Item& item = scene.table().item(id);
+    const ComplexityRecord* const complexity = scene.looks()[item.look].complexity;
+    return complexity == nullptr
+        ? 0
+        : detailCells(complexity->values, item.mesh->shape, scene.boundsOf(item, m_frame.position), m_frame);
+}
+
+double ItemPainter::depthOf(const PlacedScene& scene, const Item& item) const
+{
+    return m_frame.depthOf(transformPoint(item.mesh->shape.bounds.getCenter(), scene.table().placementOf(item)));
+}
+
+SurfaceVariant ItemPainter::variantOf(const Item& item, const Look& look) const
+{
+    const MeshShape& shape = item.mesh->shape;
+    SurfaceVariant variant;
+    if (shape.primitive == NxMesh::TRIANGLES)
+        variant.light = shape.hasNormals ? SurfaceVariant::Smooth : SurfaceVariant::Flat;
+    else
+        variant.light = shape.hasNormals ? SurfaceVariant::Line : SurfaceVariant::Unlit;
+    variant.isTextured
+        = shape.hasCoordinates && look.texture != nullptr && look.texture->name != 0 && textureQuality(look) > 0;
+    variant.hasColors = shape.colors != MeshShape::Colors::None;
+    return variant;
+}
+
+bool ItemPainter::isTranslucent(const Item& item, const Look& look, SurfaceVariant variant)
+{
+    constexpr std::size_t opacity = 3;
+    const bool byColor = variant.hasColors ? item.mesh->shape.isTranslucent : materialOf(look)[opacity] < 1;
+    return byColor || (variant.isTextured && look.texture->isTranslucent);
+}
+
+void ItemPainter::drawOpaque(PlacedScene& scene, NxDrawingCounts& counts)
+{
+    State state;
+    for (const Drawn& drawn : m_opaque)
+        draw(scene, drawn, state, counts);
+}
+
+void ItemPainter::drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts)
+{
+    if (m_translucent.empty())
+        return;
+    m_gl.Enable(GL_BLEND);
+    m_gl.BlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+    m_gl.DepthMask(GL_FALSE);
+    State state;
+    for (const Drawn& drawn : m_translucent) {
+        const Item& item = scene.table().item(drawn.item);
+        if (item.mesh->shape.primitive != NxMesh::TRIANGLES) {
+            draw(scene, drawn, state, counts);
+            continue;
+        }
+        // What faces away is behind what faces the eye, on every body without dents.
+        m_gl.Enable(GL_CULL_FACE);
+        m_gl.FrontFace(isMirror(scene.table().placementOf(item)) ? GL_CW : GL_CCW);
+        for (const int hidden : {GL_FRONT, GL_BACK}) {
+            m_gl.CullFace(static_cast<GLenum>(hidden));
+            draw(scene, drawn, state, counts);
+        }
+        m_gl.Disable(GL_CULL_FACE);
+    }
+    m_gl.FrontFace(GL_CCW);
+    m_gl.CullFace(GL_BACK);
+    m_gl.DepthMask(GL_TRUE);
+    m_gl.Disable(GL_BLEND);
+}
+
+void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxDrawingCounts& counts)
+{
+    const Item& item = scene.table().item(drawn.item);
+    const Look& look = scene.looks()[item.look];
+    const unsigned int number = drawn.variant.number();
+    if (state.variant != number) {
+        setVariant(drawn.variant);
+        state = State();
+        state.variant = number;
+    }
+    const SurfaceProgram& program = m_programs[number];
+    if (!program.program.isUsable())
+        return;
+    if (state.look != item.look) {
+        state.look = item.look;
+        setLook(look, drawn.variant);
+        setLights(scene, look.lights.get());
+    }
+    if (state.page != drawn.range.page) {
+        state.page = drawn.range.page;
+        m_meshes.bind(state.page);
+    }
+    if (item.mesh->shape.colors == MeshShape::Colors::One) {
+        const VbVec4f& color = item.mesh->shape.oneColor;
+        m_gl.VertexAttrib4f(static_cast<GLuint>(Attribute::Color), color[0], color[1], color[2], color[3]);
+    }
+    const Id placement = scene.table().place(item.place).placement;
+    const VbVec3f& origin = item.mesh->shape.origin;
+    if (state.placement != placement || !(state.origin == origin)) {
+        state.placement = placement;
+        state.origin = origin;
+        place(scene, item, {program.origin, program.placement});
+        if (program.normalMatrix >= 0)
+            m_gl.UniformMatrix3fv(
+                program.normalMatrix, 1, GL_FALSE, normalMatrixOf(scene.table().placementOf(item)).data());
+    }
+    issue(*item.mesh, drawn.range, counts);
+}
+
+void ItemPainter::setVariant(SurfaceVariant variant)
+{
+    SurfaceProgram& program = m_programs[variant.number()];
+    if (!program.program.isMade())
+        program = makeSurfaceProgram(m_gl, variant);
+    if (!program.program.isUsable())
+        return;
+    program.program.use();
+    m_gl.UniformMatrix4fv(program.eyeToClip, 1, GL_FALSE, m_frame.eyeToClip[0].data());
+    m_gl.Uniform4fv(program.eye, 1, m_frame.eye.data());
+    m_gl.Uniform1f(program.pointSize, m_pointSize);
+}
+
+void ItemPainter::setLook(const Look& look, SurfaceVariant variant)
+{
+    m_gl.Uniform4fv(m_programs[variant.number()].material, 4, materialOf(look).data());
+    if (variant.isTextured)
+        m_textures.bind(*look.texture, textureQuality(look));
+}
+
+void ItemPainter::setLights(const PlacedScene& scene, const LightList* lights)
+{
+    if (m_hasLights && m_lights == lights && m_lighting == scene.lighting() && m_lightingEye == m_frame.position)
+        return;
+    m_hasLights = true;
+    m_lights = lights;
+    m_lighting = scene.lighting();
+    m_lightingEye = m_frame.position;
+    std::array<LightValues, LightList::most> values;
+    std::size_t count = 0;
+    for (const LightList* list = lights; list != nullptr; list = list->above())
+        values[count++]
+            = lightValues(list->light().light(), scene.table().placements[list->placement()], m_frame.position);
+    if (lights == nullptr)
+        values[count++] = cameraLightValues();
+    constexpr std::size_t headBytes = 4 * sizeof(float);
+    const std::array<float, 4> head{static_cast<float>(count), 0, 0, 0};
+    if (m_lightBuffer == 0)
+        m_gl.GenBuffers(1, &m_lightBuffer);
+    m_gl.BindBufferBase(GL_UNIFORM_BUFFER, lightsBinding, m_lightBuffer);
+    m_gl.BufferData(GL_UNIFORM_BUFFER, static_cast<GLsizeiptr>(headBytes + sizeof(values)), nullptr, GL_DYNAMIC_DRAW);
+    m_gl.BufferSubData(GL_UNIFORM_BUFFER, 0, headBytes, head.data());
+    m_gl.BufferSubData(
+        GL_UNIFORM_BUFFER, headBytes, static_cast<GLsizeiptr>(count * sizeof(LightValues)), values.data());
+}
+
+void ItemPainter::place(const PlacedScene& scene, const Item& item, const PlacementUniforms& uniforms) const
+{
+    const VbVec3f& origin = item.mesh->shape.origin;
+    const VbMatrix placement = narrowed(relativeTo(m_frame.position, origin, scene.table().placementOf(item)));
+    m_gl.Uniform3fv(uniforms.origin, 1, origin.getValue());
+    m_gl.UniformMatrix4fv(uniforms.placement, 1, GL_FALSE, placement[0].data());
+}
+
+void ItemPainter::issue(const MeshRecord& mesh, const MeshRange& range, NxDrawingCounts& counts) const
+{
+    const GLenum primitive = primitiveOf(mesh);
+    counts.drawnCorners += range.indexCount != 0 ? range.indexCount : range.vertexCount;
+    if (range.indexCount != 0) {
+        const auto* const start = reinterpret_cast<const void*>(range.firstIndex * sizeof(std::uint32_t));
+        m_gl.DrawElementsBaseVertex(primitive, static_cast<GLsizei>(range.indexCount), GL_UNSIGNED_INT, start,
+            static_cast<GLint>(range.firstVertex));
+    } else if (!mesh.shape.hasIndices) {
+        m_gl.DrawArrays(primitive, static_cast<GLint>(range.firstVertex), static_cast<GLsizei>(range.vertexCount));
+    }
+    ++counts.drawCalls;
+}
+
+void ItemPainter::addBoxes(PlacedScene& scene, LinePainter& lines) const
+{
+    for (const Id id : m_boxes) {
+        const Item& item = scene.table().item(id);
+        const MaterialValues& material = materialOf(scene.looks()[item.look]);
+        lines.addBox(item.mesh->shape.bounds, relativeTo(m_frame.position, VbVec3d(), scene.table().placementOf(item)),
+            VbColorRGBA(material[0], material[1], material[2], 1));
+    }
+    if (!m_boxesOfAll)
+        return;
+    for (const Id id : m_found)
+        lines.addBox(scene.boundsOf(scene.table().item(id), m_frame.position), Matrix4d(),
+            VbColorRGBA(m_boxColor[0], m_boxColor[1], m_boxColor[2], 1));
+}
+
+void ItemPainter::drawShapes(
+    PlacedScene& scene, std::span<const Id> items, const PlacementUniforms& uniforms, NxDrawingCounts& counts)
+{
+    Id page = noId;
+    for (const Id id : items) {
+        const Item& item = scene.table().item(id);
+        const MeshRange range = item.mesh->rangeOf(cellsOf(scene, id));
+        if (range.page == noId)
+            continue;
+        if (page != range.page) {
+            page = range.page;
+            m_meshes.bind(page);
+        }
+        place(scene, item, uniforms);
+        issue(*item.mesh, range, counts);
+    }
+}
+
+std::size_t ItemPainter::bytes() const noexcept
+{
+    return (m_opaque.capacity() + m_translucent.capacity()) * sizeof(Drawn)
+        + (m_boxes.capacity() + m_found.capacity()) * sizeof(Id);
+}
+
+} // namespace meridane

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "meridane/gl/geometry/detail/Frustum.h"
+#include "meridane/gl/geometry/detail/PictureFrame.h"
+#include "meridane/gl/gpu/detail/MeshStore.h"
+#include "meridane/gl/gpu/detail/SurfaceShaders.h"
+#include "meridane/gl/gpu/detail/TextureStore.h"
+#include "meridane/gl/painting/NxDrawingStyle.h"
+#include "meridane/gl/painting/detail/LinePainter.h"
+#include "meridane/gl/places/detail/PlacedScene.h"
+
+#include <array>
+#include <vector>
+
+namespace meridane {
+
+/// Draws the meshes of a scene that are in view: first what is opaque, in an order with few changes of state, then what
+/// isn't, from back to front.
+class ItemPainter {
+public:
+    ItemPainter(const NxGLFunctions& gl, GLErrors& errors);
+    ItemPainter(const ItemPainter&) = delete;
+    ItemPainter& operator=(const ItemPainter&) = delete;
+    /// The context must be current, or `forget` have been called.
+    ~ItemPainter();
+
+    /// Finds what is in view, and uploads what the card doesn't have of it.
+    void prepare(PlacedScene& scene, const PictureFrame& frame, const NxDrawingStyle& style,
+        const NxSceneDrawing::ImageLoader& loader, NxDrawingCounts& counts);
+    void drawOpaque(PlacedScene& scene, NxDrawingCounts& counts);
+    void drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts);
+    /// The boxes of what is drawn as a box, and all boxes if the style says so.
+    void addBoxes(PlacedScene& scene, LinePainter& lines) const;
+    /// The variables of a program that place a mesh: see `SurfaceProgram`.
+    struct PlacementUniforms {
+        int origin;
+        int placement;
+    };
+    /// Draws the shapes of some items, whether in view or not, with the program in use.
+    void drawShapes(
+        PlacedScene& scene, std::span<const Id> items, const PlacementUniforms& uniforms, NxDrawingCounts& counts);
+
+    [[nodiscard]] MeshStore& meshes() noexcept { return m_meshes; }
+    [[nodiscard]] TextureStore& textures() noexcept { return m_textures; }
+    [[nodiscard]] std::size_t bytes() const noexcept;
+    /// The context is gone.
+    void forget();
+
+private:
+    /// A mesh in view.
+    struct Drawn {
+        Id item;
+        std::uint64_t order; ///< equal numbers need no change of state between them
+        double depth;
+        SurfaceVariant variant;
+        MeshRange range;
+    };
+    /// What the context is set to while items are drawn one after the other.
+    struct State {
+        unsigned int variant = SurfaceVariant::count;
+        Id page = noId;
+        Id look = noId;
+        Id placement = noId;
+        VbVec3f origin;
+    };
+
+    void sort(PlacedScene& scene, const std::vector<Id>& found);
+    [[nodiscard]] std::uint32_t cellsOf(PlacedScene& scene, Id id) const;
+    [[nodiscard]] double depthOf(const PlacedScene& scene, const Item& item) const;
+    [[nodiscard]] SurfaceVariant variantOf(const Item& item, const Look& look) const;
+    [[nodiscard]] static bool isTranslucent(const Item& item, const Look& look, SurfaceVariant variant);
+    void draw(PlacedScene& scene, const Drawn& drawn, State& state, NxDrawingCounts& counts);
+    void setVariant(SurfaceVariant variant);
+    void setLook(const Look& look, SurfaceVariant variant);
+    void setLights(const PlacedScene& scene, const LightList* lights);
+    void place(const PlacedScene& scene, const Item& item, const PlacementUniforms& uniforms) const;
+    void issue(const MeshRecord& mesh, const MeshRange& range, NxDrawingCounts& counts) const;
+
+    const NxGLFunctions& m_gl;
+    MeshStore m_meshes;
+    TextureStore m_textures;
+    std::array<SurfaceProgram, SurfaceVariant::count> m_programs;
+    unsigned int m_lightBuffer = 0;
+    /// What is in that buffer.
+    const LightList* m_lights = nullptr;
+    std::uint64_t m_lighting = 0;
+    VbVec3d m_lightingEye;
+    bool m_hasLights = false;
+
+    PictureFrame m_frame;
+    float m_pointSize = 1;
+    bool m_boxesOfAll = false;
+    VbColor m_boxColor;
+    std::vector<Drawn> m_opaque;
+    std::vector<Drawn> m_translucent;
+    std::vector<Id> m_boxes;
+    std::vector<Id> m_found;
+};
+
+} // namespace meridane

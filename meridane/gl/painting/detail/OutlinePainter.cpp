@@ -1,0 +1,201 @@
+#include "meridane/gl/painting/detail/OutlinePainter.h"
+
+#include "meridane/base/errors/NxGLError.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace meridane {
+namespace {
+
+constexpr const char* shapeVertexSource = R"(
+layout(location = 0) in vec3 position;
+uniform vec3 origin;
+uniform mat4 placement;
+uniform mat4 eyeToClip;
+uniform float pointSize;
+void main()
+{
+    gl_Position = eyeToClip * (placement * vec4(position - origin, 1.0));
+    gl_PointSize = pointSize;
+}
+)";
+
+constexpr const char* shapeFragmentSource = R"(
+out vec4 mask;
+void main()
+{
+    mask = vec4(1.0);
+}
+)";
+
+// Asks around each pixel outside the shapes whether they are near.
+constexpr const char* borderFragmentSource = R"(
+uniform sampler2D mask;
+uniform vec3 color;
+uniform float width;
+out vec4 pictureColor;
+void main()
+{
+    ivec2 place = ivec2(gl_FragCoord.xy);
+    if (texelFetch(mask, place, 0).r > 0.5)
+        discard;
+    ivec2 last = textureSize(mask, 0) - 1;
+    float sum = 0.0;
+    for (int ring = 1; ring <= 2; ++ring) {
+        for (int i = 0; i < 8; ++i) {
+            float angle = 0.78539816 * float(i);
+            vec2 way = vec2(cos(angle), sin(angle)) * width * float(ring) * 0.5;
+            sum += texelFetch(mask, clamp(place + ivec2(round(way)), ivec2(0), last), 0).r;
+        }
+    }
+    if (sum < 0.5)
+        discard;
+    pictureColor = vec4(color, min(sum * 0.5, 1.0));
+}
+)";
+
+struct Rectangle {
+    int left, bottom, width, height;
+};
+
+/// The part of the picture that some items lie in, with a margin.
+Rectangle rectangleOf(PlacedScene& scene, std::span<const Id> items, const PictureFrame& frame, int margin)
+{
+    NxBounds bounds;
+    for (const Id id : items)
+        bounds.include(scene.tree().boundsOf(id));
+    std::array<double, 2> least{1, 1};
+    std::array<double, 2> greatest{-1, -1};
+    for (unsigned int corner = 0; corner < 8; ++corner) {
+        std::array<double, 4> clip{};
+        for (std::size_t column = 0; column < 4; ++column) {
+            clip[column] = static_cast<double>(frame.eyeToClip[3][column]);
+            for (std::size_t axis = 0; axis < 3; ++axis) {
+                const auto place
+                    = static_cast<double>((corner >> axis & 1U) != 0 ? bounds.max[axis] : bounds.min[axis]);
+                const double rounding = NxBounds::rounding * std::abs(place) * ((corner >> axis & 1U) != 0 ? 1 : -1);
+                clip[column]
+                    += (place + rounding - frame.position[axis]) * static_cast<double>(frame.eyeToClip[axis][column]);
+            }
+        }
+        if (!(clip[3] > 0)) // beside or behind the eye
+            return {0, 0, frame.width, frame.height};
+        for (std::size_t axis = 0; axis < 2; ++axis) {
+            least[axis] = std::min(least[axis], clip[axis] / clip[3]);
+            greatest[axis] = std::max(greatest[axis], clip[axis] / clip[3]);
+        }
+    }
+    const auto pixel = [](double place, int size, int shift) {
+        return std::clamp(static_cast<int>((std::clamp(place, -1.0, 1.0) + 1) / 2 * size) + shift, 0, size);
+    };
+    const int left = pixel(least[0], frame.width, -margin);
+    const int bottom = pixel(least[1], frame.height, -margin);
+    return {left, bottom, pixel(greatest[0], frame.width, margin) - left,
+        pixel(greatest[1], frame.height, margin) - bottom};
+}
+
+} // namespace
+
+OutlinePainter::OutlinePainter(const NxGLFunctions& gl)
+    : m_gl(gl)
+    , m_border(gl, "outlines", borderFragmentSource)
+{
+}
+
+OutlinePainter::~OutlinePainter()
+{
+    deleteMask();
+}
+
+void OutlinePainter::deleteMask()
+{
+    m_gl.DeleteFramebuffers(1, &m_framebuffer);
+    m_gl.DeleteTextures(1, &m_mask);
+}
+
+void OutlinePainter::forget()
+{
+    m_border.forget();
+    m_shapes.forget();
+    m_framebuffer = 0;
+    m_mask = 0;
+    m_width = 0;
+}
+
+bool OutlinePainter::prepareMask(int width, int height)
+{
+    if (m_width == width && m_height == height)
+        return m_framebuffer != 0;
+    deleteMask();
+    m_width = width;
+    m_height = height;
+    m_gl.GenTextures(1, &m_mask);
+    m_gl.BindTexture(GL_TEXTURE_2D, m_mask);
+    m_gl.TexImage2D(GL_TEXTURE_2D, 0, GL_R8, width, height, 0, GL_RED, GL_UNSIGNED_BYTE, nullptr);
+    m_gl.TexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    m_gl.TexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    m_gl.GenFramebuffers(1, &m_framebuffer);
+    m_gl.BindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
+    m_gl.FramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, m_mask, 0);
+    if (m_gl.CheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE)
+        return true;
+    NxGLError::post(GL_INVALID_FRAMEBUFFER_OPERATION, VbString("Making an image for outlines"));
+    deleteMask();
+    m_framebuffer = 0;
+    m_mask = 0;
+    return false;
+}
+
+void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPainter& painter,
+    const PictureFrame& frame, const NxDrawingStyle& style, NxDrawingCounts& counts)
+{
+    if (items.empty())
+        return;
+    if (!m_shapes.isMade()) {
+        m_shapes = GLProgram(m_gl, "shapes", shapeVertexSource, shapeFragmentSource);
+        if (m_shapes.isUsable()) {
+            m_origin = m_shapes.uniform("origin");
+            m_placement = m_shapes.uniform("placement");
+            m_eyeToClip = m_shapes.uniform("eyeToClip");
+            m_pointSize = m_shapes.uniform("pointSize");
+        }
+    }
+    int picture = 0;
+    m_gl.GetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &picture);
+    if (!m_shapes.isUsable() || !prepareMask(frame.width, frame.height)) {
+        m_gl.BindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(picture));
+        return;
+    }
+    const float width = std::max(style.outlineWidth * frame.scale, 1.0F);
+    const Rectangle part = rectangleOf(scene, items, frame, static_cast<int>(std::ceil(width)) + 2);
+
+    m_gl.Disable(GL_DEPTH_TEST);
+    m_gl.BindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
+    // All of it: at the edge of the part, pixels beyond it are asked too.
+    m_gl.ClearColor(0, 0, 0, 0);
+    m_gl.Clear(GL_COLOR_BUFFER_BIT);
+    m_gl.Enable(GL_SCISSOR_TEST);
+    m_gl.Scissor(part.left, part.bottom, part.width, part.height);
+    m_shapes.use();
+    m_gl.UniformMatrix4fv(m_eyeToClip, 1, GL_FALSE, frame.eyeToClip[0].data());
+    m_gl.Uniform1f(m_pointSize, style.pointSize * frame.scale);
+    painter.drawShapes(scene, items, {m_origin, m_placement}, counts);
+
+    m_gl.BindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(picture));
+    if (m_border.use()) {
+        m_gl.Enable(GL_BLEND);
+        m_gl.BlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
+        m_gl.BindTexture(GL_TEXTURE_2D, m_mask);
+        m_gl.BindSampler(0, 0);
+        m_gl.Uniform3fv(m_border.uniform("color"), 1, style.outlineColor.getValue());
+        m_gl.Uniform1f(m_border.uniform("width"), width);
+        m_border.draw();
+        ++counts.drawCalls;
+        m_gl.Disable(GL_BLEND);
+    }
+    m_gl.Disable(GL_SCISSOR_TEST);
+    m_gl.Enable(GL_DEPTH_TEST);
+}
+
+} // namespace meridane

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "meridane/gl/painting/detail/ItemPainter.h"
+#include "meridane/gl/painting/detail/ScreenPass.h"
+
+#include <span>
+
+namespace meridane {
+
+/// Draws a line around some items, also where they are hidden: their shapes go to an image of their own, whose border
+/// goes to the picture.
+class OutlinePainter {
+public:
+    explicit OutlinePainter(const NxGLFunctions& gl);
+    OutlinePainter(const OutlinePainter&) = delete;
+    OutlinePainter& operator=(const OutlinePainter&) = delete;
+    /// The context must be current, or `forget` have been called.
+    ~OutlinePainter();
+
+    void draw(PlacedScene& scene, std::span<const Id> items, ItemPainter& painter, const PictureFrame& frame,
+        const NxDrawingStyle& style, NxDrawingCounts& counts);
+    void forget();
+
+private:
+    bool prepareMask(int width, int height);
+    void deleteMask();
+
+    const NxGLFunctions& m_gl;
+    ScreenPass m_border;
+    GLProgram m_shapes;
+    int m_origin = -1;
+    int m_placement = -1;
+    int m_eyeToClip = -1;
+    int m_pointSize = -1;
+    unsigned int m_framebuffer = 0;
+    unsigned int m_mask = 0;
+    int m_width = 0;
+    int m_height = 0;
+};
+
+} // namespace meridane

@@ -1,0 +1,49 @@
+#include "meridane/gl/places/detail/DetailLevel.h"
+
+#include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/gl/geometry/detail/PictureFrame.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace meridane {
+namespace {
+
+constexpr std::uint32_t leastCells = 4;
+constexpr std::uint32_t mostCells = 1024;
+/// Smaller meshes aren't worth it.
+constexpr std::uint32_t leastVertices = 64;
+
+float pixelsOf(const NxBounds& bounds, const PictureFrame& frame)
+{
+    const VbVec3f size = bounds.getSize();
+    const float longest = std::max({size[0], size[1], size[2]});
+    if (!(frame.eye[3] > 0)) // the same size at any distance
+        return longest * frame.pixelsPerUnit;
+    const auto distance = static_cast<float>(length(bounds.getCenter())) - longest;
+    return distance > 0 ? longest * frame.pixelsPerUnit / distance : static_cast<float>(mostCells);
+}
+
+float cellsFor(const ComplexityValues& complexity, const NxBounds& bounds, const PictureFrame& frame)
+{
+    constexpr float full = 0.5F;
+    if (complexity.type == NxComplexity::SCREEN_SPACE)
+        return pixelsOf(bounds, frame) * complexity.value;
+    return complexity.value >= full ? static_cast<float>(mostCells)
+                                    : static_cast<float>(leastCells) + complexity.value / full * 124;
+}
+
+} // namespace
+
+std::uint32_t detailCells(
+    const ComplexityValues& complexity, const MeshShape& shape, const NxBounds& bounds, const PictureFrame& frame)
+{
+    const float wanted = cellsFor(complexity, bounds, frame);
+    if (shape.vertexCount < leastVertices || !(wanted < static_cast<float>(mostCells)))
+        return 0;
+    const std::uint32_t cells = std::bit_floor(std::max(static_cast<std::uint32_t>(wanted), leastCells));
+    // A surface takes about that many cells.
+    return 2 * cells * cells < shape.vertexCount ? cells : 0;
+}
+
+} // namespace meridane

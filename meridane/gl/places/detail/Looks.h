@@ -1,0 +1,57 @@
+#pragma once
+
+#include "meridane/gl/places/detail/Lights.h"
+#include "meridane/gl/places/detail/LookRecords.h"
+#include "meridane/gl/places/detail/SlotTable.h"
+
+#include <map>
+#include <memory>
+#include <tuple>
+
+namespace meridane {
+
+/// What precedes a mesh in its group and further up; null for nothing of the kind.
+struct Look {
+    MaterialRecord* material = nullptr;
+    TextureRecord* texture = nullptr;
+    ComplexityRecord* complexity = nullptr;
+    std::shared_ptr<const LightList> lights;
+
+    friend bool operator==(const Look&, const Look&) noexcept = default;
+    friend bool operator<(const Look& a, const Look& b) noexcept
+    {
+        return std::tie(a.material, a.texture, a.complexity, a.lights)
+            < std::tie(b.material, b.texture, b.complexity, b.lights);
+    }
+};
+
+/// All looks of a scene, each once: things that look the same are drawn together.
+class Looks {
+public:
+    explicit Looks(NodeRecords& records)
+        : m_records(records)
+    {
+    }
+    Looks(const Looks&) = delete;
+    Looks& operator=(const Looks&) = delete;
+    ~Looks() = default;
+
+    /// The number of that look, which counts as used once more.
+    Id use(const Look& look);
+    void useAgain(Id id) noexcept { ++m_slots[id].uses; }
+    void release(Id id);
+    [[nodiscard]] const Look& operator[](Id id) const noexcept { return m_slots[id].look; }
+    [[nodiscard]] std::size_t bytes() const noexcept;
+
+private:
+    struct Slot {
+        Look look;
+        std::uint32_t uses = 0;
+    };
+
+    NodeRecords& m_records;
+    SlotTable<Slot> m_slots;
+    std::map<Look, Id> m_ids;
+};
+
+} // namespace meridane

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "meridane/base/values/VbVec.h"
+#include "meridane/gl/geometry/NxBounds.h"
+
+#include <cstdint>
+#include <vector>
+
+class NxMesh;
+
+namespace meridane {
+
+class NodeRecord;
+class Problems;
+
+/// What a mesh has that can be drawn.
+struct MeshShape {
+    enum class Colors : std::uint8_t { None, One, Each };
+
+    /// Around all finite positions, in the units of the mesh.
+    NxBounds bounds;
+    /// What positions are told relative to while they are placed: not zero for a mesh far from its own origin, where
+    /// floats are too coarse to place it. Differences from it are exact.
+    VbVec3f origin;
+    std::uint32_t vertexCount = 0;
+    /// One of NxMesh::Primitive.
+    std::uint8_t primitive = 0;
+    Colors colors = Colors::None;
+    bool hasNormals = false;
+    bool hasCoordinates = false;
+    bool hasIndices = false;
+    /// Some indices or positions are useless, so that the primitives with them must be left out.
+    bool needsFilter = false;
+    /// The colour of a mesh with one for all.
+    VbVec4f oneColor;
+    /// Some colour isn't opaque.
+    bool isTranslucent = false;
+
+    friend bool operator==(const MeshShape&, const MeshShape&) noexcept = default;
+};
+
+/// Looks a mesh through and reports what is wrong with it.
+[[nodiscard]] MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems);
+
+/// The indices of all whole primitives whose positions exist and are finite.
+[[nodiscard]] std::vector<std::uint32_t> usableIndices(const NxMesh& mesh);
+/// The number of indices of a primitive.
+[[nodiscard]] std::size_t cornersOf(int primitive);
+
+} // namespace meridane

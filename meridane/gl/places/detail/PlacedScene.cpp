@@ -1,0 +1,310 @@
+#include "meridane/gl/places/detail/PlacedScene.h"
+
+#include "meridane/gl/geometry/MatrixMath.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace meridane {
+PlacedScene::PlacedScene(Listener listener, std::size_t mostPlaces)
+    : m_listener(std::move(listener))
+    , m_mostPlaces(mostPlaces)
+{
+    setRoot(nullptr);
+}
+
+PlacedScene::~PlacedScene()
+{
+    setRoot(nullptr);
+    empty(topPlace);
+    m_looks.release(m_table.place(topPlace).look);
+    bury();
+}
+
+void PlacedScene::setRoot(NxNode* root)
+{
+    if (m_root) {
+        m_tree.clear();
+        empty(topPlace);
+    }
+    m_problems.forget();
+    m_isCut = false;
+    m_isCutTold = false;
+    m_root = root;
+    if (m_table.count() == 0) {
+        Place top;
+        top.placement = m_table.placements.add(Matrix4d());
+        top.look = m_looks.use(Look());
+        m_table.addPlace(top);
+    }
+    if (m_root)
+        fill(topPlace);
+    followPending(); // nodes of the former scene that are in this one as well
+    bury();
+}
+
+void PlacedScene::nodeTouched(NodeRecord& record)
+{
+    m_pending.push_back(&record);
+    record.isPending = true;
+}
+
+void PlacedScene::nodeChanged(NodeRecord& /*record*/)
+{
+    m_listener.changed();
+}
+
+void PlacedScene::nodeDied(NodeRecord& record)
+{
+    m_records.forgetNode(record);
+}
+
+void PlacedScene::update()
+{
+    if (m_pending.empty())
+        return;
+    followPending();
+    fillFreeRoom();
+    bury();
+}
+
+void PlacedScene::followPending()
+{
+    const std::vector<NodeRecord*> pending = std::exchange(m_pending, {});
+    for (NodeRecord* record : pending)
+        record->isPending = false;
+    const auto isNeeded = [](const NodeRecord& record) { return record.node() != nullptr && record.uses > 0; };
+    // Children first: what groups let go needn't be followed any more, and may be dead.
+    for (NodeRecord* record : pending) {
+        if (record->kind() == NodeKind::Group && isNeeded(*record))
+            followChildren(static_cast<GroupRecord&>(*record));
+    }
+    for (NodeRecord* record : pending) {
+        if (isNeeded(*record))
+            follow(*record);
+    }
+}
+
+void PlacedScene::follow(NodeRecord& record)
+{
+    switch (record.kind()) {
+    case NodeKind::Group:
+        followTransform(static_cast<GroupRecord&>(record));
+        break;
+    case NodeKind::Mesh:
+        followMesh(static_cast<MeshRecord&>(record));
+        break;
+    case NodeKind::Material:
+        static_cast<MaterialRecord&>(record).update();
+        break;
+    case NodeKind::Complexity:
+        static_cast<ComplexityRecord&>(record).update();
+        break;
+    case NodeKind::Texture:
+        static_cast<TextureRecord&>(record).isStale = true;
+        break;
+    case NodeKind::Light:
+        ++m_lighting;
+        break;
+    case NodeKind::Other:
+        break;
+    }
+}
+
+void PlacedScene::followChildren(GroupRecord& group)
+{
+    if (!group.noteChildren())
+        return;
+    for (Id id = group.firstPlace; id != noId; id = m_table.place(id).nextOfGroup)
+        refill(id);
+}
+
+void PlacedScene::followTransform(GroupRecord& group)
+{
+    if (!group.isTransform())
+        return;
+    for (Id id = group.firstPlace; id != noId; id = m_table.place(id).nextOfGroup)
+        move(id);
+}
+
+void PlacedScene::followMesh(MeshRecord& mesh)
+{
+    const NxBounds before = mesh.shape.bounds;
+    inspectMesh(mesh);
+    if (mesh.shape.bounds == before)
+        return;
+    for (Id id = mesh.firstItem; id != noId; id = m_table.item(id).nextOfMesh)
+        m_tree.set(id, boundsOf(m_table.item(id)));
+}
+
+void PlacedScene::inspectMesh(MeshRecord& mesh)
+{
+    mesh.shape = inspect(*mesh.mesh(), mesh, m_problems);
+    mesh.isInspected = true;
+    mesh.isStale = true;
+    mesh.areLevelsStale = true;
+}
+
+Matrix4d PlacedScene::placementIn(GroupRecord& group, const Matrix4d& parent)
+{
+    const Matrix4d own = placementOf(group.group());
+    m_problems.note(group, Problem::Transform, !inverse(narrowed(own)).has_value(),
+        [] { return "its matrix can't be inverted; what it places is flat or can't be drawn"; });
+    return multiply(own, parent);
+}
+
+// The places below a transform that has another matrix.
+void PlacedScene::move(Id top)
+{
+    std::vector<Id> waiting{top};
+    while (!waiting.empty()) {
+        ++m_steps;
+        const Place& place = m_table.place(waiting.back());
+        waiting.pop_back();
+        if (place.group->isTransform()) {
+            const Id above = m_table.place(place.parent).placement;
+            const Matrix4d matrix = placementIn(*place.group, m_table.placements[above]);
+            if (matrix == m_table.placements[place.placement])
+                continue;
+            m_table.placements[place.placement] = matrix;
+            ++m_lighting;
+        }
+        for (Id id = place.firstItem; id != noId; id = m_table.item(id).nextInPlace)
+            m_tree.set(id, boundsOf(m_table.item(id)));
+        for (Id id = place.firstChild; id != noId; id = m_table.place(id).nextSibling)
+            waiting.push_back(id);
+    }
+}
+
+NxBounds PlacedScene::boundsOf(const Item& item, const VbVec3d& from) const
+{
+    const NxBounds& own = item.mesh->shape.bounds;
+    NxBounds bounds;
+    if (own.isEmpty())
+        return bounds;
+    const Matrix4d& placement = m_table.placementOf(item);
+    for (unsigned int corner = 0; corner < 8; ++corner) {
+        const VbVec3f point((corner & 1U) != 0 ? own.max[0] : own.min[0], (corner & 2U) != 0 ? own.max[1] : own.min[1],
+            (corner & 4U) != 0 ? own.max[2] : own.min[2]);
+        const VbVec3f place = narrowed(subtract(transformPoint(point, placement), from));
+        if (!isFinite(place))
+            return {};
+        bounds.include(place);
+    }
+    return bounds;
+}
+
+void PlacedScene::empty(Id top)
+{
+    ++m_structure;
+    std::vector<Id> waiting{top};
+    while (!waiting.empty()) {
+        const Id id = waiting.back();
+        waiting.pop_back();
+        for (Id item = m_table.place(id).firstItem; item != noId;) {
+            const Id next = m_table.item(item).nextInPlace;
+            removeItem(item);
+            item = next;
+        }
+        for (Id child = m_table.place(id).firstChild; child != noId; child = m_table.place(child).nextSibling)
+            waiting.push_back(child);
+        Place& place = m_table.place(id);
+        place.firstItem = noId;
+        place.firstChild = noId;
+        if (id != top)
+            removePlace(id);
+    }
+}
+
+void PlacedScene::removePlace(Id id)
+{
+    const Place place = m_table.place(id);
+    m_looks.release(place.look);
+    if (place.group->isTransform())
+        m_table.placements.remove(place.placement);
+    m_table.removePlace(id);
+    m_records.release(*place.group);
+}
+
+void PlacedScene::removeItem(Id id)
+{
+    const Item item = m_table.item(id);
+    m_tree.remove(id);
+    m_table.removeItem(id);
+    m_looks.release(item.look);
+    m_records.release(*item.mesh);
+}
+
+std::vector<Id> PlacedScene::itemsBelow(const NxNode* node) const
+{
+    std::vector<Id> items;
+    const NodeRecord* const record = m_records.find(node);
+    if (record == nullptr)
+        return items;
+    if (record->kind() == NodeKind::Group) {
+        const Id first = static_cast<const GroupRecord*>(record)->firstPlace;
+        for (Id id = first; id != noId; id = m_table.place(id).nextOfGroup)
+            collect(id, items);
+    } else if (record->kind() == NodeKind::Mesh) {
+        const Id first = static_cast<const MeshRecord*>(record)->firstItem;
+        for (Id id = first; id != noId; id = m_table.item(id).nextOfMesh)
+            items.push_back(id);
+    }
+    return items;
+}
+
+std::vector<Id> PlacedScene::itemsBelow(std::span<const NxNode* const> path) const
+{
+    std::vector<Id> items;
+    Id place = m_table.place(topPlace).firstChild;
+    for (std::size_t step = 0; step < path.size() && place != noId; ++step) {
+        if (step + 1 == path.size()) {
+            for (Id id = m_table.place(place).firstItem; id != noId; id = m_table.item(id).nextInPlace) {
+                if (m_table.item(id).mesh->node() == path[step])
+                    items.push_back(id);
+            }
+        }
+        place = m_table.place(place).firstChild;
+        while (place != noId && m_table.place(place).group->node() != path[step])
+            place = m_table.place(place).nextSibling;
+    }
+    if (place != noId && items.empty())
+        collect(place, items);
+    return items;
+}
+
+void PlacedScene::collect(Id top, std::vector<Id>& items) const
+{
+    std::vector<Id> waiting{top};
+    while (!waiting.empty()) {
+        const Place& place = m_table.place(waiting.back());
+        waiting.pop_back();
+        for (Id id = place.firstItem; id != noId; id = m_table.item(id).nextInPlace)
+            items.push_back(id);
+        for (Id id = place.firstChild; id != noId; id = m_table.place(id).nextSibling)
+            waiting.push_back(id);
+    }
+}
+
+void PlacedScene::bury()
+{
+    if (m_lightLists.size() > m_lightListsToSweep) {
+        std::erase_if(m_lightLists, [](const auto& entry) { return entry.second.expired(); });
+        m_lightListsToSweep = 2 * m_lightLists.size() + LightList::most;
+    }
+    m_records.bury([this](NodeRecord& record) {
+        if (record.isPending) // changed by whoever was told of a problem
+            std::erase(m_pending, &record);
+        if (record.kind() == NodeKind::Mesh)
+            m_listener.meshIsGoing(static_cast<MeshRecord&>(record));
+        else if (record.kind() == NodeKind::Texture)
+            m_listener.textureIsGoing(static_cast<TextureRecord&>(record));
+    });
+}
+
+std::size_t PlacedScene::bytes() const noexcept
+{
+    return m_table.bytes() + m_tree.bytes() + m_looks.bytes() + m_records.bytes();
+}
+
+} // namespace meridane

@@ -1,0 +1,248 @@
+// How a scene becomes places: walks the nodes in order, with what precedes each of them in mind.
+
+#include "meridane/base/errors/NxDebugError.h"
+#include "meridane/gl/places/detail/KeptPlaces.h"
+#include "meridane/gl/places/detail/PlacedScene.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace meridane {
+
+/// A group on the way from the top down to where the walk is.
+struct PlacedScene::Filling {
+    Id place = noId;
+    std::span<NxNode* const> children;
+    std::size_t next = 0;
+    NxMaterial* material = nullptr;
+    NxTexture* texture = nullptr;
+    NxComplexity* complexity = nullptr;
+    std::shared_ptr<const LightList> lights;
+    /// What may be taken again instead of being made anew.
+    KeptPlaces* kept = nullptr;
+    /// The look that follows from these, which counts as used by the walk; none until it is needed.
+    Id look = noId;
+};
+
+// Groups and meshes that still stand there, and look as they did, are left as they are with all that is below them.
+void PlacedScene::refill(Id top)
+{
+    ++m_structure;
+    bool makesRoom = true;
+    for (bool isCut = true; isCut && makesRoom;) { // what is taken out may leave room for what was left out
+        KeptPlaces kept(m_table, top);
+        isCut = !fill(top, &kept);
+        makesRoom = false;
+        for (Id id = kept.takeAnyPlace(); id != noId; id = kept.takeAnyPlace()) {
+            empty(id);
+            removePlace(id);
+            makesRoom = true;
+        }
+        for (Id id = kept.takeAnyItem(); id != noId; id = kept.takeAnyItem()) {
+            removeItem(id);
+            makesRoom = true;
+        }
+        m_steps += kept.comparisons();
+    }
+}
+
+bool PlacedScene::fill(Id top, KeptPlaces* kept)
+{
+    const Place& place = m_table.place(top);
+    const Look& look = m_looks[place.look];
+    NxNode* const root = m_root.get();
+    std::vector<Filling> stack;
+    Filling first;
+    first.place = top;
+    first.kept = kept;
+    first.children = place.group == nullptr ? std::span(&root, 1) : shownChildren(place.group->group());
+    first.look = place.look;
+    first.lights = look.lights;
+    const auto nodeOf = [](const NodeRecord* record) { return record == nullptr ? nullptr : record->node(); };
+    first.material = static_cast<NxMaterial*>(nodeOf(look.material));
+    first.texture = static_cast<NxTexture*>(nodeOf(look.texture));
+    first.complexity = static_cast<NxComplexity*>(nodeOf(look.complexity));
+    m_looks.useAgain(first.look);
+    stack.push_back(std::move(first));
+    const bool wasCut = std::exchange(m_isCut, false);
+    const std::uint64_t lastStep = m_steps + 4 * m_mostPlaces;
+    while (!stack.empty()) {
+        Filling& filling = stack.back();
+        // Shared groups may also hold many nodes that take no place.
+        const bool isTooLong = m_steps > lastStep && filling.kept == nullptr && filling.next < filling.children.size();
+        if (isTooLong)
+            reportCut();
+        if (isTooLong || filling.next == filling.children.size()) {
+            if (filling.look != noId)
+                m_looks.release(filling.look);
+            stack.pop_back();
+            continue;
+        }
+        ++m_steps;
+        visit(*filling.children[filling.next++], stack);
+    }
+    const bool isWhole = !m_isCut;
+    m_isCut = m_isCut || wasCut;
+    return isWhole;
+}
+
+bool PlacedScene::hasRoom()
+{
+    if (m_table.count() < m_mostPlaces)
+        return true;
+    m_isCut = true;
+    reportCut();
+    return false;
+}
+
+void PlacedScene::reportCut()
+{
+    if (std::exchange(m_isCutTold, true))
+        return;
+    const std::string text = "The scene has more than " + std::to_string(m_mostPlaces)
+        + " places of groups and meshes; the others aren't drawn";
+    NxDebugError::post(NxDebugError::Warning, VbString(text));
+}
+
+void PlacedScene::fillFreeRoom()
+{
+    if (!m_isCut || m_table.count() > m_mostPlaces / 4 * 3)
+        return;
+    m_isCut = false;
+    empty(topPlace);
+    fill(topPlace);
+}
+
+void PlacedScene::visit(NxNode& node, std::vector<Filling>& stack)
+{
+    Filling& filling = stack.back();
+    const auto changeLook = [&](auto& part, NxNode& value) {
+        part = static_cast<std::remove_reference_t<decltype(part)>>(&value);
+        if (filling.look != noId)
+            m_looks.release(std::exchange(filling.look, noId));
+    };
+    switch (kindOf(node)) {
+    case NodeKind::Group:
+        addGroup(static_cast<NxGroup&>(node), stack);
+        break;
+    case NodeKind::Mesh:
+        addMesh(static_cast<NxMesh&>(node), filling);
+        break;
+    case NodeKind::Material:
+        changeLook(filling.material, node);
+        break;
+    case NodeKind::Texture:
+        changeLook(filling.texture, node);
+        break;
+    case NodeKind::Complexity:
+        changeLook(filling.complexity, node);
+        break;
+    case NodeKind::Light:
+        addLight(static_cast<NxLight&>(node), filling);
+        break;
+    case NodeKind::Other:
+        break;
+    }
+}
+
+Id PlacedScene::lookOf(Filling& filling)
+{
+    if (filling.look == noId) {
+        Look look;
+        if (filling.material != nullptr)
+            look.material = &m_records.of<MaterialRecord>(*filling.material, *this);
+        if (filling.texture != nullptr)
+            look.texture = &m_records.of<TextureRecord>(*filling.texture, *this);
+        if (filling.complexity != nullptr)
+            look.complexity = &m_records.of<ComplexityRecord>(*filling.complexity, *this);
+        look.lights = filling.lights;
+        filling.look = m_looks.use(look);
+    }
+    m_looks.useAgain(filling.look);
+    return filling.look;
+}
+
+void PlacedScene::addLight(NxLight& light, Filling& filling)
+{
+    auto& record = m_records.of<LightRecord>(light, *this);
+    const bool isTooMany = filling.lights && filling.lights->count() >= LightList::most;
+    m_problems.note(record, Problem::TooManyLights, isTooMany, [] {
+        return "more than " + std::to_string(LightList::most) + " lights shine on what follows; this one is left out";
+    });
+    ++m_lighting;
+    if (isTooMany)
+        return;
+    const Id placement = m_table.place(filling.place).placement;
+    std::weak_ptr<const LightList>& known = m_lightLists[{filling.lights.get(), &record, placement}];
+    std::shared_ptr<const LightList> list = known.lock();
+    if (!list) {
+        list = std::make_shared<LightList>(filling.lights, record, placement, m_records);
+        known = list;
+    }
+    filling.lights = std::move(list);
+    if (filling.look != noId)
+        m_looks.release(std::exchange(filling.look, noId));
+}
+
+void PlacedScene::addGroup(NxGroup& group, std::vector<Filling>& stack)
+{
+    Filling& above = stack.back();
+    auto& record = m_records.of<GroupRecord>(group, *this);
+    if (above.kept != nullptr) {
+        const Id look = lookOf(above);
+        const Id id = above.kept->takePlace(record, look);
+        m_looks.release(look);
+        if (id != noId) {
+            m_table.attachPlace(id);
+            return;
+        }
+    }
+    if (!hasRoom())
+        return;
+    NodeRecords::retain(record);
+    // Where it stands elsewhere as well, its other places may still have to follow its children.
+    if (record.firstPlace == noId)
+        record.noteChildren();
+    Place place;
+    place.group = &record;
+    place.parent = above.place;
+    place.placement = m_table.place(above.place).placement;
+    if (record.isTransform())
+        place.placement = m_table.placements.add(placementIn(record, m_table.placements[place.placement]));
+    place.look = lookOf(above);
+    Filling inner = above;
+    inner.place = m_table.addPlace(place);
+    inner.children = shownChildren(group);
+    inner.next = 0;
+    inner.kept = nullptr;
+    m_looks.useAgain(inner.look);
+    stack.push_back(std::move(inner));
+}
+
+void PlacedScene::addMesh(NxMesh& mesh, Filling& filling)
+{
+    auto& record = m_records.of<MeshRecord>(mesh, *this);
+    if (filling.kept != nullptr) {
+        const Id look = lookOf(filling);
+        const Id id = filling.kept->takeItem(record, look);
+        m_looks.release(look);
+        if (id != noId) {
+            m_table.attachItem(id);
+            return;
+        }
+    }
+    if (!hasRoom())
+        return;
+    NodeRecords::retain(record);
+    if (!record.isInspected)
+        inspectMesh(record);
+    Item item;
+    item.mesh = &record;
+    item.place = filling.place;
+    item.look = lookOf(filling);
+    const Id id = m_table.addItem(item);
+    m_tree.set(id, boundsOf(item));
+}
+
+} // namespace meridane

@@ -1,7 +1,0 @@
-#include "meridane/scene/NxCamera.h"
-
-NxType NxCamera::getClassTypeId()
-{
-    static const NxType type = NxType::registerClass("Camera", NxNode::getClassTypeId(), nullptr);
-    return type;
-}

@@ -1,7 +1,0 @@
-#include "meridane/scene/NxLight.h"
-
-NxType NxLight::getClassTypeId()
-{
-    static const NxType type = NxType::registerClass("Light", NxNode::getClassTypeId(), nullptr);
-    return type;
-}

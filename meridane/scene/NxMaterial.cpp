@@ -1,3 +1,0 @@
-#include "meridane/scene/NxMaterial.h"
-
-NX_NODE_SOURCE(NxMaterial, NxNode, "Material")

@@ -1,3 +1,0 @@
-#include "meridane/scene/NxMatrixTransform.h"
-
-NX_NODE_SOURCE(NxMatrixTransform, NxGroup, "MatrixTransform")

@@ -1,9 +1,0 @@
-#include "meridane/scene/NxMesh.h"
-
-NX_NODE_SOURCE(NxMesh, NxNode, "Mesh")
-
-const NxEnumeration& NxMesh::primitives()
-{
-    static const NxEnumeration names{{"TRIANGLES", TRIANGLES}, {"LINES", LINES}, {"POINTS", POINTS}};
-    return names;
-}

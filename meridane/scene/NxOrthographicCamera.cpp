@@ -1,3 +1,0 @@
-#include "meridane/scene/NxOrthographicCamera.h"
-
-NX_NODE_SOURCE(NxOrthographicCamera, NxCamera, "OrthographicCamera")

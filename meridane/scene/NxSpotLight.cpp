@@ -1,3 +1,0 @@
-#include "meridane/scene/NxSpotLight.h"
-
-NX_NODE_SOURCE(NxSpotLight, NxLight, "SpotLight")

@@ -1,3 +1,0 @@
-#include "meridane/scene/NxSwitch.h"
-
-NX_NODE_SOURCE(NxSwitch, NxGroup, "Switch")

@@ -1,3 +1,0 @@
-#include "meridane/scene/NxTransform.h"
-
-NX_NODE_SOURCE(NxTransform, NxGroup, "Transform")

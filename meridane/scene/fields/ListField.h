@@ -1,0 +1,90 @@
+#pragma once
+
+#include "meridane/scene/fields/NxMField.h"
+#include "meridane/scene/text/ValueText.h"
+
+#include <cassert>
+#include <span>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace meridane {
+
+/// What all fields with a list of values have in common. `Format` reads and writes the text of one value.
+///
+/// The virtual operations are defined in ListFieldText.h, which the source file of a field class includes to
+/// instantiate them once.
+template <typename Value, typename Format = ValueFormat<Value>>
+class ListField : public NxMField {
+public:
+    /// How a value is handed over: numbers by value, all else by reference.
+    using Read = std::conditional_t<std::is_arithmetic_v<Value>, Value, const Value&>;
+
+    /// `container` may be null, for a field that stands alone. `name` must be a literal.
+    ListField(NxFieldContainer* container, const char* name, std::vector<Value> values = {}, Format format = Format())
+        : NxMField(container, name)
+        , m_format(format)
+        , m_values(std::move(values))
+    {
+        assert(canHave(m_values.size()) && "rows are counted by int");
+    }
+
+    [[nodiscard]] int getNum() const final { return static_cast<int>(m_values.size()); }
+    /// One value, of a row that exists.
+    [[nodiscard]] Read operator[](int index) const
+    {
+        assert(index >= 0 && index < getNum() && "the row must exist");
+        return m_values[static_cast<std::size_t>(index)];
+    }
+    /// Takes one value and tells the observers. A row that doesn't exist changes nothing and gives false.
+    bool set1Value(int index, Read value)
+    {
+        if (index < 0 || index >= getNum())
+            return false;
+        m_values[static_cast<std::size_t>(index)] = value;
+        touch();
+        return true;
+    }
+
+    /// All values, next to each other; valid until the list changes.
+    [[nodiscard]] std::span<const Value> getValues() const noexcept { return m_values; }
+    /// Copies all values at once and tells the observers once. Values that don't fit in memory, or are more than
+    /// `getMaximumNum`, are reported as an `NxMemoryError`, change nothing and give false.
+    bool setValues(std::span<const Value> values);
+    /// The same without a copy.
+    bool setValues(std::vector<Value>&& values);
+    /// Hands all values over without a copy, leaves the list empty and tells the observers once.
+    [[nodiscard]] std::vector<Value> takeValues()
+    {
+        std::vector<Value> values = std::exchange(m_values, {});
+        touch();
+        return values;
+    }
+
+    void get1(int index, VbString& text) const override;
+    void deleteValues(int start, int count) override;
+    void insertSpace(int start, int count) override;
+
+    [[nodiscard]] bool isSame(const NxField& other) const override;
+    bool copyFrom(const NxField& other) override;
+    [[nodiscard]] std::size_t valueBytes() const override;
+    Progress readText(TextReader& reader, bool first, std::size_t budget) override;
+    bool writeText(std::string& text, std::size_t& position, std::size_t budget) const override;
+
+protected:
+    [[nodiscard]] const Format& format() const noexcept { return m_format; }
+    /// `insertSpace` with copies of a value.
+    void insertCopies(int start, int count, const Value& value);
+
+private:
+    bool assignText(TextReader& reader) override;
+    bool assign1Text(int index, TextReader& reader) override;
+    Progress readNextValue(std::vector<Value>& values, TextReader& reader) const;
+    Progress readValues(std::vector<Value>& values, TextReader& reader, bool first, std::size_t budget) const;
+
+    [[no_unique_address]] Format m_format;
+    std::vector<Value> m_values;
+};
+
+} // namespace meridane

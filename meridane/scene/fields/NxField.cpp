@@ -1,0 +1,83 @@
+#include "meridane/scene/fields/NxField.h"
+
+#include "meridane/base/values/VbName.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/MemoryGuard.h"
+#include "meridane/scene/fields/NxFieldContainer.h"
+#include "meridane/scene/fields/NxFieldData.h"
+#include "meridane/scene/fields/NxFieldSensor.h"
+#include "meridane/scene/text/TextReader.h"
+
+#include <limits>
+#include <typeinfo>
+#include <utility>
+
+NxType NxField::getClassTypeId()
+{
+    static const NxType type = NxType::registerClass("Field", NxTypedObject::getClassTypeId(), nullptr);
+    return type;
+}
+
+NxField::NxField(NxFieldContainer* container, const char* name)
+    : m_container(container)
+{
+    NxFieldData::collectField(container, this, name);
+}
+
+NxField::~NxField()
+{
+    m_sensors.dyingReference();
+}
+
+void NxField::get(VbString& text) const
+{
+    std::string result;
+    std::size_t position = 0;
+    while (writeText(result, position, std::numeric_limits<std::size_t>::max())) { }
+    text = VbString(std::move(result));
+}
+
+bool NxField::set(const VbString& text)
+{
+    meridane::TextReader reader(text.view());
+    if (!meridane::withinMemory(text.view().size(), [this, &reader] { return assignText(reader); }))
+        return false;
+    touch();
+    return true;
+}
+
+bool NxField::set(const char* text)
+{
+    return set(VbString(text));
+}
+
+void NxField::setIgnored(int flag)
+{
+    const bool ignored = flag != 0;
+    if (ignored == m_ignored)
+        return;
+    m_ignored = ignored;
+    touch();
+}
+
+bool NxField::isDefault() const
+{
+    if (m_container == nullptr)
+        return false;
+    const NxFieldData* const data = m_container->getFieldData();
+    const NxField* const original = data->getDefault(data->getIndex(m_container, this));
+    return original != nullptr && isSame(*original);
+}
+
+bool NxField::isOfSameClass(const NxField& other) const
+{
+    const NxType type = getTypeId();
+    return type == other.getTypeId() && (!type.isBad() || typeid(*this) == typeid(other));
+}
+
+void NxField::touch()
+{
+    m_sensors.notify();
+    if (m_container != nullptr && m_container->isWatched())
+        m_container->touch();
+}

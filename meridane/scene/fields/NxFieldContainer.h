@@ -1,0 +1,86 @@
+#pragma once
+
+#include "meridane/base/types/NxTypedObject.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/detail/SensorList.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+class NxField;
+class NxFieldData;
+class NxNodeSensor;
+class VbName;
+
+/// The owner of fields: a node of the scene, with a name and a count of references.
+///
+/// A new container has no reference; the last `unref` deletes it. Thread of the user interface only.
+class NxFieldContainer : public NxTypedObject {
+public:
+    [[nodiscard]] static NxType getClassTypeId();
+
+    void ref() const noexcept { ++m_references; }
+    /// Gives up a reference and deletes the container with the last one.
+    void unref() const;
+    /// Gives up a reference without deleting: the way to hand out a container that nobody holds yet.
+    void unrefNoDelete() const noexcept { --m_references; }
+    [[nodiscard]] int getRefCount() const noexcept { return m_references; }
+
+    /// The node's own name, which need not be unique; empty for none.
+    [[nodiscard]] const VbString& getName() const noexcept { return m_name; }
+    /// Renames the node and tells its node sensors.
+    void setName(const VbString& name);
+
+    /// Describes the fields of the container's class. Never null; the class owns it.
+    [[nodiscard]] virtual NxFieldData* getFieldData() = 0;
+
+    /// The field of that name, or null.
+    [[nodiscard]] NxField* getField(const VbName& name);
+    /// The name of a field of this container; the empty name for a foreign field.
+    [[nodiscard]] VbName getFieldName(const NxField* field) const;
+    /// All fields in the order of declaration.
+    [[nodiscard]] std::vector<NxField*> getFields();
+
+    /// A field that the class doesn't have, read from a file and written back as it was.
+    struct UnknownField {
+        std::string name;
+        std::string text;
+        bool ignored = false;
+    };
+    void addUnknownField(UnknownField field);
+    [[nodiscard]] const std::vector<UnknownField>& getUnknownFields() const noexcept;
+
+    /// A number that changes whenever a node is renamed or a list of children changes, in whatever scene: who keeps
+    /// something that follows from names and places compares it.
+    [[nodiscard]] static std::uint64_t getStructureRevision() noexcept { return s_structureRevision; }
+
+    /// Tells the node sensors that the name, a field or the list of children changed.
+    void touch();
+
+protected:
+    NxFieldContainer();
+    ~NxFieldContainer() override;
+
+    /// Says that a name or a list of children changed.
+    static void noteStructureChange() noexcept { ++s_structureRevision; }
+
+private:
+    friend class NxField;
+    friend class NxNodeSensor;
+
+    /// What few of many nodes have: made with the first sensor or unknown field.
+    struct Rare {
+        meridane::SensorList<NxNodeSensor> sensors;
+        std::vector<UnknownField> unknownFields;
+    };
+    Rare& rare();
+    [[nodiscard]] bool isWatched() const noexcept { return m_rare != nullptr && !m_rare->sensors.isEmpty(); }
+
+    static std::uint64_t s_structureRevision;
+
+    mutable int m_references = 0;
+    VbString m_name;
+    std::unique_ptr<Rare> m_rare;
+};

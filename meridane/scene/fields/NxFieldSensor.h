@@ -1,0 +1,30 @@
+#pragma once
+
+#include "meridane/scene/fields/NxDataSensor.h"
+#include "meridane/scene/fields/detail/SensorList.h"
+
+class NxField;
+
+/// Watches one field: its value and its ignored flag. Thread of the user interface only.
+class NxFieldSensor : public NxDataSensor {
+public:
+    /// `callback` is called from the delay queue with `data` and the sensor.
+    using NxDataSensor::NxDataSensor;
+    /// Detaches the sensor and takes it off the queue.
+    ~NxFieldSensor() override;
+
+    /// Starts watching a field, null for none; a field attached before is given up. Not notified by attaching.
+    void attach(NxField* field);
+    /// Stops watching and takes the sensor off the queue; does nothing when it isn't attached.
+    void detach();
+    /// The watched field, or null.
+    [[nodiscard]] NxField* getAttachedField() const noexcept { return m_field; }
+
+    void dyingReference() override;
+
+private:
+    friend class meridane::SensorList<NxFieldSensor>;
+
+    NxField* m_field = nullptr;
+    NxFieldSensor* m_next = nullptr; // of the sensors on the same field
+};

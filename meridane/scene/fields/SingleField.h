@@ -1,0 +1,52 @@
+#pragma once
+
+#include "meridane/scene/fields/NxSField.h"
+#include "meridane/scene/text/ValueText.h"
+
+#include <type_traits>
+
+namespace meridane {
+
+/// What all fields with a single value have in common. `Format` reads and writes the value's text.
+///
+/// The virtual operations are defined in SingleFieldText.h, which the source file of a field class includes to
+/// instantiate them once.
+template <typename Value, typename Format = ValueFormat<Value>>
+class SingleField : public NxSField {
+public:
+    /// How a value is handed over: numbers by value, all else by reference.
+    using Read = std::conditional_t<std::is_arithmetic_v<Value>, Value, const Value&>;
+
+    /// `container` may be null, for a field that stands alone. `name` must be a literal.
+    SingleField(NxFieldContainer* container, const char* name, Read value = Value(), Format format = Format())
+        : NxSField(container, name)
+        , m_value(value)
+        , m_format(format)
+    {
+    }
+
+    [[nodiscard]] Read getValue() const noexcept { return m_value; }
+    /// Takes the value and tells the observers, also when it is the one that the field has.
+    void setValue(Read value)
+    {
+        m_value = value;
+        touch();
+    }
+
+    [[nodiscard]] bool isSame(const NxField& other) const override;
+    bool copyFrom(const NxField& other) override;
+    [[nodiscard]] std::size_t valueBytes() const override;
+    Progress readText(TextReader& reader, bool first, std::size_t budget) override;
+    bool writeText(std::string& text, std::size_t& position, std::size_t budget) const override;
+
+protected:
+    [[nodiscard]] const Format& format() const noexcept { return m_format; }
+
+private:
+    bool assignText(TextReader& reader) override;
+
+    Value m_value; // first: a small one fits behind the flag of the field
+    [[no_unique_address]] Format m_format;
+};
+
+} // namespace meridane

@@ -1,0 +1,192 @@
+#pragma once
+
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/ListField.h"
+#include "meridane/scene/fields/MemoryGuard.h"
+#include "meridane/scene/text/detail/ValueBits.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <string>
+#include <utility>
+
+namespace meridane {
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::get1(int index, VbString& text) const
+{
+    std::string result;
+    if (index >= 0 && index < getNum())
+        m_format.write(result, m_values[static_cast<std::size_t>(index)]);
+    text = VbString(std::move(result));
+}
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::deleteValues(int start, int count)
+{
+    const long long first = std::max(start, 0);
+    const long long end = count == -1 ? getNum() : std::min<long long>(static_cast<long long>(start) + count, getNum());
+    if (first >= end)
+        return;
+    m_values.erase(m_values.begin() + first, m_values.begin() + end);
+    touch();
+}
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::insertSpace(int start, int count)
+{
+    insertCopies(start, count, Value());
+}
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::insertCopies(int start, int count, const Value& value)
+{
+    if (count <= 0)
+        return;
+    const auto number = static_cast<std::size_t>(count);
+    const bool fits = withinMemory((m_values.size() + number) * sizeof(Value), [&] {
+        if (!canHave(m_values.size() + number))
+            throw std::bad_alloc();
+        m_values.insert(m_values.begin() + std::clamp(start, 0, getNum()), number, value);
+        return true;
+    });
+    if (fits)
+        touch();
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::setValues(std::span<const Value> values)
+{
+    std::vector<Value> copy;
+    return withinMemory(values.size_bytes(), [&] {
+        copy.assign(values.begin(), values.end());
+        return true;
+    }) && setValues(std::move(copy));
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::setValues(std::vector<Value>&& values)
+{
+    if (!canHave(values.size()))
+        return reportMemory(values.size() * sizeof(Value));
+    m_values = std::move(values);
+    touch();
+    return true;
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::isSame(const NxField& other) const
+{
+    return isOfSameClass(other) && areSameValues<Value>(m_values, static_cast<const ListField&>(other).m_values);
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::copyFrom(const NxField& other)
+{
+    return isOfSameClass(other) && setValues(static_cast<const ListField&>(other).getValues());
+}
+
+template <typename Value, typename Format>
+std::size_t ListField<Value, Format>::valueBytes() const
+{
+    if constexpr (std::is_trivially_copyable_v<Value>) {
+        return sizeof(m_values) + m_values.size() * sizeof(Value);
+    } else {
+        std::size_t bytes = sizeof(m_values);
+        for (const Value& value : m_values)
+            bytes += bytesOfValue(value);
+        return bytes;
+    }
+}
+
+template <typename Value, typename Format>
+NxField::Progress ListField<Value, Format>::readText(TextReader& reader, bool first, std::size_t budget)
+{
+    return readValues(m_values, reader, first, budget);
+}
+
+// A slice ends right behind a value, so that the next one begins with what separates it from the value after it.
+template <typename Value, typename Format>
+NxField::Progress ListField<Value, Format>::readValues(
+    std::vector<Value>& values, TextReader& reader, bool first, std::size_t budget) const
+{
+    if (first)
+        values.clear();
+    for (; budget > 0 && !reader.isSpent(); --budget) {
+        const std::size_t start = reader.position();
+        const Progress progress = readNextValue(values, reader);
+        if (reader.isInterrupted()) {
+            reader.goBack(start);
+            return Progress::More;
+        }
+        if (progress != Progress::More)
+            return progress;
+        reader.forget();
+    }
+    return Progress::More;
+}
+
+template <typename Value, typename Format>
+NxField::Progress ListField<Value, Format>::readNextValue(std::vector<Value>& values, TextReader& reader) const
+{
+    const bool first = values.empty();
+    const bool bracket = first && reader.accept('[');
+    const bool ends = first ? bracket && reader.accept(']') : !reader.accept(',') && reader.accept(']');
+    if (ends)
+        return Progress::Done;
+    if (const auto maximum = static_cast<std::size_t>(getMaximumNum()); values.size() >= maximum) {
+        reader.fail("the end of a list, which has at most " + std::to_string(maximum) + " values");
+        return Progress::Failed;
+    }
+    Value value{};
+    if (!m_format.read(reader, value) || reader.isInterrupted())
+        return Progress::Failed;
+    values.push_back(std::move(value));
+    return first && !bracket ? Progress::Done : Progress::More;
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::writeText(std::string& text, std::size_t& position, std::size_t budget) const
+{
+    if (position == 0)
+        text += '[';
+    bool more = false;
+    if constexpr (std::is_same_v<Value, VbString>) {
+        more = writeValuesPart(text, m_values, position, textBytesOf(budget));
+    } else {
+        const std::size_t end = m_values.size() - position > budget ? position + budget : m_values.size();
+        for (; position < end; ++position) {
+            if (position > 0)
+                text += ", ";
+            m_format.write(text, m_values[position]);
+        }
+        more = position < m_values.size();
+    }
+    if (!more)
+        text += ']';
+    return more;
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::assignText(TextReader& reader)
+{
+    std::vector<Value> values;
+    if (readValues(values, reader, true, std::numeric_limits<std::size_t>::max()) != Progress::Done
+        || !reader.expectEnd())
+        return false;
+    m_values = std::move(values);
+    return true;
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::assign1Text(int index, TextReader& reader)
+{
+    Value value{};
+    if (!m_format.readWhole(reader, value))
+        return false;
+    m_values[static_cast<std::size_t>(index)] = std::move(value);
+    return true;
+}
+
+} // namespace meridane

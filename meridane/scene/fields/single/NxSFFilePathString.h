@@ -1,0 +1,11 @@
+#pragma once
+
+#include "meridane/scene/fields/single/NxSFString.h"
+
+/// A single text that names a file. The file need not exist.
+class NxSFFilePathString : public NxSFString {
+    NX_FIELD(NxSFFilePathString)
+
+public:
+    using NxSFString::NxSFString;
+};

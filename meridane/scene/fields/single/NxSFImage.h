@@ -1,0 +1,57 @@
+#pragma once
+
+#include "meridane/base/values/VbVec.h"
+#include "meridane/scene/fields/NxSField.h"
+
+#include <vector>
+
+/// A single image: rows of pixels, the bottom row first by convention, each pixel of one to four bytes.
+///
+/// One component is grey, two are grey and opacity, three red, green and blue, four those and opacity. An image is
+/// empty, 0 by 0 with no components and no bytes, or all three numbers are positive.
+class NxSFImage : public NxSField {
+    NX_FIELD(NxSFImage)
+
+public:
+    /// An empty image. `container` may be null, for a field that stands alone. `name` must be a literal.
+    NxSFImage(NxFieldContainer* container, const char* name)
+        : NxSField(container, name)
+    {
+    }
+
+    /// Hands out size and number of components, and gives the bytes: pixel by pixel and row by row. They stay valid
+    /// until the field changes. Null for an empty image.
+    const unsigned char* getValue(VbVec2s& size, int& components) const;
+    /// Copies `size[0] * size[1] * components` bytes and tells the observers. A size or a number of components that
+    /// makes no image changes nothing and gives false; so does null for an image that isn't empty.
+    bool setValue(const VbVec2s& size, int components, const unsigned char* bytes);
+    /// Takes the bytes over; their number must fit as well.
+    bool setValue(const VbVec2s& size, int components, std::vector<unsigned char>&& bytes);
+
+    /// Hands the bytes over without a copy, leaves an empty image and tells the observers.
+    [[nodiscard]] std::vector<unsigned char> takeBytes();
+
+    [[nodiscard]] bool isSame(const NxField& other) const override;
+    bool copyFrom(const NxField& other) override;
+    [[nodiscard]] std::size_t valueBytes() const override;
+    Progress readText(meridane::TextReader& reader, bool first, std::size_t budget) override;
+    bool writeText(std::string& text, std::size_t& position, std::size_t budget) const override;
+
+private:
+    struct Image {
+        VbVec2s size;
+        int components = 0;
+        std::vector<unsigned char> bytes;
+
+        [[nodiscard]] std::size_t pixels() const noexcept;
+        [[nodiscard]] std::size_t byteCount() const noexcept;
+        // An image or the empty one, whatever the number of bytes.
+        [[nodiscard]] bool isValid() const noexcept;
+    };
+
+    bool assignText(meridane::TextReader& reader) override;
+    static bool readHeader(Image& image, meridane::TextReader& reader);
+    static bool readPixel(Image& image, meridane::TextReader& reader);
+
+    Image m_image;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "meridane/scene/fields/SingleField.h"
+
+extern template class meridane::SingleField<VbVec2f>;
+
+/// A single vector of two floats.
+class NxSFVec2f : public meridane::SingleField<VbVec2f> {
+    NX_FIELD(NxSFVec2f)
+
+public:
+    using SingleField::SingleField;
+
+    using SingleField::setValue;
+    void setValue(float x, float y) { setValue(VbVec2f(x, y)); }
+};

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "meridane/scene/fields/NxFieldContainer.h"
+#include "meridane/scene/file/NxSceneWriter.h"
+#include "meridane/scene/file/detail/SceneSharing.h"
+#include "meridane/scene/text/detail/ValueWrapper.h"
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+class NxField;
+
+/// The writer's work, cut into units: first the scene is looked over, then each unit writes the head of a node, a field
+/// or a slice of its value, or the end of a node. Keeps its own stack.
+class NxSceneWriter::Printer {
+public:
+    explicit Printer(NxGroup* scene);
+
+    void setPathMap(PathMap map) { m_pathMap = std::move(map); }
+    bool step(std::string& text, const meridane::WorkBudget& budget);
+    [[nodiscard]] double progress() const noexcept;
+    [[nodiscard]] const std::string& failure() const noexcept { return m_failure; }
+
+private:
+    enum class Phase { Sharing, Nodes, Value, UnknownValue, Done };
+
+    /// A node whose closing brace is still to come.
+    struct OpenNode {
+        NxNode* node;
+        NxFieldData* data; // null for the scene itself, whose fields aren't written
+        int nextField = 0;
+        std::size_t nextUnknownField = 0;
+        std::size_t nextChild = 0;
+    };
+
+    void work(std::string& text);
+    void lookOver(std::string& text);
+    void writeNext(std::string& text);
+    bool startNextField(std::string& text);
+    bool writeMappedPath(std::string& text, const NxField& field) const;
+    void startField(std::string& text, std::string_view name, bool ignored);
+    void writeValueSlice(std::string& text);
+    void writeUnknownSlice(std::string& text);
+    void writeChild(std::string& text, NxNode* child);
+    void startNode(std::string& text, NxNode* node, const std::string& label);
+    void writeQuoted(std::string& text, std::string_view name);
+    void indent(std::string& text) const;
+    void fail(std::string message);
+
+    Phase m_phase = Phase::Sharing;
+    meridane::SceneSharing m_sharing;
+    std::vector<OpenNode> m_open; // from the scene itself on
+    std::size_t m_written = 0; // nodes
+    std::string m_failure;
+    PathMap m_pathMap;
+
+    // The value that is being written over several slices.
+    const NxField* m_field = nullptr;
+    const NxFieldContainer::UnknownField* m_unknownField = nullptr;
+    std::size_t m_position = 0;
+    std::string m_slice;
+    meridane::ValueWrapper m_wrapper;
+};

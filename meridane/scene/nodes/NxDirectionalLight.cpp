@@ -1,0 +1,3 @@
+#include "meridane/scene/nodes/NxDirectionalLight.h"
+
+NX_NODE_SOURCE(NxDirectionalLight, NxLight, "DirectionalLight")

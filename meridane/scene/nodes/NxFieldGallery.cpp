@@ -1,0 +1,20 @@
+#include "meridane/scene/nodes/NxFieldGallery.h"
+
+NX_NODE_SOURCE(NxFieldGallery, NxNode, "FieldGallery")
+
+// Here, rather than in each source that makes a gallery: the fields are many.
+NxFieldGallery::NxFieldGallery() = default;
+NxFieldGallery::~NxFieldGallery() = default;
+
+const NxEnumeration& NxFieldGallery::qualities()
+{
+    static const NxEnumeration names{{"LOW", LOW}, {"MEDIUM", MEDIUM}, {"HIGH", HIGH}, {"ULTRA", ULTRA}};
+    return names;
+}
+
+const NxEnumeration& NxFieldGallery::traits()
+{
+    static const NxEnumeration names{{"VISIBLE", VISIBLE}, {"PICKABLE", PICKABLE}, {"CASTS_SHADOW", CASTS_SHADOW},
+        {"LOCKED", LOCKED}, {"HIGHLIGHTED", HIGHLIGHTED}};
+    return names;
+}

@@ -1,0 +1,151 @@
+#include "meridane/scene/nodes/NxGroup.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+NX_NODE_SOURCE(NxGroup, NxNode, "Group")
+
+namespace {
+
+NxGroup* asGroup(NxNode* node)
+{
+    return node->isOfType(NxGroup::getClassTypeId()) ? static_cast<NxGroup*>(node) : nullptr;
+}
+
+/// True when `wanted` stands somewhere below `top`. Keeps its own stack, since nodes may be nested deeply.
+bool holds(NxNode* top, const NxNode* wanted)
+{
+    std::vector<NxNode*> waiting{top};
+    std::unordered_set<const NxNode*> seen; // shared nodes are walked once
+    while (!waiting.empty()) {
+        NxNode* node = waiting.back();
+        waiting.pop_back();
+        for (NxNode* child : node->getChildren()) {
+            if (child == wanted)
+                return true;
+            if (!child->getChildren().empty() && (child->getRefCount() == 1 || seen.insert(child).second))
+                waiting.push_back(child);
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+NxGroup::~NxGroup()
+{
+    noteStructureChange();
+    // Nodes that die with this one are taken apart from the bottom up without recursion and without memory: on the way
+    // down, the place of the child in its group's list holds the group above.
+    NxGroup* group = this;
+    NxGroup* above = nullptr;
+    for (;;) {
+        if (!group->m_children.empty()) {
+            NxNode* child = group->m_children.back();
+            NxGroup* childGroup = child->getRefCount() == 1 ? asGroup(child) : nullptr;
+            if (childGroup == nullptr || childGroup->m_children.empty()) {
+                group->m_children.pop_back();
+                release(child);
+            } else {
+                group->m_children.back() = above;
+                above = group;
+                group = childGroup;
+            }
+        } else if (group != this) {
+            group->unref();
+            group = above;
+            above = static_cast<NxGroup*>(group->m_children.back());
+            group->m_children.pop_back();
+        } else {
+            return;
+        }
+    }
+}
+
+std::span<NxNode* const> NxGroup::getChildren() const
+{
+    return m_children;
+}
+
+NxNode* NxGroup::getChild(int index) const
+{
+    return index >= 0 && index < getNumChildren() ? m_children[static_cast<std::size_t>(index)] : nullptr;
+}
+
+int NxGroup::findChild(const NxNode* node) const
+{
+    const auto place = std::find(m_children.begin(), m_children.end(), node);
+    return place == m_children.end() ? -1 : static_cast<int>(place - m_children.begin());
+}
+
+bool NxGroup::addChild(NxNode* node)
+{
+    return insertChild(node, getNumChildren());
+}
+
+bool NxGroup::insertChild(NxNode* node, int index)
+{
+    if (node == nullptr || node == this || index < 0 || index > getNumChildren())
+        return false;
+    // A group that stands nowhere closes no cycle, so that scenes can be built from the bottom up without a search.
+    if (m_places > 0 && holds(node, this))
+        return false;
+    m_children.insert(m_children.begin() + index, node);
+    hold(node);
+    noteChildrenChange();
+    touch();
+    return true;
+}
+
+bool NxGroup::removeChild(int index)
+{
+    NxNode* child = getChild(index);
+    if (child == nullptr)
+        return false;
+    m_children.erase(m_children.begin() + index);
+    noteChildrenChange();
+    touch();
+    release(child);
+    return true;
+}
+
+void NxGroup::removeAllChildren()
+{
+    if (m_children.empty())
+        return;
+    std::vector<NxNode*> children;
+    children.swap(m_children);
+    noteChildrenChange();
+    touch();
+    for (NxNode* child : children)
+        release(child);
+}
+
+void NxGroup::appendUnchecked(NxNode* node, NxGroup* group)
+{
+    m_children.push_back(node);
+    noteChildrenChange();
+    node->ref();
+    if (group != nullptr)
+        ++group->m_places;
+}
+
+void NxGroup::noteChildrenChange() noexcept
+{
+    noteStructureChange();
+    m_childrenRevision = getStructureRevision();
+}
+
+void NxGroup::hold(NxNode* node)
+{
+    if (NxGroup* group = asGroup(node))
+        ++group->m_places;
+    node->ref();
+}
+
+void NxGroup::release(NxNode* node)
+{
+    if (NxGroup* group = asGroup(node))
+        --group->m_places;
+    node->unref();
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "meridane/scene/nodes/NxNode.h"
+
+/// A node that holds other nodes, in order. Lights, materials, textures and complexities in a group apply to the
+/// children that follow them in that group, and to nothing outside it.
+///
+/// A group holds a reference on each child. Every change of the list tells the group's node sensors.
+class NxGroup : public NxNode {
+    NX_NODE(NxGroup)
+
+public:
+    [[nodiscard]] std::span<NxNode* const> getChildren() const override;
+
+    [[nodiscard]] int getNumChildren() const noexcept { return static_cast<int>(m_children.size()); }
+    /// The child at that index, or null when there is none.
+    [[nodiscard]] NxNode* getChild(int index) const;
+    /// A number that changes with the list of children. No other list, of whatever group and time, has the same one, so
+    /// that two lists can be told apart even if nodes of one have taken the addresses of dead nodes of the other.
+    [[nodiscard]] std::uint64_t getChildrenRevision() const noexcept { return m_childrenRevision; }
+    /// The index of the first place where the node stands, or -1.
+    [[nodiscard]] int findChild(const NxNode* node) const;
+
+    /// Appends a node. False, and nothing changes, for null and for a node that is this group or holds it.
+    bool addChild(NxNode* node);
+    /// Inserts a node ahead of that index, 0 to `getNumChildren`. False as for `addChild`, and for an index out of
+    /// range.
+    bool insertChild(NxNode* node, int index);
+    /// Takes the child at that index out and gives up the reference on it. False for an index out of range.
+    bool removeChild(int index);
+    void removeAllChildren();
+
+protected:
+    ~NxGroup() override;
+
+private:
+    friend class NxSceneReader;
+
+    /// For a node that is known not to hold this group; `group` is the same node, or null if it is none.
+    void appendUnchecked(NxNode* node, NxGroup* group);
+    void noteChildrenChange() noexcept;
+    static void hold(NxNode* node);
+    static void release(NxNode* node);
+
+    std::vector<NxNode*> m_children;
+    std::uint64_t m_childrenRevision = 0;
+    std::size_t m_places = 0; // in which groups hold this one
+};

@@ -1,0 +1,3 @@
+#include "meridane/scene/nodes/NxMaterial.h"
+
+NX_NODE_SOURCE(NxMaterial, NxNode, "Material")

@@ -1,0 +1,9 @@
+#include "meridane/scene/nodes/NxMesh.h"
+
+NX_NODE_SOURCE(NxMesh, NxNode, "Mesh")
+
+const NxEnumeration& NxMesh::primitives()
+{
+    static const NxEnumeration names{{"TRIANGLES", TRIANGLES}, {"LINES", LINES}, {"POINTS", POINTS}};
+    return names;
+}

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "meridane/scene/fields/NxFieldContainer.h"
+#include "meridane/scene/fields/NxFieldData.h"
+
+#include <span>
+
+/// A node of the scene graph. A node may stand in several places of the graph.
+class NxNode : public NxFieldContainer {
+public:
+    [[nodiscard]] static NxType getClassTypeId();
+
+    /// The node's children in order; none for a node that is no group. Valid until the list changes.
+    [[nodiscard]] virtual std::span<NxNode* const> getChildren() const { return {}; }
+    /// The name of the node's class as files and users know it, such as "Material". For a node of an unknown class the
+    /// name that the file gave.
+    [[nodiscard]] virtual const char* getClassName() const;
+
+protected:
+    NxNode() = default;
+    ~NxNode() override = default;
+};
+
+namespace meridane {
+
+template <typename Node>
+NxTypedObject* createNode()
+{
+    return new Node;
+}
+
+template <typename Node>
+NxFieldContainer* createFieldContainer()
+{
+    return new Node;
+}
+
+} // namespace meridane
+
+/// Stands first in the declaration of a node class: `NX_NODE(NxMaterial)`.
+#define NX_NODE(Class)                                                                                                 \
+public:                                                                                                                \
+    [[nodiscard]] static NxType getClassTypeId();                                                                      \
+    [[nodiscard]] NxType getTypeId() const override;                                                                   \
+    [[nodiscard]] NxFieldData* getFieldData() override;                                                                \
+                                                                                                                       \
+private:
+
+/// Stands in the source file of a node class: `NX_NODE_SOURCE(NxMaterial, NxNode, "Material")`. The class is registered
+/// when the library that holds it is loaded. For scene files, the name of the class and those of its fields consist of
+/// letters, digits and `_`, the first no digit, and the class isn't called `use` or `ignored`.
+#define NX_NODE_SOURCE(Class, Parent, name)                                                                            \
+    NxType Class::getClassTypeId()                                                                                     \
+    {                                                                                                                  \
+        static const NxType type                                                                                       \
+            = NxType::registerClass(name, Parent::getClassTypeId(), &meridane::createNode<Class>);                     \
+        return type;                                                                                                   \
+    }                                                                                                                  \
+    NxType Class::getTypeId() const                                                                                    \
+    {                                                                                                                  \
+        return getClassTypeId();                                                                                       \
+    }                                                                                                                  \
+    NxFieldData* Class::getFieldData()                                                                                 \
+    {                                                                                                                  \
+        static NxFieldData data(&meridane::createFieldContainer<Class>);                                               \
+        return &data;                                                                                                  \
+    }                                                                                                                  \
+    namespace {                                                                                                        \
+    [[maybe_unused]] const NxType registered##Class = Class::getClassTypeId();                                         \
+    }

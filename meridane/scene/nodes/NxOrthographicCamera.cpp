@@ -1,0 +1,3 @@
+#include "meridane/scene/nodes/NxOrthographicCamera.h"
+
+NX_NODE_SOURCE(NxOrthographicCamera, NxCamera, "OrthographicCamera")

@@ -1,0 +1,3 @@
+#include "meridane/scene/nodes/NxPerspectiveCamera.h"
+
+NX_NODE_SOURCE(NxPerspectiveCamera, NxCamera, "PerspectiveCamera")

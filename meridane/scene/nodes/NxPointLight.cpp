@@ -1,0 +1,3 @@
+#include "meridane/scene/nodes/NxPointLight.h"
+
+NX_NODE_SOURCE(NxPointLight, NxLight, "PointLight")

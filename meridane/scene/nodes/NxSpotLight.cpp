@@ -1,0 +1,3 @@
+#include "meridane/scene/nodes/NxSpotLight.h"
+
+NX_NODE_SOURCE(NxSpotLight, NxLight, "SpotLight")

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "meridane/scene/fields/single/NxSFEnum.h"
+#include "meridane/scene/fields/single/NxSFFilePathString.h"
+#include "meridane/scene/fields/single/NxSFImage.h"
+#include "meridane/scene/nodes/NxNode.h"
+
+/// An image on the surfaces that follow in the group, placed by their texture coordinates.
+class NxTexture : public NxNode {
+    NX_NODE(NxTexture)
+
+public:
+    /// What a surface shows outside the image.
+    enum Wrap {
+        REPEAT = 0, ///< the image goes on over and over
+        CLAMP = 1, ///< the border goes on
+    };
+
+    /// The file of the image, relative to the folder of the scene file. It is used when there is no `image`.
+    NxSFFilePathString filePath{this, "filePath"};
+    /// The image itself; the row at the bottom comes first.
+    NxSFImage image{this, "image"};
+    /// What lies to the left and right of the image.
+    NxSFEnum wrapS{this, "wrapS", wraps(), REPEAT};
+    /// What lies below and above the image.
+    NxSFEnum wrapT{this, "wrapT", wraps(), REPEAT};
+
+protected:
+    ~NxTexture() override = default;
+
+private:
+    static const NxEnumeration& wraps();
+};

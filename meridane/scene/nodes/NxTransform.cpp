@@ -1,0 +1,3 @@
+#include "meridane/scene/nodes/NxTransform.h"
+
+NX_NODE_SOURCE(NxTransform, NxGroup, "Transform")

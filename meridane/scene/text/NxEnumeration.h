@@ -1,0 +1,36 @@
+#pragma once
+
+#include "meridane/base/values/VbName.h"
+
+#include <initializer_list>
+#include <memory>
+#include <string_view>
+
+/// The values of an enumeration, or the bits of a mask, and their names: a table that the fields of a class share. It
+/// must outlive them, so it is a static object.
+class NxEnumeration {
+public:
+    /// The name is a word: letters, digits, `_`, `-` and the like, without blanks, quotes, commas, bars or brackets,
+    /// and not beginning with a digit or a sign.
+    struct Entry {
+        const char* name;
+        int value;
+    };
+    NxEnumeration(std::initializer_list<Entry> entries);
+
+    [[nodiscard]] int getCount() const noexcept { return m_count; }
+    /// All values in order; not to be written.
+    [[nodiscard]] int* getValues() const noexcept { return m_values.get(); }
+    /// All names in the order of the values; not to be written.
+    [[nodiscard]] VbName* getNames() const noexcept { return m_names.get(); }
+
+    /// Gives the value of a name; a name that doesn't exist gives false and leaves `value` alone.
+    bool valueByName(std::string_view name, int& value) const;
+    /// The first name of a value, or null.
+    [[nodiscard]] const VbName* nameByValue(int value) const;
+
+private:
+    int m_count;
+    std::unique_ptr<int[]> m_values;
+    std::unique_ptr<VbName[]> m_names;
+};

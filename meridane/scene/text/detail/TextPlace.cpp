@@ -1,0 +1,65 @@
+#include "meridane/scene/text/detail/TextPlace.h"
+
+#include "meridane/base/values/MessageText.h"
+#include "meridane/scene/text/TextReader.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace meridane {
+
+namespace {
+
+constexpr std::size_t maxShown = 32; // bytes
+
+bool isContinuation(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+bool endsWord(char character)
+{
+    return TextReader::isDelimiter(character) || character == '=' || character == ';';
+}
+
+/// The token at the start of the text, whole.
+std::string_view tokenAt(std::string_view text)
+{
+    if (text.front() == '"') {
+        const std::size_t end = text.find_first_of("\"\n", 1);
+        return text.substr(0, end == std::string_view::npos ? end : end + (text[end] == '"' ? 1U : 0U));
+    }
+    const auto* const end = std::find_if(text.begin(), text.end(), endsWord);
+    return text.substr(0, std::max<std::size_t>(1, static_cast<std::size_t>(end - text.begin())));
+}
+
+} // namespace
+
+TextPlace findPlace(std::string_view text, std::size_t offset)
+{
+    text = text.substr(0, offset);
+    if (text.starts_with(byteOrderMark))
+        text.remove_prefix(byteOrderMark.size());
+    const std::size_t lineEnd = text.rfind('\n');
+    const std::string_view line = lineEnd == std::string_view::npos ? text : text.substr(lineEnd + 1);
+    const auto lines = std::count(text.begin(), text.end(), '\n');
+    const auto characters = std::count_if(line.begin(), line.end(), [](char byte) { return !isContinuation(byte); });
+    constexpr auto most = static_cast<std::ptrdiff_t>(std::numeric_limits<int>::max() - 1);
+    return {static_cast<int>(std::min(lines, most) + 1), static_cast<int>(std::min(characters, most) + 1)};
+}
+
+std::string describeToken(std::string_view text, std::size_t offset)
+{
+    if (offset >= text.size())
+        return "the end of the file";
+    text = text.substr(offset);
+    if (text.front() == '\n' || text.starts_with("\r\n"))
+        return "the end of the line";
+    const std::string_view token = tokenAt(text.substr(0, 2 * maxShown));
+    const std::string shown = excerpt(token, maxShown);
+    if (token.front() != '"' || token.size() == 1)
+        return '"' + shown + '"';
+    return token.size() > maxShown ? shown + '"' : shown;
+}
+
+} // namespace meridane

@@ -1,0 +1,194 @@
+#include "orvane/app/command_line/CommandLine.h"
+
+#include <QCommandLineParser>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+QString sizeLimits()
+{
+    return QStringLiteral("at most %1 a side and %2 million in all")
+        .arg(CommandLine::longestSide)
+        .arg(CommandLine::mostPixels / 1000000);
+}
+
+// The options in the order in which the help shows them.
+struct Options {
+    QCommandLineOption plugin{
+        QStringLiteral("plugin"), QStringLiteral("Load this plug-in as well; repeatable."), QStringLiteral("FILE")};
+    QCommandLineOption profile{
+        QStringLiteral("profile"), QStringLiteral("Start with this profile."), QStringLiteral("NAME")};
+    QCommandLineOption select{QStringLiteral("select"),
+        QStringLiteral("Select a node or field, such as /robot/arm.rotation."), QStringLiteral("PATH")};
+    QCommandLineOption set{QStringLiteral("set"),
+        QStringLiteral("Set a field from its text form, in the order given; repeatable."), QStringLiteral("PATH=TEXT")};
+    QCommandLineOption get{
+        QStringLiteral("get"), QStringLiteral("Print a field's value; repeatable."), QStringLiteral("PATH")};
+    QCommandLineOption list{QStringLiteral("list"),
+        QStringLiteral("Print each node with its class and each field with its type and value. A node that is "
+                       "in several places is printed in full once, then with the path of the first place.")};
+    QCommandLineOption listExtensions{QStringLiteral("list-extensions"),
+        QStringLiteral("Print each extension's order, class, name and handled type.")};
+    QCommandLineOption exportTo{QStringLiteral("export"),
+        QStringLiteral("Write the scene to a file, in the format that its extension names; repeatable."),
+        QStringLiteral("FILE")};
+    QCommandLineOption screenshot{QStringLiteral("screenshot"),
+        QStringLiteral("Write a picture of the window, once it has settled, and quit; needs no display."),
+        QStringLiteral("FILE")};
+    QCommandLineOption size{QStringLiteral("size"),
+        QStringLiteral("Size of the window in pixels, %1.").arg(sizeLimits()), QStringLiteral("WxH")};
+    QCommandLineOption noSettings{QStringLiteral("no-settings"), QStringLiteral("Neither read nor write settings.")};
+    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Print the version.")};
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this help.")};
+
+    void addTo(QCommandLineParser& parser) const
+    {
+        parser.addOptions({plugin, profile, select, set, get, list, listExtensions, exportTo, screenshot, size,
+            noSettings, version, help});
+        parser.addPositionalArgument(QStringLiteral("file"),
+            QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
+    }
+};
+
+// "PATH=TEXT"; the path may hold an equals sign in double quotes only.
+bool splitAssignment(const QString& argument, CommandLine::Assignment& assignment)
+{
+    bool quoted = false;
+    for (qsizetype i = 0; i < argument.size(); ++i) {
+        const QChar character = argument.at(i);
+        if (quoted && character == u'\\')
+            ++i;
+        else if (character == u'"')
+            quoted = !quoted;
+        else if (character == u'=' && !quoted) {
+            assignment = {argument.left(i), argument.mid(i + 1)};
+            return i > 0;
+        }
+    }
+    return false;
+}
+
+std::optional<QString> parseSize(const QString& argument, QSize& size)
+{
+    static const QRegularExpression pattern(QStringLiteral("^([0-9]{1,9})x([0-9]{1,9})$"));
+    const QRegularExpressionMatch match = pattern.match(argument);
+    if (match.hasMatch())
+        size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+    if (size.isEmpty())
+        return QStringLiteral("--size expects WxH, such as 1280x800, not '%1'.").arg(argument);
+    if (!CommandLine::isUsableSize(size))
+        return QStringLiteral("--size %1 is too large: %2.").arg(argument, sizeLimits());
+    return std::nullopt;
+}
+
+QString nameOf(const QCommandLineOption& option)
+{
+    return QStringLiteral("--") + option.names().constFirst();
+}
+
+// What the parser lets pass although it would be ignored, or taken for what was not given at all.
+std::optional<QString> findMisuse(const QCommandLineParser& parser, const Options& options)
+{
+    for (const QCommandLineOption& option : {options.plugin, options.profile, options.select, options.set, options.get,
+             options.exportTo, options.screenshot, options.size}) {
+        if (parser.values(option).contains(QString()))
+            return QStringLiteral("%1 expects %2, not an empty text.").arg(nameOf(option), option.valueName());
+    }
+    // Names of files may be any bytes.
+    for (const QCommandLineOption& option :
+        {options.plugin, options.profile, options.select, options.set, options.get}) {
+        const QStringList values = parser.values(option);
+        if (!std::all_of(values.begin(), values.end(), [](const QString& value) { return value.isValidUtf16(); }))
+            return QStringLiteral("%1 expects UTF-8.").arg(nameOf(option));
+    }
+    for (const QCommandLineOption& option : {options.profile, options.select, options.screenshot, options.size}) {
+        if (parser.values(option).size() > 1)
+            return QStringLiteral("%1 can be given once only.").arg(nameOf(option));
+    }
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1)
+        return QStringLiteral("One file at a time: '%1' is one too many.").arg(files[1]);
+    if (files.contains(QString()))
+        return QStringLiteral("The name of the file is empty.");
+    return std::nullopt;
+}
+
+CommandLine::ParseResult failure(const QString& error)
+{
+    return {CommandLine(), error};
+}
+
+} // namespace
+
+bool CommandLine::isBatch() const
+{
+    const bool asksForOutput = list || listExtensions || !queries.isEmpty() || !exportFiles.isEmpty();
+    return asksForOutput && screenshotFile.isEmpty();
+}
+
+bool CommandLine::needsExtensions() const
+{
+    return !isBatch() || listExtensions || !plugins.isEmpty() || !profile.isEmpty();
+}
+
+bool CommandLine::isUsableSize(const QSize& size)
+{
+    return !size.isEmpty() && size.width() <= longestSide && size.height() <= longestSide
+        && qint64{size.width()} * size.height() <= mostPixels;
+}
+
+CommandLine::ParseResult CommandLine::parse(const QStringList& arguments)
+{
+    const Options options;
+    QCommandLineParser parser;
+    options.addTo(parser);
+    if (!parser.parse(arguments))
+        return failure(parser.errorText());
+
+    CommandLine result;
+    result.help = parser.isSet(options.help);
+    result.version = parser.isSet(options.version);
+    if (result.help || result.version)
+        return {result, QString()};
+
+    if (const auto misuse = findMisuse(parser, options))
+        return failure(*misuse);
+    result.file = parser.positionalArguments().value(0);
+    result.plugins = parser.values(options.plugin);
+    result.profile = parser.value(options.profile);
+    result.select = parser.value(options.select);
+    result.queries = parser.values(options.get);
+    result.exportFiles = parser.values(options.exportTo);
+    result.screenshotFile = parser.value(options.screenshot);
+    result.list = parser.isSet(options.list);
+    result.listExtensions = parser.isSet(options.listExtensions);
+    result.noSettings = parser.isSet(options.noSettings);
+    for (const QString& argument : parser.values(options.set)) {
+        Assignment assignment;
+        if (!splitAssignment(argument, assignment))
+            return failure(QStringLiteral("--set expects PATH=TEXT, not '%1'.").arg(argument));
+        result.assignments.append(assignment);
+    }
+    if (parser.isSet(options.size)) {
+        if (const auto error = parseSize(parser.value(options.size), result.size))
+            return failure(*error);
+    }
+
+    const bool needsScene = result.list || !result.queries.isEmpty() || !result.assignments.isEmpty()
+        || !result.select.isEmpty() || !result.exportFiles.isEmpty();
+    if (needsScene && result.file.isEmpty())
+        return failure(QStringLiteral("A file is missing: --get, --set, --list, --select and --export work on one."));
+    return {result, QString()};
+}
+
+QString CommandLine::helpText()
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Inspects and edits a 3D scene graph."));
+    Options().addTo(parser);
+    // Before there is an application object the parser doesn't know the program's name.
+    return parser.helpText().replace(QLatin1String("<executable_name>"), QLatin1String("orvane"));
+}

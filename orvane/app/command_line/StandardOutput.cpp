@@ -1,0 +1,27 @@
+#include "orvane/app/command_line/StandardOutput.h"
+
+#include "orvane/app/base/PlainText.h"
+
+#include <cstdio>
+
+namespace orvane {
+
+StandardOutput::StandardOutput()
+    : m_stream(stdout)
+{
+}
+
+std::optional<QString> StandardOutput::finish()
+{
+    m_stream.flush();
+    if (m_stream.status() == QTextStream::Ok && std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return std::nullopt;
+    return QStringLiteral("standard output: %1").arg(qt_error_string());
+}
+
+void printError(const QString& message)
+{
+    std::fprintf(stderr, "orvane: %s\n", qPrintable(oneLine(message)));
+}
+
+} // namespace orvane

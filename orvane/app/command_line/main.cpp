@@ -1,0 +1,185 @@
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/command_line/BatchRun.h"
+#include "orvane/app/command_line/CommandLine.h"
+#include "orvane/app/command_line/StandardOutput.h"
+#include "orvane/app/command_line/WindowRun.h"
+
+#include <QApplication>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <memory>
+#include <new>
+#include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int statusFailed = 1;
+constexpr int statusUnusableArguments = 2;
+
+bool isSet(const char* name)
+{
+    return !qEnvironmentVariableIsEmpty(name);
+}
+
+bool hasDisplay()
+{
+    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
+}
+
+int fail(const QString& message, int status)
+{
+    orvane::printError(message);
+    return status;
+}
+
+// An exception that nothing catches, such as one for want of memory in the middle of the event loop.
+[[noreturn]] void endByException()
+{
+    const char* reason = "an exception of unknown kind";
+    try {
+        if (const std::exception_ptr exception = std::current_exception())
+            std::rethrow_exception(exception);
+    } catch (const std::bad_alloc&) {
+        reason = "out of memory";
+    } catch (const std::exception& exception) {
+        reason = exception.what();
+    } catch (...) {
+    }
+    // There may be no memory for more than this.
+    std::fprintf(stderr, "orvane: %s\n", reason);
+    std::_Exit(statusFailed);
+}
+
+// Without them the first files that are opened would take their numbers, and get every message written into them.
+void openStandardStreams()
+{
+    int descriptor = 0;
+    do {
+        // For reading alone, so that output that goes nowhere is still an error.
+        descriptor = ::open("/dev/null", O_RDONLY);
+    } while (descriptor >= 0 && descriptor <= STDERR_FILENO);
+    ::close(descriptor);
+}
+
+// The library would take options such as --plugin for its own, so it gets the program's name alone.
+template <typename Application>
+std::unique_ptr<QCoreApplication> makeApplication(char** argv)
+{
+    static int count = 1;
+    return std::make_unique<Application>(count, argv);
+}
+
+// What Qt says although a user can't do anything about it. The last one is what the image editor's setting of a colour
+// of an image without a colour table leads to.
+bool isNoise(const QString& text)
+{
+    return text.contains(QLatin1String("propagateSizeHints")) || text.startsWith(QLatin1String("QStandardPaths:"))
+        || text == QLatin1String("QImage::setColor: Index out of bound 0");
+}
+
+QtMessageHandler qtMessageHandler = nullptr; // Qt's own
+
+void passOnUnlessNoise(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    if (!isNoise(text) || type == QtFatalMsg)
+        qtMessageHandler(type, context, text);
+}
+
+// A picture or a list doesn't depend on the display, whatever there is.
+std::unique_ptr<QCoreApplication> makeApplicationWithoutScreen(char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qtMessageHandler = qInstallMessageHandler(&passOnUnlessNoise);
+    return makeApplication<QApplication>(argv);
+}
+
+// Where the display can't be reached, the library says so in many lines and aborts. Here it is one line.
+std::unique_ptr<QCoreApplication> makeApplicationOnScreen(char** argv)
+{
+    static QStringList problems;
+    qtMessageHandler
+        = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+              if (!isNoise(text))
+                  problems.append(text.trimmed());
+              if (type != QtFatalMsg)
+                  return;
+              orvane::printError(QStringLiteral("No window can be opened: %1. --screenshot works without a display.")
+                                     .arg(problems.value(0, text.trimmed())));
+              std::_Exit(statusFailed);
+          });
+    auto application = makeApplication<QApplication>(argv);
+    qInstallMessageHandler(&passOnUnlessNoise);
+    for (const QString& problem : std::as_const(problems))
+        orvane::printError(problem);
+    return application;
+}
+
+int runBatch(const CommandLine& commandLine, char** argv)
+{
+    // Plug-ins build widgets as they are loaded; nothing else here needs more than the event loop.
+    const auto application
+        = commandLine.needsExtensions() ? makeApplicationWithoutScreen(argv) : makeApplication<QCoreApplication>(argv);
+    orvane::StandardOutput output;
+    const auto failure = BatchRun(commandLine, output.stream()).run();
+    const auto outputFailure = output.finish();
+    if (failure)
+        return fail(*failure, statusFailed);
+    // Whoever reads a file of half the output must not take it for the whole.
+    return outputFailure ? fail(*outputFailure, statusFailed) : 0;
+}
+
+int runWindow(const CommandLine& commandLine, char** argv)
+{
+    const bool takesPicture = !commandLine.screenshotFile.isEmpty();
+    if (!takesPicture && !hasDisplay())
+        return fail(
+            QStringLiteral("There is no display to open a window on; --screenshot works without one."), statusFailed);
+    const auto application = takesPicture ? makeApplicationWithoutScreen(argv) : makeApplicationOnScreen(argv);
+    return WindowRun(commandLine).run();
+}
+
+int print(const QString& text)
+{
+    orvane::StandardOutput output;
+    output.stream() << text;
+    const auto failure = output.finish();
+    return failure ? fail(*failure, statusFailed) : 0;
+}
+
+int run(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += orvane::fromStdFileName(argv[i]);
+    const auto [commandLine, error] = CommandLine::parse(arguments);
+    if (!error.isEmpty())
+        return fail(error, statusUnusableArguments);
+    if (commandLine.help)
+        return print(CommandLine::helpText());
+    if (commandLine.version)
+        return print(QStringLiteral("orvane " ORVANE_VERSION "\n"));
+    return commandLine.isBatch() ? runBatch(commandLine, argv) : runWindow(commandLine, argv);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    std::set_terminate(endByException);
+    openStandardStreams();
+    // A file that outgrows the user's limit is a write error with a message, not the end of the process.
+    std::signal(SIGXFSZ, SIG_IGN);
+    QCoreApplication::setApplicationName(QStringLiteral("orvane"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
+    try {
+        return run(argc, argv);
+    } catch (...) {
+        endByException();
+    }
+}

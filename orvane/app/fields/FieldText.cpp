@@ -1,0 +1,35 @@
+#include "orvane/app/fields/FieldText.h"
+
+#include "orvane/app/base/TextConversion.h"
+
+#include "meridane/base/values/VbName.h"
+#include "meridane/scene/fields/NxField.h"
+
+#include <string>
+
+namespace orvane {
+
+QString beginningOf(const NxField& field, qsizetype length)
+{
+    constexpr std::size_t valuesASlice = 64;
+    // No character takes more than four bytes, so that many hold enough of them.
+    const auto enough = static_cast<std::size_t>(4 * (length + 1));
+    std::string text;
+    std::size_t position = 0;
+    bool more = true;
+    while (more && text.size() < enough)
+        more = field.writeText(text, position, valuesASlice);
+    QString beginning = toQString(std::string_view(text).substr(0, enough));
+    if (beginning.size() <= length)
+        return beginning;
+    if (beginning.at(length - 1).isHighSurrogate())
+        --length;
+    return beginning.left(length) + QChar(0x2026);
+}
+
+QString typeName(const NxField& field)
+{
+    return QString::fromLatin1(field.getTypeId().getName().getString());
+}
+
+} // namespace orvane

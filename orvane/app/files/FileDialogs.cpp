@@ -1,0 +1,76 @@
+#include "orvane/app/files/FileDialogs.h"
+
+#include "orvane/app/files/FileJobs.h"
+#include "orvane/app/scene/SceneDocument.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("FileDialogs", text);
+}
+
+QFileDialog* makeDialog(
+    QWidget* window, const char* name, const QString& title, const QString& filters, const SceneDocument& document)
+{
+    auto* dialog = new QFileDialog(window, title);
+    dialog->setObjectName(QLatin1String(name));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setNameFilters(filters.split(QStringLiteral(";;")));
+    if (!document.fileName().isEmpty())
+        dialog->setDirectory(QFileInfo(document.fileName()).absolutePath());
+    return dialog;
+}
+
+/// The extension in a name filter such as "STL (*.stl)".
+QString suffixOf(const QString& filter)
+{
+    const qsizetype start = filter.indexOf(QStringLiteral("*.")) + 2;
+    return filter.mid(start, filter.indexOf(QRegularExpression(QStringLiteral("[ )]")), start) - start);
+}
+
+} // namespace
+
+namespace orvane {
+
+QFileDialog* makeOpenDialog(QWidget* window, const SceneDocument& document)
+{
+    QFileDialog* dialog = makeDialog(window, "openDialog", translated("Open"), openFilters(), document);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    return dialog;
+}
+
+QFileDialog* makeImportDialog(QWidget* window, const SceneDocument& document)
+{
+    QFileDialog* dialog = makeDialog(window, "importDialog", translated("Import"), importFilters(), document);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    return dialog;
+}
+
+QFileDialog* makeSaveDialog(QWidget* window, const SceneDocument& document)
+{
+    QFileDialog* dialog = makeDialog(window, "saveDialog", translated("Save Scene"), saveFilters(), document);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("mrd"));
+    const QString name
+        = document.fileName().isEmpty() ? translated("Untitled") : QFileInfo(document.fileName()).completeBaseName();
+    dialog->selectFile(name + QStringLiteral(".mrd"));
+    return dialog;
+}
+
+QFileDialog* makeExportDialog(QWidget* window, const SceneDocument& document)
+{
+    QFileDialog* dialog = makeDialog(window, "exportDialog", translated("Export"), exportFilters(), document);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    const auto setSuffix = [dialog](const QString& filter) { dialog->setDefaultSuffix(suffixOf(filter)); };
+    setSuffix(dialog->selectedNameFilter());
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, setSuffix);
+    return dialog;
+}
+
+} // namespace orvane

@@ -1,0 +1,294 @@
+#include "orvane/app/files/FileFlow.h"
+
+#include "orvane/app/base/PendingEdits.h"
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/files/FileDialogs.h"
+#include "orvane/app/files/FileJobs.h"
+#include "orvane/app/files/RecentFiles.h"
+#include "orvane/app/files/SaveQuestion.h"
+#include "orvane/app/scene/NodeCommands.h"
+#include "orvane/app/scene/ScenePaths.h"
+#include "orvane/app/scene/Session.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+#include <utility>
+
+FileFlow::FileFlow(Session& session, RecentFiles& recent, MessageBar& messages, JobBar& jobBar, QWidget* window)
+    : FileFlow(session, recent, messages, jobBar, window, {orvane::makeLoadJob, orvane::makeSaveJob})
+{
+}
+
+FileFlow::FileFlow(
+    Session& session, RecentFiles& recent, MessageBar& messages, JobBar& jobBar, QWidget* window, JobMakers jobMakers)
+    : QObject(window)
+    , m_session(session)
+    , m_recent(recent)
+    , m_window(window)
+    , m_jobMakers(std::move(jobMakers))
+    , m_work(messages, jobBar, this)
+{
+    connect(&m_work, &FileWork::writingEnded, this, &FileFlow::ended);
+    connect(&session.document(), &SceneDocument::sceneChanged, this,
+        [this] { m_work.dropOtherScenes(m_session.document().sceneNumber()); });
+}
+
+FileFlow::~FileFlow() = default;
+
+void FileFlow::newScene()
+{
+    requestForAnyScene(Kind::New, [this] {
+        leave({[this] {
+            m_work.stopReading(tr("A new scene was made instead."));
+            m_session.document().newScene();
+        }});
+    });
+}
+
+void FileFlow::closeScene()
+{
+    request(Kind::Close, [this] {
+        leave({[this] {
+            m_work.stopReading(tr("The scene was closed."));
+            m_session.document().close();
+        }});
+    });
+}
+
+void FileFlow::open(const QString& fileName, const Opened& opened)
+{
+    m_work.push({Kind::Open, fileName, FileRequest::anyScene, [this, fileName, opened] { startOpen(fileName, opened); },
+        [this, opened](const QString& reason) { endOpen(opened, reason); }});
+}
+
+void FileFlow::import(const QString& fileName)
+{
+    request(
+        Kind::Add, [this, fileName] { startAdd(fileName); }, fileName);
+}
+
+void FileFlow::save()
+{
+    request(Kind::Save, [this] { saveThen({}); });
+}
+
+void FileFlow::saveAs()
+{
+    request(Kind::SaveAs, [this] { chooseSaveFile({}); });
+}
+
+void FileFlow::saveTo(const QString& fileName)
+{
+    if (!SceneDocument::isSceneFileName(fileName)) {
+        exportTo(fileName);
+        return;
+    }
+    request(
+        Kind::Save, [this, fileName] { writeScene(fileName, {}); }, fileName);
+}
+
+void FileFlow::exportTo(const QString& fileName)
+{
+    request(
+        Kind::Export, [this, fileName] { writeModel(fileName); }, fileName);
+}
+
+// What is chosen in a dialog is begun at once: the request had its turn when the dialog was opened.
+
+void FileFlow::chooseFileToOpen()
+{
+    requestForAnyScene(Kind::Open, [this] {
+        QFileDialog* dialog = orvane::makeOpenDialog(m_window, m_session.document());
+        connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& name) { startOpen(name, {}); });
+        m_work.open(dialog);
+    });
+}
+
+void FileFlow::chooseFileToImport()
+{
+    request(Kind::Add, [this] {
+        QFileDialog* dialog = orvane::makeImportDialog(m_window, m_session.document());
+        connect(dialog, &QFileDialog::fileSelected, this, &FileFlow::startAdd);
+        m_work.open(dialog);
+    });
+}
+
+void FileFlow::chooseFileToExport()
+{
+    request(Kind::Export, [this] {
+        if (!m_session.document().isOpen())
+            return;
+        QFileDialog* dialog = orvane::makeExportDialog(m_window, m_session.document());
+        connect(dialog, &QFileDialog::fileSelected, this, &FileFlow::writeModel);
+        m_work.open(dialog);
+    });
+}
+
+void FileFlow::leaveForQuit(const Action& proceed)
+{
+    requestForAnyScene(Kind::Quit, [this, proceed] { leave({proceed}); });
+}
+
+void FileFlow::abandon()
+{
+    m_work.abandon();
+}
+
+void FileFlow::request(Kind kind, const Action& run, const QString& fileName)
+{
+    m_work.push({kind, fileName, m_session.document().sceneNumber(), run});
+}
+
+void FileFlow::requestForAnyScene(Kind kind, const Action& run)
+{
+    m_work.push({kind, {}, FileRequest::anyScene, run});
+}
+
+void FileFlow::leave(const Next& next)
+{
+    orvane::commitPendingEdit();
+    if (!m_session.document().isModified()) {
+        next.proceed();
+        return;
+    }
+    auto* question = new SaveQuestion(m_session.document().displayName(), m_window);
+    connect(question, &SaveQuestion::saveChosen, this, [this, next] { saveThen(next); });
+    connect(question, &SaveQuestion::discardChosen, this, next.proceed);
+    connect(question, &SaveQuestion::cancelChosen, this, next.giveUp);
+    m_work.open(question);
+}
+
+void FileFlow::startOpen(const QString& fileName, const Opened& opened)
+{
+    const FileWork::Reader reader{
+        [this, fileName, opened](const NxRef<NxGroup>& scene) { takeScene(scene, fileName, opened); },
+        [this, fileName, opened](const QString& reason, const QString& error) {
+            forgetIfMissing(fileName);
+            endOpen(opened, reason, error);
+        }};
+    leave({[this, fileName, reader] { m_work.read(Kind::Open, m_jobMakers.load(fileName), reader); },
+        [this, fileName, opened] { cancelOpen(opened, fileName); }});
+}
+
+void FileFlow::startAdd(const QString& fileName)
+{
+    if (const QString opening = m_work.fileBeingOpened(); !opening.isEmpty()) {
+        // It would be lost with the present scene, and nobody has seen the next one yet.
+        m_work.reportGivenUp(
+            {FileRequest::name(Kind::Add, fileName)}, tr("%1 is being opened.").arg(QFileInfo(opening).fileName()));
+        return;
+    }
+    if (!m_session.document().isOpen()) {
+        startOpen(fileName, {});
+        return;
+    }
+    m_work.read(Kind::Add, m_jobMakers.load(fileName),
+        {[this, fileName](const NxRef<NxGroup>& content) { addToScene(content, fileName); },
+            [this, fileName](const QString& /*reason*/, const QString& error) {
+                forgetIfMissing(fileName);
+                Q_EMIT ended(error);
+            }});
+}
+
+void FileFlow::takeScene(const NxRef<NxGroup>& scene, const QString& fileName, const Opened& opened)
+{
+    m_recent.add(fileName);
+    // The old scene could be edited while the new one was read.
+    leave({[this, scene, fileName, opened] {
+               m_session.document().open(scene, fileName);
+               endOpen(opened, {});
+           },
+        [this, fileName, opened] { cancelOpen(opened, fileName); }});
+}
+
+void FileFlow::addToScene(const NxRef<NxGroup>& content, const QString& fileName)
+{
+    m_recent.add(fileName);
+    orvane::rebasePaths(*content, orvane::folderOf(fileName), m_session.document().pathFolder());
+    content->setName(orvane::toVbString(QFileInfo(fileName).completeBaseName()));
+    m_session.services().pushCommand(new AddNodeCommand(m_session.document().scene(), content, m_session.disposal()));
+    Q_EMIT ended({});
+}
+
+void FileFlow::endOpen(const Opened& opened, const QString& failure, const QString& error)
+{
+    if (opened)
+        opened(failure);
+    Q_EMIT ended(error);
+}
+
+void FileFlow::cancelOpen(const Opened& opened, const QString& fileName)
+{
+    endOpen(opened, tr("Opening %1 was cancelled.").arg(fileName));
+}
+
+void FileFlow::forgetIfMissing(const QString& fileName)
+{
+    if (!QFileInfo::exists(fileName))
+        m_recent.remove(fileName);
+}
+
+void FileFlow::saveThen(const Next& next)
+{
+    const QString fileName = m_session.document().saveFileName();
+    if (fileName.isEmpty())
+        chooseSaveFile(next);
+    else
+        writeScene(fileName, next);
+}
+
+void FileFlow::chooseSaveFile(const Next& next)
+{
+    if (!m_session.document().isOpen()) {
+        next.giveUp();
+        return;
+    }
+    QFileDialog* dialog = orvane::makeSaveDialog(m_window, m_session.document());
+    connect(dialog, &QFileDialog::fileSelected, this, [this, next](const QString& fileName) {
+        writeScene(SceneDocument::isSceneFileName(fileName) ? fileName : fileName + QStringLiteral(".mrd"), next);
+    });
+    connect(dialog, &QDialog::rejected, this, next.giveUp);
+    m_work.open(dialog);
+}
+
+void FileFlow::writeScene(const QString& fileName, const Next& next)
+{
+    write(fileName, tr("Saving"),
+        {[this, fileName, next] {
+             m_session.document().setSaved(fileName);
+             m_recent.add(fileName);
+             next.proceed();
+         },
+            next.giveUp});
+}
+
+void FileFlow::writeModel(const QString& fileName)
+{
+    write(fileName, tr("Exporting"),
+        {[this, fileName] { m_work.showWritingMessage(false, tr("Exported to %1.").arg(fileName)); }});
+}
+
+void FileFlow::write(const QString& fileName, const QString& text, const Next& next)
+{
+    if (!mayWrite()) {
+        next.giveUp();
+        return;
+    }
+    const SceneDocument& document = m_session.document();
+    m_work.write(m_jobMakers.save(NxRef<NxGroup>(document.scene()), fileName, document.pathFolder()), text, next);
+}
+
+bool FileFlow::mayWrite()
+{
+    if (!m_session.document().isOpen())
+        return false;
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+        // A drag in progress goes on changing the scene.
+        m_work.showWritingMessage(true, tr("Nothing was saved: a mouse button is held down."));
+        return false;
+    }
+    orvane::commitPendingEdit();
+    return true;
+}

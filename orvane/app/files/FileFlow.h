@@ -1,0 +1,102 @@
+#pragma once
+
+#include "orvane/app/files/FileWork.h"
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+class JobBar;
+class MessageBar;
+class RecentFiles;
+class Session;
+
+/// What happens to the scene and its file when the user opens, adds, saves, exports, closes or quits, and a question
+/// before whatever would lose changes.
+///
+/// What was asked for belongs to the scene that was open then. A file that is opened takes the place of one that is
+/// still read. What is under way is in `FileWork`; docs/robustness.md has the whole table of what becomes of a request
+/// while a job runs.
+///
+/// An open that fails leaves the open scene as it is.
+class FileFlow : public QObject {
+    Q_OBJECT
+
+public:
+    using Action = std::function<void()>;
+    /// How the opening of a file ended: empty when its scene is open now, else why it isn't.
+    using Opened = std::function<void(const QString& failure)>;
+
+    /// What makes the jobs.
+    struct JobMakers {
+        std::function<std::unique_ptr<SceneJob>(const QString& fileName)> load;
+        std::function<std::unique_ptr<FileJob>(
+            const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder)>
+            save;
+    };
+
+    /// The session, the bars and the window live longer than the flow.
+    FileFlow(Session& session, RecentFiles& recent, MessageBar& messages, JobBar& jobBar, QWidget* window);
+    FileFlow(Session& session, RecentFiles& recent, MessageBar& messages, JobBar& jobBar, QWidget* window,
+        JobMakers jobMakers);
+    ~FileFlow() override;
+
+    void newScene();
+    void closeScene();
+    /// `opened` is called once, unless the window is closed first.
+    void open(const QString& fileName, const Opened& opened = {});
+    /// Adds the content of a file to the open scene, in a group of the file's name, as one step of the history; opens
+    /// it when no scene is open.
+    void import(const QString& fileName);
+    /// Saves to the scene's own file, or asks for one.
+    void save();
+    void saveAs();
+    /// Saves or exports, as the file's extension says.
+    void saveTo(const QString& fileName);
+    /// Writes the scene to a file that doesn't become the scene's own.
+    void exportTo(const QString& fileName);
+    void chooseFileToOpen();
+    void chooseFileToImport();
+    void chooseFileToExport();
+
+    /// Goes on with `proceed` once the window may be closed: asks about changes, and waits for a scene that is being
+    /// written. Doesn't go on when the user cancels.
+    void leaveForQuit(const Action& proceed);
+    /// Gives up what is read and what waits, without a message: the window is closed.
+    void abandon();
+
+Q_SIGNALS:
+    /// A job ended, or was given up; `error` is empty unless it failed.
+    void ended(const QString& error);
+
+private:
+    using Kind = FileRequest::Kind;
+    using Next = FileWork::Next;
+
+    void request(Kind kind, const Action& run, const QString& fileName = {});
+    void requestForAnyScene(Kind kind, const Action& run);
+
+    void leave(const Next& next);
+    void startOpen(const QString& fileName, const Opened& opened);
+    void startAdd(const QString& fileName);
+    void takeScene(const NxRef<NxGroup>& scene, const QString& fileName, const Opened& opened);
+    void addToScene(const NxRef<NxGroup>& content, const QString& fileName);
+    void endOpen(const Opened& opened, const QString& failure, const QString& error = {});
+    void cancelOpen(const Opened& opened, const QString& fileName);
+    void forgetIfMissing(const QString& fileName);
+
+    void saveThen(const Next& next);
+    void chooseSaveFile(const Next& next);
+    void writeScene(const QString& fileName, const Next& next);
+    void writeModel(const QString& fileName);
+    void write(const QString& fileName, const QString& text, const Next& next);
+    [[nodiscard]] bool mayWrite();
+
+    Session& m_session;
+    RecentFiles& m_recent;
+    QWidget* m_window;
+    JobMakers m_jobMakers;
+    FileWork m_work;
+};

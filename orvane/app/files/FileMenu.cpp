@@ -1,0 +1,99 @@
+#include "orvane/app/files/FileMenu.h"
+
+#include "orvane/app/base/PlainText.h"
+#include "orvane/app/files/FileFlow.h"
+#include "orvane/app/files/RecentFiles.h"
+#include "orvane/app/scene/SceneDocument.h"
+
+#include <QAction>
+#include <QDir>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStyle>
+
+FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, SceneDocument& document)
+    : QObject(window)
+    , m_window(window)
+    , m_flow(flow)
+    , m_recent(recent)
+    , m_document(document)
+    , m_menu(window->menuBar()->addMenu(tr("&File")))
+{
+    const QStyle* style = window->style();
+    m_new = addAction(tr("&New"), "fileNew");
+    m_new->setShortcut(QKeySequence::New);
+    m_new->setIcon(style->standardIcon(QStyle::SP_FileIcon));
+    connect(m_new, &QAction::triggered, &flow, &FileFlow::newScene);
+    m_open = addAction(tr("&Open…"), "fileOpen");
+    m_open->setShortcut(QKeySequence::Open);
+    m_open->setIcon(style->standardIcon(QStyle::SP_DialogOpenButton));
+    connect(m_open, &QAction::triggered, &flow, &FileFlow::chooseFileToOpen);
+    m_recentMenu = m_menu->addMenu(tr("Open &Recent"));
+    m_recentMenu->setObjectName(QStringLiteral("recentMenu"));
+    m_menu->addSeparator();
+    m_save = addAction(tr("&Save"), "fileSave");
+    m_save->setShortcut(QKeySequence::Save);
+    m_save->setIcon(style->standardIcon(QStyle::SP_DialogSaveButton));
+    connect(m_save, &QAction::triggered, &flow, &FileFlow::save);
+    m_saveAs = addAction(tr("Save &As…"), "fileSaveAs");
+    m_saveAs->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    connect(m_saveAs, &QAction::triggered, &flow, &FileFlow::saveAs);
+    m_menu->addSeparator();
+    QAction* import = addAction(tr("&Import…"), "fileImport");
+    import->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
+    connect(import, &QAction::triggered, &flow, &FileFlow::chooseFileToImport);
+    m_export = addAction(tr("&Export…"), "fileExport");
+    m_export->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
+    connect(m_export, &QAction::triggered, &flow, &FileFlow::chooseFileToExport);
+    m_menu->addSeparator();
+    m_close = addAction(tr("&Close"), "fileClose");
+    m_close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
+    connect(m_close, &QAction::triggered, &flow, &FileFlow::closeScene);
+    QAction* quit = addAction(tr("&Quit"), "fileQuit");
+    quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quit->setMenuRole(QAction::QuitRole);
+    connect(quit, &QAction::triggered, window, &QWidget::close);
+
+    connect(&recent, &RecentFiles::changed, this, &FileMenu::fillRecentMenu);
+    connect(&document, &SceneDocument::sceneChanged, this, &FileMenu::updateActions);
+    fillRecentMenu();
+    updateActions();
+}
+
+QAction* FileMenu::addAction(const QString& text, const char* name)
+{
+    QAction* action = m_menu->addAction(text);
+    action->setObjectName(QLatin1String(name));
+    return action;
+}
+
+QList<QAction*> FileMenu::toolBarActions() const
+{
+    return {m_new, m_open, m_save};
+}
+
+void FileMenu::fillRecentMenu()
+{
+    m_recentMenu->clear();
+    int number = 0;
+    for (const QString& fileName : m_recent.fileNames()) {
+        const QString shown = orvane::menuText(QDir::toNativeSeparators(fileName));
+        QAction* action = m_recentMenu->addAction(
+            ++number < 10 ? QStringLiteral("&%1  %2").arg(number).arg(shown) : QStringLiteral("    %1").arg(shown));
+        action->setToolTip(orvane::plainToolTip(orvane::oneLine(fileName)));
+        action->setData(fileName);
+        connect(action, &QAction::triggered, &m_flow, [this, fileName] { m_flow.open(fileName); });
+    }
+    m_recentMenu->setEnabled(number > 0);
+    if (number == 0)
+        return;
+    m_recentMenu->addSeparator();
+    connect(m_recentMenu->addAction(tr("&Clear List")), &QAction::triggered, &m_recent, &RecentFiles::clear);
+}
+
+void FileMenu::updateActions()
+{
+    for (QAction* action : {m_save, m_saveAs, m_export, m_close})
+        action->setEnabled(m_document.isOpen());
+}

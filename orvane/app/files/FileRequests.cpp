@@ -1,0 +1,90 @@
+#include "orvane/app/files/FileRequests.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("FileRequests", text);
+}
+
+} // namespace
+
+QString FileRequest::name(Kind kind, const QString& fileName)
+{
+    const QString file = fileName.isEmpty() ? translated("a file") : QFileInfo(fileName).fileName();
+    switch (kind) {
+    case Kind::New:
+        return translated("making a new scene");
+    case Kind::Open:
+        return translated("opening %1").arg(file);
+    case Kind::Add:
+        return translated("adding %1").arg(file);
+    case Kind::Save:
+    case Kind::SaveAs:
+        return fileName.isEmpty() ? translated("saving the scene") : translated("saving %1").arg(file);
+    case Kind::Export:
+        return translated("exporting to %1").arg(file);
+    case Kind::Close:
+        return translated("closing the scene");
+    case Kind::Quit:
+        break;
+    }
+    return translated("quitting");
+}
+
+void FileRequests::push(FileRequest request)
+{
+    const auto repeatsLast = [this, &request] {
+        const FileRequest& last = m_waiting.back();
+        return last.kind == request.kind && last.fileName == request.fileName && last.scene == request.scene;
+    };
+    const bool known = request.kind != Kind::Add && !request.lost && !m_waiting.empty() && repeatsLast();
+    if (!known)
+        m_waiting.push_back(std::move(request));
+}
+
+std::optional<FileRequest> FileRequests::takeFirst(const std::function<bool(const FileRequest&)>& mayRun)
+{
+    const auto found = std::find_if(m_waiting.begin(), m_waiting.end(), mayRun);
+    if (found == m_waiting.end())
+        return std::nullopt;
+    FileRequest request = std::move(*found);
+    m_waiting.erase(found);
+    return request;
+}
+
+QStringList FileRequests::dropOtherScenes(int scene, const QString& reason)
+{
+    const auto isOther = [scene](const FileRequest& request) {
+        return request.scene != FileRequest::anyScene && request.scene != scene;
+    };
+    dropIf([&](const FileRequest& request) { return isOther(request) && request.kind == Kind::Close; }, reason);
+    return dropIf(isOther, reason);
+}
+
+QStringList FileRequests::dropLeaving(const QString& reason)
+{
+    return dropIf(
+        [](const FileRequest& request) {
+            return request.kind == Kind::New || request.kind == Kind::Open || request.kind == Kind::Close
+                || request.kind == Kind::Quit;
+        },
+        reason);
+}
+
+QStringList FileRequests::dropIf(const std::function<bool(const FileRequest&)>& condition, const QString& reason)
+{
+    QStringList names;
+    while (const std::optional<FileRequest> request = takeFirst(condition)) {
+        names += request->name();
+        if (request->lost)
+            request->lost(reason);
+    }
+    return names;
+}

@@ -1,0 +1,224 @@
+#include "orvane/app/files/FileWork.h"
+
+#include "orvane/app/files/InputBlock.h"
+#include "orvane/app/files/JobBar.h"
+#include "orvane/app/messages/MessageBar.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
+#include <QFileInfo>
+#include <QScopedValueRollback>
+
+#include <utility>
+
+namespace {
+
+// One each, so that the end of one job doesn't take the message about the other away.
+const QString readingTopic = QStringLiteral("reading");
+const QString writingTopic = QStringLiteral("writing");
+
+QString shortName(const QString& fileName)
+{
+    return QFileInfo(fileName).fileName();
+}
+
+} // namespace
+
+FileWork::FileWork(MessageBar& messages, JobBar& jobBar, QObject* parent)
+    : QObject(parent)
+    , m_messages(messages)
+    , m_jobBar(jobBar)
+{
+}
+
+FileWork::~FileWork() = default;
+
+void FileWork::push(FileRequest request)
+{
+    m_waiting.push(std::move(request));
+    goOn();
+}
+
+void FileWork::open(QDialog* dialog)
+{
+    waitFor(dialog);
+    dialog->open();
+}
+
+void FileWork::waitFor(QWidget* dialog)
+{
+    m_dialogs.append(dialog);
+    dialog->installEventFilter(this);
+    connect(dialog, &QObject::destroyed, this, &FileWork::release);
+}
+
+bool FileWork::eventFilter(QObject* object, QEvent* event)
+{
+    // Not when the window is minimized, which is spontaneous.
+    if (event->type() == QEvent::Hide && !event->spontaneous())
+        release(object);
+    return false;
+}
+
+void FileWork::release(const QObject* dialog)
+{
+    if (m_dialogs.removeOne(dialog))
+        goOnLater();
+}
+
+bool FileWork::isHeld()
+{
+    // An editor's dialog, which is about a field of the open scene.
+    if (QWidget* modal = QApplication::activeModalWidget(); modal != nullptr && !m_dialogs.contains(modal))
+        waitFor(modal);
+    return m_writing || !m_dialogs.isEmpty();
+}
+
+bool FileWork::mayRun(const FileRequest& request) const
+{
+    // Models are added one after the other.
+    return request.kind != Kind::Add || !m_reading || m_reading->kind != Kind::Add;
+}
+
+void FileWork::goOn()
+{
+    if (m_goingOn)
+        return; // the loop below goes on with what has come
+    const QScopedValueRollback inside(m_goingOn, true);
+    while (!isHeld()) {
+        if (m_reading && m_reading->job == nullptr) {
+            const Reading reading = takeReading();
+            reading.reader.take(reading.content);
+            continue;
+        }
+        const auto request = m_waiting.takeFirst([this](const FileRequest& waiting) { return mayRun(waiting); });
+        if (!request)
+            return;
+        request->run();
+    }
+}
+
+// From the event loop, so that no scene is replaced while a dialog or a job is inside one of its own functions.
+void FileWork::goOnLater()
+{
+    QMetaObject::invokeMethod(this, &FileWork::goOn, Qt::QueuedConnection);
+}
+
+void FileWork::read(Kind kind, std::unique_ptr<SceneJob> job, const Reader& reader)
+{
+    const QString name = shortName(job->fileName());
+    stopReading(tr("%1 is opened instead.").arg(name));
+    SceneJob* running = job.get();
+    m_reading.emplace(Reading{kind, job->fileName(), reader, std::move(job), {}});
+    connect(running, &FileJob::finished, this, [this, running] {
+        m_messages.clearTopic(readingTopic);
+        m_reading->content = running->takeScene();
+        retire(std::move(m_reading->job));
+        goOnLater();
+    });
+    connect(running, &FileJob::failed, this, [this](const QString& message) {
+        m_messages.showMessage(MessageBar::Severity::Error, message, readingTopic);
+        loseReading(message, message);
+    });
+    connect(running, &FileJob::cancelled, this,
+        [this] { loseReading(tr("Opening %1 was cancelled.").arg(m_reading->fileName), {}); });
+    m_jobBar.watch(running, kind == Kind::Add ? tr("Adding %1").arg(name) : tr("Opening %1").arg(name));
+    running->start();
+}
+
+QString FileWork::fileBeingOpened() const
+{
+    return m_reading && m_reading->kind == Kind::Open ? m_reading->fileName : QString();
+}
+
+void FileWork::stopReading(const QString& reason)
+{
+    if (!m_reading)
+        return;
+    reportGivenUp({FileRequest::name(m_reading->kind, m_reading->fileName)}, reason);
+    loseReading(reason, {});
+}
+
+void FileWork::loseReading(const QString& reason, const QString& error)
+{
+    const Reading reading = takeReading();
+    reading.reader.lost(reason, error);
+    goOnLater();
+}
+
+FileWork::Reading FileWork::takeReading()
+{
+    Reading reading = std::move(*std::exchange(m_reading, std::nullopt));
+    retire(std::move(reading.job));
+    return reading;
+}
+
+void FileWork::write(std::unique_ptr<FileJob> job, const QString& text, const Next& next)
+{
+    FileJob* running = job.get();
+    m_writing.emplace(Writing{std::move(job), std::make_unique<InputBlock>(&m_jobBar), next});
+    connect(m_writing->block.get(), &InputBlock::escapePressed, running, &FileJob::cancel);
+    connect(running, &FileJob::finished, this, [this] {
+        m_messages.clearTopic(writingTopic);
+        endWriting({}, true);
+    });
+    connect(running, &FileJob::failed, this, [this](const QString& message) {
+        m_messages.showMessage(MessageBar::Severity::Error, message, writingTopic);
+        endWriting(message, false);
+    });
+    connect(running, &FileJob::cancelled, this, [this] { endWriting({}, false); });
+    m_jobBar.watch(running, tr("%1 %2").arg(text, shortName(running->fileName())));
+    running->start();
+}
+
+void FileWork::endWriting(const QString& error, bool written)
+{
+    Writing writing = std::move(*std::exchange(m_writing, std::nullopt));
+    const QString reason = tr("%1 wasn't written.").arg(shortName(writing.job->fileName()));
+    retire(std::move(writing.job));
+    writing.block.reset();
+    // Who asked to leave the scene counted on it; and a window that is closed would take the message with it.
+    if (!written)
+        reportGivenUp(m_waiting.dropLeaving(reason), reason);
+    const std::function<void()>& next = written ? writing.next.proceed : writing.next.giveUp;
+    next();
+    Q_EMIT writingEnded(error);
+    goOnLater();
+}
+
+void FileWork::dropOtherScenes(int openScene)
+{
+    const QString reason = tr("The scene was closed.");
+    if (m_reading && m_reading->kind == Kind::Add)
+        stopReading(reason);
+    reportGivenUp(m_waiting.dropOtherScenes(openScene, reason), reason);
+}
+
+void FileWork::abandon()
+{
+    if (m_reading)
+        static_cast<void>(takeReading());
+    m_waiting = {};
+}
+
+void FileWork::reportGivenUp(const QStringList& names, const QString& reason)
+{
+    if (!names.isEmpty())
+        m_messages.showMessage(
+            MessageBar::Severity::Warning, tr("Not done: %1. %2").arg(names.join(QStringLiteral(", ")), reason));
+}
+
+void FileWork::showWritingMessage(bool isWarning, const QString& text)
+{
+    m_messages.showMessage(
+        isWarning ? MessageBar::Severity::Warning : MessageBar::Severity::Information, text, writingTopic);
+}
+
+void FileWork::retire(std::unique_ptr<FileJob> job)
+{
+    if (job == nullptr)
+        return;
+    disconnect(job.get(), nullptr, this, nullptr);
+    job.release()->deleteLater(); // it may be inside one of its signals
+}

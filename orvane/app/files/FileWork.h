@@ -1,0 +1,108 @@
+#pragma once
+
+#include "orvane/app/files/FileJob.h"
+#include "orvane/app/files/FileRequests.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class InputBlock;
+class JobBar;
+class MessageBar;
+class QDialog;
+
+/// The file that is read, the scene that is written, the dialogs that are open and the requests that wait: all that can
+/// be under way at a time.
+///
+/// At most one file is read and at most one scene is written, and the two don't disturb each other. Requests are
+/// carried out, and what was read is taken over, only while no scene is written and no modal dialog is open, whoever
+/// opened it; until then they wait. While a scene is written, the user can't change it. What is given up is reported.
+class FileWork : public QObject {
+    Q_OBJECT
+
+public:
+    using Kind = FileRequest::Kind;
+
+    /// What becomes of a file that is read. One of the two is called, unless the work is abandoned.
+    struct Reader {
+        std::function<void(const NxRef<NxGroup>& content)> take;
+        /// The reason is a message; `error` is the same where reading failed, and empty where it was stopped.
+        std::function<void(const QString& reason, const QString& error)> lost;
+    };
+    /// What is done after a question, a dialog or a job: the one when all went well, the other when it failed or was
+    /// cancelled.
+    struct Next {
+        std::function<void()> proceed = [] {};
+        std::function<void()> giveUp = [] {};
+    };
+
+    /// The bars live longer than the object.
+    FileWork(MessageBar& messages, JobBar& jobBar, QObject* parent);
+    ~FileWork() override;
+
+    /// Carries a request out as soon as it may.
+    void push(FileRequest request);
+    /// Opens a dialog without blocking.
+    void open(QDialog* dialog);
+
+    /// Starts to read a file, to open or to add it. A file that is still read is given up.
+    void read(Kind kind, std::unique_ptr<SceneJob> job, const Reader& reader);
+    /// The file that is read to be opened, also while it waits to be taken over; empty if there is none.
+    [[nodiscard]] QString fileBeingOpened() const;
+    /// Gives up the file that is read.
+    void stopReading(const QString& reason);
+    /// Starts to write a scene. None must be written already.
+    void write(std::unique_ptr<FileJob> job, const QString& text, const Next& next);
+    /// Gives up what was asked for a scene that isn't the open one any more.
+    void dropOtherScenes(int openScene);
+    /// Gives up what is read and what waits, without a message.
+    void abandon();
+
+    /// Shows a message about what is given up.
+    void reportGivenUp(const QStringList& names, const QString& reason);
+    void showWritingMessage(bool isWarning, const QString& text);
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+Q_SIGNALS:
+    /// A scene was written, or not; `error` is empty unless it failed.
+    void writingEnded(const QString& error);
+
+private:
+    struct Reading {
+        Kind kind;
+        QString fileName;
+        Reader reader;
+        std::unique_ptr<SceneJob> job; // null once the file is read
+        NxRef<NxGroup> content; // of the file that was read
+    };
+    struct Writing {
+        std::unique_ptr<FileJob> job;
+        std::unique_ptr<InputBlock> block;
+        Next next;
+    };
+
+    void waitFor(QWidget* dialog);
+    void release(const QObject* dialog);
+    [[nodiscard]] bool isHeld();
+    [[nodiscard]] bool mayRun(const FileRequest& request) const;
+    void goOn();
+    void goOnLater();
+    void loseReading(const QString& reason, const QString& error);
+    [[nodiscard]] Reading takeReading();
+    void endWriting(const QString& error, bool written);
+    void retire(std::unique_ptr<FileJob> job);
+
+    MessageBar& m_messages;
+    JobBar& m_jobBar;
+    std::optional<Reading> m_reading;
+    std::optional<Writing> m_writing;
+    QList<const QObject*> m_dialogs; // that are open
+    FileRequests m_waiting;
+    bool m_goingOn = false; // inside `goOn`
+};

@@ -1,0 +1,110 @@
+#include "orvane/app/files/ImportJob.h"
+
+#include "orvane/app/base/SliceClock.h"
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/transfer/WorkTime.h"
+
+#include "meridane/base/errors/NxReadError.h"
+#include "meridane/base/values/MessageText.h"
+
+ImportJob::ImportJob(const QString& fileName, const HelperOptions& options)
+    : SceneJob(fileName)
+    , m_helper(options, {QStringLiteral("--packed"), QStringLiteral("--read"), orvane::absoluteFileName(fileName)},
+          orvane::modelSize(orvane::toStdFileName(fileName)))
+{
+    connect(&m_helper, &HelperProcess::outputGrew, this, &ImportJob::takeOutput);
+    connect(&m_helper, &HelperProcess::ended, this, [this] {
+        m_helperEnded = true;
+        if (m_reader)
+            finishWhenAllIsDone();
+        else
+            startReading();
+    });
+    connect(&m_helper, &HelperProcess::failed, this, [this](const QString& reason, bool byHelper) {
+        fail(byHelper ? reason : QStringLiteral("%1: %2").arg(this->fileName(), reason));
+    });
+    connect(&m_slices, &QTimer::timeout, this, &ImportJob::readSlice);
+}
+
+ImportJob::~ImportJob() = default;
+
+void ImportJob::start()
+{
+    Q_EMIT progressed(-1);
+    m_helper.start();
+}
+
+void ImportJob::cancel()
+{
+    if (m_ended)
+        return;
+    end();
+    QMetaObject::invokeMethod(this, &FileJob::cancelled, Qt::QueuedConnection);
+}
+
+void ImportJob::takeOutput()
+{
+    const std::string bytes = m_helper.takeOutput();
+    if (m_reader) {
+        failForNoScene(QStringLiteral("there are bytes behind its end"));
+        return;
+    }
+    m_parts.take(bytes);
+    // Output that doesn't begin like a packed scene may be followed by the helper's own message.
+    if (m_parts.isComplete() || (m_parts.isBroken() && m_parts.hasBegun()))
+        startReading();
+}
+
+void ImportJob::startReading()
+{
+    m_reader = std::make_unique<orvane::PackedSceneReader>(std::move(m_parts));
+    m_slices.start(0);
+}
+
+void ImportJob::readSlice()
+{
+    using State = orvane::PackedSceneReader::State;
+    switch (m_reader->step(SliceClock::length)) {
+    case State::Working:
+        Q_EMIT progressed(m_reader->progress());
+        break;
+    case State::Done:
+        m_slices.stop();
+        finishWhenAllIsDone();
+        break;
+    case State::Failed:
+        failForNoScene(orvane::toQString(m_reader->failure()));
+        break;
+    }
+}
+
+void ImportJob::finishWhenAllIsDone()
+{
+    // A helper that ends badly may have written anything.
+    if (!m_helperEnded || m_reader->state() != orvane::PackedSceneReader::State::Done)
+        return;
+    setScene(m_reader->takeScene());
+    end();
+    Q_EMIT progressed(1);
+    Q_EMIT finished();
+}
+
+void ImportJob::failForNoScene(const QString& reason)
+{
+    fail(QStringLiteral("%1: the import helper gave something that is no scene: %2").arg(fileName(), reason));
+}
+
+void ImportJob::fail(const QString& message)
+{
+    end();
+    NxReadError::post(VbString(), 0, 0, VbString(meridane::withoutMarkup(message.toStdString())));
+    Q_EMIT failed(message);
+}
+
+void ImportJob::end()
+{
+    m_ended = true;
+    m_helper.kill();
+    m_slices.stop();
+    m_reader.reset();
+}

@@ -1,0 +1,92 @@
+#include "orvane/app/messages/MessageBar.h"
+
+#include "orvane/app/messages/MessageRow.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+MessageBar::MessageBar(QWidget* parent)
+    : QWidget(parent)
+    , m_layout(new QVBoxLayout(this))
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(1);
+    hide();
+}
+
+void MessageBar::showMessage(Severity severity, const QString& text, const QString& topic)
+{
+    clearTopic(topic);
+    if (!isShown(text))
+        add(new MessageRow(severity, text, topic, this));
+}
+
+void MessageBar::showQuestion(
+    const QString& text, const QString& topic, const QString& buttonText, const std::function<void()>& accept)
+{
+    clearTopic(topic);
+    if (isShown(text))
+        return;
+    auto* row = new MessageRow(Severity::Warning, text, topic, this);
+    row->addButton(buttonText);
+    connect(row, &MessageRow::accepted, this, [this, row, accept] {
+        remove(row);
+        accept();
+    });
+    add(row);
+}
+
+bool MessageBar::isShown(const QString& text) const
+{
+    return std::any_of(m_rows.begin(), m_rows.end(), [&text](const MessageRow* row) { return row->text() == text; });
+}
+
+void MessageBar::add(MessageRow* row)
+{
+    if (m_rows.size() == capacity) {
+        const auto oldest
+            = std::find_if(m_rows.begin(), m_rows.end(), [](const MessageRow* each) { return !each->hasButton(); });
+        remove(oldest != m_rows.end() ? *oldest : m_rows.front());
+    }
+    connect(row, &MessageRow::closed, this, [this, row] {
+        remove(row);
+        Q_EMIT closed(row->topic());
+    });
+    m_rows.push_back(row);
+    m_layout->addWidget(row);
+    show();
+}
+
+void MessageBar::clearTopic(const QString& topic)
+{
+    if (topic.isEmpty())
+        return;
+    const auto found
+        = std::find_if(m_rows.begin(), m_rows.end(), [&topic](const MessageRow* row) { return row->topic() == topic; });
+    if (found != m_rows.end())
+        remove(*found);
+}
+
+void MessageBar::clear()
+{
+    while (!m_rows.empty())
+        remove(m_rows.back());
+}
+
+QStringList MessageBar::texts() const
+{
+    QStringList texts;
+    for (const MessageRow* row : m_rows)
+        texts.append(row->text());
+    return texts;
+}
+
+void MessageBar::remove(MessageRow* row)
+{
+    std::erase(m_rows, row);
+    m_layout->removeWidget(row);
+    row->hide();
+    row->deleteLater();
+    setVisible(!m_rows.empty());
+}

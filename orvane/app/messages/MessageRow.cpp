@@ -1,0 +1,90 @@
+#include "orvane/app/messages/MessageRow.h"
+
+#include "orvane/app/messages/MessageText.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyle>
+#include <QToolButton>
+
+namespace {
+
+QStyle::StandardPixmap pixmapOf(MessageBar::Severity severity)
+{
+    switch (severity) {
+    case MessageBar::Severity::Information:
+        return QStyle::SP_MessageBoxInformation;
+    case MessageBar::Severity::Warning:
+        return QStyle::SP_MessageBoxWarning;
+    case MessageBar::Severity::Error:
+        break;
+    }
+    return QStyle::SP_MessageBoxCritical;
+}
+
+QColor colorOf(MessageBar::Severity severity)
+{
+    switch (severity) {
+    case MessageBar::Severity::Information:
+        return {70, 130, 215};
+    case MessageBar::Severity::Warning:
+        return {224, 164, 48};
+    case MessageBar::Severity::Error:
+        break;
+    }
+    return {214, 80, 70};
+}
+
+} // namespace
+
+MessageRow::MessageRow(MessageBar::Severity severity, const QString& text, const QString& topic, QWidget* parent)
+    : QFrame(parent)
+    , m_severity(severity)
+    , m_topic(topic)
+    , m_text(new MessageText(text, this))
+    , m_layout(new QHBoxLayout(this))
+{
+    m_layout->setContentsMargins(12, 6, 6, 6);
+    auto* icon = new QLabel(this);
+    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    icon->setPixmap(style()->standardIcon(pixmapOf(severity)).pixmap(size));
+    m_layout->addWidget(icon, 0, Qt::AlignTop);
+
+    m_text->setObjectName(QStringLiteral("messageText"));
+    m_layout->addWidget(m_text, 1, Qt::AlignTop);
+
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("closeMessage"));
+    button->setAutoRaise(true);
+    button->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    button->setToolTip(tr("Close this message"));
+    button->setAccessibleName(button->toolTip());
+    connect(button, &QToolButton::clicked, this, &MessageRow::closed);
+    m_layout->addWidget(button, 0, Qt::AlignTop);
+}
+
+void MessageRow::addButton(const QString& text)
+{
+    m_hasButton = true;
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QStringLiteral("acceptMessage"));
+    connect(button, &QPushButton::clicked, this, &MessageRow::accepted);
+    m_layout->insertWidget(m_layout->indexOf(m_text) + 1, button, 0, Qt::AlignTop);
+}
+
+QString MessageRow::text() const
+{
+    return m_text->toPlainText();
+}
+
+void MessageRow::paintEvent(QPaintEvent*)
+{
+    // A tint over the window's own colour, so that the text keeps its contrast in light and in dark palettes.
+    QPainter painter(this);
+    QColor tint = colorOf(m_severity);
+    painter.fillRect(QRect(0, 0, 4, height()), tint);
+    tint.setAlpha(48);
+    painter.fillRect(rect(), tint);
+}

@@ -1,0 +1,97 @@
+#include "orvane/app/scene/SceneDocument.h"
+
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/scene/SceneDisposal.h"
+#include "orvane/app/scene/ScenePaths.h"
+#include "orvane/extender/OrvServices.h"
+
+#include <QFileInfo>
+
+SceneDocument::SceneDocument(OrvServices& services, SceneDisposal& disposal)
+    : m_services(services)
+    , m_disposal(disposal)
+{
+    connect(&services, &OrvServices::historyChanged, this, &SceneDocument::reportModified);
+}
+
+SceneDocument::~SceneDocument()
+{
+    close();
+}
+
+QString SceneDocument::saveFileName() const
+{
+    return isSceneFileName(m_fileName) ? m_fileName : QString();
+}
+
+QString SceneDocument::displayName() const
+{
+    if (!isOpen())
+        return {};
+    return m_fileName.isEmpty() ? tr("Untitled") : QFileInfo(m_fileName).fileName();
+}
+
+bool SceneDocument::isModified() const
+{
+    return isOpen() && !m_services.isClean();
+}
+
+void SceneDocument::newScene()
+{
+    replace(NxRef<NxGroup>(new NxGroup), QString());
+}
+
+void SceneDocument::open(NxRef<NxGroup> scene, const QString& fileName)
+{
+    replace(std::move(scene), orvane::absoluteFileName(fileName));
+}
+
+void SceneDocument::close()
+{
+    if (isOpen())
+        replace(NxRef<NxGroup>(), QString());
+}
+
+void SceneDocument::setSaved(const QString& fileName)
+{
+    m_services.setClean();
+    if (m_pathFolder.isEmpty())
+        m_pathFolder = orvane::folderOf(fileName);
+    setFileName(orvane::absoluteFileName(fileName));
+    reportModified();
+}
+
+bool SceneDocument::isSceneFileName(const QString& fileName)
+{
+    return fileName.endsWith(QStringLiteral(".mrd"), Qt::CaseInsensitive);
+}
+
+void SceneDocument::replace(NxRef<NxGroup> scene, const QString& fileName)
+{
+    // Editors let go of fields, views of nodes and commands of both, in this order, ahead of the death of the scene.
+    m_services.selectField(nullptr);
+    m_services.selectNode(nullptr);
+    Q_EMIT sceneAboutToChange();
+    m_services.clearHistory();
+    m_disposal.dispose(std::exchange(m_scene, std::move(scene)));
+    ++m_sceneNumber;
+    m_pathFolder = orvane::folderOf(fileName);
+    m_fileName = fileName; // whoever shows the scene may ask for its folder
+    Q_EMIT sceneChanged();
+    setFileName(fileName);
+    reportModified();
+}
+
+void SceneDocument::setFileName(const QString& fileName)
+{
+    m_fileName = fileName;
+    Q_EMIT fileNameChanged();
+}
+
+void SceneDocument::reportModified()
+{
+    if (isModified() == m_reportedModified)
+        return;
+    m_reportedModified = isModified();
+    Q_EMIT modifiedChanged(m_reportedModified);
+}

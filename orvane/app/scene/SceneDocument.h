@@ -1,0 +1,72 @@
+#pragma once
+
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxGroup.h"
+
+#include <QObject>
+#include <QString>
+
+class OrvServices;
+class SceneDisposal;
+
+/// The scene that is open, the file it belongs to, and whether it has changes that aren't saved.
+///
+/// The services' history is that of this scene: it goes with it. Thread of the user interface only.
+class SceneDocument : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both live longer than the document.
+    SceneDocument(OrvServices& services, SceneDisposal& disposal);
+    ~SceneDocument() override;
+
+    [[nodiscard]] bool isOpen() const noexcept { return static_cast<bool>(m_scene); }
+    /// The group that holds the top nodes, or null while nothing is open.
+    [[nodiscard]] NxGroup* scene() const noexcept { return m_scene.get(); }
+    /// The file that the scene came from or was last saved to, absolute; empty for a new scene.
+    [[nodiscard]] const QString& fileName() const noexcept { return m_fileName; }
+    /// The folder that relative file paths in the scene count from: that of the file that the scene was opened from, or
+    /// first saved to; empty for a new scene. Saving elsewhere doesn't change the scene, so it doesn't change this
+    /// either.
+    [[nodiscard]] const QString& pathFolder() const noexcept { return m_pathFolder; }
+    /// The file that saving writes: empty where the user must choose one, as for a scene that was imported.
+    [[nodiscard]] QString saveFileName() const;
+    /// What to call the scene in front of the user.
+    [[nodiscard]] QString displayName() const;
+    [[nodiscard]] bool isModified() const;
+    /// Another number for each scene that was open, and for each time without one. So long work can check that the
+    /// scene it was started for is still the one that is open.
+    [[nodiscard]] int sceneNumber() const noexcept { return m_sceneNumber; }
+
+    /// Opens an empty scene in place of the present one.
+    void newScene();
+    /// Opens a scene in place of the present one.
+    void open(NxRef<NxGroup> scene, const QString& fileName);
+    /// Leaves nothing open.
+    void close();
+    /// Notes that the scene, as it stands, was saved to that file.
+    void setSaved(const QString& fileName);
+
+    /// Whether a file of that name holds a scene in our own format.
+    [[nodiscard]] static bool isSceneFileName(const QString& fileName);
+
+Q_SIGNALS:
+    /// The present scene is about to be closed: whoever holds one of its nodes lets go.
+    void sceneAboutToChange();
+    void sceneChanged();
+    void fileNameChanged();
+    void modifiedChanged(bool modified);
+
+private:
+    void replace(NxRef<NxGroup> scene, const QString& fileName);
+    void setFileName(const QString& fileName);
+    void reportModified();
+
+    OrvServices& m_services;
+    SceneDisposal& m_disposal;
+    NxRef<NxGroup> m_scene;
+    QString m_fileName;
+    QString m_pathFolder;
+    int m_sceneNumber = 1;
+    bool m_reportedModified = false;
+};

@@ -1,0 +1,287 @@
+#include "orvane/app/scene/SceneTreeModel.h"
+
+#include "orvane/app/base/PlainText.h"
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/scene/NodeIcons.h"
+#include "orvane/app/scene/NodeSearch.h"
+#include "orvane/app/scene/SceneBranch.h"
+#include "orvane/app/scene/ShownNodes.h"
+
+#include <QFont>
+
+#include <algorithm>
+
+namespace {
+
+/// Of a name; the time to lay a row out grows with it.
+constexpr qsizetype mostCharacters = 200;
+/// What the line of an editor takes, by its default: the rest of a longer name is cut off in it.
+constexpr qsizetype mostInALine = 32767;
+
+} // namespace
+
+SceneTreeModel::SceneTreeModel(QObject* parent)
+    : QAbstractItemModel(parent)
+    , m_shown(std::make_unique<ShownNodes>(
+          [this](SceneBranch& branch, NxNode& node, bool unfolds) { updateRows(branch, node, unfolds); }))
+{
+}
+
+SceneTreeModel::~SceneTreeModel() = default;
+
+void SceneTreeModel::setScene(NxGroup* scene)
+{
+    beginResetModel();
+    m_shown->clear();
+    m_root.reset();
+    if (scene != nullptr) {
+        m_root = std::make_unique<SceneBranch>(scene, nullptr, 0);
+        m_root->insertRows(0, scene->getChildren());
+        watch(*m_root);
+    }
+    endResetModel();
+}
+
+NxNode* SceneTreeModel::node(const QModelIndex& index) const
+{
+    return index.isValid() ? static_cast<SceneBranch*>(index.internalPointer())->child(index.row()) : nullptr;
+}
+
+NxGroup* SceneTreeModel::group(const QModelIndex& index) const
+{
+    return index.isValid() ? dynamic_cast<NxGroup*>(static_cast<SceneBranch*>(index.internalPointer())->node())
+                           : nullptr;
+}
+
+std::vector<NxNode*> SceneTreeModel::path(const QModelIndex& index) const
+{
+    std::vector<NxNode*> nodes;
+    for (QModelIndex step = index; step.isValid(); step = step.parent())
+        nodes.push_back(node(step));
+    std::reverse(nodes.begin(), nodes.end());
+    return nodes;
+}
+
+QModelIndex SceneTreeModel::indexOfPath(std::span<NxNode* const> nodes)
+{
+    QModelIndex index;
+    for (NxNode* step : nodes) {
+        fetchMore(index);
+        const SceneBranch* branch = branchOf(index);
+        const int row = branch != nullptr ? branch->findRow(step) : -1;
+        if (row < 0)
+            return {};
+        index = this->index(row, NameColumn, index);
+    }
+    return index;
+}
+
+QModelIndex SceneTreeModel::findNode(const NxFieldContainer* node)
+{
+    if (m_root == nullptr || node == nullptr)
+        return {};
+    const QModelIndex fetched = findFetched(*m_root, node);
+    return fetched.isValid() ? fetched : indexOfPath(orvane::findPath(m_root->node(), node));
+}
+
+QModelIndex SceneTreeModel::index(int row, int column, const QModelIndex& parent) const
+{
+    SceneBranch* branch = branchOf(parent);
+    if (branch == nullptr || row < 0 || row >= branch->count() || column < 0 || column >= ColumnCount)
+        return {};
+    return createIndex(row, column, branch);
+}
+
+QModelIndex SceneTreeModel::parent(const QModelIndex& index) const
+{
+    return index.isValid() ? indexOfBranch(*static_cast<SceneBranch*>(index.internalPointer())) : QModelIndex();
+}
+
+int SceneTreeModel::rowCount(const QModelIndex& parent) const
+{
+    const SceneBranch* branch = branchOf(parent);
+    return branch != nullptr ? branch->count() : 0;
+}
+
+int SceneTreeModel::columnCount(const QModelIndex&) const
+{
+    return ColumnCount;
+}
+
+bool SceneTreeModel::hasChildren(const QModelIndex& parent) const
+{
+    if (const SceneBranch* branch = branchOf(parent))
+        return branch->count() > 0;
+    return canFetchMore(parent);
+}
+
+bool SceneTreeModel::canFetchMore(const QModelIndex& parent) const
+{
+    return parent.isValid() && parent.column() == NameColumn && branchOf(parent) == nullptr
+        && !node(parent)->getChildren().empty();
+}
+
+void SceneTreeModel::fetchMore(const QModelIndex& parent)
+{
+    if (canFetchMore(parent))
+        updateBranch(addBranch(parent));
+}
+
+QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
+{
+    NxNode* shown = node(index);
+    if (shown == nullptr)
+        return {};
+    m_shown->note(*static_cast<SceneBranch*>(index.internalPointer()), *shown);
+    const bool unnamed = shown->getName().isEmpty();
+    switch (role) {
+    case Qt::DisplayRole:
+        if (index.column() == NameColumn && !unnamed)
+            return orvane::shortLine(orvane::toQString(shown->getName()), mostCharacters);
+        return QString::fromUtf8(shown->getClassName());
+    case Qt::EditRole:
+        return index.column() == NameColumn ? orvane::toQString(shown->getName())
+                                            : QString::fromUtf8(shown->getClassName());
+    case Qt::DecorationRole:
+        return index.column() == NameColumn ? QVariant(orvane::nodeIcon(shown->getTypeId())) : QVariant();
+    case Qt::FontRole: {
+        QFont font;
+        font.setItalic(true);
+        return unnamed && index.column() == NameColumn ? QVariant(font) : QVariant();
+    }
+    case Qt::ToolTipRole:
+        return toolTip(index);
+    default:
+        return {};
+    }
+}
+
+bool SceneTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (!index.isValid() || index.column() != NameColumn || role != Qt::EditRole)
+        return false;
+    if (value.toString() != orvane::toQString(node(index)->getName()).left(mostInALine))
+        Q_EMIT renameRequested(node(index), value.toString());
+    return true;
+}
+
+QVariant SceneTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return section == NameColumn ? tr("Name") : tr("Class");
+}
+
+Qt::ItemFlags SceneTreeModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    return index.isValid() && index.column() == NameColumn ? flags | Qt::ItemIsEditable : flags;
+}
+
+SceneBranch* SceneTreeModel::branchOf(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return m_root.get();
+    if (index.column() != NameColumn)
+        return nullptr;
+    return static_cast<SceneBranch*>(index.internalPointer())->branch(index.row());
+}
+
+QModelIndex SceneTreeModel::indexOfBranch(const SceneBranch& branch) const
+{
+    return branch.parent() != nullptr ? createIndex(branch.row(), NameColumn, branch.parent()) : QModelIndex();
+}
+
+QModelIndex SceneTreeModel::findFetched(SceneBranch& branch, const NxFieldContainer* node) const
+{
+    const auto* wanted = dynamic_cast<const NxNode*>(node);
+    const int row = branch.findRow(wanted);
+    if (row >= 0)
+        return createIndex(row, NameColumn, &branch);
+    for (const auto& [place, below] : branch.branches()) {
+        const QModelIndex found = findFetched(*below, node);
+        if (found.isValid())
+            return found;
+    }
+    return {};
+}
+
+SceneBranch& SceneTreeModel::addBranch(const QModelIndex& index)
+{
+    SceneBranch& branch = static_cast<SceneBranch*>(index.internalPointer())->addBranch(index.row());
+    watch(branch);
+    return branch;
+}
+
+void SceneTreeModel::watch(SceneBranch& branch)
+{
+    branch.watch([this, &branch] { updateBranch(branch); });
+}
+
+void SceneTreeModel::forgetBelow(SceneBranch& branch, int row, int count)
+{
+    for (int i = row; i < row + count; ++i) {
+        if (SceneBranch* below = branch.branch(i)) {
+            forgetBelow(*below, 0, below->count());
+            m_shown->forget(*below);
+        }
+        m_shown->forget(branch, *branch.child(i));
+    }
+}
+
+void SceneTreeModel::updateBranch(SceneBranch& branch)
+{
+    const std::span<NxNode* const> now = branch.node()->getChildren();
+    const int before = branch.count();
+    const int after = static_cast<int>(now.size());
+    int same = 0;
+    while (same < std::min(before, after) && branch.child(same) == now[static_cast<std::size_t>(same)])
+        ++same;
+    int tail = 0;
+    while (tail < std::min(before, after) - same
+        && branch.child(before - tail - 1) == now[static_cast<std::size_t>(after - tail - 1)])
+        ++tail;
+
+    const QModelIndex parent = indexOfBranch(branch);
+    if (const int gone = before - same - tail; gone > 0) {
+        beginRemoveRows(parent, same, same + gone - 1);
+        forgetBelow(branch, same, gone);
+        branch.removeRows(same, gone);
+        endRemoveRows();
+    }
+    if (const int come = after - same - tail; come > 0) {
+        beginInsertRows(parent, same, same + come - 1);
+        branch.insertRows(same, now.subspan(static_cast<std::size_t>(same), static_cast<std::size_t>(come)));
+        endInsertRows();
+    }
+}
+
+void SceneTreeModel::updateRows(SceneBranch& branch, NxNode& node, bool unfolds)
+{
+    for (int row = branch.findRow(&node); row >= 0; row = branch.findRow(&node, row + 1)) {
+        const QModelIndex first = createIndex(row, NameColumn, &branch);
+        Q_EMIT dataChanged(first, createIndex(row, ClassColumn, &branch));
+        // Views learn whether an item can be unfolded from its rows, so its first children become rows at once.
+        if (unfolds && canFetchMore(first))
+            fetchMore(first);
+        else if (unfolds && branchOf(first) == nullptr)
+            layoutAgain();
+    }
+}
+
+void SceneTreeModel::layoutAgain()
+{
+    Q_EMIT layoutAboutToBeChanged();
+    Q_EMIT layoutChanged();
+}
+
+QString SceneTreeModel::toolTip(const QModelIndex& index) const
+{
+    const NxNode* shown = node(index);
+    QString text = QString::fromUtf8(shown->getClassName());
+    if (!shown->getName().isEmpty())
+        text += QStringLiteral(" \"%1\"").arg(orvane::shortLine(orvane::toQString(shown->getName()), mostCharacters));
+    if (const std::size_t count = shown->getChildren().size(); count > 0)
+        text += count == 1 ? tr(", 1 child node") : tr(", %1 child nodes").arg(count);
+    return orvane::plainToolTip(text);
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "meridane/scene/nodes/NxGroup.h"
+
+#include <QAbstractItemModel>
+
+#include <memory>
+#include <span>
+#include <vector>
+
+class SceneBranch;
+class ShownNodes;
+
+/// The nodes of a scene as a tree of rows: their names and their classes.
+///
+/// The rows under a node come into being when a view first asks for them, and only nodes with unfolded children take
+/// memory here, beyond a pointer a row; finding the parent or the row of an index takes the same time in any scene. A
+/// node that stands in several places of the scene has a row in each. Changes of names and of lists of children arrive
+/// by sensors, so a moment later. The model edits nothing: it asks for it.
+class SceneTreeModel : public QAbstractItemModel {
+    Q_OBJECT
+
+public:
+    enum Column { NameColumn, ClassColumn, ColumnCount };
+
+    explicit SceneTreeModel(QObject* parent = nullptr);
+    ~SceneTreeModel() override;
+
+    /// Shows what stands in this group; null for nothing. Nodes that are shown are held alive.
+    void setScene(NxGroup* scene);
+
+    [[nodiscard]] NxNode* node(const QModelIndex& index) const;
+    /// The group that the index's node is a child of.
+    [[nodiscard]] NxGroup* group(const QModelIndex& index) const;
+    /// The nodes from the top one down to that of the index.
+    [[nodiscard]] std::vector<NxNode*> path(const QModelIndex& index) const;
+    /// The index that these nodes lead to, each a child of the one before; fetches rows as needed.
+    [[nodiscard]] QModelIndex indexOfPath(std::span<NxNode* const> nodes);
+    /// The first place of a node: among the rows that are there, else anywhere in the scene.
+    [[nodiscard]] QModelIndex findNode(const NxFieldContainer* node);
+
+    [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QModelIndex parent(const QModelIndex& index) const override;
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] bool hasChildren(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] bool canFetchMore(const QModelIndex& parent) const override;
+    void fetchMore(const QModelIndex& parent) override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+Q_SIGNALS:
+    /// The user gave a node another name in a view.
+    void renameRequested(NxNode* node, const QString& name);
+
+private:
+    [[nodiscard]] SceneBranch* branchOf(const QModelIndex& index) const;
+    [[nodiscard]] QModelIndex indexOfBranch(const SceneBranch& branch) const;
+    [[nodiscard]] QModelIndex findFetched(SceneBranch& branch, const NxFieldContainer* node) const;
+    SceneBranch& addBranch(const QModelIndex& index);
+    void watch(SceneBranch& branch);
+    void forgetBelow(SceneBranch& branch, int row, int count);
+    void updateBranch(SceneBranch& branch);
+    void updateRows(SceneBranch& branch, NxNode& node, bool unfolds);
+    void layoutAgain();
+    [[nodiscard]] QString toolTip(const QModelIndex& index) const;
+
+    std::unique_ptr<SceneBranch> m_root;
+    std::unique_ptr<ShownNodes> m_shown;
+};

@@ -1,0 +1,95 @@
+#include "orvane/app/scene/SceneTreePanel.h"
+
+#include "orvane/app/scene/SceneTreeModel.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace {
+
+/// A scene with more top nodes than this is shown folded.
+constexpr int mostUnfolded = 20;
+
+} // namespace
+
+SceneTreePanel::SceneTreePanel(QWidget* parent)
+    : QWidget(parent)
+    , m_model(new SceneTreeModel(this))
+    , m_view(new QTreeView(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view);
+    m_view->setObjectName(QStringLiteral("sceneTree"));
+    m_view->setAccessibleName(tr("Scene"));
+    m_view->setModel(m_model);
+    m_view->setUniformRowHeights(true);
+    m_view->setAlternatingRowColors(true);
+    m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setEditTriggers(QAbstractItemView::DoubleClicked);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_view->setTextElideMode(Qt::ElideMiddle);
+    m_view->header()->setSectionResizeMode(SceneTreeModel::NameColumn, QHeaderView::Interactive);
+    m_view->header()->setStretchLastSection(true);
+    // Scenes are deep, and the names of classes short: so there is as much room for the name as they leave.
+    constexpr int indentation = 14;
+    m_view->setIndentation(indentation);
+    m_view->header()->resizeSection(SceneTreeModel::NameColumn, fontMetrics().averageCharWidth() * 32);
+    // Not the current index: a view that gets the focus makes its first row current by itself, which chooses nothing.
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+        [this] { Q_EMIT currentChanged(currentNode()); });
+    setFocusProxy(m_view);
+}
+
+QModelIndex SceneTreePanel::current() const
+{
+    const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? QModelIndex() : selected.front().siblingAtColumn(SceneTreeModel::NameColumn);
+}
+
+NxNode* SceneTreePanel::currentNode() const
+{
+    return m_model->node(current());
+}
+
+void SceneTreePanel::setCurrent(const QModelIndex& index)
+{
+    if (index == current())
+        return;
+    if (index.isValid()) {
+        m_view->setCurrentIndex(index);
+        m_view->scrollTo(index);
+    } else {
+        m_view->selectionModel()->clear();
+    }
+}
+
+void SceneTreePanel::setScene(NxGroup* scene)
+{
+    const bool hadCurrent = current().isValid();
+    m_model->setScene(scene);
+    if (hadCurrent)
+        Q_EMIT currentChanged(nullptr); // a reset takes the current row away without a word
+    if (m_model->rowCount() > mostUnfolded)
+        return;
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const QModelIndex index = m_model->index(row, SceneTreeModel::NameColumn);
+        if (m_model->node(index)->getChildren().size() <= mostUnfolded)
+            m_view->expand(index);
+    }
+}
+
+void SceneTreePanel::renameCurrent()
+{
+    if (!current().isValid())
+        return;
+    m_view->setFocus();
+    m_view->edit(current());
+}
+
+void SceneTreePanel::addNodeAction(QAction* action)
+{
+    m_view->addAction(action);
+}

@@ -1,0 +1,98 @@
+#include "orvane/app/scene/SelectionStatus.h"
+
+#include "orvane/app/base/SliceClock.h"
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/scene/SelectionLabel.h"
+#include "orvane/app/scene/Session.h"
+
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxFieldData.h"
+
+#include <QLabel>
+#include <QStatusBar>
+
+#include <algorithm>
+
+namespace {
+
+/// "1 node", "2 nodes".
+QString counted(std::size_t count, const QString& one, const QString& many)
+{
+    return count == 1 ? QStringLiteral("1 %1").arg(one) : QStringLiteral("%1 %2").arg(count).arg(many);
+}
+
+} // namespace
+
+SelectionStatus::SelectionStatus(Session& session, SceneTreePanel* tree, QStatusBar* bar)
+    : QObject(bar)
+    , m_session(session)
+    , m_tree(tree)
+    , m_path(new SelectionLabel(bar))
+    , m_counts(new QLabel(bar))
+{
+    m_counts->setObjectName(QStringLiteral("selectionCounts"));
+    bar->addWidget(m_path, 1);
+    bar->addPermanentWidget(m_counts);
+    const OrvServices& services = session.services();
+    connect(&services, &OrvServices::selectedNodeChanged, this, &SelectionStatus::updateSoon);
+    connect(&services, &OrvServices::selectedFieldChanged, this, &SelectionStatus::updateSoon);
+    connect(&session.document(), &SceneDocument::sceneChanged, this, &SelectionStatus::updateSoon);
+    const SceneTreeModel* model = tree->model();
+    connect(model, &QAbstractItemModel::dataChanged, this, &SelectionStatus::updateSoon);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &SelectionStatus::updateSoon);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &SelectionStatus::updateSoon);
+}
+
+void SelectionStatus::updateSoon()
+{
+    // Once for many changes, and not while the user waits.
+    m_timer.start(0, this);
+}
+
+void SelectionStatus::timerEvent(QTimerEvent*)
+{
+    const NxGroup* scene = m_session.document().scene();
+    NxNode* node = m_tree->currentNode();
+    const std::optional<std::vector<int>> way = scene != nullptr && node != nullptr ? places(*scene) : std::nullopt;
+    if (scene == nullptr || node == nullptr) {
+        m_path->setPath({});
+        m_counts->setText(
+            scene == nullptr ? QString() : counted(scene->getChildren().size(), tr("top node"), tr("top nodes")));
+        m_namer.clear();
+    } else if (way) {
+        const auto path = m_namer.name(*scene, *way, m_session.services().getSelectedField(), SliceClock::length);
+        if (!path)
+            return; // the timer goes on
+        m_path->setPath(orvane::toQString(*path));
+        showCounts(*node);
+    }
+    m_timer.stop();
+}
+
+std::optional<std::vector<int>> SelectionStatus::places(const NxGroup& scene) const
+{
+    std::vector<int> rows;
+    for (QModelIndex step = m_tree->current(); step.isValid(); step = step.parent())
+        rows.push_back(step.row());
+    std::reverse(rows.begin(), rows.end());
+    // The tree may be behind the scene for a moment; it tells when it has caught up.
+    const NxNode* node = &scene;
+    for (const int row : rows) {
+        const auto children = node->getChildren();
+        if (static_cast<std::size_t>(row) >= children.size())
+            return std::nullopt;
+        node = children[static_cast<std::size_t>(row)];
+    }
+    return node == m_tree->currentNode() ? std::optional(rows) : std::nullopt;
+}
+
+void SelectionStatus::showCounts(NxNode& node)
+{
+    const auto fields = static_cast<std::size_t>(node.getFieldData()->getNumFields());
+    QString counts = counted(fields, tr("field"), tr("fields"));
+    if (const std::size_t children = node.getChildren().size(); children > 0)
+        counts += QStringLiteral(", ") + counted(children, tr("child node"), tr("child nodes"));
+    m_counts->setText(counts);
+}

@@ -1,0 +1,104 @@
+#include "orvane/app/scene/Session.h"
+
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/extender/OrvProfile.h"
+
+#include "meridane/base/NxPreferences.h"
+
+#include <QDir>
+
+namespace {
+
+const QString profileKey = QStringLiteral("profile");
+
+} // namespace
+
+Session::Session(AppSettings::Mode settings)
+    : Session(settings, AppSettings::defaultFileName())
+{
+}
+
+Session::Session(AppSettings::Mode settings, const QString& settingsFileName)
+    : m_mode(settings)
+    , m_settings(settings, settingsFileName)
+    , m_document(m_services, m_disposal)
+{
+}
+
+Session::~Session()
+{
+    shutDown();
+}
+
+void Session::loadPreferences()
+{
+    if (m_mode == AppSettings::Mode::File)
+        NxPreferences::setFile(orvane::toStdFileName(AppSettings::preferencesFileName()).c_str());
+}
+
+QStringList Session::loadPlugins(const QStringList& fileNames)
+{
+    QStringList messages;
+    for (const QString& fileName : fileNames) {
+        if (const std::optional<QString> message = m_plugins.loadPlugin(fileName))
+            messages.append(*message);
+    }
+    return messages;
+}
+
+QStringList Session::loadProfiles(const QStringList& folders)
+{
+    QStringList messages;
+    for (const QString& folder : folders) {
+        const QDir dir(folder);
+        const QStringList names = dir.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
+        for (const QString& name : names) {
+            OrvProfile::ReadResult result = OrvProfile::read(dir.filePath(name));
+            if (result.profile == nullptr)
+                messages.append(result.error);
+            else if (const std::optional<QString> message = m_plugins.addProfile(std::move(result.profile)))
+                messages.append(*message);
+        }
+    }
+    return messages;
+}
+
+std::optional<QString> Session::checkProfile(const QString& name) const
+{
+    if (m_plugins.findProfile(name) != nullptr)
+        return std::nullopt;
+    QStringList names;
+    for (const OrvProfile* profile : m_plugins.getProfilesList())
+        names.append(u'"' + orvane::toQString(profile->getName()) + u'"');
+    return QStringLiteral("There is no profile \"%1\", only %2.").arg(name, names.join(QStringLiteral(", ")));
+}
+
+std::optional<QString> Session::activateProfile(const QString& name)
+{
+    if (m_plugins.getProfilesList().empty())
+        return QStringLiteral("No profile was found, so no extension runs.");
+    OrvProfile* profile = m_plugins.findProfile(name);
+    if (profile == nullptr)
+        profile = m_plugins.findProfile(m_settings.value(profileKey).toString());
+    if (profile == nullptr)
+        profile = m_plugins.getProfilesList().front();
+    m_plugins.setActiveProfile(profile);
+    return name.isEmpty() ? std::nullopt : checkProfile(name);
+}
+
+void Session::shutDown()
+{
+    if (std::exchange(m_down, true))
+        return;
+    if (const OrvProfile* profile = m_plugins.getActiveProfile())
+        m_settings.setValue(profileKey, orvane::toQString(profile->getName()));
+    m_settings.sync();
+    m_services.selectField(nullptr);
+    m_services.selectNode(nullptr);
+    m_plugins.setActiveProfile(nullptr);
+    // Commands, and nodes too, may be code of the plug-ins: they go while that code is there.
+    m_document.close();
+    m_services.clearHistory();
+    m_disposal.finish();
+    m_plugins.unloadPlugins();
+}

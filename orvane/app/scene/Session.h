@@ -1,0 +1,57 @@
+#pragma once
+
+#include "orvane/app/base/AppSettings.h"
+#include "orvane/app/scene/SceneDisposal.h"
+#include "orvane/app/scene/SceneDocument.h"
+#include "orvane/extender/OrvPluginsManager.h"
+#include "orvane/extender/OrvServices.h"
+
+#include <QStringList>
+
+#include <optional>
+
+/// Everything the tool needs apart from its window: services, scene, plug-ins, profiles, settings.
+///
+/// There is one, and it is made after the application object. A window that shows it is made after it and destroyed
+/// ahead of it. Without a window plug-ins can be loaded but no profile activated, since extensions need a shell.
+class Session {
+public:
+    explicit Session(AppSettings::Mode settings);
+    Session(AppSettings::Mode settings, const QString& settingsFileName);
+    /// Shuts down what `shutDown` has left.
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    /// Reads the user's file of toolkit preferences; what is wrong with it is posted as toolkit errors.
+    void loadPreferences();
+    /// Loads plug-ins in this order. The result has one message for each that failed; the others are there.
+    QStringList loadPlugins(const QStringList& fileNames);
+    /// Loads the profiles (`*.json`) of these folders, in the order of the folders and, in each, of the file names.
+    /// The result has one message for each that is refused.
+    QStringList loadProfiles(const QStringList& folders);
+    /// The message that there is no profile of that name, or nothing.
+    [[nodiscard]] std::optional<QString> checkProfile(const QString& name) const;
+    /// Activates the profile of that name; the empty name means the one used last, else the first of the list. So does
+    /// a name that no profile has, with a message. The result is the message of what went wrong. Needs a window.
+    [[nodiscard]] std::optional<QString> activateProfile(const QString& name);
+
+    /// Takes everything down in order: selection, profile, history, plug-ins, scene. Does nothing the second time. The
+    /// window calls it in its destructor, since extensions leave the shell here.
+    void shutDown();
+
+    [[nodiscard]] AppSettings& settings() noexcept { return m_settings; }
+    [[nodiscard]] OrvServices& services() noexcept { return m_services; }
+    [[nodiscard]] OrvPluginsManager& plugins() noexcept { return m_plugins; }
+    [[nodiscard]] SceneDisposal& disposal() noexcept { return m_disposal; }
+    [[nodiscard]] SceneDocument& document() noexcept { return m_document; }
+
+private:
+    AppSettings::Mode m_mode;
+    AppSettings m_settings;
+    SceneDisposal m_disposal;
+    OrvServices m_services;
+    OrvPluginsManager m_plugins;
+    SceneDocument m_document;
+    bool m_down = false;
+};

@@ -1,0 +1,100 @@
+#include "orvane/app/view/CameraMenu.h"
+
+#include "orvane/app/base/PlainText.h"
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/scene/SceneDocument.h"
+#include "orvane/app/view/SceneView.h"
+
+#include "meridane/scene/nodes/NxCamera.h"
+#include "meridane/scene/nodes/NxGroup.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMenu>
+
+#include <span>
+#include <unordered_set>
+
+CameraMenu::CameraMenu(SceneView* view, SceneDocument& document)
+    : QObject(view)
+    , m_view(view)
+    , m_document(document)
+    , m_follower([view](NxViewpoint viewpoint) {
+        // What the user goes round is what lies in the middle of the scene.
+        if (const NxBounds bounds = view->drawing().bounds(); !bounds.isEmpty())
+            viewpoint.focus(bounds.getCenter());
+        view->setViewpoint(viewpoint);
+    })
+    , m_menu(new QMenu(tr("&Cameras"), view))
+{
+    m_menu->setObjectName(QStringLiteral("cameraMenu"));
+    connect(view, &SceneView::moved, this, [this] { m_follower.stop(); });
+    connect(&document, &SceneDocument::sceneAboutToChange, this, [this] { m_follower.stop(); });
+}
+
+CameraMenu::~CameraMenu() = default;
+
+QMenu* CameraMenu::update()
+{
+    m_menu->clear();
+    auto* group = new QActionGroup(m_menu);
+    const auto add = [&](const QString& text, const NxNode* camera, int index) {
+        auto* action = new QAction(orvane::menuText(text), m_menu);
+        action->setToolTip(orvane::plainToolTip(orvane::shortLine(text)));
+        action->setCheckable(true);
+        action->setChecked(camera == m_follower.camera());
+        connect(action, &QAction::triggered, this, [this, index] { choose(index); });
+        group->addAction(action);
+        m_menu->addAction(action);
+    };
+    add(tr("Free"), nullptr, -1);
+    const auto all = cameras();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const NxNode* camera = all[i].back();
+        const QString name = orvane::toQString(camera->getName());
+        add(name.isEmpty() ? QString::fromUtf8(camera->getClassName()) : name, camera, static_cast<int>(i));
+    }
+    m_menu->setEnabled(!all.empty());
+    return m_menu;
+}
+
+void CameraMenu::choose(int index)
+{
+    // The scene may have changed since the menu was made.
+    const auto all = cameras();
+    if (index >= 0 && static_cast<std::size_t>(index) < all.size())
+        m_follower.follow(all[static_cast<std::size_t>(index)]);
+    else
+        m_follower.stop();
+}
+
+std::vector<std::vector<NxNode*>> CameraMenu::cameras() const
+{
+    std::vector<std::vector<NxNode*>> result;
+    if (!m_document.isOpen())
+        return result;
+    struct Step {
+        std::span<NxNode* const> children;
+        std::size_t next = 0;
+    };
+    std::vector<Step> steps{{m_document.scene()->getChildren()}};
+    std::unordered_set<const NxNode*> seen; // a group that stands in many places is looked into once
+    while (!steps.empty() && result.size() < mostCameras) {
+        Step& step = steps.back();
+        if (step.next == step.children.size()) {
+            steps.pop_back();
+            continue;
+        }
+        NxNode* node = step.children[step.next++];
+        if (dynamic_cast<NxCamera*>(node) != nullptr) {
+            std::vector<NxNode*> path;
+            path.reserve(steps.size());
+            for (const Step& above : steps)
+                path.push_back(above.children[above.next - 1]);
+            result.push_back(std::move(path));
+        } else if (!node->getChildren().empty() && seen.insert(node).second) {
+            steps.push_back({node->getChildren()});
+        }
+    }
+    return result;
+}

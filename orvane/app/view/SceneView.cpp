@@ -1,0 +1,364 @@
+#include "orvane/app/view/SceneView.h"
+
+#include "orvane/app/view/ViewColors.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLinearGradient>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleHints>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+#include <utility>
+
+namespace {
+
+/// Whatever else the window's first picture has led to goes first: the context takes longer than all of it.
+constexpr std::chrono::milliseconds startDelay(15);
+/// How close to a line or point a click must be, in points of the screen.
+constexpr float pickRadius = 4;
+/// From the right, from above and from the front: the sides of a thing that tell most.
+const VbVec3f firstDirection(-1, -0.7F, -1.4F);
+const VbVec3f upwards(0, 1, 0);
+
+QColor toColor(const VbColor& color)
+{
+    return QColor::fromRgbF(color[0], color[1], color[2]);
+}
+
+std::vector<NxRef<NxNode>> held(const std::vector<NxNode*>& nodes)
+{
+    return {nodes.begin(), nodes.end()};
+}
+
+} // namespace
+
+SceneView::SceneView(QWidget* parent)
+    : QWidget(parent)
+    , m_navigation(m_viewpoint, [this](const QPointF& position) -> std::optional<VbVec3d> {
+        const std::optional<NxRayHit> hit = hitAt(position);
+        return hit ? std::optional(hit->point) : std::nullopt;
+    })
+{
+    setObjectName(QStringLiteral("sceneView"));
+    setAccessibleName(tr("View"));
+    setAccessibleDescription(
+        tr("The picture of the scene. The arrow keys go round it, with Shift they move it; plus and "
+           "minus zoom, F frames the selection, A frames all, 1 to 6 look along the axes."));
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_viewpoint.lookAlong(firstDirection, upwards);
+    orvane::setViewColors(m_style, palette());
+    m_drawing.setStyle(m_style);
+    m_drawing.setChangeHook([this] { redrawLater(); });
+}
+
+SceneView::~SceneView() = default;
+
+void SceneView::start()
+{
+    if (m_drawing.isStarted() || m_message != nullptr)
+        return;
+    if (!m_drawing.start())
+        showProblem();
+    redrawLater();
+}
+
+void SceneView::showProblem()
+{
+    if (m_message != nullptr)
+        return;
+    m_message = new QLabel(m_drawing.problem(), this);
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setObjectName(QStringLiteral("viewMessage"));
+    m_message->setWordWrap(true);
+    m_message->setAlignment(Qt::AlignCenter);
+    m_message->setMargin(24);
+    m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_message);
+    m_message->show();
+}
+
+void SceneView::setScene(NxGroup* scene, const QString& folder, const std::optional<NxViewpoint>& viewpoint)
+{
+    m_scene = NxRef<NxGroup>(scene);
+    m_selected.clear();
+    m_drawing.setScene(scene, folder);
+    endDrag();
+    m_viewpoint = NxViewpoint();
+    m_viewpoint.lookAlong(firstDirection, upwards);
+    if (viewpoint)
+        m_viewpoint = *viewpoint;
+    m_hasMoved = viewpoint.has_value();
+    m_showsAll = !viewpoint.has_value();
+    m_framesAll = m_showsAll;
+    redrawLater();
+}
+
+void SceneView::setSelectedPath(const std::vector<NxNode*>& nodes)
+{
+    m_selected = held(nodes);
+    m_drawing.setSelectedPath(nodes);
+}
+
+void SceneView::setViewpoint(const NxViewpoint& viewpoint)
+{
+    m_viewpoint = viewpoint;
+    m_hasMoved = true;
+    m_showsAll = false;
+    m_framesAll = false;
+    redrawLater();
+}
+
+void SceneView::noteMove()
+{
+    m_hasMoved = true;
+    m_showsAll = false;
+    m_framesAll = false;
+    redrawLater();
+    Q_EMIT moved();
+}
+
+void SceneView::showAll()
+{
+    m_showsAll = true;
+    m_framesAll = true;
+    redrawLater();
+}
+
+void SceneView::frameAll()
+{
+    noteMove();
+    showAll();
+}
+
+void SceneView::frameSelection()
+{
+    std::vector<NxNode*> nodes(m_selected.size());
+    std::transform(m_selected.begin(), m_selected.end(), nodes.begin(), [](const auto& node) { return node.get(); });
+    NxBounds bounds = m_drawing.bounds(nodes);
+    // A material or a light takes no room: what stands around it does.
+    while (bounds.isEmpty() && !nodes.empty()) {
+        nodes.pop_back();
+        bounds = m_drawing.bounds(nodes);
+    }
+    if (bounds.isEmpty()) {
+        frameAll();
+        return;
+    }
+    noteMove();
+    m_viewpoint.frame(bounds.min, bounds.max, m_navigation.aspect());
+}
+
+void SceneView::lookAlong(const VbVec3f& direction, const VbVec3f& up)
+{
+    const bool showedAll = m_showsAll;
+    noteMove();
+    m_viewpoint.lookAlong(direction, up);
+    if (showedAll)
+        showAll();
+}
+
+void SceneView::setProjection(NxViewpoint::Projection projection)
+{
+    if (projection == m_viewpoint.projection)
+        return;
+    const bool showedAll = m_showsAll;
+    noteMove();
+    m_viewpoint.setProjection(projection);
+    if (showedAll)
+        showAll();
+}
+
+void SceneView::setStyle(const NxDrawingStyle& style)
+{
+    m_style = style;
+    orvane::setViewColors(m_style, palette());
+    m_drawing.setStyle(m_style);
+    redrawLater();
+}
+
+QSize SceneView::sizeHint() const
+{
+    return {640, 480};
+}
+
+QSize SceneView::minimumSizeHint() const
+{
+    return {160, 120};
+}
+
+void SceneView::redrawLater()
+{
+    m_stale = true;
+    update();
+}
+
+void SceneView::redraw(const QSize& deviceSize)
+{
+    // Not with each picture: a thing that is being moved would seem to stand still.
+    if (const NxBounds bounds = m_framesAll ? m_drawing.bounds() : NxBounds(); !bounds.isEmpty()) {
+        m_viewpoint.frame(bounds.min, bounds.max, m_navigation.aspect());
+        m_framesAll = false;
+    }
+    m_stale = false;
+    m_drawnSize = deviceSize;
+    m_picture = m_drawing.draw(m_viewpoint, deviceSize, static_cast<float>(devicePixelRatioF()));
+    if (!m_drawing.isStarted())
+        showProblem();
+}
+
+void SceneView::paintEvent(QPaintEvent*)
+{
+    const QSize deviceSize = (QSizeF(size()) * devicePixelRatioF()).toSize();
+    if (m_drawing.isStarted() && (m_stale || deviceSize != m_drawnSize))
+        redraw(deviceSize);
+    QPainter painter(this);
+    if (!m_picture.isNull() && m_message == nullptr) {
+        painter.drawImage(QRectF(rect()), m_picture);
+    } else if (m_message != nullptr) {
+        painter.fillRect(rect(), palette().window());
+    } else {
+        QLinearGradient background(0, 0, 0, height());
+        background.setColorAt(0, toColor(m_style.backgroundTop));
+        background.setColorAt(1, toColor(m_style.backgroundBottom));
+        painter.fillRect(rect(), background);
+    }
+    if (hasFocus()) {
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    if (!std::exchange(m_startQueued, true)) {
+        // The delay begins when the whole window is painted: its first texts take longer than that.
+        const auto startSoon = [this] { QTimer::singleShot(startDelay, this, &SceneView::start); };
+        QMetaObject::invokeMethod(this, startSoon, Qt::QueuedConnection);
+    }
+}
+
+void SceneView::resizeEvent(QResizeEvent*)
+{
+    m_navigation.setSize(size());
+    if (m_showsAll)
+        showAll();
+    redrawLater();
+}
+
+void SceneView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        setStyle(m_style);
+    QWidget::changeEvent(event);
+}
+
+std::optional<NxRayHit> SceneView::hitAt(const QPointF& position) const
+{
+    if (!m_scene)
+        return {};
+    NxRayPick pick(m_viewpoint.getRay(m_navigation.place(position), m_navigation.aspect()));
+    const float radii = pickRadius / static_cast<float>(std::max(height(), 1));
+    if (m_viewpoint.projection == NxViewpoint::ORTHOGRAPHIC) {
+        pick.setTolerance(radii * m_viewpoint.getHeightAt(0), 0);
+        pick.setDistances(std::numeric_limits<float>::lowest(), std::numeric_limits<float>::max());
+    } else {
+        pick.setTolerance(0, radii * m_viewpoint.getHeightAt(1));
+    }
+    return pick.pick(*m_scene);
+}
+
+void SceneView::pick(const QPointF& position)
+{
+    if (const std::optional<NxRayHit> hit = hitAt(position))
+        Q_EMIT picked(hit->path, hit->point);
+    else
+        Q_EMIT pickedNothing();
+}
+
+void SceneView::mousePressEvent(QMouseEvent* event)
+{
+    if (!m_scene || m_navigation.dragUnderWay() != ViewNavigation::Drag::None)
+        return;
+    if (event->button() == Qt::MiddleButton
+        || (event->button() == Qt::LeftButton && event->modifiers().testFlag(Qt::ShiftModifier)))
+        m_navigation.startDrag(ViewNavigation::Drag::Pan, event->position());
+    else if (event->button() == Qt::LeftButton)
+        m_navigation.startDrag(ViewNavigation::Drag::Orbit, event->position());
+    else
+        return;
+    m_button = event->button();
+    m_pressed = event->position();
+    m_dragging = false;
+}
+
+void SceneView::mouseMoveEvent(QMouseEvent* event)
+{
+    const ViewNavigation::Drag drag = m_navigation.dragUnderWay();
+    if (drag == ViewNavigation::Drag::None)
+        return;
+    if (!event->buttons().testFlag(m_button)) { // whoever took the mouse got the release
+        endDrag();
+        return;
+    }
+    const QPointF way = event->position() - m_pressed;
+    // A click with an unsteady hand is no drag.
+    if (!m_dragging && way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
+        return;
+    if (!std::exchange(m_dragging, true))
+        setCursor(drag == ViewNavigation::Drag::Pan ? Qt::SizeAllCursor : Qt::ClosedHandCursor);
+    m_navigation.drag(event->position());
+    noteMove();
+}
+
+void SceneView::endDrag()
+{
+    m_navigation.endDrag();
+    unsetCursor();
+}
+
+void SceneView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_navigation.dragUnderWay() == ViewNavigation::Drag::None || event->button() != m_button)
+        return;
+    endDrag();
+    if (!m_dragging && event->button() == Qt::LeftButton)
+        pick(event->position());
+}
+
+void SceneView::wheelEvent(QWheelEvent* event)
+{
+    constexpr float notch = 120;
+    const auto turned = static_cast<float>(event->angleDelta().y());
+    if (turned == 0 || !m_scene)
+        return;
+    m_navigation.zoom(turned / notch, event->position());
+    noteMove();
+}
+
+void SceneView::keyPressEvent(QKeyEvent* event)
+{
+    if (m_scene && m_navigation.pressKey(*event))
+        noteMove();
+    else if (m_scene && event->key() == Qt::Key_Escape)
+        Q_EMIT pickedNothing();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void SceneView::focusInEvent(QFocusEvent*)
+{
+    update();
+}
+
+void SceneView::focusOutEvent(QFocusEvent*)
+{
+    update();
+}

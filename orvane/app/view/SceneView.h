@@ -1,0 +1,106 @@
+#pragma once
+
+#include "orvane/app/view/ViewDrawing.h"
+#include "orvane/app/view/ViewNavigation.h"
+
+#include "meridane/gl/NxRayPick.h"
+#include "meridane/gl/geometry/NxViewpoint.h"
+#include "meridane/gl/painting/NxDrawingStyle.h"
+
+#include <QImage>
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+class NxGroup;
+class NxNode;
+class QLabel;
+
+/// The picture of the scene, in which the user moves about and picks nodes.
+///
+/// A picture is drawn when something in it has changed, and only when it is painted. The drawing is set up behind the
+/// first paint, so that the window needn't wait for it. As long as the user hasn't moved, all of the scene is in view,
+/// whatever the size. Where there is no drawing, a message tells why.
+class SceneView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SceneView(QWidget* parent = nullptr);
+    ~SceneView() override;
+
+    /// Sets the drawing up now, for a picture that is taken at once.
+    void start();
+    [[nodiscard]] ViewDrawing& drawing() noexcept { return m_drawing; }
+
+    /// Shows a scene, whose texture files count from the folder; null for none. Without a viewpoint all is in view.
+    void setScene(NxGroup* scene, const QString& folder, const std::optional<NxViewpoint>& viewpoint = {});
+    /// Outlines the last of these nodes, each a child of the one before; none for nothing.
+    void setSelectedPath(const std::vector<NxNode*>& nodes);
+
+    [[nodiscard]] const NxViewpoint& viewpoint() const noexcept { return m_viewpoint; }
+    /// Looks from there; as a move by the user.
+    void setViewpoint(const NxViewpoint& viewpoint);
+    /// Whether the user has left the viewpoint that shows all.
+    [[nodiscard]] bool hasMoved() const noexcept { return m_hasMoved; }
+    void frameAll();
+    /// Frames what is selected, or what stands around it if it takes no room itself; all when nothing is.
+    void frameSelection();
+    void lookAlong(const VbVec3f& direction, const VbVec3f& up);
+    void setProjection(NxViewpoint::Projection projection);
+
+    /// How the scene is shown; the colours are the view's own.
+    [[nodiscard]] const NxDrawingStyle& style() const noexcept { return m_style; }
+    void setStyle(const NxDrawingStyle& style);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// The user clicked on a node, seen at that point; the nodes lead down to it from the scene.
+    void picked(const std::vector<NxNode*>& nodes, const VbVec3d& point);
+    /// The user clicked on nothing.
+    void pickedNothing();
+    /// The user moved, not through `setViewpoint`.
+    void moved();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void redraw(const QSize& deviceSize);
+    void showAll();
+    void endDrag();
+    void redrawLater();
+    void noteMove();
+    void showProblem();
+    [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const;
+    void pick(const QPointF& position);
+
+    NxViewpoint m_viewpoint;
+    ViewNavigation m_navigation;
+    NxDrawingStyle m_style;
+    ViewDrawing m_drawing;
+    NxRef<NxGroup> m_scene;
+    std::vector<NxRef<NxNode>> m_selected;
+    QImage m_picture;
+    QSize m_drawnSize; // in device pixels
+    QLabel* m_message = nullptr;
+    QPointF m_pressed;
+    Qt::MouseButton m_button = Qt::NoButton; // of the drag under way
+    bool m_stale = true;
+    bool m_startQueued = false;
+    bool m_hasMoved = false;
+    bool m_showsAll = true; // whatever the size, until the user moves
+    bool m_framesAll = true; // with the next picture
+    bool m_dragging = false; // rather than clicking
+};

@@ -1,0 +1,137 @@
+#include "orvane/app/view/ViewActions.h"
+
+#include "orvane/app/base/AppSettings.h"
+#include "orvane/app/view/SceneView.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMenu>
+
+namespace {
+
+QString keyOf(const char* name)
+{
+    return QStringLiteral("view/") + QLatin1String(name);
+}
+
+} // namespace
+
+ViewActions::ViewActions(SceneView* view, AppSettings& settings)
+    : QObject(view)
+    , m_view(view)
+    , m_settings(settings)
+    , m_projections(new QActionGroup(this))
+    , m_surfaces(new QActionGroup(this))
+{
+    m_framing.append(addAction("frameAll", tr("Frame &All"), tr("Brings all of the scene into view"), Qt::Key_A));
+    connect(m_framing.back(), &QAction::triggered, view, &SceneView::frameAll);
+    m_framing.append(
+        addAction("frameSelection", tr("Frame &Selection"), tr("Brings what is selected into view"), Qt::Key_F));
+    connect(m_framing.back(), &QAction::triggered, view, &SceneView::frameSelection);
+
+    const VbVec3f up(0, 1, 0);
+    addAxis("viewFront", tr("&Front"), Qt::Key_1, VbVec3f(0, 0, -1), up);
+    addAxis("viewBack", tr("&Back"), Qt::Key_2, VbVec3f(0, 0, 1), up);
+    addAxis("viewRight", tr("&Right"), Qt::Key_3, VbVec3f(-1, 0, 0), up);
+    addAxis("viewLeft", tr("&Left"), Qt::Key_4, VbVec3f(1, 0, 0), up);
+    addAxis("viewTop", tr("&Top"), Qt::Key_5, VbVec3f(0, -1, 0), VbVec3f(0, 0, -1));
+    addAxis("viewBottom", tr("B&ottom"), Qt::Key_6, VbVec3f(0, 1, 0), VbVec3f(0, 0, 1));
+
+    addProjection("perspective", tr("&Perspective"), tr("Distant things look smaller"), NxViewpoint::PERSPECTIVE);
+    addProjection("orthographic", tr("&Orthographic"), tr("Things look the same size at any distance"),
+        NxViewpoint::ORTHOGRAPHIC);
+    addSurfaces("solid", tr("Soli&d"), tr("Surfaces are filled"), false);
+    addSurfaces("wireframe", tr("&Wireframe"), tr("Surfaces show their edges alone"), true);
+    addSwitch("grid", tr("&Ground Grid"), tr("Shows a grid on the plane of x and z"), &NxDrawingStyle::grid);
+    addSwitch(
+        "boundingBoxes", tr("&Bounding Boxes"), tr("Shows a box around each mesh"), &NxDrawingStyle::boundingBoxes);
+    addSwitch("axes", tr("A&xes"), tr("Shows the axes: x red, y green, z blue"), &NxDrawingStyle::axes);
+}
+
+QAction* ViewActions::addAction(const char* name, const QString& text, const QString& toolTip, const QKeySequence& key)
+{
+    auto* action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setToolTip(toolTip);
+    action->setStatusTip(toolTip);
+    if (!key.isEmpty()) {
+        action->setShortcut(key);
+        action->setShortcutContext(Qt::WidgetShortcut);
+        m_view->addAction(action);
+    }
+    return action;
+}
+
+void ViewActions::addAxis(
+    const char* name, const QString& text, Qt::Key key, const VbVec3f& direction, const VbVec3f& up)
+{
+    m_axes.append(addAction(name, text, tr("Looks along an axis"), key));
+    connect(m_axes.back(), &QAction::triggered, m_view, [this, direction, up] { m_view->lookAlong(direction, up); });
+}
+
+void ViewActions::addProjection(
+    const char* name, const QString& text, const QString& toolTip, NxViewpoint::Projection projection)
+{
+    QAction* action = addAction(name, text, toolTip);
+    action->setCheckable(true);
+    action->setData(projection);
+    m_projections->addAction(action);
+    connect(action, &QAction::triggered, m_view, [this, projection] { m_view->setProjection(projection); });
+}
+
+void ViewActions::addSurfaces(const char* name, const QString& text, const QString& toolTip, bool wireframe)
+{
+    QAction* action = addAction(name, text, toolTip);
+    action->setCheckable(true);
+    m_surfaces->addAction(action);
+    const auto apply = [this, wireframe] {
+        NxDrawingStyle style = m_view->style();
+        style.surfaces = wireframe ? NxDrawingStyle::WIREFRAME : NxDrawingStyle::SOLID;
+        m_view->setStyle(style);
+    };
+    if (m_settings.value(keyOf("wireframe"), false).toBool() == wireframe) {
+        action->setChecked(true);
+        apply();
+    }
+    connect(action, &QAction::triggered, m_view, [this, wireframe, apply] {
+        m_settings.setValue(keyOf("wireframe"), wireframe);
+        apply();
+    });
+}
+
+void ViewActions::addSwitch(const char* name, const QString& text, const QString& toolTip, bool NxDrawingStyle::*part)
+{
+    QAction* action = addAction(name, text, toolTip);
+    action->setCheckable(true);
+    m_switches.append(action);
+    const auto apply = [this, part](bool on) {
+        NxDrawingStyle style = m_view->style();
+        style.*part = on;
+        m_view->setStyle(style);
+    };
+    const QString key = keyOf(name);
+    action->setChecked(m_settings.value(key, m_view->style().*part).toBool());
+    apply(action->isChecked());
+    connect(action, &QAction::triggered, m_view, [this, key, apply](bool on) {
+        m_settings.setValue(key, on);
+        apply(on);
+    });
+}
+
+void ViewActions::addTo(QMenu* menu)
+{
+    if (m_axesMenu == nullptr) {
+        m_axesMenu = new QMenu(tr("Look Along"), m_view);
+        m_axesMenu->setObjectName(QStringLiteral("axesMenu"));
+        m_axesMenu->addActions(m_axes);
+    }
+    for (QAction* action : m_projections->actions())
+        action->setChecked(action->data().toInt() == m_view->viewpoint().projection);
+    menu->addActions(m_framing);
+    menu->addMenu(m_axesMenu);
+    menu->addSeparator();
+    menu->addActions(m_projections->actions());
+    menu->addSeparator();
+    menu->addActions(m_surfaces->actions());
+    menu->addActions(m_switches);
+}

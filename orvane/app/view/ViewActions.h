@@ -1,0 +1,44 @@
+#pragma once
+
+#include "meridane/gl/geometry/NxViewpoint.h"
+
+#include <QKeySequence>
+#include <QObject>
+
+class AppSettings;
+class QAction;
+class QActionGroup;
+class QMenu;
+class QString;
+class SceneView;
+struct NxDrawingStyle;
+
+/// What the user can do with the view, as actions for menus. Their keys are single letters and digits, so they count
+/// while the view has the focus only. What is switched on is kept in the settings.
+class ViewActions : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both outlive this.
+    ViewActions(SceneView* view, AppSettings& settings);
+
+    /// Appends the actions. Their marks tell how the view is now.
+    void addTo(QMenu* menu);
+
+private:
+    QAction* addAction(const char* name, const QString& text, const QString& toolTip, const QKeySequence& key = {});
+    void addAxis(const char* name, const QString& text, Qt::Key key, const VbVec3f& direction, const VbVec3f& up);
+    void addSwitch(const char* name, const QString& text, const QString& toolTip, bool NxDrawingStyle::*part);
+    void addProjection(
+        const char* name, const QString& text, const QString& toolTip, NxViewpoint::Projection projection);
+    void addSurfaces(const char* name, const QString& text, const QString& toolTip, bool wireframe);
+
+    SceneView* m_view;
+    AppSettings& m_settings;
+    QActionGroup* m_projections;
+    QActionGroup* m_surfaces;
+    QList<QAction*> m_framing;
+    QList<QAction*> m_axes;
+    QList<QAction*> m_switches;
+    QMenu* m_axesMenu = nullptr; // made when a menu first wants it
+};

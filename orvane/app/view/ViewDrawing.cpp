@@ -1,0 +1,141 @@
+#include "orvane/app/view/ViewDrawing.h"
+
+#include "orvane/app/base/TextConversion.h"
+
+#include "meridane/base/NxPreferences.h"
+#include "meridane/gl/NxSceneDrawing.h"
+#include "meridane/gl/gpu/NxImage.h"
+#include "meridane/gl/gpu/NxOffscreenContext.h"
+
+#include <QCoreApplication>
+
+ViewDrawing::ViewDrawing()
+{
+    QObject::connect(&m_textures, &TextureFiles::changed, &m_textures, [this](const std::string& fileName) {
+        if (m_drawing != nullptr)
+            m_drawing->reloadImage(fileName);
+    });
+}
+
+ViewDrawing::~ViewDrawing()
+{
+    if (m_context != nullptr)
+        static_cast<void>(m_context->makeCurrent()); // what is in a context that is lost went with it
+    m_drawing.reset();
+    m_buffer.reset();
+}
+
+bool ViewDrawing::start()
+{
+    if (isStarted() || !m_problem.isEmpty())
+        return isStarted();
+    if (NxPreferences::getBool("ORVANE_VIEW", 1) == 0) {
+        m_problem = QCoreApplication::translate("ViewDrawing",
+            "The view is turned off by the preference ORVANE_VIEW. Remove it, or set it to 1, and start Orvane anew.");
+        return false;
+    }
+    if (!makeContext())
+        return false;
+    m_buffer = std::make_unique<PictureBuffer>(m_functions);
+    m_drawing = std::make_unique<NxSceneDrawing>(m_functions);
+    m_drawing->setImageLoader([this](const std::string& fileName, NxImage& image, std::string& reason) {
+        return m_textures.load(fileName, image, reason);
+    });
+    m_drawing->setStyle(m_style);
+    m_drawing->setScene(m_scene.get());
+    std::vector<NxNode*> selected;
+    for (const NxRef<NxNode>& node : m_selected)
+        selected.push_back(node.get());
+    m_drawing->setSelectedPath(selected);
+    m_drawing->setChangeHook(m_hook);
+    return true;
+}
+
+bool ViewDrawing::makeContext()
+{
+    m_context = std::make_unique<NxOffscreenContext>();
+    if (!m_context->isValid() || !m_context->makeCurrent()) {
+        giveUp(orvane::toQString(m_context->getError().view()));
+        return false;
+    }
+    if (!m_functions.load(&NxOffscreenContext::getProcAddress)) {
+        giveUp(orvane::toQString(m_functions.getError()));
+        return false;
+    }
+    return true;
+}
+
+void ViewDrawing::giveUp(const QString& reason)
+{
+    m_problem = QCoreApplication::translate("ViewDrawing",
+        "The scene can't be drawn here: %1. Install a driver with OpenGL 3.3, such as the packages libegl-mesa0 and "
+        "libgl1-mesa-dri, and start Orvane anew. Everything else works without it.")
+                    .arg(reason);
+}
+
+void ViewDrawing::restart()
+{
+    m_drawing->contextLost();
+    m_buffer->contextLost();
+    m_context.reset();
+    if (makeContext())
+        return;
+    m_drawing.reset();
+    m_buffer.reset();
+}
+
+void ViewDrawing::setChangeHook(std::function<void()> hook)
+{
+    m_hook = std::move(hook);
+}
+
+void ViewDrawing::setScene(NxGroup* scene, const QString& folder)
+{
+    m_scene = NxRef<NxGroup>(scene);
+    m_selected.clear();
+    m_textures.clear();
+    m_textures.setFolder(folder);
+    if (m_drawing != nullptr)
+        m_drawing->setScene(scene);
+}
+
+void ViewDrawing::setSelectedPath(const std::vector<NxNode*>& nodes)
+{
+    m_selected.clear();
+    for (NxNode* node : nodes)
+        m_selected.emplace_back(node);
+    if (m_drawing != nullptr)
+        m_drawing->setSelectedPath(nodes);
+}
+
+void ViewDrawing::setStyle(const NxDrawingStyle& style)
+{
+    m_style = style;
+    if (m_drawing != nullptr)
+        m_drawing->setStyle(style);
+}
+
+QImage ViewDrawing::draw(const NxViewpoint& viewpoint, QSize size, float scale)
+{
+    if (isStarted() && (!m_context->makeCurrent() || NxOffscreenContext::isLost()))
+        restart();
+    if (!isStarted())
+        return {};
+    const QSize possible = m_buffer->bind(size);
+    if (possible.isEmpty())
+        return {};
+    m_drawing->draw(viewpoint, possible.width(), possible.height(), scale);
+    m_textures.dropResults();
+    ++m_pictures;
+    return m_buffer->read();
+}
+
+NxBounds ViewDrawing::bounds() const
+{
+    return isStarted() ? m_drawing->getBounds() : NxBounds();
+}
+
+NxBounds ViewDrawing::bounds(const std::vector<NxNode*>& nodes) const
+{
+    return isStarted() && !nodes.empty() ? m_drawing->getBounds(std::span<NxNode* const>(nodes)) : NxBounds();
+}

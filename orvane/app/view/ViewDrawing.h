@@ -1,0 +1,79 @@
+#pragma once
+
+#include "orvane/app/images/TextureFiles.h"
+#include "orvane/app/view/PictureBuffer.h"
+
+#include "meridane/gl/geometry/NxBounds.h"
+#include "meridane/gl/geometry/NxViewpoint.h"
+#include "meridane/gl/gpu/NxGLFunctions.h"
+#include "meridane/gl/painting/NxDrawingStyle.h"
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxGroup.h"
+
+#include <QImage>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <vector>
+
+class NxOffscreenContext;
+class NxSceneDrawing;
+
+/// Draws the scene into images, in an OpenGL context of its own that is made when `start` asks for it: that takes
+/// longer than all else of the window's first picture.
+///
+/// What is set before the start holds from then on. A context that gets lost is made again.
+class ViewDrawing {
+public:
+    ViewDrawing();
+    ~ViewDrawing();
+    ViewDrawing(const ViewDrawing&) = delete;
+    ViewDrawing& operator=(const ViewDrawing&) = delete;
+
+    /// Sets the drawing up; false, with `problem` telling why, when that can't be done here. Tried once.
+    bool start();
+    [[nodiscard]] bool isStarted() const noexcept { return m_drawing != nullptr; }
+    /// Why there are no pictures, as sentences for the user; empty as long as nothing went wrong.
+    [[nodiscard]] const QString& problem() const noexcept { return m_problem; }
+
+    /// Called once when the next picture would differ from the latest one.
+    void setChangeHook(std::function<void()> hook);
+    /// Draws that scene from now on; null for none. Names of texture files count from the folder.
+    void setScene(NxGroup* scene, const QString& folder);
+    void setFolder(const QString& folder) { m_textures.setFolder(folder); }
+    /// The images of the scene's textures, which come while the scene is shown.
+    [[nodiscard]] TextureFiles& textures() noexcept { return m_textures; }
+    /// Outlines the last of these nodes, each a child of the one before; none for nothing.
+    void setSelectedPath(const std::vector<NxNode*>& nodes);
+    void setStyle(const NxDrawingStyle& style);
+
+    /// A picture of that size in device pixels; a null image when there can't be one.
+    [[nodiscard]] QImage draw(const NxViewpoint& viewpoint, QSize size, float scale);
+    /// The box around the scene or the last of these nodes; empty before the start.
+    [[nodiscard]] NxBounds bounds() const;
+    [[nodiscard]] NxBounds bounds(const std::vector<NxNode*>& nodes) const;
+    /// How many pictures were drawn.
+    [[nodiscard]] int pictures() const noexcept { return m_pictures; }
+
+    /// Makes context and contents anew, as after the graphics system took them away.
+    void restart();
+
+private:
+    [[nodiscard]] bool makeContext();
+    void giveUp(const QString& reason);
+
+    std::function<void()> m_hook;
+    NxRef<NxGroup> m_scene;
+    std::vector<NxRef<NxNode>> m_selected;
+    NxDrawingStyle m_style;
+    TextureFiles m_textures;
+    QString m_problem;
+    int m_pictures = 0;
+
+    std::unique_ptr<NxOffscreenContext> m_context;
+    NxGLFunctions m_functions;
+    std::unique_ptr<PictureBuffer> m_buffer;
+    std::unique_ptr<NxSceneDrawing> m_drawing;
+};

@@ -1,0 +1,82 @@
+#include "orvane/app/view/ViewLink.h"
+
+#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/scene/Session.h"
+#include "orvane/app/view/SceneView.h"
+
+#include "meridane/base/NxDelayQueue.h"
+
+#include <QLabel>
+#include <QStatusBar>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Five digits, or as many as it takes for thousandths.
+QString coordinate(double value)
+{
+    constexpr int least = 5;
+    constexpr int most = 12;
+    const double size = std::clamp(std::log10(std::abs(value)), 0.0, double{most});
+    return QString::number(value, 'g', std::clamp(static_cast<int>(size) + 4, least, most));
+}
+
+} // namespace
+
+ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QStatusBar* bar)
+    : QObject(view)
+    , m_session(session)
+    , m_view(view)
+    , m_tree(tree)
+    , m_point(new QLabel(bar))
+    , m_cameras(session.settings())
+{
+    m_point->setObjectName(QStringLiteral("pickedPoint"));
+    m_point->setToolTip(tr("The point of the scene that was clicked"));
+    m_point->hide();
+    bar->addPermanentWidget(m_point);
+    const SceneDocument& document = session.document();
+    connect(&document, &SceneDocument::sceneAboutToChange, this, &ViewLink::leaveScene);
+    connect(&document, &SceneDocument::sceneChanged, this, &ViewLink::showScene);
+    connect(&document, &SceneDocument::fileNameChanged, this,
+        [this] { m_view->drawing().setFolder(m_session.document().pathFolder()); });
+    connect(tree, &SceneTreePanel::currentChanged, this, &ViewLink::showSelection);
+    connect(view, &SceneView::picked, this, &ViewLink::choose);
+    connect(view, &SceneView::pickedNothing, this, &ViewLink::chooseNothing);
+}
+
+void ViewLink::leaveScene()
+{
+    if (m_view->hasMoved())
+        m_cameras.store(m_session.document().fileName(), m_view->viewpoint());
+    m_view->setScene(nullptr, QString());
+}
+
+void ViewLink::showScene()
+{
+    const SceneDocument& document = m_session.document();
+    m_view->setScene(document.scene(), document.pathFolder(), m_cameras.find(document.fileName()));
+}
+
+void ViewLink::showSelection()
+{
+    m_point->hide();
+    m_view->setSelectedPath(m_tree->model()->path(m_tree->current()));
+}
+
+void ViewLink::choose(const std::vector<NxNode*>& nodes, const VbVec3d& point)
+{
+    NxDelayQueue::getDefault().process(); // the tree may be behind the scene
+    m_tree->setCurrent(m_tree->model()->indexOfPath(nodes));
+    m_point->setText(tr("at %1, %2, %3").arg(coordinate(point[0]), coordinate(point[1]), coordinate(point[2])));
+    m_point->show();
+}
+
+void ViewLink::chooseNothing()
+{
+    m_tree->setCurrent(QModelIndex());
+    m_point->hide();
+}

@@ -1,0 +1,39 @@
+#include "orvane/app/view/ViewMenu.h"
+
+#include "orvane/app/view/CameraMenu.h"
+#include "orvane/app/view/ViewActions.h"
+
+#include <QAction>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+ViewMenu::ViewMenu(QMainWindow* window, ViewActions* actions, CameraMenu* cameras)
+    : QObject(window)
+    , m_window(window)
+    , m_actions(actions)
+    , m_cameras(cameras)
+    , m_menu(window->menuBar()->addMenu(tr("&View")))
+{
+    m_menu->setObjectName(QStringLiteral("viewMenu"));
+    connect(m_menu, &QMenu::aboutToShow, this, &ViewMenu::update);
+}
+
+void ViewMenu::update()
+{
+    m_menu->clear();
+    if (m_actions != nullptr) {
+        m_actions->addTo(m_menu);
+        m_menu->addMenu(m_cameras->update());
+        m_menu->addSeparator();
+    }
+    for (QDockWidget* dock : m_window->findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        m_menu->addAction(dock->toggleViewAction());
+    m_menu->addSeparator();
+    for (QToolBar* toolBar : m_window->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
+        m_menu->addAction(toolBar->toggleViewAction());
+    m_menu->addSeparator();
+    m_menu->addActions(m_appended);
+}

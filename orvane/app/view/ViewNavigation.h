@@ -1,0 +1,53 @@
+#pragma once
+
+#include "meridane/gl/geometry/NxViewpoint.h"
+
+#include <QPointF>
+#include <QSizeF>
+
+#include <functional>
+#include <optional>
+
+class QKeyEvent;
+
+/// Moves a viewpoint as mouse, wheel and keys ask for it.
+///
+/// What is under the pointer when a pan or a zoom begins stays there. Positions are those of the widget.
+class ViewNavigation {
+public:
+    enum class Drag { None, Orbit, Pan };
+    /// Tells which point of the scene is seen at a position, or nothing.
+    using PointFinder = std::function<std::optional<VbVec3d>(const QPointF& position)>;
+
+    /// The viewpoint outlives this.
+    ViewNavigation(NxViewpoint& viewpoint, PointFinder findPoint);
+
+    /// The widget's size.
+    void setSize(const QSizeF& size) { m_size = size; }
+    [[nodiscard]] float aspect() const;
+    /// The place in the picture of a position.
+    [[nodiscard]] VbVec2f place(const QPointF& position) const;
+
+    void startDrag(Drag drag, const QPointF& position);
+    void drag(const QPointF& position);
+    void endDrag() { m_drag = Drag::None; }
+    [[nodiscard]] Drag dragUnderWay() const noexcept { return m_drag; }
+
+    /// Zooms by so many notches of a wheel, upwards to look closer.
+    void zoom(float notches, const QPointF& position);
+    /// False for a key that doesn't move anything.
+    bool pressKey(const QKeyEvent& event);
+
+private:
+    [[nodiscard]] float distanceAt(const QPointF& position) const;
+
+    NxViewpoint& m_viewpoint;
+    PointFinder m_findPoint;
+    QSizeF m_size{1, 1};
+    Drag m_drag = Drag::None;
+    QPointF m_last;
+    float m_panDistance = 0;
+    std::optional<VbVec3d> m_zoomPoint; // what the latest zoom went to
+    QPointF m_zoomPosition; // where it was found
+    NxViewpoint m_zoomed; // what the latest zoom led to
+};

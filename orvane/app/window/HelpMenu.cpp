@@ -1,0 +1,114 @@
+#include "orvane/app/window/HelpMenu.h"
+
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/window/WindowShell.h"
+#include "orvane/extender/OrvExtension.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+namespace {
+
+void showText(QWidget* parent, const QString& title, const QString& text, const char* name)
+{
+    auto* dialog = new QDialog(parent);
+    dialog->setObjectName(QLatin1String(name));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(title);
+    auto* layout = new QVBoxLayout(dialog);
+    layout->setContentsMargins(18, 18, 18, 12);
+    layout->setSpacing(14);
+    auto* label = new QLabel(text, dialog);
+    label->setTextFormat(Qt::RichText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    layout->addWidget(label);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    layout->addWidget(buttons);
+    dialog->open();
+}
+
+QString tableRow(const QString& left, const QString& right)
+{
+    return QStringLiteral("<tr><td style=\"padding-right: 24px\">%1</td><td>%2</td></tr>")
+        .arg(left.toHtmlEscaped(), right.toHtmlEscaped());
+}
+
+/// What the keys of a menu and its submenus do.
+QString keyRows(const QMenu* menu)
+{
+    QString rows;
+    for (const QAction* action : menu->actions()) {
+        if (action->menu() != nullptr)
+            rows += keyRows(action->menu());
+        const QString keys = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText);
+        QString text = action->text();
+        if (!keys.isEmpty())
+            rows += tableRow(text.remove(u'&').remove(QChar(0x2026)), keys);
+    }
+    return rows;
+}
+
+} // namespace
+
+HelpMenu::HelpMenu(QMainWindow* window, const WindowShell& shell)
+    : QObject(window)
+    , m_window(window)
+    , m_shell(shell)
+{
+    QMenu* menu = window->menuBar()->addMenu(tr("&Help"));
+    QAction* keys = menu->addAction(tr("&Keys"));
+    keys->setObjectName(QStringLiteral("helpKeys"));
+    keys->setShortcut(QKeySequence::HelpContents);
+    connect(keys, &QAction::triggered, this, &HelpMenu::showKeys);
+    QAction* about = menu->addAction(tr("&About Orvane"));
+    about->setObjectName(QStringLiteral("helpAbout"));
+    about->setMenuRole(QAction::AboutRole);
+    connect(about, &QAction::triggered, this, &HelpMenu::showAbout);
+}
+
+void HelpMenu::showKeys()
+{
+    showText(m_window, tr("Keys"), keysText(), "keysDialog");
+}
+
+void HelpMenu::showAbout()
+{
+    showText(m_window, tr("About Orvane"), aboutText(), "aboutDialog");
+}
+
+QString HelpMenu::keysText() const
+{
+    QString rows;
+    for (const QAction* menu : m_window->menuBar()->actions())
+        rows += keyRows(menu->menu());
+    rows += tableRow(tr("Go round the scene in the view"), tr("Arrow keys"));
+    rows += tableRow(tr("Move the picture of the view"), tr("Shift and arrow keys"));
+    rows += tableRow(tr("Come closer in the view, go back"), tr("+, -"));
+    rows += tableRow(tr("Select nothing in the view"), tr("Esc"));
+    rows += tableRow(tr("Unfold and fold a node"), tr("Right, Left"));
+    rows += tableRow(tr("Show the editor of a field"), tr("Return"));
+    rows += tableRow(tr("From one part of the window to the next"), tr("Tab"));
+    return QStringLiteral("<table>%1</table>").arg(rows);
+}
+
+QString HelpMenu::aboutText() const
+{
+    QString text = QStringLiteral("<h3>Orvane %1</h3><p>%2</p>")
+                       .arg(QCoreApplication::applicationVersion().toHtmlEscaped(),
+                           tr("Inspects and edits the scene graph of 3D scenes.").toHtmlEscaped());
+    QString rows;
+    for (const OrvExtension* extension : m_shell.announcedExtensions())
+        rows += tableRow(orvane::toQString(extension->getName()) + u' ' + orvane::toQString(extension->getVersion()),
+            orvane::toQString(extension->getDescription()));
+    if (rows.isEmpty())
+        return text + QStringLiteral("<p>%1</p>").arg(tr("No extension is active."));
+    return text + QStringLiteral("<p><b>%1</b></p><table>%2</table>").arg(tr("Active extensions"), rows);
+}

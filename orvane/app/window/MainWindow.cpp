@@ -1,0 +1,326 @@
+#include "orvane/app/window/MainWindow.h"
+
+#include "orvane/app/base/PlainText.h"
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/base/TextGuard.h"
+#include "orvane/app/fields/FieldPanel.h"
+#include "orvane/app/files/FileFlow.h"
+#include "orvane/app/files/FileMenu.h"
+#include "orvane/app/files/JobBar.h"
+#include "orvane/app/files/RecentFiles.h"
+#include "orvane/app/images/ImageFolderQuestion.h"
+#include "orvane/app/messages/ErrorRelay.h"
+#include "orvane/app/messages/MessageBar.h"
+#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/scene/SelectionStatus.h"
+#include "orvane/app/scene/Session.h"
+#include "orvane/app/view/CameraMenu.h"
+#include "orvane/app/view/SceneView.h"
+#include "orvane/app/view/ViewActions.h"
+#include "orvane/app/view/ViewLink.h"
+#include "orvane/app/view/ViewMenu.h"
+#include "orvane/app/window/EditMenu.h"
+#include "orvane/app/window/HelpMenu.h"
+#include "orvane/app/window/SelectionLink.h"
+#include "orvane/app/window/StartPage.h"
+#include "orvane/app/window/WindowShell.h"
+
+#include "meridane/base/NxDelayQueue.h"
+#include "meridane/scene/file/NxScenePath.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize firstSize(1280, 800);
+constexpr int treeWidth = 330;
+const QString geometryKey = QStringLiteral("window/geometry");
+const QString stateKey = QStringLiteral("window/state");
+
+/// The one local file that is being dragged, or the empty name.
+QString draggedFile(const QMimeData* data)
+{
+    const QList<QUrl> urls = data->urls();
+    return urls.size() == 1 ? orvane::fromFileUrl(urls.front().toEncoded()) : QString();
+}
+
+} // namespace
+
+MainWindow::MainWindow(Session& session)
+    : m_session(session)
+    , m_errorRelay(std::make_unique<ErrorRelay>())
+    , m_shell(std::make_unique<WindowShell>(this))
+    , m_recent(new RecentFiles(session.settings(), this))
+    , m_messages(new MessageBar(this))
+    , m_middle(new QStackedWidget(this))
+    , m_view(new SceneView(this))
+    , m_imageFolders(new ImageFolderQuestion(m_view->drawing().textures(), session.settings(), *m_messages, this))
+    , m_fields(new FieldPanel(this))
+    , m_tree(new SceneTreePanel(this))
+    , m_jobBar(new JobBar(this))
+{
+    new TextGuard(this);
+    setObjectName(QStringLiteral("mainWindow"));
+    setAcceptDrops(true);
+    setDockOptions(AllowNestedDocks | AllowTabbedDocks);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    buildMiddle();
+    buildDocks();
+    buildMenus();
+    connectDocument();
+
+    resize(firstSize);
+    restoreGeometry(session.settings().value(geometryKey).toByteArray());
+    if (!session.settings().problem().isEmpty())
+        showWarning(session.settings().problem());
+}
+
+MainWindow::~MainWindow()
+{
+    m_session.shutDown();
+    // What this window is connected to outlives it, and its parts are about to go.
+    disconnect(&m_session.document(), nullptr, this, nullptr);
+}
+
+SceneDocument& MainWindow::document() const
+{
+    return m_session.document();
+}
+
+void MainWindow::openFile(const QString& fileName, const std::function<void(const QString&)>& opened)
+{
+    m_files->open(fileName, opened);
+}
+
+void MainWindow::saveTo(const QString& fileName)
+{
+    m_files->saveTo(fileName);
+}
+
+QString MainWindow::selectPath(const QString& path)
+{
+    if (!document().isOpen())
+        return tr("No scene is open.");
+    const NxScenePath::Target target = NxScenePath::find(document().scene(), path.toStdString());
+    if (!target.error.empty())
+        return orvane::toQString(target.error);
+    NxDelayQueue::getDefault().process(); // the tree may be behind the scene
+    m_tree->setCurrent(m_tree->model()->indexOfPath(target.nodes));
+    m_session.services().selectField(target.field);
+    return {};
+}
+
+void MainWindow::startView()
+{
+    if (m_view->isVisible())
+        m_view->start();
+}
+
+bool MainWindow::isLoadingImages() const
+{
+    return m_view->drawing().textures().isLoading();
+}
+
+void MainWindow::showError(const QString& message)
+{
+    m_messages->showMessage(MessageBar::Severity::Error, message);
+}
+
+void MainWindow::showWarning(const QString& message)
+{
+    m_messages->showMessage(MessageBar::Severity::Warning, message);
+}
+
+void MainWindow::showInformation(const QString& message)
+{
+    m_messages->showMessage(MessageBar::Severity::Information, message);
+}
+
+void MainWindow::buildMiddle()
+{
+    auto* container = new QWidget(this);
+    auto* layout = new QVBoxLayout(container);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_messages);
+    m_middle->addWidget(m_view);
+    layout->addWidget(m_middle, 1);
+    setCentralWidget(container);
+    connect(&m_view->drawing().textures(), &TextureFiles::folderRefused, this, &MainWindow::imageFolderRefused);
+    connect(m_errorRelay.get(), &ErrorRelay::reported, this,
+        [this](MessageBar::Severity severity, const QString& text) { m_messages->showMessage(severity, text); });
+}
+
+void MainWindow::buildDocks()
+{
+    auto* dock = new QDockWidget(tr("Scene"), this);
+    dock->setObjectName(QStringLiteral("sceneDock"));
+    dock->setWidget(m_tree);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    // Above the docks of extensions that edit the field that is chosen here.
+    auto* fieldsDock = new QDockWidget(tr("Fields"), this);
+    fieldsDock->setObjectName(QStringLiteral("fieldsDock"));
+    fieldsDock->setWidget(m_fields);
+    addDockWidget(Qt::RightDockWidgetArea, fieldsDock);
+    resizeDocks({dock, fieldsDock}, {treeWidth, WindowShell::sideDockWidth}, Qt::Horizontal);
+    new SelectionLink(m_session.services(), m_tree, m_fields);
+    new SelectionStatus(m_session, m_tree, statusBar());
+    new ViewLink(m_session, m_view, m_tree, statusBar());
+    statusBar()->addPermanentWidget(m_jobBar);
+    connect(m_tree->model(), &QAbstractItemModel::dataChanged, m_fields, &FieldPanel::updateHeading);
+}
+
+void MainWindow::buildMenus()
+{
+    m_files = new FileFlow(m_session, *m_recent, *m_messages, *m_jobBar, this);
+    connect(m_files, &FileFlow::ended, this, &MainWindow::reportSettled, Qt::QueuedConnection);
+    m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
+    auto* editMenu = new EditMenu(this, m_session, m_tree);
+    m_view->addAction(editMenu->deleteAction());
+    auto* viewMenu
+        = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), new CameraMenu(m_view, document()));
+    new HelpMenu(this, *m_shell);
+    connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);
+
+    QToolBar* toolBar = addToolBar(tr("File and Edit"));
+    toolBar->setObjectName(QStringLiteral("mainToolBar"));
+    toolBar->addActions(m_fileMenu->toolBarActions());
+    toolBar->addSeparator();
+    toolBar->addActions(editMenu->toolBarActions());
+    auto* forget = new QAction(tr("Forget Allowed &Image Folders"), this);
+    forget->setObjectName(QStringLiteral("forgetImageFolders"));
+    forget->setStatusTip(tr("Takes back that scenes may refer to images in folders outside their own"));
+    const auto enable = [this, forget] { forget->setEnabled(!m_imageFolders->allowedFolders().isEmpty()); };
+    enable();
+    connect(m_imageFolders, &ImageFolderQuestion::changed, forget, enable);
+    connect(forget, &QAction::triggered, m_imageFolders, &ImageFolderQuestion::forgetFolders);
+    viewMenu->append(forget);
+    viewMenu->update();
+}
+
+void MainWindow::showStartPage()
+{
+    if (m_startPage == nullptr) {
+        m_startPage = new StartPage(this);
+        m_middle->addWidget(m_startPage);
+        connect(m_startPage, &StartPage::openRequested, m_files, &FileFlow::chooseFileToOpen);
+        connect(m_startPage, &StartPage::newRequested, m_files, &FileFlow::newScene);
+        connect(m_startPage, &StartPage::fileChosen, this, [this](const QString& fileName) { openFile(fileName); });
+        const auto listRecent = [this] { m_startPage->setRecentFiles(m_recent->fileNames()); };
+        connect(m_recent, &RecentFiles::changed, m_startPage, listRecent);
+        listRecent();
+    }
+    m_middle->setCurrentWidget(m_startPage);
+}
+
+void MainWindow::connectDocument()
+{
+    const SceneDocument& scene = document();
+    connect(&scene, &SceneDocument::sceneAboutToChange, this, [this] { m_tree->setScene(nullptr); });
+    connect(&scene, &SceneDocument::sceneAboutToChange, m_imageFolders, &ImageFolderQuestion::reset);
+    connect(&scene, &SceneDocument::sceneChanged, this, &MainWindow::updateMiddle);
+    connect(&scene, &SceneDocument::fileNameChanged, this, &MainWindow::updateTitle);
+    connect(&scene, &SceneDocument::modifiedChanged, this, &QWidget::setWindowModified);
+    updateMiddle();
+    updateTitle();
+}
+
+void MainWindow::updateTitle()
+{
+    setWindowTitle(
+        document().isOpen() ? tr("%1[*] — Orvane").arg(orvane::titleText(document().displayName())) : tr("Orvane"));
+    setWindowModified(document().isModified());
+}
+
+void MainWindow::updateMiddle()
+{
+    m_tree->setScene(document().scene());
+    // Before the window is seen it isn't known what it will show.
+    if (document().isOpen())
+        m_middle->setCurrentWidget(m_view);
+    else if (isVisible())
+        showStartPage();
+}
+
+void MainWindow::reportSettled(const QString& error)
+{
+    if (NxDelayQueue::getDefault().isEmpty())
+        Q_EMIT settled(error);
+    else
+        QMetaObject::invokeMethod(
+            this, [this, error] { reportSettled(error); }, Qt::QueuedConnection);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!m_mayClose) {
+        const QScopedValueRollback inside(m_insideClose, true);
+        m_files->leaveForQuit([this] {
+            m_mayClose = true;
+            if (!m_insideClose) // a window that is being closed doesn't take another close
+                close();
+        });
+    }
+    if (!std::exchange(m_mayClose, false)) {
+        event->ignore();
+        return;
+    }
+    m_files->abandon();
+    saveLayout();
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    // By now the extensions of the first profile have added their docks and tool bars.
+    if (!std::exchange(m_layoutRestored, true))
+        restoreLayout();
+    if (!document().isOpen())
+        showStartPage();
+    QMainWindow::showEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!draggedFile(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QString fileName = draggedFile(event->mimeData());
+    if (fileName.isEmpty())
+        return;
+    event->acceptProposedAction();
+    openFile(fileName);
+}
+
+void MainWindow::saveLayout()
+{
+    m_session.settings().setValue(geometryKey, saveGeometry());
+    m_session.settings().setValue(stateKey, saveState());
+    m_session.settings().sync();
+}
+
+void MainWindow::restoreLayout()
+{
+    const QByteArray state = m_session.settings().value(stateKey).toByteArray();
+    if (state.isEmpty())
+        return;
+    QHash<QDockWidget*, bool> hidden;
+    for (QDockWidget* dock : m_shell->docks())
+        hidden.insert(dock, dock->isHidden());
+    restoreState(state);
+    // Whether an extension's dock is seen is the extension's own decision.
+    for (auto dock = hidden.constBegin(); dock != hidden.constEnd(); ++dock)
+        dock.key()->setHidden(dock.value());
+}

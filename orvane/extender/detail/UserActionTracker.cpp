@@ -1,0 +1,147 @@
+#include "orvane/extender/detail/UserActionTracker.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace {
+
+class EndEvent : public QEvent {
+public:
+    explicit EndEvent(int action)
+        : QEvent(eventType())
+        , m_action(action)
+    {
+    }
+
+    static Type eventType()
+    {
+        static const auto type = static_cast<Type>(registerEventType());
+        return type;
+    }
+
+    [[nodiscard]] int action() const noexcept { return m_action; }
+
+private:
+    int m_action;
+};
+
+// The scan code names the key itself: the release of Shift ahead of 1 turns the key's meaning from ! to 1. Events that
+// a program makes up have none.
+std::uint32_t keyOf(const QKeyEvent& event)
+{
+    return event.nativeScanCode() != 0 ? event.nativeScanCode() : static_cast<std::uint32_t>(event.key());
+}
+
+} // namespace
+
+UserActionTracker::UserActionTracker()
+{
+    if (QCoreApplication::instance() != nullptr)
+        QCoreApplication::instance()->installEventFilter(this);
+}
+
+UserActionTracker::~UserActionTracker() = default;
+
+bool UserActionTracker::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        buttonPressed(*static_cast<const QMouseEvent*>(event));
+        break;
+    case QEvent::MouseButtonRelease:
+        if (m_holder == Holder::Button && static_cast<const QMouseEvent*>(event)->buttons() == Qt::NoButton)
+            released();
+        break;
+    // A key that is a shortcut goes down with a ShortcutOverride alone.
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+        keyPressed(*static_cast<const QKeyEvent*>(event));
+        break;
+    case QEvent::KeyRelease: {
+        const auto* const key = static_cast<const QKeyEvent*>(event);
+        if (m_holder == Holder::Key && !key->isAutoRepeat() && keyOf(*key) == m_key)
+            released();
+        break;
+    }
+    case QEvent::Wheel:
+        wheelTurned(*static_cast<const QPointerEvent*>(event));
+        break;
+    case QEvent::TouchBegin:
+        touchBegan(*static_cast<const QPointerEvent*>(event));
+        break;
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        if (m_holder == Holder::Touch)
+            released();
+        break;
+    // A key that is held while the user leaves for another application is released over there.
+    case QEvent::ApplicationStateChange:
+        if (m_holder == Holder::Key)
+            released();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void UserActionTracker::buttonPressed(const QPointerEvent& event)
+{
+    // A press that is handed on to a parent, a second button, and the mouse press made from a touch join the action.
+    const Qt::MouseButtons buttons = static_cast<const QMouseEvent&>(event).buttons();
+    const bool isOnlyButton = qPopulationCount(buttons.toInt()) <= 1;
+    const bool isNew = m_holder != Holder::Touch && isOnlyButton && event.timestamp() != m_beganAt;
+    if (!isPointerDown() || isNew)
+        begin(Holder::Button, event.timestamp());
+}
+
+void UserActionTracker::keyPressed(const QKeyEvent& event)
+{
+    if (isPointerDown() || event.isAutoRepeat())
+        return;
+    const bool isOfferedAgain = m_holder == Holder::Key && keyOf(event) == m_key && event.timestamp() == m_beganAt;
+    if (isOfferedAgain)
+        return;
+    begin(Holder::Key, event.timestamp());
+    m_key = keyOf(event);
+}
+
+void UserActionTracker::wheelTurned(const QPointerEvent& event)
+{
+    if (isPointerDown() || (m_action != none && event.timestamp() == m_beganAt))
+        return;
+    begin(Holder::Nothing, event.timestamp());
+    released();
+}
+
+void UserActionTracker::touchBegan(const QPointerEvent& event)
+{
+    if (!isPointerDown())
+        begin(Holder::Touch, event.timestamp());
+}
+
+void UserActionTracker::begin(Holder holder, std::uint64_t timestamp)
+{
+    m_lastAction = m_lastAction == std::numeric_limits<int>::max() ? 1 : m_lastAction + 1;
+    m_action = m_lastAction;
+    m_holder = holder;
+    m_beganAt = timestamp;
+}
+
+void UserActionTracker::released()
+{
+    m_holder = Holder::Nothing;
+    // Behind the delivery of the release and behind what it posts, such as the queued commit of a cell editor.
+    QCoreApplication::postEvent(this, new EndEvent(m_action), Qt::LowEventPriority);
+}
+
+bool UserActionTracker::event(QEvent* event)
+{
+    if (event->type() != EndEvent::eventType())
+        return QObject::event(event);
+    if (m_holder == Holder::Nothing && static_cast<const EndEvent*>(event)->action() == m_action)
+        m_action = none;
+    return true;
+}

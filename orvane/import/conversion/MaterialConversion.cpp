@@ -1,0 +1,157 @@
+#include "orvane/import/conversion/MaterialConversion.h"
+
+#include "orvane/import/conversion/Texts.h"
+#include "orvane/import/pictures/ImageCodec.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <assimp/scene.h>
+
+namespace orvane {
+namespace {
+
+// The exponent of the sharpest highlight that a scene can tell.
+constexpr float greatestExponent = 128;
+
+// One texture of a kind is all that a scene can tell; physically based formats have their own kind.
+constexpr aiTextureType textureTypes[] = {aiTextureType_DIFFUSE, aiTextureType_BASE_COLOR};
+
+bool takeColor(const aiMaterial& material, NxSFColor& field, const char* key, unsigned int type, unsigned int index)
+{
+    aiColor3D color;
+    if (material.Get(key, type, index, color) != aiReturn_SUCCESS)
+        return false;
+    field.setValue(VbColor(color.r, color.g, color.b));
+    return true;
+}
+
+aiTextureType textureTypeOf(const aiMaterial& material)
+{
+    for (const aiTextureType type : textureTypes) {
+        if (material.GetTextureCount(type) > 0)
+            return type;
+    }
+    return aiTextureType_NONE;
+}
+
+std::optional<Picture> pictureOf(const aiTexture& texture)
+{
+    if (texture.mHeight == 0)
+        return decodePicture({reinterpret_cast<const unsigned char*>(texture.pcData), texture.mWidth});
+    if (texture.mWidth == 0 || texture.mWidth > maxPictureSide || texture.mHeight > maxPictureSide)
+        return std::nullopt;
+    Picture picture{static_cast<int>(texture.mWidth), static_cast<int>(texture.mHeight), 4, {}};
+    picture.bytes.reserve(std::size_t{texture.mWidth} * texture.mHeight * 4);
+    // The library's first row is the top one.
+    for (std::size_t row = texture.mHeight; row-- > 0;) {
+        for (const aiTexel& texel : std::span(texture.pcData + row * texture.mWidth, texture.mWidth))
+            picture.bytes.insert(picture.bytes.end(), {texel.r, texel.g, texel.b, texel.a});
+    }
+    return picture;
+}
+
+aiColor3D toAiColor(const NxSFColor& field)
+{
+    const VbColor& color = field.getValue();
+    return {color[0], color[1], color[2]};
+}
+
+} // namespace
+
+NxRef<NxMaterial> toMaterial(const aiMaterial& material)
+{
+    NxRef<NxMaterial> result = new NxMaterial;
+    aiString name;
+    if (material.Get(AI_MATKEY_NAME, name) == aiReturn_SUCCESS)
+        result->setName(toText(name));
+    takeColor(material, result->ambientColor, AI_MATKEY_COLOR_AMBIENT);
+    if (!takeColor(material, result->diffuseColor, AI_MATKEY_COLOR_DIFFUSE))
+        takeColor(material, result->diffuseColor, AI_MATKEY_BASE_COLOR);
+    takeColor(material, result->specularColor, AI_MATKEY_COLOR_SPECULAR);
+    takeColor(material, result->emissiveColor, AI_MATKEY_COLOR_EMISSIVE);
+    float value = 0;
+    if (material.Get(AI_MATKEY_SHININESS, value) == aiReturn_SUCCESS)
+        result->shininess.setValue(std::clamp(value / greatestExponent, 0.0F, 1.0F));
+    if (material.Get(AI_MATKEY_OPACITY, value) == aiReturn_SUCCESS)
+        result->transparency.setValue(std::clamp(1 - value, 0.0F, 1.0F));
+    return result;
+}
+
+std::string texturePath(const aiMaterial& material)
+{
+    aiString path;
+    if (material.GetTexture(textureTypeOf(material), 0, &path) != aiReturn_SUCCESS)
+        return {};
+    std::string result(path.data, path.length);
+    std::replace(result.begin(), result.end(), '\\', '/');
+    return result;
+}
+
+int textureWrap(const aiMaterial& material, int axis)
+{
+    const char* key = axis == 0 ? _AI_MATKEY_MAPPINGMODE_U_BASE : _AI_MATKEY_MAPPINGMODE_V_BASE;
+    int mode = aiTextureMapMode_Wrap;
+    material.Get(key, static_cast<unsigned int>(textureTypeOf(material)), 0, mode);
+    return mode == aiTextureMapMode_Clamp || mode == aiTextureMapMode_Decal ? NxTexture::CLAMP : NxTexture::REPEAT;
+}
+
+NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model)
+{
+    const std::string path = texturePath(material);
+    if (path.empty())
+        return {};
+    NxRef<NxTexture> result = new NxTexture;
+    result->wrapS.setValue(textureWrap(material, 0));
+    result->wrapT.setValue(textureWrap(material, 1));
+    const aiTexture* embedded = model.GetEmbeddedTexture(path.c_str());
+    if (embedded == nullptr) {
+        result->filePath.setValue(VbString(std::string_view(path)));
+        return result;
+    }
+    // What an embedded picture is called may be the path of the file that it was.
+    const VbString name = toText(embedded->mFilename);
+    if (name.view().find('.') != std::string_view::npos)
+        result->filePath.setValue(name);
+    else
+        result->setName(name);
+    if (std::optional<Picture> picture = pictureOf(*embedded)) {
+        const VbVec2s size(static_cast<short>(picture->width), static_cast<short>(picture->height));
+        result->image.setValue(size, picture->components, std::move(picture->bytes));
+    }
+    return result;
+}
+
+void setMaterial(aiMaterial& target, const NxMaterial* material)
+{
+    const NxRef<const NxMaterial> look = material != nullptr ? material : new NxMaterial;
+    const aiString name = toAiText(look->getName().isEmpty() ? std::string_view("Material") : look->getName().view());
+    const aiColor3D ambient = toAiColor(look->ambientColor);
+    const aiColor3D diffuse = toAiColor(look->diffuseColor);
+    const aiColor3D specular = toAiColor(look->specularColor);
+    const aiColor3D emissive = toAiColor(look->emissiveColor);
+    const float exponent = look->shininess.getValue() * greatestExponent;
+    const float opacity = 1 - look->transparency.getValue();
+    target.AddProperty(&name, AI_MATKEY_NAME);
+    target.AddProperty(&ambient, 1, AI_MATKEY_COLOR_AMBIENT);
+    target.AddProperty(&diffuse, 1, AI_MATKEY_COLOR_DIFFUSE);
+    target.AddProperty(&specular, 1, AI_MATKEY_COLOR_SPECULAR);
+    target.AddProperty(&emissive, 1, AI_MATKEY_COLOR_EMISSIVE);
+    target.AddProperty(&exponent, 1, AI_MATKEY_SHININESS);
+    target.AddProperty(&opacity, 1, AI_MATKEY_OPACITY);
+}
+
+void setTexture(aiMaterial& target, const NxTexture& texture, const std::string& path)
+{
+    const aiString text = toAiText(path);
+    const auto mode = [](const NxSFEnum& wrap) {
+        return wrap.getValue() == NxTexture::CLAMP ? int{aiTextureMapMode_Clamp} : int{aiTextureMapMode_Wrap};
+    };
+    const int across = mode(texture.wrapS);
+    const int upwards = mode(texture.wrapT);
+    target.AddProperty(&text, AI_MATKEY_TEXTURE_DIFFUSE(0));
+    target.AddProperty(&across, 1, AI_MATKEY_MAPPINGMODE_U_DIFFUSE(0));
+    target.AddProperty(&upwards, 1, AI_MATKEY_MAPPINGMODE_V_DIFFUSE(0));
+}
+
+} // namespace orvane

@@ -1,0 +1,46 @@
+#include "orvane/import/conversion/ModelFiles.h"
+
+#include "orvane/import/sandbox/FileRules.h"
+
+#include <algorithm>
+#include <system_error>
+
+namespace orvane {
+namespace {
+
+bool isBelow(const std::filesystem::path& path, const std::filesystem::path& folder)
+{
+    return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first == folder.end();
+}
+
+} // namespace
+
+ModelFiles::ModelFiles(const std::string& model)
+{
+    for (const std::string& folder : foldersOf(model)) {
+        std::error_code error;
+        const std::filesystem::path real = std::filesystem::canonical(folder, error);
+        if (!error)
+            m_folders.push_back(real);
+    }
+}
+
+bool ModelFiles::Exists(const char* path) const
+{
+    return isUsable(path) && DefaultIOSystem::Exists(path);
+}
+
+Assimp::IOStream* ModelFiles::Open(const char* path, const char* mode)
+{
+    return isUsable(path) ? DefaultIOSystem::Open(path, mode) : nullptr;
+}
+
+bool ModelFiles::isUsable(const char* path) const
+{
+    std::error_code error;
+    const std::filesystem::path real = std::filesystem::canonical(path, error);
+    return !error && std::filesystem::is_regular_file(real, error)
+        && std::any_of(m_folders.begin(), m_folders.end(), [&](const auto& folder) { return isBelow(real, folder); });
+}
+
+} // namespace orvane

@@ -1,0 +1,187 @@
+#include "orvane/import/conversion/SceneBuilder.h"
+
+#include "orvane/import/conversion/CameraConversion.h"
+#include "orvane/import/conversion/LightConversion.h"
+#include "orvane/import/conversion/MaterialConversion.h"
+#include "orvane/import/conversion/MeshConversion.h"
+#include "orvane/import/conversion/Placement.h"
+#include "orvane/import/conversion/Texts.h"
+
+#include "meridane/scene/file/NxSceneReader.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <span>
+#include <utility>
+
+#include <assimp/commonMetaData.h>
+#include <assimp/scene.h>
+
+namespace orvane {
+namespace {
+
+std::string_view viewOf(const aiString& text)
+{
+    return {text.data, text.length};
+}
+
+template <typename T>
+std::span<T* const> children(T* const* array, unsigned int count)
+{
+    return {array, array == nullptr ? 0 : count};
+}
+
+bool isPlain(const aiNode& node)
+{
+    return node.mNumChildren == 0 && node.mNumMeshes == 0;
+}
+
+bool isGltf(const aiScene& model)
+{
+    aiString format;
+    return model.mMetaData != nullptr && model.mMetaData->Get(AI_METADATA_SOURCE_FORMAT, format)
+        && viewOf(format).starts_with("glTF2");
+}
+
+} // namespace
+
+SceneBuilder::SceneBuilder(const aiScene& model, std::string fileName)
+    : m_model(model)
+    , m_fileName(std::move(fileName))
+    , m_meshGroups(model.mNumMeshes)
+    , m_materials(model.mNumMaterials)
+    , m_isGltf(isGltf(model))
+{
+    for (const aiLight* light : children(model.mLights, model.mNumLights))
+        m_lights[viewOf(light->mName)].push_back(light);
+    for (const aiCamera* camera : children(model.mCameras, model.mNumCameras))
+        m_cameras.emplace(viewOf(camera->mName), camera);
+}
+
+NxRef<NxGroup> SceneBuilder::build(std::string& error)
+{
+    NxRef<NxGroup> scene = new NxGroup;
+    const aiNode& root = *m_model.mRootNode;
+    addLights(*scene, root, aiMatrix4x4());
+    if (isMadeUp(root) ? addContent(*scene, root, 1) : addNode(*scene, root, 1))
+        return scene;
+    error = "nodes stand in each other more than " + std::to_string(NxSceneReader::maxDepth) + " deep";
+    return {};
+}
+
+// Many readers put a node of their own above those of the model.
+bool SceneBuilder::isMadeUp(const aiNode& root) const
+{
+    constexpr std::array<std::string_view, 5> names{"", "ROOT", "RootNode", "Scene", "<BlenderRoot>"};
+    const std::string_view name = viewOf(root.mName);
+    const bool named = std::find(names.begin(), names.end(), name) == names.end() && name != m_fileName;
+    return !named && root.mTransformation.IsIdentity() && !m_cameras.contains(name) && !m_lights.contains(name);
+}
+
+void SceneBuilder::addLights(NxGroup& scene, const aiNode& node, const aiMatrix4x4& above)
+{
+    const aiMatrix4x4 placement = above * node.mTransformation;
+    const auto place = m_lights.find(viewOf(node.mName));
+    if (place != m_lights.end()) {
+        for (const aiLight* light : place->second) {
+            if (const NxRef<NxLight> made = toLight(*light, placement))
+                scene.addChild(made.get());
+        }
+        // Names aren't always unique; a light stands at the first node of its name.
+        place->second.clear();
+    }
+    for (const aiNode* child : children(node.mChildren, node.mNumChildren))
+        addLights(scene, *child, placement);
+}
+
+bool SceneBuilder::addNode(NxGroup& parent, const aiNode& node, int depth)
+{
+    // A node that only places a light or a camera is told by the light or the camera itself.
+    if (isPlain(node) && (m_lights.contains(viewOf(node.mName)) || addPlainCamera(parent, node)))
+        return true;
+    const NxRef<NxGroup> group = makeTransform(node.mTransformation);
+    group->setName(toText(node.mName));
+    parent.addChild(group.get());
+    return addContent(*group, node, depth + 1);
+}
+
+bool SceneBuilder::addContent(NxGroup& group, const aiNode& node, int depth)
+{
+    // A mesh stands two levels below the group.
+    if (depth + 2 > NxSceneReader::maxDepth)
+        return false;
+    if (const NxRef<NxCamera> camera = cameraOf(node))
+        group.addChild(camera.get());
+    for (const unsigned int index : std::span(node.mMeshes, node.mNumMeshes)) {
+        if (const NxRef<NxGroup> mesh = meshGroup(index))
+            group.addChild(mesh.get());
+    }
+    const std::span<aiNode* const> nodes = children(node.mChildren, node.mNumChildren);
+    return std::all_of(nodes.begin(), nodes.end(), [&](const aiNode* child) { return addNode(group, *child, depth); });
+}
+
+bool SceneBuilder::addPlainCamera(NxGroup& parent, const aiNode& node)
+{
+    const NxRef<NxCamera> camera = cameraOf(node);
+    if (!camera || !moveCamera(*camera, node.mTransformation))
+        return false;
+    parent.addChild(camera.get());
+    return true;
+}
+
+NxRef<NxCamera> SceneBuilder::cameraOf(const aiNode& node) const
+{
+    const auto place = m_cameras.find(viewOf(node.mName));
+    if (place == m_cameras.end())
+        return {};
+    if (!m_isGltf)
+        return toCamera(*place->second);
+    // The library's reader of this format sets the position to the translation that the node has as well, and makes the
+    // width's angle by multiplying the height's, not its tangent.
+    aiCamera camera = *place->second;
+    camera.mPosition = aiVector3D();
+    if (camera.mAspect > 0)
+        camera.mHorizontalFOV = 2 * std::atan(std::tan(camera.mHorizontalFOV / camera.mAspect / 2) * camera.mAspect);
+    return toCamera(camera);
+}
+
+NxRef<NxGroup> SceneBuilder::meshGroup(unsigned int index)
+{
+    if (index >= m_meshGroups.size() || m_model.mMeshes[index]->mNumVertices == 0)
+        return {};
+    NxRef<NxGroup>& group = m_meshGroups[index];
+    if (group)
+        return group;
+    const aiMesh& mesh = *m_model.mMeshes[index];
+    group = new NxGroup;
+    if (mesh.mMaterialIndex < m_materials.size()) {
+        group->addChild(material(mesh.mMaterialIndex).get());
+        if (const NxRef<NxTexture> picture = texture(mesh.mMaterialIndex))
+            group->addChild(picture.get());
+    }
+    group->addChild(toMesh(mesh).get());
+    return group;
+}
+
+NxRef<NxMaterial> SceneBuilder::material(unsigned int index)
+{
+    NxRef<NxMaterial>& result = m_materials[index];
+    if (!result)
+        result = toMaterial(*m_model.mMaterials[index]);
+    return result;
+}
+
+NxRef<NxTexture> SceneBuilder::texture(unsigned int materialIndex)
+{
+    const aiMaterial& material = *m_model.mMaterials[materialIndex];
+    const std::string path = texturePath(material);
+    if (path.empty())
+        return {};
+    NxRef<NxTexture>& result = m_textures[{path, textureWrap(material, 0), textureWrap(material, 1)}];
+    if (!result)
+        result = toTexture(material, m_model);
+    return result;
+}
+
+} // namespace orvane

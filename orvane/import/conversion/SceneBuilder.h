@@ -1,0 +1,63 @@
+#pragma once
+
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxCamera.h"
+#include "meridane/scene/nodes/NxGroup.h"
+#include "meridane/scene/nodes/NxMaterial.h"
+#include "meridane/scene/nodes/NxTexture.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <unordered_map>
+#include <vector>
+
+#include <assimp/matrix4x4.h>
+
+struct aiCamera;
+struct aiLight;
+struct aiNode;
+struct aiScene;
+
+namespace orvane {
+
+/// Builds our scene from a model that the import library has read.
+///
+/// Lights come first, at the top of the scene, since they shine on what follows. A node becomes a transform with the
+/// node's name; in it stands a group for each of its meshes, with the mesh's material and texture ahead of it. Meshes,
+/// materials and textures that the model uses twice are shared.
+class SceneBuilder {
+public:
+    /// The model must outlive the builder. `fileName` is the name of its file, without a folder.
+    SceneBuilder(const aiScene& model, std::string fileName);
+
+    /// The scene, or null with `error` saying what can't be told in a scene.
+    [[nodiscard]] NxRef<NxGroup> build(std::string& error);
+
+private:
+    void addLights(NxGroup& scene, const aiNode& node, const aiMatrix4x4& above);
+    bool addNode(NxGroup& parent, const aiNode& node, int depth);
+    bool addContent(NxGroup& group, const aiNode& node, int depth);
+    /// Puts a camera in place of a node that only places it. False for another node.
+    bool addPlainCamera(NxGroup& parent, const aiNode& node);
+    [[nodiscard]] bool isMadeUp(const aiNode& root) const;
+    [[nodiscard]] NxRef<NxCamera> cameraOf(const aiNode& node) const;
+
+    [[nodiscard]] NxRef<NxGroup> meshGroup(unsigned int index);
+    [[nodiscard]] NxRef<NxMaterial> material(unsigned int index);
+    [[nodiscard]] NxRef<NxTexture> texture(unsigned int materialIndex);
+
+    using TextureKey = std::tuple<std::string, int, int>; // path and wraps
+
+    const aiScene& m_model;
+    std::string m_fileName;
+    std::unordered_map<std::string_view, std::vector<const aiLight*>> m_lights; // by the name of their node
+    std::unordered_map<std::string_view, const aiCamera*> m_cameras;
+    std::vector<NxRef<NxGroup>> m_meshGroups; // as the model's meshes, made when used
+    std::vector<NxRef<NxMaterial>> m_materials; // as the model's materials, made when used
+    std::map<TextureKey, NxRef<NxTexture>> m_textures;
+    bool m_isGltf = false;
+};
+
+} // namespace orvane

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "meridane/scene/fields/list/NxMFColorRGBA.h"
+#include "meridane/scene/fields/list/NxMFInt32.h"
+#include "meridane/scene/fields/list/NxMFVec2f.h"
+#include "meridane/scene/fields/list/NxMFVec3f.h"
+#include "meridane/scene/fields/list/NxMFVec4f.h"
+
+#include <span>
+#include <type_traits>
+
+/// Which lists of a scene travel as bytes.
+namespace orvane {
+
+/// The type of the values of a class of lists.
+template <typename List>
+using ListValue = typename decltype(std::declval<const List&>().getValues())::value_type;
+
+/// Calls the action with the field as the list that it is. False, without a call, for a field that isn't a list of
+/// numbers which may have any bits: of positions, directions, colours or indices.
+template <typename Action>
+bool withPackableList(NxField& field, const Action& action)
+{
+    const auto tryAs = [&]<typename List>(List* list) {
+        // Their bytes are all there is to them.
+        static_assert(std::is_trivially_copyable_v<ListValue<List>>);
+        if (list != nullptr)
+            action(*list);
+        return list != nullptr;
+    };
+    return dynamic_cast<NxMField*>(&field) != nullptr
+        && (tryAs(dynamic_cast<NxMFVec3f*>(&field)) || tryAs(dynamic_cast<NxMFVec2f*>(&field))
+            || tryAs(dynamic_cast<NxMFVec4f*>(&field)) || tryAs(dynamic_cast<NxMFInt32*>(&field)));
+}
+
+} // namespace orvane

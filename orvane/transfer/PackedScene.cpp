@@ -1,0 +1,83 @@
+#include "orvane/transfer/PackedScene.h"
+
+#include "orvane/transfer/NodeOrder.h"
+#include "orvane/transfer/PackedLists.h"
+
+#include "meridane/scene/fields/NxFieldData.h"
+#include "meridane/scene/fields/single/NxSFImage.h"
+#include "meridane/scene/file/NxSceneWriter.h"
+
+#include <chrono>
+#include <utility>
+
+namespace orvane {
+
+PackedScene::PackedScene(NxGroup& scene)
+{
+    NodeOrder order(scene);
+    std::size_t number = 0;
+    while (NxNode* node = order.next())
+        takeBlocks(*node, number++);
+    writeText(scene);
+}
+
+void PackedScene::takeBlocks(NxNode& node, std::size_t number)
+{
+    const NxFieldData& data = *node.getFieldData();
+    for (int index = 0; index < data.getNumFields(); ++index) {
+        NxField& field = *data.getField(&node, index);
+        const std::string name(data.getFieldName(index).getString());
+        if (field.isOfType(NxSFImage::getClassTypeId()))
+            takeImage(static_cast<NxSFImage&>(field), std::to_string(number), name);
+        withPackableList(field, [&](auto& list) {
+            if (list.getNum() >= shortestList)
+                addBlock("list ", std::to_string(number), name, list.takeValues());
+        });
+    }
+}
+
+void PackedScene::takeImage(NxSFImage& field, const std::string& node, const std::string& name)
+{
+    VbVec2s size;
+    int components = 0;
+    field.getValue(size, components);
+    if (size[0] * size[1] < shortestList)
+        return;
+    std::string numbers = node;
+    for (const int number : {int{size[0]}, int{size[1]}, components})
+        numbers.append(" ").append(std::to_string(number));
+    addBlock("image ", numbers, name, field.takeBytes());
+}
+
+template <typename Value>
+void PackedScene::addBlock(
+    const char* word, const std::string& numbers, const std::string& name, std::vector<Value> values)
+{
+    const auto kept = std::make_shared<const std::vector<Value>>(std::move(values));
+    const std::size_t size = kept->size() * sizeof(Value);
+    std::string head(word);
+    head.append(std::to_string(size)).append(" ").append(numbers).append(" ").append(name).append("\n");
+    m_blocks.push_back({std::move(head), kept, {reinterpret_cast<const char*>(kept->data()), size}});
+}
+
+void PackedScene::writeText(NxGroup& scene)
+{
+    NxSceneWriter writer(&scene);
+    while (writer.step(m_text, std::chrono::hours(1))) { }
+    m_failure = writer.failure();
+    const std::string textHead = std::string("text ").append(std::to_string(m_text.size())).append("\n");
+    std::size_t size = textHead.size() + m_text.size();
+    for (const Block& block : m_blocks)
+        size += block.head.size() + block.bytes.size();
+    m_head.append(firstWords).append(std::to_string(size)).append("\n").append(textHead);
+}
+
+std::vector<std::string_view> PackedScene::portions() const
+{
+    std::vector<std::string_view> portions{m_head, m_text};
+    for (const Block& block : m_blocks)
+        portions.insert(portions.end(), {std::string_view(block.head), block.bytes});
+    return portions;
+}
+
+} // namespace orvane

@@ -1,0 +1,143 @@
+#include "orvane/app/command_line/CommandLine.h"
+
+#include <QTest>
+
+class CommandLineTest : public QObject {
+    Q_OBJECT
+
+private:
+    static CommandLine::ParseResult parse(const QStringList& arguments)
+    {
+        return CommandLine::parse(QStringList{QStringLiteral("orvane")} + arguments);
+    }
+
+private Q_SLOTS:
+    void nothingAsksForAnEmptyWindow()
+    {
+        const auto [commandLine, error] = parse({});
+        QCOMPARE(error, QString());
+        QVERIFY(commandLine.file.isEmpty());
+        QVERIFY(!commandLine.isBatch());
+    }
+
+    void everyOptionIsTaken()
+    {
+        const auto [commandLine, error] = parse({QStringLiteral("--plugin"), QStringLiteral("a.so"),
+            QStringLiteral("--plugin=b.so"), QStringLiteral("--profile"), QStringLiteral("Text only"),
+            QStringLiteral("--select"), QStringLiteral("/a"), QStringLiteral("--set"), QStringLiteral("/a.b=1"),
+            QStringLiteral("--set"), QStringLiteral("/\"x=y\".b=c=d"), QStringLiteral("--get"), QStringLiteral("/a.b"),
+            QStringLiteral("--list"), QStringLiteral("--list-extensions"), QStringLiteral("--export"),
+            QStringLiteral("out.obj"), QStringLiteral("--export=out.stl"), QStringLiteral("--screenshot"),
+            QStringLiteral("p.png"), QStringLiteral("--size"), QStringLiteral("640x480"),
+            QStringLiteral("--no-settings"), QStringLiteral("in.mrd")});
+        QCOMPARE(error, QString());
+        QCOMPARE(commandLine.plugins, QStringList({QStringLiteral("a.so"), QStringLiteral("b.so")}));
+        QCOMPARE(commandLine.profile, QStringLiteral("Text only"));
+        QCOMPARE(commandLine.select, QStringLiteral("/a"));
+        QCOMPARE(commandLine.assignments.size(), 2);
+        QCOMPARE(commandLine.assignments[0].path, QStringLiteral("/a.b"));
+        QCOMPARE(commandLine.assignments[0].text, QStringLiteral("1"));
+        QCOMPARE(commandLine.assignments[1].path, QStringLiteral("/\"x=y\".b"));
+        QCOMPARE(commandLine.assignments[1].text, QStringLiteral("c=d"));
+        QCOMPARE(commandLine.queries, QStringList({QStringLiteral("/a.b")}));
+        QVERIFY(commandLine.list);
+        QVERIFY(commandLine.listExtensions);
+        QCOMPARE(commandLine.exportFiles, QStringList({QStringLiteral("out.obj"), QStringLiteral("out.stl")}));
+        QCOMPARE(commandLine.screenshotFile, QStringLiteral("p.png"));
+        QCOMPARE(commandLine.size, QSize(640, 480));
+        QVERIFY(commandLine.noSettings);
+        QCOMPARE(commandLine.file, QStringLiteral("in.mrd"));
+    }
+
+    void unusableArgumentsAreRefused_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("mentions");
+        QTest::newRow("unknown option") << QStringList{QStringLiteral("--nonsense")} << QStringLiteral("nonsense");
+        QTest::newRow("two files") << QStringList{QStringLiteral("a.mrd"), QStringLiteral("b.mrd")}
+                                   << QStringLiteral("b.mrd");
+        QTest::newRow("set without equals")
+            << QStringList{QStringLiteral("--set=/a.b"), QStringLiteral("a.mrd")} << QStringLiteral("PATH=TEXT");
+        QTest::newRow("set without path")
+            << QStringList{QStringLiteral("--set==1"), QStringLiteral("a.mrd")} << QStringLiteral("PATH=TEXT");
+        QTest::newRow("option without value") << QStringList{QStringLiteral("--get")} << QStringLiteral("get");
+        QTest::newRow("size without height") << QStringList{QStringLiteral("--size=640")} << QStringLiteral("WxH");
+        QTest::newRow("size of nothing") << QStringList{QStringLiteral("--size=0x0")} << QStringLiteral("WxH");
+        QTest::newRow("size of nothing in one direction")
+            << QStringList{QStringLiteral("--size=640x0")} << QStringLiteral("WxH");
+        QTest::newRow("size below nothing") << QStringList{QStringLiteral("--size=-640x480")} << QStringLiteral("WxH");
+        QTest::newRow("size with more behind it")
+            << QStringList{QStringLiteral("--size=640x480x24")} << QStringLiteral("WxH");
+        QTest::newRow("size beyond all numbers")
+            << QStringList{QStringLiteral("--size=99999999999x480")} << QStringLiteral("WxH");
+        QTest::newRow("side that is too long")
+            << QStringList{QStringLiteral("--size=8193x1")} << QStringLiteral("8192");
+        QTest::newRow("too many pixels") << QStringList{QStringLiteral("--size=8192x8192")}
+                                         << QStringLiteral("33 million");
+        for (const char* const option :
+            {"--plugin", "--profile", "--select", "--set", "--get", "--export", "--screenshot", "--size"}) {
+            QTest::addRow("empty %s", option) << QStringList{QLatin1String(option), QString(), QStringLiteral("a.mrd")}
+                                              << QString::fromLatin1(option);
+        }
+        QTest::newRow("empty file") << QStringList{QString()} << QStringLiteral("empty");
+        QTest::newRow("one empty export of two")
+            << QStringList{QStringLiteral("--export=a.obj"), QStringLiteral("--export="), QStringLiteral("a.mrd")}
+            << QStringLiteral("--export");
+        for (const char* const option : {"--profile=a", "--select=/a", "--screenshot=a.png", "--size=10x10"}) {
+            const QString text = QLatin1String(option);
+            QTest::addRow("twice %s", option)
+                << QStringList{text, text, QStringLiteral("a.mrd")} << text.section(u'=', 0, 0) + u' ';
+        }
+        QTest::newRow("get without file") << QStringList{QStringLiteral("--get=/a.b")} << QStringLiteral("file");
+        QTest::newRow("export without file") << QStringList{QStringLiteral("--export=a.obj")} << QStringLiteral("file");
+    }
+
+    void unusableArgumentsAreRefused()
+    {
+        QFETCH(const QStringList, arguments);
+        QFETCH(const QString, mentions);
+        const QString error = parse(arguments).error;
+        QVERIFY2(error.contains(mentions), qPrintable(error));
+        QVERIFY(!error.contains(u'\n'));
+    }
+
+    void theLargestSizesAreTaken()
+    {
+        QCOMPARE(parse({QStringLiteral("--size=7680x4320")}).error, QString());
+        QCOMPARE(parse({QStringLiteral("--size=8192x4096")}).error, QString());
+        QCOMPARE(parse({QStringLiteral("--size=1x8192")}).error, QString());
+    }
+
+    void extensionsAreLoadedForAWindowAndWhereTheyAreAskedFor()
+    {
+        const QString file = QStringLiteral("a.mrd");
+        const QString list = QStringLiteral("--list");
+        QVERIFY(!parse({list, file}).commandLine.needsExtensions());
+        QVERIFY(parse({file}).commandLine.needsExtensions());
+        QVERIFY(parse({QStringLiteral("--list-extensions")}).commandLine.needsExtensions());
+        QVERIFY(parse({list, QStringLiteral("--plugin=p.so"), file}).commandLine.needsExtensions());
+        QVERIFY(parse({list, QStringLiteral("--profile=All"), file}).commandLine.needsExtensions());
+    }
+
+    void onlyOutputWithoutAPictureIsBatchWork()
+    {
+        const QString file = QStringLiteral("a.mrd");
+        QVERIFY(parse({QStringLiteral("--list"), file}).commandLine.isBatch());
+        QVERIFY(parse({QStringLiteral("--list-extensions")}).commandLine.isBatch());
+        QVERIFY(parse({QStringLiteral("--get=/a.b"), file}).commandLine.isBatch());
+        QVERIFY(parse({QStringLiteral("--export=b.mrd"), file}).commandLine.isBatch());
+        QVERIFY(!parse({QStringLiteral("--set=/a.b=1"), file}).commandLine.isBatch());
+        QVERIFY(!parse({QStringLiteral("--list"), QStringLiteral("--screenshot=p.png"), file}).commandLine.isBatch());
+    }
+
+    void helpNamesEveryOption()
+    {
+        const QString help = CommandLine::helpText();
+        for (const char* const option : {"--plugin", "--profile", "--select", "--set", "--get", "--list",
+                 "--list-extensions", "--export", "--screenshot", "--size", "--no-settings", "--version", "--help"})
+            QVERIFY2(help.contains(QLatin1String(option)), option);
+    }
+};
+
+QTEST_GUILESS_MAIN(CommandLineTest)
+#include "tst_CommandLine.moc"

@@ -1,0 +1,252 @@
+#include "import/HelperRun.h"
+
+#include "orvane/import/sandbox/Sanitizer.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+/// What the import helper can't do, tried from inside, and that it works with every lock and without any.
+class tst_Lock : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void whatReadingTakesWorks_data();
+    void whatReadingTakesWorks();
+    void whatIsForbiddenFails_data();
+    void whatIsForbiddenFails();
+    void theProbeItselfCouldDoIt_data();
+    void theProbeItselfCouldDoIt();
+    void theFilterAloneRefusesToWrite_data();
+    void theFilterAloneRefusesToWrite();
+    void theFileRulesAloneRefuseIt_data();
+    void theFileRulesAloneRefuseIt();
+    void noPrivilegeCanBeGained();
+    void aModelReadsTheFilesBesideIt();
+    void aModelBehindALinkIsRead();
+    void theHelperTellsItsLocks();
+    void theHelperWorksOnAMachineWithoutLocks();
+
+private:
+    [[nodiscard]] QString outcome(const char* locks, const QByteArray& thing) const;
+    [[nodiscard]] QString runBare(const QStringList& arguments) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace {
+
+bool writeFile(const QString& name, const QByteArray& bytes)
+{
+    QFile file(name);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+// Those that the sanitizer's own search for leaks needs too.
+bool isTheSanitizers(const QByteArray& thing)
+{
+    static const QList<QByteArray> things{"fork", "fork by the old call", "spawn", "start a thread", "trace",
+        "signal the parent", "map code", "turn memory into code"};
+    return orvane::isSanitized() && things.contains(thing);
+}
+
+void addForbidden()
+{
+    QTest::addColumn<QByteArray>("thing");
+    for (const char* thing : {"read beside the folder", "read through a link", "read the passwords",
+             "list the root folder", "overwrite a file", "open to read and write", "append", "truncate on opening",
+             "create a file", "create by its own call", "make a nameless file", "open by the newer call", "truncate",
+             "delete a file", "rename a file", "link a file", "make a symbolic link", "make a folder",
+             "delete a folder", "make a pipe file", "change permissions", "change the owner", "change the time",
+             "change the folder", "change the root", "make a file in memory", "write to an inherited file",
+             "make a socket", "make a datagram socket", "make a local socket", "make a socket pair", "connect", "fork",
+             "fork by the old call", "spawn", "start a thread", "run a program", "run a program in the folder",
+             "enter a namespace", "trace", "signal the parent", "map code", "turn memory into code", "raise a limit",
+             "become another user"})
+        QTest::newRow(thing) << QByteArray(thing);
+}
+
+} // namespace
+
+void tst_Lock::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("in/below")));
+    QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("in/empty")));
+    for (const char* name : {"file", "in/file", "in/below/file"})
+        QVERIFY(writeFile(m_folder->filePath(QString::fromUtf8(name)), "content"));
+    QVERIFY(QFile::link(QStringLiteral("../file"), m_folder->filePath(QStringLiteral("in/link"))));
+    const QString program = m_folder->filePath(QStringLiteral("in/program"));
+    QVERIFY(writeFile(program, "#!/bin/sh\n") && QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+}
+
+// What the probe says, started with an open file as its descriptor 7.
+QString tst_Lock::outcome(const char* locks, const QByteArray& thing) const
+{
+    QProcess process;
+    process.start(QStringLiteral("/bin/sh"),
+        {QStringLiteral("-c"), QStringLiteral("exec \"$0\" \"$@\" 7>>\"$3/inherited\""), QString::fromUtf8(LOCK_PROBE),
+            QString::fromUtf8(locks), QString::fromUtf8(thing), m_folder->path()});
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return QStringLiteral("it didn't end by itself");
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+QString tst_Lock::runBare(const QStringList& arguments) const
+{
+    QProcess process;
+    process.start(QString::fromUtf8(BARE_MACHINE), arguments);
+    if (!process.waitForFinished(60000))
+        return QStringLiteral("it didn't end");
+    return QString::fromUtf8(process.readAllStandardError() + process.readAllStandardOutput());
+}
+
+void tst_Lock::whatReadingTakesWorks_data()
+{
+    QTest::addColumn<QByteArray>("thing");
+    for (const char* thing : {"read in the folder", "read below the folder", "list the folder", "allocate"})
+        QTest::newRow(thing) << QByteArray(thing);
+}
+
+void tst_Lock::whatReadingTakesWorks()
+{
+    QFETCH(QByteArray, thing);
+    if (outcome("all", "nothing") == QStringLiteral("lock missing"))
+        QSKIP("a lock is missing on this machine");
+    QCOMPARE(outcome("all", thing), QStringLiteral("done"));
+}
+
+void tst_Lock::whatIsForbiddenFails_data()
+{
+    addForbidden();
+}
+
+void tst_Lock::whatIsForbiddenFails()
+{
+    QFETCH(QByteArray, thing);
+    if (outcome("all", "nothing") == QStringLiteral("lock missing"))
+        QSKIP("a lock is missing on this machine");
+    if (isTheSanitizers(thing))
+        QSKIP("the address sanitizer needs it");
+    const QString said = outcome("all", thing);
+    const QStringList refusals{QStringLiteral("Operation not permitted"), QStringLiteral("Permission denied"),
+        QStringLiteral("Function not implemented"), QStringLiteral("Bad file descriptor")};
+    QVERIFY2(refusals.contains(said), qPrintable(said));
+    QFile file(m_folder->filePath(QStringLiteral("in/file")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("content"));
+    QCOMPARE(
+        QDir(m_folder->filePath(QStringLiteral("in"))).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 5);
+}
+
+void tst_Lock::theProbeItselfCouldDoIt_data()
+{
+    addForbidden();
+}
+
+// Else the refusals would tell nothing about the locks.
+void tst_Lock::theProbeItselfCouldDoIt()
+{
+    QFETCH(QByteArray, thing);
+    const QString said = outcome("none", thing);
+    const QStringList notForUs{QStringLiteral("Operation not permitted"), QStringLiteral("Permission denied"),
+        QStringLiteral("Operation not supported"), QStringLiteral("Address family not supported by protocol"),
+        QStringLiteral("Function not implemented")};
+    if (notForUs.contains(said))
+        QSKIP("this user or machine can't do it anyway");
+    if (thing.startsWith("run a program"))
+        QCOMPARE(said, QString()); // another program took its place
+    else
+        QCOMPARE(said, QStringLiteral("done"));
+}
+
+void tst_Lock::theFilterAloneRefusesToWrite_data()
+{
+    QTest::addColumn<QByteArray>("thing");
+    for (const char* thing : {"overwrite a file", "open to read and write", "append", "truncate on opening",
+             "create a file", "create by its own call", "make a nameless file", "truncate", "delete a file",
+             "rename a file", "make a folder", "change permissions", "connect"})
+        QTest::newRow(thing) << QByteArray(thing);
+}
+
+void tst_Lock::theFilterAloneRefusesToWrite()
+{
+    QFETCH(QByteArray, thing);
+    const QString said = outcome("calls", thing);
+    if (said == QStringLiteral("lock missing"))
+        QSKIP("this machine has no filters for system calls");
+    QCOMPARE(said, QStringLiteral("Operation not permitted"));
+}
+
+void tst_Lock::theFileRulesAloneRefuseIt_data()
+{
+    QTest::addColumn<QByteArray>("thing");
+    for (const char* thing : {"read beside the folder", "read through a link", "read the passwords",
+             "list the root folder", "overwrite a file", "open to read and write", "create a file",
+             "create by its own call", "delete a file", "make a folder", "run a program"})
+        QTest::newRow(thing) << QByteArray(thing);
+}
+
+void tst_Lock::theFileRulesAloneRefuseIt()
+{
+    QFETCH(QByteArray, thing);
+    const QString said = outcome("files", thing);
+    if (said == QStringLiteral("lock missing"))
+        QSKIP("this machine has no rules for files");
+    QCOMPARE(said, QStringLiteral("Permission denied"));
+}
+
+void tst_Lock::noPrivilegeCanBeGained()
+{
+    // With every lock the question itself is refused.
+    const QString said = outcome("files", "no new privileges");
+    if (said == QStringLiteral("lock missing"))
+        QSKIP("this machine has no rules for files");
+    QCOMPARE(said, QStringLiteral("done"));
+}
+
+void tst_Lock::aModelReadsTheFilesBesideIt()
+{
+    // The colour stands in the material file.
+    const HelperRun run = runHelper({QStringLiteral("--read"), modelFile("crate.obj")});
+    QCOMPARE(run.status, 0);
+    QVERIFY(run.output.find("Material \"wood\"") != std::string::npos);
+}
+
+void tst_Lock::aModelBehindALinkIsRead()
+{
+    const QString link = m_folder->filePath(QStringLiteral("in/crate.glb"));
+    QVERIFY(QFile::link(modelFile("crate.glb"), link));
+    const HelperRun run = runHelper({QStringLiteral("--read"), link});
+    QCOMPARE(run.error, QString());
+    QCOMPARE(run.status, 0);
+}
+
+void tst_Lock::theHelperTellsItsLocks()
+{
+    const HelperRun run = runHelper({QStringLiteral("--locks")});
+    QCOMPARE(run.status, 0);
+    const QStringList lines = QString::fromStdString(run.output).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines[0], QStringLiteral("privileges locked"));
+    QVERIFY(lines[1].startsWith(QStringLiteral("files ")));
+    QVERIFY(lines[2].startsWith(QStringLiteral("system calls ")));
+}
+
+void tst_Lock::theHelperWorksOnAMachineWithoutLocks()
+{
+    const QString locks = runBare({helperProgram(), QStringLiteral("--locks")});
+    if (locks.startsWith(QStringLiteral("this machine has")))
+        QSKIP("this machine has no filters for system calls");
+    QCOMPARE(locks, QStringLiteral("privileges not locked\nfiles not locked\nsystem calls not locked\n"));
+    const QString model = runBare({helperProgram(), QStringLiteral("--read"), modelFile("crate.glb")});
+    QCOMPARE(model, QString::fromStdString(runHelper({QStringLiteral("--read"), modelFile("crate.glb")}).output));
+}
+
+QTEST_GUILESS_MAIN(tst_Lock)
+#include "tst_Lock.moc"

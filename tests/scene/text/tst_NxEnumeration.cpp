@@ -1,0 +1,54 @@
+#include "meridane/base/values/VbName.h"
+#include "meridane/scene/text/NxEnumeration.h"
+
+#include <QTest>
+
+class tst_NxEnumeration : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void valuesAndNamesKeepTheirOrder();
+    void valuesAreFoundByName();
+    void theFirstNameOfAValueCounts();
+    void anEnumerationMayBeEmpty();
+
+private:
+    const NxEnumeration m_modes{{"off", 0}, {"fast", 7}, {"slow", -1}, {"quick", 7}};
+};
+
+void tst_NxEnumeration::valuesAndNamesKeepTheirOrder()
+{
+    QCOMPARE(m_modes.getCount(), 4);
+    QCOMPARE(m_modes.getValues()[2], -1);
+    QVERIFY(m_modes.getNames()[0] == VbName("off"));
+    QVERIFY(m_modes.getNames()[3] == VbName("quick"));
+}
+
+void tst_NxEnumeration::valuesAreFoundByName()
+{
+    int value = 42;
+    QVERIFY(m_modes.valueByName("slow", value));
+    QCOMPARE(value, -1);
+    QVERIFY(!m_modes.valueByName("Slow", value));
+    QVERIFY(!m_modes.valueByName("", value));
+    QVERIFY(!m_modes.valueByName("slo", value));
+    QCOMPARE(value, -1);
+}
+
+void tst_NxEnumeration::theFirstNameOfAValueCounts()
+{
+    QVERIFY(*m_modes.nameByValue(7) == VbName("fast"));
+    QVERIFY(m_modes.nameByValue(8) == nullptr);
+}
+
+void tst_NxEnumeration::anEnumerationMayBeEmpty()
+{
+    const NxEnumeration empty{};
+    int value = 42;
+    QCOMPARE(empty.getCount(), 0);
+    QVERIFY(!empty.valueByName("", value));
+    QVERIFY(empty.nameByValue(0) == nullptr);
+}
+
+QTEST_APPLESS_MAIN(tst_NxEnumeration)
+#include "tst_NxEnumeration.moc"
