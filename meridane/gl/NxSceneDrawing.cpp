@@ -54,7 +54,7 @@ public:
 
     const NxGLFunctions& gl;
     NxDrawingStyle style;
-    ImageLoader loader;
+    NxImageLoader loader;
     std::function<void()> changeHook;
     NxDrawingCounts counts;
     /// A path, or one node in all its places; held, so that no other node can take the address.
@@ -162,7 +162,7 @@ const NxDrawingStyle& NxSceneDrawing::getStyle() const
     return m_private->style;
 }
 
-void NxSceneDrawing::setImageLoader(ImageLoader loader)
+void NxSceneDrawing::setImageLoader(NxImageLoader loader)
 {
     m_private->loader = std::move(loader);
     // What couldn't be loaded may be loaded now; what is the same isn't uploaded again.

@@ -2,6 +2,7 @@
 
 #include "meridane/gl/geometry/NxBounds.h"
 #include "meridane/gl/gpu/NxDrawingCounts.h"
+#include "meridane/gl/gpu/NxImage.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
 
 #include <functional>
@@ -13,8 +14,6 @@
 class NxGLFunctions;
 class NxNode;
 class NxViewpoint;
-enum class NxImageState;
-struct NxImage;
 
 /// Draws a scene with OpenGL 3.3 and follows its changes.
 ///
@@ -27,11 +26,6 @@ struct NxImage;
 /// can't be loaded as an `NxReadError`, OpenGL's own errors and what its compiler says as an `NxGLError`.
 class NxSceneDrawing {
 public:
-    /// Loads the image file that a texture names, in whatever way the path is meant. Sets `reason`, in half a sentence,
-    /// when it fails. Called while a picture is drawn, so it must not wait for anything: an image that takes time is
-    /// pending.
-    using ImageLoader = std::function<NxImageState(const std::string& path, NxImage& image, std::string& reason)>;
-
     /// The functions must be loaded and outlive the drawing.
     explicit NxSceneDrawing(const NxGLFunctions& functions);
     NxSceneDrawing(const NxSceneDrawing&) = delete;
@@ -52,7 +46,7 @@ public:
     [[nodiscard]] const NxDrawingStyle& getStyle() const;
     /// Who loads image files; asked again for all of them when it changes. Without a loader, textures that only name a
     /// file aren't drawn.
-    void setImageLoader(ImageLoader loader);
+    void setImageLoader(NxImageLoader loader);
     /// What the loader says about a file has changed: the textures that name it ask again with the next picture that
     /// they are seen in. Until then they keep the image that they have.
     void reloadImage(const std::string& path);

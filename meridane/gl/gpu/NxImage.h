@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <string>
 #include <vector>
 
 /// What becomes of an image file that a texture names.
@@ -19,3 +21,8 @@ struct NxImage {
     /// `width * height * components` bytes.
     std::vector<unsigned char> bytes;
 };
+
+/// Loads the image file that a texture names; how the path is resolved is the loader's affair. Sets `reason`, in half a
+/// sentence, when it fails. It is called while a picture is drawn, so it must not wait for anything: an image that
+/// takes time is pending.
+using NxImageLoader = std::function<NxImageState(const std::string& path, NxImage& image, std::string& reason)>;

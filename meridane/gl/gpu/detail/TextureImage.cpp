@@ -29,8 +29,8 @@ std::string sizeText(int width, int height)
     return std::to_string(width) + " by " + std::to_string(height);
 }
 
-void load(TextureImage& image, const std::string& path, TextureRecord& record,
-    const NxSceneDrawing::ImageLoader& loader, Problems& problems)
+void load(TextureImage& image, const std::string& path, TextureRecord& record, const NxImageLoader& loader,
+    Problems& problems)
 {
     std::string reason;
     const NxImageState state = loader ? loader(path, image.loaded, reason) : NxImageState::Failed;
@@ -95,7 +95,7 @@ bool TextureImage::isTranslucent() const
     return false;
 }
 
-TextureImage imageOf(TextureRecord& record, const NxSceneDrawing::ImageLoader& loader, int mostSide, Problems& problems)
+TextureImage imageOf(TextureRecord& record, const NxImageLoader& loader, int mostSide, Problems& problems)
 {
     const NxTexture& texture = *record.texture();
     TextureImage image;

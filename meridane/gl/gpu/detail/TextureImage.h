@@ -1,6 +1,5 @@
 #pragma once
 
-#include "meridane/gl/NxSceneDrawing.h"
 #include "meridane/gl/gpu/NxImage.h"
 
 class NxTexture;
@@ -26,6 +25,6 @@ struct TextureImage {
 /// The image of a texture's field, or else of its file, made smaller if it is wider or higher than `mostSide`. Reports
 /// what is wrong with it.
 [[nodiscard]] TextureImage imageOf(
-    TextureRecord& record, const NxSceneDrawing::ImageLoader& loader, int mostSide, Problems& problems);
+    TextureRecord& record, const NxImageLoader& loader, int mostSide, Problems& problems);
 
 } // namespace meridane

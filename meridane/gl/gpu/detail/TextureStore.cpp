@@ -63,7 +63,7 @@ TextureStore::~TextureStore()
 }
 
 void TextureStore::update(
-    TextureRecord& texture, const NxSceneDrawing::ImageLoader& loader, Problems& problems, NxDrawingCounts& counts)
+    TextureRecord& texture, const NxImageLoader& loader, Problems& problems, NxDrawingCounts& counts)
 {
     if (!texture.isStale || texture.texture() == nullptr)
         return;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "meridane/gl/NxSceneDrawing.h"
 #include "meridane/gl/gpu/NxDrawingCounts.h"
 #include "meridane/gl/gpu/NxGLFunctions.h"
+#include "meridane/gl/gpu/NxImage.h"
 #include "meridane/gl/gpu/detail/GLErrors.h"
 #include "meridane/gl/places/detail/LookRecords.h"
 
@@ -28,8 +28,7 @@ public:
     ~TextureStore();
 
     /// Uploads the texture if it changed.
-    void update(
-        TextureRecord& texture, const NxSceneDrawing::ImageLoader& loader, Problems& problems, NxDrawingCounts& counts);
+    void update(TextureRecord& texture, const NxImageLoader& loader, Problems& problems, NxDrawingCounts& counts);
     /// Gives up the image of a texture, which is deleted with the next `update` or `clean`.
     void release(TextureRecord& texture);
     void clean();

@@ -107,7 +107,7 @@ void ItemPainter::forget()
 }
 
 void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const NxDrawingStyle& style,
-    const NxSceneDrawing::ImageLoader& loader, NxDrawingCounts& counts)
+    const NxImageLoader& loader, NxDrawingCounts& counts)
 {
     m_frame = frame;
     m_pointSize = style.pointSize * frame.scale;

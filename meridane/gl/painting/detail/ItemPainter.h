@@ -26,7 +26,7 @@ public:
 
     /// Finds what is in view, and uploads what the card doesn't have of it.
     void prepare(PlacedScene& scene, const PictureFrame& frame, const NxDrawingStyle& style,
-        const NxSceneDrawing::ImageLoader& loader, NxDrawingCounts& counts);
+        const NxImageLoader& loader, NxDrawingCounts& counts);
     void drawOpaque(PlacedScene& scene, NxDrawingCounts& counts);
     void drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts);
     /// The boxes of what is drawn as a box, and all boxes if the style says so.

@@ -2,6 +2,7 @@
 
 #include "meridane/gl/geometry/MatrixMath.h"
 #include "meridane/gl/places/detail/FieldValue.h"
+#include "meridane/gl/places/detail/NodeRecords.h"
 #include "meridane/scene/nodes/NxDirectionalLight.h"
 #include "meridane/scene/nodes/NxPointLight.h"
 #include "meridane/scene/nodes/NxSpotLight.h"

@@ -2,7 +2,7 @@
 
 #include "meridane/base/values/VbVec.h"
 #include "meridane/gl/geometry/Matrix4d.h"
-#include "meridane/gl/places/detail/NodeRecords.h"
+#include "meridane/gl/places/detail/LightRecord.h"
 #include "meridane/scene/nodes/NxLight.h"
 
 #include <array>
@@ -10,14 +10,7 @@
 
 namespace meridane {
 
-class LightRecord : public NodeRecord {
-public:
-    LightRecord(NxLight& light, NodeRecordListener& listener)
-        : NodeRecord(light, NodeKind::Light, listener)
-    {
-    }
-    [[nodiscard]] const NxLight* light() const noexcept { return static_cast<const NxLight*>(node()); }
-};
+class NodeRecords;
 
 /// The lights that shine on something: those of a group so far, and those of the groups above. Immutable but for what
 /// the lights themselves hold; lists that share their beginning share it in memory as well.

@@ -1,5 +1,7 @@
 #include "meridane/gl/places/detail/Looks.h"
 
+#include "meridane/gl/places/detail/NodeRecords.h"
+
 namespace meridane {
 
 Id Looks::use(const Look& look)

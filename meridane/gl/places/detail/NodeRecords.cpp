@@ -1,7 +1,7 @@
 #include "meridane/gl/places/detail/NodeRecords.h"
 
 #include "meridane/gl/places/detail/GroupRecord.h"
-#include "meridane/gl/places/detail/Lights.h"
+#include "meridane/gl/places/detail/LightRecord.h"
 #include "meridane/gl/places/detail/LookRecords.h"
 #include "meridane/gl/places/detail/MeshRecord.h"
 

@@ -2,6 +2,7 @@
 
 #include "meridane/gl/places/detail/BoundsTree.h"
 #include "meridane/gl/places/detail/Looks.h"
+#include "meridane/gl/places/detail/NodeRecords.h"
 #include "meridane/gl/places/detail/PlaceTable.h"
 #include "meridane/gl/places/detail/Problems.h"
 #include "meridane/scene/fields/NxRef.h"
