@@ -5,7 +5,7 @@
 #include <utility>
 
 NxSceneReader::NxSceneReader(std::string text, std::string fileName)
-    : m_parser(std::make_unique<Parser>(std::move(text), std::move(fileName)))
+    : m_parser(std::make_unique<meridane::SceneParser>(std::move(text), std::move(fileName)))
 {
 }
 
@@ -13,14 +13,15 @@ NxSceneReader::~NxSceneReader() = default;
 
 std::optional<NxReadFailure> NxSceneReader::checkBeginning(std::string beginning, std::string fileName)
 {
-    Parser parser(std::move(beginning), std::move(fileName));
+    meridane::SceneParser parser(std::move(beginning), std::move(fileName));
     parser.readFirstLine();
-    return parser.state() == State::Failed ? std::optional(parser.failure()) : std::nullopt;
+    return parser.hasFailed() ? std::optional(parser.failure()) : std::nullopt;
 }
 
 NxSceneReader::State NxSceneReader::step(const meridane::WorkBudget& budget)
 {
-    return m_parser->step(budget);
+    m_parser->step(budget);
+    return state();
 }
 
 NxSceneReader::State NxSceneReader::run()
@@ -31,7 +32,7 @@ NxSceneReader::State NxSceneReader::run()
 
 NxSceneReader::State NxSceneReader::state() const noexcept
 {
-    return m_parser->state();
+    return m_parser->isDone() ? State::Done : m_parser->hasFailed() ? State::Failed : State::Working;
 }
 
 double NxSceneReader::progress() const noexcept

@@ -3,11 +3,18 @@
 #include "meridane/base/WorkBudget.h"
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/file/NxReadFailure.h"
+#include "meridane/scene/file/detail/SceneLimits.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
 #include <memory>
 #include <optional>
 #include <string>
+
+namespace meridane {
+
+class SceneParser;
+
+} // namespace meridane
 
 /// Reads a scene from the text of a scene file, in slices, all or nothing.
 ///
@@ -17,7 +24,7 @@
 class NxSceneReader {
 public:
     /// How deep nodes may stand in each other.
-    static constexpr int maxDepth = 512;
+    static constexpr int maxDepth = meridane::maxSceneDepth;
 
     enum class State { Working, Done, Failed };
 
@@ -42,6 +49,5 @@ public:
     [[nodiscard]] NxRef<NxGroup> takeScene();
 
 private:
-    class Parser;
-    std::unique_ptr<Parser> m_parser;
+    std::unique_ptr<meridane::SceneParser> m_parser;
 };

@@ -3,7 +3,7 @@
 #include "meridane/scene/file/detail/ScenePrinter.h"
 
 NxSceneWriter::NxSceneWriter(NxGroup* scene)
-    : m_printer(std::make_unique<Printer>(scene))
+    : m_printer(std::make_unique<meridane::ScenePrinter>(scene))
 {
 }
 

@@ -9,6 +9,12 @@
 #include <string>
 #include <string_view>
 
+namespace meridane {
+
+class ScenePrinter;
+
+} // namespace meridane
+
 /// Writes a scene as the text of a scene file, in slices. The same scene gives the same bytes. The scene must not
 /// change while it is written. Thread of the user interface only.
 class NxSceneWriter {
@@ -35,6 +41,5 @@ public:
     [[nodiscard]] double progress() const noexcept;
 
 private:
-    class Printer;
-    std::unique_ptr<Printer> m_printer;
+    std::unique_ptr<meridane::ScenePrinter> m_printer;
 };

@@ -2,6 +2,12 @@
 
 #include "meridane/scene/nodes/NxNode.h"
 
+namespace meridane {
+
+class SceneParser;
+
+} // namespace meridane
+
 /// A node that holds other nodes, in order. Lights, materials, textures and complexities in a group apply to the
 /// children that follow them in that group, and to nothing outside it.
 ///
@@ -34,7 +40,7 @@ protected:
     ~NxGroup() override;
 
 private:
-    friend class NxSceneReader;
+    friend class meridane::SceneParser;
 
     /// For a node that is known not to hold this group; `group` is the same node, or null if it is none.
     void appendUnchecked(NxNode* node, NxGroup* group);

@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <utility>
 
-using meridane::TextReader;
+namespace meridane {
 
 namespace {
 
@@ -20,7 +20,7 @@ constexpr std::size_t checkedBytesPerSlice = std::size_t{1} << 16U; // which tak
 
 } // namespace
 
-NxSceneReader::Parser::Parser(std::string text, std::string fileName)
+SceneParser::SceneParser(std::string text, std::string fileName)
     : m_text(std::move(text))
     , m_failure{std::move(fileName), 0, 0, {}}
     , m_reader(m_text, TextReader::Blanks::File)
@@ -31,26 +31,20 @@ NxSceneReader::Parser::Parser(std::string text, std::string fileName)
     scene.group = m_scene.get();
 }
 
-NxSceneReader::State NxSceneReader::Parser::step(const meridane::WorkBudget& budget)
+void SceneParser::step(const WorkBudget& budget)
 {
     try {
         do {
             workInSlice();
-        } while (state() == State::Working && !budget.isSpent());
+        } while (isWorking() && !budget.isSpent());
     } catch (const std::bad_alloc&) {
         failForMemory();
     } catch (const std::length_error&) {
         failForMemory();
     }
-    return state();
 }
 
-NxSceneReader::State NxSceneReader::Parser::state() const noexcept
-{
-    return m_phase == Phase::Done ? State::Done : m_phase == Phase::Failed ? State::Failed : State::Working;
-}
-
-double NxSceneReader::Parser::progress() const noexcept
+double SceneParser::progress() const noexcept
 {
     // Checking the encoding is a small part of the work.
     constexpr double checking = 0.05;
@@ -61,16 +55,16 @@ double NxSceneReader::Parser::progress() const noexcept
         + (1 - checking) * static_cast<double>(m_reader.position()) / all;
 }
 
-NxRef<NxGroup> NxSceneReader::Parser::takeScene()
+NxRef<NxGroup> SceneParser::takeScene()
 {
     return m_phase == Phase::Done ? std::exchange(m_scene, nullptr) : nullptr;
 }
 
 // Until it is worth a look at the clock.
-void NxSceneReader::Parser::workInSlice()
+void SceneParser::workInSlice()
 {
     bool isShort = true;
-    for (std::size_t unit = 0; unit < unitsPerLookAtTheClock && isShort && state() == State::Working; ++unit) {
+    for (std::size_t unit = 0; unit < unitsPerLookAtTheClock && isShort && isWorking(); ++unit) {
         const std::size_t start = m_reader.position();
         m_reader.startSlice(bytesPerSlice);
         work();
@@ -80,7 +74,7 @@ void NxSceneReader::Parser::workInSlice()
     }
 }
 
-void NxSceneReader::Parser::work()
+void SceneParser::work()
 {
     switch (m_phase) {
     case Phase::FirstLine:
@@ -105,10 +99,10 @@ void NxSceneReader::Parser::work()
     }
 }
 
-void NxSceneReader::Parser::readFirstLine()
+void SceneParser::readFirstLine()
 {
-    if (m_reader.rest().starts_with(meridane::byteOrderMark))
-        m_reader.advance(meridane::byteOrderMark.size());
+    if (m_reader.rest().starts_with(byteOrderMark))
+        m_reader.advance(byteOrderMark.size());
     const std::size_t start = m_reader.position();
     if (!m_reader.rest().starts_with(signature))
         return failExpecting(start, "the first line of a scene file, \"#mrd 1.0\"");
@@ -118,17 +112,17 @@ void NxSceneReader::Parser::readFirstLine()
     if (found != version)
         return failAt(m_reader.position(),
             "scene files of this version can't be read, expected \"1.0\", found "
-                + meridane::describeToken(m_text, m_reader.position()));
+                + describeToken(m_text, m_reader.position()));
     m_reader.advance(line.size());
     m_phase = Phase::Encoding;
 }
 
-void NxSceneReader::Parser::checkEncoding()
+void SceneParser::checkEncoding()
 {
     constexpr std::size_t longestCharacter = 4;
     const std::string_view rest = std::string_view(m_text).substr(m_checked, checkedBytesPerSlice);
     const bool last = m_checked + rest.size() == m_text.size();
-    const std::size_t invalid = meridane::findInvalidUtf8(rest);
+    const std::size_t invalid = findInvalidUtf8(rest);
     if (invalid == std::string_view::npos) {
         m_checked += rest.size();
     } else if (!last && invalid + longestCharacter > rest.size() && invalid > 0) {
@@ -140,7 +134,7 @@ void NxSceneReader::Parser::checkEncoding()
         m_phase = Phase::Statement;
 }
 
-void NxSceneReader::Parser::readValue()
+void SceneParser::readValue()
 {
     constexpr std::size_t valuesPerSlice = 1000;
     const NxField::Progress progress = m_field->readText(m_reader, m_firstSlice, valuesPerSlice);
@@ -151,19 +145,19 @@ void NxSceneReader::Parser::readValue()
         endStatement();
 }
 
-void NxSceneReader::Parser::readRawValue()
+void SceneParser::readRawValue()
 {
-    const meridane::RawValue::Progress progress = m_rawValue.scan(m_reader, bytesPerSlice);
-    if (progress == meridane::RawValue::Progress::Failed)
+    const RawValue::Progress progress = m_rawValue.scan(m_reader, bytesPerSlice);
+    if (progress == RawValue::Progress::Failed)
         return failAsNoted();
-    if (progress == meridane::RawValue::Progress::More)
+    if (progress == RawValue::Progress::More)
         return;
     m_unknownField.text.clear();
     m_unknownField.text.reserve(m_rawValue.text().size());
     m_phase = Phase::RawText;
 }
 
-void NxSceneReader::Parser::takeRawText()
+void SceneParser::takeRawText()
 {
     const std::string_view rest = m_rawValue.text().substr(m_unknownField.text.size());
     m_unknownField.text += rest.substr(0, checkedBytesPerSlice);
@@ -173,7 +167,7 @@ void NxSceneReader::Parser::takeRawText()
     endStatement();
 }
 
-void NxSceneReader::Parser::findReference()
+void SceneParser::findReference()
 {
     constexpr std::size_t nodesPerSlice = 1000;
     if (m_references.update(nodesPerSlice))
@@ -183,29 +177,29 @@ void NxSceneReader::Parser::findReference()
         top().group->appendUnchecked(node, dynamic_cast<NxGroup*>(node));
         return endStatement();
     }
-    const std::string found = meridane::describeToken(m_text, m_referencePlace);
+    const std::string found = describeToken(m_text, m_referencePlace);
     if (isOpen(m_reference))
         return failAt(
             m_referencePlace, "the node " + found + " would hold itself, expected one that ends ahead of here");
     failAt(m_referencePlace, "no node ahead of here has the name or label " + found);
 }
 
-bool NxSceneReader::Parser::isOpen(std::string_view nameOrLabel) const
+bool SceneParser::isOpen(std::string_view nameOrLabel) const
 {
     return std::any_of(m_open.begin() + 1, m_open.begin() + static_cast<std::ptrdiff_t>(m_depth) + 1,
         [nameOrLabel](
             const OpenNode& open) { return open.label == nameOrLabel || open.node->getName().view() == nameOrLabel; });
 }
 
-void NxSceneReader::Parser::failAt(std::size_t offset, std::string message)
+void SceneParser::failAt(std::size_t offset, std::string message)
 {
     if (!m_reader.isInterrupted())
         endAt(offset, std::move(message));
 }
 
-void NxSceneReader::Parser::endAt(std::size_t offset, std::string message)
+void SceneParser::endAt(std::size_t offset, std::string message)
 {
-    const meridane::TextPlace place = meridane::findPlace(m_text, offset);
+    const TextPlace place = findPlace(m_text, offset);
     m_failure.line = place.line;
     m_failure.column = place.column;
     m_failure.message = std::move(message);
@@ -213,21 +207,23 @@ void NxSceneReader::Parser::endAt(std::size_t offset, std::string message)
     m_scene = nullptr;
 }
 
-void NxSceneReader::Parser::failForMemory()
+void SceneParser::failForMemory()
 {
     m_scene = nullptr; // makes room for the message
     endAt(m_reader.position(), "the scene doesn't fit in memory");
 }
 
-void NxSceneReader::Parser::failExpecting(std::size_t offset, std::string_view expected)
+void SceneParser::failExpecting(std::size_t offset, std::string_view expected)
 {
     const std::string what(expected);
     failAt(offset,
         offset >= m_text.size() ? "unexpected end of file, expected " + what
-                                : "expected " + what + ", found " + meridane::describeToken(m_text, offset));
+                                : "expected " + what + ", found " + describeToken(m_text, offset));
 }
 
-void NxSceneReader::Parser::failAsNoted()
+void SceneParser::failAsNoted()
 {
     failExpecting(m_reader.failurePosition(), m_reader.expected());
 }
+
+} // namespace meridane

@@ -1,24 +1,34 @@
 #pragma once
 
+#include "meridane/base/WorkBudget.h"
 #include "meridane/scene/fields/NxField.h"
-#include "meridane/scene/file/NxSceneReader.h"
+#include "meridane/scene/file/NxReadFailure.h"
 #include "meridane/scene/file/detail/SceneReferences.h"
+#include "meridane/scene/nodes/NxGroup.h"
 #include "meridane/scene/nodes/detail/NodeClasses.h"
 #include "meridane/scene/text/TextReader.h"
 #include "meridane/scene/text/detail/RawValue.h"
 
+#include <string>
+#include <string_view>
 #include <unordered_set>
+#include <vector>
+
+namespace meridane {
 
 /// The reader's work, cut into units: the first line, the encoding block by block, then one statement or one slice of a
 /// value at a time. What a recursive descent would keep on the stack stands in a list of open nodes.
-class NxSceneReader::Parser {
+class SceneParser {
 public:
-    Parser(std::string text, std::string fileName);
+    SceneParser(std::string text, std::string fileName);
 
-    State step(const meridane::WorkBudget& budget);
+    /// Works until all is read, the text is refused or the budget is spent.
+    void step(const WorkBudget& budget);
     /// The first unit of the work.
     void readFirstLine();
-    [[nodiscard]] State state() const noexcept;
+    [[nodiscard]] bool isWorking() const noexcept { return !isDone() && !hasFailed(); }
+    [[nodiscard]] bool isDone() const noexcept { return m_phase == Phase::Done; }
+    [[nodiscard]] bool hasFailed() const noexcept { return m_phase == Phase::Failed; }
     [[nodiscard]] double progress() const noexcept;
     [[nodiscard]] const NxReadFailure& failure() const noexcept { return m_failure; }
     [[nodiscard]] NxRef<NxGroup> takeScene();
@@ -41,7 +51,7 @@ private:
     struct OpenNode {
         NxNode* node = nullptr;
         NxGroup* group = nullptr; // the same node, or null for one that holds no others
-        const meridane::NodeClass* nodeClass = nullptr;
+        const NodeClass* nodeClass = nullptr;
         std::string label;
         std::size_t place = 0; // where it began
         std::size_t nextField = 0; // where to look first
@@ -86,19 +96,21 @@ private:
     const std::string m_text;
     NxReadFailure m_failure;
     Phase m_phase = Phase::FirstLine;
-    meridane::TextReader m_reader;
+    TextReader m_reader;
     std::size_t m_checked = 0; // bytes known to be UTF-8
     NxRef<NxGroup> m_scene;
-    meridane::NodeClasses m_classes;
-    meridane::SceneReferences m_references;
+    NodeClasses m_classes;
+    SceneReferences m_references;
     std::vector<OpenNode> m_open; // from the scene itself on
     std::size_t m_depth = 0; // of the innermost open node
 
     // The statement that is being read over several slices.
     NxField* m_field = nullptr;
     bool m_firstSlice = false;
-    meridane::RawValue m_rawValue;
+    RawValue m_rawValue;
     NxFieldContainer::UnknownField m_unknownField;
     std::string m_reference;
     std::size_t m_referencePlace = 0;
 };
+
+} // namespace meridane

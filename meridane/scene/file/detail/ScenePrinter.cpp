@@ -5,13 +5,14 @@
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/single/NxSFFilePathString.h"
-#include "meridane/scene/file/NxSceneReader.h"
 #include "meridane/scene/file/detail/SceneLimits.h"
 #include "meridane/scene/text/ValueText.h"
 
 #include <algorithm>
 #include <exception>
 #include <utility>
+
+namespace meridane {
 
 namespace {
 
@@ -20,13 +21,13 @@ constexpr std::size_t blanksPerLevel = 4;
 
 } // namespace
 
-NxSceneWriter::Printer::Printer(NxGroup* scene)
+ScenePrinter::ScenePrinter(NxGroup* scene)
     : m_sharing(scene)
 {
     m_open.push_back({scene, nullptr});
 }
 
-bool NxSceneWriter::Printer::step(std::string& text, const meridane::WorkBudget& budget)
+bool ScenePrinter::step(std::string& text, const WorkBudget& budget)
 {
     try {
         do {
@@ -39,7 +40,7 @@ bool NxSceneWriter::Printer::step(std::string& text, const meridane::WorkBudget&
     return m_phase != Phase::Done;
 }
 
-double NxSceneWriter::Printer::progress() const noexcept
+double ScenePrinter::progress() const noexcept
 {
     if (m_phase == Phase::Done)
         return 1;
@@ -48,13 +49,13 @@ double NxSceneWriter::Printer::progress() const noexcept
     return static_cast<double>(m_written) / static_cast<double>(std::max<std::size_t>(1, m_sharing.nodeCount()));
 }
 
-void NxSceneWriter::Printer::fail(std::string message)
+void ScenePrinter::fail(std::string message)
 {
     m_failure = std::move(message);
     m_phase = Phase::Done;
 }
 
-void NxSceneWriter::Printer::work(std::string& text)
+void ScenePrinter::work(std::string& text)
 {
     switch (m_phase) {
     case Phase::Sharing:
@@ -70,19 +71,19 @@ void NxSceneWriter::Printer::work(std::string& text)
     }
 }
 
-void NxSceneWriter::Printer::lookOver(std::string& text)
+void ScenePrinter::lookOver(std::string& text)
 {
     constexpr std::size_t nodesPerSlice = 100;
     if (m_sharing.step(nodesPerSlice))
         return;
-    if (m_sharing.depth() > NxSceneReader::maxDepth)
+    if (m_sharing.depth() > maxSceneDepth)
         return fail("nodes are nested " + std::to_string(m_sharing.depth())
-            + " levels deep, a scene file holds at most " + std::to_string(NxSceneReader::maxDepth));
+            + " levels deep, a scene file holds at most " + std::to_string(maxSceneDepth));
     text += "#mrd 1.0\n";
     m_phase = Phase::Nodes;
 }
 
-void NxSceneWriter::Printer::writeNext(std::string& text)
+void ScenePrinter::writeNext(std::string& text)
 {
     if (startNextField(text))
         return;
@@ -107,7 +108,7 @@ void NxSceneWriter::Printer::writeNext(std::string& text)
     text += "}\n";
 }
 
-bool NxSceneWriter::Printer::startNextField(std::string& text)
+bool ScenePrinter::startNextField(std::string& text)
 {
     OpenNode& open = m_open.back();
     while (open.data != nullptr && open.nextField < open.data->getNumFields()) {
@@ -128,17 +129,17 @@ bool NxSceneWriter::Printer::startNextField(std::string& text)
     return false;
 }
 
-bool NxSceneWriter::Printer::writeMappedPath(std::string& text, const NxField& field) const
+bool ScenePrinter::writeMappedPath(std::string& text, const NxField& field) const
 {
     if (!m_pathMap || !field.isOfType(NxSFFilePathString::getClassTypeId()))
         return false;
     const VbString& path = static_cast<const NxSFFilePathString&>(field).getValue();
-    meridane::writeValue(text, VbString(m_pathMap(path.view())));
+    writeValue(text, VbString(m_pathMap(path.view())));
     text += '\n';
     return true;
 }
 
-void NxSceneWriter::Printer::startField(std::string& text, std::string_view name, bool ignored)
+void ScenePrinter::startField(std::string& text, std::string_view name, bool ignored)
 {
     indent(text);
     text += ignored ? "ignored " : "";
@@ -146,7 +147,7 @@ void NxSceneWriter::Printer::startField(std::string& text, std::string_view name
     text += " = ";
 }
 
-void NxSceneWriter::Printer::writeValueSlice(std::string& text)
+void ScenePrinter::writeValueSlice(std::string& text)
 {
     constexpr std::size_t valuesPerSlice = 1000;
     m_slice.clear();
@@ -158,7 +159,7 @@ void NxSceneWriter::Printer::writeValueSlice(std::string& text)
     m_phase = Phase::Nodes;
 }
 
-void NxSceneWriter::Printer::writeUnknownSlice(std::string& text)
+void ScenePrinter::writeUnknownSlice(std::string& text)
 {
     constexpr std::size_t bytesPerSlice = std::size_t{1} << 14U;
     const std::string_view part = std::string_view(m_unknownField->text).substr(m_position, bytesPerSlice);
@@ -170,11 +171,11 @@ void NxSceneWriter::Printer::writeUnknownSlice(std::string& text)
     m_phase = Phase::Nodes;
 }
 
-void NxSceneWriter::Printer::writeChild(std::string& text, NxNode* child)
+void ScenePrinter::writeChild(std::string& text, NxNode* child)
 {
     if (m_open.size() == 1)
         text += '\n'; // sets the top nodes apart
-    meridane::SceneSharing::SharedNode* shared = m_sharing.find(child);
+    SceneSharing::SharedNode* shared = m_sharing.find(child);
     if (shared == nullptr || !shared->written)
         return startNode(text, child, shared == nullptr ? std::string() : shared->label);
     indent(text);
@@ -183,7 +184,7 @@ void NxSceneWriter::Printer::writeChild(std::string& text, NxNode* child)
     text += '\n';
 }
 
-void NxSceneWriter::Printer::startNode(std::string& text, NxNode* node, const std::string& label)
+void ScenePrinter::startNode(std::string& text, NxNode* node, const std::string& label)
 {
     indent(text);
     text += node->getClassName();
@@ -196,21 +197,23 @@ void NxSceneWriter::Printer::startNode(std::string& text, NxNode* node, const st
         writeQuoted(text, label);
     }
     text += " {\n";
-    if (meridane::SceneSharing::SharedNode* shared = m_sharing.find(node))
+    if (SceneSharing::SharedNode* shared = m_sharing.find(node))
         shared->written = true;
     ++m_written;
     m_open.push_back({node, node->getFieldData()});
 }
 
-void NxSceneWriter::Printer::writeQuoted(std::string& text, std::string_view name)
+void ScenePrinter::writeQuoted(std::string& text, std::string_view name)
 {
     const std::size_t start = text.size();
-    meridane::writeValue(text, VbString(name));
-    if (text.size() - start > meridane::maxNameLength)
-        fail("the name of a node has more than " + std::to_string(meridane::maxNameLength) + " bytes");
+    writeValue(text, VbString(name));
+    if (text.size() - start > maxNameLength)
+        fail("the name of a node has more than " + std::to_string(maxNameLength) + " bytes");
 }
 
-void NxSceneWriter::Printer::indent(std::string& text) const
+void ScenePrinter::indent(std::string& text) const
 {
     text.append((m_open.size() - 1) * blanksPerLevel, ' ');
 }
+
+} // namespace meridane

@@ -1,24 +1,32 @@
 #pragma once
 
+#include "meridane/base/WorkBudget.h"
 #include "meridane/scene/fields/NxFieldContainer.h"
-#include "meridane/scene/file/NxSceneWriter.h"
 #include "meridane/scene/file/detail/SceneSharing.h"
+#include "meridane/scene/nodes/NxGroup.h"
 #include "meridane/scene/text/detail/ValueWrapper.h"
 
+#include <functional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 class NxField;
 
+namespace meridane {
+
 /// The writer's work, cut into units: first the scene is looked over, then each unit writes the head of a node, a field
 /// or a slice of its value, or the end of a node. Keeps its own stack.
-class NxSceneWriter::Printer {
+class ScenePrinter {
 public:
-    explicit Printer(NxGroup* scene);
+    explicit ScenePrinter(NxGroup* scene);
+
+    /// Gives the path to write in place of one that the scene has.
+    using PathMap = std::function<std::string(std::string_view path)>;
 
     void setPathMap(PathMap map) { m_pathMap = std::move(map); }
-    bool step(std::string& text, const meridane::WorkBudget& budget);
+    bool step(std::string& text, const WorkBudget& budget);
     [[nodiscard]] double progress() const noexcept;
     [[nodiscard]] const std::string& failure() const noexcept { return m_failure; }
 
@@ -49,7 +57,7 @@ private:
     void fail(std::string message);
 
     Phase m_phase = Phase::Sharing;
-    meridane::SceneSharing m_sharing;
+    SceneSharing m_sharing;
     std::vector<OpenNode> m_open; // from the scene itself on
     std::size_t m_written = 0; // nodes
     std::string m_failure;
@@ -60,5 +68,7 @@ private:
     const NxFieldContainer::UnknownField* m_unknownField = nullptr;
     std::size_t m_position = 0;
     std::string m_slice;
-    meridane::ValueWrapper m_wrapper;
+    ValueWrapper m_wrapper;
 };
+
+} // namespace meridane

@@ -4,7 +4,7 @@
 
 // The grammar of scene files: one statement after the other.
 
-using meridane::maxNameLength;
+namespace meridane {
 
 namespace {
 
@@ -28,7 +28,7 @@ bool endsStatement(char character)
 
 } // namespace
 
-void NxSceneReader::Parser::readStatement()
+void SceneParser::readStatement()
 {
     skipSeparators();
     if (m_reader.isInterrupted() || m_reader.isSpent())
@@ -56,12 +56,12 @@ void NxSceneReader::Parser::readStatement()
     startNode(word, place);
 }
 
-void NxSceneReader::Parser::skipSeparators()
+void SceneParser::skipSeparators()
 {
     while (m_reader.accept(';') && !m_reader.isSpent()) { }
 }
 
-bool NxSceneReader::Parser::readIdentifier(std::string_view& word, std::string_view expected)
+bool SceneParser::readIdentifier(std::string_view& word, std::string_view expected)
 {
     const std::string_view rest = m_reader.rest();
     if (rest.empty() || !isLetter(rest.front()))
@@ -76,7 +76,7 @@ bool NxSceneReader::Parser::readIdentifier(std::string_view& word, std::string_v
     return true;
 }
 
-bool NxSceneReader::Parser::readNameText(std::string& name)
+bool SceneParser::readNameText(std::string& name)
 {
     m_reader.skipBlanks();
     const std::size_t place = m_reader.position();
@@ -89,24 +89,24 @@ bool NxSceneReader::Parser::readNameText(std::string& name)
     return true;
 }
 
-bool NxSceneReader::Parser::isEqualsAhead()
+bool SceneParser::isEqualsAhead()
 {
     m_reader.skipBlanks();
     return m_reader.peek() == '=';
 }
 
-void NxSceneReader::Parser::startNode(std::string_view className, std::size_t place)
+void SceneParser::startNode(std::string_view className, std::size_t place)
 {
     if (top().group == nullptr)
         return failAt(
             place, "a node of class " + top().nodeClass->name() + " holds no others, expected a field or \"}\"");
-    if (m_depth >= maxDepth)
-        return failAt(place, "nodes nested deeper than " + std::to_string(maxDepth) + " levels");
+    if (m_depth >= maxSceneDepth)
+        return failAt(place, "nodes nested deeper than " + std::to_string(maxSceneDepth) + " levels");
     std::string name;
     std::string label;
     if (!readNodeHead(name, label))
         return failAsNoted();
-    const meridane::NodeClass& nodeClass = m_classes.find(className);
+    const NodeClass& nodeClass = m_classes.find(className);
     const NxRef<NxNode> node = nodeClass.create();
     if (!name.empty())
         node->setName(VbString(name));
@@ -126,7 +126,7 @@ void NxSceneReader::Parser::startNode(std::string_view className, std::size_t pl
         open.seenUnknownFields = {}; // not `clear`, which would go over the table of the largest node each time
 }
 
-bool NxSceneReader::Parser::readNodeHead(std::string& name, std::string& label)
+bool SceneParser::readNodeHead(std::string& name, std::string& label)
 {
     m_reader.skipBlanks();
     std::string_view expected = "a name in quotes, \"as\" or \"{\"";
@@ -149,25 +149,25 @@ bool NxSceneReader::Parser::readNodeHead(std::string& name, std::string& label)
     return m_reader.accept('{') || m_reader.fail(expected);
 }
 
-void NxSceneReader::Parser::endNode()
+void SceneParser::endNode()
 {
     m_reader.advance(1);
     m_references.add(top().node, top().label);
     --m_depth;
 }
 
-void NxSceneReader::Parser::endText()
+void SceneParser::endText()
 {
     if (m_depth == 0) {
         m_phase = Phase::Done;
         return;
     }
-    const int line = meridane::findPlace(m_text, top().place).line;
+    const int line = findPlace(m_text, top().place).line;
     failExpecting(m_text.size(),
         "\"}\" behind the node of class " + top().nodeClass->name() + " that begins in line " + std::to_string(line));
 }
 
-void NxSceneReader::Parser::startReference()
+void SceneParser::startReference()
 {
     if (top().group == nullptr)
         return failAt(m_reader.position(),
@@ -178,7 +178,7 @@ void NxSceneReader::Parser::startReference()
     m_phase = Phase::Reference;
 }
 
-void NxSceneReader::Parser::startField(std::string_view name, std::size_t place, bool ignored)
+void SceneParser::startField(std::string_view name, std::size_t place, bool ignored)
 {
     if (m_depth == 0)
         return failAt(place, "a field stands in a node, expected a node");
@@ -194,7 +194,7 @@ void NxSceneReader::Parser::startField(std::string_view name, std::size_t place,
         startUnknownField(name, place, ignored);
 }
 
-void NxSceneReader::Parser::startKnownField(std::size_t index, std::string_view name, std::size_t place, bool ignored)
+void SceneParser::startKnownField(std::size_t index, std::string_view name, std::size_t place, bool ignored)
 {
     OpenNode& open = top();
     if (open.seenFields[index])
@@ -208,7 +208,7 @@ void NxSceneReader::Parser::startKnownField(std::size_t index, std::string_view 
     m_phase = Phase::Value;
 }
 
-void NxSceneReader::Parser::startUnknownField(std::string_view name, std::size_t place, bool ignored)
+void SceneParser::startUnknownField(std::string_view name, std::size_t place, bool ignored)
 {
     if (!top().seenUnknownFields.insert(name).second)
         return failTwice(name, place);
@@ -218,12 +218,12 @@ void NxSceneReader::Parser::startUnknownField(std::string_view name, std::size_t
     m_phase = Phase::RawValue;
 }
 
-void NxSceneReader::Parser::failTwice(std::string_view name, std::size_t place)
+void SceneParser::failTwice(std::string_view name, std::size_t place)
 {
     failAt(place, "the field \"" + std::string(name) + "\" stands twice in the node, expected it once");
 }
 
-void NxSceneReader::Parser::endStatement()
+void SceneParser::endStatement()
 {
     // The value may have looked for its continuation in the next line already.
     const bool newLine = m_reader.isBehindLineEnd();
@@ -239,3 +239,5 @@ void NxSceneReader::Parser::endStatement()
         return failExpecting(m_reader.position(), "the end of the line or \";\"");
     m_phase = Phase::Statement;
 }
+
+} // namespace meridane
