@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/app/messages/MessageSeverity.h"
+
 #include <QStringList>
 #include <QWidget>
 
@@ -17,7 +19,7 @@ class MessageBar : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Severity { Information, Warning, Error };
+    using Severity = MessageSeverity;
     static constexpr int capacity = 4;
 
     explicit MessageBar(QWidget* parent = nullptr);

@@ -11,27 +11,27 @@
 
 namespace {
 
-QStyle::StandardPixmap pixmapOf(MessageBar::Severity severity)
+QStyle::StandardPixmap pixmapOf(MessageSeverity severity)
 {
     switch (severity) {
-    case MessageBar::Severity::Information:
+    case MessageSeverity::Information:
         return QStyle::SP_MessageBoxInformation;
-    case MessageBar::Severity::Warning:
+    case MessageSeverity::Warning:
         return QStyle::SP_MessageBoxWarning;
-    case MessageBar::Severity::Error:
+    case MessageSeverity::Error:
         break;
     }
     return QStyle::SP_MessageBoxCritical;
 }
 
-QColor colorOf(MessageBar::Severity severity)
+QColor colorOf(MessageSeverity severity)
 {
     switch (severity) {
-    case MessageBar::Severity::Information:
+    case MessageSeverity::Information:
         return {70, 130, 215};
-    case MessageBar::Severity::Warning:
+    case MessageSeverity::Warning:
         return {224, 164, 48};
-    case MessageBar::Severity::Error:
+    case MessageSeverity::Error:
         break;
     }
     return {214, 80, 70};
@@ -39,7 +39,7 @@ QColor colorOf(MessageBar::Severity severity)
 
 } // namespace
 
-MessageRow::MessageRow(MessageBar::Severity severity, const QString& text, const QString& topic, QWidget* parent)
+MessageRow::MessageRow(MessageSeverity severity, const QString& text, const QString& topic, QWidget* parent)
     : QFrame(parent)
     , m_severity(severity)
     , m_topic(topic)

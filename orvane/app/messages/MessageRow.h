@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/app/messages/MessageBar.h"
+#include "orvane/app/messages/MessageSeverity.h"
 
 #include <QFrame>
 
@@ -12,7 +12,7 @@ class MessageRow : public QFrame {
     Q_OBJECT
 
 public:
-    MessageRow(MessageBar::Severity severity, const QString& text, const QString& topic, QWidget* parent);
+    MessageRow(MessageSeverity severity, const QString& text, const QString& topic, QWidget* parent);
 
     [[nodiscard]] QString text() const;
     [[nodiscard]] const QString& topic() const noexcept { return m_topic; }
@@ -28,7 +28,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    MessageBar::Severity m_severity;
+    MessageSeverity m_severity;
     QString m_topic;
     MessageText* m_text;
     QHBoxLayout* m_layout;
