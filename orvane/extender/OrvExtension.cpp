@@ -1,8 +1,5 @@
 #include "orvane/extender/OrvExtension.h"
 
-#include "orvane/extender/OrvPluginsManager.h"
-#include "orvane/extender/OrvProfile.h"
-
 OrvExtension::OrvExtension() = default;
 
 OrvExtension::~OrvExtension() = default;
@@ -21,10 +18,3 @@ void OrvExtension::deactivate()
 void OrvExtension::hide() { }
 
 void OrvExtension::show() { }
-
-OrvProfileSetting* OrvExtension::getProfileSetting() const
-{
-    const OrvPluginsManager* const manager = OrvPluginsManager::getInstance();
-    const OrvProfile* const profile = manager != nullptr ? manager->getActiveProfile() : nullptr;
-    return profile != nullptr ? profile->getSetting(this) : nullptr;
-}

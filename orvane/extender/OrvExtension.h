@@ -32,7 +32,7 @@ public:
     virtual void unload() = 0;
 
     /// The settings of this extension in the active profile; null when the profile doesn't run it. The profile owns it.
-    [[nodiscard]] OrvProfileSetting* getProfileSetting() const;
+    [[nodiscard]] OrvProfileSetting* getProfileSetting() const noexcept { return m_profileSetting; }
 
     [[nodiscard]] const VbString& getName() const noexcept { return m_name; }
     [[nodiscard]] const VbString& getDescription() const noexcept { return m_description; }
@@ -51,5 +51,8 @@ protected:
     VbString m_version;
 
 private:
+    friend class OrvPluginsManager; // which knows the active profile
+
     bool m_active = false;
+    OrvProfileSetting* m_profileSetting = nullptr;
 };

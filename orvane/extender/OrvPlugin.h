@@ -7,7 +7,7 @@
 class OrvExtension;
 
 /// The version of the host's interface. It grows whenever a plug-in has to be built anew.
-constexpr int orvaneInterfaceVersion = 1;
+constexpr int orvaneInterfaceVersion = 2;
 
 /// A plug-in: the owner of extensions. Its library exports `OrvPlugin* loadPlugin()` and `void unloadPlugin()` with C
 /// linkage.

@@ -179,7 +179,9 @@ void OrvPluginsManager::changeProfile(OrvProfile* profile)
     const QScopedValueRollback isChanging(m_isChanging, true);
     deactivateExtensions();
     m_activeProfile = profile;
-    const QStringList missing = activateExtensions();
+    const QStringList missing = profile != nullptr ? profile->resolve(getExtensions()) : QStringList();
+    shareSettings();
+    activateExtensions();
     Q_EMIT activeProfileChanged(profile);
     if (!missing.isEmpty())
         Q_EMIT extensionsMissing(orvane::toQString(profile->getName()), missing);
@@ -195,20 +197,21 @@ void OrvPluginsManager::deactivateExtensions()
     }
 }
 
-/// The result names what the profile asks for and isn't there.
-QStringList OrvPluginsManager::activateExtensions()
+/// Gives each extension its setting in the active profile.
+void OrvPluginsManager::shareSettings() const
 {
-    if (m_activeProfile == nullptr)
-        return {};
-    const QList<OrvExtension*> extensions = getExtensions();
-    QStringList missing = m_activeProfile->resolve(extensions);
-    for (OrvExtension* const extension : extensions) {
-        if (m_activeProfile->getSetting(extension) == nullptr)
+    for (OrvExtension* const extension : getExtensions())
+        extension->m_profileSetting = m_activeProfile != nullptr ? m_activeProfile->getSetting(extension) : nullptr;
+}
+
+void OrvPluginsManager::activateExtensions()
+{
+    for (OrvExtension* const extension : getExtensions()) {
+        if (extension->getProfileSetting() == nullptr)
             continue;
         m_running.append(extension);
         callAndReport(titled(*extension, "activate"), [&] { extension->activate(); });
     }
-    return missing;
 }
 
 void OrvPluginsManager::changeProfileLater(OrvProfile* profile)

@@ -85,7 +85,8 @@ private:
     [[nodiscard]] std::optional<QString> takeIn(const LoadedPlugin& plugin);
     void changeProfile(OrvProfile* profile);
     void deactivateExtensions();
-    [[nodiscard]] QStringList activateExtensions();
+    void shareSettings() const;
+    void activateExtensions();
     void changeProfileLater(OrvProfile* profile);
 
     std::list<LoadedPlugin> m_plugins;

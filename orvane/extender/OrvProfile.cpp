@@ -131,5 +131,8 @@ OrvProfile::ReadResult OrvProfile::read(const QString& fileName)
 
 OrvProfile::ReadResult OrvProfile::fromJson(const QByteArray& json, const QString& fileName)
 {
-    return orvane::ProfileReader(json, fileName).read();
+    orvane::ProfileReader reader(json, fileName);
+    if (!reader.read())
+        return {nullptr, reader.error()};
+    return {std::make_unique<OrvProfile>(reader.name(), reader.entries()), {}};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orvane/extender/OrvProfileEntry.h"
 #include "orvane/extender/OrvProfileSetting.h"
 
 #include "meridane/base/values/VbString.h"
@@ -22,15 +23,7 @@ class OrvExtension;
 /// It is written by names and becomes effective with `resolve`, when the extensions are there.
 class OrvProfile {
 public:
-    /// What the profile says of one extension that runs by itself.
-    struct Entry {
-        /// The extension's name, or "*" for every one that no other entry names.
-        QString extension;
-        /// False keeps the extension from running.
-        bool runs = true;
-        /// The names of the controlled extensions; "*" stands for all.
-        QStringList controlled;
-    };
+    using Entry = OrvProfileEntry;
 
     OrvProfile(const QString& name, QList<Entry> entries);
     ~OrvProfile();
@@ -39,7 +32,7 @@ public:
 
     /// Turns the names into settings for these extensions, in place of the present settings, which are destroyed. Only
     /// an extension that is no `OrvEditor` runs by itself, and none controls itself. The result names what the profile
-    /// asks for and isn't there, each name once.
+    /// asks for and isn't there, each name once. Only the manager may call this for a profile that it keeps.
     QStringList resolve(const QList<OrvExtension*>& extensions);
     /// The setting of an extension that runs by itself, or null when this profile doesn't run it.
     [[nodiscard]] OrvProfileSetting* getSetting(const OrvExtension* extension) const;

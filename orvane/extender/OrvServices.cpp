@@ -58,7 +58,9 @@ OrvServices* OrvServices::getInstance()
 OrvServices::OrvServices()
     : m_pump(std::make_unique<DelayQueuePump>(NxDelayQueue::getDefault()))
     , m_userAction(std::make_unique<UserActionTracker>())
-    , m_selection(std::make_unique<Selection>(*this))
+    , m_selection(std::make_unique<Selection>(
+          Selection::Announcements{[this](NxFieldContainer* node) { Q_EMIT selectedNodeChanged(node); },
+              [this](NxField* field) { Q_EMIT selectedFieldChanged(field); }}))
     , m_history(std::make_unique<OrvHistory>())
 {
     Q_ASSERT_X(theServices == nullptr, "OrvServices", "there is one services object at a time");

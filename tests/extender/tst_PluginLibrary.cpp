@@ -87,7 +87,7 @@ private Q_SLOTS:
         plugin("ThrowsInLoadPlugin", "its \"loadPlugin\" threw an exception: no licence for this machine");
         plugin("ThrowsInLoad", "it can't be loaded, for it threw an exception: no such font",
             words("construct load unload destroy"));
-        plugin("OtherInterfaceVersion", "it was built against version 2 of the plug-in interface; this is version 1",
+        plugin("OtherInterfaceVersion", "it was built against version 3 of the plug-in interface; this is version 2",
             words("construct destroy"));
     }
     void aBrokenPluginIsToldInOneLineAndLeftOut()

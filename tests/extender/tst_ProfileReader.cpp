@@ -1,3 +1,4 @@
+#include "orvane/extender/OrvProfile.h"
 #include "orvane/extender/VbText.h"
 #include "orvane/extender/detail/ProfileReader.h"
 
@@ -8,10 +9,7 @@ using namespace Qt::StringLiterals;
 class TestProfileReader : public QObject {
     Q_OBJECT
 
-    static OrvProfile::ReadResult read(const QByteArray& json)
-    {
-        return orvane::ProfileReader(json, u"my.json"_s).read();
-    }
+    static OrvProfile::ReadResult read(const QByteArray& json) { return OrvProfile::fromJson(json, u"my.json"_s); }
 
 private Q_SLOTS:
     // Work that grows with the square of the number of names takes longer than this program may run.

@@ -70,11 +70,9 @@ ProfileReader::ProfileReader(const QByteArray& json, const QString& fileName)
         advance();
 }
 
-OrvProfile::ReadResult ProfileReader::read()
+bool ProfileReader::read()
 {
-    if (!m_error.isEmpty() || !readProfile())
-        return {nullptr, m_error};
-    return {std::make_unique<OrvProfile>(*m_name, *m_entries), {}};
+    return m_error.isEmpty() && readProfile();
 }
 
 bool ProfileReader::decode(const QByteArray& json)
@@ -137,7 +135,7 @@ bool ProfileReader::readEntry(const JsonToken& key)
 {
     if (key.text.isEmpty())
         return fail(key.position, QStringLiteral("the name of an extension is empty"));
-    OrvProfile::Entry entry{key.text, true, {}};
+    OrvProfileEntry entry{key.text, true, {}};
     if (m_token.kind == Kind::ArrayBegin) {
         if (!readControlled(entry))
             return false;
@@ -150,7 +148,7 @@ bool ProfileReader::readEntry(const JsonToken& key)
     return true;
 }
 
-bool ProfileReader::readControlled(OrvProfile::Entry& entry)
+bool ProfileReader::readControlled(OrvProfileEntry& entry)
 {
     QSet<QString> names;
     advance();

@@ -1,9 +1,12 @@
 #pragma once
 
-#include "orvane/extender/OrvProfile.h"
+#include "orvane/extender/OrvProfileEntry.h"
 #include "orvane/extender/detail/JsonTokens.h"
 
 #include <QByteArray>
+#include <QList>
+
+#include <optional>
 
 namespace orvane {
 
@@ -13,7 +16,12 @@ class ProfileReader {
 public:
     ProfileReader(const QByteArray& json, const QString& fileName);
 
-    [[nodiscard]] OrvProfile::ReadResult read();
+    /// False with `error` if the text is no profile, else name and entries are there. Called once.
+    [[nodiscard]] bool read();
+    [[nodiscard]] const QString& name() const { return *m_name; }
+    [[nodiscard]] const QList<OrvProfileEntry>& entries() const { return *m_entries; }
+    /// One line, "file:line:column: what is wrong".
+    [[nodiscard]] const QString& error() const { return m_error; }
 
 private:
     using Kind = JsonToken::Kind;
@@ -23,7 +31,7 @@ private:
     [[nodiscard]] bool readMember(const JsonToken& key);
     [[nodiscard]] bool readName();
     [[nodiscard]] bool readEntry(const JsonToken& key);
-    [[nodiscard]] bool readControlled(OrvProfile::Entry& entry);
+    [[nodiscard]] bool readControlled(OrvProfileEntry& entry);
 
     /// Reads the members of an object, whose opening brace is the present token, by `readMember`, which is given the
     /// key with the value as the present token and leaves the present token on the last one of the value.
@@ -41,7 +49,7 @@ private:
     JsonTokens m_tokens;
     JsonToken m_token;
     std::optional<QString> m_name;
-    std::optional<QList<OrvProfile::Entry>> m_entries;
+    std::optional<QList<OrvProfileEntry>> m_entries;
 };
 
 } // namespace orvane

@@ -1,6 +1,5 @@
 #include "orvane/extender/detail/Selection.h"
 
-#include "orvane/extender/OrvServices.h"
 #include "orvane/extender/detail/FieldWatch.h"
 
 #include "meridane/base/errors/NxDebugError.h"
@@ -25,8 +24,8 @@ struct Selection::Request {
     std::unique_ptr<FieldWatch> field;
 };
 
-Selection::Selection(OrvServices& services)
-    : m_services(services)
+Selection::Selection(Announcements announcements)
+    : m_announce(std::move(announcements))
     , m_field(std::make_unique<FieldWatch>())
 {
 }
@@ -93,8 +92,8 @@ void Selection::carryOut(const Request& request)
         changeField(request.field->getAttachedField(), request.fieldOwner);
         return;
     case Kind::Announcement:
-        Q_EMIT m_services.selectedNodeChanged(node());
-        Q_EMIT m_services.selectedFieldChanged(field());
+        m_announce.node(node());
+        m_announce.field(field());
         return;
     }
 }
@@ -105,12 +104,12 @@ void Selection::changeNode(const NxRef<NxFieldContainer>& node)
     if (node != m_node && field() != nullptr)
         changeField(nullptr, {});
     const NxRef<NxFieldContainer> aliveForTheSlots = std::exchange(m_node, node);
-    Q_EMIT m_services.selectedNodeChanged(node.get());
+    m_announce.node(node.get());
 }
 
 void Selection::changeField(NxField* field, const NxRef<NxFieldContainer>& owner)
 {
     const NxRef<NxFieldContainer> aliveForTheSlots = std::exchange(m_fieldOwner, owner);
     m_field->attach(field);
-    Q_EMIT m_services.selectedFieldChanged(field);
+    m_announce.field(field);
 }

@@ -4,11 +4,11 @@
 #include "meridane/scene/fields/NxRef.h"
 
 #include <deque>
+#include <functional>
 #include <memory>
 
 class FieldWatch;
 class NxField;
-class OrvServices;
 
 /// The selected node and field of the services, and the order in which changes of them are announced.
 ///
@@ -16,8 +16,13 @@ class OrvServices;
 /// selection that a slot asks for waits until the present one has been announced to the last slot.
 class Selection {
 public:
-    /// The services emit the signals.
-    explicit Selection(OrvServices& services);
+    /// What is called to announce the selected node and the selected field, which may be null.
+    struct Announcements {
+        std::function<void(NxFieldContainer*)> node;
+        std::function<void(NxField*)> field;
+    };
+
+    explicit Selection(Announcements announcements);
     Selection(const Selection&) = delete;
     Selection& operator=(const Selection&) = delete;
     ~Selection();
@@ -42,7 +47,7 @@ private:
     void changeNode(const NxRef<NxFieldContainer>& node);
     void changeField(NxField* field, const NxRef<NxFieldContainer>& owner);
 
-    OrvServices& m_services;
+    const Announcements m_announce;
     NxRef<NxFieldContainer> m_node;
     NxRef<NxFieldContainer> m_fieldOwner;
     std::unique_ptr<FieldWatch> m_field;

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What a profile says of one extension that runs by itself.
+struct OrvProfileEntry {
+    /// The extension's name, or "*" for every one that no other entry names.
+    QString extension;
+    /// False keeps the extension from running.
+    bool runs = true;
+    /// The names of the controlled extensions; "*" stands for all.
+    QStringList controlled;
+};
