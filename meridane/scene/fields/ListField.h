@@ -80,7 +80,7 @@ protected:
 private:
     bool assignText(TextReader& reader) override;
     bool assign1Text(int index, TextReader& reader) override;
-    Progress readNextValue(std::vector<Value>& values, TextReader& reader) const;
+    Progress readNextValue(std::vector<Value>& values, TextReader& reader, std::size_t maximum) const;
     Progress readValues(std::vector<Value>& values, TextReader& reader, bool first, std::size_t budget) const;
 
     [[no_unique_address]] Format m_format;

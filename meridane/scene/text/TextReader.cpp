@@ -169,7 +169,7 @@ bool TextReader::expectEnd()
 template <typename Number>
 bool TextReader::readUnusualNumber(Number& number)
 {
-    const char* const last = endOfWord();
+    const char* const last = endOfWord(m_at);
     const char* place = m_at;
     const bool negative = place != m_end && *place == '-';
     if (place != m_end && (*place == '+' || *place == '-'))
@@ -215,7 +215,7 @@ bool TextReader::readNan(const char* place, bool negative, Number& number)
 {
     using Nan = NanBits<Number>;
     typename Nan::Bits fraction = Nan::plainFraction;
-    const char* const end = readNanFraction(place + 3, endOfWord(), fraction);
+    const char* const end = readNanFraction(place + 3, endOfWord(m_at), fraction);
     if (end == nullptr || !endsHere(end) || fraction == 0 || fraction > Nan::greatestFraction) {
         return fail(std::is_same_v<Number, float> ? "nan, or nan(0x1) to nan(0x7fffff)"
                                                   : "nan, or nan(0x1) to nan(0xfffffffffffff)");
@@ -235,7 +235,7 @@ template bool TextReader::readUnusualNumber(unsigned int&);
 bool TextReader::readWord(std::string_view& word, std::string_view expected)
 {
     skipBlanks();
-    const char* const last = endOfWord();
+    const char* const last = endOfWord(m_at);
     const char* end = m_at;
     while (end != last && !isDelimiter(*end))
         ++end;

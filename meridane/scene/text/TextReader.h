@@ -82,6 +82,10 @@ public:
     /// this gives true.
     template <typename Number>
     bool readNumber(Number& number);
+    /// Reads a comma, at most one blank and a decimal number that ends at a delimiter: nearly all of a long list is of
+    /// that form. False, with the cursor where it was, for everything else, which the other operations read.
+    template <typename Number>
+    bool readPlainFollower(Number& number) noexcept;
     /// Reads a word: the characters up to a blank, a comma, a semicolon, a bar, a quote, a bracket, a brace or `#`. It
     /// may not be empty: `expected` says what it stands for.
     bool readWord(std::string_view& word, std::string_view expected);
@@ -138,10 +142,10 @@ private:
     };
 
     [[nodiscard]] bool endsHere(const char* place) const noexcept { return place == m_end || isDelimiter(*place); }
-    /// Where a number or a word that begins at the cursor ends at the latest.
-    [[nodiscard]] const char* endOfWord() const noexcept
+    /// Where a number or a word that begins at that place ends at the latest.
+    [[nodiscard]] const char* endOfWord(const char* start) const noexcept
     {
-        return static_cast<std::size_t>(m_end - m_at) > longestWord ? m_at + longestWord : m_end;
+        return static_cast<std::size_t>(m_end - start) > longestWord ? start + longestWord : m_end;
     }
     [[nodiscard]] const char* endOfSlice(const char* begin, const char* end) const noexcept;
     void skipFarBlanks(Blanks blanks);
@@ -174,18 +178,21 @@ inline constexpr std::array<bool, 256> TextReader::s_delimiters = makeDelimiters
 
 inline void TextReader::skipBlanks()
 {
-    const char* const near = m_end - m_at > nearBlanks ? m_at + nearBlanks : m_end;
-    for (; m_at != near; ++m_at) {
-        const char character = *m_at;
+    const char* at = m_at;
+    const char* const near = m_end - at > nearBlanks ? at + nearBlanks : m_end;
+    for (; at != near; ++at) {
+        const char character = *at;
         if (character == ' ' || character == '\t')
             continue;
-        if (character > '#' || m_blanks == Blanks::Line)
-            return;
-        if (character == '#')
-            return skipFarBlanks(m_blanks);
-        if (character != '\n' && character != '\r')
-            return;
+        const bool isLineEnd = character == '\n' || character == '\r';
+        if (m_blanks == Blanks::File && isLineEnd)
+            continue;
+        m_at = at;
+        if (m_blanks == Blanks::File && character == '#')
+            skipFarBlanks(m_blanks);
+        return;
     }
+    m_at = at;
     if (near != m_end)
         skipFarBlanks(m_blanks);
 }
@@ -213,7 +220,7 @@ inline bool TextReader::readNumber(Number& number)
 {
     skipBlanks();
     Number read{};
-    const auto [end, error] = std::from_chars(m_at, endOfWord(), read);
+    const auto [end, error] = std::from_chars(m_at, endOfWord(m_at), read);
     bool isUsual = error == std::errc() && endsHere(end);
     if constexpr (std::is_floating_point_v<Number>)
         isUsual = isUsual && !std::isnan(read); // whose brackets may hold anything here
@@ -230,5 +237,24 @@ extern template bool TextReader::readUnusualNumber(short&);
 extern template bool TextReader::readUnusualNumber(unsigned short&);
 extern template bool TextReader::readUnusualNumber(int&);
 extern template bool TextReader::readUnusualNumber(unsigned int&);
+
+template <typename Number>
+inline bool TextReader::readPlainFollower(Number& number) noexcept
+{
+    if (m_end - m_at < 3 || *m_at != ',')
+        return false;
+    const char* const start = m_at + (m_at[1] == ' ' ? 2 : 1);
+    Number read{};
+    const auto [end, error] = std::from_chars(start, endOfWord(start), read);
+    if (error != std::errc() || !endsHere(end))
+        return false;
+    if constexpr (std::is_floating_point_v<Number>) {
+        if (std::isnan(read)) // whose brackets may hold anything here
+            return false;
+    }
+    number = read;
+    m_at = end;
+    return true;
+}
 
 } // namespace meridane

@@ -113,9 +113,16 @@ NxField::Progress ListField<Value, Format>::readValues(
 {
     if (first)
         values.clear();
+    const auto maximum = static_cast<std::size_t>(getMaximumNum());
     for (; budget > 0 && !reader.isSpent(); --budget) {
+        if constexpr (std::is_same_v<Format, ValueFormat<Value>> && TextNumber<Value>) {
+            if (Value value{}; !values.empty() && values.size() < maximum && reader.readPlainFollower(value)) {
+                values.push_back(value);
+                continue;
+            }
+        }
         const std::size_t start = reader.position();
-        const Progress progress = readNextValue(values, reader);
+        const Progress progress = readNextValue(values, reader, maximum);
         if (reader.isInterrupted()) {
             reader.goBack(start);
             return Progress::More;
@@ -128,14 +135,15 @@ NxField::Progress ListField<Value, Format>::readValues(
 }
 
 template <typename Value, typename Format>
-NxField::Progress ListField<Value, Format>::readNextValue(std::vector<Value>& values, TextReader& reader) const
+NxField::Progress ListField<Value, Format>::readNextValue(
+    std::vector<Value>& values, TextReader& reader, std::size_t maximum) const
 {
     const bool first = values.empty();
     const bool bracket = first && reader.accept('[');
     const bool ends = first ? bracket && reader.accept(']') : !reader.accept(',') && reader.accept(']');
     if (ends)
         return Progress::Done;
-    if (const auto maximum = static_cast<std::size_t>(getMaximumNum()); values.size() >= maximum) {
+    if (values.size() >= maximum) {
         reader.fail("the end of a list, which has at most " + std::to_string(maximum) + " values");
         return Progress::Failed;
     }

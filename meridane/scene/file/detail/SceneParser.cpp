@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view signature = "#mrd ";
 constexpr std::string_view version = "1.0";
-constexpr std::size_t unitsPerLookAtTheClock = 32;
+constexpr std::size_t unitsPerSlice = 32;
 constexpr std::size_t bytesPerSlice = std::size_t{1} << 13U;
 constexpr std::size_t checkedBytesPerSlice = std::size_t{1} << 16U; // which takes less time
 
@@ -64,9 +64,9 @@ NxRef<NxGroup> SceneParser::takeScene()
 void SceneParser::workInSlice()
 {
     bool isShort = true;
-    for (std::size_t unit = 0; unit < unitsPerLookAtTheClock && isShort && isWorking(); ++unit) {
+    m_reader.startSlice(bytesPerSlice);
+    for (std::size_t unit = 0; unit < unitsPerSlice && isShort && isWorking(); ++unit) {
         const std::size_t start = m_reader.position();
-        m_reader.startSlice(bytesPerSlice);
         work();
         isShort = !m_reader.isSpent();
         if (m_reader.isInterrupted())

@@ -16,7 +16,7 @@ namespace meridane {
 
 namespace {
 
-constexpr std::size_t unitsPerLookAtTheClock = 16;
+constexpr std::size_t unitsPerSlice = 16;
 constexpr std::size_t blanksPerLevel = 4;
 
 } // namespace
@@ -31,7 +31,7 @@ bool ScenePrinter::step(std::string& text, const WorkBudget& budget)
 {
     try {
         do {
-            for (std::size_t unit = 0; unit < unitsPerLookAtTheClock && m_phase != Phase::Done; ++unit)
+            for (std::size_t unit = 0; unit < unitsPerSlice && m_phase != Phase::Done; ++unit)
                 work(text);
         } while (m_phase != Phase::Done && !budget.isSpent());
     } catch (const std::exception&) {
