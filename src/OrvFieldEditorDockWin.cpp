@@ -1,7 +1,5 @@
 #include "OrvFieldEditorDockWin.h"
 
-#include "SelectionDock.h"
-
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/scene/fields/NxField.h"
@@ -23,16 +21,16 @@ void OrvFieldEditorDockWin::activate()
     OrvExtension::activate();
     connect(OrvServices::getInstance(), &OrvServices::selectedFieldChanged, this,
         &OrvFieldEditorDockWin::s_selectedFieldChanged);
-    orvane::enterShell(*this, m_dock);
+    m_selectionDock.enterShell();
 }
 
 void OrvFieldEditorDockWin::deactivate()
 {
-    orvane::releaseEditor(*this, m_dock, m_currentEditor);
+    m_selectionDock.release();
     OrvExtension::deactivate();
     disconnect(OrvServices::getInstance(), &OrvServices::selectedFieldChanged, this,
         &OrvFieldEditorDockWin::s_selectedFieldChanged);
-    orvane::leaveShell(*this, m_dock);
+    m_selectionDock.leaveShell();
 }
 
 void OrvFieldEditorDockWin::hide()
@@ -43,7 +41,7 @@ void OrvFieldEditorDockWin::hide()
 
 void OrvFieldEditorDockWin::load()
 {
-    m_dock = orvane::makeSelectionDock(QStringLiteral("Field Editor"));
+    m_selectionDock.load(QStringLiteral("Field Editor"));
 }
 
 void OrvFieldEditorDockWin::show()
@@ -54,11 +52,10 @@ void OrvFieldEditorDockWin::show()
 
 void OrvFieldEditorDockWin::unload()
 {
-    delete m_dock;
-    m_dock = nullptr;
+    m_selectionDock.unload();
 }
 
 void OrvFieldEditorDockWin::s_selectedFieldChanged(NxField* field)
 {
-    orvane::showEditor(*this, m_dock, m_currentEditor, field);
+    m_selectionDock.show(field);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SelectionDock.h"
+
 #include "orvane/extender/OrvExtension.h"
 
 class NxField;
@@ -27,4 +29,5 @@ private Q_SLOTS:
 private:
     QDockWidget* m_dock = nullptr;
     OrvEditor* m_currentEditor = nullptr;
+    orvane::SelectionDock m_selectionDock{*this, m_dock, m_currentEditor};
 };

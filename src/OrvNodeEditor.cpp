@@ -1,7 +1,5 @@
 #include "OrvNodeEditor.h"
 
-#include "SelectionDock.h"
-
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/scene/fields/NxFieldContainer.h"
@@ -22,16 +20,16 @@ void OrvNodeEditor::activate()
 {
     OrvExtension::activate();
     connect(OrvServices::getInstance(), &OrvServices::selectedNodeChanged, this, &OrvNodeEditor::s_selectedNodeChanged);
-    orvane::enterShell(*this, m_dock);
+    m_selectionDock.enterShell();
 }
 
 void OrvNodeEditor::deactivate()
 {
-    orvane::releaseEditor(*this, m_dock, m_currentEditor);
+    m_selectionDock.release();
     OrvExtension::deactivate();
     disconnect(
         OrvServices::getInstance(), &OrvServices::selectedNodeChanged, this, &OrvNodeEditor::s_selectedNodeChanged);
-    orvane::leaveShell(*this, m_dock);
+    m_selectionDock.leaveShell();
 }
 
 void OrvNodeEditor::hide()
@@ -42,7 +40,7 @@ void OrvNodeEditor::hide()
 
 void OrvNodeEditor::load()
 {
-    m_dock = orvane::makeSelectionDock(QStringLiteral("Node Editor"));
+    m_selectionDock.load(QStringLiteral("Node Editor"));
 }
 
 void OrvNodeEditor::show()
@@ -53,11 +51,10 @@ void OrvNodeEditor::show()
 
 void OrvNodeEditor::unload()
 {
-    delete m_dock;
-    m_dock = nullptr;
+    m_selectionDock.unload();
 }
 
 void OrvNodeEditor::s_selectedNodeChanged(NxFieldContainer* node)
 {
-    orvane::showEditor(*this, m_dock, m_currentEditor, node);
+    m_selectionDock.show(node);
 }

@@ -10,33 +10,74 @@
 
 namespace orvane {
 
-QDockWidget* makeSelectionDock(const QString& title)
+SelectionDock::SelectionDock(OrvExtension& extension, QDockWidget*& dock, OrvEditor*& currentEditor)
+    : m_extension(extension)
+    , m_dock(dock)
+    , m_currentEditor(currentEditor)
 {
-    auto* const dock = new QDockWidget;
-    dock->setAcceptDrops(false);
-    dock->setWindowTitle(title);
-    dock->hide();
-    return dock;
 }
 
-void enterShell(OrvExtension& extension, QDockWidget* dock)
+void SelectionDock::load(const QString& title)
+{
+    m_dock = new QDockWidget;
+    m_dock->setAcceptDrops(false);
+    m_dock->setWindowTitle(title);
+    m_dock->hide();
+}
+
+void SelectionDock::unload()
+{
+    delete m_dock;
+    m_dock = nullptr;
+}
+
+void SelectionDock::enterShell()
 {
     OrvShell* const shell = OrvShell::getInstance();
-    shell->addDockWidget(dock, Qt::RightDockWidgetArea);
-    shell->announceExtension(&extension, 1);
+    shell->addDockWidget(m_dock, Qt::RightDockWidgetArea);
+    shell->announceExtension(&m_extension, 1);
 }
 
-void leaveShell(OrvExtension& extension, QDockWidget* dock)
+void SelectionDock::leaveShell()
 {
     OrvShell* const shell = OrvShell::getInstance();
-    shell->removeDockWidget(dock);
-    shell->withdrawExtension(&extension);
+    shell->removeDockWidget(m_dock);
+    shell->withdrawExtension(&m_extension);
 }
 
-OrvEditor* findBestEditor(const OrvProfileSetting& setting, const NxTypedObject& object)
+void SelectionDock::show(NxTypedObject* object)
+{
+    release();
+    if (object == nullptr)
+        return;
+    OrvEditor* const best = bestEditor(*object);
+    if (best == nullptr)
+        return;
+    best->setEditedObject(object);
+    m_dock->setWidget(best->getWidget());
+    best->activate();
+    m_currentEditor = best;
+    m_extension.show();
+}
+
+void SelectionDock::release()
+{
+    if (m_currentEditor == nullptr)
+        return;
+    m_currentEditor->deactivate();
+    m_currentEditor->setEditedObject(nullptr);
+    m_dock->setWidget(nullptr);
+    m_currentEditor->getWidget()->setParent(nullptr);
+    m_currentEditor = nullptr;
+    m_extension.hide();
+}
+
+// The controlled editor with the most derived handled type that fits. Of several that handle the same type, the last
+// one by address.
+OrvEditor* SelectionDock::bestEditor(const NxTypedObject& object) const
 {
     OrvEditor* best = nullptr;
-    for (const auto& controlled : setting.getControlledExtensions()) {
+    for (const auto& controlled : m_extension.getProfileSetting()->getControlledExtensions()) {
         auto* const editor = dynamic_cast<OrvEditor*>(controlled.first);
         if (editor == nullptr || !object.getTypeId().isDerivedFrom(editor->getHandledType()))
             continue;
@@ -44,33 +85,6 @@ OrvEditor* findBestEditor(const OrvProfileSetting& setting, const NxTypedObject&
             best = editor;
     }
     return best;
-}
-
-void releaseEditor(OrvExtension& extension, QDockWidget* dock, OrvEditor*& currentEditor)
-{
-    if (currentEditor == nullptr)
-        return;
-    currentEditor->deactivate();
-    currentEditor->setEditedObject(nullptr);
-    dock->setWidget(nullptr);
-    currentEditor->getWidget()->setParent(nullptr);
-    currentEditor = nullptr;
-    extension.hide();
-}
-
-void showEditor(OrvExtension& extension, QDockWidget* dock, OrvEditor*& currentEditor, NxTypedObject* object)
-{
-    releaseEditor(extension, dock, currentEditor);
-    if (object == nullptr)
-        return;
-    OrvEditor* const best = findBestEditor(*extension.getProfileSetting(), *object);
-    if (best == nullptr)
-        return;
-    best->setEditedObject(object);
-    dock->setWidget(best->getWidget());
-    best->activate();
-    currentEditor = best;
-    extension.show();
 }
 
 } // namespace orvane

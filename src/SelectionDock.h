@@ -3,32 +3,43 @@
 class NxTypedObject;
 class OrvEditor;
 class OrvExtension;
-class OrvProfileSetting;
 class QDockWidget;
 class QString;
 
-// What the two docks that follow a selection have in common. Each is an extension of its own with a dock widget, which
-// it owns, and a current editor, which is another extension and lives longer than the selection.
 namespace orvane {
 
-/// A hidden dock of that title, without a parent. The caller owns it.
-[[nodiscard]] QDockWidget* makeSelectionDock(const QString& title);
+/// What the two extensions that follow a selection have in common: a dock widget that shows the best editor for the
+/// selected object.
+///
+/// Each extension holds one and keeps the dock and the editor as members of its own, which this class reads and writes.
+/// The extension owns the dock; the editor is another extension, which lives longer than the selection.
+class SelectionDock final {
+public:
+    /// The three must live as long as this object. `dock` and `currentEditor` are null at first.
+    SelectionDock(OrvExtension& extension, QDockWidget*& dock, OrvEditor*& currentEditor);
 
-/// Puts the dock into the right area of the main window and announces the extension.
-void enterShell(OrvExtension& extension, QDockWidget* dock);
-/// The counterpart of `enterShell`.
-void leaveShell(OrvExtension& extension, QDockWidget* dock);
+    /// Creates the dock, hidden and without a parent.
+    void load(const QString& title);
+    void unload();
 
-/// Of the controlled extensions, the editor whose handled type fits the object best: the most derived one; of several
-/// that handle the same type, the last by address. Null when none fits.
-[[nodiscard]] OrvEditor* findBestEditor(const OrvProfileSetting& setting, const NxTypedObject& object);
+    /// Adds the dock to the right area of the main window and announces the extension.
+    void enterShell();
+    /// The counterpart of `enterShell`.
+    void leaveShell();
 
-/// Takes the current editor, if there is one, out of the dock and hides the extension. The editor's widget has no
-/// parent afterwards, so that the dock can't destroy it.
-void releaseEditor(OrvExtension& extension, QDockWidget* dock, OrvEditor*& currentEditor);
+    /// Releases the current editor, even if it is chosen again, and shows the best one for the object. Without an
+    /// object, or if no editor handles it, the dock stays hidden and empty.
+    void show(NxTypedObject* object);
+    /// Takes the current editor out of the dock, if there is one, and hides the extension. The editor's widget has no
+    /// parent afterwards, so that the dock can't destroy it.
+    void release();
 
-/// Answers a selection: releases the current editor, be it the one that will be chosen again, and shows the best one
-/// for the object. With none, or without an object, the dock stays hidden and empty.
-void showEditor(OrvExtension& extension, QDockWidget* dock, OrvEditor*& currentEditor, NxTypedObject* object);
+private:
+    [[nodiscard]] OrvEditor* bestEditor(const NxTypedObject& object) const;
+
+    OrvExtension& m_extension;
+    QDockWidget*& m_dock;
+    OrvEditor*& m_currentEditor;
+};
 
 } // namespace orvane
