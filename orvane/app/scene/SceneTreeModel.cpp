@@ -67,8 +67,11 @@ QModelIndex SceneTreeModel::indexOfPath(std::span<NxNode* const> nodes)
     QModelIndex index;
     for (NxNode* step : nodes) {
         fetchMore(index);
-        const SceneBranch* branch = branchOf(index);
-        const int row = branch != nullptr ? branch->findRow(step) : -1;
+        SceneBranch* branch = branchOf(index);
+        if (branch == nullptr)
+            return {};
+        updateBranch(*branch); // its sensor may still wait for its call
+        const int row = branch->findRow(step);
         if (row < 0)
             return {};
         index = this->index(row, NameColumn, index);

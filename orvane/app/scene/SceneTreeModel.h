@@ -34,7 +34,8 @@ public:
     [[nodiscard]] NxGroup* group(const QModelIndex& index) const;
     /// The nodes from the top one down to that of the index.
     [[nodiscard]] std::vector<NxNode*> path(const QModelIndex& index) const;
-    /// The index that these nodes lead to, each a child of the one before; fetches rows as needed.
+    /// The index that these nodes lead to, each a child of the one before. Fetches rows as needed and updates those on
+    /// the way, so nodes that were added a moment ago are found before the delay queue has run.
     [[nodiscard]] QModelIndex indexOfPath(std::span<NxNode* const> nodes);
     /// The first place of a node: among the rows that are there, else anywhere in the scene.
     [[nodiscard]] QModelIndex findNode(const NxFieldContainer* node);

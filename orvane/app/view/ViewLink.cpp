@@ -5,8 +5,6 @@
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/view/SceneView.h"
 
-#include "meridane/base/NxDelayQueue.h"
-
 #include <QLabel>
 #include <QStatusBar>
 
@@ -69,7 +67,6 @@ void ViewLink::showSelection()
 
 void ViewLink::choose(const std::vector<NxNode*>& nodes, const VbVec3d& point)
 {
-    NxDelayQueue::getDefault().process(); // the tree may be behind the scene
     m_tree->setCurrent(m_tree->model()->indexOfPath(nodes));
     m_point->setText(tr("at %1, %2, %3").arg(coordinate(point[0]), coordinate(point[1]), coordinate(point[2])));
     m_point->show();

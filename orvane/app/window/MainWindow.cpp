@@ -114,7 +114,6 @@ QString MainWindow::selectPath(const QString& path)
     const NxScenePath::Target target = NxScenePath::find(document().scene(), path.toStdString());
     if (!target.error.empty())
         return orvane::toQString(target.error);
-    NxDelayQueue::getDefault().process(); // the tree may be behind the scene
     m_tree->setCurrent(m_tree->model()->indexOfPath(target.nodes));
     m_session.services().selectField(target.field);
     return {};

@@ -161,6 +161,21 @@ private Q_SLOTS:
         QVERIFY(!m_model->findNode(nullptr).isValid());
     }
 
+    void findsANodeThatWasAddedAMomentAgo()
+    {
+        const NxRef<NxGroup> machine(new NxGroup);
+        const NxRef<NxGroup> wheel(new NxGroup);
+        machine->addChild(wheel.get());
+        m_group->addChild(machine.get());
+        const std::vector<NxNode*> path{m_group, machine.get(), wheel.get()};
+        const QModelIndex found = m_model->indexOfPath(path);
+        QCOMPARE(m_model->path(found), path);
+        const QSignalSpy inserted(m_model.get(), &QAbstractItemModel::rowsInserted);
+        AppScenes::runSensors();
+        QCOMPARE(inserted.size(), 0);
+        QCOMPARE(m_model->node(found), wheel.get());
+    }
+
     void findsNothingInAGraphOfSharedNodesInShortTime()
     {
         // Each level holds the next one twice, so there are 2^60 ways down.

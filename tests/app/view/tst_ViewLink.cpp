@@ -2,6 +2,7 @@
 #include "app/view/ViewScenes.h"
 
 #include "orvane/app/messages/MessageBar.h"
+#include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/view/SceneCameras.h"
 #include "orvane/app/view/SceneView.h"
@@ -59,6 +60,24 @@ private Q_SLOTS:
         QCOMPARE(m_session->services().getSelectedNode(), nullptr);
         QVERIFY(!tree()->current().isValid());
         QVERIFY(!point->isVisible());
+    }
+
+    void selectsWhatWasMovedInTheSceneAMomentAgo()
+    {
+        lookAhead();
+        tree()->model()->fetchMore(tree()->model()->index(2, 0));
+        const QPoint place = clickable(Qt::green);
+        NxNode* const square = greenSquare();
+        NxGroup* const scene = m_window->document().scene();
+        const NxRef<NxNode> right(scene->getChild(2));
+        const NxRef<NxGroup> outer(new NxGroup);
+        QVERIFY(scene->removeChild(2));
+        outer->addChild(right.get());
+        scene->addChild(outer.get());
+        click(place); // before the delay queue has run
+        QVERIFY(!NxDelayQueue::getDefault().isEmpty());
+        QCOMPARE(m_session->services().getSelectedNode(), square);
+        QCOMPARE(tree()->model()->path(tree()->current()), (std::vector<NxNode*>{outer.get(), right.get(), square}));
     }
 
     void tellsExactlyWhereSomethingFarAwayIsClicked()
