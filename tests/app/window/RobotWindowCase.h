@@ -1,0 +1,43 @@
+#pragma once
+
+#include "app/AppScenes.h"
+#include "app/WindowCase.h"
+
+#include "orvane/app/fields/FieldTableView.h"
+#include "orvane/app/messages/MessageBar.h"
+#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/scene/SceneTreePanel.h"
+
+#include <QTreeView>
+
+/// A test of the main window on a scene file of a robot and a sun.
+class RobotWindowCase : public WindowCase {
+protected:
+    /// Starts the tool beside the file, which isn't open yet.
+    void startBesideRobot()
+    {
+        startTool();
+        m_robot = filePath("robot.mrd");
+        AppScenes::writeFile(m_robot, AppScenes::robotText);
+    }
+
+    void renameRobot(const char* name)
+    {
+        Q_EMIT m_window->findChild<SceneTreePanel*>()->model()->renameRequested(robot(), QLatin1String(name));
+        AppScenes::runSensors();
+    }
+
+    static void clickRow(QAbstractItemView* view, const QModelIndex& index)
+    {
+        view->scrollTo(index);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(index).center());
+    }
+
+    QTreeView* tree() { return m_window->findChild<QTreeView*>(QStringLiteral("sceneTree")); }
+    FieldTableView* table() { return m_window->findChild<FieldTableView*>(); }
+    QStringList messages() { return m_window->findChild<MessageBar*>()->texts(); }
+    NxGroup* robot() { return dynamic_cast<NxGroup*>(m_window->document().scene()->getChild(0)); }
+    NxNode* sun() { return m_window->document().scene()->getChild(1); }
+
+    QString m_robot;
+};
