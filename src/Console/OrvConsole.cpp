@@ -4,11 +4,6 @@
 
 #include "meridane/base/NxPreferences.h"
 #include "meridane/base/errors/NxDebugError.h"
-#include "meridane/base/errors/NxError.h"
-#include "meridane/base/errors/NxErrorStack.h"
-#include "meridane/base/errors/NxGLError.h"
-#include "meridane/base/errors/NxMemoryError.h"
-#include "meridane/base/errors/NxReadError.h"
 
 #include <QCoreApplication>
 #include <QDockWidget>
@@ -16,35 +11,11 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFrame>
-#include <QScrollBar>
-#include <QTextCursor>
-#include <QTextOption>
 
 #include <iostream>
 #include <utility>
 
 namespace {
-
-/// Each error class has a handler of its own, reached through static operations.
-struct ErrorClass {
-    NxErrorHandler (*getHandlerCallback)();
-    void* (*getHandlerData)();
-    void (*setHandlerCallback)(NxErrorHandler callback, void* data);
-};
-
-template <typename Error>
-constexpr ErrorClass errorClass{&Error::getHandlerCallback, &Error::getHandlerData, &Error::setHandlerCallback};
-
-constexpr std::array errorClasses{errorClass<NxDebugError>, errorClass<NxError>, errorClass<NxErrorStack>,
-    errorClass<NxGLError>, errorClass<NxMemoryError>, errorClass<NxReadError>};
-
-/// In characters. The default way to break lines looks for the end of a word over and over, which takes minutes for a
-/// word of a megabyte.
-constexpr qsizetype longText = 10'000;
-
-constexpr auto turnEvent = static_cast<QEvent::Type>(QEvent::User + 1);
-constexpr qint64 longestTurn = 400; // in milliseconds
-constexpr int largestTurn = 2000; // in messages, which the view then takes some tens of milliseconds to lay out
 
 constexpr std::int32_t errorCategory = 0;
 constexpr std::int32_t infoCategory = 1;
@@ -52,16 +23,15 @@ constexpr std::int32_t warningCategory = 2;
 
 std::int32_t categoryOf(const NxError& error)
 {
-    if (!error.isOfType(NxDebugError::getClassTypeId()))
-        return errorCategory;
-    switch (static_cast<const NxDebugError&>(error).getSeverity()) {
+    switch (NxDebugError::severityOf(error)) {
+    case NxDebugError::Error:
+        break;
     case NxDebugError::Warning:
         return warningCategory;
     case NxDebugError::Information:
         return infoCategory;
-    default:
-        return errorCategory;
     }
+    return errorCategory;
 }
 
 } // namespace
@@ -69,6 +39,7 @@ std::int32_t categoryOf(const NxError& error)
 /// One error on its way to the thread of the user interface.
 class OrvConsole::ConsoleEvent final : QEvent {
 public:
+    // Contract: the first type that is free for applications, not a registered one.
     static constexpr Type eventType = User;
 
     explicit ConsoleEvent(const QString& text)
@@ -79,11 +50,11 @@ public:
 
     [[nodiscard]] const QString& text() const noexcept { return m_text; }
     [[nodiscard]] std::int32_t category() const noexcept { return m_category; }
-    /// Any value but those of an information and a warning stands for an error.
+    /// Any value but those of an information and a warning means an error.
     void setCategory(std::int32_t category) noexcept { m_category = category; }
 
 private:
-    friend OrvConsole; // which posts it, and meets it again
+    friend OrvConsole; // which posts and receives it as a QEvent
 
     QString m_text;
     std::int32_t m_category = errorCategory;
@@ -146,14 +117,9 @@ void OrvConsole::load()
     connect(m_infosButton, &QPushButton::toggled, this, &OrvConsole::outputInfos);
     connect(m_saveButton, &QPushButton::clicked, this, &OrvConsole::save);
     connect(m_warningsButton, &QPushButton::toggled, this, &OrvConsole::outputWarnings);
-    static_assert(errorClasses.size() == errorClassCount);
-    for (std::size_t index = 0; index < errorClassCount; ++index) {
-        m_savedHandlerCallbacks[index] = errorClasses[index].getHandlerCallback();
-        m_savedHandlerData[index] = errorClasses[index].getHandlerData();
-    }
-    // The former handlers aren't called meanwhile: what the console takes goes to the console alone.
-    for (const ErrorClass& one : errorClasses)
-        one.setHandlerCallback(&handleError, this);
+    m_messages = std::make_unique<orvane::MessageQueue>(*m_consoleOutput);
+    // Contract: the former handlers aren't called meanwhile.
+    m_errorCapture.begin(&handleError, this);
 }
 
 void OrvConsole::show()
@@ -165,70 +131,27 @@ void OrvConsole::show()
 
 void OrvConsole::unload()
 {
-    m_arrived.clear();
+    m_messages.reset();
     delete std::exchange(m_consoleFrameWidget, nullptr);
     delete std::exchange(m_dockWidget, nullptr);
-    for (std::size_t index = 0; index < errorClassCount; ++index)
-        errorClasses[index].setHandlerCallback(m_savedHandlerCallbacks[index], m_savedHandlerData[index]);
+    m_errorCapture.end();
 }
 
 bool OrvConsole::event(QEvent* event)
 {
     if (event->type() == ConsoleEvent::eventType)
         receive(*static_cast<ConsoleEvent*>(event));
-    else if (event->type() == turnEvent)
-        takeTurn();
     return QObject::event(event);
 }
 
-// The view takes its time for each line. So that many errors at once don't hold up the window, they are shown in turns,
-// and whatever else waits in the event loop comes in between. Those that wait are under way as in the event queue,
-// which can't hand them over in parts: nothing is kept once it is shown.
 void OrvConsole::receive(const ConsoleEvent& event)
 {
-    // An error may still be under way when the view is gone.
-    if (m_consoleFrameWidget == nullptr)
+    // An error may still be in the event queue when the view is gone.
+    if (m_messages == nullptr)
         return;
     const Channel channel = channelOf(event.category());
-    if (!channel.isShown)
-        return;
-    if (!m_turn.isValid())
-        startTurn();
-    if (m_arrived.empty() && !turnIsOver())
-        append(channel.color, event.text());
-    else
-        m_arrived.push_back({channel.color, event.text()});
-}
-
-void OrvConsole::startTurn()
-{
-    m_turn.start();
-    QCoreApplication::postEvent(this, new QEvent(turnEvent), Qt::LowEventPriority);
-}
-
-bool OrvConsole::turnIsOver() const
-{
-    return m_turn.hasExpired(longestTurn);
-}
-
-void OrvConsole::takeTurn()
-{
-    m_turn.invalidate();
-    if (m_arrived.empty())
-        return;
-    startTurn();
-    // In one edit, so that the view lays out its lines once.
-    QScrollBar* const bar = m_consoleOutput->verticalScrollBar();
-    const bool endIsInSight = bar->value() >= bar->maximum();
-    QTextCursor edit(m_consoleOutput->document());
-    edit.beginEditBlock();
-    for (int shown = 0; !m_arrived.empty() && shown < largestTurn && !turnIsOver(); ++shown) {
-        append(m_arrived.front().color, m_arrived.front().text);
-        m_arrived.pop_front();
-    }
-    edit.endEditBlock();
-    if (endIsInSight)
-        bar->setValue(bar->maximum());
+    if (channel.isShown)
+        m_messages->add(channel.color, event.text());
 }
 
 OrvConsole::Channel OrvConsole::channelOf(std::int32_t category) const
@@ -245,11 +168,10 @@ OrvConsole::Channel OrvConsole::channelOf(std::int32_t category) const
 
 void OrvConsole::clear()
 {
-    m_consoleOutput->clear();
-    m_consoleOutput->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    m_messages->clearView();
 }
 
-// The flags don't read the buttons: both start on, and each toggle inverts once.
+// Contract: the flags don't read the buttons. Both start on, and each toggle inverts the flag once.
 void OrvConsole::outputErrors()
 {
     m_outputErrors = !m_outputErrors;
@@ -272,7 +194,7 @@ void OrvConsole::save()
     if (fileName.isEmpty())
         return;
     QFile file(fileName);
-    // Without truncating: a longer file keeps its remainder behind the text. That is meant.
+    // Contract: the file isn't truncated, so a longer one keeps its remainder behind the text.
     if (file.open(QIODevice::ReadWrite | QIODevice::Text))
         file.write(m_consoleOutput->toPlainText().toLatin1().constData());
 }
@@ -285,19 +207,11 @@ void OrvConsole::handleError(const NxError* error, void* console)
     QCoreApplication::postEvent(static_cast<OrvConsole*>(console), message.release());
 }
 
-void OrvConsole::append(const QColor& color, const QString& text)
-{
-    if (text.size() > longText)
-        m_consoleOutput->setWordWrapMode(QTextOption::WrapAnywhere);
-    m_consoleOutput->setTextColor(color);
-    m_consoleOutput->append(text);
-}
-
 void OrvConsole::appendStreamed(std::int32_t category, const char* text)
 {
     const Channel channel = channelOf(category);
     if (channel.isShown)
-        append(channel.color, QString::fromUtf8(text));
+        m_messages->show(channel.color, QString::fromUtf8(text));
 }
 
 void consoleErrorStreamCallback(const char* text, std::streamsize /*count*/, void* userData)

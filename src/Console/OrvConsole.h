@@ -1,20 +1,16 @@
 #pragma once
 
+#include "Console/MessageQueue.h"
 #include "Console/StdStreamRedirector.h"
 #include "ui_OrvConsole.h"
 
 #include "orvane/extender/OrvExtension.h"
 
-#include "meridane/base/errors/NxErrorHandler.h"
+#include "meridane/base/errors/ErrorCapture.h"
 
 #include <QColor>
-#include <QElapsedTimer>
-#include <QString>
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <ios>
 #include <memory>
 #include <string>
@@ -22,9 +18,9 @@
 class QDockWidget;
 class QFrame;
 
-/// What the two streams are given to; the user data is the console. They read a text to its first NUL, whatever the
-/// count, so that a block which its writer didn't end with one shows more than was meant. And they use the view on the
-/// thread that writes. Both is meant.
+/// The callbacks of the two streams; the user data is the console.
+// Contract: a text is read up to its first NUL, whatever the count, so a block without one shows more than was written.
+// Contract: the view is used on the thread that writes.
 void consoleErrorStreamCallback(const char* text, std::streamsize count, void* userData);
 void consoleOutputStreamCallback(const char* text, std::streamsize count, void* userData);
 
@@ -60,31 +56,21 @@ private Q_SLOTS:
 private:
     class ConsoleEvent;
     using Redirector = StdStreamRedirector<char, std::char_traits<char>>;
-    static constexpr std::size_t errorClassCount = 6;
 
     friend void consoleErrorStreamCallback(const char* text, std::streamsize count, void* userData);
     friend void consoleOutputStreamCallback(const char* text, std::streamsize count, void* userData);
     static void handleError(const NxError* error, void* console);
 
-    /// What becomes of a category's messages. What is filtered out when it arrives is gone for good, and what has
-    /// arrived is shown whatever is filtered later.
+    /// How the messages of a category are shown. A message that is filtered out when it arrives is never shown; one
+    /// that has arrived is shown whatever is filtered later.
     struct Channel {
         bool isShown;
         QColor color;
     };
-    /// A message that arrived and waits for a turn.
-    struct Message {
-        QColor color;
-        QString text;
-    };
 
     [[nodiscard]] Channel channelOf(std::int32_t category) const;
     void receive(const ConsoleEvent& event);
-    void startTurn();
-    [[nodiscard]] bool turnIsOver() const;
-    void takeTurn();
     void appendStreamed(std::int32_t category, const char* text);
-    void append(const QColor& color, const QString& text);
 
     bool m_outputErrors = true;
     bool m_outputInfos = true;
@@ -94,10 +80,10 @@ private:
     QColor m_errorColor = Qt::darkRed;
     QColor m_infoColor = Qt::darkGreen;
     QColor m_warningColor = Qt::darkYellow;
-    std::array<NxErrorHandler, errorClassCount> m_savedHandlerCallbacks{};
-    std::array<void*, errorClassCount> m_savedHandlerData{};
+    meridane::ErrorCapture::Callbacks m_savedHandlerCallbacks{};
+    meridane::ErrorCapture::UserData m_savedHandlerData{};
     std::unique_ptr<Redirector> m_stderrRedirector;
     std::unique_ptr<Redirector> m_stdoutRedirector;
-    std::deque<Message> m_arrived; // of a burst, in their order
-    QElapsedTimer m_turn; // valid while a turn is under way
+    meridane::ErrorCapture m_errorCapture{m_savedHandlerCallbacks, m_savedHandlerData};
+    std::unique_ptr<orvane::MessageQueue> m_messages; // null while there is no view
 };

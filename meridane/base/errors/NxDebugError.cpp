@@ -1,46 +1,29 @@
 #include "meridane/base/errors/NxDebugError.h"
 
-#include "meridane/base/values/VbName.h"
+#include "meridane/base/errors/detail/ErrorClassMembers.h"
 
-namespace {
-
-constinit meridane::ErrorHandlerSlot slot;
-
-} // namespace
+template class meridane::ErrorClass<NxDebugError, NxError>;
 
 NxDebugError::NxDebugError(int severity, const VbString& text)
-    : NxError(text)
+    : ErrorClass(text)
     , m_severity(severity)
 {
 }
 
-NxType NxDebugError::getTypeId() const
+NxDebugError::Severity NxDebugError::severityOf(const NxError& error)
 {
-    return getClassTypeId();
-}
-
-NxType NxDebugError::getClassTypeId()
-{
-    static const NxType type = NxType::registerClass("DebugError", NxError::getClassTypeId(), nullptr);
-    return type;
-}
-
-NxErrorHandler NxDebugError::getHandlerCallback()
-{
-    return slot.callback();
-}
-
-void* NxDebugError::getHandlerData()
-{
-    return slot.data();
-}
-
-void NxDebugError::setHandlerCallback(NxErrorHandler callback, void* data)
-{
-    slot.set(callback, data);
+    if (!error.isOfType(getClassTypeId()))
+        return Error;
+    switch (const int severity = static_cast<const NxDebugError&>(error).getSeverity()) {
+    case Warning:
+    case Information:
+        return static_cast<Severity>(severity);
+    default:
+        return Error;
+    }
 }
 
 void NxDebugError::post(int severity, const VbString& text)
 {
-    slot.deliver(NxDebugError(severity, text));
+    deliver(NxDebugError(severity, text));
 }

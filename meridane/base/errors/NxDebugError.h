@@ -3,25 +3,25 @@
 #include "meridane/base/errors/NxError.h"
 
 /// A message from the code to its developer or to a curious user: an error, a warning or an information.
-class NxDebugError : public NxError {
+class NxDebugError : public meridane::ErrorClass<NxDebugError, NxError> {
 public:
+    static constexpr const char* typeName = "DebugError";
+
     enum Severity : int { Error = 0, Warning = 1, Information = 2 };
 
     /// Any other severity counts as an error.
     NxDebugError(int severity, const VbString& text);
 
-    [[nodiscard]] NxType getTypeId() const override;
-    [[nodiscard]] static NxType getClassTypeId();
-
+    /// As it was posted, be it one of `Severity` or not.
     [[nodiscard]] int getSeverity() const { return m_severity; }
-
-    // The handler of this class, as in NxError.
-    [[nodiscard]] static NxErrorHandler getHandlerCallback();
-    [[nodiscard]] static void* getHandlerData();
-    static void setHandlerCallback(NxErrorHandler callback, void* data);
+    /// How grave an error of any class is: that of a debug error is its severity; all others, and debug errors of an
+    /// unknown severity, are errors.
+    [[nodiscard]] static Severity severityOf(const NxError& error);
 
     static void post(int severity, const VbString& text);
 
 private:
     int m_severity;
 };
+
+extern template class meridane::ErrorClass<NxDebugError, NxError>;

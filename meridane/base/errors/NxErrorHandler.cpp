@@ -69,16 +69,15 @@ private:
 
 const char* labelOf(const NxError& error)
 {
-    if (!error.isOfType(NxDebugError::getClassTypeId()))
+    switch (NxDebugError::severityOf(error)) {
+    case NxDebugError::Error:
         return "error: ";
-    switch (static_cast<const NxDebugError&>(error).getSeverity()) {
     case NxDebugError::Warning:
         return "warning: ";
     case NxDebugError::Information:
         return "information: ";
-    default:
-        return "error: ";
     }
+    return "";
 }
 
 void print(const NxError& error)

@@ -1,12 +1,10 @@
 #include "meridane/base/errors/NxErrorStack.h"
 
-#include "meridane/base/values/VbName.h"
+#include "meridane/base/errors/detail/ErrorClassMembers.h"
 
 #include <string>
 
 namespace {
-
-constinit meridane::ErrorHandlerSlot slot;
 
 VbString joined(const std::vector<VbString>& messages)
 {
@@ -21,39 +19,15 @@ VbString joined(const std::vector<VbString>& messages)
 
 } // namespace
 
+template class meridane::ErrorClass<NxErrorStack, NxError>;
+
 NxErrorStack::NxErrorStack(const std::vector<VbString>& messages)
-    : NxError(joined(messages))
+    : ErrorClass(joined(messages))
     , m_messages(messages)
 {
 }
 
-NxType NxErrorStack::getTypeId() const
-{
-    return getClassTypeId();
-}
-
-NxType NxErrorStack::getClassTypeId()
-{
-    static const NxType type = NxType::registerClass("ErrorStack", NxError::getClassTypeId(), nullptr);
-    return type;
-}
-
-NxErrorHandler NxErrorStack::getHandlerCallback()
-{
-    return slot.callback();
-}
-
-void* NxErrorStack::getHandlerData()
-{
-    return slot.data();
-}
-
-void NxErrorStack::setHandlerCallback(NxErrorHandler callback, void* data)
-{
-    slot.set(callback, data);
-}
-
 void NxErrorStack::post(const std::vector<VbString>& messages)
 {
-    slot.deliver(NxErrorStack(messages));
+    deliver(NxErrorStack(messages));
 }

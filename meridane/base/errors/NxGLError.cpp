@@ -1,14 +1,12 @@
 #include "meridane/base/errors/NxGLError.h"
 
-#include "meridane/base/values/VbName.h"
+#include "meridane/base/errors/detail/ErrorClassMembers.h"
 
 #include <array>
 #include <cstdio>
 #include <string>
 
 namespace {
-
-constinit meridane::ErrorHandlerSlot slot;
 
 // The codes are fixed by the drawing library's binary interface; its header is none of this library's business.
 const char* nameOf(unsigned int code)
@@ -44,39 +42,15 @@ VbString describe(unsigned int code, const VbString& operation)
 
 } // namespace
 
+template class meridane::ErrorClass<NxGLError, NxError>;
+
 NxGLError::NxGLError(unsigned int code, const VbString& operation)
-    : NxError(describe(code, operation))
+    : ErrorClass(describe(code, operation))
     , m_code(code)
 {
 }
 
-NxType NxGLError::getTypeId() const
-{
-    return getClassTypeId();
-}
-
-NxType NxGLError::getClassTypeId()
-{
-    static const NxType type = NxType::registerClass("GLError", NxError::getClassTypeId(), nullptr);
-    return type;
-}
-
-NxErrorHandler NxGLError::getHandlerCallback()
-{
-    return slot.callback();
-}
-
-void* NxGLError::getHandlerData()
-{
-    return slot.data();
-}
-
-void NxGLError::setHandlerCallback(NxErrorHandler callback, void* data)
-{
-    slot.set(callback, data);
-}
-
 void NxGLError::post(unsigned int code, const VbString& operation)
 {
-    slot.deliver(NxGLError(code, operation));
+    deliver(NxGLError(code, operation));
 }

@@ -1,12 +1,10 @@
 #include "meridane/base/errors/NxMemoryError.h"
 
-#include "meridane/base/values/VbName.h"
+#include "meridane/base/errors/detail/ErrorClassMembers.h"
 
 #include <string>
 
 namespace {
-
-constinit meridane::ErrorHandlerSlot slot;
 
 VbString describe(const char* file, int line, std::size_t size)
 {
@@ -18,39 +16,15 @@ VbString describe(const char* file, int line, std::size_t size)
 
 } // namespace
 
+template class meridane::ErrorClass<NxMemoryError, NxError>;
+
 NxMemoryError::NxMemoryError(const char* file, int line, std::size_t size)
-    : NxError(describe(file, line, size))
+    : ErrorClass(describe(file, line, size))
     , m_size(size)
 {
 }
 
-NxType NxMemoryError::getTypeId() const
-{
-    return getClassTypeId();
-}
-
-NxType NxMemoryError::getClassTypeId()
-{
-    static const NxType type = NxType::registerClass("MemoryError", NxError::getClassTypeId(), nullptr);
-    return type;
-}
-
-NxErrorHandler NxMemoryError::getHandlerCallback()
-{
-    return slot.callback();
-}
-
-void* NxMemoryError::getHandlerData()
-{
-    return slot.data();
-}
-
-void NxMemoryError::setHandlerCallback(NxErrorHandler callback, void* data)
-{
-    slot.set(callback, data);
-}
-
 void NxMemoryError::post(const char* file, int line, std::size_t size)
 {
-    slot.deliver(NxMemoryError(file, line, size));
+    deliver(NxMemoryError(file, line, size));
 }

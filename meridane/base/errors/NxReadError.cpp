@@ -1,12 +1,10 @@
 #include "meridane/base/errors/NxReadError.h"
 
-#include "meridane/base/values/VbName.h"
+#include "meridane/base/errors/detail/ErrorClassMembers.h"
 
 #include <string>
 
 namespace {
-
-constinit meridane::ErrorHandlerSlot slot;
 
 VbString describe(const VbString& file, int line, int column, const VbString& message)
 {
@@ -26,8 +24,10 @@ VbString describe(const VbString& file, int line, int column, const VbString& me
 
 } // namespace
 
+template class meridane::ErrorClass<NxReadError, NxError>;
+
 NxReadError::NxReadError(const VbString& file, int line, int column, const VbString& message)
-    : NxError(describe(file, line, column, message))
+    : ErrorClass(describe(file, line, column, message))
     , m_file(file)
     , m_line(line)
     , m_column(column)
@@ -35,33 +35,7 @@ NxReadError::NxReadError(const VbString& file, int line, int column, const VbStr
 {
 }
 
-NxType NxReadError::getTypeId() const
-{
-    return getClassTypeId();
-}
-
-NxType NxReadError::getClassTypeId()
-{
-    static const NxType type = NxType::registerClass("ReadError", NxError::getClassTypeId(), nullptr);
-    return type;
-}
-
-NxErrorHandler NxReadError::getHandlerCallback()
-{
-    return slot.callback();
-}
-
-void* NxReadError::getHandlerData()
-{
-    return slot.data();
-}
-
-void NxReadError::setHandlerCallback(NxErrorHandler callback, void* data)
-{
-    slot.set(callback, data);
-}
-
 void NxReadError::post(const VbString& file, int line, int column, const VbString& message)
 {
-    slot.deliver(NxReadError(file, line, column, message));
+    deliver(NxReadError(file, line, column, message));
 }

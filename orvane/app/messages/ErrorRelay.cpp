@@ -3,10 +3,6 @@
 #include "orvane/app/base/TextConversion.h"
 
 #include "meridane/base/errors/NxDebugError.h"
-#include "meridane/base/errors/NxErrorStack.h"
-#include "meridane/base/errors/NxGLError.h"
-#include "meridane/base/errors/NxMemoryError.h"
-#include "meridane/base/errors/NxReadError.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -38,17 +34,15 @@ private:
 
 MessageBar::Severity severityOf(const NxError& error)
 {
-    const auto* debugError = dynamic_cast<const NxDebugError*>(&error);
-    if (debugError == nullptr)
-        return MessageBar::Severity::Error;
-    switch (debugError->getSeverity()) {
+    switch (NxDebugError::severityOf(error)) {
+    case NxDebugError::Error:
+        break;
     case NxDebugError::Warning:
         return MessageBar::Severity::Warning;
     case NxDebugError::Information:
         return MessageBar::Severity::Information;
-    default:
-        return MessageBar::Severity::Error;
     }
+    return MessageBar::Severity::Error;
 }
 
 void postReport(const NxError* error, void* relay)
@@ -57,26 +51,16 @@ void postReport(const NxError* error, void* relay)
         new ReportEvent(severityOf(*error), orvane::toQString(error->getDebugString())));
 }
 
-void setHandlers(NxErrorHandler handler, void* data)
-{
-    NxError::setHandlerCallback(handler, data);
-    NxDebugError::setHandlerCallback(handler, data);
-    NxErrorStack::setHandlerCallback(handler, data);
-    NxGLError::setHandlerCallback(handler, data);
-    NxMemoryError::setHandlerCallback(handler, data);
-    NxReadError::setHandlerCallback(handler, data);
-}
-
 } // namespace
 
 ErrorRelay::ErrorRelay()
 {
-    setHandlers(&postReport, this);
+    m_capture.begin(&postReport, this);
 }
 
 ErrorRelay::~ErrorRelay()
 {
-    setHandlers(nullptr, nullptr);
+    m_capture.end();
 }
 
 bool ErrorRelay::event(QEvent* event)

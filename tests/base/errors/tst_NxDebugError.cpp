@@ -2,6 +2,7 @@
 #include "base/errors/StreamCapture.h"
 
 #include "meridane/base/errors/NxDebugError.h"
+#include "meridane/base/errors/NxReadError.h"
 
 #include <QTest>
 
@@ -41,6 +42,17 @@ private Q_SLOTS:
         const StreamCapture capture;
         NxDebugError::post(severity, "text");
         QCOMPARE(QByteArray::fromStdString(capture.text()), label + ": text\n");
+    }
+
+    void errorsOfEveryClassAreClassified()
+    {
+        QCOMPARE(NxDebugError::severityOf(NxDebugError(0, "text")), NxDebugError::Error);
+        QCOMPARE(NxDebugError::severityOf(NxDebugError(1, "text")), NxDebugError::Warning);
+        QCOMPARE(NxDebugError::severityOf(NxDebugError(2, "text")), NxDebugError::Information);
+        QCOMPARE(NxDebugError::severityOf(NxDebugError(3, "text")), NxDebugError::Error);
+        QCOMPARE(NxDebugError::severityOf(NxDebugError(-1, "text")), NxDebugError::Error);
+        QCOMPARE(NxDebugError::severityOf(NxError("text")), NxDebugError::Error);
+        QCOMPARE(NxDebugError::severityOf(NxReadError("file", 1, 1, "text")), NxDebugError::Error);
     }
 
     void theSeveritiesHaveTheirNumbers()
