@@ -1,6 +1,6 @@
 #include "orvane/import/conversion/ModelFiles.h"
 
-#include "orvane/import/sandbox/FileRules.h"
+#include "orvane/import/sandbox/FileAccess.h"
 
 #include <algorithm>
 #include <system_error>

@@ -1,7 +1,7 @@
 #include "meridane/gl/gpu/detail/MeshStore.h"
 
 #include "meridane/gl/gpu/detail/Fingerprint.h"
-#include "meridane/gl/places/detail/FieldValue.h"
+#include "meridane/gl/places/detail/EffectiveField.h"
 
 #include <algorithm>
 #include <utility>

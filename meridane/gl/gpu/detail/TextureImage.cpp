@@ -1,6 +1,6 @@
 #include "meridane/gl/gpu/detail/TextureImage.h"
 
-#include "meridane/gl/places/detail/FieldValue.h"
+#include "meridane/gl/places/detail/EffectiveField.h"
 #include "meridane/gl/places/detail/LookRecords.h"
 #include "meridane/gl/places/detail/Problems.h"
 

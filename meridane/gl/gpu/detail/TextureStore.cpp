@@ -2,7 +2,7 @@
 
 #include "meridane/gl/gpu/detail/Fingerprint.h"
 #include "meridane/gl/gpu/detail/TextureImage.h"
-#include "meridane/gl/places/detail/FieldValue.h"
+#include "meridane/gl/places/detail/EffectiveField.h"
 
 #include <algorithm>
 #include <span>

@@ -1,7 +1,7 @@
 #include "meridane/gl/places/detail/Lights.h"
 
 #include "meridane/gl/geometry/MatrixMath.h"
-#include "meridane/gl/places/detail/FieldValue.h"
+#include "meridane/gl/places/detail/EffectiveField.h"
 #include "meridane/gl/places/detail/NodeRecords.h"
 #include "meridane/scene/nodes/NxDirectionalLight.h"
 #include "meridane/scene/nodes/NxPointLight.h"

@@ -1,6 +1,6 @@
 #include "meridane/gl/places/detail/MeshInspection.h"
 
-#include "meridane/gl/places/detail/FieldValue.h"
+#include "meridane/gl/places/detail/EffectiveField.h"
 #include "meridane/gl/places/detail/Problems.h"
 #include "meridane/scene/nodes/NxMesh.h"
 

@@ -1,6 +1,6 @@
-#include "orvane/import/sandbox/Lock.h"
+#include "orvane/import/sandbox/Sandbox.h"
 
-#include "orvane/import/sandbox/FileRules.h"
+#include "orvane/import/sandbox/FileAccess.h"
 #include "orvane/import/sandbox/SystemCallFilter.h"
 
 #include <ctime>

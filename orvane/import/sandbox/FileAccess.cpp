@@ -1,4 +1,4 @@
-#include "orvane/import/sandbox/FileRules.h"
+#include "orvane/import/sandbox/FileAccess.h"
 
 #include "orvane/import/sandbox/Sanitizer.h"
 

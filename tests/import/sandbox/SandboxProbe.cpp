@@ -1,9 +1,9 @@
 // Locks itself in like the import helper and then tries one thing, which the arguments name: LOCKS THING FOLDER.
 // Says "done" for a thing that worked, else why it didn't.
 
-#include "orvane/import/sandbox/FileRules.h"
-#include "orvane/import/sandbox/Lock.h"
+#include "orvane/import/sandbox/FileAccess.h"
 #include "orvane/import/sandbox/ProcessLimits.h"
+#include "orvane/import/sandbox/Sandbox.h"
 #include "orvane/import/sandbox/SystemCallFilter.h"
 
 #include <array>

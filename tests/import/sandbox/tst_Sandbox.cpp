@@ -10,7 +10,7 @@
 #include <memory>
 
 /// What the import helper can't do, tried from inside, and that it works with every lock and without any.
-class tst_Lock : public QObject {
+class tst_Sandbox : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -73,7 +73,7 @@ void addForbidden()
 
 } // namespace
 
-void tst_Lock::init()
+void tst_Sandbox::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("in/below")));
@@ -86,18 +86,18 @@ void tst_Lock::init()
 }
 
 // What the probe says, started with an open file as its descriptor 7.
-QString tst_Lock::outcome(const char* locks, const QByteArray& thing) const
+QString tst_Sandbox::outcome(const char* locks, const QByteArray& thing) const
 {
     QProcess process;
     process.start(QStringLiteral("/bin/sh"),
-        {QStringLiteral("-c"), QStringLiteral("exec \"$0\" \"$@\" 7>>\"$3/inherited\""), QString::fromUtf8(LOCK_PROBE),
-            QString::fromUtf8(locks), QString::fromUtf8(thing), m_folder->path()});
+        {QStringLiteral("-c"), QStringLiteral("exec \"$0\" \"$@\" 7>>\"$3/inherited\""),
+            QString::fromUtf8(SANDBOX_PROBE), QString::fromUtf8(locks), QString::fromUtf8(thing), m_folder->path()});
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
         return QStringLiteral("it didn't end by itself");
     return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
 
-QString tst_Lock::runBare(const QStringList& arguments) const
+QString tst_Sandbox::runBare(const QStringList& arguments) const
 {
     QProcess process;
     process.start(QString::fromUtf8(BARE_MACHINE), arguments);
@@ -106,14 +106,14 @@ QString tst_Lock::runBare(const QStringList& arguments) const
     return QString::fromUtf8(process.readAllStandardError() + process.readAllStandardOutput());
 }
 
-void tst_Lock::whatReadingTakesWorks_data()
+void tst_Sandbox::whatReadingTakesWorks_data()
 {
     QTest::addColumn<QByteArray>("thing");
     for (const char* thing : {"read in the folder", "read below the folder", "list the folder", "allocate"})
         QTest::newRow(thing) << QByteArray(thing);
 }
 
-void tst_Lock::whatReadingTakesWorks()
+void tst_Sandbox::whatReadingTakesWorks()
 {
     QFETCH(QByteArray, thing);
     if (outcome("all", "nothing") == QStringLiteral("lock missing"))
@@ -121,12 +121,12 @@ void tst_Lock::whatReadingTakesWorks()
     QCOMPARE(outcome("all", thing), QStringLiteral("done"));
 }
 
-void tst_Lock::whatIsForbiddenFails_data()
+void tst_Sandbox::whatIsForbiddenFails_data()
 {
     addForbidden();
 }
 
-void tst_Lock::whatIsForbiddenFails()
+void tst_Sandbox::whatIsForbiddenFails()
 {
     QFETCH(QByteArray, thing);
     if (outcome("all", "nothing") == QStringLiteral("lock missing"))
@@ -144,13 +144,13 @@ void tst_Lock::whatIsForbiddenFails()
         QDir(m_folder->filePath(QStringLiteral("in"))).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 5);
 }
 
-void tst_Lock::theProbeItselfCouldDoIt_data()
+void tst_Sandbox::theProbeItselfCouldDoIt_data()
 {
     addForbidden();
 }
 
 // Else the refusals would tell nothing about the locks.
-void tst_Lock::theProbeItselfCouldDoIt()
+void tst_Sandbox::theProbeItselfCouldDoIt()
 {
     QFETCH(QByteArray, thing);
     const QString said = outcome("none", thing);
@@ -165,7 +165,7 @@ void tst_Lock::theProbeItselfCouldDoIt()
         QCOMPARE(said, QStringLiteral("done"));
 }
 
-void tst_Lock::theFilterAloneRefusesToWrite_data()
+void tst_Sandbox::theFilterAloneRefusesToWrite_data()
 {
     QTest::addColumn<QByteArray>("thing");
     for (const char* thing : {"overwrite a file", "open to read and write", "append", "truncate on opening",
@@ -174,7 +174,7 @@ void tst_Lock::theFilterAloneRefusesToWrite_data()
         QTest::newRow(thing) << QByteArray(thing);
 }
 
-void tst_Lock::theFilterAloneRefusesToWrite()
+void tst_Sandbox::theFilterAloneRefusesToWrite()
 {
     QFETCH(QByteArray, thing);
     const QString said = outcome("calls", thing);
@@ -183,7 +183,7 @@ void tst_Lock::theFilterAloneRefusesToWrite()
     QCOMPARE(said, QStringLiteral("Operation not permitted"));
 }
 
-void tst_Lock::theFileRulesAloneRefuseIt_data()
+void tst_Sandbox::theFileRulesAloneRefuseIt_data()
 {
     QTest::addColumn<QByteArray>("thing");
     for (const char* thing : {"read beside the folder", "read through a link", "read the passwords",
@@ -192,7 +192,7 @@ void tst_Lock::theFileRulesAloneRefuseIt_data()
         QTest::newRow(thing) << QByteArray(thing);
 }
 
-void tst_Lock::theFileRulesAloneRefuseIt()
+void tst_Sandbox::theFileRulesAloneRefuseIt()
 {
     QFETCH(QByteArray, thing);
     const QString said = outcome("files", thing);
@@ -201,7 +201,7 @@ void tst_Lock::theFileRulesAloneRefuseIt()
     QCOMPARE(said, QStringLiteral("Permission denied"));
 }
 
-void tst_Lock::noPrivilegeCanBeGained()
+void tst_Sandbox::noPrivilegeCanBeGained()
 {
     // With every lock the question itself is refused.
     const QString said = outcome("files", "no new privileges");
@@ -210,7 +210,7 @@ void tst_Lock::noPrivilegeCanBeGained()
     QCOMPARE(said, QStringLiteral("done"));
 }
 
-void tst_Lock::aModelReadsTheFilesBesideIt()
+void tst_Sandbox::aModelReadsTheFilesBesideIt()
 {
     // The colour stands in the material file.
     const HelperRun run = runHelper({QStringLiteral("--read"), modelFile("crate.obj")});
@@ -218,7 +218,7 @@ void tst_Lock::aModelReadsTheFilesBesideIt()
     QVERIFY(run.output.find("Material \"wood\"") != std::string::npos);
 }
 
-void tst_Lock::aModelBehindALinkIsRead()
+void tst_Sandbox::aModelBehindALinkIsRead()
 {
     const QString link = m_folder->filePath(QStringLiteral("in/crate.glb"));
     QVERIFY(QFile::link(modelFile("crate.glb"), link));
@@ -227,7 +227,7 @@ void tst_Lock::aModelBehindALinkIsRead()
     QCOMPARE(run.status, 0);
 }
 
-void tst_Lock::theHelperTellsItsLocks()
+void tst_Sandbox::theHelperTellsItsLocks()
 {
     const HelperRun run = runHelper({QStringLiteral("--locks")});
     QCOMPARE(run.status, 0);
@@ -238,7 +238,7 @@ void tst_Lock::theHelperTellsItsLocks()
     QVERIFY(lines[2].startsWith(QStringLiteral("system calls ")));
 }
 
-void tst_Lock::theHelperWorksOnAMachineWithoutLocks()
+void tst_Sandbox::theHelperWorksOnAMachineWithoutLocks()
 {
     const QString locks = runBare({helperProgram(), QStringLiteral("--locks")});
     if (locks.startsWith(QStringLiteral("this machine has")))
@@ -248,5 +248,5 @@ void tst_Lock::theHelperWorksOnAMachineWithoutLocks()
     QCOMPARE(model, QString::fromStdString(runHelper({QStringLiteral("--read"), modelFile("crate.glb")}).output));
 }
 
-QTEST_GUILESS_MAIN(tst_Lock)
-#include "tst_Lock.moc"
+QTEST_GUILESS_MAIN(tst_Sandbox)
+#include "tst_Sandbox.moc"

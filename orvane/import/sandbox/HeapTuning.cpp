@@ -1,4 +1,4 @@
-#include "orvane/import/sandbox/KeptMemory.h"
+#include "orvane/import/sandbox/HeapTuning.h"
 
 #include "orvane/import/sandbox/Sanitizer.h"
 
