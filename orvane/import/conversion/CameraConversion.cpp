@@ -1,7 +1,7 @@
 #include "orvane/import/conversion/CameraConversion.h"
 
-#include "orvane/import/conversion/Placement.h"
 #include "orvane/import/conversion/Texts.h"
+#include "orvane/import/conversion/TransformConversion.h"
 
 #include "meridane/scene/nodes/NxOrthographicCamera.h"
 #include "meridane/scene/nodes/NxPerspectiveCamera.h"

@@ -1,7 +1,7 @@
 #include "orvane/import/conversion/MeshConversion.h"
 
-#include "orvane/import/conversion/Placement.h"
 #include "orvane/import/conversion/Texts.h"
+#include "orvane/import/conversion/TransformConversion.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/import/conversion/Placement.h"
+#include "orvane/import/conversion/TransformConversion.h"
 
 #include "meridane/scene/nodes/NxMesh.h"
 

@@ -1,5 +1,5 @@
 #include "orvane/import/conversion/CameraConversion.h"
-#include "orvane/import/conversion/Placement.h"
+#include "orvane/import/conversion/TransformConversion.h"
 
 #include "meridane/scene/nodes/NxOrthographicCamera.h"
 #include "meridane/scene/nodes/NxPerspectiveCamera.h"

@@ -1,5 +1,5 @@
 #include "orvane/import/conversion/LightConversion.h"
-#include "orvane/import/conversion/Placement.h"
+#include "orvane/import/conversion/TransformConversion.h"
 
 #include "meridane/scene/nodes/NxDirectionalLight.h"
 #include "meridane/scene/nodes/NxPointLight.h"

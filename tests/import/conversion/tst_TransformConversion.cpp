@@ -1,4 +1,4 @@
-#include "orvane/import/conversion/Placement.h"
+#include "orvane/import/conversion/TransformConversion.h"
 
 #include "meridane/scene/nodes/NxMatrixTransform.h"
 #include "meridane/scene/nodes/NxTransform.h"
@@ -38,7 +38,7 @@ aiMatrix4x4 sheared()
 
 } // namespace
 
-class tst_Placement : public QObject {
+class tst_TransformConversion : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -52,7 +52,7 @@ private Q_SLOTS:
     void onlyAMatrixThatKeepsLengthsIsRigid();
 };
 
-void tst_Placement::theTranslationStandsInTheLastRow()
+void tst_TransformConversion::theTranslationStandsInTheLastRow()
 {
     const aiMatrix4x4 matrix = placementMatrix(VbRotation(), VbVec3f(1, 2, 3));
     QCOMPARE(matrix.a4, 1.0F);
@@ -60,7 +60,7 @@ void tst_Placement::theTranslationStandsInTheLastRow()
     QVERIFY(toAiMatrix(toMatrix(matrix)) == matrix);
 }
 
-void tst_Placement::matricesBecomeTransforms_data()
+void tst_TransformConversion::matricesBecomeTransforms_data()
 {
     QTest::addColumn<aiMatrix4x4>("matrix");
     QTest::addColumn<bool>("hasFields");
@@ -86,7 +86,7 @@ void tst_Placement::matricesBecomeTransforms_data()
     QTest::newRow("not a number") << bad << false;
 }
 
-void tst_Placement::matricesBecomeTransforms()
+void tst_TransformConversion::matricesBecomeTransforms()
 {
     QFETCH(aiMatrix4x4, matrix);
     QFETCH(bool, hasFields);
@@ -97,14 +97,14 @@ void tst_Placement::matricesBecomeTransforms()
         QVERIFY(isNear(matrixOf(*group), matrix));
 }
 
-void tst_Placement::anIdentityLeavesTheFieldsAtTheirDefaults()
+void tst_TransformConversion::anIdentityLeavesTheFieldsAtTheirDefaults()
 {
     const NxRef<NxGroup> group = makeTransform(aiMatrix4x4());
     for (NxField* field : group->getFields())
         QVERIFY(field->isDefault());
 }
 
-void tst_Placement::transformsTurnAboutTheirCenter()
+void tst_TransformConversion::transformsTurnAboutTheirCenter()
 {
     const NxRef<NxTransform> transform = new NxTransform;
     transform->center.setValue(1, 1, 0);
@@ -116,7 +116,7 @@ void tst_Placement::transformsTurnAboutTheirCenter()
     QVERIFY(isNear(matrix * aiVector3D(2, 1, 0), {1, 3, 5}));
 }
 
-void tst_Placement::aCameraLooksAlongItsDirection_data()
+void tst_TransformConversion::aCameraLooksAlongItsDirection_data()
 {
     QTest::addColumn<aiVector3D>("direction");
     QTest::addColumn<aiVector3D>("up");
@@ -130,7 +130,7 @@ void tst_Placement::aCameraLooksAlongItsDirection_data()
     QTest::newRow("no direction") << aiVector3D(0, 0, 0) << aiVector3D(0, 1, 0);
 }
 
-void tst_Placement::aCameraLooksAlongItsDirection()
+void tst_TransformConversion::aCameraLooksAlongItsDirection()
 {
     QFETCH(aiVector3D, direction);
     QFETCH(aiVector3D, up);
@@ -140,7 +140,7 @@ void tst_Placement::aCameraLooksAlongItsDirection()
     QVERIFY2(matrix * aiVector3D(0, 1, 0) * up >= -1e-5F, "up doesn't point down");
 }
 
-void tst_Placement::onlyAMatrixThatKeepsLengthsIsRigid()
+void tst_TransformConversion::onlyAMatrixThatKeepsLengthsIsRigid()
 {
     VbRotation rotation;
     VbVec3f translation;
@@ -152,5 +152,5 @@ void tst_Placement::onlyAMatrixThatKeepsLengthsIsRigid()
     QVERIFY(!isRigid(sheared(), rotation, translation));
 }
 
-QTEST_GUILESS_MAIN(tst_Placement)
-#include "tst_Placement.moc"
+QTEST_GUILESS_MAIN(tst_TransformConversion)
+#include "tst_TransformConversion.moc"

@@ -1,4 +1,4 @@
-#include "orvane/import/conversion/Placement.h"
+#include "orvane/import/conversion/TransformConversion.h"
 
 #include "meridane/scene/nodes/NxMatrixTransform.h"
 #include "meridane/scene/nodes/NxTransform.h"
