@@ -37,7 +37,7 @@ public:
     Screen()
     {
         if (!m_context.makeCurrent() || !gl.load(&NxOffscreenContext::getProcAddress)) {
-            std::fprintf(stderr, "no OpenGL: %s\n", gl.getError().c_str());
+            std::fprintf(stderr, "no OpenGL: %s\n", gl.error().c_str());
             std::exit(EXIT_FAILURE);
         }
         gl.GenFramebuffers(1, &m_framebuffer);
@@ -126,7 +126,7 @@ public:
         fill(2, GL_ELEMENT_ARRAY_BUFFER, std::as_bytes(mesh.indices.getValues()));
         m_gl.EnableVertexAttribArray(0);
         m_gl.EnableVertexAttribArray(1);
-        std::array<float, 4 + 16 * meridane::LightList::most> lights{1};
+        std::array<float, 4 + 16 * meridane::LightList::maxLights> lights{1};
         const meridane::LightValues light = meridane::cameraLightValues();
         std::copy(light.begin(), light.end(), lights.begin() + 4);
         fill(3, GL_UNIFORM_BUFFER, std::as_bytes(std::span(lights)));
@@ -135,7 +135,7 @@ public:
     void draw() const
     {
         constexpr std::array<float, 9> turn{1, 0, 0, 0, 1, 0, 0, 0, 1};
-        const VbMatrix placement
+        const VbMatrix modelMatrix
             = meridane::narrowed(meridane::translationMatrix(meridane::scaled(m_frame.position, -1)));
         m_gl.Viewport(0, 0, width, height);
         m_gl.ClearColor(0, 0, 0, 1);
@@ -144,7 +144,7 @@ public:
         m_gl.BindVertexArray(m_vertexArray);
         m_gl.BindBufferBase(GL_UNIFORM_BUFFER, meridane::lightsBinding, m_buffers[3]);
         m_program.program.use();
-        m_gl.UniformMatrix4fv(m_program.placement, 1, GL_FALSE, placement[0].data());
+        m_gl.UniformMatrix4fv(m_program.modelMatrix, 1, GL_FALSE, modelMatrix[0].data());
         m_gl.UniformMatrix4fv(m_program.eyeToClip, 1, GL_FALSE, m_frame.eyeToClip[0].data());
         m_gl.UniformMatrix3fv(m_program.normalMatrix, 1, GL_FALSE, turn.data());
         m_gl.Uniform4fv(m_program.eye, 1, m_frame.eye.data());
@@ -181,7 +181,7 @@ void measureTriangles(const Screen& screen)
     const NxRef<NxGroup> tiles = bench::tiledScene(100, 10, 5);
     Drawn one(screen, mesh.get());
     Drawn many(screen, tiles.get());
-    const BareMesh bare(screen, *mesh, one.drawing.getBounds());
+    const BareMesh bare(screen, *mesh, one.drawing.bounds());
     bench::compare(
         "1,000,000 triangles in one mesh: draw", 1.2, rounds, [&] { return bench::seconds([&] { one.draw(); }); },
         [&] { return bench::seconds([&] { bare.draw(); }); });
@@ -199,12 +199,12 @@ void measureMemory(const Screen& screen, const std::string& name, NxNode* root, 
     drawing.setStyle(plainStyle());
     const std::size_t before = allocatedBytes();
     drawing.setScene(root);
-    if (drawing.getBounds().isEmpty())
+    if (drawing.bounds().isEmpty())
         std::abort();
     const std::size_t kept = allocatedBytes() - before;
-    const std::size_t counted = drawing.getCounts().ownBytes;
+    const std::size_t counted = drawing.counts().ownBytes;
     drawing.draw(front(), width, height, 1);
-    const NxDrawingCounts counts = drawing.getCounts();
+    const NxDrawingCounts counts = drawing.counts();
     bench::report(
         {name + ": memory", "bytes", static_cast<double>(kept + counts.ownBytes - counted + counts.bufferBytes),
             static_cast<double>(meshBytes), 1.3});

@@ -23,8 +23,8 @@ namespace {
 // The last group is the scene itself. A group holds only those of lower numbers, so that none holds itself.
 std::vector<NxRef<NxGroup>> makeGroups(const std::uint8_t* bytes, std::size_t count)
 {
-    constexpr std::size_t mostGroups = 100;
-    std::vector<NxRef<NxGroup>> groups(count == 0 ? 1 : 1 + bytes[0] % mostGroups);
+    constexpr std::size_t maxGroups = 100;
+    std::vector<NxRef<NxGroup>> groups(count == 0 ? 1 : 1 + bytes[0] % maxGroups);
     for (std::size_t number = 0; number < groups.size(); ++number) {
         groups[number] = new NxGroup;
         if (number % 3 != 0) // some without a name, and some with the same one

@@ -15,7 +15,7 @@ using namespace meridane;
 namespace {
 
 // Groups that share groups may stand for more places than could ever be visited.
-constexpr std::size_t mostPlaces = 20'000'000;
+constexpr std::size_t maxPlaces = 20'000'000;
 
 /// A group on the way down, and the first of its children that is still to be visited.
 struct Step {
@@ -82,8 +82,8 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
     MeshHit search(m_radius, m_slope, m_nearest, m_farthest);
     std::optional<NxRayHit> hit;
     // Not by recursion: a scene may be deeper than the stack.
-    std::vector<Step> steps{{shownChildren(root), 0, multiply(placementOf(root), sceneToRay(m_ray))}};
-    for (std::size_t places = 0; !steps.empty() && places < mostPlaces; ++places) {
+    std::vector<Step> steps{{shownChildren(root), 0, multiply(localTransformOf(root), sceneToRay(m_ray))}};
+    for (std::size_t places = 0; !steps.empty() && places < maxPlaces; ++places) {
         Step& step = steps.back();
         if (step.next == step.children.size()) {
             steps.pop_back();
@@ -98,7 +98,7 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
             for (const Step& above : steps)
                 hit->path.push_back(above.children[above.next - 1]);
         } else if (!children.empty()) {
-            const Matrix4d matrix = multiply(placementOf(node), step.matrix);
+            const Matrix4d matrix = multiply(localTransformOf(node), step.matrix);
             if (isFinite(matrix))
                 steps.push_back({children, 0, matrix});
         }

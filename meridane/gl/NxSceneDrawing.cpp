@@ -45,7 +45,7 @@ public:
 
     void noteChange()
     {
-        if (!std::exchange(isChangeTold, true) && changeHook)
+        if (!std::exchange(isChangeReported, true) && changeHook)
             changeHook();
     }
     void updateSelection();
@@ -60,7 +60,7 @@ public:
     /// A path, or one node in all its places; held, so that no other node can take the address.
     std::vector<NxRef<NxNode>> selection;
     bool isSelectionPath = false;
-    bool isChangeTold = false;
+    bool isChangeReported = false;
     std::vector<Id> selectedItems;
     std::uint64_t selectedStructure = 0;
     bool isSelectionStale = false;
@@ -126,7 +126,7 @@ void NxSceneDrawing::setScene(NxNode* root)
     m_private->noteChange();
 }
 
-NxNode* NxSceneDrawing::getScene() const
+NxNode* NxSceneDrawing::scene() const
 {
     return m_private->scene.root();
 }
@@ -157,7 +157,7 @@ void NxSceneDrawing::setStyle(const NxDrawingStyle& style)
     m_private->noteChange();
 }
 
-const NxDrawingStyle& NxSceneDrawing::getStyle() const
+const NxDrawingStyle& NxSceneDrawing::style() const
 {
     return m_private->style;
 }
@@ -195,7 +195,7 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
         return;
     Private& self = *m_private;
     const NxGLFunctions& gl = self.gl;
-    self.isChangeTold = false;
+    self.isChangeReported = false;
     self.counts.drawCalls = 0;
     self.scene.update();
     self.updateSelection();
@@ -240,13 +240,13 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
     self.errors.report("Drawing the scene");
 }
 
-NxBounds NxSceneDrawing::getBounds()
+NxBounds NxSceneDrawing::bounds()
 {
     m_private->scene.update();
     return m_private->scene.tree().bounds();
 }
 
-NxBounds NxSceneDrawing::getBounds(const NxNode* node)
+NxBounds NxSceneDrawing::bounds(const NxNode* node)
 {
     m_private->scene.update();
     NxBounds bounds;
@@ -255,7 +255,7 @@ NxBounds NxSceneDrawing::getBounds(const NxNode* node)
     return bounds;
 }
 
-NxBounds NxSceneDrawing::getBounds(std::span<NxNode* const> nodes)
+NxBounds NxSceneDrawing::bounds(std::span<NxNode* const> nodes)
 {
     m_private->scene.update();
     const std::vector<const NxNode*> path(nodes.begin(), nodes.end());
@@ -265,7 +265,7 @@ NxBounds NxSceneDrawing::getBounds(std::span<NxNode* const> nodes)
     return bounds;
 }
 
-NxDrawingCounts NxSceneDrawing::getCounts() const
+NxDrawingCounts NxSceneDrawing::counts() const
 {
     NxDrawingCounts counts = m_private->counts;
     counts.bufferBytes = m_private->painter.meshes().bytes();

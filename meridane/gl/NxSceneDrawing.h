@@ -35,7 +35,7 @@ public:
     /// Draws this node and what stands below it from now on; null for nothing. The drawing holds a reference on it. The
     /// selection is cleared.
     void setScene(NxNode* root);
-    [[nodiscard]] NxNode* getScene() const;
+    [[nodiscard]] NxNode* scene() const;
 
     /// Outlines a node in all its places; null for none. The drawing holds a reference on what is outlined.
     void setSelectedNode(NxNode* node);
@@ -43,7 +43,7 @@ public:
     void setSelectedPath(std::span<NxNode* const> nodes);
 
     void setStyle(const NxDrawingStyle& style);
-    [[nodiscard]] const NxDrawingStyle& getStyle() const;
+    [[nodiscard]] const NxDrawingStyle& style() const;
     /// Who loads image files; asked again for all of them when it changes. Without a loader, textures that only name a
     /// file aren't drawn.
     void setImageLoader(NxImageLoader loader);
@@ -60,13 +60,13 @@ public:
     void draw(const NxViewpoint& viewpoint, int width, int height, float scale);
 
     /// The box around all that is drawn, whether in view or not. Positions that are no finite numbers are left out.
-    [[nodiscard]] NxBounds getBounds();
+    [[nodiscard]] NxBounds bounds();
     /// The box around what stands below a node, in all its places.
-    [[nodiscard]] NxBounds getBounds(const NxNode* node);
+    [[nodiscard]] NxBounds bounds(const NxNode* node);
     /// The same for one place, told as for `setSelectedPath`.
-    [[nodiscard]] NxBounds getBounds(std::span<NxNode* const> nodes);
+    [[nodiscard]] NxBounds bounds(std::span<NxNode* const> nodes);
 
-    [[nodiscard]] NxDrawingCounts getCounts() const;
+    [[nodiscard]] NxDrawingCounts counts() const;
 
     /// The context is gone, and all that was in it: forgets it without touching OpenGL. The next `draw` makes
     /// everything anew in the context that is current then, whose functions must be the same.

@@ -31,7 +31,7 @@ std::optional<Arguments::Task> plainTask(std::string_view option)
     if (option == "--formats")
         return Arguments::Task::Formats;
     if (option == "--locks")
-        return Arguments::Task::Locks;
+        return Arguments::Task::ShowSandbox;
     return option == "--help" ? std::optional(Arguments::Task::Help) : std::nullopt;
 }
 

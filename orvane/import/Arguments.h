@@ -10,7 +10,7 @@
 namespace orvane {
 
 struct Arguments {
-    enum class Task { Read, Write, Pictures, Formats, Locks, Help };
+    enum class Task { Read, Write, Pictures, Formats, ShowSandbox, Help };
 
     Task task = Task::Help;
     /// Read: the path of the model. Write: the extension that names the format.

@@ -146,7 +146,7 @@ std::chrono::seconds processorTime(const Arguments& arguments, const std::string
         arguments.task == Arguments::Task::Read ? orvane::modelSize(arguments.subject) : input.size());
 }
 
-int run(const Arguments& arguments, std::string input, const orvane::Locks& locks)
+int run(const Arguments& arguments, std::string input, const orvane::SandboxState& sandbox)
 {
     switch (arguments.task) {
     case Arguments::Task::Read:
@@ -157,8 +157,8 @@ int run(const Arguments& arguments, std::string input, const orvane::Locks& lock
         return decodePictures();
     case Arguments::Task::Formats:
         return listFormats();
-    case Arguments::Task::Locks:
-        return printText(orvane::toText(locks));
+    case Arguments::Task::ShowSandbox:
+        return printText(orvane::toText(sandbox));
     case Arguments::Task::Help:
         return printText(orvane::usage());
     }
@@ -174,7 +174,7 @@ int main(int argc, char** argv)
     const std::optional<Arguments> arguments = orvane::parseArguments(texts.subspan(argc > 0 ? 1 : 0), error);
     if (!arguments)
         return fail(error + "; --help tells how it is used", BadArguments);
-    orvane::keepMemory(arguments->limits);
+    orvane::tuneHeap(arguments->limits);
     orvane::applyLimits(arguments->limits);
     if (arguments->parent != 0 && !orvane::endWithParent(static_cast<pid_t>(arguments->parent)))
         return fail("the process that started this one has ended");
@@ -187,10 +187,10 @@ int main(int argc, char** argv)
     constexpr int pipeSize = 1 << 20;
     if (reads)
         fcntl(STDOUT_FILENO, F_SETPIPE_SZ, pipeSize);
-    const orvane::Locks locks
-        = orvane::lockIn(reads ? orvane::foldersOf(arguments->subject) : std::vector<std::string>());
+    const orvane::SandboxState sandbox
+        = orvane::enterSandbox(reads ? orvane::foldersOf(arguments->subject) : std::vector<std::string>());
     try {
-        return run(*arguments, std::move(input), locks);
+        return run(*arguments, std::move(input), sandbox);
     } catch (const std::exception& exception) {
         return fail(std::string("the import library gave up: ") + exception.what());
     }

@@ -99,8 +99,8 @@ void PackedSceneReader::readText(std::chrono::microseconds budget)
 
 void PackedSceneReader::findNode()
 {
-    constexpr std::size_t nodesPerLookAtTheClock = 1000;
-    for (std::size_t count = 0; count < nodesPerLookAtTheClock && m_walked <= block().node; ++count) {
+    constexpr std::size_t nodesPerTimeCheck = 1000;
+    for (std::size_t count = 0; count < nodesPerTimeCheck && m_walked <= block().node; ++count) {
         m_node = m_order->next();
         m_nextField = 0;
         ++m_walked;

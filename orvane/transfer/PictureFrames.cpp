@@ -78,7 +78,7 @@ PictureReply::State PictureReply::takeHead(std::string_view& bytes)
 
 PictureReply::State PictureReply::takeLine(std::string_view line)
 {
-    constexpr std::size_t mostComponents = 4;
+    constexpr std::size_t maxComponents = 4;
     std::size_t width = 0;
     std::size_t height = 0;
     std::size_t components = 0;
@@ -87,7 +87,7 @@ PictureReply::State PictureReply::takeLine(std::string_view line)
         return State::Refused;
     }
     const bool isPicture = takeStart(line, pictureWord) && takeSize(line, maxPictureSide, width) && takeStart(line, " ")
-        && takeSize(line, maxPictureSide, height) && takeStart(line, " ") && takeSize(line, mostComponents, components)
+        && takeSize(line, maxPictureSide, height) && takeStart(line, " ") && takeSize(line, maxComponents, components)
         && line.empty() && isUsablePictureSize(width, height);
     if (!isPicture)
         return State::Broken;

@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 constexpr std::chrono::seconds base{20};
 constexpr std::chrono::seconds perMebibyte{2};
-constexpr std::uintmax_t mostMebibytes = std::uintmax_t{1} << 20; // keeps the sum in range
+constexpr std::uintmax_t maxMebibytes = std::uintmax_t{1} << 20; // keeps the sum in range
 
 std::uintmax_t sizeOf(const fs::path& path)
 {
@@ -25,7 +25,7 @@ std::uintmax_t sizeOf(const fs::path& path)
 
 std::chrono::seconds processorTimeFor(std::uintmax_t bytes) noexcept
 {
-    const std::uintmax_t mebibytes = std::min(bytes >> 20U, mostMebibytes);
+    const std::uintmax_t mebibytes = std::min(bytes >> 20U, maxMebibytes);
     return base + perMebibyte * static_cast<std::chrono::seconds::rep>(mebibytes);
 }
 

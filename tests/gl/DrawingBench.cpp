@@ -75,7 +75,7 @@ QStringList DrawingBench::takeMessages()
 void DrawingBench::renew(NxNode* scene)
 {
     m_former = std::exchange(m_drawing, std::make_unique<NxSceneDrawing>(m_gl));
-    m_drawing->setStyle(m_former->getStyle());
+    m_drawing->setStyle(m_former->style());
     m_drawing->setScene(scene);
 }
 
@@ -83,7 +83,7 @@ void DrawingBench::loseContext()
 {
     m_context = std::make_unique<NxOffscreenContext>();
     if (!m_context->makeCurrent())
-        qFatal("no OpenGL: %s", m_context->getError().toUtf8());
+        qFatal("no OpenGL: %s", m_context->error().toUtf8());
     m_drawing->contextLost();
 }
 

@@ -28,9 +28,9 @@ public:
     DrawingBench()
     {
         if (!m_context->isValid() || !m_context->makeCurrent())
-            qFatal("no OpenGL: %s", m_context->getError().toUtf8());
+            qFatal("no OpenGL: %s", m_context->error().toUtf8());
         if (!m_gl.load(&NxOffscreenContext::getProcAddress))
-            qFatal("no OpenGL: %s", m_gl.getError().c_str());
+            qFatal("no OpenGL: %s", m_gl.error().c_str());
         m_drawing = std::make_unique<NxSceneDrawing>(m_gl);
         NxDrawingStyle style;
         style.grid = false;
@@ -48,7 +48,7 @@ public:
     template <typename Change>
     void restyle(Change change)
     {
-        NxDrawingStyle style = m_drawing->getStyle();
+        NxDrawingStyle style = m_drawing->style();
         change(style);
         m_drawing->setStyle(style);
     }
@@ -68,7 +68,7 @@ public:
         const NxViewpoint& viewpoint = front(), int width = 101, int height = 101, float scale = 1);
     /// The picture of a scene of these nodes, which is gone afterwards.
     [[nodiscard]] QImage pictureOf(std::initializer_list<NxNode*> nodes, const NxViewpoint& viewpoint = front());
-    [[nodiscard]] NxDrawingCounts counts() const { return m_drawing->getCounts(); }
+    [[nodiscard]] NxDrawingCounts counts() const { return m_drawing->counts(); }
 
     /// The messages since the latest call, of any class.
     [[nodiscard]] QStringList takeMessages();

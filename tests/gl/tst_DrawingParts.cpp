@@ -145,7 +145,7 @@ void TestDrawingParts::rangesDontOverlap()
             const auto [start, count] = taken[index];
             taken.erase(taken.begin() + static_cast<std::ptrdiff_t>(index));
             std::fill_n(used.begin() + static_cast<std::ptrdiff_t>(start), count, false);
-            list.giveBack(start, count);
+            list.release(start, count);
         }
     }
 }
@@ -157,10 +157,10 @@ void TestDrawingParts::rangesGrowTogetherAgain()
     for (std::uint32_t i = 0; i < 3; ++i)
         QCOMPARE(list.take(10), std::optional<std::uint32_t>(10 * i));
     QVERIFY(!list.take(1));
-    list.giveBack(0, 10);
-    list.giveBack(20, 10);
+    list.release(0, 10);
+    list.release(20, 10);
     QVERIFY(!list.canTake(11));
-    list.giveBack(10, 10);
+    list.release(10, 10);
     QCOMPARE(list.take(30), std::optional<std::uint32_t>(0));
 }
 

@@ -141,12 +141,12 @@ void TestDrawingStyle::aPathOutlinesOnePlace()
     QImage picture = m_bench.draw();
     COMPARE_PIXEL(picture, 0.26, 0, red);
     COMPARE_PIXEL(picture, -0.26, 0, black);
-    QCOMPARE(m_bench.drawing().getBounds(path).min[0], 0.3F);
+    QCOMPARE(m_bench.drawing().bounds(path).min[0], 0.3F);
     m_bench.drawing().setSelectedNode(mesh.get());
     picture = m_bench.draw();
     COMPARE_PIXEL(picture, 0.26, 0, red);
     COMPARE_PIXEL(picture, -0.26, 0, red);
-    QCOMPARE(m_bench.drawing().getBounds(mesh.get()).min[0], -0.7F);
+    QCOMPARE(m_bench.drawing().bounds(mesh.get()).min[0], -0.7F);
     m_bench.drawing().setScene(nullptr);
 }
 

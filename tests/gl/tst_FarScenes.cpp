@@ -221,7 +221,7 @@ void TestFarScenes::aFarSceneIsPickedAsAtTheOrigin()
     for (float x = 0; x < 1; x += 0.093F) {
         for (float y = 0; y < 1; y += 0.087F) {
             const auto pickIn = [&](NxGroup& scene, const VbVec3f& where) {
-                NxRayPick pick(viewpointAt(kind, where).getRay(VbVec2f(x, y), 1.3F));
+                NxRayPick pick(viewpointAt(kind, where).rayAt(VbVec2f(x, y), 1.3F));
                 pick.setTolerance(0.01F, 0);
                 return pick.pick(scene);
             };
@@ -285,7 +285,7 @@ void TestFarScenes::aCameraSeesAFarScene()
         const auto transform = transformOf(isFar ? VbVec3f(1e7F, 0, 1e7F) : VbVec3f(), {camera.get(), things().get()});
         const auto scene = groupOf({transform.get()});
         m_bench->drawing().setScene(scene.get());
-        NxViewpoint viewpoint = NxViewpoint::ofCamera(*camera, placementOf(*transform));
+        NxViewpoint viewpoint = NxViewpoint::ofCamera(*camera, localTransformOf(*transform));
         viewpoint.focalDistance = 3;
         pictures[isFar ? 1 : 0] = m_bench->draw(viewpoint);
     }
@@ -303,7 +303,7 @@ void TestFarScenes::aViewpointMovesAsFarAwayAsAtTheOrigin()
             for (NxViewpoint* viewpoint : {&near, &far}) {
                 viewpoint->orbit(0.01F, i % 2 == 0 ? 0.01F : -0.01F);
                 viewpoint->pan(VbVec2f(0.5F, 0.5F), VbVec2f(i % 2 == 0 ? 0.51F : 0.49F, 0.5F), 1, 3);
-                viewpoint->zoom(i % 2 == 0 ? 1.01F : 1 / 1.01F, viewpoint->getPoint(VbVec2f(0.3F, 0.7F), 1, 3));
+                viewpoint->zoom(i % 2 == 0 ? 1.01F : 1 / 1.01F, viewpoint->pointAt(VbVec2f(0.3F, 0.7F), 1, 3));
             }
         }
         QVERIFY(length(subtract(subtract(far.position, offset), near.position)) < 1e-4);

@@ -318,9 +318,9 @@ private Q_SLOTS:
             NxViewpoint viewpoint;
             viewpoint.setProjection(projection);
             viewpoint.frame(VbVec3f(), VbVec3f(2, 2, 0), 1.5F);
-            const auto middle = NxRayPick(viewpoint.getRay(VbVec2f(0.5F, 0.5F), 1.5F)).pick(*m_scene);
+            const auto middle = NxRayPick(viewpoint.rayAt(VbVec2f(0.5F, 0.5F), 1.5F)).pick(*m_scene);
             QVERIFY(middle && isNear(middle->point, VbVec3f(1, 1, 0)));
-            QVERIFY(!NxRayPick(viewpoint.getRay(VbVec2f(0.6F, 0.6F), 1.5F)).pick(*m_scene));
+            QVERIFY(!NxRayPick(viewpoint.rayAt(VbVec2f(0.6F, 0.6F), 1.5F)).pick(*m_scene));
         }
     }
 

@@ -221,16 +221,16 @@ private Q_SLOTS:
             return bounds;
         };
         NxSceneDrawing& drawing = m_bench->drawing();
-        QVERIFY(drawing.getBounds() == expected(-0.8F, 0.8F));
+        QVERIFY(drawing.bounds() == expected(-0.8F, 0.8F));
         m_pair->left->translation.setValue(VbVec3f(-1.5F, 0, 0));
         NxDelayQueue::getDefault().process();
-        QVERIFY(drawing.getBounds() == expected(-1.8F, 0.8F));
-        QCOMPARE(drawing.getBounds(m_pair->left.get()).max[0], -1.2F);
-        QCOMPARE(drawing.getBounds(m_pair->rightMesh.get()).min[0], 0.2F);
-        QVERIFY(drawing.getBounds(m_pair->leftMaterial.get()).isEmpty());
-        QVERIFY(drawing.getBounds(m_pair->scene.get()) == drawing.getBounds());
+        QVERIFY(drawing.bounds() == expected(-1.8F, 0.8F));
+        QCOMPARE(drawing.bounds(m_pair->left.get()).max[0], -1.2F);
+        QCOMPARE(drawing.bounds(m_pair->rightMesh.get()).min[0], 0.2F);
+        QVERIFY(drawing.bounds(m_pair->leftMaterial.get()).isEmpty());
+        QVERIFY(drawing.bounds(m_pair->scene.get()) == drawing.bounds());
         drawing.setScene(nullptr);
-        QVERIFY(drawing.getBounds().isEmpty());
+        QVERIFY(drawing.bounds().isEmpty());
     }
 
     void theSelectionFollowsTheStructure()

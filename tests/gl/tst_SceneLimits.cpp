@@ -29,7 +29,7 @@ private Q_SLOTS:
             scene->addChild(group.get());
         }
         QCOMPARE(messagesOf(*scene), QStringList());
-        QVERIFY(m_bench.drawing().getBounds().isEmpty());
+        QVERIFY(m_bench.drawing().bounds().isEmpty());
         COMPARE_PIXEL(m_picture, 0, 0, black);
         m_bench.drawing().setScene(nullptr);
     }
@@ -155,7 +155,7 @@ private Q_SLOTS:
         if (most < width) {
             QCOMPARE(messages,
                 QStringList(
-                    QStringLiteral("Texture: its image of 32768 by 2 pixels is drawn smaller; the card takes %1 a side")
+                    QStringLiteral("Texture: its image of 32768 by 2 pixels is drawn smaller; the GPU takes %1 a side")
                         .arg(most)));
             QCOMPARE(m_bench.counts().textureBytes, static_cast<std::uint64_t>(2 * most));
         } else {

@@ -139,7 +139,7 @@ private Q_SLOTS:
         for (int i = 0; i < 1000; ++i)
             scene->addChild(new NxMesh);
         const QStringList messages = messagesOf(*scene);
-        QCOMPARE(messages.size(), meridane::Problems::mostReports + 1);
+        QCOMPARE(messages.size(), meridane::Problems::maxReports + 1);
         QCOMPARE(messages.last(),
             QStringLiteral("Mesh: it has no positions to draw; more nodes of the same problem aren't reported"));
     }

@@ -64,7 +64,7 @@ std::array<VbVec3d, 3> rotationRows(const VbRotation& rotation) noexcept
 }
 
 // First about the center by scale and rotation, then back and on by the translation.
-Matrix4d placementOf(const NxTransform& node) noexcept
+Matrix4d localTransformOf(const NxTransform& node) noexcept
 {
     const auto valueOf = [](const NxSFVec3f& field, const VbVec3f& fallback) -> VbVec3d {
         return field.isIgnored() ? fallback : field.getValue();
@@ -231,10 +231,10 @@ VbVec3f transformDirection(const VbVec3f& direction, const Matrix4d& matrix) noe
     return narrow(sums[0], sums[1], sums[2]);
 }
 
-Matrix4d placementOf(const NxNode& node) noexcept
+Matrix4d localTransformOf(const NxNode& node) noexcept
 {
     if (const auto* transform = dynamic_cast<const NxTransform*>(&node))
-        return placementOf(*transform);
+        return localTransformOf(*transform);
     const auto* matrix = dynamic_cast<const NxMatrixTransform*>(&node);
     return matrix != nullptr && !matrix->matrix.isIgnored() ? matrix->matrix.getValue() : Matrix4d();
 }

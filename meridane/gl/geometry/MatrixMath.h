@@ -37,7 +37,7 @@ namespace meridane {
 
 /// How a node places its children in the group above it: the identity for one that doesn't. An ignored field counts
 /// with its default.
-[[nodiscard]] Matrix4d placementOf(const NxNode& node) noexcept;
+[[nodiscard]] Matrix4d localTransformOf(const NxNode& node) noexcept;
 
 [[nodiscard]] VbVec3f add(const VbVec3f& left, const VbVec3f& right) noexcept;
 [[nodiscard]] VbVec3f subtract(const VbVec3f& left, const VbVec3f& right) noexcept;

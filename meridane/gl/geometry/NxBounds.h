@@ -15,11 +15,11 @@ struct NxBounds {
         std::numeric_limits<float>::lowest()};
 
     [[nodiscard]] bool isEmpty() const noexcept { return !(min[0] <= max[0]); }
-    [[nodiscard]] VbVec3f getCenter() const noexcept
+    [[nodiscard]] VbVec3f center() const noexcept
     {
         return {min[0] / 2 + max[0] / 2, min[1] / 2 + max[1] / 2, min[2] / 2 + max[2] / 2};
     }
-    [[nodiscard]] VbVec3f getSize() const noexcept { return {max[0] - min[0], max[1] - min[1], max[2] - min[2]}; }
+    [[nodiscard]] VbVec3f size() const noexcept { return {max[0] - min[0], max[1] - min[1], max[2] - min[2]}; }
 
     void include(const VbVec3f& point) noexcept
     {

@@ -78,9 +78,9 @@ NxViewpoint NxViewpoint::ofCamera(const NxCamera& camera, const Matrix4d& camera
     own = own.sensible();
 
     NxViewpoint result;
-    const VbVec3f up = transformDirection(own.getUp(), cameraToScene);
+    const VbVec3f up = transformDirection(own.upAxis(), cameraToScene);
     result.position = transformPoint(own.position, cameraToScene);
-    result.turn(transformDirection(own.getDirection(), cameraToScene), up);
+    result.turn(transformDirection(own.viewDirection(), cameraToScene), up);
     if (perspective != nullptr && !perspective->heightAngle.isIgnored())
         result.heightAngle = perspective->heightAngle.getValue();
     if (orthographic != nullptr) {
@@ -108,12 +108,12 @@ NxViewpoint NxViewpoint::sensible() const
     return result;
 }
 
-VbMatrix NxViewpoint::getViewMatrix() const
+VbMatrix NxViewpoint::viewMatrix() const
 {
-    return narrowed(multiply(translationMatrix(scaled(getPosition(), -1.0)), getTurn()));
+    return narrowed(multiply(translationMatrix(scaled(usablePosition(), -1.0)), viewRotation()));
 }
 
-VbMatrix NxViewpoint::getTurn() const
+VbMatrix NxViewpoint::viewRotation() const
 {
     VbMatrix turned = rotationMatrix(sensible().orientation);
     // The inverse of a rotation is its transpose.
@@ -124,7 +124,7 @@ VbMatrix NxViewpoint::getTurn() const
     return turned;
 }
 
-VbMatrix NxViewpoint::getProjectionMatrix(float aspect, float nearDistance, float farDistance) const
+VbMatrix NxViewpoint::projectionMatrix(float aspect, float nearDistance, float farDistance) const
 {
     const NxViewpoint eye = sensible();
     const float ratio = sensibleLength(aspect, 1);
@@ -145,57 +145,57 @@ VbMatrix NxViewpoint::getProjectionMatrix(float aspect, float nearDistance, floa
     return matrix;
 }
 
-VbVec3f NxViewpoint::getRight() const
+VbVec3f NxViewpoint::rightAxis() const
 {
     return normalized(transformDirection(xAxis, rotationMatrix(sensible().orientation)), xAxis);
 }
 
-VbVec3f NxViewpoint::getUp() const
+VbVec3f NxViewpoint::upAxis() const
 {
     return normalized(transformDirection(yAxis, rotationMatrix(sensible().orientation)), yAxis);
 }
 
-VbVec3f NxViewpoint::getDirection() const
+VbVec3f NxViewpoint::viewDirection() const
 {
     const VbVec3f ahead(0, 0, -1);
     return normalized(transformDirection(ahead, rotationMatrix(sensible().orientation)), ahead);
 }
 
-VbVec3d NxViewpoint::getFocalPoint() const
+VbVec3d NxViewpoint::focalPoint() const
 {
     const NxViewpoint eye = sensible();
-    return add(eye.position, scaled(VbVec3d(getDirection()), static_cast<double>(eye.focalDistance)));
+    return add(eye.position, scaled(VbVec3d(viewDirection()), static_cast<double>(eye.focalDistance)));
 }
 
-float NxViewpoint::getHeightAt(float distance) const
+float NxViewpoint::heightAt(float distance) const
 {
     const NxViewpoint eye = sensible();
     return projection == ORTHOGRAPHIC ? eye.height : heightOf(eye.heightAngle, distance);
 }
 
-VbVec3d NxViewpoint::getPoint(const VbVec2f& place, float aspect, float distance) const
+VbVec3d NxViewpoint::pointAt(const VbVec2f& place, float aspect, float distance) const
 {
     const NxViewpoint eye = sensible();
-    const auto tall = static_cast<double>(getHeightAt(distance));
+    const auto tall = static_cast<double>(heightAt(distance));
     const double wide = tall * static_cast<double>(sensibleLength(aspect, 1));
-    const VbVec3d ahead = add(eye.position, scaled(VbVec3d(getDirection()), static_cast<double>(distance)));
-    const VbVec3d across = scaled(VbVec3d(getRight()), (static_cast<double>(place[0]) - 0.5) * wide);
-    return add(ahead, add(across, scaled(VbVec3d(getUp()), (static_cast<double>(place[1]) - 0.5) * tall)));
+    const VbVec3d ahead = add(eye.position, scaled(VbVec3d(viewDirection()), static_cast<double>(distance)));
+    const VbVec3d across = scaled(VbVec3d(rightAxis()), (static_cast<double>(place[0]) - 0.5) * wide);
+    return add(ahead, add(across, scaled(VbVec3d(upAxis()), (static_cast<double>(place[1]) - 0.5) * tall)));
 }
 
-NxRay NxViewpoint::getRay(const VbVec2f& place, float aspect) const
+NxRay NxViewpoint::rayAt(const VbVec2f& place, float aspect) const
 {
     if (projection == ORTHOGRAPHIC)
-        return {getPoint(place, aspect, 0), getDirection()};
+        return {pointAt(place, aspect, 0), viewDirection()};
     NxViewpoint atOrigin = sensible();
     const VbVec3d origin = atOrigin.position;
     atOrigin.position = VbVec3d();
-    return {origin, normalized(narrowed(atOrigin.getPoint(place, aspect, 1)), getDirection())};
+    return {origin, normalized(narrowed(atOrigin.pointAt(place, aspect, 1)), viewDirection())};
 }
 
-float NxViewpoint::getDistance(const VbVec3d& point) const
+float NxViewpoint::distanceTo(const VbVec3d& point) const
 {
-    return static_cast<float>(dot(subtract(point, getPosition()), VbVec3d(getDirection())));
+    return static_cast<float>(dot(subtract(point, usablePosition()), VbVec3d(viewDirection())));
 }
 
 void NxViewpoint::turn(const VbVec3f& direction, const VbVec3f& up)
@@ -210,9 +210,9 @@ void NxViewpoint::turn(const VbVec3f& direction, const VbVec3f& up)
     orientation = rotationOf(right, cross(back, right), back);
 }
 
-void NxViewpoint::placeAhead(const VbVec3d& focalPoint)
+void NxViewpoint::placeAhead(const VbVec3d& point)
 {
-    position = subtract(focalPoint, scaled(VbVec3d(getDirection()), static_cast<double>(focalDistance)));
+    position = subtract(point, scaled(VbVec3d(viewDirection()), static_cast<double>(focalDistance)));
 }
 
 void NxViewpoint::orbit(float right, float up)
@@ -220,13 +220,13 @@ void NxViewpoint::orbit(float right, float up)
     if (!std::isfinite(right) || !std::isfinite(up))
         return;
     *this = sensible();
-    const VbVec3d focalPoint = getFocalPoint();
-    const bool headDown = getUp()[1] < -0.001F;
+    const VbVec3d pivot = focalPoint();
+    const bool headDown = upAxis()[1] < -0.001F;
     // To rise above the focal point is to look downwards.
     float pitch = -up;
     if (!headDown) {
         constexpr float straight = std::numbers::pi_v<float> / 2;
-        const float present = std::asin(std::clamp(getDirection()[1], -1.0F, 1.0F));
+        const float present = std::asin(std::clamp(viewDirection()[1], -1.0F, 1.0F));
         pitch = std::clamp(present + pitch, -straight, straight) - present;
     }
     const VbMatrix turned = multiply(multiply(rotationMatrix(VbRotation(xAxis, pitch)), rotationMatrix(orientation)),
@@ -235,12 +235,12 @@ void NxViewpoint::orbit(float right, float up)
     const VbVec3f back = normalized(transformDirection(zAxis, turned), zAxis);
     const VbVec3f across = normalized(newRight, xAxis);
     orientation = rotationOf(across, cross(back, across), back);
-    placeAhead(focalPoint);
+    placeAhead(pivot);
 }
 
 void NxViewpoint::pan(const VbVec2f& from, const VbVec2f& to, float aspect, float distance)
 {
-    const VbVec3d way = subtract(getPoint(from, aspect, distance), getPoint(to, aspect, distance));
+    const VbVec3d way = subtract(pointAt(from, aspect, distance), pointAt(to, aspect, distance));
     if (isFinite(way))
         position = add(sensible().position, way);
 }
@@ -253,7 +253,7 @@ void NxViewpoint::zoom(float factor, const VbVec3d& point)
     float& size = projection == ORTHOGRAPHIC ? height : focalDistance;
     const float newSize = std::clamp(size / factor, shortest, longest);
     const double share = 1.0 - static_cast<double>(newSize) / static_cast<double>(size);
-    const VbVec3d ahead = getDirection();
+    const VbVec3d ahead = viewDirection();
     VbVec3d way = subtract(point, position);
     if (projection == ORTHOGRAPHIC)
         way = subtract(way, scaled(ahead, dot(way, ahead)));
@@ -276,9 +276,9 @@ void NxViewpoint::frame(const VbVec3f& min, const VbVec3f& max, float aspect)
         VbVec3f way = half;
         for (std::size_t i = 0; i < 3; ++i)
             way[i] *= (corner >> i & 1U) != 0 ? 1.0F : -1.0F;
-        const double needed = std::max(std::abs(dot(way, getUp())), std::abs(dot(way, getRight())) / ratio);
+        const double needed = std::max(std::abs(dot(way, upAxis())), std::abs(dot(way, rightAxis())) / ratio);
         halfHeight = std::max(halfHeight, needed);
-        distance = std::max(distance, needed / slope - dot(way, getDirection()));
+        distance = std::max(distance, needed / slope - dot(way, viewDirection()));
     }
     if (halfHeight > 0) {
         height = sensibleLength(static_cast<float>(2 * margin * halfHeight), height);
@@ -291,9 +291,9 @@ void NxViewpoint::frame(const VbVec3f& min, const VbVec3f& max, float aspect)
 void NxViewpoint::lookAlong(const VbVec3f& direction, const VbVec3f& up)
 {
     *this = sensible();
-    const VbVec3d focalPoint = getFocalPoint();
+    const VbVec3d pivot = focalPoint();
     turn(direction, up);
-    placeAhead(focalPoint);
+    placeAhead(pivot);
 }
 
 void NxViewpoint::setProjection(Projection newProjection)
@@ -301,18 +301,18 @@ void NxViewpoint::setProjection(Projection newProjection)
     *this = sensible();
     if (newProjection == projection)
         return;
-    const VbVec3d focalPoint = getFocalPoint();
+    const VbVec3d pivot = focalPoint();
     if (newProjection == ORTHOGRAPHIC)
         height = sensibleLength(heightOf(heightAngle, focalDistance), height);
     else
         focalDistance = sensibleLength(focalDistance * height / heightOf(heightAngle, focalDistance), focalDistance);
     projection = newProjection;
-    placeAhead(focalPoint);
+    placeAhead(pivot);
 }
 
 void NxViewpoint::focus(const VbVec3d& point)
 {
-    const float distance = getDistance(point);
+    const float distance = distanceTo(point);
     if (distance > shortest && std::isfinite(distance))
         focalDistance = distance;
 }

@@ -38,29 +38,29 @@ public:
     [[nodiscard]] static NxViewpoint ofCamera(const NxCamera& camera, const meridane::Matrix4d& cameraToScene);
 
     /// From the scene to the eye: x to the right, y upwards, z towards the viewer. Far from the origin, floats place
-    /// the eye coarsely: see `getTurn`.
-    [[nodiscard]] VbMatrix getViewMatrix() const;
+    /// the eye coarsely: see `viewRotation`.
+    [[nodiscard]] VbMatrix viewMatrix() const;
     /// The same for points that are told relative to the position.
-    [[nodiscard]] VbMatrix getTurn() const;
+    [[nodiscard]] VbMatrix viewRotation() const;
     /// The position, or the default if it makes no sense.
-    [[nodiscard]] VbVec3d getPosition() const { return sensible().position; }
+    [[nodiscard]] VbVec3d usablePosition() const { return sensible().position; }
     /// From the eye to the cube from -1 to 1 that OpenGL clips at. The distances are along the line of sight; they may
     /// be negative for an orthographic picture. The matrix, row by row in memory, is what a column-wise uniform takes.
-    [[nodiscard]] VbMatrix getProjectionMatrix(float aspect, float nearDistance, float farDistance) const;
+    [[nodiscard]] VbMatrix projectionMatrix(float aspect, float nearDistance, float farDistance) const;
 
-    [[nodiscard]] VbVec3f getRight() const;
-    [[nodiscard]] VbVec3f getUp() const;
+    [[nodiscard]] VbVec3f rightAxis() const;
+    [[nodiscard]] VbVec3f upAxis() const;
     /// The line of sight, of length 1.
-    [[nodiscard]] VbVec3f getDirection() const;
-    [[nodiscard]] VbVec3d getFocalPoint() const;
+    [[nodiscard]] VbVec3f viewDirection() const;
+    [[nodiscard]] VbVec3d focalPoint() const;
     /// How much of the scene, in its units, the height of the picture shows at that distance.
-    [[nodiscard]] float getHeightAt(float distance) const;
+    [[nodiscard]] float heightAt(float distance) const;
     /// What lies under a place of the picture.
-    [[nodiscard]] NxRay getRay(const VbVec2f& place, float aspect) const;
+    [[nodiscard]] NxRay rayAt(const VbVec2f& place, float aspect) const;
     /// The point under a place of the picture whose distance along the line of sight is given.
-    [[nodiscard]] VbVec3d getPoint(const VbVec2f& place, float aspect, float distance) const;
+    [[nodiscard]] VbVec3d pointAt(const VbVec2f& place, float aspect, float distance) const;
     /// How far a point is away along the line of sight; negative behind the viewer.
-    [[nodiscard]] float getDistance(const VbVec3d& point) const;
+    [[nodiscard]] float distanceTo(const VbVec3d& point) const;
 
     /// Goes round the focal point by angles in radians: to the right of it, and above it as far as straight above.
     void orbit(float right, float up);
@@ -83,6 +83,6 @@ public:
 
 private:
     void turn(const VbVec3f& direction, const VbVec3f& up);
-    void placeAhead(const VbVec3d& focalPoint);
+    void placeAhead(const VbVec3d& point);
     [[nodiscard]] NxViewpoint sensible() const;
 };

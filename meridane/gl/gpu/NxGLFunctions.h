@@ -94,11 +94,11 @@ public:
     /// Gives the address of the OpenGL function of that name, or null.
     using GetProcAddress = void* (*)(const char* name);
 
-    /// Looks all functions up and asks for the version of the context, which must be current. False, with `getError`
+    /// Looks all functions up and asks for the version of the context, which must be current. False, with `error`
     /// saying why, when there is no context of OpenGL 3.3 or a function is missing; nothing may be called then.
     bool load(GetProcAddress getProcAddress);
     /// Why `load` failed, for people; empty behind a successful `load`.
-    [[nodiscard]] const std::string& getError() const noexcept { return m_error; }
+    [[nodiscard]] const std::string& error() const noexcept { return m_error; }
 
 // The members are named after the functions without their "gl".
 #define NX_GL_MEMBER(Type, name) Type name = nullptr;

@@ -15,7 +15,7 @@ public:
 
     [[nodiscard]] bool isValid() const noexcept { return m_context != nullptr; }
     /// Why there is no context, such as "the driver has no OpenGL 3.3"; empty when there is one.
-    [[nodiscard]] const VbString& getError() const noexcept { return m_error; }
+    [[nodiscard]] const VbString& error() const noexcept { return m_error; }
 
     /// Makes the context that of the thread. False when there is none or it is lost.
     [[nodiscard]] bool makeCurrent();

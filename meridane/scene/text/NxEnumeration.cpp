@@ -32,8 +32,8 @@ NxEnumeration::NxEnumeration(std::initializer_list<Entry> entries)
 bool NxEnumeration::valueByName(std::string_view name, int& value) const
 {
     for (int i = 0; i < m_count; ++i) {
-        if (name == getNames()[i].getString()) {
-            value = getValues()[i];
+        if (name == names()[i].getString()) {
+            value = values()[i];
             return true;
         }
     }
@@ -42,7 +42,7 @@ bool NxEnumeration::valueByName(std::string_view name, int& value) const
 
 const VbName* NxEnumeration::nameByValue(int value) const
 {
-    const int* const end = getValues() + m_count;
-    const int* const place = std::find(static_cast<const int*>(getValues()), end, value);
-    return place == end ? nullptr : getNames() + (place - getValues());
+    const int* const end = values() + m_count;
+    const int* const place = std::find(static_cast<const int*>(values()), end, value);
+    return place == end ? nullptr : names() + (place - values());
 }

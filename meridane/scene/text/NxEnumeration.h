@@ -18,11 +18,11 @@ public:
     };
     NxEnumeration(std::initializer_list<Entry> entries);
 
-    [[nodiscard]] int getCount() const noexcept { return m_count; }
+    [[nodiscard]] int count() const noexcept { return m_count; }
     /// All values in order; not to be written.
-    [[nodiscard]] int* getValues() const noexcept { return m_values.get(); }
+    [[nodiscard]] int* values() const noexcept { return m_values.get(); }
     /// All names in the order of the values; not to be written.
-    [[nodiscard]] VbName* getNames() const noexcept { return m_names.get(); }
+    [[nodiscard]] VbName* names() const noexcept { return m_names.get(); }
 
     /// Gives the value of a name; a name that doesn't exist gives false and leaves `value` alone.
     bool valueByName(std::string_view name, int& value) const;

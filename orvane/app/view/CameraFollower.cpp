@@ -41,6 +41,6 @@ void CameraFollower::look() const
 {
     meridane::Matrix4d cameraToScene;
     for (const NxRef<NxNode>& node : m_nodes)
-        cameraToScene = meridane::multiply(meridane::placementOf(*node), cameraToScene);
+        cameraToScene = meridane::multiply(meridane::localTransformOf(*node), cameraToScene);
     m_look(NxViewpoint::ofCamera(*camera(), cameraToScene));
 }

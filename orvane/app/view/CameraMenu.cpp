@@ -22,7 +22,7 @@ CameraMenu::CameraMenu(SceneView* view, SceneDocument& document)
     , m_follower([view](NxViewpoint viewpoint) {
         // What the user goes round is what lies in the middle of the scene.
         if (const NxBounds bounds = view->drawing().bounds(); !bounds.isEmpty())
-            viewpoint.focus(bounds.getCenter());
+            viewpoint.focus(bounds.center());
         view->setViewpoint(viewpoint);
     })
     , m_menu(new QMenu(tr("&Cameras"), view))

@@ -264,13 +264,13 @@ std::optional<NxRayHit> SceneView::hitAt(const QPointF& position) const
 {
     if (!m_scene)
         return {};
-    NxRayPick pick(m_viewpoint.getRay(m_navigation.place(position), m_navigation.aspect()));
+    NxRayPick pick(m_viewpoint.rayAt(m_navigation.place(position), m_navigation.aspect()));
     const float radii = pickRadius / static_cast<float>(std::max(height(), 1));
     if (m_viewpoint.projection == NxViewpoint::ORTHOGRAPHIC) {
-        pick.setTolerance(radii * m_viewpoint.getHeightAt(0), 0);
+        pick.setTolerance(radii * m_viewpoint.heightAt(0), 0);
         pick.setDistances(std::numeric_limits<float>::lowest(), std::numeric_limits<float>::max());
     } else {
-        pick.setTolerance(0, radii * m_viewpoint.getHeightAt(1));
+        pick.setTolerance(0, radii * m_viewpoint.heightAt(1));
     }
     return pick.pick(*m_scene);
 }

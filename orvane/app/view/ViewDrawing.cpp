@@ -55,11 +55,11 @@ bool ViewDrawing::makeContext()
 {
     m_context = std::make_unique<NxOffscreenContext>();
     if (!m_context->isValid() || !m_context->makeCurrent()) {
-        giveUp(orvane::toQString(m_context->getError().view()));
+        giveUp(orvane::toQString(m_context->error().view()));
         return false;
     }
     if (!m_functions.load(&NxOffscreenContext::getProcAddress)) {
-        giveUp(orvane::toQString(m_functions.getError()));
+        giveUp(orvane::toQString(m_functions.error()));
         return false;
     }
     return true;
@@ -132,10 +132,10 @@ QImage ViewDrawing::draw(const NxViewpoint& viewpoint, QSize size, float scale)
 
 NxBounds ViewDrawing::bounds() const
 {
-    return isStarted() ? m_drawing->getBounds() : NxBounds();
+    return isStarted() ? m_drawing->bounds() : NxBounds();
 }
 
 NxBounds ViewDrawing::bounds(const std::vector<NxNode*>& nodes) const
 {
-    return isStarted() && !nodes.empty() ? m_drawing->getBounds(std::span<NxNode* const>(nodes)) : NxBounds();
+    return isStarted() && !nodes.empty() ? m_drawing->bounds(std::span<NxNode* const>(nodes)) : NxBounds();
 }

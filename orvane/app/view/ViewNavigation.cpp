@@ -36,7 +36,7 @@ VbVec2f ViewNavigation::place(const QPointF& position) const
 float ViewNavigation::distanceAt(const QPointF& position) const
 {
     const std::optional<VbVec3d> point = m_findPoint(position);
-    return point ? m_viewpoint.getDistance(*point) : m_viewpoint.focalDistance;
+    return point ? m_viewpoint.distanceTo(*point) : m_viewpoint.focalDistance;
 }
 
 void ViewNavigation::startDrag(Drag drag, const QPointF& position)
@@ -67,7 +67,7 @@ void ViewNavigation::zoom(float notches, const QPointF& position)
         if (m_zoomPoint)
             m_viewpoint.focus(*m_zoomPoint);
         else
-            m_zoomPoint = m_viewpoint.getPoint(place(position), aspect(), m_viewpoint.focalDistance);
+            m_zoomPoint = m_viewpoint.pointAt(place(position), aspect(), m_viewpoint.focalDistance);
         m_zoomPosition = position;
     }
     m_viewpoint.zoom(std::pow(notchFactor, notches), *m_zoomPoint);
@@ -100,10 +100,10 @@ bool ViewNavigation::pressKey(const QKeyEvent& event)
         return true;
     case Qt::Key_Plus:
     case Qt::Key_Equal: // the same key as the plus, without Shift, on many keyboards
-        m_viewpoint.zoom(notchFactor, m_viewpoint.getFocalPoint());
+        m_viewpoint.zoom(notchFactor, m_viewpoint.focalPoint());
         return true;
     case Qt::Key_Minus:
-        m_viewpoint.zoom(1 / notchFactor, m_viewpoint.getFocalPoint());
+        m_viewpoint.zoom(1 / notchFactor, m_viewpoint.focalPoint());
         return true;
     default:
         return false;

@@ -50,11 +50,11 @@ NxRef<NxCamera> toCamera(const aiCamera& camera)
     return result;
 }
 
-bool moveCamera(NxCamera& camera, const aiMatrix4x4& placement)
+bool moveCamera(NxCamera& camera, const aiMatrix4x4& transform)
 {
     VbRotation rotation;
     VbVec3f translation;
-    const aiMatrix4x4 whole = placement * placementMatrix(camera.orientation.getValue(), camera.position.getValue());
+    const aiMatrix4x4 whole = transform * rigidMatrix(camera.orientation.getValue(), camera.position.getValue());
     if (!isRigid(whole, rotation, translation))
         return false;
     camera.position.setValue(translation);
@@ -62,7 +62,7 @@ bool moveCamera(NxCamera& camera, const aiMatrix4x4& placement)
     return true;
 }
 
-std::unique_ptr<aiCamera> toAiCamera(const NxCamera& camera, aiMatrix4x4& placement)
+std::unique_ptr<aiCamera> toAiCamera(const NxCamera& camera, aiMatrix4x4& transform)
 {
     auto result = std::make_unique<aiCamera>();
     result->mAspect = 1;
@@ -78,7 +78,7 @@ std::unique_ptr<aiCamera> toAiCamera(const NxCamera& camera, aiMatrix4x4& placem
     result->mUp = aiVector3D(0, 1, 0);
     result->mClipPlaneNear = camera.nearDistance.getValue();
     result->mClipPlaneFar = camera.farDistance.getValue();
-    placement = placementMatrix(camera.orientation.getValue(), camera.position.getValue());
+    transform = rigidMatrix(camera.orientation.getValue(), camera.position.getValue());
     return result;
 }
 

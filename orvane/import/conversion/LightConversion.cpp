@@ -17,16 +17,16 @@ namespace {
 
 constexpr float rightAngle = std::numbers::pi_v<float> / 2;
 
-VbVec3f directionOf(const aiLight& light, const aiMatrix4x4& placement)
+VbVec3f directionOf(const aiLight& light, const aiMatrix4x4& transform)
 {
-    aiVector3D direction = aiMatrix3x3(placement) * light.mDirection;
+    aiVector3D direction = aiMatrix3x3(transform) * light.mDirection;
     return direction.Length() > 0 ? toVec(direction.Normalize()) : VbVec3f(0, 0, -1);
 }
 
-NxRef<NxPointLight> toPointLight(const aiLight& light, const aiMatrix4x4& placement, float strength)
+NxRef<NxPointLight> toPointLight(const aiLight& light, const aiMatrix4x4& transform, float strength)
 {
     NxRef<NxPointLight> result = new NxPointLight;
-    result->location.setValue(toVec(placement * light.mPosition));
+    result->location.setValue(toVec(transform * light.mPosition));
     // A light stronger than full brightness reaches farther instead.
     const float share = 1 / std::max(strength, 1.0F);
     const VbVec3f fading(std::max(light.mAttenuationConstant, 0.0F) * share,
@@ -36,11 +36,11 @@ NxRef<NxPointLight> toPointLight(const aiLight& light, const aiMatrix4x4& placem
     return result;
 }
 
-NxRef<NxSpotLight> toSpotLight(const aiLight& light, const aiMatrix4x4& placement)
+NxRef<NxSpotLight> toSpotLight(const aiLight& light, const aiMatrix4x4& transform)
 {
     NxRef<NxSpotLight> result = new NxSpotLight;
-    result->location.setValue(toVec(placement * light.mPosition));
-    result->direction.setValue(directionOf(light, placement));
+    result->location.setValue(toVec(transform * light.mPosition));
+    result->direction.setValue(directionOf(light, transform));
     // A surface that shines does so to its whole front.
     const float outer = light.mType == aiLightSource_AREA ? rightAngle : light.mAngleOuterCone;
     const float inner = light.mType == aiLightSource_AREA ? 0 : light.mAngleInnerCone;
@@ -51,23 +51,23 @@ NxRef<NxSpotLight> toSpotLight(const aiLight& light, const aiMatrix4x4& placemen
     return result;
 }
 
-NxRef<NxDirectionalLight> toDirectionalLight(const aiLight& light, const aiMatrix4x4& placement)
+NxRef<NxDirectionalLight> toDirectionalLight(const aiLight& light, const aiMatrix4x4& transform)
 {
     NxRef<NxDirectionalLight> result = new NxDirectionalLight;
-    result->direction.setValue(directionOf(light, placement));
+    result->direction.setValue(directionOf(light, transform));
     return result;
 }
 
-NxRef<NxLight> makeLight(const aiLight& light, const aiMatrix4x4& placement, float strength)
+NxRef<NxLight> makeLight(const aiLight& light, const aiMatrix4x4& transform, float strength)
 {
     switch (light.mType) {
     case aiLightSource_DIRECTIONAL:
-        return toDirectionalLight(light, placement);
+        return toDirectionalLight(light, transform);
     case aiLightSource_POINT:
-        return toPointLight(light, placement, strength);
+        return toPointLight(light, transform, strength);
     case aiLightSource_SPOT:
     case aiLightSource_AREA:
-        return toSpotLight(light, placement);
+        return toSpotLight(light, transform);
     default: // the library's enumeration has a last value that only makes it an int
         return {};
     }
@@ -75,11 +75,11 @@ NxRef<NxLight> makeLight(const aiLight& light, const aiMatrix4x4& placement, flo
 
 } // namespace
 
-NxRef<NxLight> toLight(const aiLight& light, const aiMatrix4x4& placement)
+NxRef<NxLight> toLight(const aiLight& light, const aiMatrix4x4& transform)
 {
     const aiColor3D& color = light.mColorDiffuse;
     const float strength = std::max({color.r, color.g, color.b, 0.0F});
-    NxRef<NxLight> result = makeLight(light, placement, strength);
+    NxRef<NxLight> result = makeLight(light, transform, strength);
     if (!result)
         return {};
     result->setName(toText(light.mName));
@@ -90,7 +90,7 @@ NxRef<NxLight> toLight(const aiLight& light, const aiMatrix4x4& placement)
     return result;
 }
 
-std::unique_ptr<aiLight> toAiLight(const NxLight& light, aiMatrix4x4& placement)
+std::unique_ptr<aiLight> toAiLight(const NxLight& light, aiMatrix4x4& transform)
 {
     auto result = std::make_unique<aiLight>();
     VbVec3f location;
@@ -120,7 +120,7 @@ std::unique_ptr<aiLight> toAiLight(const NxLight& light, aiMatrix4x4& placement)
     result->mColorSpecular = result->mColorDiffuse;
     result->mDirection = aiVector3D(0, 0, -1);
     result->mUp = up;
-    placement = placementMatrix(rotationTo(toAiVector(direction), up), location);
+    transform = rigidMatrix(rotationTo(toAiVector(direction), up), location);
     return result;
 }
 

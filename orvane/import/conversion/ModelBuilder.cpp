@@ -148,12 +148,12 @@ void ModelBuilder::separateMeshes(Node& node) const
 
 void ModelBuilder::addGroup(Node& node, const NxGroup& group, const Look& look)
 {
-    const aiMatrix4x4 placement = matrixOf(group);
-    if (group.getName().isEmpty() && placement == aiMatrix4x4()) {
+    const aiMatrix4x4 transform = matrixOf(group);
+    if (group.getName().isEmpty() && transform == aiMatrix4x4()) {
         addChildren(node, group, look);
         return;
     }
-    addChildren(addPlaced(node, group.getName(), "", placement), group, look);
+    addChildren(addPlaced(node, group.getName(), "", transform), group, look);
 }
 
 void ModelBuilder::addMesh(Node& node, const NxMesh& mesh, const Look& look)
@@ -177,32 +177,32 @@ void ModelBuilder::addMesh(Node& node, const NxMesh& mesh, const Look& look)
 
 void ModelBuilder::addLight(Node& node, const NxLight& light)
 {
-    aiMatrix4x4 placement;
-    std::unique_ptr<aiLight> made = toAiLight(light, placement);
+    aiMatrix4x4 transform;
+    std::unique_ptr<aiLight> made = toAiLight(light, transform);
     if (made == nullptr || light.on.getValue() == 0)
         return;
-    made->mName = addPlaced(node, light.getName(), "Light", placement).node->mName;
+    made->mName = addPlaced(node, light.getName(), "Light", transform).node->mName;
     m_lights.push_back(std::move(made));
 }
 
 void ModelBuilder::addCamera(Node& node, const NxCamera& camera)
 {
-    aiMatrix4x4 placement;
-    std::unique_ptr<aiCamera> made = toAiCamera(camera, placement);
+    aiMatrix4x4 transform;
+    std::unique_ptr<aiCamera> made = toAiCamera(camera, transform);
     if (made == nullptr)
         return;
-    made->mName = addPlaced(node, camera.getName(), "Camera", placement).node->mName;
+    made->mName = addPlaced(node, camera.getName(), "Camera", transform).node->mName;
     m_cameras.push_back(std::move(made));
 }
 
 ModelBuilder::Node& ModelBuilder::addPlaced(
-    Node& node, const VbString& name, const char* otherwise, const aiMatrix4x4& placement)
+    Node& node, const VbString& name, const char* otherwise, const aiMatrix4x4& transform)
 {
     Node& child = *node.children.emplace_back(std::make_unique<Node>());
     // A light or a camera finds its node by the name, so theirs are unique.
     child.node->mName = *otherwise != '\0' ? toAiText(uniqueName(name, otherwise)) : toAiText(name);
     m_names.emplace(name.view());
-    child.node->mTransformation = placement;
+    child.node->mTransformation = transform;
     return child;
 }
 

@@ -61,7 +61,7 @@ private:
     void addMesh(Node& node, const NxMesh& mesh, const Look& look);
     void addLight(Node& node, const NxLight& light);
     void addCamera(Node& node, const NxCamera& camera);
-    Node& addPlaced(Node& node, const VbString& name, const char* otherwise, const aiMatrix4x4& placement);
+    Node& addPlaced(Node& node, const VbString& name, const char* otherwise, const aiMatrix4x4& transform);
     [[nodiscard]] unsigned int materialIndex(const Look& look);
     [[nodiscard]] std::string picturePath(const NxTexture& texture);
     [[nodiscard]] std::string addImageFile(std::string bytes);

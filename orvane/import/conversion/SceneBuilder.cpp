@@ -81,18 +81,18 @@ bool SceneBuilder::isMadeUp(const aiNode& root) const
 
 void SceneBuilder::addLights(NxGroup& scene, const aiNode& node, const aiMatrix4x4& above)
 {
-    const aiMatrix4x4 placement = above * node.mTransformation;
+    const aiMatrix4x4 worldTransform = above * node.mTransformation;
     const auto place = m_lights.find(viewOf(node.mName));
     if (place != m_lights.end()) {
         for (const aiLight* light : place->second) {
-            if (const NxRef<NxLight> made = toLight(*light, placement))
+            if (const NxRef<NxLight> made = toLight(*light, worldTransform))
                 scene.addChild(made.get());
         }
         // Names aren't always unique; a light stands at the first node of its name.
         place->second.clear();
     }
     for (const aiNode* child : children(node.mChildren, node.mNumChildren))
-        addLights(scene, *child, placement);
+        addLights(scene, *child, worldTransform);
 }
 
 bool SceneBuilder::addNode(NxGroup& parent, const aiNode& node, int depth)

@@ -89,7 +89,7 @@ aiMatrix4x4 toAiMatrix(const VbMatrix& m)
         m[0][3], m[1][3], m[2][3], m[3][3]};
 }
 
-aiMatrix4x4 placementMatrix(const VbRotation& rotation, const VbVec3f& translation)
+aiMatrix4x4 rigidMatrix(const VbRotation& rotation, const VbVec3f& translation)
 {
     const std::array<float, 4> q = rotation.getQuaternion();
     return translationMatrix(translation) * aiMatrix4x4(aiQuaternion(q[3], q[0], q[1], q[2]).GetMatrix());
@@ -145,9 +145,8 @@ aiMatrix4x4 matrixOf(const NxGroup& group)
         return {};
     const VbVec3f& center = transform->center.getValue();
     const VbVec3f back(-center[0], -center[1], -center[2]);
-    return translationMatrix(transform->translation.getValue())
-        * placementMatrix(transform->rotation.getValue(), center) * scalingMatrix(transform->scaleFactor.getValue())
-        * translationMatrix(back);
+    return translationMatrix(transform->translation.getValue()) * rigidMatrix(transform->rotation.getValue(), center)
+        * scalingMatrix(transform->scaleFactor.getValue()) * translationMatrix(back);
 }
 
 } // namespace orvane

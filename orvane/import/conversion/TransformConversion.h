@@ -24,7 +24,7 @@ namespace orvane {
 [[nodiscard]] aiMatrix4x4 toAiMatrix(const VbMatrix& matrix);
 
 /// The matrix that turns by that rotation and then moves.
-[[nodiscard]] aiMatrix4x4 placementMatrix(const VbRotation& rotation, const VbVec3f& translation);
+[[nodiscard]] aiMatrix4x4 rigidMatrix(const VbRotation& rotation, const VbVec3f& translation);
 /// The rotation that turns negative z to `direction` and positive y towards `up`. Vectors of any length, also of none.
 [[nodiscard]] VbRotation rotationTo(const aiVector3D& direction, const aiVector3D& up);
 /// The parts of a matrix that doesn't scale: false for another one.

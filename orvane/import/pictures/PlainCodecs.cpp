@@ -23,12 +23,12 @@ std::size_t byteCount(const Picture& picture)
 // The library makes the rest of such a picture up, so that a few bytes could ask for the largest one.
 bool isCutOff(std::span<const unsigned char> file, const Picture& picture)
 {
-    constexpr std::size_t mostPixelsPerByte = 4096; // of GIF, whose codes stand for more than those of the others
-    constexpr std::size_t mostPixelsPerRun = 128;
+    constexpr std::size_t maxPixelsPerByte = 4096; // of GIF, whose codes stand for more than those of the others
+    constexpr std::size_t maxPixelsPerRun = 128;
     const std::size_t pixels = static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height);
     if (file[0] == 'P')
         return file.size() < byteCount(picture);
-    return file.size() < pixels / (file[0] == 'G' ? mostPixelsPerByte : mostPixelsPerRun);
+    return file.size() < pixels / (file[0] == 'G' ? maxPixelsPerByte : maxPixelsPerRun);
 }
 
 } // namespace

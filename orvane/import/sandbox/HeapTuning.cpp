@@ -12,7 +12,7 @@
 
 namespace orvane {
 
-void keepMemory(const ProcessLimits& limits)
+void tuneHeap(const ProcessLimits& limits)
 {
     constexpr std::size_t enough = 1024; // MiB
     // A sanitizer has a heap of its own.

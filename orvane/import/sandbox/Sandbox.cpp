@@ -30,22 +30,22 @@ const char* holds(bool lock)
 
 } // namespace
 
-Locks lockIn(const std::vector<std::string>& readableFolders)
+SandboxState enterSandbox(const std::vector<std::string>& readableFolders)
 {
     // Some exporters write the local time; its rules are in a file that can't be read later.
     tzset();
     closeOtherFiles();
-    Locks locks;
-    locks.noNewPrivileges = prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0;
-    locks.files = restrictFiles(readableFolders);
-    locks.systemCalls = filterSystemCalls(); // last: it refuses what the others are made with
-    return locks;
+    SandboxState state;
+    state.noNewPrivileges = prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0;
+    state.files = restrictFiles(readableFolders);
+    state.systemCalls = filterSystemCalls(); // last: it refuses what the others are made with
+    return state;
 }
 
-std::string toText(const Locks& locks)
+std::string toText(const SandboxState& state)
 {
-    return std::string("privileges ") + holds(locks.noNewPrivileges) + "\nfiles " + holds(locks.files)
-        + "\nsystem calls " + holds(locks.systemCalls) + "\n";
+    return std::string("privileges ") + holds(state.noNewPrivileges) + "\nfiles " + holds(state.files)
+        + "\nsystem calls " + holds(state.systemCalls) + "\n";
 }
 
 } // namespace orvane

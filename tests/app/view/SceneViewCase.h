@@ -57,7 +57,7 @@ protected:
     {
         const float aspect = static_cast<float>(m_view->width()) / static_cast<float>(m_view->height());
         const VbMatrix matrix = meridane::multiply(
-            m_view->viewpoint().getViewMatrix(), m_view->viewpoint().getProjectionMatrix(aspect, 0.1F, 1000));
+            m_view->viewpoint().viewMatrix(), m_view->viewpoint().projectionMatrix(aspect, 0.1F, 1000));
         const VbVec3f place = meridane::transformPoint(VbVec3f(x, y, 0), matrix);
         return {qRound((place[0] + 1) / 2 * static_cast<float>(m_view->width())),
             qRound((1 - place[1]) / 2 * static_cast<float>(m_view->height()))};

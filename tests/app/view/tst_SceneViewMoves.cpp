@@ -38,7 +38,7 @@ private Q_SLOTS:
         const QImage image = picture();
         drag(Qt::LeftButton, Qt::NoModifier, QPoint(300, 200), QPoint(200, 160));
         const NxViewpoint& after = m_view->viewpoint();
-        QVERIFY(length(subtract(after.getFocalPoint(), before.getFocalPoint())) < 1e-3);
+        QVERIFY(length(subtract(after.focalPoint(), before.focalPoint())) < 1e-3);
         // The scene goes with the pointer: to the left and up, so the viewer goes to the right and down.
         QVERIFY(after.position[0] > before.position[0]);
         QVERIFY(after.position[1] < before.position[1]);
@@ -58,12 +58,12 @@ private Q_SLOTS:
     {
         QFETCH(const Qt::MouseButton, button);
         QFETCH(const Qt::KeyboardModifier, modifier);
-        const VbVec3f direction = m_view->viewpoint().getDirection();
+        const VbVec3f direction = m_view->viewpoint().viewDirection();
         const QPoint from = at(2, 0);
         const QPoint to = from + QPoint(-80, 50);
         const QSignalSpy picked(m_view.get(), &SceneView::picked);
         drag(button, modifier, from, to);
-        QCOMPARE(m_view->viewpoint().getDirection(), direction);
+        QCOMPARE(m_view->viewpoint().viewDirection(), direction);
         QVERIFY((at(2, 0) - to).manhattanLength() <= 2);
         QVERIFY(ViewScenes::isLike(picture().pixelColor(to), Qt::green));
         QCOMPARE(picked.size(), 0);

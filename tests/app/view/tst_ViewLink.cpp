@@ -151,16 +151,16 @@ private Q_SLOTS:
         QCOMPARE(view()->viewpoint(), before);
         view()->setFocus();
         QTest::keyClick(view(), Qt::Key_5);
-        QVERIFY(view()->viewpoint().getDirection()[1] < -0.999F);
+        QVERIFY(view()->viewpoint().viewDirection()[1] < -0.999F);
         QTest::keyClick(view(), Qt::Key_1);
-        QVERIFY(view()->viewpoint().getDirection()[2] < -0.999F);
+        QVERIFY(view()->viewpoint().viewDirection()[2] < -0.999F);
         m_window->selectPath(QStringLiteral("/right"));
         view()->setFocus();
         QTest::keyClick(view(), Qt::Key_F);
-        QVERIFY(std::abs(view()->viewpoint().getFocalPoint()[0] - 2) < 0.01);
+        QVERIFY(std::abs(view()->viewpoint().focalPoint()[0] - 2) < 0.01);
         QTest::keyClick(view(), Qt::Key_A);
         static_cast<void>(picture());
-        QVERIFY(std::abs(view()->viewpoint().getFocalPoint()[0]) < 0.01);
+        QVERIFY(std::abs(view()->viewpoint().focalPoint()[0]) < 0.01);
     }
 
     void keepsWhatIsSwitchedOn()

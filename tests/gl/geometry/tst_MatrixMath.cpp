@@ -68,22 +68,22 @@ private Q_SLOTS:
         node->scaleFactor.setValue(VbVec3f(2, 2, 2));
         node->rotation.setValue(quarterTurn);
         node->translation.setValue(VbVec3f(0, 0, 5));
-        QVERIFY(isNear(transformPoint(VbVec3f(2, 0, 0), placementOf(*node)), VbVec3f(1, 2, 5)));
+        QVERIFY(isNear(transformPoint(VbVec3f(2, 0, 0), localTransformOf(*node)), VbVec3f(1, 2, 5)));
         node->rotation.setIgnored(1);
-        QVERIFY(isNear(transformPoint(VbVec3f(2, 0, 0), placementOf(*node)), VbVec3f(3, 0, 5)));
+        QVERIFY(isNear(transformPoint(VbVec3f(2, 0, 0), localTransformOf(*node)), VbVec3f(3, 0, 5)));
         node->translation.setIgnored(1);
         node->scaleFactor.setIgnored(1);
-        QCOMPARE(narrowed(placementOf(*node)), VbMatrix());
+        QCOMPARE(narrowed(localTransformOf(*node)), VbMatrix());
     }
 
     void placesTheChildrenOfAMatrixTransform()
     {
         const NxRef<NxMatrixTransform> node(new NxMatrixTransform);
         node->matrix.setValue(translationMatrix(VbVec3f(1, 2, 3)));
-        QCOMPARE(narrowed(placementOf(*node)), translationMatrix(VbVec3f(1, 2, 3)));
+        QCOMPARE(narrowed(localTransformOf(*node)), translationMatrix(VbVec3f(1, 2, 3)));
         node->matrix.setIgnored(1);
-        QCOMPARE(narrowed(placementOf(*node)), VbMatrix());
-        QCOMPARE(narrowed(placementOf(*NxRef<NxGroup>(new NxGroup))), VbMatrix());
+        QCOMPARE(narrowed(localTransformOf(*node)), VbMatrix());
+        QCOMPARE(narrowed(localTransformOf(*NxRef<NxGroup>(new NxGroup))), VbMatrix());
     }
 
     void givesADirectionToWhatHasNone()

@@ -25,7 +25,7 @@ bool isNear(const VbVec3d& left, const VbVec3d& right, double tolerance = 1e-4)
 /// Where a point of the scene stands in the picture, from (0, 0) to (1, 1).
 VbVec2f placeOf(const VbVec3d& point, const NxViewpoint& viewpoint)
 {
-    const VbMatrix matrix = multiply(viewpoint.getViewMatrix(), viewpoint.getProjectionMatrix(aspect, 0.1F, 100));
+    const VbMatrix matrix = multiply(viewpoint.viewMatrix(), viewpoint.projectionMatrix(aspect, 0.1F, 100));
     const VbVec3f clipped = transformPoint(narrowed(point), matrix);
     return {(clipped[0] + 1) / 2, (clipped[1] + 1) / 2};
 }
@@ -37,9 +37,9 @@ bool isNear(const VbVec2f& left, const VbVec2f& right)
 
 bool isFiniteAll(const NxViewpoint& viewpoint)
 {
-    bool finite = isFinite(viewpoint.getFocalPoint()) && isFinite(viewpoint.getRight()) && isFinite(viewpoint.getUp())
-        && isFinite(viewpoint.getRay(VbVec2f(0.1F, 0.9F), aspect).direction);
-    for (const VbMatrix& matrix : {viewpoint.getViewMatrix(), viewpoint.getProjectionMatrix(aspect, 1, 10)}) {
+    bool finite = isFinite(viewpoint.focalPoint()) && isFinite(viewpoint.rightAxis()) && isFinite(viewpoint.upAxis())
+        && isFinite(viewpoint.rayAt(VbVec2f(0.1F, 0.9F), aspect).direction);
+    for (const VbMatrix& matrix : {viewpoint.viewMatrix(), viewpoint.projectionMatrix(aspect, 1, 10)}) {
         for (std::size_t i = 0; i < 16; ++i)
             finite = finite && std::isfinite(matrix[i / 4][i % 4]);
     }
@@ -70,19 +70,19 @@ private Q_SLOTS:
     void looksAlongNegativeZ()
     {
         const NxViewpoint viewpoint;
-        QCOMPARE(viewpoint.getDirection(), VbVec3f(0, 0, -1));
-        QCOMPARE(viewpoint.getFocalPoint(), VbVec3d());
-        QVERIFY(isNear(transformPoint(VbVec3f(1, 2, 0), viewpoint.getViewMatrix()), VbVec3f(1, 2, -5)));
+        QCOMPARE(viewpoint.viewDirection(), VbVec3f(0, 0, -1));
+        QCOMPARE(viewpoint.focalPoint(), VbVec3d());
+        QVERIFY(isNear(transformPoint(VbVec3f(1, 2, 0), viewpoint.viewMatrix()), VbVec3f(1, 2, -5)));
     }
 
     void clipsAtTheGivenDistances_data() { addProjections(); }
     void clipsAtTheGivenDistances()
     {
         QFETCH(const NxViewpoint, viewpoint);
-        const VbMatrix matrix = viewpoint.getProjectionMatrix(aspect, 2, 8);
+        const VbMatrix matrix = viewpoint.projectionMatrix(aspect, 2, 8);
         QVERIFY(std::abs(transformPoint(VbVec3f(0, 0, -2), matrix)[2] + 1) < 1e-4F);
         QVERIFY(std::abs(transformPoint(VbVec3f(0, 0, -8), matrix)[2] - 1) < 1e-4F);
-        const float half = viewpoint.getHeightAt(2) / 2;
+        const float half = viewpoint.heightAt(2) / 2;
         QVERIFY(isNear(transformPoint(VbVec3f(half * aspect, half, -2), matrix), VbVec3f(1, 1, -1)));
     }
 
@@ -91,22 +91,22 @@ private Q_SLOTS:
     {
         QFETCH(const NxViewpoint, viewpoint);
         const VbVec2f place(0.2F, 0.85F);
-        const NxRay ray = viewpoint.getRay(place, aspect);
+        const NxRay ray = viewpoint.rayAt(place, aspect);
         QVERIFY(std::abs(length(ray.direction) - 1) < 1e-5);
         QVERIFY(isNear(placeOf(add(ray.origin, scaled(ray.direction, 3)), viewpoint), place));
-        QVERIFY(isNear(placeOf(viewpoint.getPoint(place, aspect, 7), viewpoint), place));
-        QVERIFY(std::abs(viewpoint.getDistance(viewpoint.getPoint(place, aspect, 7)) - 7) < 1e-4F);
+        QVERIFY(isNear(placeOf(viewpoint.pointAt(place, aspect, 7), viewpoint), place));
+        QVERIFY(std::abs(viewpoint.distanceTo(viewpoint.pointAt(place, aspect, 7)) - 7) < 1e-4F);
     }
 
     void orbitsAboutTheFocalPoint()
     {
         NxViewpoint viewpoint;
         viewpoint.position = VbVec3f(1, 2, 8);
-        const VbVec3d focalPoint = viewpoint.getFocalPoint();
+        const VbVec3d focalPoint = viewpoint.focalPoint();
         viewpoint.orbit(std::numbers::pi_v<float> / 2, 0);
-        QVERIFY(isNear(viewpoint.getFocalPoint(), focalPoint));
+        QVERIFY(isNear(viewpoint.focalPoint(), focalPoint));
         QVERIFY(isNear(viewpoint.position, add(focalPoint, VbVec3f(5, 0, 0))));
-        QVERIFY(isNear(viewpoint.getUp(), VbVec3f(0, 1, 0)));
+        QVERIFY(isNear(viewpoint.upAxis(), VbVec3f(0, 1, 0)));
     }
 
     void orbitsNoFartherThanStraightAbove()
@@ -114,7 +114,7 @@ private Q_SLOTS:
         NxViewpoint viewpoint;
         viewpoint.orbit(0, 10);
         QVERIFY(isNear(viewpoint.position, VbVec3f(0, 5, 0)));
-        QVERIFY(isNear(viewpoint.getUp(), VbVec3f(0, 0, -1)));
+        QVERIFY(isNear(viewpoint.upAxis(), VbVec3f(0, 0, -1)));
         viewpoint.orbit(0, -10);
         QVERIFY(isNear(viewpoint.position, VbVec3f(0, -5, 0), 0.01));
         viewpoint.orbit(0, std::numbers::pi_v<float> / 2);
@@ -126,8 +126,8 @@ private Q_SLOTS:
         NxViewpoint viewpoint;
         for (int step = 0; step < 2000; ++step)
             viewpoint.orbit(0.1F, step % 40 < 20 ? 0.03F : -0.03F);
-        QVERIFY(std::abs(viewpoint.getRight()[1]) < 1e-3F);
-        QVERIFY(isNear(viewpoint.getFocalPoint(), VbVec3f(), 0.01));
+        QVERIFY(std::abs(viewpoint.rightAxis()[1]) < 1e-3F);
+        QVERIFY(isNear(viewpoint.focalPoint(), VbVec3f(), 0.01));
     }
 
     void pansWhatIsGrabbed_data() { addProjections(); }
@@ -136,7 +136,7 @@ private Q_SLOTS:
         QFETCH(NxViewpoint, viewpoint);
         const VbVec2f from(0.3F, 0.3F);
         const VbVec2f to(0.6F, 0.2F);
-        const VbVec3d grabbed = viewpoint.getPoint(from, aspect, 6);
+        const VbVec3d grabbed = viewpoint.pointAt(from, aspect, 6);
         viewpoint.pan(from, to, aspect, 6);
         QVERIFY(isNear(placeOf(grabbed, viewpoint), to));
     }
@@ -146,11 +146,11 @@ private Q_SLOTS:
     {
         QFETCH(NxViewpoint, viewpoint);
         const VbVec2f place(0.25F, 0.7F);
-        const VbVec3d point = viewpoint.getPoint(place, aspect, 5);
-        const float height = viewpoint.getHeightAt(viewpoint.getDistance(point));
+        const VbVec3d point = viewpoint.pointAt(place, aspect, 5);
+        const float height = viewpoint.heightAt(viewpoint.distanceTo(point));
         viewpoint.zoom(2, point);
         QVERIFY(isNear(placeOf(point, viewpoint), place));
-        QVERIFY(std::abs(viewpoint.getHeightAt(viewpoint.getDistance(point)) - height / 2) < 1e-3F);
+        QVERIFY(std::abs(viewpoint.heightAt(viewpoint.distanceTo(point)) - height / 2) < 1e-3F);
     }
 
     void zoomsWithoutEnd()
@@ -178,7 +178,7 @@ private Q_SLOTS:
                 (corner & 1U) != 0 ? 11.F : 10.F, (corner & 2U) != 0 ? 4.F : -3.F, (corner & 4U) != 0 ? 20.F : 2.F);
             const VbVec2f place = placeOf(point, viewpoint);
             reach = std::max({reach, std::abs(place[0] - 0.5F), std::abs(place[1] - 0.5F)});
-            QVERIFY(viewpoint.getDistance(point) > 0);
+            QVERIFY(viewpoint.distanceTo(point) > 0);
         }
         QVERIFY2(reach < 0.5F && reach > 0.4F, qPrintable(QString::number(reach)));
     }
@@ -213,10 +213,10 @@ private Q_SLOTS:
         NxViewpoint viewpoint;
         viewpoint.orbit(1, 0.3F);
         viewpoint.lookAlong(direction, VbVec3f(0, 1, 0));
-        QVERIFY(isNear(viewpoint.getDirection(), direction));
-        QVERIFY(isNear(viewpoint.getFocalPoint(), VbVec3f()));
+        QVERIFY(isNear(viewpoint.viewDirection(), direction));
+        QVERIFY(isNear(viewpoint.focalPoint(), VbVec3f()));
         QVERIFY(isNear(viewpoint.position, scaled(direction, -5)));
-        QVERIFY(isNear(cross(viewpoint.getDirection(), viewpoint.getUp()), viewpoint.getRight()));
+        QVERIFY(isNear(cross(viewpoint.viewDirection(), viewpoint.upAxis()), viewpoint.rightAxis()));
     }
 
     void keepsTheSizeWhenTheProjectionChanges()
@@ -224,14 +224,14 @@ private Q_SLOTS:
         NxViewpoint viewpoint = turned(NxViewpoint::PERSPECTIVE);
         const NxViewpoint before = viewpoint;
         viewpoint.zoom(3, VbVec3f(0.5F, 0.1F, 0));
-        const float height = viewpoint.getHeightAt(viewpoint.focalDistance);
-        const VbVec3d focalPoint = viewpoint.getFocalPoint();
+        const float height = viewpoint.heightAt(viewpoint.focalDistance);
+        const VbVec3d focalPoint = viewpoint.focalPoint();
         viewpoint.setProjection(NxViewpoint::ORTHOGRAPHIC);
-        QVERIFY(std::abs(viewpoint.getHeightAt(1) - height) < 1e-4F);
+        QVERIFY(std::abs(viewpoint.heightAt(1) - height) < 1e-4F);
         viewpoint.zoom(2, focalPoint);
         viewpoint.setProjection(NxViewpoint::PERSPECTIVE);
-        QVERIFY(std::abs(viewpoint.getHeightAt(viewpoint.focalDistance) - height / 2) < 1e-4F);
-        QVERIFY(isNear(viewpoint.getFocalPoint(), focalPoint));
+        QVERIFY(std::abs(viewpoint.heightAt(viewpoint.focalDistance) - height / 2) < 1e-4F);
+        QVERIFY(isNear(viewpoint.focalPoint(), focalPoint));
         QCOMPARE(viewpoint.heightAngle, before.heightAngle);
     }
 
@@ -245,7 +245,7 @@ private Q_SLOTS:
         const NxViewpoint viewpoint = NxViewpoint::ofCamera(*camera, place);
         QCOMPARE(viewpoint.projection, NxViewpoint::PERSPECTIVE);
         QVERIFY(isNear(viewpoint.position, VbVec3f(2, 0, 7)));
-        QVERIFY(isNear(viewpoint.getDirection(), VbVec3f(-1, 0, 0)));
+        QVERIFY(isNear(viewpoint.viewDirection(), VbVec3f(-1, 0, 0)));
         QCOMPARE(viewpoint.heightAngle, 1.F);
         camera->heightAngle.setIgnored(1);
         camera->position.setIgnored(1);

@@ -41,11 +41,11 @@ private Q_SLOTS:
     void aContextWithoutAFunctionIsRefused()
     {
         NxGLFunctions functions;
-        QVERIFY(!functions.getError().empty());
+        QVERIFY(!functions.error().empty());
         QVERIFY(!functions.load([](const char* name) -> void* {
             return std::string_view(name) == "glDrawArrays" ? nullptr : NxOffscreenContext::getProcAddress(name);
         }));
-        QCOMPARE(functions.getError(), std::string("the OpenGL function glDrawArrays is missing"));
+        QCOMPARE(functions.error(), std::string("the OpenGL function glDrawArrays is missing"));
     }
 
     void anOldContextIsRefused()
@@ -58,10 +58,10 @@ private Q_SLOTS:
                 = [](GLenum what, GLint* value) { *value = what == GL_MAJOR_VERSION ? 3 : 2; };
             return reinterpret_cast<void*>(version);
         }));
-        QVERIFY2(QByteArray::fromStdString(functions.getError()).startsWith("OpenGL 3.3 is needed, this is "),
-            functions.getError().c_str());
+        QVERIFY2(QByteArray::fromStdString(functions.error()).startsWith("OpenGL 3.3 is needed, this is "),
+            functions.error().c_str());
         QVERIFY(functions.load(&NxOffscreenContext::getProcAddress));
-        QCOMPARE(functions.getError(), std::string());
+        QCOMPARE(functions.error(), std::string());
     }
 
 private:

@@ -12,12 +12,12 @@ private Q_SLOTS:
     void hasAllFunctionsWithoutAWindowSystem()
     {
         NxOffscreenContext context;
-        QVERIFY2(context.isValid(), context.getError().toUtf8());
-        QVERIFY(context.getError().isEmpty());
+        QVERIFY2(context.isValid(), context.error().toUtf8());
+        QVERIFY(context.error().isEmpty());
         QVERIFY(context.makeCurrent());
         QVERIFY(!NxOffscreenContext::isLost());
         NxGLFunctions functions;
-        QVERIFY2(functions.load(&NxOffscreenContext::getProcAddress), functions.getError().c_str());
+        QVERIFY2(functions.load(&NxOffscreenContext::getProcAddress), functions.error().c_str());
     }
 
     void isDrawnToThroughAFramebuffer()

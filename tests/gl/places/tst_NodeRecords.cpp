@@ -61,10 +61,10 @@ void tst_NodeRecords::recordsThatNobodyUsesAreBuried()
     auto& record = records.of<MeshRecord>(*mesh, m_listener);
     NodeRecords::retain(record);
     records.of<MeshRecord>(*other, m_listener);
-    records.bury([](const NodeRecord&) {});
+    records.destroyUnused([](const NodeRecord&) {});
     QCOMPARE(count(records), 1);
     records.release(record);
-    records.bury([](const NodeRecord&) {});
+    records.destroyUnused([](const NodeRecord&) {});
     QCOMPARE(count(records), 0);
     QCOMPARE(records.bytes(), std::size_t{0});
 }
@@ -103,16 +103,16 @@ void tst_NodeRecords::releasingTakesNoMemory()
         made.push_back(&records.of<MeshRecord>(*meshes.back(), m_listener));
         NodeRecords::retain(*made.back());
         if (i % 10 == 0)
-            records.bury([](const NodeRecord&) {});
+            records.destroyUnused([](const NodeRecord&) {});
     }
-    records.bury([](const NodeRecord&) {});
+    records.destroyUnused([](const NodeRecord&) {});
     FailingMemory::allocationsLeft = 0;
     for (NodeRecord* record : made)
         records.release(*record);
     const bool tookNone = FailingMemory::allocationsLeft == 0;
     FailingMemory::allocationsLeft = -1;
     QVERIFY(tookNone);
-    records.bury([](const NodeRecord&) {});
+    records.destroyUnused([](const NodeRecord&) {});
     QCOMPARE(count(records), 0);
 }
 

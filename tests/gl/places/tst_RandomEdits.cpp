@@ -197,13 +197,13 @@ std::vector<std::vector<double>> contentsOf(PlacedScene& scene, const NxNode* ro
             numberOf(item.mesh->node()), numberOf(look.texture ? look.texture->node() : nullptr)};
         const auto append = [&values](const auto& list) { values.insert(values.end(), list.begin(), list.end()); };
         for (std::size_t row = 0; row < 4; ++row)
-            append(scene.table().placementOf(item)[row]);
+            append(scene.table().worldTransformOf(item)[row]);
         append(look.material != nullptr ? look.material->values : materialValues(nullptr));
         const ComplexityValues complexity = look.complexity ? look.complexity->values : ComplexityValues();
         append(std::initializer_list<float>{
             static_cast<float>(complexity.type), complexity.value, complexity.textureQuality});
         for (const LightList* list = look.lights.get(); list != nullptr; list = list->above())
-            append(lightValues(list->light().light(), scene.table().placements[list->placement()]));
+            append(lightValues(list->light().light(), scene.table().worldTransforms[list->worldTransform()]));
         const NxBounds bounds = scene.tree().boundsOf(id);
         append(std::span(bounds.min.getValue(), 3));
         append(std::span(bounds.max.getValue(), 3));
@@ -249,7 +249,7 @@ void TestRandomEdits::followedEditsGiveThePlacesOfANewScene()
             anew.setRoot(scene.get());
             QCOMPARE(contentsOf(followed, scene.get()), contentsOf(anew, scene.get()));
             QVERIFY(followed.tree().bounds() == anew.tree().bounds());
-            QVERIFY(bench.drawing().getBounds() == anew.tree().bounds());
+            QVERIFY(bench.drawing().bounds() == anew.tree().bounds());
 
             bench.renew(scene.get());
             (void)bench.drawUntold();

@@ -13,15 +13,16 @@
 /// in an order that doesn't depend on where the triangle begins.
 using WorldTriangle = std::array<std::array<long, 12>, 3>;
 
-inline void addWorldTriangles(std::vector<WorldTriangle>& triangles, const NxMesh& mesh, const aiMatrix4x4& placement)
+inline void addWorldTriangles(
+    std::vector<WorldTriangle>& triangles, const NxMesh& mesh, const aiMatrix4x4& worldTransform)
 {
     const auto rounded = [](float value) { return std::lround(static_cast<double>(value) * 1000); };
-    const aiMatrix3x3 directions = aiMatrix3x3(placement).Inverse().Transpose();
+    const aiMatrix3x3 directions = aiMatrix3x3(worldTransform).Inverse().Transpose();
     for (int first = 0; first + 2 < mesh.indices.getNum(); first += 3) {
         WorldTriangle triangle{};
         for (int corner = 0; corner < 3; ++corner) {
             const int index = mesh.indices[first + corner];
-            const aiVector3D place = placement * orvane::toAiVector(mesh.positions[index]);
+            const aiVector3D place = worldTransform * orvane::toAiVector(mesh.positions[index]);
             const VbVec3f given = mesh.normals.getNum() > 0 ? mesh.normals[index] : VbVec3f(0, 0, 1);
             const aiVector3D normal = (directions * orvane::toAiVector(given)).Normalize();
             const VbVec2f texture = mesh.textureCoordinates.getNum() > 0 ? mesh.textureCoordinates[index] : VbVec2f();
@@ -37,12 +38,12 @@ inline void addWorldTriangles(std::vector<WorldTriangle>& triangles, const NxMes
 
 inline void addWorldTriangles(std::vector<WorldTriangle>& triangles, const NxGroup& group, const aiMatrix4x4& above)
 {
-    const aiMatrix4x4 placement = above * orvane::matrixOf(group);
+    const aiMatrix4x4 worldTransform = above * orvane::matrixOf(group);
     for (NxNode* child : group.getChildren()) {
         if (const auto* mesh = dynamic_cast<const NxMesh*>(child))
-            addWorldTriangles(triangles, *mesh, placement);
+            addWorldTriangles(triangles, *mesh, worldTransform);
         else if (const auto* inner = dynamic_cast<const NxGroup*>(child))
-            addWorldTriangles(triangles, *inner, placement);
+            addWorldTriangles(triangles, *inner, worldTransform);
     }
 }
 

@@ -58,7 +58,7 @@ void tst_CameraConversion::aCameraIsMovedByAMatrixThatKeepsLengths()
     foreign.mLookAt = aiVector3D(0, 0, -1);
     const NxRef<NxCamera> camera = toCamera(foreign);
     QVERIFY(camera->orientation.isDefault());
-    QVERIFY(moveCamera(*camera, placementMatrix(VbRotation(VbVec3f(0, 1, 0), 0.5F), VbVec3f(5, 0, 0))));
+    QVERIFY(moveCamera(*camera, rigidMatrix(VbRotation(VbVec3f(0, 1, 0), 0.5F), VbVec3f(5, 0, 0))));
     QCOMPARE(camera->position.getValue(), VbVec3f(5 + std::sin(0.5F), 0, std::cos(0.5F)));
     QVERIFY(std::abs(camera->orientation.getValue().getAngle() - 0.5F) < 1e-5F);
 
@@ -77,11 +77,11 @@ void tst_CameraConversion::camerasComeBackAsTheyWere()
     camera->nearDistance.setValue(0.5F);
     camera->farDistance.setValue(50);
     camera->heightAngle.setValue(1);
-    aiMatrix4x4 placement;
-    const std::unique_ptr<aiCamera> foreign = toAiCamera(*camera, placement);
+    aiMatrix4x4 transform;
+    const std::unique_ptr<aiCamera> foreign = toAiCamera(*camera, transform);
     QVERIFY(foreign != nullptr);
     const NxRef<NxCamera> result = toCamera(*foreign);
-    QVERIFY(moveCamera(*result, placement));
+    QVERIFY(moveCamera(*result, transform));
     QCOMPARE(result->position.getValue(), VbVec3f(1, 2, 3));
     QVERIFY(std::abs(result->orientation.getValue().getAngle() - 1) < 1e-5F);
     QCOMPARE(result->nearDistance.getValue(), 0.5F);
@@ -90,7 +90,7 @@ void tst_CameraConversion::camerasComeBackAsTheyWere()
 
     const NxRef<NxOrthographicCamera> flat = new NxOrthographicCamera;
     flat->height.setValue(7);
-    const NxRef<NxCamera> sameFlat = toCamera(*toAiCamera(*flat, placement));
+    const NxRef<NxCamera> sameFlat = toCamera(*toAiCamera(*flat, transform));
     QCOMPARE(dynamic_cast<NxOrthographicCamera&>(*sameFlat).height.getValue(), 7.0F);
 }
 

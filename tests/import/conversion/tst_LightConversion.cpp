@@ -34,17 +34,17 @@ aiLight lightOf(aiLightSourceType type)
 }
 
 // A quarter turn about y, twice as large, moved up by ten.
-aiMatrix4x4 placement()
+aiMatrix4x4 transform()
 {
     aiMatrix4x4 scale;
     aiMatrix4x4::Scaling({2, 2, 2}, scale);
-    return placementMatrix(VbRotation(VbVec3f(0, 1, 0), rightAngle), VbVec3f(0, 10, 0)) * scale;
+    return rigidMatrix(VbRotation(VbVec3f(0, 1, 0), rightAngle), VbVec3f(0, 10, 0)) * scale;
 }
 
 template <typename Light>
 NxRef<Light> convertedTo(const aiLight& light)
 {
-    return dynamic_cast<Light*>(toLight(light, placement()).get());
+    return dynamic_cast<Light*>(toLight(light, transform()).get());
 }
 
 template <typename Light>

@@ -62,13 +62,13 @@ QStringList contents(const NxGroup& group)
 std::vector<aiVector3D> placedCorners(const NxGroup& group, const aiMatrix4x4& above = {})
 {
     std::vector<aiVector3D> corners;
-    const aiMatrix4x4 placement = above * orvane::matrixOf(group);
+    const aiMatrix4x4 worldTransform = above * orvane::matrixOf(group);
     for (NxNode* child : group.getChildren()) {
         if (const auto* mesh = dynamic_cast<const NxMesh*>(child)) {
             for (const int index : mesh->indices.getValues())
-                corners.push_back(placement * orvane::toAiVector(mesh->positions[index]));
+                corners.push_back(worldTransform * orvane::toAiVector(mesh->positions[index]));
         } else if (const auto* inner = dynamic_cast<const NxGroup*>(child)) {
-            const std::vector<aiVector3D> more = placedCorners(*inner, placement);
+            const std::vector<aiVector3D> more = placedCorners(*inner, worldTransform);
             corners.insert(corners.end(), more.begin(), more.end());
         }
     }

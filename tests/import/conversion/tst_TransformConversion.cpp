@@ -54,7 +54,7 @@ private Q_SLOTS:
 
 void tst_TransformConversion::theTranslationStandsInTheLastRow()
 {
-    const aiMatrix4x4 matrix = placementMatrix(VbRotation(), VbVec3f(1, 2, 3));
+    const aiMatrix4x4 matrix = rigidMatrix(VbRotation(), VbVec3f(1, 2, 3));
     QCOMPARE(matrix.a4, 1.0F);
     QVERIFY(toMatrix(matrix)[3] == (std::array<float, 4>{1, 2, 3, 1}));
     QVERIFY(toAiMatrix(toMatrix(matrix)) == matrix);
@@ -71,15 +71,15 @@ void tst_TransformConversion::matricesBecomeTransforms_data()
     aiMatrix4x4 bad;
     bad.a1 = std::numeric_limits<float>::quiet_NaN();
     QTest::newRow("identity") << aiMatrix4x4() << true;
-    QTest::newRow("moved") << placementMatrix(VbRotation(), place) << true;
-    QTest::newRow("turned") << placementMatrix(turn, place) << true;
-    QTest::newRow("half a turn") << placementMatrix(VbRotation(VbVec3f(0, 1, 0), 3.1415927F), place) << true;
-    QTest::newRow("scaled alike") << placementMatrix(turn, place) * scaling(3, 3, 3) << true;
-    QTest::newRow("scaled apart") << placementMatrix(turn, place) * scaling(2, 3, 0.001F) << true;
-    QTest::newRow("mirrored along x") << placementMatrix(turn, place) * scaling(-1, 1, 1) << true;
-    QTest::newRow("mirrored along y") << placementMatrix(turn, place) * scaling(1, -2, 1) << true;
-    QTest::newRow("mirrored along all") << placementMatrix(turn, place) * scaling(-1, -1, -1) << true;
-    QTest::newRow("scaled after turning") << scaling(2, 3, 4) * placementMatrix(turn, place) << false;
+    QTest::newRow("moved") << rigidMatrix(VbRotation(), place) << true;
+    QTest::newRow("turned") << rigidMatrix(turn, place) << true;
+    QTest::newRow("half a turn") << rigidMatrix(VbRotation(VbVec3f(0, 1, 0), 3.1415927F), place) << true;
+    QTest::newRow("scaled alike") << rigidMatrix(turn, place) * scaling(3, 3, 3) << true;
+    QTest::newRow("scaled apart") << rigidMatrix(turn, place) * scaling(2, 3, 0.001F) << true;
+    QTest::newRow("mirrored along x") << rigidMatrix(turn, place) * scaling(-1, 1, 1) << true;
+    QTest::newRow("mirrored along y") << rigidMatrix(turn, place) * scaling(1, -2, 1) << true;
+    QTest::newRow("mirrored along all") << rigidMatrix(turn, place) * scaling(-1, -1, -1) << true;
+    QTest::newRow("scaled after turning") << scaling(2, 3, 4) * rigidMatrix(turn, place) << false;
     QTest::newRow("sheared") << sheared() << false;
     QTest::newRow("flat") << scaling(1, 0, 1) << false;
     QTest::newRow("projection") << projection << false;
@@ -134,7 +134,7 @@ void tst_TransformConversion::aCameraLooksAlongItsDirection()
 {
     QFETCH(aiVector3D, direction);
     QFETCH(aiVector3D, up);
-    const aiMatrix4x4 matrix = placementMatrix(rotationTo(direction, up), VbVec3f());
+    const aiMatrix4x4 matrix = rigidMatrix(rotationTo(direction, up), VbVec3f());
     const aiVector3D wanted = direction.Length() > 0 ? direction / direction.Length() : aiVector3D(0, 0, -1);
     QVERIFY(isNear(matrix * aiVector3D(0, 0, -1), wanted));
     QVERIFY2(matrix * aiVector3D(0, 1, 0) * up >= -1e-5F, "up doesn't point down");
@@ -144,7 +144,7 @@ void tst_TransformConversion::onlyAMatrixThatKeepsLengthsIsRigid()
 {
     VbRotation rotation;
     VbVec3f translation;
-    QVERIFY(isRigid(placementMatrix(VbRotation(VbVec3f(0, 0, 1), 1), VbVec3f(1, 2, 3)), rotation, translation));
+    QVERIFY(isRigid(rigidMatrix(VbRotation(VbVec3f(0, 0, 1), 1), VbVec3f(1, 2, 3)), rotation, translation));
     QCOMPARE(translation, VbVec3f(1, 2, 3));
     QVERIFY(std::abs(rotation.getAngle() - 1) < 1e-5F);
     QVERIFY(!isRigid(scaling(2, 2, 2), rotation, translation));

@@ -194,7 +194,7 @@ bool locked(const std::string& locks, const std::string& folder)
     if (locks == "none")
         return true;
     orvane::applyLimits({});
-    const orvane::Locks all = orvane::lockIn(folders);
+    const orvane::SandboxState all = orvane::enterSandbox(folders);
     return all.files && all.systemCalls && all.noNewPrivileges;
 }
 

@@ -18,10 +18,10 @@ private:
 
 void tst_NxEnumeration::valuesAndNamesKeepTheirOrder()
 {
-    QCOMPARE(m_modes.getCount(), 4);
-    QCOMPARE(m_modes.getValues()[2], -1);
-    QVERIFY(m_modes.getNames()[0] == VbName("off"));
-    QVERIFY(m_modes.getNames()[3] == VbName("quick"));
+    QCOMPARE(m_modes.count(), 4);
+    QCOMPARE(m_modes.values()[2], -1);
+    QVERIFY(m_modes.names()[0] == VbName("off"));
+    QVERIFY(m_modes.names()[3] == VbName("quick"));
 }
 
 void tst_NxEnumeration::valuesAreFoundByName()
@@ -45,7 +45,7 @@ void tst_NxEnumeration::anEnumerationMayBeEmpty()
 {
     const NxEnumeration empty{};
     int value = 42;
-    QCOMPARE(empty.getCount(), 0);
+    QCOMPARE(empty.count(), 0);
     QVERIFY(!empty.valueByName("", value));
     QVERIFY(empty.nameByValue(0) == nullptr);
 }

@@ -31,7 +31,7 @@ std::pair<float, float> depthRange(const NxViewpoint& viewpoint, const NxBounds&
     float nearest = std::numeric_limits<float>::max();
     float farthest = std::numeric_limits<float>::lowest();
     for (unsigned int corner = 0; corner < 8; ++corner) {
-        const float distance = viewpoint.getDistance(VbVec3f((corner & 1U) != 0 ? shown.max[0] : shown.min[0],
+        const float distance = viewpoint.distanceTo(VbVec3f((corner & 1U) != 0 ? shown.max[0] : shown.min[0],
             (corner & 2U) != 0 ? shown.max[1] : shown.min[1], (corner & 4U) != 0 ? shown.max[2] : shown.min[2]));
         nearest = std::min(nearest, distance);
         farthest = std::max(farthest, distance);
@@ -55,21 +55,21 @@ std::pair<float, float> depthRange(const NxViewpoint& viewpoint, const NxBounds&
 
 PictureFrame::PictureFrame(
     const NxViewpoint& viewpoint, const NxBounds& shown, int pictureWidth, int pictureHeight, float pixelsPerPoint)
-    : position(viewpoint.getPosition())
-    , direction(viewpoint.getDirection())
+    : position(viewpoint.usablePosition())
+    , direction(viewpoint.viewDirection())
     , width(pictureWidth)
     , height(pictureHeight)
     , scale(pixelsPerPoint)
 {
     const auto [nearest, farthest] = depthRange(viewpoint, shown);
     const float aspect = static_cast<float>(width) / static_cast<float>(height);
-    eyeToClip = multiply(viewpoint.getTurn(), viewpoint.getProjectionMatrix(aspect, nearest, farthest));
+    eyeToClip = multiply(viewpoint.viewRotation(), viewpoint.projectionMatrix(aspect, nearest, farthest));
     const bool isFlat = viewpoint.projection == NxViewpoint::ORTHOGRAPHIC;
     if (isFlat)
         eye = {-direction[0], -direction[1], -direction[2], 0};
     else
         eye = {0, 0, 0, 1};
-    pixelsPerUnit = static_cast<float>(height) / viewpoint.getHeightAt(1);
+    pixelsPerUnit = static_cast<float>(height) / viewpoint.heightAt(1);
 }
 
 double PictureFrame::depthOf(const VbVec3d& point) const noexcept

@@ -13,7 +13,7 @@ bool GLErrors::report(const std::string& operation)
         if (error == GL_NO_ERROR)
             break;
         isSome = true;
-        if (m_told.emplace(error, operation).second)
+        if (m_reported.emplace(error, operation).second)
             NxGLError::post(error, VbString(operation));
     }
     return isSome;

@@ -20,11 +20,11 @@ public:
     /// Reports the errors since the latest call; true if there were some.
     bool report(const std::string& operation);
     /// Reports all anew from now on.
-    void forget() { m_told.clear(); }
+    void forget() { m_reported.clear(); }
 
 private:
     const NxGLFunctions& m_gl;
-    std::set<std::pair<GLenum, std::string>> m_told;
+    std::set<std::pair<GLenum, std::string>> m_reported;
 };
 
 } // namespace meridane

@@ -18,7 +18,7 @@ public:
         : m_origin(bounds.min)
         , m_cells(cells)
     {
-        const VbVec3f size = bounds.getSize();
+        const VbVec3f size = bounds.size();
         const float longest = std::max({size[0], size[1], size[2]});
         m_scale = longest > 0 ? static_cast<float>(cells) / longest : 0;
     }
@@ -44,15 +44,15 @@ class Corners {
 public:
     Corners(const NxMesh& mesh, const MeshShape& shape, std::uint32_t cells, SimplifiedMesh& result)
         : m_grid(shape.bounds, cells)
-        , m_positions(counting(mesh.positions).getValues())
+        , m_positions(effectiveField(mesh.positions).getValues())
         , m_result(result)
     {
         if (shape.hasNormals)
-            m_normals = counting(mesh.normals).getValues();
+            m_normals = effectiveField(mesh.normals).getValues();
         if (shape.hasCoordinates)
-            m_coordinates = counting(mesh.textureCoordinates).getValues();
+            m_coordinates = effectiveField(mesh.textureCoordinates).getValues();
         if (shape.colors == MeshShape::Colors::Each)
-            m_colors = counting(mesh.colors).getValues();
+            m_colors = effectiveField(mesh.colors).getValues();
     }
 
     std::uint32_t take(std::uint32_t index)

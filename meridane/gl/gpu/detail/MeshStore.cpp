@@ -14,8 +14,8 @@ constexpr unsigned int layoutWithIndices = 1U << indexList;
 /// The numbers of floats of the attributes.
 constexpr std::array<std::size_t, attributes> components{3, 3, 2, 4};
 /// A page that holds several meshes isn't made larger.
-constexpr std::uint32_t mostSharedVertices = 1U << 22U;
-constexpr std::uint32_t mostSharedIndices = 1U << 24U;
+constexpr std::uint32_t maxSharedVertices = 1U << 22U;
+constexpr std::uint32_t maxSharedIndices = 1U << 24U;
 
 std::size_t elementBytes(std::size_t list)
 {
@@ -53,15 +53,15 @@ std::span<const std::byte> bytesOfMesh(const NxMesh& mesh, std::size_t list)
 {
     switch (list) {
     case 0:
-        return std::as_bytes(counting(mesh.positions).getValues());
+        return std::as_bytes(effectiveField(mesh.positions).getValues());
     case 1:
-        return std::as_bytes(counting(mesh.normals).getValues());
+        return std::as_bytes(effectiveField(mesh.normals).getValues());
     case 2:
-        return std::as_bytes(counting(mesh.textureCoordinates).getValues());
+        return std::as_bytes(effectiveField(mesh.textureCoordinates).getValues());
     case 3:
-        return std::as_bytes(counting(mesh.colors).getValues());
+        return std::as_bytes(effectiveField(mesh.colors).getValues());
     default:
-        return std::as_bytes(counting(mesh.indices).getValues());
+        return std::as_bytes(effectiveField(mesh.indices).getValues());
     }
 }
 
@@ -92,8 +92,8 @@ void MeshStore::releaseRange(MeshRange& range)
     if (range.page == noId)
         return;
     Page& page = m_pages[range.page];
-    page.vertices.giveBack(range.firstVertex, range.vertexCount);
-    page.indices.giveBack(range.firstIndex, range.indexCount);
+    page.vertices.release(range.firstVertex, range.vertexCount);
+    page.indices.release(range.firstIndex, range.indexCount);
     --page.meshes;
     range = MeshRange();
 }
@@ -130,7 +130,7 @@ MeshStore::Transfer MeshStore::describe(MeshRecord& mesh, std::uint32_t cells)
     if (mesh.shape.needsFilter)
         transfer.indexCount = static_cast<std::uint32_t>(usableIndices(*mesh.mesh()).size());
     else
-        transfer.indexCount = static_cast<std::uint32_t>(counting(mesh.mesh()->indices).getNum());
+        transfer.indexCount = static_cast<std::uint32_t>(effectiveField(mesh.mesh()->indices).getNum());
     return transfer;
 }
 
@@ -248,8 +248,8 @@ Id MeshStore::makePage(std::span<const Transfer> transfers, std::size_t first)
     std::uint32_t indexCount = transfers[first].indexCount;
     for (const Transfer& transfer : transfers.subspan(first + 1)) {
         if (transfer.layout != page.layout
-            || transfer.vertexCount > mostSharedVertices - std::min(vertexCount, mostSharedVertices)
-            || transfer.indexCount > mostSharedIndices - std::min(indexCount, mostSharedIndices))
+            || transfer.vertexCount > maxSharedVertices - std::min(vertexCount, maxSharedVertices)
+            || transfer.indexCount > maxSharedIndices - std::min(indexCount, maxSharedIndices))
             break;
         vertexCount += transfer.vertexCount;
         indexCount += transfer.indexCount;

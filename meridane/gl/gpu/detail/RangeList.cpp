@@ -20,7 +20,7 @@ std::optional<std::uint32_t> RangeList::take(std::uint32_t size)
     return start;
 }
 
-void RangeList::giveBack(std::uint32_t start, std::uint32_t size)
+void RangeList::release(std::uint32_t start, std::uint32_t size)
 {
     if (size == 0)
         return;

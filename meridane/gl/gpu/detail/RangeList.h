@@ -17,7 +17,7 @@ public:
 
     /// The start of a range of that size; nothing when none is free. A range of none starts at 0.
     std::optional<std::uint32_t> take(std::uint32_t size);
-    void giveBack(std::uint32_t start, std::uint32_t size);
+    void release(std::uint32_t start, std::uint32_t size);
     [[nodiscard]] bool canTake(std::uint32_t size) const;
 
 private:

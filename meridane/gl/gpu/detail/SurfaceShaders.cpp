@@ -13,7 +13,7 @@ layout(location = 1) in vec3 normal;
 layout(location = 2) in vec2 coordinate;
 layout(location = 3) in vec4 color;
 uniform vec3 origin;
-uniform mat4 placement;
+uniform mat4 modelMatrix;
 uniform mat4 eyeToClip;
 uniform mat3 normalMatrix;
 uniform float pointSize;
@@ -30,7 +30,7 @@ out vec4 ownColor;
 void main()
 {
     // The difference of two numbers that are near each other is exact, however large they are.
-    vec4 point = placement * vec4(position - origin, 1.0);
+    vec4 point = modelMatrix * vec4(position - origin, 1.0);
     scenePoint = point.xyz / point.w;
 #if LIGHT == SMOOTH || LIGHT == LINE
     sceneNormal = normalMatrix * normal;
@@ -62,7 +62,7 @@ in vec4 ownColor;
 #endif
 uniform vec4 eye;
 uniform vec4 material[4];
-layout(std140) uniform Lights { vec4 lightCount; vec4 lights[4 * MOST_LIGHTS]; };
+layout(std140) uniform Lights { vec4 lightCount; vec4 lights[4 * MAX_LIGHTS]; };
 out vec4 pictureColor;
 
 const float ambientLight = 0.2;
@@ -156,14 +156,14 @@ SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant varian
 {
     std::string head = "#define UNLIT 0\n#define SMOOTH 1\n#define FLAT 2\n#define LINE 3\n";
     head += "#define LIGHT " + std::to_string(static_cast<int>(variant.light)) + "\n";
-    head += "#define MOST_LIGHTS " + std::to_string(LightList::most) + "\n";
+    head += "#define MAX_LIGHTS " + std::to_string(LightList::maxLights) + "\n";
     head += variant.isTextured ? "#define TEXTURED\n" : "";
     head += variant.hasColors ? "#define COLORED\n" : "";
     SurfaceProgram result{GLProgram(gl, "meshes", head + vertexSource, head + fragmentSource)};
     if (!result.program.isUsable())
         return result;
     result.origin = result.program.uniform("origin");
-    result.placement = result.program.uniform("placement");
+    result.modelMatrix = result.program.uniform("modelMatrix");
     result.normalMatrix = result.program.uniform("normalMatrix");
     result.eyeToClip = result.program.uniform("eyeToClip");
     result.eye = result.program.uniform("eye");

@@ -30,7 +30,7 @@ struct SurfaceVariant {
 struct SurfaceProgram {
     GLProgram program;
     int origin = -1; ///< vec3: `MeshShape::origin`
-    int placement = -1; ///< mat4, from the mesh, relative to its origin, to the scene, relative to the eye
+    int modelMatrix = -1; ///< mat4, from the mesh, relative to its origin, to the scene, relative to the eye
     int normalMatrix = -1; ///< mat3
     int eyeToClip = -1; ///< mat4
     int eye = -1; ///< vec4, as in `PictureFrame`

@@ -55,11 +55,11 @@ void load(TextureImage& image, const std::string& path, TextureRecord& record, c
 }
 
 /// Takes the pixel in the middle of each block of pixels.
-void shrink(TextureImage& image, int mostSide)
+void shrink(TextureImage& image, int maxSide)
 {
     NxImage small;
-    small.width = std::min(image.width, mostSide);
-    small.height = std::min(image.height, mostSide);
+    small.width = std::min(image.width, maxSide);
+    small.height = std::min(image.height, maxSide);
     small.components = image.components;
     small.bytes.reserve(byteCount(small));
     const auto source = [](int at, int from, int to) {
@@ -95,13 +95,13 @@ bool TextureImage::isTranslucent() const
     return false;
 }
 
-TextureImage imageOf(TextureRecord& record, const NxImageLoader& loader, int mostSide, Problems& problems)
+TextureImage imageOf(TextureRecord& record, const NxImageLoader& loader, int maxSide, Problems& problems)
 {
     const NxTexture& texture = *record.texture();
     TextureImage image;
     VbVec2s size;
-    image.bytes = counting(texture.image).getValue(size, image.components);
-    const std::string path(counting(texture.filePath).getValue().view());
+    image.bytes = effectiveField(texture.image).getValue(size, image.components);
+    const std::string path(effectiveField(texture.filePath).getValue().view());
     if (image.bytes != nullptr) {
         image.width = size[0];
         image.height = size[1];
@@ -110,13 +110,13 @@ TextureImage imageOf(TextureRecord& record, const NxImageLoader& loader, int mos
     }
     problems.note(record, Problem::NoImage, image.bytes == nullptr && path.empty(),
         [] { return "it has neither an image nor an image file; surfaces are drawn without it"; });
-    const bool isTooLarge = image.width > mostSide || image.height > mostSide;
+    const bool isTooLarge = image.width > maxSide || image.height > maxSide;
     problems.note(record, Problem::ImageTooLarge, isTooLarge, [&] {
         return "its image of " + sizeText(image.width, image.height) + " pixels is drawn smaller; the card takes "
-            + std::to_string(mostSide) + " a side";
+            + std::to_string(maxSide) + " a side";
     });
     if (isTooLarge)
-        shrink(image, mostSide);
+        shrink(image, maxSide);
     return image;
 }
 

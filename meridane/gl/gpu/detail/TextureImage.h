@@ -22,9 +22,8 @@ struct TextureImage {
     [[nodiscard]] bool isTranslucent() const;
 };
 
-/// The image of a texture's field, or else of its file, made smaller if it is wider or higher than `mostSide`. Reports
+/// The image of a texture's field, or else of its file, made smaller if it is wider or higher than `maxSide`. Reports
 /// what is wrong with it.
-[[nodiscard]] TextureImage imageOf(
-    TextureRecord& record, const NxImageLoader& loader, int mostSide, Problems& problems);
+[[nodiscard]] TextureImage imageOf(TextureRecord& record, const NxImageLoader& loader, int maxSide, Problems& problems);
 
 } // namespace meridane

@@ -13,10 +13,10 @@ namespace {
 
 // In OpenGL since 4.6 only, but there with nearly every driver.
 constexpr GLenum anisotropy = 0x84FE;
-constexpr GLenum mostAnisotropyName = 0x84FF;
+constexpr GLenum maxAnisotropyName = 0x84FF;
 
 struct Format {
-    GLint onCard;
+    GLint internal;
     GLenum ofBytes;
 };
 
@@ -68,11 +68,11 @@ void TextureStore::update(
     if (!texture.isStale || texture.texture() == nullptr)
         return;
     texture.isStale = false;
-    if (m_mostSide == 0)
-        m_gl.GetIntegerv(GL_MAX_TEXTURE_SIZE, &m_mostSide);
-    texture.repeatsS = counting(texture.texture()->wrapS).getValue() != NxTexture::CLAMP;
-    texture.repeatsT = counting(texture.texture()->wrapT).getValue() != NxTexture::CLAMP;
-    const TextureImage image = imageOf(texture, loader, m_mostSide, problems);
+    if (m_maxSide == 0)
+        m_gl.GetIntegerv(GL_MAX_TEXTURE_SIZE, &m_maxSide);
+    texture.repeatsS = effectiveField(texture.texture()->wrapS).getValue() != NxTexture::CLAMP;
+    texture.repeatsT = effectiveField(texture.texture()->wrapT).getValue() != NxTexture::CLAMP;
+    const TextureImage image = imageOf(texture, loader, m_maxSide, problems);
     if (image.isPending)
         return;
     const std::uint64_t fingerprint = image.width == 0 ? 0 : fingerprintOf(image);
@@ -95,7 +95,7 @@ void TextureStore::upload(TextureRecord& texture, const TextureImage& image)
     m_gl.BindTexture(GL_TEXTURE_2D, texture.name);
     m_gl.PixelStorei(GL_UNPACK_ALIGNMENT, 1);
     m_gl.TexImage2D(
-        GL_TEXTURE_2D, 0, format.onCard, image.width, image.height, 0, format.ofBytes, GL_UNSIGNED_BYTE, image.bytes);
+        GL_TEXTURE_2D, 0, format.internal, image.width, image.height, 0, format.ofBytes, GL_UNSIGNED_BYTE, image.bytes);
     constexpr int usualAlignment = 4;
     m_gl.PixelStorei(GL_UNPACK_ALIGNMENT, usualAlignment);
     if (image.components < 3) {
@@ -136,8 +136,8 @@ void TextureStore::forget()
     m_garbage.clear();
     m_samplers.fill(0);
     m_bytes = 0;
-    m_mostAnisotropy = 0;
-    m_mostSide = 0;
+    m_maxAnisotropy = 0;
+    m_maxSide = 0;
 }
 
 void TextureStore::bind(const TextureRecord& texture, float quality)
@@ -160,15 +160,15 @@ unsigned int TextureStore::sampler(bool repeatsS, bool repeatsT, std::size_t qua
     m_gl.SamplerParameteri(name, GL_TEXTURE_MAG_FILTER, quality == 0 ? GL_NEAREST : GL_LINEAR);
     if (quality + 1 < qualities)
         return name;
-    if (m_mostAnisotropy <= 0) {
-        m_mostAnisotropy = 1;
-        m_gl.GetFloatv(mostAnisotropyName, &m_mostAnisotropy);
+    if (m_maxAnisotropy <= 0) {
+        m_maxAnisotropy = 1;
+        m_gl.GetFloatv(maxAnisotropyName, &m_maxAnisotropy);
         if (m_gl.GetError() != GL_NO_ERROR) // a driver without it
-            m_mostAnisotropy = 1;
+            m_maxAnisotropy = 1;
     }
     constexpr float enough = 8;
-    if (m_mostAnisotropy > 1)
-        m_gl.SamplerParameterf(name, anisotropy, std::min(m_mostAnisotropy, enough));
+    if (m_maxAnisotropy > 1)
+        m_gl.SamplerParameterf(name, anisotropy, std::min(m_maxAnisotropy, enough));
     return name;
 }
 

@@ -50,8 +50,8 @@ private:
     std::array<unsigned int, 4 * qualities> m_samplers{};
     std::vector<unsigned int> m_garbage;
     std::size_t m_bytes = 0;
-    int m_mostSide = 0;
-    float m_mostAnisotropy = 0; // 0 until it is asked for
+    int m_maxSide = 0;
+    float m_maxAnisotropy = 0; // 0 until it is asked for
 };
 
 } // namespace meridane

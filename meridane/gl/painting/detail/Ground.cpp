@@ -25,13 +25,13 @@ VbColorRGBA withOpacity(const VbColor& color, float opacity)
 Ground::Ground(const NxViewpoint& viewpoint, const NxDrawingStyle& style)
     : m_style(style)
     , m_cell(1)
-    , m_eye(viewpoint.getPosition())
-    , m_focus(viewpoint.getFocalPoint())
+    , m_eye(viewpoint.usablePosition())
+    , m_focus(viewpoint.focalPoint())
 {
     constexpr float cellsInView = 20;
     constexpr float least = 1e-9F;
     constexpr float greatest = 1e9F;
-    const float seen = std::clamp(viewpoint.getHeightAt(viewpoint.focalDistance), least, greatest);
+    const float seen = std::clamp(viewpoint.heightAt(viewpoint.focalDistance), least, greatest);
     m_cell = std::pow(10.0F, std::ceil(std::log10(seen / cellsInView)));
     const auto snapped = [this](double value) {
         const double step = static_cast<double>(m_cell) * majorCells;

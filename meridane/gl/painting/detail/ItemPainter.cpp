@@ -37,13 +37,13 @@ bool isMirror(const Matrix4d& m) noexcept
     return dot(cross(rows[0], rows[1]), rows[2]) < 0;
 }
 
-/// The matrix that takes points relative to `origin` to where the placement puts them, relative to the eye.
-Matrix4d relativeTo(const VbVec3d& eye, const VbVec3d& origin, const Matrix4d& placement) noexcept
+/// The matrix that takes points relative to `origin` to where the worldTransform puts them, relative to the eye.
+Matrix4d relativeTo(const VbVec3d& eye, const VbVec3d& origin, const Matrix4d& worldTransform) noexcept
 {
-    Matrix4d result = placement;
+    Matrix4d result = worldTransform;
     for (std::size_t column = 0; column < 4; ++column) {
         for (std::size_t axis = 0; axis < 3; ++axis)
-            result[3][column] += origin[axis] * placement[axis][column];
+            result[3][column] += origin[axis] * worldTransform[axis][column];
     }
     for (std::size_t row = 0; row < 4; ++row) {
         for (std::size_t axis = 0; axis < 3; ++axis)
@@ -177,7 +177,7 @@ std::uint32_t ItemPainter::cellsOf(PlacedScene& scene, Id id) const
 
 double ItemPainter::depthOf(const PlacedScene& scene, const Item& item) const
 {
-    return m_frame.depthOf(transformPoint(item.mesh->shape.bounds.getCenter(), scene.table().placementOf(item)));
+    return m_frame.depthOf(transformPoint(item.mesh->shape.bounds.center(), scene.table().worldTransformOf(item)));
 }
 
 SurfaceVariant ItemPainter::variantOf(const Item& item, const Look& look) const
@@ -224,7 +224,7 @@ void ItemPainter::drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts)
         }
         // What faces away is behind what faces the eye, on every body without dents.
         m_gl.Enable(GL_CULL_FACE);
-        m_gl.FrontFace(isMirror(scene.table().placementOf(item)) ? GL_CW : GL_CCW);
+        m_gl.FrontFace(isMirror(scene.table().worldTransformOf(item)) ? GL_CW : GL_CCW);
         for (const int hidden : {GL_FRONT, GL_BACK}) {
             m_gl.CullFace(static_cast<GLenum>(hidden));
             draw(scene, drawn, state, counts);
@@ -263,15 +263,15 @@ void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxD
         const VbVec4f& color = item.mesh->shape.oneColor;
         m_gl.VertexAttrib4f(static_cast<GLuint>(Attribute::Color), color[0], color[1], color[2], color[3]);
     }
-    const Id placement = scene.table().place(item.place).placement;
+    const Id worldTransform = scene.table().place(item.place).worldTransform;
     const VbVec3f& origin = item.mesh->shape.origin;
-    if (state.placement != placement || !(state.origin == origin)) {
-        state.placement = placement;
+    if (state.worldTransform != worldTransform || !(state.origin == origin)) {
+        state.worldTransform = worldTransform;
         state.origin = origin;
-        place(scene, item, {program.origin, program.placement});
+        place(scene, item, {program.origin, program.modelMatrix});
         if (program.normalMatrix >= 0)
             m_gl.UniformMatrix3fv(
-                program.normalMatrix, 1, GL_FALSE, normalMatrixOf(scene.table().placementOf(item)).data());
+                program.normalMatrix, 1, GL_FALSE, normalMatrixOf(scene.table().worldTransformOf(item)).data());
     }
     issue(*item.mesh, drawn.range, counts);
 }
@@ -304,11 +304,11 @@ void ItemPainter::setLights(const PlacedScene& scene, const LightList* lights)
     m_lights = lights;
     m_lighting = scene.lighting();
     m_lightingEye = m_frame.position;
-    std::array<LightValues, LightList::most> values;
+    std::array<LightValues, LightList::maxLights> values;
     std::size_t count = 0;
     for (const LightList* list = lights; list != nullptr; list = list->above())
-        values[count++]
-            = lightValues(list->light().light(), scene.table().placements[list->placement()], m_frame.position);
+        values[count++] = lightValues(
+            list->light().light(), scene.table().worldTransforms[list->worldTransform()], m_frame.position);
     if (lights == nullptr)
         values[count++] = cameraLightValues();
     constexpr std::size_t headBytes = 4 * sizeof(float);
@@ -322,12 +322,12 @@ void ItemPainter::setLights(const PlacedScene& scene, const LightList* lights)
         GL_UNIFORM_BUFFER, headBytes, static_cast<GLsizeiptr>(count * sizeof(LightValues)), values.data());
 }
 
-void ItemPainter::place(const PlacedScene& scene, const Item& item, const PlacementUniforms& uniforms) const
+void ItemPainter::place(const PlacedScene& scene, const Item& item, const ModelUniforms& uniforms) const
 {
     const VbVec3f& origin = item.mesh->shape.origin;
-    const VbMatrix placement = narrowed(relativeTo(m_frame.position, origin, scene.table().placementOf(item)));
+    const VbMatrix modelMatrix = narrowed(relativeTo(m_frame.position, origin, scene.table().worldTransformOf(item)));
     m_gl.Uniform3fv(uniforms.origin, 1, origin.getValue());
-    m_gl.UniformMatrix4fv(uniforms.placement, 1, GL_FALSE, placement[0].data());
+    m_gl.UniformMatrix4fv(uniforms.modelMatrix, 1, GL_FALSE, modelMatrix[0].data());
 }
 
 void ItemPainter::issue(const MeshRecord& mesh, const MeshRange& range, NxDrawingCounts& counts) const
@@ -349,7 +349,8 @@ void ItemPainter::addBoxes(PlacedScene& scene, LinePainter& lines) const
     for (const Id id : m_boxes) {
         const Item& item = scene.table().item(id);
         const MaterialValues& material = materialOf(scene.looks()[item.look]);
-        lines.addBox(item.mesh->shape.bounds, relativeTo(m_frame.position, VbVec3d(), scene.table().placementOf(item)),
+        lines.addBox(item.mesh->shape.bounds,
+            relativeTo(m_frame.position, VbVec3d(), scene.table().worldTransformOf(item)),
             VbColorRGBA(material[0], material[1], material[2], 1));
     }
     if (!m_boxesOfAll)
@@ -360,7 +361,7 @@ void ItemPainter::addBoxes(PlacedScene& scene, LinePainter& lines) const
 }
 
 void ItemPainter::drawShapes(
-    PlacedScene& scene, std::span<const Id> items, const PlacementUniforms& uniforms, NxDrawingCounts& counts)
+    PlacedScene& scene, std::span<const Id> items, const ModelUniforms& uniforms, NxDrawingCounts& counts)
 {
     Id page = noId;
     for (const Id id : items) {

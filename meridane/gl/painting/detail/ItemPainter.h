@@ -32,13 +32,13 @@ public:
     /// The boxes of what is drawn as a box, and all boxes if the style says so.
     void addBoxes(PlacedScene& scene, LinePainter& lines) const;
     /// The variables of a program that place a mesh: see `SurfaceProgram`.
-    struct PlacementUniforms {
+    struct ModelUniforms {
         int origin;
-        int placement;
+        int modelMatrix;
     };
     /// Draws the shapes of some items, whether in view or not, with the program in use.
     void drawShapes(
-        PlacedScene& scene, std::span<const Id> items, const PlacementUniforms& uniforms, NxDrawingCounts& counts);
+        PlacedScene& scene, std::span<const Id> items, const ModelUniforms& uniforms, NxDrawingCounts& counts);
 
     [[nodiscard]] MeshStore& meshes() noexcept { return m_meshes; }
     [[nodiscard]] TextureStore& textures() noexcept { return m_textures; }
@@ -60,7 +60,7 @@ private:
         unsigned int variant = SurfaceVariant::count;
         Id page = noId;
         Id look = noId;
-        Id placement = noId;
+        Id worldTransform = noId;
         VbVec3f origin;
     };
 
@@ -73,7 +73,7 @@ private:
     void setVariant(SurfaceVariant variant);
     void setLook(const Look& look, SurfaceVariant variant);
     void setLights(const PlacedScene& scene, const LightList* lights);
-    void place(const PlacedScene& scene, const Item& item, const PlacementUniforms& uniforms) const;
+    void place(const PlacedScene& scene, const Item& item, const ModelUniforms& uniforms) const;
     void issue(const MeshRecord& mesh, const MeshRange& range, NxDrawingCounts& counts) const;
 
     const NxGLFunctions& m_gl;

@@ -43,13 +43,13 @@ void LinePainter::add(const VbVec3f& from, const VbVec3f& to, const VbColorRGBA&
     m_vertices.push_back({to, toColor});
 }
 
-void LinePainter::addBox(const NxBounds& box, const Matrix4d& placement, const VbColorRGBA& color)
+void LinePainter::addBox(const NxBounds& box, const Matrix4d& transform, const VbColorRGBA& color)
 {
     std::array<VbVec3f, 8> corners;
     for (unsigned int i = 0; i < corners.size(); ++i) {
         const VbVec3f corner((i & 1U) != 0 ? box.max[0] : box.min[0], (i & 2U) != 0 ? box.max[1] : box.min[1],
             (i & 4U) != 0 ? box.max[2] : box.min[2]);
-        corners[i] = narrowed(transformPoint(corner, placement));
+        corners[i] = narrowed(transformPoint(corner, transform));
     }
     // Corners whose numbers differ in one bit are the ends of a side.
     for (unsigned int i = 0; i < corners.size(); ++i) {

@@ -26,7 +26,7 @@ public:
 
     /// A line whose colour goes from one to the other.
     void add(const VbVec3f& from, const VbVec3f& to, const VbColorRGBA& fromColor, const VbColorRGBA& toColor);
-    void addBox(const NxBounds& box, const Matrix4d& placement, const VbColorRGBA& color);
+    void addBox(const NxBounds& box, const Matrix4d& transform, const VbColorRGBA& color);
     /// Draws the lines, and forgets them.
     void draw(const VbMatrix& eyeToClip, NxDrawingCounts& counts);
     void forget();

@@ -11,12 +11,12 @@ namespace {
 constexpr const char* shapeVertexSource = R"(
 layout(location = 0) in vec3 position;
 uniform vec3 origin;
-uniform mat4 placement;
+uniform mat4 modelMatrix;
 uniform mat4 eyeToClip;
 uniform float pointSize;
 void main()
 {
-    gl_Position = eyeToClip * (placement * vec4(position - origin, 1.0));
+    gl_Position = eyeToClip * (modelMatrix * vec4(position - origin, 1.0));
     gl_PointSize = pointSize;
 }
 )";
@@ -156,7 +156,7 @@ void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPai
         m_shapes = GLProgram(m_gl, "shapes", shapeVertexSource, shapeFragmentSource);
         if (m_shapes.isUsable()) {
             m_origin = m_shapes.uniform("origin");
-            m_placement = m_shapes.uniform("placement");
+            m_modelMatrix = m_shapes.uniform("modelMatrix");
             m_eyeToClip = m_shapes.uniform("eyeToClip");
             m_pointSize = m_shapes.uniform("pointSize");
         }
@@ -180,7 +180,7 @@ void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPai
     m_shapes.use();
     m_gl.UniformMatrix4fv(m_eyeToClip, 1, GL_FALSE, frame.eyeToClip[0].data());
     m_gl.Uniform1f(m_pointSize, style.pointSize * frame.scale);
-    painter.drawShapes(scene, items, {m_origin, m_placement}, counts);
+    painter.drawShapes(scene, items, {m_origin, m_modelMatrix}, counts);
 
     m_gl.BindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(picture));
     if (m_border.use()) {

@@ -29,7 +29,7 @@ private:
     ScreenPass m_border;
     GLProgram m_shapes;
     int m_origin = -1;
-    int m_placement = -1;
+    int m_modelMatrix = -1;
     int m_eyeToClip = -1;
     int m_pointSize = -1;
     unsigned int m_framebuffer = 0;

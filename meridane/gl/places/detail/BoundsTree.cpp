@@ -27,7 +27,7 @@ NxBounds joined(NxBounds box, const NxBounds& other) noexcept
 
 std::size_t longestAxis(const NxBounds& box) noexcept
 {
-    const VbVec3f size = box.getSize();
+    const VbVec3f size = box.size();
     return size[0] >= size[1] && size[0] >= size[2] ? 0 : size[1] >= size[2] ? 1 : 2;
 }
 
@@ -153,7 +153,7 @@ Id BoundsTree::build(Id* first, Id* last, Id parent)
     NxBounds centers;
     for (const Id* item = first; item != last; ++item) {
         box.include(m_items[*item].box);
-        centers.include(m_items[*item].box.getCenter());
+        centers.include(m_items[*item].box.center());
     }
     m_nodes[id].box = box;
     if (last - first == 1) {
@@ -164,7 +164,7 @@ Id BoundsTree::build(Id* first, Id* last, Id parent)
     const std::size_t axis = longestAxis(centers);
     Id* const middle = first + (last - first) / 2;
     std::nth_element(first, middle, last,
-        [this, axis](Id a, Id b) { return m_items[a].box.getCenter()[axis] < m_items[b].box.getCenter()[axis]; });
+        [this, axis](Id a, Id b) { return m_items[a].box.center()[axis] < m_items[b].box.center()[axis]; });
     const Id left = build(first, middle, id);
     const Id right = build(middle, last, id);
     m_nodes[id].left = left;

@@ -9,19 +9,19 @@
 namespace meridane {
 namespace {
 
-constexpr std::uint32_t leastCells = 4;
-constexpr std::uint32_t mostCells = 1024;
+constexpr std::uint32_t minCells = 4;
+constexpr std::uint32_t maxCells = 1024;
 /// Smaller meshes aren't worth it.
-constexpr std::uint32_t leastVertices = 64;
+constexpr std::uint32_t minVertices = 64;
 
 float pixelsOf(const NxBounds& bounds, const PictureFrame& frame)
 {
-    const VbVec3f size = bounds.getSize();
+    const VbVec3f size = bounds.size();
     const float longest = std::max({size[0], size[1], size[2]});
     if (!(frame.eye[3] > 0)) // the same size at any distance
         return longest * frame.pixelsPerUnit;
-    const auto distance = static_cast<float>(length(bounds.getCenter())) - longest;
-    return distance > 0 ? longest * frame.pixelsPerUnit / distance : static_cast<float>(mostCells);
+    const auto distance = static_cast<float>(length(bounds.center())) - longest;
+    return distance > 0 ? longest * frame.pixelsPerUnit / distance : static_cast<float>(maxCells);
 }
 
 float cellsFor(const ComplexityValues& complexity, const NxBounds& bounds, const PictureFrame& frame)
@@ -29,8 +29,8 @@ float cellsFor(const ComplexityValues& complexity, const NxBounds& bounds, const
     constexpr float full = 0.5F;
     if (complexity.type == NxComplexity::SCREEN_SPACE)
         return pixelsOf(bounds, frame) * complexity.value;
-    return complexity.value >= full ? static_cast<float>(mostCells)
-                                    : static_cast<float>(leastCells) + complexity.value / full * 124;
+    return complexity.value >= full ? static_cast<float>(maxCells)
+                                    : static_cast<float>(minCells) + complexity.value / full * 124;
 }
 
 } // namespace
@@ -39,9 +39,9 @@ std::uint32_t detailCells(
     const ComplexityValues& complexity, const MeshShape& shape, const NxBounds& bounds, const PictureFrame& frame)
 {
     const float wanted = cellsFor(complexity, bounds, frame);
-    if (shape.vertexCount < leastVertices || !(wanted < static_cast<float>(mostCells)))
+    if (shape.vertexCount < minVertices || !(wanted < static_cast<float>(maxCells)))
         return 0;
-    const std::uint32_t cells = std::bit_floor(std::max(static_cast<std::uint32_t>(wanted), leastCells));
+    const std::uint32_t cells = std::bit_floor(std::max(static_cast<std::uint32_t>(wanted), minCells));
     // A surface takes about that many cells.
     return 2 * cells * cells < shape.vertexCount ? cells : 0;
 }

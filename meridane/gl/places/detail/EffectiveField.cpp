@@ -5,7 +5,7 @@
 
 namespace meridane {
 
-const NxField& fieldThatCounts(const NxField& field)
+const NxField& defaultFieldOf(const NxField& field)
 {
     NxFieldContainer* const container = field.getContainer();
     if (!field.isIgnored() || container == nullptr)

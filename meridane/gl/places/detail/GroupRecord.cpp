@@ -10,7 +10,7 @@ namespace {
 
 int choiceOf(const NxSwitch& group)
 {
-    return counting(group.whichChild).getValue();
+    return effectiveField(group.whichChild).getValue();
 }
 
 } // namespace

@@ -30,14 +30,14 @@ float kindValue(LightKind kind)
     return static_cast<float>(kind);
 }
 
-VbVec3f placedDirection(const NxSFVec3f& field, const Matrix4d& placement)
+VbVec3f placedDirection(const NxSFVec3f& field, const Matrix4d& worldTransform)
 {
-    return normalized(transformDirection(counting(field).getValue(), placement), VbVec3f(0, 0, -1));
+    return normalized(transformDirection(effectiveField(field).getValue(), worldTransform), VbVec3f(0, 0, -1));
 }
 
-VbVec3f placedPoint(const NxSFVec3f& field, const Matrix4d& placement, const VbVec3d& eye)
+VbVec3f placedPoint(const NxSFVec3f& field, const Matrix4d& worldTransform, const VbVec3d& eye)
 {
-    const VbVec3d point = transformPoint(counting(field).getValue(), placement);
+    const VbVec3d point = transformPoint(effectiveField(field).getValue(), worldTransform);
     return narrowed(subtract(isFinite(point) ? point : VbVec3d(), eye));
 }
 
@@ -46,11 +46,11 @@ float usable(float value, float greatest)
     return value > 0 ? std::min(value, greatest) : 0; // 0 for a NaN
 }
 
-void putPoint(LightValues& values, const NxPointLight& light, const Matrix4d& placement, const VbVec3d& eye)
+void putPoint(LightValues& values, const NxPointLight& light, const Matrix4d& worldTransform, const VbVec3d& eye)
 {
     constexpr float greatest = 1e18F;
-    put(values, Part::Location, placedPoint(light.location, placement, eye), kindValue(LightKind::Point));
-    VbVec3f parts = counting(light.attenuation).getValue();
+    put(values, Part::Location, placedPoint(light.location, worldTransform, eye), kindValue(LightKind::Point));
+    VbVec3f parts = effectiveField(light.attenuation).getValue();
     for (std::size_t i = 0; i < 3; ++i)
         parts[i] = usable(parts[i], greatest);
     if (parts == VbVec3f())
@@ -58,22 +58,23 @@ void putPoint(LightValues& values, const NxPointLight& light, const Matrix4d& pl
     put(values, Part::Fading, parts, 0);
 }
 
-void putSpot(LightValues& values, const NxSpotLight& light, const Matrix4d& placement, const VbVec3d& eye)
+void putSpot(LightValues& values, const NxSpotLight& light, const Matrix4d& worldTransform, const VbVec3d& eye)
 {
-    const float outer = usable(counting(light.cutOffAngle).getValue(), std::numbers::pi_v<float> / 2);
-    const float inner = outer * (1 - usable(counting(light.dropOffRate).getValue(), 1));
-    put(values, Part::Location, placedPoint(light.location, placement, eye), kindValue(LightKind::Spot));
+    const float outer = usable(effectiveField(light.cutOffAngle).getValue(), std::numbers::pi_v<float> / 2);
+    const float inner = outer * (1 - usable(effectiveField(light.dropOffRate).getValue(), 1));
+    put(values, Part::Location, placedPoint(light.location, worldTransform, eye), kindValue(LightKind::Spot));
     put(values, Part::Fading, VbVec3f(1, 0, 0), outer);
-    put(values, Part::Direction, placedDirection(light.direction, placement), inner);
+    put(values, Part::Direction, placedDirection(light.direction, worldTransform), inner);
 }
 
 } // namespace
 
-LightList::LightList(std::shared_ptr<const LightList> above, LightRecord& light, Id placement, NodeRecords& records)
+LightList::LightList(
+    std::shared_ptr<const LightList> above, LightRecord& light, Id worldTransform, NodeRecords& records)
     : m_above(std::move(above))
     , m_light(&light)
     , m_records(&records)
-    , m_placement(placement)
+    , m_worldTransform(worldTransform)
     , m_count(m_above ? m_above->count() + 1 : 1)
 {
     NodeRecords::retain(light);
@@ -84,23 +85,23 @@ LightList::~LightList()
     m_records->release(*m_light);
 }
 
-LightValues lightValues(const NxLight* light, const Matrix4d& placement, const VbVec3d& eye)
+LightValues lightValues(const NxLight* light, const Matrix4d& worldTransform, const VbVec3d& eye)
 {
     LightValues values{};
-    if (light == nullptr || !counting(light->on).getValue())
+    if (light == nullptr || !effectiveField(light->on).getValue())
         return values; // black light from nowhere
-    const float intensity = usable(counting(light->intensity).getValue(), 1);
-    VbVec3f color = counting(light->color).getValue();
+    const float intensity = usable(effectiveField(light->intensity).getValue(), 1);
+    VbVec3f color = effectiveField(light->color).getValue();
     for (std::size_t i = 0; i < 3; ++i)
         color[i] = usable(color[i], 1) * intensity;
     put(values, Part::Color, color, 0);
     if (const auto* sun = dynamic_cast<const NxDirectionalLight*>(light)) {
         put(values, Part::Location, VbVec3f(), kindValue(LightKind::Directional));
-        put(values, Part::Direction, placedDirection(sun->direction, placement), 0);
+        put(values, Part::Direction, placedDirection(sun->direction, worldTransform), 0);
     } else if (const auto* lamp = dynamic_cast<const NxPointLight*>(light)) {
-        putPoint(values, *lamp, placement, eye);
+        putPoint(values, *lamp, worldTransform, eye);
     } else if (const auto* spot = dynamic_cast<const NxSpotLight*>(light)) {
-        putSpot(values, *spot, placement, eye);
+        putSpot(values, *spot, worldTransform, eye);
     }
     return values;
 }

@@ -16,18 +16,18 @@ class NodeRecords;
 /// the lights themselves hold; lists that share their beginning share it in memory as well.
 class LightList {
 public:
-    /// More lights than that don't shine on one thing.
-    static constexpr std::uint32_t most = 32;
+    /// How many lights shine on one mesh at most.
+    static constexpr std::uint32_t maxLights = 32;
 
-    /// `placement` names the matrix of the group that the light stands in.
-    LightList(std::shared_ptr<const LightList> above, LightRecord& light, Id placement, NodeRecords& records);
+    /// `worldTransform` names the matrix of the group that the light stands in.
+    LightList(std::shared_ptr<const LightList> above, LightRecord& light, Id worldTransform, NodeRecords& records);
     LightList(const LightList&) = delete;
     LightList& operator=(const LightList&) = delete;
     ~LightList();
 
     [[nodiscard]] const LightList* above() const noexcept { return m_above.get(); }
     [[nodiscard]] const LightRecord& light() const noexcept { return *m_light; }
-    [[nodiscard]] Id placement() const noexcept { return m_placement; }
+    [[nodiscard]] Id worldTransform() const noexcept { return m_worldTransform; }
     /// The number of lights, those above included.
     [[nodiscard]] std::uint32_t count() const noexcept { return m_count; }
 
@@ -35,7 +35,7 @@ private:
     std::shared_ptr<const LightList> m_above;
     LightRecord* m_light;
     NodeRecords* m_records;
-    Id m_placement;
+    Id m_worldTransform;
     std::uint32_t m_count;
 };
 
@@ -46,7 +46,8 @@ using LightValues = std::array<float, 16>;
 /// The kinds of light that shaders know.
 enum class LightKind { Directional, Point, Spot, AtCamera };
 
-[[nodiscard]] LightValues lightValues(const NxLight* light, const Matrix4d& placement, const VbVec3d& eye = VbVec3d());
+[[nodiscard]] LightValues lightValues(
+    const NxLight* light, const Matrix4d& worldTransform, const VbVec3d& eye = VbVec3d());
 /// The light at the camera, for what no light shines on.
 [[nodiscard]] LightValues cameraLightValues();
 

@@ -19,7 +19,7 @@ float fraction(float value, float otherwise = 0)
 
 void put(MaterialValues& values, std::size_t place, const NxSFColor& field, float fourth)
 {
-    const VbColor& color = counting(field).getValue();
+    const VbColor& color = effectiveField(field).getValue();
     for (std::size_t i = 0; i < 3; ++i)
         values[place + i] = fraction(color[i]);
     values[place + 3] = fourth;
@@ -34,10 +34,10 @@ MaterialValues materialValues(const NxMaterial* material)
         return defaults;
     }
     MaterialValues values{};
-    put(values, 0, material->diffuseColor, 1 - fraction(counting(material->transparency).getValue()));
+    put(values, 0, material->diffuseColor, 1 - fraction(effectiveField(material->transparency).getValue()));
     put(values, 4, material->ambientColor, 0);
     put(values, 8, material->specularColor,
-        std::max(fraction(counting(material->shininess).getValue()) * greatestExponent, 1.0F));
+        std::max(fraction(effectiveField(material->shininess).getValue()) * greatestExponent, 1.0F));
     put(values, 12, material->emissiveColor, 0);
     return values;
 }
@@ -45,8 +45,8 @@ MaterialValues materialValues(const NxMaterial* material)
 ComplexityValues complexityValues(const NxComplexity& complexity)
 {
     constexpr float usual = 0.5F;
-    return {counting(complexity.type).getValue(), fraction(counting(complexity.value).getValue(), usual),
-        fraction(counting(complexity.textureQuality).getValue(), usual)};
+    return {effectiveField(complexity.type).getValue(), fraction(effectiveField(complexity.value).getValue(), usual),
+        fraction(effectiveField(complexity.textureQuality).getValue(), usual)};
 }
 
 } // namespace meridane

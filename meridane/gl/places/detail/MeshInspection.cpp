@@ -39,8 +39,8 @@ VbVec3f originOf(const NxBounds& bounds)
     VbVec3f origin;
     if (bounds.isEmpty())
         return origin;
-    const VbVec3f center = bounds.getCenter();
-    const VbVec3f size = bounds.getSize();
+    const VbVec3f center = bounds.center();
+    const VbVec3f size = bounds.size();
     const float longest = std::max({size[0], size[1], size[2]});
     for (std::size_t axis = 0; axis < 3; ++axis) {
         if (!(std::abs(center[axis]) > farAway * longest))
@@ -84,7 +84,7 @@ void inspectColors(MeshShape& shape, std::span<const VbVec4f> colors, NodeRecord
 
 int primitiveOf(const NxMesh& mesh)
 {
-    const int primitive = counting(mesh.primitive).getValue();
+    const int primitive = effectiveField(mesh.primitive).getValue();
     return primitive == NxMesh::LINES || primitive == NxMesh::POINTS ? primitive : int{NxMesh::TRIANGLES};
 }
 
@@ -98,8 +98,8 @@ std::size_t cornersOf(int primitive)
 MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems)
 {
     MeshShape shape;
-    const std::span<const VbVec3f> positions = counting(mesh.positions).getValues();
-    const std::span<const int> indices = counting(mesh.indices).getValues();
+    const std::span<const VbVec3f> positions = effectiveField(mesh.positions).getValues();
+    const std::span<const int> indices = effectiveField(mesh.indices).getValues();
     shape.vertexCount = static_cast<std::uint32_t>(positions.size());
     shape.primitive = static_cast<std::uint8_t>(primitiveOf(mesh));
     const std::size_t uselessPositions = inspectPositions(positions, shape.bounds);
@@ -123,11 +123,11 @@ MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems)
         return "the number of its " + std::string(indices.empty() ? "positions, " : "indices, ") + std::to_string(count)
             + ", is no multiple of " + std::to_string(corners) + "; the last ones aren't drawn";
     });
-    shape.hasNormals = hasEach(
-        counting(mesh.normals).getValues().size(), positions.size(), "normals", Problem::NormalCount, record, problems);
-    shape.hasCoordinates = hasEach(counting(mesh.textureCoordinates).getValues().size(), positions.size(),
+    shape.hasNormals = hasEach(effectiveField(mesh.normals).getValues().size(), positions.size(), "normals",
+        Problem::NormalCount, record, problems);
+    shape.hasCoordinates = hasEach(effectiveField(mesh.textureCoordinates).getValues().size(), positions.size(),
         "texture coordinates", Problem::CoordinateCount, record, problems);
-    inspectColors(shape, counting(mesh.colors).getValues(), record, problems);
+    inspectColors(shape, effectiveField(mesh.colors).getValues(), record, problems);
     shape.needsFilter = uselessPositions != 0 || outOfRange != 0 || isIncomplete;
     shape.hasIndices = !indices.empty() || shape.needsFilter;
     return shape;
@@ -135,8 +135,8 @@ MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems)
 
 std::vector<std::uint32_t> usableIndices(const NxMesh& mesh)
 {
-    const std::span<const VbVec3f> positions = counting(mesh.positions).getValues();
-    const std::span<const int> indices = counting(mesh.indices).getValues();
+    const std::span<const VbVec3f> positions = effectiveField(mesh.positions).getValues();
+    const std::span<const int> indices = effectiveField(mesh.indices).getValues();
     const std::size_t corners = cornersOf(primitiveOf(mesh));
     const std::size_t count = indices.empty() ? positions.size() : indices.size();
     std::vector<std::uint32_t> result;

@@ -53,7 +53,7 @@ public:
     /// How many places, meshes and lists of lights need the record.
     std::uint32_t uses = 0;
     /// The problems of the node that were reported, one bit each.
-    std::uint16_t toldProblems = 0;
+    std::uint16_t reportedProblems = 0;
     /// The record waits to be brought in line with its node.
     bool isPending = false;
     /// The record waits for its end, unless somebody uses it again.

@@ -37,14 +37,14 @@ public:
     }
     /// The node is dead: its address may soon be another node's.
     void forgetNode(NodeRecord& record);
-    /// Destroys the records that nobody uses by now; `isGoing` is told of each before.
+    /// Destroys the records that nobody uses. Calls `beforeDestroy` with each of them first.
     template <typename Callback>
-    void bury(Callback isGoing)
+    void destroyUnused(Callback beforeDestroy)
     {
         for (NodeRecord* record : m_unused) {
             record->isUnused = false;
             if (record->uses == 0) {
-                isGoing(*record);
+                beforeDestroy(*record);
                 destroy(*record);
             }
         }

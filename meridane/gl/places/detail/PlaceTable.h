@@ -17,7 +17,7 @@ struct Place {
     Id previousOfGroup = noId;
     Id nextOfGroup = noId;
     /// The matrix that takes what stands in the place to the scene; that of the parent if the group has none.
-    Id placement = noId;
+    Id worldTransform = noId;
     /// The look of what stands at the beginning of the group.
     Id look = noId;
 };
@@ -50,16 +50,19 @@ public:
     [[nodiscard]] const Place& place(Id id) const noexcept { return m_places[id]; }
     [[nodiscard]] Item& item(Id id) noexcept { return m_items[id]; }
     [[nodiscard]] const Item& item(Id id) const noexcept { return m_items[id]; }
-    [[nodiscard]] const Matrix4d& placementOf(const Item& item) const noexcept
+    [[nodiscard]] const Matrix4d& worldTransformOf(const Item& item) const noexcept
     {
-        return placements[m_places[item.place].placement];
+        return worldTransforms[m_places[item.place].worldTransform];
     }
 
     /// Places of groups and of meshes.
     [[nodiscard]] std::size_t count() const noexcept { return m_places.count() + m_items.count(); }
-    [[nodiscard]] std::size_t bytes() const noexcept { return m_places.bytes() + m_items.bytes() + placements.bytes(); }
+    [[nodiscard]] std::size_t bytes() const noexcept
+    {
+        return m_places.bytes() + m_items.bytes() + worldTransforms.bytes();
+    }
 
-    SlotTable<Matrix4d> placements;
+    SlotTable<Matrix4d> worldTransforms;
 
 private:
     SlotTable<Place> m_places;

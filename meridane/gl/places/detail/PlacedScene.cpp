@@ -6,9 +6,9 @@
 #include <utility>
 
 namespace meridane {
-PlacedScene::PlacedScene(Listener listener, std::size_t mostPlaces)
+PlacedScene::PlacedScene(Listener listener, std::size_t maxPlaces)
     : m_listener(std::move(listener))
-    , m_mostPlaces(mostPlaces)
+    , m_maxPlaces(maxPlaces)
 {
     setRoot(nullptr);
 }
@@ -18,7 +18,7 @@ PlacedScene::~PlacedScene()
     setRoot(nullptr);
     empty(topPlace);
     m_looks.release(m_table.place(topPlace).look);
-    bury();
+    destroyUnusedRecords();
 }
 
 void PlacedScene::setRoot(NxNode* root)
@@ -29,18 +29,18 @@ void PlacedScene::setRoot(NxNode* root)
     }
     m_problems.forget();
     m_isCut = false;
-    m_isCutTold = false;
+    m_isCutReported = false;
     m_root = root;
     if (m_table.count() == 0) {
         Place top;
-        top.placement = m_table.placements.add(Matrix4d());
+        top.worldTransform = m_table.worldTransforms.add(Matrix4d());
         top.look = m_looks.use(Look());
         m_table.addPlace(top);
     }
     if (m_root)
         fill(topPlace);
     followPending(); // nodes of the former scene that are in this one as well
-    bury();
+    destroyUnusedRecords();
 }
 
 void PlacedScene::nodeTouched(NodeRecord& record)
@@ -65,7 +65,7 @@ void PlacedScene::update()
         return;
     followPending();
     fillFreeRoom();
-    bury();
+    destroyUnusedRecords();
 }
 
 void PlacedScene::followPending()
@@ -145,9 +145,9 @@ void PlacedScene::inspectMesh(MeshRecord& mesh)
     mesh.areLevelsStale = true;
 }
 
-Matrix4d PlacedScene::placementIn(GroupRecord& group, const Matrix4d& parent)
+Matrix4d PlacedScene::worldTransformIn(GroupRecord& group, const Matrix4d& parent)
 {
-    const Matrix4d own = placementOf(group.group());
+    const Matrix4d own = localTransformOf(group.group());
     m_problems.note(group, Problem::Transform, !inverse(narrowed(own)).has_value(),
         [] { return "its matrix can't be inverted; what it places is flat or can't be drawn"; });
     return multiply(own, parent);
@@ -162,11 +162,11 @@ void PlacedScene::move(Id top)
         const Place& place = m_table.place(waiting.back());
         waiting.pop_back();
         if (place.group->isTransform()) {
-            const Id above = m_table.place(place.parent).placement;
-            const Matrix4d matrix = placementIn(*place.group, m_table.placements[above]);
-            if (matrix == m_table.placements[place.placement])
+            const Id above = m_table.place(place.parent).worldTransform;
+            const Matrix4d matrix = worldTransformIn(*place.group, m_table.worldTransforms[above]);
+            if (matrix == m_table.worldTransforms[place.worldTransform])
                 continue;
-            m_table.placements[place.placement] = matrix;
+            m_table.worldTransforms[place.worldTransform] = matrix;
             ++m_lighting;
         }
         for (Id id = place.firstItem; id != noId; id = m_table.item(id).nextInPlace)
@@ -182,11 +182,11 @@ NxBounds PlacedScene::boundsOf(const Item& item, const VbVec3d& from) const
     NxBounds bounds;
     if (own.isEmpty())
         return bounds;
-    const Matrix4d& placement = m_table.placementOf(item);
+    const Matrix4d& worldTransform = m_table.worldTransformOf(item);
     for (unsigned int corner = 0; corner < 8; ++corner) {
         const VbVec3f point((corner & 1U) != 0 ? own.max[0] : own.min[0], (corner & 2U) != 0 ? own.max[1] : own.min[1],
             (corner & 4U) != 0 ? own.max[2] : own.min[2]);
-        const VbVec3f place = narrowed(subtract(transformPoint(point, placement), from));
+        const VbVec3f place = narrowed(subtract(transformPoint(point, worldTransform), from));
         if (!isFinite(place))
             return {};
         bounds.include(place);
@@ -221,7 +221,7 @@ void PlacedScene::removePlace(Id id)
     const Place place = m_table.place(id);
     m_looks.release(place.look);
     if (place.group->isTransform())
-        m_table.placements.remove(place.placement);
+        m_table.worldTransforms.remove(place.worldTransform);
     m_table.removePlace(id);
     m_records.release(*place.group);
 }
@@ -286,19 +286,19 @@ void PlacedScene::collect(Id top, std::vector<Id>& items) const
     }
 }
 
-void PlacedScene::bury()
+void PlacedScene::destroyUnusedRecords()
 {
     if (m_lightLists.size() > m_lightListsToSweep) {
         std::erase_if(m_lightLists, [](const auto& entry) { return entry.second.expired(); });
-        m_lightListsToSweep = 2 * m_lightLists.size() + LightList::most;
+        m_lightListsToSweep = 2 * m_lightLists.size() + LightList::maxLights;
     }
-    m_records.bury([this](NodeRecord& record) {
+    m_records.destroyUnused([this](NodeRecord& record) {
         if (record.isPending) // changed by whoever was told of a problem
             std::erase(m_pending, &record);
         if (record.kind() == NodeKind::Mesh)
-            m_listener.meshIsGoing(static_cast<MeshRecord&>(record));
+            m_listener.releaseMesh(static_cast<MeshRecord&>(record));
         else if (record.kind() == NodeKind::Texture)
-            m_listener.textureIsGoing(static_cast<TextureRecord&>(record));
+            m_listener.releaseTexture(static_cast<TextureRecord&>(record));
     });
 }
 

@@ -28,19 +28,19 @@ class KeptPlaces;
 class PlacedScene final : private NodeRecordListener {
 public:
     /// Groups in each other and shared may stand in more places than any memory holds.
-    static constexpr std::size_t usualMostPlaces = 4'000'000;
+    static constexpr std::size_t defaultMaxPlaces = 4'000'000;
 
     /// Who holds what the card has of a node is told when nobody needs it any more.
     struct Listener {
         std::function<void()> changed; ///< something changed; `update` is due
-        std::function<void(MeshRecord&)> meshIsGoing;
-        std::function<void(TextureRecord&)> textureIsGoing;
+        std::function<void(MeshRecord&)> releaseMesh;
+        std::function<void(TextureRecord&)> releaseTexture;
     };
 
-    /// What would take more than `mostPlaces` places of groups and meshes is left out, which is reported once for a
+    /// What would take more than `maxPlaces` places of groups and meshes is left out, which is reported once for a
     /// scene. It comes in when the group that it stands in changes and there is room, or when a quarter of the places
     /// is free.
-    explicit PlacedScene(Listener listener, std::size_t mostPlaces = usualMostPlaces);
+    explicit PlacedScene(Listener listener, std::size_t maxPlaces = defaultMaxPlaces);
     PlacedScene(const PlacedScene&) = delete;
     PlacedScene& operator=(const PlacedScene&) = delete;
     ~PlacedScene();
@@ -108,10 +108,10 @@ private:
     void removePlace(Id id);
     void removeItem(Id id);
     void move(Id top);
-    [[nodiscard]] Matrix4d placementIn(GroupRecord& group, const Matrix4d& parent);
+    [[nodiscard]] Matrix4d worldTransformIn(GroupRecord& group, const Matrix4d& parent);
     void inspectMesh(MeshRecord& mesh);
     void collect(Id top, std::vector<Id>& items) const;
-    void bury();
+    void destroyUnusedRecords();
 
     Listener m_listener;
     NxRef<NxNode> m_root;
@@ -119,7 +119,7 @@ private:
     Looks m_looks{m_records};
     /// By what they consist of, so that a group that is filled again finds its lists of lights again.
     std::map<std::tuple<const LightList*, const LightRecord*, Id>, std::weak_ptr<const LightList>> m_lightLists;
-    std::size_t m_lightListsToSweep = LightList::most; // from how many entries on those of no list are taken out
+    std::size_t m_lightListsToSweep = LightList::maxLights; // from how many entries on those of no list are taken out
     PlaceTable m_table;
     BoundsTree m_tree;
     Problems m_problems;
@@ -127,9 +127,9 @@ private:
     std::uint64_t m_structure = 0;
     std::uint64_t m_lighting = 0;
     std::uint64_t m_steps = 0;
-    std::size_t m_mostPlaces;
+    std::size_t m_maxPlaces;
     bool m_isCut = false; // something was left out for want of room
-    bool m_isCutTold = false;
+    bool m_isCutReported = false;
 };
 
 } // namespace meridane

@@ -30,7 +30,7 @@ enum class Problem : std::uint8_t {
 class Problems {
 public:
     /// How many nodes are reported for each problem.
-    static constexpr int mostReports = 20;
+    static constexpr int maxReports = 20;
 
     /// Notes whether a node has a problem now. `text` gives what to say about it, behind the name of the node.
     template <typename Text>

@@ -66,7 +66,7 @@ bool PlacedScene::fill(Id top, KeptPlaces* kept)
     m_looks.useAgain(first.look);
     stack.push_back(std::move(first));
     const bool wasCut = std::exchange(m_isCut, false);
-    const std::uint64_t lastStep = m_steps + 4 * m_mostPlaces;
+    const std::uint64_t lastStep = m_steps + 4 * m_maxPlaces;
     while (!stack.empty()) {
         Filling& filling = stack.back();
         // Shared groups may also hold many nodes that take no place.
@@ -89,7 +89,7 @@ bool PlacedScene::fill(Id top, KeptPlaces* kept)
 
 bool PlacedScene::hasRoom()
 {
-    if (m_table.count() < m_mostPlaces)
+    if (m_table.count() < m_maxPlaces)
         return true;
     m_isCut = true;
     reportCut();
@@ -98,16 +98,16 @@ bool PlacedScene::hasRoom()
 
 void PlacedScene::reportCut()
 {
-    if (std::exchange(m_isCutTold, true))
+    if (std::exchange(m_isCutReported, true))
         return;
-    const std::string text = "The scene has more than " + std::to_string(m_mostPlaces)
+    const std::string text = "The scene has more than " + std::to_string(m_maxPlaces)
         + " places of groups and meshes; the others aren't drawn";
     NxDebugError::post(NxDebugError::Warning, VbString(text));
 }
 
 void PlacedScene::fillFreeRoom()
 {
-    if (!m_isCut || m_table.count() > m_mostPlaces / 4 * 3)
+    if (!m_isCut || m_table.count() > m_maxPlaces / 4 * 3)
         return;
     m_isCut = false;
     empty(topPlace);
@@ -166,18 +166,19 @@ Id PlacedScene::lookOf(Filling& filling)
 void PlacedScene::addLight(NxLight& light, Filling& filling)
 {
     auto& record = m_records.of<LightRecord>(light, *this);
-    const bool isTooMany = filling.lights && filling.lights->count() >= LightList::most;
+    const bool isTooMany = filling.lights && filling.lights->count() >= LightList::maxLights;
     m_problems.note(record, Problem::TooManyLights, isTooMany, [] {
-        return "more than " + std::to_string(LightList::most) + " lights shine on what follows; this one is left out";
+        return "more than " + std::to_string(LightList::maxLights)
+            + " lights shine on what follows; this one is left out";
     });
     ++m_lighting;
     if (isTooMany)
         return;
-    const Id placement = m_table.place(filling.place).placement;
-    std::weak_ptr<const LightList>& known = m_lightLists[{filling.lights.get(), &record, placement}];
+    const Id worldTransform = m_table.place(filling.place).worldTransform;
+    std::weak_ptr<const LightList>& known = m_lightLists[{filling.lights.get(), &record, worldTransform}];
     std::shared_ptr<const LightList> list = known.lock();
     if (!list) {
-        list = std::make_shared<LightList>(filling.lights, record, placement, m_records);
+        list = std::make_shared<LightList>(filling.lights, record, worldTransform, m_records);
         known = list;
     }
     filling.lights = std::move(list);
@@ -207,9 +208,10 @@ void PlacedScene::addGroup(NxGroup& group, std::vector<Filling>& stack)
     Place place;
     place.group = &record;
     place.parent = above.place;
-    place.placement = m_table.place(above.place).placement;
+    place.worldTransform = m_table.place(above.place).worldTransform;
     if (record.isTransform())
-        place.placement = m_table.placements.add(placementIn(record, m_table.placements[place.placement]));
+        place.worldTransform
+            = m_table.worldTransforms.add(worldTransformIn(record, m_table.worldTransforms[place.worldTransform]));
     place.look = lookOf(above);
     Filling inner = above;
     inner.place = m_table.addPlace(place);

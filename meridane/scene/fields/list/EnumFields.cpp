@@ -23,9 +23,9 @@ void NxSFEnum::setValue(const VbName& name)
 void NxSFEnum::getEnums(int& count, int*& values, VbName*& names) const
 {
     const NxEnumeration& enumeration = format().enumeration();
-    count = enumeration.getCount();
-    values = enumeration.getValues();
-    names = enumeration.getNames();
+    count = enumeration.count();
+    values = enumeration.values();
+    names = enumeration.names();
 }
 
 bool NxSFEnum::enumValueByName(const VbName& name, int& value) const
@@ -36,7 +36,7 @@ bool NxSFEnum::enumValueByName(const VbName& name, int& value) const
 void NxMFEnum::getEnums(int& count, int*& values, VbName*& names) const
 {
     const NxEnumeration& enumeration = format().enumeration();
-    count = enumeration.getCount();
-    values = enumeration.getValues();
-    names = enumeration.getNames();
+    count = enumeration.count();
+    values = enumeration.values();
+    names = enumeration.names();
 }

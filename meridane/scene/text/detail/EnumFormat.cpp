@@ -24,9 +24,9 @@ bool EnumFormat::readTerm(TextReader& reader, int& value) const
     if (reader.readWord(word, "a name") && enumeration().valueByName(word, value))
         return true;
     std::string expected = "one of";
-    for (int i = 0; i < enumeration().getCount(); ++i)
-        expected.append(i == 0 ? " " : ", ").append(enumeration().getNames()[i].getString());
-    return reader.failAt(start, enumeration().getCount() == 0 ? "a number" : expected);
+    for (int i = 0; i < enumeration().count(); ++i)
+        expected.append(i == 0 ? " " : ", ").append(enumeration().names()[i].getString());
+    return reader.failAt(start, enumeration().count() == 0 ? "a number" : expected);
 }
 
 bool EnumFormat::read(TextReader& reader, int& value) const
@@ -59,11 +59,11 @@ void EnumFormat::writeMask(std::string& text, int value) const
 {
     auto rest = static_cast<unsigned int>(value);
     const char* separator = "";
-    for (int i = 0; i < enumeration().getCount(); ++i) {
-        const auto bits = static_cast<unsigned int>(enumeration().getValues()[i]);
+    for (int i = 0; i < enumeration().count(); ++i) {
+        const auto bits = static_cast<unsigned int>(enumeration().values()[i]);
         if (bits == 0 || (static_cast<unsigned int>(value) & bits) != bits || (rest & bits) == 0)
             continue;
-        text.append(separator).append(enumeration().getNames()[i].getString());
+        text.append(separator).append(enumeration().names()[i].getString());
         separator = " | ";
         rest &= ~bits;
     }
