@@ -107,7 +107,7 @@ struct Drawn {
     NxSceneDrawing drawing;
 };
 
-/// The least that draws a mesh in the same way: its lists in buffers, one program, one call.
+/// The baseline: draws a mesh in the same way with its lists in buffers, one program and one call.
 class BareMesh {
 public:
     BareMesh(const Screen& screen, const NxMesh& mesh, const NxBounds& bounds)
@@ -126,10 +126,10 @@ public:
         fill(2, GL_ELEMENT_ARRAY_BUFFER, std::as_bytes(mesh.indices.getValues()));
         m_gl.EnableVertexAttribArray(0);
         m_gl.EnableVertexAttribArray(1);
-        std::array<float, 4 + 16 * meridane::LightList::maxLights> lights{1};
-        const meridane::LightValues light = meridane::cameraLightValues();
-        std::copy(light.begin(), light.end(), lights.begin() + 4);
-        fill(3, GL_UNIFORM_BUFFER, std::as_bytes(std::span(lights)));
+        meridane::LightsBlock block;
+        block.count = 1;
+        block.lights[0] = meridane::cameraLightValues();
+        fill(3, GL_UNIFORM_BUFFER, std::as_bytes(std::span(&block, 1)));
     }
 
     void draw() const
@@ -148,7 +148,7 @@ public:
         m_gl.UniformMatrix4fv(m_program.eyeToClip, 1, GL_FALSE, m_frame.eyeToClip[0].data());
         m_gl.UniformMatrix3fv(m_program.normalMatrix, 1, GL_FALSE, turn.data());
         m_gl.Uniform4fv(m_program.eye, 1, m_frame.eye.data());
-        m_gl.Uniform4fv(m_program.material, 4, meridane::materialValues(nullptr).data());
+        m_gl.Uniform4fv(m_program.material, 4, meridane::asFloats(meridane::materialValues(nullptr)).data());
         m_gl.DrawElements(GL_TRIANGLES, m_count, GL_UNSIGNED_INT, nullptr);
         m_gl.Finish();
         m_gl.Disable(GL_DEPTH_TEST);
@@ -190,9 +190,9 @@ void measureTriangles(const Screen& screen)
         [&] { return bench::seconds([&] { one.draw(); }); });
 }
 
-/// What the drawing keeps in memory and has on the card. The driver's own memory doesn't count, and can't be told apart
-/// once there is a picture; so what drawing keeps is measured ahead of the picture, and what the picture adds is
-/// counted.
+/// The memory of the drawing, and its buffers on the GPU. The driver's own memory doesn't count. After the first
+/// picture it can't be distinguished from the drawing's, so the drawing is measured before, and what the picture adds
+/// is counted.
 void measureMemory(const Screen& screen, const std::string& name, NxNode* root, std::size_t meshBytes)
 {
     NxSceneDrawing drawing(screen.gl);

@@ -14,7 +14,7 @@ using namespace meridane;
 
 namespace {
 
-// Groups that share groups may stand for more places than could ever be visited.
+// Shared groups inside each other may have more instances than could ever be visited.
 constexpr std::size_t maxPlaces = 20'000'000;
 
 /// A group on the way down, and the first of its children that is still to be visited.

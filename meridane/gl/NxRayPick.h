@@ -8,32 +8,32 @@
 
 class NxNode;
 
-/// What a line of sight meets first.
+/// The first hit of a ray.
 struct NxRayHit {
-    /// The nodes from a child of the searched node down to the mesh.
+    /// The nodes from a child of the searched node to the mesh.
     std::vector<NxNode*> path;
     VbVec3d point; ///< in scene units
     float distance = 0; ///< from the origin of the ray, in scene units
     int primitive = 0; ///< the triangle, line or point of the mesh, counted from 0
 };
 
-/// Finds what stands under a line of sight.
+/// Finds the first mesh that a ray hits.
 ///
-/// Surfaces are met exactly, from either side; lines and points when the ray passes close by. Switches, transforms and
-/// ignored fields count as they do for drawing; primitives with positions that aren't there or aren't finite are passed
-/// over, as are the children of a transform that isn't finite. The search takes time in proportion to the corners of
-/// the meshes and keeps nothing.
+/// Surfaces are hit exactly, from either side; lines and points if the ray passes close to them. Switches, transforms
+/// and ignored fields have the same effect as in drawing. Primitives whose positions are missing or aren't finite are
+/// skipped, as are the children of a transform that isn't finite. The search takes time in proportion to the vertices
+/// of the meshes and stores nothing.
 class NxRayPick {
 public:
     explicit NxRayPick(const NxRay& ray);
 
-    /// How close counts as met, for lines and points: `radius` at the origin, and `slope` more for each unit of
-    /// distance. 0 and 0 at first, with which no line or point is met.
+    /// Sets how close the ray must pass to hit a line or point: `radius` at the origin, and `slope` more for each unit
+    /// of distance. Both are 0 at first, so that no line or point is hit.
     void setTolerance(float radius, float slope) noexcept;
-    /// Only what is at these distances from the origin counts. From 0 without an end at first.
+    /// Limits hits to a range of distances from the origin. At first from 0 to infinity.
     void setDistances(float nearest, float farthest) noexcept;
 
-    /// What stands below `root` and is met first, or nothing.
+    /// The first hit below `root`, or nothing.
     [[nodiscard]] std::optional<NxRayHit> pick(const NxNode& root) const;
 
 private:

@@ -1,6 +1,7 @@
 #include "meridane/gl/NxSceneDrawing.h"
 
 #include "meridane/gl/geometry/NxViewpoint.h"
+#include "meridane/gl/gpu/detail/GLStateScope.h"
 #include "meridane/gl/painting/detail/Ground.h"
 #include "meridane/gl/painting/detail/ItemPainter.h"
 #include "meridane/gl/painting/detail/LinePainter.h"
@@ -51,13 +52,14 @@ public:
     void updateSelection();
     [[nodiscard]] float lineWidth(float wanted) const;
     void drawBackground(int height);
+    void drawMeshesAndLines(const Ground& ground, const PictureFrame& frame);
 
     const NxGLFunctions& gl;
     NxDrawingStyle style;
     NxImageLoader loader;
     std::function<void()> changeHook;
     NxDrawingCounts counts;
-    /// A path, or one node in all its places; held, so that no other node can take the address.
+    /// A path, or one node. References, so that no other node can get the address.
     std::vector<NxRef<NxNode>> selection;
     bool isSelectionPath = false;
     bool isChangeReported = false;
@@ -70,7 +72,7 @@ public:
     LinePainter lines;
     OutlinePainter outline;
     ScreenPass background;
-    PlacedScene scene; // last: it gives up what the painters hold
+    PlacedScene scene; // last: its destructor releases objects of the painters
 };
 
 void NxSceneDrawing::Private::updateSelection()
@@ -87,7 +89,7 @@ void NxSceneDrawing::Private::updateSelection()
         selectedItems = isSelectionPath ? scene.itemsBelow(nodes) : scene.itemsBelow(nodes.front());
 }
 
-// Lines as wide as a point of the screen, as far as the context has them.
+// Limited to what the context supports.
 float NxSceneDrawing::Private::lineWidth(float wanted) const
 {
     int flags = 0;
@@ -108,6 +110,29 @@ void NxSceneDrawing::Private::drawBackground(int height)
     gl.Uniform3fv(background.uniform("top"), 1, style.backgroundTop.getValue());
     gl.Uniform1f(background.uniform("height"), static_cast<float>(height));
     background.draw();
+}
+
+void NxSceneDrawing::Private::drawMeshesAndLines(const Ground& ground, const PictureFrame& frame)
+{
+    const GLenum polygonMode = style.surfaces == NxDrawingStyle::WIREFRAME ? GL_LINE : GL_FILL;
+    GLStateScope depth(gl);
+    depth.setEnabled(GL_DEPTH_TEST);
+    depth.setDepthFunction(GL_LEQUAL);
+    {
+        GLStateScope surfaces(gl);
+        surfaces.setPolygonMode(polygonMode);
+        painter.drawOpaque(scene, counts);
+    }
+    {
+        GLStateScope blending(gl);
+        blending.blend();
+        ground.addLines(lines);
+        painter.addBoxes(scene, lines);
+        lines.draw(frame.eyeToClip, counts);
+    }
+    GLStateScope surfaces(gl);
+    surfaces.setPolygonMode(polygonMode);
+    painter.drawTranslucent(scene, counts);
 }
 
 NxSceneDrawing::NxSceneDrawing(const NxGLFunctions& functions)
@@ -165,7 +190,7 @@ const NxDrawingStyle& NxSceneDrawing::style() const
 void NxSceneDrawing::setImageLoader(NxImageLoader loader)
 {
     m_private->loader = std::move(loader);
-    // What couldn't be loaded may be loaded now; what is the same isn't uploaded again.
+    // The new loader may load files that the old one couldn't. Equal images aren't uploaded again.
     m_private->scene.forEach<TextureRecord>(NodeKind::Texture, [](TextureRecord& texture) { texture.isStale = true; });
     m_private->noteChange();
 }
@@ -206,36 +231,16 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
 
     gl.Viewport(0, 0, width, height);
     gl.ActiveTexture(GL_TEXTURE0);
-    self.drawBackground(height);
-    self.painter.prepare(self.scene, frame, self.style, self.loader, self.counts);
-    gl.Enable(GL_DEPTH_TEST);
-    gl.DepthFunc(GL_LEQUAL);
-    gl.Enable(GL_PROGRAM_POINT_SIZE);
-    gl.LineWidth(self.lineWidth(scale));
-    gl.PolygonMode(GL_FRONT_AND_BACK, self.style.surfaces == NxDrawingStyle::WIREFRAME ? GL_LINE : GL_FILL);
-    self.painter.drawOpaque(self.scene, self.counts);
-    gl.PolygonMode(GL_FRONT_AND_BACK, GL_FILL);
-    gl.Enable(GL_BLEND);
-    gl.BlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-    ground.addLines(self.lines);
-    self.painter.addBoxes(self.scene, self.lines);
-    self.lines.draw(frame.eyeToClip, self.counts);
-    gl.Disable(GL_BLEND);
-    gl.PolygonMode(GL_FRONT_AND_BACK, self.style.surfaces == NxDrawingStyle::WIREFRAME ? GL_LINE : GL_FILL);
-    self.painter.drawTranslucent(self.scene, self.counts);
-    gl.PolygonMode(GL_FRONT_AND_BACK, GL_FILL);
-    self.outline.draw(self.scene, self.selectedItems, self.painter, frame, self.style, self.counts);
-
-    gl.Disable(GL_DEPTH_TEST);
-    gl.DepthFunc(GL_LESS);
-    gl.Disable(GL_PROGRAM_POINT_SIZE);
-    gl.LineWidth(1);
-    gl.BlendFuncSeparate(GL_ONE, GL_ZERO, GL_ONE, GL_ZERO);
-    gl.BindVertexArray(0);
-    gl.BindBuffer(GL_ARRAY_BUFFER, 0);
-    gl.BindTexture(GL_TEXTURE_2D, 0);
-    gl.BindSampler(0, 0);
-    gl.UseProgram(0);
+    {
+        GLStateScope picture(gl);
+        picture.bindObjects();
+        self.drawBackground(height);
+        self.painter.prepare(self.scene, frame, self.style, self.loader, self.counts);
+        picture.setEnabled(GL_PROGRAM_POINT_SIZE);
+        picture.setLineWidth(self.lineWidth(scale));
+        self.drawMeshesAndLines(ground, frame);
+        self.outline.draw(self.scene, self.selectedItems, self.painter, frame, self.style, self.counts);
+    }
     ++self.counts.pictures;
     self.errors.report("Drawing the scene");
 }

@@ -17,13 +17,13 @@ class NxViewpoint;
 
 /// Draws a scene with OpenGL 3.3 and follows its changes.
 ///
-/// A picture shows the scene as it is when it is drawn, and so do the boxes. Sensors watch it: the change hook is
-/// called from the next pass of the delay queue. Of what changed, only that goes to the GPU again. Thread of the user
-/// interface only; the context that the functions belong to must be current in the constructor, in `draw` and in the
-/// destructor, and nowhere else.
+/// A picture shows the scene as it is when it is drawn, and the boxes are those of the present scene too. Sensors watch
+/// the scene: the change hook is called from the next pass of the delay queue. Only what has changed is uploaded again.
+/// For the thread of the user interface only. The context of the functions must be current in the constructor, in
+/// `draw` and in the destructor; the other functions don't need it.
 ///
-/// What can't be drawn as it stands is reported once: contents of the scene as a warning of `NxDebugError`, images that
-/// can't be loaded as an `NxReadError`, OpenGL's own errors and what its compiler says as an `NxGLError`.
+/// Problems are reported once: contents of the scene that can't be drawn as a warning of `NxDebugError`, images that
+/// can't be loaded as an `NxReadError`, errors of OpenGL and its compiler as an `NxGLError`.
 class NxSceneDrawing {
 public:
     /// The functions must be loaded and outlive the drawing.
@@ -32,44 +32,43 @@ public:
     NxSceneDrawing& operator=(const NxSceneDrawing&) = delete;
     ~NxSceneDrawing();
 
-    /// Draws this node and what stands below it from now on; null for nothing. The drawing holds a reference on it. The
-    /// selection is cleared.
+    /// Sets the root of the scene to draw; null for nothing. The drawing holds a reference to it. Clears the selection.
     void setScene(NxNode* root);
     [[nodiscard]] NxNode* scene() const;
 
-    /// Outlines a node in all its places; null for none. The drawing holds a reference on what is outlined.
+    /// Outlines all instances of a node; null for none. The drawing holds a reference to the node.
     void setSelectedNode(NxNode* node);
-    /// Outlines a node in one place, told by the nodes from a child of the scene's node down to it; empty for none.
+    /// Outlines one instance of a node, given as the path of nodes from a child of the root to it; empty for none.
     void setSelectedPath(std::span<NxNode* const> nodes);
 
     void setStyle(const NxDrawingStyle& style);
     [[nodiscard]] const NxDrawingStyle& style() const;
-    /// Who loads image files; asked again for all of them when it changes. Without a loader, textures that only name a
-    /// file aren't drawn.
+    /// Sets the loader of image files, and loads all of them again. Without a loader, textures that only name a file
+    /// aren't drawn.
     void setImageLoader(NxImageLoader loader);
-    /// What the loader says about a file has changed: the textures that name it ask again with the next picture that
-    /// they are seen in. Until then they keep the image that they have.
+    /// Tells the drawing that the loader's result for a file has changed. The textures that name the file load it again
+    /// with the next picture that shows them, and keep their image until then.
     void reloadImage(const std::string& path);
-    /// Called when the next picture would differ from the latest one: once until the next `draw`. It must only make a
-    /// note, and must not draw itself.
+    /// Sets the function that is called when the next picture would differ from the last one: once until the next
+    /// `draw`. It must only make a note, and must not draw.
     void setChangeHook(std::function<void()> hook);
 
-    /// Draws a picture of that size in device pixels into the lower left of the framebuffer that is bound, which needs
-    /// a depth buffer. `scale` is the number of device pixels in a point of the screen. All state of the context that
-    /// drawing changes is back at its default afterwards, but for the framebuffer, which stays bound.
+    /// Draws a picture of that size in device pixels into the lower left of the bound framebuffer, which needs a depth
+    /// buffer. `scale` is the number of device pixels in a point of the screen. Afterwards all state of the context
+    /// that drawing changes has OpenGL's default, except for the framebuffer, which remains bound.
     void draw(const NxViewpoint& viewpoint, int width, int height, float scale);
 
-    /// The box around all that is drawn, whether in view or not. Positions that are no finite numbers are left out.
+    /// The box around the whole scene, in view or not. Positions that aren't finite are left out.
     [[nodiscard]] NxBounds bounds();
-    /// The box around what stands below a node, in all its places.
+    /// The box around all instances of a node.
     [[nodiscard]] NxBounds bounds(const NxNode* node);
-    /// The same for one place, told as for `setSelectedPath`.
+    /// The box around one instance, given as in `setSelectedPath`.
     [[nodiscard]] NxBounds bounds(std::span<NxNode* const> nodes);
 
     [[nodiscard]] NxDrawingCounts counts() const;
 
-    /// The context is gone, and all that was in it: forgets it without touching OpenGL. The next `draw` makes
-    /// everything anew in the context that is current then, whose functions must be the same.
+    /// To be called when the context is lost with all objects in it. Calls no function of OpenGL. The next `draw`
+    /// uploads everything again to the context that is current then, whose functions must be the same.
     void contextLost();
 
 private:

@@ -12,14 +12,15 @@ class NxMesh;
 
 namespace meridane {
 
-/// The nearest place where a line meets one of several meshes. The line runs along z from the origin, so that each test
-/// is one in the plane of x and y, and also holds for meshes that a transform has made flat.
+/// The nearest hit of a line on several meshes. The line runs along z from the origin, so that each test is made in the
+/// plane of x and y, and also works for meshes that a transform has made flat.
 class MeshHit {
 public:
-    /// As for NxRayPick.
+    /// See `NxRayPick`.
     MeshHit(float radius, float slope, float nearest, float farthest);
 
-    /// Whether the line meets the mesh, which that matrix brings to the line, ahead of all earlier ones.
+    /// Whether the line hits the mesh before all meshes that were tested earlier. The matrix takes the mesh to the
+    /// line.
     [[nodiscard]] bool meet(const NxMesh& mesh, const Matrix4d& meshToLine);
 
     [[nodiscard]] double distance() const noexcept { return m_distance; }
@@ -45,10 +46,10 @@ private:
     double m_radius;
     double m_slope;
     double m_nearest;
-    double m_rank; // the distance, less for what is thin, so that lines on a surface are met ahead of it
+    double m_rank; // the distance, reduced for lines and points, so that those on a surface are hit before it
     double m_distance = 0;
     int m_primitive = 0;
-    std::vector<Point> m_points; // those of the mesh at hand
+    std::vector<Point> m_points; // of the present mesh
 };
 
 } // namespace meridane

@@ -7,8 +7,8 @@
 
 namespace meridane {
 
-/// A matrix in double precision, row by row, the identity at first. Places in a scene are composed of these: with
-/// floats a place ten million units from the origin would be rounded to whole units.
+/// A matrix in double precision, row by row; the identity at first. World transforms are computed with it: floats round
+/// positions that are ten million units from the origin to whole units.
 class Matrix4d {
 public:
     constexpr Matrix4d() noexcept = default;

@@ -63,7 +63,7 @@ std::array<VbVec3d, 3> rotationRows(const VbRotation& rotation) noexcept
         VbVec3d(2 * (x * z + w * y), 2 * (y * z - w * x), 1 - 2 * (x * x + y * y))};
 }
 
-// First about the center by scale and rotation, then back and on by the translation.
+// Scale and rotation about the center, then the translation.
 Matrix4d localTransformOf(const NxTransform& node) noexcept
 {
     const auto valueOf = [](const NxSFVec3f& field, const VbVec3f& fallback) -> VbVec3d {

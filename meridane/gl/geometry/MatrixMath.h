@@ -9,12 +9,12 @@
 
 class NxNode;
 
-/// What drawing and picking compute with matrices and vectors. As everywhere, points are rows and multiply from the
-/// left. Sums are made in double precision, and places in a scene are kept in it; numbers that aren't finite give such
-/// numbers and nothing worse.
+/// Computations with matrices and vectors for drawing and picking. Points are rows and multiply from the left, as
+/// everywhere in the toolkit. Sums are computed in double precision. Numbers that aren't finite give results that
+/// aren't finite; there are no other errors.
 namespace meridane {
 
-/// The matrix that does first what `first` does, then what `second` does.
+/// The matrix that applies `first`, then `second`.
 [[nodiscard]] VbMatrix multiply(const VbMatrix& first, const VbMatrix& second) noexcept;
 /// Nothing for a matrix that can't be inverted, or whose inverse has elements that aren't finite.
 [[nodiscard]] std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept;
@@ -22,21 +22,21 @@ namespace meridane {
 [[nodiscard]] VbMatrix scaleMatrix(const VbVec3f& factors) noexcept;
 [[nodiscard]] VbMatrix rotationMatrix(const VbRotation& rotation) noexcept;
 
-/// The place of a point, divided by its fourth coordinate where the matrix gives it another one than 1.
+/// The transformed point, divided by its fourth coordinate.
 [[nodiscard]] VbVec3f transformPoint(const VbVec3f& point, const VbMatrix& matrix) noexcept;
-/// A direction or distance: not moved by the matrix.
+/// Transforms a direction or distance, to which the translation doesn't apply.
 [[nodiscard]] VbVec3f transformDirection(const VbVec3f& direction, const VbMatrix& matrix) noexcept;
 
 [[nodiscard]] Matrix4d multiply(const Matrix4d& first, const Matrix4d& second) noexcept;
 [[nodiscard]] Matrix4d translationMatrix(const VbVec3d& distance) noexcept;
 [[nodiscard]] VbVec3d transformPoint(const VbVec3d& point, const Matrix4d& matrix) noexcept;
 [[nodiscard]] VbVec3f transformDirection(const VbVec3f& direction, const Matrix4d& matrix) noexcept;
-/// What floats keep of a matrix or a vector.
+/// The matrix or vector rounded to floats.
 [[nodiscard]] VbMatrix narrowed(const Matrix4d& matrix) noexcept;
 [[nodiscard]] VbVec3f narrowed(const VbVec3d& vector) noexcept;
 
-/// How a node places its children in the group above it: the identity for one that doesn't. An ignored field counts
-/// with its default.
+/// The local transform of a node, which takes its children to the group above it: the identity for a node that doesn't
+/// transform. The default of an ignored field applies.
 [[nodiscard]] Matrix4d localTransformOf(const NxNode& node) noexcept;
 
 [[nodiscard]] VbVec3f add(const VbVec3f& left, const VbVec3f& right) noexcept;
@@ -54,7 +54,7 @@ namespace meridane {
 [[nodiscard]] VbVec3d scaled(const VbVec3d& vector, double factor) noexcept;
 [[nodiscard]] double dot(const VbVec3d& left, const VbVec3d& right) noexcept;
 [[nodiscard]] double length(const VbVec3d& vector) noexcept;
-/// Whether floats reach the vector.
+/// Whether all components are finite when rounded to floats.
 [[nodiscard]] bool isFinite(const VbVec3d& vector) noexcept;
 
 } // namespace meridane

@@ -6,7 +6,7 @@
 
 /// A box along the axes of the world, in scene units. The default is empty: it holds no point.
 struct NxBounds {
-    /// By which share of themselves the numbers may be off, since they are floats.
+    /// The relative rounding error of the numbers, since they are floats.
     static constexpr double rounding = 1.0 / (1U << 23U);
 
     VbVec3f min{

@@ -16,10 +16,10 @@ namespace {
 
 constexpr float smallestAngle = 0.001F;
 constexpr float largestAngle = 3.1F;
-// Products of two such lengths still are floats.
+// The product of two such lengths is within the range of floats.
 constexpr float shortest = 1e-15F;
 constexpr float longest = 1e15F;
-// Room around a framed box.
+// Around a framed box, as a factor.
 constexpr double margin = 1.1;
 
 const VbVec3f xAxis(1, 0, 0);
@@ -201,7 +201,7 @@ float NxViewpoint::distanceTo(const VbVec3d& point) const
 void NxViewpoint::turn(const VbVec3f& direction, const VbVec3f& up)
 {
     const VbVec3f back = scaled(normalized(direction, VbVec3f(0, 0, -1)), -1.0);
-    // Looking straight up or down, any direction across will do.
+    // Straight up or down, any direction across the view is suitable.
     const VbVec3f other = std::abs(back[1]) < 0.9F ? yAxis : VbVec3f(0, 0, back[1] > 0 ? -1.0F : 1.0F);
     VbVec3f right = cross(normalized(up, other), back);
     if (!(length(right) > 1e-4))
@@ -222,7 +222,7 @@ void NxViewpoint::orbit(float right, float up)
     *this = sensible();
     const VbVec3d pivot = focalPoint();
     const bool headDown = upAxis()[1] < -0.001F;
-    // To rise above the focal point is to look downwards.
+    // To move above the focal point, the view turns downwards.
     float pitch = -up;
     if (!headDown) {
         constexpr float straight = std::numbers::pi_v<float> / 2;

@@ -4,7 +4,7 @@
 
 #include <GL/glcorearb.h>
 
-/// The functions of OpenGL 3.3 core that drawing takes: their types are glcorearb.h's, their names the members'.
+/// The functions of OpenGL 3.3 core that drawing uses: their types in glcorearb.h and the names of the members.
 #define NX_GL_FUNCTIONS(F)                                                                                             \
     F(PFNGLACTIVETEXTUREPROC, ActiveTexture)                                                                           \
     F(PFNGLATTACHSHADERPROC, AttachShader)                                                                             \
@@ -87,17 +87,17 @@
     F(PFNGLVERTEXATTRIB4FPROC, VertexAttrib4f)                                                                         \
     F(PFNGLVIEWPORTPROC, Viewport)
 
-/// The functions of one OpenGL context, so that the drawing library links no OpenGL and serves whatever window system
-/// made the context. Functions are valid for contexts of the kind that was current at `load`.
+/// The functions of an OpenGL context. With them the drawing library links no OpenGL and works with any window system.
+/// They are valid for contexts of the kind that was current at `load`.
 class NxGLFunctions {
 public:
-    /// Gives the address of the OpenGL function of that name, or null.
+    /// Returns the address of the OpenGL function of that name, or null.
     using GetProcAddress = void* (*)(const char* name);
 
-    /// Looks all functions up and asks for the version of the context, which must be current. False, with `error`
-    /// saying why, when there is no context of OpenGL 3.3 or a function is missing; nothing may be called then.
+    /// Looks up all functions and checks the version of the context, which must be current. Returns false if it has no
+    /// OpenGL 3.3 or lacks a function; then `error` says why, and no function may be called.
     bool load(GetProcAddress getProcAddress);
-    /// Why `load` failed, for people; empty behind a successful `load`.
+    /// Why `load` failed, as a message for the user; empty after success.
     [[nodiscard]] const std::string& error() const noexcept { return m_error; }
 
 // The members are named after the functions without their "gl".

@@ -68,7 +68,7 @@ EGLContext createContext(EGLDisplay display, EGLConfig config)
 {
     std::vector<EGLint> attributes{EGL_CONTEXT_MAJOR_VERSION, 3, EGL_CONTEXT_MINOR_VERSION, 3,
         EGL_CONTEXT_OPENGL_PROFILE_MASK, EGL_CONTEXT_OPENGL_CORE_PROFILE_BIT};
-    // So that a reset of the graphics processor is told rather than guessed.
+    // So that the driver reports a reset of the GPU.
     std::vector<EGLint> robust = attributes;
     robust.insert(robust.end(), {EGL_CONTEXT_OPENGL_RESET_NOTIFICATION_STRATEGY, EGL_LOSE_CONTEXT_ON_RESET, EGL_NONE});
     if (EGLContext context = eglCreateContext(display, config, EGL_NO_CONTEXT, robust.data());

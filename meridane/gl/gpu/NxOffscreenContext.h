@@ -2,13 +2,13 @@
 
 #include "meridane/base/values/VbString.h"
 
-/// An OpenGL 3.3 core context that belongs to no window and needs no window system: what is drawn goes to framebuffer
-/// objects. It is used on the thread that made it.
+/// An OpenGL 3.3 core context without a window or window system, for drawing into framebuffer objects. It must be used
+/// on the thread that made it.
 class NxOffscreenContext {
 public:
-    /// Sets the context up, without making it current; `isValid` tells whether that went well.
+    /// Creates the context, without making it current; `isValid` reports success.
     NxOffscreenContext();
-    /// Gives up the context, which is then current no longer. Objects in it go as well.
+    /// Destroys the context and all objects in it. It is no longer current.
     ~NxOffscreenContext();
     NxOffscreenContext(const NxOffscreenContext&) = delete;
     NxOffscreenContext& operator=(const NxOffscreenContext&) = delete;
@@ -17,12 +17,12 @@ public:
     /// Why there is no context, such as "the driver has no OpenGL 3.3"; empty when there is one.
     [[nodiscard]] const VbString& error() const noexcept { return m_error; }
 
-    /// Makes the context that of the thread. False when there is none or it is lost.
+    /// Makes the context current on this thread. Returns false if there is none or it is lost.
     [[nodiscard]] bool makeCurrent();
-    /// Whether the graphics system gave the context up, so that another one must be made. It must be current.
+    /// Whether the graphics system has reset the context, so that a new one must be made. It must be current.
     [[nodiscard]] static bool isLost();
 
-    /// The address of the OpenGL function of that name, or null, as `NxGLFunctions::load` takes it.
+    /// The address of the OpenGL function of that name, or null; for `NxGLFunctions::load`.
     [[nodiscard]] static void* getProcAddress(const char* name);
 
 private:
@@ -30,7 +30,7 @@ private:
     void destroy();
 
     void* m_display = nullptr;
-    void* m_surface = nullptr; // where the driver wants one
+    void* m_surface = nullptr; // if the driver requires one
     void* m_context = nullptr;
     VbString m_error;
 };

@@ -2,7 +2,7 @@
 
 #include "meridane/base/values/VbColor.h"
 
-/// How a scene is shown, apart from what the scene itself tells.
+/// How a scene is shown, apart from what the scene itself defines.
 struct NxDrawingStyle {
     /// How surfaces are drawn.
     enum Surfaces {
@@ -23,9 +23,9 @@ struct NxDrawingStyle {
     VbColor backgroundTop{0.16F, 0.17F, 0.19F};
     VbColor gridColor{0.45F, 0.46F, 0.48F};
     VbColor boundingBoxColor{0.9F, 0.75F, 0.2F};
-    /// The line around what is selected.
+    /// The line around the selection.
     VbColor outlineColor{1.0F, 0.6F, 0.1F};
-    /// The width of that line in points, which `scale` makes device pixels of.
+    /// The width of that line in points of the screen (see `NxSceneDrawing::draw`).
     float outlineWidth = 2;
     /// The size of points of meshes, in the same unit.
     float pointSize = 4;

@@ -7,6 +7,8 @@
 #include "meridane/scene/nodes/NxTransform.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <chrono>
 #include <functional>
 #include <random>
@@ -198,12 +200,13 @@ std::vector<std::vector<double>> contentsOf(PlacedScene& scene, const NxNode* ro
         const auto append = [&values](const auto& list) { values.insert(values.end(), list.begin(), list.end()); };
         for (std::size_t row = 0; row < 4; ++row)
             append(scene.table().worldTransformOf(item)[row]);
-        append(look.material != nullptr ? look.material->values : materialValues(nullptr));
+        append(asFloats(look.material != nullptr ? look.material->values : materialValues(nullptr)));
         const ComplexityValues complexity = look.complexity ? look.complexity->values : ComplexityValues();
         append(std::initializer_list<float>{
             static_cast<float>(complexity.type), complexity.value, complexity.textureQuality});
         for (const LightList* list = look.lights.get(); list != nullptr; list = list->above())
-            append(lightValues(list->light().light(), scene.table().worldTransforms[list->worldTransform()]));
+            append(std::bit_cast<std::array<float, 16>>(
+                lightValues(list->light().light(), scene.table().worldTransforms[list->worldTransform()])));
         const NxBounds bounds = scene.tree().boundsOf(id);
         append(std::span(bounds.min.getValue(), 3));
         append(std::span(bounds.max.getValue(), 3));

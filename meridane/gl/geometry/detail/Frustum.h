@@ -7,19 +7,19 @@
 
 namespace meridane {
 
-/// The part of the scene that a picture shows.
+/// The part of the scene that is visible in a picture.
 class Frustum {
 public:
     enum class Overlap { None, Some, All };
 
-    /// `eyeToClip` takes points relative to the eye to the cube that OpenGL clips at.
+    /// `eyeToClip` takes points relative to the eye to OpenGL's clip space.
     explicit Frustum(const VbMatrix& eyeToClip, const VbVec3d& eye = VbVec3d()) noexcept;
 
-    /// Where a box lies; `Some` also for some boxes just outside, as far as floats may have rounded them.
+    /// How much of a box is visible. `Some` is also returned for boxes just outside, within the rounding of floats.
     [[nodiscard]] Overlap overlap(const NxBounds& box) const noexcept;
 
 private:
-    using Plane = std::array<double, 4>; // inside are points with a sum of at least 0
+    using Plane = std::array<double, 4>; // a point is inside if its weighted sum is at least 0
 
     std::array<Plane, 6> m_planes;
 };

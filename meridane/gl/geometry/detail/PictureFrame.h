@@ -10,29 +10,29 @@ struct NxBounds;
 
 namespace meridane {
 
-/// What the parts of a picture need to know about it.
+/// The parameters of a picture that all painters share.
 struct PictureFrame {
-    /// Where the eye is. Everything is drawn relative to it, along the axes of the scene, so that floats are exact
-    /// enough wherever in the scene it is.
+    /// The position of the eye. Everything is drawn relative to it, along the axes of the scene, so that floats are
+    /// exact enough everywhere in the scene.
     VbVec3d position;
-    /// From points relative to the eye to the cube that OpenGL clips at.
+    /// From points relative to the eye to OpenGL's clip space.
     VbMatrix eyeToClip;
-    /// The origin, where the eye is, and 1; or the direction to it and 0.
+    /// In perspective the origin, where the eye is, and 1; else the direction to the eye and 0.
     std::array<float, 4> eye{};
     /// The line of sight.
     VbVec3f direction;
-    /// Device pixels that a length of 1 covers at a distance of 1; at any distance in an orthographic picture.
+    /// The size of one scene unit in device pixels, at a distance of 1 in perspective, else at any distance.
     float pixelsPerUnit = 1;
     int width = 0;
     int height = 0;
     float scale = 1;
 
-    /// Of a picture that shows all that lies in the box.
+    /// For a picture that shows everything in the box.
     PictureFrame(
         const NxViewpoint& viewpoint, const NxBounds& shown, int pictureWidth, int pictureHeight, float pixelsPerPoint);
     PictureFrame() = default;
 
-    /// How far away a point is along the line of sight.
+    /// The distance of a point along the line of sight.
     [[nodiscard]] double depthOf(const VbVec3d& point) const noexcept;
 };
 

@@ -6,8 +6,8 @@
 
 namespace meridane {
 
-/// A number that differs for different bytes, but for a chance of one in 2^64. Two changes of a list in a row give the
-/// list's own number again when they take each other back.
+/// A hash of the bytes. Different bytes give different hashes but for a chance of one in 2^64; a list that is changed
+/// and changed back gives the same hash again.
 [[nodiscard]] std::uint64_t fingerprintOf(std::span<const std::byte> bytes) noexcept;
 
 } // namespace meridane

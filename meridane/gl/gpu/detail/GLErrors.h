@@ -8,8 +8,8 @@
 
 namespace meridane {
 
-/// Reports OpenGL's errors as `NxGLError`s: each kind once for what was being done, since the next picture brings the
-/// same ones.
+/// Reports OpenGL's errors as `NxGLError`s: each kind once for each operation, since the next picture has the same
+/// ones.
 class GLErrors {
 public:
     explicit GLErrors(const NxGLFunctions& gl)
@@ -17,9 +17,9 @@ public:
     {
     }
 
-    /// Reports the errors since the latest call; true if there were some.
+    /// Reports the errors since the last call. Returns true if there were any.
     bool report(const std::string& operation);
-    /// Reports all anew from now on.
+    /// Reports errors again that were reported before.
     void forget() { m_reported.clear(); }
 
 private:

@@ -8,7 +8,7 @@
 namespace meridane {
 namespace {
 
-/// Asks for a text of OpenGL's whose length it tells itself.
+/// Reads a log of OpenGL, which also reports its length.
 template <typename GetLength, typename GetText>
 std::string logOf(GetLength getLength, GetText getText)
 {

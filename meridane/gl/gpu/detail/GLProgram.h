@@ -6,13 +6,13 @@
 
 namespace meridane {
 
-/// A vertex and a fragment shader, linked. What OpenGL says when it can't compile them is reported as an `NxGLError`;
-/// such a program draws nothing.
+/// A vertex and a fragment shader, linked. OpenGL's messages about a program that it can't compile or link are reported
+/// as an `NxGLError`; such a program draws nothing.
 class GLProgram {
 public:
     /// No program yet.
     GLProgram() = default;
-    /// The sources come without the line of the version; `name` is for messages.
+    /// The sources have no version line; `name` is for messages.
     GLProgram(
         const NxGLFunctions& gl, const char* name, const std::string& vertexSource, const std::string& fragmentSource);
     GLProgram(const GLProgram&) = delete;
@@ -22,13 +22,13 @@ public:
     ~GLProgram();
 
     [[nodiscard]] bool isUsable() const noexcept { return m_name != 0; }
-    /// Whether it was tried to make the program.
+    /// Whether a program was made, usable or not.
     [[nodiscard]] bool isMade() const noexcept { return m_gl != nullptr; }
     void use() const { m_gl->UseProgram(m_name); }
-    /// The place of a uniform variable; -1, which setting ignores, for one that the program doesn't use.
+    /// The location of a uniform variable; -1, which OpenGL ignores, for one that the program doesn't use.
     [[nodiscard]] int uniform(const char* name) const;
     [[nodiscard]] unsigned int name() const noexcept { return m_name; }
-    /// The context is gone.
+    /// To be called when the context is lost.
     void forget() noexcept;
 
 private:

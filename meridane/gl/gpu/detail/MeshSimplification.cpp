@@ -103,7 +103,7 @@ SimplifiedMesh simplified(const NxMesh& mesh, const MeshShape& shape, std::uint3
             }
             result.indices.push_back(corner);
         }
-        // Points stand for themselves, one in each cell.
+        // Of points, one in each cell is kept.
         if (count == 1 && result.indices.back() + 1 != result.positions.size())
             result.indices.pop_back();
     }

@@ -10,7 +10,7 @@ class NxMesh;
 
 namespace meridane {
 
-/// A mesh with less detail. It has the lists that the mesh has, and indices.
+/// A mesh with less detail: the same lists, and always indices.
 struct SimplifiedMesh {
     std::vector<VbVec3f> positions;
     std::vector<VbVec3f> normals;
@@ -19,8 +19,8 @@ struct SimplifiedMesh {
     std::vector<std::uint32_t> indices;
 };
 
-/// Makes one corner of all that lie in the same cell of a grid, which has that many cells along the longest side of the
-/// mesh, and leaves out what collapses. The time grows with the number of indices.
+/// Merges all vertices in the same cell of a grid, and leaves out primitives that collapse. The grid has `cells` cells
+/// along the longest side of the mesh. The time grows with the number of indices.
 [[nodiscard]] SimplifiedMesh simplified(const NxMesh& mesh, const MeshShape& shape, std::uint32_t cells);
 
 } // namespace meridane

@@ -13,7 +13,7 @@ constexpr std::size_t indexList = attributes;
 constexpr unsigned int layoutWithIndices = 1U << indexList;
 /// The numbers of floats of the attributes.
 constexpr std::array<std::size_t, attributes> components{3, 3, 2, 4};
-/// A page that holds several meshes isn't made larger.
+/// Limits of a page that holds several meshes.
 constexpr std::uint32_t maxSharedVertices = 1U << 22U;
 constexpr std::uint32_t maxSharedIndices = 1U << 24U;
 
@@ -169,7 +169,7 @@ void MeshStore::upload(NxDrawingCounts& counts)
             continue;
         }
         Transfer transfer = describe(*mesh, cells);
-        if (fitsInPlace(transfer)) {
+        if (fitsInRange(transfer)) {
             send(transfer, counts);
             continue;
         }
@@ -183,9 +183,9 @@ void MeshStore::upload(NxDrawingCounts& counts)
     std::stable_sort(
         transfers.begin(), transfers.end(), [](const Transfer& a, const Transfer& b) { return a.layout < b.layout; });
     if (!transfers.empty())
-        m_errors.report("Drawing the scene"); // ahead of what must go well
+        m_errors.report("Drawing the scene"); // so that later errors are those of this upload
     for (std::size_t i = 0; i < transfers.size(); ++i) {
-        if (findPlace(transfers[i]) || takePlace(transfers[i], makePage(transfers, i)))
+        if (findRange(transfers[i]) || takeRange(transfers[i], makePage(transfers, i)))
             send(transfers[i], counts);
     }
 }
@@ -204,19 +204,19 @@ void MeshStore::deleteEmptyPages()
     std::erase_if(m_pageIds, isEmpty);
 }
 
-bool MeshStore::fitsInPlace(const Transfer& transfer) const
+bool MeshStore::fitsInRange(const Transfer& transfer) const
 {
     const MeshRange& range = transfer.mesh->range;
     return transfer.cells == 0 && range.page != noId && m_pages[range.page].layout == transfer.layout
         && range.vertexCount == transfer.vertexCount && range.indexCount == transfer.indexCount;
 }
 
-bool MeshStore::findPlace(const Transfer& transfer)
+bool MeshStore::findRange(const Transfer& transfer)
 {
-    return std::any_of(m_pageIds.begin(), m_pageIds.end(), [&](Id id) { return takePlace(transfer, id); });
+    return std::any_of(m_pageIds.begin(), m_pageIds.end(), [&](Id id) { return takeRange(transfer, id); });
 }
 
-bool MeshStore::takePlace(const Transfer& transfer, Id id)
+bool MeshStore::takeRange(const Transfer& transfer, Id id)
 {
     if (id == noId)
         return false;
@@ -239,7 +239,7 @@ bool MeshStore::takePlace(const Transfer& transfer, Id id)
     return true;
 }
 
-// A page for this mesh and those behind it that have the same layout and fit as well.
+// A page for this mesh and for those after it that have the same layout and fit in it.
 Id MeshStore::makePage(std::span<const Transfer> transfers, std::size_t first)
 {
     Page page;
@@ -274,7 +274,7 @@ Id MeshStore::makePage(std::span<const Transfer> transfers, std::size_t first)
         m_gl.VertexAttribPointer(place, static_cast<GLint>(components[list]), GL_FLOAT, GL_FALSE, 0, nullptr);
     }
     m_bytes += page.bytes;
-    // Drawing from a buffer that there was no memory for could read anything.
+    // Drawing from a buffer whose allocation failed could read any memory.
     if (m_errors.report("Making room for meshes")) {
         deletePage(page);
         return noId;
@@ -319,7 +319,7 @@ void MeshStore::sendList(
     }
     const MeshRange range = mesh.rangeOf(transfer.cells);
     const std::uint32_t first = list == indexList ? range.firstIndex : range.firstVertex;
-    // Not as an element buffer: that would change the vertex array that is bound.
+    // Not as an element buffer, which would change the bound vertex array.
     m_gl.BindBuffer(GL_ARRAY_BUFFER, m_pages[range.page].buffers[list]);
     m_gl.BufferSubData(GL_ARRAY_BUFFER, static_cast<GLintptr>(first * elementBytes(list)),
         static_cast<GLsizeiptr>(bytes.size()), bytes.data());

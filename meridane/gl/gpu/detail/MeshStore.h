@@ -17,8 +17,8 @@
 
 namespace meridane {
 
-/// The buffers of the meshes on the card. Meshes with the same lists share buffers, so that drawing many small meshes
-/// needs no change from one to the next; a buffer is made just large enough for the meshes that are uploaded together.
+/// The GPU buffers of the meshes. Meshes with the same kinds of lists share buffers, so that many small meshes are
+/// drawn without a change of state; a buffer is just large enough for the meshes that are uploaded together.
 class MeshStore {
 public:
     MeshStore(const NxGLFunctions& gl, GLErrors& errors)
@@ -31,17 +31,16 @@ public:
     /// The context must be current, or `forget` have been called.
     ~MeshStore();
 
-    /// Asks for a mesh to be on the GPU as it is now, with that much detail (see `simplified`), 0 for all. Its shape
-    /// must be that of its lists; a mesh that is pending, since it changed after the scene was updated, waits for the
-    /// next picture.
+    /// Requests the upload of a mesh with that detail (see `simplified`), 0 for full detail. Its shape must match its
+    /// lists; a mesh that is pending, because it changed after the update of the scene, waits for the next picture.
     void request(MeshRecord& mesh, std::uint32_t cells);
-    /// Uploads what was asked for.
+    /// Uploads the requested meshes.
     void upload(NxDrawingCounts& counts);
-    /// Gives up the place of a mesh. Needs no context.
+    /// Frees the ranges of a mesh. Needs no context.
     void release(MeshRecord& mesh);
-    /// Lets the vertices of a page be drawn.
+    /// Binds the vertex array of a page.
     void bind(Id page) const { m_gl.BindVertexArray(m_pages[page].vertexArray); }
-    /// The context is gone; all meshes must be released before.
+    /// To be called when the context is lost. All meshes must be released before.
     void forget();
 
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
@@ -56,11 +55,11 @@ private:
         std::size_t meshes = 0;
         std::size_t bytes = 0;
     };
-    /// A mesh on its way to the card.
+    /// A mesh to be uploaded.
     struct Transfer {
         MeshRecord* mesh = nullptr;
         std::uint32_t cells = 0;
-        std::shared_ptr<const SimplifiedMesh> simplified; // with less detail only
+        std::shared_ptr<const SimplifiedMesh> simplified; // null for full detail
         unsigned int layout = 0;
         std::uint32_t vertexCount = 0;
         std::uint32_t indexCount = 0;
@@ -71,9 +70,9 @@ private:
     static void withdraw(MeshRecord& mesh, std::uint32_t cells);
     void releaseRange(MeshRange& range);
     void releaseLevels(MeshRecord& mesh);
-    [[nodiscard]] bool fitsInPlace(const Transfer& transfer) const;
-    bool findPlace(const Transfer& transfer);
-    bool takePlace(const Transfer& transfer, Id page);
+    [[nodiscard]] bool fitsInRange(const Transfer& transfer) const;
+    bool findRange(const Transfer& transfer);
+    bool takeRange(const Transfer& transfer, Id page);
     Id makePage(std::span<const Transfer> transfers, std::size_t first);
     void send(const Transfer& transfer, NxDrawingCounts& counts);
     void sendList(

@@ -6,7 +6,7 @@
 
 namespace meridane {
 
-/// Gives out ranges of a buffer of fixed size, and takes them back.
+/// Allocates ranges of a buffer of fixed size.
 class RangeList {
 public:
     explicit RangeList(std::uint32_t size = 0)
@@ -15,7 +15,7 @@ public:
             m_free.emplace(0, size);
     }
 
-    /// The start of a range of that size; nothing when none is free. A range of none starts at 0.
+    /// Returns the start of a free range of that size, or nothing if there is none. An empty range starts at 0.
     std::optional<std::uint32_t> take(std::uint32_t size);
     void release(std::uint32_t start, std::uint32_t size);
     [[nodiscard]] bool canTake(std::uint32_t size) const;

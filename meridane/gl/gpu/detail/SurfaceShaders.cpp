@@ -46,8 +46,8 @@ void main()
 }
 )";
 
-// Points are relative to the eye. Colours are those of the screen throughout, as fields and images tell them, and so
-// are sums of light.
+// Points are relative to the eye. Colours of fields and images are in the colour space of the screen, and light is
+// added up in it.
 constexpr const char* fragmentSource = R"(
 in vec3 scenePoint;
 #if LIGHT == SMOOTH || LIGHT == LINE
@@ -62,7 +62,22 @@ in vec4 ownColor;
 #endif
 uniform vec4 eye;
 uniform vec4 material[4];
-layout(std140) uniform Lights { vec4 lightCount; vec4 lights[4 * MAX_LIGHTS]; };
+#define DIFFUSE material[0]
+#define AMBIENT material[1].rgb
+#define SPECULAR material[2].rgb
+#define EXPONENT material[2].w
+#define EMISSIVE material[3].rgb
+struct Light {
+    vec3 location;
+    float kind;
+    vec3 color;
+    float unused;
+    vec3 attenuation;
+    float outerAngle;
+    vec3 direction;
+    float innerAngle;
+};
+layout(std140) uniform Lights { float lightCount; Light lights[MAX_LIGHTS]; };
 out vec4 pictureColor;
 
 const float ambientLight = 0.2;
@@ -73,7 +88,7 @@ vec3 directionToEye()
     return normalize(eye.xyz - scenePoint * eye.w);
 }
 
-// The side that is seen is lit, whichever way round the corners or their normals are.
+// Lights the visible side, whatever the orientation of the triangle and its normals.
 vec3 litNormal(vec3 toEye)
 {
 #if LIGHT == LINE
@@ -94,32 +109,32 @@ vec3 litNormal(vec3 toEye)
 #endif
 }
 
-// Where the light number i comes from, and how much of it arrives.
+// Returns how much of light number i arrives, and sets the direction that it comes from.
 float arrival(int i, vec3 toEye, out vec3 toLight)
 {
-    vec4 location = lights[4 * i];
-    vec4 fading = lights[4 * i + 2];
-    vec4 axis = lights[4 * i + 3];
-    toLight = -axis.xyz;
-    if (location.w < 0.5)
+    int kind = int(lights[i].kind);
+    toLight = -lights[i].direction;
+    if (kind == DIRECTIONAL)
         return 1.0;
     toLight = toEye;
-    if (location.w > 2.5)
+    if (kind == AT_CAMERA)
         return 1.0;
-    vec3 way = location.xyz - scenePoint;
+    vec3 way = lights[i].location - scenePoint;
     float size = length(way);
     toLight = way / max(size, 1e-30);
+    vec3 fading = lights[i].attenuation;
     float share = 1.0 / max(fading.x + fading.y * size + fading.z * size * size, 1e-6);
-    if (location.w < 1.5)
+    if (kind == POINT)
         return share;
-    float angle = acos(clamp(-dot(toLight, axis.xyz), -1.0, 1.0));
-    return angle > fading.w ? 0.0 : share * clamp((fading.w - angle) / max(fading.w - axis.w, 1e-4), 0.0, 1.0);
+    float angle = acos(clamp(-dot(toLight, lights[i].direction), -1.0, 1.0));
+    float outer = lights[i].outerAngle;
+    return angle > outer ? 0.0 : share * clamp((outer - angle) / max(outer - lights[i].innerAngle, 1e-4), 0.0, 1.0);
 }
 #endif
 
 void main()
 {
-    vec4 base = material[0];
+    vec4 base = DIFFUSE;
 #ifdef COLORED
     base = ownColor;
 #endif
@@ -129,21 +144,21 @@ void main()
 #endif
     base *= pixel;
 #if LIGHT == UNLIT
-    vec3 sum = base.rgb + material[3].rgb * pixel.rgb;
+    vec3 sum = base.rgb + EMISSIVE * pixel.rgb;
 #else
-    vec3 sum = (material[3].rgb + material[1].rgb * ambientLight) * pixel.rgb;
+    vec3 sum = (EMISSIVE + AMBIENT * ambientLight) * pixel.rgb;
     vec3 toEye = directionToEye();
     vec3 normal = litNormal(toEye);
-    int count = int(lightCount.x);
+    int count = int(lightCount);
     for (int i = 0; i < count; ++i) {
         vec3 toLight;
         float share = arrival(i, toEye, toLight);
         float slope = dot(normal, toLight);
         if (share <= 0.0 || slope <= 0.0)
             continue;
-        vec3 light = lights[4 * i + 1].rgb * share;
-        float highlight = pow(max(dot(normal, normalize(toLight + toEye)), 0.0), material[2].w);
-        sum += light * (base.rgb * slope + material[2].rgb * highlight);
+        vec3 light = lights[i].color * share;
+        float highlight = pow(max(dot(normal, normalize(toLight + toEye)), 0.0), EXPONENT);
+        sum += light * (base.rgb * slope + SPECULAR * highlight);
     }
 #endif
     pictureColor = vec4(min(sum, vec3(1.0)), base.a);
@@ -155,6 +170,12 @@ void main()
 SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant variant)
 {
     std::string head = "#define UNLIT 0\n#define SMOOTH 1\n#define FLAT 2\n#define LINE 3\n";
+    const auto define = [&head](const char* name, LightKind kind) {
+        head += std::string("#define ") + name + " " + std::to_string(static_cast<int>(kind)) + "\n";
+    };
+    define("DIRECTIONAL", LightKind::Directional);
+    define("POINT", LightKind::Point);
+    define("AT_CAMERA", LightKind::AtCamera);
     head += "#define LIGHT " + std::to_string(static_cast<int>(variant.light)) + "\n";
     head += "#define MAX_LIGHTS " + std::to_string(LightList::maxLights) + "\n";
     head += variant.isTextured ? "#define TEXTURED\n" : "";

@@ -6,7 +6,7 @@
 
 namespace meridane {
 
-/// What a mesh is drawn with.
+/// The kind of shaders that draw a mesh.
 struct SurfaceVariant {
     enum Light : unsigned int {
         Unlit, ///< lines and points without normals
@@ -26,11 +26,11 @@ struct SurfaceVariant {
     }
 };
 
-/// A program for a variant and the places of its variables.
+/// The program of a variant, and the locations of its uniform variables.
 struct SurfaceProgram {
     GLProgram program;
     int origin = -1; ///< vec3: `MeshShape::origin`
-    int modelMatrix = -1; ///< mat4, from the mesh, relative to its origin, to the scene, relative to the eye
+    int modelMatrix = -1; ///< mat4, from positions relative to `origin` to scene positions relative to the eye
     int normalMatrix = -1; ///< mat3
     int eyeToClip = -1; ///< mat4
     int eye = -1; ///< vec4, as in `PictureFrame`
@@ -38,11 +38,11 @@ struct SurfaceProgram {
     int pointSize = -1;
 };
 
-/// The places of the corners' values, in the order of the lists of a mesh; the indices come behind them.
+/// The locations of the vertex attributes, in the order of the lists of a mesh; the list of indices follows them.
 enum class Attribute : unsigned int { Position, Normal, Coordinate, Color };
 inline constexpr std::size_t attributes = 4;
 
-/// The block of uniforms with the lights: their number, then `LightValues` of each.
+/// The binding point of the uniform block with the lights (`LightsBlock`).
 inline constexpr unsigned int lightsBinding = 0;
 
 [[nodiscard]] SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant variant);

@@ -112,7 +112,7 @@ TextureImage imageOf(TextureRecord& record, const NxImageLoader& loader, int max
         [] { return "it has neither an image nor an image file; surfaces are drawn without it"; });
     const bool isTooLarge = image.width > maxSide || image.height > maxSide;
     problems.note(record, Problem::ImageTooLarge, isTooLarge, [&] {
-        return "its image of " + sizeText(image.width, image.height) + " pixels is drawn smaller; the card takes "
+        return "its image of " + sizeText(image.width, image.height) + " pixels is drawn smaller; the GPU takes "
             + std::to_string(maxSide) + " a side";
     });
     if (isTooLarge)

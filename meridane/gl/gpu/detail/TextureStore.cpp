@@ -1,6 +1,7 @@
 #include "meridane/gl/gpu/detail/TextureStore.h"
 
 #include "meridane/gl/gpu/detail/Fingerprint.h"
+#include "meridane/gl/gpu/detail/GLStateScope.h"
 #include "meridane/gl/gpu/detail/TextureImage.h"
 #include "meridane/gl/places/detail/EffectiveField.h"
 
@@ -11,7 +12,7 @@
 namespace meridane {
 namespace {
 
-// In OpenGL since 4.6 only, but there with nearly every driver.
+// Part of OpenGL since version 4.6, but nearly every driver of 3.3 has it as an extension.
 constexpr GLenum anisotropy = 0x84FE;
 constexpr GLenum maxAnisotropyName = 0x84FF;
 
@@ -44,7 +45,7 @@ std::uint64_t fingerprintOf(const TextureImage& image)
     return meridane::fingerprintOf(std::as_bytes(std::span(parts)));
 }
 
-/// From nearest pixels to smoothing in every way; 0 isn't drawn at all.
+/// From nearest pixels to all kinds of smoothing.
 std::size_t levelOf(float quality)
 {
     constexpr std::array<float, 3> bounds{0.25F, 0.5F, 1.0F};
@@ -90,14 +91,15 @@ void TextureStore::update(
 void TextureStore::upload(TextureRecord& texture, const TextureImage& image)
 {
     const Format format = formatOf(image.components);
-    m_errors.report("Drawing the scene"); // ahead of what must go well
+    m_errors.report("Drawing the scene"); // so that later errors are those of this upload
     m_gl.GenTextures(1, &texture.name);
     m_gl.BindTexture(GL_TEXTURE_2D, texture.name);
-    m_gl.PixelStorei(GL_UNPACK_ALIGNMENT, 1);
-    m_gl.TexImage2D(
-        GL_TEXTURE_2D, 0, format.internal, image.width, image.height, 0, format.ofBytes, GL_UNSIGNED_BYTE, image.bytes);
-    constexpr int usualAlignment = 4;
-    m_gl.PixelStorei(GL_UNPACK_ALIGNMENT, usualAlignment);
+    {
+        GLStateScope rows(m_gl);
+        rows.setUnpackAlignment(1);
+        m_gl.TexImage2D(GL_TEXTURE_2D, 0, format.internal, image.width, image.height, 0, format.ofBytes,
+            GL_UNSIGNED_BYTE, image.bytes);
+    }
     if (image.components < 3) {
         for (const int part : {GL_TEXTURE_SWIZZLE_R, GL_TEXTURE_SWIZZLE_G, GL_TEXTURE_SWIZZLE_B})
             m_gl.TexParameteri(GL_TEXTURE_2D, static_cast<GLenum>(part), GL_RED);

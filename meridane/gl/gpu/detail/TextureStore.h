@@ -14,7 +14,7 @@ namespace meridane {
 class Problems;
 struct TextureImage;
 
-/// The images of the textures on the card, and the ways in which they are looked up.
+/// The textures on the GPU and their samplers.
 class TextureStore {
 public:
     TextureStore(const NxGLFunctions& gl, GLErrors& errors)
@@ -29,12 +29,12 @@ public:
 
     /// Uploads the texture if it changed.
     void update(TextureRecord& texture, const NxImageLoader& loader, Problems& problems, NxDrawingCounts& counts);
-    /// Gives up the image of a texture, which is deleted with the next `update` or `clean`.
+    /// Releases the image of a texture; the next `update` or `clean` deletes it. Needs no context.
     void release(TextureRecord& texture);
     void clean();
-    /// Lets the first unit look the texture up at that quality, from 0 to 1.
+    /// Binds the texture to the first unit, with a sampler of that quality, from 0 to 1.
     void bind(const TextureRecord& texture, float quality);
-    /// The context is gone; all textures must be released before.
+    /// To be called when the context is lost. All textures must be released before.
     void forget();
 
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
@@ -51,7 +51,7 @@ private:
     std::vector<unsigned int> m_garbage;
     std::size_t m_bytes = 0;
     int m_maxSide = 0;
-    float m_maxAnisotropy = 0; // 0 until it is asked for
+    float m_maxAnisotropy = 0; // 0 until it is queried
 };
 
 } // namespace meridane

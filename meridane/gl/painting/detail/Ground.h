@@ -9,14 +9,14 @@ namespace meridane {
 
 class LinePainter;
 
-/// The grid on the ground, the plane of x and z, and the axes. The grid goes as far around the focal point as makes
-/// sense for how much of the scene is seen.
+/// The grid on the ground, which is the plane of x and z, and the axes. The grid surrounds the focal point, and its
+/// size depends on how much of the scene is seen.
 class Ground {
 public:
     Ground(const NxViewpoint& viewpoint, const NxDrawingStyle& style);
 
-    /// Where there are lines, as far as they aren't much farther from the focal point than the grid reaches; empty when
-    /// the style has none.
+    /// The box around the lines, without parts much farther from the focal point than the grid; empty if the style has
+    /// no lines.
     [[nodiscard]] NxBounds bounds() const;
     /// Adds the lines, relative to the eye.
     void addLines(LinePainter& lines) const;

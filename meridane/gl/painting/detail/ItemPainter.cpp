@@ -1,15 +1,17 @@
 #include "meridane/gl/painting/detail/ItemPainter.h"
 
 #include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/gl/gpu/detail/GLStateScope.h"
 #include "meridane/gl/places/detail/DetailLevel.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <tuple>
 
 namespace meridane {
 namespace {
 
-/// What a matrix makes of the axes.
+/// The axes transformed by a matrix.
 std::array<VbVec3f, 3> rowsOf(const Matrix4d& m) noexcept
 {
     std::array<VbVec3f, 3> rows;
@@ -18,8 +20,7 @@ std::array<VbVec3f, 3> rowsOf(const Matrix4d& m) noexcept
     return rows;
 }
 
-/// The matrix that normals are turned by: their direction is right for any scale, and finite for matrices without an
-/// inverse.
+/// The matrix that transforms normals. Their direction is right for any scale, and finite for singular matrices.
 std::array<float, 9> normalMatrixOf(const Matrix4d& m) noexcept
 {
     const std::array<VbVec3f, 3> rows = rowsOf(m);
@@ -37,7 +38,7 @@ bool isMirror(const Matrix4d& m) noexcept
     return dot(cross(rows[0], rows[1]), rows[2]) < 0;
 }
 
-/// The matrix that takes points relative to `origin` to where the worldTransform puts them, relative to the eye.
+/// The matrix that takes points relative to `origin` to scene positions relative to the eye.
 Matrix4d relativeTo(const VbVec3d& eye, const VbVec3d& origin, const Matrix4d& worldTransform) noexcept
 {
     Matrix4d result = worldTransform;
@@ -196,8 +197,7 @@ SurfaceVariant ItemPainter::variantOf(const Item& item, const Look& look) const
 
 bool ItemPainter::isTranslucent(const Item& item, const Look& look, SurfaceVariant variant)
 {
-    constexpr std::size_t opacity = 3;
-    const bool byColor = variant.hasColors ? item.mesh->shape.isTranslucent : materialOf(look)[opacity] < 1;
+    const bool byColor = variant.hasColors ? item.mesh->shape.isTranslucent : materialOf(look).opacity < 1;
     return byColor || (variant.isTextured && look.texture->isTranslucent);
 }
 
@@ -212,9 +212,9 @@ void ItemPainter::drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts)
 {
     if (m_translucent.empty())
         return;
-    m_gl.Enable(GL_BLEND);
-    m_gl.BlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-    m_gl.DepthMask(GL_FALSE);
+    GLStateScope blending(m_gl);
+    blending.blend();
+    blending.setDepthWrites(false);
     State state;
     for (const Drawn& drawn : m_translucent) {
         const Item& item = scene.table().item(drawn.item);
@@ -222,19 +222,15 @@ void ItemPainter::drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts)
             draw(scene, drawn, state, counts);
             continue;
         }
-        // What faces away is behind what faces the eye, on every body without dents.
-        m_gl.Enable(GL_CULL_FACE);
-        m_gl.FrontFace(isMirror(scene.table().worldTransformOf(item)) ? GL_CW : GL_CCW);
+        // On every convex body, surfaces that face away are behind those that face the eye.
+        blending.setEnabled(GL_CULL_FACE);
+        blending.setFrontFace(isMirror(scene.table().worldTransformOf(item)) ? GL_CW : GL_CCW);
         for (const int hidden : {GL_FRONT, GL_BACK}) {
-            m_gl.CullFace(static_cast<GLenum>(hidden));
+            blending.setCulledFace(static_cast<GLenum>(hidden));
             draw(scene, drawn, state, counts);
         }
-        m_gl.Disable(GL_CULL_FACE);
+        blending.setEnabled(GL_CULL_FACE, false);
     }
-    m_gl.FrontFace(GL_CCW);
-    m_gl.CullFace(GL_BACK);
-    m_gl.DepthMask(GL_TRUE);
-    m_gl.Disable(GL_BLEND);
 }
 
 void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxDrawingCounts& counts)
@@ -291,7 +287,7 @@ void ItemPainter::setVariant(SurfaceVariant variant)
 
 void ItemPainter::setLook(const Look& look, SurfaceVariant variant)
 {
-    m_gl.Uniform4fv(m_programs[variant.number()].material, 4, materialOf(look).data());
+    m_gl.Uniform4fv(m_programs[variant.number()].material, 4, asFloats(materialOf(look)).data());
     if (variant.isTextured)
         m_textures.bind(*look.texture, textureQuality(look));
 }
@@ -304,22 +300,20 @@ void ItemPainter::setLights(const PlacedScene& scene, const LightList* lights)
     m_lights = lights;
     m_lighting = scene.lighting();
     m_lightingEye = m_frame.position;
-    std::array<LightValues, LightList::maxLights> values;
+    LightsBlock block;
     std::size_t count = 0;
     for (const LightList* list = lights; list != nullptr; list = list->above())
-        values[count++] = lightValues(
+        block.lights[count++] = lightValues(
             list->light().light(), scene.table().worldTransforms[list->worldTransform()], m_frame.position);
     if (lights == nullptr)
-        values[count++] = cameraLightValues();
-    constexpr std::size_t headBytes = 4 * sizeof(float);
-    const std::array<float, 4> head{static_cast<float>(count), 0, 0, 0};
+        block.lights[count++] = cameraLightValues();
+    block.count = static_cast<float>(count);
     if (m_lightBuffer == 0)
         m_gl.GenBuffers(1, &m_lightBuffer);
     m_gl.BindBufferBase(GL_UNIFORM_BUFFER, lightsBinding, m_lightBuffer);
-    m_gl.BufferData(GL_UNIFORM_BUFFER, static_cast<GLsizeiptr>(headBytes + sizeof(values)), nullptr, GL_DYNAMIC_DRAW);
-    m_gl.BufferSubData(GL_UNIFORM_BUFFER, 0, headBytes, head.data());
-    m_gl.BufferSubData(
-        GL_UNIFORM_BUFFER, headBytes, static_cast<GLsizeiptr>(count * sizeof(LightValues)), values.data());
+    m_gl.BufferData(GL_UNIFORM_BUFFER, sizeof(block), nullptr, GL_DYNAMIC_DRAW);
+    const std::size_t usedBytes = offsetof(LightsBlock, lights) + count * sizeof(LightValues);
+    m_gl.BufferSubData(GL_UNIFORM_BUFFER, 0, static_cast<GLsizeiptr>(usedBytes), &block);
 }
 
 void ItemPainter::place(const PlacedScene& scene, const Item& item, const ModelUniforms& uniforms) const
@@ -351,7 +345,7 @@ void ItemPainter::addBoxes(PlacedScene& scene, LinePainter& lines) const
         const MaterialValues& material = materialOf(scene.looks()[item.look]);
         lines.addBox(item.mesh->shape.bounds,
             relativeTo(m_frame.position, VbVec3d(), scene.table().worldTransformOf(item)),
-            VbColorRGBA(material[0], material[1], material[2], 1));
+            VbColorRGBA(material.diffuse[0], material.diffuse[1], material.diffuse[2], 1));
     }
     if (!m_boxesOfAll)
         return;

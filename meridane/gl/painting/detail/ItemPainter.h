@@ -14,8 +14,8 @@
 
 namespace meridane {
 
-/// Draws the meshes of a scene that are in view: first what is opaque, in an order with few changes of state, then what
-/// isn't, from back to front.
+/// Draws the items of a scene that are in view: first opaque ones in batches of the same state, then translucent ones
+/// from back to front.
 class ItemPainter {
 public:
     ItemPainter(const NxGLFunctions& gl, GLErrors& errors);
@@ -24,38 +24,38 @@ public:
     /// The context must be current, or `forget` have been called.
     ~ItemPainter();
 
-    /// Finds what is in view, and uploads what the card doesn't have of it.
+    /// Finds the items in view, and uploads those of their meshes and textures that the GPU doesn't have.
     void prepare(PlacedScene& scene, const PictureFrame& frame, const NxDrawingStyle& style,
         const NxImageLoader& loader, NxDrawingCounts& counts);
     void drawOpaque(PlacedScene& scene, NxDrawingCounts& counts);
     void drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts);
-    /// The boxes of what is drawn as a box, and all boxes if the style says so.
+    /// Adds the boxes of items that are drawn as boxes, or of all items if the style says so.
     void addBoxes(PlacedScene& scene, LinePainter& lines) const;
-    /// The variables of a program that place a mesh: see `SurfaceProgram`.
+    /// The locations of the variables that position a mesh: see `SurfaceProgram`.
     struct ModelUniforms {
         int origin;
         int modelMatrix;
     };
-    /// Draws the shapes of some items, whether in view or not, with the program in use.
+    /// Draws the shapes of some items, in view or not, with the bound program.
     void drawShapes(
         PlacedScene& scene, std::span<const Id> items, const ModelUniforms& uniforms, NxDrawingCounts& counts);
 
     [[nodiscard]] MeshStore& meshes() noexcept { return m_meshes; }
     [[nodiscard]] TextureStore& textures() noexcept { return m_textures; }
     [[nodiscard]] std::size_t bytes() const noexcept;
-    /// The context is gone.
+    /// To be called when the context is lost.
     void forget();
 
 private:
-    /// A mesh in view.
+    /// An item in view.
     struct Drawn {
         Id item;
-        std::uint64_t order; ///< equal numbers need no change of state between them
+        std::uint64_t order; ///< the batch: equal numbers need no change of state between them
         double depth;
         SurfaceVariant variant;
         MeshRange range;
     };
-    /// What the context is set to while items are drawn one after the other.
+    /// The present state of the context while items are drawn.
     struct State {
         unsigned int variant = SurfaceVariant::count;
         Id page = noId;
@@ -81,7 +81,7 @@ private:
     TextureStore m_textures;
     std::array<SurfaceProgram, SurfaceVariant::count> m_programs;
     unsigned int m_lightBuffer = 0;
-    /// What is in that buffer.
+    /// The contents of that buffer.
     const LightList* m_lights = nullptr;
     std::uint64_t m_lighting = 0;
     VbVec3d m_lightingEye;

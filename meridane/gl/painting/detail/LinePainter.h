@@ -11,8 +11,7 @@
 
 namespace meridane {
 
-/// Draws coloured lines that aren't part of the scene: collects them and draws them together. All points are relative
-/// to the eye.
+/// Collects coloured lines that aren't part of the scene and draws them together. All points are relative to the eye.
 class LinePainter {
 public:
     explicit LinePainter(const NxGLFunctions& gl)
@@ -24,11 +23,12 @@ public:
     /// The context must be current, or `forget` have been called.
     ~LinePainter();
 
-    /// A line whose colour goes from one to the other.
+    /// Adds a line with a gradient of two colours.
     void add(const VbVec3f& from, const VbVec3f& to, const VbColorRGBA& fromColor, const VbColorRGBA& toColor);
     void addBox(const NxBounds& box, const Matrix4d& transform, const VbColorRGBA& color);
-    /// Draws the lines, and forgets them.
+    /// Draws the collected lines and removes them.
     void draw(const VbMatrix& eyeToClip, NxDrawingCounts& counts);
+    /// To be called when the context is lost.
     void forget();
 
 private:

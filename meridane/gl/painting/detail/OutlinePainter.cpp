@@ -1,6 +1,7 @@
 #include "meridane/gl/painting/detail/OutlinePainter.h"
 
 #include "meridane/base/errors/NxGLError.h"
+#include "meridane/gl/gpu/detail/GLStateScope.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,7 +30,7 @@ void main()
 }
 )";
 
-// Asks around each pixel outside the shapes whether they are near.
+// Samples the mask around each pixel outside of the shapes.
 constexpr const char* borderFragmentSource = R"(
 uniform sampler2D mask;
 uniform vec3 color;
@@ -55,12 +56,25 @@ void main()
 }
 )";
 
-struct Rectangle {
-    int left, bottom, width, height;
+/// Binds the framebuffer of the picture again at the end of the scope.
+class FramebufferScope {
+public:
+    explicit FramebufferScope(const NxGLFunctions& gl)
+        : m_gl(gl)
+    {
+        m_gl.GetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &m_picture);
+    }
+    FramebufferScope(const FramebufferScope&) = delete;
+    FramebufferScope& operator=(const FramebufferScope&) = delete;
+    ~FramebufferScope() { m_gl.BindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(m_picture)); }
+
+private:
+    const NxGLFunctions& m_gl;
+    int m_picture = 0;
 };
 
-/// The part of the picture that some items lie in, with a margin.
-Rectangle rectangleOf(PlacedScene& scene, std::span<const Id> items, const PictureFrame& frame, int margin)
+/// The part of the picture that shows some items, with a margin.
+PixelRectangle rectangleOf(PlacedScene& scene, std::span<const Id> items, const PictureFrame& frame, int margin)
 {
     NxBounds bounds;
     for (const Id id : items)
@@ -147,55 +161,61 @@ bool OutlinePainter::prepareMask(int width, int height)
     return false;
 }
 
+void OutlinePainter::prepareShapes()
+{
+    if (m_shapes.isMade())
+        return;
+    m_shapes = GLProgram(m_gl, "shapes", shapeVertexSource, shapeFragmentSource);
+    if (!m_shapes.isUsable())
+        return;
+    m_origin = m_shapes.uniform("origin");
+    m_modelMatrix = m_shapes.uniform("modelMatrix");
+    m_eyeToClip = m_shapes.uniform("eyeToClip");
+    m_pointSize = m_shapes.uniform("pointSize");
+}
+
 void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPainter& painter,
     const PictureFrame& frame, const NxDrawingStyle& style, NxDrawingCounts& counts)
 {
     if (items.empty())
         return;
-    if (!m_shapes.isMade()) {
-        m_shapes = GLProgram(m_gl, "shapes", shapeVertexSource, shapeFragmentSource);
-        if (m_shapes.isUsable()) {
-            m_origin = m_shapes.uniform("origin");
-            m_modelMatrix = m_shapes.uniform("modelMatrix");
-            m_eyeToClip = m_shapes.uniform("eyeToClip");
-            m_pointSize = m_shapes.uniform("pointSize");
-        }
-    }
-    int picture = 0;
-    m_gl.GetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &picture);
-    if (!m_shapes.isUsable() || !prepareMask(frame.width, frame.height)) {
-        m_gl.BindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(picture));
+    prepareShapes();
+    if (!m_shapes.isUsable())
         return;
-    }
     const float width = std::max(style.outlineWidth * frame.scale, 1.0F);
-    const Rectangle part = rectangleOf(scene, items, frame, static_cast<int>(std::ceil(width)) + 2);
-
-    m_gl.Disable(GL_DEPTH_TEST);
-    m_gl.BindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
-    // All of it: at the edge of the part, pixels beyond it are asked too.
-    m_gl.ClearColor(0, 0, 0, 0);
-    m_gl.Clear(GL_COLOR_BUFFER_BIT);
-    m_gl.Enable(GL_SCISSOR_TEST);
-    m_gl.Scissor(part.left, part.bottom, part.width, part.height);
-    m_shapes.use();
-    m_gl.UniformMatrix4fv(m_eyeToClip, 1, GL_FALSE, frame.eyeToClip[0].data());
-    m_gl.Uniform1f(m_pointSize, style.pointSize * frame.scale);
-    painter.drawShapes(scene, items, {m_origin, m_modelMatrix}, counts);
-
-    m_gl.BindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(picture));
-    if (m_border.use()) {
-        m_gl.Enable(GL_BLEND);
-        m_gl.BlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
-        m_gl.BindTexture(GL_TEXTURE_2D, m_mask);
-        m_gl.BindSampler(0, 0);
-        m_gl.Uniform3fv(m_border.uniform("color"), 1, style.outlineColor.getValue());
-        m_gl.Uniform1f(m_border.uniform("width"), width);
-        m_border.draw();
-        ++counts.drawCalls;
-        m_gl.Disable(GL_BLEND);
+    const PixelRectangle part = rectangleOf(scene, items, frame, static_cast<int>(std::ceil(width)) + 2);
+    {
+        const FramebufferScope framebuffer(m_gl);
+        if (!prepareMask(frame.width, frame.height))
+            return;
+        m_gl.BindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
+        // The whole mask: at the edge of the part, the border samples pixels beyond it.
+        m_gl.ClearColor(0, 0, 0, 0);
+        m_gl.Clear(GL_COLOR_BUFFER_BIT);
+        GLStateScope clipping(m_gl);
+        clipping.setScissor(part.left, part.bottom, part.width, part.height);
+        m_shapes.use();
+        m_gl.UniformMatrix4fv(m_eyeToClip, 1, GL_FALSE, frame.eyeToClip[0].data());
+        m_gl.Uniform1f(m_pointSize, style.pointSize * frame.scale);
+        painter.drawShapes(scene, items, {m_origin, m_modelMatrix}, counts);
     }
-    m_gl.Disable(GL_SCISSOR_TEST);
-    m_gl.Enable(GL_DEPTH_TEST);
+    drawBorder(part, width, style, counts);
+}
+
+void OutlinePainter::drawBorder(
+    const PixelRectangle& part, float width, const NxDrawingStyle& style, NxDrawingCounts& counts)
+{
+    if (!m_border.use())
+        return;
+    GLStateScope blending(m_gl);
+    blending.blend();
+    blending.setScissor(part.left, part.bottom, part.width, part.height);
+    m_gl.BindTexture(GL_TEXTURE_2D, m_mask);
+    m_gl.BindSampler(0, 0);
+    m_gl.Uniform3fv(m_border.uniform("color"), 1, style.outlineColor.getValue());
+    m_gl.Uniform1f(m_border.uniform("width"), width);
+    m_border.draw();
+    ++counts.drawCalls;
 }
 
 } // namespace meridane

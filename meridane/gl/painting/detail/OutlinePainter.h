@@ -7,8 +7,16 @@
 
 namespace meridane {
 
-/// Draws a line around some items, also where they are hidden: their shapes go to an image of their own, whose border
-/// goes to the picture.
+/// A part of the picture, in pixels.
+struct PixelRectangle {
+    int left = 0;
+    int bottom = 0;
+    int width = 0;
+    int height = 0;
+};
+
+/// Draws a line around some items, even where they are hidden: draws their shapes into a mask, and the border of the
+/// mask into the picture.
 class OutlinePainter {
 public:
     explicit OutlinePainter(const NxGLFunctions& gl);
@@ -22,7 +30,9 @@ public:
     void forget();
 
 private:
+    void prepareShapes();
     bool prepareMask(int width, int height);
+    void drawBorder(const PixelRectangle& part, float width, const NxDrawingStyle& style, NxDrawingCounts& counts);
     void deleteMask();
 
     const NxGLFunctions& m_gl;

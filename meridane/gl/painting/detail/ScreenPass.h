@@ -18,10 +18,11 @@ public:
     /// The context must be current, or `forget` have been called.
     ~ScreenPass() { m_gl.DeleteVertexArrays(1, &m_vertexArray); }
 
-    /// Makes the program the current one; false when there is none.
+    /// Binds the program. Returns false if it isn't usable.
     bool use();
     [[nodiscard]] int uniform(const char* name) const { return m_program.uniform(name); }
     void draw() const;
+    /// To be called when the context is lost.
     void forget();
 
 private:

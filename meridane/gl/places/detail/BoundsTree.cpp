@@ -6,9 +6,9 @@
 namespace meridane {
 namespace {
 
-/// From this share of changed items on the tree is built anew.
+/// The tree is rebuilt when more than one item in so many has changed.
 constexpr std::size_t rebuildShare = 8;
-/// The same when something is so many times deeper down than it would be in a balanced tree.
+/// The tree is also rebuilt when a leaf is more than so many times as deep as in a balanced tree.
 constexpr std::size_t depthShare = 4;
 
 double halfSurface(const NxBounds& box) noexcept
@@ -144,7 +144,7 @@ void BoundsTree::rebuild()
     m_root = items.empty() ? noId : build(items.data(), items.data() + items.size(), noId);
 }
 
-// Halves the items each time, so that the recursion is as deep as the logarithm of their number.
+// Halves the items each time, so that the depth of the recursion is the logarithm of their number.
 Id BoundsTree::build(Id* first, Id* last, Id parent)
 {
     const Id id = newNode();
@@ -184,7 +184,7 @@ Id BoundsTree::newNode()
     return id;
 }
 
-// Goes down to where the boxes grow the least.
+// Descends to the leaf where the boxes grow the least.
 Id BoundsTree::findSibling(const NxBounds& box)
 {
     const std::size_t depthOfBalance = std::bit_width(m_count);

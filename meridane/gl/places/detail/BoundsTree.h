@@ -8,18 +8,19 @@
 
 namespace meridane {
 
-/// Finds the items whose boxes are in view, in a time that grows with their number and the logarithm of all. Changes
-/// are collected until the next question: a few of them are made one by one, many by building the tree anew.
+/// Finds the items whose boxes are in view, in a time that grows with their number and the logarithm of the number of
+/// all items. Changes are collected until the next query. Then a few are applied one by one, and many by rebuilding the
+/// tree.
 class BoundsTree {
 public:
-    /// Gives the item that box from now on; an empty box takes it out.
+    /// Sets the box of an item; an empty box removes the item.
     void set(Id item, const NxBounds& box);
     void remove(Id item) { set(item, NxBounds()); }
     void clear();
 
     /// The item's box; empty for an item that isn't in the tree.
     [[nodiscard]] NxBounds boundsOf(Id item) const;
-    /// Around all items.
+    /// The box around all items.
     [[nodiscard]] NxBounds bounds();
     [[nodiscard]] std::size_t count() const noexcept { return m_count; }
     /// Appends the items that may be in view.
@@ -31,8 +32,8 @@ private:
     struct Node {
         NxBounds box;
         Id parent = noId;
-        Id left = noId; // none for a leaf
-        Id right = noId; // the item of a leaf
+        Id left = noId; // noId for a leaf
+        Id right = noId; // for a leaf, the item
 
         [[nodiscard]] bool isLeaf() const noexcept { return left == noId; }
     };
@@ -58,7 +59,7 @@ private:
     std::vector<Id> m_freeNodes;
     Id m_root = noId;
     std::size_t m_count = 0; // of items with a box
-    bool m_goesLeft = false; // where both ways are as good
+    bool m_goesLeft = false; // alternates where both children are equally good
     bool m_isTooDeep = false;
 };
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::uint32_t minCells = 4;
 constexpr std::uint32_t maxCells = 1024;
-/// Smaller meshes aren't worth it.
+/// Meshes with fewer vertices aren't simplified.
 constexpr std::uint32_t minVertices = 64;
 
 float pixelsOf(const NxBounds& bounds, const PictureFrame& frame)
@@ -42,7 +42,7 @@ std::uint32_t detailCells(
     if (shape.vertexCount < minVertices || !(wanted < static_cast<float>(maxCells)))
         return 0;
     const std::uint32_t cells = std::bit_floor(std::max(static_cast<std::uint32_t>(wanted), minCells));
-    // A surface takes about that many cells.
+    // A surface occupies about 2 * cells^2 of them.
     return 2 * cells * cells < shape.vertexCount ? cells : 0;
 }
 

@@ -7,10 +7,9 @@ namespace meridane {
 
 struct PictureFrame;
 
-/// How many cells along its longest side a mesh is simplified to (see `simplified`), always a power of two; 0 for a
-/// mesh with all its detail. Up to half of the full complexity there is less detail; from there on all. Measured
-/// against the picture, a cell is as large as two pixels at half of the complexity, and one pixel at all of it.
-/// `bounds` are relative to the eye.
+/// The number of cells along its longest side that a mesh is simplified to (see `simplified`), a power of two; 0 for
+/// full detail. In object space, detail is reduced below a complexity of 0.5. In screen space, a cell is as large as
+/// two pixels at a complexity of 0.5, and as one pixel at 1. `bounds` are relative to the eye.
 [[nodiscard]] std::uint32_t detailCells(
     const ComplexityValues& complexity, const MeshShape& shape, const NxBounds& bounds, const PictureFrame& frame);
 

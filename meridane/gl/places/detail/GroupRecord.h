@@ -7,28 +7,28 @@
 
 namespace meridane {
 
-/// What drawing keeps about a group.
+/// The record of a group.
 class GroupRecord : public NodeRecord {
 public:
     GroupRecord(NxGroup& group, NodeRecordListener& listener);
 
     [[nodiscard]] NxGroup& group() const noexcept { return static_cast<NxGroup&>(*node()); }
-    /// Whether the group may place its children.
+    /// Whether the group is of a class that transforms its children.
     [[nodiscard]] bool isTransform() const noexcept { return m_isTransform; }
-    /// Notes which children count by now; true if they may be others than at the latest call.
+    /// Stores which children are shown now. Returns true if they may differ from those of the previous call.
     bool noteChildren();
 
-    /// The first of the places of the group, which are linked among each other.
+    /// The first of the group's places, which form a linked list.
     Id firstPlace = noId;
 
 private:
-    std::uint64_t m_revision = 0; // of the children at that time
+    std::uint64_t m_revision = 0; // of the list of children
     int m_choice = 0; // of a switch
     bool m_isTransform;
     bool m_isSwitch;
 };
 
-/// The children that count: of a switch those that it shows.
+/// The children that are drawn: all, but for a switch only those that it shows.
 [[nodiscard]] std::span<NxNode* const> shownChildren(const NxGroup& group);
 
 } // namespace meridane

@@ -38,7 +38,7 @@ KeptPlaces::KeptPlaces(PlaceTable& table, Id place)
 
 std::size_t KeptPlaces::Hash::operator()(const Key& key) const noexcept
 {
-    // Neighbours stay neighbours: records of the same time lie next to each other, and are looked up in that order.
+    // Keeps the order of addresses: records made together are near each other, and are looked up in that order.
     return std::hash<const NodeRecord*>()(key.node) + key.look;
 }
 

@@ -7,24 +7,24 @@
 
 namespace meridane {
 
-/// What a place holds while it is filled again: the places of groups and the items, found by their node and the look
-/// that they have. However often a node is used there, taking one of its places takes the same time.
+/// The contents of a place while it is filled again: places of groups and items that can be reused, found by node and
+/// look. Taking one takes constant time, however often a node is used there.
 class KeptPlaces {
 public:
-    /// Takes all out of a place.
+    /// Removes the contents from a place.
     KeptPlaces(PlaceTable& table, Id place);
     KeptPlaces(const KeptPlaces&) = delete;
     KeptPlaces& operator=(const KeptPlaces&) = delete;
     ~KeptPlaces() = default;
 
-    /// A place of the group with that look, which isn't kept any more; none if there is none.
+    /// Removes and returns a place of the group with that look; `noId` if there is none.
     [[nodiscard]] Id takePlace(const GroupRecord& group, Id look);
     /// The same for an item of a mesh.
     [[nodiscard]] Id takeItem(const MeshRecord& mesh, Id look);
-    /// Any of those that are left, none when there is none.
+    /// Removes and returns any of the remaining ones; `noId` if there is none.
     [[nodiscard]] Id takeAnyPlace();
     [[nodiscard]] Id takeAnyItem();
-    /// How many keys were compared so far.
+    /// The number of keys compared so far.
     [[nodiscard]] std::uint64_t comparisons() const noexcept { return m_comparisons; }
 
 private:
@@ -43,7 +43,7 @@ private:
             return a.node == b.node && a.look == b.look;
         }
     };
-    /// The first of those with the same key, which are linked as siblings.
+    /// The first entry of each key; entries of the same key are linked as siblings.
     using Firsts = std::unordered_map<Key, Id, Hash, Equal>;
 
     template <typename NextOf>

@@ -15,16 +15,6 @@
 namespace meridane {
 namespace {
 
-enum class Part : std::size_t { Location, Color, Fading, Direction };
-
-void put(LightValues& values, Part part, const VbVec3f& vector, float fourth)
-{
-    const std::size_t place = 4 * static_cast<std::size_t>(part);
-    for (std::size_t i = 0; i < 3; ++i)
-        values[place + i] = vector[i];
-    values[place + 3] = fourth;
-}
-
 float kindValue(LightKind kind)
 {
     return static_cast<float>(kind);
@@ -41,30 +31,31 @@ VbVec3f placedPoint(const NxSFVec3f& field, const Matrix4d& worldTransform, cons
     return narrowed(subtract(isFinite(point) ? point : VbVec3d(), eye));
 }
 
-float usable(float value, float greatest)
+float usable(float value, float max)
 {
-    return value > 0 ? std::min(value, greatest) : 0; // 0 for a NaN
+    return value > 0 ? std::min(value, max) : 0; // 0 for a NaN
 }
 
-void putPoint(LightValues& values, const NxPointLight& light, const Matrix4d& worldTransform, const VbVec3d& eye)
+void addPoint(LightValues& values, const NxPointLight& light, const Matrix4d& worldTransform, const VbVec3d& eye)
 {
-    constexpr float greatest = 1e18F;
-    put(values, Part::Location, placedPoint(light.location, worldTransform, eye), kindValue(LightKind::Point));
-    VbVec3f parts = effectiveField(light.attenuation).getValue();
+    constexpr float max = 1e18F;
+    values.location = placedPoint(light.location, worldTransform, eye);
+    values.kind = kindValue(LightKind::Point);
+    values.attenuation = effectiveField(light.attenuation).getValue();
     for (std::size_t i = 0; i < 3; ++i)
-        parts[i] = usable(parts[i], greatest);
-    if (parts == VbVec3f())
-        parts[0] = 1;
-    put(values, Part::Fading, parts, 0);
+        values.attenuation[i] = usable(values.attenuation[i], max);
+    if (values.attenuation == VbVec3f())
+        values.attenuation[0] = 1;
 }
 
-void putSpot(LightValues& values, const NxSpotLight& light, const Matrix4d& worldTransform, const VbVec3d& eye)
+void addSpot(LightValues& values, const NxSpotLight& light, const Matrix4d& worldTransform, const VbVec3d& eye)
 {
-    const float outer = usable(effectiveField(light.cutOffAngle).getValue(), std::numbers::pi_v<float> / 2);
-    const float inner = outer * (1 - usable(effectiveField(light.dropOffRate).getValue(), 1));
-    put(values, Part::Location, placedPoint(light.location, worldTransform, eye), kindValue(LightKind::Spot));
-    put(values, Part::Fading, VbVec3f(1, 0, 0), outer);
-    put(values, Part::Direction, placedDirection(light.direction, worldTransform), inner);
+    values.location = placedPoint(light.location, worldTransform, eye);
+    values.kind = kindValue(LightKind::Spot);
+    values.attenuation = VbVec3f(1, 0, 0);
+    values.outerAngle = usable(effectiveField(light.cutOffAngle).getValue(), std::numbers::pi_v<float> / 2);
+    values.innerAngle = values.outerAngle * (1 - usable(effectiveField(light.dropOffRate).getValue(), 1));
+    values.direction = placedDirection(light.direction, worldTransform);
 }
 
 } // namespace
@@ -87,30 +78,29 @@ LightList::~LightList()
 
 LightValues lightValues(const NxLight* light, const Matrix4d& worldTransform, const VbVec3d& eye)
 {
-    LightValues values{};
+    LightValues values;
     if (light == nullptr || !effectiveField(light->on).getValue())
         return values; // black light from nowhere
     const float intensity = usable(effectiveField(light->intensity).getValue(), 1);
-    VbVec3f color = effectiveField(light->color).getValue();
+    const VbColor& color = effectiveField(light->color).getValue();
     for (std::size_t i = 0; i < 3; ++i)
-        color[i] = usable(color[i], 1) * intensity;
-    put(values, Part::Color, color, 0);
+        values.color[i] = usable(color[i], 1) * intensity;
     if (const auto* sun = dynamic_cast<const NxDirectionalLight*>(light)) {
-        put(values, Part::Location, VbVec3f(), kindValue(LightKind::Directional));
-        put(values, Part::Direction, placedDirection(sun->direction, worldTransform), 0);
+        values.kind = kindValue(LightKind::Directional);
+        values.direction = placedDirection(sun->direction, worldTransform);
     } else if (const auto* lamp = dynamic_cast<const NxPointLight*>(light)) {
-        putPoint(values, *lamp, worldTransform, eye);
+        addPoint(values, *lamp, worldTransform, eye);
     } else if (const auto* spot = dynamic_cast<const NxSpotLight*>(light)) {
-        putSpot(values, *spot, worldTransform, eye);
+        addSpot(values, *spot, worldTransform, eye);
     }
     return values;
 }
 
 LightValues cameraLightValues()
 {
-    LightValues values{};
-    put(values, Part::Location, VbVec3f(), kindValue(LightKind::AtCamera));
-    put(values, Part::Color, VbVec3f(1, 1, 1), 0);
+    LightValues values;
+    values.kind = kindValue(LightKind::AtCamera);
+    values.color = VbVec3f(1, 1, 1);
     return values;
 }
 

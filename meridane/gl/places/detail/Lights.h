@@ -6,20 +6,21 @@
 #include "meridane/scene/nodes/NxLight.h"
 
 #include <array>
+#include <cstddef>
 #include <memory>
 
 namespace meridane {
 
 class NodeRecords;
 
-/// The lights that shine on something: those of a group so far, and those of the groups above. Immutable but for what
-/// the lights themselves hold; lists that share their beginning share it in memory as well.
+/// The lights that shine on a mesh: those before it in its group and in the groups above. A linked list that doesn't
+/// change; lists with the same first lights share those entries.
 class LightList {
 public:
     /// How many lights shine on one mesh at most.
     static constexpr std::uint32_t maxLights = 32;
 
-    /// `worldTransform` names the matrix of the group that the light stands in.
+    /// `worldTransform` is the number of the matrix of the light's group (see `PlaceTable`).
     LightList(std::shared_ptr<const LightList> above, LightRecord& light, Id worldTransform, NodeRecords& records);
     LightList(const LightList&) = delete;
     LightList& operator=(const LightList&) = delete;
@@ -39,12 +40,33 @@ private:
     std::uint32_t m_count;
 };
 
-/// A light as the shaders take it, all in the units of the scene: where it is relative to the eye, and its kind; its
-/// colour; how it fades, and the angle of its cone; where it shines, and the angle up to which it is as bright as on
-/// the axis.
-using LightValues = std::array<float, 16>;
 /// The kinds of light that shaders know.
 enum class LightKind { Directional, Point, Spot, AtCamera };
+
+/// A light as the shaders take it: four vectors of four floats, in scene units and radians.
+struct LightValues {
+    VbVec3f location; ///< relative to the eye
+    float kind = 0; ///< a `LightKind`
+    VbVec3f color; ///< times the intensity
+    float unused = 0;
+    VbVec3f attenuation; ///< constant, linear and quadratic
+    float outerAngle = 0; ///< of the cone of a spot light, from the axis to the border
+    VbVec3f direction; ///< of length 1
+    float innerAngle = 0; ///< up to which a spot light is as bright as on the axis
+};
+static_assert(sizeof(LightValues) == 64);
+static_assert(offsetof(LightValues, kind) == 12 && offsetof(LightValues, color) == 16);
+static_assert(offsetof(LightValues, attenuation) == 32 && offsetof(LightValues, outerAngle) == 44);
+static_assert(offsetof(LightValues, direction) == 48 && offsetof(LightValues, innerAngle) == 60);
+
+/// The uniform block of the lights, in the layout std140. Only the first `count` lights need be written.
+struct LightsBlock {
+    float count = 0;
+    std::array<float, 3> unused{};
+    std::array<LightValues, LightList::maxLights> lights;
+};
+static_assert(offsetof(LightsBlock, lights) == 16);
+static_assert(sizeof(LightsBlock) == 16 + LightList::maxLights * sizeof(LightValues));
 
 [[nodiscard]] LightValues lightValues(
     const NxLight* light, const Matrix4d& worldTransform, const VbVec3d& eye = VbVec3d());

@@ -4,25 +4,22 @@
 #include "meridane/scene/fields/NxRef.h"
 
 #include <algorithm>
-#include <cstddef>
 
 namespace meridane {
 namespace {
 
 /// The exponent of the sharpest highlight.
-constexpr float greatestExponent = 128;
+constexpr float maxExponent = 128;
 
 float fraction(float value, float otherwise = 0)
 {
     return value >= 0 ? std::min(value, 1.0F) : value < 0 ? 0 : otherwise; // otherwise for a NaN
 }
 
-void put(MaterialValues& values, std::size_t place, const NxSFColor& field, float fourth)
+VbColor usableColor(const NxSFColor& field)
 {
     const VbColor& color = effectiveField(field).getValue();
-    for (std::size_t i = 0; i < 3; ++i)
-        values[place + i] = fraction(color[i]);
-    values[place + 3] = fourth;
+    return {fraction(color[0]), fraction(color[1]), fraction(color[2])};
 }
 
 } // namespace
@@ -33,12 +30,13 @@ MaterialValues materialValues(const NxMaterial* material)
         static const MaterialValues defaults = materialValues(NxRef<NxMaterial>(new NxMaterial).get());
         return defaults;
     }
-    MaterialValues values{};
-    put(values, 0, material->diffuseColor, 1 - fraction(effectiveField(material->transparency).getValue()));
-    put(values, 4, material->ambientColor, 0);
-    put(values, 8, material->specularColor,
-        std::max(fraction(effectiveField(material->shininess).getValue()) * greatestExponent, 1.0F));
-    put(values, 12, material->emissiveColor, 0);
+    MaterialValues values;
+    values.diffuse = usableColor(material->diffuseColor);
+    values.opacity = 1 - fraction(effectiveField(material->transparency).getValue());
+    values.ambient = usableColor(material->ambientColor);
+    values.specular = usableColor(material->specularColor);
+    values.exponent = std::max(fraction(effectiveField(material->shininess).getValue()) * maxExponent, 1.0F);
+    values.emissive = usableColor(material->emissiveColor);
     return values;
 }
 

@@ -1,19 +1,40 @@
 #pragma once
 
+#include "meridane/base/values/VbColor.h"
 #include "meridane/gl/places/detail/NodeRecord.h"
 #include "meridane/scene/nodes/NxComplexity.h"
 #include "meridane/scene/nodes/NxMaterial.h"
 #include "meridane/scene/nodes/NxTexture.h"
 
 #include <array>
+#include <bit>
+#include <cstddef>
 
 namespace meridane {
 
-/// A material as the shaders take it: diffuse colour and opacity, ambient colour, specular colour and exponent,
-/// emissive colour.
-using MaterialValues = std::array<float, 16>;
-/// Of the fields that count, each held to its range; null gives a new material's.
+/// A material as the shaders take it: four vectors of four floats. Colours go from 0 to 1.
+struct MaterialValues {
+    VbColor diffuse;
+    float opacity = 1; ///< from 0 to 1
+    VbColor ambient;
+    float unused1 = 0;
+    VbColor specular;
+    float exponent = 1; ///< of the highlight, from 1 to 128
+    VbColor emissive;
+    float unused2 = 0;
+};
+static_assert(sizeof(MaterialValues) == 64);
+static_assert(offsetof(MaterialValues, opacity) == 12 && offsetof(MaterialValues, ambient) == 16);
+static_assert(offsetof(MaterialValues, specular) == 32 && offsetof(MaterialValues, exponent) == 44);
+static_assert(offsetof(MaterialValues, emissive) == 48);
+
+/// The values of the effective fields, limited to their ranges. A null pointer gives those of a new material.
 [[nodiscard]] MaterialValues materialValues(const NxMaterial* material);
+/// The values in a row, as OpenGL takes them.
+[[nodiscard]] inline std::array<float, 16> asFloats(const MaterialValues& values) noexcept
+{
+    return std::bit_cast<std::array<float, 16>>(values);
+}
 
 class MaterialRecord : public NodeRecord {
 public:
@@ -27,7 +48,7 @@ public:
     MaterialValues values;
 };
 
-/// How finely things are drawn.
+/// How much detail is drawn.
 struct ComplexityValues {
     int type = NxComplexity::OBJECT_SPACE;
     float value = 0.5F;
@@ -47,7 +68,7 @@ public:
     ComplexityValues values;
 };
 
-/// The card's image of a texture is a matter of `TextureStore`.
+/// `TextureStore` uploads the image and keeps these values up to date.
 class TextureRecord : public NodeRecord {
 public:
     TextureRecord(NxTexture& texture, NodeRecordListener& listener)
@@ -56,7 +77,7 @@ public:
     }
     [[nodiscard]] const NxTexture* texture() const noexcept { return static_cast<const NxTexture*>(node()); }
 
-    /// OpenGL's name of the image; 0 for none.
+    /// The OpenGL name of the image; 0 for none.
     unsigned int name = 0;
     std::size_t bytes = 0;
     std::uint64_t fingerprint = 0;

@@ -33,7 +33,7 @@ void Looks::release(Id id)
 
 std::size_t Looks::bytes() const noexcept
 {
-    // A node of the map has three links and a colour besides.
+    // A node of the map also has three links, a colour and the value.
     return m_slots.bytes() + m_ids.size() * (sizeof(Look) + 5 * sizeof(void*));
 }
 

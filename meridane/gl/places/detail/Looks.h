@@ -10,7 +10,7 @@
 
 namespace meridane {
 
-/// What precedes a mesh in its group and further up; null for nothing of the kind.
+/// The state that applies to a mesh, set by the nodes before it in its group and in the groups above. Null: not set.
 struct Look {
     MaterialRecord* material = nullptr;
     TextureRecord* texture = nullptr;
@@ -25,7 +25,7 @@ struct Look {
     }
 };
 
-/// All looks of a scene, each once: things that look the same are drawn together.
+/// All looks of a scene, each stored once, so that items with the same look are drawn together.
 class Looks {
 public:
     explicit Looks(NodeRecords& records)
@@ -36,7 +36,7 @@ public:
     Looks& operator=(const Looks&) = delete;
     ~Looks() = default;
 
-    /// The number of that look, which counts as used once more.
+    /// Returns the number of that look and counts one more use.
     Id use(const Look& look);
     void useAgain(Id id) noexcept { ++m_slots[id].uses; }
     void release(Id id);

@@ -14,7 +14,7 @@ namespace {
 
 bool isUsable(const VbVec3f& point)
 {
-    // One test for three: what isn't finite stays no number when it is multiplied by 0.
+    // One test instead of three: infinity and NaN times 0 are NaN.
     return std::isfinite(point[0] * 0 + point[1] * 0 + point[2] * 0);
 }
 
@@ -30,8 +30,8 @@ std::size_t inspectPositions(std::span<const VbVec3f> positions, NxBounds& bound
     return useless;
 }
 
-/// Neighbours should have the same origin, so that what they share is placed at the same pixels: only the upper bits of
-/// the middle count.
+/// Only the upper bits of the center, so that adjacent meshes have the same origin and their common edges are drawn at
+/// the same pixels.
 VbVec3f originOf(const NxBounds& bounds)
 {
     constexpr float farAway = 64; // in sizes of the mesh
@@ -58,7 +58,7 @@ std::size_t countOutOfRange(std::span<const int> indices, std::size_t vertexCoun
         [vertexCount](int index) { return index < 0 || static_cast<std::size_t>(index) >= vertexCount; }));
 }
 
-/// Whether there is one value for each position; reports any other number but none.
+/// Whether there is one value for each position. Reports any other number, unless it is 0.
 bool hasEach(std::size_t count, std::size_t positions, const char* what, Problem problem, NodeRecord& record,
     Problems& problems, bool oneIsFine = false)
 {

@@ -13,14 +13,14 @@ namespace meridane {
 class NodeRecord;
 class Problems;
 
-/// What a mesh has that can be drawn.
+/// The properties of a mesh that drawing needs.
 struct MeshShape {
     enum class Colors : std::uint8_t { None, One, Each };
 
     /// Around all finite positions, in the units of the mesh.
     NxBounds bounds;
-    /// What positions are told relative to while they are placed: not zero for a mesh far from its own origin, where
-    /// floats are too coarse to place it. Differences from it are exact.
+    /// A point near the positions, which are transformed relative to it. It is zero, unless the mesh is so far from its
+    /// own origin that floats are too coarse to transform it. Differences from it are exact.
     VbVec3f origin;
     std::uint32_t vertexCount = 0;
     /// One of NxMesh::Primitive.
@@ -29,9 +29,9 @@ struct MeshShape {
     bool hasNormals = false;
     bool hasCoordinates = false;
     bool hasIndices = false;
-    /// Some indices or positions are useless, so that the primitives with them must be left out.
+    /// Some indices are out of range or some positions aren't finite; primitives with them must be left out.
     bool needsFilter = false;
-    /// The colour of a mesh with one for all.
+    /// The colour of a mesh that has one colour for all vertices.
     VbVec4f oneColor;
     /// Some colour isn't opaque.
     bool isTranslucent = false;
@@ -39,7 +39,7 @@ struct MeshShape {
     friend bool operator==(const MeshShape&, const MeshShape&) noexcept = default;
 };
 
-/// Looks a mesh through and reports what is wrong with it.
+/// Examines all lists of a mesh and reports its problems.
 [[nodiscard]] MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems);
 
 /// The indices of all whole primitives whose positions exist and are finite.

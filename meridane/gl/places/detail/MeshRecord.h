@@ -9,7 +9,7 @@
 
 namespace meridane {
 
-/// Where a mesh lies in the buffers of the card.
+/// The location of a mesh in the buffers of the GPU.
 struct MeshRange {
     Id page = noId;
     std::uint32_t firstVertex = 0;
@@ -18,16 +18,16 @@ struct MeshRange {
     std::uint32_t indexCount = 0;
 };
 
-/// A mesh on the card with less detail.
+/// A copy of a mesh on the GPU with less detail.
 struct MeshLevel {
-    std::uint32_t cells = 0; ///< as `simplified` takes them
+    std::uint32_t cells = 0; ///< see `simplified`
     MeshRange range;
 };
 
-/// What drawing keeps about a mesh. Of its values it keeps none.
+/// The record of a mesh. It doesn't copy the lists of the mesh.
 class MeshRecord : public NodeRecord {
 public:
-    /// The lists that go to the card.
+    /// The number of lists that are uploaded.
     static constexpr std::size_t lists = 5;
 
     MeshRecord(NxMesh& mesh, NodeRecordListener& listener)
@@ -36,7 +36,7 @@ public:
     }
     [[nodiscard]] const NxMesh* mesh() const noexcept { return static_cast<const NxMesh*>(node()); }
 
-    /// Where the mesh is with that much detail, 0 for all; a range of no page if it isn't on the card.
+    /// The location of the mesh with that detail (0: full); its page is `noId` if the GPU doesn't have it.
     [[nodiscard]] MeshRange rangeOf(std::uint32_t cells) const
     {
         for (const MeshLevel& level : levels) {
@@ -49,14 +49,14 @@ public:
     MeshShape shape;
     MeshRange range;
     std::vector<MeshLevel> levels;
-    /// The first of the places of the mesh, which are linked among each other.
+    /// The first item of the mesh; its items form a linked list.
     Id firstItem = noId;
-    /// Of the lists that the card has, which tell what must go there again.
+    /// Hashes of the lists on the GPU. A list with another hash must be uploaded again.
     std::array<std::uint64_t, lists> fingerprints{};
     bool isInspected = false;
-    /// The card doesn't have what the mesh has by now, with all its detail.
+    /// The copy with full detail isn't on the GPU, or is older than the mesh.
     bool isStale = true;
-    /// The same for what it has with less detail.
+    /// The copies with less detail are older than the mesh.
     bool areLevelsStale = false;
 };
 

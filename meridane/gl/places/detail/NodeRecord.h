@@ -9,27 +9,27 @@ class NxNode;
 
 namespace meridane {
 
-/// Names an entry of one of the drawing's tables.
+/// The number of an entry in one of the drawing's tables.
 using Id = std::uint32_t;
 inline constexpr Id noId = std::numeric_limits<Id>::max();
 
-/// The nodes that drawing tells apart.
+/// The kinds of nodes that matter for drawing.
 enum class NodeKind : std::uint8_t { Other, Group, Mesh, Material, Texture, Complexity, Light };
 [[nodiscard]] NodeKind kindOf(const NxNode& node);
 
 class NodeRecord;
 
-/// Who is told of changes in the scene.
+/// Receives the changes of nodes.
 class NodeRecordListener {
 public:
     NodeRecordListener() = default;
     NodeRecordListener(const NodeRecordListener&) = delete;
     NodeRecordListener& operator=(const NodeRecordListener&) = delete;
 
-    /// From the call that changes a field, the name or the list of children, unless the record is pending already. It
-    /// must only make a note.
+    /// Called from inside the call that changes a field, the name or the list of children, unless the record is pending
+    /// already. It must only make a note.
     virtual void nodeTouched(NodeRecord& record) = 0;
-    /// The same from the delay queue.
+    /// Called from the delay queue after changes.
     virtual void nodeChanged(NodeRecord& record) = 0;
     /// The node is being destroyed.
     virtual void nodeDied(NodeRecord& record) = 0;
@@ -38,25 +38,25 @@ protected:
     ~NodeRecordListener() = default;
 };
 
-/// What drawing keeps about a node of the scene, in whatever places it stands; the base of a class for each kind. It is
-/// the sensor of the node as well: a scene may have a hundred thousand of them.
+/// What the drawing knows about a node of the scene, whatever the number of its instances; the base of a class for each
+/// kind. It is also the sensor of the node, to save memory: a scene may have a hundred thousand nodes.
 class NodeRecord : public NxNodeSensor {
 public:
     NodeRecord(NxNode& node, NodeKind kind, NodeRecordListener& listener);
 
-    /// The node, or null once it is dead.
+    /// The node, or null after its destruction.
     [[nodiscard]] NxNode* node() const noexcept { return m_node; }
     [[nodiscard]] NodeKind kind() const noexcept { return m_kind; }
     void notify() override;
     void dyingReference() override;
 
-    /// How many places, meshes and lists of lights need the record.
+    /// The number of places, looks and lists of lights that use the record.
     std::uint32_t uses = 0;
     /// The problems of the node that were reported, one bit each.
     std::uint16_t reportedProblems = 0;
-    /// The record waits to be brought in line with its node.
+    /// The node has changed since the last update.
     bool isPending = false;
-    /// The record waits for its end, unless somebody uses it again.
+    /// The record will be destroyed unless it is used again.
     bool isUnused = false;
 
 private:

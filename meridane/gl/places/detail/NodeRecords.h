@@ -10,10 +10,10 @@
 
 namespace meridane {
 
-/// The records of all nodes that drawing needs, one for a node however often it is used.
+/// The records of all nodes that are drawn, one for each node, however many instances it has.
 class NodeRecords {
 public:
-    /// The node's record, which is made when there is none. The caller must `retain` what it keeps.
+    /// Returns the node's record, and creates it if there is none. The caller must `retain` a record that it keeps.
     template <typename Record, typename Node>
     Record& of(Node& node, NodeRecordListener& listener)
     {
@@ -35,7 +35,7 @@ public:
         if (--record.uses == 0)
             markUnused(record);
     }
-    /// The node is dead: its address may soon be another node's.
+    /// Called when the node is destroyed: another node may soon have its address.
     void forgetNode(NodeRecord& record);
     /// Destroys the records that nobody uses. Calls `beforeDestroy` with each of them first.
     template <typename Callback>
@@ -64,7 +64,7 @@ public:
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
 
 private:
-    // For one record more to be marked as unused, which then can't run out of memory.
+    // Reserves memory so that marking one more record as unused can't fail.
     void makeRoom();
     void markUnused(NodeRecord& record) noexcept
     {
@@ -75,7 +75,7 @@ private:
     [[nodiscard]] static std::size_t bytesOf(const NodeRecord& record) noexcept;
 
     std::unordered_map<const NxNode*, std::unique_ptr<NodeRecord>> m_records;
-    /// Of dead nodes.
+    /// Records of destroyed nodes.
     std::unordered_map<const NodeRecord*, std::unique_ptr<NodeRecord>> m_orphans;
     std::vector<NodeRecord*> m_unused;
     std::size_t m_bytes = 0;

@@ -7,22 +7,22 @@
 
 namespace meridane {
 
-/// A group in one of its places. Places form a tree, in which a shared group stands as often as it is reached.
+/// An instance of a group. Places form a tree; a shared group has one place for each path that leads to it.
 struct Place {
-    GroupRecord* group = nullptr; ///< null for the place above the scene's own node
+    GroupRecord* group = nullptr; ///< null for the place above the scene's root
     Id parent = noId;
     Id firstChild = noId;
     Id nextSibling = noId;
     Id firstItem = noId;
     Id previousOfGroup = noId;
     Id nextOfGroup = noId;
-    /// The matrix that takes what stands in the place to the scene; that of the parent if the group has none.
+    /// The number of the world transform; that of the parent if the group doesn't transform.
     Id worldTransform = noId;
-    /// The look of what stands at the beginning of the group.
+    /// The look at the beginning of the group.
     Id look = noId;
 };
 
-/// A mesh in one of its places: what is drawn, and in or out of view.
+/// An instance of a mesh: the unit of drawing and culling.
 struct Item {
     MeshRecord* mesh = nullptr;
     Id place = noId;
@@ -32,15 +32,14 @@ struct Item {
     Id look = noId;
 };
 
-/// The places of groups and meshes, and how they are linked: to what stands in them, and to the other places of the
-/// same node.
+/// The instances of groups and meshes, linked to their contents and to the other instances of the same node.
 class PlaceTable {
 public:
     Id addPlace(const Place& place);
-    /// Links a place or an item to the place that it stands in, whose links were taken away.
+    /// Adds a place or an item to its parent place, from which it was removed before.
     void attachPlace(Id id);
     void attachItem(Id id);
-    /// Unlinks a place from its group; its parent and its contents are the caller's to mend.
+    /// Removes a place from the list of its group. The caller updates the links of its parent and its contents.
     void removePlace(Id id);
     Id addItem(const Item& item);
     void removeItem(Id id);
@@ -55,7 +54,7 @@ public:
         return worldTransforms[m_places[item.place].worldTransform];
     }
 
-    /// Places of groups and of meshes.
+    /// The number of places and items.
     [[nodiscard]] std::size_t count() const noexcept { return m_places.count() + m_items.count(); }
     [[nodiscard]] std::size_t bytes() const noexcept
     {

@@ -39,7 +39,7 @@ void PlacedScene::setRoot(NxNode* root)
     }
     if (m_root)
         fill(topPlace);
-    followPending(); // nodes of the former scene that are in this one as well
+    followPending(); // nodes that were also in the previous scene
     destroyUnusedRecords();
 }
 
@@ -74,7 +74,7 @@ void PlacedScene::followPending()
     for (NodeRecord* record : pending)
         record->isPending = false;
     const auto isNeeded = [](const NodeRecord& record) { return record.node() != nullptr && record.uses > 0; };
-    // Children first: what groups let go needn't be followed any more, and may be dead.
+    // Lists of children first: nodes that were removed from groups needn't be updated, and may be destroyed.
     for (NodeRecord* record : pending) {
         if (record->kind() == NodeKind::Group && isNeeded(*record))
             followChildren(static_cast<GroupRecord&>(*record));
@@ -153,7 +153,7 @@ Matrix4d PlacedScene::worldTransformIn(GroupRecord& group, const Matrix4d& paren
     return multiply(own, parent);
 }
 
-// The places below a transform that has another matrix.
+// Updates the places below a changed transform.
 void PlacedScene::move(Id top)
 {
     std::vector<Id> waiting{top};
@@ -293,7 +293,7 @@ void PlacedScene::destroyUnusedRecords()
         m_lightListsToSweep = 2 * m_lightLists.size() + LightList::maxLights;
     }
     m_records.destroyUnused([this](NodeRecord& record) {
-        if (record.isPending) // changed by whoever was told of a problem
+        if (record.isPending) // changed by the handler of a reported problem
             std::erase(m_pending, &record);
         if (record.kind() == NodeKind::Mesh)
             m_listener.releaseMesh(static_cast<MeshRecord&>(record));

@@ -19,27 +19,27 @@ namespace meridane {
 
 class KeptPlaces;
 
-/// The scene as it is drawn: each mesh in each of its places, with the matrix and the look that it has there, and where
-/// it lies. It knows nothing of OpenGL.
+/// The scene as it is drawn: all instances of all meshes, each with its world transform, look and box. Doesn't use
+/// OpenGL.
 ///
-/// Sensors note what changes at once, and tell the listener with the next pass of the delay queue. `update` brings all
-/// that changed up to then in line: the places below a moved transform, the contents of a group with other children,
-/// what hangs on the node itself for all other kinds. Until the next change, places and records fit the nodes.
+/// Sensors note changes at once and notify the listener with the next pass of the delay queue. `update` applies all
+/// changes since the last call: the places below a changed transform, the contents of a group with other children, and
+/// the record of any other node. After it, places and records match the nodes until the next change.
 class PlacedScene final : private NodeRecordListener {
 public:
-    /// Groups in each other and shared may stand in more places than any memory holds.
+    /// Shared groups inside each other may have more instances than fit in memory.
     static constexpr std::size_t defaultMaxPlaces = 4'000'000;
 
-    /// Who holds what the card has of a node is told when nobody needs it any more.
+    /// `releaseMesh` and `releaseTexture` are called when the last instance of a node is gone, so that its GPU
+    /// resources can be freed.
     struct Listener {
         std::function<void()> changed; ///< something changed; `update` is due
         std::function<void(MeshRecord&)> releaseMesh;
         std::function<void(TextureRecord&)> releaseTexture;
     };
 
-    /// What would take more than `maxPlaces` places of groups and meshes is left out, which is reported once for a
-    /// scene. It comes in when the group that it stands in changes and there is room, or when a quarter of the places
-    /// is free.
+    /// Instances of groups and meshes beyond `maxPlaces` are left out, which is reported once for a scene. They are
+    /// added later when there is room and their group changes, or when a quarter of the places is free.
     explicit PlacedScene(Listener listener, std::size_t maxPlaces = defaultMaxPlaces);
     PlacedScene(const PlacedScene&) = delete;
     PlacedScene& operator=(const PlacedScene&) = delete;
@@ -47,26 +47,26 @@ public:
 
     void setRoot(NxNode* root);
     [[nodiscard]] NxNode* root() const noexcept { return m_root.get(); }
-    /// Follows the changes since the latest call.
+    /// Applies the changes since the last call.
     void update();
 
     [[nodiscard]] const PlaceTable& table() const noexcept { return m_table; }
     [[nodiscard]] const Looks& looks() const noexcept { return m_looks; }
     [[nodiscard]] BoundsTree& tree() noexcept { return m_tree; }
     [[nodiscard]] Problems& problems() noexcept { return m_problems; }
-    /// A number that changes with the places.
+    /// A number that changes when places are added or removed.
     [[nodiscard]] std::uint64_t structure() const noexcept { return m_structure; }
-    /// What following the scene has cost so far: nodes visited, places moved and keys of places compared.
+    /// The cost of all updates so far: nodes visited, places moved and keys compared.
     [[nodiscard]] std::uint64_t steps() const noexcept { return m_steps; }
-    /// A number that changes with the lights and where they are.
+    /// A number that changes with the lights and their transforms.
     [[nodiscard]] std::uint64_t lighting() const noexcept { return m_lighting; }
 
-    /// The meshes below a node, in all its places.
+    /// The items below a node, in all its instances.
     [[nodiscard]] std::vector<Id> itemsBelow(const NxNode* node) const;
-    /// The same for one place, told by the nodes from a child of the root down.
+    /// The items below one instance of a node, given as the path of nodes from a child of the root.
     [[nodiscard]] std::vector<Id> itemsBelow(std::span<const NxNode* const> path) const;
-    /// The box around an item, relative to that point, which makes it exact far from the origin; empty for one that
-    /// lies farther away than floats reach.
+    /// The box around an item relative to `from`; a point near the item makes the box exact. Empty if the item is
+    /// farther away than the largest float.
     [[nodiscard]] NxBounds boundsOf(const Item& item, const VbVec3d& from = VbVec3d()) const;
     /// Calls `visit` with each record of a texture or mesh.
     template <typename Record, typename Visit>
@@ -80,7 +80,7 @@ public:
     [[nodiscard]] std::size_t bytes() const noexcept;
 
 private:
-    /// The place above the scene's own node.
+    /// The place above the scene's root.
     static constexpr Id topPlace = 0;
     struct Filling;
 
@@ -117,9 +117,10 @@ private:
     NxRef<NxNode> m_root;
     NodeRecords m_records;
     Looks m_looks{m_records};
-    /// By what they consist of, so that a group that is filled again finds its lists of lights again.
+    /// By their contents, so that a group that is filled again reuses its lists of lights.
     std::map<std::tuple<const LightList*, const LightRecord*, Id>, std::weak_ptr<const LightList>> m_lightLists;
-    std::size_t m_lightListsToSweep = LightList::maxLights; // from how many entries on those of no list are taken out
+    std::size_t m_lightListsToSweep
+        = LightList::maxLights; // expired entries are removed when there are more entries than this
     PlaceTable m_table;
     BoundsTree m_tree;
     Problems m_problems;
@@ -128,7 +129,7 @@ private:
     std::uint64_t m_lighting = 0;
     std::uint64_t m_steps = 0;
     std::size_t m_maxPlaces;
-    bool m_isCut = false; // something was left out for want of room
+    bool m_isCut = false; // something was left out because there was no room
     bool m_isCutReported = false;
 };
 

@@ -7,7 +7,7 @@
 
 namespace meridane {
 
-/// What can be wrong with a node for drawing.
+/// The problems that drawing can have with a node.
 enum class Problem : std::uint8_t {
     NoPositions,
     IncompletePrimitive,
@@ -25,21 +25,21 @@ enum class Problem : std::uint8_t {
     Count, ///< the number of problems
 };
 
-/// Reports what is wrong with nodes: each problem of a node once, until it is mended and comes back. Of many nodes with
-/// the same problem only the first are reported, so that a broken scene doesn't bury everything else.
+/// Reports the problems of nodes. Each problem of a node is reported once, and again if it disappears and returns. Only
+/// the first nodes with the same problem are reported, so that a broken scene doesn't hide all other messages.
 class Problems {
 public:
-    /// How many nodes are reported for each problem.
+    /// The number of nodes reported for each problem.
     static constexpr int maxReports = 20;
 
-    /// Notes whether a node has a problem now. `text` gives what to say about it, behind the name of the node.
+    /// Stores whether a node has a problem now. `text` returns the message, which follows the name of the node.
     template <typename Text>
     void note(NodeRecord& record, Problem problem, bool isThere, Text text)
     {
         if (isNews(record, problem, isThere))
             report(record, problem, text());
     }
-    /// For another scene all is reported anew.
+    /// Reports everything again, for another scene.
     void forget() { m_counts.fill(0); }
 
 private:

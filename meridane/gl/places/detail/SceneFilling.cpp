@@ -1,4 +1,4 @@
-// How a scene becomes places: walks the nodes in order, with what precedes each of them in mind.
+// Creates the places of a scene: traverses the nodes in order and keeps track of the state that applies to each.
 
 #include "meridane/base/errors/NxDebugError.h"
 #include "meridane/gl/places/detail/KeptPlaces.h"
@@ -10,7 +10,7 @@
 
 namespace meridane {
 
-/// A group on the way from the top down to where the walk is.
+/// A group on the path from the top to the present node of the traversal.
 struct PlacedScene::Filling {
     Id place = noId;
     std::span<NxNode* const> children;
@@ -19,18 +19,18 @@ struct PlacedScene::Filling {
     NxTexture* texture = nullptr;
     NxComplexity* complexity = nullptr;
     std::shared_ptr<const LightList> lights;
-    /// What may be taken again instead of being made anew.
+    /// Places and items that can be reused instead of created.
     KeptPlaces* kept = nullptr;
-    /// The look that follows from these, which counts as used by the walk; none until it is needed.
+    /// The look with this state, which the traversal counts as used; `noId` until it is needed.
     Id look = noId;
 };
 
-// Groups and meshes that still stand there, and look as they did, are left as they are with all that is below them.
+// Groups and meshes that are still there with the same look are kept, with everything below them.
 void PlacedScene::refill(Id top)
 {
     ++m_structure;
     bool makesRoom = true;
-    for (bool isCut = true; isCut && makesRoom;) { // what is taken out may leave room for what was left out
+    for (bool isCut = true; isCut && makesRoom;) { // what is removed may make room for what was left out
         KeptPlaces kept(m_table, top);
         isCut = !fill(top, &kept);
         makesRoom = false;
@@ -69,7 +69,7 @@ bool PlacedScene::fill(Id top, KeptPlaces* kept)
     const std::uint64_t lastStep = m_steps + 4 * m_maxPlaces;
     while (!stack.empty()) {
         Filling& filling = stack.back();
-        // Shared groups may also hold many nodes that take no place.
+        // Shared groups may also contain many nodes that have no places.
         const bool isTooLong = m_steps > lastStep && filling.kept == nullptr && filling.next < filling.children.size();
         if (isTooLong)
             reportCut();
@@ -202,7 +202,7 @@ void PlacedScene::addGroup(NxGroup& group, std::vector<Filling>& stack)
     if (!hasRoom())
         return;
     NodeRecords::retain(record);
-    // Where it stands elsewhere as well, its other places may still have to follow its children.
+    // If it has other places, those may not have been updated to its children yet.
     if (record.firstPlace == noId)
         record.noteChildren();
     Place place;

@@ -7,7 +7,7 @@
 
 namespace meridane {
 
-/// Entries that are named by small numbers, which are given out again when an entry goes.
+/// Entries with small numbers, which are reused after an entry is removed.
 template <typename Entry>
 class SlotTable {
 public:
