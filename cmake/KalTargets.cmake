@@ -138,14 +138,16 @@ endfunction()
 
 # The precompiled header of the tests, made once for those that do not know widgets, once for those that do and once for
 # those of the editors, which all show one in a tool: QtTest and the field classes are most of what compiling a test
-# costs. It is made for a program, since a library is compiled with other flags.
+# costs. It also makes every test as patient as tests/Patience.h says. It is made for a program, since a library is
+# compiled with other flags.
 function(kal_use_test_header target flavour)
   set(carrier kal_test_header_${flavour})
   if(NOT TARGET ${carrier})
     file(GENERATE OUTPUT "${PROJECT_BINARY_DIR}/tests/${carrier}.cpp" CONTENT "int main() {}\n")
     add_executable(${carrier} "${PROJECT_BINARY_DIR}/tests/${carrier}.cpp")
     kal_set_test_options(${carrier} ${flavour})
-    target_precompile_headers(${carrier} PRIVATE <QSignalSpy> <QTemporaryDir> <QTest>)
+    target_precompile_headers(${carrier} PRIVATE <QSignalSpy> <QTemporaryDir> <QTest>
+                                                  "${PROJECT_SOURCE_DIR}/tests/Patience.h")
     if(flavour STREQUAL "editors")
       target_link_libraries(${carrier} PRIVATE kal_orvane_extender_base_objects)
       target_precompile_headers(${carrier} PRIVATE "${PROJECT_SOURCE_DIR}/tests/plugin/EditorHarness.h")

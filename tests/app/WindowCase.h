@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Patience.h"
+
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/window/MainWindow.h"
 
@@ -36,7 +38,7 @@ protected:
         m_session = std::make_unique<Session>(AppSettings::Mode::File, filePath("orvane.ini"));
         m_window = std::make_unique<MainWindow>(*m_session);
         m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get(), testPatience));
     }
 
     /// Opens a file as a user does. The result tells why it failed.
@@ -44,7 +46,8 @@ protected:
     {
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
         m_window->openFile(fileName);
-        settled.wait();
+        if (settled.isEmpty())
+            settled.wait(testPatience);
         return settled.isEmpty() ? QStringLiteral("nothing settled") : settled.front().front().toString();
     }
 

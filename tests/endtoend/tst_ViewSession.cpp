@@ -85,7 +85,7 @@ private Q_SLOTS:
         file.close();
         m_tool = std::make_unique<LiveTool>();
         QVERIFY(m_tool->start({fileName}));
-        QTRY_VERIFY_WITH_TIMEOUT(find(Qt::red).size > 200, 30000);
+        QTRY_VERIFY(find(Qt::red).size > 200);
     }
 
     void cleanup() { m_tool.reset(); }
@@ -130,10 +130,10 @@ private Q_SLOTS:
         QVERIFY(m_tool->start({file.fileName()}));
         const QRect allow = m_tool->widget(QStringLiteral("acceptMessage"));
         QVERIFY(!allow.isEmpty());
-        QTRY_VERIFY_WITH_TIMEOUT(find(Qt::white).size > 200, 30000);
+        QTRY_VERIFY(find(Qt::white).size > 200);
         QCOMPARE(find(Qt::blue).size, 0);
         m_tool->click(allow.center());
-        QTRY_VERIFY_WITH_TIMEOUT(find(Qt::blue).size > 200, 30000);
+        QTRY_VERIFY(find(Qt::blue).size > 200);
         QTRY_VERIFY(!m_tool->isShown(QStringLiteral("acceptMessage")));
         QCOMPARE(m_tool->quit(), 0);
     }

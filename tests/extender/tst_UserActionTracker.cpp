@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "extender/Recording.h"
 #include "extender/TestCommand.h"
 
@@ -35,7 +36,7 @@ public:
         resize(400, 200);
         show();
         activateWindow();
-        return QTest::qWaitForWindowActive(this);
+        return QTest::qWaitForWindowActive(this, testPatience);
     }
 
     /// Where a part of the slider is, in the window. The groove's ends are at 0 and 1.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Patience.h"
+
 #include "orvane/app/files/FileJob.h"
 
 #include <QList>
@@ -21,7 +23,7 @@ public:
     /// Runs the event loop until the job has ended.
     [[nodiscard]] bool waitForEnd() const
     {
-        return QTest::qWaitFor([this] { return ends() > 0; }, 60000);
+        return QTest::qWaitFor([this] { return ends() > 0; }, testPatience);
     }
     /// The message of a job that failed.
     [[nodiscard]] QString message() const { return messages.isEmpty() ? QString() : messages.first(); }

@@ -4,6 +4,7 @@
 #include "FieldEditors/MFWidgets/AccessButtonPrivate.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
+#include "Patience.h"
 
 #include "meridane/scene/fields/NxMField.h"
 
@@ -21,7 +22,7 @@ public:
     {
         run.window.resize(500, 400);
         run.window.activateWindow();
-        if (!QTest::qWaitForWindowActive(&run.window))
+        if (!QTest::qWaitForWindowActive(&run.window, testPatience))
             qFatal("the window didn't become active");
         if (shown != nullptr)
             show(*shown);

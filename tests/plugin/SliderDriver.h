@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Patience.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
@@ -17,7 +19,7 @@ inline void showIn(QWidget& window, QWidget& frame)
     frame.show();
     window.resize(600, 40);
     window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, testPatience));
 }
 
 /// Moves the controls of a slider frame as a user does, by mouse, wheel and keys.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Patience.h"
 #include "app/AppScenes.h"
 #include "app/files/HeldJobs.h"
 
@@ -43,7 +44,7 @@ protected:
         m_jobs = std::make_unique<HeldJobs>();
         m_flow = new FileFlow(*m_session, *m_recent, *m_messages, *jobBar, m_window.get(), m_jobs->makers());
         m_window->show();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get(), testPatience));
         document().open(AppScenes::read("#mrd 1.0\nGroup \"old\" {}\n"), path("old.mrd"));
         connect(&document(), &SceneDocument::sceneChanged, m_window.get(), [this] { note("open ", sceneName()); });
     }
@@ -102,7 +103,7 @@ protected:
 
     void choose(QFileDialog* dialog, const char* file)
     {
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        QVERIFY(QTest::qWaitForWindowActive(dialog, testPatience));
         // Set rather than typed, since the completion of names would take the keys that follow.
         dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path(file));
         const auto* buttons = dialog->findChild<QDialogButtonBox*>();

@@ -1,4 +1,6 @@
+#include "Patience.h"
 #include "app/files/ImportJobCase.h"
+#include "import/ChildProcesses.h"
 
 #include <QTest>
 
@@ -136,15 +138,15 @@ private Q_SLOTS:
 
     void aStoppedHelperIsKilled()
     {
-        const QString pidFile = m_folder.filePath(QStringLiteral("pid"));
-        HelperOptions options = fakeHelper(m_folder, "echo $$ > '" + QFile::encodeName(pidFile) + "'; kill -STOP $$");
+        HelperOptions options = fakeHelper(m_folder, "kill -STOP $$");
         options.patience = std::chrono::milliseconds(500);
         ImportJob job(QStringLiteral("box.obj"), options);
         const JobRecord record(job);
         job.start();
+        QTRY_COMPARE(childProcesses().size(), std::size_t{1});
         QVERIFY(record.waitForEnd());
         QCOMPARE(record.message(), QStringLiteral("box.obj: the import helper did nothing for 0.5 s and was stopped"));
-        QVERIFY(processEnds(pidFile));
+        QTRY_VERIFY(childProcesses().empty());
     }
 
     void aHelperThatNeverEndsIsStopped()
@@ -207,7 +209,7 @@ private:
     {
         QFile file(pidFile);
         const int pid = file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toInt() : 0;
-        return pid > 0 && QTest::qWaitFor([pid] { return ::kill(pid, 0) != 0; });
+        return pid > 0 && QTest::qWaitFor([pid] { return ::kill(pid, 0) != 0; }, testPatience);
     }
 };
 

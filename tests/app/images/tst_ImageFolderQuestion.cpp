@@ -1,3 +1,5 @@
+#include "Patience.h"
+
 #include "orvane/app/base/AppSettings.h"
 #include "orvane/app/images/ImageFolderQuestion.h"
 #include "orvane/app/images/TextureFiles.h"
@@ -111,14 +113,15 @@ private:
         NxImage image;
         std::string reason;
         const NxImageState state = m_textures->load(name, image, reason);
-        if (state == NxImageState::Pending && QTest::qWaitFor([this] { return !m_textures->isLoading(); }, 60000))
+        if (state == NxImageState::Pending
+            && QTest::qWaitFor([this] { return !m_textures->isLoading(); }, testPatience))
             return m_textures->load(name, image, reason);
         return state;
     }
 
     void press(const char* button)
     {
-        QVERIFY(QTest::qWaitForWindowExposed(m_messages.get()));
+        QVERIFY(QTest::qWaitForWindowExposed(m_messages.get(), testPatience));
         for (QAbstractButton* each : m_messages->findChildren<QAbstractButton*>(QLatin1String(button))) {
             if (each->isVisible()) {
                 QTest::mouseClick(each, Qt::LeftButton);

@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "app/AppScenes.h"
 #include "import/FakeHelper.h"
 
@@ -191,7 +192,7 @@ private Q_SLOTS:
             std::string reason;
             QCOMPARE(m_files->load(std::to_string(index) + ".png", image, reason), NxImageState::Pending);
         }
-        QTRY_VERIFY_WITH_TIMEOUT(!m_files->isLoading(), 60000);
+        QTRY_VERIFY(!m_files->isLoading());
         NxImage image;
         std::string reason;
         QCOMPARE(m_files->load("4.png", image, reason), NxImageState::Loaded);
@@ -212,7 +213,7 @@ private Q_SLOTS:
         std::string reason;
         QCOMPARE(m_files->load("a.png", image, reason), NxImageState::Pending);
         QCOMPARE(m_files->load("b.png", image, reason), NxImageState::Pending);
-        QTRY_VERIFY_WITH_TIMEOUT(!m_files->isLoading(), 60000);
+        QTRY_VERIFY(!m_files->isLoading());
         for (const char* name : {"a.png", "b.png"}) {
             QCOMPARE(m_files->load(name, image, reason), NxImageState::Loaded);
             QCOMPARE(image.bytes, (std::vector<unsigned char>{'A'}));
@@ -256,7 +257,7 @@ private Q_SLOTS:
         std::string reason;
         for (int index = 0; index < count; ++index)
             QCOMPARE(m_files->load(std::to_string(index) + ".png", image, reason), NxImageState::Pending);
-        QTRY_VERIFY_WITH_TIMEOUT(!m_files->isLoading(), 60000);
+        QTRY_VERIFY(!m_files->isLoading());
         QCOMPARE(changed.size(), count);
         for (int index = 0; index < count; ++index)
             QCOMPARE(m_files->load(std::to_string(index) + ".png", image, reason), NxImageState::Loaded);
@@ -334,7 +335,7 @@ private:
         m_image = {};
         m_reason.clear();
         NxImageState state = m_files->load(name, m_image, m_reason);
-        if (state == NxImageState::Pending && QTest::qWaitFor([this] { return !m_files->isLoading(); }, 60000))
+        if (state == NxImageState::Pending && QTest::qWaitFor([this] { return !m_files->isLoading(); }, testPatience))
             state = m_files->load(name, m_image, m_reason);
         return state;
     }

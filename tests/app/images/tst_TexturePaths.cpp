@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "app/AppScenes.h"
 #include "app/WindowCase.h"
 
@@ -70,7 +71,7 @@ private:
     {
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
         m_window->saveTo(filePath(name));
-        QVERIFY(!settled.isEmpty() || settled.wait());
+        QVERIFY(!settled.isEmpty() || settled.wait(testPatience));
         QCOMPARE(settled.front().front().toString(), QString());
     }
 
@@ -78,7 +79,7 @@ private:
     {
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
         m_window->findChild<FileFlow*>()->import(filePath(name));
-        QVERIFY(!settled.isEmpty() || settled.wait());
+        QVERIFY(!settled.isEmpty() || settled.wait(testPatience));
         QCOMPARE(settled.front().front().toString(), QString());
     }
 };

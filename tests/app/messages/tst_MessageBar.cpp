@@ -1,3 +1,5 @@
+#include "Patience.h"
+
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
 
@@ -60,7 +62,7 @@ private Q_SLOTS:
         bar.showQuestion(
             QStringLiteral("May I?"), QStringLiteral("consent"), QStringLiteral("Yes"), [&] { ++accepted; });
         bar.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        QVERIFY(QTest::qWaitForWindowExposed(&bar, testPatience));
         auto* button = bar.findChild<QPushButton*>(QStringLiteral("acceptMessage"));
         QCOMPARE(button->text(), QStringLiteral("Yes"));
         QTest::mouseClick(button, Qt::LeftButton);
@@ -76,7 +78,7 @@ private Q_SLOTS:
         bar.showQuestion(
             QStringLiteral("May I?"), QStringLiteral("consent"), QStringLiteral("Yes"), [] { QFAIL("no"); });
         bar.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        QVERIFY(QTest::qWaitForWindowExposed(&bar, testPatience));
         QTest::mouseClick(bar.findChild<QToolButton*>(QStringLiteral("closeMessage")), Qt::LeftButton);
         QCOMPARE(closed.size(), 1);
         QCOMPARE(closed.front().front().toString(), QStringLiteral("consent"));
@@ -96,7 +98,7 @@ private Q_SLOTS:
         MessageBar bar;
         bar.showMessage(Severity::Information, QStringLiteral("a"));
         bar.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        QVERIFY(QTest::qWaitForWindowExposed(&bar, testPatience));
         QTest::mouseClick(bar.findChild<QToolButton*>(QStringLiteral("closeMessage")), Qt::LeftButton);
         QVERIFY(bar.texts().isEmpty());
         QVERIFY(bar.isHidden());
@@ -109,7 +111,7 @@ private Q_SLOTS:
         auto* text = bar.findChild<QPlainTextEdit*>(QStringLiteral("messageText"));
         QCOMPARE(text->toPlainText(), QStringLiteral("<b>a</b>"));
         bar.show();
-        QVERIFY(QTest::qWaitForWindowActive(&bar));
+        QVERIFY(QTest::qWaitForWindowActive(&bar, testPatience));
         QTest::mouseDClick(text->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(8, text->height() / 2));
         QVERIFY(text->textCursor().hasSelection());
         QTest::keyClick(text, Qt::Key_X);
@@ -126,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(bar.minimumSizeHint().width(), width);
         bar.resize(500, 200);
         bar.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        QVERIFY(QTest::qWaitForWindowExposed(&bar, testPatience));
         const auto* text = bar.findChildren<QPlainTextEdit*>(QStringLiteral("messageText")).back();
         QVERIFY(text->height() > text->fontMetrics().lineSpacing());
         QVERIFY(!text->verticalScrollBar()->isVisible() || text->verticalScrollBar()->maximum() > 0);
@@ -139,7 +141,7 @@ private Q_SLOTS:
         bar.showMessage(Severity::Error, QStringList(200, QStringLiteral("line")).join(u'\n'));
         bar.resize(500, 200);
         bar.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        QVERIFY(QTest::qWaitForWindowExposed(&bar, testPatience));
         const auto* text = bar.findChild<QPlainTextEdit*>(QStringLiteral("messageText"));
         QCOMPARE(text->height(), 5 * text->fontMetrics().lineSpacing());
         QVERIFY(text->verticalScrollBar()->isVisible());

@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "app/AppScenes.h"
 #include "app/WindowCase.h"
 #include "app/scene/OpenCount.h"
@@ -286,7 +287,7 @@ private Q_SLOTS:
         const auto* recent = m_window->findChild<QMenu*>(QStringLiteral("recentMenu"));
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
         recent->actions().front()->trigger();
-        QVERIFY(settled.wait());
+        QVERIFY(settled.wait(testPatience));
         QCOMPARE(settled.front().front().toString(), QString());
         QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("one"));
 
@@ -296,7 +297,7 @@ private Q_SLOTS:
         links->setFocus();
         QTest::keyClick(links, Qt::Key_Tab);
         QTest::keyClick(links, Qt::Key_Return);
-        QVERIFY(opened.wait());
+        QVERIFY(opened.wait(testPatience));
         QCOMPARE(opened.front().front().toString(), QString());
         QCOMPARE(m_window->document().fileName(), orvane::fromStdFileName(bytes));
         QCOMPARE(::unlink(bytes.c_str()), 0); // since the folder of the test can't

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Patience.h"
 #include "import/HelperRun.h"
 
 #include <QFile>
@@ -41,10 +42,10 @@ public:
             {QStringLiteral("-c"),
                 QStringLiteral("'%1' %2 < '%3' > '%4' & echo $!; wait")
                     .arg(helperProgram(), arguments, inputFile, m_folder.filePath(QStringLiteral("output")))});
-        if (!QTest::qWaitFor([this] { return m_shell.canReadLine(); }))
+        if (!QTest::qWaitFor([this] { return m_shell.canReadLine(); }, testPatience))
             return false;
         m_process = m_shell.readLine().trimmed();
-        return QTest::qWaitFor([this] { return (outputEvents() & POLLIN) != 0; }, 60000);
+        return QTest::qWaitFor([this] { return (outputEvents() & POLLIN) != 0; }, testPatience);
     }
 
     /// Kills the shell, which is its parent.

@@ -1,3 +1,4 @@
+#include "import/ChildProcesses.h"
 #include "import/FakeHelper.h"
 #include "import/HelperRun.h"
 #include "import/JobRecord.h"
@@ -13,20 +14,6 @@
 #include <vector>
 
 namespace {
-
-// The processes that this one has started and that haven't ended.
-std::vector<pid_t> runningHelpers()
-{
-    std::vector<pid_t> pids;
-    QFile file(QStringLiteral("/proc/thread-self/children"));
-    if (file.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& pid : file.readAll().simplified().split(' ')) {
-            if (pid.toInt() > 0)
-                pids.push_back(pid.toInt());
-        }
-    }
-    return pids;
-}
 
 qsizetype residentPages()
 {
@@ -102,7 +89,7 @@ void tst_HelperFaults::hitAtAnyMomentItGivesTheWholeSceneOrOneMessage()
         job.start();
         // A random moment of what it does is what this test is about.
         QTest::qWait(std::uniform_int_distribution<int>(0, 40)(random));
-        for (const pid_t pid : runningHelpers())
+        for (const pid_t pid : childProcesses())
             ::kill(pid, signal);
         QVERIFY(record.waitForEnd());
         QCOMPARE(record.ends(), 1);
@@ -111,7 +98,7 @@ void tst_HelperFaults::hitAtAnyMomentItGivesTheWholeSceneOrOneMessage()
         else
             QCOMPARE(record.messages, QStringList(model + QStringLiteral(": ") + message));
     }
-    QTRY_VERIFY(runningHelpers().empty());
+    QTRY_VERIFY(childProcesses().empty());
 }
 
 void tst_HelperFaults::beyondItsMemoryItGivesOneMessage()

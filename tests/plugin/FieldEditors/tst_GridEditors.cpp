@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "plugin/EditorHarness.h"
 #include "plugin/EditorList.h"
 #include "plugin/WriteCounter.h"
@@ -96,7 +97,7 @@ void tst_GridEditors::init()
     QVERIFY(field().set(editorEntry(m_type).value));
     m_editor = editorEntry(m_type).make(nullptr);
     m_run = std::make_unique<EditorRun>(*m_editor, field());
-    QVERIFY(QTest::qWaitForWindowActive(&m_run->window));
+    QVERIFY(QTest::qWaitForWindowActive(&m_run->window, testPatience));
 }
 
 void tst_GridEditors::cleanup()

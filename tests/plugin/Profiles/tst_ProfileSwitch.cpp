@@ -1,4 +1,5 @@
 #include "OrvDefaults.h"
+#include "Patience.h"
 #include "plugin/ErrorThreads.h"
 #include "plugin/SliderDriver.h"
 #include "plugin/ToolHarness.h"
@@ -131,7 +132,7 @@ void tst_ProfileSwitch::typedTextReachesItsField()
     tool.services.selectNode(tool.node.get());
     tool.services.selectField(&tool.node->sfString);
     auto* const line = tool.frame()->findChild<QLineEdit*>();
-    QVERIFY(QTest::qWaitForWindowActive(&tool.shell.window));
+    QVERIFY(QTest::qWaitForWindowActive(&tool.shell.window, testPatience));
     line->setFocus();
     line->clear();
     QTest::keyClicks(line, QStringLiteral("typed"));
@@ -167,7 +168,7 @@ void tst_ProfileSwitch::textInAnOpenCellReachesItsRow()
     tool.services.selectNode(tool.node.get());
     tool.services.selectField(&tool.node->mfString);
     ToolHarness::pump();
-    QVERIFY(QTest::qWaitForWindowActive(&tool.shell.window));
+    QVERIFY(QTest::qWaitForWindowActive(&tool.shell.window, testPatience));
     auto* const table = tool.frame()->findChild<QTableWidget*>();
     const QPoint cell = table->visualRect(table->model()->index(0, 0)).center();
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell);

@@ -2,6 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
+#include "Patience.h"
 #include "plugin/EditorHarness.h"
 
 #include "meridane/base/values/VbName.h"
@@ -23,7 +24,7 @@ public:
         , m_run(*editor)
     {
         m_run.window.resize(760, 260);
-        [this] { QVERIFY(QTest::qWaitForWindowActive(&m_run.window)); }();
+        [this] { QVERIFY(QTest::qWaitForWindowActive(&m_run.window, testPatience)); }();
         if (!value.isEmpty()) {
             set(value);
             m_run.select(field);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FieldEditors/SFWidgets/DvSFieldWidget.h"
+#include "Patience.h"
 #include "plugin/EditorHarness.h"
 
 #include <QHBoxLayout>
@@ -20,7 +21,7 @@ public:
         , m_run(*editor)
     {
         m_run.window.resize(600, 60);
-        [this] { QVERIFY(QTest::qWaitForWindowActive(&m_run.window)); }();
+        [this] { QVERIFY(QTest::qWaitForWindowActive(&m_run.window, testPatience)); }();
         if (!value.isEmpty()) {
             set(value);
             m_run.select(field);

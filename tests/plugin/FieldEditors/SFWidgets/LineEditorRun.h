@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FieldEditors/SFWidgets/DvSFieldWidget.h"
+#include "Patience.h"
 #include "plugin/EditorHarness.h"
 
 #include <QLineEdit>
@@ -19,7 +20,7 @@ public:
     {
         m_run.window.layout()->addWidget(m_elsewhere);
         m_run.window.show();
-        [this] { QVERIFY(QTest::qWaitForWindowActive(&m_run.window)); }();
+        [this] { QVERIFY(QTest::qWaitForWindowActive(&m_run.window, testPatience)); }();
         m_elsewhere->setFocus();
     }
     LineEditorRun(std::unique_ptr<DvSFieldWidget> lineEditor, NxField& field)

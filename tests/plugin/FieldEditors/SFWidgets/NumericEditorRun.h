@@ -6,6 +6,7 @@
 #include "FieldEditors/SFWidgets/DvSFShortWidget.h"
 #include "FieldEditors/SFWidgets/DvSFUInt32Widget.h"
 #include "FieldEditors/SFWidgets/DvSFUShortWidget.h"
+#include "Patience.h"
 #include "plugin/EditorHarness.h"
 #include "plugin/SliderDriver.h"
 
@@ -40,7 +41,7 @@ public:
     {
         m_run.window.resize(700, 60);
         m_run.window.show();
-        [this] { QVERIFY(QTest::qWaitForWindowActive(&m_run.window)); }();
+        [this] { QVERIFY(QTest::qWaitForWindowActive(&m_run.window, testPatience)); }();
     }
     /// The same, editing the field with that value.
     NumericEditorRun(const QString& type, const QString& value)

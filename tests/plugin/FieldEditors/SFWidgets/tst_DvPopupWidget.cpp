@@ -1,4 +1,5 @@
 #include "FieldEditors/SFWidgets/DvPopupWidget.h"
+#include "Patience.h"
 #include "plugin/EditorHarness.h"
 #include "plugin/GridValidatorRows.h"
 
@@ -101,7 +102,7 @@ void tst_DvPopupWidget::init()
     m_editor = std::make_unique<CountingEditor>();
     m_run = std::make_unique<EditorRun>(*m_editor, m_tool->node->sfBox3s);
     m_run->window.setGeometry(20, 20, 300, 80);
-    QVERIFY(QTest::qWaitForWindowActive(&m_run->window));
+    QVERIFY(QTest::qWaitForWindowActive(&m_run->window, testPatience));
     m_editor->refreshed = 0;
 }
 

@@ -1,4 +1,5 @@
 #include "FieldEditors/SFWidgets/DvSFImageLabel.h"
+#include "Patience.h"
 #include "plugin/ToolHarness.h"
 
 #include <QScreen>
@@ -48,7 +49,7 @@ void tst_DvSFImageLabel::init()
     pixmap.fill(Qt::red);
     m_label->showPixmap(pixmap);
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), testPatience));
 }
 
 void tst_DvSFImageLabel::cleanup()
