@@ -1,10 +1,10 @@
 # The project's ways to declare a target, one function a kind.
 
-# kal_add_library(name [OBJECT|STATIC] [QT] SOURCES … HEADERS … [DEPENDS …] [BASE_DIR dir])
+# kal_add_library(name [OBJECT|STATIC] [QT] [HIDDEN] SOURCES … HEADERS … [DEPENDS …] [BASE_DIR dir])
 # A library with its public headers, shared unless told otherwise. QT turns on moc, rcc and the precompiled header
-# that has Qt in it.
+# that has Qt in it. HIDDEN hides the symbols of a library with QT from whoever loads it.
 function(kal_add_library name)
-  cmake_parse_arguments(arg "OBJECT;STATIC;QT" "BASE_DIR" "SOURCES;HEADERS;DEPENDS" ${ARGN})
+  cmake_parse_arguments(arg "OBJECT;STATIC;QT;HIDDEN" "BASE_DIR" "SOURCES;HEADERS;DEPENDS" ${ARGN})
   set(kind SHARED)
   if(arg_OBJECT)
     set(kind OBJECT)
@@ -24,7 +24,7 @@ function(kal_add_library name)
   endif()
   if(arg_QT)
     kal_use_qt(${name})
-    target_precompile_headers(${name} REUSE_FROM kal_qt_header)
+    kal_use_qt_header(${name} "${arg_HIDDEN}")
   else()
     target_precompile_headers(${name} REUSE_FROM kal_std_header)
   endif()
@@ -40,10 +40,10 @@ function(kal_add_program name)
   endif()
 endfunction()
 
-# kal_add_plugin(name SOURCES … DEPENDS … [DIRECTORY dir])
+# kal_add_plugin(name [HIDDEN] SOURCES … DEPENDS … [DIRECTORY dir])
 # A module that the host loads; it exports the two entry points and nothing else.
 function(kal_add_plugin name)
-  cmake_parse_arguments(arg "" "DIRECTORY" "SOURCES;DEPENDS" ${ARGN})
+  cmake_parse_arguments(arg "HIDDEN" "DIRECTORY" "SOURCES;DEPENDS" ${ARGN})
   add_library(${name} MODULE ${arg_SOURCES})
   set(script "${PROJECT_SOURCE_DIR}/cmake/plugin.map")
   target_link_libraries(${name} PRIVATE ${arg_DEPENDS} kal_warnings)
@@ -53,7 +53,17 @@ function(kal_add_plugin name)
     set_target_properties(${name} PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${arg_DIRECTORY}")
   endif()
   kal_use_qt(${name})
-  target_precompile_headers(${name} REUSE_FROM kal_qt_header)
+  kal_use_qt_header(${name} "${arg_HIDDEN}")
+endfunction()
+
+# The precompiled header with Qt in it that fits the visibility of the target's symbols, which is set here.
+function(kal_use_qt_header target hidden)
+  if(hidden)
+    set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+    target_precompile_headers(${target} REUSE_FROM kal_hidden_qt_header)
+  else()
+    target_precompile_headers(${target} REUSE_FROM kal_qt_header)
+  endif()
 endfunction()
 
 # kal_add_test(area name [SOURCES …] [DEPENDS …] [LABELS …] [TIMEOUT s])
