@@ -4,7 +4,7 @@
 #include "Fuzz.h"
 
 #include "orvane/app/command_line/CommandLine.h"
-#include "orvane/app/command_line/SceneEdit.h"
+#include "orvane/app/command_line/FieldAccess.h"
 
 #include "meridane/scene/file/NxScenePath.h"
 #include "meridane/scene/file/NxSceneReader.h"

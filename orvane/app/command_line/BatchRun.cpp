@@ -1,7 +1,7 @@
 #include "orvane/app/command_line/BatchRun.h"
 
 #include "orvane/app/base/SearchFolders.h"
-#include "orvane/app/command_line/SceneEdit.h"
+#include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/SceneListing.h"
 #include "orvane/app/files/FileJobs.h"
 #include "orvane/app/scene/ScenePaths.h"

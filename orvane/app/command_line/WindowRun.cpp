@@ -2,8 +2,8 @@
 
 #include "orvane/app/base/SearchFolders.h"
 #include "orvane/app/command_line/BatchRun.h"
+#include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/PictureFile.h"
-#include "orvane/app/command_line/SceneEdit.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"

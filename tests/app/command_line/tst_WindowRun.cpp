@@ -1,6 +1,6 @@
 #include "app/AppScenes.h"
 
-#include "orvane/app/command_line/SceneEdit.h"
+#include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/WindowRun.h"
 #include "orvane/app/files/FileWork.h"
 #include "orvane/app/files/JobBar.h"

@@ -1,4 +1,4 @@
-#include "orvane/app/command_line/SceneEdit.h"
+#include "orvane/app/command_line/FieldAccess.h"
 
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldText.h"

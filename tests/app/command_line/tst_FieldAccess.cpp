@@ -1,6 +1,6 @@
 #include "app/AppScenes.h"
 
-#include "orvane/app/command_line/SceneEdit.h"
+#include "orvane/app/command_line/FieldAccess.h"
 
 #include <QTest>
 
@@ -14,7 +14,7 @@ const char* const text = "#mrd 1.0\n"
 
 } // namespace
 
-class TestSceneEdit : public QObject {
+class TestFieldAccess : public QObject {
     Q_OBJECT
 
 private:
@@ -91,5 +91,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSceneEdit)
-#include "tst_SceneEdit.moc"
+QTEST_GUILESS_MAIN(TestFieldAccess)
+#include "tst_FieldAccess.moc"
