@@ -38,9 +38,9 @@ public:
     {
         bool isOpen = false;
         const QMetaObject::Connection connection
-            = QObject::connect(&window, &MainWindow::settled, &window, [&isOpen](const QString& error) {
-                  if (!error.isEmpty())
-                      qFatal("%s", qUtf8Printable(error));
+            = QObject::connect(&window, &MainWindow::settled, &window, [&isOpen](const orvane::Result<>& result) {
+                  if (!result)
+                      qFatal("%s", qUtf8Printable(result.error()));
                   isOpen = true;
               });
         window.openFile(fileName);

@@ -48,7 +48,8 @@ protected:
         m_window->openFile(fileName);
         if (settled.isEmpty())
             settled.wait(testPatience);
-        return settled.isEmpty() ? QStringLiteral("nothing settled") : settled.front().front().toString();
+        return settled.isEmpty() ? QStringLiteral("nothing settled")
+                                 : settled.front().front().value<orvane::Result<>>().error();
     }
 
     [[nodiscard]] QString filePath(const char* name) const { return m_folder->filePath(QLatin1String(name)); }

@@ -8,7 +8,6 @@
 #include "orvane/app/scene/Session.h"
 #include "orvane/extender/OrvEditor.h"
 
-#include "meridane/base/errors/NxReadError.h"
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/file/NxScenePath.h"
 
@@ -20,6 +19,9 @@
 #include <typeinfo>
 
 #include <cxxabi.h>
+
+using orvane::Failure;
+using orvane::Result;
 
 namespace {
 
@@ -41,29 +43,29 @@ QString handledType(OrvExtension* extension)
 
 } // namespace
 
-std::optional<QString> BatchRun::finish(FileJob& job)
+Result<> BatchRun::finish(FileJob& job)
 {
     QEventLoop loop;
-    std::optional<QString> failure;
+    Result<> result;
     QObject::connect(&job, &FileJob::finished, &loop, &QEventLoop::quit);
     QObject::connect(&job, &FileJob::failed, &loop, [&](const QString& message) {
-        failure = message;
+        result = Failure{message};
         loop.quit();
     });
     job.start();
     loop.exec();
-    return failure;
+    return result;
 }
 
-std::optional<QString> BatchRun::open(NxRef<NxGroup>& scene) const
+Result<NxRef<NxGroup>> BatchRun::open() const
 {
     const std::unique_ptr<SceneJob> job = orvane::makeLoadJob(m_commandLine.file);
-    auto failure = finish(*job);
-    scene = job->takeScene();
-    return failure;
+    if (const auto result = finish(*job); !result)
+        return Failure{result.error()};
+    return job->takeScene();
 }
 
-std::optional<QString> BatchRun::startExtensions(Session& session)
+Result<> BatchRun::startExtensions(Session& session)
 {
     QStringList plugins = m_commandLine.plugins;
     if (m_commandLine.listExtensions)
@@ -72,11 +74,11 @@ std::optional<QString> BatchRun::startExtensions(Session& session)
     if (!m_commandLine.profile.isEmpty()) {
         // Without a window nothing runs, so the profile has to be there and no more.
         const QStringList unreadable = session.loadProfiles(orvane::profileFolders());
-        if (const auto failure = session.checkProfile(m_commandLine.profile))
-            failures += unreadable + QStringList(*failure);
+        if (const auto profile = session.checkProfile(m_commandLine.profile); !profile)
+            failures += unreadable + QStringList(profile.error());
     }
     listExtensions(session);
-    return failures.isEmpty() ? std::nullopt : std::optional(failures.join(QStringLiteral("; ")));
+    return failures.isEmpty() ? Result<>() : Failure{failures.join(QStringLiteral("; "))};
 }
 
 void BatchRun::listExtensions(Session& session)
@@ -90,52 +92,52 @@ void BatchRun::listExtensions(Session& session)
                  << handledType(extension) << '\n';
 }
 
-std::optional<QString> BatchRun::run()
+Result<> BatchRun::run()
 {
-    // A job that fails gives its message back; the same read error must not stand on standard error a second time.
-    NxReadError::setHandlerCallback([](const NxError* /*error*/, void* /*data*/) {}, nullptr);
     if (!m_commandLine.needsExtensions())
         return runScene();
     // Outlives the scene, whose nodes may be of classes of the plug-ins.
     Session session(m_commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
-    const auto failure = startExtensions(session);
-    return failure ? failure : runScene();
+    const auto started = startExtensions(session);
+    return started ? runScene() : started;
 }
 
-std::optional<QString> BatchRun::runScene()
+Result<> BatchRun::runScene()
 {
     if (m_commandLine.file.isEmpty())
-        return std::nullopt;
-    NxRef<NxGroup> scene;
-    if (auto failure = open(scene))
-        return failure;
+        return {};
+    const auto opened = open();
+    if (!opened)
+        return Failure{opened.error()};
+    const NxRef<NxGroup>& scene = opened.value();
     for (const CommandLine::Assignment& assignment : m_commandLine.assignments) {
-        if (auto failure = orvane::setField(scene.get(), assignment))
-            return failure;
+        if (auto set = orvane::setField(scene.get(), assignment); !set)
+            return set;
     }
     if (!m_commandLine.select.isEmpty()) {
         const auto target = NxScenePath::find(scene.get(), m_commandLine.select.toStdString());
         if (!target.error.empty())
-            return QString::fromStdString(target.error);
+            return Failure{orvane::toQString(target.error)};
     }
     return writeOutput(scene);
 }
 
-std::optional<QString> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
+Result<> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
 {
     if (!scene)
-        return std::nullopt;
+        return {};
     for (const QString& query : m_commandLine.queries) {
-        QString text;
-        if (auto failure = orvane::getField(scene.get(), query, text))
-            return failure;
-        m_output << text << '\n';
+        const auto text = orvane::getField(scene.get(), query);
+        if (!text)
+            return Failure{text.error()};
+        m_output << text.value() << '\n';
     }
     if (m_commandLine.list)
         SceneListing(scene.get(), m_output).print();
     for (const QString& fileName : m_commandLine.exportFiles) {
-        if (auto failure = finish(*orvane::makeSaveJob(scene, fileName, orvane::folderOf(m_commandLine.file))))
-            return failure;
+        auto written = finish(*orvane::makeSaveJob(scene, fileName, orvane::folderOf(m_commandLine.file)));
+        if (!written)
+            return written;
     }
-    return std::nullopt;
+    return {};
 }

@@ -5,8 +5,6 @@
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
-#include <optional>
-
 class FileJob;
 class QTextStream;
 class Session;
@@ -23,19 +21,19 @@ public:
     {
     }
 
-    /// The result is the one line that tells what went wrong, or nothing.
-    [[nodiscard]] std::optional<QString> run();
+    /// Does all that is asked for, up to the first failure.
+    orvane::Result<> run();
 
     /// Prints the extensions, if that is asked for.
     void listExtensions(Session& session);
     /// Prints and exports what is asked for of a scene that is open and changed already; null for no scene.
-    [[nodiscard]] std::optional<QString> writeOutput(const NxRef<NxGroup>& scene);
+    orvane::Result<> writeOutput(const NxRef<NxGroup>& scene);
 
 private:
-    [[nodiscard]] static std::optional<QString> finish(FileJob& job);
-    [[nodiscard]] std::optional<QString> startExtensions(Session& session);
-    [[nodiscard]] std::optional<QString> runScene();
-    [[nodiscard]] std::optional<QString> open(NxRef<NxGroup>& scene) const;
+    static orvane::Result<> finish(FileJob& job);
+    orvane::Result<> startExtensions(Session& session);
+    orvane::Result<> runScene();
+    [[nodiscard]] orvane::Result<NxRef<NxGroup>> open() const;
 
     const CommandLine& m_commandLine;
     QTextStream& m_output;

@@ -4,7 +4,9 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <optional>
+
+using orvane::Failure;
+using orvane::Result;
 
 namespace {
 
@@ -53,8 +55,8 @@ struct Options {
     }
 };
 
-// "PATH=TEXT"; the path may hold an equals sign in double quotes only.
-bool splitAssignment(const QString& argument, CommandLine::Assignment& assignment)
+// Splits "PATH=TEXT"; the path may contain an equals sign in double quotes only.
+Result<CommandLine::Assignment> parseAssignment(const QString& argument)
 {
     bool quoted = false;
     for (qsizetype i = 0; i < argument.size(); ++i) {
@@ -63,25 +65,26 @@ bool splitAssignment(const QString& argument, CommandLine::Assignment& assignmen
             ++i;
         else if (character == u'"')
             quoted = !quoted;
-        else if (character == u'=' && !quoted) {
-            assignment = {argument.left(i), argument.mid(i + 1)};
-            return i > 0;
-        }
+        else if (character == u'=' && !quoted && i > 0)
+            return CommandLine::Assignment{argument.left(i), argument.mid(i + 1)};
+        else if (character == u'=' && !quoted)
+            break;
     }
-    return false;
+    return Failure{QStringLiteral("--set expects PATH=TEXT, not '%1'.").arg(argument)};
 }
 
-std::optional<QString> parseSize(const QString& argument, QSize& size)
+Result<QSize> parseSize(const QString& argument)
 {
+    QSize size;
     static const QRegularExpression pattern(QStringLiteral("^([0-9]{1,9})x([0-9]{1,9})$"));
     const QRegularExpressionMatch match = pattern.match(argument);
     if (match.hasMatch())
         size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
     if (size.isEmpty())
-        return QStringLiteral("--size expects WxH, such as 1280x800, not '%1'.").arg(argument);
+        return Failure{QStringLiteral("--size expects WxH, such as 1280x800, not '%1'.").arg(argument)};
     if (!CommandLine::isUsableSize(size))
-        return QStringLiteral("--size %1 is too large: %2.").arg(argument, sizeLimits());
-    return std::nullopt;
+        return Failure{QStringLiteral("--size %1 is too large: %2.").arg(argument, sizeLimits())};
+    return size;
 }
 
 QString nameOf(const QCommandLineOption& option)
@@ -89,36 +92,31 @@ QString nameOf(const QCommandLineOption& option)
     return QStringLiteral("--") + option.names().constFirst();
 }
 
-// What the parser lets pass although it would be ignored, or taken for what was not given at all.
-std::optional<QString> findMisuse(const QCommandLineParser& parser, const Options& options)
+// Refuses what the parser accepts although it would be ignored, or mistaken for an option that wasn't given.
+Result<> checkUse(const QCommandLineParser& parser, const Options& options)
 {
     for (const QCommandLineOption& option : {options.plugin, options.profile, options.select, options.set, options.get,
              options.exportTo, options.screenshot, options.size}) {
         if (parser.values(option).contains(QString()))
-            return QStringLiteral("%1 expects %2, not an empty text.").arg(nameOf(option), option.valueName());
+            return Failure{QStringLiteral("%1 expects %2, not an empty text.").arg(nameOf(option), option.valueName())};
     }
     // Names of files may be any bytes.
     for (const QCommandLineOption& option :
         {options.plugin, options.profile, options.select, options.set, options.get}) {
         const QStringList values = parser.values(option);
         if (!std::all_of(values.begin(), values.end(), [](const QString& value) { return value.isValidUtf16(); }))
-            return QStringLiteral("%1 expects UTF-8.").arg(nameOf(option));
+            return Failure{QStringLiteral("%1 expects UTF-8.").arg(nameOf(option))};
     }
     for (const QCommandLineOption& option : {options.profile, options.select, options.screenshot, options.size}) {
         if (parser.values(option).size() > 1)
-            return QStringLiteral("%1 can be given once only.").arg(nameOf(option));
+            return Failure{QStringLiteral("%1 can be given once only.").arg(nameOf(option))};
     }
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1)
-        return QStringLiteral("One file at a time: '%1' is one too many.").arg(files[1]);
+        return Failure{QStringLiteral("One file at a time: '%1' is one too many.").arg(files[1])};
     if (files.contains(QString()))
-        return QStringLiteral("The name of the file is empty.");
-    return std::nullopt;
-}
-
-CommandLine::ParseResult failure(const QString& error)
-{
-    return {CommandLine(), error};
+        return Failure{QStringLiteral("The name of the file is empty.")};
+    return {};
 }
 
 } // namespace
@@ -140,22 +138,22 @@ bool CommandLine::isUsableSize(const QSize& size)
         && qint64{size.width()} * size.height() <= mostPixels;
 }
 
-CommandLine::ParseResult CommandLine::parse(const QStringList& arguments)
+Result<CommandLine> CommandLine::parse(const QStringList& arguments)
 {
     const Options options;
     QCommandLineParser parser;
     options.addTo(parser);
     if (!parser.parse(arguments))
-        return failure(parser.errorText());
+        return Failure{parser.errorText()};
 
     CommandLine result;
     result.help = parser.isSet(options.help);
     result.version = parser.isSet(options.version);
     if (result.help || result.version)
-        return {result, QString()};
+        return result;
 
-    if (const auto misuse = findMisuse(parser, options))
-        return failure(*misuse);
+    if (const auto use = checkUse(parser, options); !use)
+        return Failure{use.error()};
     result.file = parser.positionalArguments().value(0);
     result.plugins = parser.values(options.plugin);
     result.profile = parser.value(options.profile);
@@ -167,21 +165,23 @@ CommandLine::ParseResult CommandLine::parse(const QStringList& arguments)
     result.listExtensions = parser.isSet(options.listExtensions);
     result.noSettings = parser.isSet(options.noSettings);
     for (const QString& argument : parser.values(options.set)) {
-        Assignment assignment;
-        if (!splitAssignment(argument, assignment))
-            return failure(QStringLiteral("--set expects PATH=TEXT, not '%1'.").arg(argument));
-        result.assignments.append(assignment);
+        const auto assignment = parseAssignment(argument);
+        if (!assignment)
+            return Failure{assignment.error()};
+        result.assignments.append(assignment.value());
     }
     if (parser.isSet(options.size)) {
-        if (const auto error = parseSize(parser.value(options.size), result.size))
-            return failure(*error);
+        const auto size = parseSize(parser.value(options.size));
+        if (!size)
+            return Failure{size.error()};
+        result.size = size.value();
     }
 
     const bool needsScene = result.list || !result.queries.isEmpty() || !result.assignments.isEmpty()
         || !result.select.isEmpty() || !result.exportFiles.isEmpty();
     if (needsScene && result.file.isEmpty())
-        return failure(QStringLiteral("A file is missing: --get, --set, --list, --select and --export work on one."));
-    return {result, QString()};
+        return Failure{QStringLiteral("A file is missing: --get, --set, --list, --select and --export work on one.")};
+    return result;
 }
 
 QString CommandLine::helpText()

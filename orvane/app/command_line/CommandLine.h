@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/app/base/Result.h"
+
 #include <QList>
 #include <QSize>
 #include <QString>
@@ -40,15 +42,8 @@ struct CommandLine {
     /// True when a window of this size, in pixels, is within the limits.
     [[nodiscard]] static bool isUsableSize(const QSize& size);
 
-    struct ParseResult;
-    /// `arguments` come with the program's name first.
-    [[nodiscard]] static ParseResult parse(const QStringList& arguments);
+    /// The command line, or why it can't be used. `arguments` begin with the program's name.
+    [[nodiscard]] static orvane::Result<CommandLine> parse(const QStringList& arguments);
     /// The text of `--help`.
     [[nodiscard]] static QString helpText();
-};
-
-/// The command line, or the message that says why it can't be used.
-struct CommandLine::ParseResult {
-    CommandLine commandLine;
-    QString error;
 };

@@ -14,18 +14,17 @@ namespace orvane {
 namespace {
 
 // Follows a path that has to name a field.
-std::optional<QString> findField(NxGroup* scene, const QString& path, NxField*& field)
+Result<NxField*> findField(NxGroup* scene, const QString& path)
 {
     const NxScenePath::Target target = NxScenePath::find(scene, path.toStdString());
     if (!target.error.empty())
-        return toQString(target.error);
+        return Failure{toQString(target.error)};
     if (target.field == nullptr)
-        return QStringLiteral("%1: this is a node; a field is named as %1.field").arg(path);
-    field = target.field;
-    return std::nullopt;
+        return Failure{QStringLiteral("%1: this is a node; a field is named as %1.field").arg(path)};
+    return target.field;
 }
 
-// Tries a text on the same field of a new node of the class, so that nobody who looks at the field is told.
+// Tries a text on the same field of a new node of the class, so that no sensor of the field is notified.
 bool acceptsText(NxField* field, const VbString& text)
 {
     NxFieldContainer* const node = field->getContainer();
@@ -37,34 +36,32 @@ bool acceptsText(NxField* field, const VbString& text)
 
 } // namespace
 
-std::optional<QString> findAssignedField(NxGroup* scene, const CommandLine::Assignment& assignment, NxField*& field)
+Result<NxField*> findAssignedField(NxGroup* scene, const CommandLine::Assignment& assignment)
 {
-    if (auto error = findField(scene, assignment.path, field))
-        return error;
-    if (acceptsText(field, VbString(assignment.text.toStdString())))
-        return std::nullopt;
-    return QStringLiteral("%1: '%2' is no value for a field of type %3")
-        .arg(assignment.path, assignment.text, typeName(*field));
+    auto field = findField(scene, assignment.path);
+    if (!field || acceptsText(field.value(), VbString(assignment.text.toStdString())))
+        return field;
+    return Failure{QStringLiteral("%1: '%2' is no value for a field of type %3")
+                       .arg(assignment.path, assignment.text, typeName(*field.value()))};
 }
 
-std::optional<QString> setField(NxGroup* scene, const CommandLine::Assignment& assignment)
+Result<> setField(NxGroup* scene, const CommandLine::Assignment& assignment)
 {
-    NxField* field = nullptr;
-    if (auto error = findAssignedField(scene, assignment, field))
-        return error;
-    field->set(VbString(assignment.text.toStdString()));
-    return std::nullopt;
+    const auto field = findAssignedField(scene, assignment);
+    if (!field)
+        return Failure{field.error()};
+    field.value()->set(VbString(assignment.text.toStdString()));
+    return {};
 }
 
-std::optional<QString> getField(NxGroup* scene, const QString& path, QString& text)
+Result<QString> getField(NxGroup* scene, const QString& path)
 {
-    NxField* field = nullptr;
-    if (auto error = findField(scene, path, field))
-        return error;
+    const auto field = findField(scene, path);
+    if (!field)
+        return Failure{field.error()};
     VbString value;
-    field->get(value);
-    text = toQString(value.view());
-    return std::nullopt;
+    field.value()->get(value);
+    return toQString(value.view());
 }
 
 } // namespace orvane

@@ -1,7 +1,5 @@
 #include "orvane/app/command_line/PictureFile.h"
 
-#include "orvane/app/base/TextConversion.h"
-
 #include "meridane/base/Files.h"
 
 #include <QBuffer>
@@ -20,28 +18,28 @@ QByteArray formatOf(const QString& fileName)
 
 } // namespace
 
-std::optional<QString> checkPictureName(const QString& fileName)
+Result<> checkPictureName(const QString& fileName)
 {
     if (QImageWriter::supportedImageFormats().contains(formatOf(fileName)))
-        return std::nullopt;
-    return QStringLiteral("%1: the name of a picture ends in .png, .jpg, .bmp or .ppm").arg(fileName);
+        return {};
+    return Failure{QStringLiteral("%1: the name of a picture ends in .png, .jpg, .bmp or .ppm").arg(fileName)};
 }
 
-std::optional<QString> writePicture(const QPixmap& picture, const QString& fileName)
+Result<> writePicture(const QPixmap& picture, const QString& fileName)
 {
-    if (auto problem = checkPictureName(fileName))
-        return problem;
+    if (auto name = checkPictureName(fileName); !name)
+        return name;
     QBuffer buffer;
     QImageWriter writer(&buffer, formatOf(fileName));
     if (!writer.write(picture.toImage()))
-        return QStringLiteral("%1: %2").arg(fileName, writer.errorString());
+        return Failure{QStringLiteral("%1: %2").arg(fileName, writer.errorString())};
     meridane::FileReplacer file;
     auto failure = file.open(toStdFileName(fileName));
     if (!failure)
         failure = file.write(buffer.data().constData(), static_cast<std::size_t>(buffer.size()));
     if (!failure)
         failure = file.commit();
-    return failure ? std::optional(toQString(*failure)) : std::nullopt;
+    return toResult(failure);
 }
 
 } // namespace orvane

@@ -1,17 +1,17 @@
 #pragma once
 
-#include <QString>
+#include "orvane/app/base/Result.h"
 
-#include <optional>
+#include <QString>
 
 class QPixmap;
 
 namespace orvane {
 
-/// The message that the extension of the file's name names no format of pictures, or nothing.
-[[nodiscard]] std::optional<QString> checkPictureName(const QString& fileName);
-/// Writes the picture in the format that the extension names; an old file of that name stays until the new one is
-/// whole. The result is the message of the failure, or nothing.
-[[nodiscard]] std::optional<QString> writePicture(const QPixmap& picture, const QString& fileName);
+/// Fails unless the extension of the file's name is that of a format for pictures.
+Result<> checkPictureName(const QString& fileName);
+/// Writes the picture in the format that the extension names. An old file of that name is replaced once the new one is
+/// complete.
+Result<> writePicture(const QPixmap& picture, const QString& fileName);
 
 } // namespace orvane

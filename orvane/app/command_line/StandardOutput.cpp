@@ -11,12 +11,12 @@ StandardOutput::StandardOutput()
 {
 }
 
-std::optional<QString> StandardOutput::finish()
+Result<> StandardOutput::finish()
 {
     m_stream.flush();
     if (m_stream.status() == QTextStream::Ok && std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
-        return std::nullopt;
-    return QStringLiteral("standard output: %1").arg(qt_error_string());
+        return {};
+    return Failure{QStringLiteral("standard output: %1").arg(qt_error_string())};
 }
 
 void printError(const QString& message)

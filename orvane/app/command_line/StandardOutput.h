@@ -1,9 +1,9 @@
 #pragma once
 
+#include "orvane/app/base/Result.h"
+
 #include <QString>
 #include <QTextStream>
-
-#include <optional>
 
 namespace orvane {
 
@@ -13,8 +13,8 @@ public:
     StandardOutput();
 
     [[nodiscard]] QTextStream& stream() noexcept { return m_stream; }
-    /// Writes what is still buffered. The result is the message that not everything could be written, or nothing.
-    [[nodiscard]] std::optional<QString> finish();
+    /// Writes what is still buffered. Fails if any of the output couldn't be written.
+    Result<> finish();
 
 private:
     QTextStream m_stream;

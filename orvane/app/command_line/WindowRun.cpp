@@ -19,6 +19,9 @@
 
 #include <chrono>
 
+using orvane::Failure;
+using orvane::Result;
+
 WindowRun::WindowRun(CommandLine commandLine)
     : m_commandLine(std::move(commandLine))
 {
@@ -26,8 +29,8 @@ WindowRun::WindowRun(CommandLine commandLine)
 
 int WindowRun::run()
 {
-    if (const auto mistake = findMistake()) {
-        orvane::printError(*mistake);
+    if (const auto usable = checkPicture(); !usable) {
+        orvane::printError(usable.error());
         return 1;
     }
     Session session(m_commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
@@ -48,18 +51,18 @@ int WindowRun::run()
     return takesPicture() && m_failed ? 1 : status;
 }
 
-std::optional<QString> WindowRun::findMistake() const
+Result<> WindowRun::checkPicture() const
 {
     if (!takesPicture())
-        return std::nullopt;
-    if (auto mistake = orvane::checkPictureName(m_commandLine.screenshotFile))
-        return mistake;
+        return {};
+    if (auto name = orvane::checkPictureName(m_commandLine.screenshotFile); !name)
+        return name;
     const QSize pixels = m_commandLine.size * qApp->devicePixelRatio();
     if (m_commandLine.size.isValid() && !CommandLine::isUsableSize(pixels))
-        return QStringLiteral("The picture would have %1x%2 pixels, which is too large.")
-            .arg(pixels.width())
-            .arg(pixels.height());
-    return std::nullopt;
+        return Failure{QStringLiteral("The picture would have %1x%2 pixels, which is too large.")
+                           .arg(pixels.width())
+                           .arg(pixels.height())};
+    return {};
 }
 
 void WindowRun::showSoon(MainWindow& window)
@@ -80,8 +83,8 @@ void WindowRun::prepare(Session& session, MainWindow& window)
     const QStringList plugins = OrvPluginsManager::findPlugins(orvane::pluginFolders()) + m_commandLine.plugins;
     QStringList messages = session.loadPlugins(plugins);
     messages += session.loadProfiles(orvane::profileFolders());
-    if (const auto failure = session.activateProfile(m_commandLine.profile))
-        messages += *failure;
+    if (const auto activated = session.activateProfile(m_commandLine.profile); !activated)
+        messages += activated.error();
     for (const QString& message : messages)
         report(window, message);
 }
@@ -93,12 +96,12 @@ void WindowRun::start(Session& session, MainWindow& window)
             finish(session, window);
         return;
     }
-    window.openFile(m_commandLine.file, [this, &session, &window](const QString& failure) {
+    window.openFile(m_commandLine.file, [this, &session, &window](const Result<>& opened) {
         // At once, while the scene that is open is the one of this file.
-        if (failure.isEmpty())
+        if (opened)
             applyTo(session, window);
         else
-            reportNotOpened(window, failure);
+            reportNotOpened(window, opened.error());
         if (takesPicture())
             connect(
                 &window, &MainWindow::settled, this, [this, &session, &window] { finish(session, window); },
@@ -119,17 +122,16 @@ void WindowRun::reportNotOpened(MainWindow& window, const QString& failure)
 void WindowRun::applyTo(Session& session, MainWindow& window)
 {
     for (const CommandLine::Assignment& assignment : m_commandLine.assignments) {
-        NxField* field = nullptr;
-        if (const auto failure = orvane::findAssignedField(window.document().scene(), assignment, field))
-            report(window, *failure);
+        const auto field = orvane::findAssignedField(window.document().scene(), assignment);
+        if (field)
+            session.services().pushCommand(new SetFieldCommand(field.value(), VbString(assignment.text.toStdString())));
         else
-            session.services().pushCommand(new SetFieldCommand(field, VbString(assignment.text.toStdString())));
+            report(window, field.error());
     }
     if (m_commandLine.select.isEmpty())
         return;
-    const QString failure = window.selectPath(m_commandLine.select);
-    if (!failure.isEmpty())
-        report(window, failure);
+    if (const auto selected = window.selectPath(m_commandLine.select); !selected)
+        report(window, selected.error());
 }
 
 void WindowRun::report(MainWindow& window, const QString& message)
@@ -143,24 +145,24 @@ void WindowRun::report(MainWindow& window, const QString& message)
 void WindowRun::finish(Session& session, MainWindow& window)
 {
     if (!m_failed) {
-        if (const auto failure = writeAll(session, window)) {
+        if (const auto written = writeAll(session, window); !written) {
             m_failed = true;
-            orvane::printError(*failure);
+            orvane::printError(written.error());
         }
     }
     // Not quit, which closes the windows and so asks about changes that aren't saved: all that was wanted is done.
     QCoreApplication::exit(0);
 }
 
-std::optional<QString> WindowRun::writeAll(Session& session, MainWindow& window)
+Result<> WindowRun::writeAll(Session& session, MainWindow& window)
 {
     orvane::StandardOutput output;
     BatchRun others(m_commandLine, output.stream());
     others.listExtensions(session);
-    auto failure = others.writeOutput(NxRef<NxGroup>(window.document().scene()));
-    const auto outputFailure = output.finish();
-    if (failure || outputFailure)
-        return failure ? failure : outputFailure;
+    const auto result = others.writeOutput(NxRef<NxGroup>(window.document().scene()));
+    const auto written = output.finish();
+    if (!result || !written)
+        return result ? written : result;
     window.startView();
     // Layouts settle, editors fill and the view tells what it can't draw from events and from the sensors' queue, and
     // either may cause the other.

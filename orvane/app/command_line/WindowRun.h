@@ -5,8 +5,6 @@
 #include <QObject>
 #include <QStringList>
 
-#include <optional>
-
 class MainWindow;
 class Session;
 
@@ -24,8 +22,8 @@ public:
 
 private:
     [[nodiscard]] bool takesPicture() const { return !m_commandLine.screenshotFile.isEmpty(); }
-    /// What can't work, whatever becomes of the window.
-    [[nodiscard]] std::optional<QString> findMistake() const;
+    /// Refuses what can't work whatever becomes of the window.
+    [[nodiscard]] orvane::Result<> checkPicture() const;
     void prepare(Session& session, MainWindow& window);
     void showSoon(MainWindow& window);
     /// Opens the file of the command line, and applies to it what is asked for.
@@ -36,7 +34,7 @@ private:
     /// Ends a run that takes a picture.
     void finish(Session& session, MainWindow& window);
     /// Prints, exports, and writes the picture, once nothing is left of the queued work.
-    [[nodiscard]] std::optional<QString> writeAll(Session& session, MainWindow& window);
+    [[nodiscard]] orvane::Result<> writeAll(Session& session, MainWindow& window);
 
     CommandLine m_commandLine;
     bool m_failed = false;

@@ -126,12 +126,12 @@ int runBatch(const CommandLine& commandLine, char** argv)
     const auto application
         = commandLine.needsExtensions() ? makeApplicationWithoutScreen(argv) : makeApplication<QCoreApplication>(argv);
     orvane::StandardOutput output;
-    const auto failure = BatchRun(commandLine, output.stream()).run();
-    const auto outputFailure = output.finish();
-    if (failure)
-        return fail(*failure, statusFailed);
-    // Whoever reads a file of half the output must not take it for the whole.
-    return outputFailure ? fail(*outputFailure, statusFailed) : 0;
+    const auto result = BatchRun(commandLine, output.stream()).run();
+    const auto written = output.finish();
+    if (!result)
+        return fail(result.error(), statusFailed);
+    // A script must not take half of the output for the whole.
+    return written ? 0 : fail(written.error(), statusFailed);
 }
 
 int runWindow(const CommandLine& commandLine, char** argv)
@@ -148,8 +148,8 @@ int print(const QString& text)
 {
     orvane::StandardOutput output;
     output.stream() << text;
-    const auto failure = output.finish();
-    return failure ? fail(*failure, statusFailed) : 0;
+    const auto written = output.finish();
+    return written ? 0 : fail(written.error(), statusFailed);
 }
 
 int run(int argc, char** argv)
@@ -157,9 +157,10 @@ int run(int argc, char** argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments += orvane::fromStdFileName(argv[i]);
-    const auto [commandLine, error] = CommandLine::parse(arguments);
-    if (!error.isEmpty())
-        return fail(error, statusUnusableArguments);
+    const auto parsed = CommandLine::parse(arguments);
+    if (!parsed)
+        return fail(parsed.error(), statusUnusableArguments);
+    const CommandLine& commandLine = parsed.value();
     if (commandLine.help)
         return print(CommandLine::helpText());
     if (commandLine.version)

@@ -53,14 +53,6 @@ ExportJob::ExportJob(
     connect(&m_helper, &HelperProcess::failed, this, [this](const QString& reason, bool byHelper) {
         fail(byHelper ? reason : QStringLiteral("%1: %2").arg(this->fileName(), reason));
     });
-    connect(&m_slices, &QTimer::timeout, this, [this] {
-        if (m_writer)
-            writeScene();
-        else if (m_unchecked > 1)
-            checkFile();
-        else
-            writeFiles();
-    });
 }
 
 ExportJob::~ExportJob() = default;
@@ -80,23 +72,25 @@ void ExportJob::start()
     m_writer = std::make_unique<NxSceneWriter>(m_scene.get());
     m_writer->setPathMap(orvane::pathMap(m_pathFolder, orvane::folderOf(fileName())));
     m_helper.start();
-    m_slices.start(0);
+    startSlices();
 }
 
-void ExportJob::cancel()
+void ExportJob::runSlice()
 {
-    if (m_ended)
-        return;
-    end();
-    QMetaObject::invokeMethod(this, &FileJob::cancelled, Qt::QueuedConnection);
+    if (m_writer)
+        writeScene();
+    else if (m_unchecked > 1)
+        checkFile();
+    else
+        writeFiles();
 }
 
 void ExportJob::writeScene()
 {
     if (m_helper.pendingInput() >= enoughPending) {
         // The helper is behind: go on when it has taken something.
-        m_slices.stop();
-        connect(&m_helper, &HelperProcess::inputTaken, &m_slices, qOverload<>(&QTimer::start), Qt::UniqueConnection);
+        pauseSlices();
+        connect(&m_helper, &HelperProcess::inputTaken, this, &ExportJob::startSlices, Qt::UniqueConnection);
         return;
     }
     std::string text;
@@ -109,8 +103,8 @@ void ExportJob::writeScene()
         return;
     m_helper.closeInput();
     m_writer.reset();
-    m_slices.stop();
-    m_helper.disconnect(&m_slices);
+    pauseSlices();
+    disconnect(&m_helper, &HelperProcess::inputTaken, this, nullptr);
     Q_EMIT progressed(-1);
 }
 
@@ -131,7 +125,7 @@ void ExportJob::takeFiles()
     m_files = std::move(*files);
     m_unchecked = m_files.size();
     m_replacesModel = QFileInfo::exists(fileName());
-    m_slices.start(0);
+    startSlices();
 }
 
 void ExportJob::checkFile()
@@ -185,22 +179,12 @@ void ExportJob::commitFiles()
             return;
         }
     }
-    end();
-    Q_EMIT progressed(1);
-    Q_EMIT finished();
+    finish();
 }
 
-void ExportJob::end()
+void ExportJob::release()
 {
-    m_ended = true;
     m_helper.kill();
-    m_slices.stop();
     m_writer.reset();
     m_replacers.clear();
-}
-
-void ExportJob::fail(const QString& message)
-{
-    end();
-    Q_EMIT failed(message);
 }

@@ -7,8 +7,6 @@
 #include "meridane/base/Files.h"
 #include "meridane/scene/file/NxSceneWriter.h"
 
-#include <QTimer>
-
 #include <cstddef>
 #include <memory>
 #include <vector>
@@ -28,7 +26,10 @@ public:
     ~ExportJob() override;
 
     void start() override;
-    void cancel() override;
+
+protected:
+    void runSlice() override;
+    void release() override;
 
 private:
     void writeScene();
@@ -36,18 +37,14 @@ private:
     void takeFiles();
     void writeFiles();
     void commitFiles();
-    void end();
-    void fail(const QString& message);
 
     NxRef<NxGroup> m_scene;
     QString m_pathFolder;
     HelperProcess m_helper;
-    QTimer m_slices;
     std::unique_ptr<NxSceneWriter> m_writer;
     std::vector<orvane::NamedFile> m_files;
     std::size_t m_unchecked = 0; // of them, from the first; the model's own file needn't be checked
     bool m_replacesModel = false;
     std::vector<std::unique_ptr<meridane::FileReplacer>> m_replacers; // of the files that are open, in their order
     std::size_t m_written = 0; // of the last of them, in bytes
-    bool m_ended = false;
 };

@@ -60,7 +60,7 @@ void FileFlow::closeScene()
 void FileFlow::open(const QString& fileName, const Opened& opened)
 {
     m_work.push({Kind::Open, fileName, FileRequest::anyScene, [this, fileName, opened] { startOpen(fileName, opened); },
-        [this, opened](const QString& reason) { endOpen(opened, reason); }});
+        [this, opened](const QString& reason) { loseOpen(opened, reason, Loss::Stopped); }});
 }
 
 void FileFlow::import(const QString& fileName)
@@ -164,9 +164,9 @@ void FileFlow::startOpen(const QString& fileName, const Opened& opened)
 {
     const FileWork::Reader reader{
         [this, fileName, opened](const NxRef<NxGroup>& scene) { takeScene(scene, fileName, opened); },
-        [this, fileName, opened](const QString& reason, const QString& error) {
+        [this, fileName, opened](const QString& reason, Loss loss) {
             forgetIfMissing(fileName);
-            endOpen(opened, reason, error);
+            loseOpen(opened, reason, loss);
         }};
     leave({[this, fileName, reader] { m_work.read(Kind::Open, m_jobMakers.load(fileName), reader); },
         [this, fileName, opened] { cancelOpen(opened, fileName); }});
@@ -186,9 +186,9 @@ void FileFlow::startAdd(const QString& fileName)
     }
     m_work.read(Kind::Add, m_jobMakers.load(fileName),
         {[this, fileName](const NxRef<NxGroup>& content) { addToScene(content, fileName); },
-            [this, fileName](const QString& /*reason*/, const QString& error) {
+            [this, fileName](const QString& reason, Loss loss) {
                 forgetIfMissing(fileName);
-                Q_EMIT ended(error);
+                loseOpen({}, reason, loss);
             }});
 }
 
@@ -212,16 +212,25 @@ void FileFlow::addToScene(const NxRef<NxGroup>& content, const QString& fileName
     Q_EMIT ended({});
 }
 
-void FileFlow::endOpen(const Opened& opened, const QString& failure, const QString& error)
+void FileFlow::endOpen(const Opened& opened, const orvane::Result<>& result)
 {
     if (opened)
-        opened(failure);
-    Q_EMIT ended(error);
+        opened(result);
+    Q_EMIT ended(result);
+}
+
+void FileFlow::loseOpen(const Opened& opened, const QString& reason, Loss loss)
+{
+    if (loss == Loss::Failed)
+        return endOpen(opened, orvane::Failure{reason});
+    if (opened)
+        opened(orvane::Failure{reason});
+    Q_EMIT ended({}); // to stop is no failure
 }
 
 void FileFlow::cancelOpen(const Opened& opened, const QString& fileName)
 {
-    endOpen(opened, tr("Opening %1 was cancelled.").arg(fileName));
+    loseOpen(opened, tr("Opening %1 was cancelled.").arg(fileName), Loss::Stopped);
 }
 
 void FileFlow::forgetIfMissing(const QString& fileName)

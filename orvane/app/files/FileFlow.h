@@ -26,8 +26,9 @@ class FileFlow : public QObject {
 
 public:
     using Action = std::function<void()>;
-    /// How the opening of a file ended: empty when its scene is open now, else why it isn't.
-    using Opened = std::function<void(const QString& failure)>;
+    /// Called when the opening of a file has ended: with success when its scene is open now, else with the reason why
+    /// it isn't.
+    using Opened = std::function<void(const orvane::Result<>& result)>;
 
     /// What makes the jobs.
     struct JobMakers {
@@ -68,11 +69,12 @@ public:
     void abandon();
 
 Q_SIGNALS:
-    /// A job ended, or was given up; `error` is empty unless it failed.
-    void ended(const QString& error);
+    /// A job finished, failed, or was given up, which is no failure.
+    void ended(const orvane::Result<>& result);
 
 private:
     using Kind = FileRequest::Kind;
+    using Loss = FileWork::Loss;
     using Next = FileWork::Next;
 
     void request(Kind kind, const Action& run, const QString& fileName = {});
@@ -83,7 +85,8 @@ private:
     void startAdd(const QString& fileName);
     void takeScene(const NxRef<NxGroup>& scene, const QString& fileName, const Opened& opened);
     void addToScene(const NxRef<NxGroup>& content, const QString& fileName);
-    void endOpen(const Opened& opened, const QString& failure, const QString& error = {});
+    void endOpen(const Opened& opened, const orvane::Result<>& result);
+    void loseOpen(const Opened& opened, const QString& reason, Loss loss);
     void cancelOpen(const Opened& opened, const QString& fileName);
     void forgetIfMissing(const QString& fileName);
 

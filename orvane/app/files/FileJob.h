@@ -1,8 +1,10 @@
 #pragma once
 
 #include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/file/NxReadFailure.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
+#include <QBasicTimer>
 #include <QObject>
 #include <QString>
 
@@ -11,8 +13,8 @@
 /// Long work on a file, done in slices or by another process, so that the window never waits for it.
 ///
 /// `start` returns at once. The job ends with exactly one of `finished`, `failed` and `cancelled`, emitted from the
-/// event loop, and does nothing afterwards. Destroying a job ends it without a signal; a file being written keeps its
-/// old content.
+/// event loop, and does nothing afterwards. A failure is reported to the user by the object that started the job, and
+/// by nobody else. Destroying a job ends it without a signal; a file being written keeps its old content.
 class FileJob : public QObject {
     Q_OBJECT
 
@@ -23,8 +25,8 @@ public:
     }
 
     virtual void start() = 0;
-    /// Ends the job; `cancelled` follows.
-    virtual void cancel() = 0;
+    /// Ends the job; `cancelled` follows. Does nothing when the job has ended.
+    void cancel();
 
     [[nodiscard]] const QString& fileName() const noexcept { return m_fileName; }
 
@@ -32,12 +34,32 @@ Q_SIGNALS:
     /// The share of the work that is done, 0 to 1, or -1 while it isn't known.
     void progressed(double share);
     void finished();
-    /// One message that tells the file, what is wrong and where.
+    /// One message that names the file, what is wrong and where.
     void failed(const QString& message);
     void cancelled();
 
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
+    /// Lets `runSlice` be called in each turn of the event loop, until the job ends or `pauseSlices` is called.
+    void startSlices();
+    void pauseSlices();
+    /// Does some milliseconds of the work.
+    virtual void runSlice() { }
+    /// Closes files and ends processes. Called once, when the job ends.
+    virtual void release() { }
+
+    /// Ends the job with `finished`.
+    void finish();
+    /// Ends the job with `failed`. Does nothing when the job has ended.
+    void fail(const QString& message);
+
 private:
+    void end();
+
     QString m_fileName;
+    QBasicTimer m_slices;
+    bool m_ended = false;
 };
 
 /// A job that ends with a scene.
@@ -49,10 +71,15 @@ public:
 
     /// The scene, once the job has finished; null after the first call.
     [[nodiscard]] NxRef<NxGroup> takeScene() { return std::exchange(m_scene, NxRef<NxGroup>()); }
+    /// What was wrong with the file, once the job has failed: the message of `failed`, and its place in the file.
+    [[nodiscard]] const NxReadFailure& failure() const noexcept { return m_failure; }
 
 protected:
     void setScene(NxRef<NxGroup> scene) { m_scene = std::move(scene); }
+    /// Ends the job with `failed`.
+    void failToRead(NxReadFailure failure);
 
 private:
     NxRef<NxGroup> m_scene;
+    NxReadFailure m_failure;
 };

@@ -4,6 +4,9 @@
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/messages/MessageBar.h"
 
+#include "meridane/base/errors/NxReadError.h"
+#include "meridane/base/values/MessageText.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
@@ -117,12 +120,12 @@ void FileWork::read(Kind kind, std::unique_ptr<SceneJob> job, const Reader& read
         retire(std::move(m_reading->job));
         goOnLater();
     });
-    connect(running, &FileJob::failed, this, [this](const QString& message) {
-        m_messages.showMessage(MessageBar::Severity::Error, message, readingTopic);
-        loseReading(message, message);
+    connect(running, &FileJob::failed, this, [this, running](const QString& message) {
+        reportFailure(*running, message);
+        loseReading(message, Loss::Failed);
     });
     connect(running, &FileJob::cancelled, this,
-        [this] { loseReading(tr("Opening %1 was cancelled.").arg(m_reading->fileName), {}); });
+        [this] { loseReading(tr("Opening %1 was cancelled.").arg(m_reading->fileName), Loss::Stopped); });
     m_jobBar.watch(running, kind == Kind::Add ? tr("Adding %1").arg(name) : tr("Opening %1").arg(name));
     running->start();
 }
@@ -137,13 +140,22 @@ void FileWork::stopReading(const QString& reason)
     if (!m_reading)
         return;
     reportGivenUp({FileRequest::name(m_reading->kind, m_reading->fileName)}, reason);
-    loseReading(reason, {});
+    loseReading(reason, Loss::Stopped);
 }
 
-void FileWork::loseReading(const QString& reason, const QString& error)
+// In the window, and as an error of the toolkit for extensions that list them, such as the console.
+void FileWork::reportFailure(const SceneJob& job, const QString& message)
+{
+    m_messages.showMessage(MessageBar::Severity::Error, message, readingTopic);
+    const NxReadFailure& failure = job.failure();
+    NxReadError::post(VbString(meridane::withoutMarkup(failure.file)), failure.line, failure.column,
+        VbString(meridane::withoutMarkup(failure.message)));
+}
+
+void FileWork::loseReading(const QString& reason, Loss loss)
 {
     const Reading reading = takeReading();
-    reading.reader.lost(reason, error);
+    reading.reader.lost(reason, loss);
     goOnLater();
 }
 
@@ -161,29 +173,30 @@ void FileWork::write(std::unique_ptr<FileJob> job, const QString& text, const Ne
     connect(m_writing->block.get(), &InputBlock::escapePressed, running, &FileJob::cancel);
     connect(running, &FileJob::finished, this, [this] {
         m_messages.clearTopic(writingTopic);
-        endWriting({}, true);
+        endWriting(WritingEnd::Written);
     });
     connect(running, &FileJob::failed, this, [this](const QString& message) {
         m_messages.showMessage(MessageBar::Severity::Error, message, writingTopic);
-        endWriting(message, false);
+        endWriting(WritingEnd::Failed, message);
     });
-    connect(running, &FileJob::cancelled, this, [this] { endWriting({}, false); });
+    connect(running, &FileJob::cancelled, this, [this] { endWriting(WritingEnd::Cancelled); });
     m_jobBar.watch(running, tr("%1 %2").arg(text, shortName(running->fileName())));
     running->start();
 }
 
-void FileWork::endWriting(const QString& error, bool written)
+void FileWork::endWriting(WritingEnd end, const QString& error)
 {
+    const bool written = end == WritingEnd::Written;
     Writing writing = std::move(*std::exchange(m_writing, std::nullopt));
     const QString reason = tr("%1 wasn't written.").arg(shortName(writing.job->fileName()));
     retire(std::move(writing.job));
     writing.block.reset();
-    // Who asked to leave the scene counted on it; and a window that is closed would take the message with it.
+    // A request to leave the scene counted on it being written, and closing the window would close the message too.
     if (!written)
         reportGivenUp(m_waiting.dropLeaving(reason), reason);
     const std::function<void()>& next = written ? writing.next.proceed : writing.next.giveUp;
     next();
-    Q_EMIT writingEnded(error);
+    Q_EMIT writingEnded(end == WritingEnd::Failed ? orvane::Result<>(orvane::Failure{error}) : orvane::Result<>());
     goOnLater();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orvane/app/base/Result.h"
 #include "orvane/app/files/FileJob.h"
 #include "orvane/app/files/FileRequests.h"
 
@@ -28,11 +29,16 @@ class FileWork : public QObject {
 public:
     using Kind = FileRequest::Kind;
 
-    /// What becomes of a file that is read. One of the two is called, unless the work is abandoned.
+    /// Why a file that was to be read isn't there.
+    enum class Loss {
+        Failed, ///< it can't be read
+        Stopped, ///< the user cancelled it, or asked for something else
+    };
+    /// What is done with a file that is read. One of the two is called, unless the work is abandoned.
     struct Reader {
         std::function<void(const NxRef<NxGroup>& content)> take;
-        /// The reason is a message; `error` is the same where reading failed, and empty where it was stopped.
-        std::function<void(const QString& reason, const QString& error)> lost;
+        /// The reason is a message.
+        std::function<void(const QString& reason, Loss loss)> lost;
     };
     /// What is done after a question, a dialog or a job: the one when all went well, the other when it failed or was
     /// cancelled.
@@ -70,8 +76,8 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 Q_SIGNALS:
-    /// A scene was written, or not; `error` is empty unless it failed.
-    void writingEnded(const QString& error);
+    /// A scene was written, or the user cancelled that, or it failed.
+    void writingEnded(const orvane::Result<>& result);
 
 private:
     struct Reading {
@@ -93,9 +99,11 @@ private:
     [[nodiscard]] bool mayRun(const FileRequest& request) const;
     void goOn();
     void goOnLater();
-    void loseReading(const QString& reason, const QString& error);
+    void reportFailure(const SceneJob& job, const QString& message);
+    void loseReading(const QString& reason, Loss loss);
     [[nodiscard]] Reading takeReading();
-    void endWriting(const QString& error, bool written);
+    enum class WritingEnd { Written, Failed, Cancelled };
+    void endWriting(WritingEnd end, const QString& error = {});
     void retire(std::unique_ptr<FileJob> job);
 
     MessageBar& m_messages;

@@ -4,9 +4,6 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/transfer/WorkTime.h"
 
-#include "meridane/base/errors/NxReadError.h"
-#include "meridane/base/values/MessageText.h"
-
 ImportJob::ImportJob(const QString& fileName, const HelperOptions& options)
     : SceneJob(fileName)
     , m_helper(options, {QStringLiteral("--packed"), QStringLiteral("--read"), orvane::absoluteFileName(fileName)},
@@ -21,9 +18,8 @@ ImportJob::ImportJob(const QString& fileName, const HelperOptions& options)
             startReading();
     });
     connect(&m_helper, &HelperProcess::failed, this, [this](const QString& reason, bool byHelper) {
-        fail(byHelper ? reason : QStringLiteral("%1: %2").arg(this->fileName(), reason));
+        failToImport(byHelper ? reason : QStringLiteral("%1: %2").arg(this->fileName(), reason));
     });
-    connect(&m_slices, &QTimer::timeout, this, &ImportJob::readSlice);
 }
 
 ImportJob::~ImportJob() = default;
@@ -32,14 +28,6 @@ void ImportJob::start()
 {
     Q_EMIT progressed(-1);
     m_helper.start();
-}
-
-void ImportJob::cancel()
-{
-    if (m_ended)
-        return;
-    end();
-    QMetaObject::invokeMethod(this, &FileJob::cancelled, Qt::QueuedConnection);
 }
 
 void ImportJob::takeOutput()
@@ -58,10 +46,10 @@ void ImportJob::takeOutput()
 void ImportJob::startReading()
 {
     m_reader = std::make_unique<orvane::PackedSceneReader>(std::move(m_parts));
-    m_slices.start(0);
+    startSlices();
 }
 
-void ImportJob::readSlice()
+void ImportJob::runSlice()
 {
     using State = orvane::PackedSceneReader::State;
     switch (m_reader->step(SliceClock::length)) {
@@ -69,7 +57,7 @@ void ImportJob::readSlice()
         Q_EMIT progressed(m_reader->progress());
         break;
     case State::Done:
-        m_slices.stop();
+        pauseSlices();
         finishWhenAllIsDone();
         break;
     case State::Failed:
@@ -84,27 +72,21 @@ void ImportJob::finishWhenAllIsDone()
     if (!m_helperEnded || m_reader->state() != orvane::PackedSceneReader::State::Done)
         return;
     setScene(m_reader->takeScene());
-    end();
-    Q_EMIT progressed(1);
-    Q_EMIT finished();
+    finish();
 }
 
 void ImportJob::failForNoScene(const QString& reason)
 {
-    fail(QStringLiteral("%1: the import helper gave something that is no scene: %2").arg(fileName(), reason));
+    failToImport(QStringLiteral("%1: the import helper gave something that is no scene: %2").arg(fileName(), reason));
 }
 
-void ImportJob::fail(const QString& message)
+void ImportJob::failToImport(const QString& message)
 {
-    end();
-    NxReadError::post(VbString(), 0, 0, VbString(meridane::withoutMarkup(message.toStdString())));
-    Q_EMIT failed(message);
+    failToRead({{}, 0, 0, message.toStdString()});
 }
 
-void ImportJob::end()
+void ImportJob::release()
 {
-    m_ended = true;
     m_helper.kill();
-    m_slices.stop();
     m_reader.reset();
 }

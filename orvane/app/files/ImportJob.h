@@ -4,13 +4,10 @@
 #include "orvane/app/files/FileJob.h"
 #include "orvane/transfer/PackedSceneReader.h"
 
-#include <QTimer>
-
 #include <memory>
 
 /// Reads a foreign model: the import helper turns it into a packed scene, which is read in slices as soon as it is
 /// there as a whole, while the helper ends. The paths of textures in the scene are relative to the folder of the model.
-/// A failure is posted as an `NxReadError` too.
 class ImportJob : public SceneJob {
     Q_OBJECT
 
@@ -19,21 +16,20 @@ public:
     ~ImportJob() override;
 
     void start() override;
-    void cancel() override;
+
+protected:
+    void runSlice() override;
+    void release() override;
 
 private:
     void takeOutput();
     void startReading();
-    void readSlice();
     void finishWhenAllIsDone();
     void failForNoScene(const QString& reason);
-    void fail(const QString& message);
-    void end();
+    void failToImport(const QString& message);
 
     HelperProcess m_helper;
     orvane::PackedParts m_parts;
     std::unique_ptr<orvane::PackedSceneReader> m_reader; // once all parts are there, or the helper has ended
-    QTimer m_slices;
     bool m_helperEnded = false;
-    bool m_ended = false;
 };

@@ -6,15 +6,12 @@
 #include "meridane/base/Files.h"
 #include "meridane/scene/file/NxSceneReader.h"
 
-#include <QBasicTimer>
-
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 
 /// Reads a scene file in slices of some milliseconds. The first line is checked before the rest is read.
-///
-/// A failure is posted as an `NxReadError` too.
 class LoadJob : public SceneJob {
     Q_OBJECT
 
@@ -26,22 +23,19 @@ public:
     ~LoadJob() override;
 
     void start() override;
-    void cancel() override;
 
 protected:
-    void timerEvent(QTimerEvent* event) override;
+    void runSlice() override;
+    void release() override;
 
 private:
     void readBytes();
-    /// Opens the file and looks at its beginning. False after a failure.
-    bool open();
-    void failForSize();
+    /// Opens the file and checks its beginning.
+    [[nodiscard]] std::optional<NxReadFailure> open();
+    [[nodiscard]] std::optional<NxReadFailure> checkSize(std::size_t size) const;
     void readScene();
-    void fail(const std::string& message);
-    void fail(const NxReadFailure& failure);
 
     SliceClock::Clock m_clock;
-    QBasicTimer m_timer;
     meridane::FileReader m_file;
     std::string m_bytes;
     std::unique_ptr<NxSceneReader> m_reader; // once the file is in memory

@@ -3,6 +3,9 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/scene/ScenePaths.h"
 
+#include <optional>
+#include <string>
+
 SaveJob::SaveJob(
     const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder, SliceClock::Clock clock)
     : FileJob(fileName)
@@ -18,48 +21,43 @@ void SaveJob::start()
 {
     m_writer = std::make_unique<NxSceneWriter>(m_scene.get());
     m_writer->setPathMap(orvane::pathMap(m_pathFolder, orvane::folderOf(fileName())));
-    m_timer.start(0, this);
+    startSlices();
 }
 
-void SaveJob::cancel()
+void SaveJob::release()
 {
-    if (!m_timer.isActive())
-        return; // ended, or cancelled already
-    m_timer.stop();
     m_file.reset();
-    QMetaObject::invokeMethod(this, &SaveJob::cancelled, Qt::QueuedConnection);
 }
 
-void SaveJob::timerEvent(QTimerEvent*)
+void SaveJob::runSlice()
 {
-    bool done = false;
-    const std::optional<std::string> message = writeSlice(done);
-    if (!message && !done) {
-        Q_EMIT progressed(m_writer->progress());
-        return;
-    }
-    m_timer.stop();
-    m_file.reset();
-    if (message)
-        Q_EMIT failed(orvane::toQString(*message));
+    const auto progress = writeSlice();
+    if (!progress)
+        fail(progress.error());
+    else if (progress.value() == Progress::Done)
+        finish();
     else
-        Q_EMIT finished();
+        Q_EMIT progressed(m_writer->progress());
 }
 
-std::optional<std::string> SaveJob::writeSlice(bool& done)
+orvane::Result<SaveJob::Progress> SaveJob::writeSlice()
 {
+    const std::string name = orvane::toStdFileName(fileName());
+    std::optional<std::string> failure;
     if (m_file == nullptr) {
         m_file = std::make_unique<meridane::FileReplacer>();
-        if (auto message = m_file->open(orvane::toStdFileName(fileName())))
-            return message;
+        failure = m_file->open(name);
     }
     std::string text;
-    const bool more = m_writer->step(text, SliceClock(m_clock));
+    const bool more = !failure && m_writer->step(text, SliceClock(m_clock));
     // What can't be written whole must not replace the old file.
-    if (!m_writer->failure().empty())
-        return orvane::toStdFileName(fileName()) + ": " + m_writer->failure();
-    if (auto message = m_file->write(text.data(), text.size()))
-        return message;
-    done = !more;
-    return done ? m_file->commit() : std::nullopt;
+    if (!failure && !m_writer->failure().empty())
+        failure = name + ": " + m_writer->failure();
+    if (!failure)
+        failure = m_file->write(text.data(), text.size());
+    if (!failure && !more)
+        failure = m_file->commit();
+    if (failure)
+        return orvane::Failure{orvane::toQString(*failure)};
+    return more ? Progress::Working : Progress::Done;
 }

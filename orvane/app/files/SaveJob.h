@@ -1,15 +1,13 @@
 #pragma once
 
+#include "orvane/app/base/Result.h"
 #include "orvane/app/base/SliceClock.h"
 #include "orvane/app/files/FileJob.h"
 
 #include "meridane/base/Files.h"
 #include "meridane/scene/file/NxSceneWriter.h"
 
-#include <QBasicTimer>
-
 #include <memory>
-#include <string>
 
 /// Writes a scene file in slices of some milliseconds. The file changes when the whole scene is written, or not at all.
 /// The scene must not change meanwhile.
@@ -23,16 +21,17 @@ public:
     ~SaveJob() override;
 
     void start() override;
-    void cancel() override;
 
 protected:
-    void timerEvent(QTimerEvent* event) override;
+    void runSlice() override;
+    void release() override;
 
 private:
-    [[nodiscard]] std::optional<std::string> writeSlice(bool& done);
+    enum class Progress { Working, Done };
+
+    orvane::Result<Progress> writeSlice();
 
     SliceClock::Clock m_clock;
-    QBasicTimer m_timer;
     NxRef<NxGroup> m_scene;
     QString m_pathFolder;
     std::unique_ptr<NxSceneWriter> m_writer;

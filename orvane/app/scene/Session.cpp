@@ -63,27 +63,28 @@ QStringList Session::loadProfiles(const QStringList& folders)
     return messages;
 }
 
-std::optional<QString> Session::checkProfile(const QString& name) const
+orvane::Result<> Session::checkProfile(const QString& name) const
 {
     if (m_plugins.findProfile(name) != nullptr)
-        return std::nullopt;
+        return {};
     QStringList names;
     for (const OrvProfile* profile : m_plugins.getProfilesList())
         names.append(u'"' + orvane::toQString(profile->getName()) + u'"');
-    return QStringLiteral("There is no profile \"%1\", only %2.").arg(name, names.join(QStringLiteral(", ")));
+    return orvane::Failure{
+        QStringLiteral("There is no profile \"%1\", only %2.").arg(name, names.join(QStringLiteral(", ")))};
 }
 
-std::optional<QString> Session::activateProfile(const QString& name)
+orvane::Result<> Session::activateProfile(const QString& name)
 {
     if (m_plugins.getProfilesList().empty())
-        return QStringLiteral("No profile was found, so no extension runs.");
+        return orvane::Failure{QStringLiteral("No profile was found, so no extension runs.")};
     OrvProfile* profile = m_plugins.findProfile(name);
     if (profile == nullptr)
         profile = m_plugins.findProfile(m_settings.value(profileKey).toString());
     if (profile == nullptr)
         profile = m_plugins.getProfilesList().front();
     m_plugins.setActiveProfile(profile);
-    return name.isEmpty() ? std::nullopt : checkProfile(name);
+    return name.isEmpty() ? orvane::Result<>() : checkProfile(name);
 }
 
 void Session::shutDown()

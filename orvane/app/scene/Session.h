@@ -1,14 +1,13 @@
 #pragma once
 
 #include "orvane/app/base/AppSettings.h"
+#include "orvane/app/base/Result.h"
 #include "orvane/app/scene/SceneDisposal.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/extender/OrvPluginsManager.h"
 #include "orvane/extender/OrvServices.h"
 
 #include <QStringList>
-
-#include <optional>
 
 /// Everything the tool needs apart from its window: services, scene, plug-ins, profiles, settings.
 ///
@@ -30,11 +29,11 @@ public:
     /// Loads the profiles (`*.json`) of these folders, in the order of the folders and, in each, of the file names.
     /// The result has one message for each that is refused.
     QStringList loadProfiles(const QStringList& folders);
-    /// The message that there is no profile of that name, or nothing.
-    [[nodiscard]] std::optional<QString> checkProfile(const QString& name) const;
-    /// Activates the profile of that name; the empty name means the one used last, else the first of the list. So does
-    /// a name that no profile has, with a message. The result is the message of what went wrong. Needs a window.
-    [[nodiscard]] std::optional<QString> activateProfile(const QString& name);
+    /// Fails when there is no profile of that name, with the names that there are.
+    [[nodiscard]] orvane::Result<> checkProfile(const QString& name) const;
+    /// Activates the profile of that name; the empty name means the one used last, else the first of the list. When no
+    /// profile has that name, the same is activated, and the result is a failure. Needs a window.
+    orvane::Result<> activateProfile(const QString& name);
 
     /// Takes everything down in order: selection, profile, history, plug-ins, scene. Does nothing the second time. The
     /// window calls it in its destructor, since extensions leave the shell here.

@@ -97,7 +97,7 @@ SceneDocument& MainWindow::document() const
     return m_session.document();
 }
 
-void MainWindow::openFile(const QString& fileName, const std::function<void(const QString&)>& opened)
+void MainWindow::openFile(const QString& fileName, const FileFlow::Opened& opened)
 {
     m_files->open(fileName, opened);
 }
@@ -107,13 +107,13 @@ void MainWindow::saveTo(const QString& fileName)
     m_files->saveTo(fileName);
 }
 
-QString MainWindow::selectPath(const QString& path)
+orvane::Result<> MainWindow::selectPath(const QString& path)
 {
     if (!document().isOpen())
-        return tr("No scene is open.");
+        return orvane::Failure{tr("No scene is open.")};
     const NxScenePath::Target target = NxScenePath::find(document().scene(), path.toStdString());
     if (!target.error.empty())
-        return orvane::toQString(target.error);
+        return orvane::Failure{orvane::toQString(target.error)};
     m_tree->setCurrent(m_tree->model()->indexOfPath(target.nodes));
     m_session.services().selectField(target.field);
     return {};
@@ -251,13 +251,13 @@ void MainWindow::updateMiddle()
         showStartPage();
 }
 
-void MainWindow::reportSettled(const QString& error)
+void MainWindow::reportSettled(const orvane::Result<>& result)
 {
     if (NxDelayQueue::getDefault().isEmpty())
-        Q_EMIT settled(error);
+        Q_EMIT settled(result);
     else
         QMetaObject::invokeMethod(
-            this, [this, error] { reportSettled(error); }, Qt::QueuedConnection);
+            this, [this, result] { reportSettled(result); }, Qt::QueuedConnection);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

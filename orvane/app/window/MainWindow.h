@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/app/base/Result.h"
+
 #include <QMainWindow>
 
 #include <functional>
@@ -35,14 +37,13 @@ public:
     [[nodiscard]] SceneDocument& document() const;
 
     /// Opens a scene or imports a model. The user is asked first about changes that aren't saved. `opened` is called
-    /// once, unless the window is closed first: with the empty text when the scene of the file has just become the open
-    /// one, else with the reason why not. `settled` follows.
-    void openFile(const QString& fileName, const std::function<void(const QString& failure)>& opened = {});
+    /// once, unless the window is closed first: with success when the scene of the file has just become the open one,
+    /// else with the reason why it hasn't. `settled` follows.
+    void openFile(const QString& fileName, const std::function<void(const orvane::Result<>&)>& opened = {});
     /// Saves or exports to that file, as its extension says; `settled` follows.
     void saveTo(const QString& fileName);
-    /// Selects what a path such as `/robot/arm.rotation` leads to, in tree and table. The result says what is wrong
-    /// with the path, or is empty.
-    QString selectPath(const QString& path);
+    /// Selects what a path such as `/robot/arm.rotation` leads to, in tree and table. Fails when it leads nowhere.
+    orvane::Result<> selectPath(const QString& path);
     /// Sets the view's drawing up now rather than behind the first picture: for whoever takes pictures of the window.
     void startView();
     /// Whether images of textures are still to come into the view.
@@ -53,9 +54,8 @@ public:
     void showInformation(const QString& message);
 
 Q_SIGNALS:
-    /// Work on a file ended, for good or bad, and what the window shows has caught up with it. `error` is the message
-    /// of a failure, or empty.
-    void settled(const QString& error);
+    /// Work on a file finished, failed or was cancelled, and the window shows its result. Cancelled work is no failure.
+    void settled(const orvane::Result<>& result);
     /// Images of the scene in that folder aren't loaded, because it is outside the scene's and isn't allowed.
     void imageFolderRefused(const QString& folder);
 
@@ -73,7 +73,7 @@ private:
     void updateTitle();
     void updateMiddle();
     void showStartPage();
-    void reportSettled(const QString& error);
+    void reportSettled(const orvane::Result<>& result);
     void saveLayout();
     void restoreLayout();
 

@@ -6,7 +6,7 @@ class CommandLineTest : public QObject {
     Q_OBJECT
 
 private:
-    static CommandLine::ParseResult parse(const QStringList& arguments)
+    static orvane::Result<CommandLine> parse(const QStringList& arguments)
     {
         return CommandLine::parse(QStringList{QStringLiteral("orvane")} + arguments);
     }
@@ -14,23 +14,25 @@ private:
 private Q_SLOTS:
     void nothingAsksForAnEmptyWindow()
     {
-        const auto [commandLine, error] = parse({});
-        QCOMPARE(error, QString());
+        const auto parsed = parse({});
+        QVERIFY(parsed);
+        const CommandLine& commandLine = parsed.value();
         QVERIFY(commandLine.file.isEmpty());
         QVERIFY(!commandLine.isBatch());
     }
 
     void everyOptionIsTaken()
     {
-        const auto [commandLine, error] = parse({QStringLiteral("--plugin"), QStringLiteral("a.so"),
-            QStringLiteral("--plugin=b.so"), QStringLiteral("--profile"), QStringLiteral("Text only"),
-            QStringLiteral("--select"), QStringLiteral("/a"), QStringLiteral("--set"), QStringLiteral("/a.b=1"),
-            QStringLiteral("--set"), QStringLiteral("/\"x=y\".b=c=d"), QStringLiteral("--get"), QStringLiteral("/a.b"),
-            QStringLiteral("--list"), QStringLiteral("--list-extensions"), QStringLiteral("--export"),
-            QStringLiteral("out.obj"), QStringLiteral("--export=out.stl"), QStringLiteral("--screenshot"),
-            QStringLiteral("p.png"), QStringLiteral("--size"), QStringLiteral("640x480"),
-            QStringLiteral("--no-settings"), QStringLiteral("in.mrd")});
-        QCOMPARE(error, QString());
+        const auto parsed = parse({QStringLiteral("--plugin"), QStringLiteral("a.so"), QStringLiteral("--plugin=b.so"),
+            QStringLiteral("--profile"), QStringLiteral("Text only"), QStringLiteral("--select"), QStringLiteral("/a"),
+            QStringLiteral("--set"), QStringLiteral("/a.b=1"), QStringLiteral("--set"),
+            QStringLiteral("/\"x=y\".b=c=d"), QStringLiteral("--get"), QStringLiteral("/a.b"), QStringLiteral("--list"),
+            QStringLiteral("--list-extensions"), QStringLiteral("--export"), QStringLiteral("out.obj"),
+            QStringLiteral("--export=out.stl"), QStringLiteral("--screenshot"), QStringLiteral("p.png"),
+            QStringLiteral("--size"), QStringLiteral("640x480"), QStringLiteral("--no-settings"),
+            QStringLiteral("in.mrd")});
+        QCOMPARE(parsed.error(), QString());
+        const CommandLine& commandLine = parsed.value();
         QCOMPARE(commandLine.plugins, QStringList({QStringLiteral("a.so"), QStringLiteral("b.so")}));
         QCOMPARE(commandLine.profile, QStringLiteral("Text only"));
         QCOMPARE(commandLine.select, QStringLiteral("/a"));
@@ -96,38 +98,38 @@ private Q_SLOTS:
     {
         QFETCH(const QStringList, arguments);
         QFETCH(const QString, mentions);
-        const QString error = parse(arguments).error;
+        const QString error = parse(arguments).error();
         QVERIFY2(error.contains(mentions), qPrintable(error));
         QVERIFY(!error.contains(u'\n'));
     }
 
     void theLargestSizesAreTaken()
     {
-        QCOMPARE(parse({QStringLiteral("--size=7680x4320")}).error, QString());
-        QCOMPARE(parse({QStringLiteral("--size=8192x4096")}).error, QString());
-        QCOMPARE(parse({QStringLiteral("--size=1x8192")}).error, QString());
+        QCOMPARE(parse({QStringLiteral("--size=7680x4320")}).error(), QString());
+        QCOMPARE(parse({QStringLiteral("--size=8192x4096")}).error(), QString());
+        QCOMPARE(parse({QStringLiteral("--size=1x8192")}).error(), QString());
     }
 
     void extensionsAreLoadedForAWindowAndWhereTheyAreAskedFor()
     {
         const QString file = QStringLiteral("a.mrd");
         const QString list = QStringLiteral("--list");
-        QVERIFY(!parse({list, file}).commandLine.needsExtensions());
-        QVERIFY(parse({file}).commandLine.needsExtensions());
-        QVERIFY(parse({QStringLiteral("--list-extensions")}).commandLine.needsExtensions());
-        QVERIFY(parse({list, QStringLiteral("--plugin=p.so"), file}).commandLine.needsExtensions());
-        QVERIFY(parse({list, QStringLiteral("--profile=All"), file}).commandLine.needsExtensions());
+        QVERIFY(!parse({list, file}).value().needsExtensions());
+        QVERIFY(parse({file}).value().needsExtensions());
+        QVERIFY(parse({QStringLiteral("--list-extensions")}).value().needsExtensions());
+        QVERIFY(parse({list, QStringLiteral("--plugin=p.so"), file}).value().needsExtensions());
+        QVERIFY(parse({list, QStringLiteral("--profile=All"), file}).value().needsExtensions());
     }
 
     void onlyOutputWithoutAPictureIsBatchWork()
     {
         const QString file = QStringLiteral("a.mrd");
-        QVERIFY(parse({QStringLiteral("--list"), file}).commandLine.isBatch());
-        QVERIFY(parse({QStringLiteral("--list-extensions")}).commandLine.isBatch());
-        QVERIFY(parse({QStringLiteral("--get=/a.b"), file}).commandLine.isBatch());
-        QVERIFY(parse({QStringLiteral("--export=b.mrd"), file}).commandLine.isBatch());
-        QVERIFY(!parse({QStringLiteral("--set=/a.b=1"), file}).commandLine.isBatch());
-        QVERIFY(!parse({QStringLiteral("--list"), QStringLiteral("--screenshot=p.png"), file}).commandLine.isBatch());
+        QVERIFY(parse({QStringLiteral("--list"), file}).value().isBatch());
+        QVERIFY(parse({QStringLiteral("--list-extensions")}).value().isBatch());
+        QVERIFY(parse({QStringLiteral("--get=/a.b"), file}).value().isBatch());
+        QVERIFY(parse({QStringLiteral("--export=b.mrd"), file}).value().isBatch());
+        QVERIFY(!parse({QStringLiteral("--set=/a.b=1"), file}).value().isBatch());
+        QVERIFY(!parse({QStringLiteral("--list"), QStringLiteral("--screenshot=p.png"), file}).value().isBatch());
     }
 
     void helpNamesEveryOption()

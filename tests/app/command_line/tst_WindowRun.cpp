@@ -105,8 +105,7 @@ private:
         m_fileName = window.document().fileName();
         m_messages = window.findChild<MessageBar*>()->texts();
         if (window.document().isOpen())
-            QVERIFY(
-                !orvane::getField(window.document().scene(), QStringLiteral("/paint.transparency"), m_transparency));
+            m_transparency = orvane::getField(window.document().scene(), QStringLiteral("/paint.transparency")).value();
     }
 
     static MainWindow* mainWindow()

@@ -24,7 +24,6 @@ public:
         ~Load() override { m_jobs.forget(this); }
 
         void start() override { m_jobs.started(this, QStringLiteral("read ")); }
-        void cancel() override { QMetaObject::invokeMethod(this, &FileJob::cancelled, Qt::QueuedConnection); }
         void finish()
         {
             const NxRef<NxGroup> scene(new NxGroup);
@@ -33,8 +32,9 @@ public:
             group->addChild(new NxGroup);
             scene->addChild(group.get());
             setScene(scene);
-            Q_EMIT finished();
+            SceneJob::finish();
         }
+        void fail(const QString& message) { failToRead({{}, 0, 0, message.toStdString()}); }
 
     private:
         HeldJobs& m_jobs;
@@ -52,7 +52,8 @@ public:
         ~Save() override { m_jobs.forget(this); }
 
         void start() override { m_jobs.started(this, QStringLiteral("write %1 to ").arg(nameOf(m_scene.get()))); }
-        void cancel() override { QMetaObject::invokeMethod(this, &FileJob::cancelled, Qt::QueuedConnection); }
+        using FileJob::fail;
+        using FileJob::finish;
 
     private:
         HeldJobs& m_jobs;
@@ -76,7 +77,14 @@ public:
         if (auto* load = dynamic_cast<Load*>(job))
             load->finish();
         else
-            Q_EMIT job->finished();
+            static_cast<Save*>(job)->finish();
+    }
+    static void fail(FileJob* job, const QString& message)
+    {
+        if (auto* load = dynamic_cast<Load*>(job))
+            load->fail(message);
+        else
+            static_cast<Save*>(job)->fail(message);
     }
 
     /// The names of a scene's top nodes.

@@ -2,6 +2,8 @@
 
 #include "orvane/app/files/JobBar.h"
 
+#include "meridane/base/errors/NxReadError.h"
+
 #include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
@@ -103,11 +105,11 @@ private Q_SLOTS:
         QStringList outcomes;
         if (end == 5)
             edit();
-        m_flow->open(path("a.mrd"), [&outcomes](const QString& outcome) { outcomes += outcome; });
+        m_flow->open(path("a.mrd"), [&outcomes](const orvane::Result<>& result) { outcomes += result.error(); });
         if (end == 0)
             HeldJobs::finish(m_jobs->running().front());
         else if (end == 1)
-            Q_EMIT m_jobs->running().front()->failed(QStringLiteral("broken"));
+            HeldJobs::fail(m_jobs->running().front(), QStringLiteral("broken"));
         else if (end == 2)
             m_window->findChild<JobBar*>()->cancel();
         else if (end == 3)
@@ -118,6 +120,33 @@ private Q_SLOTS:
             answerQuestion(QMessageBox::Cancel);
         finishAll();
         QCOMPARE(outcomes, QStringList(failure.replace(QStringLiteral("%1"), path("a.mrd"))));
+    }
+
+    void aFailedJobIsReportedOnce_data()
+    {
+        QTest::addColumn<Kind>("job");
+        QTest::addColumn<int>("postedErrors");
+        QTest::newRow("open") << Kind::Open << 1;
+        QTest::newRow("add") << Kind::Add << 1;
+        QTest::newRow("save") << Kind::Save << 0; // no error of reading
+        QTest::newRow("export") << Kind::Export << 0;
+    }
+
+    void aFailedJobIsReportedOnce()
+    {
+        QFETCH(const Kind, job);
+        QFETCH(const int, postedErrors);
+        int posted = 0;
+        NxReadError::setHandlerCallback([](const NxError*, void* data) { ++*static_cast<int*>(data); }, &posted);
+        QStringList ends;
+        connect(m_flow, &FileFlow::ended, m_flow, [&ends](const orvane::Result<>& result) { ends += result.error(); });
+        ask(job, "a.mrd");
+        HeldJobs::fail(m_jobs->running().front(), QStringLiteral("a.mrd: broken"));
+        finishAll();
+        NxReadError::setHandlerCallback(nullptr, nullptr);
+        QCOMPARE(posted, postedErrors);
+        QCOMPARE(m_messages->texts(), QStringList(QStringLiteral("a.mrd: broken")));
+        QCOMPARE(ends, QStringList(QStringLiteral("a.mrd: broken")));
     }
 
     void aSceneThatCouldNotBeWrittenIsNotLeft_data()
@@ -132,13 +161,13 @@ private Q_SLOTS:
         QFETCH(const bool, cancel);
         QStringList outcomes;
         m_flow->save();
-        m_flow->open(path("a.mrd"), [&outcomes](const QString& outcome) { outcomes += outcome; });
+        m_flow->open(path("a.mrd"), [&outcomes](const orvane::Result<>& result) { outcomes += result.error(); });
         m_flow->import(path("b.mrd"));
         m_flow->leaveForQuit([] { QFAIL("the window was closed"); });
         if (cancel)
             m_window->findChild<JobBar*>()->cancel();
         else
-            Q_EMIT m_jobs->running().front()->failed(QStringLiteral("disk full"));
+            HeldJobs::fail(m_jobs->running().front(), QStringLiteral("disk full"));
         finishAll();
         QCOMPARE(m_jobs->log(), QStringList({QStringLiteral("write [old] to old.mrd"), QStringLiteral("read b.mrd")}));
         QCOMPARE(sceneName(), QStringLiteral("[old+b]"));
@@ -152,7 +181,7 @@ private Q_SLOTS:
     {
         m_flow->open(path("a.mrd"));
         m_flow->save();
-        Q_EMIT m_jobs->running().back()->failed(QStringLiteral("disk full"));
+        HeldJobs::fail(m_jobs->running().back(), QStringLiteral("disk full"));
         finishAll();
         QCOMPARE(sceneName(), QStringLiteral("[a]"));
         QCOMPARE(m_messages->texts(), QStringList(QStringLiteral("disk full")));

@@ -143,7 +143,7 @@ private Q_SLOTS:
         m_flow->closeScene();
         answerQuestion(QMessageBox::Save);
         QTRY_COMPARE(m_jobs->running().size(), std::size_t{1});
-        Q_EMIT m_jobs->running().front()->failed(QStringLiteral("disk full"));
+        HeldJobs::fail(m_jobs->running().front(), QStringLiteral("disk full"));
         finishAll();
         QCOMPARE(sceneName(), QStringLiteral("[old+edit]"));
         QVERIFY(document().isModified());

@@ -113,7 +113,7 @@ private Q_SLOTS:
         QVERIFY2(failed.front().front().toString().contains(message), qPrintable(failed.front().front().toString()));
         QCOMPARE(finished.size(), 0);
         QVERIFY(!job.takeScene());
-        QCOMPARE(postedErrors, 1);
+        QCOMPARE(postedErrors, 0); // the starter of a job reports its failure
     }
 
     void looksAtTheFirstLineBeforeItReadsTheRest()
@@ -130,7 +130,7 @@ private Q_SLOTS:
         const QString message = failed.front().front().toString();
         QVERIFY2(message.startsWith(m_fileName + QStringLiteral(":1:1: expected the first line of a scene file")),
             qPrintable(message));
-        QCOMPARE(postedErrors, 1);
+        QCOMPARE(postedErrors, 0); // the starter of a job reports its failure
     }
 
     void refusesAFileThatIsTooLarge()

@@ -72,7 +72,7 @@ private:
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
         m_window->saveTo(filePath(name));
         QVERIFY(!settled.isEmpty() || settled.wait(testPatience));
-        QCOMPARE(settled.front().front().toString(), QString());
+        QCOMPARE(settled.front().front().value<orvane::Result<>>().error(), QString());
     }
 
     void add(const char* name)
@@ -80,7 +80,7 @@ private:
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
         m_window->findChild<FileFlow*>()->import(filePath(name));
         QVERIFY(!settled.isEmpty() || settled.wait(testPatience));
-        QCOMPARE(settled.front().front().toString(), QString());
+        QCOMPARE(settled.front().front().value<orvane::Result<>>().error(), QString());
     }
 };
 

@@ -85,7 +85,7 @@ private Q_SLOTS:
         auto* const right = static_cast<NxTransform*>(m_window->document().scene()->getChild(2));
         right->translation.setValue(VbVec3f(1e7F, -1e7F, 0));
         NxDelayQueue::getDefault().process();
-        m_window->selectPath(QStringLiteral("/right/greenSquare"));
+        QVERIFY(m_window->selectPath(QStringLiteral("/right/greenSquare")));
         view()->frameSelection();
         lookAhead();
         click(view()->rect().center());
@@ -102,7 +102,7 @@ private Q_SLOTS:
         const VbColor& outline = view()->style().outlineColor;
         const QColor color = QColor::fromRgbF(outline[0], outline[1], outline[2]);
         QCOMPARE(ViewScenes::count(picture(), color), 0);
-        m_window->selectPath(QStringLiteral("/right/greenSquare"));
+        QVERIFY(m_window->selectPath(QStringLiteral("/right/greenSquare")));
         QVERIFY(ViewScenes::count(picture(), color) > 50);
         m_session->services().selectNode(nullptr);
         QCOMPARE(ViewScenes::count(picture(), color), 0);
@@ -112,7 +112,7 @@ private Q_SLOTS:
     {
         lookAhead();
         const QPoint place = clickable(Qt::green);
-        m_window->selectPath(QStringLiteral("/right"));
+        QVERIFY(m_window->selectPath(QStringLiteral("/right")));
         QAction* remove = action("editDelete");
         remove->trigger();
         QTRY_COMPARE(ViewScenes::count(shown(), Qt::green), 0);
@@ -154,7 +154,7 @@ private Q_SLOTS:
         QVERIFY(view()->viewpoint().viewDirection()[1] < -0.999F);
         QTest::keyClick(view(), Qt::Key_1);
         QVERIFY(view()->viewpoint().viewDirection()[2] < -0.999F);
-        m_window->selectPath(QStringLiteral("/right"));
+        QVERIFY(m_window->selectPath(QStringLiteral("/right")));
         view()->setFocus();
         QTest::keyClick(view(), Qt::Key_F);
         QVERIFY(std::abs(view()->viewpoint().focalPoint()[0] - 2) < 0.01);
@@ -265,7 +265,7 @@ private Q_SLOTS:
         makeWindow();
         QCOMPARE(open(m_squares), QString());
         QTRY_VERIFY(m_window->findChild<QLabel*>(QStringLiteral("viewMessage")) != nullptr);
-        m_window->selectPath(QStringLiteral("/right/greenSquare"));
+        QVERIFY(m_window->selectPath(QStringLiteral("/right/greenSquare")));
         QCOMPARE(m_session->services().getSelectedNode(), greenSquare());
         cameraAction(QStringLiteral("camera"))->trigger();
         action("frameSelection")->trigger();
