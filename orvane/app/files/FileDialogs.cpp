@@ -1,12 +1,13 @@
 #include "orvane/app/files/FileDialogs.h"
 
-#include "orvane/app/files/FileJobs.h"
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/files/FileFilters.h"
 #include "orvane/app/scene/SceneDocument.h"
+#include "orvane/transfer/FileFormats.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 namespace {
 
@@ -16,22 +17,15 @@ QString translated(const char* text)
 }
 
 QFileDialog* makeDialog(
-    QWidget* window, const char* name, const QString& title, const QString& filters, const SceneDocument& document)
+    QWidget* window, const char* name, const QString& title, const QStringList& filters, const SceneDocument& document)
 {
     auto* dialog = new QFileDialog(window, title);
     dialog->setObjectName(QLatin1String(name));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setNameFilters(filters.split(QStringLiteral(";;")));
+    dialog->setNameFilters(filters);
     if (!document.fileName().isEmpty())
         dialog->setDirectory(QFileInfo(document.fileName()).absolutePath());
     return dialog;
-}
-
-/// The extension in a name filter such as "STL (*.stl)".
-QString suffixOf(const QString& filter)
-{
-    const qsizetype start = filter.indexOf(QStringLiteral("*.")) + 2;
-    return filter.mid(start, filter.indexOf(QRegularExpression(QStringLiteral("[ )]")), start) - start);
 }
 
 } // namespace
@@ -56,10 +50,10 @@ QFileDialog* makeSaveDialog(QWidget* window, const SceneDocument& document)
 {
     QFileDialog* dialog = makeDialog(window, "saveDialog", translated("Save Scene"), saveFilters(), document);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(QStringLiteral("mrd"));
+    dialog->setDefaultSuffix(toQString(SceneFormat::extension));
     const QString name
         = document.fileName().isEmpty() ? translated("Untitled") : QFileInfo(document.fileName()).completeBaseName();
-    dialog->selectFile(name + QStringLiteral(".mrd"));
+    dialog->selectFile(name + u'.' + dialog->defaultSuffix());
     return dialog;
 }
 
@@ -67,7 +61,7 @@ QFileDialog* makeExportDialog(QWidget* window, const SceneDocument& document)
 {
     QFileDialog* dialog = makeDialog(window, "exportDialog", translated("Export"), exportFilters(), document);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    const auto setSuffix = [dialog](const QString& filter) { dialog->setDefaultSuffix(suffixOf(filter)); };
+    const auto setSuffix = [dialog](const QString& filter) { dialog->setDefaultSuffix(exportSuffix(filter)); };
     setSuffix(dialog->selectedNameFilter());
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog, setSuffix);
     return dialog;

@@ -256,7 +256,8 @@ void FileFlow::chooseSaveFile(const Next& next)
     }
     QFileDialog* dialog = orvane::makeSaveDialog(m_window, m_session.document());
     connect(dialog, &QFileDialog::fileSelected, this, [this, next](const QString& fileName) {
-        writeScene(SceneDocument::isSceneFileName(fileName) ? fileName : fileName + QStringLiteral(".mrd"), next);
+        writeScene(
+            SceneDocument::isSceneFileName(fileName) ? fileName : fileName + SceneDocument::fileExtension(), next);
     });
     connect(dialog, &QDialog::rejected, this, next.giveUp);
     m_work.open(dialog);

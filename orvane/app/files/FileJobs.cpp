@@ -22,27 +22,4 @@ std::unique_ptr<FileJob> makeSaveJob(const NxRef<NxGroup>& scene, const QString&
     return std::make_unique<ExportJob>(scene, fileName, HelperOptions(), pathFolder);
 }
 
-QString openFilters()
-{
-    return QStringLiteral(
-        "Scenes and models (*.mrd *.glb *.gltf *.obj *.fbx *.dae *.stl *.ply *.3ds *.blend *.x *.off);;"
-        "Scenes (*.mrd);;All files (*)");
-}
-
-QString importFilters()
-{
-    return QStringLiteral("Models (*.glb *.gltf *.obj *.fbx *.dae *.stl *.ply *.3ds *.blend *.x *.off);;All files (*)");
-}
-
-QString saveFilters()
-{
-    return QStringLiteral("Scenes (*.mrd)");
-}
-
-QString exportFilters()
-{
-    return QStringLiteral("glTF binary (*.glb);;glTF (*.gltf);;Wavefront OBJ (*.obj);;Collada (*.dae);;"
-                          "Stanford PLY (*.ply);;STL (*.stl)");
-}
-
 } // namespace orvane

@@ -13,10 +13,4 @@ namespace orvane {
 [[nodiscard]] std::unique_ptr<FileJob> makeSaveJob(
     const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder);
 
-/// Name filters for file dialogs: what can be opened, imported, saved to and exported to.
-[[nodiscard]] QString openFilters();
-[[nodiscard]] QString importFilters();
-[[nodiscard]] QString saveFilters();
-[[nodiscard]] QString exportFilters();
-
 } // namespace orvane

@@ -4,6 +4,7 @@
 #include "orvane/app/scene/SceneDisposal.h"
 #include "orvane/app/scene/ScenePaths.h"
 #include "orvane/extender/OrvServices.h"
+#include "orvane/transfer/FileFormats.h"
 
 #include <QFileInfo>
 
@@ -61,9 +62,14 @@ void SceneDocument::setSaved(const QString& fileName)
     reportModified();
 }
 
+QString SceneDocument::fileExtension()
+{
+    return u'.' + orvane::toQString(orvane::SceneFormat::extension);
+}
+
 bool SceneDocument::isSceneFileName(const QString& fileName)
 {
-    return fileName.endsWith(QStringLiteral(".mrd"), Qt::CaseInsensitive);
+    return fileName.endsWith(fileExtension(), Qt::CaseInsensitive);
 }
 
 void SceneDocument::replace(NxRef<NxGroup> scene, const QString& fileName)

@@ -47,6 +47,8 @@ public:
     /// Notes that the scene, as it stands, was saved to that file.
     void setSaved(const QString& fileName);
 
+    /// The extension of scene files, with its dot.
+    [[nodiscard]] static QString fileExtension();
     /// Whether a file of that name holds a scene in our own format.
     [[nodiscard]] static bool isSceneFileName(const QString& fileName);
 

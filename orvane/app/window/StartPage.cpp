@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/scene/SceneDocument.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -23,7 +24,8 @@ QStringList exampleFiles()
     for (const char* folder : {"../share/orvane/examples", "../../../examples", "../examples"}) {
         const QDir dir(program + u'/' + QLatin1String(folder));
         QStringList names;
-        for (const QFileInfo& file : dir.entryInfoList({QStringLiteral("*.mrd")}, QDir::Files, QDir::Name))
+        for (const QFileInfo& file :
+            dir.entryInfoList({u'*' + SceneDocument::fileExtension()}, QDir::Files, QDir::Name))
             names.append(QDir::cleanPath(file.absoluteFilePath()));
         if (!names.isEmpty())
             return names;
