@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldText.h"
+#include "orvane/app/scene/SceneWalk.h"
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/fields/NxField.h"
@@ -10,7 +11,6 @@
 #include <QTextStream>
 
 #include <optional>
-#include <span>
 
 namespace {
 
@@ -20,33 +20,23 @@ constexpr qsizetype listedValueLength = 1000;
 
 void SceneListing::print()
 {
-    // A stack of its own: scenes may be nested deeper than the call stack would like.
-    struct Level {
-        std::span<NxNode* const> children;
-        std::size_t next = 0;
-    };
-    std::vector<Level> levels{{m_scene->getChildren()}};
-    Places places;
-    while (!levels.empty() && m_output.status() == QTextStream::Ok) {
-        Level& level = levels.back();
-        places.resize(levels.size());
-        if (level.next == level.children.size()) {
-            levels.pop_back();
-            continue;
-        }
-        places.back() = static_cast<int>(level.next);
-        NxNode& node = *level.children[level.next++];
-        const Places* const first = firstPlacesOf(node, places);
-        printNode(node, places, first);
+    SceneWalk walk(*m_scene);
+    while (m_output.status() == QTextStream::Ok) {
+        NxNode* const node = walk.next();
+        if (node == nullptr)
+            break;
+        const Places places = walk.indices();
+        const Places* const first = firstPlacesOf(*node, places);
+        printNode(*node, places, first);
         if (first == nullptr)
-            levels.push_back({node.getChildren()});
+            walk.enter();
     }
 }
 
 // Null for a node that wasn't printed yet.
 const SceneListing::Places* SceneListing::firstPlacesOf(const NxNode& node, const Places& places)
 {
-    // Each place holds a reference, so most nodes need no look into the table.
+    // Each place holds a reference, so a node with one reference has one place and isn't in the table.
     if (node.getRefCount() == 1)
         return nullptr;
     const auto [found, isFirst] = m_firstPlaces.try_emplace(&node, places);

@@ -1,6 +1,7 @@
 #include "orvane/app/scene/ScenePaths.h"
 
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/scene/SceneWalk.h"
 
 #include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/single/NxSFFilePathString.h"
@@ -84,20 +85,21 @@ void rebasePaths(NxGroup& scene, const QString& from, const QString& to)
     if (!map)
         return;
     PathFields pathFields;
-    std::unordered_set<const NxNode*> shared; // that were seen
-    std::vector<NxNode*> open{&scene};
-    while (!open.empty()) {
-        NxNode* const node = open.back();
-        open.pop_back();
-        if (node->getRefCount() > 1 && !shared.insert(node).second)
-            continue;
-        NxFieldData& data = *node->getFieldData();
+    const auto rebase = [&](NxNode& node) {
+        NxFieldData& data = *node.getFieldData();
         for (const int index : pathFields.of(data)) {
-            auto* const field = static_cast<NxSFFilePathString*>(data.getField(node, index));
+            auto* const field = static_cast<NxSFFilePathString*>(data.getField(&node, index));
             field->setValue(VbString(map(field->getValue().view())));
         }
-        const std::span<NxNode* const> children = node->getChildren();
-        open.insert(open.end(), children.begin(), children.end());
+    };
+    rebase(scene);
+    std::unordered_set<const NxNode*> shared; // that were rebased
+    SceneWalk walk(scene);
+    while (NxNode* const node = walk.next()) {
+        if (node->getRefCount() > 1 && !shared.insert(node).second)
+            continue;
+        rebase(*node);
+        walk.enter();
     }
 }
 

@@ -3,6 +3,7 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/scene/SceneDocument.h"
+#include "orvane/app/scene/SceneWalk.h"
 #include "orvane/app/view/SceneView.h"
 
 #include "meridane/scene/nodes/NxCamera.h"
@@ -12,15 +13,12 @@
 #include <QActionGroup>
 #include <QMenu>
 
-#include <span>
-#include <unordered_set>
-
 CameraMenu::CameraMenu(SceneView* view, SceneDocument& document)
     : QObject(view)
     , m_view(view)
     , m_document(document)
     , m_follower([view](NxViewpoint viewpoint) {
-        // What the user goes round is what lies in the middle of the scene.
+        // The user orbits around the middle of the scene.
         if (const NxBounds bounds = view->drawing().bounds(); !bounds.isEmpty())
             viewpoint.focus(bounds.center());
         view->setViewpoint(viewpoint);
@@ -73,28 +71,15 @@ std::vector<std::vector<NxNode*>> CameraMenu::cameras() const
     std::vector<std::vector<NxNode*>> result;
     if (!m_document.isOpen())
         return result;
-    struct Step {
-        std::span<NxNode* const> children;
-        std::size_t next = 0;
-    };
-    std::vector<Step> steps{{m_document.scene()->getChildren()}};
-    std::unordered_set<const NxNode*> seen; // a group that stands in many places is looked into once
-    while (!steps.empty() && result.size() < mostCameras) {
-        Step& step = steps.back();
-        if (step.next == step.children.size()) {
-            steps.pop_back();
-            continue;
-        }
-        NxNode* node = step.children[step.next++];
-        if (dynamic_cast<NxCamera*>(node) != nullptr) {
-            std::vector<NxNode*> path;
-            path.reserve(steps.size());
-            for (const Step& above : steps)
-                path.push_back(above.children[above.next - 1]);
-            result.push_back(std::move(path));
-        } else if (!node->getChildren().empty() && seen.insert(node).second) {
-            steps.push_back({node->getChildren()});
-        }
+    SceneWalk walk(*m_document.scene());
+    while (result.size() < mostCameras) {
+        NxNode* const node = walk.next();
+        if (node == nullptr)
+            break;
+        if (dynamic_cast<NxCamera*>(node) != nullptr)
+            result.push_back(walk.path());
+        else
+            walk.enterOnce();
     }
     return result;
 }
