@@ -59,7 +59,7 @@ void assign(NxGroup* scene, const QString& argument)
             "a refused assignment leaves the scene alone");
         return;
     }
-    const auto text = orvane::getField(scene, assignment.path);
+    const auto text = orvane::fieldText(scene, assignment.path);
     fuzz::check(bool(text), "a field that was set has a text");
     const NxRef<NxGroup> other = makeScene();
     fuzz::check(bool(orvane::setField(other.get(), {assignment.path, text.value()})), "its own text form is taken");

@@ -19,7 +19,7 @@ bool isSettingsLine(const QByteArray& line)
 }
 
 /// QSettings takes a file that it can't open for an empty one, and nearly any line for a setting; then it would write
-/// over the file. So what is wrong is found out ahead of it.
+/// over the file. So the file is checked first.
 QString findProblem(const QString& fileName)
 {
     const QFileInfo info(fileName);

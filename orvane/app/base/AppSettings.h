@@ -32,7 +32,7 @@ public:
     [[nodiscard]] const QString& fileName() const noexcept { return m_fileName; }
     /// The user's settings file.
     [[nodiscard]] static QString defaultFileName();
-    /// The user's file of toolkit preferences, which stands beside it.
+    /// The user's file of toolkit preferences, in the same folder.
     [[nodiscard]] static QString preferencesFileName();
 
 private:

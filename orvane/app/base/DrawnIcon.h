@@ -8,8 +8,7 @@ class QPainter;
 
 namespace orvane {
 
-/// Draws an icon on a square of 16 units. It is told the mode, of which only `Selected` and `Disabled` may look
-/// different from `Normal`.
+/// Draws an icon on a square of 16 units. Only the modes `Selected` and `Disabled` may look different from `Normal`.
 using DrawIcon = std::function<void(QPainter& painter, QIcon::Mode mode)>;
 
 /// An icon that is drawn when it is needed, once in each size and mode.

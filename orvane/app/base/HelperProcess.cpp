@@ -21,9 +21,9 @@ QString helperProgram(const HelperOptions& options)
         : options.program;
 }
 
-// The import library takes and gives back blocks of a few bytes by the hundred thousand: it is faster by a twentieth
-// when the C library keeps more of them at hand. That can be told from outside only. What the user has set comes behind
-// and so prevails.
+// Heap tuning: the import library allocates and frees hundreds of thousands of small blocks, and is five per cent
+// faster when the C library caches more of them. The setting must be in the environment before the process starts. The
+// user's own settings are appended, so they override it.
 QProcessEnvironment helperEnvironment()
 {
     const QString name = QStringLiteral("GLIBC_TUNABLES");
@@ -34,7 +34,7 @@ QProcessEnvironment helperEnvironment()
     return environment;
 }
 
-// Arguments are passed as text. A name that isn't UTF-8 makes them go percent-encoded.
+// Arguments are passed as text, percent-encoded if a name among them isn't UTF-8.
 QStringList encoded(const QStringList& arguments)
 {
     const bool isText = std::all_of(
@@ -114,7 +114,7 @@ QStringList HelperProcess::allArguments() const
     return arguments + encoded(m_arguments);
 }
 
-// A timer that runs begins again.
+// A running timer restarts with the new interval.
 void HelperProcess::setTimes()
 {
     // The processor may have other work, or be waiting for a slow disk.
@@ -179,7 +179,7 @@ void HelperProcess::takeOutputOfProcess()
 
 void HelperProcess::takeMessagesOfProcess()
 {
-    // However much it says, the end is kept.
+    // Only the end of a long output is kept.
     m_messages = (m_messages + m_process.readAllStandardError()).right(longestMessage);
 }
 
@@ -206,7 +206,7 @@ void HelperProcess::takeEnd(int exitCode, QProcess::ExitStatus status)
 
 void HelperProcess::takeError(QProcess::ProcessError error)
 {
-    // The other errors are told by the end of the process, with its own message.
+    // The other errors are reported when the process has ended.
     if (error == QProcess::FailedToStart && !m_ended)
         fail(QStringLiteral("the import helper %1 can't be started: %2")
                  .arg(m_options.program, m_process.errorString()));
@@ -221,7 +221,7 @@ void HelperProcess::fail(const QString& reason, bool byHelper)
 
 QString HelperProcess::crashReason(int signal) const
 {
-    // When memory is short, the kernel and the library's own checks end a process without a word.
+    // When memory is short, the kernel kills a process without a message.
     if (signal == SIGXCPU)
         return QStringLiteral("the import helper needed too much processor time and was stopped");
     if (signal == SIGKILL)

@@ -29,7 +29,7 @@ struct HelperOptions {
     std::size_t outputLimit = std::size_t{4} << 30;
 };
 
-/// The import helper at work: a process that is fed, listened to, watched and, if need be, killed.
+/// A run of the import helper: writes its input, collects its output, and kills it when it exceeds its limits.
 ///
 /// It ends with exactly one of `ended` and `failed`, emitted from the event loop, unless it is destroyed first; then
 /// the process is killed. When the tool itself ends, however that ends, the process is killed as well. Thread of the
@@ -48,7 +48,7 @@ public:
 
     /// Gives the process something to read.
     void write(std::string_view bytes);
-    /// Tells the process that it has read everything.
+    /// Closes the input of the process: there is no more to read.
     void closeInput();
     /// How many bytes wait to be read by the process.
     [[nodiscard]] std::size_t pendingInput() const;
@@ -63,7 +63,7 @@ Q_SIGNALS:
     void outputGrew();
     /// The process ended by itself and says that all is well.
     void ended();
-    /// Why there will be no result. `byHelper` tells that the text is the helper's own message, which names the file.
+    /// Why there will be no result. `byHelper` is true if the text is the helper's own message, which names the file.
     void failed(const QString& reason, bool byHelper);
 
 private:

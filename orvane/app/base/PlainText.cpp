@@ -8,7 +8,7 @@ namespace orvane {
 namespace {
 
 constexpr char16_t replacement = 0xFFFD;
-// Of a tool tip.
+// Limits of a tool tip.
 constexpr qsizetype mostInALine = 100;
 constexpr qsizetype mostLines = 20;
 
@@ -63,7 +63,7 @@ QString shortLine(const QString& text, qsizetype length)
 {
     if (text.size() <= length)
         return oneLine(text);
-    // A pair that the cut divides becomes a sign for half a pair.
+    // If the cut divides a surrogate pair, each half is replaced by a visible sign.
     const qsizetype behind = (length - 1) / 2;
     return oneLine(text.left(length - 1 - behind)) + QChar(0x2026) + oneLine(text.right(behind));
 }
@@ -85,7 +85,7 @@ QString plainToolTip(const QString& text)
     QString plain = lines.join(u'\n');
     if (!Qt::mightBeRichText(plain))
         return plain;
-    // In this way the lines aren't broken a second time, for a narrower tool tip.
+    // Prevents that Qt breaks the lines again for a narrower tool tip.
     return QStringLiteral("<div style=\"white-space: pre\">%1</div>").arg(plain.toHtmlEscaped());
 }
 
@@ -96,7 +96,7 @@ QString menuText(const QString& text)
 
 QString titleText(const QString& text)
 {
-    // The mark for a changed document, which counts as text when it is doubled.
+    // Qt replaces [*] by the mark of a modified document unless it is doubled.
     return shortLine(text).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }
 

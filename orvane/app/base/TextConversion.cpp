@@ -61,7 +61,7 @@ QString absoluteFileName(const QString& fileName)
 {
     if (fileName.isEmpty() || fileName.startsWith(u'/'))
         return QDir::cleanPath(fileName);
-    // Qt's name of the current folder has lost what isn't UTF-8.
+    // Qt's name of the current folder lacks the bytes that aren't UTF-8.
     std::error_code error;
     const std::string folder = std::filesystem::current_path(error).string();
     return QDir::cleanPath(fromStdFileName(folder) + u'/' + fileName);

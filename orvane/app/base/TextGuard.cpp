@@ -52,7 +52,7 @@ QVariant TextResources::loadResource(int /*type*/, const QUrl& url) const
 {
     if (url.scheme() == QStringLiteral("qrc"))
         return {}; // the document loads it
-    // A picture that is there: for one that isn't, the document and its pictures read the file themselves.
+    // An empty picture, not null: for null, the document would read the file itself.
     QImage nothing(1, 1, QImage::Format_ARGB32);
     nothing.fill(Qt::transparent);
     return QVariant::fromValue(nothing);

@@ -72,7 +72,7 @@ Result<> BatchRun::startExtensions(Session& session)
         plugins = OrvPluginsManager::findPlugins(orvane::pluginFolders()) + plugins;
     QStringList failures = session.loadPlugins(plugins);
     if (!m_commandLine.profile.isEmpty()) {
-        // Without a window nothing runs, so the profile has to be there and no more.
+        // Without a window no extension runs, so it is enough that the profile exists.
         const QStringList unreadable = session.loadProfiles(orvane::profileFolders());
         if (const auto profile = session.checkProfile(m_commandLine.profile); !profile)
             failures += unreadable + QStringList(profile.error());
@@ -127,7 +127,7 @@ Result<> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
     if (!scene)
         return {};
     for (const QString& query : m_commandLine.queries) {
-        const auto text = orvane::getField(scene.get(), query);
+        const auto text = orvane::fieldText(scene.get(), query);
         if (!text)
             return Failure{text.error()};
         m_output << text.value() << '\n';

@@ -9,7 +9,7 @@ class FileJob;
 class QTextStream;
 class Session;
 
-/// Does what a command line asks for without a window: opens the file, sets fields, prints, writes.
+/// Runs a command line without a window: opens the file, sets fields, prints, exports.
 ///
 /// Needs a core application; where the command line needs extensions, a widget application, on any platform.
 class BatchRun {

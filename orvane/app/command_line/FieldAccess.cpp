@@ -54,7 +54,7 @@ Result<> setField(NxGroup* scene, const CommandLine::Assignment& assignment)
     return {};
 }
 
-Result<QString> getField(NxGroup* scene, const QString& path)
+Result<QString> fieldText(NxGroup* scene, const QString& path)
 {
     const auto field = findField(scene, path);
     if (!field)

@@ -15,6 +15,6 @@ Result<NxField*> findAssignedField(NxGroup* scene, const CommandLine::Assignment
 /// Sets a field from its text form.
 Result<> setField(NxGroup* scene, const CommandLine::Assignment& assignment);
 /// The field's text form.
-Result<QString> getField(NxGroup* scene, const QString& path);
+Result<QString> fieldText(NxGroup* scene, const QString& path);
 
 } // namespace orvane

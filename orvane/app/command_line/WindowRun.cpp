@@ -71,7 +71,7 @@ void WindowRun::showSoon(MainWindow& window)
         window.show();
         return;
     }
-    // A small scene is there before the user would have seen anything: the window's first picture shows it at once.
+    // A small scene is read within this time, so that the window's first picture shows it.
     constexpr std::chrono::milliseconds patience(50);
     connect(&window, &MainWindow::settled, &window, &QWidget::show, Qt::SingleShotConnection);
     QTimer::singleShot(patience, &window, &QWidget::show);
@@ -150,7 +150,7 @@ void WindowRun::finish(Session& session, MainWindow& window)
             orvane::printError(written.error());
         }
     }
-    // Not quit, which closes the windows and so asks about changes that aren't saved: all that was wanted is done.
+    // Not quit, which would close the window and ask about changes that aren't saved.
     QCoreApplication::exit(0);
 }
 
@@ -164,8 +164,7 @@ Result<> WindowRun::writeAll(Session& session, MainWindow& window)
     if (!result || !written)
         return result ? written : result;
     window.startView();
-    // Layouts settle, editors fill and the view tells what it can't draw from events and from the sensors' queue, and
-    // either may cause the other.
+    // Events and the sensors' queue update layouts, editors and the view's messages, and each may cause the other.
     QEventLoop loop;
     while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty() || window.isLoadingImages()) {
         if (window.isLoadingImages())

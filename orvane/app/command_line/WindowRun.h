@@ -8,16 +8,16 @@
 class MainWindow;
 class Session;
 
-/// Brings up the window with what a command line asks for, and either leaves it to the user or takes a picture of it
-/// once it has settled.
+/// Opens the window with the file, plug-ins and changes of a command line. Then the user works in it, or a picture of
+/// it is written and the program ends.
 class WindowRun : public QObject {
     Q_OBJECT
 
 public:
     explicit WindowRun(CommandLine commandLine);
 
-    /// Runs until the window is closed or the picture is written, and what else is asked for beside a picture. The
-    /// result is the exit status; what went wrong is in the window or, with a picture, on standard error.
+    /// Runs until the window is closed, or until the picture and all other output is written. The result is the exit
+    /// status; messages are shown in the window or, with a picture, printed to standard error.
     [[nodiscard]] int run();
 
 private:

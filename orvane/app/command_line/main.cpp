@@ -38,7 +38,7 @@ int fail(const QString& message, int status)
     return status;
 }
 
-// An exception that nothing catches, such as one for want of memory in the middle of the event loop.
+// Ends the program after an exception that nothing catches, such as one for want of memory inside the event loop.
 [[noreturn]] void endByException()
 {
     const char* reason = "an exception of unknown kind";
@@ -56,7 +56,7 @@ int fail(const QString& message, int status)
     std::_Exit(statusFailed);
 }
 
-// Without them the first files that are opened would take their numbers, and get every message written into them.
+// If they are closed, the first files that are opened get their descriptors, and every message is written into them.
 void openStandardStreams()
 {
     int descriptor = 0;
@@ -75,8 +75,8 @@ std::unique_ptr<QCoreApplication> makeApplication(char** argv)
     return std::make_unique<Application>(count, argv);
 }
 
-// What Qt says although a user can't do anything about it. The last one is what the image editor's setting of a colour
-// of an image without a colour table leads to.
+// Warnings of Qt that don't help a user. The image editor causes the last one when it sets a colour of an image without
+// a colour table.
 bool isNoise(const QString& text)
 {
     return text.contains(QLatin1String("propagateSizeHints")) || text.startsWith(QLatin1String("QStandardPaths:"))
@@ -91,7 +91,7 @@ void passOnUnlessNoise(QtMsgType type, const QMessageLogContext& context, const 
         qtMessageHandler(type, context, text);
 }
 
-// A picture or a list doesn't depend on the display, whatever there is.
+// A picture or a list must not depend on the display.
 std::unique_ptr<QCoreApplication> makeApplicationWithoutScreen(char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");

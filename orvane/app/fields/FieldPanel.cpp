@@ -51,7 +51,7 @@ FieldPanel::FieldPanel(QWidget* parent)
     m_pages->addWidget(m_hint);
     m_pages->addWidget(page);
 
-    // Not the current index: a view that gets the focus makes its first row current by itself, which chooses nothing.
+    // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!m_settingCurrent)
             Q_EMIT fieldChosen(currentField());

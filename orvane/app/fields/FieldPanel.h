@@ -22,7 +22,7 @@ public:
 
     /// Shows the fields of this node; null for none.
     void setNode(NxFieldContainer* node);
-    /// Writes the line that names the node anew.
+    /// Updates the line that names the node.
     void updateHeading();
     /// Makes the field's row current; null for no row.
     void setCurrentField(const NxField* field);

@@ -32,7 +32,7 @@ QString fieldToolTip(const NxField& field)
     return orvane::plainToolTip(text);
 }
 
-/// Ignored rows step back and are struck out; values that aren't the default stand out.
+/// Ignored rows have a struck-out name; values that aren't the default are bold.
 QFont rowFont(bool ignored, bool differs, int column)
 {
     QFont font;

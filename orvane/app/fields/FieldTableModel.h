@@ -11,7 +11,7 @@
 /// The fields of one node: name, type and value, a row each.
 ///
 /// Values are shown by the beginning of their text form. Fields that the scene ignores, and fields that differ from
-/// their default, are told apart. What a file said of fields that the class doesn't have stands at the end. Changes
+/// their default, look different. The last rows are fields of the file that the class doesn't have. Changes
 /// arrive by sensors, so a moment later.
 class FieldTableModel : public QAbstractTableModel {
     Q_OBJECT

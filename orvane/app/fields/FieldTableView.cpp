@@ -36,7 +36,7 @@ void FieldTableView::mousePressEvent(QMouseEvent* event)
 
 void FieldTableView::mouseMoveEvent(QMouseEvent* event)
 {
-    // The dock of the field's editor may appear at the press and move other rows under the pointer: they aren't meant.
+    // The dock of the field's editor may appear at the press and move other rows under the pointer.
     if (event->buttons() == Qt::NoButton)
         QTableView::mouseMoveEvent(event);
 }
@@ -57,7 +57,7 @@ void FieldTableView::resizeEvent(QResizeEvent* event)
     QTableView::resizeEvent(event);
     const QModelIndex current = currentIndex();
     const int place = rowViewportPosition(current.row());
-    // A dock with the field's editor may have appeared below, and taken the room that the row stood in.
+    // A dock with the field's editor may have appeared below and covered the place of the row.
     if (current.isValid() && place >= 0 && place < event->oldSize().height())
         scrollTo(current);
 }

@@ -12,7 +12,7 @@ namespace orvane {
 QString beginningOf(const NxField& field, qsizetype length)
 {
     constexpr std::size_t valuesASlice = 64;
-    // No character takes more than four bytes, so that many hold enough of them.
+    // A character has at most four bytes.
     const auto enough = static_cast<std::size_t>(4 * (length + 1));
     std::string text;
     std::size_t position = 0;

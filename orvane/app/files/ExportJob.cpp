@@ -88,7 +88,7 @@ void ExportJob::runSlice()
 void ExportJob::writeScene()
 {
     if (m_helper.pendingInput() >= enoughPending) {
-        // The helper is behind: go on when it has taken something.
+        // Wait until the helper has read some of it.
         pauseSlices();
         connect(&m_helper, &HelperProcess::inputTaken, this, &ExportJob::startSlices, Qt::UniqueConnection);
         return;
@@ -113,8 +113,8 @@ void ExportJob::takeFiles()
     const std::string base = orvane::toStdFileName(QFileInfo(fileName()).completeBaseName());
     const std::string name = orvane::toStdFileName(QFileInfo(fileName()).fileName());
     auto files = orvane::unpackFramedFiles(m_helper.takeOutput());
-    // The helper has read a scene of unknown origin, so nothing that it asks for is written elsewhere. One that didn't
-    // wait for the whole scene can't have written it.
+    // The helper has read a scene of unknown origin, so only files of the model's own name are written. A helper that
+    // ended before it got the whole scene can't have written the model.
     const bool usable = files && m_writer == nullptr && files->front().name == name
         && std::all_of(files->begin(), files->end(),
             [&](const auto& file) { return file.name.starts_with(base + '.') || file.name.starts_with(base + '_'); });
@@ -171,7 +171,7 @@ void ExportJob::writeFiles()
 
 void ExportJob::commitFiles()
 {
-    // What the main file refers to comes first, so that it never refers to something older than itself.
+    // The files that the main file refers to are replaced first, so that it never refers to an older one.
     // NOLINTNEXTLINE(modernize-loop-convert): clang 14 knows no reversed view of this library
     for (auto replacer = m_replacers.rbegin(); replacer != m_replacers.rend(); ++replacer) {
         if (const std::optional<std::string> failure = (*replacer)->commit()) {

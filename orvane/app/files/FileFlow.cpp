@@ -95,7 +95,7 @@ void FileFlow::exportTo(const QString& fileName)
         Kind::Export, [this, fileName] { writeModel(fileName); }, fileName);
 }
 
-// What is chosen in a dialog is begun at once: the request had its turn when the dialog was opened.
+// A file that is chosen in a dialog isn't queued again: the request had its turn when the dialog was opened.
 
 void FileFlow::chooseFileToOpen()
 {
@@ -175,7 +175,7 @@ void FileFlow::startOpen(const QString& fileName, const Opened& opened)
 void FileFlow::startAdd(const QString& fileName)
 {
     if (const QString opening = m_work.fileBeingOpened(); !opening.isEmpty()) {
-        // It would be lost with the present scene, and nobody has seen the next one yet.
+        // It would be lost with the present scene, and the user hasn't seen the next one yet.
         m_work.reportGivenUp(
             {FileRequest::name(Kind::Add, fileName)}, tr("%1 is being opened.").arg(QFileInfo(opening).fileName()));
         return;

@@ -16,9 +16,9 @@ class Session;
 /// What happens to the scene and its file when the user opens, adds, saves, exports, closes or quits, and a question
 /// before whatever would lose changes.
 ///
-/// What was asked for belongs to the scene that was open then. A file that is opened takes the place of one that is
-/// still read. What is under way is in `FileWork`; docs/robustness.md has the whole table of what becomes of a request
-/// while a job runs.
+/// A request belongs to the scene that was open when it was made. A file that is opened takes the place of one that is
+/// still read. All state is in `FileWork`: the jobs that run and the requests that wait. docs/robustness.md has the
+/// table of how a request is handled while a job runs.
 ///
 /// An open that fails leaves the open scene as it is.
 class FileFlow : public QObject {
@@ -65,7 +65,7 @@ public:
     /// Goes on with `proceed` once the window may be closed: asks about changes, and waits for a scene that is being
     /// written. Doesn't go on when the user cancels.
     void leaveForQuit(const Action& proceed);
-    /// Gives up what is read and what waits, without a message: the window is closed.
+    /// Gives up the file that is read and all requests that wait, without a message: the window is closed.
     void abandon();
 
 Q_SIGNALS:

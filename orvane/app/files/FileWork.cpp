@@ -17,7 +17,7 @@
 
 namespace {
 
-// One each, so that the end of one job doesn't take the message about the other away.
+// One topic for each, so that the end of one job doesn't remove the message about the other.
 const QString readingTopic = QStringLiteral("reading");
 const QString writingTopic = QStringLiteral("writing");
 

@@ -17,12 +17,13 @@ class JobBar;
 class MessageBar;
 class QDialog;
 
-/// The file that is read, the scene that is written, the dialogs that are open and the requests that wait: all that can
-/// be under way at a time.
+/// The state of all work on files: the file that is read, the scene that is written, the dialogs that are open and the
+/// requests that wait.
 ///
 /// At most one file is read and at most one scene is written, and the two don't disturb each other. Requests are
-/// carried out, and what was read is taken over, only while no scene is written and no modal dialog is open, whoever
-/// opened it; until then they wait. While a scene is written, the user can't change it. What is given up is reported.
+/// carried out, and what was read is taken over, only while no scene is written and no modal dialog is open,
+/// including dialogs of extensions; until then they wait. While a scene is written, the user can't change it. A request
+/// that is given up is reported.
 class FileWork : public QObject {
     Q_OBJECT
 
@@ -40,8 +41,8 @@ public:
         /// The reason is a message.
         std::function<void(const QString& reason, Loss loss)> lost;
     };
-    /// What is done after a question, a dialog or a job: the one when all went well, the other when it failed or was
-    /// cancelled.
+    /// What is done after a question, a dialog or a job: `proceed` after success, `giveUp` when it failed, was refused
+    /// or was cancelled. Exactly one of them is called.
     struct Next {
         std::function<void()> proceed = [] {};
         std::function<void()> giveUp = [] {};
@@ -64,9 +65,9 @@ public:
     void stopReading(const QString& reason);
     /// Starts to write a scene. None must be written already.
     void write(std::unique_ptr<FileJob> job, const QString& text, const Next& next);
-    /// Gives up what was asked for a scene that isn't the open one any more.
+    /// Gives up the requests that were made for a scene that isn't open any more.
     void dropOtherScenes(int openScene);
-    /// Gives up what is read and what waits, without a message.
+    /// Gives up the file that is read and all requests that wait, without a message.
     void abandon();
 
     /// Shows a message about what is given up.

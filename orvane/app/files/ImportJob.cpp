@@ -68,7 +68,7 @@ void ImportJob::runSlice()
 
 void ImportJob::finishWhenAllIsDone()
 {
-    // A helper that ends badly may have written anything.
+    // A helper that fails after its last byte may have written anything.
     if (!m_helperEnded || m_reader->state() != orvane::PackedSceneReader::State::Done)
         return;
     setScene(m_reader->takeScene());

@@ -41,7 +41,7 @@ bool InputBlock::eventFilter(QObject* object, QEvent* event)
     // The owner of a shortcut is an action.
     if (event->type() == QEvent::Shortcut)
         return true;
-    // What comes to a window goes on to one of its widgets, where it is stopped if need be.
+    // Events of a window are passed on to one of its widgets, where they are blocked if need be.
     const auto* widget = qobject_cast<QWidget*>(object);
     if (!isInput(event->type()) || widget == nullptr || widget == m_exempt || m_exempt->isAncestorOf(widget))
         return false;

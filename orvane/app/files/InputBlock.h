@@ -4,8 +4,8 @@
 
 class QWidget;
 
-/// Keeps the user from changing anything, while a scene that must not change is being written: presses of keys and
-/// buttons, wheel and drops reach nobody but one widget. Painting, resizing and the rest go on.
+/// Blocks the user's input while a scene is written, which must not change meanwhile: presses of keys and buttons,
+/// wheel and drops reach one exempt widget only. Painting, resizing and other events go on.
 class InputBlock : public QObject {
     Q_OBJECT
 

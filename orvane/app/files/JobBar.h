@@ -10,8 +10,8 @@ class QLabel;
 class QProgressBar;
 class QToolButton;
 
-/// Shows how far the running job that was started last is, with a button that cancels it; when that job ends, the one
-/// before it. It comes up only when a job takes a while.
+/// Shows the progress of the running job that was started last, with a button that cancels it. It appears only when a
+/// job takes longer than a moment.
 class JobBar : public QWidget {
     Q_OBJECT
 

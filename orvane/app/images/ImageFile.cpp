@@ -24,7 +24,7 @@ QString linkOf(int descriptor)
     return QStringLiteral("/proc/self/fd/%1").arg(descriptor);
 }
 
-/// The path of an open file behind all symbolic links; empty when it can't be told.
+/// The path of an open file with all symbolic links resolved; empty when the system doesn't know it.
 QString realPathOf(int descriptor)
 {
     std::array<char, PATH_MAX> path{};
@@ -61,8 +61,8 @@ ImageFile::~ImageFile()
 
 void ImageFile::open(const QString& path, const ImageFolders& folders)
 {
-    // This way of opening has no effect on the file, whatever it is, and doesn't wait. What was looked at is what is
-    // opened for reading then, even if the name means another file by now.
+    // O_PATH has no effect on the file, whatever it is, and doesn't wait. The file that was checked is then opened for
+    // reading through its descriptor, so that it can't be another one that got its name meanwhile.
     const int looked = ::open(orvane::toStdFileName(path).c_str(), O_PATH | O_CLOEXEC);
     if (looked < 0) {
         fail(QStringLiteral("%1: %2").arg(path, qt_error_string(errno)));

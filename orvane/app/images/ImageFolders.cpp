@@ -37,7 +37,7 @@ bool ImageFolders::contain(const QString& path) const
 
 bool ImageFolders::containReal(const QString& realPath, const QString& path) const
 {
-    // A folder that was allowed by a name that leads through a link is that link's target too.
+    // If the allowed folder is a symbolic link, its target is allowed too.
     return isInside(realPath, m_realSceneFolder)
         || std::any_of(m_allowed.begin(), m_allowed.end(), [&](const QString& each) {
                return isInside(realPath, each)

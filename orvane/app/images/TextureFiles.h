@@ -15,8 +15,8 @@
 #include <set>
 #include <string>
 
-/// Loads the image files that textures name, for the drawing, without ever waiting for one: they are decoded by the
-/// import helper, and a texture is asked for again when its image has come.
+/// Loads the image files of textures for the drawing without blocking: the import helper decodes them, and the drawing
+/// asks for a texture again when its image is loaded.
 ///
 /// Files in the scene's own folder are loaded, and those in folders that the user has allowed; see `ImageFolders`.
 class TextureFiles : public QObject {

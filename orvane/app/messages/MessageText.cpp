@@ -46,7 +46,7 @@ void MessageText::changeEvent(QEvent* event)
 
 void MessageText::fitHeight()
 {
-    // The height of this kind of document is a number of lines.
+    // The layout of a plain text document measures its height in lines.
     const int lines = static_cast<int>(document()->documentLayout()->documentSize().height());
     setVerticalScrollBarPolicy(lines > maxLines ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     setFixedHeight(std::clamp(lines, 1, maxLines) * fontMetrics().lineSpacing());

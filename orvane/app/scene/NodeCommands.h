@@ -23,8 +23,8 @@ private:
     VbString m_newName;
 };
 
-/// Takes a child out of a group. The command holds the node while it is in the history, and gives it to the disposal
-/// when it goes.
+/// Removes a child from a group. The command keeps the node alive while it is in the history, and passes it to the
+/// disposal in its destructor.
 class RemoveNodeCommand : public OrvCommand {
 public:
     RemoveNodeCommand(NxGroup* group, int index, SceneDisposal& disposal);

@@ -25,8 +25,8 @@ namespace orvane {
 
 namespace {
 
-// The icons are drawn on a square of 16 units. Their colours are of middle lightness, so that they stand out from light
-// and from dark backgrounds alike.
+// The icons are drawn on a square of 16 units. Their colours are of middle lightness, so that they can be
+// seen on light and on dark backgrounds.
 struct IconFile {
     std::string_view className;
     const char* fileName;

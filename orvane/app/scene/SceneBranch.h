@@ -12,7 +12,7 @@
 
 /// The rows of the scene tree under one node, in one place of the tree: made when a view first asks for them.
 ///
-/// It keeps the children as the views know them, which is what the scene had when the views were told last.
+/// It keeps the children that the views show: those of the scene at the last notification.
 class SceneBranch {
 public:
     SceneBranch(NxNode* node, SceneBranch* parent, int row);
@@ -26,10 +26,10 @@ public:
 
     [[nodiscard]] int count() const noexcept { return static_cast<int>(m_children.size()); }
     [[nodiscard]] NxNode* child(int row) const { return m_children[static_cast<std::size_t>(row)].get(); }
-    /// The first row from `start` on where that node stands, or -1.
+    /// The first row of that node from `start` on, or -1.
     [[nodiscard]] int findRow(const NxNode* node, int start = 0) const;
 
-    /// The branch under a row, or null as long as nobody asked for it.
+    /// The branch under a row, or null before `addBranch` made it.
     [[nodiscard]] SceneBranch* branch(int row) const;
     SceneBranch& addBranch(int row);
     [[nodiscard]] const std::map<int, std::unique_ptr<SceneBranch>>& branches() const noexcept { return m_branches; }

@@ -8,10 +8,10 @@
 
 #include <vector>
 
-/// Takes apart scenes that nobody needs any more, a slice at a time, so that a scene of a million nodes dies without
-/// stopping the window.
+/// Deletes the nodes of scenes that were closed, a slice at a time, so that a scene of a million nodes doesn't block
+/// the window.
 ///
-/// A node that somebody else refers to is only let go. What is left when the disposal dies, dies at once.
+/// A node that is referred to from elsewhere loses one reference only. The destructor deletes what is left.
 class SceneDisposal : public QObject {
     Q_OBJECT
 

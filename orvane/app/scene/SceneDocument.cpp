@@ -74,7 +74,7 @@ bool SceneDocument::isSceneFileName(const QString& fileName)
 
 void SceneDocument::replace(NxRef<NxGroup> scene, const QString& fileName)
 {
-    // Editors let go of fields, views of nodes and commands of both, in this order, ahead of the death of the scene.
+    // Before the scene is deleted, editors release its fields, then views its nodes, then commands both.
     m_services.selectField(nullptr);
     m_services.selectNode(nullptr);
     Q_EMIT sceneAboutToChange();
@@ -82,7 +82,7 @@ void SceneDocument::replace(NxRef<NxGroup> scene, const QString& fileName)
     m_disposal.dispose(std::exchange(m_scene, std::move(scene)));
     ++m_sceneNumber;
     m_pathFolder = orvane::folderOf(fileName);
-    m_fileName = fileName; // whoever shows the scene may ask for its folder
+    m_fileName = fileName; // slots of sceneChanged ask for its folder
     Q_EMIT sceneChanged();
     setFileName(fileName);
     reportModified();

@@ -31,7 +31,7 @@ public:
     [[nodiscard]] const QString& pathFolder() const noexcept { return m_pathFolder; }
     /// The file that saving writes: empty where the user must choose one, as for a scene that was imported.
     [[nodiscard]] QString saveFileName() const;
-    /// What to call the scene in front of the user.
+    /// The name of the scene in titles and messages.
     [[nodiscard]] QString displayName() const;
     [[nodiscard]] bool isModified() const;
     /// Another number for each scene that was open, and for each time without one. So long work can check that the
@@ -44,7 +44,7 @@ public:
     void open(NxRef<NxGroup> scene, const QString& fileName);
     /// Leaves nothing open.
     void close();
-    /// Notes that the scene, as it stands, was saved to that file.
+    /// Notes that the scene in its present state was saved to that file.
     void setSaved(const QString& fileName);
 
     /// The extension of scene files, with its dot.
@@ -53,7 +53,7 @@ public:
     [[nodiscard]] static bool isSceneFileName(const QString& fileName);
 
 Q_SIGNALS:
-    /// The present scene is about to be closed: whoever holds one of its nodes lets go.
+    /// The present scene is about to be closed. Slots must release its nodes.
     void sceneAboutToChange();
     void sceneChanged();
     void fileNameChanged();

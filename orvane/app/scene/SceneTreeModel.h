@@ -15,8 +15,8 @@ class ShownNodes;
 ///
 /// The rows under a node come into being when a view first asks for them, and only nodes with unfolded children take
 /// memory here, beyond a pointer a row; finding the parent or the row of an index takes the same time in any scene. A
-/// node that stands in several places of the scene has a row in each. Changes of names and of lists of children arrive
-/// by sensors, so a moment later. The model edits nothing: it asks for it.
+/// node that has several places in the scene has a row in each. Changes of names and of lists of children arrive
+/// by sensors, so a moment later. The model edits nothing itself, see `renameRequested`.
 class SceneTreeModel : public QAbstractItemModel {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
     explicit SceneTreeModel(QObject* parent = nullptr);
     ~SceneTreeModel() override;
 
-    /// Shows what stands in this group; null for nothing. Nodes that are shown are held alive.
+    /// Shows the nodes in this group; null for nothing. Keeps the nodes that are shown alive.
     void setScene(NxGroup* scene);
 
     [[nodiscard]] NxNode* node(const QModelIndex& index) const;

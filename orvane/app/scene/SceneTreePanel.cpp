@@ -33,30 +33,30 @@ SceneTreePanel::SceneTreePanel(QWidget* parent)
     m_view->setTextElideMode(Qt::ElideMiddle);
     m_view->header()->setSectionResizeMode(SceneTreeModel::NameColumn, QHeaderView::Interactive);
     m_view->header()->setStretchLastSection(true);
-    // Scenes are deep, and the names of classes short: so there is as much room for the name as they leave.
+    // Scenes are deep and names of classes short, so names of nodes get most of the width.
     constexpr int indentation = 14;
     m_view->setIndentation(indentation);
     m_view->header()->resizeSection(SceneTreeModel::NameColumn, fontMetrics().averageCharWidth() * 32);
-    // Not the current index: a view that gets the focus makes its first row current by itself, which chooses nothing.
+    // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-        [this] { Q_EMIT currentChanged(currentNode()); });
+        [this] { Q_EMIT selectionChanged(selectedNode()); });
     setFocusProxy(m_view);
 }
 
-QModelIndex SceneTreePanel::current() const
+QModelIndex SceneTreePanel::selected() const
 {
     const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
     return selected.isEmpty() ? QModelIndex() : selected.front().siblingAtColumn(SceneTreeModel::NameColumn);
 }
 
-NxNode* SceneTreePanel::currentNode() const
+NxNode* SceneTreePanel::selectedNode() const
 {
-    return m_model->node(current());
+    return m_model->node(selected());
 }
 
-void SceneTreePanel::setCurrent(const QModelIndex& index)
+void SceneTreePanel::select(const QModelIndex& index)
 {
-    if (index == current())
+    if (index == selected())
         return;
     if (index.isValid()) {
         m_view->setCurrentIndex(index);
@@ -68,10 +68,10 @@ void SceneTreePanel::setCurrent(const QModelIndex& index)
 
 void SceneTreePanel::setScene(NxGroup* scene)
 {
-    const bool hadCurrent = current().isValid();
+    const bool hadSelection = selected().isValid();
     m_model->setScene(scene);
-    if (hadCurrent)
-        Q_EMIT currentChanged(nullptr); // a reset takes the current row away without a word
+    if (hadSelection)
+        Q_EMIT selectionChanged(nullptr); // a reset clears the selection without a signal
     if (m_model->rowCount() > mostUnfolded)
         return;
     for (int row = 0; row < m_model->rowCount(); ++row) {
@@ -81,12 +81,12 @@ void SceneTreePanel::setScene(NxGroup* scene)
     }
 }
 
-void SceneTreePanel::renameCurrent()
+void SceneTreePanel::renameSelected()
 {
-    if (!current().isValid())
+    if (!selected().isValid())
         return;
     m_view->setFocus();
-    m_view->edit(current());
+    m_view->edit(selected());
 }
 
 void SceneTreePanel::addNodeAction(QAction* action)

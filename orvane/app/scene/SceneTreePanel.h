@@ -20,21 +20,21 @@ public:
     [[nodiscard]] QTreeView* view() const noexcept { return m_view; }
 
     /// The first cell of the row that is selected, or an invalid index.
-    [[nodiscard]] QModelIndex current() const;
-    [[nodiscard]] NxNode* currentNode() const;
-    /// Makes the row of a node current and brings it into view.
-    void setCurrent(const QModelIndex& index);
+    [[nodiscard]] QModelIndex selected() const;
+    [[nodiscard]] NxNode* selectedNode() const;
+    /// Selects the row of a node and scrolls to it; an invalid index selects nothing.
+    void select(const QModelIndex& index);
 
     /// Shows a scene with its first nodes unfolded; null for none.
     void setScene(NxGroup* scene);
-    /// Lets the user edit the name in the current row.
-    void renameCurrent();
-    /// Adds an action that works on the current node to the tree's keys and context menu.
+    /// Lets the user edit the name in the selected row.
+    void renameSelected();
+    /// Adds an action for the selected node to the tree's keys and context menu.
     void addNodeAction(QAction* action);
 
 Q_SIGNALS:
-    /// Another node is current now, or none.
-    void currentChanged(NxNode* node);
+    /// Another node is selected now, or none.
+    void selectionChanged(NxNode* node);
 
 private:
     SceneTreeModel* m_model;

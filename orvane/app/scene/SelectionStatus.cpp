@@ -47,14 +47,14 @@ SelectionStatus::SelectionStatus(Session& session, SceneTreePanel* tree, QStatus
 
 void SelectionStatus::updateSoon()
 {
-    // Once for many changes, and not while the user waits.
+    // One count after many changes, at a time when the user doesn't wait.
     m_timer.start(0, this);
 }
 
 void SelectionStatus::timerEvent(QTimerEvent*)
 {
     const NxGroup* scene = m_session.document().scene();
-    NxNode* node = m_tree->currentNode();
+    NxNode* node = m_tree->selectedNode();
     const std::optional<std::vector<int>> way = scene != nullptr && node != nullptr ? places(*scene) : std::nullopt;
     if (scene == nullptr || node == nullptr) {
         m_path->setPath({});
@@ -74,10 +74,10 @@ void SelectionStatus::timerEvent(QTimerEvent*)
 std::optional<std::vector<int>> SelectionStatus::places(const NxGroup& scene) const
 {
     std::vector<int> rows;
-    for (QModelIndex step = m_tree->current(); step.isValid(); step = step.parent())
+    for (QModelIndex step = m_tree->selected(); step.isValid(); step = step.parent())
         rows.push_back(step.row());
     std::reverse(rows.begin(), rows.end());
-    // The tree may be behind the scene for a moment; it tells when it has caught up.
+    // The tree's rows follow the scene a moment later; then this is called again.
     const NxNode* node = &scene;
     for (const int row : rows) {
         const auto children = node->getChildren();
@@ -85,7 +85,7 @@ std::optional<std::vector<int>> SelectionStatus::places(const NxGroup& scene) co
             return std::nullopt;
         node = children[static_cast<std::size_t>(row)];
     }
-    return node == m_tree->currentNode() ? std::optional(rows) : std::nullopt;
+    return node == m_tree->selectedNode() ? std::optional(rows) : std::nullopt;
 }
 
 void SelectionStatus::showCounts(NxNode& node)

@@ -15,7 +15,7 @@ class SceneTreePanel;
 class SelectionLabel;
 class Session;
 
-/// Tells in the status bar where the selection stands in the scene and how much it holds.
+/// Shows in the status bar the path of the selection and the number of nodes below it.
 class SelectionStatus : public QObject {
     Q_OBJECT
 

@@ -97,7 +97,7 @@ void Session::shutDown()
     m_services.selectField(nullptr);
     m_services.selectNode(nullptr);
     m_plugins.setActiveProfile(nullptr);
-    // Commands, and nodes too, may be code of the plug-ins: they go while that code is there.
+    // Commands and nodes may be of classes of the plug-ins, so they are deleted before the plug-ins are unloaded.
     m_document.close();
     m_services.clearHistory();
     m_disposal.finish();

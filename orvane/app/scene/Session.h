@@ -12,7 +12,7 @@
 /// Everything the tool needs apart from its window: services, scene, plug-ins, profiles, settings.
 ///
 /// There is one, and it is made after the application object. A window that shows it is made after it and destroyed
-/// ahead of it. Without a window plug-ins can be loaded but no profile activated, since extensions need a shell.
+/// before it. Without a window plug-ins can be loaded but no profile activated, since extensions need a shell.
 class Session {
 public:
     explicit Session(AppSettings::Mode settings);

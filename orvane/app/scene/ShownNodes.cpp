@@ -88,7 +88,7 @@ void ShownNodes::report(Watch& watch)
     if (!watch.takeState())
         return;
     const bool unfolds = watch.hasChildren != hadChildren;
-    const std::vector<SceneBranch*> branches = watch.branches; // telling a view may change the original
+    const std::vector<SceneBranch*> branches = watch.branches; // the callback may change the original
     NxNode& node = *watch.node;
     for (SceneBranch* branch : branches)
         m_changed(*branch, node, unfolds);

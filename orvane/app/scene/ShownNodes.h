@@ -16,13 +16,13 @@ class SceneBranch;
 /// children to unfold.
 ///
 /// A view asks the model for a row's data whenever it paints the row, so the nodes asked for last are those in view.
-/// Only some thousands of them are watched, whatever the size of the scene; a row that was forgotten is asked for anew
-/// when it is painted again.
+/// Only some thousands of them are watched, whatever the size of the scene; a row that was forgotten is
+/// noted again when it is painted.
 class ShownNodes {
 public:
     static constexpr std::size_t capacity = 4096;
 
-    /// `unfolds` tells whether the node got its first child or lost its last one.
+    /// `unfolds` is true when the node got its first child or lost its last one.
     using Changed = std::function<void(SceneBranch& branch, NxNode& node, bool unfolds)>;
 
     /// `changed` is called from the delay queue for each branch that shows a node whose row changed.

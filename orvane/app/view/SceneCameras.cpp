@@ -55,7 +55,7 @@ std::optional<NxViewpoint> toViewpoint(const QString& text)
     return viewpoint;
 }
 
-/// Where the entry of a file stands, or -1.
+/// The index of the entry of a file, or -1.
 qsizetype indexOf(const QStringList& entries, const QString& fileName)
 {
     for (qsizetype i = 0; i < entries.size(); ++i) {

@@ -24,7 +24,7 @@ namespace {
 constexpr std::chrono::milliseconds startDelay(15);
 /// How close to a line or point a click must be, in points of the screen.
 constexpr float pickRadius = 4;
-/// From the right, from above and from the front: the sides of a thing that tell most.
+/// From the right, from above and from the front, the sides that show most of a model.
 const VbVec3f firstDirection(-1, -0.7F, -1.4F);
 const VbVec3f upwards(0, 1, 0);
 
@@ -147,7 +147,7 @@ void SceneView::frameSelection()
     std::vector<NxNode*> nodes(m_selected.size());
     std::transform(m_selected.begin(), m_selected.end(), nodes.begin(), [](const auto& node) { return node.get(); });
     NxBounds bounds = m_drawing.bounds(nodes);
-    // A material or a light takes no room: what stands around it does.
+    // A material or a light has no extent; a group around it has.
     while (bounds.isEmpty() && !nodes.empty()) {
         nodes.pop_back();
         bounds = m_drawing.bounds(nodes);
@@ -206,7 +206,7 @@ void SceneView::redrawLater()
 
 void SceneView::redraw(const QSize& deviceSize)
 {
-    // Not with each picture: a thing that is being moved would seem to stand still.
+    // Not with each picture: an object that is moved would seem not to move.
     if (const NxBounds bounds = m_framesAll ? m_drawing.bounds() : NxBounds(); !bounds.isEmpty()) {
         m_viewpoint.frame(bounds.min, bounds.max, m_navigation.aspect());
         m_framesAll = false;
@@ -304,7 +304,7 @@ void SceneView::mouseMoveEvent(QMouseEvent* event)
     const ViewNavigation::Drag drag = m_navigation.dragUnderWay();
     if (drag == ViewNavigation::Drag::None)
         return;
-    if (!event->buttons().testFlag(m_button)) { // whoever took the mouse got the release
+    if (!event->buttons().testFlag(m_button)) { // another widget got the release
         endDrag();
         return;
     }

@@ -21,7 +21,7 @@ class QLabel;
 ///
 /// A picture is drawn when something in it has changed, and only when it is painted. The drawing is set up behind the
 /// first paint, so that the window needn't wait for it. As long as the user hasn't moved, all of the scene is in view,
-/// whatever the size. Where there is no drawing, a message tells why.
+/// whatever the size. Where there is no drawing, a message gives the reason.
 class SceneView : public QWidget {
     Q_OBJECT
 
@@ -44,7 +44,8 @@ public:
     /// Whether the user has left the viewpoint that shows all.
     [[nodiscard]] bool hasMoved() const noexcept { return m_hasMoved; }
     void frameAll();
-    /// Frames what is selected, or what stands around it if it takes no room itself; all when nothing is.
+    /// Frames the selected node, or the nearest node above it that has an extent; the whole scene when nothing is
+    /// selected.
     void frameSelection();
     void lookAlong(const VbVec3f& direction, const VbVec3f& up);
     void setProjection(NxViewpoint::Projection projection);

@@ -13,8 +13,8 @@ class QString;
 class SceneView;
 struct NxDrawingStyle;
 
-/// What the user can do with the view, as actions for menus. Their keys are single letters and digits, so they count
-/// while the view has the focus only. What is switched on is kept in the settings.
+/// The actions of the view, for menus. Their keys are single letters and digits, so they work only while the view has
+/// the focus. The state of the switches is kept in the settings.
 class ViewActions : public QObject {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
     /// Both outlive this.
     ViewActions(SceneView* view, AppSettings& settings);
 
-    /// Appends the actions. Their marks tell how the view is now.
+    /// Appends the actions. Their check marks show the present state of the view.
     void addTo(QMenu* menu);
 
 private:

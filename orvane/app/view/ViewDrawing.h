@@ -21,8 +21,8 @@
 class NxOffscreenContext;
 class NxSceneDrawing;
 
-/// Draws the scene into images, in an OpenGL context of its own that is made when `start` asks for it: that takes
-/// longer than all else of the window's first picture.
+/// Draws the scene into images, in an OpenGL context of its own. `start` makes the context, which takes longer than the
+/// rest of the window's first picture.
 ///
 /// What is set before the start holds from then on. A context that gets lost is made again.
 class ViewDrawing {
@@ -32,7 +32,7 @@ public:
     ViewDrawing(const ViewDrawing&) = delete;
     ViewDrawing& operator=(const ViewDrawing&) = delete;
 
-    /// Sets the drawing up; false, with `problem` telling why, when that can't be done here. Tried once.
+    /// Starts the drawing. Returns false when that isn't possible here; `problem` has the reason. Tried once.
     bool start();
     [[nodiscard]] bool isStarted() const noexcept { return m_drawing != nullptr; }
     /// Why there are no pictures, as sentences for the user; empty as long as nothing went wrong.
@@ -57,7 +57,7 @@ public:
     /// How many pictures were drawn.
     [[nodiscard]] int pictures() const noexcept { return m_pictures; }
 
-    /// Makes context and contents anew, as after the graphics system took them away.
+    /// Makes context and contents again, as after the graphics system dropped them.
     void restart();
 
 private:

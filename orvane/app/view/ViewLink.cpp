@@ -41,7 +41,7 @@ ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QSta
     connect(&document, &SceneDocument::sceneChanged, this, &ViewLink::showScene);
     connect(&document, &SceneDocument::fileNameChanged, this,
         [this] { m_view->drawing().setFolder(m_session.document().pathFolder()); });
-    connect(tree, &SceneTreePanel::currentChanged, this, &ViewLink::showSelection);
+    connect(tree, &SceneTreePanel::selectionChanged, this, &ViewLink::showSelection);
     connect(view, &SceneView::picked, this, &ViewLink::choose);
     connect(view, &SceneView::pickedNothing, this, &ViewLink::chooseNothing);
 }
@@ -62,18 +62,18 @@ void ViewLink::showScene()
 void ViewLink::showSelection()
 {
     m_point->hide();
-    m_view->setSelectedPath(m_tree->model()->path(m_tree->current()));
+    m_view->setSelectedPath(m_tree->model()->path(m_tree->selected()));
 }
 
 void ViewLink::choose(const std::vector<NxNode*>& nodes, const VbVec3d& point)
 {
-    m_tree->setCurrent(m_tree->model()->indexOfPath(nodes));
+    m_tree->select(m_tree->model()->indexOfPath(nodes));
     m_point->setText(tr("at %1, %2, %3").arg(coordinate(point[0]), coordinate(point[1]), coordinate(point[2])));
     m_point->show();
 }
 
 void ViewLink::chooseNothing()
 {
-    m_tree->setCurrent(QModelIndex());
+    m_tree->select(QModelIndex());
     m_point->hide();
 }

@@ -61,7 +61,7 @@ void ViewNavigation::drag(const QPointF& position)
 
 void ViewNavigation::zoom(float notches, const QPointF& position)
 {
-    // A turn of the wheel is many events: they all go to the point that the first one found.
+    // A turn of the wheel is many events, which all zoom to the point that the first one found.
     if (!m_zoomPoint || m_zoomPosition != position || !(m_zoomed == m_viewpoint)) {
         m_zoomPoint = m_findPoint(position);
         if (m_zoomPoint)

@@ -16,7 +16,7 @@ class QKeyEvent;
 class ViewNavigation {
 public:
     enum class Drag { None, Orbit, Pan };
-    /// Tells which point of the scene is seen at a position, or nothing.
+    /// The point of the scene that is seen at a position, or nothing.
     using PointFinder = std::function<std::optional<VbVec3d>(const QPointF& position)>;
 
     /// The viewpoint outlives this.

@@ -65,17 +65,17 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
     connect(m_redo, &QAction::triggered, &session.services(), &OrvServices::redo);
     menu->addSeparator();
     m_rename = add(tr("Re&name Node"), Qt::Key_F2, "editRename");
-    connect(m_rename, &QAction::triggered, tree, &SceneTreePanel::renameCurrent);
+    connect(m_rename, &QAction::triggered, tree, &SceneTreePanel::renameSelected);
     m_delete = add(tr("&Delete Node"), QKeySequence::Delete, "editDelete");
     connect(m_delete, &QAction::triggered, this, &EditMenu::deleteNode);
-    // These keys mean the node only where the node is seen to be meant.
+    // These keys act on the selected node only while the tree or the view has the focus.
     for (QAction* action : {m_rename, m_delete}) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         tree->addNodeAction(action);
     }
 
     connect(&session.services(), &OrvServices::historyChanged, this, &EditMenu::updateActions);
-    connect(tree, &SceneTreePanel::currentChanged, this, &EditMenu::updateActions);
+    connect(tree, &SceneTreePanel::selectionChanged, this, &EditMenu::updateActions);
     connect(tree->model(), &SceneTreeModel::renameRequested, this, &EditMenu::renameNode);
     QCoreApplication::instance()->installEventFilter(this);
     updateActions();
@@ -90,7 +90,7 @@ void EditMenu::renameNode(NxNode* node, const QString& name)
 
 void EditMenu::deleteNode()
 {
-    const QModelIndex index = m_tree->current();
+    const QModelIndex index = m_tree->selected();
     NxGroup* group = m_tree->model()->group(index);
     // The rows may be a moment behind the scene.
     const NxNode* node = m_tree->model()->node(index);
@@ -108,8 +108,8 @@ QList<QAction*> EditMenu::toolBarActions() const
 
 bool EditMenu::eventFilter(QObject* object, QEvent* event)
 {
-    // A line keeps the keys of undo and redo to itself even when it has nothing to take back, so that they would do
-    // nothing at all right after a value was entered.
+    // A line edit takes the keys of undo and redo even when it has nothing to undo, so they would do nothing right
+    // after a value was entered.
     if (event->type() != QEvent::ShortcutOverride)
         return false;
     const auto* line = qobject_cast<QLineEdit*>(object);
@@ -127,7 +127,7 @@ void EditMenu::updateActions()
 {
     m_undo->setEnabled(m_session.services().canUndo());
     m_redo->setEnabled(m_session.services().canRedo());
-    const bool node = m_tree->current().isValid();
+    const bool node = m_tree->selected().isValid();
     m_rename->setEnabled(node);
     m_delete->setEnabled(node);
 }

@@ -9,7 +9,7 @@ class QMenu;
 class SceneTreePanel;
 class Session;
 
-/// The Edit menu: undo and redo, and what can be done to the node that is current in the tree.
+/// The Edit menu: undo and redo, and commands for the selected node.
 class EditMenu : public QObject {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
     void renameNode(NxNode* node, const QString& name);
     void deleteNode();
     [[nodiscard]] QList<QAction*> toolBarActions() const;
-    /// Deletes the selected node. Its key counts in the tree; whoever else shows the selection adds the action.
+    /// Deletes the selected node. Its key works in the tree, and in every other widget that the action is added to.
     [[nodiscard]] QAction* deleteAction() const noexcept { return m_delete; }
 
     bool eventFilter(QObject* object, QEvent* event) override;

@@ -5,7 +5,7 @@
 class QMainWindow;
 class WindowShell;
 
-/// The Help menu: the keys, and what this program is and which extensions are at work in it.
+/// The Help menu: a list of keys, and the program's version with its running extensions.
 class HelpMenu : public QObject {
     Q_OBJECT
 

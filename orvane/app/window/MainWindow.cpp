@@ -61,7 +61,7 @@ MainWindow::MainWindow(Session& session)
     , m_shell(std::make_unique<WindowShell>(this))
     , m_recent(new RecentFiles(session.settings(), this))
     , m_messages(new MessageBar(this))
-    , m_middle(new QStackedWidget(this))
+    , m_pages(new QStackedWidget(this))
     , m_view(new SceneView(this))
     , m_imageFolders(new ImageFolderQuestion(m_view->drawing().textures(), session.settings(), *m_messages, this))
     , m_fields(new FieldPanel(this))
@@ -74,7 +74,7 @@ MainWindow::MainWindow(Session& session)
     setDockOptions(AllowNestedDocks | AllowTabbedDocks);
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    buildMiddle();
+    buildCentralWidget();
     buildDocks();
     buildMenus();
     connectDocument();
@@ -88,7 +88,7 @@ MainWindow::MainWindow(Session& session)
 MainWindow::~MainWindow()
 {
     m_session.shutDown();
-    // What this window is connected to outlives it, and its parts are about to go.
+    // The document lives longer than the window, whose parts are about to be deleted.
     disconnect(&m_session.document(), nullptr, this, nullptr);
 }
 
@@ -114,7 +114,7 @@ orvane::Result<> MainWindow::selectPath(const QString& path)
     const NxScenePath::Target target = NxScenePath::find(document().scene(), path.toStdString());
     if (!target.error.empty())
         return orvane::Failure{orvane::toQString(target.error)};
-    m_tree->setCurrent(m_tree->model()->indexOfPath(target.nodes));
+    m_tree->select(m_tree->model()->indexOfPath(target.nodes));
     m_session.services().selectField(target.field);
     return {};
 }
@@ -145,15 +145,15 @@ void MainWindow::showInformation(const QString& message)
     m_messages->showMessage(MessageBar::Severity::Information, message);
 }
 
-void MainWindow::buildMiddle()
+void MainWindow::buildCentralWidget()
 {
     auto* container = new QWidget(this);
     auto* layout = new QVBoxLayout(container);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_messages);
-    m_middle->addWidget(m_view);
-    layout->addWidget(m_middle, 1);
+    m_pages->addWidget(m_view);
+    layout->addWidget(m_pages, 1);
     setCentralWidget(container);
     connect(&m_view->drawing().textures(), &TextureFiles::folderRefused, this, &MainWindow::imageFolderRefused);
     connect(m_errorRelay.get(), &ErrorRelay::reported, this,
@@ -211,7 +211,7 @@ void MainWindow::showStartPage()
 {
     if (m_startPage == nullptr) {
         m_startPage = new StartPage(this);
-        m_middle->addWidget(m_startPage);
+        m_pages->addWidget(m_startPage);
         connect(m_startPage, &StartPage::openRequested, m_files, &FileFlow::chooseFileToOpen);
         connect(m_startPage, &StartPage::newRequested, m_files, &FileFlow::newScene);
         connect(m_startPage, &StartPage::fileChosen, this, [this](const QString& fileName) { openFile(fileName); });
@@ -219,7 +219,7 @@ void MainWindow::showStartPage()
         connect(m_recent, &RecentFiles::changed, m_startPage, listRecent);
         listRecent();
     }
-    m_middle->setCurrentWidget(m_startPage);
+    m_pages->setCurrentWidget(m_startPage);
 }
 
 void MainWindow::connectDocument()
@@ -227,10 +227,10 @@ void MainWindow::connectDocument()
     const SceneDocument& scene = document();
     connect(&scene, &SceneDocument::sceneAboutToChange, this, [this] { m_tree->setScene(nullptr); });
     connect(&scene, &SceneDocument::sceneAboutToChange, m_imageFolders, &ImageFolderQuestion::reset);
-    connect(&scene, &SceneDocument::sceneChanged, this, &MainWindow::updateMiddle);
+    connect(&scene, &SceneDocument::sceneChanged, this, &MainWindow::showDocument);
     connect(&scene, &SceneDocument::fileNameChanged, this, &MainWindow::updateTitle);
     connect(&scene, &SceneDocument::modifiedChanged, this, &QWidget::setWindowModified);
-    updateMiddle();
+    showDocument();
     updateTitle();
 }
 
@@ -241,12 +241,12 @@ void MainWindow::updateTitle()
     setWindowModified(document().isModified());
 }
 
-void MainWindow::updateMiddle()
+void MainWindow::showDocument()
 {
     m_tree->setScene(document().scene());
-    // Before the window is seen it isn't known what it will show.
+    // A file may still be opened before the window is shown.
     if (document().isOpen())
-        m_middle->setCurrentWidget(m_view);
+        m_pages->setCurrentWidget(m_view);
     else if (isVisible())
         showStartPage();
 }

@@ -44,9 +44,9 @@ public:
     void saveTo(const QString& fileName);
     /// Selects what a path such as `/robot/arm.rotation` leads to, in tree and table. Fails when it leads nowhere.
     orvane::Result<> selectPath(const QString& path);
-    /// Sets the view's drawing up now rather than behind the first picture: for whoever takes pictures of the window.
+    /// Starts the view's drawing now instead of after the first paint, for a picture of the window.
     void startView();
-    /// Whether images of textures are still to come into the view.
+    /// Whether images of textures are still being loaded for the view.
     [[nodiscard]] bool isLoadingImages() const;
     /// Shows a message to the user.
     void showError(const QString& message);
@@ -66,12 +66,12 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void buildMiddle();
+    void buildCentralWidget();
     void buildDocks();
     void buildMenus();
     void connectDocument();
     void updateTitle();
-    void updateMiddle();
+    void showDocument();
     void showStartPage();
     void reportSettled(const orvane::Result<>& result);
     void saveLayout();
@@ -82,7 +82,7 @@ private:
     std::unique_ptr<WindowShell> m_shell;
     RecentFiles* m_recent;
     MessageBar* m_messages;
-    QStackedWidget* m_middle;
+    QStackedWidget* m_pages;
     SceneView* m_view;
     ImageFolderQuestion* m_imageFolders;
     StartPage* m_startPage = nullptr; // made when it is first shown

@@ -14,7 +14,7 @@ SelectionLink::SelectionLink(OrvServices& services, SceneTreePanel* tree, FieldP
     , m_tree(tree)
     , m_fields(fields)
 {
-    connect(tree, &SceneTreePanel::currentChanged, this, &SelectionLink::chooseNode);
+    connect(tree, &SceneTreePanel::selectionChanged, this, &SelectionLink::chooseNode);
     connect(fields, &FieldPanel::fieldChosen, &services, &OrvServices::selectField);
     connect(&services, &OrvServices::selectedNodeChanged, this, &SelectionLink::showNode);
     connect(&services, &OrvServices::selectedFieldChanged, this, &SelectionLink::showField);
@@ -44,8 +44,8 @@ void SelectionLink::showNode(NxFieldContainer* node)
 {
     if (m_fields->model()->node() != node)
         m_fields->setNode(node);
-    if (m_tree->currentNode() != node)
-        m_tree->setCurrent(m_tree->model()->findNode(node));
+    if (m_tree->selectedNode() != node)
+        m_tree->select(m_tree->model()->findNode(node));
 }
 
 void SelectionLink::showField(NxField* field)

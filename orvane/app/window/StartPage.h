@@ -6,7 +6,7 @@
 class QLabel;
 class QVBoxLayout;
 
-/// What the middle of the window shows while nothing is open: how to open something, the files of late, and examples.
+/// The central page while no scene is open: buttons that open or make one, recent files, and examples.
 class StartPage : public QWidget {
     Q_OBJECT
 

@@ -46,7 +46,7 @@ void WindowShell::addDockWidget(QDockWidget* dock, int area)
     connect(dock, &QObject::destroyed, this, &WindowShell::forget);
     if (m_places.contains(dock->objectName()) || !m_window->restoreDockWidget(dock))
         placeDock(dock, static_cast<Qt::DockWidgetArea>(area));
-    // Whether it is seen is the extension's decision, not that of a saved state.
+    // The extension decides whether it is visible, not the saved state.
     dock->setVisible(!hidden);
     Q_EMIT contentChanged();
 }
@@ -73,7 +73,7 @@ bool WindowShell::eventFilter(QObject* object, QEvent* event)
         return false;
     auto* dock = qobject_cast<QDockWidget*>(object);
     dock->removeEventFilter(this);
-    // The layout takes the dock in behind this event, and widens the docks that are there already for a wide one.
+    // After this event the layout adds the dock, and would widen the docks beside it if the new one is wide.
     if (m_unsized.removeOne(dock))
         QMetaObject::invokeMethod(
             dock, [this, dock, width = widthFor(dock)] { giveSize(dock, width); }, Qt::QueuedConnection);
@@ -151,7 +151,7 @@ void WindowShell::removeToolBar(QToolBar* toolBar)
 
 void WindowShell::forget(QObject* object)
 {
-    // The object is no more than a QObject by now.
+    // At this point of its destruction the object is only a QObject.
     m_docks.removeIf([object](const QDockWidget* dock) { return static_cast<const void*>(dock) == object; });
     m_unsized.removeIf([object](const QDockWidget* dock) { return static_cast<const void*>(dock) == object; });
     m_toolBars.removeIf([object](const QToolBar* toolBar) { return static_cast<const void*>(toolBar) == object; });

@@ -22,7 +22,7 @@ private:
 
     [[nodiscard]] QString value(const QString& path) const
     {
-        const auto text = orvane::getField(m_scene.get(), path);
+        const auto text = orvane::fieldText(m_scene.get(), path);
         return text ? text.value() : text.error();
     }
 

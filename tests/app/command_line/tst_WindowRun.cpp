@@ -105,7 +105,8 @@ private:
         m_fileName = window.document().fileName();
         m_messages = window.findChild<MessageBar*>()->texts();
         if (window.document().isOpen())
-            m_transparency = orvane::getField(window.document().scene(), QStringLiteral("/paint.transparency")).value();
+            m_transparency
+                = orvane::fieldText(window.document().scene(), QStringLiteral("/paint.transparency")).value();
     }
 
     static MainWindow* mainWindow()

@@ -51,14 +51,14 @@ private Q_SLOTS:
         lookAhead();
         click(clickable(Qt::green));
         QCOMPARE(m_session->services().getSelectedNode(), greenSquare());
-        QCOMPARE(tree()->currentNode(), greenSquare());
+        QCOMPARE(tree()->selectedNode(), greenSquare());
         const auto* point = m_window->findChild<QLabel*>(QStringLiteral("pickedPoint"));
         QVERIFY(point->isVisible());
         QVERIFY2(std::abs(point->text().section(u' ', 1).section(u',', 0, 0).toDouble() - 2) < 0.1,
             qPrintable(point->text()));
         click(QPoint(3, 3));
         QCOMPARE(m_session->services().getSelectedNode(), nullptr);
-        QVERIFY(!tree()->current().isValid());
+        QVERIFY(!tree()->selected().isValid());
         QVERIFY(!point->isVisible());
     }
 
@@ -77,7 +77,7 @@ private Q_SLOTS:
         click(place); // before the delay queue has run
         QVERIFY(!NxDelayQueue::getDefault().isEmpty());
         QCOMPARE(m_session->services().getSelectedNode(), square);
-        QCOMPARE(tree()->model()->path(tree()->current()), (std::vector<NxNode*>{outer.get(), right.get(), square}));
+        QCOMPARE(tree()->model()->path(tree()->selected()), (std::vector<NxNode*>{outer.get(), right.get(), square}));
     }
 
     void tellsExactlyWhereSomethingFarAwayIsClicked()

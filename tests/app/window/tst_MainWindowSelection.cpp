@@ -82,7 +82,7 @@ private Q_SLOTS:
     {
         open(m_robot);
         m_session->services().selectNode(robot()->getChild(1));
-        QCOMPARE(m_window->findChild<SceneTreePanel*>()->currentNode(), robot()->getChild(1));
+        QCOMPARE(m_window->findChild<SceneTreePanel*>()->selectedNode(), robot()->getChild(1));
         m_session->services().selectField(sun()->getFields().back());
         QCOMPARE(m_session->services().getSelectedNode(), sun());
         QCOMPARE(m_session->services().getSelectedField(), sun()->getFields().back());
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(m_session->services().getSelectedField(), wanted);
         QCOMPARE(announced, wanted);
         QCOMPARE(m_session->services().getSelectedNode(), sun());
-        QCOMPARE(m_window->findChild<SceneTreePanel*>()->currentNode(), sun());
+        QCOMPARE(m_window->findChild<SceneTreePanel*>()->selectedNode(), sun());
         QVERIFY(table()->selectionModel()->isRowSelected(table()->model()->rowCount() - 1));
     }
 };
