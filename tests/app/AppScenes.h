@@ -7,8 +7,6 @@
 #include "meridane/scene/file/NxSceneWriter.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
-#include <QFile>
-
 #include <string>
 
 /// Scenes and files for the tests of the application.
@@ -46,19 +44,6 @@ inline NxRef<NxGroup> wide(int count)
 inline void runSensors()
 {
     while (NxDelayQueue::getDefault().process()) { }
-}
-
-inline void writeFile(const QString& fileName, const QByteArray& bytes)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("%s can't be written", qPrintable(fileName));
-}
-
-inline QByteArray readFile(const QString& fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace AppScenes

@@ -1,4 +1,4 @@
-#include "base/VirtualSlot.h"
+#include "VirtualSlot.h"
 
 #include "meridane/base/NxDelayQueueSensor.h"
 

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "base/HandlerGuard.h"
 
 #include "meridane/base/NxPreferences.h"
@@ -24,12 +25,12 @@ class TestNxPreferences : public QObject {
 private:
     QTemporaryDir m_folder;
 
-    QByteArray writeFile(const QByteArray& content) const
+    /// Writes the settings file. The result is its name.
+    QByteArray settingsOf(const QByteArray& content) const
     {
-        QFile file(m_folder.filePath(QStringLiteral("settings")));
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
-            qFatal("cannot write the settings file");
-        return QFile::encodeName(file.fileName());
+        const QString fileName = m_folder.filePath(QStringLiteral("settings"));
+        writeFile(fileName, content);
+        return QFile::encodeName(fileName);
     }
 
 private Q_SLOTS:
@@ -122,7 +123,7 @@ private Q_SLOTS:
 
     void theEnvironmentComesBeforeTheProcessAndThatBeforeTheFile()
     {
-        QVERIFY(load(writeFile("KAL_TEST = file\n")));
+        QVERIFY(load(settingsOf("KAL_TEST = file\n")));
         QCOMPARE(NxPreferences::getString("KAL_TEST", "").toUtf8(), "file");
         NxPreferences::set("KAL_TEST", "process");
         QCOMPARE(NxPreferences::getString("KAL_TEST", "").toUtf8(), "process");
@@ -164,7 +165,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, value);
         TextRecorder recorder;
         const HandlerGuard<NxReadError> guard(TextRecorder::record, &recorder);
-        QVERIFY(load(writeFile(content)));
+        QVERIFY(load(settingsOf(content)));
         QVERIFY(recorder.texts().empty());
         QCOMPARE(QByteArray(NxPreferences::getString("KAL_TEST", "default").toUtf8()), value);
     }
@@ -190,7 +191,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, message);
         TextRecorder recorder;
         const HandlerGuard<NxReadError> guard(TextRecorder::record, &recorder);
-        const QByteArray path = writeFile("KAL_TEST = before\n" + line + "\nKAL_AFTER = after\n");
+        const QByteArray path = settingsOf("KAL_TEST = before\n" + line + "\nKAL_AFTER = after\n");
         QVERIFY(!load(path));
         QCOMPARE(recorder.texts(), std::vector<std::string>{(path + ':' + message).toStdString()});
         QCOMPARE(NxPreferences::getString("KAL_TEST", "").toUtf8(), "before");
@@ -201,26 +202,24 @@ private Q_SLOTS:
     {
         TextRecorder recorder;
         const HandlerGuard<NxReadError> guard(TextRecorder::record, &recorder);
-        load(writeFile("one\ntwo\nthree"));
+        load(settingsOf("one\ntwo\nthree"));
         QCOMPARE(recorder.texts().size(), std::size_t(3));
     }
 
     void theFileIsNeverWritten()
     {
-        const QByteArray path = writeFile("broken\n");
+        const QByteArray path = settingsOf("broken\n");
         const HandlerGuard<NxReadError> guard([](const NxError*, void*) {}, nullptr);
         load(path);
         NxPreferences::set("KAL_TEST", "1");
-        QFile file(QFile::decodeName(path));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("broken\n"));
+        QCOMPARE(readFile(QFile::decodeName(path)), QByteArray("broken\n"));
     }
 
     void aMissingFileIsNoErrorAndHoldsNothing()
     {
         TextRecorder recorder;
         const HandlerGuard<NxReadError> guard(TextRecorder::record, &recorder);
-        load(writeFile("KAL_TEST = 1"));
+        load(settingsOf("KAL_TEST = 1"));
         QVERIFY(load(QFile::encodeName(m_folder.filePath(QStringLiteral("missing")))));
         QVERIFY(recorder.texts().empty());
         QCOMPARE(NxPreferences::getBool("KAL_TEST", 0), 0);
@@ -243,7 +242,7 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, path);
         QFETCH(const QByteArray, message);
-        load(writeFile("KAL_TEST = kept"));
+        load(settingsOf("KAL_TEST = kept"));
         TextRecorder recorder;
         const HandlerGuard<NxReadError> guard(TextRecorder::record, &recorder);
         QVERIFY(!load(path));
@@ -257,13 +256,13 @@ private Q_SLOTS:
         const HandlerGuard<NxReadError> guard(
             [](const NxError*, void* data) { *static_cast<int*>(data) = NxPreferences::getInt("KAL_TEST", 0); },
             &asked);
-        load(writeFile("KAL_TEST = 5\nbroken"));
+        load(settingsOf("KAL_TEST = 5\nbroken"));
         QCOMPARE(asked, 5);
     }
 
     void threadsMayReadAndSetTogether()
     {
-        const QByteArray path = writeFile("KAL_TEST = 1");
+        const QByteArray path = settingsOf("KAL_TEST = 1");
         std::vector<std::jthread> threads;
         for (int i = 0; i < 8; ++i) {
             threads.emplace_back([i, &path] {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TestFiles.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -23,18 +25,9 @@ protected:
     [[nodiscard]] QString folder() const { return m_folder->path(); }
     [[nodiscard]] QString path(const QString& name) const { return m_folder->filePath(name); }
 
-    void write(const QString& name, const QByteArray& bytes) const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
+    void write(const QString& name, const QByteArray& bytes) const { writeFile(path(name), bytes); }
 
-    [[nodiscard]] QByteArray read(const QString& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    [[nodiscard]] QByteArray read(const QString& name) const { return readFile(path(name)); }
 
     /// Runs the program from the test's folder, in a shell that first does what `ahead` says.
     [[nodiscard]] Outcome run(const QStringList& arguments, const QString& ahead = {}) const

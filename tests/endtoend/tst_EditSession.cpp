@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "endtoend/LiveTool.h"
 
 #include <QTemporaryDir>
@@ -75,10 +76,7 @@ private:
 private Q_SLOTS:
     void init()
     {
-        QFile file(fileName());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(scene.toUtf8());
-        file.close();
+        writeFile(fileName(), scene.toUtf8());
         m_tool = std::make_unique<LiveTool>();
         QVERIFY(m_tool->start({fileName()}));
     }

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "endtoend/LiveTool.h"
 
 #include <QColor>
@@ -23,12 +24,7 @@ class ShellSessionTest : public QObject {
     Q_OBJECT
 
 private:
-    void write(const QString& name, const QByteArray& text) const
-    {
-        QFile file(m_folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
+    void write(const QString& name, const QByteArray& text) const { writeFile(m_folder.filePath(name), text); }
 
     void start()
     {

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "endtoend/ProgramCase.h"
 
 #include <QDir>
@@ -13,8 +14,7 @@ const QString sources = QStringLiteral(SOURCE_FOLDER);
 
 QString textOf(const QString& name)
 {
-    QFile file(sources + u'/' + name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(readFile(sources + u'/' + name));
 }
 
 // What a page shows to be typed: the lines of its shell blocks without their comments, and commands in the text.

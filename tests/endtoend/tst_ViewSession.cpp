@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "endtoend/LiveTool.h"
 
 #include <QDir>
@@ -79,10 +80,7 @@ private Q_SLOTS:
     void init()
     {
         const QString fileName = m_folder.filePath(QStringLiteral("squares.mrd"));
-        QFile file(fileName);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(scene);
-        file.close();
+        writeFile(fileName, scene);
         m_tool = std::make_unique<LiveTool>();
         QVERIFY(m_tool->start({fileName}));
         QTRY_VERIFY(find(Qt::red).size > 200);
@@ -120,14 +118,13 @@ private Q_SLOTS:
         blue.fill(Qt::blue);
         QVERIFY(blue.save(m_folder.filePath(QStringLiteral("blue.png"))));
         QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("deep")));
-        QFile file(m_folder.filePath(QStringLiteral("deep/textured.mrd")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("#mrd 1.0\nTexture { filePath = \"../blue.png\" }\n"
-                   "Material { ambientColor = 0 0 0; diffuseColor = 0 0 0; emissiveColor = 1 1 1 }\n"
-                   "Mesh { positions = [0 0 0, 1 0 0, 0 1 0]; textureCoordinates = [0 0, 1 0, 0 1] }\n");
-        file.close();
+        const QString textured = m_folder.filePath(QStringLiteral("deep/textured.mrd"));
+        writeFile(textured,
+            "#mrd 1.0\nTexture { filePath = \"../blue.png\" }\n"
+            "Material { ambientColor = 0 0 0; diffuseColor = 0 0 0; emissiveColor = 1 1 1 }\n"
+            "Mesh { positions = [0 0 0, 1 0 0, 0 1 0]; textureCoordinates = [0 0, 1 0, 0 1] }\n");
         m_tool = std::make_unique<LiveTool>();
-        QVERIFY(m_tool->start({file.fileName()}));
+        QVERIFY(m_tool->start({textured}));
         const QRect allow = m_tool->widget(QStringLiteral("acceptMessage"));
         QVERIFY(!allow.isEmpty());
         QTRY_VERIFY(find(Qt::white).size > 200);

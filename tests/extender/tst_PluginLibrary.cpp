@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "extender/Recording.h"
 
 #include "orvane/extender/OrvExtension.h"
@@ -22,13 +23,6 @@ private:
         const QStringList calls = QCoreApplication::instance()->property("calls").toStringList();
         QCoreApplication::instance()->setProperty("calls", QVariant());
         return calls;
-    }
-
-    static void writeFile(const QString& name, const QByteArray& content)
-    {
-        QFile file(name);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
     }
 
 private Q_SLOTS:

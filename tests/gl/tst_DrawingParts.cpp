@@ -52,9 +52,9 @@ void TestDrawingParts::theTreeFindsWhatAWalkFinds_data()
     QTest::addColumn<int>("items");
     QTest::addColumn<int>("changes"); // ahead of each question
     QTest::newRow("one") << 1 << 1;
-    QTest::newRow("few, built anew") << 10 << 5;
+    QTest::newRow("few, rebuilt") << 10 << 5;
     QTest::newRow("many, changed one by one") << 1000 << 10;
-    QTest::newRow("many, built anew") << 1000 << 500;
+    QTest::newRow("many, rebuilt") << 1000 << 500;
 }
 
 void TestDrawingParts::theTreeFindsWhatAWalkFinds()

@@ -32,9 +32,3 @@ inline QByteArray model(const QByteArray& nodes, const QByteArray& more = {}, co
 }
 
 } // namespace gltf
-
-inline bool writeFile(const QString& fileName, const QByteArray& bytes)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "import/Gltf.h"
 #include "import/HelperRun.h"
 #include "import/PackedBytes.h"
@@ -89,7 +90,7 @@ void tst_Program::aModelIsPackedWhenAsked()
         corner += 201;
     }
     const QString fileName = m_folder.filePath(QStringLiteral("fan.obj"));
-    QVERIFY(writeFile(fileName, model));
+    writeFile(fileName, model);
     const HelperRun text = runHelper({QStringLiteral("--read"), fileName});
     QCOMPARE(text.status, 0);
     for (const QStringList& arguments : {QStringList{QStringLiteral("--read"), fileName, QStringLiteral("--packed")},
@@ -185,7 +186,7 @@ void tst_Program::whatCanNotBeReadGivesOneLine()
     if (name.startsWith(QStringLiteral("folder")))
         QVERIFY(QDir().mkpath(fileName));
     else if (!bytes.isNull())
-        QVERIFY(writeFile(fileName, bytes));
+        writeFile(fileName, bytes);
     const HelperRun run = runHelper({QStringLiteral("--read"), fileName});
     QCOMPARE(run.status, 1);
     QVERIFY(run.output.empty());
@@ -198,7 +199,8 @@ void tst_Program::anUnreadableFileGivesOneLine()
     if (geteuid() == 0)
         QSKIP("the superuser may read everything");
     const QString fileName = m_folder.filePath(QStringLiteral("secret.obj"));
-    QVERIFY(writeFile(fileName, "v 0 0 0\n") && QFile::setPermissions(fileName, {}));
+    writeFile(fileName, "v 0 0 0\n");
+    QVERIFY(QFile::setPermissions(fileName, {}));
     const HelperRun run = runHelper({QStringLiteral("--read"), fileName});
     QCOMPARE(run.status, 1);
     QCOMPARE(run.error, fileName + QStringLiteral(": Permission denied\n"));
@@ -246,7 +248,7 @@ void tst_Program::aModelBeyondTheMemoryLimitGivesOneLine()
         model += "f " + QByteArray::number(index) + ' ' + QByteArray::number(index + 1) + ' '
             + QByteArray::number(index + 2) + '\n';
     const QString fileName = m_folder.filePath(QStringLiteral("large.obj"));
-    QVERIFY(writeFile(fileName, model));
+    writeFile(fileName, model);
     const HelperRun run
         = runHelper({QStringLiteral("--memory"), QStringLiteral("64"), QStringLiteral("--read"), fileName});
     QCOMPARE(run.status, orvane::outOfMemoryStatus);
@@ -261,9 +263,8 @@ void tst_Program::damagedModelsNeverHangOrFlood()
 {
     // Bytes changed at places that follow from a fixed seed.
     for (const char* name : {"crate.glb", "crate.obj"}) {
-        QFile file(modelFile(name));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray bytes = file.readAll();
+        const QByteArray bytes = readFile(modelFile(name));
+        QVERIFY(!bytes.isEmpty());
         quint32 seed = 12345;
         const auto random = [&seed](qsizetype limit) {
             seed = seed * 1664525 + 1013904223;
@@ -274,7 +275,7 @@ void tst_Program::damagedModelsNeverHangOrFlood()
             QByteArray damaged = round % 2 == 0 ? bytes.left(random(bytes.size())) : bytes;
             for (int change = 0; round % 2 != 0 && change < 20; ++change)
                 damaged[random(damaged.size())] = static_cast<char>(random(256));
-            QVERIFY(writeFile(fileName, damaged));
+            writeFile(fileName, damaged);
             const HelperRun run = runHelper({QStringLiteral("--read"), fileName});
             QVERIFY2(run.status != -1, "it ended");
             if (run.crashed)

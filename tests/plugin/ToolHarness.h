@@ -49,7 +49,7 @@ public:
     QMainWindow window;
 };
 
-/// What tests of the plug-in need of the tool: the services, a shell, and a node with a field of every class. Made anew
+/// What tests of the plug-in need of the tool: the services, a shell, and a node with a field of every class. Made
 /// for each test function.
 class ToolHarness {
 public:

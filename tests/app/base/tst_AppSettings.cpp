@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 
 #include "orvane/app/base/AppSettings.h"
@@ -31,13 +32,13 @@ private Q_SLOTS:
     void neitherReadsNorWritesWithoutSettings()
     {
         QVERIFY(QDir().mkpath(m_folder->filePath(QStringLiteral("tool"))));
-        AppScenes::writeFile(m_fileName, "[a]\nb=7\n");
+        writeFile(m_fileName, "[a]\nb=7\n");
         AppSettings settings(AppSettings::Mode::None, m_fileName);
         QVERIFY(!settings.value(QStringLiteral("a/b")).isValid());
         settings.setValue(QStringLiteral("a/b"), 8);
         settings.sync();
         QCOMPARE(settings.value(QStringLiteral("a/b")).toInt(), 8);
-        QCOMPARE(AppScenes::readFile(m_fileName), QByteArray("[a]\nb=7\n"));
+        QCOMPARE(readFile(m_fileName), QByteArray("[a]\nb=7\n"));
     }
 
     void leavesABrokenFileAsItIs_data()
@@ -51,7 +52,7 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, bytes);
         QVERIFY(QDir().mkpath(m_folder->filePath(QStringLiteral("tool"))));
-        AppScenes::writeFile(m_fileName, bytes);
+        writeFile(m_fileName, bytes);
         {
             AppSettings settings(AppSettings::Mode::File, m_fileName);
             QVERIFY(settings.problem().startsWith(m_fileName));
@@ -59,7 +60,7 @@ private Q_SLOTS:
             settings.sync();
             QCOMPARE(settings.value(QStringLiteral("a/b")).toInt(), 7);
         }
-        QCOMPARE(AppScenes::readFile(m_fileName), bytes);
+        QCOMPARE(readFile(m_fileName), bytes);
     }
 
     void reportsAFolderInPlaceOfTheFile()

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 
 #include "orvane/app/command_line/FieldAccess.h"
@@ -28,8 +29,8 @@ private Q_SLOTS:
         m_line.noSettings = true;
         m_line.file = path("one.mrd");
         m_line.assignments = {{QStringLiteral("/paint.transparency"), QStringLiteral("0.5")}};
-        AppScenes::writeFile(m_line.file, "#mrd 1.0\nMaterial \"paint\" {}\n");
-        AppScenes::writeFile(path("two.mrd"), "#mrd 1.0\nMaterial \"paint\" {}\n");
+        writeFile(m_line.file, "#mrd 1.0\nMaterial \"paint\" {}\n");
+        writeFile(path("two.mrd"), "#mrd 1.0\nMaterial \"paint\" {}\n");
     }
 
     void setsWhatTheCommandLineAsksFor()
@@ -54,7 +55,7 @@ private Q_SLOTS:
 
     void setsNothingWhenTheLoadFails()
     {
-        AppScenes::writeFile(m_line.file, "#mrd 1.0\nMaterial {");
+        writeFile(m_line.file, "#mrd 1.0\nMaterial {");
         run([](MainWindow& window) { return !beingOpened(window).isEmpty(); });
         QCOMPARE(m_fileName, QString());
         QVERIFY2(m_messages.contains(notApplied()), qPrintable(m_messages.join(u'\n')));

@@ -6,6 +6,7 @@
 //                          or "no failure", the old file's state and the number of files
 // A file system needs rights that not every machine gives; without them the program ends with status 77.
 
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 #include "app/SaveScene.h"
 
@@ -61,12 +62,12 @@ int saveOnFileSystem(const QString& folder, QByteArray options)
     if (!leaveMountsOfOthers() || ::mount("tmpfs", path.constData(), "tmpfs", 0, options.constData()) != 0)
         return noRights;
     const QString fileName = folder + QStringLiteral("/scene.mrd");
-    AppScenes::writeFile(fileName, AppScenes::robotText);
+    writeFile(fileName, AppScenes::robotText);
     if (thenReadOnly && ::mount(nullptr, path.constData(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) != 0)
         return noRights;
     const auto failure = SaveScene::save(SaveScene::named("second"), fileName);
     std::printf("%s\n%s\n%d\n", qUtf8Printable(failure.value_or(QStringLiteral("no failure"))),
-        AppScenes::readFile(fileName) == AppScenes::robotText ? "whole" : "lost",
+        readFile(fileName) == AppScenes::robotText ? "whole" : "lost",
         static_cast<int>(QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size()));
     return 0;
 }

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "import/FakeHelper.h"
 #include "import/HelperRun.h"
 #include "import/JobRecord.h"
@@ -87,11 +88,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] QString path(const char* name) const { return m_models->filePath(QString::fromUtf8(name)); }
     [[nodiscard]] QByteArray content(const char* name) const;
-    void write(const char* name, const QByteArray& bytes) const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    }
+    void write(const char* name, const QByteArray& bytes) const { writeFile(path(name), bytes); }
     [[nodiscard]] QStringList names() const
     {
         return QDir(m_models->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
@@ -108,8 +105,7 @@ void tst_ExportJob::init()
 
 QByteArray tst_ExportJob::content(const char* name) const
 {
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return readFile(path(name));
 }
 
 void tst_ExportJob::allFilesOfAModelAreWritten()
@@ -267,9 +263,7 @@ void tst_ExportJob::everyFailureLeavesTheOldFile()
 {
     QFETCH(QByteArray, script);
     QFETCH(QString, message);
-    QFile old(path("box.obj"));
-    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
-    old.close();
+    write("box.obj", "old");
     ExportJob job(scene(), path("box.obj"), fakeHelper(m_folder, script));
     const JobRecord record(job);
     job.start();
@@ -315,9 +309,7 @@ void tst_ExportJob::aTargetThatIsAFolderIsReported()
 
 void tst_ExportJob::aFailureAtOneFileLeavesAllOthers()
 {
-    QFile old(path("box.obj"));
-    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
-    old.close();
+    write("box.obj", "old");
     QVERIFY(QDir().mkpath(path("box.mtl")));
     ExportJob job(scene(), path("box.obj"), realHelper());
     const JobRecord record(job);
@@ -331,9 +323,7 @@ void tst_ExportJob::aFailureAtOneFileLeavesAllOthers()
 
 void tst_ExportJob::cancelLeavesTheOldFile()
 {
-    QFile old(path("box.obj"));
-    QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
-    old.close();
+    write("box.obj", "old");
     ExportJob job(largeScene(), path("box.obj"), fakeHelper(m_folder, "exec sleep 1000"));
     const JobRecord record(job);
     job.start();

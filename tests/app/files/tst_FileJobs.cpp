@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 
 #include "orvane/app/files/FileJobs.h"
@@ -73,7 +74,7 @@ private Q_SLOTS:
 
     void readsASceneFromTheEventLoop()
     {
-        AppScenes::writeFile(m_fileName, AppScenes::robotText);
+        writeFile(m_fileName, AppScenes::robotText);
         LoadJob job(m_fileName);
         const QSignalSpy finished(&job, &FileJob::finished);
         job.start();
@@ -89,9 +90,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("fileName");
         QTest::addColumn<QString>("message");
-        AppScenes::writeFile(m_folder->filePath(QStringLiteral("broken.mrd")), "#mrd 1.0\nGroup {\n  Mesh ?\n}\n");
-        AppScenes::writeFile(m_folder->filePath(QStringLiteral("cut.mrd")), "#mrd 1.0\nGroup {\n");
-        AppScenes::writeFile(m_folder->filePath(QStringLiteral("newer.mrd")), "#mrd 9.0\n");
+        writeFile(m_folder->filePath(QStringLiteral("broken.mrd")), "#mrd 1.0\nGroup {\n  Mesh ?\n}\n");
+        writeFile(m_folder->filePath(QStringLiteral("cut.mrd")), "#mrd 1.0\nGroup {\n");
+        writeFile(m_folder->filePath(QStringLiteral("newer.mrd")), "#mrd 9.0\n");
         m_kept = std::move(m_folder);
         const auto path = [this](const char* name) { return m_kept->filePath(QLatin1String(name)); };
         QTest::newRow("missing file") << path("no.mrd") << QStringLiteral("no.mrd: ");
@@ -156,7 +157,7 @@ private Q_SLOTS:
         const QSignalSpy finished(&job, &FileJob::finished);
         job.start();
         QTRY_COMPARE(finished.size(), 1);
-        QCOMPARE(AppScenes::readFile(m_fileName), QByteArray::fromStdString(NxSceneWriter::toText(scene.get())));
+        QCOMPARE(readFile(m_fileName), QByteArray::fromStdString(NxSceneWriter::toText(scene.get())));
     }
 
     void failsToWriteIntoAFolderThatIsMissing()
@@ -171,7 +172,7 @@ private Q_SLOTS:
 
     void keepsTheOldFileWhenItIsCancelled()
     {
-        AppScenes::writeFile(m_fileName, "old");
+        writeFile(m_fileName, "old");
         SaveJob job(AppScenes::wide(300000), m_fileName);
         const QSignalSpy cancelled(&job, &FileJob::cancelled);
         const QSignalSpy finished(&job, &FileJob::finished);
@@ -179,7 +180,7 @@ private Q_SLOTS:
         job.start();
         QTRY_COMPARE(cancelled.size() + finished.size(), 1);
         QCOMPARE(cancelled.size(), 1);
-        QCOMPARE(AppScenes::readFile(m_fileName), QByteArray("old"));
+        QCOMPARE(readFile(m_fileName), QByteArray("old"));
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
     }
 
@@ -193,7 +194,7 @@ private Q_SLOTS:
     void aJobThatIsCancelledTwiceEndsOnce()
     {
         QFETCH(const bool, reads);
-        AppScenes::writeFile(m_fileName, AppScenes::robotText);
+        writeFile(m_fileName, AppScenes::robotText);
         const std::unique_ptr<FileJob> job
             = reads ? orvane::makeLoadJob(m_fileName) : orvane::makeSaveJob(AppScenes::robot(), m_fileName, {});
         const QSignalSpy cancelled(job.get(), &FileJob::cancelled);

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "app/files/ImportJobCase.h"
 #include "import/Gltf.h"
 
@@ -43,8 +44,7 @@ private Q_SLOTS:
             model += "f " + QByteArray::number(index) + ' ' + QByteArray::number(index + 1) + ' '
                 + QByteArray::number(index + 2) + '\n';
         const QString fileName = m_folder.filePath(QStringLiteral("strip.obj"));
-        QFile file(fileName);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(model) == model.size());
+        writeFile(fileName, model);
         QTest::newRow("long lists") << fileName;
 
         QImage picture(40, 30, QImage::Format_RGB888);
@@ -54,12 +54,12 @@ private Q_SLOTS:
         QVERIFY(png.open(QIODevice::WriteOnly) && picture.save(&png, "png"));
         const QByteArray uri = gltf::dataUri("image/png", png.data());
         const QString textured = m_folder.filePath(QStringLiteral("textured.gltf"));
-        QVERIFY(writeFile(textured,
+        writeFile(textured,
             gltf::model(R"({"mesh": 0})",
                 R"("scenes": [{"nodes": [0]}], "materials": [{"pbrMetallicRoughness": {"baseColorTexture": {"index": 0}}}],
             "textures": [{"source": 0}], "images": [{"name": "picture", "uri": )"
                     + uri + "}],",
-                R"(, "material": 0)")));
+                R"(, "material": 0)"));
         QTest::newRow("an image") << textured;
     }
 

@@ -1,4 +1,5 @@
 #include "Patience.h"
+#include "TestFiles.h"
 #include "app/files/ImportJobCase.h"
 #include "import/ChildProcesses.h"
 
@@ -109,9 +110,7 @@ private Q_SLOTS:
         QSKIP("the address sanitizer needs more address space than any limit leaves");
 #endif
         const QString fileName = m_folder.filePath(QStringLiteral("large.obj"));
-        QFile file(fileName);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray("v 0 0 0\n").repeated(8 << 20)) > 0);
-        file.close();
+        writeFile(fileName, QByteArray("v 0 0 0\n").repeated(8 << 20));
         qputenv("ORVANE_IMPORT_MEMORY", "100");
         ImportJob job(fileName, realHelper());
         const JobRecord record(job);
@@ -207,8 +206,7 @@ private:
     // The script writes its own process number there.
     [[nodiscard]] bool processEnds(const QString& pidFile) const
     {
-        QFile file(pidFile);
-        const int pid = file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toInt() : 0;
+        const int pid = readFile(pidFile).trimmed().toInt();
         return pid > 0 && QTest::qWaitFor([pid] { return ::kill(pid, 0) != 0; }, testPatience);
     }
 };

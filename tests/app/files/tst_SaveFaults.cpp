@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 #include "app/SaveScene.h"
 
@@ -83,7 +84,7 @@ void tst_SaveFaults::killedAtAnyMomentTheFileIsOldOrNew()
     std::mt19937 random(9);
     int firsts = 0;
     int duringASave = 0;
-    AppScenes::writeFile(m_fileName, second);
+    writeFile(m_fileName, second);
     for (int kill = 0; kill < (given ? kills : 50); ++kill) {
         QProcess process;
         process.start(QStringLiteral(SAVE_UNDER_FAULT), {m_fileName, QStringLiteral("loop")});
@@ -94,7 +95,7 @@ void tst_SaveFaults::killedAtAnyMomentTheFileIsOldOrNew()
         process.kill();
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitCode(), SIGKILL);
-        const QByteArray content = AppScenes::readFile(m_fileName);
+        const QByteArray content = readFile(m_fileName);
         QVERIFY2(content == first || content == second, qPrintable(QStringLiteral("kill %1").arg(kill)));
         firsts += content == first ? 1 : 0;
         // What the last one left has been removed by the first save of this one.
@@ -116,8 +117,7 @@ void tst_SaveFaults::whatAKilledProcessLeftIsRemovedByTheNextSave()
     QVERIFY(!SaveScene::save(AppScenes::robot(), m_fileName));
     const QStringList withHidden = entries();
     QCOMPARE(withHidden.size(), 2);
-    AppScenes::writeFile(
-        m_folder->filePath(QString(withHidden[0]).replace(QStringLiteral("-0."), QStringLiteral("-1."))),
+    writeFile(m_folder->filePath(QString(withHidden[0]).replace(QStringLiteral("-0."), QStringLiteral("-1."))),
         "the beginning of a scene");
     QCOMPARE(entries().size(), 3);
     QVERIFY(!SaveScene::save(AppScenes::robot(), m_fileName));
@@ -125,7 +125,7 @@ void tst_SaveFaults::whatAKilledProcessLeftIsRemovedByTheNextSave()
     QVERIFY(!running.write("x", 1));
     QVERIFY(!running.commit());
     QCOMPARE(entries(), QStringList(QStringLiteral("scene.mrd")));
-    QCOMPARE(AppScenes::readFile(m_fileName), QByteArray("x"));
+    QCOMPARE(readFile(m_fileName), QByteArray("x"));
 }
 
 void tst_SaveFaults::aFileSystemThatRefusesKeepsTheOldFile_data()
@@ -160,14 +160,14 @@ void tst_SaveFaults::aWriteErrorKeepsTheOldFile_data()
 void tst_SaveFaults::aWriteErrorKeepsTheOldFile()
 {
     QFETCH(rlim_t, limit);
-    AppScenes::writeFile(m_fileName, AppScenes::robotText);
+    writeFile(m_fileName, AppScenes::robotText);
     std::optional<QString> failure;
     {
         const FileSizeLimit files(limit);
         failure = SaveScene::save(SaveScene::named("second"), m_fileName);
     }
     QCOMPARE(failure.value_or(QStringLiteral("no failure")), m_fileName + QStringLiteral(": File too large"));
-    QCOMPARE(AppScenes::readFile(m_fileName), QByteArray(AppScenes::robotText));
+    QCOMPARE(readFile(m_fileName), QByteArray(AppScenes::robotText));
     QCOMPARE(entries(), QStringList(QStringLiteral("scene.mrd")));
 }
 

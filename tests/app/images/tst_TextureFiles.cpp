@@ -1,4 +1,5 @@
 #include "Patience.h"
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 #include "import/FakeHelper.h"
 
@@ -74,10 +75,10 @@ private Q_SLOTS:
 
     void refusesWhatIsNoImage()
     {
-        AppScenes::writeFile(file("scene/text.png"), "no picture");
-        AppScenes::writeFile(file("scene/empty.png"), "");
+        writeFile(file("scene/text.png"), "no picture");
+        writeFile(file("scene/empty.png"), "");
         // The tool's own decoders would read the device for ever.
-        AppScenes::writeFile(file("scene/vector.png"),
+        writeFile(file("scene/vector.png"),
             "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"9\" "
             "height=\"9\"><image width=\"9\" height=\"9\" xlink:href=\"/dev/zero\"/></svg>");
         for (const char* name : {"text.png", "empty.png", "vector.png", "missing.png", "images", "images/", ".", ""})
@@ -105,7 +106,7 @@ private Q_SLOTS:
         QVERIFY(wide.save(file("scene/wide.png")));
         QCOMPARE(read("wide.png"), NxImageState::Failed);
         // A small file that claims to be a huge image.
-        AppScenes::writeFile(file("scene/huge.ppm"), "P6 16384 16384 255 ");
+        writeFile(file("scene/huge.ppm"), "P6 16384 16384 255 ");
         QCOMPARE(read("huge.ppm"), NxImageState::Failed);
         QFile long_(file("scene/long.png"));
         QVERIFY(long_.open(QIODevice::WriteOnly) && long_.resize(qint64{257} << 20));

@@ -1,4 +1,5 @@
 #include "Patience.h"
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 #include "app/WindowCase.h"
 
@@ -17,8 +18,8 @@ private Q_SLOTS:
         startTool();
         for (const char* folder : {"first", "second"})
             QVERIFY(QDir(m_folder->path()).mkdir(QLatin1String(folder)));
-        AppScenes::writeFile(filePath("first/scene.mrd"), sceneText("wood.png"));
-        AppScenes::writeFile(filePath("second/part.mrd"), sceneText("stone.png"));
+        writeFile(filePath("first/scene.mrd"), sceneText("wood.png"));
+        writeFile(filePath("second/part.mrd"), sceneText("stone.png"));
     }
     void cleanup() { endTool(); }
 
@@ -27,7 +28,7 @@ private Q_SLOTS:
         QCOMPARE(open(filePath("first/scene.mrd")), QString());
         for (int round = 0; round < 2; ++round) {
             saveTo("second/scene.mrd");
-            QCOMPARE(AppScenes::readFile(filePath("second/scene.mrd")), sceneText("../first/wood.png"));
+            QCOMPARE(readFile(filePath("second/scene.mrd")), sceneText("../first/wood.png"));
             // Saving doesn't change the scene that is open.
             QCOMPARE(openScene(), sceneText("wood.png"));
             QVERIFY(!m_session->document().isModified());
@@ -35,7 +36,7 @@ private Q_SLOTS:
         }
         // Back home the paths are what they were.
         saveTo("first/again.mrd");
-        QCOMPARE(AppScenes::readFile(filePath("first/again.mrd")), sceneText("wood.png"));
+        QCOMPARE(readFile(filePath("first/again.mrd")), sceneText("wood.png"));
     }
 
     void whatIsAddedFromElsewhereFindsItsImages()

@@ -1,4 +1,5 @@
 #include "Patience.h"
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 #include "app/WindowCase.h"
 #include "app/scene/OpenCount.h"
@@ -78,7 +79,7 @@ private:
         NxSceneWriter writer(scene.get());
         std::string bytes;
         while (writer.step(bytes, std::chrono::milliseconds(10))) { }
-        AppScenes::writeFile(fileName, QByteArray::fromStdString(bytes));
+        writeFile(fileName, QByteArray::fromStdString(bytes));
         return fileName;
     }
 

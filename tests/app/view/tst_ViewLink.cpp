@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "app/WindowCase.h"
 #include "app/view/ViewScenes.h"
 
@@ -28,7 +29,7 @@ private Q_SLOTS:
     {
         startTool();
         m_squares = filePath("two squares.mrd");
-        AppScenes::writeFile(m_squares, ViewScenes::squaresText);
+        writeFile(m_squares, ViewScenes::squaresText);
         QCOMPARE(open(m_squares), QString());
         QTRY_VERIFY(view()->drawing().isStarted());
     }
@@ -214,7 +215,7 @@ private Q_SLOTS:
         QTest::keyClick(view(), Qt::Key_Plus);
         const NxViewpoint mine = view()->viewpoint();
         const QString other = filePath("other.mrd");
-        AppScenes::writeFile(other, ViewScenes::squaresText);
+        writeFile(other, ViewScenes::squaresText);
         QCOMPARE(open(other), QString());
         QVERIFY(!(view()->viewpoint() == mine));
         QCOMPARE(open(m_squares), QString());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 
 #include "orvane/app/base/TextConversion.h"
@@ -16,19 +17,18 @@ public:
     MonkeyFiles()
     {
         QDir(m_folder.path()).mkdir(QStringLiteral("folder.mrd"));
-        AppScenes::writeFile(path("small.mrd"), AppScenes::robotText);
+        writeFile(path("small.mrd"), AppScenes::robotText);
         restorePart();
-        AppScenes::writeFile(path("part.obj"), "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n");
-        AppScenes::writeFile(path("broken.mrd"), "#mrd 1.0\nGroup {\n");
+        writeFile(path("part.obj"), "v 0 0 0\nv 1 0 0\nv 0 1 0\nf 1 2 3\n");
+        writeFile(path("broken.mrd"), "#mrd 1.0\nGroup {\n");
         // Several slices of reading and of writing.
-        AppScenes::writeFile(
-            path("large.mrd"), QByteArray::fromStdString(NxSceneWriter::toText(AppScenes::wide(4000).get())));
+        writeFile(path("large.mrd"), QByteArray::fromStdString(NxSceneWriter::toText(AppScenes::wide(4000).get())));
     }
 
     [[nodiscard]] QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
 
     /// Writes the file that is added to scenes. One that was saved to, parts included, would grow beyond all bounds.
-    void restorePart() { AppScenes::writeFile(path("part.mrd"), "#mrd 1.0\nMesh \"bolt\" {}\n"); }
+    void restorePart() { writeFile(path("part.mrd"), "#mrd 1.0\nMesh \"bolt\" {}\n"); }
 
     /// How many models from those files have been added to a scene.
     [[nodiscard]] static int countParts(const NxGroup* scene)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 #include "app/WindowCase.h"
 
@@ -18,7 +19,7 @@ protected:
     {
         startTool();
         m_robot = filePath("robot.mrd");
-        AppScenes::writeFile(m_robot, AppScenes::robotText);
+        writeFile(m_robot, AppScenes::robotText);
     }
 
     void renameRobot(const char* name)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 
 #include "orvane/app/base/TextConversion.h"
@@ -39,8 +40,7 @@ public:
     {
         static const QRegularExpression pattern(prefix() + QStringLiteral("([0-9]+)-\\1z"));
         for (const QString& fileName : m_allowed.uniqueKeys()) {
-            const QRegularExpressionMatch match
-                = pattern.match(QString::fromUtf8(AppScenes::readFile(fileName).left(200)));
+            const QRegularExpressionMatch match = pattern.match(QString::fromUtf8(readFile(fileName).left(200)));
             if (!match.hasMatch())
                 continue;
             ++count;

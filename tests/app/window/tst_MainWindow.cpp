@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 #include "app/window/RobotWindowCase.h"
 
@@ -76,14 +77,14 @@ private Q_SLOTS:
         m_window.reset();
         m_session.reset();
         const QString settings = filePath("orvane.ini");
-        AppScenes::writeFile(settings, "what is this\n");
+        writeFile(settings, "what is this\n");
         makeWindow();
         QCOMPARE(messages().size(), 1);
         QVERIFY(messages().front().contains(settings));
         QVERIFY(m_window->close());
         m_window.reset();
         m_session.reset();
-        QCOMPARE(AppScenes::readFile(settings), QByteArray("what is this\n"));
+        QCOMPARE(readFile(settings), QByteArray("what is this\n"));
     }
 
     void showsToolkitErrorsThatNobodyElseHandles()

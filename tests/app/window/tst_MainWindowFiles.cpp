@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "app/AppScenes.h"
 #include "app/window/RobotWindowCase.h"
 
@@ -33,7 +34,7 @@ private Q_SLOTS:
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
         QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
         QTRY_COMPARE(settled.size(), 1);
-        QVERIFY(AppScenes::readFile(m_robot).contains("\"machine\""));
+        QVERIFY(readFile(m_robot).contains("\"machine\""));
         QVERIFY(!m_window->isWindowModified());
     }
 
@@ -59,7 +60,7 @@ private Q_SLOTS:
         QVERIFY(question != nullptr);
         QTest::mouseClick(question->button(static_cast<QMessageBox::StandardButton>(answer)), Qt::LeftButton);
         QTRY_COMPARE(m_window->isHidden(), closed);
-        QCOMPARE(AppScenes::readFile(m_robot).contains("\"machine\""), saved);
+        QCOMPARE(readFile(m_robot).contains("\"machine\""), saved);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
@@ -79,7 +80,7 @@ private Q_SLOTS:
         m_session->services().setClean();
         const QString other = filePath("other.mrd");
         if (!content.isEmpty())
-            AppScenes::writeFile(other, content);
+            writeFile(other, content);
         QVERIFY(open(other).contains(other));
         QVERIFY(messages().join(u'\n').contains(other));
         QCOMPARE(robot()->getName(), VbString("machine"));
@@ -114,13 +115,13 @@ private Q_SLOTS:
         open(m_robot);
         renameRobot("machine");
         const QString other = filePath("other.mrd");
-        AppScenes::writeFile(other, "#mrd 1.0\nGroup \"other\" {}\n");
+        writeFile(other, "#mrd 1.0\nGroup \"other\" {}\n");
         m_session->services().setClean();
         m_window->openFile(other);
         QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
         QTRY_COMPARE(m_window->document().fileName(), other);
-        QVERIFY(AppScenes::readFile(m_robot).contains("\"machine\""));
-        QCOMPARE(AppScenes::readFile(other), QByteArray("#mrd 1.0\nGroup \"other\" {}\n"));
+        QVERIFY(readFile(m_robot).contains("\"machine\""));
+        QCOMPARE(readFile(other), QByteArray("#mrd 1.0\nGroup \"other\" {}\n"));
     }
 
     void opensADroppedFile()

@@ -1,4 +1,4 @@
-#include "base/VirtualSlot.h"
+#include "VirtualSlot.h"
 
 #include "meridane/base/errors/NxDebugError.h"
 #include "meridane/base/errors/NxReadError.h"

@@ -248,11 +248,11 @@ void TestRandomEdits::followedEditsGiveThePlacesOfANewScene()
             (void)bench.drawUntold();
             const NxDrawingCounts counts = bench.counts();
             followed.update();
-            PlacedScene anew(deaf());
-            anew.setRoot(scene.get());
-            QCOMPARE(contentsOf(followed, scene.get()), contentsOf(anew, scene.get()));
-            QVERIFY(followed.tree().bounds() == anew.tree().bounds());
-            QVERIFY(bench.drawing().bounds() == anew.tree().bounds());
+            PlacedScene fresh(deaf());
+            fresh.setRoot(scene.get());
+            QCOMPARE(contentsOf(followed, scene.get()), contentsOf(fresh, scene.get()));
+            QVERIFY(followed.tree().bounds() == fresh.tree().bounds());
+            QVERIFY(bench.drawing().bounds() == fresh.tree().bounds());
 
             bench.renew(scene.get());
             (void)bench.drawUntold();

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "import/HelperRun.h"
 #include "import/JobRecord.h"
 
@@ -51,12 +52,6 @@ private:
 
 int postedErrors = 0;
 
-QByteArray contentOf(const QString& fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // Each file with its content.
 QMap<QString, QByteArray> filesBelow(const QString& folder)
 {
@@ -64,7 +59,7 @@ QMap<QString, QByteArray> filesBelow(const QString& folder)
     QDirIterator iterator(folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
     while (iterator.hasNext()) {
         const QString fileName = iterator.next();
-        files.insert(fileName, contentOf(fileName));
+        files.insert(fileName, readFile(fileName));
     }
     return files;
 }
@@ -147,16 +142,13 @@ void tst_DamagedFiles::aDamagedFileIsOpenedOrRefusedWithOneMessage()
     QVERIFY(QFile::setPermissions(damagedFile, QFile::ReadOwner | QFile::WriteOwner));
     bool given = false;
     const int rounds = qEnvironmentVariableIntValue("ORVANE_TEST_DAMAGES", &given);
-    Damages damages(contentOf(damagedFile), given ? rounds : 4);
+    Damages damages(readFile(damagedFile), given ? rounds : 4);
     int scenes = 0;
     int helpersLost = 0; // that crashed or were stopped
     qint64 longest = 0;
     for (int index = 0; index < damages.count(); ++index) {
         const QByteArray where = "copy " + QByteArray::number(index);
-        QFile file(damagedFile);
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(damages.copy(index));
-        file.close();
+        writeFile(damagedFile, damages.copy(index));
         const auto filesBefore = filesBelow(copy.path());
         postedErrors = 0;
         QElapsedTimer timer;

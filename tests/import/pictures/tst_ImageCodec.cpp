@@ -1,3 +1,5 @@
+#include "TestFiles.h"
+
 #include "orvane/import/pictures/ImageCodec.h"
 
 #include <QBuffer>
@@ -28,8 +30,7 @@ QByteArray encoded(const QImage& image, const char* format)
 /// A picture that the tests come with: red above, blue below.
 QByteArray pictureFile(const char* name)
 {
-    QFile file(QStringLiteral(ORVANE_TEST_PICTURES "/") + QLatin1String(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return readFile(QStringLiteral(ORVANE_TEST_PICTURES "/") + QLatin1String(name));
 }
 
 // Large enough for a format that shares colours between pixels.

@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "import/sandbox/BusyHelper.h"
 
 #include "orvane/import/sandbox/Sanitizer.h"
@@ -7,15 +8,14 @@
 namespace {
 
 // A fan of triangles, with so many corners that its scene is more than any pipe holds.
-bool writeLargeModel(const QString& fileName)
+void writeLargeModel(const QString& fileName)
 {
     QByteArray model;
     for (int index = 0; index < 150000; ++index)
         model += "v 0." + QByteArray::number(index) + ' ' + QByteArray::number(index) + " 0\n";
     for (int index = 2; index < 150000; ++index)
         model += "f 1 " + QByteArray::number(index) + ' ' + QByteArray::number(index + 1) + '\n';
-    QFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(model) == model.size();
+    writeFile(fileName, model);
 }
 
 } // namespace
@@ -45,7 +45,7 @@ private:
 void tst_ProcessLimits::initTestCase()
 {
     m_model = m_folder.filePath(QStringLiteral("fan.obj"));
-    QVERIFY(writeLargeModel(m_model));
+    writeLargeModel(m_model);
     QCOMPARE(QFile(m_model).size() >> 20, 5);
 }
 
@@ -88,12 +88,11 @@ void tst_ProcessLimits::beyondItsTimeItIsToldSo()
     QByteArray model("v 0 0 0\nv 1 0 0\nv 0 1 0\n");
     for (int index = 0; index < 3000000; ++index)
         model += "f 1 2 3\n";
-    QFile file(m_folder.filePath(QStringLiteral("slow.obj")));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(model) == model.size());
-    file.close();
+    const QString fileName = m_folder.filePath(QStringLiteral("slow.obj"));
+    writeFile(fileName, model);
     QProcess process;
-    process.start(helperProgram(),
-        {QStringLiteral("--processor-time"), QStringLiteral("1"), QStringLiteral("--read"), file.fileName()});
+    process.start(
+        helperProgram(), {QStringLiteral("--processor-time"), QStringLiteral("1"), QStringLiteral("--read"), fileName});
     QVERIFY(process.waitForFinished(60000));
     QCOMPARE(process.exitStatus(), QProcess::CrashExit);
     // The kernel's signal for this, which SIGKILL would hide.

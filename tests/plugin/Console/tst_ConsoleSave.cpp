@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "plugin/ConsoleRun.h"
 #include "plugin/DialogDriver.h"
 
@@ -51,23 +52,17 @@ void tst_ConsoleSave::saveWritesTheText()
     std::cerr << "three";
     const QString fileName = m_folder.filePath(QStringLiteral("console.txt"));
     saveAs(run, fileName);
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("one\ntwo\nthree"));
+    QCOMPARE(readFile(fileName), QByteArray("one\ntwo\nthree"));
 }
 
 void tst_ConsoleSave::saveOverALongerFileKeepsItsRemainder()
 {
     const QString fileName = m_folder.filePath(QStringLiteral("longer.txt"));
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(100, '-'));
-    file.close();
+    writeFile(fileName, QByteArray(100, '-'));
     const ConsoleRun run;
     std::cout << "0123456789";
     saveAs(run, fileName);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("0123456789") + QByteArray(90, '-'));
+    QCOMPARE(readFile(fileName), QByteArray("0123456789") + QByteArray(90, '-'));
 }
 
 void tst_ConsoleSave::saveLosesWhatLatin1CannotHold()
@@ -76,9 +71,7 @@ void tst_ConsoleSave::saveLosesWhatLatin1CannotHold()
     const ConsoleRun run;
     std::cout << "caf\xC3\xA9 \xE6\x96\x87";
     saveAs(run, fileName);
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("caf\xE9 ?"));
+    QCOMPARE(readFile(fileName), QByteArray("caf\xE9 ?"));
 }
 
 void tst_ConsoleSave::cancelledSaveDoesNothing()

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-/// A shown slider for integers with a growing range from 0 to 100, made anew for each test function.
+/// A shown slider for integers with a growing range from 0 to 100, made for each test function.
 class IntSliderFixture {
 protected:
     void start()

@@ -1,5 +1,5 @@
+#include "VirtualSlot.h"
 #include "plugin/EditorHarness.h"
-#include "plugin/FieldEditors/SFWidgets/VirtualSlot.h"
 #include "plugin/RecordingEditor.h"
 
 #include "meridane/scene/fields/NxSField.h"

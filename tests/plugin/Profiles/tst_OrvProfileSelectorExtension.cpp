@@ -19,7 +19,7 @@ QStringList textsOf(const QComboBox& comboBox)
     return texts;
 }
 
-/// The tool bar in a window, run by the test itself, so that a change of the profile doesn't make its list anew.
+/// The tool bar in a window, run by the test itself, so that a change of the profile doesn't rebuild its list.
 class SelectorRun : public ToolHarness {
 public:
     explicit SelectorRun(const QStringList& profiles, const QString& active = {})

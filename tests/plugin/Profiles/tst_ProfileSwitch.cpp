@@ -224,7 +224,7 @@ void tst_ProfileSwitch::choiceInTheToolBarSwitches()
     QTest::keyClick(box, Qt::Key_End);
     QCOMPARE(tool.manager.getActiveProfile(), tool.manager.findProfile(QStringLiteral("Quiet")));
     QVERIFY(tool.console() == nullptr);
-    QCOMPARE(box->count(), 3); // the change made the list anew
+    QCOMPARE(box->count(), 3); // the change rebuilt the list
     QCOMPARE(box->currentText(), QStringLiteral("Quiet"));
 }
 

@@ -1,3 +1,5 @@
+#include "scene/fields/TextOf.h"
+
 #include "meridane/base/values/VbName.h"
 #include "meridane/base/values/VbString.h"
 #include "meridane/scene/fields/list/NxMFBool.h"
@@ -81,13 +83,6 @@ static_assert(std::same_as<GotRow<NxMFVec4f>, const VbVec4f&>);
 static_assert(std::derived_from<NxSFFilePathString, NxSFString>);
 static_assert(std::derived_from<NxMFColor, NxMFVec3f>);
 static_assert(std::derived_from<NxMFColorRGBA, NxMFVec4f>);
-
-std::string textOf(const NxField& field)
-{
-    VbString text;
-    field.get(text);
-    return std::string(text.view());
-}
 
 } // namespace
 

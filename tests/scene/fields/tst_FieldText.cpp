@@ -1,5 +1,6 @@
 #include "scene/FieldCatalogue.h"
 #include "scene/NotificationCount.h"
+#include "scene/fields/TextOf.h"
 
 #include "meridane/base/values/VbString.h"
 #include "meridane/scene/fields/NxField.h"
@@ -10,13 +11,6 @@
 #include <limits>
 
 namespace {
-
-std::string textOf(const NxField& field)
-{
-    VbString text;
-    field.get(text);
-    return std::string(text.view());
-}
 
 constexpr int rounds = 200;
 

@@ -1,4 +1,4 @@
-#include "plugin/FieldEditors/SFWidgets/VirtualSlot.h"
+#include "VirtualSlot.h"
 #include "plugin/NumbersRun.h"
 
 #include <QMetaMethod>

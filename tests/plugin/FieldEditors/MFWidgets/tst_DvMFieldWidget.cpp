@@ -1,6 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFInt32Widget.h"
 #include "FieldEditors/MFWidgets/DvMFLineWidget.h"
-#include "plugin/FieldEditors/SFWidgets/VirtualSlot.h"
+#include "VirtualSlot.h"
 #include "plugin/ListRun.h"
 #include "plugin/PlainListEditor.h"
 #include "plugin/WriteCounter.h"

@@ -34,7 +34,7 @@ private Q_SLOTS:
     void nullFieldIsLeftAlone();
 
 private:
-    // The editor anew, without a field if there is no value.
+    // Makes a new editor, without a field if there is no value.
     void make(const QString& start)
     {
         m_run.reset();

@@ -1,6 +1,6 @@
 #include "FieldEditors/SFWidgets/DvSFBitMaskWidget.h"
+#include "VirtualSlot.h"
 #include "plugin/EditorHarness.h"
-#include "plugin/FieldEditors/SFWidgets/VirtualSlot.h"
 #include "plugin/WriteCounter.h"
 
 #include <QCheckBox>

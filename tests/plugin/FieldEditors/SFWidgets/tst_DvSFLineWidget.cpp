@@ -1,6 +1,6 @@
 #include "FieldEditors/SFWidgets/DvSFLineWidget.h"
+#include "VirtualSlot.h"
 #include "plugin/FieldEditors/SFWidgets/LineEditorRun.h"
-#include "plugin/FieldEditors/SFWidgets/VirtualSlot.h"
 #include "plugin/WriteCounter.h"
 
 #include <QHBoxLayout>

@@ -129,7 +129,7 @@ void tst_TextEditors::leavingWritesAndPushesOnce_data()
     QTest::addColumn<QString>("type");
     QTest::addColumn<QString>("typed");
     for (const char* const type : {"SFString", "SFName", "SFFilePathString"}) {
-        QTest::addRow("%s, typed anew", type) << QString::fromLatin1(type) << QStringLiteral("x y z");
+        QTest::addRow("%s, typed again", type) << QString::fromLatin1(type) << QStringLiteral("x y z");
         QTest::addRow("%s, typed as it was", type) << QString::fromLatin1(type) << QStringLiteral("a b c");
         QTest::addRow("%s, not typed into", type) << QString::fromLatin1(type) << QString();
     }

@@ -1,4 +1,5 @@
 #include "scene/NotificationCount.h"
+#include "scene/fields/TextOf.h"
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/base/values/VbString.h"
@@ -24,13 +25,6 @@ public:
         return NxSFEnum::enumValueByName(name == VbName("Solid") ? VbName("Filled") : name, value);
     }
 };
-
-std::string textOf(const NxField& field)
-{
-    VbString text;
-    field.get(text);
-    return std::string(text.view());
-}
 
 } // namespace
 
