@@ -20,7 +20,8 @@ namespace {
 
 ModelBuilder::Images imagesOf(std::string_view format)
 {
-    if (format == "fbxa" || format == "glb2" || format == "gltf2")
+    // Not inside "fbxa": the library writes such images in a way that it crashes on when it reads them.
+    if (format == "glb2" || format == "gltf2")
         return ModelBuilder::Images::Inside;
     return format == "stlb" ? ModelBuilder::Images::Nowhere : ModelBuilder::Images::Beside;
 }

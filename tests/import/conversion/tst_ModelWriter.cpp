@@ -90,6 +90,7 @@ private Q_SLOTS:
     void lightsAndCamerasComeBack();
     void filesAreNamedAfterTheModel_data();
     void filesAreNamedAfterTheModel();
+    void imagesOfFbxAreFilesOfTheirOwn();
     void aMaterialWithTwoTexturesIsTwoMaterials();
     void aSwitchGivesWhatItShows_data();
     void aSwitchGivesWhatItShows();
@@ -216,6 +217,8 @@ void tst_ModelWriter::filesAreNamedAfterTheModel_data()
     QTest::newRow("obj") << QStringLiteral("obj")
                          << QStringList{QStringLiteral("box.obj"), QStringLiteral("box.mtl"),
                                 QStringLiteral("box_0e71e7c0c0e49b57.png")};
+    QTest::newRow("fbx") << QStringLiteral("fbx")
+                         << QStringList{QStringLiteral("box.fbx"), QStringLiteral("box_0e71e7c0c0e49b57.png")};
     QTest::newRow("stl") << QStringLiteral("stl") << QStringList{QStringLiteral("box.stl")};
     QTest::newRow("extension in capitals") << QStringLiteral("GLB") << QStringList{QStringLiteral("box.GLB")};
 }
@@ -229,6 +232,19 @@ void tst_ModelWriter::filesAreNamedAfterTheModel()
     for (const orvane::NamedFile& file : m_files)
         written.append(QString::fromStdString(file.name));
     QCOMPARE(written, names);
+}
+
+// The import library crashes on images inside an FBX file, its own among them.
+void tst_ModelWriter::imagesOfFbxAreFilesOfTheirOwn()
+{
+    std::string image = "image = 8 8 3";
+    for (int pixel = 0; pixel < 64; ++pixel)
+        image += pixel % 9 == 0 ? " 0xaab4be" : " 0x3c4652";
+    const std::string scene = "#mrd 1.0\nTexture \"tiles\" { " + image
+        + " }\nMesh \"slab\" { positions = [0 0 0, 1 0 0, 1 1 0]; textureCoordinates = [0 0, 1 0, 1 1] }\n";
+    QVERIFY2(roundTrip(scene, QStringLiteral("fbx")), qPrintable(m_error));
+    QCOMPARE(m_files.size(), std::size_t{2});
+    QVERIFY2(m_text.find("filePath = \"" + m_files[1].name + '"') != std::string::npos, m_text.c_str());
 }
 
 void tst_ModelWriter::aMaterialWithTwoTexturesIsTwoMaterials()
