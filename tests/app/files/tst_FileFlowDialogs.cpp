@@ -1,8 +1,10 @@
 #include "app/files/FileFlowCase.h"
 
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QTest>
+#include <QWindow>
 
 /// What becomes of what was read while a dialog or a question is open.
 class TestFileFlowDialogs : public FileFlowCase {
@@ -151,6 +153,41 @@ private Q_SLOTS:
         m_flow->save();
         finishAll();
         QCOMPARE(sceneName(), QStringLiteral("[old+edit]"));
+    }
+
+    void aRefusedSaveLeavesNothingBehind_data()
+    {
+        QTest::addColumn<Kind>("request");
+        QTest::newRow("close") << Kind::Close;
+        QTest::newRow("open") << Kind::Open;
+        QTest::newRow("quit") << Kind::Quit;
+    }
+
+    void aRefusedSaveLeavesNothingBehind()
+    {
+        QFETCH(const Kind, request);
+        QStringList ends;
+        connect(m_flow, &FileFlow::ended, m_flow, [&ends](const orvane::Result<>& result) { ends += result.error(); });
+        edit();
+        ask(request, "a.mrd");
+        QVERIFY(question() != nullptr);
+        QVERIFY(QTest::qWaitForWindowActive(question()));
+        // The question is answered with a key while the mouse is dragged.
+        QTest::mousePress(question()->windowHandle(), Qt::LeftButton, {}, QPoint(1, 1));
+        QCOMPARE(QGuiApplication::mouseButtons(), Qt::LeftButton);
+        QTest::keyClick(question()->button(QMessageBox::Save), Qt::Key_Space);
+        settle();
+        QTest::mouseRelease(m_window->windowHandle(), Qt::LeftButton, {}, QPoint(1, 1));
+        QCOMPARE(QGuiApplication::mouseButtons(), Qt::NoButton);
+        QVERIFY(m_jobs->running().empty());
+        QCOMPARE(m_messages->texts(), QStringList(QStringLiteral("Nothing was saved: a mouse button is held down.")));
+        QCOMPARE(ends, request == Kind::Open ? QStringList(QString()) : QStringList()); // to be refused is no failure
+        // The next save is just that.
+        m_flow->save();
+        finishAll();
+        QCOMPARE(sceneName(), QStringLiteral("[old+edit]"));
+        QCOMPARE(m_jobs->log(), QStringList(QStringLiteral("write [old+edit] to old.mrd")));
+        QVERIFY(!document().isModified());
     }
 };
 
