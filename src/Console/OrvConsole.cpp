@@ -17,21 +17,20 @@
 
 namespace {
 
-constexpr std::int32_t errorCategory = 0;
-constexpr std::int32_t infoCategory = 1;
-constexpr std::int32_t warningCategory = 2;
+/// How the console files a message. Not the numbers of `NxDebugError::Severity`.
+enum class Category : std::int32_t { Error = 0, Information = 1, Warning = 2 };
 
-std::int32_t categoryOf(const NxError& error)
+Category categoryOf(const NxError& error)
 {
     switch (NxDebugError::severityOf(error)) {
     case NxDebugError::Error:
         break;
     case NxDebugError::Warning:
-        return warningCategory;
+        return Category::Warning;
     case NxDebugError::Information:
-        return infoCategory;
+        return Category::Information;
     }
-    return errorCategory;
+    return Category::Error;
 }
 
 } // namespace
@@ -57,7 +56,7 @@ private:
     friend OrvConsole; // which posts and receives it as a QEvent
 
     QString m_text;
-    std::int32_t m_category = errorCategory;
+    std::int32_t m_category = static_cast<std::int32_t>(Category::Error);
 };
 
 OrvConsole::OrvConsole()
@@ -156,10 +155,10 @@ void OrvConsole::receive(const ConsoleEvent& event)
 
 OrvConsole::Channel OrvConsole::channelOf(std::int32_t category) const
 {
-    switch (category) {
-    case infoCategory:
+    switch (static_cast<Category>(category)) {
+    case Category::Information:
         return {m_outputInfos, m_infoColor};
-    case warningCategory:
+    case Category::Warning:
         return {m_outputWarnings, m_warningColor};
     default:
         return {m_outputErrors, m_errorColor};
@@ -203,7 +202,7 @@ void OrvConsole::save()
 void OrvConsole::handleError(const NxError* error, void* console)
 {
     auto message = std::make_unique<ConsoleEvent>(QString::fromUtf8(error->getDebugString().toUtf8()));
-    message->setCategory(categoryOf(*error));
+    message->setCategory(static_cast<std::int32_t>(categoryOf(*error)));
     QCoreApplication::postEvent(static_cast<OrvConsole*>(console), message.release());
 }
 
@@ -216,10 +215,10 @@ void OrvConsole::appendStreamed(std::int32_t category, const char* text)
 
 void consoleErrorStreamCallback(const char* text, std::streamsize /*count*/, void* userData)
 {
-    static_cast<OrvConsole*>(userData)->appendStreamed(errorCategory, text);
+    static_cast<OrvConsole*>(userData)->appendStreamed(static_cast<std::int32_t>(Category::Error), text);
 }
 
 void consoleOutputStreamCallback(const char* text, std::streamsize /*count*/, void* userData)
 {
-    static_cast<OrvConsole*>(userData)->appendStreamed(infoCategory, text);
+    static_cast<OrvConsole*>(userData)->appendStreamed(static_cast<std::int32_t>(Category::Information), text);
 }

@@ -1,5 +1,6 @@
 #include "FieldEditors/DvIntSlider.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/FieldRangeTable.h"
 
 #include <QIntValidator>
@@ -12,7 +13,7 @@ DvIntSlider::DvIntSlider(int kind, int mode, OrvFieldEditors* owner, QWidget* pa
     , m_validator(new QIntValidator(m_edit))
 {
     // Without bounds of its own a validator has those of a 32-bit integer.
-    if (kind == 3)
+    if (static_cast<orvane::IntegerKind>(kind) == orvane::IntegerKind::Int16)
         m_validator->setRange(-32768, 32767);
 }
 

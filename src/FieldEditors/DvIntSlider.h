@@ -7,7 +7,7 @@ class QIntValidator;
 /// A slider for a signed integer of 32 or 16 bits, whose positions are its values.
 class DvIntSlider final : public DvSlider {
 public:
-    /// Kind 1 is 32-bit, kind 3 is 16-bit; any other has the range of an int.
+    /// `kind` is the number of an `orvane::IntegerKind`, `Int32` or `Int16`; any other has the range of an int.
     DvIntSlider(int kind, int mode, OrvFieldEditors* owner, QWidget* parent, int row = 0, int column = 1);
     ~DvIntSlider() override;
 

@@ -4,7 +4,6 @@ class OrvFieldEditors;
 class QFrame;
 class QWidget;
 
-/// Makes the slider of a numeric single-value editor, in field editor mode and as a child of `parent`. The kinds are 1
-/// float, 2 double, 3 32-bit, 4 unsigned 32-bit, 5 16-bit and 6 unsigned 16-bit; the result is null for any other. The
-/// slider reports to `owner`.
+/// Makes the slider of a numeric single-value editor, in field editor mode and as a child of `parent`. `kind` is the
+/// number of an `orvane::SliderKind`; any other gives null. The slider reports to `owner`.
 [[nodiscard]] QFrame* makeSlider(int kind, OrvFieldEditors* owner, QWidget* parent);

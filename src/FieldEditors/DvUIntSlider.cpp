@@ -1,5 +1,6 @@
 #include "FieldEditors/DvUIntSlider.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/FieldRangeTable.h"
 
 #include <QLineEdit>
@@ -23,7 +24,7 @@ unsigned valueOf(int position)
 
 DvUIntSlider::DvUIntSlider(int kind, int mode, OrvFieldEditors* owner, QWidget* parent, int row, int column)
     : DvSlider(mode, owner, parent, row, column)
-    , m_limitTop(kind == 4 ? 65535U : 4294967295U)
+    , m_limitTop(static_cast<orvane::IntegerKind>(kind) == orvane::IntegerKind::UInt16 ? 65535U : 4294967295U)
 {
     m_position = positionOf(m_value);
 }

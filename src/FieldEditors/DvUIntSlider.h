@@ -5,7 +5,7 @@
 /// A slider for an unsigned integer of 32 or 16 bits. Its line takes any text; what is no number changes nothing.
 class DvUIntSlider final : public DvSlider {
 public:
-    /// Kind 2 is 32-bit, kind 4 is 16-bit.
+    /// `kind` is the number of an `orvane::IntegerKind`, `UInt32` or `UInt16`; any other is like `UInt32`.
     DvUIntSlider(int kind, int mode, OrvFieldEditors* owner, QWidget* parent, int row = 0, int column = 1);
 
     /// Sets the range within the limits of the type, to grow from there. Bounded, it narrows the limits and leaves

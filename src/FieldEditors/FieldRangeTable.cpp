@@ -1,71 +1,69 @@
 #include "FieldEditors/FieldRangeTable.h"
 
+#include <QByteArray>
+
+#include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace {
 
-struct Row {
-    const char* nodeName;
-    const char* fieldName;
-    const char* lower;
-    const char* upper;
-    const char* type; // "f" float, "d" double, "i" integer
-    const char* bounded; // hard bounds unless "0"
-};
-
-// The editors choose a row by the type of the field's container, so the last three are never asked for; they are kept
-// beside the one that is read, with the same numbers.
-constexpr std::array<Row, 7> rows{{
-    {"DefaultNode", "floatField", "0.0", "10.0", "f", "0"},
-    {"DefaultNode", "doubleField", "0.0", "10.0", "d", "0"},
-    {"DefaultNode", "intField", "0", "100", "i", "0"},
-    {"Complexity", "value", "0.0", "1.0", "f", "1"},
-    {"Complexity", "textureQuality", "0.0", "1.0", "f", "1"},
-    {"DirectionalLight", "intensity", "0.0", "1.0", "f", "1"},
-    {"Material", "transparency", "0.0", "1.0", "f", "1"},
-}};
-
-QString keyOf(const char* nodeName, const char* fieldName)
+constexpr FieldRange boundedFloat(float upper)
 {
-    return QString::fromLatin1(nodeName) + QString::fromLatin1(fieldName);
-}
-
-int toInteger(const QString& text)
-{
-    return text.toInt(nullptr, FieldRangeTable::detectRadix(text));
-}
-
-FieldRange parse(const Row& row)
-{
-    const QString lower = QString::fromLatin1(row.lower);
-    const QString upper = QString::fromLatin1(row.upper);
-    const QString type = QString::fromLatin1(row.type);
     FieldRange range;
-    if (type == QLatin1String("f")) {
-        range.floatMax = upper.toFloat();
-        range.floatMin = lower.toFloat();
-    } else if (type == QLatin1String("d")) {
-        range.doubleMax = static_cast<float>(upper.toDouble());
-        range.doubleMin = static_cast<float>(lower.toDouble());
-    } else if (type == QLatin1String("i")) {
-        range.intMax = toInteger(upper);
-        range.intMin = toInteger(lower);
-    }
-    range.bounded = QString::fromLatin1(row.bounded).toInt() != 0;
+    range.floatMax = upper;
+    range.bounded = true;
     return range;
 }
 
-} // namespace
-
-FieldRangeTable::FieldRangeTable()
+constexpr FieldRange growingFloat(float upper)
 {
-    for (const Row& row : rows)
-        m_ranges.insert(keyOf(row.nodeName, row.fieldName), parse(row));
+    FieldRange range;
+    range.floatMax = upper;
+    return range;
 }
 
-FieldRange FieldRangeTable::lookup(const char* nodeName, const char* fieldName) const
+constexpr FieldRange growingDouble(float upper)
 {
-    return m_ranges.value(keyOf(nodeName, fieldName));
+    FieldRange range;
+    range.doubleMax = upper;
+    return range;
+}
+
+constexpr FieldRange growingInteger(int upper)
+{
+    FieldRange range;
+    range.intMax = upper;
+    return range;
+}
+
+struct Row {
+    std::string_view key; // the name of the node, directly followed by that of the field
+    FieldRange range;
+};
+
+// Sorted by key. All lower bounds are 0.
+// Contract: an editor chooses its row by the type of the field's node, so only one row of Complexity, Material and
+// DirectionalLight is used. The others have the same numbers.
+constexpr auto rows = std::to_array<Row>({
+    {"ComplexitytextureQuality", boundedFloat(1)},
+    {"Complexityvalue", boundedFloat(1)},
+    {"DefaultNodedoubleField", growingDouble(10)},
+    {"DefaultNodefloatField", growingFloat(10)},
+    {"DefaultNodeintField", growingInteger(100)},
+    {"DirectionalLightintensity", boundedFloat(1)},
+    {"Materialtransparency", boundedFloat(1)},
+});
+static_assert(std::ranges::is_sorted(rows, {}, &Row::key));
+
+} // namespace
+
+FieldRange FieldRangeTable::lookup(const char* nodeName, const char* fieldName)
+{
+    const QByteArray names = QByteArray(nodeName) + fieldName;
+    const std::string_view key = names.constData();
+    const auto* const row = std::ranges::lower_bound(rows, key, {}, &Row::key);
+    return row != rows.end() && row->key == key ? row->range : FieldRange();
 }
 
 int FieldRangeTable::detectRadix(const QString& text)

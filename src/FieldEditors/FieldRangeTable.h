@@ -2,24 +2,20 @@
 
 #include "FieldEditors/FieldRange.h"
 
-#include <QMap>
 #include <QString>
 
-/// The ranges that the sliders of numeric fields start with, by node and field name: a scene field itself carries none.
+/// The ranges that the sliders of numeric fields start with, by the names of node and field. A scene field has no range
+/// of its own.
 class FieldRangeTable {
 public:
-    /// Parses the compiled-in rows.
-    FieldRangeTable();
-
-    /// The range of a node's field; the all-zero, unbounded record when no row names it.
+    /// The range of a node's field; the all-zero, unbounded record if no row names it.
     ///
-    /// The names are looked up run together without a separator, so any pair that yields the same text finds the row.
-    [[nodiscard]] FieldRange lookup(const char* nodeName, const char* fieldName) const;
+    /// Contract: the names are joined without a separator, so every pair that gives the same text finds the row.
+    [[nodiscard]] static FieldRange lookup(const char* nodeName, const char* fieldName);
 
-    /// The base in which the text of an integer is to be read: 16 for "0x" and at least one more character, 8 for "0"
-    /// and exactly one more character, else 10. So "007" and "0" are decimal, and "0x" alone counts as octal.
+    /// The base of an integer's text: 16 for "0x" and at least one more character, 8 for "0" and exactly one more
+    /// character, else 10.
+    ///
+    /// Contract: "007" and "0" are decimal, and "0x" alone is octal.
     [[nodiscard]] static int detectRadix(const QString& text);
-
-private:
-    QMap<QString, FieldRange> m_ranges;
 };

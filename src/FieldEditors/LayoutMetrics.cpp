@@ -1,87 +1,81 @@
 #include "FieldEditors/LayoutMetrics.h"
 
+#include <QByteArray>
 #include <QLayout>
-#include <QMap>
 #include <QString>
 
-#include <cstring>
+#include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace {
 
 struct LayoutMetric {
-    const char* name;
+    std::string_view name;
     int value;
 };
 
-// The whole visual grid of the editors. There is no SFColorRGBAInterSpacing: the editor that asks for it is to get 0.
-constexpr LayoutMetric layoutMetrics[] = {
-    {"frameLineWidth", 0},
-    {"labelLineWidth", 0},
-    {"labelPointSize", 10},
-    {"labelHeight", 20}, // read by nothing
-    {"buttonWidth", 20},
-    {"buttonHeight", 20},
-    {"PopupFrameWidth", 260},
-    {"PopupFrameHeight", 100},
-    {"PopupLayoutMargin", 6},
-    {"PopupLayoutSpacing", 8},
-    {"SFieldLayoutMargin", 4},
-    {"SFieldLayoutSpacing", 6},
-    {"SFieldEditLayoutMargin", 0},
-    {"SFieldEditLayoutSpacing", 0},
-    {"SFButtonLayoutMargin", 2},
-    {"SFButtonLayoutSpacing", 0},
-    {"SFEditionAreaLayMargin", 0},
-    {"SFEditionAreaLaySpacing", 2},
-    {"SFComponentHeight", 18},
-    {"SFBoolWidth", 16},
-    {"SFColorSpacing", 6},
-    {"SFColorMargin", 0},
-    {"SFColorInterSpacing", 2},
-    {"SFColorDispWidth", 20},
-    {"SFVecLineHeight", 16},
-    {"SFVecLabelHeight", 14},
-    {"SF4fBoxVSpacing", 4},
-    {"SF4fBoxHSpacing", 4},
-    {"SF4fBoxHMargin", 2},
-    {"SF3fBoxVSpacing", 4},
-    {"SF3fBoxHSpacing", 20},
-    {"SF3fBoxHMargin", 2},
-    {"SF2BoxHSpacing", 25},
-    {"SF2BoxHMargin", 2},
-    {"SF2BoxVSpacing", 4},
-    {"MFGlobalLayoutSpacing", 2},
-    {"MFGlobalLayoutMarging", 6}, // spelt so, here and where it is read
-    {"MFGlobalButtonsLayoutMargin", 0},
-    {"MFGlobalButtonsLayoutSpacing", 5},
-    {"MFButtonLayoutMargin", 0},
-    {"MFButtonLayoutSpacing", 0},
-    {"MFAccessWidth", 60},
-    {"MFManageAccessSpacerWidth", 0},
-    {"MFManageAccessSpacerHeight", 0},
+// Sorted by name. Contract: there is no SFColorRGBAInterSpacing, so the editor that asks for it gets 0.
+constexpr auto layoutMetrics = std::to_array<LayoutMetric>({
     {"MFAccessMoveSpacerHeight", 0},
     {"MFAccessMoveSpacerWidth", 0},
-    {"MFTableMinHeightWin", 43}, // one metric, two platforms
-    {"MFTableMinHeightUnix", 46},
-    {nullptr, 0},
-};
+    {"MFAccessWidth", 60},
+    {"MFButtonLayoutMargin", 0},
+    {"MFButtonLayoutSpacing", 0},
+    {"MFGlobalButtonsLayoutMargin", 0},
+    {"MFGlobalButtonsLayoutSpacing", 5},
+    {"MFGlobalLayoutMarging", 6}, // Contract: spelt like this here and where it is used.
+    {"MFGlobalLayoutSpacing", 2},
+    {"MFManageAccessSpacerHeight", 0},
+    {"MFManageAccessSpacerWidth", 0},
+    {"MFTableMinHeightUnix", 46}, // the same metric for two platforms
+    {"MFTableMinHeightWin", 43},
+    {"PopupFrameHeight", 100},
+    {"PopupFrameWidth", 260},
+    {"PopupLayoutMargin", 6},
+    {"PopupLayoutSpacing", 8},
+    {"SF2BoxHMargin", 2},
+    {"SF2BoxHSpacing", 25},
+    {"SF2BoxVSpacing", 4},
+    {"SF3fBoxHMargin", 2},
+    {"SF3fBoxHSpacing", 20},
+    {"SF3fBoxVSpacing", 4},
+    {"SF4fBoxHMargin", 2},
+    {"SF4fBoxHSpacing", 4},
+    {"SF4fBoxVSpacing", 4},
+    {"SFBoolWidth", 16},
+    {"SFButtonLayoutMargin", 2},
+    {"SFButtonLayoutSpacing", 0},
+    {"SFColorDispWidth", 20},
+    {"SFColorInterSpacing", 2},
+    {"SFColorMargin", 0},
+    {"SFColorSpacing", 6},
+    {"SFComponentHeight", 18},
+    {"SFEditionAreaLayMargin", 0},
+    {"SFEditionAreaLaySpacing", 2},
+    {"SFVecLabelHeight", 14},
+    {"SFVecLineHeight", 16},
+    {"SFieldEditLayoutMargin", 0},
+    {"SFieldEditLayoutSpacing", 0},
+    {"SFieldLayoutMargin", 4},
+    {"SFieldLayoutSpacing", 6},
+    {"buttonHeight", 20},
+    {"buttonWidth", 20},
+    {"frameLineWidth", 0},
+    {"labelHeight", 20}, // no widget uses it
+    {"labelLineWidth", 0},
+    {"labelPointSize", 10},
+});
+static_assert(std::ranges::is_sorted(layoutMetrics, {}, &LayoutMetric::name));
 
 } // namespace
 
 int getLayoutMetric(const QString& name)
 {
-    // Every widget asks for some dozen names when it is built: the cache spares the walk with its conversion.
-    static QMap<QString, int> cache;
-    if (const auto hit = cache.constFind(name); hit != cache.constEnd())
-        return *hit;
     const QByteArray latin1 = name.toLatin1();
-    const LayoutMetric* metric = layoutMetrics;
-    while (metric->name != nullptr && std::strcmp(metric->name, latin1.constData()) != 0)
-        ++metric;
-    if (metric->name == nullptr)
-        return 0;
-    cache.insert(name, metric->value);
-    return metric->value;
+    const std::string_view key = latin1.constData();
+    const auto* const metric = std::ranges::lower_bound(layoutMetrics, key, {}, &LayoutMetric::name);
+    return metric != layoutMetrics.end() && metric->name == key ? metric->value : 0;
 }
 
 void setLayoutMetrics(QLayout* layout, const QString& marginMetric, const QString& spacingMetric)

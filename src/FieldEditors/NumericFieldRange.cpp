@@ -20,12 +20,11 @@ bool hasUnitRange(const NxFieldContainer* container)
 
 FieldRange orvane::realFieldRange(const NxField& field, const char* plainRow)
 {
-    const FieldRangeTable table;
-    return hasUnitRange(field.getContainer()) ? table.lookup("Complexity", "value")
-                                              : table.lookup("DefaultNode", plainRow);
+    return hasUnitRange(field.getContainer()) ? FieldRangeTable::lookup("Complexity", "value")
+                                              : FieldRangeTable::lookup("DefaultNode", plainRow);
 }
 
 FieldRange orvane::integerFieldRange()
 {
-    return FieldRangeTable().lookup("DefaultNode", "intField");
+    return FieldRangeTable::lookup("DefaultNode", "intField");
 }

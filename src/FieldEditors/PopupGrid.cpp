@@ -1,5 +1,6 @@
 #include "FieldEditors/PopupGrid.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/LayoutMetrics.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
@@ -64,20 +65,20 @@ QFrame* makePopupGrid(QWidget* parent, const QWidget* button)
 void setLineValidator(QLineEdit* line, int kind)
 {
     using Short = std::numeric_limits<short>;
-    switch (kind) {
-    case 0:
+    switch (static_cast<ValidatorKind>(kind)) {
+    case ValidatorKind::None:
         line->setValidator(nullptr);
         break;
-    case 1:
+    case ValidatorKind::Int16:
         line->setValidator(new QIntValidator(Short::min(), Short::max(), line));
         break;
-    case 2:
+    case ValidatorKind::Integer:
         line->setValidator(new QIntValidator(line));
         break;
-    case 3:
+    case ValidatorKind::Float:
         acceptFloats(line);
         break;
-    case 4:
+    case ValidatorKind::Number:
         line->setValidator(new QDoubleValidator(line));
         break;
     default:

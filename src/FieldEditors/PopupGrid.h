@@ -11,8 +11,8 @@ namespace orvane {
 /// closes it for good.
 [[nodiscard]] QFrame* makePopupGrid(QWidget* parent, const QWidget* button);
 
-/// Gives a line a validator of its own: 1 takes 16-bit integers, 2 any integers, 3 floats, 4 any numbers, and 0 takes
-/// the validator away. Any other kind does nothing.
+/// Gives a line a validator of its own. `kind` is the number of a `ValidatorKind`; `None` removes the validator, and
+/// any other number does nothing.
 void setLineValidator(QLineEdit* line, int kind);
 
 } // namespace orvane

@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFColorRGBAWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
@@ -7,7 +8,7 @@
 #include "meridane/scene/fields/list/NxMFColorRGBA.h"
 
 DvMFColorRGBAWidget::DvMFColorRGBAWidget(const char* name)
-    : DvMFVec4fWidget(1, name)
+    : DvMFVec4fWidget(orvane::kindNumber(orvane::TableKind::Color), name)
 {
     m_handledType = NxMFColorRGBA::getClassTypeId();
     if (name == nullptr)

@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFColorTable.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFColorTableItemDelegate.h"
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 #include "FieldEditors/MFWidgets/RowColor.h"
@@ -23,7 +24,7 @@ DvMFColorTable::DvMFColorTable(DvMFieldWidget* editor, QWidget* parent, const ch
     delete m_delegate;
     m_delegate = new DvMFColorTableItemDelegate(editor, this);
     setItemDelegate(m_delegate);
-    setValueKind(7);
+    setValueKind(orvane::kindNumber(orvane::CellKind::Float));
     setRealRange(0.0, 1.0);
     connect(this, &QTableWidget::cellClicked, this, &DvMFColorTable::getColorFromEditor);
 }

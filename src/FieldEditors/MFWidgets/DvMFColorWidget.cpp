@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFColorWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
@@ -7,7 +8,7 @@
 #include "meridane/scene/fields/list/NxMFColor.h"
 
 DvMFColorWidget::DvMFColorWidget(const char* name)
-    : DvMFVec3fWidget(1, name)
+    : DvMFVec3fWidget(orvane::kindNumber(orvane::TableKind::Color), name)
 {
     m_handledType = NxMFColor::getClassTypeId();
     if (name == nullptr)

@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFDoubleWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/NumericFieldRange.h"
 
@@ -26,7 +27,7 @@ bool DvMFDoubleWidget::prepareForField(NxField* field)
         return false;
     m_range = orvane::realFieldRange(*field, "doubleField");
     setUpTable();
-    m_table->setValueKind(8);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::Double));
     m_table->setRealRange(static_cast<double>(m_range.doubleMin), static_cast<double>(m_range.doubleMax));
     m_table->setRangeBounded(m_range.bounded);
     return true;

@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFFloatWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/NumericFieldRange.h"
 
@@ -26,7 +27,7 @@ bool DvMFFloatWidget::prepareForField(NxField* field)
         return false;
     m_range = orvane::realFieldRange(*field, "floatField");
     setUpTable();
-    m_table->setValueKind(7);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::Float));
     m_table->setRealRange(static_cast<double>(m_range.floatMin), static_cast<double>(m_range.floatMax));
     m_table->setRangeBounded(m_range.bounded);
     return true;

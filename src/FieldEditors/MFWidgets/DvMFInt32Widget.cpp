@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFInt32Widget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
 #include "meridane/scene/fields/list/NxMFInt32.h"
@@ -17,7 +18,7 @@ void DvMFInt32Widget::load()
 {
     setElementTypeLabel(QLatin1String("MFInt32"));
     DvMFLineWidget::load();
-    m_table->setValueKind(5);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::Int32));
 }
 
 bool DvMFInt32Widget::prepareForField(NxField* field)

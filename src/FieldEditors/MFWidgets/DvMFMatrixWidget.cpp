@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFMatrixWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/DvMFieldTableItemDelegate.h"
 #include "FieldEditors/MFWidgets/DvTablePopupLineEdit.h"
@@ -48,7 +49,7 @@ void DvMFMatrixWidget::load()
 {
     setElementTypeLabel(QStringLiteral("MFMatrix"));
     DvTablePopupWidget::load();
-    setPopupValidators(3);
+    setPopupValidators(orvane::kindNumber(orvane::ValidatorKind::Float));
     m_table->setItemDelegate(new BeginningDelegate(this, m_table));
 }
 

@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFPlaneWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
@@ -25,7 +26,7 @@ void DvMFPlaneWidget::load()
     orvane::setUpColumns(
         m_table, {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"), QStringLiteral("distance")});
     m_table->setNumRows(0);
-    m_table->setValueKind(7);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::Float));
 }
 
 void DvMFPlaneWidget::swapRows(int first, int second)

@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFRotationWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
@@ -27,7 +28,7 @@ void DvMFRotationWidget::load()
     orvane::setUpColumns(
         m_table, {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z"), QStringLiteral("radians")});
     m_table->setNumRows(0);
-    m_table->setValueKind(7);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::Float));
 }
 
 void DvMFRotationWidget::swapRows(int first, int second)

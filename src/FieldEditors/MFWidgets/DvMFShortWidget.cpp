@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFShortWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
 #include "meridane/scene/fields/list/NxMFShort.h"
@@ -17,7 +18,7 @@ void DvMFShortWidget::load()
 {
     setElementTypeLabel(QLatin1String("MFShort"));
     DvMFLineWidget::load();
-    m_table->setValueKind(1);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::Int16));
 }
 
 bool DvMFShortWidget::prepareForField(NxField* field)

@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFUInt32Widget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
 #include "meridane/scene/fields/list/NxMFUInt32.h"
@@ -17,7 +18,7 @@ void DvMFUInt32Widget::load()
 {
     setElementTypeLabel(QLatin1String("MFUInt32"));
     DvMFLineWidget::load();
-    m_table->setValueKind(6);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::UInt32));
 }
 
 bool DvMFUInt32Widget::prepareForField(NxField* field)

@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFUShortWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 
 #include "meridane/scene/fields/list/NxMFUShort.h"
@@ -17,7 +18,7 @@ void DvMFUShortWidget::load()
 {
     setElementTypeLabel(QLatin1String("MFUShort"));
     DvMFLineWidget::load();
-    m_table->setValueKind(2);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::UInt16));
 }
 
 bool DvMFUShortWidget::prepareForField(NxField* field)

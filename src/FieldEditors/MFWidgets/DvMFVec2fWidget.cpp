@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFVec2fWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
@@ -23,7 +24,7 @@ void DvMFVec2fWidget::load()
     DvMFieldWidget::load();
     orvane::setUpColumns(m_table, {QStringLiteral("x"), QStringLiteral("y")});
     m_table->setNumRows(0);
-    m_table->setValueKind(7);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::Float));
 }
 
 void DvMFVec2fWidget::swapRows(int first, int second)

@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFVec2i32Widget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
@@ -23,7 +24,7 @@ void DvMFVec2i32Widget::load()
     DvMFieldWidget::load();
     orvane::setUpColumns(m_table, {QStringLiteral("x"), QStringLiteral("y")});
     m_table->setNumRows(0);
-    m_table->setValueKind(5);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::Int32));
 }
 
 void DvMFVec2i32Widget::swapRows(int first, int second)

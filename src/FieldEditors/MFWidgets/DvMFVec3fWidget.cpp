@@ -1,5 +1,6 @@
 #include "FieldEditors/MFWidgets/DvMFVec3fWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/MFWidgets/DvMFieldTable.h"
 #include "FieldEditors/MFWidgets/RowColumns.h"
 #include "FieldEditors/MFWidgets/RowValues.h"
@@ -7,7 +8,7 @@
 #include "meridane/scene/fields/list/NxMFVec3f.h"
 
 DvMFVec3fWidget::DvMFVec3fWidget(const char* name)
-    : DvMFVec3fWidget(0, name)
+    : DvMFVec3fWidget(orvane::kindNumber(orvane::TableKind::Plain), name)
 {
 }
 
@@ -28,7 +29,7 @@ void DvMFVec3fWidget::load()
     DvMFieldWidget::load();
     orvane::setUpColumns(m_table, {QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z")});
     m_table->setNumRows(0);
-    m_table->setValueKind(7);
+    m_table->setValueKind(orvane::kindNumber(orvane::CellKind::Float));
 }
 
 void DvMFVec3fWidget::swapRows(int first, int second)

@@ -6,7 +6,7 @@
 class DvMFVec3fWidget : public DvMFieldWidget {
 public:
     explicit DvMFVec3fWidget(const char* name = nullptr);
-    /// For a table of a kind that the base knows: 1 is that of colours.
+    /// `tableKind` is the number of an `orvane::TableKind`, as for the base.
     DvMFVec3fWidget(int tableKind, const char* name);
     ~DvMFVec3fWidget() override;
 

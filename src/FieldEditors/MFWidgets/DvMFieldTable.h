@@ -17,7 +17,7 @@ public:
     DvMFieldTable(DvMFieldWidget* owner, QWidget* parent, const char* name);
     ~DvMFieldTable() override;
 
-    /// Selects validator and editor of the cells; see `DvMFieldTableItemDelegate`.
+    /// Selects validator and editor of the cells: `kind` is the number of an `orvane::CellKind`.
     void setValueKind(int kind);
     /// The range that the slider of a real number starts with.
     void setRealRange(double min, double max);

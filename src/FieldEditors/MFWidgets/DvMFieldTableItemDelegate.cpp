@@ -17,6 +17,10 @@
 
 #include <limits>
 
+using orvane::CellKind;
+using orvane::IntegerKind;
+using orvane::kindNumber;
+
 DvMFieldTableItemDelegate::DvMFieldTableItemDelegate(DvMFieldWidget* owner, QObject* table)
     : QItemDelegate(table)
     , m_owner(owner)
@@ -75,22 +79,24 @@ QWidget* DvMFieldTableItemDelegate::makeLine(QWidget* parent, const QString& tex
 QWidget* DvMFieldTableItemDelegate::makeSlider(QWidget* parent, int row, const QString& text) const
 {
     constexpr int mode = DvSlider::TableCell;
-    switch (m_valueKind) {
-    case 1:
-    case 5: {
-        auto* const slider = new DvIntSlider(m_valueKind == 1 ? 3 : 1, mode, m_owner, parent, row, 0);
+    switch (valueKind()) {
+    case CellKind::Int16:
+    case CellKind::Int32: {
+        const auto kind = valueKind() == CellKind::Int16 ? IntegerKind::Int16 : IntegerKind::Int32;
+        auto* const slider = new DvIntSlider(kindNumber(kind), mode, m_owner, parent, row, 0);
         slider->setRange(m_intMin, m_intMax, m_bounded);
         slider->setValueText(text);
         return slider;
     }
-    case 2:
-    case 6: {
-        auto* const slider = new DvUIntSlider(m_valueKind == 2 ? 4 : 2, mode, m_owner, parent, row, 0);
+    case CellKind::UInt16:
+    case CellKind::UInt32: {
+        const auto kind = valueKind() == CellKind::UInt16 ? IntegerKind::UInt16 : IntegerKind::UInt32;
+        auto* const slider = new DvUIntSlider(kindNumber(kind), mode, m_owner, parent, row, 0);
         slider->setRange(static_cast<unsigned>(m_intMin), static_cast<unsigned>(m_intMax), m_bounded);
         slider->setValueText(text);
         return slider;
     }
-    case 7: {
+    case CellKind::Float: {
         // The row stands where the precision is selected, and the cell is given as row 0, column 1. So the first row
         // gets a slider of double precision, and every row's slider writes the first value of the field. That is meant.
         auto* const slider = new DvRealSlider(mode, m_owner, parent, row != 0, 0, 1);
@@ -110,14 +116,14 @@ void DvMFieldTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex
         line->setText(text);
         return;
     }
-    switch (m_valueKind) {
-    case 1:
-    case 2:
-    case 5:
-    case 6:
+    switch (valueKind()) {
+    case CellKind::Int16:
+    case CellKind::UInt16:
+    case CellKind::Int32:
+    case CellKind::UInt32:
         static_cast<DvSlider*>(editor)->setValueText(text);
         break;
-    case 7:
+    case CellKind::Float:
         static_cast<DvRealSlider*>(editor)->setValue(static_cast<double>(text.toFloat()));
         break;
     default:
@@ -171,29 +177,29 @@ void DvMFieldTableItemDelegate::installValidator(QLineEdit* edit) const
     using Short = std::numeric_limits<short>;
     using Int = std::numeric_limits<int>;
     constexpr auto floatLimit = static_cast<double>(std::numeric_limits<float>::max());
-    switch (m_valueKind) {
-    case 1:
+    switch (valueKind()) {
+    case CellKind::Int16:
         edit->setValidator(new QIntValidator(-Short::max(), Short::max(), edit)); // one short of the lowest: meant
         break;
-    case 2:
+    case CellKind::UInt16:
         edit->setValidator(new QIntValidator(0, std::numeric_limits<unsigned short>::max(), edit));
         break;
-    case 3:
+    case CellKind::AnyInt32:
         edit->setValidator(new QIntValidator(edit));
         break;
-    case 4:
+    case CellKind::AnyUInt32:
         edit->setValidator(new QUIntValidator(0, std::numeric_limits<unsigned>::max(), edit));
         break;
-    case 5:
+    case CellKind::Int32:
         edit->setValidator(new QIntValidator(-Int::max(), Int::max(), edit)); // one short of the lowest: meant
         break;
-    case 6:
+    case CellKind::UInt32:
         edit->setValidator(new QULongValidator(0, std::numeric_limits<unsigned>::max(), edit));
         break;
-    case 7:
+    case CellKind::Float:
         edit->setValidator(new QDoubleValidator(-floatLimit, floatLimit, 6, edit));
         break;
-    case 8:
+    case CellKind::Double:
         edit->setValidator(new QDoubleValidator(edit));
         break;
     default:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FieldEditors/EditorKinds.h"
+
 #include <QItemDelegate>
 
 class DvMFieldWidget;
@@ -7,9 +9,8 @@ class QLineEdit;
 
 /// Paints the cells of a row table with the texts of its owner, and makes their editors.
 ///
-/// What a cell takes follows from the value kind: 0 any text, 1 and 2 numbers of 16 bits with and without sign, 5 and 6
-/// the same of 32 bits, 7 a float, 8 a double; 3 and 4, two more kinds of 32 bits, are free for editors to come. In a
-/// table of one column the kinds 1, 2, 5, 6 and 7 are edited with a slider, everything else in a line.
+/// The value kind decides what a cell takes. In a table of one column the kinds `Int16`, `UInt16`, `Int32`, `UInt32`
+/// and `Float` are edited with a slider, everything else in a line.
 class DvMFieldTableItemDelegate : public QItemDelegate {
     Q_OBJECT
 
@@ -18,6 +19,7 @@ public:
     DvMFieldTableItemDelegate(DvMFieldWidget* owner, QObject* table);
     ~DvMFieldTableItemDelegate() override;
 
+    /// `kind` is the number of an `orvane::CellKind`; any other gives a line without a validator.
     void setValueKind(int kind) { m_valueKind = kind; }
     void setRealRange(double min, double max);
     void setRangeBounded(bool bounded) { m_bounded = bounded; }
@@ -43,7 +45,7 @@ protected:
     static bool isAcceptable(const QLineEdit* line);
 
     DvMFieldWidget* m_owner;
-    int m_valueKind = 0;
+    int m_valueKind = orvane::kindNumber(orvane::CellKind::Text);
     int m_intMax = 10;
     int m_intMin = 0;
     double m_realMax = 10.0;
@@ -51,6 +53,7 @@ protected:
     bool m_bounded = false;
 
 private:
+    [[nodiscard]] orvane::CellKind valueKind() const { return static_cast<orvane::CellKind>(m_valueKind); }
     [[nodiscard]] QWidget* makeLine(QWidget* parent, const QString& text) const;
     [[nodiscard]] QWidget* makeSlider(QWidget* parent, int row, const QString& text) const;
 };

@@ -1,6 +1,7 @@
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 
 #include "FieldEditors/EditorIcons.h"
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/IconButton.h"
 #include "FieldEditors/LayoutMetrics.h"
@@ -40,7 +41,7 @@ namespace {
 
 DvMFieldTable* makeTable(int tableKind, DvMFieldWidget* owner)
 {
-    if (tableKind == 1)
+    if (static_cast<orvane::TableKind>(tableKind) == orvane::TableKind::Color)
         return new DvMFColorTable(owner, owner->getFrame(), "m_table");
     return new DvMFieldTable(owner, owner->getFrame(), "m_table");
 }
@@ -69,7 +70,7 @@ QSpacerItem* fixedSpacer(int width, int height)
 } // namespace
 
 DvMFieldWidget::DvMFieldWidget(const char* name)
-    : DvMFieldWidget(0, name)
+    : DvMFieldWidget(orvane::kindNumber(orvane::TableKind::Plain), name)
 {
 }
 

@@ -27,7 +27,7 @@ class DvMFieldWidget : public OrvFieldEditors {
 public:
     /// Without a name the object is named after this class.
     explicit DvMFieldWidget(const char* name);
-    /// Table kind 1 gives the table with a column of colours, any other the plain one.
+    /// `tableKind` is the number of an `orvane::TableKind`; any other gives the plain table.
     DvMFieldWidget(int tableKind, const char* name);
     ~DvMFieldWidget() override;
 

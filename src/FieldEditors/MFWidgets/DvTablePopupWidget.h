@@ -28,7 +28,8 @@ public:
     /// The text of the line of that index for a row of the field.
     [[nodiscard]] virtual QString getPopupCellValue(int row, int index);
 
-    /// Gives every line a validator of its own, by the kinds of `setLineValidator`.
+    /// Gives every line a validator of its own. `kind` is the number of an `orvane::ValidatorKind`; `None` removes the
+    /// validators, and any other number does nothing.
     void setPopupValidators(int kind);
     /// The row whose numbers the popup shows and writes; -1 for none.
     [[nodiscard]] int currentRow() const;

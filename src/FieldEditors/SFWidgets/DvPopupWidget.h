@@ -21,8 +21,8 @@ public:
     /// count.
     [[nodiscard]] bool edited() override;
 
-    /// Gives every line a validator of its own: 1 takes 16-bit integers, 2 any integers, 3 floats, 4 any numbers, and 0
-    /// takes the validators away. Any other kind does nothing.
+    /// Gives every line a validator of its own. `kind` is the number of an `orvane::ValidatorKind`; `None` removes the
+    /// validators, and any other number does nothing.
     void setLinesValidator(int kind);
     /// Shows the beginning of each line's text.
     void resetLinesCursor();

@@ -1,5 +1,6 @@
 #include "FieldEditors/SFWidgets/DvSF2iSpinBox.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/LayoutMetrics.h"
 #include "FieldEditors/SFWidgets/VectorColumn.h"
 
@@ -47,13 +48,21 @@ void DvSF2iSpinBox::setLabels(const QString* names)
 
 void DvSF2iSpinBox::setSpinBoxRange(int kind)
 {
-    if (kind < 0 || kind > 2)
-        return;
-    for (QSpinBox* const spinBox : {m_xSpinBox, m_ySpinBox}) {
-        if (kind == 0)
-            spinBox->setRange(std::numeric_limits<short>::min(), std::numeric_limits<short>::max());
-        else
-            spinBox->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    using orvane::SpinBoxKind;
+    const auto setRange = [this](int lower, int upper) {
+        for (QSpinBox* const spinBox : {m_xSpinBox, m_ySpinBox})
+            spinBox->setRange(lower, upper);
+    };
+    switch (static_cast<SpinBoxKind>(kind)) {
+    case SpinBoxKind::Int16:
+        setRange(std::numeric_limits<short>::min(), std::numeric_limits<short>::max());
+        break;
+    case SpinBoxKind::Integer:
+    case SpinBoxKind::Int32:
+        setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+        break;
+    default:
+        break;
     }
 }
 

@@ -20,7 +20,7 @@ public:
 
     /// Writes the two names, of x and y, above the spin boxes.
     void setLabels(const QString* names);
-    /// 0 is the range of a short, 1 and 2 are that of an int; any other kind changes nothing.
+    /// `kind` is the number of an `orvane::SpinBoxKind`; any other changes nothing.
     void setSpinBoxRange(int kind);
 
 protected:

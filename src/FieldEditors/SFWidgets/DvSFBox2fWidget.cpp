@@ -1,5 +1,6 @@
 #include "FieldEditors/SFWidgets/DvSFBox2fWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
@@ -23,7 +24,7 @@ void DvSFBox2fWidget::load()
     // First, since the label keeps the first text that it gets.
     setFieldTypeLabel(QLatin1String("SFBox2f"));
     DvPopupWidget::load();
-    setLinesValidator(3);
+    setLinesValidator(orvane::kindNumber(orvane::ValidatorKind::Float));
 }
 
 void DvSFBox2fWidget::updateFromField()

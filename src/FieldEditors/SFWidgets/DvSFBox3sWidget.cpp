@@ -1,5 +1,6 @@
 #include "FieldEditors/SFWidgets/DvSFBox3sWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/FieldChanges.h"
 
 #include "meridane/scene/fields/single/NxSFBox3s.h"
@@ -22,7 +23,7 @@ void DvSFBox3sWidget::load()
     // First, since the label keeps the first text that it gets.
     setFieldTypeLabel(QLatin1String("SFBox3s"));
     DvPopupWidget::load();
-    setLinesValidator(1);
+    setLinesValidator(orvane::kindNumber(orvane::ValidatorKind::Int16));
 }
 
 void DvSFBox3sWidget::updateFromField()

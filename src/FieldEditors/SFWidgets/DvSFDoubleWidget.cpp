@@ -1,6 +1,7 @@
 #include "FieldEditors/SFWidgets/DvSFDoubleWidget.h"
 
 #include "FieldEditors/DvRealSlider.h"
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
@@ -8,7 +9,7 @@
 #include "meridane/scene/fields/single/NxSFDouble.h"
 
 DvSFDoubleWidget::DvSFDoubleWidget(const char* name)
-    : DvSFieldWidget(2, name)
+    : DvSFieldWidget(orvane::kindNumber(orvane::SliderKind::Double), name)
 {
     m_handledType = NxSFDouble::getClassTypeId();
     if (name == nullptr)

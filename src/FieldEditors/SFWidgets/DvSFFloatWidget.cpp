@@ -1,6 +1,7 @@
 #include "FieldEditors/SFWidgets/DvSFFloatWidget.h"
 
 #include "FieldEditors/DvRealSlider.h"
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
@@ -8,7 +9,7 @@
 #include "meridane/scene/fields/single/NxSFFloat.h"
 
 DvSFFloatWidget::DvSFFloatWidget(const char* name)
-    : DvSFieldWidget(1, name)
+    : DvSFieldWidget(orvane::kindNumber(orvane::SliderKind::Float), name)
 {
     m_handledType = NxSFFloat::getClassTypeId();
     if (name == nullptr)

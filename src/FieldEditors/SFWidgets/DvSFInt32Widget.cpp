@@ -1,6 +1,7 @@
 #include "FieldEditors/SFWidgets/DvSFInt32Widget.h"
 
 #include "FieldEditors/DvIntSlider.h"
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
@@ -8,7 +9,7 @@
 #include "meridane/scene/fields/single/NxSFInt32.h"
 
 DvSFInt32Widget::DvSFInt32Widget(const char* name)
-    : DvSFieldWidget(3, name)
+    : DvSFieldWidget(orvane::kindNumber(orvane::SliderKind::Int32), name)
 {
     m_handledType = NxSFInt32::getClassTypeId();
     if (name == nullptr)

@@ -1,5 +1,6 @@
 #include "FieldEditors/SFWidgets/DvSFMatrixWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/FieldChanges.h"
 #include "FieldEditors/SFWidgets/NumberLine.h"
 
@@ -23,7 +24,7 @@ void DvSFMatrixWidget::load()
     // First, since the label keeps the first text that it gets.
     setFieldTypeLabel(QLatin1String("SFMatrix"));
     DvPopupWidget::load();
-    setLinesValidator(3);
+    setLinesValidator(orvane::kindNumber(orvane::ValidatorKind::Float));
 }
 
 void DvSFMatrixWidget::updateFromField()

@@ -1,13 +1,14 @@
 #include "FieldEditors/SFWidgets/DvSFShortWidget.h"
 
 #include "FieldEditors/DvIntSlider.h"
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
 #include "meridane/scene/fields/single/NxSFShort.h"
 
 DvSFShortWidget::DvSFShortWidget(const char* name)
-    : DvSFieldWidget(5, name)
+    : DvSFieldWidget(orvane::kindNumber(orvane::SliderKind::Int16), name)
 {
     m_handledType = NxSFShort::getClassTypeId();
     if (name == nullptr)

@@ -1,13 +1,14 @@
 #include "FieldEditors/SFWidgets/DvSFUInt32Widget.h"
 
 #include "FieldEditors/DvUIntSlider.h"
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
 #include "meridane/scene/fields/single/NxSFUInt32.h"
 
 DvSFUInt32Widget::DvSFUInt32Widget(const char* name)
-    : DvSFieldWidget(4, name)
+    : DvSFieldWidget(orvane::kindNumber(orvane::SliderKind::UInt32), name)
 {
     m_handledType = NxSFUInt32::getClassTypeId();
     if (name == nullptr)

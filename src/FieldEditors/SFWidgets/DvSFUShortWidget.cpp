@@ -1,13 +1,14 @@
 #include "FieldEditors/SFWidgets/DvSFUShortWidget.h"
 
 #include "FieldEditors/DvUIntSlider.h"
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/NumericFieldRange.h"
 #include "FieldEditors/SFWidgets/SliderRefresh.h"
 
 #include "meridane/scene/fields/single/NxSFUShort.h"
 
 DvSFUShortWidget::DvSFUShortWidget(const char* name)
-    : DvSFieldWidget(6, name)
+    : DvSFieldWidget(orvane::kindNumber(orvane::SliderKind::UInt16), name)
 {
     m_handledType = NxSFUShort::getClassTypeId();
     if (name == nullptr)

@@ -1,5 +1,6 @@
 #include "FieldEditors/SFWidgets/DvSFVec2i32Widget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/SFWidgets/VectorColumn.h"
 
 #include "meridane/scene/fields/single/NxSFVec2i32.h"
@@ -23,7 +24,7 @@ void DvSFVec2i32Widget::load()
     DvSF2iSpinBox::load();
     const QString names[] = {QStringLiteral("x"), QStringLiteral("y")};
     setLabels(names);
-    setSpinBoxRange(2);
+    setSpinBoxRange(orvane::kindNumber(orvane::SpinBoxKind::Int32));
 }
 
 void DvSFVec2i32Widget::updateFromField()

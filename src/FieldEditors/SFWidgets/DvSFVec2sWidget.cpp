@@ -1,5 +1,6 @@
 #include "FieldEditors/SFWidgets/DvSFVec2sWidget.h"
 
+#include "FieldEditors/EditorKinds.h"
 #include "FieldEditors/SFWidgets/VectorColumn.h"
 
 #include "meridane/scene/fields/single/NxSFVec2s.h"
@@ -23,7 +24,7 @@ void DvSFVec2sWidget::load()
     DvSF2iSpinBox::load();
     const QString names[] = {QStringLiteral("x"), QStringLiteral("y")};
     setLabels(names);
-    setSpinBoxRange(0);
+    setSpinBoxRange(orvane::kindNumber(orvane::SpinBoxKind::Int16));
 }
 
 void DvSFVec2sWidget::updateFromField()

@@ -18,7 +18,8 @@ class DvSFieldWidget : public OrvFieldEditors {
     Q_OBJECT
 
 public:
-    /// For the editors with a slider, of one of the kinds of `makeSlider`; any other kind gives the plain edit area.
+    /// For the editors with a slider: `sliderKind` is the number of an `orvane::SliderKind`; any other gives the plain
+    /// edit area.
     DvSFieldWidget(int sliderKind, const char* name);
     /// For all others. Without a name the object name stays empty.
     explicit DvSFieldWidget(const char* name);
