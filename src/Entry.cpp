@@ -14,8 +14,8 @@ OrvDefaults* loadedPlugin = nullptr;
 
 } // namespace
 
-// A second call makes a second plug-in, and the first stays allocated: the host loads a library once. Null stands for
-// every failure, since no exception may cross the border of the module.
+// Contract: a second call makes a second plug-in, and the first stays allocated; the host loads a library once. Null
+// means any failure, since no exception may leave the module.
 OrvPlugin* loadPlugin()
 {
     try {

@@ -1,6 +1,7 @@
-// Everything that the module allocates is counted by the toolkit. The operators serve the module alone, since it
-// exports none of them; what they hand out may go to plain free and the other way round, so objects may be made on one
-// side of the border and deleted on the other. Over-aligned types, which the module has none of, are not redirected.
+// The toolkit counts everything that the module allocates. Only the module uses these operators, since it doesn't
+// export them. Their blocks may be passed to plain free, and blocks of malloc to them, so an object may be made inside
+// of the module and deleted outside, or the other way round. Over-aligned types, which the module doesn't have, aren't
+// redirected.
 
 #include "meridane/base/MrdMemory.h"
 

@@ -12,14 +12,15 @@ OrvDefaults::~OrvDefaults() = default;
 
 void OrvDefaults::load()
 {
-    // An order of its own, which is what the host shows; it isn't bound to the order of declaration.
+    // Contract: the order in which the host lists the extensions, which isn't that of their declaration.
     addExtension(&m_profileSelector);
     addExtension(&m_console);
     addExtension(&m_mfColor);
     addExtension(&m_mfColorRGBA);
     addExtension(&m_mfDefaultField);
     addExtension(&m_mfDouble);
-    addExtension(&m_sfFilePathString); // ahead of the other editors of single values, unlike its declaration: meant
+    // Contract: before the other editors of single values, unlike its declaration.
+    addExtension(&m_sfFilePathString);
     addExtension(&m_mfFloat);
     addExtension(&m_mfInt32);
     addExtension(&m_mfMatrix);

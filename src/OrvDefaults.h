@@ -60,8 +60,8 @@ public:
     ~OrvDefaults() override;
 
 private:
-    // In this order the docks meet the editors, since they walk them by address; among editors of the same type the one
-    // declared last wins.
+    // Contract: the docks compare the editors in this order, that of their addresses; of two editors of the same type,
+    // the one declared last wins.
     OrvProfileSelectorExtension m_profileSelector;
     OrvConsole m_console;
     DvMFColorWidget m_mfColor;

@@ -1,12 +1,12 @@
 #pragma once
 
-/// One change that the user made, as the undo history keeps it.
+/// One change by the user, kept in the undo history.
 ///
-/// A command is made with `new`, handed to `OrvServices::pushCommand` at once and owned by the host from then on. It
-/// has no label and is never merged. Its operations must not throw. Thread of the user interface only.
+/// Make a command with `new` and pass it to `OrvServices::pushCommand` at once; from then on the host owns it. A
+/// command has no label and is never merged. Its operations must not throw. Thread of the user interface only.
 class OrvCommand {
 public:
-    /// The host's one call when the command is pushed.
+    /// The host calls it once, when the command is pushed.
     virtual void execute() = 0;
     virtual void undo() = 0;
     virtual void redo() = 0;

@@ -9,14 +9,14 @@ class QWidget;
 
 /// An extension that edits objects of one type, and of the types that derive from it.
 ///
-/// A dock gives it the object, shows its widget and activates it; the host doesn't.
+/// A dock, not the host, sets its object, shows its widget and activates it.
 class OrvEditor : public OrvExtension {
     Q_OBJECT
 
 public:
     ~OrvEditor() override;
 
-    /// The type of object that this editor is made for.
+    /// The type of object that this editor edits.
     [[nodiscard]] virtual NxType getHandledType();
     /// Stores the object, which isn't owned; null clears it.
     virtual void setEditedObject(NxTypedObject* object);
@@ -27,9 +27,9 @@ public:
 protected:
     OrvEditor();
 
-    /// Written by the constructor of the concrete editor.
+    /// Set by the constructor of the concrete editor.
     NxType m_handledType;
     NxTypedObject* m_editedObject = nullptr;
-    /// Written by the constructor of the concrete editor.
+    /// Set by the constructor of the concrete editor.
     QWidget* m_widget = nullptr;
 };

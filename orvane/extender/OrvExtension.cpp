@@ -14,7 +14,7 @@ void OrvExtension::deactivate()
     m_active = false;
 }
 
-// The host keeps no widget of an extension, so there is nothing to hide or show here.
+// The host doesn't know an extension's widgets, so there is nothing to hide or show here.
 void OrvExtension::hide() { }
 
 void OrvExtension::show() { }

@@ -6,11 +6,11 @@
 
 class OrvProfileSetting;
 
-/// A part of the tool that a plug-in brings: a dock, a tool bar, an editor.
+/// A part of the tool that a plug-in adds: a dock, a tool bar, an editor.
 ///
-/// The host calls `load` once, ahead of everything else, and `unload` once, after the last `deactivate`. In between,
-/// `activate` and `deactivate` alternate, and `show` and `hide` deal with visibility only. `load` builds the
-/// extension's own objects and talks to nobody; `activate` links it to the rest of the tool. Thread of the user
+/// The host calls `load` once, before everything else, and `unload` once, after the last `deactivate`. In between,
+/// `activate` and `deactivate` alternate, and `show` and `hide` change the visibility only. `load` builds the
+/// extension's own objects and uses nothing else; `activate` connects it to the rest of the tool. Thread of the user
 /// interface only.
 class OrvExtension : public QObject {
     Q_OBJECT
@@ -18,7 +18,7 @@ class OrvExtension : public QObject {
 public:
     ~OrvExtension() override;
 
-    /// Links the extension to the rest of the tool. An override calls this body, which records that it is active.
+    /// Connects the extension to the rest of the tool. An override calls this body, which records that it is active.
     virtual void activate();
     /// The counterpart of `activate`. An override calls this body.
     virtual void deactivate();
@@ -44,7 +44,7 @@ public:
 protected:
     OrvExtension();
 
-    /// What the constructor of a derived class fills in.
+    /// Set by the constructor of a derived class.
     VbString m_name;
     VbString m_description;
     VbString m_author;

@@ -6,20 +6,21 @@
 
 class OrvExtension;
 
-/// The version of the host's interface. It grows whenever a plug-in has to be built anew.
+/// The version of the host's interface. It grows whenever plug-ins have to be built again.
 constexpr int orvaneInterfaceVersion = 2;
 
 /// A plug-in: the owner of extensions. Its library exports `OrvPlugin* loadPlugin()` and `void unloadPlugin()` with C
 /// linkage.
 class OrvPlugin {
 public:
-    /// The default argument is evaluated where the plug-in is compiled, and tells the host what it was built against.
+    /// The default argument is evaluated where the plug-in is compiled, so the host learns which version it was built
+    /// against.
     explicit OrvPlugin(int interfaceVersion = orvaneInterfaceVersion);
     OrvPlugin(const OrvPlugin&) = delete;
     OrvPlugin& operator=(const OrvPlugin&) = delete;
 
     /// Loads the registered extensions, in the order of registration, each once. An override registers them first and
-    /// calls this body last. What an extension throws is passed on; those ahead of it stay loaded until `unload`.
+    /// calls this body last. What an extension throws is passed on; those before it stay loaded until `unload`.
     virtual void load();
     /// Unloads the loaded extensions in reverse order, each once. They must have been deactivated. What an extension
     /// throws is passed on; a further call goes on with the next one.
@@ -30,8 +31,8 @@ protected:
     virtual ~OrvPlugin();
 
 public:
-    /// Registers an extension, which stays the caller's and must live as long as the plug-in. Null and what is
-    /// registered already is ignored.
+    /// Registers an extension. The caller owns it, and it must live as long as the plug-in. Null, and an extension that
+    /// is registered already, are ignored.
     void addExtension(OrvExtension* extension);
 
     [[nodiscard]] const QList<OrvExtension*>& getExtensions() const noexcept { return m_extensions; }
@@ -42,7 +43,7 @@ public:
     [[nodiscard]] const VbString& getVersion() const noexcept { return m_version; }
 
 protected:
-    /// What the constructor of a derived class fills in.
+    /// Set by the constructor of a derived class.
     VbString m_name;
     VbString m_description;
     VbString m_author;
@@ -51,6 +52,6 @@ protected:
 private:
     int m_interfaceVersion;
     QList<OrvExtension*> m_extensions;
-    /// The extensions ahead of this position are loaded.
+    /// The extensions before this position are loaded.
     qsizetype m_loadedCount = 0;
 };

@@ -22,7 +22,7 @@ namespace {
 
 OrvPluginsManager* theManager = nullptr;
 
-// For calls whose failure changes nothing in what is done next.
+// For calls after whose failure the work goes on as usual.
 template <typename Call>
 void callAndReport(const QString& what, const Call& call)
 {
@@ -40,7 +40,7 @@ QString titled(const OrvExtension& extension, const char* operation)
 
 void unload(OrvPlugin& plugin, const QString& title)
 {
-    // A call that throws leaves out one extension, and the next call goes on behind it.
+    // A call that throws skips one extension, and the next call continues behind it.
     for (qsizetype calls = plugin.getExtensions().size() + 1; calls > 0; --calls) {
         const auto thrown = orvane::guarded([&] { plugin.unload(); });
         if (!thrown)
@@ -165,7 +165,7 @@ void OrvPluginsManager::setActiveProfile(OrvProfile* profile)
 {
     if (profile != nullptr && std::ranges::find(m_profilesList, profile) == m_profilesList.end())
         return;
-    // Nothing may start again: the extensions of a profile are unloaded one after the other.
+    // No extension may be activated again, since they are unloaded one after the other.
     if (m_isUnloading)
         return;
     if (m_isChanging)

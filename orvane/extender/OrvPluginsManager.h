@@ -15,8 +15,8 @@ class OrvProfile;
 
 /// Loads plug-ins and keeps the profiles, of which one is active.
 ///
-/// The application makes the one object. Nothing that goes wrong here ends the tool: failures are values for the caller
-/// to show, and what a running extension throws is caught and posted as an `NxDebugError`. Thread of the user interface
+/// The application makes the only object. No failure here ends the tool: failures are values for the caller to show,
+/// and an exception from a running extension is caught and posted as an `NxDebugError`. Thread of the user interface
 /// only.
 class OrvPluginsManager : public QObject {
     Q_OBJECT
@@ -26,21 +26,21 @@ public:
     [[nodiscard]] static OrvPluginsManager* getInstance();
 
     OrvPluginsManager();
-    /// Stops and unloads whatever is left.
+    /// Stops the active profile and unloads all plug-ins.
     ~OrvPluginsManager() override;
 
-    /// The files in these folders that are plug-ins by their name, `libkal_orvane_extender_*.so`, in the order of the
-    /// folders and, in each, of the names; a file name found before is left out.
+    /// The files in these folders whose name is that of a plug-in, `libkal_orvane_extender_*.so`, in the order of the
+    /// folders and, in each, of the names. A file name that was found before is left out.
     [[nodiscard]] static QStringList findPlugins(const QStringList& folders);
-    /// Loads the library, has it make its plug-in and loads that one, with its extensions. The result is the message of
-    /// the failure, in one line with the file name ahead, or nothing. A plug-in that fails to load is unloaded and
-    /// destroyed again. A library that was mapped stays so until the process ends. If a profile is active, it is made
-    /// effective anew, for the new extensions.
+    /// Loads the library and the plug-in that it makes, with its extensions. Returns the message of the failure, in one
+    /// line that begins with the file name, or nothing. A plug-in that fails to load is unloaded and destroyed again. A
+    /// library that was mapped stays mapped until the process ends. If a profile is active, it is applied again, for
+    /// the new extensions.
     [[nodiscard]] std::optional<QString> loadPlugin(const QString& fileName);
-    /// Loads a plug-in that the caller made and destroys after `unloadPlugins`; at once if this fails.
+    /// Loads a plug-in that the caller made. The caller destroys it after `unloadPlugins`, or at once if this fails.
     [[nodiscard]] std::optional<QString> addPlugin(OrvPlugin* plugin);
-    /// Stops the active profile, unloads the plug-ins in reverse order and has their libraries destroy them. Not to be
-    /// called by an extension.
+    /// Stops the active profile, unloads the plug-ins in reverse order and lets their libraries destroy them. An
+    /// extension must not call it.
     void unloadPlugins();
 
     /// All extensions in the order of registration.
@@ -55,30 +55,30 @@ public:
 
     /// The active profile, or null.
     [[nodiscard]] OrvProfile* getActiveProfile() const noexcept { return m_activeProfile; }
-    /// Makes a profile of the list the active one: deactivates what runs, in reverse order, and activates the
-    /// extensions that the profile runs, in the order of registration; then announces the selection again, so that the
-    /// new docks show it. The profile that is active already is made effective anew. Null only stops. What isn't in the
-    /// list is ignored.
+    /// Makes a profile of the list the active one: deactivates the running extensions in reverse order and activates
+    /// those that the profile runs, in the order of registration; then announces the selection again, so that the new
+    /// docks show it. A profile that is active already is applied again. Null only deactivates. A profile that isn't in
+    /// the list is ignored.
     ///
-    /// May be called by an extension from within one of its own slots: nothing is destroyed in it. What is asked for
-    /// during a change, be it by an extension that is being activated, is done from the event loop; the last wish
-    /// counts. What is asked for while `unloadPlugins` works is ignored.
+    /// An extension may call it from one of its own slots, since nothing is destroyed. A call during a change, for
+    /// example by an extension that is being activated, takes effect from the event loop; the last such call counts. A
+    /// call during `unloadPlugins` is ignored.
     void setActiveProfile(OrvProfile* profile);
 
 Q_SIGNALS:
-    /// The change is complete but for the announcement of the selection; null means that no profile is active.
+    /// The active profile has changed; the selection is announced next. Null means that no profile is active.
     void activeProfileChanged(OrvProfile* profile);
-    /// The profile that has become active names extensions that aren't there (see `OrvProfile::resolve`).
+    /// The new active profile names extensions that don't exist (see `OrvProfile::resolve`).
     void extensionsMissing(const QString& profile, const QStringList& names);
 
 private:
     struct LoadedPlugin {
         OrvPlugin* plugin = nullptr;
-        /// How the messages name it: its file, or its name.
+        /// Its name in messages: the file name, or the plug-in's name.
         QString title;
         /// The library's canonical path; empty for a plug-in that the caller made.
         QString fileName;
-        /// Destroys the plug-in; null where the caller does.
+        /// Destroys the plug-in; null if the caller does so.
         void (*destroy)() = nullptr;
     };
 
@@ -92,11 +92,11 @@ private:
     std::list<LoadedPlugin> m_plugins;
     std::list<std::unique_ptr<OrvProfile>> m_profiles;
     std::list<OrvProfile*> m_profilesList;
-    /// What the active profile runs, in the order of activation.
+    /// The extensions that the active profile runs, in the order of activation.
     QList<OrvExtension*> m_running;
     OrvProfile* m_activeProfile = nullptr;
     bool m_isChanging = false;
     bool m_isUnloading = false;
-    /// The last wish that came in during a change, which may be null.
+    /// The profile of the last call during a change, which may be null.
     std::optional<OrvProfile*> m_wishedProfile;
 };

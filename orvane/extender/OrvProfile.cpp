@@ -14,7 +14,7 @@ namespace {
 
 const QString everything = QStringLiteral("*");
 
-// A profile is a page of text. Whatever is larger is some other file, and isn't worth reading.
+// A profile is a page of text. A larger file is something else, and is refused before it is read.
 constexpr qint64 maximumFileSize = 1 << 20;
 
 bool runsByItself(const OrvExtension* extension)
@@ -56,7 +56,7 @@ QStringList OrvProfile::resolve(const QList<OrvExtension*>& extensions)
         running.append({extension, entry});
         m_settings.emplace(extension, std::make_unique<OrvProfileSetting>());
     }
-    // One entry may hold for several extensions, and it may have many names.
+    // An entry may apply to several extensions, and it may have many names.
     QHash<const Entry*, QSet<OrvExtension*>> controlledBy;
     for (const auto& [extension, entry] : std::as_const(running)) {
         if (!controlledBy.contains(entry))

@@ -18,9 +18,9 @@
 
 class OrvExtension;
 
-/// A profile says which extensions run by themselves, and which extensions each of them controls.
+/// A profile lists the extensions that run by themselves, and the extensions that each of them controls.
 ///
-/// It is written by names and becomes effective with `resolve`, when the extensions are there.
+/// It holds names until `resolve` finds the extensions.
 class OrvProfile {
 public:
     using Entry = OrvProfileEntry;
@@ -30,22 +30,22 @@ public:
 
     [[nodiscard]] VbString getName() const;
 
-    /// Turns the names into settings for these extensions, in place of the present settings, which are destroyed. Only
-    /// an extension that is no `OrvEditor` runs by itself, and none controls itself. The result names what the profile
-    /// asks for and isn't there, each name once. Only the manager may call this for a profile that it keeps.
+    /// Makes settings for these extensions from the names, and destroys the former settings. Only an extension that is
+    /// no `OrvEditor` runs by itself, and none controls itself. Returns the names in the profile that no extension has,
+    /// each once. For a profile that the manager keeps, only the manager may call it.
     QStringList resolve(const QList<OrvExtension*>& extensions);
-    /// The setting of an extension that runs by itself, or null when this profile doesn't run it.
+    /// The setting of an extension that runs by itself, or null if this profile doesn't run it.
     [[nodiscard]] OrvProfileSetting* getSetting(const OrvExtension* extension) const;
 
-    /// A profile read from JSON, or the message that says what is wrong and where.
+    /// A profile read from JSON, or a message that says what is wrong and where.
     struct ReadResult {
         std::unique_ptr<OrvProfile> profile;
         QString error;
     };
-    /// Reads a profile file; the format is told in docs/profiles.md. The message of a failure is one line, "file: what
+    /// Reads a profile file; docs/profiles.md describes the format. The message of a failure is one line, "file: what
     /// is wrong" or "file:line:column: what is wrong".
     [[nodiscard]] static ReadResult read(const QString& fileName);
-    /// The same from the content; the file name only serves the message.
+    /// The same from the content; the file name is used in messages only.
     [[nodiscard]] static ReadResult fromJson(const QByteArray& json, const QString& fileName);
 
 private:

@@ -7,7 +7,8 @@ class OrvExtension;
 /// The settings of one extension in one profile: which extensions it controls.
 class OrvProfileSetting {
 public:
-    /// In order of address. A controlled extension that runs by itself comes with its own setting, any other with null.
+    /// By ascending address. A controlled extension that runs by itself is mapped to its own setting, any other to
+    /// null.
     using ControlledExtensions = std::map<OrvExtension*, OrvProfileSetting*>;
 
     [[nodiscard]] const ControlledExtensions& getControlledExtensions() const noexcept { return m_controlled; }

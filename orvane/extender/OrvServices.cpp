@@ -14,7 +14,7 @@ OrvServices* theServices = nullptr;
 
 } // namespace
 
-// Emits historyChanged if what happens during its life changes one of the answers.
+// Emits historyChanged if one of the results has changed during its life.
 class OrvServices::HistoryChange {
 public:
     explicit HistoryChange(OrvServices& services)

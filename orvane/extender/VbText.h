@@ -7,8 +7,8 @@
 
 namespace orvane {
 
-// Text crosses as UTF-16, Qt's own form, so that the toolkit is the one that judges what is valid: a lone surrogate
-// becomes U+FFFD. Names cross as Latin-1, which is all that a name can hold.
+// Texts are passed as UTF-16, Qt's own form, so that only the toolkit decides what is valid: a lone surrogate becomes
+// U+FFFD. Names are passed as Latin-1, which is all that a name can hold.
 
 /// The toolkit's text as Qt's, NUL characters included; null for a null text.
 [[nodiscard]] inline QString toQString(const VbString& text)

@@ -5,21 +5,22 @@
 #include <streambuf>
 #include <string>
 
-/// Takes over the buffer of an output stream for as long as it lives, and gives all that is written there to a
-/// callback.
+/// Replaces the buffer of an output stream while it lives, and passes everything that is written there to a callback.
+/// The callback runs on the thread that writes, and nothing is locked.
 ///
-/// There are two ways, which don't keep the order of the characters between them: what is put character by character
-/// waits for the end of its line, what comes as a block goes out at once. That is meant, and so is that flushing sends
-/// nothing on. The callback runs on the thread that writes, and nothing is locked.
+/// Contract: single characters wait for the end of their line, while a block is passed on at once, so the order between
+/// them isn't kept.
+/// Contract: flushing passes nothing on.
 template <typename Elem, typename Traits>
 class StdStreamRedirector : public std::basic_streambuf<Elem, Traits> {
 public:
     using int_type = typename Traits::int_type;
-    /// Takes a text. A line that was put character by character ends in a NUL and comes without its line end, and
-    /// its `count` is always 1. A block is what the writer gave, of `count` characters, and need not end in a NUL.
+    /// Takes a text: either a line of single characters, which ends in a NUL and has no line end, or a block of `count`
+    /// characters, which need not end in a NUL.
+    /// Contract: the count of a line is always 1.
     using Callback = void (*)(const Elem* text, std::streamsize count, void* userData);
 
-    /// The stream must outlive the redirector, or the former buffer can't be given back.
+    /// The stream must outlive the redirector, which puts the former buffer back.
     StdStreamRedirector(std::basic_ostream<Elem, Traits>& stream, Callback callback, void* userData)
         : m_stream(&stream)
         , m_previousBuffer(stream.rdbuf(this))
@@ -27,7 +28,7 @@ public:
         , m_userData(userData)
     {
     }
-    /// Gives the stream its former buffer back. A line that hasn't ended is dropped.
+    /// Puts the stream's former buffer back. Contract: a line that hasn't ended is dropped.
     ~StdStreamRedirector() override { m_stream->rdbuf(m_previousBuffer); }
     StdStreamRedirector(const StdStreamRedirector&) = delete;
     StdStreamRedirector& operator=(const StdStreamRedirector&) = delete;
@@ -35,7 +36,7 @@ public:
 protected:
     int_type overflow(int_type character) override
     {
-        // The end-of-file value isn't told from others: it adds the byte 0xFF to the line.
+        // Contract: the end-of-file value isn't distinguished; it adds the byte 0xFF to the line.
         const Elem element = Traits::to_char_type(character);
         if (element == Elem('\n')) {
             m_callback(m_line.c_str(), 1, m_userData);

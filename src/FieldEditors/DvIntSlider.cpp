@@ -60,7 +60,7 @@ void DvIntSlider::readValueFromEdit()
 {
     bool ok = false;
     int value = m_edit->text().toInt(&ok, m_radix);
-    // A text that is no number is read as 0 and goes its way. A decimal one has passed the validator.
+    // Contract: a text that is no number is read as 0. A decimal one has passed the validator.
     if (ok && m_radix != 10)
         value = limited(value, m_validator->bottom(), m_validator->top());
 
@@ -77,6 +77,6 @@ void DvIntSlider::setValueFromPosition(int position)
 
 void DvIntSlider::saveCommandValue()
 {
-    // Without the prefix of the radix, unlike an unsigned slider. Both are meant.
+    // Contract: without the prefix of the radix, unlike an unsigned slider.
     setCommandValue(QString::number(m_value, m_radix));
 }

@@ -11,13 +11,14 @@ public:
     DvIntSlider(int kind, int mode, OrvFieldEditors* owner, QWidget* parent, int row = 0, int column = 1);
     ~DvIntSlider() override;
 
-    /// Sets the range within the bounds of the type. Bounded, it limits what can be typed; otherwise it grows to any
-    /// value that comes.
+    /// Sets the range within the bounds of the type. A bounded range limits what can be typed; any other grows to any
+    /// value.
     void setRange(int lower, int upper, bool bounded);
     [[nodiscard]] int value() const { return m_value; }
 
-    /// Takes a value in its text form. The first one decides for good whether the line is decimal, with a validator,
-    /// or octal or hexadecimal, without one.
+    /// Takes a value in its text form.
+    /// Contract: the first text decides for ever whether the line is decimal, with a validator, or octal or
+    /// hexadecimal, without one.
     void setValueText(QString text) override;
 
 protected:

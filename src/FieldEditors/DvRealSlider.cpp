@@ -9,8 +9,8 @@ namespace {
 
 constexpr double steps = 100.0;
 
-/// Cuts the fraction off. What no int can hold, not-a-number included, becomes the smallest int: equal bounds rely on
-/// it, and the language itself leaves such a conversion undefined.
+/// Cuts the fraction off. A number outside the range of an int, or no number, becomes the smallest int: equal bounds
+/// rely on it, and the language leaves such a conversion undefined.
 int truncate(double number)
 {
     constexpr double limit = 2147483648.0;
@@ -46,7 +46,7 @@ void DvRealSlider::setRange(double lower, double upper, bool bounded)
         setSliderRange(positionOf(lower), positionOf(upper));
         return;
     }
-    // The validator stays as it is, with the bounds of the last bounded range if there was one.
+    // Contract: the validator stays as it is, with the bounds of the last bounded range.
     setSliderMaximum(positionOf(upper));
     m_min = lower;
     setSliderMinimum(positionOf(lower));

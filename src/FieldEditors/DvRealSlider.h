@@ -11,13 +11,13 @@ public:
     DvRealSlider(int mode, OrvFieldEditors* owner, QWidget* parent, bool isFloat = true, int row = 0, int column = 1);
     ~DvRealSlider() override;
 
-    /// Sets the range. Bounded, it limits what can be typed; otherwise it grows to any value that comes.
+    /// Sets the range. A bounded range limits what can be typed; any other grows to any value.
     void setRange(double lower, double upper, bool bounded);
     [[nodiscard]] double lowerBound() const { return m_min; }
     [[nodiscard]] double upperBound() const { return m_max; }
     [[nodiscard]] bool isBounded() const { return m_bounded; }
 
-    /// Shows a value and holds what its text reads back as, so a float is rounded to six decimals.
+    /// Shows a value and keeps the number that its text reads as, so a float is rounded to six decimals.
     void setValue(double value);
     [[nodiscard]] double value() const { return m_value; }
 

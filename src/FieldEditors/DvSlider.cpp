@@ -95,7 +95,7 @@ void DvSlider::setEditText(const QString& text)
 
 QString DvSlider::withoutPrefix(const QString& text) const
 {
-    // By the radix alone: a text that comes without a prefix loses its first digits. That is meant.
+    // Contract: by the radix alone, so a text without a prefix loses its first digits.
     switch (m_radix) {
     case 8:
         return text.mid(1);
@@ -141,8 +141,8 @@ void DvSlider::setSliderRange(int minimum, int maximum)
 
 void DvSlider::changeValueFromEdit()
 {
-    // Return comes here twice. Nothing but the modified flag tells whether there is something to do, and it is the
-    // owner's refresh that clears it.
+    // Contract: Return calls this twice, so it notifies twice unless the owner's refresh clears the modified flag
+    // first.
     if (!edited())
         return;
 

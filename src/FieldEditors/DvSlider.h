@@ -12,28 +12,28 @@ class QHBoxLayout;
 class QLineEdit;
 class QSlider;
 
-/// The frame of check box, slider and line edit that shows one number and tells its owner when the user changes it.
+/// A frame of check box, slider and line edit that shows one number and notifies its owner when the user changes it.
 ///
-/// It never touches a field. The check box decides whether each step of a drag goes to the owner or the release alone.
-/// The value itself, its range and its text lie in the subclasses.
+/// It never accesses a field. The check box decides whether the owner is notified of each step of a drag or only of the
+/// release. The subclasses hold the value, its range and its text.
 class DvSlider : public QFrame {
     Q_OBJECT
 
 public:
-    /// How a change reaches the owner: by `applyChanges`, or by `setCellValue` for the slider's row and column.
+    /// How the owner is notified of a change: by `applyChanges`, or by `setCellValue` for the slider's row and column.
     enum Mode { FieldEditor = 0, TableCell = 1 };
 
     DvSlider(int mode, OrvFieldEditors* owner, QWidget* parent, int row = 0, int column = 1);
     ~DvSlider() override;
 
-    /// True when the line holds typed text that hasn't been rewritten since.
+    /// True if the line holds typed text that hasn't been replaced since.
     [[nodiscard]] bool edited() const;
     /// The line's text with the prefix of its radix.
     [[nodiscard]] QString editText() const;
     [[nodiscard]] QLineEdit* edit() const { return m_edit; }
     /// True from the press of the slider to its release or its first step.
     [[nodiscard]] bool isInDrag() const { return m_inDrag; }
-    /// The value as text at the moment a drag began; null otherwise. A command that takes it makes it null.
+    /// The text of the value when a drag began; null otherwise. A command that takes it makes it null.
     [[nodiscard]] VbString& commandValue() { return m_commandValue; }
 
     /// Takes a value in its text form, as an integer field writes it. Does nothing in a real slider.
@@ -49,15 +49,15 @@ protected:
     /// Puts the value as text into `m_commandValue`.
     virtual void saveCommandValue();
 
-    /// `std::clamp` for bounds that may stand the wrong way round.
+    /// Like `std::clamp`, but the lower bound may exceed the upper one.
     template <typename Value>
     [[nodiscard]] static Value limited(Value value, Value lower, Value upper)
     {
         return std::min(std::max(value, lower), upper);
     }
 
-    /// What a typed value comes out as: a bounded range limits it, an unbounded one grows to it and takes the slider
-    /// along.
+    /// The value that a typed one results in: a bounded range limits it; an unbounded one grows to it, and so does that
+    /// of the slider.
     template <typename Value, typename PositionOf>
     [[nodiscard]] Value fitted(Value value, Value& lower, Value& upper, bool bounded, PositionOf positionOf)
     {
@@ -74,15 +74,15 @@ protected:
         return value;
     }
 
-    /// Shows a text, takes its value and brings the slider in line.
+    /// Shows a text, takes its value and moves the slider to it.
     void takeText(const QString& text);
-    /// Rewrites the line, which clears its modified flag, and shows the beginning of a long text.
+    /// Sets the line's text, which clears its modified flag, and shows the beginning of a long text.
     void setEditText(const QString& text);
-    /// An integer's text without the prefix that `m_radix` stands for.
+    /// An integer's text without the prefix of `m_radix`.
     [[nodiscard]] QString withoutPrefix(const QString& text) const;
     void setCommandValue(const QString& text);
 
-    /// Brings the slider to `m_position`. The frame's own moves, those of a range change included, tell nobody.
+    /// Moves the slider to `m_position`. Moves by the frame itself, also by a change of the range, notify nobody.
     void moveSliderSilently();
     void setSliderMinimum(int minimum);
     void setSliderMaximum(int maximum);

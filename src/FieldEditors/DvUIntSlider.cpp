@@ -80,6 +80,6 @@ void DvUIntSlider::setValueFromPosition(int position)
 
 void DvUIntSlider::saveCommandValue()
 {
-    // With the prefix of the radix, unlike a signed slider. Both are meant.
+    // Contract: with the prefix of the radix, unlike a signed slider.
     setCommandValue(editText());
 }

@@ -15,7 +15,7 @@ namespace orvane {
 
 namespace {
 
-// Each editor has buttons with the same pictures, whose text takes longer to read than the button to make.
+// All editors have buttons with the same pictures. Parsing one takes longer than making its button.
 QPixmap picture(const char* const* xpm)
 {
     const QString key = QStringLiteral("orvane/editor-icon/%1").arg(reinterpret_cast<quintptr>(xpm));

@@ -4,15 +4,15 @@ class NxField;
 class NxMField;
 class VbString;
 
-// What a user's action does to a field: the field is written first, and only then is the command built and pushed. So a
-// command that reads the field for what its undo restores finds the new value there, and its undo changes nothing. That
-// is meant: only a snapshot of the value, the ignored flag and the structural commands of lists can be undone.
+// How a user's action changes a field: the field is written first, then the command is built and pushed.
+// Contract: a command that reads the field for its undo finds the new value there, so its undo changes nothing. Only a
+// snapshot of the value, the ignored flag and the commands that add, remove and swap rows can be undone.
 namespace orvane {
 
 /// Pushes the command of a value that has just been written to the field; its undo writes that same value.
 void pushSetValueCommand(NxField* field);
-/// The same with a snapshot of the former value in text form, which is what undo writes. It serves one command and is
-/// null afterwards. An empty snapshot counts as none.
+/// The same with the text of the former value, which undo writes. It is null afterwards, so that it serves one command
+/// only. An empty text counts as none.
 void pushSetValueCommand(NxField* field, VbString& previousValue);
 
 /// Pushes the command of a row that has just been written to the list; its undo writes that same value.
@@ -29,7 +29,7 @@ void setFieldIgnored(NxField* field, bool ignored);
 /// Gives the field the value that it has in a new instance of its container's class, then pushes the command. Does
 /// nothing without a field, and for a field that has no container or whose class makes no instances.
 ///
-/// The new instance is neither referenced nor released. Each call leaves one behind, and that is meant.
+/// Contract: the new instance is neither referenced nor released, so each call leaves one behind.
 void setDefaultFieldValue(NxField* field);
 
 } // namespace orvane

@@ -24,7 +24,7 @@ void OrvFieldEditors::activate()
     OrvExtension::activate();
     auto* const field = dynamic_cast<NxField*>(m_editedObject);
     if (field == nullptr) {
-        m_frame->hide(); // which the dock showed by taking it in
+        m_frame->hide(); // QDockWidget::setWidget has shown it
         return;
     }
     setField(field);

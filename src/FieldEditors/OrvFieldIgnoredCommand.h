@@ -10,7 +10,7 @@ public:
     OrvFieldIgnoredCommand(NxField* field, bool ignored);
 
     void execute() override;
-    /// Sets the opposite state, whatever the flag was before.
+    /// Contract: sets the opposite state, whatever the flag was before.
     void undo() override;
     void redo() override;
     ~OrvFieldIgnoredCommand() override;

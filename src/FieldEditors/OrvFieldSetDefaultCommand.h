@@ -9,8 +9,8 @@ class NxField;
 /// A field of any kind that was given its default. The field isn't owned and must outlive the command.
 class OrvFieldSetDefaultCommand final : public OrvCommand {
 public:
-    /// Takes the texts of both fields and doesn't keep `defaultField`. Undo writes the text that `field` has now: a
-    /// caller that has written the default before gets an undo that leaves it there.
+    /// Reads the texts of both fields and doesn't keep `defaultField`.
+    /// Contract: undo writes the text that `field` has now, so it keeps a default that was written before.
     OrvFieldSetDefaultCommand(NxField* field, const NxField* defaultField);
 
     void execute() override;
@@ -20,7 +20,7 @@ public:
 
 private:
     NxField* m_field;
-    [[maybe_unused]] bool m_isMultiValue; // for whoever looks at the history; no code needs it
+    [[maybe_unused]] bool m_isMultiValue; // no code reads it
     VbString m_defaultValue;
     VbString m_previousValue;
 };

@@ -18,7 +18,8 @@ void OrvMFAddRowsCommand::execute()
 {
     m_added = orvane::openRows(*m_field, m_start, m_count);
     if (m_added) {
-        // A string takes it as empty. Other kinds mostly refuse it and keep what the new row holds. That is meant.
+        // Contract: every kind of list gets this text. Strings become empty; most others refuse it and keep the value
+        // of the new row.
         const VbString empty("\"\"");
         for (int row = m_start; row < m_start + m_count; ++row)
             m_field->set1(row, empty);

@@ -29,7 +29,7 @@ void OrvMFDeleteRowsCommand::undo()
     if (!orvane::openRows(*m_field, m_start, m_count))
         return;
     m_deleted = false;
-    // The writes reach the sensors; unlike for new rows there is no call for the whole list, and that is meant.
+    // Contract: the sensors are notified by each write, and not of the whole list as for new rows.
     for (int i = 0; i < m_count; ++i)
         m_field->set1(m_start + i, m_values[static_cast<std::size_t>(i)]);
 }

@@ -8,14 +8,14 @@
 
 class NxMField;
 
-/// Rows that go from a list: the command itself makes the change. The field isn't owned and must outlive the command.
+/// Removes rows from a list: the command itself makes the change. The field isn't owned and must outlive the command.
 class OrvMFDeleteRowsCommand final : public OrvCommand {
 public:
     /// Saves the texts of `count` rows from `start` on.
     OrvMFDeleteRowsCommand(NxMField* field, int start, int count);
 
     void execute() override;
-    /// Puts the rows back with their saved text. What doesn't fit in memory any more stays away.
+    /// Puts the rows back with their saved text. Rows that no longer fit in memory stay removed.
     void undo() override;
     void redo() override;
     ~OrvMFDeleteRowsCommand() override;
@@ -25,5 +25,5 @@ private:
     std::unique_ptr<VbString[]> m_values;
     int m_start;
     int m_count;
-    bool m_deleted = false; // the rows are away: a redo has nothing to remove
+    bool m_deleted = false; // the rows are removed: a redo has nothing to do
 };

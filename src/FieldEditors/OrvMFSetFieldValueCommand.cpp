@@ -6,7 +6,7 @@ OrvMFSetFieldValueCommand::OrvMFSetFieldValueCommand(NxMField* field, int row)
     : m_field(field)
     , m_row(row)
 {
-    // The same row into both: meant.
+    // Contract: both texts are those of the row as it is now.
     m_field->get1(row, m_oldValue);
     m_field->get1(row, m_newValue);
 }

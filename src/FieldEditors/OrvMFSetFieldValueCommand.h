@@ -6,9 +6,9 @@
 
 class NxMField;
 
-/// A row that the caller has written before it built this command, so undo writes the value that stands there already.
-/// That is meant: the command has no memory of what was there before. The field isn't owned and must outlive the
-/// command.
+/// A row that the caller has written before it built this command. The field isn't owned and must outlive the command.
+///
+/// Contract: undo writes the new value again, since the command doesn't know the former one.
 class OrvMFSetFieldValueCommand final : public OrvCommand {
 public:
     OrvMFSetFieldValueCommand(NxMField* field, int row);

@@ -10,11 +10,11 @@ class NxMField;
 /// command.
 class OrvMFSetValueCommand final : public OrvCommand {
 public:
-    /// `previousValue` is what undo is to write, in text form. It is consumed: null afterwards, so that it serves one
-    /// command. When it is empty or null, undo writes the text that the row has now.
+    /// `previousValue` is the text that undo writes. It is null afterwards, so that it serves one
+    /// command only. When it is empty or null, undo writes the text that the row has now.
     OrvMFSetValueCommand(NxMField* field, int row, VbString& previousValue);
 
-    /// Only captures what the field has made of the value.
+    /// Only reads the text that the field now has.
     void execute() override;
     void undo() override;
     void redo() override;

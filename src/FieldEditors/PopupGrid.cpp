@@ -15,9 +15,9 @@
 
 namespace {
 
-/// A popup that the click on its own button only closes: passed on, the click would open it again. When it closes, its
-/// line loses the focus at once, even if no other widget takes it, so that what was typed is written to the field that
-/// the popup was opened for.
+/// A click on the popup's own button closes it. It isn't passed on to the button, which would open the popup again.
+/// When the popup closes, its line loses the focus at once, even if no other widget takes it, so that a typed text is
+/// written to the field for which the popup was opened.
 class GridFrame final : public QFrame {
 public:
     GridFrame(QWidget* parent, const QWidget* button)

@@ -5,8 +5,8 @@ class NxMField;
 // Changes of rows that more than one command or editor makes.
 namespace orvane {
 
-/// Opens `count` rows of a list at `start`. False when they don't fit in memory, which the toolkit reports: then the
-/// rows that stand there hold values that must not be written over.
+/// Inserts `count` rows into a list at `start`. False if they don't fit in memory, which the toolkit reports: the rows
+/// at `start` are then the former ones and must not be overwritten.
 [[nodiscard]] bool openRows(NxMField& field, int start, int count);
 
 /// Exchanges two rows through their text form.

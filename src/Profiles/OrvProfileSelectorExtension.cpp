@@ -15,7 +15,7 @@ namespace {
 
 void appendProfile(QComboBox& comboBox, const OrvProfile& profile)
 {
-    // Latin-1 that is read as UTF-8: a name outside ASCII comes out wrong. That is meant.
+    // Contract: Latin-1 is read as UTF-8, so a name outside ASCII is shown wrong.
     const QString name = QString::fromUtf8(profile.getName().toLatin1());
     comboBox.insertItem(comboBox.count(), QIcon(), name, QVariant());
 }
@@ -49,12 +49,12 @@ void OrvProfileSelectorExtension::activate()
     shell->addToolBar(m_toolBar, Qt::TopToolBarArea);
     shell->announceExtension(this, 1);
     show();
-    OrvExtension::activate(); // last of all, unlike elsewhere
+    OrvExtension::activate(); // Contract: last, unlike in other extensions.
 }
 
 void OrvProfileSelectorExtension::deactivate()
 {
-    // The tool bar isn't hidden, unlike the docks: it goes out of the window.
+    // The tool bar isn't hidden here, unlike the docks. It is removed from the window.
     OrvExtension::deactivate();
     disconnect(m_comboBox, &QComboBox::currentIndexChanged, this, &OrvProfileSelectorExtension::s_currentIndexChanged);
     OrvShell* const shell = OrvShell::getInstance();
@@ -89,8 +89,8 @@ void OrvProfileSelectorExtension::unload()
     delete std::exchange(m_toolBar, nullptr);
 }
 
-/// Every profile that is passed on the way, the chosen one included, is listed once more at the end; only the next
-/// `activate` makes the list plain again. That is meant. A repeated entry stands for no profile.
+/// Contract: every profile up to the chosen one is appended to the list again, until the next `activate`. Choosing such
+/// a repeated entry changes no profile.
 void OrvProfileSelectorExtension::s_currentIndexChanged(int index)
 {
     OrvPluginsManager* const manager = OrvPluginsManager::getInstance();

@@ -5,10 +5,10 @@
 class QComboBox;
 class QToolBar;
 
-/// A tool bar at the top that lists the profiles and makes the one that the user picks the active one.
+/// A tool bar at the top that lists the profiles. The profile that the user chooses becomes the active one.
 ///
-/// The list is made at each `activate`, and a profile is told by its place in it. What changes elsewhere shows at the
-/// next `activate` only.
+/// `activate` makes the list, and a profile is found by its position in it. Later changes of the profiles are shown at
+/// the next `activate` only.
 class OrvProfileSelectorExtension final : public OrvExtension {
     Q_OBJECT
 

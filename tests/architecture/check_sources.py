@@ -148,6 +148,21 @@ def units_include_no_circles(project, sources, includes):
             yield f'there is no such circle any more ("{reason}"): take it off the list'
 
 
+def contract_is_documented(project, sources, includes):
+    """Each file with a rule of the contract is in docs/contract.md, and the tests that are named there exist."""
+    rules = re.findall(r"^\| (`.+?) \| .+ \| (`[^|]+`) \|$", (project / "docs" / "contract.md").read_text(), re.MULTILINE)
+    classes = {name for rule, _ in rules for name in re.findall(r"`(\w+)`", rule)}
+    for path in sources:
+        if path.startswith(("meridane/", "orvane/", "src/")) and "Contract: " in (project / path).read_text():
+            if Path(path).stem not in classes:
+                yield f"{path} has a rule of the contract, but docs/contract.md has none of {Path(path).stem}"
+    for _, test in rules:
+        file, function = re.fullmatch(r"`(.+)` `(\w+)`", test).groups()
+        path = project / "tests" / "plugin" / file
+        if not path.exists() or f"::{function}()" not in path.read_text():
+            yield f"docs/contract.md names {file} {function}, which doesn't exist"
+
+
 def strongly_connected(edges):
     """The strongly connected parts of a graph, found by Tarjan's algorithm without recursion."""
     index, low, stack, on_stack, parts = {}, {}, [], set(), []
@@ -181,7 +196,8 @@ def strongly_connected(edges):
     return parts
 
 
-RULES = [folders_hold_few_files, files_are_short, rooms_are_layered, private_headers_stay_private, units_include_no_circles]
+RULES = [folders_hold_few_files, files_are_short, rooms_are_layered, private_headers_stay_private, units_include_no_circles,
+         contract_is_documented]
 
 
 def main():

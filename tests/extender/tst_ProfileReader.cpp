@@ -31,7 +31,7 @@ private Q_SLOTS:
         QCOMPARE(missing.last(), QString::number(count - 1));
         // One that comes twice is still found.
         result = read("{\"name\": \"P\", \"extensions\": {\"a\": [" + controlled + ", \"7\"]}}");
-        QVERIFY2(result.error.endsWith(u"\"7\" stands twice in the list"_s), qPrintable(result.error));
+        QVERIFY2(result.error.endsWith(u"\"7\" is in the list twice"_s), qPrintable(result.error));
     }
 
     void aBadProfileIsRefusedWithItsPlace_data()
@@ -84,12 +84,12 @@ private Q_SLOTS:
         row("unknown key of great length", "{\"" + QByteArray(5000, 'k') + "\": 1}",
             "1:2: a profile has a \"name\" and \"extensions\", but no "
             "\"kkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkk\u2026\"");
-        row("name twice", R"({"name": "P", "name": "Q"})", "1:15: \"name\" stands here for the second time");
+        row("name twice", R"({"name": "P", "name": "Q"})", "1:15: \"name\" occurs here for the second time");
         row("extension twice", R"({"extensions": {"a": true, "a": true}})",
-            "1:28: \"a\" stands here for the second time");
+            "1:28: \"a\" occurs here for the second time");
         row("extension twice by escape", R"({"extensions": {"a": true, "\u0061": true}})",
-            "1:28: \"a\" stands here for the second time");
-        row("star twice", R"({"extensions": {"*": true, "*": []}})", "1:28: \"*\" stands here for the second time");
+            "1:28: \"a\" occurs here for the second time");
+        row("star twice", R"({"extensions": {"*": true, "*": []}})", "1:28: \"*\" occurs here for the second time");
         // Values.
         row("empty name", R"({"name": ""})", "1:10: the profile's name is empty");
         row("blank name", R"({"name": " \t"})", "1:10: the profile's name is empty");
@@ -107,7 +107,7 @@ private Q_SLOTS:
         row("controlled is a boolean", R"({"extensions": {"a": [true]}})",
             "1:23: expected the name of an extension, and found true");
         row("controlled without a name", R"({"extensions": {"a": [""]}})", "1:23: the name of an extension is empty");
-        row("controlled twice", R"({"extensions": {"a": ["b", "b"]}})", "1:28: \"b\" stands twice in the list");
+        row("controlled twice", R"({"extensions": {"a": ["b", "b"]}})", "1:28: \"b\" is in the list twice");
         row("controls itself", R"({"extensions": {"a": ["b", "a"]}})", "1:28: \"a\" can't control itself");
         row("deeply nested", R"({"extensions": {"a": )" + QByteArray(100000, '['),
             "1:23: expected the name of an extension, and found a list");

@@ -19,7 +19,7 @@ DelayQueuePump::DelayQueuePump(NxDelayQueue& queue, std::chrono::nanoseconds sli
     : m_queue(queue)
     , m_slice(slice)
 {
-    // The queue calls once until the next pass begins, so one event is under way at most.
+    // The queue calls once until the next pass begins, so at most one event is posted.
     const auto postEvent = [](void* pump) {
         QCoreApplication::postEvent(static_cast<DelayQueuePump*>(pump), new QEvent(pumpEventType()));
     };
@@ -35,7 +35,8 @@ bool DelayQueuePump::event(QEvent* event)
 {
     if (event->type() != pumpEventType())
         return QObject::event(event);
-    // With sensors left over, the queue wakes us again, and the new event waits for the next turn of the event loop.
+    // If sensors are left, the queue wakes the pump again, and the new event is handled in the next turn of the event
+    // loop.
     m_queue.process(m_slice);
     return true;
 }

@@ -6,14 +6,14 @@
 
 class NxDelayQueue;
 
-/// Runs a delay queue from the event loop: answers its wake-up call with one posted event, and processes the queue, for
-/// a bounded time, when the event arrives. So a sensor is called soon, and never inside the call that changed its
-/// field.
+/// Processes a delay queue from the event loop: when the queue wakes it, it posts one event, and when the event
+/// arrives, it processes the queue for a limited time. So a sensor is called soon, and never inside the call that
+/// changed its field.
 ///
-/// A queue has one pump at a time. Lives on the thread that owns the scene.
+/// A queue has one pump at a time. Thread of the scene only.
 class DelayQueuePump : public QObject {
 public:
-    /// How long one event may take before input and painting get their turn.
+    /// The longest time for one event, so that input and painting aren't delayed.
     static constexpr std::chrono::milliseconds defaultSlice{8};
 
     explicit DelayQueuePump(NxDelayQueue& queue, std::chrono::nanoseconds slice = defaultSlice);

@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-/// Calls a plug-in's code and tells what it threw, for nothing may cross its border.
+/// Calls a plug-in's code and returns the message of an exception, since none may leave the plug-in.
 template <typename Call>
 [[nodiscard]] std::optional<QString> guarded(const Call& call)
 {

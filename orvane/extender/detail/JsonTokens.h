@@ -4,7 +4,7 @@
 
 namespace orvane {
 
-/// Where something stands in a text; both count from 1, the column in characters.
+/// A position in a text; both numbers count from 1, the column in characters.
 struct TextPosition {
     int line = 1;
     int column = 1;
@@ -25,24 +25,25 @@ struct JsonToken {
         Null,
         Number,
         End,
-        /// What is no JSON; `text` holds it.
+        /// A character that isn't part of JSON; `text` holds it.
         Unknown,
-        /// A text that is wrong inside; `text` tells what is wrong.
+        /// A token with an error inside; `text` describes the error.
         Bad,
     };
 
     Kind kind = Kind::End;
     TextPosition position;
-    /// The content of a string; empty where nothing else is told.
+    /// The content of a string, or as the kind says; else empty.
     QString text;
 };
 
-/// Splits a JSON text into its tokens and tells where each of them stands, which QJsonDocument doesn't.
+/// Splits a JSON text into tokens with their positions. QJsonDocument reports neither the position of a key nor a key
+/// that occurs twice.
 class JsonTokens {
 public:
     explicit JsonTokens(const QString& text);
 
-    /// The next token. Behind the last one it is `End` each time.
+    /// The next token. After the last one it is always `End`.
     [[nodiscard]] JsonToken next();
 
 private:
@@ -55,7 +56,7 @@ private:
     QString m_text;
     qsizetype m_at = 0;
     TextPosition m_position;
-    /// Where the token begins that is being read.
+    /// The position of the current token's first character.
     TextPosition m_start;
 };
 

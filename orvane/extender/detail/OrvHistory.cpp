@@ -14,18 +14,18 @@
 
 namespace {
 
-// What a step takes without its commands, and a command without its texts.
+// The memory of a step without its commands, and of a command without its texts.
 constexpr std::size_t bytesPerStep = 320;
 constexpr std::size_t bytesPerCommand = 64;
 constexpr std::size_t bytesPerText = 48;
-// A value of four bytes takes up to sixteen characters with its separator; others take less for a byte.
+// A value of four bytes has up to sixteen characters with its separator; others have fewer for each byte.
 constexpr std::size_t textBytesPerValueByte = 4;
 
 } // namespace
 
-// Estimates what a command holds, from the field before the command's execution and after it. A command on a single
-// value keeps two texts of it. One on a list keeps two texts of a row, and the texts of the rows that it removes.
-// The execution may destroy the field.
+// Estimates the memory of a command from the field before the execution and after it. A command on a single value keeps
+// two texts of it. One on a list keeps two texts of a row, and the texts of the rows that it removes. The execution may
+// destroy the field.
 class OrvHistory::CommandBytes {
 public:
     explicit CommandBytes(NxField* field)
@@ -101,7 +101,7 @@ public:
         return true;
     }
 
-    // Takes in a command that is pushed while one of this step is executed, and executes it.
+    // Adds a command that is pushed while one of this step is executed, and executes it.
     void executeInside(std::unique_ptr<OrvCommand> command, const Context& context)
     {
         const CommandBytes estimate(context.field);
@@ -109,7 +109,7 @@ public:
         execute(estimate);
     }
 
-    // Destroys the commands, then gives up the nodes that they referred to.
+    // Destroys the commands, then releases the nodes that they referred to.
     void empty()
     {
         m_commands = std::vector<std::unique_ptr<OrvCommand>>();
@@ -152,12 +152,12 @@ private:
     int m_action;
     std::size_t m_bytes = 0;
     bool m_isEmptied = false;
-    // Behind the nodes, so that the commands die first.
+    // Declared after the nodes, so that the commands are destroyed first.
     std::vector<NxRef<NxFieldContainer>> m_nodes;
     std::vector<std::unique_ptr<OrvCommand>> m_commands;
 };
 
-// Marks what the history is doing, so that a command that calls back is told apart.
+// Records what the history is doing, so that a call by a command is recognised.
 class OrvHistory::Working {
 public:
     Working(OrvHistory& history, Work work)
@@ -187,7 +187,7 @@ OrvHistory::OrvHistory()
 
 OrvHistory::~OrvHistory()
 {
-    // While the members that the steps report to are still there.
+    // Here, while the members that the steps use still exist.
     m_stack.clear();
 }
 
@@ -263,7 +263,7 @@ void OrvHistory::setLimit(std::size_t bytes)
         trim();
 }
 
-// The newest step stays, whatever its size: the change that was made last can always be taken back.
+// The newest step stays, whatever its size, so that the last change can always be undone.
 void OrvHistory::trim()
 {
     while (m_bytes > m_limit && m_emptySteps < m_stack.index() - 1)
@@ -272,6 +272,6 @@ void OrvHistory::trim()
 
 OrvHistory::Step* OrvHistory::stepAt(int index) const
 {
-    // The stack hands its commands out as constants, although it only keeps them for us.
+    // The stack returns its commands as constants, although it got them from here.
     return static_cast<Step*>(const_cast<QUndoCommand*>(m_stack.command(index)));
 }

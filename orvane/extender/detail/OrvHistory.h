@@ -12,14 +12,15 @@ class OrvCommand;
 /// The undo history: an undo stack of steps, each of which holds the commands of one action of the user, the nodes that
 /// they may refer to, and an estimate of its memory.
 ///
-/// The stack cannot give up its oldest steps by memory, so the steps beyond the bound stay in it without commands, at
-/// the bottom, and count as gone. What a command pushes while it is executed belongs to its step; what it pushes while
-/// it is undone or redone is executed and not kept, for keeping it would cut off the steps that can still be redone.
+/// The stack can't drop its oldest steps by memory, so the steps beyond the limit stay at its bottom without commands
+/// and aren't counted. A command that another one pushes while it is executed belongs to the same step. One that it
+/// pushes while it is undone or redone is executed and not kept, since keeping it would drop the steps that can be
+/// redone.
 class OrvHistory {
 public:
     static constexpr std::size_t defaultLimit = std::size_t{256} << 20;
 
-    /// Bounds what the stack itself takes, the steps without commands included.
+    /// Limits the memory of the stack itself, including the steps without commands.
     static constexpr int maximumSteps = 100'000;
 
     OrvHistory();
@@ -27,14 +28,15 @@ public:
     OrvHistory& operator=(const OrvHistory&) = delete;
     ~OrvHistory();
 
-    /// What stands in for the command's own knowledge of what it deals with.
+    /// The selection when the command was pushed. A command doesn't expose what it edits, so its size is estimated from
+    /// this.
     struct Context {
-        /// The action of the user, or -1 for a command that stands alone.
+        /// The action of the user, or -1 for a command outside of any action.
         int action;
-        /// The field that the command is about as far as one can tell, or null. Its size gives the command's. The
+        /// The field that the command probably edits, or null; the size of the command is estimated from it. The
         /// command may destroy it.
         NxField* field;
-        /// Held alive together with the command; either may be null.
+        /// Kept alive as long as the command; either may be null.
         NxFieldContainer* node;
         NxFieldContainer* fieldOwner;
     };
@@ -48,7 +50,7 @@ public:
     [[nodiscard]] int undoDepth() const;
     void setClean();
     [[nodiscard]] bool isClean() const;
-    /// Drops everything. From within a command it takes effect when that one returns.
+    /// Drops everything. If a command calls it, it takes effect when that command returns.
     void clear();
 
     void setLimit(std::size_t bytes);

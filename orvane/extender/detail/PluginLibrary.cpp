@@ -31,8 +31,8 @@ std::optional<QString> whyNotReadable(const QFileInfo& file)
     return std::nullopt;
 }
 
-// The system maps what a library's header tells without comparing it with the size of the file, and reading behind the
-// end of a file that was cut off kills the process.
+// The system maps the sizes in a library's header without comparing them with the size of the file. Reading beyond the
+// end of a truncated file kills the process.
 bool isCutOff(const QString& fileName)
 {
     QFile file(fileName);
@@ -56,7 +56,7 @@ bool isCutOff(const QString& fileName)
     return false;
 }
 
-// The system's reason in one line and without the file name, which heads each message already.
+// The system's reason in one line and without the file name, with which each message begins already.
 QString reason(const QLibrary& library)
 {
     QString text = library.errorString().simplified();

@@ -8,11 +8,11 @@ class OrvPlugin;
 
 namespace orvane {
 
-/// A library that holds a plug-in, and the plug-in that it has made.
+/// A library and the plug-in that it has made.
 ///
-/// The library stays mapped until the process ends. What it has given to others outlives its plug-in object: the code
-/// of commands and of their destructors, run-time types with their factories, meta-objects, text literals. Unmapping it
-/// would leave each of these dangling, and would gain nothing but address space.
+/// The library stays mapped until the process ends. Others use parts of it longer than its plug-in object lives: the
+/// code of commands and of their destructors, run-time types with their factories, meta-objects, text literals.
+/// Unmapping it would leave all of these dangling, and would save nothing but address space.
 struct PluginLibrary {
     /// The file's canonical path.
     QString fileName;
@@ -21,14 +21,14 @@ struct PluginLibrary {
     void (*unloadPlugin)() = nullptr;
 };
 
-/// Either the library with its plug-in, which isn't loaded yet, or the message of the failure.
+/// Either the library with its plug-in, on which `load` hasn't been called, or the message of the failure.
 struct OpenedLibrary {
     PluginLibrary library;
     std::optional<QString> error;
 };
 
-/// Maps the library and has it make its plug-in. A plug-in that was built against another version of the interface is
-/// destroyed again.
+/// Maps the library and calls it to make its plug-in. A plug-in that was built against another version of the interface
+/// is destroyed again.
 [[nodiscard]] OpenedLibrary openPluginLibrary(const QString& fileName);
 
 } // namespace orvane

@@ -11,7 +11,7 @@ namespace orvane {
 
 namespace {
 
-// A text of the file as it may stand in a message of one line.
+// A text of the file, made fit for a message of one line.
 QString quoted(QString text)
 {
     constexpr qsizetype longest = 40;
@@ -160,7 +160,7 @@ bool ProfileReader::readControlled(OrvProfileEntry& entry)
         if (m_token.text.isEmpty())
             return fail(m_token.position, QStringLiteral("the name of an extension is empty"));
         if (names.contains(m_token.text))
-            return fail(m_token.position, QStringLiteral("%1 stands twice in the list").arg(quoted(m_token.text)));
+            return fail(m_token.position, QStringLiteral("%1 is in the list twice").arg(quoted(m_token.text)));
         if (m_token.text == entry.extension && m_token.text != u"*")
             return fail(m_token.position, QStringLiteral("%1 can't control itself").arg(quoted(m_token.text)));
         names.insert(m_token.text);
@@ -185,7 +185,7 @@ bool ProfileReader::readObject(const ReadMember& readMember)
             return failExpecting("a key");
         const JsonToken key = m_token;
         if (keys.contains(key.text))
-            return fail(key.position, QStringLiteral("%1 stands here for the second time").arg(quoted(key.text)));
+            return fail(key.position, QStringLiteral("%1 occurs here for the second time").arg(quoted(key.text)));
         keys.insert(key.text);
         if (!expect(Kind::Colon, "\":\""))
             return false;

@@ -10,13 +10,13 @@
 
 namespace orvane {
 
-/// Reads a profile from JSON, or tells what is wrong and where. Whatever the format doesn't know is refused: a profile
-/// is written by hand, and a misspelt key that is passed over would be hard to find.
+/// Reads a profile from JSON, or reports what is wrong and where. Everything outside of the format is refused: a
+/// profile is written by hand, and a misspelt key would be hard to find if it were ignored.
 class ProfileReader {
 public:
     ProfileReader(const QByteArray& json, const QString& fileName);
 
-    /// False with `error` if the text is no profile, else name and entries are there. Called once.
+    /// Returns false and sets `error` if the text is no profile; else name and entries are set. Called once.
     [[nodiscard]] bool read();
     [[nodiscard]] const QString& name() const { return *m_name; }
     [[nodiscard]] const QList<OrvProfileEntry>& entries() const { return *m_entries; }
@@ -33,15 +33,15 @@ private:
     [[nodiscard]] bool readEntry(const JsonToken& key);
     [[nodiscard]] bool readControlled(OrvProfileEntry& entry);
 
-    /// Reads the members of an object, whose opening brace is the present token, by `readMember`, which is given the
-    /// key with the value as the present token and leaves the present token on the last one of the value.
+    /// Reads the members of an object, whose opening brace is the current token. Calls `readMember` with each key while
+    /// the current token is the first of the value; `readMember` leaves it at the last one of the value.
     template <typename ReadMember>
     [[nodiscard]] bool readObject(const ReadMember& readMember);
     void advance() { m_token = m_tokens.next(); }
     /// Advances to the next token, which must be of that kind.
     [[nodiscard]] bool expect(Kind kind, const char* what);
     [[nodiscard]] bool fail(TextPosition position, const QString& what);
-    /// The failure that the present token is something else than what was expected.
+    /// Fails with a message that names the current token and what was expected instead.
     [[nodiscard]] bool failExpecting(const char* what);
 
     QString m_fileName;

@@ -11,12 +11,12 @@
 
 namespace {
 
-// Slots that answer a selection by another one come to an end long before this, unless they answer each other.
+// Slots that answer a selection with another one stop long before this, unless they answer each other.
 constexpr int mostAtOnce = 1000;
 
 } // namespace
 
-// What somebody asked for. It keeps the nodes alive until its turn comes, and notices the death of a field without one.
+// A selection that waits. It keeps the nodes alive until it is announced, and notices the death of a field without one.
 struct Selection::Request {
     Kind kind;
     NxRef<NxFieldContainer> node;
@@ -98,7 +98,7 @@ void Selection::carryOut(const Request& request)
     }
 }
 
-// The field goes first, so that no editor holds a field of a node that isn't selected any more.
+// The field is deselected first, so that no editor holds a field of a node that is no longer selected.
 void Selection::changeNode(const NxRef<NxFieldContainer>& node)
 {
     if (node != m_node && field() != nullptr)

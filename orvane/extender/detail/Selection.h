@@ -12,11 +12,11 @@ class NxField;
 
 /// The selected node and field of the services, and the order in which changes of them are announced.
 ///
-/// What was announced last is what the getters return, so all slots of one announcement see the same selection. A
-/// selection that a slot asks for waits until the present one has been announced to the last slot.
+/// The getters return the selection that was announced last, so all slots of one announcement see the same selection. A
+/// selection that a slot makes waits until all slots have been called for the current one.
 class Selection {
 public:
-    /// What is called to announce the selected node and the selected field, which may be null.
+    /// Called to announce the selected node and the selected field, which may be null.
     struct Announcements {
         std::function<void(NxFieldContainer*)> node;
         std::function<void(NxField*)> field;

@@ -26,8 +26,8 @@ private:
     int m_action;
 };
 
-// The scan code names the key itself: the release of Shift ahead of 1 turns the key's meaning from ! to 1. Events that
-// a program makes up have none.
+// The scan code identifies the key itself: if Shift is released before 1, the key changes from ! to 1. Synthetic events
+// have no scan code.
 std::uint32_t keyOf(const QKeyEvent& event)
 {
     return event.nativeScanCode() != 0 ? event.nativeScanCode() : static_cast<std::uint32_t>(event.key());
@@ -54,7 +54,7 @@ bool UserActionTracker::eventFilter(QObject* watched, QEvent* event)
         if (m_holder == Holder::Button && static_cast<const QMouseEvent*>(event)->buttons() == Qt::NoButton)
             released();
         break;
-    // A key that is a shortcut goes down with a ShortcutOverride alone.
+    // The press of a key that is a shortcut is a ShortcutOverride only.
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
         keyPressed(*static_cast<const QKeyEvent*>(event));
@@ -76,7 +76,7 @@ bool UserActionTracker::eventFilter(QObject* watched, QEvent* event)
         if (m_holder == Holder::Touch)
             released();
         break;
-    // A key that is held while the user leaves for another application is released over there.
+    // If the user changes to another application with a key held down, the key is released there.
     case QEvent::ApplicationStateChange:
         if (m_holder == Holder::Key)
             released();
@@ -89,7 +89,7 @@ bool UserActionTracker::eventFilter(QObject* watched, QEvent* event)
 
 void UserActionTracker::buttonPressed(const QPointerEvent& event)
 {
-    // A press that is handed on to a parent, a second button, and the mouse press made from a touch join the action.
+    // A press that is passed on to a parent, a second button, and a mouse press made from a touch belong to the action.
     const Qt::MouseButtons buttons = static_cast<const QMouseEvent&>(event).buttons();
     const bool isOnlyButton = qPopulationCount(buttons.toInt()) <= 1;
     const bool isNew = m_holder != Holder::Touch && isOnlyButton && event.timestamp() != m_beganAt;
@@ -133,7 +133,7 @@ void UserActionTracker::begin(Holder holder, std::uint64_t timestamp)
 void UserActionTracker::released()
 {
     m_holder = Holder::Nothing;
-    // Behind the delivery of the release and behind what it posts, such as the queued commit of a cell editor.
+    // After the release and everything that it posts, such as the queued commit of a cell editor, have been delivered.
     QCoreApplication::postEvent(this, new EndEvent(m_action), Qt::LowEventPriority);
 }
 

@@ -7,13 +7,13 @@
 class QKeyEvent;
 class QPointerEvent;
 
-/// Tells which commands belong together because one action of the user gave rise to them.
+/// Finds the commands that belong together because they have been caused by one action of the user.
 ///
-/// An action begins when a mouse button, a key (but not its automatic repetition) or a finger goes down or the wheel
-/// turns. It goes on until what began it has been released and everything that the release led to, posted events
-/// included, has been delivered; a turn of the wheel until control is back in the event loop. What comes in while a
-/// button or finger is down (a modifier key, a second button) belongs to the same action; a key that goes down while
-/// another one is held begins a new one, since a fast writer's keys overlap.
+/// An action begins when a mouse button, a key (but not its automatic repetition) or a finger goes down, or the wheel
+/// turns. It ends when that button, key or finger has been released and everything that the release caused, including
+/// posted events, has been delivered. A turn of the wheel ends when control is back in the event loop. Input while a
+/// button or finger is down (a modifier key, a second button) belongs to the same action. A key that goes down while
+/// another one is held begins a new action, since the keys of a fast writer overlap.
 ///
 /// It watches every event of the application object that exists when it is made.
 class UserActionTracker : public QObject {
@@ -22,7 +22,7 @@ public:
     ~UserActionTracker() override;
 
     static constexpr int none = -1;
-    /// A number that stands for the present action, or `none`.
+    /// The number of the current action, or `none`.
     [[nodiscard]] int currentAction() const noexcept { return m_action; }
 
 protected:
@@ -46,8 +46,8 @@ private:
     int m_action = none;
     int m_lastAction = 0;
     Holder m_holder = Holder::Nothing;
-    /// When the action began: an event passes through here once for each window and widget that it is offered to.
+    /// When the action began. An event is seen once for each window and widget that it is delivered to.
     std::uint64_t m_beganAt = 0;
-    /// The key that holds the action.
+    /// The key that began the action.
     std::uint32_t m_key = 0;
 };

@@ -11,10 +11,10 @@ public:
     AccessButtonPrivate(QWidget* parent, const char* name);
 
 public Q_SLOTS:
-    /// Shows the number of a row that is counted from 0.
+    /// Shows the number of a row; `value` is counted from 0.
     void setNewValue(int value);
 
 protected:
-    /// Return goes to the row once more, although the number hasn't changed.
+    /// Return reports the number again, although it hasn't changed.
     void keyPressEvent(QKeyEvent* event) override;
 };

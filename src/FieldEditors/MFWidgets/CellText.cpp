@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The end of the character that begins there: half of one would be drawn as a box.
+/// The end of the character that begins at `start`. Half a character would be drawn as a box.
 qsizetype characterEnd(const QString& text, qsizetype start)
 {
     const bool isPair
@@ -22,7 +22,7 @@ bool fits(const QString& text, const QFontMetrics& metrics, int room)
     if (text.size() <= room && text.size() * metrics.maxWidth() <= room
         && std::all_of(text.begin(), text.end(), isAscii))
         return true;
-    // Of a text that is far too long its beginning tells as much.
+    // The beginning of a text that is far too long is enough to decide.
     constexpr qsizetype beginning = 64;
     for (qsizetype size = beginning; size < text.size(); size *= 2) {
         if (metrics.horizontalAdvance(text.left(size)) > 2 * room)
@@ -39,7 +39,7 @@ QString orvane::fittingText(const QString& text, const QFontMetrics& metrics, in
         return text;
     const QString dots = QStringLiteral("...");
     const auto fitsAhead = [&](qsizetype count) { return metrics.horizontalAdvance(dots + text.left(count)) < room; };
-    // The most characters that fit, looked for among the first 1, 2, 4 … and then by halves: each look shapes a text.
+    // Finds how many characters fit by doubling, then by bisection, since each measurement lays out a text.
     qsizetype shown = 0;
     qsizetype beyond = 1;
     for (; beyond <= text.size() && fitsAhead(beyond); beyond *= 2)

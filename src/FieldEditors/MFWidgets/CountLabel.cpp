@@ -9,7 +9,7 @@
 CountLabel::CountLabel(QWidget* parent)
     : QLabel(parent)
 {
-    // So the frame behind it isn't painted along with a new line.
+    // So that a new line doesn't repaint the frame behind it.
     setAutoFillBackground(true);
 }
 

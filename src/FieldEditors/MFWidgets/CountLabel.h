@@ -2,11 +2,11 @@
 
 #include <QLabel>
 
-/// A label for one centred line, such as a count, that changes often and must cost little then.
+/// A label for one centred line, such as a count, that changes often and must be cheap to change.
 ///
-/// The line has a rich text around it, as other labels of the editors have, but is painted without the document that
-/// a label makes of such a text. The label is as large as the line, and fixed for its layout; otherwise each new count
-/// would have the whole dock laid out and painted anew, which takes longer than to show a row that was added.
+/// Its text is rich, as in other labels of the editors, but the line is painted without the document that a label makes
+/// of a rich text. The label has the fixed size of its line. Otherwise each new count would lay out and repaint the
+/// whole dock, which takes longer than showing an added row.
 class CountLabel : public QLabel {
     Q_OBJECT
 

@@ -45,6 +45,6 @@ QString DvMFColorRGBAWidget::getCellValue(int row, int column)
 
 bool DvMFColorRGBAWidget::prepareForField(NxField* /*field*/)
 {
-    // Any field: meant. One that is no list of such vectors shows blank cells and takes nothing.
+    // Contract: any field is accepted. One that is no list of such vectors shows blank cells and is never written.
     return true;
 }

@@ -37,7 +37,7 @@ QWidget* DvMFColorTableItemDelegate::createEditor(
 
 void DvMFColorTableItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
 {
-    // The columns of the editor count from the colour, so a line opens with the text of the cell to its left: meant.
+    // Contract: a line opens with the text of the cell to its left.
     if (auto* const line = qobject_cast<QLineEdit*>(editor); line != nullptr)
         line->setText(m_owner->getCellValue(index.row(), index.column() - 1));
     else
@@ -54,7 +54,7 @@ void DvMFColorTableItemDelegate::setModelData(
         DvMFieldTableItemDelegate::setModelData(editor, model, index);
         return;
     }
-    // A line that wasn't touched is written, too, unlike in other tables, and with it its neighbour's value: meant.
+    // Contract: an untouched line is written as well, unlike in other tables, and so writes its neighbour's value.
     if (isAcceptable(line))
         m_owner->setCellValue(index.row(), index.column() - 1, line->text());
     model->setData(index, line->text(), Qt::EditRole);

@@ -45,13 +45,13 @@ QString DvMFColorWidget::getCellValue(int row, int column)
 
 bool DvMFColorWidget::prepareForField(NxField* /*field*/)
 {
-    // Any field: meant. One that is no list of such vectors shows blank cells and takes nothing.
+    // Contract: any field is accepted. One that is no list of such vectors shows blank cells and is never written.
     return true;
 }
 
 void DvMFColorWidget::setRowComponent(float value, int row, int component)
 {
-    // The list with opacity has no such limit: meant.
+    // Contract: other components are ignored, while the list with opacity has no such limit.
     if (value >= 0 && value <= 1)
         DvMFVec3fWidget::setRowComponent(value, row, component);
 }

@@ -38,7 +38,7 @@ void DvMFDefaultFieldWidget::setCellValue(int row, int /*column*/, QString value
 {
     if (m_field == nullptr)
         return;
-    // A text that the field refuses changes nothing there, and the command is pushed all the same: meant.
+    // Contract: the command is pushed even if the field refuses the text.
     m_field->set1(row, orvane::toVbString(value));
     orvane::pushSetRowCommand(m_field, row);
 }

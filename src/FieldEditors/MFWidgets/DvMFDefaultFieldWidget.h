@@ -2,7 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 
-/// Edits any list by the text forms of its values: what fields without an editor of their own get.
+/// Edits any list by the text forms of its values, for the fields that have no editor of their own.
 class DvMFDefaultFieldWidget final : public DvMFieldWidget {
 public:
     explicit DvMFDefaultFieldWidget(const char* name = nullptr);

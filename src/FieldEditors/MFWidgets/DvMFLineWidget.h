@@ -2,10 +2,9 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 
-/// The base of the editors of plain numbers: one column, and in it the text form of the row's value as the field
-/// writes it.
+/// The base of the editors of plain numbers: one column with the text form of each row's value, as the field writes it.
 ///
-/// An edited cell goes to the field and nowhere else: no command is pushed, so it cannot be undone. That is meant.
+/// Contract: an edited cell writes the field and pushes no command, so the command history can't undo it.
 class DvMFLineWidget : public DvMFieldWidget {
     Q_OBJECT
 

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A cell shows the beginning of the list's text only, so no more of it is made for painting.
+/// Paints the beginning of the list's text, and has no more of it made than a cell can show.
 class BeginningDelegate final : public DvMFieldTableItemDelegate {
 public:
     BeginningDelegate(DvMFMatrixWidget* owner, QObject* table)
@@ -109,6 +109,6 @@ QString DvMFMatrixWidget::getPopupCellValue(int row, int index)
         return {};
     const auto position = static_cast<std::size_t>(index);
     const VbMatrix& matrix = (*list)[row];
-    // The first four lines show the first element of each row, the others their own element: meant.
+    // Contract: the first four lines show the first element of each row, the others their own element.
     return orvane::numberText(index < 4 ? matrix[position][0] : matrix[position / 4][position % 4]);
 }

@@ -4,9 +4,8 @@
 
 /// Edits a list of matrices of four by four floats, the current one in a popup.
 ///
-/// Every row of the table shows the text of the whole list, cut to its cell. The line of row r and column c of the grid
-/// writes the element in row c and column r of the matrix. What the lines open with is another matter: the first four
-/// show the elements at the beginning of the matrix's rows, all others their own.
+/// Contract: every row of the table shows the text of the whole list, cut to its cell.
+/// Contract: the line in row r and column c of the grid writes the element in row c and column r of the matrix.
 class DvMFMatrixWidget final : public DvTablePopupWidget {
 public:
     explicit DvMFMatrixWidget(const char* name = nullptr);
@@ -23,7 +22,7 @@ public:
     bool prepareForField(NxField* field) override;
     QString getPopupCellValue(int row, int index) override;
 
-    /// The text of every cell again, of which at least so many characters are there, if it has as many. The time
+    /// At least so many characters from the beginning of the cells' text, or all of it if it is shorter. The time
     /// depends on that number, not on the length of the list.
     [[nodiscard]] QString beginning(int characters);
 

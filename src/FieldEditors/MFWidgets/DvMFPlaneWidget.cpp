@@ -50,7 +50,7 @@ void DvMFPlaneWidget::setCellValue(int row, int column, QString value)
 
 QString DvMFPlaneWidget::getCellValue(int row, int column)
 {
-    // One column only, of the four that there are: meant.
+    // Contract: only the first of the four columns shows a text.
     const NxMFPlane* const list = orvane::listAs<NxMFPlane>(m_field);
     if (list == nullptr || column != 0 || !orvane::hasRow(*list, row))
         return {};

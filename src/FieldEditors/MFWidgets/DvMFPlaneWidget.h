@@ -4,8 +4,8 @@
 
 /// Edits a list of planes: the normal and the distance from the origin.
 ///
-/// The table shows the first component of the normal only. The other cells are blank and open with an empty line, yet
-/// take what is typed.
+/// Contract: the table shows only the first component of the normal. The other cells are blank and open with an empty
+/// line, but a typed number is written.
 class DvMFPlaneWidget final : public DvMFieldWidget {
 public:
     explicit DvMFPlaneWidget(const char* name = nullptr);

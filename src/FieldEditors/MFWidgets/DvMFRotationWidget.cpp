@@ -43,7 +43,7 @@ void DvMFRotationWidget::setCellValue(int row, int column, QString value)
 {
     const float number = value.toFloat();
     orvane::changeRow<NxMFRotation>(m_field, row, [column, number](VbRotation& rotation) {
-        // The column "radians" changes none of the components, and the fourth stays as it was: meant.
+        // Contract: the column "radians" changes nothing, and the fourth component stays as it was.
         std::array<float, 4> quaternion = rotation.getQuaternion();
         if (column >= 0 && column < 3)
             quaternion[static_cast<std::size_t>(column)] = number;
@@ -53,7 +53,7 @@ void DvMFRotationWidget::setCellValue(int row, int column, QString value)
 
 QString DvMFRotationWidget::getCellValue(int row, int column)
 {
-    // One column only, of the four that there are: meant.
+    // Contract: only the first of the four columns shows a text.
     const NxMFRotation* const list = orvane::listAs<NxMFRotation>(m_field);
     if (list == nullptr || column != 0 || !orvane::hasRow(*list, row))
         return {};

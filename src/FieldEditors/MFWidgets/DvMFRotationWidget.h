@@ -4,8 +4,8 @@
 
 /// Edits a list of rotations by their quaternions.
 ///
-/// The table shows the first component of the quaternion only. The other cells are blank and open with an empty line;
-/// "y" and "z" take the second and third component, and what is typed as "radians" is dropped.
+/// Contract: the table shows only the first component of the quaternion. The other cells are blank and open with an
+/// empty line; "y" and "z" write the second and third component, and a number typed as "radians" is dropped.
 class DvMFRotationWidget final : public DvMFieldWidget {
 public:
     explicit DvMFRotationWidget(const char* name = nullptr);

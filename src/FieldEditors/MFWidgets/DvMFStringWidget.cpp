@@ -33,7 +33,7 @@ void DvMFStringWidget::swapRows(int first, int second)
 {
     if (m_field == nullptr || !orvane::hasRow(*m_field, first) || !orvane::hasRow(*m_field, second))
         return;
-    // By a command, unlike the other lists: meant.
+    // Contract: by a command, unlike the other lists.
     OrvServices::getInstance()->pushCommand(new OrvMFSwapRowsCommand(m_field, first, second));
 }
 

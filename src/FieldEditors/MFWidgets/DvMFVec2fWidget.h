@@ -2,7 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 
-/// Edits a list of vectors of two floats, a component a column.
+/// Edits a list of vectors of two floats, with a column for each component.
 class DvMFVec2fWidget final : public DvMFieldWidget {
 public:
     explicit DvMFVec2fWidget(const char* name = nullptr);

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 
-/// Edits a list of vectors of two 32-bit integers, a component a column.
+/// Edits a list of vectors of two 32-bit integers, with a column for each component.
 class DvMFVec2i32Widget final : public DvMFieldWidget {
 public:
     explicit DvMFVec2i32Widget(const char* name = nullptr);

@@ -23,7 +23,7 @@ void DvMFVec2sWidget::load()
     DvMFieldWidget::load();
     orvane::setUpColumns(m_table, {QStringLiteral("x"), QStringLiteral("y")});
     m_table->setNumRows(0);
-    // No kind of value, so any text is taken, and what is no number reads as 0: meant.
+    // Contract: no value kind, so any text is accepted, and one that is no number reads as 0.
 }
 
 void DvMFVec2sWidget::swapRows(int first, int second)

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 
-/// Edits a list of vectors of two 16-bit integers, a component a column.
+/// Edits a list of vectors of two 16-bit integers, with a column for each component.
 class DvMFVec2sWidget final : public DvMFieldWidget {
 public:
     explicit DvMFVec2sWidget(const char* name = nullptr);

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 
-/// Edits a list of vectors of three floats, a component a column.
+/// Edits a list of vectors of three floats, with a column for each component.
 class DvMFVec3fWidget : public DvMFieldWidget {
 public:
     explicit DvMFVec3fWidget(const char* name = nullptr);

@@ -2,7 +2,7 @@
 
 #include "FieldEditors/MFWidgets/DvMFieldWidget.h"
 
-/// Edits a list of vectors of four floats, a component a column.
+/// Edits a list of vectors of four floats, with a column for each component.
 class DvMFVec4fWidget : public DvMFieldWidget {
 public:
     explicit DvMFVec4fWidget(const char* name = nullptr);

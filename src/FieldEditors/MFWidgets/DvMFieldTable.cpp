@@ -75,13 +75,13 @@ void DvMFieldTable::setNumRows(int row)
     setRowCount(row);
 }
 
-// The base class keeps some words for each row, and would end in the middle of its work if it ran out of them.
+// The base class needs some words of memory for each row, and would abort in the middle of its work without them.
 bool DvMFieldTable::hasRoomFor(int rows) const
 {
     constexpr int manyRows = 100'000;
     if (rows - rowCount() < manyRows)
         return true;
-    const std::size_t words = 2 * (static_cast<std::size_t>(columnCount()) + 2); // lists grow ahead of what they hold
+    const std::size_t words = 2 * (static_cast<std::size_t>(columnCount()) + 2); // lists reserve more than they hold
     const std::size_t bytes = static_cast<std::size_t>(rows) * words * sizeof(void*);
     return meridane::withinMemory(bytes, [bytes] {
         ::operator delete(::operator new(bytes));
@@ -89,13 +89,13 @@ bool DvMFieldTable::hasRoomFor(int rows) const
     });
 }
 
-// The box counts rows from 1 and the swaps read it so, but its number comes in here as a row that is counted from 0. So
-// 1 goes to the second row, and the highest number nowhere. That is meant.
+// Contract: the number of the access box, which counts rows from 1, is used as a row that is counted from 0. So 1 goes
+// to the second row, and the highest number nowhere.
 void DvMFieldTable::showTableRow(int row)
 {
     if (row < 0 || row >= rowCount())
         return;
-    // Without a placeholder there is nothing to go to, and no cell is the current one from here on: meant.
+    // Contract: a row without a placeholder leaves no cell current.
     QTableWidgetItem* const first = item(row, 0);
     scrollToItem(first, QAbstractItemView::EnsureVisible);
     setCurrentItem(first);
@@ -104,7 +104,8 @@ void DvMFieldTable::showTableRow(int row)
 void DvMFieldTable::swapUpRow()
 {
     const int row = m_owner->accessBox()->value() - 1;
-    std::fprintf(stderr, "DvMFieldTable::swapUpRow() %d\n", row); // stays, and comes also when nothing is swapped
+    // Contract: printed each time, even if nothing is swapped.
+    std::fprintf(stderr, "DvMFieldTable::swapUpRow() %d\n", row);
     if (row <= 0)
         return;
     commitOpenEditor();
@@ -117,7 +118,8 @@ void DvMFieldTable::swapDownRow()
 {
     const int value = m_owner->accessBox()->value();
     const int row = value - 1;
-    std::fprintf(stderr, "DvMFieldTable::swapDownRow() %d\n", row); // stays, and comes also when nothing is swapped
+    // Contract: printed each time, even if nothing is swapped.
+    std::fprintf(stderr, "DvMFieldTable::swapDownRow() %d\n", row);
     if (row <= -1 || row >= rowCount() - 1)
         return;
     commitOpenEditor();
@@ -133,8 +135,7 @@ void DvMFieldTable::swapRows(int row1, int row2)
     OrvServices::getInstance()->pushCommand(new OrvMFSwapRowsCommand(m_owner->field(), row1, row2));
 }
 
-// Rows that came or went are laid out first: otherwise the cells would be painted twice, now and when the table gets
-// round to its layout.
+// New and removed rows are laid out first. Otherwise the cells would be painted twice, now and after the layout.
 void DvMFieldTable::update()
 {
     executeDelayedItemsLayout();
@@ -153,11 +154,11 @@ void DvMFieldTable::addRow()
     for (int column = 0; column < columnCount(); ++column)
         setPlaceholder(row, column);
     AccessButtonPrivate* const box = m_owner->accessBox();
-    const int maximum = box->maximum(); // ahead of the minimum, which would raise it
+    const int maximum = box->maximum(); // read before the minimum is set, which would raise it
     box->setMinimum(1);
     box->setMaximum(maximum + 1);
     OrvServices::getInstance()->pushCommand(new OrvMFAddRowsCommand(m_owner->field(), row, 1));
-    // The new row doesn't become the current one, and the table says itself that the current one changed: meant.
+    // Contract: the new row doesn't become current, and the table itself reports a change of the current cell.
     if (row < 1) {
         setCurrentCell(row, 0);
         Q_EMIT currentCellChanged(row, 0, 0, 0);
@@ -173,8 +174,8 @@ void DvMFieldTable::noteItem(const QModelIndex& index)
         m_itemPlaces.append(index);
 }
 
-// What clearContents does, but only where there is something to clear: that one walks all cells and has the headers
-// made anew, which takes longer than inserting a row into a long list. The sizes of the headers outlive this one.
+// Like clearContents, but it visits only the cells that have an item. clearContents walks all cells and rebuilds the
+// headers, which takes longer than inserting a row into a long list. This one also keeps the sizes of the headers.
 void DvMFieldTable::clearPlaceholders()
 {
     for (const QPersistentModelIndex& place : std::exchange(m_itemPlaces, {}))
@@ -203,7 +204,7 @@ void DvMFieldTable::deleteSelectedRows()
     const QList<QTableWidgetSelectionRange> ranges = selectedRanges();
     if (ranges.isEmpty())
         return;
-    const int top = ranges.constFirst().topRow(); // the other ranges stay: meant
+    const int top = ranges.constFirst().topRow(); // Contract: the other ranges stay.
     const int count = ranges.constFirst().bottomRow() - top + 1;
     if (pushDeletion(top, count))
         model()->removeRows(top, count, QModelIndex());
@@ -262,7 +263,7 @@ void DvMFieldTable::keyPressEvent(QKeyEvent* event)
 void DvMFieldTable::keyReleaseEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Shift) {
-        // So from the first Shift on nothing can be selected unless it is held: meant.
+        // Contract: after the first Shift nothing can be selected unless Shift is held.
         setSelectionMode(QAbstractItemView::NoSelection);
         m_multiRowMode = false;
     } else {
@@ -273,7 +274,7 @@ void DvMFieldTable::keyReleaseEvent(QKeyEvent* event)
 
 void DvMFieldTable::hideEvent(QHideEvent* event)
 {
-    // Another field may be selected next: what was typed belongs to this one.
+    // Another field may be selected next, and the typed text belongs to this one.
     commitOpenEditor();
     QTableWidget::hideEvent(event);
 }
@@ -285,7 +286,7 @@ void DvMFieldTable::resizeEvent(QResizeEvent* event)
         shareWidth();
 }
 
-// Nothing scrolls sideways, so what stood beyond the edge would be out of reach.
+// Nothing scrolls sideways, so a column beyond the edge would be out of reach.
 void DvMFieldTable::shareWidth()
 {
     if (columnCount() == 0)
@@ -294,7 +295,7 @@ void DvMFieldTable::shareWidth()
     m_widthIsShared = true; // the header's signal came from here
 }
 
-// The editor of a cell that loses the focus writes what was typed. A change of rows would throw it away.
+// A change of rows would drop the typed text. An editor that loses the focus writes it.
 void DvMFieldTable::commitOpenEditor()
 {
     QWidget* const inCell = viewport()->focusWidget();

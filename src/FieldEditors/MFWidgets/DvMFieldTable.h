@@ -7,8 +7,9 @@
 class DvMFieldTableItemDelegate;
 class DvMFieldWidget;
 
-/// The table of a multi-value editor, one row a value. It stores no value: it has as many rows as the field has values,
-/// and asks its owner for the text of a cell whenever one is painted or opened. Items are placeholders without text.
+/// The table of a multi-value editor, with a row for each value. It stores no value: it has as many rows as the field
+/// has values, and asks its owner for the text of a cell whenever one is painted or opened. Items are placeholders
+/// without text.
 class DvMFieldTable : public QTableWidget {
     Q_OBJECT
 
@@ -26,10 +27,10 @@ public:
     /// Puts a new placeholder into a cell; does nothing where there is no such cell.
     void setPlaceholder(int row, int column);
     using QTableWidget::update;
-    /// Has all cells in sight painted anew, soon, and nothing around them: that never tells of the field.
+    /// Schedules a repaint of all visible cells, and of nothing around them, which doesn't depend on the field.
     void update();
 
-    /// Finds nothing: what the user sees doesn't stand in the items.
+    /// Finds nothing, since the items don't hold the texts that the user sees.
     void keyboardSearch(const QString& search) override;
 
     // The order of the slots is that of the meta object.

@@ -46,7 +46,7 @@ void DvMFieldTableItemDelegate::paintText(QPainter* painter, const QStyleOptionV
     painter->save();
     if (option.state.testFlag(QStyle::State_Selected))
         painter->fillRect(option.rect, option.palette.brush(QPalette::Current, QPalette::Highlight));
-    // Centred in every table, and in the same pen when the cell is selected: meant.
+    // Contract: centred in every table, and in the same pen when the cell is selected.
     painter->drawText(
         option.rect, Qt::AlignCenter, orvane::fittingText(text, painter->fontMetrics(), option.rect.width() - 4));
     painter->restore();
@@ -97,8 +97,8 @@ QWidget* DvMFieldTableItemDelegate::makeSlider(QWidget* parent, int row, const Q
         return slider;
     }
     case CellKind::Float: {
-        // The row stands where the precision is selected, and the cell is given as row 0, column 1. So the first row
-        // gets a slider of double precision, and every row's slider writes the first value of the field. That is meant.
+        // Contract: the first row gets a slider of double precision, and every row's slider writes the first value of
+        // the field. The row is passed as the precision, and the cell as row 0, column 1.
         auto* const slider = new DvRealSlider(mode, m_owner, parent, row != 0, 0, 1);
         slider->setRange(m_realMin, m_realMax, m_bounded);
         slider->setValue(static_cast<double>(text.toFloat()));
@@ -137,7 +137,7 @@ QLineEdit* DvMFieldTableItemDelegate::takeLine(QWidget* editor, const QModelInde
     const bool hadFocus = editor->hasFocus() || editor->isAncestorOf(QApplication::focusWidget());
     table->setCellWidget(index.row(), index.column(), nullptr);
     if (hadFocus && table->isVisible())
-        table->setFocus(); // the editor stays until the event loop deletes it, and keys would go on into it
+        table->setFocus(); // the event loop deletes the editor later, and until then it would get the keys
     return qobject_cast<QLineEdit*>(editor);
 }
 
@@ -162,7 +162,7 @@ void DvMFieldTableItemDelegate::setModelData(QWidget* editor, QAbstractItemModel
         return;
     if (isAcceptable(line))
         m_owner->setCellValue(index.row(), index.column(), line->text());
-    // What the validator holds back stands in the item only, where nobody sees it: meant.
+    // Contract: a text that the validator holds back is kept in the item only, which is never shown.
     model->setData(index, line->text(), Qt::DisplayRole);
 }
 
@@ -179,7 +179,8 @@ void DvMFieldTableItemDelegate::installValidator(QLineEdit* edit) const
     constexpr auto floatLimit = static_cast<double>(std::numeric_limits<float>::max());
     switch (valueKind()) {
     case CellKind::Int16:
-        edit->setValidator(new QIntValidator(-Short::max(), Short::max(), edit)); // one short of the lowest: meant
+        edit->setValidator(
+            new QIntValidator(-Short::max(), Short::max(), edit)); // Contract: one short of the lowest number.
         break;
     case CellKind::UInt16:
         edit->setValidator(new QIntValidator(0, std::numeric_limits<unsigned short>::max(), edit));
@@ -191,7 +192,8 @@ void DvMFieldTableItemDelegate::installValidator(QLineEdit* edit) const
         edit->setValidator(new QUIntValidator(0, std::numeric_limits<unsigned>::max(), edit));
         break;
     case CellKind::Int32:
-        edit->setValidator(new QIntValidator(-Int::max(), Int::max(), edit)); // one short of the lowest: meant
+        edit->setValidator(
+            new QIntValidator(-Int::max(), Int::max(), edit)); // Contract: one short of the lowest number.
         break;
     case CellKind::UInt32:
         edit->setValidator(new QULongValidator(0, std::numeric_limits<unsigned>::max(), edit));

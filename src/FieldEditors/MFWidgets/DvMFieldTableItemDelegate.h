@@ -37,9 +37,9 @@ public Q_SLOTS:
     virtual void installValidator(QLineEdit* edit) const;
 
 protected:
-    /// Paints a cell with a text, which is cut where the cell is too narrow for it.
+    /// Paints the text of a cell, cut if the cell is too narrow for it.
     static void paintText(QPainter* painter, const QStyleOptionViewItem& option, const QString& text);
-    /// Takes an editor out of its cell and gives it as a line; null when it is none.
+    /// Takes an editor out of its cell and returns it as a line, or null if it isn't one.
     QLineEdit* takeLine(QWidget* editor, const QModelIndex& index) const;
     /// Whether the line's validator, if it has one, accepts its text.
     static bool isAcceptable(const QLineEdit* line);

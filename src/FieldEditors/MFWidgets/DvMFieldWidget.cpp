@@ -17,8 +17,9 @@
 #include <QLabel>
 #include <QPushButton>
 
-// The editor's own sensor speaks late, is attached to refused fields as well, and says nothing of a field's death. The
-// table however reads the field whenever a cell is painted: so this one keeps the pointer to it good.
+// The table reads the field whenever a cell is painted, so `m_field` must become null when the field dies. The editor's
+// own sensor can't do that: it is called late, it is attached to refused fields as well, and it doesn't report the
+// death.
 class DvMFieldWidget::FieldWatch final : public NxFieldSensor {
 public:
     explicit FieldWatch(DvMFieldWidget& editor)
@@ -138,7 +139,7 @@ void DvMFieldWidget::buildManageButtons()
     m_manageButtonsLayout = new QHBoxLayout;
     m_manageButtonsLayout->setObjectName(QStringLiteral("m_manageButtonsLayout"));
     m_manageButtonsLayout->setSpacing(getLayoutMetric(QStringLiteral("MFButtonLayoutSpacing")));
-    // The margin of the buttons goes to the strip, which has its own already; theirs stay unset. That is meant.
+    // Set on the strip, which has a margin already, and not on the layout of the buttons. Both metrics are equal.
     const int margin = getLayoutMetric(QStringLiteral("MFButtonLayoutMargin"));
     m_buttonsLayout->setContentsMargins(margin, margin, margin, margin);
     m_addButton = orvane::makeIconButton(m_frame, QStringLiteral("m_addButton"), m_addPixmap);
@@ -177,7 +178,7 @@ void DvMFieldWidget::buildMoveButtons()
 
 void DvMFieldWidget::buildStateButtons()
 {
-    // It bears the name of the layout before it, too: meant, whoever looks a layout up by it finds the first.
+    // Contract: it has the name of the layout before it, so a search by name finds the first.
     m_stateButtonsLayout = makeMovementLayout();
     m_defaultButton = orvane::makeIconButton(m_frame, QStringLiteral("m_defaultButton"), m_defaultPixmap);
     m_ignoreButton = orvane::makeIconButton(m_frame, QStringLiteral("m_ignoreButton"), m_ignorePixmap);
@@ -289,7 +290,7 @@ void DvMFieldWidget::refreshElementCount()
 {
     if (m_field == nullptr)
         return;
-    // One value has the plural as well, and it isn't translated: meant.
+    // Contract: the plural also for one value, and never translated.
     const QString text = QString::number(m_field->getNum()) + QStringLiteral(" elements");
     m_labelNumElement->setLine(text, tr("<p align=\"center\">") + text + tr("</p>"));
 }

@@ -18,9 +18,9 @@ class QSpacerItem;
 
 /// The common body of every multi-value editor: the type label, a strip of controls for the rows, and the row table.
 ///
-/// It knows nothing of values. A concrete editor writes handled type and name in its constructor, calls
-/// `setElementTypeLabel` and this `load` in its own, sets up the table's columns, and gives and takes the text of a
-/// cell. Rows and columns are counted from 0, in the access box rows are counted from 1.
+/// It knows nothing of values. A concrete editor sets handled type and name in its constructor. Its `load` calls
+/// `setElementTypeLabel`, then this `load`, and sets up the table's columns. It reads and writes the text of a cell.
+/// Rows and columns are counted from 0; the access box counts rows from 1.
 class DvMFieldWidget : public OrvFieldEditors {
     Q_OBJECT
 
@@ -33,10 +33,10 @@ public:
 
     /// Builds the controls. Needs the type label to be there.
     void load() override;
-    /// Takes the field if `prepareForField` accepts it, and keeps the former one otherwise. The sensor is attached in
-    /// either case.
+    /// Takes the field if `prepareForField` accepts it, and keeps the former one otherwise.
+    /// Contract: the sensor is attached to a refused field, too.
     void setField(NxField* field) override;
-    /// Brings row count and controls in line with the field and has the visible cells painted anew.
+    /// Updates row count and controls from the field and repaints the visible cells.
     void updateFromField() override;
     void setRefreshEnabled(bool enabled) override;
     void swapRows(int first, int second) override;
@@ -47,12 +47,12 @@ public:
 
     /// The text of a cell; empty for one that doesn't exist.
     virtual QString getCellValue(int row, int column);
-    /// Where the text of a cell is to stand. Nobody asks: the table centres every cell.
+    /// The alignment of a cell's text. Contract: nothing uses it, since the table centres every cell.
     virtual int getCellAlignment();
-    /// Tells whether the editor can edit a field, which may be null, and sets up the table for it.
+    /// Returns whether the editor can edit a field, which may be null, and sets up the table for it.
     virtual bool prepareForField(NxField* field);
 
-    /// The edited field: null until one was accepted, and again from its death on.
+    /// The edited field: null until one was accepted, and null again after its death.
     [[nodiscard]] NxMField* field() const noexcept { return m_field; }
     [[nodiscard]] AccessButtonPrivate* accessBox() const noexcept { return m_accessBox; }
 
@@ -66,8 +66,8 @@ protected:
     void setElementTypeLabel(const QString& type);
     /// Shows the number of values. Does nothing without a field.
     void refreshElementCount();
-    /// A number that is another one whenever the field or its value may be another one: at once, not only when the
-    /// sensor is called. So what was read from the field may be kept as long as the number stays.
+    /// Changes whenever the field or its value may have changed: at once, not only when the sensor is called. What was
+    /// read from the field can be kept as long as this number stays the same.
     [[nodiscard]] unsigned fieldRevision() const noexcept { return m_fieldRevision; }
 
     AccessButtonPrivate* m_accessBox = nullptr;

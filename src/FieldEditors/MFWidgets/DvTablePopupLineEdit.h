@@ -4,7 +4,7 @@
 
 class DvTablePopupWidget;
 
-/// One number in the popup of a list: any change of its text has all of them written to the current row.
+/// One number in the popup of a list. Any change of its text writes all lines of the popup to the current row.
 class DvTablePopupLineEdit final : public QLineEdit {
     Q_OBJECT
 

@@ -40,7 +40,7 @@ void DvTablePopupWidget::buildButton()
 {
     m_editButton = orvane::makeIconButton(getFrame(), QStringLiteral("m_editButton"), m_editPixmap);
     m_editButton->setFocusPolicy(Qt::NoFocus);
-    // The gap ahead of it gives up the button's width, so that the strip keeps its length.
+    // The gap before it loses the button's width, so that the strip keeps its length.
     m_accessMoveSpacer->changeSize(
         getLayoutMetric(QStringLiteral("MFAccessMoveSpacerWidth")) - getLayoutMetric(QStringLiteral("buttonWidth")),
         getLayoutMetric(QStringLiteral("MFAccessMoveSpacerHeight")), QSizePolicy::Expanding, QSizePolicy::Minimum);
@@ -51,13 +51,13 @@ void DvTablePopupWidget::buildPopup()
 {
     m_popupFrame = orvane::makePopupGrid(getFrame(), m_editButton);
     auto* const grid = qobject_cast<QGridLayout*>(m_popupFrame->layout());
-    // Column by column, while the grid is read row by row: meant.
+    // Contract: column by column, while the lines are read as if they were row by row.
     for (int column = 0; column < m_popupColumns; ++column) {
         for (int row = 0; row < m_popupRows; ++row) {
             auto* const line = new DvTablePopupLineEdit(this, m_popupFrame, "");
             m_popupEdits.push_back(line);
             grid->addWidget(line, row, column);
-            // The blanks in the signal's spelling are meant.
+            // Connected by text, with these blanks in the signal's spelling.
             // clang-format off
             connect(line, SIGNAL(textChanged ( const QString & )), line, SLOT(setCurrentValue(const QString &)));
             // clang-format on

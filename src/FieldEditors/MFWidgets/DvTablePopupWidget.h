@@ -13,9 +13,8 @@ class QPushButton;
 /// Base of the editors of a list whose values are too large for a table row: the table only shows the rows, and a
 /// button opens a popup with a grid of lines for the numbers of the current row.
 ///
-/// Any change of a line writes the whole row, also while the popup fills the lines: what the other lines hold at that
-/// moment goes to the field, too. So opening the popup changes the row unless the lines show it already. That is meant,
-/// and each line is asked for after the one ahead of it was written.
+/// Contract: any change of a line writes the whole row, also while the popup fills the lines one after the other. So
+/// opening the popup changes the row unless the lines show it already.
 class DvTablePopupWidget : public DvMFieldWidget {
     Q_OBJECT
 

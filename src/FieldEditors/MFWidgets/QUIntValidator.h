@@ -4,7 +4,7 @@
 
 #include <limits>
 
-/// Holds a line to unsigned numbers of 32 bits, which QIntValidator cannot.
+/// Limits a line to unsigned numbers of 32 bits, which `QIntValidator` can't do.
 class QUIntValidator final : public QValidator {
     Q_OBJECT
 

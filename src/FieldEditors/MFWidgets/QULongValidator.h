@@ -4,8 +4,7 @@
 
 #include <limits>
 
-/// The same as QUIntValidator, 32 bits included, for fields that another validator serves: the two are meant to be
-/// alike.
+/// Limits a line to unsigned numbers of 32 bits. Contract: the same as `QUIntValidator`, its name notwithstanding.
 class QULongValidator final : public QValidator {
     Q_OBJECT
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int alphaColumn = 4;
 
-// Widened before the product, unlike the editors of one colour: meant.
+// Widened to double before the product, unlike in the editors of one colour.
 int component(const QString& text)
 {
     return orvane::wholeComponent(static_cast<double>(text.toFloat()) * 255.0);

@@ -8,7 +8,7 @@ namespace orvane {
 /// The colour of a row, from the texts of its components; not valid with a component outside 0 to 1. A row without a
 /// fourth text is opaque.
 [[nodiscard]] QColor rowColor(DvMFieldWidget* editor, int row);
-/// Whether the rows of the list have opacity, as far as that row tells.
+/// Whether a row of the list has a component for opacity.
 [[nodiscard]] bool hasOpacity(DvMFieldWidget* editor, int row);
 
 } // namespace orvane

@@ -6,7 +6,7 @@
 
 namespace {
 
-// As a rule a table has no rows yet when its columns are made, and rows that come later have no items.
+// Usually a table has no rows yet when its columns are made, and later rows have no items.
 void addPlaceholders(DvMFieldTable* table)
 {
     for (int row = 0; row < table->rowCount(); ++row) {

@@ -7,7 +7,7 @@ class DvMFieldTable;
 // The columns of the table of a list editor.
 namespace orvane {
 
-/// Makes the only column of a table, without a label of its own, and takes all rows away.
+/// Makes the only column of a table, without a label, and removes all rows.
 void setUpColumn(DvMFieldTable* table);
 /// Makes one column for each label.
 void setUpColumns(DvMFieldTable* table, const QStringList& labels);

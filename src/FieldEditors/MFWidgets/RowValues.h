@@ -25,7 +25,7 @@ template <typename List>
     return row >= 0 && row < field.getNum();
 }
 
-/// The value of a row as it is: a new one for a row that doesn't exist.
+/// The value of a row, or a new one for a row that doesn't exist.
 template <typename List>
 [[nodiscard]] auto valueOf(const List& list, int row)
 {
@@ -33,8 +33,8 @@ template <typename List>
     return hasRow(list, row) ? list[row] : Value();
 }
 
-/// Writes a row's value after a change to it, then pushes the command, even if nothing about the value changed. A row
-/// that doesn't exist is the field's matter, which writes nothing then. Nothing happens with a field of another class.
+/// Changes a row's value and writes it, then pushes the command, even if the value stays the same. The field ignores
+/// the write to a row that doesn't exist. Nothing happens with a field of another class.
 template <typename List, typename Change>
 void changeRow(NxMField* field, int row, Change change)
 {
@@ -47,7 +47,7 @@ void changeRow(NxMField* field, int row, Change change)
     pushSetRowCommand(list, row);
 }
 
-/// Writes one component of a vector that way. A component that the vector hasn't leaves it as it is.
+/// Changes one component of a row's vector like that. A component that the vector doesn't have leaves it as it is.
 template <typename List, typename Component>
 void setComponent(NxMField* field, int row, int component, Component number)
 {

@@ -17,8 +17,8 @@ QPushButton* addColorDisplay(QHBoxLayout* row, QWidget* parent);
 /// are left to the editor.
 QHBoxLayout* addColorRow(QHBoxLayout* row, QLabel* label, QLineEdit* line);
 
-/// A component from 0 to 1 as one from 0 to 255, the fraction cut off: 0.5 is 127. What is beyond an int, or no number,
-/// comes out as a value that no colour has.
+/// A component from 0 to 1 as one from 0 to 255, without its fraction: 0.5 is 127. A component beyond an int, or no
+/// number, gives a value that no colour has.
 [[nodiscard]] int shownComponent(float component);
 /// The same for a component that is scaled already.
 [[nodiscard]] int wholeComponent(double component);

@@ -17,7 +17,7 @@ public:
     ~DvPopupWidget() override;
 
     void load() override;
-    /// Whether a line of the grid holds text that was typed and not shown anew since. The line of the text form doesn't
+    /// Whether a line of the grid holds typed text that hasn't been replaced since. The line of the text form doesn't
     /// count.
     [[nodiscard]] bool edited() override;
 
@@ -28,7 +28,7 @@ public:
     void resetLinesCursor();
 
 public Q_SLOTS:
-    /// Opens the popup at the button, with the field's present value, or closes it.
+    /// Opens the popup at the button, with the field's current value, or closes it.
     void managePopFramePos();
 
 protected:

@@ -31,7 +31,7 @@ void DvSF2iSpinBox::load()
 void DvSF2iSpinBox::addColumn(QLabel*& label, QSpinBox*& spinBox)
 {
     label = new QLabel(m_editionFrame);
-    label->setObjectName(QStringLiteral("SF4flabel")); // the name that the four lines' labels have: meant
+    label->setObjectName(QStringLiteral("SF4flabel")); // Contract: named like the labels of four lines.
     spinBox = new QSpinBox(m_editionFrame);
     spinBox->setObjectName(QStringLiteral("SF2Box"));
     QVBoxLayout* const column = orvane::addVectorColumn(m_editLayout, label, spinBox);

@@ -6,9 +6,9 @@ class QSpinBox;
 
 /// Base of the editors of two integers: a labelled spin box for x and one for y.
 ///
-/// Each step of a spin box writes the field and pushes a command. A spin box that a refresh from the field changes does
-/// the same, with the other one still at its former value: a change of both numbers from outside makes two writes and
-/// two commands on its way through. That is meant.
+/// Each step of a spin box writes the field and pushes a command.
+/// Contract: so does a spin box that a refresh from the field changes, while the other one still has its former value.
+/// A change of both numbers from outside causes two writes and two commands.
 class DvSF2iSpinBox : public DvSFieldWidget {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ public:
     void setSpinBoxRange(int kind);
 
 protected:
-    /// Shows x, then y; signals come through.
+    /// Shows x, then y; the signals aren't blocked.
     void showNumbers(int x, int y);
 
     QSpinBox* m_ySpinBox = nullptr;

@@ -30,7 +30,7 @@ void DvSF4fBox::load()
 
 void DvSF4fBox::addColumn(QLabel*& label, QLineEdit*& line)
 {
-    // Both names are meant as they are spelt.
+    // Contract: both names are spelt like this.
     label = new QLabel(m_editionFrame);
     label->setObjectName(QStringLiteral("SF4flabel"));
     line = new QLineEdit(m_editionFrame);

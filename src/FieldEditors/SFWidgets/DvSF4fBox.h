@@ -26,7 +26,7 @@ public:
 protected:
     /// Shows the numbers and the beginning of each text.
     void showNumbers(float x, float y, float z, float w);
-    /// The numbers as they stand in the lines.
+    /// The numbers in the lines.
     [[nodiscard]] VbVec4f numbers() const;
 
     QLineEdit* m_zLine = nullptr;

@@ -60,7 +60,7 @@ void DvSFBitMaskWidget::addBoxes(const NxSFEnum& field)
         connect(box, &QCheckBox::clicked, this, &DvSFBitMaskWidget::setBitMaskValue);
         m_checkBoxes.append(box);
     }
-    // A field without any bits leaves the layout in its place, since there are no boxes to take it out with.
+    // After a field without any bits the layout is still there, since only removeBoxes takes it out.
     if (m_boxLayout->parent() == nullptr)
         m_editLayout->addLayout(m_boxLayout);
 }

@@ -8,10 +8,11 @@ class NxSFEnum;
 class QCheckBox;
 class QVBoxLayout;
 
-/// Edits a set of bits with a check box for each name that stands for any.
+/// Edits a set of bits with a check box for each name of one or more bits.
 ///
-/// The way from the boxes to the field is one-way: the boxes show what the field had when it was taken in, and follow
-/// neither later changes nor the default button. What they write doesn't reach the history. Both is meant.
+/// Contract: the boxes show the value that the field had when it was set. They follow neither later changes nor the
+/// default button.
+/// Contract: a click writes the field and pushes no command.
 class DvSFBitMaskWidget final : public DvSFieldWidget {
     Q_OBJECT
 
@@ -33,5 +34,5 @@ private:
     void removeBoxes();
 
     QList<QCheckBox*> m_checkBoxes;
-    QVBoxLayout* m_boxLayout = nullptr; // the edit layout's while there are boxes, ours before and in between
+    QVBoxLayout* m_boxLayout = nullptr; // owned by the edit layout while there are boxes, else by this object
 };

@@ -21,7 +21,7 @@ DvSFBox2fWidget::~DvSFBox2fWidget() = default;
 
 void DvSFBox2fWidget::load()
 {
-    // First, since the label keeps the first text that it gets.
+    // First, since the label keeps the first text that is set.
     setFieldTypeLabel(QLatin1String("SFBox2f"));
     DvPopupWidget::load();
     setLinesValidator(orvane::kindNumber(orvane::ValidatorKind::Float));
@@ -51,6 +51,6 @@ void DvSFBox2fWidget::applyChanges()
         static_cast<NxSFBox2f*>(m_field)->setValue(number(0), number(1), number(2), number(3));
         orvane::pushSetValueCommand(m_field);
     }
-    // Not this class's own: the line with the text form is brought up to date, the grid isn't.
+    // Contract: updates the line with the text form, but not the grid.
     DvSFLineWidget::updateFromField();
 }

@@ -20,7 +20,7 @@ DvSFBox3sWidget::~DvSFBox3sWidget() = default;
 
 void DvSFBox3sWidget::load()
 {
-    // First, since the label keeps the first text that it gets.
+    // First, since the label keeps the first text that is set.
     setFieldTypeLabel(QLatin1String("SFBox3s"));
     DvPopupWidget::load();
     setLinesValidator(orvane::kindNumber(orvane::ValidatorKind::Int16));
@@ -51,6 +51,6 @@ void DvSFBox3sWidget::applyChanges()
         static_cast<NxSFBox3s*>(m_field)->setValue(number(0), number(1), number(2), number(3), number(4), number(5));
         orvane::pushSetValueCommand(m_field);
     }
-    // Not this class's own: the line with the text form is brought up to date, the grid isn't.
+    // Contract: updates the line with the text form, but not the grid.
     DvSFLineWidget::updateFromField();
 }

@@ -52,7 +52,7 @@ void DvSFColorRGBAWidget::addRow(QLabel*& label, QLineEdit*& line)
     line->setObjectName(QStringLiteral("SFColorRGBALine"));
     QHBoxLayout* const row = orvane::addColorRow(m_editLayout, label, line);
     row->setObjectName(QStringLiteral("SFColorRGBALayout"));
-    // There is no metric of this name, so the two touch: meant.
+    // Contract: there is no metric of this name, so label and line touch.
     row->setSpacing(getLayoutMetric(QStringLiteral("SFColorRGBAInterSpacing")));
     connect(line, &QLineEdit::returnPressed, this, &DvSFColorRGBAWidget::setCommandValue);
     connect(line, &QLineEdit::editingFinished, this, &DvSFColorRGBAWidget::setFocusLeaveEvent);
@@ -90,7 +90,7 @@ QColor DvSFColorRGBAWidget::color() const
 
 void DvSFColorRGBAWidget::getColorEditor()
 {
-    // An empty title, not a null one, and single precision on the way back: meant.
+    // An empty title rather than a null one, and single precision; the editor without opacity differs in both.
     const QColor chosen
         = QColorDialog::getColor(color(), getFrame(), QLatin1String(""), QColorDialog::ShowAlphaChannel);
     if (!chosen.isValid())
@@ -105,7 +105,7 @@ void DvSFColorRGBAWidget::getColorEditor()
 
 void DvSFColorRGBAWidget::showComponents()
 {
-    // Each text goes back into its component, so that the editor knows what it shows and no more.
+    // Each text is read back into its component, so that the editor knows the number that it shows.
     orvane::showNumber(m_redLine, m_red);
     orvane::showNumber(m_greenLine, m_green);
     orvane::showNumber(m_blueLine, m_blue);

@@ -8,8 +8,8 @@ class QLineEdit;
 /// Edits a colour and its opacity with a line for each component and a button that shows it and opens the colour
 /// dialog.
 ///
-/// What is typed shows on the button at once and reaches the field on Return or when the line is left. Nothing is
-/// limited to 0 to 1: a component outside goes to the field, and the button keeps the last colour that can be shown.
+/// A typed number is shown on the button at once and written to the field on Return or when the line is left.
+/// Contract: components aren't limited to 0 to 1; the button keeps the last colour that can be shown.
 class DvSFColorRGBAWidget final : public DvSFieldWidget {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ private:
     QLabel* m_greenLabel = nullptr;
     QLabel* m_blueLabel = nullptr;
     QLabel* m_alphaLabel = nullptr;
-    // The components as the editor knows them, nominally 0 to 1: what the lines read as.
+    // The numbers in the lines, nominally 0 to 1.
     float m_red = 0;
     float m_green = 0;
     float m_blue = 0;

@@ -35,7 +35,7 @@ void DvSFColorWidget::load()
     m_redLabel->setText(tr("<p align=\"right\">R</p>"));
     m_greenLabel->setText(tr("<p align=\"right\">G</p>"));
     m_blueLabel->setText(tr("<p align=\"right\">B</p>"));
-    // The blanks in the spelling of the signals are meant.
+    // Connected by text, with these blanks in the signals' spelling.
     // clang-format off
     connect(m_redLine, SIGNAL(textChanged ( const QString & )), this, SLOT(changeRValue(const QString & )));
     connect(m_greenLine, SIGNAL(textChanged ( const QString & )), this, SLOT(changeGValue(const QString & )));
@@ -84,7 +84,7 @@ void DvSFColorWidget::getColorEditor()
     const QColor chosen = QColorDialog::getColor(color(), getFrame(), QString());
     if (!chosen.isValid())
         return;
-    // Double precision on the way back, unlike the editor with opacity: meant.
+    // In double precision, unlike in the editor with opacity. The six digits that are shown are the same.
     m_red = static_cast<float>(chosen.red() / 255.0);
     m_green = static_cast<float>(chosen.green() / 255.0);
     m_blue = static_cast<float>(chosen.blue() / 255.0);
@@ -94,7 +94,7 @@ void DvSFColorWidget::getColorEditor()
 
 void DvSFColorWidget::showComponents()
 {
-    // Each text goes back into its component, so that the editor knows what it shows and no more.
+    // Each text is read back into its component, so that the editor knows the number that it shows.
     orvane::showNumber(m_redLine, m_red);
     orvane::showNumber(m_greenLine, m_green);
     orvane::showNumber(m_blueLine, m_blue);

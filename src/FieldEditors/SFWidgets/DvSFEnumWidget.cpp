@@ -49,8 +49,7 @@ void DvSFEnumWidget::updateFromField()
         m_field->get(value);
     const QString text = orvane::toQString(value);
     const int index = m_comboBox->findData(text, Qt::DisplayRole);
-    // A value without a name takes the place of the current item until the names are read again: meant, so that it is
-    // shown at all.
+    // Contract: a value without a name replaces the current item until the names are read again.
     if (index >= 0)
         m_comboBox->setCurrentIndex(index);
     else

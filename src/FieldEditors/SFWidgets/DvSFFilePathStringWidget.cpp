@@ -29,9 +29,9 @@ void DvSFFilePathStringWidget::load()
     m_openFileButton->setSizePolicy(policy);
     m_openFileButton->setObjectName(QStringLiteral("openFileButton"));
     m_openFileButton->setText(QStringLiteral("..."));
-    // More stretch than the line has: the button can't use it, and the line takes what is over.
+    // More stretch than the line has. The button can't use it, so the line gets the rest.
     m_editLayout->addWidget(m_openFileButton, 2);
-    // Past edited(): whenever the line says so, the field is written, changed or not. Meant.
+    // Contract: finished editing writes the field, whether the text has changed or not.
     connect(lineEdit, &QLineEdit::editingFinished, this, &DvSFFilePathStringWidget::setCommandValue);
     connect(m_openFileButton, &QPushButton::clicked, this, &DvSFFilePathStringWidget::openFileDialog);
 }

@@ -4,7 +4,7 @@
 
 class QLineEdit;
 
-/// Edits the path of a file, typed or chosen in a dialog. A typed path goes to the field when editing of the line
+/// Edits the path of a file, typed or chosen in a dialog. A typed path is written to the field when editing of the line
 /// finishes, a chosen one at once. The file need not exist.
 class DvSFFilePathStringWidget final : public DvSFieldWidget {
     Q_OBJECT

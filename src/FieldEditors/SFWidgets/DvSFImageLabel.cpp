@@ -51,7 +51,7 @@ void DvSFImageLabel::mouseMoveEvent(QMouseEvent* /*event*/)
 {
     if (m_pixmapLabel->isVisible())
         return;
-    // The place in the parent, read as one in the label itself: the picture stands off by it, which is meant.
+    // Contract: the position in the parent is used as one in the label, so the picture appears at twice the offset.
     QPoint position = mapToGlobal(geometry().topLeft());
     const QSize screen = QGuiApplication::primaryScreen()->availableSize();
     if (position.x() > screen.width() - m_pixmapLabel->width())

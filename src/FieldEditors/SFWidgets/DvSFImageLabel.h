@@ -11,8 +11,8 @@ public:
     /// Width and height are those of the thumbnail, in pixels.
     DvSFImageLabel(int width, int height, QWidget* parent, const char* name);
 
-    /// Shows the pixmap in both sizes. The two share its data. An empty one leaves nothing to be seen, and the enlarged
-    /// picture without any extent.
+    /// Shows the pixmap in both sizes, which share its data. An empty one shows nothing, and the enlarged picture then
+    /// has no extent.
     void showPixmap(const QPixmap& pixmap);
 
 protected:

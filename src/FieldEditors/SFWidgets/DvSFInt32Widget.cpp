@@ -38,7 +38,7 @@ void DvSFInt32Widget::applyChanges()
 {
     if (m_field == nullptr)
         return;
-    // Always decimal, whatever the radix of the slider, and as plain bytes, unlike the other integers: meant.
+    // Contract: always decimal, whatever the radix of the slider, and as plain bytes, unlike the other integers.
     m_field->set(QString::number(m_slider->value()).toLatin1().constData());
     orvane::pushSetValueCommand(m_field, m_slider->commandValue());
 }

@@ -4,7 +4,7 @@
 
 class DvIntSlider;
 
-/// Edits a 32-bit integer with a slider whose range grows with the values that it meets.
+/// Edits a 32-bit integer with a slider whose range grows with the values that it shows.
 class DvSFInt32Widget final : public DvSFieldWidget {
     Q_OBJECT
 

@@ -29,7 +29,7 @@ void DvSFLineWidget::load()
     connect(lineEdit, &QLineEdit::returnPressed, this, qOverload<>(&DvSFLineWidget::applyChanges));
     connect(lineEdit, &QLineEdit::textChanged, this, applyText);
     connect(lineEdit, &QLineEdit::cursorPositionChanged, this, &DvSFLineWidget::setCursorPosition);
-    // A keystroke raises this signal beside textChanged, so it writes twice and pushes two commands: meant.
+    // Contract: a keystroke emits this signal beside textChanged, so it writes twice and pushes two commands.
     connect(lineEdit, &QLineEdit::textEdited, this, applyText);
 }
 
@@ -55,8 +55,8 @@ void DvSFLineWidget::applyChanges(const QString& /*text*/)
     if (m_field == nullptr)
         return;
     const int position = lineEdit->cursorPosition();
-    // A text that the field refuses changes nothing and pushes a command all the same. The line keeps it until the
-    // next change of the field brings the field's own text back.
+    // Contract: a text that the field refuses pushes a command all the same. The line keeps it until the next change of
+    // the field.
     m_field->set(orvane::toVbString(lineEdit->text()));
     lineEdit->setCursorPosition(position);
     orvane::pushSetValueCommand(m_field);

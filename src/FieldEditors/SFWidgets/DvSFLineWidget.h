@@ -4,8 +4,8 @@
 
 class QLineEdit;
 
-/// Edits any single value through its text form, and writes the field with each keystroke. The editor of all fields
-/// that have none of their own, and the base of the editors that add a popup to the line.
+/// Edits any single value through its text form, and writes the field with each keystroke. It is the editor of all
+/// fields that have none of their own, and the base of the editors that add a popup to the line.
 class DvSFLineWidget : public DvSFieldWidget {
     Q_OBJECT
 
@@ -17,14 +17,14 @@ public:
     void updateFromField() override;
     [[nodiscard]] bool edited() override;
 
-    // The one without an argument stays empty here: Return and leaving the line add nothing to what the keys wrote.
-    // They are connected to it for the classes that override it.
+    // The one without an argument does nothing here, since the keys have written the text already. Return and leaving
+    // the line call it for the classes that override it.
     using DvSFieldWidget::applyChanges;
 
 public Q_SLOTS:
     /// Writes the text of the line to the field and pushes a command; the argument isn't read.
     virtual void applyChanges(const QString& text);
-    /// Keeps where the cursor is now.
+    /// Keeps the position of the cursor.
     virtual void setCursorPosition(int oldPos, int newPos);
 
 protected:

@@ -21,7 +21,7 @@ DvSFMatrixWidget::~DvSFMatrixWidget() = default;
 
 void DvSFMatrixWidget::load()
 {
-    // First, since the label keeps the first text that it gets.
+    // First, since the label keeps the first text that is set.
     setFieldTypeLabel(QLatin1String("SFMatrix"));
     DvPopupWidget::load();
     setLinesValidator(orvane::kindNumber(orvane::ValidatorKind::Float));
@@ -47,6 +47,6 @@ void DvSFMatrixWidget::applyChanges()
         static_cast<NxSFMatrix*>(m_field)->setValue(matrix);
         orvane::pushSetValueCommand(m_field);
     }
-    // Not this class's own: the line with the text form is brought up to date, the grid isn't.
+    // Contract: updates the line with the text form, but not the grid.
     DvSFLineWidget::updateFromField();
 }

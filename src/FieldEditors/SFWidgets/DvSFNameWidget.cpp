@@ -23,7 +23,7 @@ void DvSFNameWidget::load()
     setFieldTypeLabel(QLatin1String("SFName"));
     DvSFieldWidget::load();
     lineEdit = orvane::addEditLine(*m_editionFrame, *m_editLayout);
-    // Past edited(): whenever the line says so, the field is written, changed or not. Meant.
+    // Contract: finished editing writes the field, whether the text has changed or not.
     connect(lineEdit, &QLineEdit::editingFinished, this, &DvSFNameWidget::setCommandValue);
 }
 

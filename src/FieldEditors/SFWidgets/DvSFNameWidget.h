@@ -4,8 +4,8 @@
 
 class QLineEdit;
 
-/// Edits a name. The field is written when editing of the line finishes: on Return, and when the focus leaves it. What
-/// a name can't hold, anything outside Latin-1, is lost then.
+/// Edits a name. The field is written when editing of the line finishes: on Return, and when the focus leaves it.
+/// Characters outside Latin-1, which a name can't hold, are lost then.
 class DvSFNameWidget final : public DvSFieldWidget {
     Q_OBJECT
 

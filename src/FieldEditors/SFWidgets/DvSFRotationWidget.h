@@ -2,9 +2,9 @@
 
 #include "FieldEditors/SFWidgets/DvSF4fBox.h"
 
-/// Edits a rotation: its axis as it stands in the field, and its angle in radians.
+/// Edits a rotation: its axis as the field has it, and its angle in radians.
 ///
-/// A rotation is written on Return alone: who leaves a line leaves the text there, unapplied. That is meant.
+/// Contract: only Return writes the rotation. Leaving a line keeps the typed text there, unapplied.
 class DvSFRotationWidget final : public DvSF4fBox {
     Q_OBJECT
 
@@ -16,6 +16,6 @@ public:
     void updateFromField() override;
     void applyChanges() override;
 
-    /// Writes what was typed. For whoever wants to apply a pending text by hand: no control leads here.
+    /// Writes a typed text. Contract: no control calls it.
     virtual void applyIfModified();
 };

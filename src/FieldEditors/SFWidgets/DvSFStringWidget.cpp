@@ -20,7 +20,7 @@ void DvSFStringWidget::load()
     setFieldTypeLabel(QLatin1String("SFString"));
     DvSFieldWidget::load();
     lineEdit = orvane::addEditLine(*m_editionFrame, *m_editLayout);
-    // Past edited(): whenever the line says so, the field is written, changed or not. Meant.
+    // Contract: finished editing writes the field, whether the text has changed or not.
     connect(lineEdit, &QLineEdit::editingFinished, this, &DvSFStringWidget::setCommandValue);
 }
 

@@ -4,7 +4,7 @@
 
 class DvUIntSlider;
 
-/// Edits an unsigned 32-bit integer with a slider whose range grows with the values that it meets.
+/// Edits an unsigned 32-bit integer with a slider whose range grows with the values that it shows.
 class DvSFUInt32Widget final : public DvSFieldWidget {
     Q_OBJECT
 

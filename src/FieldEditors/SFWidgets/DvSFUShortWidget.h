@@ -4,7 +4,7 @@
 
 class DvUIntSlider;
 
-/// Edits an unsigned 16-bit integer with a slider whose range grows with the values that it meets.
+/// Edits an unsigned 16-bit integer with a slider whose range grows with the values that it shows.
 class DvSFUShortWidget final : public DvSFieldWidget {
     Q_OBJECT
 

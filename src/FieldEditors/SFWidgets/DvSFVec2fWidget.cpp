@@ -40,7 +40,7 @@ void DvSFVec2fWidget::addColumn(QLabel*& label, QLineEdit*& line)
     line->setObjectName(QStringLiteral("SFVec2fBox"));
     orvane::acceptFloats(line);
     orvane::addVectorColumn(m_editLayout, label, line);
-    // These three go to the row and not to the column, over what load has set there: meant.
+    // Contract: set on the row and not on the column, in place of what load has set there.
     m_editLayout->setContentsMargins(0, 0, 0, 0);
     m_editLayout->setSpacing(getLayoutMetric(QStringLiteral("SF2BoxVSpacing")));
     m_editLayout->setObjectName(QStringLiteral("SFVec2fLayout"));

@@ -31,7 +31,7 @@ void DvSFVec2sWidget::updateFromField()
 {
     if (m_field == nullptr)
         return;
-    // Both numbers are read ahead of the first spin box, whose change writes the field.
+    // Both numbers are read before the first spin box is set, since its change writes the field.
     short x = 0;
     short y = 0;
     static_cast<NxSFVec2s*>(m_field)->getValue().getValue(x, y);

@@ -91,7 +91,7 @@ void DvSFieldWidget::buildEditionArea()
     } else {
         m_editionFrame = new QFrame(m_frame);
         m_editionFrame->setObjectName(QStringLiteral("m_editionFrame"));
-        // In a high dock labels and controls stay together.
+        // So that labels and controls stay together in a high dock.
         m_editionFrame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
         setBox(m_editionFrame, QStringLiteral("frameLineWidth"));
         m_editLayout = makeRow(m_editionFrame, QStringLiteral("editLayout"), QStringLiteral("SFieldEditLayoutMargin"),
@@ -103,7 +103,7 @@ void DvSFieldWidget::buildEditionArea()
 
 void DvSFieldWidget::buildButtons()
 {
-    // The name is that of the main layout, too: meant, whoever looks a layout up by it finds the main one first.
+    // Contract: it has the name of the main layout, so a search by name finds the main one first.
     m_buttonsLayout = makeRow(nullptr, QStringLiteral("SFieldLayout"), QStringLiteral("SFButtonLayoutMargin"),
         QStringLiteral("SFButtonLayoutSpacing"));
     m_defaultButton = orvane::makeIconButton(m_frame, QStringLiteral("m_defaultButton"), m_defaultPixmap);

@@ -12,8 +12,8 @@ class QSpacerItem;
 /// The common body of every single-value editor: one row of type label, edit area and the two buttons "Set to default"
 /// and "Ignore this field".
 ///
-/// A concrete editor writes handled type and name in its constructor, calls `setFieldTypeLabel` and this `load` in its
-/// own, and then adds its controls to `m_editLayout`.
+/// A concrete editor sets handled type and name in its constructor. Its `load` calls `setFieldTypeLabel`, then this
+/// `load`, and adds its controls to `m_editLayout`.
 class DvSFieldWidget : public OrvFieldEditors {
     Q_OBJECT
 
@@ -39,8 +39,8 @@ public:
     /// Whether a line holds text that was typed and not yet written to the field.
     [[nodiscard]] virtual bool edited();
 
-    // The order of the slots is that of the meta object. A pending edit reaches the field through one of three doors:
-    // applyChanges and setCommandValue always write, setFocusLeaveEvent only what was typed.
+    // The order of the slots is that of the meta object. Three of them write a pending edit to the field: applyChanges
+    // and setCommandValue always, setFocusLeaveEvent only if a text was typed.
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)
     virtual void languageChange();
     virtual void setCommandValue();
@@ -52,7 +52,7 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers)
 protected:
     /// Makes the label on first need. The text is set once: a later call changes nothing.
     void setFieldTypeLabel(const QString& typeName);
-    /// Keeps the edit area at its own width, in the middle between label and buttons, instead of over all the width.
+    /// Keeps the edit area at its own width, in the middle between label and buttons.
     void centreEditionArea();
 
     QLabel* m_label = nullptr;

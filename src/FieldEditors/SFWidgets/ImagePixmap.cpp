@@ -39,8 +39,8 @@ QImage::Format formatOf(int components)
     }
 }
 
-// Row after row as they are. The image that reads them expects each row to begin at a multiple of four bytes, so one
-// whose rows end elsewhere comes out sheared, and lacks what it takes for the last rows. Meant.
+// Contract: rows are copied without padding. QImage expects each row to begin at a multiple of four bytes, so an image
+// with other rows is sheared, and its last rows are partly missing.
 void copyRows(unsigned char* target, std::size_t targetSize, const Source& source)
 {
     const std::size_t size = source.width * source.height * source.components;
@@ -68,7 +68,7 @@ void turnRows(unsigned char* target, const Source& source)
 void setColors(QImage& image)
 {
     if (image.format() != QImage::Format_Indexed8) {
-        // Without effect, and Qt says so on each such image. Contract: it is called all the same.
+        // Contract: called here as well, without effect and with a warning of Qt's.
         image.setColor(0, 0xFF000000);
         return;
     }

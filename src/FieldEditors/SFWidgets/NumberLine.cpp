@@ -34,7 +34,7 @@ void acceptFloats(QLineEdit* line)
 void applyFromLine(QLineEdit* line, DvSFieldWidget* editor)
 {
     QObject::connect(line, &QLineEdit::editingFinished, editor, &DvSFieldWidget::setFocusLeaveEvent);
-    // The blank in the signal's spelling is meant.
+    // Connected by text, with this blank in the signal's spelling.
     // clang-format off
     QObject::connect(line, SIGNAL(returnPressed ()), editor, SLOT(setCommandValue()));
     // clang-format on

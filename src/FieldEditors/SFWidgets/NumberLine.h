@@ -18,10 +18,10 @@ void showNumber(QLineEdit* line, float value);
 /// The number in a line; 0 for a text that is none, an empty one included.
 [[nodiscard]] float numberIn(const QLineEdit* line);
 
-/// Has the line take any float, with six decimals at most.
+/// Limits the line to floats, with six decimals at most.
 void acceptFloats(QLineEdit* line);
-/// Has Return in the line always write the value, and leaving the line write what was typed. Return in a line with
-/// typed text does both.
+/// Return in the line always writes the value; leaving the line writes a typed text. Return in a line with typed text
+/// does both.
 void applyFromLine(QLineEdit* line, DvSFieldWidget* editor);
 
 /// Shows the beginning of each text.
@@ -31,7 +31,7 @@ inline void resetCursors(std::initializer_list<QLineEdit*> lines)
     resetCursors({lines.begin(), lines.size()});
 }
 
-/// Whether any of the lines holds text that was typed and not written anew since.
+/// Whether any of the lines holds typed text that hasn't been replaced since.
 [[nodiscard]] bool anyModified(std::span<QLineEdit* const> lines);
 [[nodiscard]] inline bool anyModified(std::initializer_list<QLineEdit*> lines)
 {

@@ -14,8 +14,8 @@ namespace orvane {
 /// margins and spacing of the column are left to the editor.
 QVBoxLayout* addVectorColumn(QHBoxLayout* row, QLabel* label, QWidget* control);
 
-/// Pushes the command of a value that has just been written. If the edit area is a slider, undo goes back to a copy of
-/// the slider's snapshot, which stays as it is.
+/// Pushes the command of a value that has just been written. If the edit area is a slider, undo restores a copy of the
+/// slider's snapshot, which isn't changed.
 void pushVectorCommand(NxField* field, QFrame* editionFrame);
 
 } // namespace orvane

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void textStaysWhateverIsFiltered();
     void doubleToggleShowsAgain();
     void errorArrivesFromTheEventLoopOnly();
+    void errorComesAsAnEventOfTheFirstFreeType();
     void errorsOfThreadsKeepTheirOrder();
     void manyErrorsLeaveTheEventLoopRunning();
     void errorsArriveWhileItIsLoadedOnly();
@@ -123,6 +124,25 @@ void tst_ConsoleErrors::errorArrivesFromTheEventLoopOnly()
     NxError::post(VbString("later"));
     QVERIFY(run.output().toPlainText().isEmpty());
     QCOMPARE(run.lines(), QStringList(QStringLiteral("later")));
+}
+
+void tst_ConsoleErrors::errorComesAsAnEventOfTheFirstFreeType()
+{
+    class TypeRecorder : public QObject {
+    public:
+        QList<int> types;
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override
+        {
+            types << event->type();
+            return false;
+        }
+    };
+    ConsoleRun run;
+    TypeRecorder recorder;
+    run.console.installEventFilter(&recorder);
+    NxError::post(VbString("text"));
+    QCOMPARE(run.lines(), QStringList(QStringLiteral("text")));
+    QCOMPARE(recorder.types, QList<int>{1000});
 }
 
 void tst_ConsoleErrors::errorsOfThreadsKeepTheirOrder()

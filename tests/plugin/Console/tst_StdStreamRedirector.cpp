@@ -4,6 +4,7 @@
 
 #include <sstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void overflowNeverFails();
     void endOfFileAddsAByte();
     void nestedRedirectorsGiveBackInTurn();
+    void callbackRunsOnTheWritingThread();
 };
 
 void tst_StdStreamRedirector::formerBufferComesBack()
@@ -202,6 +204,22 @@ void tst_StdStreamRedirector::nestedRedirectorsGiveBackInTurn()
     QVERIFY((inner == Pieces{{"inner", 5}}));
     QVERIFY((outer == Pieces{{"outer", 5}}));
     QCOMPARE(static_cast<std::ostream&>(stream).rdbuf(), buffer);
+}
+
+void tst_StdStreamRedirector::callbackRunsOnTheWritingThread()
+{
+    std::ostringstream stream;
+    std::thread::id called;
+    const Redirector redirector(
+        stream,
+        [](const char*, std::streamsize, void* userData) {
+            *static_cast<std::thread::id*>(userData) = std::this_thread::get_id();
+        },
+        &called);
+    std::thread writer([&stream] { stream << "text"; });
+    const std::thread::id writerId = writer.get_id();
+    writer.join();
+    QCOMPARE(called, writerId);
 }
 
 QTEST_APPLESS_MAIN(tst_StdStreamRedirector)

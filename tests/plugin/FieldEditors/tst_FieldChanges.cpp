@@ -1,7 +1,24 @@
 #include "FieldEditors/FieldChanges.h"
 #include "plugin/ToolHarness.h"
 
+#include "meridane/base/values/VbName.h"
+#include "meridane/scene/nodes/NxNode.h"
+
 #include <memory>
+
+/// A node that counts its instances.
+class CountedNode : public NxNode {
+    NX_NODE(CountedNode)
+
+public:
+    CountedNode() { ++count; }
+    ~CountedNode() override { --count; }
+
+    NxSFFloat amount{this, "amount", 1};
+    inline static int count = 0;
+};
+
+NX_NODE_SOURCE(CountedNode, NxNode, "Counted")
 
 class tst_FieldChanges : public QObject {
     Q_OBJECT
@@ -16,6 +33,7 @@ private Q_SLOTS:
     void ignoredFlagCanBeUndone();
     void defaultComesFromANewInstance_data();
     void defaultComesFromANewInstance();
+    void eachDefaultLeavesAnInstanceBehind();
     void nothingHappensWithoutAField();
     void nothingHappensWithoutAContainer();
 
@@ -96,6 +114,19 @@ void tst_FieldChanges::defaultComesFromANewInstance()
     QCOMPARE(m_tool->services.pushed, 1);
     m_tool->services.undo();
     QVERIFY(field->isDefault());
+}
+
+void tst_FieldChanges::eachDefaultLeavesAnInstanceBehind()
+{
+    const NxRef<CountedNode> node(new CountedNode);
+    node->amount.setValue(2);
+    QVERIFY(!node->amount.isDefault()); // which makes the instance that knows the defaults
+    const int before = CountedNode::count;
+    orvane::setDefaultFieldValue(&node->amount);
+    QCOMPARE(node->amount.getValue(), 1.0F);
+    QCOMPARE(CountedNode::count, before + 1);
+    orvane::setDefaultFieldValue(&node->amount);
+    QCOMPARE(CountedNode::count, before + 2);
 }
 
 void tst_FieldChanges::nothingHappensWithoutAField()

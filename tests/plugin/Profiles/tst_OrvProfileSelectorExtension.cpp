@@ -78,6 +78,7 @@ private Q_SLOTS:
     void activateListsTheProfiles();
     void activateDoesNotChangeTheProfile();
     void activateSpeaksToTheShellInOrder();
+    void activationIsRecordedLast();
     void withoutAnActiveProfileNothingIsCurrent();
     void withoutProfilesTheListIsEmpty();
     void choiceMakesTheProfileActiveAndListsItsForerunnersAgain();
@@ -137,6 +138,37 @@ void tst_OrvProfileSelectorExtension::activateDoesNotChangeTheProfile()
 {
     const SelectorRun run(plainList, QStringLiteral("C"));
     QCOMPARE(run.activeName(), QStringLiteral("C"));
+}
+
+void tst_OrvProfileSelectorExtension::activationIsRecordedLast()
+{
+    /// Records whether the extension is active when its tool bar comes into the window.
+    class MoveRecorder : public QObject {
+    public:
+        explicit MoveRecorder(const OrvExtension& extension)
+            : m_extension(extension)
+        {
+        }
+        QList<bool> states;
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override
+        {
+            if (event->type() == QEvent::ParentChange)
+                states << m_extension.isActive();
+            return false;
+        }
+
+    private:
+        const OrvExtension& m_extension;
+    };
+    SelectorRun run(plainList);
+    QToolBar* const toolBar = run.toolBar();
+    run.selector.deactivate();
+    MoveRecorder recorder(run.selector);
+    toolBar->installEventFilter(&recorder);
+    run.selector.activate();
+    QCOMPARE(recorder.states, QList<bool>{false});
+    QVERIFY(run.selector.isActive());
+    toolBar->removeEventFilter(&recorder);
 }
 
 void tst_OrvProfileSelectorExtension::activateSpeaksToTheShellInOrder()
