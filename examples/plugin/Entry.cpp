@@ -6,7 +6,7 @@ OrvPlugin* thePlugin = nullptr;
 
 } // namespace
 
-// The two functions that the host looks for. They have C linkage, so that their names are plain.
+// The two functions that the host looks for. They have C linkage, so that their names aren't mangled.
 extern "C" {
 
 __attribute__((visibility("default"))) OrvPlugin* loadPlugin();

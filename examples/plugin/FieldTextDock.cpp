@@ -11,12 +11,12 @@
 
 namespace {
 
-// A label isn't made for texts of megabytes.
+// A label can't show texts of megabytes in reasonable time.
 constexpr qsizetype longestText = 1000;
 
 } // namespace
 
-// The sensor calls from the event loop, some time after the field has changed, however often that was.
+// The sensor calls it from the event loop, once after one or more changes of the field.
 FieldTextDock::FieldTextDock()
     : m_sensor([](void* dock, NxSensor*) { static_cast<FieldTextDock*>(dock)->showValue(); }, this)
 {
@@ -28,7 +28,7 @@ FieldTextDock::FieldTextDock()
 
 FieldTextDock::~FieldTextDock() = default;
 
-// Builds the extension's own objects, hidden, and talks to nobody.
+// Builds the extension's own objects, hidden, and uses nothing else of the tool.
 void FieldTextDock::load()
 {
     m_dock = new QDockWidget(QStringLiteral("Field Text"));
@@ -47,7 +47,7 @@ void FieldTextDock::unload()
     m_label = nullptr;
 }
 
-// Links the extension to the rest of the tool. The selection is announced once more behind the activation.
+// Connects the extension to the rest of the tool. The selection is announced again after the activation.
 void FieldTextDock::activate()
 {
     OrvExtension::activate();
@@ -58,7 +58,7 @@ void FieldTextDock::activate()
     show();
 }
 
-// Undoes what activate() did; the dock stays ours.
+// Undoes what activate() did; the extension still owns the dock.
 void FieldTextDock::deactivate()
 {
     m_sensor.detach();
@@ -90,7 +90,7 @@ void FieldTextDock::s_selectedFieldChanged(NxField* field)
 void FieldTextDock::showValue()
 {
     VbString text;
-    // The sensor lets go of a field that dies, so this pointer is never stale.
+    // The sensor detaches from a field that is destroyed, so this pointer is never dangling.
     if (const NxField* const field = m_sensor.getAttachedField())
         field->get(text);
     m_label->setText(orvane::toQString(text).left(longestText));

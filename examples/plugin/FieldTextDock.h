@@ -8,8 +8,8 @@ class NxField;
 class QDockWidget;
 class QLabel;
 
-/// A dock that shows the selected field's value as text and follows its changes: the smallest extension that does all
-/// that an extension can do.
+/// A dock that shows the selected field's value as text and follows its changes: a small extension that uses every part
+/// of the interface.
 class FieldTextDock final : public OrvExtension {
     Q_OBJECT
 
