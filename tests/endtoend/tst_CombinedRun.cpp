@@ -16,7 +16,7 @@ const QString picture = QStringLiteral("window.png");
 } // namespace
 
 // The options of the command line beside each other, and what somebody gives who wants to break them.
-class CombinedRunTest : public ProgramCase {
+class TestCombinedRun : public ProgramCase {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -267,5 +267,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(CombinedRunTest)
+QTEST_GUILESS_MAIN(TestCombinedRun)
 #include "tst_CombinedRun.moc"

@@ -39,7 +39,7 @@ QByteArray indexCounts(const QByteArray& list)
 } // namespace
 
 // The program on the command line, without a display: what it prints, what it writes and how it ends.
-class CommandRunTest : public ProgramCase {
+class TestCommandRun : public ProgramCase {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -316,5 +316,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(CommandRunTest)
+QTEST_GUILESS_MAIN(TestCommandRun)
 #include "tst_CommandRun.moc"

@@ -133,185 +133,177 @@ int painted(const QImage& picture)
     return differences(picture, none);
 }
 
+} // namespace
+
 class TestFarScenes : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { m_bench = std::make_unique<DrawingBench>(); }
     void cleanupTestCase() { m_bench.reset(); }
-    void cleanup();
 
-    void aFarSceneLooksAsAtTheOrigin_data();
-    void aFarSceneLooksAsAtTheOrigin();
+    void cleanup()
+    {
+        m_bench->drawing().setScene(nullptr);
+        m_bench->restyle([](NxDrawingStyle& style) { style.boundingBoxes = style.grid = style.axes = false; });
+    }
+
+    void aFarSceneLooksAsAtTheOrigin_data()
+    {
+        QTest::addColumn<Placing>("place");
+        QTest::addColumn<VbVec3f>("offset");
+        QTest::addColumn<int>("projection");
+        const std::pair<const char*, Placing> placings[] = {
+            {"in a transform", inATransform},
+            {"in steps", inSteps},
+            {"by its positions", byItsPositions},
+            {"about a center", aboutACenter},
+        };
+        const std::pair<const char*, VbVec3f> offsets[] = {
+            {"1,000,000 to the right", VbVec3f(1e6F, 0, 0)},
+            {"1,000,000 in all directions", VbVec3f(1e6F, -1e6F, 1e6F)},
+            {"10,000,000 to the right", VbVec3f(1e7F, 0, 0)},
+            {"10,000,000 ahead", VbVec3f(0, 0, -1e7F)},
+            {"10,000,000 in all directions", VbVec3f(-1e7F, 1e7F, 1e7F)},
+        };
+        for (const auto& [placing, place] : placings) {
+            for (const auto& [where, offset] : offsets) {
+                for (const int projection : {NxViewpoint::PERSPECTIVE, NxViewpoint::ORTHOGRAPHIC})
+                    QTest::addRow("%s, %s, %s", placing, where,
+                        projection == NxViewpoint::PERSPECTIVE ? "perspective" : "orthographic")
+                        << place << offset << projection;
+            }
+        }
+    }
+
+    void aFarSceneLooksAsAtTheOrigin()
+    {
+        QFETCH(Placing, place);
+        QFETCH(VbVec3f, offset);
+        QFETCH(int, projection);
+        m_bench->restyle([](NxDrawingStyle& style) { style.boundingBoxes = true; });
+        QImage pictures[2];
+        for (const bool isFar : {false, true}) {
+            const VbVec3f where = isFar ? offset : VbVec3f();
+            const auto scene = place(where);
+            m_bench->drawing().setScene(scene.get());
+            m_bench->drawing().setSelectedNode(scene->getChild(0));
+            pictures[isFar ? 1 : 0]
+                = m_bench->draw(viewpointAt(static_cast<NxViewpoint::Projection>(projection), where), 200, 150);
+        }
+        QVERIFY(painted(pictures[0]) > 3000);
+        QVERIFY(looksLike(pictures[1], pictures[0]));
+        QCOMPARE(m_bench->takeMessages(), QStringList());
+    }
+
     void aFarSceneIsPickedAsAtTheOrigin_data() { aFarSceneLooksAsAtTheOrigin_data(); }
-    void aFarSceneIsPickedAsAtTheOrigin();
-    void theGridIsDrawnFarAway();
-    void theAxesDontHideAFarScene_data();
-    void theAxesDontHideAFarScene();
-    void aCameraSeesAFarScene();
-    void aViewpointMovesAsFarAwayAsAtTheOrigin();
+
+    void aFarSceneIsPickedAsAtTheOrigin()
+    {
+        QFETCH(Placing, place);
+        QFETCH(VbVec3f, offset);
+        QFETCH(int, projection);
+        const auto kind = static_cast<NxViewpoint::Projection>(projection);
+        const auto near = place(VbVec3f());
+        const auto far = place(offset);
+        int hits = 0;
+        for (float x = 0; x < 1; x += 0.093F) {
+            for (float y = 0; y < 1; y += 0.087F) {
+                const auto pickIn = [&](NxGroup& scene, const VbVec3f& where) {
+                    NxRayPick pick(viewpointAt(kind, where).rayAt(VbVec2f(x, y), 1.3F));
+                    pick.setTolerance(0.01F, 0);
+                    return pick.pick(scene);
+                };
+                const auto expected = pickIn(*near, VbVec3f());
+                const auto hit = pickIn(*far, offset);
+                QCOMPARE(hit.has_value(), expected.has_value());
+                if (!hit)
+                    continue;
+                ++hits;
+                QCOMPARE(hit->path.size(), expected->path.size());
+                QCOMPARE(hit->path.back()->getClassName(), expected->path.back()->getClassName());
+                QCOMPARE(hit->primitive, expected->primitive);
+                QVERIFY(std::abs(hit->distance - expected->distance) < 1e-5F);
+                QVERIFY(length(subtract(subtract(hit->point, offset), expected->point)) < 1e-5);
+            }
+        }
+        QVERIFY(hits > 10);
+    }
+
+    void theGridIsDrawnFarAway()
+    {
+        m_bench->restyle([](NxDrawingStyle& style) { style.grid = true; });
+        const auto view = [](const VbVec3f& offset) {
+            NxViewpoint viewpoint;
+            viewpoint.position = add(VbVec3d(0, 2, 5), offset);
+            viewpoint.lookAlong(VbVec3f(0, -0.3F, -1), VbVec3f(0, 1, 0));
+            return viewpoint;
+        };
+        const QImage expected = m_bench->draw(view(VbVec3f()));
+        QVERIFY(painted(expected) > 500);
+        for (const float distance : {1e6F, 1e7F})
+            QVERIFY(looksLike(m_bench->draw(view(VbVec3f(distance, 0, -distance))), expected));
+    }
+
+    void theAxesDontHideAFarScene_data()
+    {
+        QTest::addColumn<int>("projection");
+        QTest::newRow("perspective") << int{NxViewpoint::PERSPECTIVE};
+        QTest::newRow("orthographic") << int{NxViewpoint::ORTHOGRAPHIC};
+    }
+
+    void theAxesDontHideAFarScene()
+    {
+        QFETCH(int, projection);
+        const VbVec3f offset(1e7F, 1e7F, 1e7F);
+        const auto scene = inATransform(offset);
+        m_bench->drawing().setScene(scene.get());
+        const NxViewpoint viewpoint = viewpointAt(static_cast<NxViewpoint::Projection>(projection), offset);
+        const QImage expected = m_bench->draw(viewpoint);
+        m_bench->restyle([](NxDrawingStyle& style) { style.axes = style.grid = true; });
+        QVERIFY(painted(expected) > 1000);
+        QVERIFY(looksLike(m_bench->draw(viewpoint), expected));
+    }
+
+    void aCameraSeesAFarScene()
+    {
+        QImage pictures[2];
+        for (const bool isFar : {false, true}) {
+            const auto camera = make<NxPerspectiveCamera>();
+            camera->position.setValue(VbVec3f(0.1F, 0.2F, 3));
+            const auto transform
+                = transformOf(isFar ? VbVec3f(1e7F, 0, 1e7F) : VbVec3f(), {camera.get(), things().get()});
+            const auto scene = groupOf({transform.get()});
+            m_bench->drawing().setScene(scene.get());
+            NxViewpoint viewpoint = NxViewpoint::ofCamera(*camera, localTransformOf(*transform));
+            viewpoint.focalDistance = 3;
+            pictures[isFar ? 1 : 0] = m_bench->draw(viewpoint);
+        }
+        QVERIFY(painted(pictures[0]) > 1000);
+        QVERIFY(looksLike(pictures[1], pictures[0]));
+    }
+
+    void aViewpointMovesAsFarAwayAsAtTheOrigin()
+    {
+        const VbVec3f offset(1e7F, -1e7F, 1e7F);
+        for (const auto projection : {NxViewpoint::PERSPECTIVE, NxViewpoint::ORTHOGRAPHIC}) {
+            NxViewpoint near = viewpointAt(projection, VbVec3f());
+            NxViewpoint far = viewpointAt(projection, offset);
+            for (int i = 0; i < 1000; ++i) {
+                for (NxViewpoint* viewpoint : {&near, &far}) {
+                    viewpoint->orbit(0.01F, i % 2 == 0 ? 0.01F : -0.01F);
+                    viewpoint->pan(VbVec2f(0.5F, 0.5F), VbVec2f(i % 2 == 0 ? 0.51F : 0.49F, 0.5F), 1, 3);
+                    viewpoint->zoom(i % 2 == 0 ? 1.01F : 1 / 1.01F, viewpoint->pointAt(VbVec2f(0.3F, 0.7F), 1, 3));
+                }
+            }
+            QVERIFY(length(subtract(subtract(far.position, offset), near.position)) < 1e-4);
+            QVERIFY(length(subtract(near.position, viewpointAt(projection, VbVec3f()).position)) > 0.1);
+        }
+    }
 
 private:
     std::unique_ptr<DrawingBench> m_bench;
 };
-
-void TestFarScenes::cleanup()
-{
-    m_bench->drawing().setScene(nullptr);
-    m_bench->restyle([](NxDrawingStyle& style) { style.boundingBoxes = style.grid = style.axes = false; });
-}
-
-void TestFarScenes::aFarSceneLooksAsAtTheOrigin_data()
-{
-    QTest::addColumn<Placing>("place");
-    QTest::addColumn<VbVec3f>("offset");
-    QTest::addColumn<int>("projection");
-    const std::pair<const char*, Placing> placings[] = {
-        {"in a transform", inATransform},
-        {"in steps", inSteps},
-        {"by its positions", byItsPositions},
-        {"about a center", aboutACenter},
-    };
-    const std::pair<const char*, VbVec3f> offsets[] = {
-        {"1,000,000 to the right", VbVec3f(1e6F, 0, 0)},
-        {"1,000,000 in all directions", VbVec3f(1e6F, -1e6F, 1e6F)},
-        {"10,000,000 to the right", VbVec3f(1e7F, 0, 0)},
-        {"10,000,000 ahead", VbVec3f(0, 0, -1e7F)},
-        {"10,000,000 in all directions", VbVec3f(-1e7F, 1e7F, 1e7F)},
-    };
-    for (const auto& [placing, place] : placings) {
-        for (const auto& [where, offset] : offsets) {
-            for (const int projection : {NxViewpoint::PERSPECTIVE, NxViewpoint::ORTHOGRAPHIC})
-                QTest::addRow("%s, %s, %s", placing, where,
-                    projection == NxViewpoint::PERSPECTIVE ? "perspective" : "orthographic")
-                    << place << offset << projection;
-        }
-    }
-}
-
-void TestFarScenes::aFarSceneLooksAsAtTheOrigin()
-{
-    QFETCH(Placing, place);
-    QFETCH(VbVec3f, offset);
-    QFETCH(int, projection);
-    m_bench->restyle([](NxDrawingStyle& style) { style.boundingBoxes = true; });
-    QImage pictures[2];
-    for (const bool isFar : {false, true}) {
-        const VbVec3f where = isFar ? offset : VbVec3f();
-        const auto scene = place(where);
-        m_bench->drawing().setScene(scene.get());
-        m_bench->drawing().setSelectedNode(scene->getChild(0));
-        pictures[isFar ? 1 : 0]
-            = m_bench->draw(viewpointAt(static_cast<NxViewpoint::Projection>(projection), where), 200, 150);
-    }
-    QVERIFY(painted(pictures[0]) > 3000);
-    QVERIFY(looksLike(pictures[1], pictures[0]));
-    QCOMPARE(m_bench->takeMessages(), QStringList());
-}
-
-void TestFarScenes::aFarSceneIsPickedAsAtTheOrigin()
-{
-    QFETCH(Placing, place);
-    QFETCH(VbVec3f, offset);
-    QFETCH(int, projection);
-    const auto kind = static_cast<NxViewpoint::Projection>(projection);
-    const auto near = place(VbVec3f());
-    const auto far = place(offset);
-    int hits = 0;
-    for (float x = 0; x < 1; x += 0.093F) {
-        for (float y = 0; y < 1; y += 0.087F) {
-            const auto pickIn = [&](NxGroup& scene, const VbVec3f& where) {
-                NxRayPick pick(viewpointAt(kind, where).rayAt(VbVec2f(x, y), 1.3F));
-                pick.setTolerance(0.01F, 0);
-                return pick.pick(scene);
-            };
-            const auto expected = pickIn(*near, VbVec3f());
-            const auto hit = pickIn(*far, offset);
-            QCOMPARE(hit.has_value(), expected.has_value());
-            if (!hit)
-                continue;
-            ++hits;
-            QCOMPARE(hit->path.size(), expected->path.size());
-            QCOMPARE(hit->path.back()->getClassName(), expected->path.back()->getClassName());
-            QCOMPARE(hit->primitive, expected->primitive);
-            QVERIFY(std::abs(hit->distance - expected->distance) < 1e-5F);
-            QVERIFY(length(subtract(subtract(hit->point, offset), expected->point)) < 1e-5);
-        }
-    }
-    QVERIFY(hits > 10);
-}
-
-void TestFarScenes::theGridIsDrawnFarAway()
-{
-    m_bench->restyle([](NxDrawingStyle& style) { style.grid = true; });
-    const auto view = [](const VbVec3f& offset) {
-        NxViewpoint viewpoint;
-        viewpoint.position = add(VbVec3d(0, 2, 5), offset);
-        viewpoint.lookAlong(VbVec3f(0, -0.3F, -1), VbVec3f(0, 1, 0));
-        return viewpoint;
-    };
-    const QImage expected = m_bench->draw(view(VbVec3f()));
-    QVERIFY(painted(expected) > 500);
-    for (const float distance : {1e6F, 1e7F})
-        QVERIFY(looksLike(m_bench->draw(view(VbVec3f(distance, 0, -distance))), expected));
-}
-
-void TestFarScenes::theAxesDontHideAFarScene_data()
-{
-    QTest::addColumn<int>("projection");
-    QTest::newRow("perspective") << int{NxViewpoint::PERSPECTIVE};
-    QTest::newRow("orthographic") << int{NxViewpoint::ORTHOGRAPHIC};
-}
-
-void TestFarScenes::theAxesDontHideAFarScene()
-{
-    QFETCH(int, projection);
-    const VbVec3f offset(1e7F, 1e7F, 1e7F);
-    const auto scene = inATransform(offset);
-    m_bench->drawing().setScene(scene.get());
-    const NxViewpoint viewpoint = viewpointAt(static_cast<NxViewpoint::Projection>(projection), offset);
-    const QImage expected = m_bench->draw(viewpoint);
-    m_bench->restyle([](NxDrawingStyle& style) { style.axes = style.grid = true; });
-    QVERIFY(painted(expected) > 1000);
-    QVERIFY(looksLike(m_bench->draw(viewpoint), expected));
-}
-
-void TestFarScenes::aCameraSeesAFarScene()
-{
-    QImage pictures[2];
-    for (const bool isFar : {false, true}) {
-        const auto camera = make<NxPerspectiveCamera>();
-        camera->position.setValue(VbVec3f(0.1F, 0.2F, 3));
-        const auto transform = transformOf(isFar ? VbVec3f(1e7F, 0, 1e7F) : VbVec3f(), {camera.get(), things().get()});
-        const auto scene = groupOf({transform.get()});
-        m_bench->drawing().setScene(scene.get());
-        NxViewpoint viewpoint = NxViewpoint::ofCamera(*camera, localTransformOf(*transform));
-        viewpoint.focalDistance = 3;
-        pictures[isFar ? 1 : 0] = m_bench->draw(viewpoint);
-    }
-    QVERIFY(painted(pictures[0]) > 1000);
-    QVERIFY(looksLike(pictures[1], pictures[0]));
-}
-
-void TestFarScenes::aViewpointMovesAsFarAwayAsAtTheOrigin()
-{
-    const VbVec3f offset(1e7F, -1e7F, 1e7F);
-    for (const auto projection : {NxViewpoint::PERSPECTIVE, NxViewpoint::ORTHOGRAPHIC}) {
-        NxViewpoint near = viewpointAt(projection, VbVec3f());
-        NxViewpoint far = viewpointAt(projection, offset);
-        for (int i = 0; i < 1000; ++i) {
-            for (NxViewpoint* viewpoint : {&near, &far}) {
-                viewpoint->orbit(0.01F, i % 2 == 0 ? 0.01F : -0.01F);
-                viewpoint->pan(VbVec2f(0.5F, 0.5F), VbVec2f(i % 2 == 0 ? 0.51F : 0.49F, 0.5F), 1, 3);
-                viewpoint->zoom(i % 2 == 0 ? 1.01F : 1 / 1.01F, viewpoint->pointAt(VbVec2f(0.3F, 0.7F), 1, 3));
-            }
-        }
-        QVERIFY(length(subtract(subtract(far.position, offset), near.position)) < 1e-4);
-        QVERIFY(length(subtract(near.position, viewpointAt(projection, VbVec3f()).position)) > 0.1);
-    }
-}
-
-} // namespace
 
 QTEST_APPLESS_MAIN(TestFarScenes)
 #include "tst_FarScenes.moc"

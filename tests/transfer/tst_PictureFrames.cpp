@@ -6,7 +6,7 @@
 using orvane::PictureReply;
 using State = PictureReply::State;
 
-class tst_PictureFrames : public QObject {
+class TestPictureFrames : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -78,5 +78,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_PictureFrames)
+QTEST_GUILESS_MAIN(TestPictureFrames)
 #include "tst_PictureFrames.moc"

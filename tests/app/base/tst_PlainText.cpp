@@ -4,7 +4,7 @@
 #include <QTextDocument>
 
 // Names of nodes and files on their way to labels, tool tips, menus and titles.
-class PlainTextTest : public QObject {
+class TestPlainText : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -92,5 +92,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PlainTextTest)
+QTEST_MAIN(TestPlainText)
 #include "tst_PlainText.moc"

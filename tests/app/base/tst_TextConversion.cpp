@@ -7,7 +7,7 @@
 #include <random>
 
 // File names between the system, Qt and the toolkit.
-class TextConversionTest : public QObject {
+class TestTextConversion : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -69,5 +69,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TextConversionTest)
+QTEST_GUILESS_MAIN(TestTextConversion)
 #include "tst_TextConversion.moc"

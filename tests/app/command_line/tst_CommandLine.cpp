@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-class CommandLineTest : public QObject {
+class TestCommandLine : public QObject {
     Q_OBJECT
 
 private:
@@ -141,5 +141,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(CommandLineTest)
+QTEST_GUILESS_MAIN(TestCommandLine)
 #include "tst_CommandLine.moc"

@@ -60,209 +60,199 @@ NxRef<Node> replaceAtTheSameAddress(NxGroup& group, int index)
     return {};
 }
 
+using Fill = std::function<void(NxGroup&, int)>;
+
+} // namespace
+
 class TestPlacedScene : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void cleanup() { NxDelayQueue::getDefault().process(); }
 
-    void aNodeAtTheAddressOfADeadOneTakesItsPlace();
-    void aChildThatDiesBelowAMovedTransformIsGone();
-    void aGroupThatDiesBelowAMovedTransformIsGone();
-    void aNodeOfTheFormerSceneIsFollowed();
-    void aRenamedGroupKeepsItsPlaces();
-    void anEditAtTheLimitOfPlacesKeepsWhatIsPlaced();
-    void whatWasLeftOutComesInWhenThereIsRoom();
-    void aChildAmongUsesOfOneNodeCostsWhatItCostsAmongSeparateOnes_data();
-    void aChildAmongUsesOfOneNodeCostsWhatItCostsAmongSeparateOnes();
-};
-
-void TestPlacedScene::aNodeAtTheAddressOfADeadOneTakesItsPlace()
-{
-    const NxRef<NxTransform> scene = new NxTransform;
-    const NxRef<NxTransform> other = new NxTransform;
-    scene->addChild(triangle().get());
-    scene->addChild(other.get());
-    PlacedScene placed(deaf());
-    placed.setRoot(scene.get());
-    // The queue reports only this change before the next picture.
-    other->translation.setValue(VbVec3f(0, 1, 0));
-    const auto mesh = replaceAtTheSameAddress<NxMesh>(*scene, 0);
-    if (!mesh)
-        QSKIP("the allocator doesn't give addresses out again");
-    QVERIFY(NxDelayQueue::getDefault().process(std::chrono::nanoseconds(0)));
-    placed.update();
-    NxDelayQueue::getDefault().process();
-    placed.update();
-    mesh->positions.setValues({{5, 0, 0}, {6, 0, 0}, {5, 1, 0}});
-    NxDelayQueue::getDefault().process();
-    placed.update();
-    QCOMPARE(leftSides(placed), Sides{5});
-    QCOMPARE(placed.itemsBelow(mesh.get()).size(), 1U);
-}
-
-void TestPlacedScene::aChildThatDiesBelowAMovedTransformIsGone()
-{
-    const NxRef<NxTransform> scene = new NxTransform;
-    scene->addChild(triangle().get());
-    scene->addChild(triangle(10).get());
-    PlacedScene placed(deaf());
-    placed.setRoot(scene.get());
-    scene->translation.setValue(VbVec3f(3, 0, 0));
-    scene->removeChild(0);
-    NxDelayQueue::getDefault().process();
-    placed.update();
-    QCOMPARE(leftSides(placed), Sides{13});
-}
-
-void TestPlacedScene::aGroupThatDiesBelowAMovedTransformIsGone()
-{
-    const NxRef<NxTransform> scene = new NxTransform;
-    for (int i = 0; i < 2; ++i) {
-        NxRef<NxTransform> outer = new NxTransform;
-        NxRef<NxTransform> inner = new NxTransform;
-        inner->addChild(triangle(static_cast<float>(10 * i)).get());
-        outer->addChild(inner.get());
-        scene->addChild(outer.get());
-    }
-    PlacedScene placed(deaf());
-    placed.setRoot(scene.get());
-    for (const bool isTold : {true, false}) {
-        scene->translation.setValue(VbVec3f(isTold ? 3.0F : 5.0F, 0, 0));
-        static_cast<NxGroup*>(scene->getChild(0))->removeChild(0);
-        if (isTold)
-            NxDelayQueue::getDefault().process();
+    void aNodeAtTheAddressOfADeadOneTakesItsPlace()
+    {
+        const NxRef<NxTransform> scene = new NxTransform;
+        const NxRef<NxTransform> other = new NxTransform;
+        scene->addChild(triangle().get());
+        scene->addChild(other.get());
+        PlacedScene placed(deaf());
+        placed.setRoot(scene.get());
+        // The queue reports only this change before the next picture.
+        other->translation.setValue(VbVec3f(0, 1, 0));
+        const auto mesh = replaceAtTheSameAddress<NxMesh>(*scene, 0);
+        if (!mesh)
+            QSKIP("the allocator doesn't give addresses out again");
+        QVERIFY(NxDelayQueue::getDefault().process(std::chrono::nanoseconds(0)));
         placed.update();
-        QCOMPARE(leftSides(placed), isTold ? Sides{13} : Sides{});
+        NxDelayQueue::getDefault().process();
+        placed.update();
+        mesh->positions.setValues({{5, 0, 0}, {6, 0, 0}, {5, 1, 0}});
+        NxDelayQueue::getDefault().process();
+        placed.update();
+        QCOMPARE(leftSides(placed), Sides{5});
+        QCOMPARE(placed.itemsBelow(mesh.get()).size(), 1U);
+    }
+
+    void aChildThatDiesBelowAMovedTransformIsGone()
+    {
+        const NxRef<NxTransform> scene = new NxTransform;
+        scene->addChild(triangle().get());
+        scene->addChild(triangle(10).get());
+        PlacedScene placed(deaf());
+        placed.setRoot(scene.get());
+        scene->translation.setValue(VbVec3f(3, 0, 0));
         scene->removeChild(0);
+        NxDelayQueue::getDefault().process();
+        placed.update();
+        QCOMPARE(leftSides(placed), Sides{13});
     }
-}
 
-void TestPlacedScene::aNodeOfTheFormerSceneIsFollowed()
-{
-    const NxRef<NxGroup> former = new NxGroup;
-    const NxRef<NxGroup> scene = new NxGroup;
-    const NxRef<NxMesh> shared = triangle();
-    former->addChild(shared.get());
-    scene->addChild(shared.get());
-    PlacedScene placed(deaf());
-    placed.setRoot(former.get());
-    shared->positions.setValues({{7, 0, 0}, {8, 0, 0}, {7, 1, 0}});
-    placed.setRoot(scene.get());
-    QCOMPARE(leftSides(placed), Sides{7});
-}
-
-void TestPlacedScene::aRenamedGroupKeepsItsPlaces()
-{
-    const NxRef<NxSwitch> scene = new NxSwitch;
-    scene->whichChild.setValue(NxSwitch::ALL);
-    scene->addChild(triangle().get());
-    PlacedScene placed(deaf());
-    placed.setRoot(scene.get());
-    const std::uint64_t structure = placed.structure();
-    scene->setName(VbString("other"));
-    placed.update();
-    QCOMPARE(placed.structure(), structure);
-    scene->whichChild.setValue(NxSwitch::NONE);
-    placed.update();
-    QCOMPARE(leftSides(placed), Sides{});
-}
-
-void TestPlacedScene::anEditAtTheLimitOfPlacesKeepsWhatIsPlaced()
-{
-    TextRecorder recorder;
-    const HandlerGuard<NxDebugError> warnings(&TextRecorder::record, &recorder);
-    const NxRef<NxGroup> scene = new NxGroup;
-    for (int i = 0; i < 6; ++i)
-        scene->addChild(triangle(static_cast<float>(i)).get());
-    PlacedScene placed(deaf(), 6);
-    placed.setRoot(scene.get());
-    QCOMPARE(leftSides(placed), (Sides{0, 1, 2, 3}));
-    const NxRef<NxGroup> group = new NxGroup;
-    group->addChild(triangle(10).get());
-    scene->insertChild(group.get(), 0);
-    placed.update();
-    QCOMPARE(leftSides(placed), (Sides{0, 1, 2, 3}));
-    scene->removeChild(1); // the mesh on the left; the group takes its place, but there is none for what it holds
-    placed.update();
-    QCOMPARE(leftSides(placed), (Sides{1, 2, 3}));
-    scene->removeChild(0);
-    placed.update();
-    QCOMPARE(leftSides(placed), (Sides{1, 2, 3, 4}));
-    QCOMPARE(recorder.texts().size(), 1U);
-    QVERIFY(recorder.texts().front().find("more than 6 places") != std::string::npos);
-}
-
-void TestPlacedScene::whatWasLeftOutComesInWhenThereIsRoom()
-{
-    TextRecorder recorder;
-    const HandlerGuard<NxDebugError> warnings(&TextRecorder::record, &recorder);
-    const NxRef<NxGroup> scene = new NxGroup;
-    for (int i = 0; i < 2; ++i) {
-        const NxRef<NxGroup> group = new NxGroup;
-        for (int j = 0; j < 5; ++j)
-            group->addChild(triangle(static_cast<float>(10 * i + j)).get());
-        scene->addChild(group.get());
-    }
-    PlacedScene placed(deaf(), 12);
-    placed.setRoot(scene.get());
-    QCOMPARE(leftSides(placed), (Sides{0, 1, 2, 3, 4, 10, 11, 12}));
-    auto* const group = static_cast<NxGroup*>(scene->getChild(0));
-    group->removeChild(0);
-    placed.update();
-    group->removeChild(0);
-    placed.update();
-    QCOMPARE(leftSides(placed), (Sides{2, 3, 4, 10, 11, 12}));
-    group->removeChild(0);
-    placed.update();
-    QCOMPARE(leftSides(placed), (Sides{3, 4, 10, 11, 12, 13, 14}));
-}
-
-using Fill = std::function<void(NxGroup&, int)>;
-
-void TestPlacedScene::aChildAmongUsesOfOneNodeCostsWhatItCostsAmongSeparateOnes_data()
-{
-    QTest::addColumn<Fill>("fill");
-    const NxRef<NxMesh> mesh = triangle();
-    const NxRef<NxGroup> group = new NxGroup;
-    group->addChild(mesh.get());
-    QTest::newRow("a mesh") << Fill([mesh](NxGroup& scene, int uses) {
-        while (scene.getNumChildren() < uses)
-            scene.addChild(mesh.get());
-    });
-    QTest::newRow("a group") << Fill([group](NxGroup& scene, int uses) {
-        while (scene.getNumChildren() < uses)
-            scene.addChild(group.get());
-    });
-    QTest::newRow("a mesh with many materials") << Fill([mesh](NxGroup& scene, int uses) {
-        while (scene.getNumChildren() < 2 * uses) {
-            scene.addChild(NxRef<NxMaterial>(new NxMaterial).get());
-            scene.addChild(mesh.get());
+    void aGroupThatDiesBelowAMovedTransformIsGone()
+    {
+        const NxRef<NxTransform> scene = new NxTransform;
+        for (int i = 0; i < 2; ++i) {
+            NxRef<NxTransform> outer = new NxTransform;
+            NxRef<NxTransform> inner = new NxTransform;
+            inner->addChild(triangle(static_cast<float>(10 * i)).get());
+            outer->addChild(inner.get());
+            scene->addChild(outer.get());
         }
-    });
-    QTest::newRow("separate meshes") << Fill([](NxGroup& scene, int uses) {
-        while (scene.getNumChildren() < uses)
-            scene.addChild(triangle().get());
-    });
-}
+        PlacedScene placed(deaf());
+        placed.setRoot(scene.get());
+        for (const bool isTold : {true, false}) {
+            scene->translation.setValue(VbVec3f(isTold ? 3.0F : 5.0F, 0, 0));
+            static_cast<NxGroup*>(scene->getChild(0))->removeChild(0);
+            if (isTold)
+                NxDelayQueue::getDefault().process();
+            placed.update();
+            QCOMPARE(leftSides(placed), isTold ? Sides{13} : Sides{});
+            scene->removeChild(0);
+        }
+    }
 
-void TestPlacedScene::aChildAmongUsesOfOneNodeCostsWhatItCostsAmongSeparateOnes()
-{
-    QFETCH(Fill, fill);
-    constexpr int uses = 4000;
-    const NxRef<NxGroup> scene = new NxGroup;
-    fill(*scene, uses);
-    PlacedScene placed(deaf());
-    placed.setRoot(scene.get());
-    const std::uint64_t before = placed.steps();
-    scene->addChild(triangle().get());
-    placed.update();
-    QCOMPARE(placed.itemsBelow(scene.get()).size(), uses + 1U);
-    const auto steps = static_cast<double>(placed.steps() - before);
-    QVERIFY2(steps >= uses && steps < 10.0 * uses, qPrintable(QString::number(steps)));
-}
+    void aNodeOfTheFormerSceneIsFollowed()
+    {
+        const NxRef<NxGroup> former = new NxGroup;
+        const NxRef<NxGroup> scene = new NxGroup;
+        const NxRef<NxMesh> shared = triangle();
+        former->addChild(shared.get());
+        scene->addChild(shared.get());
+        PlacedScene placed(deaf());
+        placed.setRoot(former.get());
+        shared->positions.setValues({{7, 0, 0}, {8, 0, 0}, {7, 1, 0}});
+        placed.setRoot(scene.get());
+        QCOMPARE(leftSides(placed), Sides{7});
+    }
 
-} // namespace
+    void aRenamedGroupKeepsItsPlaces()
+    {
+        const NxRef<NxSwitch> scene = new NxSwitch;
+        scene->whichChild.setValue(NxSwitch::ALL);
+        scene->addChild(triangle().get());
+        PlacedScene placed(deaf());
+        placed.setRoot(scene.get());
+        const std::uint64_t structure = placed.structure();
+        scene->setName(VbString("other"));
+        placed.update();
+        QCOMPARE(placed.structure(), structure);
+        scene->whichChild.setValue(NxSwitch::NONE);
+        placed.update();
+        QCOMPARE(leftSides(placed), Sides{});
+    }
+
+    void anEditAtTheLimitOfPlacesKeepsWhatIsPlaced()
+    {
+        TextRecorder recorder;
+        const HandlerGuard<NxDebugError> warnings(&TextRecorder::record, &recorder);
+        const NxRef<NxGroup> scene = new NxGroup;
+        for (int i = 0; i < 6; ++i)
+            scene->addChild(triangle(static_cast<float>(i)).get());
+        PlacedScene placed(deaf(), 6);
+        placed.setRoot(scene.get());
+        QCOMPARE(leftSides(placed), (Sides{0, 1, 2, 3}));
+        const NxRef<NxGroup> group = new NxGroup;
+        group->addChild(triangle(10).get());
+        scene->insertChild(group.get(), 0);
+        placed.update();
+        QCOMPARE(leftSides(placed), (Sides{0, 1, 2, 3}));
+        scene->removeChild(1); // the mesh on the left; the group takes its place, but there is none for what it holds
+        placed.update();
+        QCOMPARE(leftSides(placed), (Sides{1, 2, 3}));
+        scene->removeChild(0);
+        placed.update();
+        QCOMPARE(leftSides(placed), (Sides{1, 2, 3, 4}));
+        QCOMPARE(recorder.texts().size(), 1U);
+        QVERIFY(recorder.texts().front().find("more than 6 places") != std::string::npos);
+    }
+
+    void whatWasLeftOutComesInWhenThereIsRoom()
+    {
+        TextRecorder recorder;
+        const HandlerGuard<NxDebugError> warnings(&TextRecorder::record, &recorder);
+        const NxRef<NxGroup> scene = new NxGroup;
+        for (int i = 0; i < 2; ++i) {
+            const NxRef<NxGroup> group = new NxGroup;
+            for (int j = 0; j < 5; ++j)
+                group->addChild(triangle(static_cast<float>(10 * i + j)).get());
+            scene->addChild(group.get());
+        }
+        PlacedScene placed(deaf(), 12);
+        placed.setRoot(scene.get());
+        QCOMPARE(leftSides(placed), (Sides{0, 1, 2, 3, 4, 10, 11, 12}));
+        auto* const group = static_cast<NxGroup*>(scene->getChild(0));
+        group->removeChild(0);
+        placed.update();
+        group->removeChild(0);
+        placed.update();
+        QCOMPARE(leftSides(placed), (Sides{2, 3, 4, 10, 11, 12}));
+        group->removeChild(0);
+        placed.update();
+        QCOMPARE(leftSides(placed), (Sides{3, 4, 10, 11, 12, 13, 14}));
+    }
+
+    void aChildAmongUsesOfOneNodeCostsWhatItCostsAmongSeparateOnes_data()
+    {
+        QTest::addColumn<Fill>("fill");
+        const NxRef<NxMesh> mesh = triangle();
+        const NxRef<NxGroup> group = new NxGroup;
+        group->addChild(mesh.get());
+        QTest::newRow("a mesh") << Fill([mesh](NxGroup& scene, int uses) {
+            while (scene.getNumChildren() < uses)
+                scene.addChild(mesh.get());
+        });
+        QTest::newRow("a group") << Fill([group](NxGroup& scene, int uses) {
+            while (scene.getNumChildren() < uses)
+                scene.addChild(group.get());
+        });
+        QTest::newRow("a mesh with many materials") << Fill([mesh](NxGroup& scene, int uses) {
+            while (scene.getNumChildren() < 2 * uses) {
+                scene.addChild(NxRef<NxMaterial>(new NxMaterial).get());
+                scene.addChild(mesh.get());
+            }
+        });
+        QTest::newRow("separate meshes") << Fill([](NxGroup& scene, int uses) {
+            while (scene.getNumChildren() < uses)
+                scene.addChild(triangle().get());
+        });
+    }
+
+    void aChildAmongUsesOfOneNodeCostsWhatItCostsAmongSeparateOnes()
+    {
+        QFETCH(Fill, fill);
+        constexpr int uses = 4000;
+        const NxRef<NxGroup> scene = new NxGroup;
+        fill(*scene, uses);
+        PlacedScene placed(deaf());
+        placed.setRoot(scene.get());
+        const std::uint64_t before = placed.steps();
+        scene->addChild(triangle().get());
+        placed.update();
+        QCOMPARE(placed.itemsBelow(scene.get()).size(), uses + 1U);
+        const auto steps = static_cast<double>(placed.steps() - before);
+        QVERIFY2(steps >= uses && steps < 10.0 * uses, qPrintable(QString::number(steps)));
+    }
+};
 
 QTEST_APPLESS_MAIN(TestPlacedScene)
 #include "tst_PlacedScene.moc"

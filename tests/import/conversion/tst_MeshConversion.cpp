@@ -20,131 +20,119 @@ NxRef<NxMesh> square()
 
 } // namespace
 
-class tst_MeshConversion : public QObject {
+class TestMeshConversion : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void meshesComeBackAsTheyWere_data();
-    void meshesComeBackAsTheyWere();
-    void withoutIndicesAllPositionsFollowInOrder();
-    void oneColorCountsForAllPositions();
-    void listsThatDoNotFitAreLeftOut();
-    void anIncompleteFaceIsLeftOut();
-    void anIndexWithoutAPositionIsRefused_data();
-    void anIndexWithoutAPositionIsRefused();
-    void aMeshWithoutAFaceGivesNone();
-    void directionsGetUnitLength();
-    void facesOfAnotherKindAreLeftOut();
+    void meshesComeBackAsTheyWere_data()
+    {
+        QTest::addColumn<int>("primitive");
+        QTest::newRow("triangles") << int(NxMesh::TRIANGLES);
+        QTest::newRow("lines") << int(NxMesh::LINES);
+        QTest::newRow("points") << int(NxMesh::POINTS);
+    }
+
+    void meshesComeBackAsTheyWere()
+    {
+        QFETCH(int, primitive);
+        const NxRef<NxMesh> mesh = square();
+        mesh->primitive.setValue(primitive);
+        std::string error;
+        const std::unique_ptr<aiMesh> foreign = toAiMesh(*mesh, error);
+        QVERIFY2(foreign != nullptr, error.c_str());
+        const NxRef<NxMesh> result = toMesh(*foreign);
+        QCOMPARE(result->getName(), mesh->getName());
+        for (NxField* field : mesh->getFields())
+            QVERIFY(field->isSame(*result->getField(mesh->getFieldName(field))));
+    }
+
+    void withoutIndicesAllPositionsFollowInOrder()
+    {
+        const NxRef<NxMesh> mesh = square();
+        mesh->indices.setValues(std::vector<int>{});
+        std::string error;
+        const NxRef<NxMesh> result = toMesh(*toAiMesh(*mesh, error));
+        QCOMPARE(result->positions.getNum(), 4);
+        QVERIFY(std::ranges::equal(result->indices.getValues(), std::vector<int>{0, 1, 2}));
+    }
+
+    void oneColorCountsForAllPositions()
+    {
+        const NxRef<NxMesh> mesh = square();
+        mesh->colors.setValues(std::vector<VbVec4f>{{1, 0, 0, 0.5F}});
+        std::string error;
+        const NxRef<NxMesh> result = toMesh(*toAiMesh(*mesh, error));
+        QCOMPARE(result->colors.getNum(), 4);
+        QCOMPARE(result->colors[3], VbVec4f(1, 0, 0, 0.5F));
+    }
+
+    void listsThatDoNotFitAreLeftOut()
+    {
+        const NxRef<NxMesh> mesh = square();
+        mesh->normals.deleteValues(0, 1);
+        mesh->textureCoordinates.insertSpace(0, 1);
+        mesh->colors.deleteValues(0, 2);
+        std::string error;
+        const NxRef<NxMesh> result = toMesh(*toAiMesh(*mesh, error));
+        QCOMPARE(result->positions.getNum(), 4);
+        QCOMPARE(result->normals.getNum() + result->textureCoordinates.getNum() + result->colors.getNum(), 0);
+    }
+
+    void anIncompleteFaceIsLeftOut()
+    {
+        const NxRef<NxMesh> mesh = square();
+        mesh->indices.deleteValues(5, 1);
+        std::string error;
+        QCOMPARE(toMesh(*toAiMesh(*mesh, error))->indices.getNum(), 3);
+    }
+
+    void anIndexWithoutAPositionIsRefused_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::newRow("too large") << 4;
+        QTest::newRow("negative") << -1;
+    }
+
+    void anIndexWithoutAPositionIsRefused()
+    {
+        QFETCH(int, index);
+        const NxRef<NxMesh> mesh = square();
+        mesh->indices.set1Value(4, index);
+        std::string error;
+        QVERIFY(toAiMesh(*mesh, error) == nullptr);
+        QCOMPARE(QString::fromStdString(error),
+            QStringLiteral("the mesh \"square\" has the index %1, but only 4 positions").arg(index));
+    }
+
+    void aMeshWithoutAFaceGivesNone()
+    {
+        const NxRef<NxMesh> mesh = new NxMesh;
+        std::string error;
+        QVERIFY(toAiMesh(*mesh, error) == nullptr);
+        QCOMPARE(error, std::string());
+    }
+
+    void directionsGetUnitLength()
+    {
+        const NxRef<NxMesh> mesh = square();
+        mesh->normals.setValues(std::vector<VbVec3f>{{0, 0, 2}, {0, 0.5F, 0}, {0, 0, 0}, {0, 0, 1.0001F}});
+        std::string error;
+        const NxRef<NxMesh> result = toMesh(*toAiMesh(*mesh, error));
+        QCOMPARE(result->normals[0], VbVec3f(0, 0, 1));
+        QCOMPARE(result->normals[1], VbVec3f(0, 1, 0));
+        QCOMPARE(result->normals[2], VbVec3f(0, 0, 0));
+        QVERIFY2(result->normals[3] == VbVec3f(0, 0, 1.0001F), "what is near enough stays as it was");
+    }
+
+    void facesOfAnotherKindAreLeftOut()
+    {
+        std::string error;
+        const std::unique_ptr<aiMesh> foreign = toAiMesh(*square(), error);
+        foreign->mFaces[0].mIndices[1] = 99; // broken models may get this far
+        foreign->mFaces[1].mNumIndices = 2;
+        QCOMPARE(toMesh(*foreign)->indices.getNum(), 0);
+    }
 };
 
-void tst_MeshConversion::meshesComeBackAsTheyWere_data()
-{
-    QTest::addColumn<int>("primitive");
-    QTest::newRow("triangles") << int(NxMesh::TRIANGLES);
-    QTest::newRow("lines") << int(NxMesh::LINES);
-    QTest::newRow("points") << int(NxMesh::POINTS);
-}
-
-void tst_MeshConversion::meshesComeBackAsTheyWere()
-{
-    QFETCH(int, primitive);
-    const NxRef<NxMesh> mesh = square();
-    mesh->primitive.setValue(primitive);
-    std::string error;
-    const std::unique_ptr<aiMesh> foreign = toAiMesh(*mesh, error);
-    QVERIFY2(foreign != nullptr, error.c_str());
-    const NxRef<NxMesh> result = toMesh(*foreign);
-    QCOMPARE(result->getName(), mesh->getName());
-    for (NxField* field : mesh->getFields())
-        QVERIFY(field->isSame(*result->getField(mesh->getFieldName(field))));
-}
-
-void tst_MeshConversion::withoutIndicesAllPositionsFollowInOrder()
-{
-    const NxRef<NxMesh> mesh = square();
-    mesh->indices.setValues(std::vector<int>{});
-    std::string error;
-    const NxRef<NxMesh> result = toMesh(*toAiMesh(*mesh, error));
-    QCOMPARE(result->positions.getNum(), 4);
-    QVERIFY(std::ranges::equal(result->indices.getValues(), std::vector<int>{0, 1, 2}));
-}
-
-void tst_MeshConversion::oneColorCountsForAllPositions()
-{
-    const NxRef<NxMesh> mesh = square();
-    mesh->colors.setValues(std::vector<VbVec4f>{{1, 0, 0, 0.5F}});
-    std::string error;
-    const NxRef<NxMesh> result = toMesh(*toAiMesh(*mesh, error));
-    QCOMPARE(result->colors.getNum(), 4);
-    QCOMPARE(result->colors[3], VbVec4f(1, 0, 0, 0.5F));
-}
-
-void tst_MeshConversion::listsThatDoNotFitAreLeftOut()
-{
-    const NxRef<NxMesh> mesh = square();
-    mesh->normals.deleteValues(0, 1);
-    mesh->textureCoordinates.insertSpace(0, 1);
-    mesh->colors.deleteValues(0, 2);
-    std::string error;
-    const NxRef<NxMesh> result = toMesh(*toAiMesh(*mesh, error));
-    QCOMPARE(result->positions.getNum(), 4);
-    QCOMPARE(result->normals.getNum() + result->textureCoordinates.getNum() + result->colors.getNum(), 0);
-}
-
-void tst_MeshConversion::anIncompleteFaceIsLeftOut()
-{
-    const NxRef<NxMesh> mesh = square();
-    mesh->indices.deleteValues(5, 1);
-    std::string error;
-    QCOMPARE(toMesh(*toAiMesh(*mesh, error))->indices.getNum(), 3);
-}
-
-void tst_MeshConversion::anIndexWithoutAPositionIsRefused_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::newRow("too large") << 4;
-    QTest::newRow("negative") << -1;
-}
-
-void tst_MeshConversion::anIndexWithoutAPositionIsRefused()
-{
-    QFETCH(int, index);
-    const NxRef<NxMesh> mesh = square();
-    mesh->indices.set1Value(4, index);
-    std::string error;
-    QVERIFY(toAiMesh(*mesh, error) == nullptr);
-    QCOMPARE(QString::fromStdString(error),
-        QStringLiteral("the mesh \"square\" has the index %1, but only 4 positions").arg(index));
-}
-
-void tst_MeshConversion::aMeshWithoutAFaceGivesNone()
-{
-    const NxRef<NxMesh> mesh = new NxMesh;
-    std::string error;
-    QVERIFY(toAiMesh(*mesh, error) == nullptr);
-    QCOMPARE(error, std::string());
-}
-
-void tst_MeshConversion::directionsGetUnitLength()
-{
-    const NxRef<NxMesh> mesh = square();
-    mesh->normals.setValues(std::vector<VbVec3f>{{0, 0, 2}, {0, 0.5F, 0}, {0, 0, 0}, {0, 0, 1.0001F}});
-    std::string error;
-    const NxRef<NxMesh> result = toMesh(*toAiMesh(*mesh, error));
-    QCOMPARE(result->normals[0], VbVec3f(0, 0, 1));
-    QCOMPARE(result->normals[1], VbVec3f(0, 1, 0));
-    QCOMPARE(result->normals[2], VbVec3f(0, 0, 0));
-    QVERIFY2(result->normals[3] == VbVec3f(0, 0, 1.0001F), "what is near enough stays as it was");
-}
-
-void tst_MeshConversion::facesOfAnotherKindAreLeftOut()
-{
-    std::string error;
-    const std::unique_ptr<aiMesh> foreign = toAiMesh(*square(), error);
-    foreign->mFaces[0].mIndices[1] = 99; // broken models may get this far
-    foreign->mFaces[1].mNumIndices = 2;
-    QCOMPARE(toMesh(*foreign)->indices.getNum(), 0);
-}
-
-QTEST_GUILESS_MAIN(tst_MeshConversion)
+QTEST_GUILESS_MAIN(TestMeshConversion)
 #include "tst_MeshConversion.moc"

@@ -42,7 +42,7 @@ QByteArray letters(const Picture& picture)
 
 } // namespace
 
-class tst_Orientation : public QObject {
+class TestOrientation : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -91,5 +91,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Orientation)
+QTEST_GUILESS_MAIN(TestOrientation)
 #include "tst_Orientation.moc"

@@ -7,7 +7,7 @@
 #include <QTest>
 
 /// The helper as a decoder of image files.
-class tst_PictureService : public QObject {
+class TestPictureService : public QObject {
     Q_OBJECT
 
 private:
@@ -85,5 +85,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_PictureService)
+QTEST_GUILESS_MAIN(TestPictureService)
 #include "tst_PictureService.moc"

@@ -33,125 +33,113 @@ struct Watched {
 
 } // namespace
 
-class tst_NxNodeSensor : public QObject {
+class TestNxNodeSensor : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void attachingDoesNotNotify();
-    void aSensorThatThereIsNoMemoryForStaysDetached();
-    void anyFieldNotifies();
-    void theNameNotifies();
-    void changesOfSeveralFieldsGiveOneCallback();
-    void detachingTakesTheSensorOffTheQueue();
-    void detachingAnUnattachedSensorIsHarmless();
-    void attachingElsewhereGivesTheFormerNodeUp();
-    void theSensorDoesNotHoldTheNode();
-    void aDyingNodeDetachesItsSensors();
-    void aDyingSensorLeavesTheNode();
-};
+    void attachingDoesNotNotify()
+    {
+        Watched watched;
+        QVERIFY(watched.sensor.getAttachedNode() == watched.node.get());
+        QCOMPARE(watched.take(), 0);
+    }
 
-void tst_NxNodeSensor::attachingDoesNotNotify()
-{
-    Watched watched;
-    QVERIFY(watched.sensor.getAttachedNode() == watched.node.get());
-    QCOMPARE(watched.take(), 0);
-}
+    void aSensorThatThereIsNoMemoryForStaysDetached()
+    {
+        const NxRef<ProbeNode> node(new ProbeNode);
+        NxNodeSensor sensor;
+        FailingMemory::allocationsLeft = 0;
+        QVERIFY_THROWS_EXCEPTION(std::bad_alloc, sensor.attach(node.get()));
+        FailingMemory::allocationsLeft = -1;
+        QVERIFY(sensor.getAttachedNode() == nullptr);
+        sensor.detach();
+        sensor.attach(node.get());
+        QVERIFY(sensor.getAttachedNode() == node.get());
+    }
 
-void tst_NxNodeSensor::aSensorThatThereIsNoMemoryForStaysDetached()
-{
-    const NxRef<ProbeNode> node(new ProbeNode);
-    NxNodeSensor sensor;
-    FailingMemory::allocationsLeft = 0;
-    QVERIFY_THROWS_EXCEPTION(std::bad_alloc, sensor.attach(node.get()));
-    FailingMemory::allocationsLeft = -1;
-    QVERIFY(sensor.getAttachedNode() == nullptr);
-    sensor.detach();
-    sensor.attach(node.get());
-    QVERIFY(sensor.getAttachedNode() == node.get());
-}
+    void anyFieldNotifies()
+    {
+        Watched watched;
+        for (NxField* field : watched.node->getFields()) {
+            field->touch();
+            QCOMPARE(watched.take(), 1);
+            field->setIgnored(1);
+            QCOMPARE(watched.take(), 1);
+        }
+    }
 
-void tst_NxNodeSensor::anyFieldNotifies()
-{
-    Watched watched;
-    for (NxField* field : watched.node->getFields()) {
-        field->touch();
-        QCOMPARE(watched.take(), 1);
-        field->setIgnored(1);
+    void theNameNotifies()
+    {
+        Watched watched;
+        watched.node->setName("arm");
         QCOMPARE(watched.take(), 1);
     }
-}
 
-void tst_NxNodeSensor::theNameNotifies()
-{
-    Watched watched;
-    watched.node->setName("arm");
-    QCOMPARE(watched.take(), 1);
-}
+    void changesOfSeveralFieldsGiveOneCallback()
+    {
+        Watched watched;
+        watched.node->size.setValue(2);
+        watched.node->title.setValue("two");
+        watched.node->weights.deleteValues(0, -1);
+        QCOMPARE(watched.take(), 1);
+    }
 
-void tst_NxNodeSensor::changesOfSeveralFieldsGiveOneCallback()
-{
-    Watched watched;
-    watched.node->size.setValue(2);
-    watched.node->title.setValue("two");
-    watched.node->weights.deleteValues(0, -1);
-    QCOMPARE(watched.take(), 1);
-}
+    void detachingTakesTheSensorOffTheQueue()
+    {
+        Watched watched;
+        watched.node->size.setValue(2);
+        watched.sensor.detach();
+        QVERIFY(!watched.sensor.isScheduled());
+        watched.node->size.setValue(3);
+        QCOMPARE(watched.take(), 0);
+    }
 
-void tst_NxNodeSensor::detachingTakesTheSensorOffTheQueue()
-{
-    Watched watched;
-    watched.node->size.setValue(2);
-    watched.sensor.detach();
-    QVERIFY(!watched.sensor.isScheduled());
-    watched.node->size.setValue(3);
-    QCOMPARE(watched.take(), 0);
-}
+    void detachingAnUnattachedSensorIsHarmless()
+    {
+        NxNodeSensor sensor(nullptr, nullptr);
+        sensor.detach();
+        QVERIFY(sensor.getAttachedNode() == nullptr);
+    }
 
-void tst_NxNodeSensor::detachingAnUnattachedSensorIsHarmless()
-{
-    NxNodeSensor sensor(nullptr, nullptr);
-    sensor.detach();
-    QVERIFY(sensor.getAttachedNode() == nullptr);
-}
+    void attachingElsewhereGivesTheFormerNodeUp()
+    {
+        Watched watched;
+        const NxRef<ProbeNode> other(new ProbeNode);
+        watched.sensor.attach(other.get());
+        watched.node->size.setValue(2);
+        QCOMPARE(watched.take(), 0);
+        other->size.setValue(2);
+        QCOMPARE(watched.take(), 1);
+    }
 
-void tst_NxNodeSensor::attachingElsewhereGivesTheFormerNodeUp()
-{
-    Watched watched;
-    const NxRef<ProbeNode> other(new ProbeNode);
-    watched.sensor.attach(other.get());
-    watched.node->size.setValue(2);
-    QCOMPARE(watched.take(), 0);
-    other->size.setValue(2);
-    QCOMPARE(watched.take(), 1);
-}
+    void theSensorDoesNotHoldTheNode()
+    {
+        const Watched watched;
+        QCOMPARE(watched.node->getRefCount(), 1);
+    }
 
-void tst_NxNodeSensor::theSensorDoesNotHoldTheNode()
-{
-    const Watched watched;
-    QCOMPARE(watched.node->getRefCount(), 1);
-}
+    void aDyingNodeDetachesItsSensors()
+    {
+        Watched watched;
+        NxNodeSensor second(&count, &watched.calls);
+        second.attach(watched.node.get());
+        watched.node->size.setValue(2);
+        watched.node = nullptr;
+        QVERIFY(watched.sensor.getAttachedNode() == nullptr);
+        QVERIFY(second.getAttachedNode() == nullptr);
+        QCOMPARE(watched.take(), 0);
+    }
 
-void tst_NxNodeSensor::aDyingNodeDetachesItsSensors()
-{
-    Watched watched;
-    NxNodeSensor second(&count, &watched.calls);
-    second.attach(watched.node.get());
-    watched.node->size.setValue(2);
-    watched.node = nullptr;
-    QVERIFY(watched.sensor.getAttachedNode() == nullptr);
-    QVERIFY(second.getAttachedNode() == nullptr);
-    QCOMPARE(watched.take(), 0);
-}
+    void aDyingSensorLeavesTheNode()
+    {
+        Watched watched;
+        auto second = std::make_unique<NxNodeSensor>(&count, &watched.calls);
+        second->attach(watched.node.get());
+        watched.node->size.setValue(2);
+        second.reset();
+        QCOMPARE(watched.take(), 1);
+    }
+};
 
-void tst_NxNodeSensor::aDyingSensorLeavesTheNode()
-{
-    Watched watched;
-    auto second = std::make_unique<NxNodeSensor>(&count, &watched.calls);
-    second->attach(watched.node.get());
-    watched.node->size.setValue(2);
-    second.reset();
-    QCOMPARE(watched.take(), 1);
-}
-
-QTEST_APPLESS_MAIN(tst_NxNodeSensor)
+QTEST_APPLESS_MAIN(TestNxNodeSensor)
 #include "tst_NxNodeSensor.moc"

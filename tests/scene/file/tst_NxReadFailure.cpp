@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-class tst_NxReadFailure : public QObject {
+class TestNxReadFailure : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -29,5 +29,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_NxReadFailure)
+QTEST_APPLESS_MAIN(TestNxReadFailure)
 #include "tst_NxReadFailure.moc"

@@ -7,7 +7,7 @@
 
 #include <QTest>
 
-class tst_NxScenePath : public QObject {
+class TestNxScenePath : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -153,5 +153,5 @@ private:
     NxRef<NxGroup> m_scene;
 };
 
-QTEST_APPLESS_MAIN(tst_NxScenePath)
+QTEST_APPLESS_MAIN(TestNxScenePath)
 #include "tst_NxScenePath.moc"

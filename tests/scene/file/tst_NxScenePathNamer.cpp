@@ -31,7 +31,7 @@ std::string siblingText(int number)
 
 } // namespace
 
-class tst_NxScenePathNamer : public QObject {
+class TestNxScenePathNamer : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -122,5 +122,5 @@ private:
     NxGroup* m_group = nullptr;
 };
 
-QTEST_APPLESS_MAIN(tst_NxScenePathNamer)
+QTEST_APPLESS_MAIN(TestNxScenePathNamer)
 #include "tst_NxScenePathNamer.moc"

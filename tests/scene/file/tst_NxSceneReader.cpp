@@ -42,7 +42,7 @@ Node* onlyNodeAs(const NxRef<NxGroup>& scene)
 
 } // namespace
 
-class tst_NxSceneReader : public QObject {
+class TestNxSceneReader : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -263,5 +263,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_NxSceneReader)
+QTEST_APPLESS_MAIN(TestNxSceneReader)
 #include "tst_NxSceneReader.moc"

@@ -9,7 +9,7 @@ using FailingMemory::allocationsLeft;
 using FailingMemory::blocks;
 
 /// Lets each allocation of reading and writing fail in turn.
-class tst_NxSceneReaderMemory : public QObject {
+class TestNxSceneReaderMemory : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -111,5 +111,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_NxSceneReaderMemory)
+QTEST_APPLESS_MAIN(TestNxSceneReaderMemory)
 #include "tst_NxSceneReaderMemory.moc"

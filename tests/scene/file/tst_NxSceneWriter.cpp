@@ -27,7 +27,7 @@ NxRef<NxGroup> sceneOf(std::initializer_list<NxNode*> nodes)
 
 } // namespace
 
-class tst_NxSceneWriter : public QObject {
+class TestNxSceneWriter : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -308,5 +308,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_NxSceneWriter)
+QTEST_APPLESS_MAIN(TestNxSceneWriter)
 #include "tst_NxSceneWriter.moc"

@@ -40,7 +40,7 @@ private:
 
 } // namespace
 
-class tst_NxGroup : public QObject {
+class TestNxGroup : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -234,5 +234,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_NxGroup)
+QTEST_APPLESS_MAIN(TestNxGroup)
 #include "tst_NxGroup.moc"

@@ -23,11 +23,39 @@ NxRef<NxNode> makeNode(const char* className)
 
 } // namespace
 
-class tst_NxNode : public QObject {
+class TestNxNode : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyClassHasItsFieldsWithTheirDefaults_data();
+    void everyClassHasItsFieldsWithTheirDefaults_data()
+    {
+        QTest::addColumn<QByteArray>("parent");
+        QTest::addColumn<QByteArray>("fields");
+        const auto row = [](const char* name, const char* parent, const QByteArray& fields) {
+            QTest::newRow(name) << QByteArray(parent) << fields;
+        };
+        const QByteArray light = "on = true; intensity = 1; color = 1 1 1; ";
+        const QByteArray camera = "position = 0 0 1; orientation = 0 0 1 0; nearDistance = 0.1; farDistance = 1000; ";
+        row("Group", "Node", "");
+        row("UnknownNode", "Group", "");
+        row("Transform", "Group", "translation = 0 0 0; rotation = 0 0 1 0; scaleFactor = 1 1 1; center = 0 0 0");
+        row("MatrixTransform", "Group", "matrix = 1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1");
+        row("Switch", "Group", "whichChild = -1");
+        row("Mesh", "Node",
+            "positions = []; normals = []; textureCoordinates = []; colors = []; indices = []; primitive = TRIANGLES");
+        row("Material", "Node",
+            "ambientColor = 0.2 0.2 0.2; diffuseColor = 0.8 0.8 0.8; specularColor = 0 0 0; emissiveColor = 0 0 0; "
+            "shininess = 0.2; transparency = 0");
+        row("Texture", "Node", "filePath = \"\"; image = 0 0 0; wrapS = REPEAT; wrapT = REPEAT");
+        row("DirectionalLight", "Light", light + "direction = 0 0 -1");
+        row("PointLight", "Light", light + "location = 0 0 1; attenuation = 1 0 0");
+        row("SpotLight", "Light",
+            light + "location = 0 0 1; direction = 0 0 -1; cutOffAngle = 0.7853982; dropOffRate = 0");
+        row("PerspectiveCamera", "Camera", camera + "heightAngle = 0.7853982");
+        row("OrthographicCamera", "Camera", camera + "height = 2");
+        row("Complexity", "Node", "type = OBJECT_SPACE; value = 0.5; textureQuality = 0.5");
+    }
+
     void everyClassHasItsFieldsWithTheirDefaults()
     {
         QFETCH(QByteArray, parent);
@@ -94,33 +122,5 @@ private Q_SLOTS:
     }
 };
 
-void tst_NxNode::everyClassHasItsFieldsWithTheirDefaults_data()
-{
-    QTest::addColumn<QByteArray>("parent");
-    QTest::addColumn<QByteArray>("fields");
-    const auto row = [](const char* name, const char* parent, const QByteArray& fields) {
-        QTest::newRow(name) << QByteArray(parent) << fields;
-    };
-    const QByteArray light = "on = true; intensity = 1; color = 1 1 1; ";
-    const QByteArray camera = "position = 0 0 1; orientation = 0 0 1 0; nearDistance = 0.1; farDistance = 1000; ";
-    row("Group", "Node", "");
-    row("UnknownNode", "Group", "");
-    row("Transform", "Group", "translation = 0 0 0; rotation = 0 0 1 0; scaleFactor = 1 1 1; center = 0 0 0");
-    row("MatrixTransform", "Group", "matrix = 1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1");
-    row("Switch", "Group", "whichChild = -1");
-    row("Mesh", "Node",
-        "positions = []; normals = []; textureCoordinates = []; colors = []; indices = []; primitive = TRIANGLES");
-    row("Material", "Node",
-        "ambientColor = 0.2 0.2 0.2; diffuseColor = 0.8 0.8 0.8; specularColor = 0 0 0; emissiveColor = 0 0 0; "
-        "shininess = 0.2; transparency = 0");
-    row("Texture", "Node", "filePath = \"\"; image = 0 0 0; wrapS = REPEAT; wrapT = REPEAT");
-    row("DirectionalLight", "Light", light + "direction = 0 0 -1");
-    row("PointLight", "Light", light + "location = 0 0 1; attenuation = 1 0 0");
-    row("SpotLight", "Light", light + "location = 0 0 1; direction = 0 0 -1; cutOffAngle = 0.7853982; dropOffRate = 0");
-    row("PerspectiveCamera", "Camera", camera + "heightAngle = 0.7853982");
-    row("OrthographicCamera", "Camera", camera + "height = 2");
-    row("Complexity", "Node", "type = OBJECT_SPACE; value = 0.5; textureQuality = 0.5");
-}
-
-QTEST_APPLESS_MAIN(tst_NxNode)
+QTEST_APPLESS_MAIN(TestNxNode)
 #include "tst_NxNode.moc"
