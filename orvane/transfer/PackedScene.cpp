@@ -1,11 +1,11 @@
 #include "orvane/transfer/PackedScene.h"
 
-#include "orvane/transfer/NodeOrder.h"
 #include "orvane/transfer/PackedLists.h"
 
 #include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/single/NxSFImage.h"
 #include "meridane/scene/file/NxSceneWriter.h"
+#include "meridane/scene/nodes/NodeTraversal.h"
 
 #include <chrono>
 #include <utility>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "orvane/transfer/NodeOrder.h"
 #include "orvane/transfer/PackedParts.h"
 
 #include "meridane/scene/file/NxSceneReader.h"
+#include "meridane/scene/nodes/NodeTraversal.h"
 
 #include <chrono>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "meridane/scene/file/detail/SceneParser.h"
 
 #include "meridane/base/values/Unicode.h"
-#include "meridane/scene/text/detail/TextPlace.h"
+#include "meridane/scene/text/detail/TokenDescription.h"
 
 #include <algorithm>
 #include <new>

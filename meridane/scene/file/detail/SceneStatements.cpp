@@ -1,6 +1,6 @@
 #include "meridane/scene/file/detail/SceneLimits.h"
 #include "meridane/scene/file/detail/SceneParser.h"
-#include "meridane/scene/text/detail/TextPlace.h"
+#include "meridane/scene/text/detail/TokenDescription.h"
 
 // The grammar of scene files: one statement after the other.
 

@@ -1,4 +1,4 @@
-#include "orvane/transfer/NodeOrder.h"
+#include "meridane/scene/nodes/NodeTraversal.h"
 
 namespace orvane {
 

@@ -1,4 +1,4 @@
-#include "meridane/scene/text/detail/TextPlace.h"
+#include "meridane/scene/text/detail/TokenDescription.h"
 
 #include "meridane/base/values/MessageText.h"
 #include "meridane/scene/text/TextReader.h"
