@@ -27,7 +27,7 @@ struct Store {
 
 Store& store()
 {
-    // Never destroyed: static objects may ask for a preference to the very end.
+    // Never destroyed, because static objects may read a preference until the process ends.
     static Store& instance = *new Store;
     return instance;
 }
@@ -69,8 +69,8 @@ std::string messageOf(int error)
     return "cannot read the settings file: " + std::system_category().message(error);
 }
 
-/// The content of a file, empty for one that doesn't exist; nothing, and a message, for one that can't be read.
-std::optional<std::string> readFile(const char* path, std::string& message)
+/// The content of a settings file; empty if it doesn't exist. Sets a message if it can't be read.
+std::optional<std::string> readSettings(const char* path, std::string& message)
 {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(
         std::fopen(path, "rb"), [](std::FILE* f) { return f == nullptr ? 0 : std::fclose(f); });
@@ -148,7 +148,7 @@ int NxPreferences::setFile(const char* path)
     meridane::SettingsText content;
     if (path != nullptr && *path != '\0') {
         std::string message;
-        const std::optional<std::string> text = readFile(path, message);
+        const std::optional<std::string> text = readSettings(path, message);
         if (!text) {
             NxReadError::post(path, 0, 0, VbString(message));
             return 0;
@@ -159,7 +159,7 @@ int NxPreferences::setFile(const char* path)
         const std::lock_guard lock(store().mutex);
         store().ofFile = std::move(content.settings);
     }
-    // After the lock is gone: a handler may ask for a preference.
+    // Without the lock: a handler may read a preference.
     for (const meridane::SettingsProblem& problem : content.problems)
         NxReadError::post(path, problem.line, problem.column, VbString(problem.expected));
     return content.problems.empty() ? 1 : 0;

@@ -14,9 +14,9 @@ namespace orvane {
 
 PackedScene::PackedScene(NxGroup& scene)
 {
-    NodeOrder order(scene);
+    meridane::NodeTraversal nodes(scene);
     std::size_t number = 0;
-    while (NxNode* node = order.next())
+    while (NxNode* node = nodes.next())
         takeBlocks(*node, number++);
     writeText(scene);
 }

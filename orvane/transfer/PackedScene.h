@@ -16,7 +16,7 @@ class NxSFImage;
 /// The text "orvane-scene 2 SIZE" and a line feed, where SIZE counts all bytes behind that line; a line "text SIZE" and
 /// the SIZE bytes of a scene file, in which those fields are empty; then for each of them a block: a line
 /// "list SIZE NODE FIELD" or "image SIZE NODE WIDTH HEIGHT COMPONENTS FIELD", and its SIZE bytes. NODE counts the nodes
-/// in the order of the text from 0 (see `NodeOrder`), FIELD is the name of a field of that node. The blocks are in the
+/// in the order of the text from 0 (see `meridane::NodeTraversal`), FIELD is the name of a field of that node. The blocks are in the
 /// order of the nodes, and of the fields of a node.
 namespace orvane {
 

@@ -94,14 +94,14 @@ void PackedSceneReader::readText(std::chrono::microseconds budget)
         return fail(m_textReader->failure().text());
     m_scene = m_textReader->takeScene();
     m_textReader.reset();
-    m_order.emplace(*m_scene);
+    m_traversal.emplace(*m_scene);
 }
 
 void PackedSceneReader::findNode()
 {
     constexpr std::size_t nodesPerTimeCheck = 1000;
     for (std::size_t count = 0; count < nodesPerTimeCheck && m_walked <= block().node; ++count) {
-        m_node = m_order->next();
+        m_node = m_traversal->next();
         m_nextField = 0;
         ++m_walked;
         if (m_node == nullptr)

@@ -69,7 +69,7 @@ private:
     std::vector<PackedBlock> m_blocks;
     std::size_t m_done = 0; // blocks
 
-    std::optional<NodeOrder> m_order;
+    std::optional<meridane::NodeTraversal> m_traversal;
     NxNode* m_node = nullptr; // where the walk is
     std::size_t m_walked = 0; // nodes, that one included
     int m_nextField = 0; // of that node that a block may be for

@@ -220,9 +220,9 @@ void tst_PackedScene::aNodeInSeveralPlacesKeepsItsLists()
             failure);
     QVERIFY2(scene, failure.c_str());
     // Each gets another number of positions.
-    orvane::NodeOrder order(*scene);
+    meridane::NodeTraversal nodes(*scene);
     int meshes = 0;
-    while (NxNode* node = order.next()) {
+    while (NxNode* node = nodes.next()) {
         if (auto* mesh = dynamic_cast<NxMesh*>(node))
             mesh->positions.setValues(numbers<VbVec3f>(100 + meshes++));
     }
@@ -241,9 +241,9 @@ void tst_PackedScene::nodesOfUnknownClassesAreCounted()
                   "Mesh \"b\" {}\n",
             failure);
     QVERIFY2(scene, failure.c_str());
-    orvane::NodeOrder order(*scene);
+    meridane::NodeTraversal nodes(*scene);
     int count = 100;
-    while (NxNode* node = order.next()) {
+    while (NxNode* node = nodes.next()) {
         if (auto* mesh = dynamic_cast<NxMesh*>(node))
             mesh->indices.setValues(std::vector<int>(static_cast<std::size_t>(count++), 5));
     }

@@ -35,8 +35,8 @@ std::string listsAndAnImage()
         = sceneOf("#mrd 1.0\nGroup { Mesh \"a\" {} Texture {} }\nMesh \"b\" { indices = [1] }\n", failure);
     if (!scene)
         return {};
-    orvane::NodeOrder order(*scene);
-    while (NxNode* node = order.next()) {
+    meridane::NodeTraversal nodes(*scene);
+    while (NxNode* node = nodes.next()) {
         if (auto* mesh = dynamic_cast<NxMesh*>(node))
             mesh->positions.setValues(numbers<VbVec3f>(64));
         if (auto* texture = dynamic_cast<NxTexture*>(node))

@@ -1,5 +1,6 @@
 #include "meridane/base/detail/SettingsText.h"
 
+#include "meridane/base/values/TextPosition.h"
 #include "meridane/base/values/Unicode.h"
 
 #include <algorithm>
@@ -23,19 +24,10 @@ std::string_view trimmed(std::string_view text)
                                            : text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-// The column of a byte: the characters ahead of it and one. Only bytes that begin a character count.
-int columnOf(std::string_view line, std::size_t byte)
-{
-    const std::string_view ahead = line.substr(0, byte);
-    return 1 + static_cast<int>(std::count_if(ahead.begin(), ahead.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-    }));
-}
-
 void parseLine(std::string_view line, int number, SettingsText& result)
 {
     const auto report = [&](std::size_t byte, const char* expected) {
-        result.problems.push_back({number, columnOf(line, byte), expected});
+        result.problems.push_back({number, positionOf(line, byte).column, expected});
     };
     if (const std::size_t invalid = findInvalidUtf8(line); invalid != std::string_view::npos) {
         report(invalid, "expected valid UTF-8");
@@ -63,9 +55,7 @@ void parseLine(std::string_view line, int number, SettingsText& result)
 
 SettingsText parseSettings(std::string_view text)
 {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(byteOrderMark))
-        text.remove_prefix(byteOrderMark.size());
+    text = withoutByteOrderMark(text);
     SettingsText result;
     for (int number = 1; !text.empty(); ++number) {
         const std::size_t end = std::min(text.find('\n'), text.size());

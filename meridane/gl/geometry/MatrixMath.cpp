@@ -84,31 +84,11 @@ Matrix4d localTransformOf(const NxTransform& node) noexcept
     return matrix;
 }
 
-template <typename Matrix>
-std::array<double, 3> directionSums(const VbVec3f& direction, const Matrix& matrix) noexcept
-{
-    std::array<double, 3> sums{};
-    for (std::size_t column = 0; column < 3; ++column) {
-        for (std::size_t i = 0; i < 3; ++i)
-            sums[column] += wide(direction[i]) * static_cast<double>(matrix[i][column]);
-    }
-    return sums;
-}
-
 } // namespace
 
 VbMatrix multiply(const VbMatrix& first, const VbMatrix& second) noexcept
 {
-    VbMatrix product;
-    for (std::size_t row = 0; row < 4; ++row) {
-        for (std::size_t column = 0; column < 4; ++column) {
-            double sum = 0.0;
-            for (std::size_t i = 0; i < 4; ++i)
-                sum += wide(first[row][i]) * wide(second[i][column]);
-            product[row][column] = static_cast<float>(sum);
-        }
-    }
-    return product;
+    return narrowed(multiply(Matrix4d(first), Matrix4d(second)));
 }
 
 std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept
@@ -137,10 +117,7 @@ std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept
 
 VbMatrix translationMatrix(const VbVec3f& distance) noexcept
 {
-    VbMatrix matrix;
-    for (std::size_t i = 0; i < 3; ++i)
-        matrix[3][i] = distance[i];
-    return matrix;
+    return narrowed(translationMatrix(VbVec3d(distance)));
 }
 
 VbMatrix scaleMatrix(const VbVec3f& factors) noexcept
@@ -210,25 +187,22 @@ VbVec3f narrowed(const VbVec3d& vector) noexcept
 
 VbVec3f transformPoint(const VbVec3f& point, const VbMatrix& matrix) noexcept
 {
-    std::array<double, 4> sums{};
-    for (std::size_t column = 0; column < 4; ++column) {
-        sums[column] = wide(matrix[3][column]);
-        for (std::size_t i = 0; i < 3; ++i)
-            sums[column] += wide(point[i]) * wide(matrix[i][column]);
-    }
-    return narrow(sums[0] / sums[3], sums[1] / sums[3], sums[2] / sums[3]);
+    return narrowed(transformPoint(VbVec3d(point), Matrix4d(matrix)));
 }
 
 VbVec3f transformDirection(const VbVec3f& direction, const VbMatrix& matrix) noexcept
 {
-    const std::array<double, 3> sums = directionSums(direction, matrix);
-    return narrow(sums[0], sums[1], sums[2]);
+    return transformDirection(direction, Matrix4d(matrix));
 }
 
 VbVec3f transformDirection(const VbVec3f& direction, const Matrix4d& matrix) noexcept
 {
-    const std::array<double, 3> sums = directionSums(direction, matrix);
-    return narrow(sums[0], sums[1], sums[2]);
+    VbVec3d sums;
+    for (std::size_t column = 0; column < 3; ++column) {
+        for (std::size_t i = 0; i < 3; ++i)
+            sums[column] += wide(direction[i]) * matrix[i][column];
+    }
+    return narrowed(sums);
 }
 
 Matrix4d localTransformOf(const NxNode& node) noexcept

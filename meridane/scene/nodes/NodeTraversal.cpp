@@ -1,13 +1,21 @@
 #include "meridane/scene/nodes/NodeTraversal.h"
 
-namespace orvane {
+namespace meridane {
 
-NodeOrder::NodeOrder(const NxGroup& scene)
+NodeTraversal::NodeTraversal(const NxGroup& scene)
 {
     m_levels.push_back({scene.getChildren()});
 }
 
-NxNode* NodeOrder::next()
+NxNode* NodeTraversal::next()
+{
+    NxNode* node = nextUse();
+    while (node != nullptr && !m_isFirstUse)
+        node = nextUse();
+    return node;
+}
+
+NxNode* NodeTraversal::nextUse()
 {
     while (!m_levels.empty()) {
         Level& level = m_levels.back();
@@ -16,9 +24,11 @@ NxNode* NodeOrder::next()
             continue;
         }
         NxNode* const node = level.children[level.next++];
-        // Each place holds a reference, so most nodes need no look into the table.
-        if (node->getRefCount() > 1 && !m_visited.insert(node).second)
-            continue;
+        m_depth = m_levels.size();
+        // Each use holds a reference, so most nodes aren't looked up.
+        m_isFirstUse = node->getRefCount() == 1 || m_visited.insert(node).second;
+        if (!m_isFirstUse)
+            return node;
         if (const auto children = node->getChildren(); !children.empty())
             m_levels.push_back({children});
         return node;
@@ -26,4 +36,4 @@ NxNode* NodeOrder::next()
     return nullptr;
 }
 
-} // namespace orvane
+} // namespace meridane

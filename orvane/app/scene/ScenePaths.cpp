@@ -1,17 +1,15 @@
 #include "orvane/app/scene/ScenePaths.h"
 
 #include "orvane/app/base/TextConversion.h"
-#include "orvane/app/scene/SceneWalk.h"
 
 #include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/single/NxSFFilePathString.h"
-#include "meridane/scene/nodes/NxGroup.h"
+#include "meridane/scene/nodes/NodeTraversal.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace {
@@ -93,14 +91,9 @@ void rebasePaths(NxGroup& scene, const QString& from, const QString& to)
         }
     };
     rebase(scene);
-    std::unordered_set<const NxNode*> shared; // that were rebased
-    SceneWalk walk(scene);
-    while (NxNode* const node = walk.next()) {
-        if (node->getRefCount() > 1 && !shared.insert(node).second)
-            continue;
+    meridane::NodeTraversal nodes(scene);
+    while (NxNode* const node = nodes.next())
         rebase(*node);
-        walk.enter();
-    }
 }
 
 } // namespace orvane

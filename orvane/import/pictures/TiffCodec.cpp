@@ -22,7 +22,7 @@ MemoryFile& fileOf(thandle_t handle)
     return *static_cast<MemoryFile*>(handle);
 }
 
-tmsize_t readFile(thandle_t handle, void* target, tmsize_t size)
+tmsize_t readBytes(thandle_t handle, void* target, tmsize_t size)
 {
     MemoryFile& file = fileOf(handle);
     if (file.position >= file.bytes.size() || size <= 0)
@@ -94,7 +94,7 @@ std::optional<Picture> decodeTiff(std::span<const unsigned char> file)
     TIFFSetErrorHandler(nullptr);
     TIFFSetWarningHandler(nullptr);
     MemoryFile memory{file};
-    const std::unique_ptr<TIFF, void (*)(TIFF*)> tiff(TIFFClientOpen("picture", "rm", &memory, &readFile, &writeNothing,
+    const std::unique_ptr<TIFF, void (*)(TIFF*)> tiff(TIFFClientOpen("picture", "rm", &memory, &readBytes, &writeNothing,
                                                           &seekFile, &closeNothing, &sizeOfFile, nullptr, nullptr),
         &TIFFClose);
     std::uint32_t width = 0;

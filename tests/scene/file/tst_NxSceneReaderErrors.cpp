@@ -212,14 +212,14 @@ void tst_NxSceneReaderErrors::aWrongStatementIsReportedWithItsPlace_data()
     row("long token of other letters", "Group { ääääääääääääääääääääääää }",
         "2:9: expected a field, a node or \"}\", found \"ääääääääääääääää…\"");
     // References
-    row("reference to nothing", "Group \"a\" { use \"b\" }", "2:17: no node ahead of here has the name or label \"b\"");
+    row("reference to nothing", "Group \"a\" { use \"b\" }", "2:17: no node before here has the name or label \"b\"");
     row("reference to a later node", "use \"a\"\nGroup \"a\" { }",
-        "2:5: no node ahead of here has the name or label \"a\"");
-    row("reference to no name", "Group { }\nuse \"\"", "3:5: no node ahead of here has the name or label \"\"");
+        "2:5: no node before here has the name or label \"a\"");
+    row("reference to no name", "Group { }\nuse \"\"", "3:5: no node before here has the name or label \"\"");
     row("cycle by name", "Group \"a\" {\n    Group { use \"a\" }\n}",
-        "3:17: the node \"a\" would hold itself, expected one that ends ahead of here");
+        "3:17: the node \"a\" would hold itself, expected one that ends before here");
     row("cycle by label", "Group as \"a\" { use \"a\" }",
-        "2:20: the node \"a\" would hold itself, expected one that ends ahead of here");
+        "2:20: the node \"a\" would hold itself, expected one that ends before here");
     row("use without a name", "Group { use a }", "2:13: expected a text in double quotes, found \"a\"");
     row("use with a body", "Group \"a\" { }\nuse \"a\" { }", "3:9: expected the end of the line or \";\", found \"{\"");
     // Cut off

@@ -2,6 +2,7 @@
 
 #include "meridane/base/values/Unicode.h"
 #include "meridane/scene/text/detail/TokenDescription.h"
+#include "meridane/base/values/TextPosition.h"
 
 #include <algorithm>
 #include <new>
@@ -101,8 +102,7 @@ void SceneParser::work()
 
 void SceneParser::readFirstLine()
 {
-    if (m_reader.rest().starts_with(byteOrderMark))
-        m_reader.advance(byteOrderMark.size());
+    m_reader.advance(m_text.size() - withoutByteOrderMark(m_text).size());
     const std::size_t start = m_reader.position();
     if (!m_reader.rest().starts_with(signature))
         return failExpecting(start, "the first line of a scene file, \"#mrd 1.0\"");
@@ -179,9 +179,8 @@ void SceneParser::findReference()
     }
     const std::string found = describeToken(m_text, m_referencePlace);
     if (isOpen(m_reference))
-        return failAt(
-            m_referencePlace, "the node " + found + " would hold itself, expected one that ends ahead of here");
-    failAt(m_referencePlace, "no node ahead of here has the name or label " + found);
+        return failAt(m_referencePlace, "the node " + found + " would hold itself, expected one that ends before here");
+    failAt(m_referencePlace, "no node before here has the name or label " + found);
 }
 
 bool SceneParser::isOpen(std::string_view nameOrLabel) const
@@ -199,9 +198,9 @@ void SceneParser::failAt(std::size_t offset, std::string message)
 
 void SceneParser::endAt(std::size_t offset, std::string message)
 {
-    const TextPlace place = findPlace(m_text, offset);
-    m_failure.line = place.line;
-    m_failure.column = place.column;
+    const TextPosition position = positionOf(m_text, offset);
+    m_failure.line = position.line;
+    m_failure.column = position.column;
     m_failure.message = std::move(message);
     m_phase = Phase::Failed;
     m_scene = nullptr;

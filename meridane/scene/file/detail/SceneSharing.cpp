@@ -12,29 +12,16 @@ constexpr char labelMark = '#'; // in front of the number of a label
 
 SceneSharing::SceneSharing(const NxGroup* scene)
     : m_scene(scene)
+    , m_traversal(*scene)
 {
-    start(Phase::Count);
-}
-
-void SceneSharing::start(Phase phase)
-{
-    m_phase = phase;
-    m_visited.clear();
-    m_levels.push_back({m_scene->getChildren()});
 }
 
 bool SceneSharing::step(std::size_t budget)
 {
     for (; budget > 0 && m_phase != Phase::Done; --budget) {
-        Level& level = m_levels.back();
-        if (level.next < level.children.size()) {
-            visit(level.children[level.next++]);
-            continue;
-        }
-        m_levels.pop_back();
-        if (!m_levels.empty())
-            continue;
-        if (m_phase == Phase::Count)
+        if (NxNode* const node = m_traversal.nextUse(); node != nullptr)
+            visit(node);
+        else if (m_phase == Phase::Count)
             finishCount();
         else
             assignLabels();
@@ -44,24 +31,16 @@ bool SceneSharing::step(std::size_t budget)
 
 void SceneSharing::visit(NxNode* node)
 {
-    if (!isFirstVisit(node)) {
+    if (!m_traversal.isFirstUse()) {
         if (m_phase == Phase::Count && m_shared.try_emplace(node).second)
             m_sharedInOrder.push_back(node);
         return;
     }
-    m_depth = std::max(m_depth, m_levels.size());
+    m_depth = std::max(m_depth, m_traversal.depth());
     if (m_phase == Phase::Count)
         ++m_nodeCount;
     else
         countName(node);
-    if (const auto children = node->getChildren(); !children.empty())
-        m_levels.push_back({children});
-}
-
-bool SceneSharing::isFirstVisit(const NxNode* node)
-{
-    // Each place holds a reference, so most nodes need no look into the table.
-    return node->getRefCount() == 1 || m_visited.insert(node).second;
 }
 
 void SceneSharing::finishCount()
@@ -74,7 +53,8 @@ void SceneSharing::finishCount()
         shared.name = node->getName().view();
         m_nameCounts[shared.name] = 0;
     }
-    start(Phase::Names);
+    m_traversal = NodeTraversal(*m_scene);
+    m_phase = Phase::Names;
 }
 
 void SceneSharing::countName(NxNode* node)

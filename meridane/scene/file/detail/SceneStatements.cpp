@@ -1,6 +1,6 @@
 #include "meridane/scene/file/detail/SceneLimits.h"
 #include "meridane/scene/file/detail/SceneParser.h"
-#include "meridane/scene/text/detail/TokenDescription.h"
+#include "meridane/base/values/TextPosition.h"
 
 // The grammar of scene files: one statement after the other.
 
@@ -162,7 +162,7 @@ void SceneParser::endText()
         m_phase = Phase::Done;
         return;
     }
-    const int line = findPlace(m_text, top().place).line;
+    const int line = positionOf(m_text, top().place).line;
     failExpecting(m_text.size(),
         "\"}\" behind the node of class " + top().nodeClass->name() + " that begins in line " + std::to_string(line));
 }

@@ -4,18 +4,12 @@
 #include "meridane/scene/text/TextReader.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace meridane {
 
 namespace {
 
 constexpr std::size_t maxShown = 32; // bytes
-
-bool isContinuation(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
 
 bool endsWord(char character)
 {
@@ -34,19 +28,6 @@ std::string_view tokenAt(std::string_view text)
 }
 
 } // namespace
-
-TextPlace findPlace(std::string_view text, std::size_t offset)
-{
-    text = text.substr(0, offset);
-    if (text.starts_with(byteOrderMark))
-        text.remove_prefix(byteOrderMark.size());
-    const std::size_t lineEnd = text.rfind('\n');
-    const std::string_view line = lineEnd == std::string_view::npos ? text : text.substr(lineEnd + 1);
-    const auto lines = std::count(text.begin(), text.end(), '\n');
-    const auto characters = std::count_if(line.begin(), line.end(), [](char byte) { return !isContinuation(byte); });
-    constexpr auto most = static_cast<std::ptrdiff_t>(std::numeric_limits<int>::max() - 1);
-    return {static_cast<int>(std::min(lines, most) + 1), static_cast<int>(std::min(characters, most) + 1)};
-}
 
 std::string describeToken(std::string_view text, std::size_t offset)
 {
