@@ -7,7 +7,7 @@
 
 namespace bench {
 
-/// A table without any of ours: as many rows as it is told, and texts that come from elsewhere when they are painted.
+/// A plain table without code of this project: a given number of rows, and texts from a function when they are painted.
 class BareTable : public QTableWidget {
 public:
     using TextOfRow = std::function<QString(int row)>;

@@ -5,12 +5,12 @@
 
 namespace bench {
 
-/// A main window of a fixed size with something in its middle, for docks at its right.
+/// A main window of a fixed size with a central widget, for docks on the right.
 class DockWindow : public QMainWindow {
 public:
     DockWindow();
 
-    /// A dock with a widget in it that stays as long as the window.
+    /// A dock with a widget, which lives as long as the window.
     QDockWidget* addDock();
 };
 

@@ -5,7 +5,7 @@
 
 namespace bench {
 
-/// One line of the table: what the tool needs beside what the least that could do the same needs.
+/// A line of the table: a measurement and its baseline, the cheapest code that could do the same.
 struct Figure {
     std::string name;
     /// Of `value` and `baseline`, such as "ms" or "bytes".
@@ -13,14 +13,15 @@ struct Figure {
     double value = 0;
     /// 0 for a figure whose bar is a plain number in its unit.
     double baseline = 0;
-    /// The most that `value / baseline`, or `value` itself without a baseline, may be; 0 for a figure without a bar.
+    /// The greatest `value / baseline` allowed, or the greatest `value` without a baseline; 0 for a figure without a
+    /// bar.
     double bar = 0;
 };
 
-/// Writes the figure to the standard output as one line with tabs in it, which script/bench makes the table from.
+/// Writes the figure to standard output as one line with tabs, from which script/bench makes the table.
 void report(const Figure& figure);
 
-/// The value in the middle; of an even number of values the upper one. The list isn't empty.
+/// The median; of an even number of values the upper one. The list must not be empty.
 double median(std::vector<double> values);
 
 } // namespace bench

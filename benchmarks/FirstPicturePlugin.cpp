@@ -26,7 +26,7 @@ public:
         if (event->type() != QEvent::Paint)
             return false;
         const auto* const tree = qobject_cast<const QTreeView*>(watched->parent());
-        // The rest of the window is painted before the event loop is back.
+        // The rest of the window is painted before control returns to the event loop.
         if (tree != nullptr && tree->viewport() == watched && tree->model()->rowCount() > 0)
             QTimer::singleShot(0, [] { _exit(0); });
         return false;

@@ -48,7 +48,7 @@ QWidget* makeSlider(QWidget* parent, const QString& /*text*/, const QIcon& /*ico
     return new QSlider(Qt::Horizontal, parent);
 }
 
-/// What these hold besides what is put into them they make themselves.
+/// These create their inner widgets themselves.
 bool makesItsOwnParts(const QWidget& widget)
 {
     return widget.inherits("QAbstractSpinBox") || widget.inherits("QComboBox") || widget.inherits("QAbstractScrollArea")
@@ -112,7 +112,7 @@ HandMade::Widgets HandMade::make() const
 
 HandMade::Make HandMade::findMake(const QWidget& original)
 {
-    // Derived classes ahead of their bases.
+    // Derived classes before their bases.
     constexpr std::pair<const char*, Make> makes[] = {
         {"QCheckBox", &makeButton<QCheckBox>},
         {"QRadioButton", &makeButton<QRadioButton>},

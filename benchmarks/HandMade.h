@@ -9,13 +9,13 @@
 
 namespace bench {
 
-/// Makes the widgets that others are made of once more, as somebody would who only wants them there: each one of Qt's
-/// own class, in its parent, with its text and icon, in a simple layout.
+/// Makes copies of existing widgets in the simplest way: each as an instance of Qt's own class, in its parent, with its
+/// text and icon, in a simple layout.
 class HandMade {
 public:
     using Widgets = std::vector<std::unique_ptr<QWidget>>;
 
-    /// Takes down what these widgets are and how they stand in each other.
+    /// Records the classes and the parents of these widgets.
     explicit HandMade(const QWidgetList& originals);
 
     [[nodiscard]] int count() const noexcept { return static_cast<int>(m_parts.size()); }
@@ -27,7 +27,7 @@ private:
 
     struct Part {
         Make make;
-        int parent; // the place of the parent, -1 for none
+        int parent; // the index of the parent, -1 for none
         bool hasLayout;
         bool isInLayout;
         QString text;
@@ -37,7 +37,7 @@ private:
     void add(const QWidget& original, int parent);
     static Make findMake(const QWidget& original);
 
-    std::vector<Part> m_parts; // parents ahead of their children
+    std::vector<Part> m_parts; // parents before their children
 };
 
 } // namespace bench

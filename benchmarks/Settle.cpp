@@ -48,7 +48,7 @@ void settle()
 {
     QEventLoop loop;
     while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty()) { }
-    // Only a loop that runs for good deletes what asked for it; left alone, these events would slow down all others.
+    // Only the main event loop handles deferred deletions; without it, these events would slow down all others.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 

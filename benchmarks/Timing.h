@@ -5,14 +5,13 @@
 
 namespace bench {
 
-/// A piece of work that times the part of itself that counts, in seconds.
+/// A function that returns the time of the measured part of its work, in seconds.
 using Work = std::function<double()>;
 
-/// How long `part` takes, in seconds.
+/// The duration of `part`, in seconds.
 double seconds(const std::function<void()>& part);
 
-/// Runs both in turn, after one run each that doesn't count, and reports the medians. So whatever else the machine does
-/// meanwhile hits both.
+/// Runs both alternately, after one run each that doesn't count, and reports the medians. So other load affects both.
 void compare(const std::string& name, double bar, int rounds, const Work& work, const Work& baseline);
 
 } // namespace bench

@@ -5,7 +5,7 @@
 
 namespace bench {
 
-/// What a tokeniser finds in a scene file.
+/// The result of a tokeniser for scene files.
 struct Tokens {
     std::size_t words = 0;
     std::size_t numbers = 0;
@@ -15,7 +15,7 @@ struct Tokens {
     bool valid = true; // every byte is part of a character of UTF-8 and of a token, a blank or a comment
 };
 
-/// Takes a scene file apart into its tokens: checks that it is UTF-8, skips blanks and comments, finds the extent of
+/// Splits a scene file into its tokens: checks that it is UTF-8, skips blanks and comments, finds the extent of
 /// each word, number and quoted text. Numbers aren't converted, nothing is looked up or built.
 Tokens tokenise(std::string_view text);
 

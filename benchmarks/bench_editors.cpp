@@ -23,7 +23,7 @@ namespace {
 
 using bench::EditorHost;
 
-/// How often each thing is measured; the one in the middle counts.
+/// The number of measurements; the median is reported.
 constexpr int rounds = 101;
 
 void exchange(QDockWidget* dock, QWidget* frame)
@@ -32,7 +32,7 @@ void exchange(QDockWidget* dock, QWidget* frame)
     frame->show();
 }
 
-/// The classes of all that can be seen in a frame, in the order of their making.
+/// The classes of all visible widgets of a frame, in the order of creation.
 QStringList controlsOf(const QWidget* frame)
 {
     QStringList classes;
@@ -43,8 +43,8 @@ QStringList controlsOf(const QWidget* frame)
     return classes;
 }
 
-/// Bare check boxes in the place of those of a ready frame, made anew for each exchange: an editor whose boxes bear the
-/// names of its field has none until it gets the field.
+/// Plain check boxes instead of those of a finished frame, created again for each exchange: an editor whose boxes have
+/// the names of its field has none until it gets the field.
 class FreshBoxes {
 public:
     explicit FreshBoxes(const QWidget* frame)
@@ -147,7 +147,7 @@ void measureSelections(EditorHost& host)
         measureSelection(host, *editor, *twin, dock, twin == names ? *texts : *names);
         frames << twin->getWidget();
     }
-    // The editors own the frames that they show nowhere.
+    // The editors own the frames that aren't shown.
     for (QWidget* const frame : frames)
         frame->setParent(nullptr);
     twins.unload();
@@ -163,7 +163,7 @@ public:
         const QRect groove = m_slider->rect().adjusted(height, 0, -height, 0);
         m_left = QPoint(groove.left(), height);
         m_right = QPoint(groove.right(), height);
-        // The handle stands at the left, where the slider's value is the smallest.
+        // The handle is at the left, where the slider's value is smallest.
         QTest::mousePress(window(), Qt::LeftButton, {}, inWindow(m_left));
         bench::settle();
     }

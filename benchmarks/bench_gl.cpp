@@ -247,7 +247,7 @@ void measureChanges(const Screen& screen)
     constexpr int many = 100'000;
     constexpr int few = 100;
     constexpr int changes = 51;
-    constexpr int smallSide = 100; // so that the pixels don't hide what the change costs
+    constexpr int smallSide = 100; // so that the cost of the change isn't hidden by that of the pixels
     ChangedScene large(screen, many);
     ChangedScene small(screen, few);
     using Edit = void (*)(ChangedScene&);

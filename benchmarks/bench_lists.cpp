@@ -63,7 +63,8 @@ public:
     ListRun(const ListRun&) = delete;
     ListRun& operator=(const ListRun&) = delete;
 
-    /// Gives the bare table the size of the other, so as many rows are in sight, and cells as wide.
+    /// Gives the bare table the size of the other, so that both show the same number of rows and cells of the same
+    /// width.
     void matchViews()
     {
         bench::settle();
@@ -133,7 +134,7 @@ double heapGrowth(const std::function<void()>& action)
     return static_cast<double>(after.uordblks + after.hblkhd) - static_cast<double>(before.uordblks + before.hblkhd);
 }
 
-/// In tables that are new: a table keeps the room of rows that it had before.
+/// In new tables, because a table keeps the memory of earlier rows.
 void measureMemory(int rows)
 {
     ListRun run;
@@ -144,7 +145,7 @@ void measureMemory(int rows)
     bench::report({"list selected: memory, " + millions(rows), "bytes", own, bare, 1.05});
 }
 
-/// A way through all the list in equal steps, and how long it takes to see each.
+/// Scrolls through the list in equal steps and measures the time until each is painted.
 double scrollThrough(QTableWidget& table)
 {
     constexpr int frames = 200;
@@ -164,13 +165,13 @@ void measureScrolling(ListRun& run, int rounds)
     run.selectList();
     run.selectBare(oneMillion);
     run.matchViews();
-    // As many frames in nine tenths of the time and more: the same as a time within ten ninths.
+    // Nine tenths of the frame rate is the same as ten ninths of the time.
     bench::compare(
         "scrolling through 1,000,000 rows", 1 / 0.9, rounds, [&run] { return scrollThrough(*run.table); },
         [&run] { return scrollThrough(run.bare); });
 }
 
-/// What an edited cell ends in: field, sensor, repaint. The line in the cell is the table's own business.
+/// The result of an edited cell: field, sensor, repaint. The line edit in the cell isn't measured.
 double editFirstCell(ListRun& run, const QString& text)
 {
     return bench::secondsToPainted(run.table->viewport(), [&run, &text] {

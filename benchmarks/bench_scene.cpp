@@ -59,14 +59,14 @@ void measureOpening(const std::string& name)
         });
 }
 
-/// What the fields of a node take by themselves: the size of each with all that its value holds.
+/// The memory of the fields of a node alone: the size of each with the memory of its value.
 double bytesOfFields(const NxFieldContainer& node)
 {
     auto& container = const_cast<NxFieldContainer&>(node);
     const NxFieldData* const data = container.getFieldData();
     std::size_t bytes = 0;
     for (int i = 0; i < data->getNumFields(); ++i) {
-        // Fields stand one behind the other, the last one up to the end of the node.
+        // Fields follow each other; the last one extends to the end of the node.
         const auto* const field = reinterpret_cast<const char*>(data->getField(&container, i));
         const auto* const end = i + 1 < data->getNumFields()
             ? reinterpret_cast<const char*>(data->getField(&container, i + 1))

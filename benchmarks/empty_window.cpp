@@ -1,4 +1,4 @@
-// The least that a program with a window takes from its start to its first picture: an empty main window.
+// The baseline for the start of a program: an empty main window.
 
 #include <QApplication>
 #include <QMainWindow>

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <string_view>
 
-/// What the fuzz targets share.
+/// Functions that the fuzz targets share.
 namespace fuzz {
 
 [[nodiscard]] inline std::string_view toText(const std::uint8_t* bytes, std::size_t count)
@@ -14,7 +14,7 @@ namespace fuzz {
     return {reinterpret_cast<const char*>(bytes), count};
 }
 
-/// Ends the process, as a finding, with that text.
+/// Reports a finding with that text and ends the process.
 inline void check(bool holds, const char* statement)
 {
     if (holds)
@@ -25,5 +25,5 @@ inline void check(bool holds, const char* statement)
 
 } // namespace fuzz
 
-/// The library's entry: one try with that input.
+/// The entry point of the fuzzer: one run with that input.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count);

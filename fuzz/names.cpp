@@ -1,7 +1,7 @@
-// Names, values and fields that no class has, through the window's models and the places that show a text: what a cell
-// shows is one short line without control characters, and nothing is taken for HTML.
+// Names, values and unknown fields in the window's models and in everything that shows a text: a cell shows one short
+// line without control characters, and nothing is interpreted as HTML.
 //
-// The first byte chooses what the others are.
+// The first byte selects the kind of the others.
 
 #include "Fuzz.h"
 
@@ -48,7 +48,7 @@ void checkToolTip(const QString& tip)
     fuzz::check(tip.size() <= longestToolTip, "a tool tip is short");
     if (!Qt::mightBeRichText(tip))
         return;
-    // The only HTML is what keeps the text from being HTML.
+    // The only HTML is that which prevents the text from being interpreted as HTML.
     const QString start = QStringLiteral("<div style=\"white-space: pre\">");
     const QString end = QStringLiteral("</div>");
     fuzz::check(tip.startsWith(start) && tip.endsWith(end), "a tool tip is one paragraph");

@@ -1,5 +1,5 @@
-// Packed scenes, from behind their first line, which tells the number of bytes: what is accepted is packed into bytes
-// that give the same scene again.
+// Packed scenes, without their first line, which has the number of bytes: an accepted scene is packed again, and the
+// result gives the same scene.
 
 #include "Fuzz.h"
 
@@ -14,7 +14,7 @@
 
 namespace {
 
-// The bytes arrive in portions, the first of which are short.
+// The bytes arrive in parts; the first ones are short.
 orvane::PackedParts split(const std::string& firstLine, std::string_view rest)
 {
     orvane::PackedParts parts;

@@ -1,4 +1,4 @@
-// The scene reader: what it accepts is written as a text that reads as the same text again.
+// The scene reader: an accepted scene is written to a text, and reading and writing that gives the same text.
 
 #include "Fuzz.h"
 

@@ -90,7 +90,7 @@ const char* usage() noexcept
            "       orvane-import --pictures             decode the image files that come from standard input, for a\n"
            "                                            tool of the same build\n"
            "       orvane-import --formats              list the extensions that are read and written\n"
-           "       orvane-import --locks                tell which locks hold it on this machine\n"
+           "       orvane-import --locks                show which parts of the sandbox this machine has\n"
            "Options: --memory MIB                       memory to take at most, 0 for no limit (default 4096,\n"
            "                                            or what ORVANE_IMPORT_MEMORY says)\n"
            "         --processor-time SECONDS           processor time to take at most, 0 for no limit (default 20\n"

@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-/// What the helper was asked to do.
+/// The command line of the helper.
 namespace orvane {
 
 struct Arguments {
@@ -15,20 +15,20 @@ struct Arguments {
     Task task = Task::Help;
     /// Read: the path of the model. Write: the extension that names the format.
     std::string subject;
-    /// Read: whether the scene goes out packed (see `PackedScene`) rather than as text.
+    /// Read: whether to write the scene packed (see `PackedScene`) rather than as text.
     bool packed = false;
     /// Write: the name of the model's files without extension.
     std::string name = "model";
     ProcessLimits limits;
-    /// Processor time to take at most, 0 for no limit; nothing for what the size of the input allows.
+    /// The limit of processor time, 0 for none; without a value it follows from the size of the input.
     std::optional<std::size_t> processorSeconds;
-    /// The process to end with; 0 for none.
+    /// The process whose end also ends this one; 0 for none.
     std::size_t parent = 0;
 };
 
-/// How the helper is called, a few lines.
+/// The text of `--help`.
 [[nodiscard]] const char* usage() noexcept;
-/// Understands the arguments behind the program's name. Nothing for unusable ones, which `error` tells.
+/// Parses the arguments after the program's name. Returns nothing if they are wrong; then `error` says why.
 [[nodiscard]] std::optional<Arguments> parseArguments(std::span<const char* const> arguments, std::string& error);
 
 } // namespace orvane

@@ -44,7 +44,7 @@ bool writeText(NxGroup& scene, std::string& error)
 {
     NxSceneWriter writer(&scene);
     std::string text;
-    // In portions, so that the text of a large scene needn't fit in memory as a whole.
+    // In parts, so that the text of a large scene needn't fit in memory as a whole.
     constexpr std::chrono::milliseconds portion(2);
     bool more = true;
     while (more) {
@@ -75,8 +75,8 @@ int readModel(const std::string& path, bool packed)
     const NxRef<NxGroup> scene = reader.read(path, error);
     if (!scene || !(packed ? writePacked(*scene, error) : writeText(*scene, error)))
         return fail(error);
-    // The end of the process gives all memory back at once, which takes less time than doing so bit by bit. Only the
-    // search for leaks needs that.
+    // The end of the process frees all memory at once, which is faster than freeing it block by block. Only the leak
+    // check needs that.
     if constexpr (!orvane::isSanitized())
         std::_Exit(Success);
     return Success;
@@ -122,8 +122,8 @@ int listFormats()
     return printText(text + "\n");
 }
 
-// The input is read before the process is locked in, because the time limit depends on its size. Nothing looks at it
-// yet.
+// The input is read before the process enters the sandbox, because the time limit depends on its size. It isn't parsed
+// here.
 bool readInput(const Arguments& arguments, std::string& input, std::string& error)
 {
     if (arguments.task != Arguments::Task::Write)
@@ -138,7 +138,7 @@ std::chrono::seconds processorTime(const Arguments& arguments, const std::string
 {
     if (arguments.processorSeconds)
         return std::chrono::seconds(*arguments.processorSeconds);
-    // Nobody knows how many pictures will be asked for; each of them is limited by its number of pixels.
+    // The number of requests isn't known; each picture is limited by its number of pixels.
     constexpr std::chrono::seconds pictures{300};
     if (arguments.task == Arguments::Task::Pictures)
         return pictures;
@@ -173,7 +173,7 @@ int main(int argc, char** argv)
     const std::span<const char* const> texts(argv, static_cast<std::size_t>(argc));
     const std::optional<Arguments> arguments = orvane::parseArguments(texts.subspan(argc > 0 ? 1 : 0), error);
     if (!arguments)
-        return fail(error + "; --help tells how it is used", BadArguments);
+        return fail(error + "; see --help", BadArguments);
     orvane::tuneHeap(arguments->limits);
     orvane::applyLimits(arguments->limits);
     if (arguments->parent != 0 && !orvane::endWithParent(static_cast<pid_t>(arguments->parent)))
@@ -183,7 +183,7 @@ int main(int argc, char** argv)
         return fail(error);
     orvane::limitProcessorTime(processorTime(*arguments, input));
     const bool reads = arguments->task == Arguments::Task::Read;
-    // A large pipe, where the system grants it, keeps the tool from holding up the writing.
+    // With a large pipe, if the system allows it, this process waits less for the tool to read.
     constexpr int pipeSize = 1 << 20;
     if (reads)
         fcntl(STDOUT_FILENO, F_SETPIPE_SZ, pipeSize);

@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
-/// How several files travel through one pipe.
+/// The format of several files in one stream of bytes.
 ///
 /// The text "orvane-files 1" and a line feed, then for each file a line "file SIZE NAME" and its SIZE bytes, at last
-/// the line "end". The first file is the one that was asked for, the others are those that it refers to. A name is
+/// the line "end". The first file is the requested one, the others are those that it refers to. A name is
 /// UTF-8 and names a file of the same folder.
 namespace orvane {
 
@@ -19,15 +19,15 @@ struct NamedFile {
     std::string bytes;
 };
 
-/// The line ahead of all files.
+/// The line before all files.
 [[nodiscard]] std::string framedFilesStart();
-/// The line ahead of the bytes of one file.
+/// The line before the bytes of a file.
 [[nodiscard]] std::string framedFileHeader(std::string_view name, std::size_t size);
-/// The line behind the last file.
+/// The line after the last file.
 [[nodiscard]] std::string framedFilesEnd();
 
-/// Takes framed files apart. Nothing, if the bytes are anything but whole framed files: at least one, each name once
-/// and none that leads to another folder or to a hidden file.
+/// Splits framed files. Returns nothing unless the bytes are complete framed files: at least one, each name once, and
+/// no name of a hidden file or of one in another folder.
 [[nodiscard]] std::optional<std::vector<NamedFile>> unpackFramedFiles(std::string_view bytes);
 
 } // namespace orvane

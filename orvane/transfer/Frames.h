@@ -5,10 +5,10 @@
 #include <optional>
 #include <string_view>
 
-/// What the readers of framed bytes share: each takes something off the front of the bytes.
+/// Functions for readers of framed bytes. Each removes something from the start of the bytes.
 namespace orvane {
 
-/// Takes that start off. False, and nothing is taken, for bytes that begin otherwise.
+/// Removes that start. Returns false, and removes nothing, if the bytes begin otherwise.
 [[nodiscard]] inline bool takeStart(std::string_view& bytes, std::string_view start)
 {
     if (!bytes.starts_with(start))
@@ -17,7 +17,7 @@ namespace orvane {
     return true;
 }
 
-/// Takes a line off and gives it without its end. Nothing for bytes without a line feed among the first `longest`.
+/// Removes a line and returns it without its end. Returns nothing if the first `longest` bytes have no line feed.
 [[nodiscard]] inline std::optional<std::string_view> takeLine(
     std::string_view& bytes, std::size_t longest = std::string_view::npos)
 {
@@ -29,7 +29,7 @@ namespace orvane {
     return line;
 }
 
-/// Takes a whole number off, of digits alone. Nothing for bytes that begin otherwise and a number beyond all sizes.
+/// Removes and returns a number of decimal digits. Returns nothing for other bytes, or if it doesn't fit.
 [[nodiscard]] inline std::optional<std::size_t> takeNumber(std::string_view& bytes)
 {
     std::size_t number = 0;

@@ -9,20 +9,20 @@
 #include <span>
 #include <type_traits>
 
-/// Which lists of a scene travel as bytes.
+/// The lists of a scene that are sent as bytes.
 namespace orvane {
 
-/// The type of the values of a class of lists.
+/// The value type of a class of lists.
 template <typename List>
 using ListValue = typename decltype(std::declval<const List&>().getValues())::value_type;
 
-/// Calls the action with the field as the list that it is. False, without a call, for a field that isn't a list of
-/// numbers which may have any bits: of positions, directions, colours or indices.
+/// Calls the action with the field, cast to its class, if it is a list of positions, directions, colours or indices,
+/// whose values may have any bits. Else returns false without calling the action.
 template <typename Action>
 bool withPackableList(NxField& field, const Action& action)
 {
     const auto tryAs = [&]<typename List>(List* list) {
-        // Their bytes are all there is to them.
+        // So they can be copied as bytes.
         static_assert(std::is_trivially_copyable_v<ListValue<List>>);
         if (list != nullptr)
             action(*list);

@@ -52,7 +52,7 @@ std::string PackedParts::failure() const
     return m_hasBegun ? "bytes are missing at its end" : noBegin;
 }
 
-// The number of bytes that it took.
+// Returns the number of bytes used.
 std::size_t PackedParts::takeSome(std::string_view bytes)
 {
     if (m_phase != Phase::Text && m_phase != Phase::Block)
@@ -127,8 +127,7 @@ void PackedParts::readBlockLine(std::string_view line)
         block.kind = PackedBlock::Kind::Image;
     else if (!takeStart(line, "list"))
         return failAtSize();
-    // There is at least a byte of text for each field, so that the blocks can't take far more memory than they have
-    // bytes.
+    // Each field has at least one byte of text, so that the memory for the blocks is limited by their bytes.
     std::size_t size = 0;
     if (!takeNumberUpTo(line, m_left, size) || m_blocks.size() >= m_text.size())
         return failAtSize();
@@ -147,7 +146,7 @@ void PackedParts::readBlockLine(std::string_view line)
     m_phase = size == 0 ? Phase::BlockLine : Phase::Block;
 }
 
-// The size of the whole is known, so its end is as well.
+// The total size is known, and so is the end.
 void PackedParts::endAtEnd()
 {
     if (m_left > 0 || isBroken())

@@ -18,15 +18,15 @@ struct PackedBlock {
     short width = 0;
     short height = 0;
     int components = 0;
-    /// The values as they lie in memory.
+    /// The values as they are in memory.
     std::vector<unsigned char> bytes;
 };
 
-/// Takes a packed scene apart while its bytes arrive, so that each block of it lies in memory once and can be handed
-/// over as it is. See `PackedScene` for the form.
+/// Splits a packed scene while its bytes arrive, so that each block is in memory once and can be moved. See
+/// `PackedScene` for the format.
 ///
-/// Only the form is checked here: lines, sizes, and that all bytes are there. Memory is reserved for a block at most
-/// within the size that the first line states, and it isn't touched before bytes for it arrive.
+/// Only the form is checked here: lines, sizes, and completeness. Memory for a block is reserved within the size that
+/// the first line gives, and isn't written before its bytes arrive.
 class PackedParts {
 public:
     PackedParts() = default;
@@ -34,22 +34,22 @@ public:
     PackedParts(const PackedParts&) = delete;
     PackedParts& operator=(const PackedParts&) = delete;
 
-    /// Takes the next bytes. Those behind a fault are dropped.
+    /// Adds the next bytes. Bytes after an error are ignored.
     void take(std::string_view bytes);
 
     /// Whether the first line is that of a packed scene.
     [[nodiscard]] bool hasBegun() const noexcept { return m_hasBegun; }
-    /// Whether all bytes are there and have the right form.
+    /// Whether all bytes have arrived and have the right form.
     [[nodiscard]] bool isComplete() const noexcept { return m_phase == Phase::Complete; }
-    /// Whether no further bytes can make it complete.
+    /// Whether the bytes are wrong, so that further bytes can't complete them.
     [[nodiscard]] bool isBroken() const noexcept { return m_phase == Phase::Broken; }
     /// What is wrong or missing, one line; empty when it is complete.
     [[nodiscard]] std::string failure() const;
 
     /// The blocks so far; the last one may lack bytes.
     [[nodiscard]] const std::vector<PackedBlock>& blocks() const noexcept { return m_blocks; }
-    /// The text of the scene file without the blocks, and the blocks in the order of the nodes and fields. Once, when
-    /// it is complete.
+    /// The text of the scene file without the blocks, and the blocks in the order of the nodes and fields. To be called
+    /// once, when it is complete.
     [[nodiscard]] std::string takeText() noexcept { return std::move(m_text); }
     [[nodiscard]] std::vector<PackedBlock> takeBlocks() noexcept { return std::move(m_blocks); }
 

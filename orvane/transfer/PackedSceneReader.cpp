@@ -155,7 +155,7 @@ void PackedSceneReader::readList(Values& list)
     if (list.getNum() != 0)
         return failAtBlock("is for a field that has values already");
     std::vector<Value> values(count);
-    if (count > 0) // of no bytes there need be no place
+    if (count > 0) // an empty list may have no address
         std::memcpy(values.data(), bytes.data(), bytes.size());
     list.setValues(std::move(values));
 }

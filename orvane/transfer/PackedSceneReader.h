@@ -19,9 +19,9 @@ namespace orvane {
 
 /// Reads a scene from the parts of a packed scene, in slices, all or nothing.
 ///
-/// Nothing is taken for granted: parts that aren't complete, whose text isn't a scene, or whose blocks don't fit the
-/// nodes of that scene are refused. An image is moved into its field, a list is copied, and its block is released at
-/// once. Thread of the user interface only.
+/// The parts aren't trusted: incomplete parts, a text that isn't a scene, and blocks that don't match its nodes are
+/// refused. An image is moved into its field, a list is copied, and its block is released at once. Thread of the user
+/// interface only.
 class PackedSceneReader {
 public:
     using State = NxSceneReader::State;
@@ -30,12 +30,12 @@ public:
     PackedSceneReader(const PackedSceneReader&) = delete;
     PackedSceneReader& operator=(const PackedSceneReader&) = delete;
 
-    /// Goes on reading until done or until the budget is spent; it may overrun it by the time of one list.
+    /// Reads on until done or until the budget is spent; may exceed it by the time for one list.
     State step(std::chrono::microseconds budget);
     /// Reads to the end.
     State run();
     [[nodiscard]] State state() const noexcept { return m_state; }
-    /// The share of text and blocks that is read, 0 to 1.
+    /// The fraction of text and blocks read so far, 0 to 1.
     [[nodiscard]] double progress() const noexcept;
     /// Why the bytes were refused, one line; empty unless the state is `Failed`.
     [[nodiscard]] const std::string& failure() const noexcept { return m_failure; }
@@ -70,8 +70,8 @@ private:
     std::size_t m_done = 0; // blocks
 
     std::optional<meridane::NodeTraversal> m_traversal;
-    NxNode* m_node = nullptr; // where the walk is
-    std::size_t m_walked = 0; // nodes, that one included
+    NxNode* m_node = nullptr; // the present node of the traversal
+    std::size_t m_walked = 0; // visited nodes, that one included
     int m_nextField = 0; // of that node that a block may be for
 };
 

@@ -5,7 +5,7 @@
 
 namespace orvane {
 
-/// A picture as a scene holds it: rows from bottom to top, 1 to 4 components of one byte a pixel.
+/// A picture as in a scene: rows from bottom to top, 1 to 4 components of one byte for each pixel.
 struct Picture {
     int width = 0;
     int height = 0;

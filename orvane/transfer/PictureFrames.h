@@ -7,11 +7,11 @@
 #include <string_view>
 #include <utility>
 
-/// How image files travel to the import helper and come back as pictures, one after the other.
+/// The format in which image files are sent to the import helper and returned as pictures, one after the other.
 ///
 /// A request is a line "picture SIZE" and the SIZE bytes of the file. The reply is a line "picture WIDTH HEIGHT
 /// COMPONENTS" and WIDTH * HEIGHT * COMPONENTS bytes, the bottom row first, or a line "refused REASON". The next
-/// request follows after the reply.
+/// request follows the reply.
 namespace orvane {
 
 /// The line before the bytes of a file.
@@ -25,18 +25,18 @@ namespace orvane {
 /// The reply for a file that can't be decoded.
 [[nodiscard]] std::string pictureRefusal(std::string_view reason);
 
-/// Puts a reply together from its bytes as they come. They aren't trusted: a picture beyond the limits of `Picture.h`
-/// and bytes after the end of the reply are no reply.
+/// Assembles a reply while its bytes arrive. They aren't trusted: a picture beyond the limits of `Picture.h`, or bytes
+/// after the end of the reply, make it invalid.
 class PictureReply {
 public:
     enum class State {
         Incomplete, ///< more bytes must follow
         Complete, ///< there is a picture
         Refused, ///< there is no picture, for a `reason`
-        Broken, ///< this is no reply
+        Broken, ///< the bytes aren't a reply
     };
 
-    /// Takes the next bytes. Throws `std::bad_alloc` when the picture doesn't fit in memory.
+    /// Adds the next bytes. Throws `std::bad_alloc` when the picture doesn't fit in memory.
     State take(std::string_view bytes);
     [[nodiscard]] State state() const noexcept { return m_state; }
     /// The picture of a reply that is complete.

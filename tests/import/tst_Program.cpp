@@ -111,7 +111,7 @@ void tst_Program::unusableArgumentsGiveStatusTwo_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("message");
-    const QString end = QStringLiteral("; --help tells how it is used");
+    const QString end = QStringLiteral("; see --help");
     QTest::newRow("none") << QStringList()
                           << QStringLiteral("one of --read, --write, --pictures, --formats and --locks is needed")
             + end;

@@ -11,8 +11,8 @@ struct TextPosition {
     int column = 1;
 };
 
-/// The position of a byte offset in a UTF-8 text. A byte order mark at the start of the text isn't counted. Counts beyond
-/// the range of `int` are limited to it.
+/// The position of a byte offset in a UTF-8 text. A byte order mark at the start of the text isn't counted. Counts
+/// beyond the range of `int` are limited to it.
 [[nodiscard]] TextPosition positionOf(std::string_view text, std::size_t offset) noexcept;
 
 /// The mark that some editors put at the start of a UTF-8 text.

@@ -9,8 +9,8 @@
 
 namespace meridane {
 
-/// Visits the nodes of a scene in the order of a scene file: parents before their children. A scene that was written and
-/// read again has the same order. The structure of the scene must not change meanwhile.
+/// Visits the nodes of a scene in the order of a scene file: parents before their children. A scene that was written
+/// and read again has the same order. The structure of the scene must not change meanwhile.
 class NodeTraversal {
 public:
     /// `scene` is the group that holds the top nodes; it isn't visited itself.
@@ -18,8 +18,8 @@ public:
 
     /// The next node, each one at its first use only; null after the last one.
     [[nodiscard]] NxNode* next();
-    /// The next use of a node: a node that is in several places comes in each of them, its children only after the first.
-    /// Null after the last one.
+    /// The next use of a node: a node that is in several places comes in each of them, its children only after the
+    /// first. Null after the last one.
     [[nodiscard]] NxNode* nextUse();
     /// Whether the latest node was returned for the first time.
     [[nodiscard]] bool isFirstUse() const noexcept { return m_isFirstUse; }

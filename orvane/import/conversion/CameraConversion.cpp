@@ -11,7 +11,7 @@
 namespace orvane {
 namespace {
 
-// Models that don't tell the proportion of the picture mean a square one.
+// A model without an aspect ratio is taken to have a square picture.
 float aspectOf(const aiCamera& camera)
 {
     return camera.mAspect > 0 ? camera.mAspect : 1;

@@ -13,10 +13,10 @@ namespace orvane {
 
 /// The camera in the group of its node.
 [[nodiscard]] NxRef<NxCamera> toCamera(const aiCamera& camera);
-/// Moves a camera by a matrix that doesn't scale; another one leaves it alone and gives false.
+/// Transforms a camera by a matrix without scale. Returns false for any other matrix and changes nothing.
 [[nodiscard]] bool moveCamera(NxCamera& camera, const aiMatrix4x4& transform);
-/// The way back: a camera at the origin that looks along negative z, and the matrix of the node that holds it. Null for
-/// a camera of a class that no model knows.
+/// The reverse: a camera at the origin that looks along negative z, and the transform of its node. Null for a class of
+/// cameras that models don't have.
 [[nodiscard]] std::unique_ptr<aiCamera> toAiCamera(const NxCamera& camera, aiMatrix4x4& transform);
 
 } // namespace orvane

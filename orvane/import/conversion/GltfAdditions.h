@@ -9,10 +9,10 @@ namespace orvane {
 
 /// Adds cameras and lights to a glTF file: the export library writes the nodes that hold them, but not what they are.
 ///
-/// The nodes go through the export under marks in place of their names, which the file's text is then searched for.
+/// Before the export, the names of these nodes are replaced by marks; then the marks are found in the text of the file.
 class GltfAdditions {
 public:
-    /// Takes the cameras and lights of a model and marks their nodes.
+    /// Reads the cameras and lights of a model and marks their nodes.
     explicit GltfAdditions(aiScene& model);
 
     /// Completes a file that was written from the model: the text of a `.gltf` or the bytes of a `.glb`.

@@ -11,11 +11,11 @@
 /// Lights between a scene and the import library.
 namespace orvane {
 
-/// The light where `transform`, the matrix of its node, puts it. Null for one that shines from nowhere: the brightness
-/// of everything is told by materials here.
+/// The light, transformed by the world transform of its node. Null for ambient light, which here is a property of
+/// materials.
 [[nodiscard]] NxRef<NxLight> toLight(const aiLight& light, const aiMatrix4x4& transform);
-/// The way back: a light at the origin that shines along negative z, and the matrix of the node that holds it. Null for
-/// a light of a class that no model knows.
+/// The reverse: a light at the origin that shines along negative z, and the transform of its node. Null for a class of
+/// lights that models don't have.
 [[nodiscard]] std::unique_ptr<aiLight> toAiLight(const NxLight& light, aiMatrix4x4& transform);
 
 } // namespace orvane

@@ -11,10 +11,10 @@
 namespace orvane {
 namespace {
 
-// The exponent of the sharpest highlight that a scene can tell.
+// The exponent of the sharpest highlight that a scene can have.
 constexpr float greatestExponent = 128;
 
-// One texture of a kind is all that a scene can tell; physically based formats have their own kind.
+// A scene has one texture for each material. Physically based formats use a kind of their own for it.
 constexpr aiTextureType textureTypes[] = {aiTextureType_DIFFUSE, aiTextureType_BASE_COLOR};
 
 bool takeColor(const aiMaterial& material, NxSFColor& field, const char* key, unsigned int type, unsigned int index)
@@ -43,7 +43,7 @@ std::optional<Picture> pictureOf(const aiTexture& texture)
         return std::nullopt;
     Picture picture{static_cast<int>(texture.mWidth), static_cast<int>(texture.mHeight), 4, {}};
     picture.bytes.reserve(std::size_t{texture.mWidth} * texture.mHeight * 4);
-    // The library's first row is the top one.
+    // The first row of the library is the top row.
     for (std::size_t row = texture.mHeight; row-- > 0;) {
         for (const aiTexel& texel : std::span(texture.pcData + row * texture.mWidth, texture.mWidth))
             picture.bytes.insert(picture.bytes.end(), {texel.r, texel.g, texel.b, texel.a});
@@ -109,7 +109,7 @@ NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model)
         result->filePath.setValue(VbString(std::string_view(path)));
         return result;
     }
-    // What an embedded picture is called may be the path of the file that it was.
+    // The name of an embedded picture may be the path of its original file.
     const VbString name = toText(embedded->mFilename);
     if (name.view().find('.') != std::string_view::npos)
         result->filePath.setValue(name);

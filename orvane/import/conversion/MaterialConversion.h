@@ -13,18 +13,18 @@ struct aiScene;
 /// Materials and textures between a scene and the import library.
 namespace orvane {
 
-/// The material's colours; what it doesn't tell keeps the default.
+/// The colours of the material; those that it doesn't define keep their defaults.
 [[nodiscard]] NxRef<NxMaterial> toMaterial(const aiMaterial& material);
-/// The path of the picture on surfaces of that material, as the model has it; empty for none.
+/// The path of the material's texture, as the model gives it; empty for none.
 [[nodiscard]] std::string texturePath(const aiMaterial& material);
-/// What lies outside that picture, an `NxTexture::Wrap`: along axis 0 (left and right) or 1 (below and above).
+/// The wrap mode of that texture, an `NxTexture::Wrap`, along axis 0 (left and right) or 1 (below and above).
 [[nodiscard]] int textureWrap(const aiMaterial& material, int axis);
-/// The texture of a material that has one: with its image, if the model holds it and it can be decoded.
+/// The texture of the material, or null. It has an image if the model contains one that can be decoded.
 [[nodiscard]] NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model);
 
-/// The way back. Null stands for the look of a surface without a material.
+/// The reverse. Null gives the material of a surface without one.
 void setMaterial(aiMaterial& target, const NxMaterial* material);
-/// Lays a picture on surfaces of the material. `path` is what the model calls it.
+/// Adds a texture to a material. `path` is its name in the model.
 void setTexture(aiMaterial& target, const NxTexture& texture, const std::string& path);
 
 } // namespace orvane

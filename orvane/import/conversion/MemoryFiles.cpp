@@ -36,7 +36,7 @@ public:
     aiReturn Seek(std::size_t offset, aiOrigin origin) override
     {
         const std::size_t base = origin == aiOrigin_SET ? 0 : origin == aiOrigin_CUR ? m_position : FileSize();
-        // As in a file, behind the end as well: writing there fills the gap with zeros.
+        // As in a file, the position may be after the end; writing there fills the gap with zeros.
         m_position = base + offset;
         return aiReturn_SUCCESS;
     }

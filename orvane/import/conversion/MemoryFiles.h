@@ -17,7 +17,7 @@ public:
 
     [[nodiscard]] bool Exists(const char* path) const override;
     [[nodiscard]] char getOsSeparator() const override { return '/'; }
-    /// Opens a file for writing, an old one of that name included; null for reading.
+    /// Opens a file for writing and replaces one of that name. Returns null for reading.
     [[nodiscard]] Assimp::IOStream* Open(const char* path, const char* mode) override;
     void Close(Assimp::IOStream* stream) override;
 

@@ -44,7 +44,7 @@ std::vector<int> indicesOf(const aiMesh& mesh, unsigned int corners)
     return indices;
 }
 
-// Some formats scale the directions along with the mesh.
+// Some formats scale normals together with the mesh.
 VbVec3f toDirection(const aiVector3D& vector)
 {
     const float square = vector.SquareLength();
@@ -53,7 +53,7 @@ VbVec3f toDirection(const aiVector3D& vector)
     return toVec(vector / std::sqrt(square));
 }
 
-// A new array of the library's, or null when there isn't a value for each position.
+// A new array, owned by the library; null if there isn't a value for each position.
 template <typename Target, typename Source, typename Convert>
 Target* newArray(std::span<const Source> values, std::size_t count, Convert convert)
 {

@@ -13,8 +13,8 @@ namespace orvane {
 
 /// The mesh with its first colours and texture coordinates. Its faces are of one kind.
 [[nodiscard]] NxRef<NxMesh> toMesh(const aiMesh& mesh);
-/// The way back, without a material. Null for a mesh without a face and, with `error` told, for one whose indices go
-/// beyond its positions. Lists that don't fit the positions are left out.
+/// The reverse, without a material. Null for a mesh without faces, and for one with an index that has no position; then
+/// `error` says so. Lists whose length doesn't match the positions are left out.
 [[nodiscard]] std::unique_ptr<aiMesh> toAiMesh(const NxMesh& mesh, std::string& error);
 
 } // namespace orvane

@@ -23,7 +23,7 @@ struct ModelBuilder::Node {
     std::vector<unsigned int> meshes;
     std::vector<std::unique_ptr<Node>> children;
 
-    // The library's form: arrays that it deletes itself.
+    // An array that the library deletes.
     std::unique_ptr<aiNode> finish()
     {
         node->mNumMeshes = static_cast<unsigned int>(meshes.size());
@@ -50,7 +50,7 @@ void release(std::vector<std::unique_ptr<T>>& objects, T**& array, unsigned int&
         array[index] = objects[index].release();
 }
 
-/// Sixteen digits that follow from the bytes, the same ones on every machine (FNV-1a).
+/// The hash of the bytes in sixteen digits, the same on every machine (FNV-1a).
 std::string fingerprintText(std::string_view bytes)
 {
     constexpr std::uint64_t start = 0xcbf29ce484222325;
@@ -170,7 +170,7 @@ void ModelBuilder::addMesh(Node& node, const NxMesh& mesh, const Look& look)
     if (place->second < 0)
         return;
     const auto index = static_cast<unsigned int>(place->second);
-    // A node of the library holds a mesh once; what stands there twice needs another node.
+    // A node of the library has each mesh once; a second use needs another node.
     const bool isThere = std::find(node.meshes.begin(), node.meshes.end(), index) != node.meshes.end();
     (isThere ? addPlaced(node, VbString(), "", aiMatrix4x4()) : node).meshes.push_back(index);
 }
@@ -199,7 +199,7 @@ ModelBuilder::Node& ModelBuilder::addPlaced(
     Node& node, const VbString& name, const char* otherwise, const aiMatrix4x4& transform)
 {
     Node& child = *node.children.emplace_back(std::make_unique<Node>());
-    // A light or a camera finds its node by the name, so theirs are unique.
+    // Lights and cameras refer to their node by name, so these names are unique.
     child.node->mName = *otherwise != '\0' ? toAiText(uniqueName(name, otherwise)) : toAiText(name);
     m_names.emplace(name.view());
     child.node->mTransformation = transform;
@@ -240,7 +240,7 @@ std::string ModelBuilder::picturePath(const NxTexture& texture)
     made.mFilename = toAiText(texture.getName().isEmpty() ? texture.filePath.getValue() : texture.getName());
     made.mWidth = static_cast<unsigned int>(file.size());
     std::strcpy(made.achFormatHint, "png");
-    // The library's type of a pixel stands for four bytes of any file.
+    // The library uses its type of a pixel for four bytes of any file.
     made.pcData = new aiTexel[file.size() / sizeof(aiTexel) + 1];
     std::memcpy(made.pcData, file.data(), file.size());
     place->second = "*" + std::to_string(m_textures.size() - 1);

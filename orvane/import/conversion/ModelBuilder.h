@@ -21,22 +21,22 @@ class NxLight;
 
 namespace orvane {
 
-/// Builds the import library's model from a scene: what `SceneBuilder` makes comes back as it was.
+/// Builds the import library's model from a scene, the reverse of `SceneBuilder`.
 ///
-/// A transform and a group with a name become nodes; a group without one only tells where its materials end. A switch
-/// gives what it shows. A light that is off isn't there.
+/// Transforms and groups with a name become nodes. A group without a name only limits its materials. Of a switch, the
+/// shown children are exported. Lights that are off are left out.
 class ModelBuilder {
 public:
-    /// Where images of textures go: nowhere, into the model, or into files whose names are `imageName` and a number
-    /// that follows from their content. So the same image has the same file, and another one never has.
+    /// The destination of images: none, inside the model, or files. The name of a file is `imageName` and a hash of the
+    /// content, so that equal images have the same file and others never have.
     enum class Images { Nowhere, Inside, Beside };
-    /// How many meshes a node may hold.
+    /// The number of meshes that a node may have.
     enum class MeshesPerNode { One, Many };
 
     ModelBuilder(Images images, std::string imageName, MeshesPerNode meshesPerNode);
     ~ModelBuilder();
 
-    /// The model, or null with `error` saying what is wrong with the scene.
+    /// The model, or null; then `error` says what is wrong with the scene.
     [[nodiscard]] std::unique_ptr<aiScene> build(const NxGroup& scene, std::string& error);
     /// The files of the images, after `build`.
     [[nodiscard]] std::vector<NamedFile> takeImageFiles() { return std::move(m_imageFiles); }

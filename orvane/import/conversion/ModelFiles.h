@@ -8,21 +8,21 @@
 
 namespace orvane {
 
-/// The files that a model may be made of: regular files in its folder and below, behind all symbolic links. That holds
-/// on machines too whose kernel doesn't lock files, and keeps the import library from waiting for a pipe.
+/// Opens the files of a model: regular files in its folder and below, after following symbolic links. This also works
+/// on machines whose kernel can't restrict files, and prevents the import library from waiting for a pipe.
 class ModelFiles : public Assimp::DefaultIOSystem {
 public:
     /// `model` is the path of the model's own file.
     explicit ModelFiles(const std::string& model);
 
     [[nodiscard]] bool Exists(const char* path) const override;
-    /// Null for another file.
+    /// Returns null for any other file.
     [[nodiscard]] Assimp::IOStream* Open(const char* path, const char* mode) override;
 
 private:
     [[nodiscard]] bool isUsable(const char* path) const;
 
-    std::vector<std::filesystem::path> m_folders; // behind all symbolic links
+    std::vector<std::filesystem::path> m_folders; // without symbolic links
 };
 
 } // namespace orvane

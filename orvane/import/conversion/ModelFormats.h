@@ -11,7 +11,7 @@ namespace orvane {
 [[nodiscard]] std::vector<std::string> readableExtensions();
 /// All extensions that can be written, sorted.
 [[nodiscard]] std::vector<std::string> writableExtensions();
-/// The export library's name of the format for that extension, in any case; empty for one that isn't written.
+/// The export library's name of the format with that extension, upper or lower case; empty if it can't be written.
 [[nodiscard]] std::string exportFormat(std::string_view extension);
 
 } // namespace orvane

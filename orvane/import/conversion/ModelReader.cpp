@@ -15,7 +15,7 @@
 namespace orvane {
 namespace {
 
-// Corners that are alike become one vertex, so that formats which know no indices arrive like those that do.
+// Equal vertices are merged, so that formats without indices give the same meshes as formats with them.
 constexpr unsigned int steps
     = aiProcess_ValidateDataStructure | aiProcess_Triangulate | aiProcess_SortByPType | aiProcess_JoinIdenticalVertices;
 
@@ -30,9 +30,9 @@ std::string failureText(const std::string& path, const Assimp::Importer& importe
     std::string text = importer.GetErrorString();
     if (text.empty())
         return "the model can't be read";
-    // The library repeats the whole path and knows nothing better to say.
+    // The message of the library only repeats the path.
     if (text.starts_with("No suitable reader found"))
-        return hasModelExtension(path) ? "the model is broken: it isn't in the format that its name tells"
+        return hasModelExtension(path) ? "the model is broken: it isn't in the format of its extension"
                                        : "this is in none of the model formats that can be read";
     std::replace_if(
         text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
@@ -50,7 +50,7 @@ ModelReader::~ModelReader() = default;
 
 NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
 {
-    // The library has one message for all that can be wrong with a file; the toolkit tells them apart.
+    // The library has one message for every failure to open a file; the toolkit distinguishes them.
     if (const std::optional<std::string> failure = meridane::FileReader().open(path)) {
         error = *failure;
         return {};

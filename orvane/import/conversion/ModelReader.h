@@ -12,15 +12,15 @@ class Importer;
 
 namespace orvane {
 
-/// Reads a foreign model, and keeps what the import library made of it: to give that back takes longer than some
-/// scenes take to be written, so a process that is about to end needn't.
+/// Reads a foreign model. The destructor frees the data of the import library, which can take longer than writing the
+/// scene; a process that is about to exit can skip it.
 class ModelReader {
 public:
     ModelReader();
     ~ModelReader();
 
-    /// The result is a scene, or null with `error` saying why, the file's name first. Textures that the model refers to
-    /// aren't opened; those that it holds become images.
+    /// Returns the scene, or null; then `error` begins with the file's name and says why. Files of textures aren't
+    /// opened; embedded textures become images.
     [[nodiscard]] NxRef<NxGroup> read(const std::string& path, std::string& error);
 
 private:

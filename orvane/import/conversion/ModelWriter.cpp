@@ -26,13 +26,13 @@ ModelBuilder::Images imagesOf(std::string_view format)
     return format == "stlb" ? ModelBuilder::Images::Nowhere : ModelBuilder::Images::Beside;
 }
 
-// Formats that give all meshes colours if one has them, black ones.
+// Formats that give black colours to meshes without colours if another mesh has some.
 bool mixesColors(std::string_view format)
 {
     return format == "obj" || format == "ply";
 }
 
-// Gives meshes without colours the one that they are seen with.
+// Gives meshes without colours the colour of their material.
 void completeColors(const aiScene& model)
 {
     const std::span<aiMesh* const> meshes(model.mMeshes, model.mNumMeshes);
@@ -50,7 +50,7 @@ void completeColors(const aiScene& model)
     }
 }
 
-// That format tells materials apart by their names alone, and one material with two textures is two of them.
+// That format identifies materials by name, and a material with two textures needs two names.
 void makeMaterialNamesUnique(const aiScene& model)
 {
     std::unordered_set<std::string> names;
@@ -74,7 +74,7 @@ std::vector<NamedFile> writeModel(
 {
     const std::string format = exportFormat(extension);
     const std::string file = name + "." + extension;
-    // The exporter merges the meshes of a node into the first one, wherever else that is used.
+    // The exporter merges the meshes of a node into the first one, even if other nodes use that.
     const bool isGltf = format == "glb2" || format == "gltf2";
     ModelBuilder builder(
         imagesOf(format), name, isGltf ? ModelBuilder::MeshesPerNode::One : ModelBuilder::MeshesPerNode::Many);

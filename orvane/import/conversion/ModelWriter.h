@@ -9,10 +9,10 @@
 
 namespace orvane {
 
-/// Turns a scene into the files of a foreign model, the one that was asked for first.
+/// Converts a scene to the files of a foreign model. The model's own file comes first.
 ///
-/// `extension` names the format, `name` the files. The result is empty, with `error` saying why, for a format that
-/// isn't written, a scene without a mesh, and whatever else the export library refuses.
+/// `extension` selects the format, `name` is the name of the files. Returns no file, and says why in `error`, for a
+/// format that can't be written, a scene without a mesh, and anything else that the export library refuses.
 [[nodiscard]] std::vector<NamedFile> writeModel(
     NxGroup& scene, const std::string& extension, const std::string& name, std::string& error);
 

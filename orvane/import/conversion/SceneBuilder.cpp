@@ -66,11 +66,11 @@ NxRef<NxGroup> SceneBuilder::build(std::string& error)
     addLights(*scene, root, aiMatrix4x4());
     if (isMadeUp(root) ? addContent(*scene, root, 1) : addNode(*scene, root, 1))
         return scene;
-    error = "nodes stand in each other more than " + std::to_string(NxSceneReader::maxDepth) + " deep";
+    error = "nodes are nested more than " + std::to_string(NxSceneReader::maxDepth) + " deep";
     return {};
 }
 
-// Many readers put a node of their own above those of the model.
+// Many readers add a node above those of the model.
 bool SceneBuilder::isMadeUp(const aiNode& root) const
 {
     constexpr std::array<std::string_view, 5> names{"", "ROOT", "RootNode", "Scene", "<BlenderRoot>"};
@@ -88,7 +88,7 @@ void SceneBuilder::addLights(NxGroup& scene, const aiNode& node, const aiMatrix4
             if (const NxRef<NxLight> made = toLight(*light, worldTransform))
                 scene.addChild(made.get());
         }
-        // Names aren't always unique; a light stands at the first node of its name.
+        // Names aren't always unique; a light belongs to the first node with its name.
         place->second.clear();
     }
     for (const aiNode* child : children(node.mChildren, node.mNumChildren))
@@ -97,7 +97,7 @@ void SceneBuilder::addLights(NxGroup& scene, const aiNode& node, const aiMatrix4
 
 bool SceneBuilder::addNode(NxGroup& parent, const aiNode& node, int depth)
 {
-    // A node that only places a light or a camera is told by the light or the camera itself.
+    // A node that only positions a light or a camera isn't needed: the light or camera has the position.
     if (isPlain(node) && (m_lights.contains(viewOf(node.mName)) || addPlainCamera(parent, node)))
         return true;
     const NxRef<NxGroup> group = makeTransform(node.mTransformation);
@@ -108,7 +108,7 @@ bool SceneBuilder::addNode(NxGroup& parent, const aiNode& node, int depth)
 
 bool SceneBuilder::addContent(NxGroup& group, const aiNode& node, int depth)
 {
-    // A mesh stands two levels below the group.
+    // A mesh is two levels below the group.
     if (depth + 2 > NxSceneReader::maxDepth)
         return false;
     if (const NxRef<NxCamera> camera = cameraOf(node))
@@ -137,8 +137,8 @@ NxRef<NxCamera> SceneBuilder::cameraOf(const aiNode& node) const
         return {};
     if (!m_isGltf)
         return toCamera(*place->second);
-    // The library's reader of this format sets the position to the translation that the node has as well, and makes the
-    // width's angle by multiplying the height's, not its tangent.
+    // The library's reader of this format repeats the node's translation in the position. It computes the angle of the
+    // width by multiplying the angle of the height instead of its tangent.
     aiCamera camera = *place->second;
     camera.mPosition = aiVector3D();
     if (camera.mAspect > 0)

@@ -25,21 +25,21 @@ namespace orvane {
 /// Builds our scene from a model that the import library has read.
 ///
 /// Lights come first, at the top of the scene, since they shine on what follows. A node becomes a transform with the
-/// node's name; in it stands a group for each of its meshes, with the mesh's material and texture ahead of it. Meshes,
-/// materials and textures that the model uses twice are shared.
+/// node's name. It contains a group for each of its meshes, with material and texture before the mesh. Meshes,
+/// materials and textures that the model uses several times are shared.
 class SceneBuilder {
 public:
     /// The model must outlive the builder. `fileName` is the name of its file, without a folder.
     SceneBuilder(const aiScene& model, std::string fileName);
 
-    /// The scene, or null with `error` saying what can't be told in a scene.
+    /// The scene, or null; then `error` says what a scene can't contain.
     [[nodiscard]] NxRef<NxGroup> build(std::string& error);
 
 private:
     void addLights(NxGroup& scene, const aiNode& node, const aiMatrix4x4& above);
     bool addNode(NxGroup& parent, const aiNode& node, int depth);
     bool addContent(NxGroup& group, const aiNode& node, int depth);
-    /// Puts a camera in place of a node that only places it. False for another node.
+    /// Replaces a node that only positions a camera by the camera. Returns false for other nodes.
     bool addPlainCamera(NxGroup& parent, const aiNode& node);
     [[nodiscard]] bool isMadeUp(const aiNode& root) const;
     [[nodiscard]] NxRef<NxCamera> cameraOf(const aiNode& node) const;

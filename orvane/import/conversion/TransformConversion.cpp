@@ -12,7 +12,7 @@
 namespace orvane {
 namespace {
 
-// How far a matrix read from decimal text may be off.
+// The tolerance for a matrix read from decimal text.
 constexpr float tolerance = 1e-4F;
 
 struct Parts {
@@ -47,7 +47,7 @@ bool decompose(const aiMatrix4x4& m, Parts& parts)
     }
     if (!isNear(axes[0] * axes[1], 0) || !isNear(axes[1] * axes[2], 0) || !isNear(axes[2] * axes[0], 0))
         return false;
-    // A mirror is told by one negative factor; a rotation can't tell it.
+    // A mirror becomes one negative factor; a rotation can't express it.
     if ((axes[0] ^ axes[1]) * axes[2] < 0) {
         axes[0] = -axes[0];
         scale[0] = -scale[0];
@@ -102,7 +102,7 @@ VbRotation rotationTo(const aiVector3D& direction, const aiVector3D& up)
         return {};
     z.Normalize();
     aiVector3D x = up ^ z;
-    // Looking straight up or down: any direction across will do.
+    // Straight up or down, any direction across the view is suitable.
     if (!(x.Length() > tolerance * up.Length()))
         x = (std::abs(z.y) < 0.9F ? aiVector3D(0, 1, 0) : aiVector3D(0, 0, -1)) ^ z;
     x.Normalize();

@@ -9,7 +9,7 @@
 #include <assimp/matrix4x4.h>
 #include <assimp/types.h>
 
-/// Places and directions between a scene and the import library, whose points are columns and multiply from the right.
+/// Converts transforms between a scene and the import library, whose points are columns and multiply from the right.
 namespace orvane {
 
 [[nodiscard]] inline VbVec3f toVec(const aiVector3D& vector)
@@ -23,17 +23,17 @@ namespace orvane {
 [[nodiscard]] VbMatrix toMatrix(const aiMatrix4x4& matrix);
 [[nodiscard]] aiMatrix4x4 toAiMatrix(const VbMatrix& matrix);
 
-/// The matrix that turns by that rotation and then moves.
+/// The matrix that rotates and then translates.
 [[nodiscard]] aiMatrix4x4 rigidMatrix(const VbRotation& rotation, const VbVec3f& translation);
-/// The rotation that turns negative z to `direction` and positive y towards `up`. Vectors of any length, also of none.
+/// The rotation that turns negative z to `direction` and positive y towards `up`. The vectors may have any length, even
+/// 0.
 [[nodiscard]] VbRotation rotationTo(const aiVector3D& direction, const aiVector3D& up);
-/// The parts of a matrix that doesn't scale: false for another one.
+/// The parts of a matrix without scale. Returns false for any other matrix.
 [[nodiscard]] bool isRigid(const aiMatrix4x4& matrix, VbRotation& rotation, VbVec3f& translation);
 
-/// A new group that places its children by that matrix: an `NxTransform` if its fields can tell it, which needs a
-/// matrix without shear, else an `NxMatrixTransform`.
+/// A new group with that local transform: an `NxTransform` if the matrix has no shear, else an `NxMatrixTransform`.
 [[nodiscard]] NxRef<NxGroup> makeTransform(const aiMatrix4x4& matrix);
-/// How a group places its children: the identity for one that doesn't.
+/// The local transform of a group: the identity for a group that doesn't transform.
 [[nodiscard]] aiMatrix4x4 matrixOf(const NxGroup& group);
 
 } // namespace orvane

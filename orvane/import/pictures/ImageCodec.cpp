@@ -34,7 +34,7 @@ bool isWebp(std::string_view file)
     return file.starts_with("RIFF"sv) && file.substr(std::min<std::size_t>(8, file.size())).starts_with("WEBP"sv);
 }
 
-// That format has nothing to know it by but a plausible head.
+// That format has no signature, only a plausible header.
 bool isTga(std::string_view file)
 {
     constexpr std::size_t headSize = 18;

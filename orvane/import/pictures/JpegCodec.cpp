@@ -20,7 +20,7 @@ struct JpegErrors {
 
 void ignoreJpegMessage(j_common_ptr, int) { }
 
-// The library doesn't turn the colours of printing into those of the screen.
+// The library doesn't convert CMYK to RGB.
 J_COLOR_SPACE colorsOf(const jpeg_decompress_struct& codec)
 {
     if (codec.jpeg_color_space == JCS_CMYK || codec.jpeg_color_space == JCS_YCCK)

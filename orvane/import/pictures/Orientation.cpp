@@ -12,13 +12,13 @@ constexpr int uprightOrientation = 1;
 constexpr int lastOrientation = 8;
 constexpr int firstTurned = 5; // where rows are columns
 
-/// A place in the picture as it was seen, from the top left.
+/// A pixel of the upright picture, from the top left.
 struct Place {
     int x;
     int y;
 };
 
-/// Where a pixel that is seen at a place is in a picture of that width and height.
+/// The index of that pixel in the original picture, which has that width and height.
 Place sourceOf(Place seen, int width, int height, int orientation)
 {
     const int right = width - 1;

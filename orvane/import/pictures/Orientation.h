@@ -4,12 +4,12 @@
 
 #include <span>
 
-/// How a camera was held.
+/// The orientation of a camera.
 namespace orvane {
 
-/// What the Exif data of an image file say, as the standard numbers it: 1 for an upright picture, up to 8.
+/// The orientation in the Exif data of an image file, numbered as in the standard: 1 for an upright picture, up to 8.
 [[nodiscard]] int orientationOf(std::span<const unsigned char> file);
-/// The picture as it was seen, from one that was taken at that orientation.
+/// Rotates a picture of that orientation upright.
 [[nodiscard]] Picture upright(Picture picture, int orientation);
 
 } // namespace orvane

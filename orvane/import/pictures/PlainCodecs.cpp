@@ -20,10 +20,10 @@ std::size_t byteCount(const Picture& picture)
         * static_cast<std::size_t>(picture.components);
 }
 
-// The library makes the rest of such a picture up, so that a few bytes could ask for the largest one.
+// The library invents missing pixels, so that a few bytes could request the largest picture.
 bool isCutOff(std::span<const unsigned char> file, const Picture& picture)
 {
-    constexpr std::size_t maxPixelsPerByte = 4096; // of GIF, whose codes stand for more than those of the others
+    constexpr std::size_t maxPixelsPerByte = 4096; // of GIF, which compresses more
     constexpr std::size_t maxPixelsPerRun = 128;
     const std::size_t pixels = static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height);
     if (file[0] == 'P')
@@ -37,7 +37,7 @@ std::optional<Picture> decodePlain(std::span<const unsigned char> file)
 {
     const auto size = static_cast<int>(std::min(file.size(), maxPictureFileSize));
     Picture picture;
-    // The size is looked at before memory is taken for it.
+    // The size is checked before memory is allocated.
     if (stbi_info_from_memory(file.data(), size, &picture.width, &picture.height, &picture.components) == 0
         || !isUsable(picture) || isCutOff(file, picture))
         return std::nullopt;

@@ -94,8 +94,9 @@ std::optional<Picture> decodeTiff(std::span<const unsigned char> file)
     TIFFSetErrorHandler(nullptr);
     TIFFSetWarningHandler(nullptr);
     MemoryFile memory{file};
-    const std::unique_ptr<TIFF, void (*)(TIFF*)> tiff(TIFFClientOpen("picture", "rm", &memory, &readBytes, &writeNothing,
-                                                          &seekFile, &closeNothing, &sizeOfFile, nullptr, nullptr),
+    const std::unique_ptr<TIFF, void (*)(TIFF*)> tiff(
+        TIFFClientOpen("picture", "rm", &memory, &readBytes, &writeNothing, &seekFile, &closeNothing, &sizeOfFile,
+            nullptr, nullptr),
         &TIFFClose);
     std::uint32_t width = 0;
     std::uint32_t height = 0;

@@ -14,8 +14,8 @@
 namespace orvane {
 namespace {
 
-// The kernel's interface is told here, since the C library has no functions for it and the system's headers may be
-// older than the kernel: the kernel says which version it knows, and refuses bits of later ones.
+// The kernel's interface is declared here, since the C library has no functions for it and the system's headers may be
+// older than the kernel. The kernel reports its version, and refuses bits of later versions.
 struct RuleSet {
     std::uint64_t fileAccess;
     std::uint64_t networkAccess; // from version 4

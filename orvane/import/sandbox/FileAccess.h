@@ -3,17 +3,16 @@
 #include <string>
 #include <vector>
 
-/// What this process may reach in the file system.
+/// Restricts the files that this process can open.
 namespace orvane {
 
-/// Lets this process, from now on, read the files in these folders and below, and open nothing else; files that are
-/// open stay open. Where the kernel can, it also refuses connections, signals to other processes and the like. A
-/// folder that can't be opened is left out. False when the kernel, or a sandbox around this process, has no such rules;
-/// nothing is restricted then.
+/// From now on this process can only open files for reading, in these folders and below; files that are already open
+/// remain open. If the kernel supports it, connections and signals to other processes are refused too. A folder that
+/// can't be opened is left out. Returns false if the kernel, or a sandbox around this process, doesn't support this;
+/// then nothing is restricted.
 [[nodiscard]] bool restrictFiles(const std::vector<std::string>& readableFolders);
 
-/// The folders that reading this file takes: the one that its path names and, for a symbolic link, the one that the
-/// file is in.
+/// The folders that are needed to read this file: that of its path and, for a symbolic link, that of the target.
 [[nodiscard]] std::vector<std::string> foldersOf(const std::string& path);
 
 } // namespace orvane

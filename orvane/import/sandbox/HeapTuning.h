@@ -4,11 +4,11 @@
 
 namespace orvane {
 
-/// Makes this process take its memory in large portions and keep what it has.
+/// Tunes the heap of this process to request memory in large blocks and not to return it to the system.
 ///
-/// Reading a model takes much memory for short times. To hand it back and have it given anew, page by page, takes a
-/// sixth of the time; that the first of it comes in large pages, where the system has them, saves another sixth. Where
-/// the limits let it have little, it does nothing. Call it before other memory is taken.
+/// Reading a model needs much memory for short times. Returning it and requesting it again, page by page, takes a sixth
+/// of the time. Large pages for the first part, if the system has them, save another sixth. Does nothing if the limits
+/// allow less than 1 GiB. To be called before other memory is allocated.
 void tuneHeap(const ProcessLimits& limits);
 
 } // namespace orvane

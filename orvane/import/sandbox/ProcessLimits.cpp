@@ -36,7 +36,7 @@ void setLimit(decltype(RLIMIT_AS) resource, rlim_t value)
     setLimit(resource, value, value);
 }
 
-// The import library catches std::bad_alloc in some places and goes on with half a model, so nothing is thrown.
+// The import library catches std::bad_alloc in some places and continues with half a model, so nothing is thrown.
 [[noreturn]] void endOutOfMemory()
 {
     [[maybe_unused]] const ssize_t written
@@ -66,14 +66,14 @@ void applyLimits(const ProcessLimits& limits)
     // A redirected standard output is a file that the user wants written.
     if (!writesToAFile())
         setLimit(RLIMIT_FSIZE, 0);
-    // A write that is refused is an error like any other, not the death of the process.
+    // A refused write must return an error and not kill the process.
     std::signal(SIGXFSZ, SIG_IGN);
     std::signal(SIGPIPE, SIG_IGN);
 }
 
 void limitProcessorTime(std::chrono::seconds time)
 {
-    // At the hard limit the kernel sends SIGKILL instead, which says nothing about the reason.
+    // At the hard limit the kernel sends SIGKILL instead, which doesn't show the reason.
     const auto seconds = static_cast<rlim_t>(time.count());
     if (seconds != 0)
         setLimit(RLIMIT_CPU, seconds, seconds + 1);

@@ -5,7 +5,7 @@
 
 #include <sys/types.h>
 
-/// What the helper allows itself, so that a hostile or broken model harms nobody.
+/// Limits the resources of this process, so that a hostile or broken model does no harm.
 namespace orvane {
 
 struct ProcessLimits {
@@ -23,9 +23,9 @@ void applyLimits(const ProcessLimits& limits);
 /// Ends this process with SIGXCPU when it has used that much processor time in all; 0 for no limit.
 void limitProcessorTime(std::chrono::seconds time);
 
-/// Makes the kernel kill this process when the process that started it ends, however that ends. False when that parent
-/// isn't the process `parent` any more: it has ended meanwhile. The kernel watches the thread that started this
-/// process, so that thread must live as long as the result is wanted.
+/// Makes the kernel kill this process when its parent ends, however that ends. Returns false if the process `parent` is
+/// no longer the parent, because it has ended. The kernel watches the thread that started this process, so that thread
+/// must run as long as the result is needed.
 [[nodiscard]] bool endWithParent(pid_t parent);
 
 } // namespace orvane

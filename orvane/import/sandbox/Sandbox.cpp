@@ -23,29 +23,29 @@ void closeOtherFiles()
         close(descriptor);
 }
 
-const char* holds(bool lock)
+const char* describe(bool applies)
 {
-    return lock ? "locked" : "not locked";
+    return applies ? "locked" : "not locked";
 }
 
 } // namespace
 
 SandboxState enterSandbox(const std::vector<std::string>& readableFolders)
 {
-    // Some exporters write the local time; its rules are in a file that can't be read later.
+    // Some exporters write the local time, whose rules are in a file that can't be read later.
     tzset();
     closeOtherFiles();
     SandboxState state;
     state.noNewPrivileges = prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0;
     state.files = restrictFiles(readableFolders);
-    state.systemCalls = filterSystemCalls(); // last: it refuses what the others are made with
+    state.systemCalls = filterSystemCalls(); // last: it refuses the system calls of the others
     return state;
 }
 
 std::string toText(const SandboxState& state)
 {
-    return std::string("privileges ") + holds(state.noNewPrivileges) + "\nfiles " + holds(state.files)
-        + "\nsystem calls " + holds(state.systemCalls) + "\n";
+    return std::string("privileges ") + describe(state.noNewPrivileges) + "\nfiles " + describe(state.files)
+        + "\nsystem calls " + describe(state.systemCalls) + "\n";
 }
 
 } // namespace orvane

@@ -2,9 +2,9 @@
 
 namespace orvane {
 
-/// True in a program built with the address sanitizer. It reserves terabytes of address space for itself, and its
-/// search for leaks, at the end of the process, starts a helper that traces this one and reads the program's own files:
-/// limits and locks must let it.
+/// True in a program built with the address sanitizer. The sanitizer reserves terabytes of address space. Its leak
+/// check at the end of the process starts a helper that traces this one and reads the program's files. Limits and
+/// sandbox must allow that.
 [[nodiscard]] constexpr bool isSanitized()
 {
 #if defined(__SANITIZE_ADDRESS__)

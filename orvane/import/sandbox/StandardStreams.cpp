@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t portion = std::size_t{1} << 16;
 
-/// Appends what is there, at most `count` bytes. False at the end of the input and, with the reason, for a failure.
+/// Appends the available bytes, at most `count`. Returns false at the end of the input, and on failure with the reason.
 bool readMore(std::string& bytes, std::size_t count, std::string& error)
 {
     const std::size_t size = bytes.size();
@@ -52,7 +52,7 @@ bool readAll(std::string& bytes, std::string& error)
 bool readCount(std::string& bytes, std::size_t count, std::string& error)
 {
     bytes.clear();
-    // Memory is taken for what has come, not for what is promised.
+    // Memory is allocated for bytes that have arrived, not for the promised number.
     while (bytes.size() < count && readMore(bytes, std::min(portion, count - bytes.size()), error)) { }
     if (bytes.size() < count && error.empty())
         error = "standard input: it ends in the middle";

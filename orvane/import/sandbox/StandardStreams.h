@@ -6,9 +6,10 @@
 
 namespace orvane {
 
-/// Writes the bytes to standard output, past the streams of the standard library. False with the reason in `error`.
+/// Writes the bytes to standard output, not through the streams of the standard library. Returns false on failure, with
+/// the reason in `error`.
 [[nodiscard]] bool writeAll(std::string_view bytes, std::string& error);
-/// Appends everything that comes from standard input. False with the reason in `error`.
+/// Appends all of standard input. Returns false on failure, with the reason in `error`.
 [[nodiscard]] bool readAll(std::string& bytes, std::string& error);
 /// Reads that many bytes from standard input. False with the reason in `error` if there are fewer.
 [[nodiscard]] bool readCount(std::string& bytes, std::size_t count, std::string& error);

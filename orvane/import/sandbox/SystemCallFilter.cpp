@@ -15,7 +15,7 @@
 namespace orvane {
 namespace {
 
-/// The rules as they are gathered. What a machine doesn't have stays refused.
+/// Collects the rules. System calls that the machine doesn't have remain refused.
 class Rules {
 public:
     Rules()
@@ -36,7 +36,7 @@ public:
         seccomp_rule_add_array(
             m_context, SCMP_ACT_ALLOW, call, static_cast<unsigned int>(conditions.size()), conditions.begin());
     }
-    /// Lets the C library fall back to an older call whose arguments can be looked at.
+    /// Makes the C library use an older system call, whose arguments can be checked.
     void denyAsUnknown(std::initializer_list<int> calls)
     {
         for (const int call : calls)
@@ -69,7 +69,7 @@ void allowFiles(Rules& rules)
     rules.allowIf(SCMP_SYS(openat), {hasNoneOf(2, writing)});
     for (const int command : {F_GETFD, F_GETFL, F_SETFD})
         rules.allowIf(SCMP_SYS(fcntl), {equals(1, static_cast<std::uint64_t>(command))});
-    // What streams ask of the file below them.
+    // Queries of streams about their file.
     for (const std::uint64_t command : {std::uint64_t{TCGETS}, std::uint64_t{FIONREAD}})
         rules.allowIf(SCMP_SYS(ioctl), {equals(1, command)});
     rules.denyAsUnknown({SCMP_SYS(openat2)});

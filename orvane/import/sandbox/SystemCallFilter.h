@@ -1,15 +1,15 @@
 #pragma once
 
-/// What this process may ask the kernel for.
+/// Restricts the system calls of this process.
 namespace orvane {
 
-/// Lets this process, from now on, read files and memory, compute, write to what is open already and end; whatever else
-/// it asks the kernel for fails with EPERM: opening a file for writing, changing folders, sockets, processes and
-/// threads of its own, other programs, signals to others, tracing, memory that holds code.
+/// From now on this process can read files, use memory, write to open files and exit. All other system calls fail with
+/// EPERM: opening a file for writing, changing folders, sockets, new processes and threads, other programs, signals to
+/// others, tracing, executable memory.
 ///
-/// An allow list, so that calls which later kernels bring are refused too. An error rather than the death of the
-/// process, so that a library that tries something needless, and can go on without, still gives its result or a
-/// message of its own. False when the kernel, or a sandbox around this process, has no such filters.
+/// It is an allow list, so that system calls of later kernels are refused too. They fail with an error and don't kill
+/// the process, so that a library that tries something unnecessary still gives its result or its own message. Returns
+/// false if the kernel, or a sandbox around this process, has no such filters.
 [[nodiscard]] bool filterSystemCalls();
 
 } // namespace orvane

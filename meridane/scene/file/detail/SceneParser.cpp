@@ -1,8 +1,8 @@
 #include "meridane/scene/file/detail/SceneParser.h"
 
+#include "meridane/base/values/TextPosition.h"
 #include "meridane/base/values/Unicode.h"
 #include "meridane/scene/text/detail/TokenDescription.h"
-#include "meridane/base/values/TextPosition.h"
 
 #include <algorithm>
 #include <new>

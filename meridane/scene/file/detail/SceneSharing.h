@@ -11,8 +11,8 @@
 
 namespace meridane {
 
-/// Examines a scene before it is written: counts its nodes, finds those that are used several times, and chooses the text
-/// by which the file refers to each of them: its name if that is unique, else a label. Works in slices.
+/// Examines a scene before it is written: counts its nodes, finds those that are used several times, and chooses the
+/// text by which the file refers to each of them: its name if that is unique, else a label. Works in slices.
 class SceneSharing {
 public:
     struct SharedNode {

@@ -1,6 +1,6 @@
+#include "meridane/base/values/TextPosition.h"
 #include "meridane/scene/file/detail/SceneLimits.h"
 #include "meridane/scene/file/detail/SceneParser.h"
-#include "meridane/base/values/TextPosition.h"
 
 // The grammar of scene files: one statement after the other.
 
