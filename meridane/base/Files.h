@@ -20,7 +20,7 @@ public:
     /// Opens a regular file. The result is the message of the failure, such as "model.mrd: No such file or directory"
     /// or "folder: is a directory", or nothing.
     [[nodiscard]] std::optional<std::string> open(const std::string& path);
-    /// Appends up to `count` bytes to `bytes`; `atEnd` tells whether the file is read whole.
+    /// Appends up to `count` bytes to `bytes`; `atEnd` reports whether the end of the file was reached.
     [[nodiscard]] std::optional<std::string> read(std::string& bytes, std::size_t count, bool& atEnd);
     /// The size of the file in bytes, as it was when it was opened.
     [[nodiscard]] std::size_t size() const noexcept { return m_size; }
@@ -31,13 +31,12 @@ private:
     std::size_t m_size = 0;
 };
 
-/// Replaces a file whole or not at all: writes a new file beside it, syncs it to the disk and renames it into place.
-/// Owner, group, permissions and access control list of a file that is replaced are kept. Where the user may not give
-/// the new file to that owner or group, its permissions are narrowed, so that nobody gains access. A symbolic link is
-/// followed; other hard links to the file keep the old content. Until the end only the user can read the new file, if
-/// there was an old one. An object that is destroyed
-/// without `commit` leaves the old file as it was and no new one behind. A process that is killed meanwhile leaves the
-/// old file as well, and a hidden one beside it that the next replacing of the same file removes.
+/// Replaces a file as a whole or not at all: writes a new file beside it, syncs it to the disk and renames it into
+/// place. The new file gets owner, group, permissions and access control list of the old one. If the user may not set
+/// that owner or group, the permissions are reduced, so that nobody gains access. Symbolic links are followed; other
+/// hard links to the file keep the old content. If there was an old file, only the user can read the new one before
+/// `commit`. Without `commit`, the destructor removes the new file and the old one is unchanged. A killed process
+/// leaves the old file too, and a hidden file beside it, which the next replacement of the same file removes.
 class FileReplacer {
 public:
     FileReplacer() = default;
@@ -51,18 +50,18 @@ public:
     [[nodiscard]] std::optional<std::string> commit();
 
 private:
-    /// Who may do what with the file that is replaced.
+    /// The access rights of the old file.
     struct Access {
         mode_t mode;
         uid_t owner;
         gid_t group;
-        std::string list; // the access control list, as the system keeps it; may be empty
+        std::string list; // the access control list in the system's form; may be empty
     };
 
     [[nodiscard]] bool adoptAccess() const;
 
     std::string m_path; // as it was given, for messages
-    std::string m_target; // the file itself, behind symbolic links
+    std::string m_target; // the file itself, without symbolic links
     std::string m_temporary;
     int m_descriptor = -1;
     std::optional<Access> m_oldAccess; // nothing for a new file

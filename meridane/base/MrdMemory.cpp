@@ -11,7 +11,7 @@ namespace {
 
 constinit TMrdMemCnt processCounter;
 
-// No header stands in front of a block, so that a block may go to plain free: the C library is asked for its size.
+// Blocks have no header, so that plain free can release them; the C library reports their size.
 std::int64_t sizeOf(void* pointer)
 {
     return static_cast<std::int64_t>(malloc_usable_size(pointer));

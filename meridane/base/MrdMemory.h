@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What an accounting allocator has handed out and not got back. Both counts are signed, since a block may be taken
-/// from one counter and given back to another, or taken from plain `malloc` and given back here.
+/// The memory that an accounting allocator has allocated and not released. Both counts are signed, since a block may be
+/// allocated with one counter and released with another, or allocated by plain `malloc` and released here.
 struct TMrdMemCnt {
     /// The number of blocks.
     std::atomic<std::int64_t> blocks = 0;

@@ -84,7 +84,7 @@ bool NxDelayQueue::processUntil(Clock::time_point end)
     else
         m_running.merge(m_waiting);
     m_lastSequenceOfPass = m_lastSequence;
-    m_hostIsTold = false;
+    m_isHostNotified = false;
     const std::uint64_t pass = ++m_pass;
     const bool isBounded = end != Clock::time_point::max();
     while (NxDelayQueueSensor* const sensor = takeNext()) {
@@ -103,7 +103,7 @@ NxDelayQueueSensor* NxDelayQueue::takeNext()
     if (m_running.empty())
         return nullptr;
     NxDelayQueueSensor* const sensor = *m_running.begin();
-    // Idle-only sensors stand last in either list, so the first one tells whether there is other work.
+    // Idle-only sensors are last in both lists, so the first sensor shows whether there is other work.
     const bool isBusy = !m_waiting.empty() && (*m_waiting.begin())->isIdleOnly() == 0;
     if (isBusy && sensor->isIdleOnly() != 0)
         return nullptr;
@@ -115,7 +115,7 @@ void NxDelayQueue::setWakeUpHook(WakeUpHook hook, void* data)
 {
     m_hook = hook;
     m_hookData = data;
-    m_hostIsTold = false;
+    m_isHostNotified = false;
     if (!isEmpty())
         wakeUp();
 }
@@ -127,12 +127,12 @@ NxDelayQueue::Sensors& NxDelayQueue::listOf(const NxDelayQueueSensor* sensor)
 
 void NxDelayQueue::wakeUp()
 {
-    if (m_hook == nullptr || std::exchange(m_hostIsTold, true))
+    if (m_hook == nullptr || std::exchange(m_isHostNotified, true))
         return;
     try {
         m_hook(m_hookData);
     } catch (...) {
-        m_hostIsTold = false; // so that the next sensor asks again
+        m_isHostNotified = false; // so that the next sensor asks again
         throw;
     }
 }

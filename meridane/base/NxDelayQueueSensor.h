@@ -6,7 +6,7 @@
 /// A sensor that is called from the toolkit's delay queue, by priority.
 class NxDelayQueueSensor : public NxSensor {
 public:
-    /// The priority of a sensor that isn't given another one.
+    /// The priority of a new sensor.
     static constexpr int defaultPriority = 100;
 
     explicit NxDelayQueueSensor(NxSensorCallback callback = nullptr, void* data = nullptr);
@@ -38,7 +38,7 @@ private:
     friend class NxDelayQueue;
 
     int m_priority = defaultPriority;
-    // What the queue notes about a sensor that waits in it; m_queue is null for one that doesn't.
+    // The queue's data about a queued sensor; m_queue is null for others.
     NxDelayQueue* m_queue = nullptr;
     std::uint64_t m_sequence = 0;
     NxDelayQueue::Sensors::iterator m_place;

@@ -2,14 +2,14 @@
 
 class NxSensor;
 
-/// What a sensor calls when it triggers. `data` is the pointer the sensor was given. The callback may schedule, change
-/// or delete any sensor, the calling one included. It must not throw.
+/// The function that a sensor calls when it triggers. `data` is the pointer that the sensor was given. The callback may
+/// schedule, change or delete any sensor, the calling one included. It must not throw.
 using NxSensorCallback = void (*)(void* data, NxSensor* sensor);
 
-/// Something that calls back later: when it is scheduled, and its turn comes.
+/// An object that calls back later: when it is scheduled, and its turn comes.
 ///
-/// Sensors belong to the thread that owns the scene. A sensor is owned by who made it; it may die at any time, and is
-/// not called any more from then on. Neither is its `data` touched otherwise than by handing it to the callback.
+/// Sensors belong to the thread that owns the scene. Whoever made a sensor owns it and may destroy it at
+/// any time; then it isn't called any more. Its `data` is only passed to the callback.
 class NxSensor {
 public:
     /// A sensor without a callback triggers without effect.
@@ -20,9 +20,9 @@ public:
     // The virtual operations keep this order throughout the hierarchy.
 
     virtual ~NxSensor();
-    /// Asks for a call. Does nothing when the sensor is scheduled already.
+    /// Requests a call. Does nothing if the sensor is scheduled already.
     virtual void schedule() = 0;
-    /// Takes the request back. Does nothing when the sensor isn't scheduled.
+    /// Cancels the request. Does nothing if the sensor isn't scheduled.
     virtual void unschedule() = 0;
     /// Non-zero from `schedule` until the sensor is triggered or unscheduled.
     [[nodiscard]] virtual int isScheduled() const = 0;

@@ -4,12 +4,12 @@
 
 namespace meridane {
 
-/// The time that one slice of long work may take, from its construction on. Tests hand in a clock of their own.
+/// The time that one slice of a long task may take, measured from construction. Tests pass a clock of their own.
 class WorkBudget {
 public:
     using Clock = std::chrono::steady_clock::time_point (*)();
 
-    /// Implicit, so that a slice can be asked for by its length. One that ends beyond the clock's last time has no end.
+    /// Implicit, so that callers can pass a duration. A budget that ends after the clock's last time never ends.
     template <typename Number, typename Period>
     WorkBudget(std::chrono::duration<Number, Period> length, Clock clock = &std::chrono::steady_clock::now)
         : m_clock(clock)

@@ -28,7 +28,7 @@ public:
 private:
     NxErrorHandler m_callback = nullptr;
     void* m_data = nullptr;
-    /// How often the handler was set; tells calls to the present one from calls to former ones.
+    /// How often the handler was set; distinguishes calls to the present handler from calls to earlier ones.
     std::uint64_t m_generation = 0;
 };
 

@@ -7,7 +7,7 @@ class NxGLError : public meridane::ErrorClass<NxGLError, NxError> {
 public:
     static constexpr const char* typeName = "GLError";
 
-    /// `code` is what glGetError gave; `operation` tells what was being done.
+    /// `code` is the result of glGetError; `operation` says what was being done.
     NxGLError(unsigned int code, const VbString& operation);
 
     [[nodiscard]] unsigned int getCode() const { return m_code; }

@@ -15,7 +15,7 @@ struct ClassRecord {
     VbName name;
     NxType parent;
     std::atomic<NxType::Factory> factory = nullptr;
-    // The class's bases from the root down to itself: a class derives from another one exactly if that one stands in
+    // The class's bases from the root to itself: a class derives from another one exactly if that one is in
     // this list at its own depth.
     std::vector<std::uint32_t> lineage;
 };

@@ -6,10 +6,10 @@
 class NxTypedObject;
 class VbName;
 
-/// Names a run-time class: a 32-bit index into the registry of classes. Cheap to copy and to compare.
+/// A handle of a run-time class: a 32-bit index into the registry of classes. Cheap to copy and to compare.
 ///
-/// A class is registered once, after its parent, and keeps its index for the life of the process. Registering and
-/// asking may happen on any thread.
+/// A class is registered once, after its parent, and keeps its index for the life of the process. All
+/// operations may be called on any thread.
 class NxType {
 public:
     /// Makes a new instance on the heap, with its defaults.
@@ -21,8 +21,8 @@ public:
     /// Registers a class. A name that is taken gives the bad type. `parent` is the bad type for a root; `factory` is
     /// null for an abstract class.
     static NxType registerClass(const VbName& name, NxType parent, Factory factory);
-    /// Takes a class out of use ahead of the unloading of its code: its name is free again and `createInstance` gives
-    /// null. Values that name it stay comparable.
+    /// Removes a class before its code is unloaded: its name is free again and `createInstance` returns null. Its
+    /// handles can still be compared.
     static void unregisterClass(NxType type);
     /// The class of that name, or the bad type.
     [[nodiscard]] static NxType fromName(const VbName& name);

@@ -13,13 +13,13 @@ bool isContinuation(char byte)
 
 } // namespace
 
-std::string excerpt(std::string_view text, std::size_t most)
+std::string excerpt(std::string_view text, std::size_t maxBytes)
 {
     constexpr std::string_view digits = "0123456789abcdef";
     std::size_t shown = text.size();
-    if (shown > most) {
-        shown = most;
-        // What is cut off is cut ahead of a character, not within it.
+    if (shown > maxBytes) {
+        shown = maxBytes;
+        // The text ends before a character, not within it.
         while (shown > 1 && isContinuation(text[shown]))
             --shown;
     }

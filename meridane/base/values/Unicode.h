@@ -9,7 +9,7 @@ namespace meridane {
 [[nodiscard]] std::size_t findInvalidUtf8(std::string_view text) noexcept;
 /// A copy of the text in which each invalid byte is replaced by U+FFFD.
 [[nodiscard]] std::string replaceInvalidUtf8(std::string_view text);
-/// Appends a code point as UTF-8; what is no code point becomes U+FFFD.
+/// Appends a code point as UTF-8. A number that is no code point becomes U+FFFD.
 void appendUtf8(std::string& text, char32_t codePoint);
 
 [[nodiscard]] std::u16string utf8ToUtf16(std::string_view valid);

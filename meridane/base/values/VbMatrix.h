@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-/// A 4 by 4 matrix of floats, row by row; points are rows and multiply from the left, so that a translation stands in
+/// A 4 by 4 matrix of floats, row by row; points are rows and multiply from the left, so that a translation is in
 /// the last row. The default is the identity.
 class VbMatrix {
 public:

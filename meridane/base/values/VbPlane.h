@@ -7,8 +7,8 @@ class VbPlane {
 public:
     /// The plane through the origin that faces along z.
     constexpr VbPlane() noexcept = default;
-    /// Normalises the normal and leaves the distance as it is. A normal that is already of unit length but for
-    /// rounding, of no length, or not finite stays to the bit, so that reading back what was written changes nothing.
+    /// Normalises the normal and keeps the distance. A normal isn't changed if its length is 1 within rounding, 0 or
+    /// not finite, so that a written plane reads back unchanged.
     VbPlane(const VbVec3f& normal, float distance) noexcept;
 
     [[nodiscard]] const VbVec3f& getNormal() const noexcept { return m_normal; }

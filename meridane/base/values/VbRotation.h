@@ -7,7 +7,7 @@
 /// A rotation about an axis.
 ///
 /// Axis and angle are kept exactly as they were given, so that a text or an editor shows what was typed; only
-/// `getQuaternion` normalises. The default turns by nothing about the z axis.
+/// `getQuaternion` normalises. The default is a rotation by 0 about the z axis.
 class VbRotation {
 public:
     constexpr VbRotation() noexcept = default;
@@ -20,7 +20,7 @@ public:
     void getValue(VbVec3f& axis, float& radians) const noexcept;
     VbRotation& setValue(const VbVec3f& axis, float radians) noexcept;
     /// Takes the quaternion x, y, z, w of any length but 0; a zero quaternion gives the default rotation. The angle
-    /// comes out between 0 and 2 pi.
+    /// is then between 0 and 2 pi.
     VbRotation& setValue(const float quaternion[4]) noexcept;
 
     [[nodiscard]] const VbVec3f& getAxis() const noexcept { return m_axis; }

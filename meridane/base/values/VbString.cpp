@@ -6,7 +6,7 @@
 #include <optional>
 #include <utility>
 
-// The text and the forms of it that somebody has asked for. The conversions are made on demand, since most strings are
+// The text and the conversions requested so far. They are made on demand, since most strings are
 // only ever read as UTF-8, and an undo history holds a great many of them.
 struct VbString::Text {
     struct Conversions {

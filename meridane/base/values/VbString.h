@@ -4,12 +4,12 @@
 #include <string>
 #include <string_view>
 
-/// The toolkit's text: Unicode, held as UTF-8, handed out as UTF-8, UTF-16 or Latin-1.
+/// The toolkit's text: Unicode, stored as UTF-8, available as UTF-8, UTF-16 or Latin-1.
 ///
 /// A string is empty, or null (empty with its null state set), or holds text. Bytes that are no valid UTF-8 become
-/// U+FFFD on the way in, so what a string holds is always valid. Pointers handed out stay valid as long as the string
-/// lives and isn't changed. An empty or null string owns no memory. Plain value; not to be shared between threads while
-/// one of them changes it or asks for a conversion.
+/// U+FFFD, so the stored text is always valid. Returned pointers are valid until the string changes or is destroyed. An
+/// empty or null string owns no memory. A value; not to be shared between threads while one of them changes it or
+/// requests a conversion.
 class VbString {
 public:
     /// An empty text that is not null.

@@ -11,17 +11,17 @@
 
 namespace meridane {
 
-/// What all fields with a list of values have in common. `Format` reads and writes the text of one value.
+/// The base of all fields with a list of values. `Format` reads and writes the text of one value.
 ///
 /// The virtual operations are defined in ListFieldText.h, which the source file of a field class includes to
 /// instantiate them once.
 template <typename Value, typename Format = ValueFormat<Value>>
 class ListField : public NxMField {
 public:
-    /// How a value is handed over: numbers by value, all else by reference.
+    /// How a value is passed: numbers by value, all others by reference.
     using Read = std::conditional_t<std::is_arithmetic_v<Value>, Value, const Value&>;
 
-    /// `container` may be null, for a field that stands alone. `name` must be a literal.
+    /// `container` may be null, for a field without a node. `name` must be a literal.
     ListField(NxFieldContainer* container, const char* name, std::vector<Value> values = {}, Format format = Format())
         : NxMField(container, name)
         , m_format(format)
@@ -37,7 +37,7 @@ public:
         assert(index >= 0 && index < getNum() && "the row must exist");
         return m_values[static_cast<std::size_t>(index)];
     }
-    /// Takes one value and tells the observers. A row that doesn't exist changes nothing and gives false.
+    /// Sets one value and notifies the observers. Returns false, and changes nothing, if the row doesn't exist.
     bool set1Value(int index, Read value)
     {
         if (index < 0 || index >= getNum())
@@ -47,14 +47,14 @@ public:
         return true;
     }
 
-    /// All values, next to each other; valid until the list changes.
+    /// All values, contiguous in memory; valid until the list changes.
     [[nodiscard]] std::span<const Value> getValues() const noexcept { return m_values; }
-    /// Copies all values at once and tells the observers once. Values that don't fit in memory, or are more than
-    /// `getMaximumNum`, are reported as an `NxMemoryError`, change nothing and give false.
+    /// Copies all values at once and notifies the observers once. If the values don't fit in memory, or are more than
+    /// `getMaximumNum`, reports an `NxMemoryError`, changes nothing and returns false.
     bool setValues(std::span<const Value> values);
     /// The same without a copy.
     bool setValues(std::vector<Value>&& values);
-    /// Hands all values over without a copy, leaves the list empty and tells the observers once.
+    /// Returns all values without a copy, leaves the list empty and notifies the observers once.
     [[nodiscard]] std::vector<Value> takeValues()
     {
         std::vector<Value> values = std::exchange(m_values, {});

@@ -8,18 +8,18 @@
 
 namespace meridane {
 
-/// Posts an `NxMemoryError` about that many bytes, unless there isn't even memory for that. Always false.
+/// Posts an `NxMemoryError` about that many bytes, if there is memory for that. Always returns false.
 inline bool reportMemory(std::size_t bytes)
 {
     try {
         NxMemoryError::post(nullptr, 0, bytes);
-    } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch): nobody can be told
+    } catch (const std::bad_alloc&) { // NOLINT(bugprone-empty-catch): it can't be reported
     }
     return false;
 }
 
-/// Runs an action that takes about `bytes` of memory, and gives its result. If it runs out of memory, or asks for more
-/// than can be counted, that is reported as an `NxMemoryError`, and the result is false.
+/// Runs an action that allocates about `bytes` of memory, and returns its result. If it runs out of memory, or requests
+/// more than can be counted, posts an `NxMemoryError` and returns false.
 template <typename Action>
 bool withinMemory(std::size_t bytes, Action action)
 {

@@ -8,9 +8,9 @@ class NxDataSensor : public NxDelayQueueSensor {
 public:
     using NxDelayQueueSensor::NxDelayQueueSensor;
 
-    /// The toolkit's call on each change of the watched object: schedules the sensor. An override must not attach,
+    /// Called on each change of the watched object: schedules the sensor. An override must not attach,
     /// detach or destroy sensors of the object.
     virtual void notify();
-    /// The toolkit's call when the watched object is being destroyed: detaches the sensor.
+    /// Called when the watched object is being destroyed: detaches the sensor.
     virtual void dyingReference() = 0;
 };

@@ -16,9 +16,9 @@ class TextReader;
 
 /// One named value, or list of values, of a node.
 ///
-/// A field belongs to its container as a member and lives as long as it does. A field made with a null container stands
-/// alone. Every change of the value or of the ignored flag notifies the sensors that are attached to the field and the
-/// node sensors of its container. Thread of the user interface only.
+/// A field belongs to its container as a member and lives as long as it does. A field made with a null container has
+/// no node. Every change of the value or of the ignored flag notifies the sensors that are attached to the field and
+/// the node sensors of its container. Thread of the user interface only.
 class NxField : public NxTypedObject {
 public:
     [[nodiscard]] static NxType getClassTypeId();
@@ -26,47 +26,46 @@ public:
 
     /// Writes the value in its text form.
     void get(VbString& text) const;
-    /// Takes the value from its text form. A text that doesn't parse whole leaves the field untouched, notifies nobody
-    /// and gives false.
+    /// Sets the value from its text form. A text that doesn't parse as a whole changes nothing, notifies nobody and
+    /// returns false.
     bool set(const VbString& text);
     bool set(const char* text);
 
-    /// Sets the ignored flag: whether the scene ignores the value. Observers are told if the flag changes.
+    /// Sets the ignored flag: whether the scene ignores the value. Observers are notified if the flag changes.
     void setIgnored(int flag);
     [[nodiscard]] bool isIgnored() const noexcept { return m_ignored; }
 
-    /// The node that owns the field, or null for a field that stands alone.
+    /// The node that owns the field, or null.
     [[nodiscard]] NxFieldContainer* getContainer() const noexcept { return m_container; }
-    /// True when the value equals, to the bit, the one that a new node of the container's class has. False for a field
-    /// that stands alone.
+    /// Whether all bits of the value equal those of a new node of the container's class. False for a field without a
+    /// node.
     [[nodiscard]] bool isDefault() const;
 
-    /// True when both are of the same class and hold the same value to the bit (so a NaN is the same as itself, and
-    /// 0 isn't the same as -0). The ignored flag doesn't count.
+    /// Whether both are of the same class and all bits of the values are equal, so that a NaN equals itself and 0
+    /// doesn't equal -0. The ignored flag isn't compared.
     [[nodiscard]] virtual bool isSame(const NxField& other) const = 0;
-    /// Takes the value of a field of the same class and gives true. Another class, or a value that doesn't fit in
-    /// memory, changes nothing and gives false.
+    /// Copies the value of a field of the same class and returns true. Changes nothing and returns false for another
+    /// class, or if the value doesn't fit in memory.
     virtual bool copyFrom(const NxField& other) = 0;
-    /// About how many bytes the value holds.
+    /// The approximate size of the value in bytes.
     [[nodiscard]] virtual std::size_t valueBytes() const = 0;
 
-    /// Tells the observers that the value changed.
+    /// Notifies the observers that the value changed.
     void touch();
 
-    /// How far a slice of reading got.
+    /// The result of a slice of reading.
     enum class Progress { Done, More, Failed };
 
-    /// Reads the value from its text form in slices of about `budget` values, behind which it can be called again
-    /// with `first` false. It reads straight into the field, notifies nobody, stops behind the value, and leaves the
-    /// field in an undefined state when it fails: made for a new field that nobody looks at yet. The reader tells what
-    /// was expected.
+    /// Reads the value from its text form in slices of about `budget` values; it is called again with `first` false. It
+    /// reads directly into the field, notifies nobody and stops after the value. If it fails, the value is undefined,
+    /// so it is meant for a new field without observers. The reader has the message of the failure.
     virtual Progress readText(meridane::TextReader& reader, bool first, std::size_t budget) = 0;
-    /// Appends the text form in slices of about `budget` values. `position` starts at 0 and is the writer's own from
-    /// then on. True when there is more to write.
+    /// Appends the text form in slices of about `budget` values. `position` starts at 0 and is then changed only by
+    /// this function. Returns true if there is more to write.
     virtual bool writeText(std::string& text, std::size_t& position, std::size_t budget) const = 0;
 
 protected:
-    /// True when the other field is of the same class, so that it may be cast to it. The types of two classes that
+    /// Whether the other field is of the same class, so that it may be cast to it. The types of two classes that
     /// couldn't be registered are equal, though the classes aren't.
     [[nodiscard]] bool isOfSameClass(const NxField& other) const;
 
@@ -77,7 +76,7 @@ protected:
 private:
     friend class NxFieldSensor;
 
-    /// Takes the text's value through a new value, so that the present one survives a text that doesn't parse.
+    /// Reads the text into a new value first, so that the present one is kept if the text doesn't parse.
     virtual bool assignText(meridane::TextReader& reader) = 0;
 
     NxFieldContainer* m_container;
@@ -85,7 +84,7 @@ private:
     bool m_ignored = false;
 };
 
-/// Stands first in the declaration of a field class: `NX_FIELD(NxSFFloat)`.
+/// The first line in the declaration of a field class: `NX_FIELD(NxSFFloat)`.
 #define NX_FIELD(Class)                                                                                                \
 public:                                                                                                                \
     [[nodiscard]] static NxType getClassTypeId();                                                                      \
@@ -93,7 +92,7 @@ public:                                                                         
                                                                                                                        \
 private:
 
-/// Stands in a source file that includes `VbName.h`: `NX_FIELD_SOURCE(NxSFFloat, NxSField, "SFFloat")`. The class is
+/// A line in a source file that includes `VbName.h`: `NX_FIELD_SOURCE(NxSFFloat, NxSField, "SFFloat")`. The class is
 /// registered when the library that holds it is loaded; its instances need a container, so a type alone makes none.
 #define NX_FIELD_SOURCE(Class, Parent, name)                                                                           \
     NxType Class::getClassTypeId()                                                                                     \

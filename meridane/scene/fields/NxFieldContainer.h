@@ -22,15 +22,15 @@ public:
     [[nodiscard]] static NxType getClassTypeId();
 
     void ref() const noexcept { ++m_references; }
-    /// Gives up a reference and deletes the container with the last one.
+    /// Releases a reference; the last one deletes the container.
     void unref() const;
-    /// Gives up a reference without deleting: the way to hand out a container that nobody holds yet.
+    /// Releases a reference without deleting, to return a container that has no owner yet.
     void unrefNoDelete() const noexcept { --m_references; }
     [[nodiscard]] int getRefCount() const noexcept { return m_references; }
 
     /// The node's own name, which need not be unique; empty for none.
     [[nodiscard]] const VbString& getName() const noexcept { return m_name; }
-    /// Renames the node and tells its node sensors.
+    /// Renames the node and notifies its node sensors.
     void setName(const VbString& name);
 
     /// Describes the fields of the container's class. Never null; the class owns it.
@@ -43,7 +43,7 @@ public:
     /// All fields in the order of declaration.
     [[nodiscard]] std::vector<NxField*> getFields();
 
-    /// A field that the class doesn't have, read from a file and written back as it was.
+    /// An unknown field: read from a file and written back unchanged.
     struct UnknownField {
         std::string name;
         std::string text;
@@ -52,25 +52,25 @@ public:
     void addUnknownField(UnknownField field);
     [[nodiscard]] const std::vector<UnknownField>& getUnknownFields() const noexcept;
 
-    /// A number that changes whenever a node is renamed or a list of children changes, in whatever scene: who keeps
-    /// something that follows from names and places compares it.
+    /// A number that changes whenever a node is renamed or a list of children changes, in any scene. Caches that depend
+    /// on names and structure compare it.
     [[nodiscard]] static std::uint64_t getStructureRevision() noexcept { return s_structureRevision; }
 
-    /// Tells the node sensors that the name, a field or the list of children changed.
+    /// Notifies the node sensors that the name, a field or the list of children changed.
     void touch();
 
 protected:
     NxFieldContainer();
     ~NxFieldContainer() override;
 
-    /// Says that a name or a list of children changed.
+    /// Notes that a name or a list of children changed.
     static void noteStructureChange() noexcept { ++s_structureRevision; }
 
 private:
     friend class NxField;
     friend class NxNodeSensor;
 
-    /// What few of many nodes have: made with the first sensor or unknown field.
+    /// Data that few nodes have; allocated with the first sensor or unknown field.
     struct Rare {
         meridane::SensorList<NxNodeSensor> sensors;
         std::vector<UnknownField> unknownFields;

@@ -27,7 +27,7 @@ private:
     NxFieldData* m_outer;
 };
 
-// Where a field stands relative to its container. Both are parts of one object, but not as the language's arrays are.
+// The offset of a field in its container. Both are parts of one object, but not of one array.
 std::ptrdiff_t offsetOf(const NxFieldContainer* container, const NxField* field)
 {
     return reinterpret_cast<const char*>(field) - reinterpret_cast<const char*>(container);

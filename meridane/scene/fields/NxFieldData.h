@@ -10,12 +10,12 @@ class NxFieldContainer;
 
 /// Describes the fields of one node class: their names, their places in an instance and their defaults.
 ///
-/// It follows from the members of the class: one instance is made to collect it, and kept, since it holds the defaults.
-/// Fields stand in the order of declaration, those of base classes first.
+/// It is collected from the members of one instance, which is kept because it holds the defaults. Fields are in the
+/// order of declaration, those of base classes first.
 class NxFieldData {
 public:
-    /// Makes an instance with `create` and describes it. The instance is kept. What `create` throws goes on to the
-    /// caller, and nothing is left of the try.
+    /// Makes an instance with `create` and describes it. The instance is kept. An exception of `create` is passed on to
+    /// the caller, and nothing is kept.
     explicit NxFieldData(NxFieldContainer* (*create)());
     ~NxFieldData();
     NxFieldData(const NxFieldData&) = delete;
@@ -40,7 +40,7 @@ private:
     struct Entry {
         VbName name;
         std::ptrdiff_t offset; // from the container to the field
-        const NxFieldContainer* container; // that it was collected from
+        const NxFieldContainer* container; // the instance that it was collected from
     };
 
     /// Called by the constructors of container and fields while an instance is being described.

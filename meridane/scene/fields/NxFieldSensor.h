@@ -10,12 +10,12 @@ class NxFieldSensor : public NxDataSensor {
 public:
     /// `callback` is called from the delay queue with `data` and the sensor.
     using NxDataSensor::NxDataSensor;
-    /// Detaches the sensor and takes it off the queue.
+    /// Detaches the sensor and removes it from the queue.
     ~NxFieldSensor() override;
 
-    /// Starts watching a field, null for none; a field attached before is given up. Not notified by attaching.
+    /// Watches a field, or none if null, instead of the one attached before. Attaching itself doesn't notify.
     void attach(NxField* field);
-    /// Stops watching and takes the sensor off the queue; does nothing when it isn't attached.
+    /// Stops watching and removes the sensor from the queue; does nothing if it isn't attached.
     void detach();
     /// The watched field, or null.
     [[nodiscard]] NxField* getAttachedField() const noexcept { return m_field; }

@@ -5,18 +5,18 @@
 
 class NxFieldContainer;
 
-/// Watches one node: its name, all its fields and its list of children, but not what its children hold. Thread of the
-/// user interface only.
+/// Watches one node: its name, all its fields and its list of children, but not the contents of its children. Thread of
+/// the user interface only.
 class NxNodeSensor : public NxDataSensor {
 public:
     /// `callback` is called from the delay queue with `data` and the sensor.
     using NxDataSensor::NxDataSensor;
-    /// Detaches the sensor and takes it off the queue.
+    /// Detaches the sensor and removes it from the queue.
     ~NxNodeSensor() override;
 
-    /// Starts watching a node, null for none; a node attached before is given up. It doesn't hold the node alive.
+    /// Watches a node, or none if null, instead of the one attached before. It holds no reference to the node.
     void attach(NxFieldContainer* node);
-    /// Stops watching and takes the sensor off the queue; does nothing when it isn't attached.
+    /// Stops watching and removes the sensor from the queue; does nothing if it isn't attached.
     void detach();
     /// The watched node, or null.
     [[nodiscard]] NxFieldContainer* getAttachedNode() const noexcept { return m_node; }

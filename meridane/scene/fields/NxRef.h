@@ -2,7 +2,7 @@
 
 #include <utility>
 
-/// A counted reference to a node: holds it alive as long as the reference lives.
+/// A counted reference to a node, which exists at least as long as the reference.
 template <typename Node>
 class NxRef {
 public:

@@ -7,17 +7,17 @@
 
 namespace meridane {
 
-/// What all fields with a single value have in common. `Format` reads and writes the value's text.
+/// The base of all fields with a single value. `Format` reads and writes the value's text.
 ///
 /// The virtual operations are defined in SingleFieldText.h, which the source file of a field class includes to
 /// instantiate them once.
 template <typename Value, typename Format = ValueFormat<Value>>
 class SingleField : public NxSField {
 public:
-    /// How a value is handed over: numbers by value, all else by reference.
+    /// How a value is passed: numbers by value, all others by reference.
     using Read = std::conditional_t<std::is_arithmetic_v<Value>, Value, const Value&>;
 
-    /// `container` may be null, for a field that stands alone. `name` must be a literal.
+    /// `container` may be null, for a field without a node. `name` must be a literal.
     SingleField(NxFieldContainer* container, const char* name, Read value = Value(), Format format = Format())
         : NxSField(container, name)
         , m_value(value)
@@ -26,7 +26,7 @@ public:
     }
 
     [[nodiscard]] Read getValue() const noexcept { return m_value; }
-    /// Takes the value and tells the observers, also when it is the one that the field has.
+    /// Sets the value and notifies the observers, even if the value is the same.
     void setValue(Read value)
     {
         m_value = value;
@@ -45,7 +45,7 @@ protected:
 private:
     bool assignText(TextReader& reader) override;
 
-    Value m_value; // first: a small one fits behind the flag of the field
+    Value m_value; // first: a small one fits into the padding after the flag of the field
     [[no_unique_address]] Format m_format;
 };
 

@@ -2,13 +2,12 @@
 
 #include <string>
 
-/// Why a text was refused, and where. Line and column count from 1, the column in characters; 0 means that there is no
-/// such place.
+/// Why a text was refused, and where. Line and column count from 1, the column in characters; 0 means unknown.
 struct NxReadFailure {
     std::string file;
     int line = 0;
     int column = 0;
-    /// What was wrong and what was expected, without the place.
+    /// What was wrong and what was expected, without the position.
     std::string message;
 
     /// "file:line:column: message", without the parts that aren't known.

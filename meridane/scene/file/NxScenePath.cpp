@@ -9,7 +9,7 @@ using meridane::ScenePathStep;
 
 namespace {
 
-/// Where a walk along a path stands: the group whose children the next step names, and the text up to there.
+/// The state of following a path: the group whose child the next step names, and the text up to there.
 std::string placeText(std::string_view path, std::size_t end)
 {
     return end == 0 ? "the scene" : '\'' + std::string(path.substr(0, end)) + '\'';

@@ -11,16 +11,16 @@
 ///
 /// Each step is the name of a child, if it is unique among its siblings, else `Class[index]`, where the index counts
 /// the siblings of that class from 0. A name with other characters than letters, digits, `_`, `-`, `+`, `:` and blanks,
-/// or one that would read as an index, stands in double quotes with the escapes of texts. `/` alone is the scene.
+/// or one that would read as an index, is in double quotes with the escapes of texts. `/` alone is the scene.
 class NxScenePath {
 public:
-    /// What a path leads to.
+    /// The target of a path.
     struct Target {
-        /// The nodes from the top node down to the one meant; empty for the scene itself.
+        /// The nodes from the top node to the target; empty for the scene itself.
         std::vector<NxNode*> nodes;
         /// The field, or null for a path that names a node.
         NxField* field = nullptr;
-        /// What is wrong with the path and where it stopped; empty when it leads somewhere.
+        /// What is wrong with the path and where it stopped; empty if it has a target.
         std::string error;
 
         [[nodiscard]] NxNode* node() const noexcept { return nodes.empty() ? nullptr : nodes.back(); }
@@ -30,6 +30,6 @@ public:
     [[nodiscard]] static Target find(NxGroup* scene, std::string_view path);
     /// The path of the last of these nodes, each a child of the one before, the first a child of the scene.
     [[nodiscard]] static std::string toText(const NxGroup* scene, std::span<NxNode* const> nodes);
-    /// The same with a field of the last node.
+    /// The path of a field of the last node.
     [[nodiscard]] static std::string toText(const NxGroup* scene, std::span<NxNode* const> nodes, const NxField* field);
 };

@@ -15,11 +15,11 @@ namespace meridane {
 class SiblingIndex;
 }
 
-/// Makes the texts of paths that `NxScenePath::toText` makes, for one node after the other of a scene of any size.
+/// Makes the same texts of paths as `NxScenePath::toText`, for many nodes of a scene of any size.
 ///
-/// Whether a name is unique takes a look at all siblings. Among many siblings the namer takes that look in slices and
-/// remembers what it saw, so that the next path costs the same as in a small scene, until a node is renamed or a list
-/// of children changes. Thread of the user interface only.
+/// To decide whether a name is unique, all siblings must be visited. The namer visits many siblings in slices and keeps
+/// an index of them, so that the next path costs the same as in a small scene, until a node is renamed or a list of
+/// children changes. Thread of the user interface only.
 class NxScenePathNamer {
 public:
     NxScenePathNamer();
@@ -27,16 +27,15 @@ public:
     NxScenePathNamer(const NxScenePathNamer&) = delete;
     NxScenePathNamer& operator=(const NxScenePathNamer&) = delete;
 
-    /// The path of the node that these places lead to, each the index of a child of the node before, the first of the
-    /// scene; with a field of that node, unless it is null. Null when the budget was spent first: the next call goes
-    /// on.
+    /// The path of a node, or of its field unless that is null. `places` are indices: of a child of the scene, of a
+    /// child of that, and so on. Null if the budget was spent; the next call continues.
     [[nodiscard]] std::optional<std::string> name(
         const NxGroup& scene, std::span<const int> places, const NxField* field, const meridane::WorkBudget& budget);
     /// Forgets everything.
     void clear();
 
 private:
-    /// The index of large groups only, each complete or still being gathered.
+    /// The indices of large groups, each complete or in work.
     std::unordered_map<const NxNode*, meridane::SiblingIndex> m_indices;
     std::uint64_t m_revision = 0; // of the scene that they were made from
 };

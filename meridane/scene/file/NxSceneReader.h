@@ -20,27 +20,27 @@ class SceneParser;
 ///
 /// The text is checked as it is read: version, UTF-8, syntax, field values, references, and limits on nesting, tokens
 /// and counts that keep any input from exhausting stack or memory. Unknown node classes and unknown fields are kept.
-/// The format is told in docs/scene-format.md. Thread of the user interface only.
+/// The format is described in docs/scene-format.md. Thread of the user interface only.
 class NxSceneReader {
 public:
-    /// How deep nodes may stand in each other.
+    /// The greatest depth of nested nodes.
     static constexpr int maxDepth = meridane::maxSceneDepth;
 
     enum class State { Working, Done, Failed };
 
     /// `text` is the whole content of the file, `fileName` the name for messages.
     NxSceneReader(std::string text, std::string fileName);
-    /// Why a file that begins with these bytes is no scene file, judged by its first line alone; nothing if it may be
-    /// one. Made for a look at a file before all of it is read.
+    /// Why a file that begins with these bytes is no scene file, by its first line alone; nothing if it may be one. For
+    /// checking a file before all of it is read.
     [[nodiscard]] static std::optional<NxReadFailure> checkBeginning(std::string beginning, std::string fileName);
     ~NxSceneReader();
 
-    /// Goes on reading until done or until the budget is spent; it may overrun it by about a millisecond.
+    /// Reads on until done or until the budget is spent, which it may exceed by about a millisecond.
     State step(const meridane::WorkBudget& budget);
     /// Reads to the end.
     State run();
     [[nodiscard]] State state() const noexcept;
-    /// The share of the text that is read, 0 to 1.
+    /// The fraction of the text read so far, 0 to 1.
     [[nodiscard]] double progress() const noexcept;
     /// Why the text was refused; empty unless the state is `Failed`.
     [[nodiscard]] const NxReadFailure& failure() const noexcept;

@@ -23,21 +23,21 @@ public:
     explicit NxSceneWriter(NxGroup* scene);
     ~NxSceneWriter();
 
-    /// Gives the path to write in place of one that the scene has.
+    /// Returns the path to write instead of one in the scene.
     using PathMap = std::function<std::string(std::string_view path)>;
-    /// Writes what `map` makes of the file paths in the scene, the values of `NxSFFilePathString`; null for the paths
-    /// themselves. The scene isn't changed. Comes before the first `step`.
+    /// Applies `map` to the written file paths, the values of `NxSFFilePathString`; null for none. The scene isn't
+    /// changed. To be called before the first `step`.
     void setPathMap(PathMap map);
 
-    /// Goes on writing until done or until the budget is spent, and appends to `text`, which the caller may empty
-    /// between two calls. True while there is more to write.
+    /// Writes on until done or until the budget is spent. Appends to `text`, which the caller may clear between calls.
+    /// Returns true if there is more to write.
     bool step(std::string& text, const meridane::WorkBudget& budget);
     /// The whole text; empty for a scene that can't be written.
     [[nodiscard]] static std::string toText(NxGroup* scene);
-    /// Why the scene can't be written, such as nodes nested deeper than a reader takes; empty if it can. Known when
-    /// `step` gave false: what was written until then is of no use.
+    /// Why the scene can't be written, such as nodes that are nested too deep for the reader; empty if it can. Known
+    /// when `step` has returned false; the text written until then is useless.
     [[nodiscard]] const std::string& failure() const noexcept;
-    /// The share of the nodes that is written, 0 to 1.
+    /// The fraction of the nodes written so far, 0 to 1.
     [[nodiscard]] double progress() const noexcept;
 
 private:

@@ -4,7 +4,7 @@
 #include "meridane/scene/fields/single/NxSFFloat.h"
 #include "meridane/scene/nodes/NxNode.h"
 
-/// How finely the surfaces and textures that follow in the group are drawn.
+/// The detail with which the surfaces and textures that follow in the group are drawn.
 class NxComplexity : public NxNode {
     NX_NODE(NxComplexity)
 
@@ -12,15 +12,15 @@ public:
     /// What the complexity is measured against.
     enum Type {
         OBJECT_SPACE = 0, ///< the object, at any distance
-        SCREEN_SPACE = 1, ///< the picture: what is far away gets less detail
+        SCREEN_SPACE = 1, ///< the picture: distant objects get less detail
         BOUNDING_BOX = 2, ///< only the boxes around the objects are drawn
     };
 
     /// What `value` is measured against.
     NxSFEnum type{this, "type", types(), OBJECT_SPACE};
-    /// How fine, from 0 (coarse and fast) to 1 (fine and slow).
+    /// The detail, from 0 (coarse and fast) to 1 (fine and slow).
     NxSFFloat value{this, "value", 0.5F};
-    /// How finely textures are drawn, from 0 (not at all) to 1 (smoothed in every way).
+    /// The quality of textures, from 0 (not drawn) to 1 (all kinds of smoothing).
     NxSFFloat textureQuality{this, "textureQuality", 0.5F};
 
 protected:

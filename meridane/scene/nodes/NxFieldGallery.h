@@ -60,7 +60,7 @@ public:
         LOW = 0, ///< the first name
         MEDIUM = 1, ///< the second name
         HIGH = 2, ///< the third name
-        ULTRA = 5, ///< the last name, with a gap ahead of its value
+        ULTRA = 5, ///< the last name, with a gap before its value
     };
 
     /// The bits of the mask field.
@@ -69,7 +69,7 @@ public:
         PICKABLE = 2, ///< bit 1
         CASTS_SHADOW = 4, ///< bit 2
         LOCKED = 8, ///< bit 3
-        HIGHLIGHTED = 32, ///< bit 5, with a gap ahead
+        HIGHLIGHTED = 32, ///< bit 5, with a gap before it
     };
 
     /// A set of bits with names.

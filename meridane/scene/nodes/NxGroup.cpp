@@ -12,11 +12,11 @@ NxGroup* asGroup(NxNode* node)
     return node->isOfType(NxGroup::getClassTypeId()) ? static_cast<NxGroup*>(node) : nullptr;
 }
 
-/// True when `wanted` stands somewhere below `top`. Keeps its own stack, since nodes may be nested deeply.
+/// Whether `wanted` is below `top`. Keeps its own stack, since nodes may be nested deeply.
 bool holds(NxNode* top, const NxNode* wanted)
 {
     std::vector<NxNode*> waiting{top};
-    std::unordered_set<const NxNode*> seen; // shared nodes are walked once
+    std::unordered_set<const NxNode*> seen; // shared nodes are visited once
     while (!waiting.empty()) {
         NxNode* node = waiting.back();
         waiting.pop_back();
@@ -87,7 +87,7 @@ bool NxGroup::insertChild(NxNode* node, int index)
 {
     if (node == nullptr || node == this || index < 0 || index > getNumChildren())
         return false;
-    // A group that stands nowhere closes no cycle, so that scenes can be built from the bottom up without a search.
+    // A group without parents closes no cycle, so that scenes can be built from the bottom up without a search.
     if (m_places > 0 && holds(node, this))
         return false;
     m_children.insert(m_children.begin() + index, node);

@@ -11,7 +11,7 @@ class SceneParser;
 /// A node that holds other nodes, in order. Lights, materials, textures and complexities in a group apply to the
 /// children that follow them in that group, and to nothing outside it.
 ///
-/// A group holds a reference on each child. Every change of the list tells the group's node sensors.
+/// A group holds a reference to each child. Every change of the list notifies the group's node sensors.
 class NxGroup : public NxNode {
     NX_NODE(NxGroup)
 
@@ -21,18 +21,18 @@ public:
     [[nodiscard]] int getNumChildren() const noexcept { return static_cast<int>(m_children.size()); }
     /// The child at that index, or null when there is none.
     [[nodiscard]] NxNode* getChild(int index) const;
-    /// A number that changes with the list of children. No other list, of whatever group and time, has the same one, so
-    /// that two lists can be told apart even if nodes of one have taken the addresses of dead nodes of the other.
+    /// A number that changes with the list of children. No other list of any group has or had the same number, so that
+    /// lists can be compared even if nodes of one have the addresses of destroyed nodes of the other.
     [[nodiscard]] std::uint64_t getChildrenRevision() const noexcept { return m_childrenRevision; }
-    /// The index of the first place where the node stands, or -1.
+    /// The index of the first use of the node, or -1.
     [[nodiscard]] int findChild(const NxNode* node) const;
 
-    /// Appends a node. False, and nothing changes, for null and for a node that is this group or holds it.
+    /// Appends a node. Returns false and changes nothing for null, this group, and a node that contains this group.
     bool addChild(NxNode* node);
-    /// Inserts a node ahead of that index, 0 to `getNumChildren`. False as for `addChild`, and for an index out of
-    /// range.
+    /// Inserts a node before that index, 0 to `getNumChildren`. Returns false as `addChild` does, and for an index out
+    /// of range.
     bool insertChild(NxNode* node, int index);
-    /// Takes the child at that index out and gives up the reference on it. False for an index out of range.
+    /// Removes the child at that index and releases the reference to it. Returns false for an index out of range.
     bool removeChild(int index);
     void removeAllChildren();
 
@@ -42,7 +42,7 @@ protected:
 private:
     friend class meridane::SceneParser;
 
-    /// For a node that is known not to hold this group; `group` is the same node, or null if it is none.
+    /// For a node that is known not to contain this group; `group` is the same node, or null if it is none.
     void appendUnchecked(NxNode* node, NxGroup* group);
     void noteChildrenChange() noexcept;
     static void hold(NxNode* node);
@@ -50,5 +50,5 @@ private:
 
     std::vector<NxNode*> m_children;
     std::uint64_t m_childrenRevision = 0;
-    std::size_t m_places = 0; // in which groups hold this one
+    std::size_t m_places = 0; // where groups contain this one
 };

@@ -5,7 +5,7 @@
 
 #include <span>
 
-/// A node of the scene graph. A node may stand in several places of the graph.
+/// A node of the scene graph. A node may be used in several places of the graph.
 class NxNode : public NxFieldContainer {
 public:
     [[nodiscard]] static NxType getClassTypeId();
@@ -37,7 +37,7 @@ NxFieldContainer* createFieldContainer()
 
 } // namespace meridane
 
-/// Stands first in the declaration of a node class: `NX_NODE(NxMaterial)`.
+/// The first line in the declaration of a node class: `NX_NODE(NxMaterial)`.
 #define NX_NODE(Class)                                                                                                 \
 public:                                                                                                                \
     [[nodiscard]] static NxType getClassTypeId();                                                                      \
@@ -46,7 +46,7 @@ public:                                                                         
                                                                                                                        \
 private:
 
-/// Stands in the source file of a node class: `NX_NODE_SOURCE(NxMaterial, NxNode, "Material")`. The class is registered
+/// A line in the source file of a node class: `NX_NODE_SOURCE(NxMaterial, NxNode, "Material")`. The class is registered
 /// when the library that holds it is loaded. For scene files, the name of the class and those of its fields consist of
 /// letters, digits and `_`, the first no digit, and the class isn't called `use` or `ignored`.
 #define NX_NODE_SOURCE(Class, Parent, name)                                                                            \

@@ -10,12 +10,12 @@ class NxSwitch : public NxGroup {
 public:
     /// Values of `whichChild` that are no index.
     enum Which {
-        NONE = -1, ///< no child counts
-        ALL = -3, ///< every child counts
+        NONE = -1, ///< no child is shown
+        ALL = -3, ///< all children are shown
     };
 
-    /// The index of the child that counts, from 0; -1 for none and -3 for all. Any other number, or an index beyond the
-    /// last child, counts as none.
+    /// The index of the shown child, from 0; -1 for none and -3 for all. Any other number, or an index beyond the last
+    /// child, shows none.
     NxSFInt32 whichChild{this, "whichChild", NONE};
 
 protected:

@@ -2,11 +2,11 @@
 
 namespace meridane {
 
-/// A boolean that can stand in a contiguous list, where `bool` itself would be packed into bits.
+/// A boolean for contiguous lists; `std::vector` would pack `bool` into bits.
 class Flag {
 public:
     constexpr Flag() noexcept = default;
-    constexpr Flag(bool set) noexcept // NOLINT(google-explicit-constructor): it stands for a bool everywhere
+    constexpr Flag(bool set) noexcept // NOLINT(google-explicit-constructor): it replaces bool everywhere
         : m_set(set)
     {
     }

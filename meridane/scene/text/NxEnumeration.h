@@ -24,7 +24,7 @@ public:
     /// All names in the order of the values; not to be written.
     [[nodiscard]] VbName* names() const noexcept { return m_names.get(); }
 
-    /// Gives the value of a name; a name that doesn't exist gives false and leaves `value` alone.
+    /// Sets `value` to the value of a name. Returns false and doesn't change it if there is no such name.
     bool valueByName(std::string_view name, int& value) const;
     /// The first name of a value, or null.
     [[nodiscard]] const VbName* nameByValue(int value) const;

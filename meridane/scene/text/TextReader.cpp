@@ -21,7 +21,7 @@ std::string rangeText()
 
 constexpr std::string_view knownEscapes = "one of the escapes \\\", \\\\, \\n and \\t";
 
-// The character that an escape stands for, NUL for an escape that doesn't exist.
+// The character of an escape, NUL for an unknown escape.
 char unescape(char character)
 {
     switch (character) {
@@ -61,7 +61,7 @@ bool isNan(std::string_view text)
     return text.size() >= 3 && lower(text[0]) == 'n' && lower(text[1]) == 'a' && lower(text[2]) == 'n';
 }
 
-// Reads what follows `nan`: nothing, or the fraction in brackets. Null where neither stands.
+// Reads the text after `nan`: nothing, or the fraction in brackets. Returns null for anything else.
 template <typename Bits>
 const char* readNanFraction(const char* place, const char* end, Bits& fraction)
 {
@@ -164,8 +164,8 @@ bool TextReader::expectEnd()
     return atEnd() || fail("the end of the text");
 }
 
-// What the fast path doesn't take: a leading plus, hexadecimal integers, fractions too small for the type, NaN, and
-// whatever is no number at all.
+// The cases that the fast path doesn't read: a leading plus, hexadecimal integers, fractions too small for the type,
+// NaN, and anything that is no number.
 template <typename Number>
 bool TextReader::readUnusualNumber(Number& number)
 {

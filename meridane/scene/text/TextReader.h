@@ -13,13 +13,13 @@ namespace meridane {
 
 /// A cursor over a text that holds values, shared by the fields' text form, scene files and paths.
 ///
-/// Every operation that gives false leaves a note of what was expected and where; the first note stays. The text isn't
-/// copied and must outlive the reader. Numbers are read without a locale.
+/// Every operation that returns false records what was expected and where; the first record is kept. The text isn't
+/// copied and must outlive the reader. Numbers are read independent of the locale.
 ///
 /// Blanks, comments and texts may be of any length. A caller that reads in slices calls `startSlice`: an operation that
-/// meets more of them than the slice has bytes is interrupted. From then on the reader behaves as at the end of the
-/// text and notes no failure. The caller goes back to a place from which it can read again; in the next slices the
-/// reader passes in one step what it has passed already.
+/// passes more of them than the slice has bytes is interrupted. Then the reader behaves as at the end of the text and
+/// records no failure. The caller moves back to a position from which it can read again; in the next slices the reader
+/// skips the part that it has passed in one step.
 class TextReader {
 public:
     enum class Blanks {
@@ -37,17 +37,17 @@ public:
 
     /// The byte offset of the cursor.
     [[nodiscard]] std::size_t position() const noexcept { return static_cast<std::size_t>(m_at - m_begin); }
-    /// What is behind the cursor, blanks included.
+    /// The text after the cursor, blanks included.
     [[nodiscard]] std::string_view rest() const noexcept { return {m_at, static_cast<std::size_t>(m_end - m_at)}; }
     /// The character at the cursor; NUL at the end of the text.
     [[nodiscard]] char peek() const noexcept { return m_at == m_end ? '\0' : *m_at; }
     [[nodiscard]] bool atEnd() const noexcept { return m_at == m_end; }
-    /// Moves the cursor on; not beyond the end.
+    /// Moves the cursor forward, at most to the end.
     void advance(std::size_t count) noexcept { m_at += count < rest().size() ? count : rest().size(); }
 
-    /// Begins a slice of about that many bytes at the cursor, and lets the reader go on after an interruption.
+    /// Begins a slice of about that many bytes at the cursor, and continues after an interruption.
     void startSlice(std::size_t bytes);
-    /// Whether the slice is over: the cursor has passed as many bytes as it has, or went back. Always false without
+    /// Whether the slice is over: the cursor has passed its number of bytes, or moved back. Always false without
     /// slices.
     [[nodiscard]] bool isSpent() const noexcept
     {
@@ -55,9 +55,9 @@ public:
     }
     /// Whether an operation was interrupted.
     [[nodiscard]] bool isInterrupted() const noexcept { return m_interrupted; }
-    /// Ends an interruption: moves the cursor back to where the next slice begins.
+    /// Ends an interruption: moves the cursor back to the start of the next slice.
     void goBack(std::size_t position) noexcept;
-    /// Forgets what was passed: nobody goes back to a place before the cursor any more.
+    /// Deletes the record of passed blanks and texts; the caller won't move back before the cursor.
     void forget() noexcept
     {
         m_runs.clear();
@@ -69,32 +69,32 @@ public:
     void skipBlanksOfLine();
     /// Whether there is a line end before the cursor and nothing but spaces and tabs between them.
     [[nodiscard]] bool isBehindLineEnd() const noexcept;
-    /// Skips blanks, and then `character` if it stands there; true if it does. Leaves no note.
+    /// Skips blanks, and then `character` if it is next. Returns whether it was; records no failure.
     bool accept(char character);
-    /// The same, but it must stand there.
+    /// The same, but records a failure if the character isn't next.
     bool expect(char character);
     /// Skips blanks; then the text must be at its end.
     bool expectEnd();
 
     /// Reads a number: decimal, with or without a sign, for integers also `0x` and hexadecimal digits, for floating
-    /// point also `inf` and `nan`, with the bits of its fraction as `nan(0x1)` where they aren't the usual ones. A
-    /// number that the type can't hold is refused, but a fraction too small for it becomes 0. `number` changes only if
-    /// this gives true.
+    /// point also `inf` and `nan`, with the bits of its fraction as `nan(0x1)` if they aren't the usual ones. A
+    /// number out of the range of the type is refused, but a fraction that is too small becomes 0. `number` changes
+    /// only if this returns true.
     template <typename Number>
     bool readNumber(Number& number);
-    /// Reads a comma, at most one blank and a decimal number that ends at a delimiter: nearly all of a long list is of
-    /// that form. False, with the cursor where it was, for everything else, which the other operations read.
+    /// Reads a comma, at most one blank and a decimal number that ends at a delimiter, which is the form of nearly all
+    /// of a long list. For everything else it returns false and doesn't move the cursor; the other operations read it.
     template <typename Number>
     bool readPlainFollower(Number& number) noexcept;
     /// Reads a word: the characters up to a blank, a comma, a semicolon, a bar, a quote, a bracket, a brace or `#`. It
-    /// may not be empty: `expected` says what it stands for.
+    /// may not be empty: `expected` says what kind of word it is.
     bool readWord(std::string_view& word, std::string_view expected);
-    /// Reads a text in double quotes. The view is valid until the next call, or until the text goes.
+    /// Reads a text in double quotes. The view is valid until the next call, and as long as the text.
     bool readQuoted(std::string_view& text);
-    /// The text that `readQuoted` gave last, without a copy if the reader has put it together itself.
+    /// The last result of `readQuoted`; it isn't copied if the reader owns it.
     [[nodiscard]] std::string takeQuoted(std::string_view text);
 
-    /// Notes what was expected at the cursor, unless there is a note already. Always false.
+    /// Records what was expected at the cursor, unless a failure is recorded already. Always returns false.
     bool fail(std::string_view expected) { return failAt(position(), expected); }
     bool failAt(std::size_t position, std::string_view expected);
     /// What was expected at the first failure, such as "a number"; empty before one.
@@ -102,7 +102,7 @@ public:
     /// The byte offset of the first failure.
     [[nodiscard]] std::size_t failurePosition() const noexcept { return m_failurePosition; }
 
-    /// The most bytes that a number or a word may have.
+    /// The maximum length of a number or a word in bytes.
     static constexpr std::size_t longestWord = 65536;
 
     /// True for the characters that end a number or a word.
@@ -122,10 +122,10 @@ private:
     static const std::array<bool, 256> s_delimiters;
 
     static constexpr std::size_t noSlice = std::string_view::npos;
-    /// So many blanks are passed without a look at the slice.
+    /// This number of blanks is skipped without checking the slice.
     static constexpr std::ptrdiff_t nearBlanks = 64;
 
-    /// Blanks and comments that are passed in several slices.
+    /// Blanks and comments that are skipped in several slices.
     struct Run {
         const char* begin = nullptr;
         const char* at = nullptr;
@@ -133,16 +133,16 @@ private:
         bool inComment = false;
         bool hasLineEnd = false;
     };
-    /// A quoted text that is passed in several slices: first its end is found, then it is put together.
+    /// A quoted text that is read in several slices: first its end is found, then it is unescaped.
     struct LongText {
         const char* begin = nullptr;
         const char* at = nullptr;
-        const char* end = nullptr; // the closing quote, when it is known
+        const char* end = nullptr; // the closing quote, once it is known
         std::size_t escapes = 0;
     };
 
     [[nodiscard]] bool endsHere(const char* place) const noexcept { return place == m_end || isDelimiter(*place); }
-    /// Where a number or a word that begins at that place ends at the latest.
+    /// The last possible end of a number or a word that begins there.
     [[nodiscard]] const char* endOfWord(const char* start) const noexcept
     {
         return static_cast<std::size_t>(m_end - start) > longestWord ? start + longestWord : m_end;
@@ -169,7 +169,7 @@ private:
     std::size_t m_slice = noSlice; // bytes
     std::size_t m_sliceStart = 0;
     bool m_interrupted = false;
-    bool m_goesBack = false; // what was passed will be passed again
+    bool m_goesBack = false; // the text behind the cursor will be read again
     std::vector<Run> m_runs;
     LongText m_longText;
 };
@@ -223,7 +223,7 @@ inline bool TextReader::readNumber(Number& number)
     const auto [end, error] = std::from_chars(m_at, endOfWord(m_at), read);
     bool isUsual = error == std::errc() && endsHere(end);
     if constexpr (std::is_floating_point_v<Number>)
-        isUsual = isUsual && !std::isnan(read); // whose brackets may hold anything here
+        isUsual = isUsual && !std::isnan(read); // std::from_chars accepts any text in its brackets
     if (!isUsual) [[unlikely]]
         return readUnusualNumber(number);
     number = read;
@@ -249,7 +249,7 @@ inline bool TextReader::readPlainFollower(Number& number) noexcept
     if (error != std::errc() || !endsHere(end))
         return false;
     if constexpr (std::is_floating_point_v<Number>) {
-        if (std::isnan(read)) // whose brackets may hold anything here
+        if (std::isnan(read)) // std::from_chars accepts any text in its brackets
             return false;
     }
     number = read;

@@ -18,8 +18,8 @@
 class VbName;
 class VbString;
 
-/// The text form of each type of value: a pair of `readValue` and `writeValue`. What is written reads back to the same
-/// bits, for numbers that aren't finite as well. `readValue` changes the value only if it gives true.
+/// The text form of each type of value: a pair of `readValue` and `writeValue`. Written values read back to the same
+/// bits, even if they aren't finite. `readValue` changes the value only if it returns true.
 namespace meridane {
 
 template <typename Number>

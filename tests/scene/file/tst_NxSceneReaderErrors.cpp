@@ -152,7 +152,7 @@ void tst_NxSceneReaderErrors::aWrongStatementIsReportedWithItsPlace_data()
     // Nodes
     row("number for a node", "1", "2:1: expected a node, found \"1\"");
     row("closing brace too many", "Group { } }", "2:11: expected a node, found \"}\"");
-    row("field outside a node", "shininess = 1", "2:1: a field stands in a node, expected a node");
+    row("field outside a node", "shininess = 1", "2:1: a field outside of a node, expected a node");
     row("node without a body", "Group\nMaterial { }",
         "3:1: expected a name in quotes, \"as\" or \"{\", found \"Material\"");
     row("name without a body", "Group \"a\" Material { }", "2:11: expected \"as\" or \"{\", found \"Material\"");
@@ -197,9 +197,9 @@ void tst_NxSceneReaderErrors::aWrongStatementIsReportedWithItsPlace_data()
     row("image with too large pixels", "Texture { image = 1 1 1 0x100 }",
         "2:25: expected a pixel of 1 bytes, found \"0x100\"");
     row("field twice", "Material { shininess = 1; shininess = 1 }",
-        "2:27: the field \"shininess\" stands twice in the node, expected it once");
+        "2:27: the field \"shininess\" is given twice in the node, expected it once");
     row("unknown field twice", "Material { unknown = 1\nignored unknown = 1 }",
-        "3:9: the field \"unknown\" stands twice in the node, expected it once");
+        "3:9: the field \"unknown\" is given twice in the node, expected it once");
     row("ignored without equals", "Material { ignored shininess 1 }", "2:30: expected \"=\", found \"1\"");
     row("node for a value of an unknown field", "Group { child = Group { a = 1 } }",
         "2:23: expected the end of the value, found \"{\"");

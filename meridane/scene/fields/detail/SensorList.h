@@ -2,8 +2,8 @@
 
 namespace meridane {
 
-/// The sensors that watch one object, in the order in which they were attached. The list runs through the sensors
-/// themselves, so an object that nobody watches pays for one pointer.
+/// The sensors that watch one object, in the order in which they were attached. The list is linked through
+/// the sensors, so an object without sensors only has one pointer.
 template <typename Sensor>
 class SensorList {
 public:
@@ -37,14 +37,14 @@ public:
             sensor->notify();
     }
 
-    /// Tells every sensor that the object is dying, which detaches it.
+    /// Notifies every sensor that the object is being destroyed, which detaches it.
     void dyingReference()
     {
         while (m_first != nullptr) {
             Sensor* const sensor = m_first;
             sensor->dyingReference();
             if (m_first == sensor)
-                sensor->detach(); // an override may have left that out
+                sensor->detach(); // in case an override didn't
         }
     }
 

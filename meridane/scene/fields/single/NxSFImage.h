@@ -13,22 +13,22 @@ class NxSFImage : public NxSField {
     NX_FIELD(NxSFImage)
 
 public:
-    /// An empty image. `container` may be null, for a field that stands alone. `name` must be a literal.
+    /// An empty image. `container` may be null, for a field without a node. `name` must be a literal.
     NxSFImage(NxFieldContainer* container, const char* name)
         : NxSField(container, name)
     {
     }
 
-    /// Hands out size and number of components, and gives the bytes: pixel by pixel and row by row. They stay valid
-    /// until the field changes. Null for an empty image.
+    /// Sets size and number of components, and returns the bytes: pixel by pixel and row by row. They are valid until
+    /// the field changes. Null for an empty image.
     const unsigned char* getValue(VbVec2s& size, int& components) const;
-    /// Copies `size[0] * size[1] * components` bytes and tells the observers. A size or a number of components that
-    /// makes no image changes nothing and gives false; so does null for an image that isn't empty.
+    /// Copies `size[0] * size[1] * components` bytes and notifies the observers. Changes nothing and returns false for
+    /// an invalid size or number of components, and for null with an image that isn't empty.
     bool setValue(const VbVec2s& size, int components, const unsigned char* bytes);
-    /// Takes the bytes over; their number must fit as well.
+    /// Moves the bytes; their number must match too.
     bool setValue(const VbVec2s& size, int components, std::vector<unsigned char>&& bytes);
 
-    /// Hands the bytes over without a copy, leaves an empty image and tells the observers.
+    /// Returns the bytes without a copy, leaves an empty image and notifies the observers.
     [[nodiscard]] std::vector<unsigned char> takeBytes();
 
     [[nodiscard]] bool isSame(const NxField& other) const override;
@@ -45,7 +45,7 @@ private:
 
         [[nodiscard]] std::size_t pixels() const noexcept;
         [[nodiscard]] std::size_t byteCount() const noexcept;
-        // An image or the empty one, whatever the number of bytes.
+        // Whether these are valid for an image or the empty image, apart from the number of bytes.
         [[nodiscard]] bool isValid() const noexcept;
     };
 

@@ -16,13 +16,13 @@
 
 namespace meridane {
 
-/// The reader's work, cut into units: the first line, the encoding block by block, then one statement or one slice of a
-/// value at a time. What a recursive descent would keep on the stack stands in a list of open nodes.
+/// The implementation of `NxSceneReader`, divided into units of work: the first line, the encoding block by block, then
+/// one statement or one slice of a value at a time. It keeps a list of open nodes instead of using recursion.
 class SceneParser {
 public:
     SceneParser(std::string text, std::string fileName);
 
-    /// Works until all is read, the text is refused or the budget is spent.
+    /// Reads until done, until an error, or until the budget is spent.
     void step(const WorkBudget& budget);
     /// The first unit of the work.
     void readFirstLine();
@@ -47,7 +47,7 @@ private:
         Failed
     };
 
-    /// A node whose closing brace is still to come. The list keeps its elements for reuse.
+    /// A node whose closing brace hasn't been read. The elements of the list are reused.
     struct OpenNode {
         NxNode* node = nullptr;
         NxGroup* group = nullptr; // the same node, or null for one that holds no others
@@ -84,13 +84,13 @@ private:
     void endText();
     [[nodiscard]] bool isOpen(std::string_view nameOrLabel) const;
 
-    /// Does nothing while the reader of texts is interrupted: then nothing is known to be wrong.
+    /// Does nothing while the text reader is interrupted, because then nothing is known to be wrong.
     void failAt(std::size_t offset, std::string message);
     void endAt(std::size_t offset, std::string message);
     void failTwice(std::string_view name, std::size_t place);
     void failForMemory();
     void failExpecting(std::size_t offset, std::string_view expected);
-    /// Fails with what the reader of texts noted.
+    /// Fails with the message of the text reader.
     void failAsNoted();
 
     const std::string m_text;

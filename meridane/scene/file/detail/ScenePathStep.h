@@ -14,7 +14,7 @@ struct ScenePathStep {
 
     /// The step from a node to one of its children.
     [[nodiscard]] static ScenePathStep of(const NxNode& parent, const NxNode& child);
-    /// Reads the step that begins at `at` and moves `at` behind it. The result says what was wrong, or is empty.
+    /// Reads the step that begins at `at` and moves `at` after it. Returns what is wrong, or the empty text.
     std::string parse(std::string_view path, std::size_t& at);
     void appendTo(std::string& text) const;
 };

@@ -16,13 +16,13 @@ class NxField;
 
 namespace meridane {
 
-/// The writer's work, cut into units: first the scene is looked over, then each unit writes the head of a node, a field
-/// or a slice of its value, or the end of a node. Keeps its own stack.
+/// The implementation of `NxSceneWriter`, divided into units of work: first the scene is examined, then each unit
+/// writes the head of a node, a field or a slice of its value, or the end of a node. Keeps its own stack.
 class ScenePrinter {
 public:
     explicit ScenePrinter(NxGroup* scene);
 
-    /// Gives the path to write in place of one that the scene has.
+    /// Returns the path to write instead of one in the scene.
     using PathMap = std::function<std::string(std::string_view path)>;
 
     void setPathMap(PathMap map) { m_pathMap = std::move(map); }
@@ -33,7 +33,7 @@ public:
 private:
     enum class Phase { Sharing, Nodes, Value, UnknownValue, Done };
 
-    /// A node whose closing brace is still to come.
+    /// A node whose closing brace hasn't been written.
     struct OpenNode {
         NxNode* node;
         NxFieldData* data; // null for the scene itself, whose fields aren't written

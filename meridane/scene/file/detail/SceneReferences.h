@@ -11,13 +11,13 @@
 
 namespace meridane {
 
-/// The nodes of a scene file that may be used again: those read whole, under their names and labels. Most scenes use
-/// none, so the index is made when it is first needed.
+/// The nodes of a scene file that can be used again: those read completely, by name and label. Most scenes don't use
+/// any, so the index is made when it is first needed.
 class SceneReferences {
 public:
-    /// Takes a node that was read whole. It must keep its name as long as this object is used.
+    /// Adds a node that was read completely. Its name must not change while this object is used.
     void add(NxNode* node, const std::string& label);
-    /// Brings the index up to date, by about `budget` nodes at a time. True when there is more to do.
+    /// Updates the index by about `budget` nodes. Returns true if there is more to do.
     bool update(std::size_t budget);
     /// The last node added under that name or label, or null.
     [[nodiscard]] NxNode* find(std::string_view text) const;
@@ -29,7 +29,7 @@ private:
     };
 
     std::vector<Entry> m_entries;
-    std::deque<std::string> m_labels; // a deque leaves them in place, since the entries point to them
+    std::deque<std::string> m_labels; // a deque doesn't move them, and the entries point to them
     std::unordered_map<std::string_view, NxNode*> m_index;
     std::size_t m_indexed = 0; // entries in the index
 };

@@ -181,7 +181,7 @@ void SceneParser::startReference()
 void SceneParser::startField(std::string_view name, std::size_t place, bool ignored)
 {
     if (m_depth == 0)
-        return failAt(place, "a field stands in a node, expected a node");
+        return failAt(place, "a field outside of a node, expected a node");
     m_reader.advance(1);
     // A value begins in the line of its field: a forgotten one must not swallow the next line.
     m_reader.skipBlanksOfLine();
@@ -220,7 +220,7 @@ void SceneParser::startUnknownField(std::string_view name, std::size_t place, bo
 
 void SceneParser::failTwice(std::string_view name, std::size_t place)
 {
-    failAt(place, "the field \"" + std::string(name) + "\" stands twice in the node, expected it once");
+    failAt(place, "the field \"" + std::string(name) + "\" is given twice in the node, expected it once");
 }
 
 void SceneParser::endStatement()

@@ -16,7 +16,7 @@ namespace meridane {
 /// What a reader of scene files knows of one node class.
 class NodeClass {
 public:
-    /// Looks the class up; one that isn't registered, or can't be made, is kept in a stand-in.
+    /// Looks up a class. A class that isn't registered, or whose instances can't be made, gives an `NxUnknownNode`.
     explicit NodeClass(std::string_view name);
 
     /// Makes a node of the class.
