@@ -37,7 +37,7 @@ std::string folderOf(const std::string& path)
     return slash == std::string::npos ? "." : path.substr(0, std::max<std::size_t>(slash, 1));
 }
 
-/// Follows symbolic links, also to a file that doesn't exist yet.
+/// Follows symbolic links, even to a file that doesn't exist yet.
 bool followLinks(std::string& path)
 {
     constexpr int maxLinks = 40;
@@ -45,7 +45,7 @@ bool followLinks(std::string& path)
         std::array<char, PATH_MAX> link;
         const ssize_t length = ::readlink(path.c_str(), link.data(), link.size());
         if (length < 0)
-            return true; // no link, or nothing there
+            return true; // no link, or no file
         const std::string target(link.data(), static_cast<std::size_t>(length));
         path = target.starts_with('/') ? target : folderOf(path).append(1, '/').append(target);
     }
@@ -53,8 +53,8 @@ bool followLinks(std::string& path)
     return false;
 }
 
-/// The same for a file at each run, so that what a killed process left there is found again; short enough for a file
-/// whose own name is as long as names may be.
+/// A file has the same hidden name in each run, so that one left by a killed process is found again. It is short,
+/// because the name of the file itself may have the maximum length.
 std::string hiddenName(const std::string& target, int attempt)
 {
     const std::string_view name = std::string_view(target).substr(target.rfind('/') + 1);
@@ -62,7 +62,7 @@ std::string hiddenName(const std::string& target, int attempt)
         + std::to_string(attempt) + ".tmp";
 }
 
-/// Removes a file of that name that its maker holds no lock on: it was killed before it was ready. True when the name
+/// Removes a file of that name that isn't locked, because the process that made it was killed. Returns true if the name
 /// is free.
 bool removeAbandoned(const std::string& name)
 {
@@ -80,8 +80,8 @@ bool removeAbandoned(const std::string& name)
     return removed;
 }
 
-/// Locks a file that was just made. False when somebody took it for abandoned in between. A file system without locks
-/// has no such people.
+/// Locks a file that was just made. Returns false if another process has removed it as abandoned. On a file system
+/// without locks that doesn't happen.
 bool lockNew(int descriptor)
 {
     struct stat status { };
@@ -90,8 +90,8 @@ bool lockNew(int descriptor)
     return ::fstat(descriptor, &status) == 0 && status.st_nlink > 0;
 }
 
-/// Makes a new file beside the target, open for writing, with these permissions as far as the user's mask lets them be,
-/// and locks it.
+/// Makes a new file beside the target, open for writing, with these permissions reduced by the user's mask, and locks
+/// it.
 int createBeside(const std::string& target, std::string& name, mode_t mode)
 {
     constexpr int maxAttempts = 1000;
@@ -114,7 +114,7 @@ int createBeside(const std::string& target, std::string& name, mode_t mode)
 
 constexpr const char* accessList = "system.posix_acl_access";
 
-/// The access control list of a file; empty if it has none, or the file system knows none.
+/// The access control list of a file; empty if it has none, or the file system doesn't support them.
 std::string accessListOf(const std::string& path)
 {
     std::string list(XATTR_SIZE_MAX, '\0');
@@ -123,15 +123,15 @@ std::string accessListOf(const std::string& path)
     return list;
 }
 
-/// The permissions for a file that couldn't be given to the group it was to have. The members of the group that it has
-/// instead were among the others, and those of the old group now are.
+/// The permissions for a file whose group couldn't be set. The members of its present group had the rights of others,
+/// and the members of the old group have them now.
 mode_t withoutGroup(mode_t mode)
 {
     const mode_t common = (mode >> 3U) & mode & S_IRWXO;
     return (mode & S_IRWXU) | (common << 3U) | common;
 }
 
-/// Syncs the folder, so that the new name of a file survives a loss of power.
+/// Syncs the folder, so that the new name of a file survives a power failure.
 bool syncFolder(const std::string& folder)
 {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -222,7 +222,7 @@ std::optional<std::string> FileReplacer::open(const std::string& path)
         return failure(path, "is a directory");
     if (replaces && !S_ISREG(old.st_mode))
         return failure(path, "is no regular file");
-    // The folder alone decides about renaming; a file that its owner protected is left alone all the same.
+    // Renaming only needs rights on the folder, but a write-protected file isn't replaced.
     if (replaces && ::faccessat(AT_FDCWD, m_target.c_str(), W_OK, AT_EACCESS) != 0)
         return systemFailure(path);
     if (replaces)
@@ -247,14 +247,14 @@ bool FileReplacer::adoptAccess() const
     const bool grouped = present.st_gid == m_oldAccess->group
         || ::fchown(m_descriptor, static_cast<uid_t>(-1), m_oldAccess->group) == 0;
     mode_t mode = m_oldAccess->mode;
-    // With another owner or group these bits would lend somebody else's rights.
+    // With another owner or group these bits would give the rights of another user.
     if (!owned || !grouped)
         mode &= ~static_cast<mode_t>(S_ISUID | S_ISGID);
     if (!grouped)
         mode = withoutGroup(mode);
     if (m_oldAccess->list.empty())
         return ::fchmod(m_descriptor, mode) == 0;
-    // The mode of a file with a list shows the most that the list gives to anybody, not what the group has.
+    // With an access control list, the group bits of the mode are the mask of the list, not the rights of the group.
     const bool listed
         = grouped && ::fsetxattr(m_descriptor, accessList, m_oldAccess->list.data(), m_oldAccess->list.size(), 0) == 0;
     return ::fchmod(m_descriptor, listed ? mode : mode & S_IRWXU) == 0;
@@ -278,7 +278,7 @@ std::optional<std::string> FileReplacer::commit()
 {
     if (!adoptAccess() || ::fsync(m_descriptor) != 0)
         return systemFailure(m_path);
-    // The lock goes with the descriptor, which must outlive the name.
+    // Closing the descriptor releases the lock, so it is closed after the renaming.
     if (std::rename(m_temporary.c_str(), m_target.c_str()) != 0)
         return systemFailure(m_path);
     m_temporary.clear();

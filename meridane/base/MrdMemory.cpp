@@ -32,7 +32,7 @@ void reportFailure(const char* file, int line, std::size_t size)
     try {
         NxMemoryError::post(file, line, size);
     } catch (const std::bad_alloc&) {
-        // Not even the message found room. The caller still learns of the failure by the null pointer.
+        // There was no memory for the message either. The null pointer reports the failure to the caller.
     }
 }
 

@@ -27,7 +27,7 @@ NxDelayQueue::~NxDelayQueue()
 
 NxDelayQueue& NxDelayQueue::getDefault()
 {
-    // Never destroyed: sensors of static storage may outlive every object of ours.
+    // Never destroyed, because static sensors may be destroyed later than any other object.
     static NxDelayQueue& queue = *new NxDelayQueue;
     return queue;
 }
@@ -38,7 +38,7 @@ void NxDelayQueue::schedule(NxDelayQueueSensor* sensor)
         return;
     sensor->m_sequence = ++m_lastSequence;
     sensor->m_place = m_waiting.insert(sensor).first;
-    sensor->m_queue = this; // only now, for the insertion may run out of memory
+    sensor->m_queue = this; // after the insertion, which may run out of memory
     try {
         wakeUp();
     } catch (...) {
@@ -51,7 +51,7 @@ void NxDelayQueue::unschedule(NxDelayQueueSensor* sensor)
 {
     if (sensor->m_queue != this)
         return;
-    // By its place and not by its value: the sensor may be half destroyed, and is not to be compared any more.
+    // By iterator and not by value: the sensor may be partly destroyed, so it can't be compared any more.
     listOf(sensor).erase(sensor->m_place);
     sensor->m_queue = nullptr;
 }
@@ -97,7 +97,7 @@ bool NxDelayQueue::processUntil(Clock::time_point end)
     return !isEmpty();
 }
 
-/// Takes out the sensor whose turn it is in this pass; null when the pass is over.
+/// Removes and returns the next sensor of this pass; null when the pass is over.
 NxDelayQueueSensor* NxDelayQueue::takeNext()
 {
     if (m_running.empty())

@@ -17,7 +17,7 @@ namespace {
 // Shared groups inside each other may have more instances than could ever be visited.
 constexpr std::size_t maxPlaces = 20'000'000;
 
-/// A group on the way down, and the first of its children that is still to be visited.
+/// A group on the present path, and its next child to visit.
 struct Step {
     std::span<NxNode* const> children;
     std::size_t next = 0;
@@ -46,7 +46,7 @@ bool isFinite(const Matrix4d& matrix)
     return true;
 }
 
-// Turns and moves so that the ray runs along z from the origin: what it meets has x and y of 0.
+// Takes the ray to the z axis, from the origin: every point on it has x and y of 0.
 Matrix4d sceneToRay(const NxRay& ray)
 {
     const VbVec3f ahead = normalized(ray.direction, VbVec3f(0, 0, -1));
@@ -81,7 +81,7 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
 {
     MeshHit search(m_radius, m_slope, m_nearest, m_farthest);
     std::optional<NxRayHit> hit;
-    // Not by recursion: a scene may be deeper than the stack.
+    // Without recursion: a scene may be too deep for the stack.
     std::vector<Step> steps{{shownChildren(root), 0, multiply(localTransformOf(root), sceneToRay(m_ray))}};
     for (std::size_t places = 0; !steps.empty() && places < maxPlaces; ++places) {
         Step& step = steps.back();

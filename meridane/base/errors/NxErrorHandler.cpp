@@ -19,7 +19,7 @@ struct Call {
     const ErrorHandlerSlot* slot;
     std::uint64_t generation;
     std::thread::id thread;
-    /// The handler is itself replacing a handler, and waits for others to end.
+    /// The handler is replacing a handler itself, and waits for other calls to end.
     bool isWaiting = false;
 };
 
@@ -41,7 +41,7 @@ struct CallRegistry {
 
 CallRegistry& callRegistry()
 {
-    // Never destroyed: a thread or a static destructor may post until the very end.
+    // Never destroyed, because threads and static destructors may post until the process ends.
     static CallRegistry& registry = *new CallRegistry;
     return registry;
 }
@@ -87,7 +87,7 @@ void print(const NxError& error)
     std::replace_if(
         line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
     line += '\n';
-    // One block, so that lines of several threads don't run into each other.
+    // One block, so that lines of several threads aren't mixed.
     std::cerr.write(line.c_str(), static_cast<std::streamsize>(line.size()));
 }
 

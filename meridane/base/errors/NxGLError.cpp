@@ -8,7 +8,7 @@
 
 namespace {
 
-// The codes are fixed by the drawing library's binary interface; its header is none of this library's business.
+// These codes never change; this library doesn't include OpenGL's header.
 const char* nameOf(unsigned int code)
 {
     switch (code) {

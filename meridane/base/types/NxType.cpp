@@ -36,7 +36,7 @@ public:
         return &(*m_chunks[(index - 1) / chunkSize])[(index - 1) % chunkSize];
     }
 
-    // Adds a record and returns its index, 0 when there is no room.
+    // Adds a record and returns its index, or 0 if there is no room.
     std::uint32_t add(const VbName& name, NxType parent, const ClassRecord* parentRecord, NxType::Factory factory)
     {
         const std::uint32_t position = m_count.load(std::memory_order_relaxed);
@@ -50,7 +50,7 @@ public:
             lineage = parentRecord->lineage;
         lineage.push_back(position + 1);
         byName.insert_or_assign(name.getString(), position + 1);
-        // Memory can't run out any more: there is a whole record or none.
+        // From here on no allocation can fail, so a record is added completely or not at all.
         ClassRecord& record = (*chunk)[position % chunkSize];
         record.name = name;
         record.parent = parent;

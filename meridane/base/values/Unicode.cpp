@@ -43,7 +43,7 @@ std::size_t sequenceLength(std::string_view text, std::size_t index) noexcept
     return 0;
 }
 
-// Reads the code point at the index of valid text and moves the index behind it.
+// Reads the code point at the index of valid text and moves the index after it.
 char32_t nextCodePoint(std::string_view valid, std::size_t& index) noexcept
 {
     const std::uint8_t first = byteAt(valid, index);
@@ -59,7 +59,7 @@ char32_t nextCodePoint(std::string_view valid, std::size_t& index) noexcept
     return codePoint;
 }
 
-// Most text is ASCII for long stretches, which are passed by a word at a time.
+// Most text has long parts in ASCII, which are skipped one machine word at a time.
 std::size_t skipAscii(std::string_view text, std::size_t index) noexcept
 {
     constexpr std::uint64_t highBits = 0x8080808080808080U;

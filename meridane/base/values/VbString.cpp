@@ -29,7 +29,7 @@ static_assert(sizeof(unsigned short) == sizeof(char16_t));
 
 VbString::Text* VbString::nullText() noexcept
 {
-    // Only its address counts: it is never read, written or deleted.
+    // Only its address is used: it is never read, written or deleted.
     static Text null;
     return &null;
 }
@@ -91,7 +91,7 @@ VbString& VbString::operator=(VbString&& other) noexcept
     return *this;
 }
 
-// The new text is built before the old one goes, so that a view into this very string may be assigned to it.
+// The new text is made before the old one is deleted, so that a view of this string can be assigned to it.
 void VbString::assign(std::string_view utf8)
 {
     take(std::string(utf8));
@@ -102,7 +102,7 @@ void VbString::take(std::string&& utf8)
     std::unique_ptr<Text> text;
     if (!utf8.empty()) {
         text = std::make_unique<Text>();
-        // A text that was put together piece by piece may have much more room than it needs.
+        // A text that was assembled from parts may have much more capacity than it needs.
         if (utf8.capacity() > utf8.size() + utf8.size() / 2)
             utf8.shrink_to_fit();
         if (meridane::findInvalidUtf8(utf8) == std::string_view::npos)
@@ -175,7 +175,7 @@ unsigned short* VbString::toUtf16() const
     auto& utf16 = m_text->conversions().utf16;
     if (!utf16)
         utf16 = meridane::utf8ToUtf16(m_text->utf8);
-    // The same 16-bit units under the name that callers know them by.
+    // The same 16-bit units under the type that callers use.
     return reinterpret_cast<unsigned short*>(utf16->data());
 }
 

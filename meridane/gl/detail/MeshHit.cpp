@@ -71,7 +71,7 @@ bool MeshHit::meetEach(std::span<const int> indices, Test test)
         bool exists = true;
         for (std::size_t corner = 0; corner < Corners; ++corner) {
             const std::size_t place = primitive * Corners + corner;
-            // A negative index becomes one that is far too large.
+            // A negative index becomes a very large one.
             const std::size_t index = indices.empty() ? place : static_cast<std::size_t>(indices[place]);
             exists = exists && index < m_points.size();
             corners[corner] = exists ? &m_points[index] : nullptr;
@@ -89,7 +89,7 @@ bool MeshHit::meetTriangle(const std::array<const Point*, 3>& corners)
     const Point& a = *corners[0];
     const Point& b = *corners[1];
     const Point& c = *corners[2];
-    // On which side of each edge the line passes; a corner that isn't finite makes one of them no number.
+    // The side of each edge on which the line passes. If a corner isn't finite, one of them is NaN.
     const double u = c.x * b.y - c.y * b.x;
     const double v = a.x * c.y - a.y * c.x;
     const double w = b.x * a.y - b.y * a.x;
@@ -111,7 +111,7 @@ bool MeshHit::meetLine(const std::array<const Point*, 2>& ends)
 {
     Point a = *ends[0];
     Point b = *ends[1];
-    // What is behind the viewer can't be near the line of sight.
+    // Objects behind the viewer aren't near the line of sight.
     const double least = std::max(radiusAt(a.z), radiusAt(b.z)) * 1e-9;
     if (!(least > 0.0))
         return false;
@@ -124,7 +124,7 @@ bool MeshHit::meetLine(const std::array<const Point*, 2>& ends)
     };
     cut(a, b);
     cut(b, a);
-    // Measured in radii, as the picture shows it, a line stays a line; only the places along it move.
+    // In units of the radius, as in the picture, a line remains straight; only the points along it move.
     const double radiusA = std::max(radiusAt(a.z), least);
     const double radiusB = std::max(radiusAt(b.z), least);
     const double x = b.x / radiusB - a.x / radiusA;
@@ -150,7 +150,7 @@ bool MeshHit::meetNearby(const Point& point)
 
 bool MeshHit::take(double distance, double rank)
 {
-    // Also false for what is no number.
+    // Also false for NaN.
     if (!(distance >= m_nearest && rank < m_rank))
         return false;
     m_distance = distance;

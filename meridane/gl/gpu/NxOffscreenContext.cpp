@@ -1,6 +1,6 @@
 #include "meridane/gl/gpu/NxOffscreenContext.h"
 
-// The plain types: no window system's headers.
+// Plain types, without the headers of a window system.
 #define EGL_NO_X11
 #include <array>
 #include <cstddef>
@@ -32,7 +32,7 @@ Pointer findFunction(const char* name)
     return reinterpret_cast<Pointer>(eglGetProcAddress(name));
 }
 
-/// Every display that may do, the ones without a window system first.
+/// All displays to try, those without a window system first.
 std::vector<EGLDisplay> displays()
 {
     std::vector<EGLDisplay> result;
@@ -53,7 +53,7 @@ std::vector<EGLDisplay> displays()
     return result;
 }
 
-// Nothing is drawn to a surface, so a display without surfaces has no configuration and needs none.
+// Nothing is drawn to a surface, so a display without surfaces needs no configuration.
 EGLConfig chooseConfig(EGLDisplay display)
 {
     const std::array<EGLint, 5> wanted{
@@ -84,7 +84,7 @@ NxOffscreenContext::NxOffscreenContext()
 {
     m_error = "there is no EGL display";
     for (EGLDisplay display : displays()) {
-        // A display stays initialised until the process ends: others in the process may use it as well.
+        // A display remains initialised until the process ends, because others in the process may use it.
         if (display == EGL_NO_DISPLAY || eglInitialize(display, nullptr, nullptr) != EGL_TRUE)
             continue;
         if (setUp(display)) {
@@ -108,7 +108,7 @@ bool NxOffscreenContext::setUp(void* display)
     }
     m_display = display;
     m_context = context;
-    // A driver that wants a surface gets the smallest one.
+    // If the driver requires a surface, the smallest one is made.
     const std::array<EGLint, 5> size{EGL_WIDTH, 1, EGL_HEIGHT, 1, EGL_NONE};
     if (!hasExtension(display, "EGL_KHR_surfaceless_context"))
         m_surface = eglCreatePbufferSurface(display, config, size.data());

@@ -2,6 +2,6 @@
 
 void NxDataSensor::notify()
 {
-    if (!isQueued()) // by far the most changes come while the first one still waits
+    if (!isQueued()) // most changes come while the sensor is queued already
         schedule();
 }

@@ -7,12 +7,12 @@
 
 namespace {
 
-// The description that is being made on this thread. Describing other classes meanwhile nests. The library is there
-// from the start of the program, so that its variables of a thread are found without a call: every constructor of a
-// field looks.
+// The description that is being collected on this thread; collections may be nested. The library is loaded when the
+// program starts, so its thread-local variables are accessed without a call. Every constructor of a field reads this
+// one.
 [[gnu::tls_model("initial-exec")]] constinit thread_local NxFieldData* collector = nullptr;
 
-// Makes a description the collecting one as long as it lives, also when the making of the instance fails.
+// Makes a description the collecting one until the end of the scope, even if making the instance fails.
 class Collecting {
 public:
     explicit Collecting(NxFieldData* data)
@@ -39,7 +39,7 @@ NxFieldData::NxFieldData(NxFieldContainer* (*create)())
 {
     const Collecting collecting(this);
     m_prototype = create();
-    // The making of the instance may make other containers, before and within; their fields don't count.
+    // Making the instance may make other containers, before it and inside it; their fields aren't collected.
     std::erase_if(m_fields, [this](const Entry& entry) { return entry.container != m_prototype; });
     m_prototype->ref();
 }
@@ -51,7 +51,7 @@ NxFieldData::~NxFieldData()
 
 void NxFieldData::collectContainer(const NxFieldContainer* container)
 {
-    // What stood here before is gone.
+    // The object that was here before is destroyed.
     if (collector != nullptr)
         std::erase_if(collector->m_fields, [&](const Entry& entry) { return entry.container == container; });
 }
@@ -87,7 +87,7 @@ NxField* NxFieldData::getField(const NxFieldContainer* container, int index) con
 {
     if (container == nullptr || index < 0 || index >= getNumFields())
         return nullptr;
-    // The constness is the container's handle's, not the field's: whoever asks edits the field.
+    // The container is const here, but its field isn't: the caller edits it.
     auto* const start = reinterpret_cast<char*>(const_cast<NxFieldContainer*>(container));
     return reinterpret_cast<NxField*>(start + m_fields[static_cast<std::size_t>(index)].offset);
 }

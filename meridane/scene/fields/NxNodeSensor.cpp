@@ -15,7 +15,7 @@ void NxNodeSensor::attach(NxFieldContainer* node)
     if (node == nullptr)
         return;
     node->rare().sensors.append(this);
-    m_node = node; // only now, for there may be no memory for the list
+    m_node = node; // after the list has allocated its memory
 }
 
 void NxNodeSensor::detach()

@@ -43,7 +43,7 @@ NxNode* findIndexed(std::span<NxNode* const> children, const ScenePathStep& step
     return nullptr;
 }
 
-/// Follows the part of the path behind the last step: a dot and the name of a field.
+/// Follows the part of the path after the last step: a dot and the name of a field.
 void findField(NxScenePath::Target& target, std::string_view path, std::size_t at)
 {
     const std::string name(path.substr(at + 1));
@@ -53,7 +53,7 @@ void findField(NxScenePath::Target& target, std::string_view path, std::size_t a
         target.error = placeText(path, at) + " has no field '" + name + '\'';
 }
 
-/// The steps of a list of nodes, each with a slash ahead.
+/// The steps of a list of nodes, each with a slash before it.
 std::string stepsText(const NxGroup* scene, std::span<NxNode* const> nodes)
 {
     if (nodes.empty())

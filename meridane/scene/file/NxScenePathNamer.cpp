@@ -9,7 +9,7 @@ using meridane::SiblingIndex;
 
 namespace {
 
-/// Among so many siblings a look at all of them takes no time.
+/// With at most this number of siblings, visiting all of them is fast enough.
 constexpr std::size_t fewSiblings = 256;
 
 } // namespace

@@ -2,7 +2,7 @@
 
 NX_NODE_SOURCE(NxFieldGallery, NxNode, "FieldGallery")
 
-// Here, rather than in each source that makes a gallery: the fields are many.
+// Defined here and not inline, because there are many fields.
 NxFieldGallery::NxFieldGallery() = default;
 NxFieldGallery::~NxFieldGallery() = default;
 

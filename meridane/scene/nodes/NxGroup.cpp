@@ -35,8 +35,8 @@ bool holds(NxNode* top, const NxNode* wanted)
 NxGroup::~NxGroup()
 {
     noteStructureChange();
-    // Nodes that die with this one are taken apart from the bottom up without recursion and without memory: on the way
-    // down, the place of the child in its group's list holds the group above.
+    // Nodes without other references are destroyed from the bottom up, without recursion and without allocating memory:
+    // on the way down, the entry of the child in its group's list is replaced by the group above.
     NxGroup* group = this;
     NxGroup* above = nullptr;
     for (;;) {

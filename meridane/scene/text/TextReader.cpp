@@ -37,8 +37,8 @@ char unescape(char character)
     }
 }
 
-// Tells a number that is too close to 0 for its type from one that is too far away: by the place of its first digit,
-// counted from the decimal point.
+// Distinguishes numbers that are too small for the type from those that are too large, by the distance of the first
+// digit from the decimal point.
 bool isSmallFraction(std::string_view number)
 {
     const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
@@ -113,7 +113,7 @@ TextReader::Run& TextReader::runHere(Blanks blanks)
         return *known;
     const bool hasLineEnd = isBehindLineEnd();
     if (m_slice == noSlice)
-        m_runs.clear(); // nobody goes back
+        m_runs.clear(); // the caller doesn't move back
     return m_runs.emplace_back(Run{m_at, m_at, blanks, false, hasLineEnd});
 }
 
@@ -148,7 +148,7 @@ bool TextReader::isBehindLineEnd() const noexcept
         if (*place != ' ' && *place != '\t' && *place != '\r')
             return *place == '\n';
     }
-    // So many blanks were passed as a run, if there is anything else before them.
+    // If there were other characters before them, this number of blanks was skipped as a run.
     return std::any_of(
         m_runs.begin(), m_runs.end(), [this](const Run& run) { return run.at == m_at && run.hasLineEnd; });
 }
@@ -250,7 +250,7 @@ bool TextReader::readWord(std::string_view& word, std::string_view expected)
 
 bool TextReader::readQuoted(std::string_view& text)
 {
-    // More than two names have, so that a place where there may be two of them never holds two long texts.
+    // Longer than two names, so that a statement with two names never has two long texts.
     constexpr std::size_t nearText = 2 * longestWord;
     if (!accept('"'))
         return fail("a text in double quotes");

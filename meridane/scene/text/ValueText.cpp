@@ -49,7 +49,7 @@ bool readWholeText(TextReader& reader, std::string_view& text)
     return true;
 }
 
-// Names are Latin-1 and end at a NUL.
+// Names are in Latin-1 and end at a NUL.
 std::optional<VbName> nameOfUtf8(std::string_view text)
 {
     constexpr unsigned char lastLeadByteOfLatin1 = 0xC3;
@@ -120,7 +120,7 @@ void writeValue(std::string& text, const Flag& value)
 
 bool readValue(TextReader& reader, VbString& value)
 {
-    // A text that takes longer than this to copy isn't copied.
+    // Longer texts aren't copied.
     constexpr std::size_t largeText = 1 << 16;
     std::string_view text;
     if (!readText(reader, text))

@@ -31,7 +31,7 @@ bool readValue(TextReader& reader, Number& value)
 {
     return reader.readNumber(value);
 }
-/// `nan` or `-nan`, with the bits of its fraction in brackets where they aren't the usual ones.
+/// `nan` or `-nan`, with the bits of its fraction in brackets if they aren't the usual ones.
 void writeNan(std::string& text, float value);
 void writeNan(std::string& text, double value);
 /// The shortest decimal text that reads back to the same value.
@@ -55,8 +55,8 @@ void writeValue(std::string& text, const Flag& value);
 /// Text in double quotes; a word without them is read as well.
 bool readValue(TextReader& reader, VbString& value);
 void writeValue(std::string& text, const VbString& value);
-/// The same in parts of about that many bytes. `position` begins at 0 and is the function's own from then on. True when
-/// there is more to write.
+/// The same in parts of about that many bytes. `position` starts at 0 and is then changed only by this function.
+/// Returns true if there is more to write.
 bool writeValuePart(std::string& text, const VbString& value, std::size_t& position, std::size_t bytes);
 /// The same for the values of a list, with commas between them.
 bool writeValuesPart(std::string& text, std::span<const VbString> values, std::size_t& position, std::size_t bytes);
@@ -112,11 +112,11 @@ bool readWholeValue(TextReader& reader, Value& value)
 {
     return readValue(reader, value) && reader.expectEnd();
 }
-/// A text that doesn't begin with a quote is taken as it is, blanks and all: people type plain words.
+/// A text that doesn't begin with a quote is used as it is, with its blanks, because people type plain words.
 bool readWholeValue(TextReader& reader, VbString& value);
 bool readWholeValue(TextReader& reader, VbName& value);
 
-/// How a field reads and writes its values where their type alone decides.
+/// The format of fields whose text depends only on the type of value.
 template <typename Value>
 struct ValueFormat {
     bool read(TextReader& reader, Value& value) const { return readValue(reader, value); }

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Never destroyed: names are used by other static objects to the very end.
+// Never destroyed, because static objects use names until the process ends.
 struct NameTable {
     std::mutex mutex;
     std::unordered_set<std::string> texts;

@@ -12,7 +12,7 @@
 namespace meridane {
 namespace {
 
-/// How far the corners of a box may be off in any direction.
+/// The greatest rounding error of the corners of a box in any direction.
 float roundingOf(const NxBounds& box)
 {
     double sum = 0;
@@ -21,8 +21,8 @@ float roundingOf(const NxBounds& box)
     return static_cast<float>(sum * NxBounds::rounding);
 }
 
-/// What is nearest and farthest along the line of sight, with what lies between shown in as many steps of depth as can
-/// be: in perspective the nearest distance decides on that.
+/// The nearest and farthest distance along the line of sight. The range is as small as possible, for the best
+/// resolution of the depth buffer; in perspective the nearest distance decides on that.
 std::pair<float, float> depthRange(const NxViewpoint& viewpoint, const NxBounds& shown)
 {
     constexpr float farShare = 1.0F / 2000;
@@ -37,14 +37,14 @@ std::pair<float, float> depthRange(const NxViewpoint& viewpoint, const NxBounds&
         farthest = std::max(farthest, distance);
     }
     const float focal = viewpoint.focalDistance > 0 ? viewpoint.focalDistance : 1;
-    if (shown.isEmpty() || !(farthest > nearest - 1)) { // nothing to show, or farther away than floats reach
+    if (shown.isEmpty() || !(farthest > nearest - 1)) { // nothing to show, or farther away than the largest float
         nearest = focal / 2;
         farthest = focal * 2;
     }
     const float gap = std::max({(farthest - nearest) * margin, focal * leastShare, roundingOf(shown)});
     if (viewpoint.projection == NxViewpoint::ORTHOGRAPHIC)
         return {nearest - gap, farthest + gap};
-    if (!(farthest > focal * leastShare)) // all is behind the eye
+    if (!(farthest > focal * leastShare)) // everything is behind the eye
         farthest = focal * 2;
     farthest += gap;
     const float wanted = std::min(farthest * farShare, focal / 10);

@@ -11,14 +11,14 @@ namespace {
 constexpr std::uint64_t valueFactor = 0x9E3779B97F4A7C15U;
 constexpr std::uint64_t stateFactor = 0xC2B2AE3D27D4EB4FU;
 constexpr std::size_t word = sizeof(std::uint64_t);
-constexpr std::size_t lanes = 4; // so that the multiplications needn't wait for each other
+constexpr std::size_t lanes = 4; // so that the multiplications don't depend on each other
 
 std::uint64_t mixed(std::uint64_t state, std::uint64_t value) noexcept
 {
     return std::rotl(state + value * valueFactor, 31) * stateFactor;
 }
 
-/// Lets each bit change about half of all others.
+/// Mixes the bits, so that each changes about half of all others.
 std::uint64_t spread(std::uint64_t value) noexcept
 {
     value = (value ^ (value >> 33U)) * stateFactor;

@@ -39,7 +39,7 @@ private:
     float m_scale = 0;
 };
 
-/// Collects the corners, the first in each cell for the others.
+/// Merges vertices; the first one of a cell replaces the others.
 class Corners {
 public:
     Corners(const NxMesh& mesh, const MeshShape& shape, std::uint32_t cells, SimplifiedMesh& result)
@@ -69,7 +69,7 @@ public:
                 m_result.colors.push_back(m_colors[index]);
         } else if (!m_normals.empty()) {
             VbVec3f& sum = m_result.normals[place->second];
-            sum = add(sum, m_normals[index]); // the shaders make it one of length 1
+            sum = add(sum, m_normals[index]); // the shaders normalise it
         }
         return place->second;
     }

@@ -54,7 +54,7 @@ void load(TextureImage& image, const std::string& path, TextureRecord& record, c
     image.bytes = image.loaded.bytes.data();
 }
 
-/// Takes the pixel in the middle of each block of pixels.
+/// Copies the middle pixel of each block of pixels.
 void shrink(TextureImage& image, int maxSide)
 {
     NxImage small;

@@ -55,7 +55,7 @@ NxBounds Ground::bounds() const
     return bounds;
 }
 
-// What is far away would take the steps of depth from what is looked at.
+// Distant parts would reduce the resolution of the depth buffer for the rest.
 NxBounds Ground::partNearFocus(NxBounds box) const
 {
     const float most = m_cell * cells * 100;
@@ -87,7 +87,7 @@ void Ground::addGrid(LinePainter& lines) const
         const VbColorRGBA inner = withOpacity(m_style.gridColor, full * (1 - std::abs(offset) / reach));
         const VbColorRGBA outer = withOpacity(m_style.gridColor, 0);
         for (const bool alongX : {true, false}) {
-            // The axes lie there themselves.
+            // The axes are drawn there.
             const double place = (alongX ? m_center[2] : m_center[0]) + static_cast<double>(offset);
             if (m_style.axes && std::abs(place) < static_cast<double>(m_cell) / 2)
                 continue;

@@ -106,7 +106,7 @@ NxField::Progress ListField<Value, Format>::readText(TextReader& reader, bool fi
     return readValues(m_values, reader, first, budget);
 }
 
-// A slice ends right behind a value, so that the next one begins with what separates it from the value after it.
+// A slice ends directly after a value, so the next one begins with the separator.
 template <typename Value, typename Format>
 NxField::Progress ListField<Value, Format>::readValues(
     std::vector<Value>& values, TextReader& reader, bool first, std::size_t budget) const

@@ -88,14 +88,14 @@ bool NxSFImage::readHeader(Image& image, meridane::TextReader& reader)
         return false;
     if (!image.isValid())
         return reader.fail("width, height and 1 to 4 components, or 0 0 0");
-    // Each pixel takes a blank and a digit, so a size that the text can't fill asks for no memory.
+    // Each pixel needs a blank and a digit, so no memory is allocated for a size that the text can't fill.
     if (image.pixels() > reader.rest().size() / 2)
         return reader.fail("a number for each of " + std::to_string(image.pixels()) + " pixels");
     image.bytes.reserve(image.byteCount());
     return true;
 }
 
-// Appends one pixel, which is one number with a component in each byte, the first one on top.
+// Appends one pixel: a number with a component in each byte, the first component in the highest byte.
 bool NxSFImage::readPixel(Image& image, meridane::TextReader& reader)
 {
     reader.skipBlanks();

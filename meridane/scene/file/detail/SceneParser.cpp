@@ -17,7 +17,7 @@ constexpr std::string_view signature = "#mrd ";
 constexpr std::string_view version = "1.0";
 constexpr std::size_t unitsPerSlice = 32;
 constexpr std::size_t bytesPerSlice = std::size_t{1} << 13U;
-constexpr std::size_t checkedBytesPerSlice = std::size_t{1} << 16U; // which takes less time
+constexpr std::size_t checkedBytesPerSlice = std::size_t{1} << 16U; // which is faster than parsing
 
 } // namespace
 
@@ -61,7 +61,7 @@ NxRef<NxGroup> SceneParser::takeScene()
     return m_phase == Phase::Done ? std::exchange(m_scene, nullptr) : nullptr;
 }
 
-// Until it is worth a look at the clock.
+// Reading the clock after each unit would cost too much.
 void SceneParser::workInSlice()
 {
     bool isShort = true;
@@ -126,7 +126,7 @@ void SceneParser::checkEncoding()
     if (invalid == std::string_view::npos) {
         m_checked += rest.size();
     } else if (!last && invalid + longestCharacter > rest.size() && invalid > 0) {
-        m_checked += invalid; // perhaps a character that goes on in the next block
+        m_checked += invalid; // perhaps a character that continues in the next block
     } else {
         return failAt(m_checked + invalid, "invalid UTF-8, expected a text in UTF-8");
     }
@@ -208,7 +208,7 @@ void SceneParser::endAt(std::size_t offset, std::string message)
 
 void SceneParser::failForMemory()
 {
-    m_scene = nullptr; // makes room for the message
+    m_scene = nullptr; // frees memory for the message
     endAt(m_reader.position(), "the scene doesn't fit in memory");
 }
 

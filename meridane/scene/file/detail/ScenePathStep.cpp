@@ -22,7 +22,7 @@ std::size_t plainLength(std::string_view text)
     return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
 }
 
-// A group may hold a million nodes: it is left at the second one of the name.
+// A group may have a million nodes: the search ends at the second one with the name.
 bool isUnique(std::string_view name, std::span<NxNode* const> siblings)
 {
     const auto hasName = [name](const NxNode* sibling) { return sibling->getName().view() == name; };
@@ -38,7 +38,7 @@ ScenePathStep ScenePathStep::of(const NxNode& parent, const NxNode& child)
     const auto siblings = parent.getChildren();
     if (!name.empty() && isUnique(name, siblings))
         return {std::string(name), -1};
-    // Only a class that isn't known here has other names than that of its type.
+    // Only unknown classes have another name than that of their type.
     const NxType type = child.getTypeId();
     const char* const className = child.getClassName();
     const auto place = std::find(siblings.begin(), siblings.end(), &child);

@@ -174,7 +174,7 @@ void ScenePrinter::writeUnknownSlice(std::string& text)
 void ScenePrinter::writeChild(std::string& text, NxNode* child)
 {
     if (m_open.size() == 1)
-        text += '\n'; // sets the top nodes apart
+        text += '\n'; // between the top nodes
     SceneSharing::SharedNode* shared = m_sharing.find(child);
     if (shared == nullptr || !shared->written)
         return startNode(text, child, shared == nullptr ? std::string() : shared->label);

@@ -6,7 +6,7 @@ namespace meridane {
 
 namespace {
 
-constexpr char labelMark = '#'; // in front of the number of a label
+constexpr char labelMark = '#'; // before the number of a label
 
 } // namespace
 

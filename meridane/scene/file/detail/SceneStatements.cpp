@@ -123,7 +123,7 @@ void SceneParser::startNode(std::string_view className, std::size_t place)
     open.nextField = 0;
     open.seenFields.assign(nodeClass.fieldCount(), false);
     if (!open.seenUnknownFields.empty())
-        open.seenUnknownFields = {}; // not `clear`, which would go over the table of the largest node each time
+        open.seenUnknownFields = {}; // not `clear`, which would clear the table of the largest node each time
 }
 
 bool SceneParser::readNodeHead(std::string& name, std::string& label)
@@ -183,7 +183,7 @@ void SceneParser::startField(std::string_view name, std::size_t place, bool igno
     if (m_depth == 0)
         return failAt(place, "a field outside of a node, expected a node");
     m_reader.advance(1);
-    // A value begins in the line of its field: a forgotten one must not swallow the next line.
+    // A value begins in the line of its field, so that the next line isn't read as a missing value.
     m_reader.skipBlanksOfLine();
     if (m_reader.atEnd() || endsStatement(m_reader.peek()))
         return failExpecting(m_reader.position(), "a value");
@@ -225,7 +225,7 @@ void SceneParser::failTwice(std::string_view name, std::size_t place)
 
 void SceneParser::endStatement()
 {
-    // The value may have looked for its continuation in the next line already.
+    // The value may have moved the cursor to the next line already.
     const bool newLine = m_reader.isBehindLineEnd();
     const std::size_t start = m_reader.position();
     if (!newLine)

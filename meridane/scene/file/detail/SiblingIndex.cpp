@@ -50,7 +50,7 @@ void SiblingIndex::noteName(std::uint32_t place)
 
 void SiblingIndex::noteClass(const NxNode& child)
 {
-    // Nodes of a class tend to come in rows.
+    // Consecutive nodes often have the same class.
     const char* const className = child.getClassName();
     if (className != m_lastClass) {
         m_lastClass = className;
@@ -59,7 +59,7 @@ void SiblingIndex::noteClass(const NxNode& child)
     m_indices.push_back((*m_lastCount)++);
 }
 
-// The slot of that name, or the free one that it goes to; there are twice as many slots as names.
+// The slot of that name, or the free slot for it; there are twice as many slots as names.
 std::size_t SiblingIndex::slotOf(std::string_view name) const
 {
     const auto children = m_parent.getChildren();

@@ -46,7 +46,7 @@ NxField* NodeClass::field(const NxNode& node, std::size_t index) const
 
 const NodeClass& NodeClasses::find(std::string_view name)
 {
-    // Nodes of a class tend to come in rows.
+    // Consecutive nodes often have the same class.
     if (m_latest != nullptr && m_latest->name() == name)
         return *m_latest;
     const auto place = m_classes.find(name);

@@ -48,7 +48,7 @@ RawValue::Progress RawValue::scanPlain(TextReader& reader, std::size_t budget)
 {
     const std::string_view slice = reader.rest().substr(0, budget);
     const std::size_t run = std::min(slice.find_first_of(m_comment ? "\n" : "\"[]{}#;\n"), slice.size());
-    // Blanks at the end aren't part of the value.
+    // Blanks at the end don't belong to the value.
     if (const std::size_t last = slice.substr(0, run).find_last_not_of(" \t\r"); last != std::string_view::npos)
         m_length = reader.position() - m_start + last + 1;
     reader.advance(run);

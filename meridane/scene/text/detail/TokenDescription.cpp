@@ -16,7 +16,7 @@ bool endsWord(char character)
     return TextReader::isDelimiter(character) || character == '=' || character == ';';
 }
 
-/// The token at the start of the text, whole.
+/// The complete token at the start of the text.
 std::string_view tokenAt(std::string_view text)
 {
     if (text.front() == '"') {

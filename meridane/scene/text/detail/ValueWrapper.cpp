@@ -6,7 +6,7 @@ namespace meridane {
 
 namespace {
 
-constexpr std::size_t fullLine = 96; // bytes; a line ends with the first value that reaches beyond
+constexpr std::size_t fullLine = 96; // bytes; a line ends after the first value that exceeds this
 
 } // namespace
 
@@ -47,7 +47,7 @@ std::size_t ValueWrapper::passQuoted(std::string_view part) noexcept
     return length;
 }
 
-// Up to the next character behind which something else holds.
+// Up to the next character that changes the state.
 std::size_t ValueWrapper::passPlain(std::string_view part) noexcept
 {
     const auto* const end
