@@ -1,5 +1,5 @@
-#include "meridane/scene/nodes/NodeTraversal.h"
 #include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NodeTraversal.h"
 #include "meridane/scene/nodes/NxMesh.h"
 
 #include <QTest>
