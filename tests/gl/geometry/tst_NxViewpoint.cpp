@@ -180,7 +180,7 @@ private Q_SLOTS:
             reach = std::max({reach, std::abs(place[0] - 0.5F), std::abs(place[1] - 0.5F)});
             QVERIFY(viewpoint.distanceTo(point) > 0);
         }
-        QVERIFY2(reach < 0.5F && reach > 0.4F, qPrintable(QString::number(reach)));
+        QVERIFY2(reach < 0.5F && reach > 0.4F, qPrintable(QString::number(static_cast<double>(reach))));
     }
 
     void framesAPointAtTheDistanceAsItIs()
