@@ -27,34 +27,33 @@ QString quoted(QString text)
 
 QString describe(const JsonToken& token)
 {
-    using Kind = JsonToken::Kind;
     switch (token.kind) {
-    case Kind::ObjectBegin:
+    case JsonToken::Kind::ObjectBegin:
         return QStringLiteral("an object");
-    case Kind::ObjectEnd:
+    case JsonToken::Kind::ObjectEnd:
         return QStringLiteral("\"}\"");
-    case Kind::ArrayBegin:
+    case JsonToken::Kind::ArrayBegin:
         return QStringLiteral("a list");
-    case Kind::ArrayEnd:
+    case JsonToken::Kind::ArrayEnd:
         return QStringLiteral("\"]\"");
-    case Kind::Colon:
+    case JsonToken::Kind::Colon:
         return QStringLiteral("\":\"");
-    case Kind::Comma:
+    case JsonToken::Kind::Comma:
         return QStringLiteral("\",\"");
-    case Kind::String:
+    case JsonToken::Kind::String:
         return QStringLiteral("the text %1").arg(quoted(token.text));
-    case Kind::True:
+    case JsonToken::Kind::True:
         return QStringLiteral("true");
-    case Kind::False:
+    case JsonToken::Kind::False:
         return QStringLiteral("false");
-    case Kind::Null:
+    case JsonToken::Kind::Null:
         return QStringLiteral("null");
-    case Kind::Number:
+    case JsonToken::Kind::Number:
         return QStringLiteral("a number");
-    case Kind::End:
+    case JsonToken::Kind::End:
         return QStringLiteral("the end of the file");
-    case Kind::Unknown:
-    case Kind::Bad:
+    case JsonToken::Kind::Unknown:
+    case JsonToken::Kind::Bad:
         break;
     }
     return quoted(token.text);
