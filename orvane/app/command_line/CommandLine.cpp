@@ -65,10 +65,11 @@ Result<CommandLine::Assignment> parseAssignment(const QString& argument)
             ++i;
         else if (character == u'"')
             quoted = !quoted;
-        else if (character == u'=' && !quoted && i > 0)
-            return CommandLine::Assignment{argument.left(i), argument.mid(i + 1)};
-        else if (character == u'=' && !quoted)
+        else if (character == u'=' && !quoted) {
+            if (i > 0)
+                return CommandLine::Assignment{argument.left(i), argument.mid(i + 1)};
             break;
+        }
     }
     return Failure{QStringLiteral("--set expects PATH=TEXT, not '%1'.").arg(argument)};
 }
