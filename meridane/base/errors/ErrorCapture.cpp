@@ -18,10 +18,10 @@ struct HandlerAccess {
 };
 
 template <typename Error>
-constexpr HandlerAccess access{&Error::getHandlerCallback, &Error::getHandlerData, &Error::setHandlerCallback};
+constexpr HandlerAccess accessTo{&Error::getHandlerCallback, &Error::getHandlerData, &Error::setHandlerCallback};
 
-constexpr std::array<HandlerAccess, ErrorCapture::classCount> errorClasses{access<NxDebugError>, access<NxError>,
-    access<NxErrorStack>, access<NxGLError>, access<NxMemoryError>, access<NxReadError>};
+constexpr std::array<HandlerAccess, ErrorCapture::classCount> errorClasses{accessTo<NxDebugError>, accessTo<NxError>,
+    accessTo<NxErrorStack>, accessTo<NxGLError>, accessTo<NxMemoryError>, accessTo<NxReadError>};
 
 } // namespace
 
