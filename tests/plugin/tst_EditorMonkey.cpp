@@ -120,32 +120,30 @@ private:
 
 } // namespace
 
-class tst_EditorMonkey : public QObject {
+class TestEditorMonkey : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void editorsWithstandAnything();
+    void editorsWithstandAnything()
+    {
+        bool isSet = false;
+        const int wanted = qEnvironmentVariableIntValue("MONKEY_SEED", &isSet);
+        const unsigned seed = isSet ? static_cast<unsigned>(wanted) : usualSeed;
+        qInfo("The seed is %u.", seed);
+        {
+            MonkeyRun run(seed);
+            for (int step = 1; step <= steps; ++step) {
+                run.step();
+                if (step % 1000 == 0)
+                    run.checkFields();
+                if (QTest::currentTestFailed())
+                    QFAIL(qPrintable(QStringLiteral("That was step %1 of the seed %2.").arg(step).arg(seed)));
+            }
+            run.checkReach();
+        }
+        QVERIFY(ToolHarness::noWidgetIsLeft());
+    }
 };
 
-void tst_EditorMonkey::editorsWithstandAnything()
-{
-    bool isSet = false;
-    const int wanted = qEnvironmentVariableIntValue("MONKEY_SEED", &isSet);
-    const unsigned seed = isSet ? static_cast<unsigned>(wanted) : usualSeed;
-    qInfo("The seed is %u.", seed);
-    {
-        MonkeyRun run(seed);
-        for (int step = 1; step <= steps; ++step) {
-            run.step();
-            if (step % 1000 == 0)
-                run.checkFields();
-            if (QTest::currentTestFailed())
-                QFAIL(qPrintable(QStringLiteral("That was step %1 of the seed %2.").arg(step).arg(seed)));
-        }
-        run.checkReach();
-    }
-    QVERIFY(ToolHarness::noWidgetIsLeft());
-}
-
-QTEST_MAIN(tst_EditorMonkey)
+QTEST_MAIN(TestEditorMonkey)
 #include "tst_EditorMonkey.moc"

@@ -82,143 +82,134 @@ QString nameOf(const OrvExtension* extension)
 
 } // namespace
 
-class tst_OrvDefaults : public QObject {
+class TestOrvDefaults : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() { m_tool = std::make_unique<ToolHarness>(); }
-    void cleanup();
-    void constructorWritesTheStrings();
-    void constructorRegistersNothing();
-    void extensionsAreRegisteredInTheirOrder();
-    void editorsHandleTheirTypes();
-    void editorsBearTheNamesOfTheirClasses();
-    void declarationDecidesTheAddresses();
-    void unloadPluginDestroysTheObjectOnce();
-    void unloadPluginWithoutAPluginDoesNothing();
-    void secondLoadPluginReplacesTheFirstObject();
+
+    void cleanup()
+    {
+        m_tool.reset();
+        QVERIFY(ToolHarness::noWidgetIsLeft());
+    }
+
+    void constructorWritesTheStrings()
+    {
+        const OrvDefaults plugin;
+        QCOMPARE(plugin.getName(), VbString("OrvDefaults"));
+        QCOMPARE(plugin.getAuthor(), VbString("KLD"));
+        QCOMPARE(plugin.getDescription(), VbString("Plug-in which loads Orvane default extensions."));
+        QCOMPARE(plugin.getVersion(), VbString("1.0.0"));
+        QCOMPARE(plugin.getInterfaceVersion(), orvaneInterfaceVersion);
+    }
+
+    void constructorRegistersNothing()
+    {
+        const OrvDefaults plugin;
+        QVERIFY(plugin.getExtensions().isEmpty());
+    }
+
+    void extensionsAreRegisteredInTheirOrder()
+    {
+        OrvDefaults plugin;
+        plugin.load();
+        QStringList names;
+        for (const OrvExtension* const extension : plugin.getExtensions())
+            names << nameOf(extension);
+        QStringList expected;
+        for (const Entry& entry : roster)
+            expected << entry.name;
+        QCOMPARE(names, expected);
+        plugin.unload();
+    }
+
+    void editorsHandleTheirTypes()
+    {
+        OrvDefaults plugin;
+        plugin.load();
+        QCOMPARE(plugin.getExtensions().size(), roster.size());
+        for (qsizetype index = 0; index < roster.size(); ++index) {
+            auto* const editor = dynamic_cast<OrvEditor*>(plugin.getExtensions().at(index));
+            QCOMPARE(editor == nullptr, roster.at(index).handledType.isEmpty());
+            if (editor != nullptr)
+                QCOMPARE(
+                    QString::fromLatin1(editor->getHandledType().getName().getString()), roster.at(index).handledType);
+        }
+        plugin.unload();
+    }
+
+    void editorsBearTheNamesOfTheirClasses()
+    {
+        OrvDefaults plugin;
+        plugin.load();
+        for (const OrvExtension* const extension : plugin.getExtensions()) {
+            // Some have no meta object of their own, so their class has to be told from the name.
+            const QString word = nameOf(extension);
+            const QHash<QString, QString> stems{{QStringLiteral("SField"), QStringLiteral("SFLine")},
+                {QStringLiteral("MField"), QStringLiteral("MFDefaultField")}};
+            const QString stem = stems.value(word, word);
+            if (dynamic_cast<const OrvEditor*>(extension) != nullptr)
+                QCOMPARE(extension->objectName(), QStringLiteral("Dv%1Widget").arg(stem));
+        }
+        plugin.unload();
+    }
+
+    void declarationDecidesTheAddresses()
+    {
+        OrvDefaults plugin;
+        plugin.load();
+        QList<OrvExtension*> byAddress = plugin.getExtensions();
+        std::sort(byAddress.begin(), byAddress.end(), std::less<>());
+        QStringList declared;
+        for (const OrvExtension* const extension : byAddress)
+            declared << nameOf(extension);
+        QStringList expected;
+        for (const Entry& entry : roster)
+            expected << entry.name;
+        // The one that is registered elsewhere than it is declared.
+        const QString path = QStringLiteral("SFFilePathString");
+        expected.removeOne(path);
+        expected.insert(expected.indexOf(QStringLiteral("SFFloat")), path);
+        QCOMPARE(declared, expected);
+        plugin.unload();
+    }
+
+    void unloadPluginDestroysTheObjectOnce()
+    {
+        OrvPlugin* const plugin = loadPlugin();
+        QVERIFY(plugin != nullptr);
+        QVERIFY(plugin->getExtensions().isEmpty()); // loading is the host's step
+        plugin->load();
+        const QPointer<OrvExtension> extension = plugin->getExtensions().constFirst();
+        plugin->unload();
+        QVERIFY(!extension.isNull());
+        unloadPlugin();
+        QVERIFY(extension.isNull());
+        unloadPlugin();
+    }
+
+    void unloadPluginWithoutAPluginDoesNothing()
+    {
+        unloadPlugin();
+        unloadPlugin();
+    }
+
+    void secondLoadPluginReplacesTheFirstObject()
+    {
+        const std::unique_ptr<OrvDefaults> first(static_cast<OrvDefaults*>(loadPlugin()));
+        first->load();
+        const QPointer<OrvExtension> extension = first->getExtensions().constFirst();
+        OrvPlugin* const second = loadPlugin();
+        QVERIFY(second != first.get());
+        unloadPlugin();
+        QVERIFY(!extension.isNull());
+        first->unload();
+    }
 
 private:
     std::unique_ptr<ToolHarness> m_tool;
 };
 
-void tst_OrvDefaults::cleanup()
-{
-    m_tool.reset();
-    QVERIFY(ToolHarness::noWidgetIsLeft());
-}
-
-void tst_OrvDefaults::constructorWritesTheStrings()
-{
-    const OrvDefaults plugin;
-    QCOMPARE(plugin.getName(), VbString("OrvDefaults"));
-    QCOMPARE(plugin.getAuthor(), VbString("KLD"));
-    QCOMPARE(plugin.getDescription(), VbString("Plug-in which loads Orvane default extensions."));
-    QCOMPARE(plugin.getVersion(), VbString("1.0.0"));
-    QCOMPARE(plugin.getInterfaceVersion(), orvaneInterfaceVersion);
-}
-
-void tst_OrvDefaults::constructorRegistersNothing()
-{
-    const OrvDefaults plugin;
-    QVERIFY(plugin.getExtensions().isEmpty());
-}
-
-void tst_OrvDefaults::extensionsAreRegisteredInTheirOrder()
-{
-    OrvDefaults plugin;
-    plugin.load();
-    QStringList names;
-    for (const OrvExtension* const extension : plugin.getExtensions())
-        names << nameOf(extension);
-    QStringList expected;
-    for (const Entry& entry : roster)
-        expected << entry.name;
-    QCOMPARE(names, expected);
-    plugin.unload();
-}
-
-void tst_OrvDefaults::editorsHandleTheirTypes()
-{
-    OrvDefaults plugin;
-    plugin.load();
-    QCOMPARE(plugin.getExtensions().size(), roster.size());
-    for (qsizetype index = 0; index < roster.size(); ++index) {
-        auto* const editor = dynamic_cast<OrvEditor*>(plugin.getExtensions().at(index));
-        QCOMPARE(editor == nullptr, roster.at(index).handledType.isEmpty());
-        if (editor != nullptr)
-            QCOMPARE(QString::fromLatin1(editor->getHandledType().getName().getString()), roster.at(index).handledType);
-    }
-    plugin.unload();
-}
-
-void tst_OrvDefaults::editorsBearTheNamesOfTheirClasses()
-{
-    OrvDefaults plugin;
-    plugin.load();
-    for (const OrvExtension* const extension : plugin.getExtensions()) {
-        // Some have no meta object of their own, so their class has to be told from the name.
-        const QString word = nameOf(extension);
-        const QHash<QString, QString> stems{{QStringLiteral("SField"), QStringLiteral("SFLine")},
-            {QStringLiteral("MField"), QStringLiteral("MFDefaultField")}};
-        const QString stem = stems.value(word, word);
-        if (dynamic_cast<const OrvEditor*>(extension) != nullptr)
-            QCOMPARE(extension->objectName(), QStringLiteral("Dv%1Widget").arg(stem));
-    }
-    plugin.unload();
-}
-
-void tst_OrvDefaults::declarationDecidesTheAddresses()
-{
-    OrvDefaults plugin;
-    plugin.load();
-    QList<OrvExtension*> byAddress = plugin.getExtensions();
-    std::sort(byAddress.begin(), byAddress.end(), std::less<>());
-    QStringList declared;
-    for (const OrvExtension* const extension : byAddress)
-        declared << nameOf(extension);
-    QStringList expected;
-    for (const Entry& entry : roster)
-        expected << entry.name;
-    // The one that is registered elsewhere than it is declared.
-    const QString path = QStringLiteral("SFFilePathString");
-    expected.removeOne(path);
-    expected.insert(expected.indexOf(QStringLiteral("SFFloat")), path);
-    QCOMPARE(declared, expected);
-    plugin.unload();
-}
-
-void tst_OrvDefaults::unloadPluginDestroysTheObjectOnce()
-{
-    OrvPlugin* const plugin = loadPlugin();
-    QVERIFY(plugin != nullptr);
-    QVERIFY(plugin->getExtensions().isEmpty()); // loading is the host's step
-    plugin->load();
-    const QPointer<OrvExtension> extension = plugin->getExtensions().constFirst();
-    plugin->unload();
-    QVERIFY(!extension.isNull());
-    unloadPlugin();
-    QVERIFY(extension.isNull());
-    unloadPlugin();
-}
-
-void tst_OrvDefaults::unloadPluginWithoutAPluginDoesNothing()
-{
-    unloadPlugin();
-    unloadPlugin();
-}
-
-void tst_OrvDefaults::secondLoadPluginReplacesTheFirstObject()
-{
-    const std::unique_ptr<OrvDefaults> first(static_cast<OrvDefaults*>(loadPlugin()));
-    first->load();
-    const QPointer<OrvExtension> extension = first->getExtensions().constFirst();
-    OrvPlugin* const second = loadPlugin();
-    QVERIFY(second != first.get());
-    unloadPlugin();
-    QVERIFY(!extension.isNull());
-    first->unload();
-}
-
-QTEST_MAIN(tst_OrvDefaults)
+QTEST_MAIN(TestOrvDefaults)
 #include "tst_OrvDefaults.moc"

@@ -41,20 +41,99 @@ struct Extensions {
 
 } // namespace
 
-class tst_OrvNodeEditor : public QObject {
+class TestOrvNodeEditor : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void constructorWritesTheStrings();
-    void activateAndDeactivateSpeakToTheShell();
-    void editorOfTheNodeIsShown();
-    void selectedFieldsAreNotFollowed();
-    void fieldEditorsFitNoNode();
-    void aFieldEditorOfANodeStaysHiddenInTheDock();
-    void noSelectionReleasesTheEditor();
-    void slotIsTheOnlyMetaMethod();
+    void init() { m_extensions = std::make_unique<Extensions>(); }
+
+    void cleanup()
+    {
+        m_tool.reset();
+        m_extensions.reset();
+        QVERIFY(ToolHarness::noWidgetIsLeft());
+    }
+
+    void constructorWritesTheStrings()
+    {
+        const OrvExtension& dock = m_extensions->dock;
+        QCOMPARE(dock.getName(), VbString("Node Editor"));
+        QCOMPARE(dock.getAuthor(), VbString("KLD"));
+        QCOMPARE(dock.getDescription(), VbString("Node Editor for Orvane."));
+        QCOMPARE(dock.getVersion(), VbString("1.0.0"));
+    }
+
+    void activateAndDeactivateSpeakToTheShell()
+    {
+        start({});
+        QCOMPARE(m_tool->dock()->windowTitle(), QStringLiteral("Node Editor"));
+        m_tool->manager.setActiveProfile(nullptr);
+        QCOMPARE(m_tool->shell.calls,
+            QStringList(
+                {QStringLiteral("addDockWidget Node Editor 2"), QStringLiteral("announceExtension Node Editor 1"),
+                    QStringLiteral("removeDockWidget Node Editor"), QStringLiteral("withdrawExtension Node Editor")}));
+    }
+
+    void editorOfTheNodeIsShown()
+    {
+        start({QStringLiteral("line"), QStringLiteral("gallery")});
+        m_tool->services.selectNode(m_tool->node.get());
+        QCOMPARE(m_tool->dock()->widget(), m_extensions->gallery.getWidget());
+        QVERIFY(m_tool->dock()->isVisible());
+        QCOMPARE(m_extensions->gallery.getEditedObject(), static_cast<NxTypedObject*>(m_tool->node.get()));
+        QVERIFY(m_extensions->gallery.isActive());
+    }
+
+    void selectedFieldsAreNotFollowed()
+    {
+        start({QStringLiteral("line"), QStringLiteral("gallery")});
+        m_tool->services.selectField(&m_tool->node->sfFloat);
+        QVERIFY(m_tool->dock()->isHidden());
+    }
+
+    void fieldEditorsFitNoNode()
+    {
+        start({QStringLiteral("line")});
+        m_tool->services.selectNode(m_tool->node.get());
+        QVERIFY(m_tool->dock()->isHidden());
+        QVERIFY(m_tool->dock()->widget() == nullptr);
+    }
+
+    void aFieldEditorOfANodeStaysHiddenInTheDock()
+    {
+        start({QStringLiteral("fields of nodes")});
+        m_extensions->calls.clear();
+        m_tool->services.selectNode(m_tool->node.get());
+        QVERIFY(m_tool->dock()->isVisible());
+        QCOMPARE(m_tool->dock()->widget(), m_extensions->fieldsOfNodes.getFrame());
+        QVERIFY(m_extensions->fieldsOfNodes.isActive());
+        QVERIFY(m_extensions->fieldsOfNodes.getFrame()->isHidden());
+        QVERIFY(!m_extensions->calls.contains(QStringLiteral("fields of nodes hide")));
+        QCoreApplication::processEvents();
+        QVERIFY(!m_extensions->fieldsOfNodes.getFrame()->isVisible());
+        m_tool->services.selectNode(nullptr);
+        QVERIFY(m_tool->dock()->isHidden());
+    }
+
+    void noSelectionReleasesTheEditor()
+    {
+        start({QStringLiteral("gallery")});
+        m_tool->services.selectNode(m_tool->node.get());
+        m_tool->services.selectNode(nullptr);
+        QVERIFY(m_tool->dock()->isHidden());
+        QVERIFY(m_tool->dock()->widget() == nullptr);
+        QVERIFY(m_extensions->gallery.getWidget()->parent() == nullptr);
+        QVERIFY(!m_extensions->gallery.isActive());
+    }
+
+    void slotIsTheOnlyMetaMethod()
+    {
+        const QMetaObject& meta = OrvNodeEditor::staticMetaObject;
+        QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
+        QCOMPARE(
+            meta.method(meta.methodOffset()).methodSignature(), QByteArray("s_selectedNodeChanged(NxFieldContainer*)"));
+        QCOMPARE(meta.superClass(), &OrvExtension::staticMetaObject);
+    }
 
 private:
     void start(const QStringList& controlled)
@@ -68,97 +147,5 @@ private:
     std::unique_ptr<HostHarness> m_tool;
 };
 
-void tst_OrvNodeEditor::init()
-{
-    m_extensions = std::make_unique<Extensions>();
-}
-
-void tst_OrvNodeEditor::cleanup()
-{
-    m_tool.reset();
-    m_extensions.reset();
-    QVERIFY(ToolHarness::noWidgetIsLeft());
-}
-
-void tst_OrvNodeEditor::constructorWritesTheStrings()
-{
-    const OrvExtension& dock = m_extensions->dock;
-    QCOMPARE(dock.getName(), VbString("Node Editor"));
-    QCOMPARE(dock.getAuthor(), VbString("KLD"));
-    QCOMPARE(dock.getDescription(), VbString("Node Editor for Orvane."));
-    QCOMPARE(dock.getVersion(), VbString("1.0.0"));
-}
-
-void tst_OrvNodeEditor::activateAndDeactivateSpeakToTheShell()
-{
-    start({});
-    QCOMPARE(m_tool->dock()->windowTitle(), QStringLiteral("Node Editor"));
-    m_tool->manager.setActiveProfile(nullptr);
-    QCOMPARE(m_tool->shell.calls,
-        QStringList({QStringLiteral("addDockWidget Node Editor 2"), QStringLiteral("announceExtension Node Editor 1"),
-            QStringLiteral("removeDockWidget Node Editor"), QStringLiteral("withdrawExtension Node Editor")}));
-}
-
-void tst_OrvNodeEditor::editorOfTheNodeIsShown()
-{
-    start({QStringLiteral("line"), QStringLiteral("gallery")});
-    m_tool->services.selectNode(m_tool->node.get());
-    QCOMPARE(m_tool->dock()->widget(), m_extensions->gallery.getWidget());
-    QVERIFY(m_tool->dock()->isVisible());
-    QCOMPARE(m_extensions->gallery.getEditedObject(), static_cast<NxTypedObject*>(m_tool->node.get()));
-    QVERIFY(m_extensions->gallery.isActive());
-}
-
-void tst_OrvNodeEditor::selectedFieldsAreNotFollowed()
-{
-    start({QStringLiteral("line"), QStringLiteral("gallery")});
-    m_tool->services.selectField(&m_tool->node->sfFloat);
-    QVERIFY(m_tool->dock()->isHidden());
-}
-
-void tst_OrvNodeEditor::fieldEditorsFitNoNode()
-{
-    start({QStringLiteral("line")});
-    m_tool->services.selectNode(m_tool->node.get());
-    QVERIFY(m_tool->dock()->isHidden());
-    QVERIFY(m_tool->dock()->widget() == nullptr);
-}
-
-void tst_OrvNodeEditor::aFieldEditorOfANodeStaysHiddenInTheDock()
-{
-    start({QStringLiteral("fields of nodes")});
-    m_extensions->calls.clear();
-    m_tool->services.selectNode(m_tool->node.get());
-    QVERIFY(m_tool->dock()->isVisible());
-    QCOMPARE(m_tool->dock()->widget(), m_extensions->fieldsOfNodes.getFrame());
-    QVERIFY(m_extensions->fieldsOfNodes.isActive());
-    QVERIFY(m_extensions->fieldsOfNodes.getFrame()->isHidden());
-    QVERIFY(!m_extensions->calls.contains(QStringLiteral("fields of nodes hide")));
-    QCoreApplication::processEvents();
-    QVERIFY(!m_extensions->fieldsOfNodes.getFrame()->isVisible());
-    m_tool->services.selectNode(nullptr);
-    QVERIFY(m_tool->dock()->isHidden());
-}
-
-void tst_OrvNodeEditor::noSelectionReleasesTheEditor()
-{
-    start({QStringLiteral("gallery")});
-    m_tool->services.selectNode(m_tool->node.get());
-    m_tool->services.selectNode(nullptr);
-    QVERIFY(m_tool->dock()->isHidden());
-    QVERIFY(m_tool->dock()->widget() == nullptr);
-    QVERIFY(m_extensions->gallery.getWidget()->parent() == nullptr);
-    QVERIFY(!m_extensions->gallery.isActive());
-}
-
-void tst_OrvNodeEditor::slotIsTheOnlyMetaMethod()
-{
-    const QMetaObject& meta = OrvNodeEditor::staticMetaObject;
-    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
-    QCOMPARE(
-        meta.method(meta.methodOffset()).methodSignature(), QByteArray("s_selectedNodeChanged(NxFieldContainer*)"));
-    QCOMPARE(meta.superClass(), &OrvExtension::staticMetaObject);
-}
-
-QTEST_MAIN(tst_OrvNodeEditor)
+QTEST_MAIN(TestOrvNodeEditor)
 #include "tst_OrvNodeEditor.moc"

@@ -40,326 +40,308 @@ QString textOf(const NxField& field)
 
 } // namespace
 
-class tst_RowCommands : public QObject {
+class TestRowCommands : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void addedRowsOfAStringListAreEmpty();
-    void addedRowsOfANumberListKeepWhatTheyAreMadeWith();
-    void addTellsTheObserversEvenWhenNothingIsAdded();
-    void undoOfAddRemovesTheRows();
-    void deleteSavesTheRowsAheadOfAnyChange();
-    void undoOfDeletePutsTheRowsBack();
-    void deleteOfNoRowRemovesNothing();
-    void undoOfDeletingManyRowsOpensThemAtOnce();
-    void swapUndoesItself();
-    void swapOfARowWithItselfWritesItTwice();
-    void setFieldValueWritesTheValueThatItFound();
-    void setValueTakesASnapshotOnce();
-    void setValueWithoutASnapshotKeepsTheNewValue_data();
-    void setValueWithoutASnapshotKeepsTheNewValue();
-    void pushedRowCommandHasNoMemory();
-    void rowsThatDoNotFitLeaveTheValues();
-    void deletedRowsThatDoNotFitAnyMoreStayAway();
-    void historyFollowsAModel();
+    void addedRowsOfAStringListAreEmpty()
+    {
+        NxMFString list(nullptr, "list");
+        list.set("[\"a\", \"b\"]");
+        OrvMFAddRowsCommand command(&list, 1, 2);
+        QCOMPARE(list.getNum(), 2); // the command itself makes the change
+        command.execute();
+        QCOMPARE(textOf(list), QStringLiteral("[\"a\", \"\", \"\", \"b\"]"));
+    }
+
+    void addedRowsOfANumberListKeepWhatTheyAreMadeWith()
+    {
+        NxMFFloat list(nullptr, "list");
+        list.set("[1, 2]");
+        OrvMFAddRowsCommand command(&list, 0, 1);
+        command.execute();
+        QCOMPARE(textOf(list), QStringLiteral("[0, 1, 2]"));
+    }
+
+    void addTellsTheObserversEvenWhenNothingIsAdded()
+    {
+        NxMFFloat list(nullptr, "list");
+        WriteCounter counter(list);
+        OrvMFAddRowsCommand(&list, 0, 0).execute();
+        QCOMPARE(counter.writes, 1);
+    }
+
+    void undoOfAddRemovesTheRows()
+    {
+        NxMFFloat list(nullptr, "list");
+        list.set("[1, 2]");
+        OrvMFAddRowsCommand command(&list, 1, 3);
+        command.execute();
+        command.undo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
+        command.redo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 0, 0, 0, 2]"));
+    }
+
+    void deleteSavesTheRowsAheadOfAnyChange()
+    {
+        NxMFFloat list(nullptr, "list");
+        list.set("[1, 2, 3]");
+        OrvMFDeleteRowsCommand command(&list, 1, 1);
+        list.set("[1, 9, 3]");
+        command.execute();
+        command.undo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2, 3]"));
+    }
+
+    void undoOfDeletePutsTheRowsBack()
+    {
+        NxMFString list(nullptr, "list");
+        list.set("[\"a\", \"b\", \"c, d\", \"\\\"\", \"\", \"f\"]");
+        const QString before = textOf(list);
+        OrvMFDeleteRowsCommand command(&list, 2, 3);
+        command.execute();
+        QCOMPARE(textOf(list), QStringLiteral("[\"a\", \"b\", \"f\"]"));
+        WriteCounter counter(list);
+        command.undo();
+        QCOMPARE(textOf(list), before);
+        QCOMPARE(counter.writes, 4); // the room, and each of the rows
+        command.redo();
+        QCOMPARE(list.getNum(), 3);
+    }
+
+    void deleteOfNoRowRemovesNothing()
+    {
+        NxMFFloat list(nullptr, "list");
+        list.set("[1, 2]");
+        OrvMFDeleteRowsCommand command(&list, 1, 0);
+        command.execute();
+        command.undo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
+    }
+
+    void undoOfDeletingManyRowsOpensThemAtOnce()
+    {
+        constexpr int rows = 100'000;
+        RecordingList list;
+        std::vector<int> values(rows);
+        std::mt19937 random(7);
+        std::generate(values.begin(), values.end(), [&random] { return static_cast<int>(random()); });
+        list.setValues(std::span<const int>(values));
+        OrvMFDeleteRowsCommand command(&list, 0, rows);
+        command.execute();
+        QCOMPARE(list.getNum(), 0);
+        command.undo();
+        QCOMPARE(list.insertions, 1);
+        QVERIFY(std::equal(values.begin(), values.end(), list.getValues().begin(), list.getValues().end()));
+    }
+
+    void swapUndoesItself()
+    {
+        NxMFDouble list(nullptr, "list");
+        list.set("[0.1, 2, 1e300]");
+        const QString before = textOf(list);
+        OrvMFSwapRowsCommand command(&list, 0, 2);
+        command.execute();
+        QCOMPARE(textOf(list), QStringLiteral("[1e+300, 2, 0.1]"));
+        command.undo();
+        QCOMPARE(textOf(list), before);
+        command.redo();
+        QCOMPARE(textOf(list), QStringLiteral("[1e+300, 2, 0.1]"));
+    }
+
+    void swapOfARowWithItselfWritesItTwice()
+    {
+        NxMFDouble list(nullptr, "list");
+        list.set("[1, 2]");
+        WriteCounter counter(list);
+        OrvMFSwapRowsCommand(&list, 1, 1).execute();
+        QCOMPARE(counter.writes, 2);
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
+    }
+
+    void setFieldValueWritesTheValueThatItFound()
+    {
+        NxMFDouble list(nullptr, "list");
+        list.set("[1, 2]");
+        OrvMFSetFieldValueCommand command(&list, 1);
+        WriteCounter counter(list);
+        command.execute();
+        QCOMPARE(counter.writes, 0);
+        list.set("[1, 5]");
+        command.undo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
+        list.set("[1, 5]");
+        command.redo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
+    }
+
+    void setValueTakesASnapshotOnce()
+    {
+        NxMFDouble list(nullptr, "list");
+        list.set("[1, 2]");
+        VbString snapshot("7");
+        OrvMFSetValueCommand command(&list, 1, snapshot);
+        QVERIFY(snapshot.isNull());
+        command.execute();
+        command.undo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 7]"));
+        command.redo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
+    }
+
+    void setValueWithoutASnapshotKeepsTheNewValue_data()
+    {
+        QTest::addColumn<bool>("null");
+        QTest::newRow("empty") << false;
+        QTest::newRow("null") << true;
+    }
+
+    void setValueWithoutASnapshotKeepsTheNewValue()
+    {
+        QFETCH(const bool, null);
+        NxMFDouble list(nullptr, "list");
+        list.set("[1, 2]");
+        VbString snapshot;
+        if (null)
+            snapshot.makeNull();
+        OrvMFSetValueCommand command(&list, 1, snapshot);
+        QCOMPARE(snapshot.isNull(), null);
+        command.execute();
+        list.set("[1, 9]");
+        command.undo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
+    }
+
+    void pushedRowCommandHasNoMemory()
+    {
+        ToolHarness tool;
+        tool.services.selectField(&tool.node->mfString);
+        tool.node->mfString.set("[\"a\", \"b\"]");
+        tool.node->mfString.set1(1, "\"new\"");
+        orvane::pushSetRowCommand(&tool.node->mfString, 1);
+        QCOMPARE(tool.services.pushed, 1);
+        tool.services.undo();
+        QCOMPARE(textOf(tool.node->mfString), QStringLiteral("[\"a\", \"new\"]"));
+        tool.services.redo();
+        QCOMPARE(textOf(tool.node->mfString), QStringLiteral("[\"a\", \"new\"]"));
+    }
+
+    void rowsThatDoNotFitLeaveTheValues()
+    {
+        RecordingList list;
+        list.set("[1, 2, 3]");
+        list.full = true;
+        OrvMFAddRowsCommand command(&list, 1, 2);
+        command.execute();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2, 3]"));
+        command.undo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2, 3]"));
+        list.full = false;
+        command.redo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 0, 0, 2, 3]"));
+    }
+
+    void deletedRowsThatDoNotFitAnyMoreStayAway()
+    {
+        RecordingList list;
+        list.set("[1, 2, 3, 4]");
+        OrvMFDeleteRowsCommand command(&list, 1, 2);
+        command.execute();
+        list.full = true;
+        command.undo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 4]"));
+        command.redo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 4]"));
+        list.full = false;
+        command.undo();
+        QCOMPARE(textOf(list), QStringLiteral("[1, 2, 3, 4]"));
+    }
+
+    // Any sequence of changes and steps through the history leaves what the same sequence leaves in a plain vector.
+    void historyFollowsAModel()
+    {
+        using Values = std::vector<int>;
+        ToolHarness tool;
+        NxMFInt32& list = tool.node->mfInt32;
+        tool.services.selectField(&list);
+        std::mt19937 random(20261121);
+        const auto below = [&random](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+        Values model;
+        // For each step of the history the values ahead of it and behind it; an edit is no step and lives on in both.
+        std::vector<std::pair<Values, Values>> steps;
+        std::size_t done = 0;
+        list.setValues(std::span<const int>());
+        const auto push = [&](OrvCommand* command, const Values& after) {
+            steps.resize(done);
+            steps.emplace_back(model, after);
+            ++done;
+            model = after;
+            tool.services.pushCommand(command);
+        };
+        for (int i = 0; i < 4000; ++i) {
+            const int rows = static_cast<int>(model.size());
+            Values after = model;
+            switch (below(6)) {
+            case 0: {
+                const int start = below(rows + 1);
+                const int count = 1 + below(3);
+                after.insert(after.begin() + start, static_cast<std::size_t>(count), 0);
+                push(new OrvMFAddRowsCommand(&list, start, count), after);
+                break;
+            }
+            case 1: {
+                if (rows == 0)
+                    break;
+                const int start = below(rows);
+                const int count = 1 + below(rows - start);
+                after.erase(after.begin() + start, after.begin() + start + count);
+                push(new OrvMFDeleteRowsCommand(&list, start, count), after);
+                break;
+            }
+            case 2: {
+                if (rows == 0)
+                    break;
+                const int first = below(rows);
+                const int second = below(rows);
+                std::swap(after[static_cast<std::size_t>(first)], after[static_cast<std::size_t>(second)]);
+                push(new OrvMFSwapRowsCommand(&list, first, second), after);
+                break;
+            }
+            case 3: {
+                // An edit, whose command only repeats it. The steps ahead of it would bring back older values around
+                // it.
+                if (rows == 0)
+                    break;
+                const int row = below(rows);
+                model[static_cast<std::size_t>(row)] = below(1000);
+                list.set1(row, std::to_string(model[static_cast<std::size_t>(row)]).c_str());
+                tool.services.clearHistory();
+                steps.clear();
+                done = 0;
+                orvane::pushSetRowCommand(&list, row);
+                steps.emplace_back(model, model);
+                done = 1;
+                break;
+            }
+            case 4:
+                if (done > 0) {
+                    model = steps[--done].first;
+                    tool.services.undo();
+                }
+                break;
+            default:
+                if (done < steps.size()) {
+                    model = steps[done++].second;
+                    tool.services.redo();
+                }
+                break;
+            }
+            QVERIFY2(std::equal(model.begin(), model.end(), list.getValues().begin(), list.getValues().end()),
+                qPrintable(QStringLiteral("after step %1").arg(i)));
+        }
+    }
 };
 
-void tst_RowCommands::addedRowsOfAStringListAreEmpty()
-{
-    NxMFString list(nullptr, "list");
-    list.set("[\"a\", \"b\"]");
-    OrvMFAddRowsCommand command(&list, 1, 2);
-    QCOMPARE(list.getNum(), 2); // the command itself makes the change
-    command.execute();
-    QCOMPARE(textOf(list), QStringLiteral("[\"a\", \"\", \"\", \"b\"]"));
-}
-
-void tst_RowCommands::addedRowsOfANumberListKeepWhatTheyAreMadeWith()
-{
-    NxMFFloat list(nullptr, "list");
-    list.set("[1, 2]");
-    OrvMFAddRowsCommand command(&list, 0, 1);
-    command.execute();
-    QCOMPARE(textOf(list), QStringLiteral("[0, 1, 2]"));
-}
-
-void tst_RowCommands::addTellsTheObserversEvenWhenNothingIsAdded()
-{
-    NxMFFloat list(nullptr, "list");
-    WriteCounter counter(list);
-    OrvMFAddRowsCommand(&list, 0, 0).execute();
-    QCOMPARE(counter.writes, 1);
-}
-
-void tst_RowCommands::undoOfAddRemovesTheRows()
-{
-    NxMFFloat list(nullptr, "list");
-    list.set("[1, 2]");
-    OrvMFAddRowsCommand command(&list, 1, 3);
-    command.execute();
-    command.undo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
-    command.redo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 0, 0, 0, 2]"));
-}
-
-void tst_RowCommands::deleteSavesTheRowsAheadOfAnyChange()
-{
-    NxMFFloat list(nullptr, "list");
-    list.set("[1, 2, 3]");
-    OrvMFDeleteRowsCommand command(&list, 1, 1);
-    list.set("[1, 9, 3]");
-    command.execute();
-    command.undo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2, 3]"));
-}
-
-void tst_RowCommands::undoOfDeletePutsTheRowsBack()
-{
-    NxMFString list(nullptr, "list");
-    list.set("[\"a\", \"b\", \"c, d\", \"\\\"\", \"\", \"f\"]");
-    const QString before = textOf(list);
-    OrvMFDeleteRowsCommand command(&list, 2, 3);
-    command.execute();
-    QCOMPARE(textOf(list), QStringLiteral("[\"a\", \"b\", \"f\"]"));
-    WriteCounter counter(list);
-    command.undo();
-    QCOMPARE(textOf(list), before);
-    QCOMPARE(counter.writes, 4); // the room, and each of the rows
-    command.redo();
-    QCOMPARE(list.getNum(), 3);
-}
-
-void tst_RowCommands::deleteOfNoRowRemovesNothing()
-{
-    NxMFFloat list(nullptr, "list");
-    list.set("[1, 2]");
-    OrvMFDeleteRowsCommand command(&list, 1, 0);
-    command.execute();
-    command.undo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
-}
-
-void tst_RowCommands::undoOfDeletingManyRowsOpensThemAtOnce()
-{
-    constexpr int rows = 100'000;
-    RecordingList list;
-    std::vector<int> values(rows);
-    std::mt19937 random(7);
-    std::generate(values.begin(), values.end(), [&random] { return static_cast<int>(random()); });
-    list.setValues(std::span<const int>(values));
-    OrvMFDeleteRowsCommand command(&list, 0, rows);
-    command.execute();
-    QCOMPARE(list.getNum(), 0);
-    command.undo();
-    QCOMPARE(list.insertions, 1);
-    QVERIFY(std::equal(values.begin(), values.end(), list.getValues().begin(), list.getValues().end()));
-}
-
-void tst_RowCommands::swapUndoesItself()
-{
-    NxMFDouble list(nullptr, "list");
-    list.set("[0.1, 2, 1e300]");
-    const QString before = textOf(list);
-    OrvMFSwapRowsCommand command(&list, 0, 2);
-    command.execute();
-    QCOMPARE(textOf(list), QStringLiteral("[1e+300, 2, 0.1]"));
-    command.undo();
-    QCOMPARE(textOf(list), before);
-    command.redo();
-    QCOMPARE(textOf(list), QStringLiteral("[1e+300, 2, 0.1]"));
-}
-
-void tst_RowCommands::swapOfARowWithItselfWritesItTwice()
-{
-    NxMFDouble list(nullptr, "list");
-    list.set("[1, 2]");
-    WriteCounter counter(list);
-    OrvMFSwapRowsCommand(&list, 1, 1).execute();
-    QCOMPARE(counter.writes, 2);
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
-}
-
-void tst_RowCommands::setFieldValueWritesTheValueThatItFound()
-{
-    NxMFDouble list(nullptr, "list");
-    list.set("[1, 2]");
-    OrvMFSetFieldValueCommand command(&list, 1);
-    WriteCounter counter(list);
-    command.execute();
-    QCOMPARE(counter.writes, 0);
-    list.set("[1, 5]");
-    command.undo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
-    list.set("[1, 5]");
-    command.redo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
-}
-
-void tst_RowCommands::setValueTakesASnapshotOnce()
-{
-    NxMFDouble list(nullptr, "list");
-    list.set("[1, 2]");
-    VbString snapshot("7");
-    OrvMFSetValueCommand command(&list, 1, snapshot);
-    QVERIFY(snapshot.isNull());
-    command.execute();
-    command.undo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 7]"));
-    command.redo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
-}
-
-void tst_RowCommands::setValueWithoutASnapshotKeepsTheNewValue_data()
-{
-    QTest::addColumn<bool>("null");
-    QTest::newRow("empty") << false;
-    QTest::newRow("null") << true;
-}
-
-void tst_RowCommands::setValueWithoutASnapshotKeepsTheNewValue()
-{
-    QFETCH(const bool, null);
-    NxMFDouble list(nullptr, "list");
-    list.set("[1, 2]");
-    VbString snapshot;
-    if (null)
-        snapshot.makeNull();
-    OrvMFSetValueCommand command(&list, 1, snapshot);
-    QCOMPARE(snapshot.isNull(), null);
-    command.execute();
-    list.set("[1, 9]");
-    command.undo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2]"));
-}
-
-void tst_RowCommands::pushedRowCommandHasNoMemory()
-{
-    ToolHarness tool;
-    tool.services.selectField(&tool.node->mfString);
-    tool.node->mfString.set("[\"a\", \"b\"]");
-    tool.node->mfString.set1(1, "\"new\"");
-    orvane::pushSetRowCommand(&tool.node->mfString, 1);
-    QCOMPARE(tool.services.pushed, 1);
-    tool.services.undo();
-    QCOMPARE(textOf(tool.node->mfString), QStringLiteral("[\"a\", \"new\"]"));
-    tool.services.redo();
-    QCOMPARE(textOf(tool.node->mfString), QStringLiteral("[\"a\", \"new\"]"));
-}
-
-void tst_RowCommands::rowsThatDoNotFitLeaveTheValues()
-{
-    RecordingList list;
-    list.set("[1, 2, 3]");
-    list.full = true;
-    OrvMFAddRowsCommand command(&list, 1, 2);
-    command.execute();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2, 3]"));
-    command.undo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2, 3]"));
-    list.full = false;
-    command.redo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 0, 0, 2, 3]"));
-}
-
-void tst_RowCommands::deletedRowsThatDoNotFitAnyMoreStayAway()
-{
-    RecordingList list;
-    list.set("[1, 2, 3, 4]");
-    OrvMFDeleteRowsCommand command(&list, 1, 2);
-    command.execute();
-    list.full = true;
-    command.undo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 4]"));
-    command.redo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 4]"));
-    list.full = false;
-    command.undo();
-    QCOMPARE(textOf(list), QStringLiteral("[1, 2, 3, 4]"));
-}
-
-// Any sequence of changes and steps through the history leaves what the same sequence leaves in a plain vector.
-void tst_RowCommands::historyFollowsAModel()
-{
-    using Values = std::vector<int>;
-    ToolHarness tool;
-    NxMFInt32& list = tool.node->mfInt32;
-    tool.services.selectField(&list);
-    std::mt19937 random(20261121);
-    const auto below = [&random](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
-    Values model;
-    // For each step of the history the values ahead of it and behind it; an edit is no step and lives on in both.
-    std::vector<std::pair<Values, Values>> steps;
-    std::size_t done = 0;
-    list.setValues(std::span<const int>());
-    const auto push = [&](OrvCommand* command, const Values& after) {
-        steps.resize(done);
-        steps.emplace_back(model, after);
-        ++done;
-        model = after;
-        tool.services.pushCommand(command);
-    };
-    for (int i = 0; i < 4000; ++i) {
-        const int rows = static_cast<int>(model.size());
-        Values after = model;
-        switch (below(6)) {
-        case 0: {
-            const int start = below(rows + 1);
-            const int count = 1 + below(3);
-            after.insert(after.begin() + start, static_cast<std::size_t>(count), 0);
-            push(new OrvMFAddRowsCommand(&list, start, count), after);
-            break;
-        }
-        case 1: {
-            if (rows == 0)
-                break;
-            const int start = below(rows);
-            const int count = 1 + below(rows - start);
-            after.erase(after.begin() + start, after.begin() + start + count);
-            push(new OrvMFDeleteRowsCommand(&list, start, count), after);
-            break;
-        }
-        case 2: {
-            if (rows == 0)
-                break;
-            const int first = below(rows);
-            const int second = below(rows);
-            std::swap(after[static_cast<std::size_t>(first)], after[static_cast<std::size_t>(second)]);
-            push(new OrvMFSwapRowsCommand(&list, first, second), after);
-            break;
-        }
-        case 3: {
-            // An edit, whose command only repeats it. The steps ahead of it would bring back older values around it.
-            if (rows == 0)
-                break;
-            const int row = below(rows);
-            model[static_cast<std::size_t>(row)] = below(1000);
-            list.set1(row, std::to_string(model[static_cast<std::size_t>(row)]).c_str());
-            tool.services.clearHistory();
-            steps.clear();
-            done = 0;
-            orvane::pushSetRowCommand(&list, row);
-            steps.emplace_back(model, model);
-            done = 1;
-            break;
-        }
-        case 4:
-            if (done > 0) {
-                model = steps[--done].first;
-                tool.services.undo();
-            }
-            break;
-        default:
-            if (done < steps.size()) {
-                model = steps[done++].second;
-                tool.services.redo();
-            }
-            break;
-        }
-        QVERIFY2(std::equal(model.begin(), model.end(), list.getValues().begin(), list.getValues().end()),
-            qPrintable(QStringLiteral("after step %1").arg(i)));
-    }
-}
-
-QTEST_MAIN(tst_RowCommands)
+QTEST_MAIN(TestRowCommands)
 #include "tst_RowCommands.moc"

@@ -81,260 +81,244 @@ QPair<int, int> inkedColumns(const QImage& image)
 
 } // namespace
 
-class tst_DvMFieldTableItemDelegate : public QObject {
+class TestDvMFieldTableItemDelegate : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void cleanup() { QVERIFY(ToolHarness::noWidgetIsLeft()); }
-    void validators_data();
-    void validators();
-    void lowestNumbersAreHeldBack();
-    void editorsOfOneColumn_data();
-    void editorsOfOneColumn();
-    void moreColumnsNeverHaveASlider();
-    void linesHaveNoFrameAndShowTheCell();
-    void realSlidersHaveTheRangeOfTheTable();
-    void unmodifiedLineWritesNothing();
-    void modifiedLineGoesToTheOwnerAndTheItem();
-    void intermediateTextStaysInTheItem();
-    void nullEditorWritesNothing();
-    void editorFillsTheCell();
-    void textIsPaintedInTheMiddle();
-    void selectedCellIsFilled();
-    void wideTextEndsInDots();
-    void itemsAreNotPainted();
-    void longTextIsEditedWhole();
-};
 
-void tst_DvMFieldTableItemDelegate::validators_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("validator");
-    QTest::addColumn<double>("bottom");
-    QTest::addColumn<double>("top");
-    QTest::newRow("0") << 0 << QString() << 0.0 << 0.0;
-    QTest::newRow("1") << 1 << QStringLiteral("QIntValidator") << -32767.0 << 32767.0;
-    QTest::newRow("2") << 2 << QStringLiteral("QIntValidator") << 0.0 << 65535.0;
-    QTest::newRow("3") << 3 << QStringLiteral("QIntValidator") << -2147483648.0 << 2147483647.0;
-    QTest::newRow("4") << 4 << QStringLiteral("QUIntValidator") << 0.0 << 0.0;
-    QTest::newRow("5") << 5 << QStringLiteral("QIntValidator") << -2147483647.0 << 2147483647.0;
-    QTest::newRow("6") << 6 << QStringLiteral("QULongValidator") << 0.0 << 0.0;
-    QTest::newRow("7") << 7 << QStringLiteral("QDoubleValidator") << -3.4028234663852886e38 << 3.4028234663852886e38;
-    QTest::newRow("8") << 8 << QStringLiteral("QDoubleValidator") << -std::numeric_limits<double>::infinity()
-                       << std::numeric_limits<double>::infinity();
-    QTest::newRow("9") << 9 << QString() << 0.0 << 0.0;
-}
-
-void tst_DvMFieldTableItemDelegate::validators()
-{
-    QFETCH(const int, kind);
-    QFETCH(const QString, validator);
-    QFETCH(const double, bottom);
-    QFETCH(const double, top);
-    Fixture fixture(2);
-    auto* const line = qobject_cast<QLineEdit*>(fixture.edit(kind));
-    QVERIFY(line != nullptr);
-    QCOMPARE(line->validator() != nullptr, !validator.isEmpty());
-    if (line->validator() == nullptr)
-        return;
-    QCOMPARE(QString::fromLatin1(line->validator()->metaObject()->className()), validator);
-    if (const auto* const whole = qobject_cast<const QIntValidator*>(line->validator())) {
-        QCOMPARE(static_cast<double>(whole->bottom()), bottom);
-        QCOMPARE(static_cast<double>(whole->top()), top);
-    } else if (const auto* const real = qobject_cast<const QDoubleValidator*>(line->validator())) {
-        QCOMPARE(real->bottom(), bottom);
-        QCOMPARE(real->top(), top);
-        QCOMPARE(real->decimals(), kind == 7 ? 6 : QDoubleValidator().decimals());
+    void validators_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("validator");
+        QTest::addColumn<double>("bottom");
+        QTest::addColumn<double>("top");
+        QTest::newRow("0") << 0 << QString() << 0.0 << 0.0;
+        QTest::newRow("1") << 1 << QStringLiteral("QIntValidator") << -32767.0 << 32767.0;
+        QTest::newRow("2") << 2 << QStringLiteral("QIntValidator") << 0.0 << 65535.0;
+        QTest::newRow("3") << 3 << QStringLiteral("QIntValidator") << -2147483648.0 << 2147483647.0;
+        QTest::newRow("4") << 4 << QStringLiteral("QUIntValidator") << 0.0 << 0.0;
+        QTest::newRow("5") << 5 << QStringLiteral("QIntValidator") << -2147483647.0 << 2147483647.0;
+        QTest::newRow("6") << 6 << QStringLiteral("QULongValidator") << 0.0 << 0.0;
+        QTest::newRow("7") << 7 << QStringLiteral("QDoubleValidator") << -3.4028234663852886e38
+                           << 3.4028234663852886e38;
+        QTest::newRow("8") << 8 << QStringLiteral("QDoubleValidator") << -std::numeric_limits<double>::infinity()
+                           << std::numeric_limits<double>::infinity();
+        QTest::newRow("9") << 9 << QString() << 0.0 << 0.0;
     }
-}
 
-void tst_DvMFieldTableItemDelegate::lowestNumbersAreHeldBack()
-{
-    Fixture fixture(2);
-    for (const auto& [kind, number] : {std::pair(1, "-32768"), std::pair(5, "-2147483648")}) {
+    void validators()
+    {
+        QFETCH(const int, kind);
+        QFETCH(const QString, validator);
+        QFETCH(const double, bottom);
+        QFETCH(const double, top);
+        Fixture fixture(2);
         auto* const line = qobject_cast<QLineEdit*>(fixture.edit(kind));
-        line->setText(QLatin1String(number));
-        line->setModified(true);
-        QVERIFY(!line->hasAcceptableInput());
-        fixture.table.itemDelegate()->setModelData(line, fixture.table.model(), fixture.table.model()->index(0, 0));
+        QVERIFY(line != nullptr);
+        QCOMPARE(line->validator() != nullptr, !validator.isEmpty());
+        if (line->validator() == nullptr)
+            return;
+        QCOMPARE(QString::fromLatin1(line->validator()->metaObject()->className()), validator);
+        if (const auto* const whole = qobject_cast<const QIntValidator*>(line->validator())) {
+            QCOMPARE(static_cast<double>(whole->bottom()), bottom);
+            QCOMPARE(static_cast<double>(whole->top()), top);
+        } else if (const auto* const real = qobject_cast<const QDoubleValidator*>(line->validator())) {
+            QCOMPARE(real->bottom(), bottom);
+            QCOMPARE(real->top(), top);
+            QCOMPARE(real->decimals(), kind == 7 ? 6 : QDoubleValidator().decimals());
+        }
+    }
+
+    void lowestNumbersAreHeldBack()
+    {
+        Fixture fixture(2);
+        for (const auto& [kind, number] : {std::pair(1, "-32768"), std::pair(5, "-2147483648")}) {
+            auto* const line = qobject_cast<QLineEdit*>(fixture.edit(kind));
+            line->setText(QLatin1String(number));
+            line->setModified(true);
+            QVERIFY(!line->hasAcceptableInput());
+            fixture.table.itemDelegate()->setModelData(line, fixture.table.model(), fixture.table.model()->index(0, 0));
+            QVERIFY(fixture.editor.written.isEmpty());
+        }
+    }
+
+    void editorsOfOneColumn_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QByteArray>("editor");
+        for (const int kind : {0, 3, 4, 8})
+            QTest::addRow("%d", kind) << kind << QByteArray("line");
+        for (const int kind : {1, 5})
+            QTest::addRow("%d", kind) << kind << QByteArray("signed");
+        for (const int kind : {2, 6})
+            QTest::addRow("%d", kind) << kind << QByteArray("unsigned");
+        QTest::addRow("7") << 7 << QByteArray("real");
+    }
+
+    void editorsOfOneColumn()
+    {
+        QFETCH(const int, kind);
+        QFETCH(const QByteArray, editor);
+        Fixture fixture;
+        QWidget* const made = fixture.edit(kind);
+        QCOMPARE(made->parentWidget(), fixture.table.viewport());
+        QCOMPARE(made->focusPolicy(), Qt::StrongFocus);
+        QCOMPARE(qobject_cast<QLineEdit*>(made) != nullptr, editor == "line");
+        QCOMPARE(dynamic_cast<DvIntSlider*>(made) != nullptr, editor == "signed");
+        QCOMPARE(dynamic_cast<DvUIntSlider*>(made) != nullptr, editor == "unsigned");
+        QCOMPARE(dynamic_cast<DvRealSlider*>(made) != nullptr, editor == "real");
+        QVERIFY(fixture.editor.written.isEmpty());
+        fixture.editor.cellText = QStringLiteral("7");
+        fixture.table.itemDelegate()->setEditorData(made, fixture.table.model()->index(1, 0));
+        if (editor == "line")
+            QCOMPARE(qobject_cast<QLineEdit*>(made)->text(), QStringLiteral("7"));
+        else
+            QCOMPARE(made->findChild<QLineEdit*>()->text().toDouble(), 7.0);
         QVERIFY(fixture.editor.written.isEmpty());
     }
-}
 
-void tst_DvMFieldTableItemDelegate::editorsOfOneColumn_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QByteArray>("editor");
-    for (const int kind : {0, 3, 4, 8})
-        QTest::addRow("%d", kind) << kind << QByteArray("line");
-    for (const int kind : {1, 5})
-        QTest::addRow("%d", kind) << kind << QByteArray("signed");
-    for (const int kind : {2, 6})
-        QTest::addRow("%d", kind) << kind << QByteArray("unsigned");
-    QTest::addRow("7") << 7 << QByteArray("real");
-}
+    void moreColumnsNeverHaveASlider()
+    {
+        Fixture fixture(2);
+        for (int kind = 0; kind <= 8; ++kind)
+            for (int column = 0; column < 2; ++column)
+                QVERIFY(qobject_cast<QLineEdit*>(fixture.edit(kind, 0, column)) != nullptr);
+    }
 
-void tst_DvMFieldTableItemDelegate::editorsOfOneColumn()
-{
-    QFETCH(const int, kind);
-    QFETCH(const QByteArray, editor);
-    Fixture fixture;
-    QWidget* const made = fixture.edit(kind);
-    QCOMPARE(made->parentWidget(), fixture.table.viewport());
-    QCOMPARE(made->focusPolicy(), Qt::StrongFocus);
-    QCOMPARE(qobject_cast<QLineEdit*>(made) != nullptr, editor == "line");
-    QCOMPARE(dynamic_cast<DvIntSlider*>(made) != nullptr, editor == "signed");
-    QCOMPARE(dynamic_cast<DvUIntSlider*>(made) != nullptr, editor == "unsigned");
-    QCOMPARE(dynamic_cast<DvRealSlider*>(made) != nullptr, editor == "real");
-    QVERIFY(fixture.editor.written.isEmpty());
-    fixture.editor.cellText = QStringLiteral("7");
-    fixture.table.itemDelegate()->setEditorData(made, fixture.table.model()->index(1, 0));
-    if (editor == "line")
-        QCOMPARE(qobject_cast<QLineEdit*>(made)->text(), QStringLiteral("7"));
-    else
-        QCOMPARE(made->findChild<QLineEdit*>()->text().toDouble(), 7.0);
-    QVERIFY(fixture.editor.written.isEmpty());
-}
+    void linesHaveNoFrameAndShowTheCell()
+    {
+        Fixture fixture;
+        const auto* const line = qobject_cast<QLineEdit*>(fixture.edit(0));
+        QCOMPARE(line->objectName(), QStringLiteral("qt_lineeditor"));
+        QVERIFY(!line->hasFrame());
+        QCOMPARE(line->text(), QStringLiteral("25"));
+        QVERIFY(!line->isModified());
+    }
 
-void tst_DvMFieldTableItemDelegate::moreColumnsNeverHaveASlider()
-{
-    Fixture fixture(2);
-    for (int kind = 0; kind <= 8; ++kind)
-        for (int column = 0; column < 2; ++column)
-            QVERIFY(qobject_cast<QLineEdit*>(fixture.edit(kind, 0, column)) != nullptr);
-}
+    void realSlidersHaveTheRangeOfTheTable()
+    {
+        Fixture fixture;
+        fixture.table.setRealRange(-3, 40);
+        fixture.table.setRangeBounded(true);
+        const auto* const slider = dynamic_cast<DvRealSlider*>(fixture.edit(7));
+        QCOMPARE(slider->lowerBound(), -3.0);
+        QCOMPARE(slider->upperBound(), 40.0);
+        QVERIFY(slider->isBounded());
+        QCOMPARE(slider->value(), 25.0);
+    }
 
-void tst_DvMFieldTableItemDelegate::linesHaveNoFrameAndShowTheCell()
-{
-    Fixture fixture;
-    const auto* const line = qobject_cast<QLineEdit*>(fixture.edit(0));
-    QCOMPARE(line->objectName(), QStringLiteral("qt_lineeditor"));
-    QVERIFY(!line->hasFrame());
-    QCOMPARE(line->text(), QStringLiteral("25"));
-    QVERIFY(!line->isModified());
-}
+    void unmodifiedLineWritesNothing()
+    {
+        Fixture fixture;
+        QLineEdit line(QStringLiteral("8"));
+        fixture.table.itemDelegate()->setModelData(&line, fixture.table.model(), fixture.table.model()->index(0, 0));
+        QVERIFY(fixture.editor.written.isEmpty());
+        QVERIFY(fixture.table.item(0, 0) == nullptr);
+    }
 
-void tst_DvMFieldTableItemDelegate::realSlidersHaveTheRangeOfTheTable()
-{
-    Fixture fixture;
-    fixture.table.setRealRange(-3, 40);
-    fixture.table.setRangeBounded(true);
-    const auto* const slider = dynamic_cast<DvRealSlider*>(fixture.edit(7));
-    QCOMPARE(slider->lowerBound(), -3.0);
-    QCOMPARE(slider->upperBound(), 40.0);
-    QVERIFY(slider->isBounded());
-    QCOMPARE(slider->value(), 25.0);
-}
+    void modifiedLineGoesToTheOwnerAndTheItem()
+    {
+        Fixture fixture(2);
+        QLineEdit line(QStringLiteral("8"));
+        line.setModified(true);
+        fixture.table.itemDelegate()->setModelData(&line, fixture.table.model(), fixture.table.model()->index(2, 1));
+        QCOMPARE(fixture.editor.written, QStringList(QStringLiteral("2 1 8")));
+        QCOMPARE(fixture.table.item(2, 1)->text(), QStringLiteral("8"));
+    }
 
-void tst_DvMFieldTableItemDelegate::unmodifiedLineWritesNothing()
-{
-    Fixture fixture;
-    QLineEdit line(QStringLiteral("8"));
-    fixture.table.itemDelegate()->setModelData(&line, fixture.table.model(), fixture.table.model()->index(0, 0));
-    QVERIFY(fixture.editor.written.isEmpty());
-    QVERIFY(fixture.table.item(0, 0) == nullptr);
-}
+    void intermediateTextStaysInTheItem()
+    {
+        Fixture fixture;
+        QLineEdit line(QStringLiteral("70000"));
+        fixture.table.setValueKind(2);
+        qobject_cast<DvMFieldTableItemDelegate*>(fixture.table.itemDelegate())->installValidator(&line);
+        line.setModified(true);
+        fixture.table.itemDelegate()->setModelData(&line, fixture.table.model(), fixture.table.model()->index(0, 0));
+        QVERIFY(fixture.editor.written.isEmpty());
+        QCOMPARE(fixture.table.item(0, 0)->text(), QStringLiteral("70000"));
+    }
 
-void tst_DvMFieldTableItemDelegate::modifiedLineGoesToTheOwnerAndTheItem()
-{
-    Fixture fixture(2);
-    QLineEdit line(QStringLiteral("8"));
-    line.setModified(true);
-    fixture.table.itemDelegate()->setModelData(&line, fixture.table.model(), fixture.table.model()->index(2, 1));
-    QCOMPARE(fixture.editor.written, QStringList(QStringLiteral("2 1 8")));
-    QCOMPARE(fixture.table.item(2, 1)->text(), QStringLiteral("8"));
-}
+    void nullEditorWritesNothing()
+    {
+        Fixture fixture;
+        fixture.table.itemDelegate()->setModelData(nullptr, fixture.table.model(), fixture.table.model()->index(0, 0));
+        QVERIFY(fixture.editor.written.isEmpty());
+    }
 
-void tst_DvMFieldTableItemDelegate::intermediateTextStaysInTheItem()
-{
-    Fixture fixture;
-    QLineEdit line(QStringLiteral("70000"));
-    fixture.table.setValueKind(2);
-    qobject_cast<DvMFieldTableItemDelegate*>(fixture.table.itemDelegate())->installValidator(&line);
-    line.setModified(true);
-    fixture.table.itemDelegate()->setModelData(&line, fixture.table.model(), fixture.table.model()->index(0, 0));
-    QVERIFY(fixture.editor.written.isEmpty());
-    QCOMPARE(fixture.table.item(0, 0)->text(), QStringLiteral("70000"));
-}
+    void editorFillsTheCell()
+    {
+        Fixture fixture;
+        QWidget* const editor = fixture.edit(5);
+        QStyleOptionViewItem option;
+        option.rect = QRect(7, 9, 90, 31);
+        fixture.table.itemDelegate()->updateEditorGeometry(editor, option, {});
+        QCOMPARE(editor->geometry(), option.rect);
+    }
 
-void tst_DvMFieldTableItemDelegate::nullEditorWritesNothing()
-{
-    Fixture fixture;
-    fixture.table.itemDelegate()->setModelData(nullptr, fixture.table.model(), fixture.table.model()->index(0, 0));
-    QVERIFY(fixture.editor.written.isEmpty());
-}
+    void textIsPaintedInTheMiddle()
+    {
+        Fixture fixture;
+        const auto [first, last] = inkedColumns(fixture.painted(QSize(200, 30)));
+        QVERIFY(first > 80 && last < 120);
+        QVERIFY(std::abs((200 - 1 - last) - first) <= 2);
+        QCOMPARE(fixture.editor.asked, QList<QPoint>(1, QPoint(1, 0))); // once a cell
+    }
 
-void tst_DvMFieldTableItemDelegate::editorFillsTheCell()
-{
-    Fixture fixture;
-    QWidget* const editor = fixture.edit(5);
-    QStyleOptionViewItem option;
-    option.rect = QRect(7, 9, 90, 31);
-    fixture.table.itemDelegate()->updateEditorGeometry(editor, option, {});
-    QCOMPARE(editor->geometry(), option.rect);
-}
+    void selectedCellIsFilled()
+    {
+        Fixture fixture;
+        const QImage plain = fixture.painted(QSize(200, 30));
+        const QImage selected = fixture.painted(QSize(200, 30), QStyle::State_Enabled | QStyle::State_Selected);
+        QCOMPARE(selected.pixelColor(2, 2), QColor(Qt::red));
+        // The text keeps its colour.
+        for (int x = 0; x < 200; ++x)
+            for (int y = 0; y < 30; ++y)
+                if (plain.pixelColor(x, y) == QColor(Qt::black))
+                    QCOMPARE(selected.pixelColor(x, y), QColor(Qt::black));
+    }
 
-void tst_DvMFieldTableItemDelegate::textIsPaintedInTheMiddle()
-{
-    Fixture fixture;
-    const auto [first, last] = inkedColumns(fixture.painted(QSize(200, 30)));
-    QVERIFY(first > 80 && last < 120);
-    QVERIFY(std::abs((200 - 1 - last) - first) <= 2);
-    QCOMPARE(fixture.editor.asked, QList<QPoint>(1, QPoint(1, 0))); // once a cell
-}
+    void wideTextEndsInDots()
+    {
+        Fixture fixture;
+        fixture.editor.cellText = QString(500, QLatin1Char('m'));
+        const QSize size(120, 30);
+        const QImage wide = fixture.painted(size);
+        const int count = [&] {
+            QImage image(size, QImage::Format_RGB32);
+            const QPainter painter(&image);
+            int fitting = 0;
+            while (
+                painter.fontMetrics().horizontalAdvance(QStringLiteral("...") + QString(fitting + 1, QLatin1Char('m')))
+                < size.width() - 4)
+                ++fitting;
+            return fitting;
+        }();
+        fixture.editor.cellText = QString(count, QLatin1Char('m')) + QStringLiteral("...");
+        QCOMPARE(wide, fixture.painted(size));
+    }
 
-void tst_DvMFieldTableItemDelegate::selectedCellIsFilled()
-{
-    Fixture fixture;
-    const QImage plain = fixture.painted(QSize(200, 30));
-    const QImage selected = fixture.painted(QSize(200, 30), QStyle::State_Enabled | QStyle::State_Selected);
-    QCOMPARE(selected.pixelColor(2, 2), QColor(Qt::red));
-    // The text keeps its colour.
-    for (int x = 0; x < 200; ++x)
-        for (int y = 0; y < 30; ++y)
-            if (plain.pixelColor(x, y) == QColor(Qt::black))
-                QCOMPARE(selected.pixelColor(x, y), QColor(Qt::black));
-}
+    void itemsAreNotPainted()
+    {
+        Fixture fixture;
+        const QImage before = fixture.painted(QSize(200, 30));
+        fixture.table.setPlaceholder(1, 0);
+        fixture.table.item(1, 0)->setText(QStringLiteral("99999"));
+        QCOMPARE(fixture.painted(QSize(200, 30)), before);
+    }
 
-void tst_DvMFieldTableItemDelegate::wideTextEndsInDots()
-{
-    Fixture fixture;
-    fixture.editor.cellText = QString(500, QLatin1Char('m'));
-    const QSize size(120, 30);
-    const QImage wide = fixture.painted(size);
-    const int count = [&] {
-        QImage image(size, QImage::Format_RGB32);
-        const QPainter painter(&image);
-        int fitting = 0;
-        while (painter.fontMetrics().horizontalAdvance(QStringLiteral("...") + QString(fitting + 1, QLatin1Char('m')))
-            < size.width() - 4)
-            ++fitting;
-        return fitting;
-    }();
-    fixture.editor.cellText = QString(count, QLatin1Char('m')) + QStringLiteral("...");
-    QCOMPARE(wide, fixture.painted(size));
-}
+    void longTextIsEditedWhole()
+    {
+        Fixture fixture;
+        fixture.editor.cellText = QString(100'000, QLatin1Char('x'));
+        auto* const line = qobject_cast<QLineEdit*>(fixture.edit(0));
+        fixture.table.itemDelegate()->setEditorData(line, fixture.table.model()->index(1, 0));
+        line->setCursorPosition(0);
+        line->insert(QStringLiteral("y"));
+        fixture.table.itemDelegate()->setModelData(line, fixture.table.model(), fixture.table.model()->index(1, 0));
+        QCOMPARE(fixture.editor.written.constFirst(), QStringLiteral("1 0 y") + QString(100'000, QLatin1Char('x')));
+    }
+};
 
-void tst_DvMFieldTableItemDelegate::itemsAreNotPainted()
-{
-    Fixture fixture;
-    const QImage before = fixture.painted(QSize(200, 30));
-    fixture.table.setPlaceholder(1, 0);
-    fixture.table.item(1, 0)->setText(QStringLiteral("99999"));
-    QCOMPARE(fixture.painted(QSize(200, 30)), before);
-}
-
-void tst_DvMFieldTableItemDelegate::longTextIsEditedWhole()
-{
-    Fixture fixture;
-    fixture.editor.cellText = QString(100'000, QLatin1Char('x'));
-    auto* const line = qobject_cast<QLineEdit*>(fixture.edit(0));
-    fixture.table.itemDelegate()->setEditorData(line, fixture.table.model()->index(1, 0));
-    line->setCursorPosition(0);
-    line->insert(QStringLiteral("y"));
-    fixture.table.itemDelegate()->setModelData(line, fixture.table.model(), fixture.table.model()->index(1, 0));
-    QCOMPARE(fixture.editor.written.constFirst(), QStringLiteral("1 0 y") + QString(100'000, QLatin1Char('x')));
-}
-
-QTEST_MAIN(tst_DvMFieldTableItemDelegate)
+QTEST_MAIN(TestDvMFieldTableItemDelegate)
 #include "tst_DvMFieldTableItemDelegate.moc"

@@ -39,307 +39,284 @@ NX_NODE_SOURCE(AppMaterial, NxMaterial, "AppMaterial")
 NX_NODE_SOURCE(AppLight, NxDirectionalLight, "AppLight")
 
 /// What the editors of float and double add to what all numeric editors do.
-class tst_RealFieldEditors : public QObject {
+class TestRealFieldEditors : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_complexity = new AppComplexity;
+        m_material = new AppMaterial;
+        m_light = new AppLight;
+    }
 
-    void rangeFollowsFromTheContainer_data();
-    void rangeFollowsFromTheContainer();
-    void doubleOfAUnitContainerStartsAtZeroToZero_data();
-    void doubleOfAUnitContainerStartsAtZeroToZero();
-    void fieldWithoutAContainerGetsThePlainRange();
+    void cleanup() { QVERIFY(ToolHarness::noWidgetIsLeft()); }
+
+    void rangeFollowsFromTheContainer_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"complexity.value", "complexity.textureQuality", "complexity.amount",
+                 "material.transparency", "material.shininess", "material.amount", "light.intensity", "light.amount"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void rangeFollowsFromTheContainer()
+    {
+        QFETCH(QString, name);
+        NumericEditorRun run(QStringLiteral("SFFloat"), QStringLiteral("0.5"));
+        QCOMPARE(rangeOf(run), (QList<double>{0, 10, false}));
+        NxField& unit = field(name);
+        unit.set("0.25");
+        run.select(&unit);
+        QCOMPARE(rangeOf(run), (QList<double>{0, 1, true}));
+        QCOMPARE(run.position(), 25);
+    }
+
+    void doubleOfAUnitContainerStartsAtZeroToZero_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"complexity.fineAmount", "material.fineAmount", "light.fineAmount"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void doubleOfAUnitContainerStartsAtZeroToZero()
+    {
+        QFETCH(QString, name);
+        NumericEditorRun run(QStringLiteral("SFDouble"), QStringLiteral("2"));
+        QCOMPARE(rangeOf(run), (QList<double>{0, 10, false}));
+        NxField& fine = field(name);
+        run.select(&fine);
+        QCOMPARE(rangeOf(run), (QList<double>{0, 0, true}));
+        QCOMPARE(run.driver.slider->maximum(), std::numeric_limits<int>::min());
+        fine.set("3");
+        ToolHarness::pump();
+        QCOMPARE(rangeOf(run), (QList<double>{0, 3, true}));
+        QCOMPARE(run.position(), 100);
+        QCOMPARE(run.pushed(), 0);
+    }
+
+    void fieldWithoutAContainerGetsThePlainRange()
+    {
+        NumericEditorRun run(QStringLiteral("SFFloat"));
+        NxSFFloat alone(nullptr, "alone", 4);
+        run.select(&alone);
+        QCOMPARE(rangeOf(run), (QList<double>{0, 10, false}));
+        QCOMPARE(run.lineText(), QStringLiteral("4.000000"));
+        run.deselect();
+    }
+
     void fieldValueWidensAnUnboundedRange_data() { reals(); }
-    void fieldValueWidensAnUnboundedRange();
-    void fieldValueWidensABoundedRangeAndItsValidator();
+
+    void fieldValueWidensAnUnboundedRange()
+    {
+        NumericEditorRun run(type(), QStringLiteral("25"));
+        QCOMPARE(rangeOf(run), (QList<double>{0, 25, false}));
+        QCOMPARE(run.position(), 100);
+        run.set(QStringLiteral("-5"));
+        ToolHarness::pump();
+        QCOMPARE(rangeOf(run), (QList<double>{-5, 25, false}));
+        QCOMPARE(run.position(), 0);
+        QCOMPARE(run.pushed(), 0);
+    }
+
+    void fieldValueWidensABoundedRangeAndItsValidator()
+    {
+        NumericEditorRun run(QStringLiteral("SFFloat"));
+        m_complexity->value.setValue(2.5F);
+        run.select(&m_complexity->value);
+        QCOMPARE(rangeOf(run), (QList<double>{0, 2.5, true}));
+        QCOMPARE(run.lineText(), QStringLiteral("2.500000"));
+        m_complexity->value.setValue(-1);
+        ToolHarness::pump();
+        QCOMPARE(rangeOf(run), (QList<double>{-1, 2.5, true}));
+        const auto* validator = qobject_cast<const QDoubleValidator*>(run.driver.line->validator());
+        QCOMPARE(validator->bottom(), -1.0);
+        QCOMPARE(validator->top(), 2.5);
+        QCOMPARE(run.pushed(), 0);
+        run.driver.typeAndLeave(QStringLiteral("2.5"));
+        QCOMPARE(m_complexity->value.getValue(), 2.5F);
+        QCOMPARE(run.pushed(), 1);
+    }
+
     void rangeDoesNotCarryOverToTheNextField_data() { reals(); }
-    void rangeDoesNotCarryOverToTheNextField();
-    void boundedRangeRefusesWhatIsTyped();
+
+    void rangeDoesNotCarryOverToTheNextField()
+    {
+        NumericEditorRun run(type(), QStringLiteral("500"));
+        QCOMPARE(rangeOf(run), (QList<double>{0, 500, false}));
+        const NxRef<NxFieldGallery> other = new NxFieldGallery;
+        run.select(type() == QLatin1String("SFFloat") ? static_cast<NxField*>(&other->sfFloat) : &other->sfDouble);
+        QCOMPARE(rangeOf(run), (QList<double>{0, 10, false}));
+        run.deselect();
+    }
+
+    void boundedRangeRefusesWhatIsTyped()
+    {
+        NumericEditorRun run(QStringLiteral("SFFloat"));
+        m_complexity->value.setValue(0.5F);
+        run.select(&m_complexity->value);
+        run.driver.typeAndReturn(QStringLiteral("1.5"));
+        run.driver.slider->setFocus();
+        QCOMPARE(run.lineText(), QStringLiteral("1.5"));
+        QCOMPARE(m_complexity->value.getValue(), 0.5F);
+        QCOMPARE(run.pushed(), 0);
+    }
+
     void unboundedRangeTakesWhatIsTyped_data() { reals(); }
-    void unboundedRangeTakesWhatIsTyped();
+
+    void unboundedRangeTakesWhatIsTyped()
+    {
+        NumericEditorRun run(type(), QStringLiteral("2"));
+        run.driver.typeAndLeave(QStringLiteral("40"));
+        QCOMPARE(run.fieldText(), QStringLiteral("40"));
+        QCOMPARE(rangeOf(run), (QList<double>{0, 40, false}));
+        ToolHarness::pump();
+        run.driver.typeAndLeave(QStringLiteral("-40"));
+        QCOMPARE(run.fieldText(), QStringLiteral("-40"));
+        QCOMPARE(rangeOf(run), (QList<double>{-40, 40, false}));
+        QCOMPARE(run.pushed(), 2);
+    }
+
     void changeOfFieldWritesNothing_data() { reals(); }
-    void changeOfFieldWritesNothing();
-    void textHasTheFormatOfTheType_data();
-    void textHasTheFormatOfTheType();
-    void tinyFloatIsKeptUntilSomethingIsApplied();
-    void typedFloatComesBackWithSixDecimals();
+
+    void changeOfFieldWritesNothing()
+    {
+        NumericEditorRun run(type(), QStringLiteral("9"));
+        const bool isFloat = type() == QLatin1String("SFFloat");
+        NxField& other = field(isFloat ? QStringLiteral("material.amount") : QStringLiteral("material.fineAmount"));
+        other.set("0.5");
+        run.select(&other);
+        run.select(run.field);
+        run.select(&other);
+        QCOMPARE(run.fieldText(), QStringLiteral("9"));
+        QCOMPARE(ToolHarness::textOf(other), QStringLiteral("0.5"));
+        QCOMPARE(run.pushed(), 0);
+    }
+
+    void textHasTheFormatOfTheType_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("float tenth") << "SFFloat"
+                                     << "0.1"
+                                     << "0.100000";
+        QTest::newRow("float third") << "SFFloat"
+                                     << "0.33333334"
+                                     << "0.333333";
+        QTest::newRow("float large") << "SFFloat"
+                                     << "3e6"
+                                     << "3000000.000000";
+        QTest::newRow("double tenth") << "SFDouble"
+                                      << "0.1"
+                                      << "0.1";
+        QTest::newRow("double third") << "SFDouble"
+                                      << "0.33333333333333331"
+                                      << "0.333333333333333";
+        QTest::newRow("double large") << "SFDouble"
+                                      << "3e100"
+                                      << "3e+100";
+    }
+
+    void textHasTheFormatOfTheType()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, shown);
+        const NumericEditorRun run(type(), value);
+        QCOMPARE(run.lineText(), shown);
+    }
+
+    void tinyFloatIsKeptUntilSomethingIsApplied()
+    {
+        NumericEditorRun run(QStringLiteral("SFFloat"), QStringLiteral("1e-7"));
+        QCOMPARE(run.lineText(), QStringLiteral("0.000000"));
+        QCOMPARE(sliderOf(run).value(), 0.0);
+        QCOMPARE(static_cast<NxSFFloat*>(run.field)->getValue(), 1e-7F);
+        run.editor->applyChanges();
+        QCOMPARE(static_cast<NxSFFloat*>(run.field)->getValue(), 0.0F);
+    }
+
+    void typedFloatComesBackWithSixDecimals()
+    {
+        NumericEditorRun run(QStringLiteral("SFFloat"), QStringLiteral("2"));
+        run.driver.typeAndLeave(QStringLiteral("1.5"));
+        QCOMPARE(run.lineText(), QStringLiteral("1.5"));
+        ToolHarness::pump();
+        QCOMPARE(run.lineText(), QStringLiteral("1.500000"));
+        QVERIFY(!run.driver.line->isModified());
+    }
+
     void dragRoundsToAHundredthOfTheRange_data() { reals(); }
-    void dragRoundsToAHundredthOfTheRange();
+
+    void dragRoundsToAHundredthOfTheRange()
+    {
+        NumericEditorRun run(type(), QStringLiteral("2.345"));
+        QCOMPARE(run.position(), 23);
+        run.driver.press();
+        run.driver.dragTo(24);
+        run.driver.dragTo(23);
+        QCOMPARE(static_cast<float>(run.fieldText().toDouble()), 2.3F);
+        run.driver.release();
+        run.command(0).undo();
+        QCOMPARE(static_cast<float>(run.fieldText().toDouble()), 2.345F);
+    }
+
     void infiniteValueIsShownAndKept_data() { reals(); }
-    void infiniteValueIsShownAndKept();
+
+    void infiniteValueIsShownAndKept()
+    {
+        NumericEditorRun run(type(), QStringLiteral("inf"));
+        QCOMPARE(run.lineText(), QStringLiteral("inf"));
+        QCOMPARE(run.pushed(), 0);
+        run.set(QStringLiteral("nan"));
+        ToolHarness::pump();
+        QCOMPARE(run.lineText(), QStringLiteral("nan"));
+        run.set(QStringLiteral("2"));
+        ToolHarness::pump();
+        QCOMPARE(sliderOf(run).value(), 2.0);
+        QCOMPARE(run.pushed(), 0);
+    }
 
 private:
-    static void reals();
+    static void reals()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::newRow("float") << QStringLiteral("SFFloat");
+        QTest::newRow("double") << QStringLiteral("SFDouble");
+    }
+
     static QString type()
     {
         QFETCH(QString, type);
         return type;
     }
     /// The field by its name in one of the nodes.
-    NxField& field(const QString& name);
-    static const DvRealSlider& sliderOf(const NumericEditorRun& run);
-    static QList<double> rangeOf(const NumericEditorRun& run);
+    NxField& field(const QString& name)
+    {
+        const QStringList parts = name.split(QLatin1Char('.'));
+        NxFieldContainer* node = m_light.get();
+        if (parts.first() == QLatin1String("complexity"))
+            node = m_complexity.get();
+        else if (parts.first() == QLatin1String("material"))
+            node = m_material.get();
+        return *node->getField(VbName(parts.last().toLatin1().constData()));
+    }
+
+    static const DvRealSlider& sliderOf(const NumericEditorRun& run)
+    {
+        return dynamic_cast<const DvRealSlider&>(*run.driver.slider->parentWidget());
+    }
+
+    static QList<double> rangeOf(const NumericEditorRun& run)
+    {
+        const DvRealSlider& slider = sliderOf(run);
+        return {slider.lowerBound(), slider.upperBound(), slider.isBounded() ? 1.0 : 0.0};
+    }
 
     NxRef<AppComplexity> m_complexity;
     NxRef<AppMaterial> m_material;
     NxRef<AppLight> m_light;
 };
 
-void tst_RealFieldEditors::init()
-{
-    m_complexity = new AppComplexity;
-    m_material = new AppMaterial;
-    m_light = new AppLight;
-}
-
-void tst_RealFieldEditors::cleanup()
-{
-    QVERIFY(ToolHarness::noWidgetIsLeft());
-}
-
-void tst_RealFieldEditors::reals()
-{
-    QTest::addColumn<QString>("type");
-    QTest::newRow("float") << QStringLiteral("SFFloat");
-    QTest::newRow("double") << QStringLiteral("SFDouble");
-}
-
-NxField& tst_RealFieldEditors::field(const QString& name)
-{
-    const QStringList parts = name.split(QLatin1Char('.'));
-    NxFieldContainer* node = m_light.get();
-    if (parts.first() == QLatin1String("complexity"))
-        node = m_complexity.get();
-    else if (parts.first() == QLatin1String("material"))
-        node = m_material.get();
-    return *node->getField(VbName(parts.last().toLatin1().constData()));
-}
-
-const DvRealSlider& tst_RealFieldEditors::sliderOf(const NumericEditorRun& run)
-{
-    return dynamic_cast<const DvRealSlider&>(*run.driver.slider->parentWidget());
-}
-
-QList<double> tst_RealFieldEditors::rangeOf(const NumericEditorRun& run)
-{
-    const DvRealSlider& slider = sliderOf(run);
-    return {slider.lowerBound(), slider.upperBound(), slider.isBounded() ? 1.0 : 0.0};
-}
-
-void tst_RealFieldEditors::rangeFollowsFromTheContainer_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char* name : {"complexity.value", "complexity.textureQuality", "complexity.amount",
-             "material.transparency", "material.shininess", "material.amount", "light.intensity", "light.amount"})
-        QTest::newRow(name) << QString::fromLatin1(name);
-}
-
-void tst_RealFieldEditors::rangeFollowsFromTheContainer()
-{
-    QFETCH(QString, name);
-    NumericEditorRun run(QStringLiteral("SFFloat"), QStringLiteral("0.5"));
-    QCOMPARE(rangeOf(run), (QList<double>{0, 10, false}));
-    NxField& unit = field(name);
-    unit.set("0.25");
-    run.select(&unit);
-    QCOMPARE(rangeOf(run), (QList<double>{0, 1, true}));
-    QCOMPARE(run.position(), 25);
-}
-
-void tst_RealFieldEditors::doubleOfAUnitContainerStartsAtZeroToZero_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const char* name : {"complexity.fineAmount", "material.fineAmount", "light.fineAmount"})
-        QTest::newRow(name) << QString::fromLatin1(name);
-}
-
-void tst_RealFieldEditors::doubleOfAUnitContainerStartsAtZeroToZero()
-{
-    QFETCH(QString, name);
-    NumericEditorRun run(QStringLiteral("SFDouble"), QStringLiteral("2"));
-    QCOMPARE(rangeOf(run), (QList<double>{0, 10, false}));
-    NxField& fine = field(name);
-    run.select(&fine);
-    QCOMPARE(rangeOf(run), (QList<double>{0, 0, true}));
-    QCOMPARE(run.driver.slider->maximum(), std::numeric_limits<int>::min());
-    fine.set("3");
-    ToolHarness::pump();
-    QCOMPARE(rangeOf(run), (QList<double>{0, 3, true}));
-    QCOMPARE(run.position(), 100);
-    QCOMPARE(run.pushed(), 0);
-}
-
-void tst_RealFieldEditors::fieldWithoutAContainerGetsThePlainRange()
-{
-    NumericEditorRun run(QStringLiteral("SFFloat"));
-    NxSFFloat alone(nullptr, "alone", 4);
-    run.select(&alone);
-    QCOMPARE(rangeOf(run), (QList<double>{0, 10, false}));
-    QCOMPARE(run.lineText(), QStringLiteral("4.000000"));
-    run.deselect();
-}
-
-void tst_RealFieldEditors::fieldValueWidensAnUnboundedRange()
-{
-    NumericEditorRun run(type(), QStringLiteral("25"));
-    QCOMPARE(rangeOf(run), (QList<double>{0, 25, false}));
-    QCOMPARE(run.position(), 100);
-    run.set(QStringLiteral("-5"));
-    ToolHarness::pump();
-    QCOMPARE(rangeOf(run), (QList<double>{-5, 25, false}));
-    QCOMPARE(run.position(), 0);
-    QCOMPARE(run.pushed(), 0);
-}
-
-void tst_RealFieldEditors::fieldValueWidensABoundedRangeAndItsValidator()
-{
-    NumericEditorRun run(QStringLiteral("SFFloat"));
-    m_complexity->value.setValue(2.5F);
-    run.select(&m_complexity->value);
-    QCOMPARE(rangeOf(run), (QList<double>{0, 2.5, true}));
-    QCOMPARE(run.lineText(), QStringLiteral("2.500000"));
-    m_complexity->value.setValue(-1);
-    ToolHarness::pump();
-    QCOMPARE(rangeOf(run), (QList<double>{-1, 2.5, true}));
-    const auto* validator = qobject_cast<const QDoubleValidator*>(run.driver.line->validator());
-    QCOMPARE(validator->bottom(), -1.0);
-    QCOMPARE(validator->top(), 2.5);
-    QCOMPARE(run.pushed(), 0);
-    run.driver.typeAndLeave(QStringLiteral("2.5"));
-    QCOMPARE(m_complexity->value.getValue(), 2.5F);
-    QCOMPARE(run.pushed(), 1);
-}
-
-void tst_RealFieldEditors::rangeDoesNotCarryOverToTheNextField()
-{
-    NumericEditorRun run(type(), QStringLiteral("500"));
-    QCOMPARE(rangeOf(run), (QList<double>{0, 500, false}));
-    const NxRef<NxFieldGallery> other = new NxFieldGallery;
-    run.select(type() == QLatin1String("SFFloat") ? static_cast<NxField*>(&other->sfFloat) : &other->sfDouble);
-    QCOMPARE(rangeOf(run), (QList<double>{0, 10, false}));
-    run.deselect();
-}
-
-void tst_RealFieldEditors::boundedRangeRefusesWhatIsTyped()
-{
-    NumericEditorRun run(QStringLiteral("SFFloat"));
-    m_complexity->value.setValue(0.5F);
-    run.select(&m_complexity->value);
-    run.driver.typeAndReturn(QStringLiteral("1.5"));
-    run.driver.slider->setFocus();
-    QCOMPARE(run.lineText(), QStringLiteral("1.5"));
-    QCOMPARE(m_complexity->value.getValue(), 0.5F);
-    QCOMPARE(run.pushed(), 0);
-}
-
-void tst_RealFieldEditors::unboundedRangeTakesWhatIsTyped()
-{
-    NumericEditorRun run(type(), QStringLiteral("2"));
-    run.driver.typeAndLeave(QStringLiteral("40"));
-    QCOMPARE(run.fieldText(), QStringLiteral("40"));
-    QCOMPARE(rangeOf(run), (QList<double>{0, 40, false}));
-    ToolHarness::pump();
-    run.driver.typeAndLeave(QStringLiteral("-40"));
-    QCOMPARE(run.fieldText(), QStringLiteral("-40"));
-    QCOMPARE(rangeOf(run), (QList<double>{-40, 40, false}));
-    QCOMPARE(run.pushed(), 2);
-}
-
-void tst_RealFieldEditors::changeOfFieldWritesNothing()
-{
-    NumericEditorRun run(type(), QStringLiteral("9"));
-    const bool isFloat = type() == QLatin1String("SFFloat");
-    NxField& other = field(isFloat ? QStringLiteral("material.amount") : QStringLiteral("material.fineAmount"));
-    other.set("0.5");
-    run.select(&other);
-    run.select(run.field);
-    run.select(&other);
-    QCOMPARE(run.fieldText(), QStringLiteral("9"));
-    QCOMPARE(ToolHarness::textOf(other), QStringLiteral("0.5"));
-    QCOMPARE(run.pushed(), 0);
-}
-
-void tst_RealFieldEditors::textHasTheFormatOfTheType_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("float tenth") << "SFFloat"
-                                 << "0.1"
-                                 << "0.100000";
-    QTest::newRow("float third") << "SFFloat"
-                                 << "0.33333334"
-                                 << "0.333333";
-    QTest::newRow("float large") << "SFFloat"
-                                 << "3e6"
-                                 << "3000000.000000";
-    QTest::newRow("double tenth") << "SFDouble"
-                                  << "0.1"
-                                  << "0.1";
-    QTest::newRow("double third") << "SFDouble"
-                                  << "0.33333333333333331"
-                                  << "0.333333333333333";
-    QTest::newRow("double large") << "SFDouble"
-                                  << "3e100"
-                                  << "3e+100";
-}
-
-void tst_RealFieldEditors::textHasTheFormatOfTheType()
-{
-    QFETCH(QString, value);
-    QFETCH(QString, shown);
-    const NumericEditorRun run(type(), value);
-    QCOMPARE(run.lineText(), shown);
-}
-
-void tst_RealFieldEditors::tinyFloatIsKeptUntilSomethingIsApplied()
-{
-    NumericEditorRun run(QStringLiteral("SFFloat"), QStringLiteral("1e-7"));
-    QCOMPARE(run.lineText(), QStringLiteral("0.000000"));
-    QCOMPARE(sliderOf(run).value(), 0.0);
-    QCOMPARE(static_cast<NxSFFloat*>(run.field)->getValue(), 1e-7F);
-    run.editor->applyChanges();
-    QCOMPARE(static_cast<NxSFFloat*>(run.field)->getValue(), 0.0F);
-}
-
-void tst_RealFieldEditors::typedFloatComesBackWithSixDecimals()
-{
-    NumericEditorRun run(QStringLiteral("SFFloat"), QStringLiteral("2"));
-    run.driver.typeAndLeave(QStringLiteral("1.5"));
-    QCOMPARE(run.lineText(), QStringLiteral("1.5"));
-    ToolHarness::pump();
-    QCOMPARE(run.lineText(), QStringLiteral("1.500000"));
-    QVERIFY(!run.driver.line->isModified());
-}
-
-void tst_RealFieldEditors::dragRoundsToAHundredthOfTheRange()
-{
-    NumericEditorRun run(type(), QStringLiteral("2.345"));
-    QCOMPARE(run.position(), 23);
-    run.driver.press();
-    run.driver.dragTo(24);
-    run.driver.dragTo(23);
-    QCOMPARE(static_cast<float>(run.fieldText().toDouble()), 2.3F);
-    run.driver.release();
-    run.command(0).undo();
-    QCOMPARE(static_cast<float>(run.fieldText().toDouble()), 2.345F);
-}
-
-void tst_RealFieldEditors::infiniteValueIsShownAndKept()
-{
-    NumericEditorRun run(type(), QStringLiteral("inf"));
-    QCOMPARE(run.lineText(), QStringLiteral("inf"));
-    QCOMPARE(run.pushed(), 0);
-    run.set(QStringLiteral("nan"));
-    ToolHarness::pump();
-    QCOMPARE(run.lineText(), QStringLiteral("nan"));
-    run.set(QStringLiteral("2"));
-    ToolHarness::pump();
-    QCOMPARE(sliderOf(run).value(), 2.0);
-    QCOMPARE(run.pushed(), 0);
-}
-
-QTEST_MAIN(tst_RealFieldEditors)
+QTEST_MAIN(TestRealFieldEditors)
 #include "tst_RealFieldEditors.moc"

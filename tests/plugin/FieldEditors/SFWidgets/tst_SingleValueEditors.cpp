@@ -6,29 +6,134 @@
 #include <QPushButton>
 
 /// What every editor of single values does.
-class tst_SingleValueEditors : public QObject {
+class TestSingleValueEditors : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init()
+    {
+        m_tool = std::make_unique<ToolHarness>();
+        m_type = *static_cast<QString*>(QTest::qData("type", qMetaTypeId<QString>()));
+        m_editor = entry().make(nullptr);
+    }
+
+    void cleanup()
+    {
+        m_editor.reset();
+        m_tool.reset();
+        QVERIFY(ToolHarness::noWidgetIsLeft());
+    }
 
     void editorBearsItsNames_data() { editors(); }
-    void editorBearsItsNames();
+
+    void editorBearsItsNames()
+    {
+        const bool isLine = m_type == QLatin1String("SField");
+        QCOMPARE(m_editor->objectName(), QStringLiteral("Dv%1Widget").arg(isLine ? QStringLiteral("SFLine") : m_type));
+        QCOMPARE(entry().make("mine")->objectName(), QStringLiteral("mine"));
+        QCOMPARE(QString::fromUtf8(m_editor->getName().toUtf8()), m_type);
+        QVERIFY(m_editor->inherits(entry().base));
+        QCOMPARE(QString::fromLatin1(m_editor->getHandledType().getName().getString()), m_type);
+        const EditorRun run(*m_editor);
+        QCOMPARE(run.find<QLabel>("m_label")->text(), QStringLiteral("<p align=\"center\">%1</p>").arg(m_type));
+    }
+
     void selectionShowsTheFieldWithoutACommand_data() { editors(); }
-    void selectionShowsTheFieldWithoutACommand();
+
+    void selectionShowsTheFieldWithoutACommand()
+    {
+        field().set(entry().value);
+        field().setIgnored(1);
+        const WriteCounter counter(field());
+        const EditorRun run(*m_editor, field());
+        QVERIFY(m_editor->getFrame()->isVisible());
+        checkShownOnly(run, counter);
+    }
+
     void outsideChangeWritesNothingBack_data() { editors(); }
-    void outsideChangeWritesNothingBack();
+
+    void outsideChangeWritesNothingBack()
+    {
+        const EditorRun run(*m_editor, field());
+        field().set(entry().value);
+        field().setIgnored(1);
+        const WriteCounter counter(field());
+        ToolHarness::pump();
+        checkShownOnly(run, counter);
+    }
+
     void leavingNothingEditedWritesNothing_data() { editors(); }
-    void leavingNothingEditedWritesNothing();
+
+    void leavingNothingEditedWritesNothing()
+    {
+        const EditorRun run(*m_editor, field());
+        QVERIFY(!m_editor->edited());
+        m_editor->setFocusLeaveEvent();
+        QCOMPARE(pushed(), 0);
+    }
+
     void defaultButtonWritesTheDefault_data() { editors(); }
-    void defaultButtonWritesTheDefault();
+
+    void defaultButtonWritesTheDefault()
+    {
+        field().set(entry().value);
+        QVERIFY(!field().isDefault());
+        const EditorRun run(*m_editor, field());
+        pushed() = 0;
+        click(run, "m_defaultButton");
+        QVERIFY(field().isDefault());
+        QCOMPARE(pushed(), 1);
+        m_tool->services.undo();
+        QVERIFY(field().isDefault());
+        ToolHarness::pump();
+        QVERIFY(field().isDefault());
+    }
+
     void ignoreButtonSetsTheFlag_data() { editors(); }
-    void ignoreButtonSetsTheFlag();
+
+    void ignoreButtonSetsTheFlag()
+    {
+        const EditorRun run(*m_editor, field());
+        const QPushButton* const button = run.find<QPushButton>("m_ignoreButton");
+        click(run, "m_ignoreButton");
+        QVERIFY(field().isIgnored());
+        QCOMPARE(pushed(), 1);
+        m_tool->services.undo();
+        QVERIFY(!field().isIgnored());
+        ToolHarness::pump();
+        QVERIFY(!button->isChecked());
+        QCOMPARE(pushed(), 1);
+    }
+
     void nullFieldWritesNothing_data() { editors(); }
-    void nullFieldWritesNothing();
+
+    void nullFieldWritesNothing()
+    {
+        field().set(entry().value);
+        const EditorRun run(*m_editor, field());
+        pushed() = 0;
+        const WriteCounter counter(field());
+        m_editor->setField(nullptr);
+        m_editor->updateFromField();
+        m_editor->applyChanges();
+        m_editor->setCommandValue();
+        clickBoth(run);
+        QCOMPARE(counter.writes, 0);
+        QCOMPARE(pushed(), 0);
+    }
+
     void nothingHappensBeforeTheFirstField_data() { editors(); }
-    void nothingHappensBeforeTheFirstField();
+
+    void nothingHappensBeforeTheFirstField()
+    {
+        const EditorRun run(*m_editor);
+        m_editor->getFrame()->show();
+        m_editor->updateFromField();
+        m_editor->applyChanges();
+        clickBoth(run);
+        QVERIFY(!m_editor->edited());
+        QCOMPARE(pushed(), 0);
+    }
 
 private:
     static void editors()
@@ -71,114 +176,5 @@ private:
     QString m_type;
 };
 
-void tst_SingleValueEditors::init()
-{
-    m_tool = std::make_unique<ToolHarness>();
-    m_type = *static_cast<QString*>(QTest::qData("type", qMetaTypeId<QString>()));
-    m_editor = entry().make(nullptr);
-}
-
-void tst_SingleValueEditors::cleanup()
-{
-    m_editor.reset();
-    m_tool.reset();
-    QVERIFY(ToolHarness::noWidgetIsLeft());
-}
-
-void tst_SingleValueEditors::editorBearsItsNames()
-{
-    const bool isLine = m_type == QLatin1String("SField");
-    QCOMPARE(m_editor->objectName(), QStringLiteral("Dv%1Widget").arg(isLine ? QStringLiteral("SFLine") : m_type));
-    QCOMPARE(entry().make("mine")->objectName(), QStringLiteral("mine"));
-    QCOMPARE(QString::fromUtf8(m_editor->getName().toUtf8()), m_type);
-    QVERIFY(m_editor->inherits(entry().base));
-    QCOMPARE(QString::fromLatin1(m_editor->getHandledType().getName().getString()), m_type);
-    const EditorRun run(*m_editor);
-    QCOMPARE(run.find<QLabel>("m_label")->text(), QStringLiteral("<p align=\"center\">%1</p>").arg(m_type));
-}
-
-void tst_SingleValueEditors::selectionShowsTheFieldWithoutACommand()
-{
-    field().set(entry().value);
-    field().setIgnored(1);
-    const WriteCounter counter(field());
-    const EditorRun run(*m_editor, field());
-    QVERIFY(m_editor->getFrame()->isVisible());
-    checkShownOnly(run, counter);
-}
-
-void tst_SingleValueEditors::outsideChangeWritesNothingBack()
-{
-    const EditorRun run(*m_editor, field());
-    field().set(entry().value);
-    field().setIgnored(1);
-    const WriteCounter counter(field());
-    ToolHarness::pump();
-    checkShownOnly(run, counter);
-}
-
-void tst_SingleValueEditors::leavingNothingEditedWritesNothing()
-{
-    const EditorRun run(*m_editor, field());
-    QVERIFY(!m_editor->edited());
-    m_editor->setFocusLeaveEvent();
-    QCOMPARE(pushed(), 0);
-}
-
-void tst_SingleValueEditors::defaultButtonWritesTheDefault()
-{
-    field().set(entry().value);
-    QVERIFY(!field().isDefault());
-    const EditorRun run(*m_editor, field());
-    pushed() = 0;
-    click(run, "m_defaultButton");
-    QVERIFY(field().isDefault());
-    QCOMPARE(pushed(), 1);
-    m_tool->services.undo();
-    QVERIFY(field().isDefault());
-    ToolHarness::pump();
-    QVERIFY(field().isDefault());
-}
-
-void tst_SingleValueEditors::ignoreButtonSetsTheFlag()
-{
-    const EditorRun run(*m_editor, field());
-    const QPushButton* const button = run.find<QPushButton>("m_ignoreButton");
-    click(run, "m_ignoreButton");
-    QVERIFY(field().isIgnored());
-    QCOMPARE(pushed(), 1);
-    m_tool->services.undo();
-    QVERIFY(!field().isIgnored());
-    ToolHarness::pump();
-    QVERIFY(!button->isChecked());
-    QCOMPARE(pushed(), 1);
-}
-
-void tst_SingleValueEditors::nullFieldWritesNothing()
-{
-    field().set(entry().value);
-    const EditorRun run(*m_editor, field());
-    pushed() = 0;
-    const WriteCounter counter(field());
-    m_editor->setField(nullptr);
-    m_editor->updateFromField();
-    m_editor->applyChanges();
-    m_editor->setCommandValue();
-    clickBoth(run);
-    QCOMPARE(counter.writes, 0);
-    QCOMPARE(pushed(), 0);
-}
-
-void tst_SingleValueEditors::nothingHappensBeforeTheFirstField()
-{
-    const EditorRun run(*m_editor);
-    m_editor->getFrame()->show();
-    m_editor->updateFromField();
-    m_editor->applyChanges();
-    clickBoth(run);
-    QVERIFY(!m_editor->edited());
-    QCOMPARE(pushed(), 0);
-}
-
-QTEST_MAIN(tst_SingleValueEditors)
+QTEST_MAIN(TestSingleValueEditors)
 #include "tst_SingleValueEditors.moc"
