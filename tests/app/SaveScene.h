@@ -14,7 +14,7 @@
 /// What is saved while something goes wrong.
 namespace SaveScene {
 
-/// A scene of some hundred nodes that all have that name, so that each part of its text tells which scene it is of.
+/// A scene of some hundred nodes that all have that name, so that each part of its text shows which scene it is of.
 inline NxRef<NxGroup> named(const char* name)
 {
     NxRef<NxGroup> scene(new NxGroup);

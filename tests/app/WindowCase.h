@@ -41,7 +41,7 @@ protected:
         QVERIFY(QTest::qWaitForWindowActive(m_window.get(), testPatience));
     }
 
-    /// Opens a file as a user does. The result tells why it failed.
+    /// Opens a file as a user does. The result is the reason of a failure.
     QString open(const QString& fileName)
     {
         QSignalSpy settled(m_window.get(), &MainWindow::settled);

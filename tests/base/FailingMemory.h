@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <new>
 
-// Replaces the program's own allocation, which serves the libraries too, by one that can be told to fail. To be
+// Replaces the program's own allocation, which serves the libraries too, by one that fails on demand. To be
 // included by one source file of a program.
 
 namespace FailingMemory {

@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-/// A sensor with a letter, which it adds to a protocol when called, ahead of what else it is told to do.
+/// A sensor that adds its letter to a protocol when called, and then does what `also` says.
 class LetterSensor : public NxDelayQueueSensor {
 public:
     LetterSensor(char letter, std::string& protocol, int priority = defaultPriority)

@@ -47,7 +47,7 @@ LiveTool::~LiveTool()
 
 bool LiveTool::startServer()
 {
-    // The server picks a free display and tells its number.
+    // The server picks a free display and reports its number.
     m_server.setProgram(QStringLiteral("Xvfb"));
     m_server.setArguments({QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
         QStringLiteral("0"), QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
@@ -61,7 +61,7 @@ bool LiveTool::startServer()
     return startWindowManager();
 }
 
-// Without a window manager nobody would give the window the keyboard, and until it answers no window can be activated.
+// Without a window manager the window wouldn't get the keyboard focus, and until it answers no window is activated.
 // Now and then one doesn't come up, and another one does.
 bool LiveTool::startWindowManager()
 {
@@ -135,7 +135,7 @@ bool LiveTool::start(const QStringList& arguments)
     xdotool(
         {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
             QStringLiteral("Orvane"), QStringLiteral("windowactivate"), QStringLiteral("--sync")});
-    // By then it has also heard where the window manager put it, and so tells the right places.
+    // By then it knows where the window manager put it, so its coordinates are right.
     return becomes(QStringLiteral("mainWindow"), QStringLiteral("isActiveWindow"));
 }
 

@@ -19,7 +19,7 @@ public:
 
     /// Lets the tool read and write settings, in a folder that the test owns. Without, it has none.
     void keepSettingsIn(const QString& folder) { m_settingsFolder = folder; }
-    /// Starts server and tool and waits until the window stands.
+    /// Starts server and tool and waits until the window has its place.
     [[nodiscard]] bool start(const QStringList& arguments);
     /// Closes the window as Ctrl+Q does and gives the exit status, or -1.
     [[nodiscard]] int quit();

@@ -1,5 +1,5 @@
-// A plug-in for tests of the running tool: it tells a test, over a local socket, where things are on the screen and
-// what they show. It changes nothing; mouse and keyboard reach the tool through the X server like a user's.
+// A plug-in for tests of the running tool: it reports to a test, over a local socket, where things are on the screen
+// and what they show. It changes nothing; mouse and keyboard reach the tool through the X server like a user's.
 //
 // Requests are lines, answers too:
 //   widget NAME           x y width height of the visible widget of that object name, in pixels of the screen
@@ -107,7 +107,7 @@ QString answer(const QString& request)
     return widget->property(rest.toLatin1().constData()).toString().replace(u'\n', u' ');
 }
 
-// Connects to the test's socket, whose path stands in the environment, and answers from the event loop.
+// Connects to the test's socket, whose path is in the environment, and answers from the event loop.
 class Probe : public OrvExtension {
 public:
     Probe() { m_name = "Probe"; }

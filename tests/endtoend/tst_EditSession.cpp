@@ -51,7 +51,7 @@ private:
         return m_tool->property(QStringLiteral("DvSliderFrame/QLineEdit"), QStringLiteral("text"));
     }
 
-    // From where the handle stands to that share of the slider's width.
+    // From the handle's place to that share of the slider's width.
     void dragSlider(double from, double to)
     {
         const QRect slider = m_tool->widget(QStringLiteral("DvSliderFrame/QSlider"));

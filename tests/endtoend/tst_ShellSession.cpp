@@ -11,7 +11,7 @@
 
 namespace {
 
-// A number is missing where the comment stands.
+// The comment is in place of a number.
 const QByteArray brokenScene = "#mrd 1.0\nMaterial \"paint\" {\n    transparency = oops\n}\n";
 
 const QString console = QStringLiteral("m_consoleOutput");

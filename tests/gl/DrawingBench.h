@@ -61,9 +61,9 @@ public:
         return viewpoint;
     }
 
-    /// Lets the sensors tell what changed, and draws.
+    /// Processes the delay queue, then draws.
     [[nodiscard]] QImage draw(const NxViewpoint& viewpoint = front(), int width = 101, int height = 101);
-    /// Draws without letting the sensors tell anything.
+    /// Draws without processing the delay queue.
     [[nodiscard]] QImage drawUntold(
         const NxViewpoint& viewpoint = front(), int width = 101, int height = 101, float scale = 1);
     /// The picture of a scene of these nodes, which is gone afterwards.
@@ -98,7 +98,7 @@ inline const QColor white(255, 255, 255);
 /// Of components from 0 to 1.
 [[nodiscard]] QColor color(double r, double g, double b);
 
-/// The colour at a place of the picture, told by coordinates from -1 to 1 that grow to the right and upwards.
+/// The colour of the picture at coordinates from -1 to 1, which grow to the right and upwards.
 [[nodiscard]] QColor pixelAt(const QImage& picture, double x, double y);
 /// Whether colours differ by no more than `tolerance` of 255 a component.
 [[nodiscard]] bool isNear(const QColor& color, const QColor& expected, int tolerance = 3);

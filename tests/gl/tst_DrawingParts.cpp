@@ -50,7 +50,7 @@ const Frustum& unitCube()
 void TestDrawingParts::theTreeFindsWhatAWalkFinds_data()
 {
     QTest::addColumn<int>("items");
-    QTest::addColumn<int>("changes"); // ahead of each question
+    QTest::addColumn<int>("changes"); // before each query
     QTest::newRow("one") << 1 << 1;
     QTest::newRow("few, rebuilt") << 10 << 5;
     QTest::newRow("many, changed one by one") << 1000 << 10;

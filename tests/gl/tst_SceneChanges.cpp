@@ -144,7 +144,7 @@ private Q_SLOTS:
     {
         m_pair->scene->removeChild(0);
         COMPARE_PIXEL(m_bench->draw(), -0.5, 0, black);
-        m_pair->leftMaterial->diffuseColor.setValue(VbColor(0, 0, 1)); // while nobody watches
+        m_pair->leftMaterial->diffuseColor.setValue(VbColor(0, 0, 1)); // while it isn't in the scene
         m_pair->scene->insertChild(m_pair->left.get(), 0);
         COMPARE_PIXEL(m_bench->draw(), -0.5, 0, blue);
     }

@@ -149,7 +149,7 @@ private Q_SLOTS:
         QCOMPARE(m_bench->counts().bufferBytes, rectangleBytes);
         QCOMPARE(m_bench->counts().textureBytes, 0U);
         QCOMPARE(m_pair->scene->getRefCount(), 1);
-        m_pair->leftMesh->positions.touch(); // nobody watches any more
+        m_pair->leftMesh->positions.touch(); // the drawing has no sensor there any more
         QCOMPARE(costOf([] {}), nothing);
     }
 

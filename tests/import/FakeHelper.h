@@ -5,7 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// A stand-in for the import helper: a shell script with that content.
+/// Replaces the import helper by a shell script with that content.
 inline HelperOptions fakeHelper(const QTemporaryDir& folder, const QByteArray& script)
 {
     HelperOptions options;

@@ -8,7 +8,7 @@
 #include <QStringList>
 #include <QTest>
 
-/// What a job told, and how it ended.
+/// The signals of a job, and how it ended.
 class JobRecord {
 public:
     explicit JobRecord(FileJob& job)

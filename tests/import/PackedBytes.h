@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-/// The bytes of a packed scene, whose long lists go with them; empty for a scene that can't be told.
+/// The bytes of a packed scene, whose long lists go with them; empty for a scene that can't be packed.
 inline std::string pack(NxGroup& scene)
 {
     const orvane::PackedScene packed(scene);

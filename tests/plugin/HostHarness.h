@@ -63,7 +63,7 @@ private:
     int m_profiles = 0;
 };
 
-/// Writes down when a widget is told to show and to hide.
+/// Records when a widget is shown and hidden.
 class VisibilityRecorder final : public QObject {
 public:
     VisibilityRecorder(QWidget* widget, QStringList& calls)

@@ -63,7 +63,7 @@ ToolHarness::ToolHarness()
     : node(new NxFieldGallery)
 {
     // All but those that the platform without a display gives for every window and popup, and those that converting
-    // an image and taking a cell's editor away from its table are meant to cause.
+    // an image and taking a cell's editor away from its table cause on purpose.
     QTest::failOnWarning(QRegularExpression(
         QStringLiteral("^(?!This plugin does not support (propagateSizeHints|raise|grabbing the (keyboard|mouse))|"
                        "QImage::setColor: Index out of bound 0$|"

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// A gallery that tells when it dies.
+/// A gallery that reports its destruction.
 class MortalGallery final : public NxFieldGallery {
 public:
     explicit MortalGallery(bool& dead)

@@ -144,7 +144,7 @@ private Q_SLOTS:
         OrvDefaults plugin;
         plugin.load();
         for (const OrvExtension* const extension : plugin.getExtensions()) {
-            // Some have no meta object of their own, so their class has to be told from the name.
+            // Some have no meta object of their own, so their class follows from the name.
             const QString word = nameOf(extension);
             const QHash<QString, QString> stems{{QStringLiteral("SField"), QStringLiteral("SFLine")},
                 {QStringLiteral("MField"), QStringLiteral("MFDefaultField")}};

@@ -3,7 +3,7 @@
 #include "meridane/base/NxDelayQueue.h"
 #include "meridane/scene/fields/NxFieldSensor.h"
 
-/// Counts how often a field's observers are told, change by change: processing the delay queue behind each of them.
+/// Counts the notifications of a field's observers. The delay queue is processed after each change.
 class NotificationCount {
 public:
     explicit NotificationCount(NxField& field)

@@ -10,7 +10,7 @@ using orvane::PackedSceneReader;
 
 namespace {
 
-// With the first line ahead of it.
+// With the first line before it.
 QByteArray framed(const QByteArray& rest)
 {
     return "orvane-scene 2 " + QByteArray::number(rest.size()) + '\n' + rest;
@@ -21,7 +21,7 @@ QByteArray textBlock(const QByteArray& text)
     return "text " + QByteArray::number(text.size()) + '\n' + text;
 }
 
-// Two meshes without lists, and a group ahead of them.
+// Two meshes without lists, and a group before them.
 QByteArray twoMeshes()
 {
     return textBlock("#mrd 1.0\nGroup {}\nMesh \"a\" {}\nMesh \"b\" {}\n");
@@ -265,7 +265,7 @@ void tst_PackedSceneReader::bytesThatAreCutAnywhereAreRefused()
         QVERIFY2(!unpack(bytes.substr(0, size), failure), std::to_string(size).c_str());
         QVERIFY(!failure.empty());
     }
-    // The same behind the first line, which tells the size.
+    // The same after the first line, which gives the size.
     const QByteArray rest = QByteArray::fromStdString(bytes.substr(bytes.find('\n') + 1));
     const qsizetype textEnd = rest.indexOf("list ");
     int whole = 0;

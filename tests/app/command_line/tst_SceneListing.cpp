@@ -21,7 +21,7 @@ QStringList nodesOf(NxGroup* scene)
     return linesOf(scene).filter(QStringLiteral("\tGroup")) + linesOf(scene).filter(QStringLiteral("\tMaterial"));
 }
 
-// Takes as many bytes as it is told, and then none.
+// Takes the given number of bytes, and then none.
 class FullDevice : public QIODevice {
 public:
     explicit FullDevice(qint64 room)

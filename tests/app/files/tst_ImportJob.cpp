@@ -98,7 +98,7 @@ private Q_SLOTS:
                 packedHead(9 + 10 * 100000) + "; echo '#mrd 1.0'; yes 'Group { }' | head -n 100000; while [ ! -e '"
                     + QFile::encodeName(readFile) + "' ]; do sleep 0.01; done"));
         const JobRecord record(job);
-        // The helper doesn't end ahead of the first slice.
+        // The helper doesn't end before the first slice.
         connect(&job, &FileJob::progressed, this, [&](double share) {
             QFile file(readFile);
             QVERIFY(share == -1 || file.open(QIODevice::WriteOnly));

@@ -74,7 +74,7 @@ private:
     QString m_fileName;
 };
 
-// How many times stands in ORVANE_TEST_KILLS; `script/faults` kills a thousand times.
+// ORVANE_TEST_KILLS gives the number of kills; `script/faults` kills a thousand times.
 void tst_SaveFaults::killedAtAnyMomentTheFileIsOldOrNew()
 {
     const QByteArray first = textOf(SaveScene::named("first"));

@@ -273,7 +273,7 @@ void WindowMonkey::noteSave(const QString& fileName)
         m_marks.allow(fileName, m_marks.current());
 }
 
-// What a dialog chooses is meant for the scene that was open when it came up.
+// The choice in a dialog is for the scene that was open when the dialog came up.
 void WindowMonkey::noteDialog()
 {
     if (openDialog() == m_dialog)

@@ -22,7 +22,7 @@ bool isNear(const VbVec3d& left, const VbVec3d& right, double tolerance = 1e-4)
     return length(subtract(left, right)) <= tolerance;
 }
 
-/// Where a point of the scene stands in the picture, from (0, 0) to (1, 1).
+/// The place of a point of the scene in the picture, from (0, 0) to (1, 1).
 VbVec2f placeOf(const VbVec3d& point, const NxViewpoint& viewpoint)
 {
     const VbMatrix matrix = multiply(viewpoint.viewMatrix(), viewpoint.projectionMatrix(aspect, 0.1F, 100));

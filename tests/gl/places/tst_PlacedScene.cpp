@@ -176,7 +176,8 @@ private Q_SLOTS:
         scene->insertChild(group.get(), 0);
         placed.update();
         QCOMPARE(leftSides(placed), (Sides{0, 1, 2, 3}));
-        scene->removeChild(1); // the mesh on the left; the group takes its place, but there is none for what it holds
+        // The mesh on the left. The group takes its place, but there is no place left for its children.
+        scene->removeChild(1);
         placed.update();
         QCOMPARE(leftSides(placed), (Sides{1, 2, 3}));
         scene->removeChild(0);

@@ -75,8 +75,8 @@ std::unique_ptr<SceneJob> jobFor(const QString& fileName)
 
 } // namespace
 
-/// Damaged files, opened as the tool opens them. How many copies of each kind are tried of each file stands in
-/// ORVANE_TEST_DAMAGES; `script/faults` tries 200.
+/// Damaged files, opened as the tool opens them. ORVANE_TEST_DAMAGES gives the number of copies of each file and kind
+/// of damage; `script/faults` tries 200.
 class tst_DamagedFiles : public QObject {
     Q_OBJECT
 

@@ -211,7 +211,7 @@ void tst_ModelReader::camerasStandWhereTheirNodesPutThem()
     QVERIFY(std::abs(eye->heightAngle.getValue() - 0.5F) < 1e-5F);
     QCOMPARE(eye->nearDistance.getValue(), 0.5F);
     QCOMPARE(eye->farDistance.getValue(), 50.0F);
-    // A node that scales can't be told by a camera, so it stays.
+    // A camera can't express a scale, so the node is kept.
     const auto* plan = find<NxOrthographicCamera>(scene, "/car/plan/plan");
     QVERIFY(plan != nullptr);
     QCOMPARE(plan->position.getValue(), VbVec3f(0, 0, 0));

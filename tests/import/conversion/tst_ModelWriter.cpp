@@ -35,7 +35,7 @@ void keepPositions(std::vector<WorldTriangle>& triangles)
     std::sort(triangles.begin(), triangles.end());
 }
 
-// One line for each place where a mesh, a light or a camera stands: class and name, and how many values a mesh has.
+// One line for each instance of a mesh, a light or a camera: class and name, and how many values a mesh has.
 QStringList contents(const NxGroup& group)
 {
     QStringList lines;

@@ -12,7 +12,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-/// The import helper, started by a shell, while it waits for somebody to read its output: nobody does.
+/// The import helper, started by a shell, while it waits because its output isn't read.
 class BusyHelper {
 public:
     BusyHelper()
@@ -55,7 +55,7 @@ public:
         m_shell.waitForFinished();
     }
 
-    /// Whether it has ended: nobody can write behind its output any more.
+    /// Whether it has ended, so that its output has no writer any more.
     [[nodiscard]] bool hasEnded() const { return (outputEvents() & POLLHUP) != 0; }
 
     /// Reads what it has written so far. True when there will be no more, because it has ended.

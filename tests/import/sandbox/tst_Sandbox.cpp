@@ -143,7 +143,7 @@ void tst_Sandbox::theProbeItselfCouldDoIt_data()
     addForbidden();
 }
 
-// Else the refusals would tell nothing about the locks.
+// Otherwise the refusals would prove nothing about the sandbox.
 void tst_Sandbox::theProbeItselfCouldDoIt()
 {
     QFETCH(QByteArray, thing);
@@ -206,7 +206,7 @@ void tst_Sandbox::noPrivilegeCanBeGained()
 
 void tst_Sandbox::aModelReadsTheFilesBesideIt()
 {
-    // The colour stands in the material file.
+    // The colour is in the material file.
     const HelperRun run = runHelper({QStringLiteral("--read"), modelFile("crate.obj")});
     QCOMPARE(run.status, 0);
     QVERIFY(run.output.find("Material \"wood\"") != std::string::npos);

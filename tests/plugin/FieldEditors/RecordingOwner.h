@@ -6,7 +6,7 @@
 
 #include <functional>
 
-/// A field editor that only writes down what a slider tells it.
+/// A field editor that only records the calls of a slider.
 class RecordingOwner final : public OrvFieldEditors {
 public:
     void updateFromField() override { }

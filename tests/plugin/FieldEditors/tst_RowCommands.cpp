@@ -15,7 +15,7 @@
 
 namespace {
 
-/// A list that tells how its observers are told, and may be as full as memory.
+/// A list that records its notifications, and can refuse to grow as if memory were full.
 class RecordingList final : public NxMFInt32 {
 public:
     RecordingList()
@@ -268,7 +268,7 @@ private Q_SLOTS:
         std::mt19937 random(20261121);
         const auto below = [&random](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
         Values model;
-        // For each step of the history the values ahead of it and behind it; an edit is no step and lives on in both.
+        // For each step of the history the values before and after it; an edit is no step and lives on in both.
         std::vector<std::pair<Values, Values>> steps;
         std::size_t done = 0;
         list.setValues(std::span<const int>());
@@ -309,7 +309,7 @@ private Q_SLOTS:
                 break;
             }
             case 3: {
-                // An edit, whose command only repeats it. The steps ahead of it would bring back older values around
+                // An edit, whose command only repeats it. The steps before it would bring back older values around
                 // it.
                 if (rows == 0)
                     break;

@@ -173,7 +173,7 @@ private Q_SLOTS:
             QVERIFY(fieldOf(copy).copyFrom(fieldOf(source)));
             QVERIFY(fieldOf(copy).isSame(fieldOf(source)));
             QCOMPARE(notifications.take(), 1);
-            // Sameness is what the text tells.
+            // Fields are the same if their texts are.
             VbString text;
             fieldOf(copy).get(text);
             kind->setRandom(fieldOf(source), random);
@@ -303,7 +303,7 @@ private Q_SLOTS:
 
     void theOverheadIsThreePointersAndAFlag()
     {
-        // The value stands in what the flag leaves of its word.
+        // The value uses the bits of the word that the flag leaves.
         QCOMPARE(sizeof(NxSFFloat), 3 * sizeof(void*) + 2 * sizeof(float));
     }
 

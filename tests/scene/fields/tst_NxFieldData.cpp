@@ -9,7 +9,7 @@
 
 namespace {
 
-// A class whose constructor fails when it is told to, behind its fields.
+// A class whose constructor fails on demand, after it has made its fields.
 class FailingNode : public ProbeNode {
 public:
     FailingNode()
@@ -70,7 +70,7 @@ private Q_SLOTS:
         const NxRef<ExtendedProbeNode> node(new ExtendedProbeNode);
         QCOMPARE(node->getFieldData()->getNumFields(), 5);
         QCOMPARE(node->inner->getFieldData()->getNumFields(), 3);
-        // Neither do fields that stand alone or belong to another container.
+        // Neither do fields without a container or with another one.
         NxSFFloat lone(node.get(), "late");
         QCOMPARE(node->getFieldData()->getNumFields(), 5);
         QCOMPARE(node->getFieldData()->getIndex(VbName("late")), -1);

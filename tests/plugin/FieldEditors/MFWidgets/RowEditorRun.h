@@ -66,7 +66,7 @@ public:
     /// Opens a cell by a double click and gives its line; null when it doesn't open.
     [[nodiscard]] QLineEdit* open(int row, int column) const
     {
-        clickCell(row, column); // the table knows a double click by the press ahead of it
+        clickCell(row, column); // the table takes a double click only after a press
         QTest::mouseDClick(table()->viewport(), Qt::LeftButton, {}, cell(row, column).center());
         return qobject_cast<QLineEdit*>(table()->indexWidget(index(row, column)));
     }

@@ -58,7 +58,7 @@ private Q_SLOTS:
             QCOMPARE(m_run->picture().copy(m_run->cell(0, 0)), few);
             fill(counting);
         }
-        // A short text stands there whole.
+        // A short text is shown whole.
         m_run->table()->setColumnWidth(0, 600);
         const QImage full = m_run->picture().copy(m_run->cell(0, 0));
         QVERIFY(list().set("[1 0 0 0 0 1 0 0 0 0 1 0 0 0 0 1]"));

@@ -229,7 +229,7 @@ private Q_SLOTS:
         const QImage full = run->picture();
         const QRect cell = run->cell(0, 0);
         QVERIFY(full.copy(cell) != empty.copy(cell));
-        // Nothing of it stands outside its cell.
+        // No part of it is outside its cell.
         const QRect beside(cell.right() + 2, cell.top(), 50, cell.height());
         QCOMPARE(full.copy(beside), empty.copy(beside));
     }

@@ -76,7 +76,7 @@ public:
     void set(const QString& value) { field->set(value.toUtf8().constData()); }
     [[nodiscard]] QString fieldText() const { return ToolHarness::textOf(*field); }
     [[nodiscard]] QString lineText() const { return driver.line->text(); }
-    /// Where the slider stands, from 0 at its left end on.
+    /// The position of the slider, from 0 at its left end.
     [[nodiscard]] int position() const
     {
         return static_cast<int>(qint64{driver.slider->value()} - driver.slider->minimum());

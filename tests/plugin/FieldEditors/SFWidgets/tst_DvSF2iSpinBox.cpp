@@ -26,7 +26,7 @@ public:
 
 } // namespace
 
-/// The base, and the two editors that stand on it.
+/// The base class and its two editors.
 class TestDvSF2iSpinBox : public QObject {
     Q_OBJECT
 

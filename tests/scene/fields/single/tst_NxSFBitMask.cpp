@@ -66,7 +66,7 @@ private Q_SLOTS:
         VbString text;
         field.get(text);
         QVERIFY(text == VbString("0"));
-        // A name of several bits stands for what no name ahead of it covers.
+        // A name of several bits is written if no earlier name covers them.
         field.setValue(7);
         field.get(text);
         QVERIFY(text == VbString("One | OneAndTwo | 0x4"));
