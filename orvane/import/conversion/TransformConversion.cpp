@@ -52,7 +52,7 @@ bool decompose(const aiMatrix4x4& m, Parts& parts)
         axes[0] = -axes[0];
         scale[0] = -scale[0];
     }
-    // Exactly 1 where that was meant, so that the field keeps its default.
+    // A factor that is 1 but for rounding becomes exactly 1, so that the field keeps its default.
     for (float& factor : scale)
         factor = isNear(factor, 1) && std::abs(factor - 1) < 1e-6F ? 1 : factor;
     parts.translation.setValue(m.a4, m.b4, m.c4);
