@@ -4,6 +4,7 @@
 #include "meridane/base/values/Unicode.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace meridane {
 
@@ -26,8 +27,8 @@ std::string_view trimmed(std::string_view text)
 
 void parseLine(std::string_view line, int number, SettingsText& result)
 {
-    const auto report = [&](std::size_t byte, const char* expected) {
-        result.problems.push_back({number, positionOf(line, byte).column, expected});
+    const auto report = [&](std::size_t byte, std::string expected) {
+        result.problems.push_back({number, positionOf(line, byte).column, std::move(expected)});
     };
     if (const std::size_t invalid = findInvalidUtf8(line); invalid != std::string_view::npos) {
         report(invalid, "expected valid UTF-8");
