@@ -103,6 +103,10 @@ private Q_SLOTS:
                 = runShell(QStringLiteral("\"$0-import\" --help"), {QStringLiteral(ORVANE_PROGRAM)}).output;
             for (const QString& option : words.filter(QRegularExpression(QStringLiteral("^--"))))
                 QVERIFY2(help.contains(option.toLatin1()), help.constData());
+        } else if (program == QStringLiteral("cp") || program.startsWith(QStringLiteral("update-"))) {
+            // They change the user's desktop. The files of ours that they name are there.
+            for (const QString& file : words.filter(QRegularExpression(QStringLiteral("^orvane/"))))
+                QVERIFY2(QFileInfo(sources + u'/' + file).isFile(), qPrintable(file));
         } else {
             QVERIFY2(program.section(u'/', -1) == QStringLiteral("orvane"), "a command of another kind");
             runTool(command);

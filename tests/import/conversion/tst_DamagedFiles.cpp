@@ -165,7 +165,8 @@ void tst_DamagedFiles::aDamagedFileIsOpenedOrRefusedWithOneMessage()
             ++scenes;
             QVERIFY2(scene && postedErrors == 0 && !NxSceneWriter::toText(scene.get()).empty(), where.constData());
         } else {
-            QVERIFY2(!scene && record.messages.size() == 1 && postedErrors == 1, where.constData());
+            // Whoever starts a job reports its failure, the job itself doesn't.
+            QVERIFY2(!scene && record.messages.size() == 1 && postedErrors == 0, where.constData());
             helpersLost += record.message().contains(QStringLiteral(": the import helper ")) ? 1 : 0;
             QVERIFY2(!record.message().isEmpty() && !record.message().contains(u'\n'), qPrintable(record.message()));
         }
