@@ -117,7 +117,7 @@ JsonToken JsonTokens::string()
     QString content;
     take();
     while (!isAtEnd()) {
-        const TextPosition here = m_position;
+        const meridane::TextPosition here = m_position;
         const QChar character = take();
         if (character == u'"')
             return {Kind::String, m_start, content};

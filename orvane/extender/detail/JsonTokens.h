@@ -1,14 +1,10 @@
 #pragma once
 
+#include "meridane/base/values/TextPosition.h"
+
 #include <QString>
 
 namespace orvane {
-
-/// A position in a text; both numbers count from 1, the column in characters.
-struct TextPosition {
-    int line = 1;
-    int column = 1;
-};
 
 /// One token of a JSON text.
 struct JsonToken {
@@ -32,7 +28,7 @@ struct JsonToken {
     };
 
     Kind kind = Kind::End;
-    TextPosition position;
+    meridane::TextPosition position;
     /// The content of a string, or as the kind says; else empty.
     QString text;
 };
@@ -55,9 +51,9 @@ private:
 
     QString m_text;
     qsizetype m_at = 0;
-    TextPosition m_position;
+    meridane::TextPosition m_position;
     /// The position of the current token's first character.
-    TextPosition m_start;
+    meridane::TextPosition m_start;
 };
 
 } // namespace orvane

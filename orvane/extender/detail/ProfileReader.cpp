@@ -76,25 +76,20 @@ bool ProfileReader::read()
 
 bool ProfileReader::decode(const QByteArray& json)
 {
-    std::string_view utf8(json.constData(), static_cast<std::size_t>(json.size()));
-    if (constexpr std::string_view mark = "\xEF\xBB\xBF"; utf8.starts_with(mark))
-        utf8.remove_prefix(mark.size());
+    const std::string_view utf8
+        = meridane::withoutByteOrderMark({json.constData(), static_cast<std::size_t>(json.size())});
     const std::size_t invalid = meridane::findInvalidUtf8(utf8);
     const auto valid = utf8.substr(0, invalid);
-    const QString text = QString::fromUtf8(valid.data(), static_cast<qsizetype>(valid.size()));
-    m_tokens = JsonTokens(text);
-    if (invalid == std::string_view::npos)
-        return true;
-    const auto line = static_cast<int>(text.count(u'\n')) + 1;
-    const auto column = static_cast<int>(QStringView(text).sliced(text.lastIndexOf(u'\n') + 1).toUcs4().size()) + 1;
-    return fail({line, column}, QStringLiteral("it isn't valid UTF-8"));
+    m_tokens = JsonTokens(QString::fromUtf8(valid.data(), static_cast<qsizetype>(valid.size())));
+    return invalid == std::string_view::npos
+        || fail(meridane::positionOf(utf8, invalid), QStringLiteral("it isn't valid UTF-8"));
 }
 
 bool ProfileReader::readProfile()
 {
     if (m_token.kind != Kind::ObjectBegin)
         return failExpecting("an object, the profile");
-    const TextPosition begin = m_token.position;
+    const meridane::TextPosition begin = m_token.position;
     if (!readObject([this](const JsonToken& key) { return readMember(key); }))
         return false;
     advance();
@@ -205,7 +200,7 @@ bool ProfileReader::expect(Kind kind, const char* what)
     return m_token.kind == kind || failExpecting(what);
 }
 
-bool ProfileReader::fail(TextPosition position, const QString& what)
+bool ProfileReader::fail(meridane::TextPosition position, const QString& what)
 {
     m_error = QStringLiteral("%1:%2:%3: %4").arg(m_fileName).arg(position.line).arg(position.column).arg(what);
     return false;

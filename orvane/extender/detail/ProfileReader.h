@@ -40,7 +40,7 @@ private:
     void advance() { m_token = m_tokens.next(); }
     /// Advances to the next token, which must be of that kind.
     [[nodiscard]] bool expect(Kind kind, const char* what);
-    [[nodiscard]] bool fail(TextPosition position, const QString& what);
+    [[nodiscard]] bool fail(meridane::TextPosition position, const QString& what);
     /// Fails with a message that names the current token and what was expected instead.
     [[nodiscard]] bool failExpecting(const char* what);
 
