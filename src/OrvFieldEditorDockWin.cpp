@@ -21,16 +21,16 @@ void OrvFieldEditorDockWin::activate()
     OrvExtension::activate();
     connect(OrvServices::getInstance(), &OrvServices::selectedFieldChanged, this,
         &OrvFieldEditorDockWin::s_selectedFieldChanged);
-    m_selectionDock.enterShell();
+    selectionDock().enterShell();
 }
 
 void OrvFieldEditorDockWin::deactivate()
 {
-    m_selectionDock.release();
+    selectionDock().release();
     OrvExtension::deactivate();
     disconnect(OrvServices::getInstance(), &OrvServices::selectedFieldChanged, this,
         &OrvFieldEditorDockWin::s_selectedFieldChanged);
-    m_selectionDock.leaveShell();
+    selectionDock().leaveShell();
 }
 
 void OrvFieldEditorDockWin::hide()
@@ -41,7 +41,7 @@ void OrvFieldEditorDockWin::hide()
 
 void OrvFieldEditorDockWin::load()
 {
-    m_selectionDock.load(QStringLiteral("Field Editor"));
+    selectionDock().load(QStringLiteral("Field Editor"));
 }
 
 void OrvFieldEditorDockWin::show()
@@ -52,10 +52,10 @@ void OrvFieldEditorDockWin::show()
 
 void OrvFieldEditorDockWin::unload()
 {
-    m_selectionDock.unload();
+    selectionDock().unload();
 }
 
 void OrvFieldEditorDockWin::s_selectedFieldChanged(NxField* field)
 {
-    m_selectionDock.show(field);
+    selectionDock().show(field);
 }

@@ -20,16 +20,16 @@ void OrvNodeEditor::activate()
 {
     OrvExtension::activate();
     connect(OrvServices::getInstance(), &OrvServices::selectedNodeChanged, this, &OrvNodeEditor::s_selectedNodeChanged);
-    m_selectionDock.enterShell();
+    selectionDock().enterShell();
 }
 
 void OrvNodeEditor::deactivate()
 {
-    m_selectionDock.release();
+    selectionDock().release();
     OrvExtension::deactivate();
     disconnect(
         OrvServices::getInstance(), &OrvServices::selectedNodeChanged, this, &OrvNodeEditor::s_selectedNodeChanged);
-    m_selectionDock.leaveShell();
+    selectionDock().leaveShell();
 }
 
 void OrvNodeEditor::hide()
@@ -40,7 +40,7 @@ void OrvNodeEditor::hide()
 
 void OrvNodeEditor::load()
 {
-    m_selectionDock.load(QStringLiteral("Node Editor"));
+    selectionDock().load(QStringLiteral("Node Editor"));
 }
 
 void OrvNodeEditor::show()
@@ -51,10 +51,10 @@ void OrvNodeEditor::show()
 
 void OrvNodeEditor::unload()
 {
-    m_selectionDock.unload();
+    selectionDock().unload();
 }
 
 void OrvNodeEditor::s_selectedNodeChanged(NxFieldContainer* node)
 {
-    m_selectionDock.show(node);
+    selectionDock().show(node);
 }

@@ -27,7 +27,9 @@ private Q_SLOTS:
     void s_selectedNodeChanged(NxFieldContainer* node);
 
 private:
+    // Made for each call: the extension has no other data than the dock and its editor.
+    [[nodiscard]] orvane::SelectionDock selectionDock() { return {*this, m_dock, m_currentEditor}; }
+
     QDockWidget* m_dock = nullptr;
     OrvEditor* m_currentEditor = nullptr;
-    orvane::SelectionDock m_selectionDock{*this, m_dock, m_currentEditor};
 };

@@ -11,8 +11,8 @@ namespace orvane {
 /// What the two extensions that follow a selection have in common: a dock widget that shows the best editor for the
 /// selected object.
 ///
-/// Each extension holds one and keeps the dock and the editor as members of its own, which this class reads and writes.
-/// The extension owns the dock; the editor is another extension, which lives longer than the selection.
+/// An object of this class works on the dock and the editor that the extension keeps as members of its own. The
+/// extension owns the dock; the editor is another extension, which lives longer than the selection.
 class SelectionDock final {
 public:
     /// The three must live as long as this object. `dock` and `currentEditor` are null at first.
