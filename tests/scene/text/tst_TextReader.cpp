@@ -140,7 +140,7 @@ private Q_SLOTS:
         QTest::newRow("endless exponent") << std::string("1e-99999999999999999999999") << false;
         QTest::newRow("endless fraction") << "0." + std::string(5000, '0') + "1" << false;
         QTest::newRow("digits against the exponent") << "1" + std::string(100, '0') + "e-999" << false;
-        QTest::newRow("no digit ahead of the point") << "-." + std::string(5000, '0') + "1e+10" << true;
+        QTest::newRow("no digit before the point") << "-." + std::string(5000, '0') + "1e+10" << true;
     }
 
     void fractionsTooSmallBecomeZero()
