@@ -59,6 +59,42 @@ void measureOpening(const std::string& name)
         });
 }
 
+/// A scene in which each field of the first node and each node after it is of a kind of its own that no class has.
+std::string textOfUnknownKinds(int count)
+{
+    std::string text = "#mrd 1.0\nGroup {\n";
+    for (int i = 0; i < count; ++i)
+        text += "unknown" + std::to_string(i) + " = " + std::to_string(i) + '\n';
+    text += "}\n";
+    for (int i = 0; i < count; ++i)
+        text += "Class" + std::to_string(i) + " as \"a\" { }\n";
+    return text;
+}
+
+void readText(const std::string& text)
+{
+    NxSceneReader reader(text, "scene.mrd");
+    if (reader.run() != NxSceneReader::State::Done)
+        std::abort();
+}
+
+// Both read as many nodes. In quadratic time the one scene takes ten times as long as the ten small ones.
+void measureUnknownKinds()
+{
+    constexpr int scenes = 10;
+    const std::string small = textOfUnknownKinds(10'000);
+    const std::string large = textOfUnknownKinds(scenes * 10'000);
+    bench::compare(
+        "scene of 200,000 unknown kinds: open, against ten of a tenth", 3, 9,
+        [&large] { return bench::seconds([&large] { readText(large); }); },
+        [&small] {
+            return bench::seconds([&small] {
+                for (int i = 0; i < scenes; ++i)
+                    readText(small);
+            });
+        });
+}
+
 /// The memory of the fields of a node alone: the size of each with the memory of its value.
 double bytesOfFields(const NxFieldContainer& node)
 {
@@ -99,6 +135,7 @@ int main()
     const std::string name = bench::sceneFile(bench::largeSceneNodes);
     measureMemory(name);
     measureOpening(name);
+    measureUnknownKinds();
     std::filesystem::remove(name);
     return 0;
 }

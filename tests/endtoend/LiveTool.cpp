@@ -1,5 +1,7 @@
 #include "endtoend/LiveTool.h"
 
+#include "Patience.h"
+
 #include <QDeadlineTimer>
 #include <QTest>
 
@@ -13,12 +15,10 @@
 
 namespace {
 
-constexpr int patience = 30000; // milliseconds
-
 bool waitReadable(int descriptor)
 {
     pollfd entry{descriptor, POLLIN, 0};
-    return ::poll(&entry, 1, patience) == 1;
+    return ::poll(&entry, 1, testPatience) == 1;
 }
 
 QRect toRect(const QString& text)
@@ -41,7 +41,7 @@ LiveTool::~LiveTool()
         process->terminate();
         if (!process->waitForFinished(5000))
             process->kill();
-        process->waitForFinished();
+        process->waitForFinished(testPatience);
     }
 }
 
@@ -52,7 +52,7 @@ bool LiveTool::startServer()
     m_server.setArguments({QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
         QStringLiteral("0"), QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     m_server.start();
-    if (!m_server.waitForReadyRead(patience))
+    if (!m_server.waitForReadyRead(testPatience))
         return false;
     m_environment = QProcessEnvironment::systemEnvironment();
     m_environment.insert(
@@ -70,11 +70,11 @@ bool LiveTool::startWindowManager()
     for (int attempt = 0; attempt < attempts; ++attempt) {
         m_windowManager.start(
             QStringLiteral("openbox"), {QStringLiteral("--config-file"), QStringLiteral("/dev/null")});
-        if (QTest::qWaitFor([this] { return windowManagerAnswers(); }, patience / attempts))
+        if (QTest::qWaitFor([this] { return windowManagerAnswers(); }, testPatience / attempts))
             return true;
         qWarning("openbox doesn't answer: %s", m_windowManager.readAllStandardError().constData());
         m_windowManager.kill();
-        m_windowManager.waitForFinished();
+        m_windowManager.waitForFinished(testPatience);
     }
     return false;
 }
@@ -84,7 +84,7 @@ bool LiveTool::windowManagerAnswers() const
     QProcess process;
     process.setProcessEnvironment(m_environment);
     process.start(QStringLiteral("xdotool"), {QStringLiteral("get_desktop")});
-    return process.waitForFinished(patience) && process.exitCode() == 0;
+    return process.waitForFinished(testPatience) && process.exitCode() == 0;
 }
 
 bool LiveTool::acceptProbe(int listener)
@@ -124,7 +124,7 @@ bool LiveTool::start(const QStringList& arguments)
             QStringLiteral("1200x760")}
         + arguments);
     m_tool.start();
-    const bool connected = m_tool.waitForStarted(patience) && acceptProbe(listener);
+    const bool connected = m_tool.waitForStarted(testPatience) && acceptProbe(listener);
     ::close(listener);
     if (!connected) {
         qWarning("The tool doesn't start.");
@@ -147,7 +147,7 @@ QStringList LiveTool::settingsArguments() const
 int LiveTool::quit()
 {
     key(QStringLiteral("ctrl+q"));
-    return m_tool.waitForFinished(patience) && m_tool.exitStatus() == QProcess::NormalExit ? m_tool.exitCode() : -1;
+    return m_tool.waitForFinished(testPatience) && m_tool.exitStatus() == QProcess::NormalExit ? m_tool.exitCode() : -1;
 }
 
 QString LiveTool::ask(const QString& request)
@@ -164,7 +164,7 @@ QString LiveTool::ask(const QString& request)
 
 QString LiveTool::await(const QString& request)
 {
-    const QDeadlineTimer deadline(patience);
+    const QDeadlineTimer deadline(testPatience);
     QString reply = ask(request);
     while (reply.isEmpty() && !deadline.hasExpired() && m_tool.state() == QProcess::Running) {
         QTest::qWait(20);
@@ -192,7 +192,7 @@ QString LiveTool::property(const QString& name, const QString& key)
 
 bool LiveTool::becomes(const QString& name, const QString& key)
 {
-    const bool became = QTest::qWaitFor([&] { return property(name, key) == QLatin1String("true"); }, patience);
+    const bool became = QTest::qWaitFor([&] { return property(name, key) == QLatin1String("true"); }, testPatience);
     if (!became)
         qWarning("'%s' of '%s' isn't true.", qPrintable(key), qPrintable(name));
     return became;
@@ -267,7 +267,7 @@ void LiveTool::saveScreen(const QString& fileName)
     QProcess process;
     process.setProcessEnvironment(m_environment);
     process.start(QStringLiteral("import"), {QStringLiteral("-window"), QStringLiteral("root"), fileName});
-    process.waitForFinished(patience);
+    process.waitForFinished(testPatience);
 }
 
 QImage LiveTool::screen()
@@ -283,6 +283,6 @@ void LiveTool::xdotool(const QStringList& arguments)
     process.setProcessEnvironment(m_environment);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QStringLiteral("xdotool"), arguments);
-    if (!process.waitForFinished(patience) || process.exitCode() != 0)
+    if (!process.waitForFinished(testPatience) || process.exitCode() != 0)
         qWarning("xdotool %s failed.", qPrintable(arguments.join(u' ')));
 }

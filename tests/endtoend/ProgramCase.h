@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Patience.h"
 #include "TestFiles.h"
 
 #include <QFile>
@@ -46,7 +47,7 @@ protected:
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder());
         process.start(QStringLiteral("/bin/sh"), QStringList{QStringLiteral("-c"), command} + arguments);
-        if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        if (!process.waitForFinished(testPatience) || process.exitStatus() != QProcess::NormalExit)
             return {};
         return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
     }

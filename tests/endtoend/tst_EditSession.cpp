@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "TestFiles.h"
 #include "endtoend/LiveTool.h"
 
@@ -35,7 +36,7 @@ private:
         QProcess process;
         process.start(QStringLiteral(ORVANE_PROGRAM),
             {QStringLiteral("--no-settings"), QStringLiteral("--get"), path, fileName()});
-        process.waitForFinished();
+        process.waitForFinished(testPatience);
         return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
     }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Patience.h"
 #include "import/SceneOf.h"
 
 #include <QProcess>
@@ -32,7 +33,7 @@ inline HelperRun runHelper(const QStringList& arguments, const std::string& inpu
     process.write(input.data(), static_cast<qint64>(input.size()));
     process.closeWriteChannel();
     HelperRun run;
-    if (!process.waitForFinished(60000))
+    if (!process.waitForFinished(testPatience))
         return run;
     run.status = process.exitCode();
     run.crashed = process.exitStatus() != QProcess::NormalExit;

@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "TestFiles.h"
 #include "app/AppScenes.h"
 #include "app/SaveScene.h"
@@ -88,12 +89,12 @@ void tst_SaveFaults::killedAtAnyMomentTheFileIsOldOrNew()
     for (int kill = 0; kill < (given ? kills : 50); ++kill) {
         QProcess process;
         process.start(QStringLiteral(SAVE_UNDER_FAULT), {m_fileName, QStringLiteral("loop")});
-        QVERIFY(process.waitForReadyRead());
+        QVERIFY(process.waitForReadyRead(testPatience));
         // A random moment of what it does is what this test is about.
         ::usleep(std::uniform_int_distribution<unsigned>(0, 20000)(random));
         QCOMPARE(process.state(), QProcess::Running);
         process.kill();
-        QVERIFY(process.waitForFinished());
+        QVERIFY(process.waitForFinished(testPatience));
         QCOMPARE(process.exitCode(), SIGKILL);
         const QByteArray content = readFile(m_fileName);
         QVERIFY2(content == first || content == second, qPrintable(QStringLiteral("kill %1").arg(kill)));
@@ -143,7 +144,7 @@ void tst_SaveFaults::aFileSystemThatRefusesKeepsTheOldFile()
     QFETCH(QString, message);
     QProcess process;
     process.start(QStringLiteral(SAVE_UNDER_FAULT), {m_folder->path(), options});
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished(testPatience));
     if (process.exitCode() == 77)
         QSKIP("this machine lets nobody mount a file system");
     QCOMPARE(QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts),

@@ -1,5 +1,7 @@
 #include "app/window/WindowMonkey.h"
 
+#include "Patience.h"
+
 #include "orvane/app/base/SearchFolders.h"
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/files/JobBar.h"
@@ -18,8 +20,6 @@
 #include <QTreeView>
 
 namespace {
-
-constexpr int patience = 60000; // in milliseconds, for a machine that does much else
 
 } // namespace
 
@@ -311,7 +311,7 @@ void WindowMonkey::checkItStillWorks()
         m_window->findChild<JobBar*>()->cancel();
         return m_window->findChild<JobBar*>()->isIdle();
     };
-    QTRY_VERIFY_WITH_TIMEOUT(idle(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(idle(), testPatience);
     if (m_window->isHidden())
         makeWindow();
     checkItAnswers();
@@ -325,7 +325,7 @@ void WindowMonkey::checkItStillWorks()
     m_window->openFile(m_files.path("small.mrd"));
     settle();
     QVERIFY2(scene() != nullptr && m_session->document().fileName() == m_files.path("small.mrd"), qPrintable(state()));
-    QTRY_VERIFY_WITH_TIMEOUT(!settled.isEmpty(), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(!settled.isEmpty(), testPatience);
     checkFiles();
 }
 
@@ -365,7 +365,7 @@ void WindowMonkey::settle()
         QCoreApplication::sendPostedEvents(); // what has waited for the last dialog or job begins with one of them
         return isFree();
     };
-    QTRY_VERIFY2_WITH_TIMEOUT(isSettled(), qPrintable(state()), patience);
+    QTRY_VERIFY2_WITH_TIMEOUT(isSettled(), qPrintable(state()), testPatience);
 }
 
 bool WindowMonkey::hasNewScene(int before) const

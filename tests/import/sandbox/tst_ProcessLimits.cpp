@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "TestFiles.h"
 #include "import/sandbox/BusyHelper.h"
 
@@ -93,7 +94,7 @@ void tst_ProcessLimits::beyondItsTimeItIsToldSo()
     QProcess process;
     process.start(
         helperProgram(), {QStringLiteral("--processor-time"), QStringLiteral("1"), QStringLiteral("--read"), fileName});
-    QVERIFY(process.waitForFinished(60000));
+    QVERIFY(process.waitForFinished(testPatience));
     QCOMPARE(process.exitStatus(), QProcess::CrashExit);
     // The kernel's signal for this, which SIGKILL would hide.
     QCOMPARE(process.exitCode(), SIGXCPU);

@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "TestFiles.h"
 #include "import/HelperRun.h"
 
@@ -88,7 +89,7 @@ QString tst_Sandbox::outcome(const char* locks, const QByteArray& thing) const
     process.start(QStringLiteral("/bin/sh"),
         {QStringLiteral("-c"), QStringLiteral("exec \"$0\" \"$@\" 7>>\"$3/inherited\""),
             QString::fromUtf8(SANDBOX_PROBE), QString::fromUtf8(locks), QString::fromUtf8(thing), m_folder->path()});
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+    if (!process.waitForFinished(testPatience) || process.exitStatus() != QProcess::NormalExit)
         return QStringLiteral("it didn't end by itself");
     return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
@@ -97,7 +98,7 @@ QString tst_Sandbox::runBare(const QStringList& arguments) const
 {
     QProcess process;
     process.start(QString::fromUtf8(BARE_MACHINE), arguments);
-    if (!process.waitForFinished(60000))
+    if (!process.waitForFinished(testPatience))
         return QStringLiteral("it didn't end");
     return QString::fromUtf8(process.readAllStandardError() + process.readAllStandardOutput());
 }
