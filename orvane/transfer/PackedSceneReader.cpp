@@ -69,7 +69,7 @@ void PackedSceneReader::work(std::chrono::microseconds budget)
     if (!m_scene)
         return startText();
     if (m_done < m_blocks.size())
-        return m_walked <= block().node ? findNode() : readBlock();
+        return m_visitedNodes <= block().node ? findNode() : readBlock();
     m_state = State::Done;
 }
 
@@ -100,10 +100,10 @@ void PackedSceneReader::readText(std::chrono::microseconds budget)
 void PackedSceneReader::findNode()
 {
     constexpr std::size_t nodesPerTimeCheck = 1000;
-    for (std::size_t count = 0; count < nodesPerTimeCheck && m_walked <= block().node; ++count) {
+    for (std::size_t count = 0; count < nodesPerTimeCheck && m_visitedNodes <= block().node; ++count) {
         m_node = m_traversal->next();
         m_nextField = 0;
-        ++m_walked;
+        ++m_visitedNodes;
         if (m_node == nullptr)
             return failAtBlock("is for a node that isn't there");
     }
@@ -111,7 +111,7 @@ void PackedSceneReader::findNode()
 
 void PackedSceneReader::readBlock()
 {
-    if (block().node + 1 != m_walked)
+    if (block().node + 1 != m_visitedNodes)
         return failAtBlock("is for a node before that of the block before it");
     const NxFieldData& data = *m_node->getFieldData();
     int index = 0;

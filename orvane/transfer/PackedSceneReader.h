@@ -71,7 +71,7 @@ private:
 
     std::optional<meridane::NodeTraversal> m_traversal;
     NxNode* m_node = nullptr; // the present node of the traversal
-    std::size_t m_walked = 0; // visited nodes, that one included
+    std::size_t m_visitedNodes = 0; // that one included
     int m_nextField = 0; // of that node that a block may be for
 };
 

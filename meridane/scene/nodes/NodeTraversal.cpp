@@ -1,10 +1,12 @@
 #include "meridane/scene/nodes/NodeTraversal.h"
 
+#include "meridane/scene/nodes/NxNode.h"
+
 namespace meridane {
 
-NodeTraversal::NodeTraversal(const NxGroup& scene)
+NodeTraversal::NodeTraversal(const NxNode& top)
+    : m_levels{{top.getChildren()}}
 {
-    m_levels.push_back({scene.getChildren()});
 }
 
 NxNode* NodeTraversal::next()
@@ -17,23 +19,38 @@ NxNode* NodeTraversal::next()
 
 NxNode* NodeTraversal::nextUse()
 {
-    while (!m_levels.empty()) {
-        Level& level = m_levels.back();
-        if (level.next == level.children.size()) {
-            m_levels.pop_back();
-            continue;
-        }
-        NxNode* const node = level.children[level.next++];
-        m_depth = m_levels.size();
-        // Each use holds a reference, so most nodes aren't looked up.
-        m_isFirstUse = node->getRefCount() == 1 || m_visited.insert(node).second;
-        if (!m_isFirstUse)
-            return node;
-        if (const auto children = node->getChildren(); !children.empty())
+    if (m_isFirstUse) {
+        if (const auto children = m_levels.back().latest()->getChildren(); !children.empty())
             m_levels.push_back({children});
-        return node;
     }
-    return nullptr;
+    m_isFirstUse = false;
+    while (!m_levels.empty() && m_levels.back().next == m_levels.back().children.size())
+        m_levels.pop_back();
+    if (m_levels.empty())
+        return nullptr;
+    ++m_levels.back().next;
+    NxNode* const node = m_levels.back().latest();
+    // Each use holds a reference, so most nodes aren't looked up.
+    m_isFirstUse = node->getRefCount() == 1 || m_visited.insert(node).second;
+    return node;
+}
+
+std::vector<NxNode*> NodeTraversal::path() const
+{
+    std::vector<NxNode*> nodes;
+    nodes.reserve(m_levels.size());
+    for (const Level& level : m_levels)
+        nodes.push_back(level.latest());
+    return nodes;
+}
+
+std::vector<int> NodeTraversal::indices() const
+{
+    std::vector<int> indices;
+    indices.reserve(m_levels.size());
+    for (const Level& level : m_levels)
+        indices.push_back(static_cast<int>(level.next) - 1);
+    return indices;
 }
 
 } // namespace meridane

@@ -2,10 +2,10 @@
 
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldText.h"
-#include "orvane/app/scene/SceneWalk.h"
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/nodes/NodeTraversal.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
 #include <QTextStream>
@@ -20,16 +20,13 @@ constexpr qsizetype listedValueLength = 1000;
 
 void SceneListing::print()
 {
-    SceneWalk walk(*m_scene);
+    meridane::NodeTraversal nodes(*m_scene);
     while (m_output.status() == QTextStream::Ok) {
-        NxNode* const node = walk.next();
+        NxNode* const node = nodes.nextUse();
         if (node == nullptr)
             break;
-        const Places places = walk.indices();
-        const Places* const first = firstPlacesOf(*node, places);
-        printNode(*node, places, first);
-        if (first == nullptr)
-            walk.enter();
+        const Places places = nodes.indices();
+        printNode(*node, places, firstPlacesOf(*node, places));
     }
 }
 

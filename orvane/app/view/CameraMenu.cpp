@@ -3,9 +3,9 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/scene/SceneDocument.h"
-#include "orvane/app/scene/SceneWalk.h"
 #include "orvane/app/view/SceneView.h"
 
+#include "meridane/scene/nodes/NodeTraversal.h"
 #include "meridane/scene/nodes/NxCamera.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
@@ -71,15 +71,13 @@ std::vector<std::vector<NxNode*>> CameraMenu::cameras() const
     std::vector<std::vector<NxNode*>> result;
     if (!m_document.isOpen())
         return result;
-    SceneWalk walk(*m_document.scene());
+    meridane::NodeTraversal nodes(*m_document.scene());
     while (result.size() < mostCameras) {
-        NxNode* const node = walk.next();
+        const NxNode* const node = nodes.nextUse();
         if (node == nullptr)
             break;
-        if (dynamic_cast<NxCamera*>(node) != nullptr)
-            result.push_back(walk.path());
-        else
-            walk.enterOnce();
+        if (dynamic_cast<const NxCamera*>(node) != nullptr)
+            result.push_back(nodes.path());
     }
     return result;
 }

@@ -1,5 +1,6 @@
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NodeTraversal.h"
+#include "meridane/scene/nodes/NxGroup.h"
 #include "meridane/scene/nodes/NxMesh.h"
 
 #include <QTest>
@@ -35,43 +36,70 @@ NxRef<NxGroup> sharingScene()
 
 } // namespace
 
-class tst_NodeTraversal : public QObject {
+class TestNodeTraversal : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void anEmptySceneHasNoNodes();
-    void parentsComeBeforeTheirChildrenAndSharedNodesOnce();
-    void everyUseComesWithItsDepth();
+    void anEmptySceneHasNoNodes()
+    {
+        const NxRef<NxGroup> scene = new NxGroup;
+        QVERIFY(NodeTraversal(*scene).next() == nullptr);
+        QVERIFY(NodeTraversal(*scene).nextUse() == nullptr);
+    }
+
+    void parentsComeBeforeTheirChildrenAndSharedNodesOnce()
+    {
+        const NxRef<NxGroup> scene = sharingScene();
+        NodeTraversal nodes(*scene);
+        std::string names;
+        while (const NxNode* const node = nodes.next())
+            names.append(node->getName().view()).append(" ");
+        QCOMPARE(names, std::string("a m b "));
+    }
+
+    void everyUseComesWithItsDepth()
+    {
+        const NxRef<NxGroup> scene = sharingScene();
+        NodeTraversal nodes(*scene);
+        std::string uses;
+        while (const NxNode* const node = nodes.nextUse())
+            uses.append(node->getName().view())
+                .append(std::to_string(nodes.depth()))
+                .append(nodes.isFirstUse() ? "! " : " ");
+        QCOMPARE(uses, std::string("a1! m2! b2! m3 b1 "));
+    }
+
+    void everyUseComesWithItsPathAndIndices()
+    {
+        const NxRef<NxGroup> scene = sharingScene();
+        NodeTraversal nodes(*scene);
+        std::string uses;
+        while (nodes.nextUse() != nullptr) {
+            for (const NxNode* const node : nodes.path())
+                uses.append("/").append(node->getName().view());
+            for (const int index : nodes.indices())
+                uses.append(" ").append(std::to_string(index));
+            uses += '\n';
+        }
+        QCOMPARE(uses, std::string("/a 0\n/a/m 0 0\n/a/b 0 1\n/a/b/m 0 1 0\n/b 1\n"));
+    }
+
+    void theEndIsTheEnd()
+    {
+        const NxRef<NxGroup> scene = new NxGroup;
+        const NxRef<NxGroup> group = namedGroup("last");
+        scene->addChild(group.get());
+        group->addChild(namedGroup("leaf").get());
+        NodeTraversal nodes(*scene);
+        QVERIFY(nodes.next() == group.get());
+        QVERIFY(nodes.next() != nullptr);
+        for (int call = 0; call < 2; ++call) {
+            QVERIFY(nodes.next() == nullptr);
+            QVERIFY(!nodes.isFirstUse());
+            QVERIFY(nodes.path().empty());
+        }
+    }
 };
 
-void tst_NodeTraversal::anEmptySceneHasNoNodes()
-{
-    const NxRef<NxGroup> scene = new NxGroup;
-    QVERIFY(NodeTraversal(*scene).next() == nullptr);
-    QVERIFY(NodeTraversal(*scene).nextUse() == nullptr);
-}
-
-void tst_NodeTraversal::parentsComeBeforeTheirChildrenAndSharedNodesOnce()
-{
-    const NxRef<NxGroup> scene = sharingScene();
-    NodeTraversal nodes(*scene);
-    std::string names;
-    while (const NxNode* const node = nodes.next())
-        names.append(node->getName().view()).append(" ");
-    QCOMPARE(names, std::string("a m b "));
-}
-
-void tst_NodeTraversal::everyUseComesWithItsDepth()
-{
-    const NxRef<NxGroup> scene = sharingScene();
-    NodeTraversal nodes(*scene);
-    std::string uses;
-    while (const NxNode* const node = nodes.nextUse())
-        uses.append(node->getName().view())
-            .append(std::to_string(nodes.depth()))
-            .append(nodes.isFirstUse() ? "! " : " ");
-    QCOMPARE(uses, std::string("a1! m2! b2! m3 b1 "));
-}
-
-QTEST_GUILESS_MAIN(tst_NodeTraversal)
+QTEST_GUILESS_MAIN(TestNodeTraversal)
 #include "tst_NodeTraversal.moc"

@@ -1,5 +1,7 @@
 #include "meridane/scene/file/detail/SceneSharing.h"
 
+#include "meridane/scene/nodes/NxGroup.h"
+
 #include <algorithm>
 
 namespace meridane {

@@ -9,6 +9,9 @@
 #include <unordered_set>
 #include <vector>
 
+class NxGroup;
+class NxNode;
+
 namespace meridane {
 
 /// Examines a scene before it is written: counts its nodes, finds those that are used several times, and chooses the
