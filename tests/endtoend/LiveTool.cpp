@@ -49,8 +49,10 @@ bool LiveTool::startServer()
 {
     // The server picks a free display and reports its number.
     m_server.setProgram(QStringLiteral("Xvfb"));
-    m_server.setArguments({QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-        QStringLiteral("0"), QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    // Without key repetition: on a busy machine a key seems to be held for long.
+    m_server.setArguments(
+        {QStringLiteral("-r"), QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+            QStringLiteral("0"), QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     m_server.start();
     if (!m_server.waitForReadyRead(testPatience))
         return false;
@@ -260,6 +262,17 @@ void LiveTool::key(const QString& name)
 void LiveTool::type(const QString& text)
 {
     xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
+}
+
+bool LiveTool::typeInto(const QString& name, const QString& text)
+{
+    if (!becomes(name, QStringLiteral("focus")))
+        return false;
+    type(text);
+    const bool arrived = QTest::qWaitFor([&] { return property(name, QStringLiteral("text")) == text; }, testPatience);
+    if (!arrived)
+        qWarning("'%s' has '%s'.", qPrintable(name), qPrintable(property(name, QStringLiteral("text"))));
+    return arrived;
 }
 
 void LiveTool::saveScreen(const QString& fileName)

@@ -46,6 +46,8 @@ public:
     /// A key or chord as X names it, such as "ctrl+z" or "Return".
     void key(const QString& name);
     void type(const QString& text);
+    /// Waits until the line has the focus, types the text, and waits until the line shows it.
+    [[nodiscard]] bool typeInto(const QString& name, const QString& text);
     /// Writes a picture of the screen.
     void saveScreen(const QString& fileName);
     /// What the screen shows now.
