@@ -164,11 +164,16 @@ Result<> WindowRun::writeAll(Session& session, MainWindow& window)
     if (!result || !written)
         return result ? written : result;
     window.startView();
-    // Events and the sensors' queue update layouts, editors and the view's messages, and each may cause the other.
-    QEventLoop loop;
-    while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty() || window.isLoadingImages()) {
-        if (window.isLoadingImages())
-            loop.processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return orvane::writePicture(window.grab(), m_commandLine.screenshotFile);
+    QPixmap picture;
+    do {
+        // Events and the sensors' queue update layouts, editors and the view's messages, and each may cause the other.
+        QEventLoop loop;
+        while (loop.processEvents() || !NxDelayQueue::getDefault().isEmpty() || window.isLoadingImages()) {
+            if (window.isLoadingImages())
+                loop.processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        picture = window.grab();
+        // The view may have been drawn just now for the first time, and have asked for its images.
+    } while (window.isLoadingImages());
+    return orvane::writePicture(picture, m_commandLine.screenshotFile);
 }
