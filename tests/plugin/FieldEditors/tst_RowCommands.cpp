@@ -8,10 +8,15 @@
 #include "plugin/WriteCounter.h"
 
 #include <algorithm>
+#include <array>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <random>
+#include <span>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -31,6 +36,102 @@ public:
 
     int insertions = 0;
     bool full = false;
+};
+
+/// A list that is changed at random through the history, and a plain vector to which the same happens.
+class ModelledList {
+public:
+    /// Returns a random number from 0 to below its argument.
+    using Random = std::function<int(int)>;
+
+    ModelledList()
+    {
+        m_tool.services.selectField(&m_list);
+        m_list.setValues(std::span<const int>());
+    }
+
+    void addRows(const Random& below)
+    {
+        const int start = below(rows() + 1);
+        const int count = 1 + below(3);
+        Values after = m_model;
+        after.insert(after.begin() + start, static_cast<std::size_t>(count), 0);
+        push(new OrvMFAddRowsCommand(&m_list, start, count), std::move(after));
+    }
+
+    void deleteRows(const Random& below)
+    {
+        if (rows() == 0)
+            return;
+        const int start = below(rows());
+        const int count = 1 + below(rows() - start);
+        Values after = m_model;
+        after.erase(after.begin() + start, after.begin() + start + count);
+        push(new OrvMFDeleteRowsCommand(&m_list, start, count), std::move(after));
+    }
+
+    void swapRows(const Random& below)
+    {
+        if (rows() == 0)
+            return;
+        const int first = below(rows());
+        const int second = below(rows());
+        Values after = m_model;
+        std::swap(after[static_cast<std::size_t>(first)], after[static_cast<std::size_t>(second)]);
+        push(new OrvMFSwapRowsCommand(&m_list, first, second), std::move(after));
+    }
+
+    /// The command of an edit only repeats it. The steps before it would restore older values around it.
+    void editARow(const Random& below)
+    {
+        if (rows() == 0)
+            return;
+        const int row = below(rows());
+        const int value = below(1000);
+        m_model[static_cast<std::size_t>(row)] = value;
+        m_list.set1(row, std::to_string(value).c_str());
+        m_tool.services.clearHistory();
+        orvane::pushSetRowCommand(&m_list, row);
+        m_steps = {{m_model, m_model}};
+        m_done = 1;
+    }
+
+    void undo(const Random& /*below*/)
+    {
+        if (m_done == 0)
+            return;
+        m_model = m_steps[--m_done].first;
+        m_tool.services.undo();
+    }
+
+    void redo(const Random& /*below*/)
+    {
+        if (m_done == m_steps.size())
+            return;
+        m_model = m_steps[m_done++].second;
+        m_tool.services.redo();
+    }
+
+    [[nodiscard]] bool equalsItsModel() const { return std::ranges::equal(m_model, m_list.getValues()); }
+
+private:
+    using Values = std::vector<int>;
+
+    [[nodiscard]] int rows() const { return static_cast<int>(m_model.size()); }
+
+    void push(OrvCommand* command, Values after)
+    {
+        m_steps.resize(m_done++);
+        m_steps.emplace_back(m_model, after);
+        m_model = std::move(after);
+        m_tool.services.pushCommand(command);
+    }
+
+    ToolHarness m_tool;
+    NxMFInt32& m_list = m_tool.node->mfInt32;
+    Values m_model;
+    std::vector<std::pair<Values, Values>> m_steps; // of the history, the values before and after each
+    std::size_t m_done = 0; // steps that aren't undone
 };
 
 QString textOf(const NxField& field)
@@ -258,87 +359,16 @@ private Q_SLOTS:
         QCOMPARE(textOf(list), QStringLiteral("[1, 2, 3, 4]"));
     }
 
-    // Any sequence of changes and steps through the history leaves what the same sequence leaves in a plain vector.
     void historyFollowsAModel()
     {
-        using Values = std::vector<int>;
-        ToolHarness tool;
-        NxMFInt32& list = tool.node->mfInt32;
-        tool.services.selectField(&list);
+        ModelledList list;
         std::mt19937 random(20261121);
         const auto below = [&random](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
-        Values model;
-        // For each step of the history the values before and after it; an edit is no step and lives on in both.
-        std::vector<std::pair<Values, Values>> steps;
-        std::size_t done = 0;
-        list.setValues(std::span<const int>());
-        const auto push = [&](OrvCommand* command, const Values& after) {
-            steps.resize(done);
-            steps.emplace_back(model, after);
-            ++done;
-            model = after;
-            tool.services.pushCommand(command);
-        };
+        const std::array changes{&ModelledList::addRows, &ModelledList::deleteRows, &ModelledList::swapRows,
+            &ModelledList::editARow, &ModelledList::undo, &ModelledList::redo};
         for (int i = 0; i < 4000; ++i) {
-            const int rows = static_cast<int>(model.size());
-            Values after = model;
-            switch (below(6)) {
-            case 0: {
-                const int start = below(rows + 1);
-                const int count = 1 + below(3);
-                after.insert(after.begin() + start, static_cast<std::size_t>(count), 0);
-                push(new OrvMFAddRowsCommand(&list, start, count), after);
-                break;
-            }
-            case 1: {
-                if (rows == 0)
-                    break;
-                const int start = below(rows);
-                const int count = 1 + below(rows - start);
-                after.erase(after.begin() + start, after.begin() + start + count);
-                push(new OrvMFDeleteRowsCommand(&list, start, count), after);
-                break;
-            }
-            case 2: {
-                if (rows == 0)
-                    break;
-                const int first = below(rows);
-                const int second = below(rows);
-                std::swap(after[static_cast<std::size_t>(first)], after[static_cast<std::size_t>(second)]);
-                push(new OrvMFSwapRowsCommand(&list, first, second), after);
-                break;
-            }
-            case 3: {
-                // An edit, whose command only repeats it. The steps before it would bring back older values around
-                // it.
-                if (rows == 0)
-                    break;
-                const int row = below(rows);
-                model[static_cast<std::size_t>(row)] = below(1000);
-                list.set1(row, std::to_string(model[static_cast<std::size_t>(row)]).c_str());
-                tool.services.clearHistory();
-                steps.clear();
-                done = 0;
-                orvane::pushSetRowCommand(&list, row);
-                steps.emplace_back(model, model);
-                done = 1;
-                break;
-            }
-            case 4:
-                if (done > 0) {
-                    model = steps[--done].first;
-                    tool.services.undo();
-                }
-                break;
-            default:
-                if (done < steps.size()) {
-                    model = steps[done++].second;
-                    tool.services.redo();
-                }
-                break;
-            }
-            QVERIFY2(std::equal(model.begin(), model.end(), list.getValues().begin(), list.getValues().end()),
-                qPrintable(QStringLiteral("after step %1").arg(i)));
+            (list.*changes[static_cast<std::size_t>(below(static_cast<int>(changes.size())))])(below);
+            QVERIFY2(list.equalsItsModel(), qPrintable(QStringLiteral("after step %1").arg(i)));
         }
     }
 };
