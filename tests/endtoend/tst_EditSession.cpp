@@ -25,7 +25,7 @@ Group "rig" {
 
 // A user's whole way through the running tool: open, select, drag, type, undo, redo, save, open again. What counts is
 // the file.
-class EditSessionTest : public QObject {
+class TestEditSession : public QObject {
     Q_OBJECT
 
 private:
@@ -154,10 +154,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char* argv[])
-{
-    const QCoreApplication application(argc, argv);
-    EditSessionTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestEditSession)
 #include "tst_EditSession.moc"

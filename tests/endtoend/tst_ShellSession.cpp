@@ -20,7 +20,7 @@ const QString profiles = QStringLiteral("Profile%20Selector/QComboBox");
 } // namespace
 
 // What surrounds the scene in the running tool: the console and the profiles.
-class ShellSessionTest : public QObject {
+class TestShellSession : public QObject {
     Q_OBJECT
 
 private:
@@ -98,10 +98,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char* argv[])
-{
-    const QCoreApplication application(argc, argv);
-    ShellSessionTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestShellSession)
 #include "tst_ShellSession.moc"

@@ -47,7 +47,7 @@ bool hasPreset(const QString& kind, const QString& name)
 // Each command that the documentation shows works as it is shown. The tool's own are run; building and testing would
 // take too long in here, so of these it is looked up that script and preset are there, as are options of the import
 // helper.
-class ShownCommandsTest : public ProgramCase {
+class TestShownCommands : public ProgramCase {
     Q_OBJECT
 
 private:
@@ -122,5 +122,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ShownCommandsTest)
+QTEST_GUILESS_MAIN(TestShownCommands)
 #include "tst_ShownCommands.moc"

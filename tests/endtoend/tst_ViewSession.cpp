@@ -35,7 +35,7 @@ bool isLike(const QColor& left, const QColor& right)
 } // namespace
 
 // A user's way through the view of the running tool: click in it, edit in the docks, see the picture change.
-class ViewSessionTest : public QObject {
+class TestViewSession : public QObject {
     Q_OBJECT
 
 private:
@@ -163,10 +163,5 @@ private Q_SLOTS:
     }
 };
 
-int main(int argc, char* argv[])
-{
-    const QCoreApplication application(argc, argv);
-    ViewSessionTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_GUILESS_MAIN(TestViewSession)
 #include "tst_ViewSession.moc"

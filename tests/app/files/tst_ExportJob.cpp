@@ -62,32 +62,260 @@ const NxRef<NxGroup>& largeScene()
 
 } // namespace
 
-class tst_ExportJob : public QObject {
+class TestExportJob : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { m_models = std::make_unique<QTemporaryDir>(); }
 
-    void allFilesOfAModelAreWritten();
-    void aLargeSceneArrivesWhole();
-    void aModelReplacesTheOldOne();
-    void anotherFormatIsRefusedWithTheHelpersMessage();
-    void eachImageHasAFileOfItsOwn();
-    void noImageIsEverOverwritten();
-    void aFileBesideIsOverwrittenOnlyWithItsModel();
-    void pathsOfImagesCountFromTheModel();
-    void everyFailureLeavesTheOldFile_data();
-    void everyFailureLeavesTheOldFile();
-    void aHelperThatDoesNotReadIsKilled();
-    void aFolderThatIsMissingIsReported();
-    void aTargetThatIsAFolderIsReported();
-    void aFailureAtOneFileLeavesAllOthers();
-    void cancelLeavesTheOldFile();
-    void aMissingHelperIsReported();
+    void allFilesOfAModelAreWritten()
+    {
+        ExportJob job(scene(), path("träger.obj"), realHelper());
+        const JobRecord record(job);
+        job.start();
+        QCOMPARE(record.ends(), 0);
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.message(), QString());
+        QCOMPARE(record.ends(), 1);
+        QCOMPARE(names(), (QStringList{QStringLiteral("träger.mtl"), QStringLiteral("träger.obj")}));
+        QVERIFY(content("träger.obj").contains("mtllib träger.mtl"));
+        QVERIFY(content("träger.mtl").contains("newmtl red"));
+        QCOMPARE(record.shares.last(), 1.0);
+    }
+
+    void aLargeSceneArrivesWhole()
+    {
+        ExportJob job(largeScene(), path("large.glb"), realHelper());
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.message(), QString());
+        ImportJob back(path("large.glb"), realHelper());
+        const JobRecord backRecord(back);
+        back.start();
+        QVERIFY(backRecord.waitForEnd());
+        QCOMPARE(backRecord.message(), QString());
+        QCOMPARE(back.takeScene()->getNumChildren(), 120);
+    }
+
+    void aModelReplacesTheOldOne()
+    {
+        for (const NxRef<NxGroup>& each : {scene(), largeScene(), scene()}) {
+            ExportJob job(each, path("box.stl"), realHelper());
+            const JobRecord record(job);
+            job.start();
+            QVERIFY(record.waitForEnd());
+            QCOMPARE(record.message(), QString());
+        }
+        QCOMPARE(content("box.stl").size(), 84 + 50); // one triangle
+        QCOMPARE(names(), QStringList(QStringLiteral("box.stl")));
+    }
+
+    void anotherFormatIsRefusedWithTheHelpersMessage()
+    {
+        ExportJob job(scene(), path("box.foo"), realHelper());
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.messages, QStringList(QStringLiteral("box.foo: models of this format can't be written")));
+        QVERIFY(names().isEmpty());
+    }
+
+    void eachImageHasAFileOfItsOwn()
+    {
+        const auto run = [this] {
+            ExportJob job(texturedScene(), path("box.obj"), realHelper());
+            const JobRecord record(job);
+            job.start();
+            QVERIFY(record.waitForEnd());
+            QCOMPARE(record.message(), QString());
+        };
+        run();
+        const QStringList images = names().filter(QStringLiteral(".png"));
+        QCOMPARE(images.size(), 2);
+        const QByteArray materials = content("box.mtl");
+        QCOMPARE(materials.count("map_Kd " + images[0].toUtf8()) + materials.count("map_Kd " + images[1].toUtf8()), 3);
+        QCOMPARE(materials.count("map_Kd box_0.png"), 1);
+        QVERIFY(content(images[0].toUtf8().constData()) != content(images[1].toUtf8().constData()));
+        // Once more gives the same names.
+        run();
+        QCOMPARE(names().filter(QStringLiteral(".png")), images);
+    }
+
+    void noImageIsEverOverwritten()
+    {
+        {
+            ExportJob job(texturedScene(), path("box.obj"), realHelper());
+            const JobRecord record(job);
+            job.start();
+            QVERIFY(record.waitForEnd());
+            QCOMPARE(record.message(), QString());
+        }
+        const QStringList before = names();
+        const QString image = before.filter(QStringLiteral(".png")).first();
+        write(image.toUtf8().constData(), "the user's own");
+        write("box.obj", "old");
+        ExportJob job(texturedScene(), path("box.obj"), realHelper());
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.messages.size(), 1);
+        QVERIFY2(record.message().startsWith(
+                     path(image.toUtf8().constData()) + QStringLiteral(": This file exists already")),
+            qPrintable(record.message()));
+        QCOMPARE(content(image.toUtf8().constData()), QByteArray("the user's own"));
+        QCOMPARE(content("box.obj"), QByteArray("old"));
+        QCOMPARE(names(), before);
+    }
+
+    void aFileBesideIsOverwrittenOnlyWithItsModel()
+    {
+        write("box.mtl", "old");
+        const auto run = [this] {
+            ExportJob job(scene(), path("box.obj"), realHelper());
+            const JobRecord record(job);
+            job.start();
+            return record.waitForEnd() ? record.message() : QStringLiteral("no end");
+        };
+        const QString message = run();
+        QVERIFY2(
+            message.startsWith(path("box.mtl") + QStringLiteral(": This file exists already")), qPrintable(message));
+        QCOMPARE(content("box.mtl"), QByteArray("old"));
+        QCOMPARE(names(), QStringList(QStringLiteral("box.mtl")));
+        write("box.obj", "old");
+        QCOMPARE(run(), QString());
+        QVERIFY(content("box.mtl").contains("newmtl"));
+    }
+
+    void pathsOfImagesCountFromTheModel()
+    {
+        QVERIFY(QDir().mkpath(path("scenes")));
+        ExportJob job(texturedScene(), path("box.obj"), realHelper(), path("scenes"));
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.message(), QString());
+        QVERIFY2(content("box.mtl").contains("map_Kd scenes/box_0.png"), content("box.mtl").constData());
+    }
+
+    void everyFailureLeavesTheOldFile_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<QString>("message");
+        const QByteArray readAll("cat > /dev/null; ");
+        const QString noModel = QStringLiteral("the import helper gave something that is no model");
+        QTest::newRow("nothing") << readAll << noModel;
+        QTest::newRow("garbage") << readAll + "echo garbage" << noModel;
+        QTest::newRow("half a model") << readAll + "printf 'orvane-files 1\\nfile 100 box.obj\\nv 0'" << noModel;
+        QTest::newRow("another file") << readAll + "printf 'orvane-files 1\\nfile 1 other.obj\\nxend\\n'" << noModel;
+        QTest::newRow("another file beside")
+            << readAll + "printf 'orvane-files 1\\nfile 1 box.obj\\nxfile 1 boxer.mtl\\nxend\\n'" << noModel;
+        QTest::newRow("another folder") << readAll
+                + "printf 'orvane-files 1\\nfile 1 box.obj\\nxfile 1 ../box.mtl\\nxend\\n'"
+                                        << noModel;
+        QTest::newRow("crash") << QByteArray("kill -SEGV $$")
+                               << QStringLiteral("the import helper crashed with signal 11");
+        QTest::newRow("crash behind a whole model")
+            << readAll + "printf 'orvane-files 1\\nfile 1 box.obj\\nxend\\n'; kill -ABRT $$"
+            << QStringLiteral("the import helper crashed with signal 6");
+    }
+
+    void everyFailureLeavesTheOldFile()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(QString, message);
+        write("box.obj", "old");
+        ExportJob job(scene(), path("box.obj"), fakeHelper(m_folder, script));
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.messages, QStringList(path("box.obj") + QStringLiteral(": ") + message));
+        QCOMPARE(content("box.obj"), QByteArray("old"));
+        QCOMPARE(names(), QStringList(QStringLiteral("box.obj")));
+    }
+
+    void aHelperThatDoesNotReadIsKilled()
+    {
+        HelperOptions options = fakeHelper(m_folder, "exec sleep 1000");
+        options.patience = std::chrono::milliseconds(500);
+        ExportJob job(largeScene(), path("box.obj"), options);
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.messages,
+            QStringList(path("box.obj") + QStringLiteral(": the import helper did nothing for 0.5 s and was stopped")));
+        QVERIFY(names().isEmpty());
+    }
+
+    void aFolderThatIsMissingIsReported()
+    {
+        ExportJob job(scene(), path("missing/box.stl"), realHelper());
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.messages, QStringList(path("missing/box.stl") + QStringLiteral(": No such file or directory")));
+    }
+
+    void aTargetThatIsAFolderIsReported()
+    {
+        QVERIFY(QDir().mkpath(path("box.stl")));
+        ExportJob job(scene(), path("box.stl"), realHelper());
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.messages.size(), 1);
+        QVERIFY2(record.message().startsWith(path("box.stl")), qPrintable(record.message()));
+        QCOMPARE(names(), QStringList(QStringLiteral("box.stl")));
+    }
+
+    void aFailureAtOneFileLeavesAllOthers()
+    {
+        write("box.obj", "old");
+        QVERIFY(QDir().mkpath(path("box.mtl")));
+        ExportJob job(scene(), path("box.obj"), realHelper());
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.messages.size(), 1);
+        QVERIFY2(record.message().startsWith(path("box.mtl")), qPrintable(record.message()));
+        QCOMPARE(content("box.obj"), QByteArray("old"));
+        QCOMPARE(names(), (QStringList{QStringLiteral("box.mtl"), QStringLiteral("box.obj")}));
+    }
+
+    void cancelLeavesTheOldFile()
+    {
+        write("box.obj", "old");
+        ExportJob job(largeScene(), path("box.obj"), fakeHelper(m_folder, "exec sleep 1000"));
+        const JobRecord record(job);
+        job.start();
+        QTRY_VERIFY(!record.shares.isEmpty());
+        job.cancel();
+        QCOMPARE(record.ends(), 0);
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.cancelled, 1);
+        QCOMPARE(record.ends(), 1);
+        QCOMPARE(content("box.obj"), QByteArray("old"));
+    }
+
+    void aMissingHelperIsReported()
+    {
+        HelperOptions options;
+        options.program = path("nothing");
+        ExportJob job(scene(), path("box.obj"), options);
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.ends(), 1);
+        QVERIFY2(record.message().startsWith(path("box.obj") + QStringLiteral(": the import helper ") + path("nothing")
+                     + QStringLiteral(" can't be started: ")),
+            qPrintable(record.message()));
+    }
 
 private:
     [[nodiscard]] QString path(const char* name) const { return m_models->filePath(QString::fromUtf8(name)); }
-    [[nodiscard]] QByteArray content(const char* name) const;
+
+    [[nodiscard]] QByteArray content(const char* name) const { return readFile(path(name)); }
+
     void write(const char* name, const QByteArray& bytes) const { writeFile(path(name), bytes); }
     [[nodiscard]] QStringList names() const
     {
@@ -98,257 +326,5 @@ private:
     std::unique_ptr<QTemporaryDir> m_models;
 };
 
-void tst_ExportJob::init()
-{
-    m_models = std::make_unique<QTemporaryDir>();
-}
-
-QByteArray tst_ExportJob::content(const char* name) const
-{
-    return readFile(path(name));
-}
-
-void tst_ExportJob::allFilesOfAModelAreWritten()
-{
-    ExportJob job(scene(), path("träger.obj"), realHelper());
-    const JobRecord record(job);
-    job.start();
-    QCOMPARE(record.ends(), 0);
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.message(), QString());
-    QCOMPARE(record.ends(), 1);
-    QCOMPARE(names(), (QStringList{QStringLiteral("träger.mtl"), QStringLiteral("träger.obj")}));
-    QVERIFY(content("träger.obj").contains("mtllib träger.mtl"));
-    QVERIFY(content("träger.mtl").contains("newmtl red"));
-    QCOMPARE(record.shares.last(), 1.0);
-}
-
-void tst_ExportJob::aLargeSceneArrivesWhole()
-{
-    ExportJob job(largeScene(), path("large.glb"), realHelper());
-    const JobRecord record(job);
-    job.start();
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.message(), QString());
-    ImportJob back(path("large.glb"), realHelper());
-    const JobRecord backRecord(back);
-    back.start();
-    QVERIFY(backRecord.waitForEnd());
-    QCOMPARE(backRecord.message(), QString());
-    QCOMPARE(back.takeScene()->getNumChildren(), 120);
-}
-
-void tst_ExportJob::aModelReplacesTheOldOne()
-{
-    for (const NxRef<NxGroup>& each : {scene(), largeScene(), scene()}) {
-        ExportJob job(each, path("box.stl"), realHelper());
-        const JobRecord record(job);
-        job.start();
-        QVERIFY(record.waitForEnd());
-        QCOMPARE(record.message(), QString());
-    }
-    QCOMPARE(content("box.stl").size(), 84 + 50); // one triangle
-    QCOMPARE(names(), QStringList(QStringLiteral("box.stl")));
-}
-
-void tst_ExportJob::eachImageHasAFileOfItsOwn()
-{
-    const auto run = [this] {
-        ExportJob job(texturedScene(), path("box.obj"), realHelper());
-        const JobRecord record(job);
-        job.start();
-        QVERIFY(record.waitForEnd());
-        QCOMPARE(record.message(), QString());
-    };
-    run();
-    const QStringList images = names().filter(QStringLiteral(".png"));
-    QCOMPARE(images.size(), 2);
-    const QByteArray materials = content("box.mtl");
-    QCOMPARE(materials.count("map_Kd " + images[0].toUtf8()) + materials.count("map_Kd " + images[1].toUtf8()), 3);
-    QCOMPARE(materials.count("map_Kd box_0.png"), 1);
-    QVERIFY(content(images[0].toUtf8().constData()) != content(images[1].toUtf8().constData()));
-    // Once more gives the same names.
-    run();
-    QCOMPARE(names().filter(QStringLiteral(".png")), images);
-}
-
-void tst_ExportJob::noImageIsEverOverwritten()
-{
-    {
-        ExportJob job(texturedScene(), path("box.obj"), realHelper());
-        const JobRecord record(job);
-        job.start();
-        QVERIFY(record.waitForEnd());
-        QCOMPARE(record.message(), QString());
-    }
-    const QStringList before = names();
-    const QString image = before.filter(QStringLiteral(".png")).first();
-    write(image.toUtf8().constData(), "the user's own");
-    write("box.obj", "old");
-    ExportJob job(texturedScene(), path("box.obj"), realHelper());
-    const JobRecord record(job);
-    job.start();
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.messages.size(), 1);
-    QVERIFY2(
-        record.message().startsWith(path(image.toUtf8().constData()) + QStringLiteral(": This file exists already")),
-        qPrintable(record.message()));
-    QCOMPARE(content(image.toUtf8().constData()), QByteArray("the user's own"));
-    QCOMPARE(content("box.obj"), QByteArray("old"));
-    QCOMPARE(names(), before);
-}
-
-void tst_ExportJob::aFileBesideIsOverwrittenOnlyWithItsModel()
-{
-    write("box.mtl", "old");
-    const auto run = [this] {
-        ExportJob job(scene(), path("box.obj"), realHelper());
-        const JobRecord record(job);
-        job.start();
-        return record.waitForEnd() ? record.message() : QStringLiteral("no end");
-    };
-    const QString message = run();
-    QVERIFY2(message.startsWith(path("box.mtl") + QStringLiteral(": This file exists already")), qPrintable(message));
-    QCOMPARE(content("box.mtl"), QByteArray("old"));
-    QCOMPARE(names(), QStringList(QStringLiteral("box.mtl")));
-    write("box.obj", "old");
-    QCOMPARE(run(), QString());
-    QVERIFY(content("box.mtl").contains("newmtl"));
-}
-
-void tst_ExportJob::pathsOfImagesCountFromTheModel()
-{
-    QVERIFY(QDir().mkpath(path("scenes")));
-    ExportJob job(texturedScene(), path("box.obj"), realHelper(), path("scenes"));
-    const JobRecord record(job);
-    job.start();
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.message(), QString());
-    QVERIFY2(content("box.mtl").contains("map_Kd scenes/box_0.png"), content("box.mtl").constData());
-}
-
-void tst_ExportJob::anotherFormatIsRefusedWithTheHelpersMessage()
-{
-    ExportJob job(scene(), path("box.foo"), realHelper());
-    const JobRecord record(job);
-    job.start();
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.messages, QStringList(QStringLiteral("box.foo: models of this format can't be written")));
-    QVERIFY(names().isEmpty());
-}
-
-void tst_ExportJob::everyFailureLeavesTheOldFile_data()
-{
-    QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<QString>("message");
-    const QByteArray readAll("cat > /dev/null; ");
-    const QString noModel = QStringLiteral("the import helper gave something that is no model");
-    QTest::newRow("nothing") << readAll << noModel;
-    QTest::newRow("garbage") << readAll + "echo garbage" << noModel;
-    QTest::newRow("half a model") << readAll + "printf 'orvane-files 1\\nfile 100 box.obj\\nv 0'" << noModel;
-    QTest::newRow("another file") << readAll + "printf 'orvane-files 1\\nfile 1 other.obj\\nxend\\n'" << noModel;
-    QTest::newRow("another file beside") << readAll
-            + "printf 'orvane-files 1\\nfile 1 box.obj\\nxfile 1 boxer.mtl\\nxend\\n'"
-                                         << noModel;
-    QTest::newRow("another folder") << readAll
-            + "printf 'orvane-files 1\\nfile 1 box.obj\\nxfile 1 ../box.mtl\\nxend\\n'"
-                                    << noModel;
-    QTest::newRow("crash") << QByteArray("kill -SEGV $$") << QStringLiteral("the import helper crashed with signal 11");
-    QTest::newRow("crash behind a whole model")
-        << readAll + "printf 'orvane-files 1\\nfile 1 box.obj\\nxend\\n'; kill -ABRT $$"
-        << QStringLiteral("the import helper crashed with signal 6");
-}
-
-void tst_ExportJob::everyFailureLeavesTheOldFile()
-{
-    QFETCH(QByteArray, script);
-    QFETCH(QString, message);
-    write("box.obj", "old");
-    ExportJob job(scene(), path("box.obj"), fakeHelper(m_folder, script));
-    const JobRecord record(job);
-    job.start();
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.messages, QStringList(path("box.obj") + QStringLiteral(": ") + message));
-    QCOMPARE(content("box.obj"), QByteArray("old"));
-    QCOMPARE(names(), QStringList(QStringLiteral("box.obj")));
-}
-
-void tst_ExportJob::aHelperThatDoesNotReadIsKilled()
-{
-    HelperOptions options = fakeHelper(m_folder, "exec sleep 1000");
-    options.patience = std::chrono::milliseconds(500);
-    ExportJob job(largeScene(), path("box.obj"), options);
-    const JobRecord record(job);
-    job.start();
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.messages,
-        QStringList(path("box.obj") + QStringLiteral(": the import helper did nothing for 0.5 s and was stopped")));
-    QVERIFY(names().isEmpty());
-}
-
-void tst_ExportJob::aFolderThatIsMissingIsReported()
-{
-    ExportJob job(scene(), path("missing/box.stl"), realHelper());
-    const JobRecord record(job);
-    job.start();
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.messages, QStringList(path("missing/box.stl") + QStringLiteral(": No such file or directory")));
-}
-
-void tst_ExportJob::aTargetThatIsAFolderIsReported()
-{
-    QVERIFY(QDir().mkpath(path("box.stl")));
-    ExportJob job(scene(), path("box.stl"), realHelper());
-    const JobRecord record(job);
-    job.start();
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.messages.size(), 1);
-    QVERIFY2(record.message().startsWith(path("box.stl")), qPrintable(record.message()));
-    QCOMPARE(names(), QStringList(QStringLiteral("box.stl")));
-}
-
-void tst_ExportJob::aFailureAtOneFileLeavesAllOthers()
-{
-    write("box.obj", "old");
-    QVERIFY(QDir().mkpath(path("box.mtl")));
-    ExportJob job(scene(), path("box.obj"), realHelper());
-    const JobRecord record(job);
-    job.start();
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.messages.size(), 1);
-    QVERIFY2(record.message().startsWith(path("box.mtl")), qPrintable(record.message()));
-    QCOMPARE(content("box.obj"), QByteArray("old"));
-    QCOMPARE(names(), (QStringList{QStringLiteral("box.mtl"), QStringLiteral("box.obj")}));
-}
-
-void tst_ExportJob::cancelLeavesTheOldFile()
-{
-    write("box.obj", "old");
-    ExportJob job(largeScene(), path("box.obj"), fakeHelper(m_folder, "exec sleep 1000"));
-    const JobRecord record(job);
-    job.start();
-    QTRY_VERIFY(!record.shares.isEmpty());
-    job.cancel();
-    QCOMPARE(record.ends(), 0);
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.cancelled, 1);
-    QCOMPARE(record.ends(), 1);
-    QCOMPARE(content("box.obj"), QByteArray("old"));
-}
-
-void tst_ExportJob::aMissingHelperIsReported()
-{
-    HelperOptions options;
-    options.program = path("nothing");
-    ExportJob job(scene(), path("box.obj"), options);
-    const JobRecord record(job);
-    job.start();
-    QVERIFY(record.waitForEnd());
-    QCOMPARE(record.ends(), 1);
-    QVERIFY2(record.message().startsWith(path("box.obj") + QStringLiteral(": the import helper ") + path("nothing")
-                 + QStringLiteral(" can't be started: ")),
-        qPrintable(record.message()));
-}
-
-QTEST_GUILESS_MAIN(tst_ExportJob)
+QTEST_GUILESS_MAIN(TestExportJob)
 #include "tst_ExportJob.moc"

@@ -59,7 +59,7 @@ QString readable(const QString& text, Qt::TextFormat format)
 
 // Nodes and a file with names that somebody chose to break the window: they are shown as they are, in one line, and
 // nothing that they say is done.
-class HostileNamesTest : public WindowCase {
+class TestHostileNames : public WindowCase {
     Q_OBJECT
 
 private:
@@ -351,5 +351,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(HostileNamesTest)
+QTEST_MAIN(TestHostileNames)
 #include "tst_HostileNames.moc"

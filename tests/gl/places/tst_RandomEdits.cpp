@@ -216,63 +216,61 @@ std::vector<std::vector<double>> contentsOf(PlacedScene& scene, const NxNode* ro
     return contents;
 }
 
+} // namespace
+
 class TestRandomEdits : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void followedEditsGiveThePlacesOfANewScene_data();
-    void followedEditsGiveThePlacesOfANewScene();
-};
-
-void TestRandomEdits::followedEditsGiveThePlacesOfANewScene_data()
-{
-    QTest::addColumn<unsigned int>("seed");
-    for (unsigned int seed = 0; seed < 3; ++seed)
-        QTest::addRow("%u", seed) << seed;
-}
-
-void TestRandomEdits::followedEditsGiveThePlacesOfANewScene()
-{
-    QFETCH(unsigned int, seed);
-    DrawingBench bench;
-    const auto scene = make<NxGroup>();
-    Editor editor(*scene, seed);
-    bench.drawing().setScene(scene.get());
-    PlacedScene followed(deaf());
-    followed.setRoot(scene.get());
-    for (int round = 0; round < 40; ++round) {
-        for (int i = 0; i < 10; ++i)
-            editor.edit();
-        // Pictures come before the pass of the queue, between its slices and behind it.
-        for (int slice = 0; slice < 3; ++slice) {
-            (void)bench.drawUntold();
-            const NxDrawingCounts counts = bench.counts();
-            followed.update();
-            PlacedScene fresh(deaf());
-            fresh.setRoot(scene.get());
-            QCOMPARE(contentsOf(followed, scene.get()), contentsOf(fresh, scene.get()));
-            QVERIFY(followed.tree().bounds() == fresh.tree().bounds());
-            QVERIFY(bench.drawing().bounds() == fresh.tree().bounds());
-
-            bench.renew(scene.get());
-            (void)bench.drawUntold();
-            QCOMPARE(counts.drawnItems, bench.counts().drawnItems);
-            QCOMPARE(counts.culledItems, bench.counts().culledItems);
-            QCOMPARE(counts.drawnCorners, bench.counts().drawnCorners);
-            bench.takeBack();
-            if (slice == 1) {
-                NxDelayQueue::getDefault().process();
-                continue;
-            }
-            NxDelayQueue::getDefault().process(std::chrono::nanoseconds(0));
-            editor.edit();
-        }
+    void followedEditsGiveThePlacesOfANewScene_data()
+    {
+        QTest::addColumn<unsigned int>("seed");
+        for (unsigned int seed = 0; seed < 3; ++seed)
+            QTest::addRow("%u", seed) << seed;
     }
-    for (const QString& message : bench.takeMessages())
-        QVERIFY2(message.contains(QLatin1String("draw")), qUtf8Printable(message)); // of meshes that don't fit together
-}
 
-} // namespace
+    void followedEditsGiveThePlacesOfANewScene()
+    {
+        QFETCH(unsigned int, seed);
+        DrawingBench bench;
+        const auto scene = make<NxGroup>();
+        Editor editor(*scene, seed);
+        bench.drawing().setScene(scene.get());
+        PlacedScene followed(deaf());
+        followed.setRoot(scene.get());
+        for (int round = 0; round < 40; ++round) {
+            for (int i = 0; i < 10; ++i)
+                editor.edit();
+            // Pictures come before the pass of the queue, between its slices and behind it.
+            for (int slice = 0; slice < 3; ++slice) {
+                (void)bench.drawUntold();
+                const NxDrawingCounts counts = bench.counts();
+                followed.update();
+                PlacedScene fresh(deaf());
+                fresh.setRoot(scene.get());
+                QCOMPARE(contentsOf(followed, scene.get()), contentsOf(fresh, scene.get()));
+                QVERIFY(followed.tree().bounds() == fresh.tree().bounds());
+                QVERIFY(bench.drawing().bounds() == fresh.tree().bounds());
+
+                bench.renew(scene.get());
+                (void)bench.drawUntold();
+                QCOMPARE(counts.drawnItems, bench.counts().drawnItems);
+                QCOMPARE(counts.culledItems, bench.counts().culledItems);
+                QCOMPARE(counts.drawnCorners, bench.counts().drawnCorners);
+                bench.takeBack();
+                if (slice == 1) {
+                    NxDelayQueue::getDefault().process();
+                    continue;
+                }
+                NxDelayQueue::getDefault().process(std::chrono::nanoseconds(0));
+                editor.edit();
+            }
+        }
+        for (const QString& message : bench.takeMessages())
+            QVERIFY2(
+                message.contains(QLatin1String("draw")), qUtf8Printable(message)); // of meshes that don't fit together
+    }
+};
 
 QTEST_APPLESS_MAIN(TestRandomEdits)
 #include "tst_RandomEdits.moc"

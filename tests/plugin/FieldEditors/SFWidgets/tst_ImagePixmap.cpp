@@ -7,24 +7,91 @@
 
 #include <vector>
 
-class tst_ImagePixmap : public QObject {
+class TestImagePixmap : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() { m_tool = std::make_unique<ToolHarness>(); }
     void cleanup() { m_tool.reset(); }
 
-    void oneComponentIsGreyFromTheFirstRowDown();
-    void twoComponentsAreOnePixelOf565FromTheFirstRowDown();
-    void threeComponentsAreColoursFromTheLastRowDown();
-    void fourComponentsBringTheirOpacity();
-    void rowsThatFillNoWordsAreSheared_data();
-    void rowsThatFillNoWordsAreSheared();
-    void bufferIsGivenBack_data();
-    void bufferIsGivenBack();
-    void pixmapOutlivesTheFieldsValue();
-    void imageWithoutDataGivesNone();
-    void fieldOfAnotherTypeGivesNone();
+    void oneComponentIsGreyFromTheFirstRowDown()
+    {
+        set(4, 2, 1, {0, 1, 127, 255, 10, 20, 30, 40});
+        QCOMPARE(rows(), Rows({{grey(0), grey(1), grey(127), grey(255)}, {grey(10), grey(20), grey(30), grey(40)}}));
+    }
+
+    void twoComponentsAreOnePixelOf565FromTheFirstRowDown()
+    {
+        set(2, 2, 2, {0x00, 0xF8, 0xE0, 0x07, 0x1F, 0x00, 0xFF, 0xFF});
+        QCOMPARE(rows(), Rows({{qRgb(255, 0, 0), qRgb(0, 255, 0)}, {qRgb(0, 0, 255), qRgb(255, 255, 255)}}));
+    }
+
+    void threeComponentsAreColoursFromTheLastRowDown()
+    {
+        QTest::ignoreMessage(QtWarningMsg, "QImage::setColor: Index out of bound 0");
+        set(2, 2, 3, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
+        QCOMPARE(rows(), Rows({{qRgb(7, 8, 9), qRgb(10, 11, 12)}, {qRgb(1, 2, 3), qRgb(4, 5, 6)}}));
+    }
+
+    void fourComponentsBringTheirOpacity()
+    {
+        set(1, 3, 4, {255, 0, 0, 255, 0, 255, 0, 255, 9, 9, 9, 0});
+        QCOMPARE(rows(), Rows({{0}, {qRgb(0, 255, 0)}, {qRgb(255, 0, 0)}}));
+        set(1, 1, 4, {255, 0, 0, 51});
+        QCOMPARE(rows(), Rows({{qRgba(255, 0, 0, 51)}}));
+    }
+
+    void rowsThatFillNoWordsAreSheared_data()
+    {
+        QTest::addColumn<int>("components");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<Rows>("expected");
+        QTest::newRow("one") << 1 << QByteArray("\1\2\3\4\5\6")
+                             << Rows({{grey(1), grey(2), grey(3)}, {grey(5), grey(6), grey(0)}});
+        QTest::newRow("two") << 2 << QByteArray("\0\xF8\0\xF8\0\xF8\x1F\0\x1F\0\x1F\0", 12)
+                             << Rows({QList<QRgb>(3, qRgb(255, 0, 0)),
+                                    {qRgb(0, 0, 255), qRgb(0, 0, 255), qRgb(0, 0, 0)}});
+    }
+
+    void rowsThatFillNoWordsAreSheared()
+    {
+        QFETCH(int, components);
+        QFETCH(QByteArray, bytes);
+        QFETCH(Rows, expected);
+        set(3, 2, components, Bytes(bytes.begin(), bytes.end()));
+        QCOMPARE(rows(), expected);
+    }
+
+    void bufferIsGivenBack_data()
+    {
+        QTest::addColumn<int>("components");
+        for (int components = 1; components <= 4; ++components)
+            QTest::addRow("%d", components) << components;
+    }
+
+    void bufferIsGivenBack()
+    {
+        QFETCH(int, components);
+        set(33, 17, components, Bytes(static_cast<std::size_t>(33 * 17 * components)));
+        const auto blocks = pMrd_memCnt->blocks.load();
+        const auto bytes = pMrd_memCnt->bytes.load();
+        const QPixmap pixmap = orvane::imagePixmap(field());
+        QCOMPARE(pixmap.size(), QSize(33, 17));
+        QCOMPARE(pMrd_memCnt->blocks.load(), blocks);
+        QCOMPARE(pMrd_memCnt->bytes.load(), bytes);
+    }
+
+    void pixmapOutlivesTheFieldsValue()
+    {
+        set(1, 1, 3, {1, 2, 3});
+        const QPixmap pixmap = orvane::imagePixmap(field());
+        set(1, 1, 3, {4, 5, 6});
+        QCOMPARE(pixmap.toImage().pixel(0, 0), qRgb(1, 2, 3));
+    }
+
+    void imageWithoutDataGivesNone() { QVERIFY(orvane::imagePixmap(field()).isNull()); }
+
+    void fieldOfAnotherTypeGivesNone() { QVERIFY(orvane::imagePixmap(m_tool->node->sfString).isNull()); }
 
 private:
     using Bytes = std::vector<unsigned char>;
@@ -50,89 +117,5 @@ private:
     std::unique_ptr<ToolHarness> m_tool;
 };
 
-void tst_ImagePixmap::oneComponentIsGreyFromTheFirstRowDown()
-{
-    set(4, 2, 1, {0, 1, 127, 255, 10, 20, 30, 40});
-    QCOMPARE(rows(), Rows({{grey(0), grey(1), grey(127), grey(255)}, {grey(10), grey(20), grey(30), grey(40)}}));
-}
-
-void tst_ImagePixmap::twoComponentsAreOnePixelOf565FromTheFirstRowDown()
-{
-    set(2, 2, 2, {0x00, 0xF8, 0xE0, 0x07, 0x1F, 0x00, 0xFF, 0xFF});
-    QCOMPARE(rows(), Rows({{qRgb(255, 0, 0), qRgb(0, 255, 0)}, {qRgb(0, 0, 255), qRgb(255, 255, 255)}}));
-}
-
-void tst_ImagePixmap::threeComponentsAreColoursFromTheLastRowDown()
-{
-    QTest::ignoreMessage(QtWarningMsg, "QImage::setColor: Index out of bound 0");
-    set(2, 2, 3, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
-    QCOMPARE(rows(), Rows({{qRgb(7, 8, 9), qRgb(10, 11, 12)}, {qRgb(1, 2, 3), qRgb(4, 5, 6)}}));
-}
-
-void tst_ImagePixmap::fourComponentsBringTheirOpacity()
-{
-    set(1, 3, 4, {255, 0, 0, 255, 0, 255, 0, 255, 9, 9, 9, 0});
-    QCOMPARE(rows(), Rows({{0}, {qRgb(0, 255, 0)}, {qRgb(255, 0, 0)}}));
-    set(1, 1, 4, {255, 0, 0, 51});
-    QCOMPARE(rows(), Rows({{qRgba(255, 0, 0, 51)}}));
-}
-
-void tst_ImagePixmap::rowsThatFillNoWordsAreSheared_data()
-{
-    QTest::addColumn<int>("components");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<Rows>("expected");
-    QTest::newRow("one") << 1 << QByteArray("\1\2\3\4\5\6")
-                         << Rows({{grey(1), grey(2), grey(3)}, {grey(5), grey(6), grey(0)}});
-    QTest::newRow("two") << 2 << QByteArray("\0\xF8\0\xF8\0\xF8\x1F\0\x1F\0\x1F\0", 12)
-                         << Rows({QList<QRgb>(3, qRgb(255, 0, 0)), {qRgb(0, 0, 255), qRgb(0, 0, 255), qRgb(0, 0, 0)}});
-}
-
-void tst_ImagePixmap::rowsThatFillNoWordsAreSheared()
-{
-    QFETCH(int, components);
-    QFETCH(QByteArray, bytes);
-    QFETCH(Rows, expected);
-    set(3, 2, components, Bytes(bytes.begin(), bytes.end()));
-    QCOMPARE(rows(), expected);
-}
-
-void tst_ImagePixmap::bufferIsGivenBack_data()
-{
-    QTest::addColumn<int>("components");
-    for (int components = 1; components <= 4; ++components)
-        QTest::addRow("%d", components) << components;
-}
-
-void tst_ImagePixmap::bufferIsGivenBack()
-{
-    QFETCH(int, components);
-    set(33, 17, components, Bytes(static_cast<std::size_t>(33 * 17 * components)));
-    const auto blocks = pMrd_memCnt->blocks.load();
-    const auto bytes = pMrd_memCnt->bytes.load();
-    const QPixmap pixmap = orvane::imagePixmap(field());
-    QCOMPARE(pixmap.size(), QSize(33, 17));
-    QCOMPARE(pMrd_memCnt->blocks.load(), blocks);
-    QCOMPARE(pMrd_memCnt->bytes.load(), bytes);
-}
-
-void tst_ImagePixmap::pixmapOutlivesTheFieldsValue()
-{
-    set(1, 1, 3, {1, 2, 3});
-    const QPixmap pixmap = orvane::imagePixmap(field());
-    set(1, 1, 3, {4, 5, 6});
-    QCOMPARE(pixmap.toImage().pixel(0, 0), qRgb(1, 2, 3));
-}
-
-void tst_ImagePixmap::imageWithoutDataGivesNone()
-{
-    QVERIFY(orvane::imagePixmap(field()).isNull());
-}
-
-void tst_ImagePixmap::fieldOfAnotherTypeGivesNone()
-{
-    QVERIFY(orvane::imagePixmap(m_tool->node->sfString).isNull());
-}
-
-QTEST_MAIN(tst_ImagePixmap)
+QTEST_MAIN(TestImagePixmap)
 #include "tst_ImagePixmap.moc"
