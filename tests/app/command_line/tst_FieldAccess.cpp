@@ -22,8 +22,8 @@ private:
 
     [[nodiscard]] QString value(const QString& path) const
     {
-        const auto text = orvane::fieldText(m_scene.get(), path);
-        return text ? text.value() : text.error();
+        const auto result = orvane::fieldText(m_scene.get(), path);
+        return result ? result.value() : result.error();
     }
 
 private Q_SLOTS:
