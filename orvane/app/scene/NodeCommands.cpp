@@ -2,6 +2,8 @@
 
 #include "orvane/app/scene/SceneDisposal.h"
 
+#include <utility>
+
 RenameNodeCommand::RenameNodeCommand(NxNode* node, const VbString& name)
     : m_node(node)
     , m_oldName(node->getName())
@@ -24,57 +26,35 @@ void RenameNodeCommand::redo()
     execute();
 }
 
-RemoveNodeCommand::RemoveNodeCommand(NxGroup* group, int index, SceneDisposal& disposal)
+ChildCommand::ChildCommand(NxGroup* group, NxRef<NxNode> node, int index, SceneDisposal& disposal)
     : m_group(group)
-    , m_node(group->getChild(index))
+    , m_node(std::move(node))
     , m_index(index)
     , m_disposal(disposal)
 {
 }
 
-RemoveNodeCommand::~RemoveNodeCommand()
+ChildCommand::~ChildCommand()
 {
     m_disposal.dispose(std::move(m_node));
 }
 
-void RemoveNodeCommand::execute()
-{
-    m_group->removeChild(m_index);
-}
-
-void RemoveNodeCommand::undo()
+void ChildCommand::insertNode()
 {
     m_group->insertChild(m_node.get(), m_index);
 }
 
-void RemoveNodeCommand::redo()
+void ChildCommand::removeNode()
 {
-    execute();
+    m_group->removeChild(m_index);
+}
+
+RemoveNodeCommand::RemoveNodeCommand(NxGroup* group, int index, SceneDisposal& disposal)
+    : ChildCommand(group, NxRef<NxNode>(group->getChild(index)), index, disposal)
+{
 }
 
 AddNodeCommand::AddNodeCommand(NxGroup* group, NxRef<NxNode> node, SceneDisposal& disposal)
-    : m_group(group)
-    , m_node(std::move(node))
-    , m_disposal(disposal)
+    : ChildCommand(group, std::move(node), group->getNumChildren(), disposal)
 {
-}
-
-AddNodeCommand::~AddNodeCommand()
-{
-    m_disposal.dispose(std::move(m_node));
-}
-
-void AddNodeCommand::execute()
-{
-    m_group->addChild(m_node.get());
-}
-
-void AddNodeCommand::undo()
-{
-    m_group->removeChild(m_group->getNumChildren() - 1);
-}
-
-void AddNodeCommand::redo()
-{
-    execute();
 }

@@ -23,16 +23,16 @@ private:
     VbString m_newName;
 };
 
-/// Removes a child from a group. The command keeps the node alive while it is in the history, and passes it to the
-/// disposal in its destructor.
-class RemoveNodeCommand : public OrvCommand {
-public:
-    RemoveNodeCommand(NxGroup* group, int index, SceneDisposal& disposal);
-    ~RemoveNodeCommand() override;
+/// Base of the commands that put a node into a group or take it out. The command keeps the node alive while it is in
+/// the history, and passes it to the disposal in its destructor.
+class ChildCommand : public OrvCommand {
+protected:
+    /// `index` is the node's place among the children of `group`, while it is one of them.
+    ChildCommand(NxGroup* group, NxRef<NxNode> node, int index, SceneDisposal& disposal);
+    ~ChildCommand() override;
 
-    void execute() override;
-    void undo() override;
-    void redo() override;
+    void insertNode();
+    void removeNode();
 
 private:
     NxRef<NxGroup> m_group;
@@ -41,18 +41,22 @@ private:
     SceneDisposal& m_disposal;
 };
 
+/// Removes a child from a group.
+class RemoveNodeCommand final : public ChildCommand {
+public:
+    RemoveNodeCommand(NxGroup* group, int index, SceneDisposal& disposal);
+
+    void execute() override { removeNode(); }
+    void undo() override { insertNode(); }
+    void redo() override { removeNode(); }
+};
+
 /// Appends a node to a group.
-class AddNodeCommand : public OrvCommand {
+class AddNodeCommand final : public ChildCommand {
 public:
     AddNodeCommand(NxGroup* group, NxRef<NxNode> node, SceneDisposal& disposal);
-    ~AddNodeCommand() override;
 
-    void execute() override;
-    void undo() override;
-    void redo() override;
-
-private:
-    NxRef<NxGroup> m_group;
-    NxRef<NxNode> m_node;
-    SceneDisposal& m_disposal;
+    void execute() override { insertNode(); }
+    void undo() override { removeNode(); }
+    void redo() override { insertNode(); }
 };
