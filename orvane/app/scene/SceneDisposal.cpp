@@ -1,8 +1,11 @@
 #include "orvane/app/scene/SceneDisposal.h"
 
-#include "orvane/app/base/SliceClock.h"
-
 #include "meridane/scene/nodes/NxGroup.h"
+
+SceneDisposal::SceneDisposal(SliceClock::Clock clock)
+    : m_clock(clock)
+{
+}
 
 SceneDisposal::~SceneDisposal()
 {
@@ -26,7 +29,7 @@ void SceneDisposal::finish()
 
 void SceneDisposal::timerEvent(QTimerEvent*)
 {
-    const SliceClock slice;
+    const SliceClock slice(m_clock);
     while (!m_nodes.empty() && !slice.isSpent())
         takeOneApart();
     if (m_nodes.empty())

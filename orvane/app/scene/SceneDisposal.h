@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/app/base/SliceClock.h"
+
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxNode.h"
 
@@ -16,7 +18,8 @@ class SceneDisposal : public QObject {
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    /// `clock` measures the slices.
+    explicit SceneDisposal(SliceClock::Clock clock = &std::chrono::steady_clock::now);
     ~SceneDisposal() override;
 
     /// Takes over the caller's reference; null is ignored.
@@ -33,5 +36,6 @@ private:
 
     /// A stack: a group stays until it has no children.
     std::vector<NxRef<NxNode>> m_nodes;
+    SliceClock::Clock m_clock;
     QBasicTimer m_timer;
 };

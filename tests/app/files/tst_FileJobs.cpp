@@ -1,5 +1,6 @@
 #include "TestFiles.h"
 #include "app/AppScenes.h"
+#include "app/StepClock.h"
 
 #include "orvane/app/files/FileJobs.h"
 #include "orvane/app/files/LoadJob.h"
@@ -11,41 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <algorithm>
-#include <chrono>
-
 namespace {
-
-int looks = 0;
-
-/// A clock on which a millisecond goes by between two looks at it, however fast the machine is.
-std::chrono::steady_clock::time_point lookAtTheClock()
-{
-    return std::chrono::steady_clock::time_point(std::chrono::milliseconds(++looks));
-}
-
-/// Counts the turns of the event loop, and the looks at the clock in each.
-class Pulse : public QObject {
-public:
-    Pulse() { startTimer(0); }
-
-    [[nodiscard]] int turns() const { return m_turns; }
-    /// The most looks in one turn.
-    [[nodiscard]] int most() const { return m_most; }
-
-protected:
-    void timerEvent(QTimerEvent*) override
-    {
-        ++m_turns;
-        m_most = std::max(m_most, looks - m_last);
-        m_last = looks;
-    }
-
-private:
-    int m_turns = 0;
-    int m_most = 0;
-    int m_last = looks;
-};
 
 int postedErrors = 0;
 
@@ -212,23 +179,23 @@ private Q_SLOTS:
     void readsAndWritesALargeSceneInSlices()
     {
         constexpr int nodes = 30000;
-        // Each slice takes 8 ms, and looks at the clock once to begin with.
-        constexpr int looksPerSlice = 9;
-        Pulse saving;
-        SaveJob save(AppScenes::wide(nodes), m_fileName, {}, &lookAtTheClock);
+        // Each slice takes 8 ms, and reads the clock once to begin with.
+        constexpr int readingsPerSlice = 9;
+        TurnCounter saving;
+        SaveJob save(AppScenes::wide(nodes), m_fileName, {}, &StepClock::now);
         const QSignalSpy saved(&save, &FileJob::finished);
         const QSignalSpy progressed(&save, &FileJob::progressed);
         save.start();
         QTRY_COMPARE(saved.size(), 1);
         QVERIFY(progressed.size() > 1);
-        QVERIFY2(saving.most() <= looksPerSlice, qPrintable(QString::number(saving.most())));
+        QVERIFY2(saving.mostReadings() <= readingsPerSlice, qPrintable(QString::number(saving.mostReadings())));
         QVERIFY2(saving.turns() > nodes / 1000, qPrintable(QString::number(saving.turns())));
-        Pulse loading;
-        LoadJob load(m_fileName, &lookAtTheClock);
+        TurnCounter loading;
+        LoadJob load(m_fileName, &StepClock::now);
         const QSignalSpy loaded(&load, &FileJob::finished);
         load.start();
         QTRY_COMPARE(loaded.size(), 1);
-        QVERIFY2(loading.most() <= looksPerSlice, qPrintable(QString::number(loading.most())));
+        QVERIFY2(loading.mostReadings() <= readingsPerSlice, qPrintable(QString::number(loading.mostReadings())));
         QVERIFY2(loading.turns() > nodes / 1000, qPrintable(QString::number(loading.turns())));
         QCOMPARE(load.takeScene()->getChild(0)->getChildren().size(), std::size_t{nodes});
     }

@@ -1,4 +1,5 @@
 #include "app/AppScenes.h"
+#include "app/StepClock.h"
 
 #include "orvane/app/scene/NodeCommands.h"
 #include "orvane/app/scene/SceneDisposal.h"
@@ -16,7 +17,7 @@ class TestSceneDocument : public QObject {
 private Q_SLOTS:
     void init()
     {
-        m_disposal = std::make_unique<SceneDisposal>();
+        m_disposal = std::make_unique<SceneDisposal>(&StepClock::now);
         m_services = std::make_unique<OrvServices>();
         m_document = std::make_unique<SceneDocument>(*m_services, *m_disposal);
     }
@@ -98,10 +99,16 @@ private Q_SLOTS:
 
     void takesALargeSceneApartInSlices()
     {
-        m_document->open(AppScenes::wide(300000), QStringLiteral("/x/wide.mrd"));
+        constexpr int nodes = 1000;
+        // Each slice takes 8 ms, and reads the clock once to begin with.
+        constexpr int readingsPerSlice = 9;
+        m_document->open(AppScenes::wide(nodes), QStringLiteral("/x/wide.mrd"));
+        const TurnCounter counter;
         m_document->close();
         QVERIFY(m_disposal->isBusy());
         QTRY_VERIFY(!m_disposal->isBusy());
+        QVERIFY2(counter.mostReadings() <= readingsPerSlice, qPrintable(QString::number(counter.mostReadings())));
+        QVERIFY2(counter.turns() > nodes / readingsPerSlice, qPrintable(QString::number(counter.turns())));
     }
 
     void leavesNodesAloneThatOthersHold()
