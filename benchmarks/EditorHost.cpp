@@ -21,7 +21,7 @@ NxRef<NxFieldGallery> readGallery()
     reader.run();
     const NxRef<NxGroup> scene = reader.takeScene();
     if (!scene)
-        qFatal("%s is no scene", GALLERY_FILE);
+        qFatal("%s isn't a scene", GALLERY_FILE);
     return dynamic_cast<NxFieldGallery*>(scene->getChild(0));
 }
 

@@ -166,7 +166,7 @@ std::optional<std::string> FileReader::open(const std::string& path)
     if (S_ISDIR(status.st_mode))
         return failure(path, "is a directory");
     if (!S_ISREG(status.st_mode))
-        return failure(path, "is no regular file");
+        return failure(path, "isn't a regular file");
     m_size = static_cast<std::size_t>(status.st_size);
     return std::nullopt;
 }
@@ -221,7 +221,7 @@ std::optional<std::string> FileReplacer::open(const std::string& path)
     if (replaces && S_ISDIR(old.st_mode))
         return failure(path, "is a directory");
     if (replaces && !S_ISREG(old.st_mode))
-        return failure(path, "is no regular file");
+        return failure(path, "isn't a regular file");
     // Renaming only needs rights on the folder, but a write-protected file isn't replaced.
     if (replaces && ::faccessat(AT_FDCWD, m_target.c_str(), W_OK, AT_EACCESS) != 0)
         return systemFailure(path);

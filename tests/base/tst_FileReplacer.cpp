@@ -86,7 +86,7 @@ private Q_SLOTS:
         QTest::newRow("folder") << QByteArray("folder") << QByteArray("is a directory");
         QTest::newRow("in a missing folder") << QByteArray("missing/x.mrd") << QByteArray("No such file or directory");
         QTest::newRow("below a file") << QByteArray("file/x.mrd") << QByteArray("Not a directory");
-        QTest::newRow("pipe") << QByteArray("pipe") << QByteArray("is no regular file");
+        QTest::newRow("pipe") << QByteArray("pipe") << QByteArray("isn't a regular file");
         QTest::newRow("circle of links") << QByteArray("circle") << QByteArray("Too many levels of symbolic links");
         QTest::newRow("long name") << QByteArray(300, 'n') << QByteArray("File name too long");
     }

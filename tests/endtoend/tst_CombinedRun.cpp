@@ -121,7 +121,7 @@ private Q_SLOTS:
         add("plug-in that is a folder", "--plugin=.", "it is a folder");
         add("node that isn't there", "--get=/nosuch.name", "no child of that name");
         add("node instead of a field", "--get=/rig", "this is a node");
-        add("value of another type", "--set=/rig/paint.transparency=red", "'red' is no value");
+        add("value of another type", "--set=/rig/paint.transparency=red", "'red' isn't a value");
         add("selection that isn't there", "--select=/nosuch", "no child of that name");
         add("path that is none", "--select=rig", "rig");
         add("export in no folder", "--export=nowhere/a.mrd", "nowhere/a.mrd: No such file");

@@ -74,9 +74,9 @@ private Q_SLOTS:
         };
         plugin("NoSuchPlugin", "there is no such file");
         QTest::newRow("folder") << QStringLiteral(PLUGIN_FOLDER) << u"it is a folder, not a plug-in"_s << QStringList();
-        QTest::newRow("device") << u"/dev/null"_s << u"it is no regular file"_s << QStringList();
-        plugin("NoLoadPlugin", "it is no plug-in, for it lacks the function \"loadPlugin\"");
-        plugin("NoUnloadPlugin", "it is no plug-in, for it lacks the function \"unloadPlugin\"");
+        QTest::newRow("device") << u"/dev/null"_s << u"it isn't a regular file"_s << QStringList();
+        plugin("NoLoadPlugin", "it isn't a plug-in: it doesn't export the function \"loadPlugin\"");
+        plugin("NoUnloadPlugin", "it isn't a plug-in: it doesn't export the function \"unloadPlugin\"");
         plugin("ReturnsNull", "its \"loadPlugin\" returned no plug-in");
         plugin("ThrowsInLoadPlugin", "its \"loadPlugin\" threw an exception: no licence for this machine");
         plugin("ThrowsInLoad", "it can't be loaded, for it threw an exception: no such font",

@@ -50,13 +50,13 @@ private Q_SLOTS:
             [](NxMesh& mesh) {
                 mesh.indices.setValues({0, 1, 2, 0, 2, 3, 1});
             },
-            "the number of its indices, 7, is no multiple of 3; the last ones aren't drawn", red, red);
+            "the number of its indices, 7, isn't a multiple of 3; the last ones aren't drawn", red, red);
         row(
             "two indices", [](NxMesh& mesh) { mesh.indices.deleteValues(2, -1); },
-            "the number of its indices, 2, is no multiple of 3; the last ones aren't drawn", black, black);
+            "the number of its indices, 2, isn't a multiple of 3; the last ones aren't drawn", black, black);
         row(
             "positions left over", [](NxMesh& mesh) { mesh.indices.deleteValues(0, -1); },
-            "the number of its positions, 4, is no multiple of 3; the last ones aren't drawn", red, black);
+            "the number of its positions, 4, isn't a multiple of 3; the last ones aren't drawn", red, black);
         row(
             "a position that is no number",
             [](NxMesh& mesh) { mesh.positions.set1Value(3, VbVec3f(0, notANumber, 0)); },

@@ -80,7 +80,7 @@ NxScenePath::Target NxScenePath::find(NxGroup* scene, std::string_view path)
         return target;
     };
     if (!path.starts_with('/'))
-        return fail('\'' + std::string(path) + "' is no path: expected '/' and the name of a node");
+        return fail('\'' + std::string(path) + "' isn't a path: expected '/' and the name of a node");
     if (path == "/")
         return target;
     const NxNode* parent = scene;

@@ -26,7 +26,7 @@ QString findProblem(const QString& fileName)
     if (!info.exists())
         return {};
     if (!info.isFile())
-        return QStringLiteral("it is no file");
+        return QStringLiteral("it isn't a file");
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
@@ -57,7 +57,7 @@ AppSettings::AppSettings(Mode mode, const QString& fileName)
         m_file = std::make_unique<QSettings>(fileName, QSettings::IniFormat);
         if (m_file->status() == QSettings::NoError)
             return;
-        problem = QStringLiteral("it is no settings file");
+        problem = QStringLiteral("it isn't a settings file");
         m_file.reset();
     }
     m_problem

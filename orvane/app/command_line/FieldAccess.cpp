@@ -41,7 +41,7 @@ Result<NxField*> findAssignedField(NxGroup* scene, const CommandLine::Assignment
     auto field = findField(scene, assignment.path);
     if (!field || acceptsText(field.value(), VbString(assignment.text.toStdString())))
         return field;
-    return Failure{QStringLiteral("%1: '%2' is no value for a field of type %3")
+    return Failure{QStringLiteral("%1: '%2' isn't a value for a field of type %3")
                        .arg(assignment.path, assignment.text, typeName(*field.value()))};
 }
 

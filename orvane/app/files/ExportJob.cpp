@@ -119,7 +119,7 @@ void ExportJob::takeFiles()
         && std::all_of(files->begin(), files->end(),
             [&](const auto& file) { return file.name.starts_with(base + '.') || file.name.starts_with(base + '_'); });
     if (!usable) {
-        fail(QStringLiteral("%1: the import helper gave something that is no model").arg(fileName()));
+        fail(QStringLiteral("%1: the import helper sent something that isn't a model").arg(fileName()));
         return;
     }
     m_files = std::move(*files);

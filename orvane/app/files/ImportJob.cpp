@@ -77,7 +77,7 @@ void ImportJob::finishWhenAllIsDone()
 
 void ImportJob::failForNoScene(const QString& reason)
 {
-    failToImport(QStringLiteral("%1: the import helper gave something that is no scene: %2").arg(fileName(), reason));
+    failToImport(QStringLiteral("%1: the import helper sent something that isn't a scene: %2").arg(fileName(), reason));
 }
 
 void ImportJob::failToImport(const QString& message)

@@ -85,7 +85,7 @@ bool ImageFile::isUsable(int descriptor)
 {
     struct stat status { };
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || isMadeUp(descriptor))
-        fail(QStringLiteral("it is no regular file"));
+        fail(QStringLiteral("it isn't a regular file"));
     else if (status.st_size == 0)
         fail(QStringLiteral("it is empty"));
     else if (static_cast<std::size_t>(status.st_size) > orvane::maxPictureFileSize)

@@ -107,7 +107,7 @@ void PictureDecoder::takeReply()
     }
     if (state == State::Broken) {
         dropHelper();
-        fail(QStringLiteral("the import helper gave something that is no picture"));
+        fail(QStringLiteral("the import helper sent something that isn't a picture"));
     } else if (state == State::Refused) {
         ++m_served;
         fail(orvane::toQString(m_reply.reason()));

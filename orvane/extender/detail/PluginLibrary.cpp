@@ -25,7 +25,7 @@ std::optional<QString> whyNotReadable(const QFileInfo& file)
     if (file.isDir())
         return QStringLiteral("it is a folder, not a plug-in");
     if (!file.isFile())
-        return QStringLiteral("it is no regular file");
+        return QStringLiteral("it isn't a regular file");
     if (!file.isReadable())
         return QStringLiteral("it can't be read");
     return std::nullopt;
@@ -81,7 +81,7 @@ std::optional<QString> open(const QFileInfo& file, PluginLibrary& result)
     const auto make = reinterpret_cast<OrvPlugin* (*)()>(library.resolve(makeName));
     const QFunctionPointer destroy = library.resolve(destroyName);
     if (make == nullptr || destroy == nullptr) {
-        return QStringLiteral("it is no plug-in, for it lacks the function \"%1\"")
+        return QStringLiteral("it isn't a plug-in: it doesn't export the function \"%1\"")
             .arg(QLatin1String(make == nullptr ? makeName : destroyName));
     }
 

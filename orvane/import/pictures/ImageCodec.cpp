@@ -65,7 +65,7 @@ std::optional<Picture> decodePicture(std::span<const unsigned char> file, std::s
     const Decoder decoder = decoderOf({reinterpret_cast<const char*>(file.data()), file.size()});
     std::optional<Picture> picture = decoder == nullptr ? std::nullopt : decoder(file);
     if (!picture && problem != nullptr)
-        *problem = decoder == nullptr ? "it is no PNG, JPEG, WebP, TIFF, BMP, TGA, GIF, PSD, PGM or PPM image"
+        *problem = decoder == nullptr ? "it isn't a PNG, JPEG, WebP, TIFF, BMP, TGA, GIF, PSD, PGM or PPM image"
                                       : "the image is broken, or larger than 32767 pixels a side or 64 million in all";
     return picture;
 }

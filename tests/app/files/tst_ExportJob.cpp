@@ -203,7 +203,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("script");
         QTest::addColumn<QString>("message");
         const QByteArray readAll("cat > /dev/null; ");
-        const QString noModel = QStringLiteral("the import helper gave something that is no model");
+        const QString noModel = QStringLiteral("the import helper sent something that isn't a model");
         QTest::newRow("nothing") << readAll << noModel;
         QTest::newRow("garbage") << readAll + "echo garbage" << noModel;
         QTest::newRow("half a model") << readAll + "printf 'orvane-files 1\\nfile 100 box.obj\\nv 0'" << noModel;

@@ -30,7 +30,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("script");
         QTest::addColumn<QString>("message"); // behind the file's name
-        const QString noScene = QStringLiteral("the import helper gave something that is no scene: ");
+        const QString noScene = QStringLiteral("the import helper sent something that isn't a scene: ");
         QTest::newRow("garbage") << QByteArray("echo garbage") << noScene;
         QTest::newRow("nothing") << QByteArray("exit 0") << noScene;
         QTest::newRow("zeros") << QByteArray("head -c 100000 /dev/zero") << noScene;

@@ -90,12 +90,12 @@ private Q_SLOTS:
     {
         QCOMPARE(::mkfifo(file("scene/pipe.png").toLocal8Bit().constData(), S_IRUSR | S_IWUSR), 0);
         QCOMPARE(read("pipe.png"), NxImageState::Failed);
-        QCOMPARE(m_reason, std::string("it is no regular file"));
+        QCOMPARE(m_reason, std::string("it isn't a regular file"));
         m_files->setAllowedFolders({QStringLiteral("/")});
         for (const char* name :
             {"/dev/zero", "/dev/null", "/proc/self/environ", "/proc/kmsg", "/sys/kernel/uevent_seqnum"}) {
             QVERIFY2(read(name) == NxImageState::Failed, name);
-            QVERIFY2(m_reason == "it is no regular file" || !QFile::exists(QLatin1String(name)), m_reason.c_str());
+            QVERIFY2(m_reason == "it isn't a regular file" || !QFile::exists(QLatin1String(name)), m_reason.c_str());
         }
     }
 
@@ -232,7 +232,7 @@ private Q_SLOTS:
         QTest::newRow("gives nothing") << take << QStringLiteral("the import helper ended without a picture");
         QTest::newRow("gives half") << take + "printf 'picture 2 2 1\\nA'"
                                     << QStringLiteral("the import helper ended without a picture");
-        const QString noPicture = QStringLiteral("the import helper gave something that is no picture");
+        const QString noPicture = QStringLiteral("the import helper sent something that isn't a picture");
         QTest::newRow("gives too much") << take + "printf 'picture 1 1 1\\nAB'" << noPicture;
         QTest::newRow("lies about the size") << take + "printf 'picture 1000000 1000000 4\\nAB'" << noPicture;
         QTest::newRow("chatters") << take + "yes" << noPicture;

@@ -174,7 +174,7 @@ private Q_SLOTS:
     {
         std::string problem;
         QVERIFY(!decodePicture(bytesOf("no picture"), &problem));
-        QCOMPARE(problem, std::string("it is no PNG, JPEG, WebP, TIFF, BMP, TGA, GIF, PSD, PGM or PPM image"));
+        QCOMPARE(problem, std::string("it isn't a PNG, JPEG, WebP, TIFF, BMP, TGA, GIF, PSD, PGM or PPM image"));
         QVERIFY(!decodePicture(bytesOf(pictureFile("plain.gif").left(20)), &problem));
         QVERIFY(problem.starts_with("the image is broken"));
     }

@@ -41,7 +41,7 @@ private Q_SLOTS:
         QCOMPARE(run.status, 0);
         QCOMPARE(run.output,
             "picture 1 1 3\n\1\2\3"
-                + orvane::pictureRefusal("it is no PNG, JPEG, WebP, TIFF, BMP, TGA, GIF, PSD, PGM or PPM image")
+                + orvane::pictureRefusal("it isn't a PNG, JPEG, WebP, TIFF, BMP, TGA, GIF, PSD, PGM or PPM image")
                 + "picture 1 1 3\n\4\5\6");
     }
 

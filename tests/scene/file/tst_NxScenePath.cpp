@@ -94,8 +94,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("error");
         const auto row
             = [](const char* path, const char* error) { QTest::newRow(path) << QByteArray(path) << QByteArray(error); };
-        row("", "'' is no path: expected '/' and the name of a node");
-        row("robot", "'robot' is no path: expected '/' and the name of a node");
+        row("", "'' isn't a path: expected '/' and the name of a node");
+        row("robot", "'robot' isn't a path: expected '/' and the name of a node");
         row("//robot", "'/': expected the name of a node behind it");
         row("/robot/", "'/robot/': expected the name of a node behind it");
         row("/.translation", "'/': expected the name of a node behind it");

@@ -121,7 +121,7 @@ MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems)
     });
     problems.note(record, Problem::IncompletePrimitive, isIncomplete, [&] {
         return "the number of its " + std::string(indices.empty() ? "positions, " : "indices, ") + std::to_string(count)
-            + ", is no multiple of " + std::to_string(corners) + "; the last ones aren't drawn";
+            + ", isn't a multiple of " + std::to_string(corners) + "; the last ones aren't drawn";
     });
     shape.hasNormals = hasEach(effectiveField(mesh.normals).getValues().size(), positions.size(), "normals",
         Problem::NormalCount, record, problems);
