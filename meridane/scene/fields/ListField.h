@@ -62,6 +62,7 @@ public:
         return values;
     }
 
+    [[nodiscard]] int firstDifferentRow(const NxField& other) const override;
     void get1(int index, VbString& text) const override;
     void deleteValues(int start, int count) override;
     void insertSpace(int start, int count) override;

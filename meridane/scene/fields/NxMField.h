@@ -17,6 +17,9 @@ public:
 
     /// The number of values.
     [[nodiscard]] virtual int getNum() const = 0;
+    /// The first row in which a list of the same class has another value to the bit, or no value; `getNum` if there is
+    /// none. 0 for a field of another class.
+    [[nodiscard]] virtual int firstDifferentRow(const NxField& other) const = 0;
     /// Writes one value in text form; the empty text for a row that doesn't exist.
     virtual void get1(int index, VbString& text) const = 0;
     /// Sets one value from its text form. Changes nothing and returns false if the text doesn't parse as a whole or the

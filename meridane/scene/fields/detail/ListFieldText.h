@@ -82,6 +82,17 @@ bool ListField<Value, Format>::isSame(const NxField& other) const
 }
 
 template <typename Value, typename Format>
+int ListField<Value, Format>::firstDifferentRow(const NxField& other) const
+{
+    if (!isOfSameClass(other))
+        return 0;
+    const std::vector<Value>& values = static_cast<const ListField&>(other).m_values;
+    const auto isSame = [](const Value& left, const Value& right) { return isSameValue(left, right); };
+    const auto found = std::mismatch(m_values.begin(), m_values.end(), values.begin(), values.end(), isSame);
+    return static_cast<int>(found.first - m_values.begin());
+}
+
+template <typename Value, typename Format>
 bool ListField<Value, Format>::copyFrom(const NxField& other)
 {
     return isOfSameClass(other) && setValues(static_cast<const ListField&>(other).getValues());
