@@ -193,6 +193,30 @@ private Q_SLOTS:
                 QStringLiteral("value /Mesh[500].positions: [500 0 0] -> [0.5 0 0]")}));
     }
 
+    void equalSiblingsAreNotReordered()
+    {
+        std::string left;
+        std::string right;
+        for (int i = 0; i < 100; ++i) {
+            left += meshes(0, 9);
+            right += i == 7 ? meshes(0, 3) + meshes(5, 9) : i == 80 ? meshes(0, 9) + "Mesh {}" : meshes(0, 9);
+        }
+        QCOMPARE(Differences::lines(left, right),
+            QStringList({QStringLiteral("added /Mesh[809]:  -> Mesh"), QStringLiteral("removed /Mesh[74]: Mesh -> ")}));
+    }
+
+    void manyChangesAmongSiblingsAreFoundToo()
+    {
+        // More than the search for the fewest insertions and deletions tries.
+        std::string right;
+        for (int i = 0; i < 1000; i += 4)
+            right += meshes(i, i + 2);
+        const QStringList lines = Differences::lines(meshes(0, 999), right);
+        QCOMPARE(lines.size(), 250);
+        QCOMPARE(lines.filter(QStringLiteral("removed /Mesh[")).size(), 250);
+        QCOMPARE(lines.back(), QStringLiteral("removed /Mesh[999]: Mesh -> "));
+    }
+
     void groupsUsedTwiceInEachOtherAreVisitedOnce()
     {
         constexpr int depth = 40;

@@ -34,6 +34,8 @@ void ChildAlignment::work()
         return skipBeginning();
     case Phase::End:
         return skipEnd();
+    case Phase::Edits:
+        return findEdits();
     case Phase::Rest:
         return gatherRest();
     case Phase::AddLeft:
@@ -79,19 +81,40 @@ void ChildAlignment::skipEnd()
     }
     // What is left of a copy are children that correspond to nothing: its content is the same.
     const bool isDone = left.begin == left.end || right.begin == right.end || m_groups.isCopy;
-    m_phase = isDone ? Phase::Done : Phase::Rest;
+    m_phase = isDone ? Phase::Done : Phase::Edits;
     m_nextSlot = 0;
+    if (!isDone)
+        m_edits.start(left.end - left.begin, right.end - right.begin,
+            [this](ShortestEdit::Place leftPlace, ShortestEdit::Place rightPlace) {
+                return isSame(m_sides[LeftScene].begin + leftPlace, m_sides[RightScene].begin + rightPlace);
+            });
+}
+
+void ChildAlignment::findEdits()
+{
+    if (m_edits.step(1))
+        return;
+    for (const auto& [left, right] : m_edits.pairs()) {
+        const std::uint32_t leftSlot = m_sides[LeftScene].begin + left;
+        const std::uint32_t rightSlot = m_sides[RightScene].begin + right;
+        // The pairs before this one may have given the nodes other partners.
+        if (m_tables.mayMatch(m_tables.nodeOfSlot(LeftScene, leftSlot), m_tables.nodeOfSlot(RightScene, rightSlot)))
+            m_tables.pairSlots(leftSlot, rightSlot);
+    }
+    m_phase = Phase::Rest;
 }
 
 void ChildAlignment::gatherRest()
 {
     const std::uint32_t offset = m_nextSlot++;
     bool isDone = true;
-    for (Side& side : m_sides) {
-        if (offset < side.end - side.begin) {
+    for (const SceneSide number : {LeftScene, RightScene}) {
+        Side& side = m_sides[number];
+        if (offset >= side.end - side.begin)
+            continue;
+        isDone = false;
+        if (m_tables.slotPartner(number, side.begin + offset) == MatchTables::none)
             side.rest.push_back(side.begin + offset);
-            isDone = false;
-        }
     }
     if (isDone)
         startPass(Pass::UniqueName);
@@ -116,7 +139,7 @@ void ChildAlignment::nextPass()
     m_runSlots.clear();
     if (isDone)
         m_phase = Phase::Order;
-    else if (pass == Pass::PlaceNameAndClass)
+    else if (pass == Pass::PlaceAndEqual || pass == Pass::PlaceNameAndClass)
         m_phase = Phase::Gaps;
     else
         startPass(pass);
@@ -182,12 +205,11 @@ std::optional<std::uint64_t> ChildAlignment::keyOf(SceneSide side, std::uint32_t
     switch (m_pass) {
     case Pass::UniqueName:
         return name.empty() ? std::nullopt : std::optional(hashOf(name));
-    case Pass::Equal: {
-        const std::uint32_t partner = m_tables.partner(side, number);
-        if (partner == MatchTables::none)
-            return node.hash;
-        return side == LeftScene ? number : partner; // both partners get the number of the left one
-    }
+    case Pass::UniqueEqual:
+    case Pass::Equal:
+        return equalKey(side, number);
+    case Pass::PlaceAndEqual:
+        return mixHash(gapOf(side, slot), equalKey(side, number));
     case Pass::PlaceNameAndClass:
         return mixHash(gapOf(side, slot), mixHash(hashOf(name), hashOf(node.node->getClassName())));
     case Pass::NameAndClass:
@@ -200,6 +222,19 @@ std::optional<std::uint64_t> ChildAlignment::keyOf(SceneSide side, std::uint32_t
         break;
     }
     return std::nullopt;
+}
+
+bool ChildAlignment::isUniquePass() const
+{
+    return m_pass == Pass::UniqueName || m_pass == Pass::UniqueEqual || m_pass == Pass::UniqueContent;
+}
+
+std::uint64_t ChildAlignment::equalKey(SceneSide side, std::uint32_t number) const
+{
+    const std::uint32_t partner = m_tables.partner(side, number);
+    if (partner == MatchTables::none)
+        return m_tables.scene(side).node(number).hash;
+    return side == LeftScene ? number : partner; // both partners get the number of the left one
 }
 
 std::uint64_t ChildAlignment::gapOf(SceneSide side, std::uint32_t slot) const
