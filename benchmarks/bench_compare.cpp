@@ -25,7 +25,7 @@ void measure(const char* name, const std::string& left, const std::string& right
     const NxRef<NxGroup> leftScene = readScene(left);
     const NxRef<NxGroup> rightScene = readScene(right);
     bench::compare(
-        name, 1, 5,
+        name, 1.5, 5,
         [&] {
             return bench::seconds([&] {
                 NxSceneComparison comparison(leftScene, rightScene);

@@ -1,6 +1,7 @@
 #include "orvane/app/command_line/BatchRun.h"
 
 #include "orvane/app/base/SearchFolders.h"
+#include "orvane/app/command_line/DifferenceListing.h"
 #include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/SceneListing.h"
 #include "orvane/app/files/FileJobs.h"
@@ -9,6 +10,7 @@
 #include "orvane/extender/OrvEditor.h"
 
 #include "meridane/base/values/VbName.h"
+#include "meridane/scene/compare/NxSceneComparison.h"
 #include "meridane/scene/file/NxScenePath.h"
 
 #include <QEventLoop>
@@ -57,9 +59,9 @@ Result<> BatchRun::finish(FileJob& job)
     return result;
 }
 
-Result<NxRef<NxGroup>> BatchRun::open() const
+Result<NxRef<NxGroup>> BatchRun::open(const QString& fileName)
 {
-    const std::unique_ptr<SceneJob> job = orvane::makeLoadJob(m_commandLine.file);
+    const std::unique_ptr<SceneJob> job = orvane::makeLoadJob(fileName);
     if (const auto result = finish(*job); !result)
         return Failure{result.error()};
     return job->takeScene();
@@ -106,7 +108,7 @@ Result<> BatchRun::runScene()
 {
     if (m_commandLine.file.isEmpty())
         return {};
-    const auto opened = open();
+    const auto opened = open(m_commandLine.file);
     if (!opened)
         return Failure{opened.error()};
     const NxRef<NxGroup>& scene = opened.value();
@@ -134,10 +136,31 @@ Result<> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
     }
     if (m_commandLine.list)
         SceneListing(scene.get(), m_output).print();
+    if (m_commandLine.diff) {
+        if (auto written = writeDifferences(scene); !written)
+            return written;
+    }
     for (const QString& fileName : m_commandLine.exportFiles) {
         auto written = finish(*orvane::makeSaveJob(scene, fileName, orvane::folderOf(m_commandLine.file)));
         if (!written)
             return written;
     }
+    return {};
+}
+
+Result<> BatchRun::writeDifferences(const NxRef<NxGroup>& scene)
+{
+    const auto second = open(m_commandLine.secondFile);
+    if (!second)
+        return Failure{second.error()};
+    NxSceneComparison comparison(scene, second.value());
+    comparison.run();
+    const NxSceneDifferences differences = comparison.takeDifferences();
+    m_differs = !differences.list().empty();
+    const DifferenceListing listing(differences, m_output);
+    if (m_commandLine.json)
+        listing.printJson(m_commandLine.file, m_commandLine.secondFile);
+    else
+        listing.print();
     return {};
 }

@@ -9,7 +9,7 @@ class FileJob;
 class QTextStream;
 class Session;
 
-/// Runs a command line without a window: opens the file, sets fields, prints, exports.
+/// Runs a command line without a window: opens the file, sets fields, prints, compares, exports.
 ///
 /// Needs a core application; where the command line needs extensions, a widget application, on any platform.
 class BatchRun {
@@ -28,13 +28,17 @@ public:
     void listExtensions(Session& session);
     /// Prints and exports what is asked for of a scene that is open and changed already; null for no scene.
     orvane::Result<> writeOutput(const NxRef<NxGroup>& scene);
+    /// The exit status of a run that didn't fail: 1 if the files that were compared differ, else 0.
+    [[nodiscard]] int status() const noexcept { return m_differs ? 1 : 0; }
 
 private:
     static orvane::Result<> finish(FileJob& job);
     orvane::Result<> startExtensions(Session& session);
     orvane::Result<> runScene();
-    [[nodiscard]] orvane::Result<NxRef<NxGroup>> open() const;
+    orvane::Result<> writeDifferences(const NxRef<NxGroup>& scene);
+    [[nodiscard]] static orvane::Result<NxRef<NxGroup>> open(const QString& fileName);
 
     const CommandLine& m_commandLine;
     QTextStream& m_output;
+    bool m_differs = false;
 };

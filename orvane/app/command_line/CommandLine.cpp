@@ -32,6 +32,12 @@ struct Options {
     QCommandLineOption list{QStringLiteral("list"),
         QStringLiteral("Print each node with its class and each field with its type and value. A node that is "
                        "in several places is printed in full once, then with the path of the first place.")};
+    QCommandLineOption diff{QStringLiteral("diff"),
+        QStringLiteral(
+            "Compare the file with a second one and print each difference: its kind, the path, what the first "
+            "file has and what the second one has. The status is 0 if there are none, 1 if there are "
+            "some and 2 for an error.")};
+    QCommandLineOption json{QStringLiteral("json"), QStringLiteral("Print the differences as one JSON object.")};
     QCommandLineOption listExtensions{QStringLiteral("list-extensions"),
         QStringLiteral("Print each extension's order, class, name and handled type.")};
     QCommandLineOption exportTo{QStringLiteral("export"),
@@ -48,10 +54,12 @@ struct Options {
 
     void addTo(QCommandLineParser& parser) const
     {
-        parser.addOptions({plugin, profile, select, set, get, list, listExtensions, exportTo, screenshot, size,
-            noSettings, version, help});
+        parser.addOptions({plugin, profile, select, set, get, list, diff, json, listExtensions, exportTo, screenshot,
+            size, noSettings, version, help});
         parser.addPositionalArgument(QStringLiteral("file"),
             QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
+        parser.addPositionalArgument(
+            QStringLiteral("second file"), QStringLiteral("With --diff."), QStringLiteral("[second file]"));
     }
 };
 
@@ -93,6 +101,20 @@ QString nameOf(const QCommandLineOption& option)
     return QStringLiteral("--") + option.names().constFirst();
 }
 
+Result<> checkFiles(const QStringList& files, bool diff, bool json)
+{
+    if (!diff && files.size() > 1)
+        return Failure{QStringLiteral("One file at a time: '%1' is one too many.").arg(files[1])};
+    if (files.contains(QString()))
+        return Failure{QStringLiteral("The name of the file is empty.")};
+    if (diff && files.size() != 2)
+        return Failure{
+            QStringLiteral("--diff expects two files, such as --diff old.mrd new.mrd, not %1.").arg(files.size())};
+    if (json && !diff)
+        return Failure{QStringLiteral("--json is for --diff alone.")};
+    return {};
+}
+
 // Refuses what the parser accepts although it would be ignored, or mistaken for an option that wasn't given.
 Result<> checkUse(const QCommandLineParser& parser, const Options& options)
 {
@@ -112,19 +134,14 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
         if (parser.values(option).size() > 1)
             return Failure{QStringLiteral("%1 can be given once only.").arg(nameOf(option))};
     }
-    const QStringList files = parser.positionalArguments();
-    if (files.size() > 1)
-        return Failure{QStringLiteral("One file at a time: '%1' is one too many.").arg(files[1])};
-    if (files.contains(QString()))
-        return Failure{QStringLiteral("The name of the file is empty.")};
-    return {};
+    return checkFiles(parser.positionalArguments(), parser.isSet(options.diff), parser.isSet(options.json));
 }
 
 } // namespace
 
 bool CommandLine::isBatch() const
 {
-    const bool asksForOutput = list || listExtensions || !queries.isEmpty() || !exportFiles.isEmpty();
+    const bool asksForOutput = list || diff || listExtensions || !queries.isEmpty() || !exportFiles.isEmpty();
     return asksForOutput && screenshotFile.isEmpty();
 }
 
@@ -156,6 +173,7 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
     if (const auto use = checkUse(parser, options); !use)
         return Failure{use.error()};
     result.file = parser.positionalArguments().value(0);
+    result.secondFile = parser.positionalArguments().value(1);
     result.plugins = parser.values(options.plugin);
     result.profile = parser.value(options.profile);
     result.select = parser.value(options.select);
@@ -163,6 +181,8 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
     result.exportFiles = parser.values(options.exportTo);
     result.screenshotFile = parser.value(options.screenshot);
     result.list = parser.isSet(options.list);
+    result.diff = parser.isSet(options.diff);
+    result.json = parser.isSet(options.json);
     result.listExtensions = parser.isSet(options.listExtensions);
     result.noSettings = parser.isSet(options.noSettings);
     for (const QString& argument : parser.values(options.set)) {

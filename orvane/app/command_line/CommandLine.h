@@ -21,6 +21,7 @@ struct CommandLine {
     static constexpr qint64 mostPixels = qint64{32} << 20;
 
     QString file;
+    QString secondFile; // only with `diff`
     QStringList plugins;
     QString profile;
     QString select;
@@ -30,11 +31,15 @@ struct CommandLine {
     QString screenshotFile;
     QSize size;
     bool list = false;
+    bool diff = false;
+    bool json = false;
     bool listExtensions = false;
     bool noSettings = false;
     bool version = false;
     bool help = false;
 
+    /// The exit status of a run that failed, for whatever reason.
+    [[nodiscard]] int failureStatus() const noexcept { return diff ? 2 : 1; }
     /// True when all that is asked for can be done without a window.
     [[nodiscard]] bool isBatch() const;
     /// True when plug-ins or profiles have to be loaded, even without a window.

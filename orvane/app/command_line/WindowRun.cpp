@@ -31,7 +31,7 @@ int WindowRun::run()
 {
     if (const auto usable = checkPicture(); !usable) {
         orvane::printError(usable.error());
-        return 1;
+        return m_commandLine.failureStatus();
     }
     Session session(m_commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
     MainWindow window(session);
@@ -48,7 +48,9 @@ int WindowRun::run()
     showSoon(window);
     QTimer::singleShot(0, &window, [this, &session, &window] { start(session, window); });
     const int status = QApplication::exec();
-    return takesPicture() && m_failed ? 1 : status;
+    if (!takesPicture())
+        return status;
+    return m_failed ? m_commandLine.failureStatus() : m_status;
 }
 
 Result<> WindowRun::checkPicture() const
@@ -160,6 +162,7 @@ Result<> WindowRun::writeAll(Session& session, MainWindow& window)
     BatchRun others(m_commandLine, output.stream());
     others.listExtensions(session);
     const auto result = others.writeOutput(NxRef<NxGroup>(window.document().scene()));
+    m_status = others.status();
     const auto written = output.finish();
     if (!result || !written)
         return result ? written : result;

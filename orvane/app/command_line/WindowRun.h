@@ -38,4 +38,5 @@ private:
 
     CommandLine m_commandLine;
     bool m_failed = false;
+    int m_status = 0; // of a run that didn't fail
 };

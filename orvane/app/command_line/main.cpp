@@ -126,12 +126,13 @@ int runBatch(const CommandLine& commandLine, char** argv)
     const auto application
         = commandLine.needsExtensions() ? makeApplicationWithoutScreen(argv) : makeApplication<QCoreApplication>(argv);
     orvane::StandardOutput output;
-    const auto result = BatchRun(commandLine, output.stream()).run();
+    BatchRun batch(commandLine, output.stream());
+    const auto result = batch.run();
     const auto written = output.finish();
     if (!result)
-        return fail(result.error(), statusFailed);
+        return fail(result.error(), commandLine.failureStatus());
     // A script must not take half of the output for the whole.
-    return written ? 0 : fail(written.error(), statusFailed);
+    return written ? batch.status() : fail(written.error(), commandLine.failureStatus());
 }
 
 int runWindow(const CommandLine& commandLine, char** argv)

@@ -90,6 +90,16 @@ private Q_SLOTS:
             QTest::addRow("twice %s", option)
                 << QStringList{text, text, QStringLiteral("a.mrd")} << text.section(u'=', 0, 0) + u' ';
         }
+        QTest::newRow("json alone") << QStringList{QStringLiteral("--json"), QStringLiteral("a.mrd")}
+                                    << QStringLiteral("--diff");
+        QTest::newRow("diff of nothing") << QStringList{QStringLiteral("--diff")} << QStringLiteral("two files");
+        QTest::newRow("diff of one file")
+            << QStringList{QStringLiteral("--diff"), QStringLiteral("a.mrd")} << QStringLiteral("two files");
+        QTest::newRow("diff of three files") << QStringList{QStringLiteral("--diff"), QStringLiteral("a.mrd"),
+            QStringLiteral("b.mrd"), QStringLiteral("c.mrd")}
+                                             << QStringLiteral("two files");
+        QTest::newRow("diff of an empty name")
+            << QStringList{QStringLiteral("--diff"), QStringLiteral("a.mrd"), QString()} << QStringLiteral("empty");
         QTest::newRow("get without file") << QStringList{QStringLiteral("--get=/a.b")} << QStringLiteral("file");
         QTest::newRow("export without file") << QStringList{QStringLiteral("--export=a.obj")} << QStringLiteral("file");
     }
@@ -101,6 +111,23 @@ private Q_SLOTS:
         const QString error = parse(arguments).error();
         QVERIFY2(error.contains(mentions), qPrintable(error));
         QVERIFY(!error.contains(u'\n'));
+    }
+
+    void twoFilesAreTakenToBeCompared()
+    {
+        for (const QStringList& arguments :
+            {QStringList{QStringLiteral("--diff"), QStringLiteral("a.mrd"), QStringLiteral("b.glb")},
+                {QStringLiteral("a.mrd"), QStringLiteral("--diff"), QStringLiteral("b.glb")},
+                {QStringLiteral("a.mrd"), QStringLiteral("b.glb"), QStringLiteral("--diff")}}) {
+            const auto parsed = parse(arguments);
+            QCOMPARE(parsed.error(), QString());
+            const CommandLine& commandLine = parsed.value();
+            QVERIFY(commandLine.diff && commandLine.isBatch() && !commandLine.json);
+            QCOMPARE(commandLine.file, QStringLiteral("a.mrd"));
+            QCOMPARE(commandLine.secondFile, QStringLiteral("b.glb"));
+            QCOMPARE(commandLine.failureStatus(), 2);
+        }
+        QCOMPARE(parse({QStringLiteral("--list"), QStringLiteral("a.mrd")}).value().failureStatus(), 1);
     }
 
     void theLargestSizesAreTaken()
@@ -135,8 +162,9 @@ private Q_SLOTS:
     void helpNamesEveryOption()
     {
         const QString help = CommandLine::helpText();
-        for (const char* const option : {"--plugin", "--profile", "--select", "--set", "--get", "--list",
-                 "--list-extensions", "--export", "--screenshot", "--size", "--no-settings", "--version", "--help"})
+        for (const char* const option :
+            {"--plugin", "--profile", "--select", "--set", "--get", "--list", "--list-extensions", "--diff", "--json",
+                "--export", "--screenshot", "--size", "--no-settings", "--version", "--help"})
             QVERIFY2(help.contains(QLatin1String(option)), option);
     }
 };
