@@ -3,6 +3,7 @@
 #include "Patience.h"
 
 #include <QDeadlineTimer>
+#include <QFileInfo>
 #include <QTest>
 
 #include <algorithm>
@@ -264,14 +265,18 @@ void LiveTool::type(const QString& text)
     xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
 }
 
-bool LiveTool::typeInto(const QString& name, const QString& text)
+bool LiveTool::typeFileName(const QString& fileName)
 {
-    if (!becomes(name, QStringLiteral("focus")))
+    const QString line = QStringLiteral("fileNameEdit");
+    if (!becomes(line, QStringLiteral("focus")))
         return false;
-    type(text);
-    const bool arrived = QTest::qWaitFor([&] { return property(name, QStringLiteral("text")) == text; }, testPatience);
+    type(fileName);
+    // The dialog may find the file in its list meanwhile, and show its name without the folder.
+    const auto text = [&] { return property(line, QStringLiteral("text")); };
+    const bool arrived
+        = QTest::qWaitFor([&] { return text() == fileName || text() == QFileInfo(fileName).fileName(); }, testPatience);
     if (!arrived)
-        qWarning("'%s' has '%s'.", qPrintable(name), qPrintable(property(name, QStringLiteral("text"))));
+        qWarning("The file dialog has '%s'.", qPrintable(text()));
     return arrived;
 }
 

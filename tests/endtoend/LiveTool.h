@@ -46,8 +46,8 @@ public:
     /// A key or chord as X names it, such as "ctrl+z" or "Return".
     void key(const QString& name);
     void type(const QString& text);
-    /// Waits until the line has the focus, types the text, and waits until the line shows it.
-    [[nodiscard]] bool typeInto(const QString& name, const QString& text);
+    /// Waits until the line of a file dialog has the focus, types the name, and waits until the dialog shows it.
+    [[nodiscard]] bool typeFileName(const QString& fileName);
     /// Writes a picture of the screen.
     void saveScreen(const QString& fileName);
     /// What the screen shows now.

@@ -36,7 +36,7 @@ private:
     void openFromTheMenu(const QString& name)
     {
         m_tool->key(QStringLiteral("ctrl+o"));
-        QVERIFY(m_tool->typeInto(QStringLiteral("fileNameEdit"), m_folder.filePath(name)));
+        QVERIFY(m_tool->typeFileName(m_folder.filePath(name)));
         m_tool->key(QStringLiteral("Return"));
     }
 
