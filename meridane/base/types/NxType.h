@@ -8,8 +8,8 @@ class VbName;
 
 /// A handle of a run-time class: a 32-bit index into the registry of classes. Cheap to copy and to compare.
 ///
-/// A class is registered once, after its parent, and keeps its index for the life of the process. All
-/// operations may be called on any thread.
+/// A class is registered once, after its parent, and keeps its index for the life of the process. All operations may be
+/// called on any thread.
 class NxType {
 public:
     /// Makes a new instance on the heap, with its defaults.
@@ -40,9 +40,9 @@ public:
     /// True when this type is `other` or derives from it, in constant time.
     [[nodiscard]] bool isDerivedFrom(const NxType& other) const noexcept;
 
-    /// Makes a new instance with its fields at their defaults: a pointer to its `NxTypedObject`, untyped. The caller
-    /// owns it (a node comes with no reference). With `overrideType` that type is made instead, if it derives from this
-    /// one. Null for an abstract or bad type.
+    /// Makes a new instance with its fields at their defaults. The result is an `NxTypedObject*`, converted to `void*`.
+    /// The caller owns it (a node comes with no reference). With `overrideType` that type is made instead, if it
+    /// derives from this one. Null for an abstract or bad type.
     [[nodiscard]] void* createInstance(NxType* overrideType) const;
 
     friend constexpr bool operator==(const NxType&, const NxType&) noexcept = default;

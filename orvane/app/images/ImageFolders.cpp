@@ -9,9 +9,9 @@ namespace {
 
 bool isInside(const QString& path, const QString& folder)
 {
-    if (folder.isEmpty() || path == folder)
-        return !folder.isEmpty();
-    return path.startsWith(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
+    if (folder.isEmpty())
+        return false;
+    return path == folder || path.startsWith(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
 }
 
 } // namespace

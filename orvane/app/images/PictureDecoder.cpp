@@ -19,7 +19,7 @@ constexpr std::size_t portionSize = std::size_t{1} << 20;
 PictureDecoder::PictureDecoder(const HelperOptions& options)
     : m_options(options)
 {
-    m_options.outputLimit = std::numeric_limits<std::size_t>::max(); // of all pictures; each has its own limit
+    m_options.outputLimit = std::numeric_limits<std::size_t>::max(); // each picture has a limit of its own
 }
 
 PictureDecoder::~PictureDecoder() = default;
@@ -29,7 +29,7 @@ void PictureDecoder::decode(std::unique_ptr<ImageFile> file)
     m_file = std::move(file);
     if (m_helper == nullptr)
         startHelper();
-    begin();
+    sendRequest();
 }
 
 void PictureDecoder::cancel()
@@ -39,7 +39,7 @@ void PictureDecoder::cancel()
     m_file.reset();
 }
 
-void PictureDecoder::rest()
+void PictureDecoder::endHelper()
 {
     if (m_helper == nullptr)
         return;
@@ -72,7 +72,7 @@ void PictureDecoder::dropHelper()
     m_helper.release()->deleteLater(); // it may be inside its own signal
 }
 
-void PictureDecoder::begin()
+void PictureDecoder::sendRequest()
 {
     m_reply = orvane::PictureReply();
     m_helper->write(orvane::pictureRequest(m_file->size()));
@@ -131,7 +131,7 @@ void PictureDecoder::takeFailure(const QString& reason)
     }
     m_file->rewind();
     startHelper();
-    begin();
+    sendRequest();
 }
 
 void PictureDecoder::fail(const QString& reason)

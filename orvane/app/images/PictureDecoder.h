@@ -12,10 +12,11 @@
 
 class ImageFile;
 
-/// Lets the import helper decode image files, one after the other: the tool itself never looks into one.
+/// Sends image files to the import helper, one after the other, and receives the decoded images. The tool itself never
+/// parses an image file.
 ///
-/// One process serves many files. When it dies over one that isn't its first, that file is tried once more with a new
-/// process, because what was before it may be the reason. Thread of the user interface only.
+/// One process decodes many files. When it fails at a file that isn't its first, that file is sent once more to a new
+/// process, because an earlier file may be the cause. Thread of the user interface only.
 class PictureDecoder : public QObject {
     Q_OBJECT
 
@@ -23,13 +24,12 @@ public:
     explicit PictureDecoder(const HelperOptions& options);
     ~PictureDecoder() override;
 
-    /// Begins with a file that is open. One of `decoded` and `failed` follows from the event loop; then the next file
-    /// may come.
+    /// Decodes a file that is open. `decoded` or `failed` follows from the event loop; until then, don't call it again.
     void decode(std::unique_ptr<ImageFile> file);
-    /// Gives the file up that is being decoded; nothing follows.
+    /// Stops decoding the file. No signal follows.
     void cancel();
-    /// Lets the process end, because no file follows for now.
-    void rest();
+    /// Ends the process when it has nothing left to do. The next file starts another one.
+    void endHelper();
 
     /// The image, after `decoded`.
     [[nodiscard]] NxImage takeImage() { return std::move(m_image); }
@@ -42,7 +42,7 @@ Q_SIGNALS:
 private:
     void startHelper();
     void dropHelper();
-    void begin();
+    void sendRequest();
     void send();
     void takeReply();
     void takeFailure(const QString& reason);
@@ -50,7 +50,7 @@ private:
 
     HelperOptions m_options;
     std::unique_ptr<HelperProcess> m_helper;
-    std::unique_ptr<ImageFile> m_file; // that is being decoded
+    std::unique_ptr<ImageFile> m_file; // the one being decoded
     orvane::PictureReply m_reply; // for it
     NxImage m_image;
     int m_served = 0; // files that the process has decoded or refused

@@ -44,7 +44,7 @@ void TextureFiles::setAllowedFolders(const QStringList& folders)
 void TextureFiles::clear()
 {
     m_decoder.cancel();
-    m_decoder.rest();
+    m_decoder.endHelper();
     m_isDecoding = false;
     m_announcement.stop();
     m_queue.clear();
@@ -100,7 +100,7 @@ void TextureFiles::goOn()
     if (m_isDecoding)
         return;
     if (m_queue.empty()) {
-        m_decoder.rest();
+        m_decoder.endHelper();
         return;
     }
     auto file = std::make_unique<ImageFile>(orvane::toQString(m_queue.front()), m_folders);

@@ -20,7 +20,7 @@ ViewDrawing::ViewDrawing()
 ViewDrawing::~ViewDrawing()
 {
     if (m_context != nullptr)
-        static_cast<void>(m_context->makeCurrent()); // what is in a context that is lost went with it
+        static_cast<void>(m_context->makeCurrent()); // fails if the context was lost; its objects are gone then
     m_drawing.reset();
     m_buffer.reset();
 }
@@ -31,7 +31,7 @@ bool ViewDrawing::start()
         return isStarted();
     if (NxPreferences::getBool("ORVANE_VIEW", 1) == 0) {
         m_problem = QCoreApplication::translate("ViewDrawing",
-            "The view is turned off by the preference ORVANE_VIEW. Remove it, or set it to 1, and start Orvane anew.");
+            "The view is turned off by the preference ORVANE_VIEW. Remove it, or set it to 1, and start Orvane again.");
         return false;
     }
     if (!makeContext())
@@ -69,7 +69,7 @@ void ViewDrawing::giveUp(const QString& reason)
 {
     m_problem = QCoreApplication::translate("ViewDrawing",
         "The scene can't be drawn here: %1. Install a driver with OpenGL 3.3, such as the packages libegl-mesa0 and "
-        "libgl1-mesa-dri, and start Orvane anew. Everything else works without it.")
+        "libgl1-mesa-dri, and start Orvane again. Everything else works without it.")
                     .arg(reason);
 }
 

@@ -24,7 +24,7 @@ class NxSceneDrawing;
 /// Draws the scene into images, in an OpenGL context of its own. `start` makes the context, which takes longer than the
 /// rest of the window's first picture.
 ///
-/// What is set before the start holds from then on. A context that gets lost is made again.
+/// Scene, style and selection can be set before the start. A context that gets lost is made again.
 class ViewDrawing {
 public:
     ViewDrawing();
@@ -40,10 +40,10 @@ public:
 
     /// Called once when the next picture would differ from the latest one.
     void setChangeHook(std::function<void()> hook);
-    /// Draws that scene from now on; null for none. Names of texture files count from the folder.
+    /// Draws that scene from now on; null for none. Names of texture files are relative to the folder.
     void setScene(NxGroup* scene, const QString& folder);
     void setFolder(const QString& folder) { m_textures.setFolder(folder); }
-    /// The images of the scene's textures, which come while the scene is shown.
+    /// The images of the scene's textures, which are loaded while the scene is shown.
     [[nodiscard]] TextureFiles& textures() noexcept { return m_textures; }
     /// Outlines the last of these nodes, each a child of the one before; none for nothing.
     void setSelectedPath(const std::vector<NxNode*>& nodes);
@@ -57,7 +57,7 @@ public:
     /// How many pictures were drawn.
     [[nodiscard]] int pictures() const noexcept { return m_pictures; }
 
-    /// Makes context and contents again, as after the graphics system dropped them.
+    /// Makes the context again with everything in it, as after the driver lost it.
     void restart();
 
 private:

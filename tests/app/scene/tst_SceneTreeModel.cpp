@@ -149,7 +149,7 @@ private Q_SLOTS:
         QVERIFY(!m_model->setData(m_model->index(0, 1), QStringLiteral("Mesh")));
     }
 
-    void findsANodeWhereverItStands()
+    void findsANodeAnywhereInTheScene()
     {
         NxNode* hand = m_group->getChild(1);
         const QModelIndex found = m_model->findNode(hand);
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QVERIFY(!m_model->findNode(nullptr).isValid());
     }
 
-    void findsANodeThatWasAddedAMomentAgo()
+    void findsANodeBeforeTheSensorsRun()
     {
         const NxRef<NxGroup> machine(new NxGroup);
         const NxRef<NxGroup> wheel(new NxGroup);
@@ -176,7 +176,7 @@ private Q_SLOTS:
         QCOMPARE(m_model->node(found), wheel.get());
     }
 
-    void findsNothingInAGraphOfSharedNodesInShortTime()
+    void searchesASharedNodeOnce()
     {
         // Each level holds the next one twice, so there are 2^60 ways down.
         NxRef<NxGroup> level(new NxGroup);

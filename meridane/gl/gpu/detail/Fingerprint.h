@@ -6,8 +6,7 @@
 
 namespace meridane {
 
-/// A hash of the bytes. Different bytes give different hashes but for a chance of one in 2^64; a list that is changed
-/// and changed back gives the same hash again.
+/// A hash of the bytes, the same in every call. Two different lists have the same hash with a probability of 2^-64.
 [[nodiscard]] std::uint64_t fingerprintOf(std::span<const std::byte> bytes) noexcept;
 
 } // namespace meridane
