@@ -6,14 +6,11 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <charconv>
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <system_error>
 
 namespace {
 
@@ -42,17 +39,6 @@ std::optional<std::string> find(const char* name)
             return entry->second;
     }
     return std::nullopt;
-}
-
-template <typename Number, typename... Format>
-std::optional<Number> parseWhole(std::string_view text, Format... format)
-{
-    Number number{};
-    const char* const end = text.data() + text.size();
-    const std::from_chars_result result = std::from_chars(text.data(), end, number, format...);
-    if (result.ec != std::errc() || result.ptr != end)
-        return std::nullopt;
-    return number;
 }
 
 bool isOneOf(std::string_view text, std::initializer_list<std::string_view> words)
@@ -106,23 +92,6 @@ int NxPreferences::getBool(const char* name, int defaultValue)
     if (value && isOneOf(*value, {"0", "false", "no", "off"}))
         return 0;
     return defaultValue;
-}
-
-int NxPreferences::getInt(const char* name, int defaultValue)
-{
-    const std::string value = find(name).value_or("");
-    if (!value.starts_with("0x") && !value.starts_with("0X"))
-        return parseWhole<int>(value, 10).value_or(defaultValue);
-    const std::string_view digits = std::string_view(value).substr(2);
-    if (digits.starts_with('-')) // which parsing would take as well
-        return defaultValue;
-    return parseWhole<int>(digits, 16).value_or(defaultValue);
-}
-
-float NxPreferences::getFloat(const char* name, float defaultValue)
-{
-    const float value = parseWhole<float>(find(name).value_or("")).value_or(defaultValue);
-    return std::isfinite(value) ? value : defaultValue;
 }
 
 VbString NxPreferences::getString(const char* name, const VbString& defaultValue)

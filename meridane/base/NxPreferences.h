@@ -13,10 +13,6 @@ public:
 
     /// 0 for `0`, `false`, `no` and `off`, 1 for `1`, `true`, `yes` and `on`, in upper or lower case.
     [[nodiscard]] static int getBool(const char* name, int defaultValue);
-    /// A 32-bit integer: decimal with or without a minus sign, or `0x` and hexadecimal digits.
-    [[nodiscard]] static int getInt(const char* name, int defaultValue);
-    /// A finite number with a decimal point, whatever the locale.
-    [[nodiscard]] static float getFloat(const char* name, float defaultValue);
     /// The value as it is, which may be empty.
     [[nodiscard]] static VbString getString(const char* name, const VbString& defaultValue);
 

@@ -13,9 +13,3 @@ void NxSensor::trigger()
     if (m_callback != nullptr)
         m_callback(m_data, this); // the sensor may be gone when this returns
 }
-
-void NxSensor::setCallback(NxSensorCallback callback, void* data)
-{
-    m_callback = callback;
-    m_data = data;
-}

@@ -29,11 +29,6 @@ public:
     /// Runs the callback now.
     virtual void trigger();
 
-    /// Replaces callback and data.
-    void setCallback(NxSensorCallback callback, void* data);
-    [[nodiscard]] NxSensorCallback getCallback() const { return m_callback; }
-    [[nodiscard]] void* getData() const { return m_data; }
-
 private:
     NxSensorCallback m_callback;
     void* m_data;

@@ -179,12 +179,10 @@ void OrvPluginsManager::changeProfile(OrvProfile* profile)
     const QScopedValueRollback isChanging(m_isChanging, true);
     deactivateExtensions();
     m_activeProfile = profile;
-    const QStringList missing = profile != nullptr ? profile->resolve(getExtensions()) : QStringList();
+    if (profile != nullptr)
+        profile->resolve(getExtensions());
     shareSettings();
     activateExtensions();
-    Q_EMIT activeProfileChanged(profile);
-    if (!missing.isEmpty())
-        Q_EMIT extensionsMissing(orvane::toQString(profile->getName()), missing);
     if (OrvServices* const services = OrvServices::getInstance(); services != nullptr && profile != nullptr)
         services->announceSelection();
 }

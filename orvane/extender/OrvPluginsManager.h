@@ -65,12 +65,6 @@ public:
     /// call during `unloadPlugins` is ignored.
     void setActiveProfile(OrvProfile* profile);
 
-Q_SIGNALS:
-    /// The active profile has changed; the selection is announced next. Null means that no profile is active.
-    void activeProfileChanged(OrvProfile* profile);
-    /// The new active profile names extensions that don't exist (see `OrvProfile::resolve`).
-    void extensionsMissing(const QString& profile, const QStringList& names);
-
 private:
     struct LoadedPlugin {
         OrvPlugin* plugin = nullptr;

@@ -36,12 +36,6 @@ void pushSetRowValueCommand(NxMField* field, int row)
     OrvServices::getInstance()->pushCommand(new OrvMFSetFieldValueCommand(field, row));
 }
 
-void writeFieldText(NxField* field, const VbString& text)
-{
-    field->set(text);
-    pushSetValueCommand(field);
-}
-
 void setFieldIgnored(NxField* field, bool ignored)
 {
     if (field == nullptr)

@@ -20,9 +20,6 @@ void pushSetRowCommand(NxMField* field, int row);
 /// The same for a row that was written as a whole from a dialog.
 void pushSetRowValueCommand(NxMField* field, int row);
 
-/// Takes the value from its text form; a text that the field refuses leaves it as it was. Then pushes the command.
-void writeFieldText(NxField* field, const VbString& text);
-
 /// Sets the ignored flag, then pushes the command. Does nothing without a field.
 void setFieldIgnored(NxField* field, bool ignored);
 

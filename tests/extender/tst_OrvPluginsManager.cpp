@@ -256,20 +256,6 @@ private Q_SLOTS:
         QCOMPARE(tool.manager.getActiveProfile(), tool.profile(u"All"_s));
     }
 
-    void whatIsMissingIsAnnouncedWhenTheProfileBecomesActive()
-    {
-        Tool tool;
-        tool.loadPlugins();
-        tool.addProfile(u"Odd"_s, {{u"Console"_s, true, {u"Vector"_s, u"Text"_s}}, {u"Chart"_s, true, {}}});
-        QSignalSpy missing(&tool.manager, &OrvPluginsManager::extensionsMissing);
-        tool.run(u"All"_s);
-        QCOMPARE(missing.size(), 0);
-        tool.run(u"Odd"_s);
-        QCOMPARE(missing.size(), 1);
-        QCOMPARE(missing.at(0).at(0).toString(), u"Odd"_s);
-        QCOMPARE(missing.at(0).at(1).toStringList(), words("Vector Chart"));
-    }
-
     void theSelectionIsAnnouncedAgainBehindTheActivation()
     {
         OrvServices services;
@@ -280,9 +266,6 @@ private Q_SLOTS:
         services.selectNode(light);
         services.selectField(&light->intensity);
         taken(tool.calls);
-        connect(&tool.manager, &OrvPluginsManager::activeProfileChanged, this, [&](const OrvProfile* profile) {
-            tool.calls.append(profile != nullptr ? orvane::toQString(profile->getName()) : u"none"_s);
-        });
         connect(&services, &OrvServices::selectedNodeChanged, this, [&](const NxFieldContainer* node) {
             QCOMPARE(node, light);
             tool.calls.append(u"node"_s);
@@ -292,8 +275,7 @@ private Q_SLOTS:
             tool.calls.append(u"field"_s);
         });
         tool.run(u"Quiet"_s);
-        QCOMPARE(
-            taken(tool.calls).mid(4), words("FieldDock.activate NodeDock.activate ToolBar.activate Quiet node field"));
+        QCOMPARE(taken(tool.calls).mid(4), words("FieldDock.activate NodeDock.activate ToolBar.activate node field"));
     }
 
     void noProfileStartsWhilePluginsAreUnloaded_data()

@@ -1,4 +1,5 @@
 #include "gl/DrawingBench.h"
+#include "gl/FloatMatrices.h"
 
 #include "meridane/gl/NxRayPick.h"
 #include "meridane/gl/geometry/MatrixMath.h"

@@ -37,6 +37,7 @@ bool choosePivot(Rows& rows, std::size_t column) noexcept
     return std::abs(rows[column][column]) > 0.0;
 }
 
+// Makes the column that of the identity: divides its row by the pivot and subtracts multiples of it from the others.
 void eliminate(Rows& rows, std::size_t column) noexcept
 {
     const double pivot = rows[column][column];
@@ -74,6 +75,7 @@ Matrix4d localTransformOf(const NxTransform& node) noexcept
     const std::array<VbVec3d, 3> rows
         = rotationRows(node.rotation.isIgnored() ? VbRotation() : node.rotation.getValue());
     Matrix4d matrix;
+    // What the node moves the origin to: point * rows + moved.
     VbVec3d moved = add(center, valueOf(node.translation, VbVec3f()));
     for (std::size_t row = 0; row < 3; ++row) {
         for (std::size_t column = 0; column < 3; ++column)
@@ -93,6 +95,7 @@ VbMatrix multiply(const VbMatrix& first, const VbMatrix& second) noexcept
 
 std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept
 {
+    // Gauss-Jordan elimination on the matrix and, beside it, the identity, which becomes the inverse.
     Rows rows{};
     for (std::size_t row = 0; row < 4; ++row) {
         for (std::size_t column = 0; column < 4; ++column)
@@ -113,19 +116,6 @@ std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept
         }
     }
     return result;
-}
-
-VbMatrix translationMatrix(const VbVec3f& distance) noexcept
-{
-    return narrowed(translationMatrix(VbVec3d(distance)));
-}
-
-VbMatrix scaleMatrix(const VbVec3f& factors) noexcept
-{
-    VbMatrix matrix;
-    for (std::size_t i = 0; i < 3; ++i)
-        matrix[i][i] = factors[i];
-    return matrix;
 }
 
 VbMatrix rotationMatrix(const VbRotation& rotation) noexcept
@@ -183,11 +173,6 @@ VbMatrix narrowed(const Matrix4d& matrix) noexcept
 VbVec3f narrowed(const VbVec3d& vector) noexcept
 {
     return narrow(vector[0], vector[1], vector[2]);
-}
-
-VbVec3f transformPoint(const VbVec3f& point, const VbMatrix& matrix) noexcept
-{
-    return narrowed(transformPoint(VbVec3d(point), Matrix4d(matrix)));
 }
 
 VbVec3f transformDirection(const VbVec3f& direction, const VbMatrix& matrix) noexcept

@@ -18,17 +18,14 @@ namespace meridane {
 [[nodiscard]] VbMatrix multiply(const VbMatrix& first, const VbMatrix& second) noexcept;
 /// Nothing for a matrix that can't be inverted, or whose inverse has elements that aren't finite.
 [[nodiscard]] std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept;
-[[nodiscard]] VbMatrix translationMatrix(const VbVec3f& distance) noexcept;
-[[nodiscard]] VbMatrix scaleMatrix(const VbVec3f& factors) noexcept;
 [[nodiscard]] VbMatrix rotationMatrix(const VbRotation& rotation) noexcept;
 
-/// The transformed point, divided by its fourth coordinate.
-[[nodiscard]] VbVec3f transformPoint(const VbVec3f& point, const VbMatrix& matrix) noexcept;
 /// Transforms a direction or distance, to which the translation doesn't apply.
 [[nodiscard]] VbVec3f transformDirection(const VbVec3f& direction, const VbMatrix& matrix) noexcept;
 
 [[nodiscard]] Matrix4d multiply(const Matrix4d& first, const Matrix4d& second) noexcept;
 [[nodiscard]] Matrix4d translationMatrix(const VbVec3d& distance) noexcept;
+/// The transformed point, divided by its fourth coordinate.
 [[nodiscard]] VbVec3d transformPoint(const VbVec3d& point, const Matrix4d& matrix) noexcept;
 [[nodiscard]] VbVec3f transformDirection(const VbVec3f& direction, const Matrix4d& matrix) noexcept;
 /// The matrix or vector rounded to floats.

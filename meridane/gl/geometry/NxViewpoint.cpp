@@ -108,11 +108,6 @@ NxViewpoint NxViewpoint::sensible() const
     return result;
 }
 
-VbMatrix NxViewpoint::viewMatrix() const
-{
-    return narrowed(multiply(translationMatrix(scaled(usablePosition(), -1.0)), viewRotation()));
-}
-
 VbMatrix NxViewpoint::viewRotation() const
 {
     VbMatrix turned = rotationMatrix(sensible().orientation);

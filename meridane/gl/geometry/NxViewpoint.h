@@ -37,10 +37,7 @@ public:
     /// The viewpoint of a camera node. The focal distance is the default; the caller may set it.
     [[nodiscard]] static NxViewpoint ofCamera(const NxCamera& camera, const meridane::Matrix4d& cameraToScene);
 
-    /// From the scene to the eye: x to the right, y upwards, z towards the viewer. It is inaccurate far from the
-    /// origin, where floats are coarse: see `viewRotation`.
-    [[nodiscard]] VbMatrix viewMatrix() const;
-    /// The same for points relative to the position.
+    /// From points relative to the position to the eye: x to the right, y upwards, z towards the viewer.
     [[nodiscard]] VbMatrix viewRotation() const;
     /// The position, or the default if it makes no sense.
     [[nodiscard]] VbVec3d usablePosition() const { return sensible().position; }

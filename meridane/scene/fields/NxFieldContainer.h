@@ -24,8 +24,6 @@ public:
     void ref() const noexcept { ++m_references; }
     /// Releases a reference; the last one deletes the container.
     void unref() const;
-    /// Releases a reference without deleting, to return a container that has no owner yet.
-    void unrefNoDelete() const noexcept { --m_references; }
     [[nodiscard]] int getRefCount() const noexcept { return m_references; }
 
     /// The node's own name, which need not be unique; empty for none.

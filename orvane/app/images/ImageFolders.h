@@ -9,16 +9,15 @@ class ImageFolders {
 public:
     /// Relative names are relative to this folder; empty for a scene without a file.
     void setSceneFolder(const QString& folder);
-    [[nodiscard]] const QString& sceneFolder() const noexcept { return m_sceneFolder; }
     void setAllowedFolders(const QStringList& folders) { m_allowed = folders; }
 
     /// The absolute path, without "." and "..", of a file that a scene names; empty for a relative name when the scene
     /// has no folder. Doesn't look at the file system.
     [[nodiscard]] QString pathOf(const QString& fileName) const;
-    /// Whether a file may be looked at. Takes a result of `pathOf`, and doesn't look at the file itself, because a look
-    /// at some files has effects.
+    /// Whether a file may be examined. Takes a result of `pathOf`. Doesn't access the file, since accessing some files
+    /// has effects.
     [[nodiscard]] bool contain(const QString& path) const;
-    /// Whether a file may be read, behind all symbolic links. `path` is what `contain` was asked for.
+    /// Whether a file may be read. `realPath` is the file behind all symbolic links, `path` the argument of `contain`.
     [[nodiscard]] bool containReal(const QString& realPath, const QString& path) const;
 
 private:

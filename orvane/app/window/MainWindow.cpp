@@ -102,11 +102,6 @@ void MainWindow::openFile(const QString& fileName, const FileFlow::Opened& opene
     m_files->open(fileName, opened);
 }
 
-void MainWindow::saveTo(const QString& fileName)
-{
-    m_files->saveTo(fileName);
-}
-
 orvane::Result<> MainWindow::selectPath(const QString& path)
 {
     if (!document().isOpen())
@@ -138,11 +133,6 @@ void MainWindow::showError(const QString& message)
 void MainWindow::showWarning(const QString& message)
 {
     m_messages->showMessage(MessageBar::Severity::Warning, message);
-}
-
-void MainWindow::showInformation(const QString& message)
-{
-    m_messages->showMessage(MessageBar::Severity::Information, message);
 }
 
 void MainWindow::buildCentralWidget()

@@ -40,8 +40,6 @@ public:
     /// once, unless the window is closed first: with success when the scene of the file has just become the open one,
     /// else with the reason why it hasn't. `settled` follows.
     void openFile(const QString& fileName, const std::function<void(const orvane::Result<>&)>& opened = {});
-    /// Saves or exports to that file, as its extension says; `settled` follows.
-    void saveTo(const QString& fileName);
     /// Selects what a path such as `/robot/arm.rotation` leads to, in tree and table. Fails when it leads nowhere.
     orvane::Result<> selectPath(const QString& path);
     /// Starts the view's drawing now instead of after the first paint, for a picture of the window.
@@ -51,7 +49,6 @@ public:
     /// Shows a message to the user.
     void showError(const QString& message);
     void showWarning(const QString& message);
-    void showInformation(const QString& message);
 
 Q_SIGNALS:
     /// Work on a file finished, failed or was cancelled, and the window shows its result. Cancelled work is no failure.

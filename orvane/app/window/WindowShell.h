@@ -32,9 +32,8 @@ public:
 
     /// The extensions that are announced, in the order in which they were.
     [[nodiscard]] const QList<OrvExtension*>& announcedExtensions() const noexcept { return m_announced; }
-    /// The docks and tool bars that extensions have added.
+    /// The docks that extensions have added.
     [[nodiscard]] const QList<QDockWidget*>& docks() const noexcept { return m_docks; }
-    [[nodiscard]] const QList<QToolBar*>& toolBars() const noexcept { return m_toolBars; }
 
     bool eventFilter(QObject* object, QEvent* event) override;
 

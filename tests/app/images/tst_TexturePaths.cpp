@@ -71,7 +71,7 @@ private:
     void saveTo(const char* name)
     {
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
-        m_window->saveTo(filePath(name));
+        m_window->findChild<FileFlow*>()->saveTo(filePath(name));
         QVERIFY(!settled.isEmpty() || settled.wait(testPatience));
         QCOMPARE(settled.front().front().value<orvane::Result<>>().error(), QString());
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/view/ViewScenes.h"
+#include "gl/FloatMatrices.h"
 
 #include "orvane/app/view/SceneView.h"
 
@@ -57,7 +58,7 @@ protected:
     {
         const float aspect = static_cast<float>(m_view->width()) / static_cast<float>(m_view->height());
         const VbMatrix matrix = meridane::multiply(
-            m_view->viewpoint().viewMatrix(), m_view->viewpoint().projectionMatrix(aspect, 0.1F, 1000));
+            meridane::viewMatrix(m_view->viewpoint()), m_view->viewpoint().projectionMatrix(aspect, 0.1F, 1000));
         const VbVec3f place = meridane::transformPoint(VbVec3f(x, y, 0), matrix);
         return {qRound((place[0] + 1) / 2 * static_cast<float>(m_view->width())),
             qRound((1 - place[1]) / 2 * static_cast<float>(m_view->height()))};

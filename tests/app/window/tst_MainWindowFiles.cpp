@@ -154,7 +154,7 @@ private Q_SLOTS:
         renameRobot("machine");
         const QString fileName = filePath("missing/robot.mrd");
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
-        m_window->saveTo(fileName);
+        m_window->findChild<FileFlow*>()->saveTo(fileName);
         QTRY_COMPARE(settled.size(), 1);
         QVERIFY(messages().join(u'\n').contains(fileName));
         QVERIFY(m_window->isWindowModified());
@@ -166,7 +166,7 @@ private Q_SLOTS:
         open(m_robot);
         clickRow(tree(), tree()->model()->index(0, 0));
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
-        m_window->saveTo(filePath("copy.mrd"));
+        m_window->findChild<FileFlow*>()->saveTo(filePath("copy.mrd"));
         QTest::keyClick(tree(), Qt::Key_Delete);
         QCOMPARE(m_window->document().scene()->getNumChildren(), 2);
         QTRY_COMPARE(settled.size(), 1);

@@ -1,3 +1,5 @@
+#include "gl/FloatMatrices.h"
+
 #include "meridane/gl/geometry/MatrixMath.h"
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxGroup.h"

@@ -1,3 +1,5 @@
+#include "gl/FloatMatrices.h"
+
 #include "meridane/gl/geometry/MatrixMath.h"
 #include "meridane/gl/geometry/NxViewpoint.h"
 #include "meridane/scene/fields/NxRef.h"
@@ -25,7 +27,7 @@ bool isNear(const VbVec3d& left, const VbVec3d& right, double tolerance = 1e-4)
 /// The place of a point of the scene in the picture, from (0, 0) to (1, 1).
 VbVec2f placeOf(const VbVec3d& point, const NxViewpoint& viewpoint)
 {
-    const VbMatrix matrix = multiply(viewpoint.viewMatrix(), viewpoint.projectionMatrix(aspect, 0.1F, 100));
+    const VbMatrix matrix = multiply(viewMatrix(viewpoint), viewpoint.projectionMatrix(aspect, 0.1F, 100));
     const VbVec3f clipped = transformPoint(narrowed(point), matrix);
     return {(clipped[0] + 1) / 2, (clipped[1] + 1) / 2};
 }
@@ -39,7 +41,7 @@ bool isFiniteAll(const NxViewpoint& viewpoint)
 {
     bool finite = isFinite(viewpoint.focalPoint()) && isFinite(viewpoint.rightAxis()) && isFinite(viewpoint.upAxis())
         && isFinite(viewpoint.rayAt(VbVec2f(0.1F, 0.9F), aspect).direction);
-    for (const VbMatrix& matrix : {viewpoint.viewMatrix(), viewpoint.projectionMatrix(aspect, 1, 10)}) {
+    for (const VbMatrix& matrix : {viewMatrix(viewpoint), viewpoint.projectionMatrix(aspect, 1, 10)}) {
         for (std::size_t i = 0; i < 16; ++i)
             finite = finite && std::isfinite(matrix[i / 4][i % 4]);
     }
@@ -72,7 +74,7 @@ private Q_SLOTS:
         const NxViewpoint viewpoint;
         QCOMPARE(viewpoint.viewDirection(), VbVec3f(0, 0, -1));
         QCOMPARE(viewpoint.focalPoint(), VbVec3d());
-        QVERIFY(isNear(transformPoint(VbVec3f(1, 2, 0), viewpoint.viewMatrix()), VbVec3f(1, 2, -5)));
+        QVERIFY(isNear(transformPoint(VbVec3f(1, 2, 0), viewMatrix(viewpoint)), VbVec3f(1, 2, -5)));
     }
 
     void clipsAtTheGivenDistances_data() { addProjections(); }

@@ -50,21 +50,6 @@ private Q_SLOTS:
         QCOMPARE(field.getValue(), 2.0F);
     }
 
-    void writtenTextIsPushed()
-    {
-        orvane::writeFieldText(&m_tool->node->sfFloat, VbString("2.5"));
-        QCOMPARE(m_tool->node->sfFloat.getValue(), 2.5F);
-        QCOMPARE(m_tool->services.pushed, 1);
-    }
-
-    void refusedTextIsPushedAllTheSame()
-    {
-        m_tool->node->sfFloat.setValue(3);
-        orvane::writeFieldText(&m_tool->node->sfFloat, VbString("three"));
-        QCOMPARE(m_tool->node->sfFloat.getValue(), 3.0F);
-        QCOMPARE(m_tool->services.pushed, 1);
-    }
-
     void ignoredFlagCanBeUndone()
     {
         NxField& field = m_tool->node->mfFloat;

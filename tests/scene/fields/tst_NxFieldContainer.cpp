@@ -41,19 +41,6 @@ private Q_SLOTS:
         QVERIFY(dead);
     }
 
-    void aReferenceCanBeGivenUpWithoutDeleting()
-    {
-        bool dead = false;
-        const auto* const node = new MortalNode(dead);
-        node->ref();
-        node->unrefNoDelete();
-        QCOMPARE(node->getRefCount(), 0);
-        QVERIFY(!dead);
-        node->ref();
-        node->unref();
-        QVERIFY(dead);
-    }
-
     void aNewNodeHasNeitherNameNorReference()
     {
         const auto* const node = new ProbeNode;

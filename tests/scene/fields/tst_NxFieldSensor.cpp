@@ -221,17 +221,12 @@ private Q_SLOTS:
     {
         NxSFFloat field(nullptr, "field");
         int calls = 0;
-        auto* const sensor = new NxFieldSensor(nullptr, nullptr);
-        struct Data {
-            NxSensor* sensor;
-            int* calls;
-        } data{sensor, &calls};
-        sensor->setCallback(
+        auto* const sensor = new NxFieldSensor(
             [](void* given, NxSensor* self) {
-                ++*static_cast<Data*>(given)->calls;
+                ++*static_cast<int*>(given);
                 delete self;
             },
-            &data);
+            &calls);
         sensor->attach(&field);
         field.setValue(1);
         process();
