@@ -1,7 +1,7 @@
 #include "orvane/app/command_line/DifferenceListing.h"
 
-#include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/compare/DifferenceText.h"
 #include "orvane/app/fields/FieldText.h"
 
 #include "meridane/scene/fields/NxField.h"
@@ -15,20 +15,13 @@ namespace {
 using Kind = NxSceneDifference::Kind;
 using Side = NxSceneDifferences::Side;
 
-constexpr std::size_t shownLength = 200; // bytes
-
-QString kindText(Kind kind)
-{
-    return QLatin1String(NxSceneDifferences::kindName(kind));
-}
-
 QJsonObject countKinds(const NxSceneDifferences& differences)
 {
     QJsonObject counts;
     for (int kind = 0; kind <= static_cast<int>(Kind::Ignored); ++kind)
-        counts[kindText(static_cast<Kind>(kind))] = 0;
+        counts[orvane::kindText(static_cast<Kind>(kind))] = 0;
     for (const NxSceneDifference& difference : differences.list()) {
-        QJsonValueRef count = counts[kindText(difference.kind)];
+        QJsonValueRef count = counts[orvane::kindText(difference.kind)];
         count = count.toInteger() + 1;
     }
     return counts;
@@ -55,7 +48,7 @@ QJsonValue jsonValue(const NxSceneDifferences& differences, const NxSceneDiffere
 QJsonObject jsonObject(const NxSceneDifferences& differences, const NxSceneDifference& difference)
 {
     const NxComparedNode& node = differences.node(difference);
-    QJsonObject object{{QStringLiteral("kind"), kindText(difference.kind)},
+    QJsonObject object{{QStringLiteral("kind"), orvane::kindText(difference.kind)},
         {QStringLiteral("path"), orvane::toQString(differences.path(difference))},
         {QStringLiteral("old"), jsonValue(differences, difference, Side::Left)},
         {QStringLiteral("new"), jsonValue(differences, difference, Side::Right)}};
@@ -84,12 +77,7 @@ void DifferenceListing::print() const
     for (const NxSceneDifference& difference : m_differences.list()) {
         if (m_output.status() != QTextStream::Ok)
             return;
-        const std::string field = m_differences.fieldName(difference);
-        const std::string path = m_differences.path(difference) + (field.empty() ? field : '.' + field);
-        m_output << kindText(difference.kind) << '\t' << orvane::oneLine(orvane::toQString(path));
-        for (const Side side : {Side::Left, Side::Right})
-            m_output << '\t' << orvane::oneLine(orvane::toQString(m_differences.text(difference, side, shownLength)));
-        m_output << '\n';
+        m_output << orvane::differenceLine(m_differences, difference) << '\n';
     }
 }
 

@@ -46,6 +46,13 @@ QFileDialog* makeImportDialog(QWidget* window, const SceneDocument& document)
     return dialog;
 }
 
+QFileDialog* makeCompareDialog(QWidget* window, const SceneDocument& document)
+{
+    QFileDialog* dialog = makeDialog(window, "compareDialog", translated("Compare With"), openFilters(), document);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    return dialog;
+}
+
 QFileDialog* makeSaveDialog(QWidget* window, const SceneDocument& document)
 {
     QFileDialog* dialog = makeDialog(window, "saveDialog", translated("Save Scene"), saveFilters(), document);

@@ -10,6 +10,7 @@ namespace orvane {
 [[nodiscard]] QFileDialog* makeOpenDialog(QWidget* window, const SceneDocument& document);
 [[nodiscard]] QFileDialog* makeImportDialog(QWidget* window, const SceneDocument& document);
 [[nodiscard]] QFileDialog* makeSaveDialog(QWidget* window, const SceneDocument& document);
+[[nodiscard]] QFileDialog* makeCompareDialog(QWidget* window, const SceneDocument& document);
 [[nodiscard]] QFileDialog* makeExportDialog(QWidget* window, const SceneDocument& document);
 
 } // namespace orvane

@@ -69,6 +69,12 @@ void FileFlow::import(const QString& fileName)
         Kind::Add, [this, fileName] { startAdd(fileName); }, fileName);
 }
 
+void FileFlow::compareWith(const QString& fileName)
+{
+    request(
+        Kind::Compare, [this, fileName] { startCompare(fileName); }, fileName);
+}
+
 void FileFlow::save()
 {
     request(Kind::Save, [this] { saveThen({}); });
@@ -126,6 +132,17 @@ void FileFlow::chooseFileToExport()
     });
 }
 
+void FileFlow::chooseFileToCompare()
+{
+    request(Kind::Compare, [this] {
+        if (!m_session.document().isOpen())
+            return;
+        QFileDialog* dialog = orvane::makeCompareDialog(m_window, m_session.document());
+        connect(dialog, &QFileDialog::fileSelected, this, &FileFlow::startCompare);
+        m_work.open(dialog);
+    });
+}
+
 void FileFlow::leaveForQuit(const Action& proceed)
 {
     requestForAnyScene(Kind::Quit, [this, proceed] { leave({proceed}); });
@@ -174,12 +191,8 @@ void FileFlow::startOpen(const QString& fileName, const Opened& opened)
 
 void FileFlow::startAdd(const QString& fileName)
 {
-    if (const QString opening = m_work.fileBeingOpened(); !opening.isEmpty()) {
-        // It would be lost with the present scene, and the user hasn't seen the next one yet.
-        m_work.reportGivenUp(
-            {FileRequest::name(Kind::Add, fileName)}, tr("%1 is being opened.").arg(QFileInfo(opening).fileName()));
+    if (refusesBehindOpen(Kind::Add, fileName))
         return;
-    }
     if (!m_session.document().isOpen()) {
         startOpen(fileName, {});
         return;
@@ -190,6 +203,32 @@ void FileFlow::startAdd(const QString& fileName)
                 forgetIfMissing(fileName);
                 loseOpen({}, reason, loss);
             }});
+}
+
+void FileFlow::startCompare(const QString& fileName)
+{
+    if (!m_session.document().isOpen() || refusesBehindOpen(Kind::Compare, fileName))
+        return;
+    m_work.read(Kind::Compare, m_jobMakers.load(fileName),
+        {[this, fileName](const NxRef<NxGroup>& other) {
+             Q_EMIT readToCompare(other, fileName);
+             Q_EMIT ended({});
+         },
+            [this, fileName](const QString& reason, Loss loss) {
+                forgetIfMissing(fileName);
+                loseOpen({}, reason, loss);
+            }});
+}
+
+// What comes of it would be lost with the present scene, and the user hasn't seen the next one yet.
+bool FileFlow::refusesBehindOpen(Kind kind, const QString& fileName)
+{
+    const QString opening = m_work.fileBeingOpened();
+    if (opening.isEmpty())
+        return false;
+    m_work.reportGivenUp(
+        {FileRequest::name(kind, fileName)}, tr("%1 is being opened.").arg(QFileInfo(opening).fileName()));
+    return true;
 }
 
 void FileFlow::takeScene(const NxRef<NxGroup>& scene, const QString& fileName, const Opened& opened)

@@ -51,6 +51,8 @@ public:
     /// Adds the content of a file to the open scene, in a group of the file's name, as one step of the history; opens
     /// it when no scene is open.
     void import(const QString& fileName);
+    /// Reads a file to compare the open scene with it; `readToCompare` follows. Does nothing when no scene is open.
+    void compareWith(const QString& fileName);
     /// Saves to the scene's own file, or asks for one.
     void save();
     void saveAs();
@@ -61,6 +63,7 @@ public:
     void chooseFileToOpen();
     void chooseFileToImport();
     void chooseFileToExport();
+    void chooseFileToCompare();
 
     /// Goes on with `proceed` once the window may be closed: asks about changes, and waits for a scene that is being
     /// written. Doesn't go on when the user cancels.
@@ -69,6 +72,8 @@ public:
     void abandon();
 
 Q_SIGNALS:
+    /// The open scene is to be compared with the scene of that file.
+    void readToCompare(const NxRef<NxGroup>& other, const QString& fileName);
     /// A job finished, failed, or was given up, which is no failure.
     void ended(const orvane::Result<>& result);
 
@@ -83,6 +88,8 @@ private:
     void leave(const Next& next);
     void startOpen(const QString& fileName, const Opened& opened);
     void startAdd(const QString& fileName);
+    void startCompare(const QString& fileName);
+    [[nodiscard]] bool refusesBehindOpen(Kind kind, const QString& fileName);
     void takeScene(const NxRef<NxGroup>& scene, const QString& fileName, const Opened& opened);
     void addToScene(const NxRef<NxGroup>& content, const QString& fileName);
     void endOpen(const Opened& opened, const orvane::Result<>& result);

@@ -46,6 +46,9 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     m_export = addAction(tr("&Export…"), "fileExport");
     m_export->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
     connect(m_export, &QAction::triggered, &flow, &FileFlow::chooseFileToExport);
+    m_compare = addAction(tr("Compare &With…"), "fileCompare");
+    m_compare->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
+    connect(m_compare, &QAction::triggered, &flow, &FileFlow::chooseFileToCompare);
     m_menu->addSeparator();
     m_close = addAction(tr("&Close"), "fileClose");
     m_close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
@@ -94,6 +97,6 @@ void FileMenu::fillRecentMenu()
 
 void FileMenu::updateActions()
 {
-    for (QAction* action : {m_save, m_saveAs, m_export, m_close})
+    for (QAction* action : {m_save, m_saveAs, m_export, m_compare, m_close})
         action->setEnabled(m_document.isOpen());
 }

@@ -35,5 +35,6 @@ private:
     QAction* m_save;
     QAction* m_saveAs;
     QAction* m_export;
+    QAction* m_compare;
     QAction* m_close;
 };

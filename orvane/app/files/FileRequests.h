@@ -9,7 +9,7 @@
 
 /// Something that the user asked for in the File menu or its like.
 struct FileRequest {
-    enum class Kind { New, Open, Add, Save, SaveAs, Export, Close, Quit };
+    enum class Kind { New, Open, Add, Compare, Save, SaveAs, Export, Close, Quit };
     /// For a request that any scene will do for.
     static constexpr int anyScene = 0;
 

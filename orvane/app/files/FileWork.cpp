@@ -21,6 +21,18 @@ namespace {
 const QString readingTopic = QStringLiteral("reading");
 const QString writingTopic = QStringLiteral("writing");
 
+QString readingText(FileRequest::Kind kind)
+{
+    switch (kind) {
+    case FileRequest::Kind::Add:
+        return FileWork::tr("Adding %1");
+    case FileRequest::Kind::Compare:
+        return FileWork::tr("Reading %1 to compare it");
+    default:
+        return FileWork::tr("Opening %1");
+    }
+}
+
 QString shortName(const QString& fileName)
 {
     return QFileInfo(fileName).fileName();
@@ -80,8 +92,11 @@ bool FileWork::isHeld()
 
 bool FileWork::mayRun(const FileRequest& request) const
 {
-    // Models are added one after the other.
-    return request.kind != Kind::Add || !m_reading || m_reading->kind != Kind::Add;
+    // Models are added one after the other, and a comparison is with the scene as it is with them.
+    const bool waits = request.kind == Kind::Add || request.kind == Kind::Compare;
+    const bool isAdding = m_reading && m_reading->kind == Kind::Add;
+    const bool isComparing = m_reading && m_reading->kind == Kind::Compare;
+    return !waits || !(isAdding || (isComparing && request.kind == Kind::Add));
 }
 
 void FileWork::goOn()
@@ -111,7 +126,7 @@ void FileWork::goOnLater()
 void FileWork::read(Kind kind, std::unique_ptr<SceneJob> job, const Reader& reader)
 {
     const QString name = shortName(job->fileName());
-    stopReading(tr("%1 is opened instead.").arg(name));
+    stopReading((kind == Kind::Compare ? tr("%1 is compared instead.") : tr("%1 is opened instead.")).arg(name));
     SceneJob* running = job.get();
     m_reading.emplace(Reading{kind, job->fileName(), reader, std::move(job), {}});
     connect(running, &FileJob::finished, this, [this, running] {
@@ -126,7 +141,7 @@ void FileWork::read(Kind kind, std::unique_ptr<SceneJob> job, const Reader& read
     });
     connect(running, &FileJob::cancelled, this,
         [this] { loseReading(tr("Opening %1 was cancelled.").arg(m_reading->fileName), Loss::Stopped); });
-    m_jobBar.watch(running, kind == Kind::Add ? tr("Adding %1").arg(name) : tr("Opening %1").arg(name));
+    m_jobBar.watch(running, readingText(kind).arg(name));
     running->start();
 }
 
@@ -203,7 +218,7 @@ void FileWork::endWriting(WritingEnd end, const QString& error)
 void FileWork::dropOtherScenes(int openScene)
 {
     const QString reason = tr("The scene was closed.");
-    if (m_reading && m_reading->kind == Kind::Add)
+    if (m_reading && m_reading->kind != Kind::Open)
         stopReading(reason);
     reportGivenUp(m_waiting.dropOtherScenes(openScene, reason), reason);
 }

@@ -57,7 +57,7 @@ public:
     /// Opens a dialog without blocking.
     void open(QDialog* dialog);
 
-    /// Starts to read a file, to open or to add it. A file that is still read is given up.
+    /// Starts to read a file, to open it, to add it or to compare with it. A file that is still read is given up.
     void read(Kind kind, std::unique_ptr<SceneJob> job, const Reader& reader);
     /// The file that is read to be opened, also while it waits to be taken over; empty if there is none.
     [[nodiscard]] QString fileBeingOpened() const;

@@ -20,6 +20,7 @@
 #include "orvane/app/view/ViewActions.h"
 #include "orvane/app/view/ViewLink.h"
 #include "orvane/app/view/ViewMenu.h"
+#include "orvane/app/window/ComparisonDock.h"
 #include "orvane/app/window/EditMenu.h"
 #include "orvane/app/window/HelpMenu.h"
 #include "orvane/app/window/SelectionLink.h"
@@ -114,6 +115,13 @@ orvane::Result<> MainWindow::selectPath(const QString& path)
     return {};
 }
 
+void MainWindow::compareWith(const NxRef<NxGroup>& other, const QString& fileName)
+{
+    if (m_comparison == nullptr)
+        m_comparison = new ComparisonDock(m_session, *m_messages, *m_jobBar, m_tree, this);
+    m_comparison->compare(other, fileName);
+}
+
 void MainWindow::startView()
 {
     if (m_view->isVisible())
@@ -173,6 +181,7 @@ void MainWindow::buildMenus()
 {
     m_files = new FileFlow(m_session, *m_recent, *m_messages, *m_jobBar, this);
     connect(m_files, &FileFlow::ended, this, &MainWindow::reportSettled, Qt::QueuedConnection);
+    connect(m_files, &FileFlow::readToCompare, this, &MainWindow::compareWith);
     m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
     auto* editMenu = new EditMenu(this, m_session, m_tree);
     m_view->addAction(editMenu->deleteAction());

@@ -2,11 +2,15 @@
 
 #include "orvane/app/base/Result.h"
 
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxGroup.h"
+
 #include <QMainWindow>
 
 #include <functional>
 #include <memory>
 
+class ComparisonDock;
 class ErrorRelay;
 class FieldPanel;
 class FileFlow;
@@ -42,6 +46,9 @@ public:
     void openFile(const QString& fileName, const std::function<void(const orvane::Result<>&)>& opened = {});
     /// Selects what a path such as `/robot/arm.rotation` leads to, in tree and table. Fails when it leads nowhere.
     orvane::Result<> selectPath(const QString& path);
+    /// Compares the open scene with another, which the user knows as the file of that name, and shows the differences
+    /// in a dock. Returns at once; does nothing if no scene is open.
+    void compareWith(const NxRef<NxGroup>& other, const QString& fileName);
     /// Starts the view's drawing now instead of after the first paint, for a picture of the window.
     void startView();
     /// Whether images of textures are still being loaded for the view.
@@ -86,6 +93,7 @@ private:
     FieldPanel* m_fields;
     SceneTreePanel* m_tree;
     JobBar* m_jobBar;
+    ComparisonDock* m_comparison = nullptr; // made for the first comparison
     FileFlow* m_files = nullptr;
     FileMenu* m_fileMenu = nullptr;
     bool m_layoutRestored = false;

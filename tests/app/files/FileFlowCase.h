@@ -47,6 +47,9 @@ protected:
         QVERIFY(QTest::qWaitForWindowActive(m_window.get(), testPatience));
         document().open(AppScenes::read("#mrd 1.0\nGroup \"old\" {}\n"), path("old.mrd"));
         connect(&document(), &SceneDocument::sceneChanged, m_window.get(), [this] { note("open ", sceneName()); });
+        connect(m_flow, &FileFlow::readToCompare, m_window.get(), [this](const NxRef<NxGroup>& other) {
+            note("compare ", sceneName() + QStringLiteral(" with ") + HeldJobs::nameOf(other.get()));
+        });
     }
 
     /// Closes everything, which must leave nothing behind.
@@ -62,8 +65,8 @@ protected:
     /// The name of a kind in rows.
     static const char* name(Kind kind)
     {
-        static constexpr std::array<const char*, 8> names{
-            "new", "open", "add", "save", "save as", "export", "close", "quit"};
+        static constexpr std::array<const char*, 9> names{
+            "new", "open", "add", "compare", "save", "save as", "export", "close", "quit"};
         return names.at(static_cast<std::size_t>(kind));
     }
 
@@ -77,6 +80,8 @@ protected:
             return m_flow->open(path(file));
         case Kind::Add:
             return m_flow->import(path(file));
+        case Kind::Compare:
+            return m_flow->compareWith(path(file));
         case Kind::Save:
             return m_flow->save();
         case Kind::SaveAs:

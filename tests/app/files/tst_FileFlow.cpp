@@ -30,6 +30,7 @@ private Q_SLOTS:
         row(Kind::Open, Kind::Open,
             "read a.mrd; read b.mrd; open [b]; Not done: opening a.mrd. b.mrd is opened instead.");
         row(Kind::Open, Kind::Add, "read a.mrd; open [a]; Not done: adding b.mrd. a.mrd is being opened.");
+        row(Kind::Open, Kind::Compare, "read a.mrd; open [a]; Not done: comparing with b.mrd. a.mrd is being opened.");
         row(Kind::Open, Kind::Save, "read a.mrd; write [old] to old.mrd; open [a]");
         row(Kind::Open, Kind::SaveAs, "read a.mrd; write [old] to chosen.mrd; open [a]");
         row(Kind::Open, Kind::Export, "read a.mrd; write [old] to out.glb; open [a]; Exported to out.glb.");
@@ -40,6 +41,7 @@ private Q_SLOTS:
         row(Kind::Add, Kind::Open,
             "read a.mrd; read b.mrd; open [b]; Not done: adding a.mrd. b.mrd is opened instead.");
         row(Kind::Add, Kind::Add, "read a.mrd; read b.mrd; now [old+a+b]");
+        row(Kind::Add, Kind::Compare, "read a.mrd; read b.mrd; compare [old+a] with [b]");
         row(Kind::Add, Kind::Save, "read a.mrd; write [old] to old.mrd; now [old+a]");
         row(Kind::Add, Kind::SaveAs, "read a.mrd; write [old] to chosen.mrd; now [old+a]");
         row(Kind::Add, Kind::Export, "read a.mrd; write [old] to out.glb; now [old+a]; Exported to out.glb.");
@@ -47,11 +49,28 @@ private Q_SLOTS:
         row(Kind::Add, Kind::New, "read a.mrd; open []; Not done: adding a.mrd. A new scene was made instead.");
         row(Kind::Add, Kind::Quit, "read a.mrd; quit; now [old]");
 
+        row(Kind::Compare, Kind::Open,
+            "read a.mrd; read b.mrd; open [b]; Not done: comparing with a.mrd. b.mrd is opened instead.");
+        row(Kind::Compare, Kind::Add, "read a.mrd; compare [old] with [a]; read b.mrd; now [old+b]");
+        row(Kind::Compare, Kind::Compare,
+            "read a.mrd; read b.mrd; compare [old] with [b]; "
+            "Not done: comparing with a.mrd. b.mrd is compared instead.");
+        row(Kind::Compare, Kind::Save, "read a.mrd; write [old] to old.mrd; compare [old] with [a]");
+        row(Kind::Compare, Kind::SaveAs, "read a.mrd; write [old] to chosen.mrd; compare [old] with [a]");
+        row(Kind::Compare, Kind::Export,
+            "read a.mrd; write [old] to out.glb; compare [old] with [a]; Exported to out.glb.");
+        row(Kind::Compare, Kind::Close,
+            "read a.mrd; open nothing; Not done: comparing with a.mrd. The scene was closed.");
+        row(Kind::Compare, Kind::New,
+            "read a.mrd; open []; Not done: comparing with a.mrd. A new scene was made instead.");
+        row(Kind::Compare, Kind::Quit, "read a.mrd; quit; now [old]");
+
         for (const Kind job : {Kind::Save, Kind::Export}) {
             const QByteArray writes = job == Kind::Save ? "write [old] to old.mrd" : "write [old] to out.glb";
             const QByteArray exported = job == Kind::Export ? "; Exported to out.glb." : "";
             row(job, Kind::Open, writes + "; read b.mrd; open [b]" + exported);
             row(job, Kind::Add, writes + "; read b.mrd; now [old+b]" + exported);
+            row(job, Kind::Compare, writes + "; read b.mrd; compare [old] with [b]" + exported);
             row(job, Kind::Save, writes + "; write [old] to old.mrd");
             row(job, Kind::SaveAs, writes + "; write [old] to chosen.mrd");
             row(job, Kind::Export, writes + "; write [old] to out.glb; Exported to out.glb.");
@@ -128,6 +147,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("postedErrors");
         QTest::newRow("open") << Kind::Open << 1;
         QTest::newRow("add") << Kind::Add << 1;
+        QTest::newRow("compare") << Kind::Compare << 1;
         QTest::newRow("save") << Kind::Save << 0; // no error of reading
         QTest::newRow("export") << Kind::Export << 0;
     }
@@ -185,6 +205,27 @@ private Q_SLOTS:
         finishAll();
         QCOMPARE(sceneName(), QStringLiteral("[a]"));
         QCOMPARE(m_messages->texts(), QStringList(QStringLiteral("disk full")));
+    }
+
+    void aComparisonThatIsCancelledIsNoFailure()
+    {
+        QStringList ends;
+        connect(m_flow, &FileFlow::ended, m_flow, [&ends](const orvane::Result<>& result) { ends += result.error(); });
+        ask(Kind::Compare, "a.mrd");
+        m_window->findChild<JobBar*>()->cancel();
+        finishAll();
+        QCOMPARE(m_jobs->log(), QStringList(QStringLiteral("read a.mrd")));
+        QCOMPARE(m_messages->texts(), QStringList());
+        QCOMPARE(ends, QStringList(QString()));
+    }
+
+    void nothingIsComparedWithoutAScene()
+    {
+        document().close();
+        m_jobs->log().clear();
+        ask(Kind::Compare, "a.mrd");
+        finishAll();
+        QCOMPARE(m_jobs->log(), QStringList());
     }
 
     void cancellingTwiceEndsOneJob()

@@ -1,0 +1,246 @@
+#include "orvane/app/compare/DifferencePanel.h"
+
+#include "orvane/app/base/PlainText.h"
+#include "orvane/app/compare/CopyJob.h"
+#include "orvane/app/compare/DifferenceModel.h"
+#include "orvane/app/compare/DifferenceText.h"
+#include "orvane/app/files/JobBar.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QStackedLayout>
+#include <QTableView>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/// Such as "2 added, 1 removed".
+QString countText(const NxSceneDifferences& differences)
+{
+    constexpr auto kinds = static_cast<std::size_t>(NxSceneDifference::Kind::Ignored) + 1;
+    std::array<int, kinds> counts{};
+    for (const NxSceneDifference& difference : differences.list())
+        ++counts.at(static_cast<std::size_t>(difference.kind));
+    QStringList texts;
+    for (std::size_t kind = 0; kind < kinds; ++kind) {
+        if (counts.at(kind) > 0)
+            texts += QStringLiteral("%1 %2")
+                         .arg(counts.at(kind))
+                         .arg(orvane::kindText(static_cast<NxSceneDifference::Kind>(kind)));
+    }
+    return texts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+DifferencePanel::DifferencePanel(JobBar& jobBar, QWidget* parent)
+    : QWidget(parent)
+    , m_jobBar(jobBar)
+    , m_model(new DifferenceModel(this))
+    , m_view(new QTableView(this))
+    , m_heading(new QLabel(this))
+    , m_filter(new QLineEdit(this))
+    , m_again(new QToolButton(this))
+    , m_text(new QLabel(this))
+    , m_pages(new QStackedLayout)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto* top = new QWidget(this);
+    buildTopLine(top);
+    layout->addWidget(top);
+    buildView();
+    m_text->setAlignment(Qt::AlignCenter);
+    m_text->setWordWrap(true);
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setForegroundRole(QPalette::PlaceholderText);
+    m_text->setObjectName(QStringLiteral("comparisonText"));
+    m_pages->addWidget(m_text);
+    m_pages->addWidget(m_view);
+    layout->addLayout(m_pages, 1);
+    connect(m_filter, &QLineEdit::textChanged, m_model, &DifferenceModel::setFilter);
+    connect(m_model, &DifferenceModel::filtered, this, &DifferencePanel::updateHeading);
+    connect(m_again, &QToolButton::clicked, this, &DifferencePanel::againRequested);
+    clear();
+}
+
+DifferencePanel::~DifferencePanel() = default;
+
+void DifferencePanel::buildTopLine(QWidget* page)
+{
+    auto* line = new QHBoxLayout(page);
+    line->setContentsMargins(8, 4, 8, 4);
+    m_heading->setObjectName(QStringLiteral("comparisonHeading"));
+    m_heading->setTextFormat(Qt::PlainText);
+    m_heading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    line->addWidget(m_heading, 3);
+    m_filter->setObjectName(QStringLiteral("comparisonFilter"));
+    m_filter->setPlaceholderText(tr("Filter"));
+    m_filter->setAccessibleName(tr("Filter"));
+    m_filter->setToolTip(tr("Shows the rows that contain all of these words"));
+    m_filter->setClearButtonEnabled(true);
+    m_filter->setMaximumWidth(fontMetrics().averageCharWidth() * 40);
+    line->addWidget(m_filter, 1);
+    m_again->setObjectName(QStringLiteral("compareAgain"));
+    m_again->setText(tr("Compare Again"));
+    m_again->setToolTip(tr("Compares the scene as it is now"));
+    line->addWidget(m_again);
+}
+
+void DifferencePanel::buildView()
+{
+    m_view->setObjectName(QStringLiteral("differenceTable"));
+    m_view->setAccessibleName(tr("Differences"));
+    m_view->setModel(m_model);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_view->setAlternatingRowColors(true);
+    m_view->setShowGrid(false);
+    m_view->setWordWrap(false);
+    m_view->setTabKeyNavigation(false);
+    m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setTextElideMode(Qt::ElideMiddle);
+    m_view->verticalHeader()->hide();
+    m_view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+    m_view->horizontalHeader()->setHighlightSections(false);
+    m_view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_view->horizontalHeader()->setStretchLastSection(true);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto* copy = new QAction(tr("&Copy"), m_view);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &DifferencePanel::copySelected);
+    auto* copyAll = new QAction(tr("Copy &All"), m_view);
+    connect(copyAll, &QAction::triggered, this, &DifferencePanel::copyAll);
+    m_view->addActions({copy, copyAll});
+    // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        const QModelIndexList rows = m_view->selectionModel()->selectedRows();
+        m_choosing = rows.size() == 1;
+        if (m_choosing)
+            choose(rows.front().row());
+    });
+    connect(m_view, &QTableView::clicked, this, [this](const QModelIndex& index) {
+        if (!std::exchange(m_choosing, false) && m_view->selectionModel()->selectedRows().size() == 1)
+            choose(index.row());
+    });
+}
+
+void DifferencePanel::clear()
+{
+    m_name.clear();
+    m_copying.reset();
+    m_model->setDifferences({});
+    showText(tr("File > Compare With compares the open scene with a file."));
+    m_heading->clear();
+    m_again->setEnabled(false);
+}
+
+void DifferencePanel::showWorking(const QString& name)
+{
+    clear();
+    showText(tr("Comparing with %1…").arg(orvane::shortLine(name)));
+}
+
+void DifferencePanel::showDifferences(NxSceneDifferences differences, const QString& name)
+{
+    clear();
+    m_name = name;
+    m_model->setDifferences(std::move(differences));
+    if (!std::exchange(m_columnsSized, true))
+        sizeColumns();
+    if (m_model->rowCount() == 0)
+        showText(tr("No differences: the scene and %1 are equal.").arg(orvane::shortLine(name)));
+    else
+        m_pages->setCurrentWidget(m_view);
+    m_filter->setEnabled(m_model->rowCount() > 0);
+    m_again->setEnabled(true);
+    updateHeading();
+}
+
+// The rest is the last column's.
+void DifferencePanel::sizeColumns()
+{
+    constexpr std::array shares{0.36, 0.2, 0.22};
+    for (std::size_t column = 0; column < shares.size(); ++column)
+        m_view->setColumnWidth(static_cast<int>(column), static_cast<int>(shares.at(column) * width()));
+}
+
+void DifferencePanel::showText(const QString& text)
+{
+    const QSignalBlocker blocker(m_filter);
+    m_filter->clear();
+    m_filter->setEnabled(false);
+    m_text->setText(text);
+    m_pages->setCurrentWidget(m_text);
+}
+
+void DifferencePanel::updateHeading()
+{
+    if (m_name.isEmpty())
+        return;
+    const std::size_t count = m_model->differences().list().size();
+    const QString name = orvane::shortLine(m_name);
+    const QString all = count == 0 ? tr("No differences from %1").arg(name)
+        : count == 1               ? tr("1 difference from %1").arg(name)
+                                   : tr("%1 differences from %2").arg(count).arg(name);
+    QString text = m_filter->text().isEmpty() ? all : tr("%1 of %2").arg(m_model->rowCount()).arg(all);
+    if (count > 0)
+        text += QStringLiteral(": ") + countText(m_model->differences());
+    m_heading->setText(text);
+    m_heading->setToolTip(orvane::plainToolTip(text));
+}
+
+void DifferencePanel::choose(int row)
+{
+    m_model->watchRow(row);
+    Q_EMIT chosen(m_model->difference(row));
+}
+
+void DifferencePanel::copySelected()
+{
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : m_view->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    copy(std::move(rows));
+}
+
+void DifferencePanel::copyAll()
+{
+    std::vector<int> rows(static_cast<std::size_t>(m_model->rowCount()));
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        rows[row] = static_cast<int>(row);
+    copy(std::move(rows));
+}
+
+void DifferencePanel::copy(std::vector<int> rows)
+{
+    if (rows.empty())
+        return;
+    // The differences themselves, since a filter may take rows away meanwhile.
+    std::vector<NxSceneDifference> copied;
+    copied.reserve(rows.size());
+    for (const int row : rows)
+        copied.push_back(m_model->difference(row));
+    const auto count = static_cast<int>(copied.size());
+    m_copying = std::make_unique<CopyJob>(count, [this, copied = std::move(copied)](int number) {
+        return orvane::differenceLine(m_model->differences(), copied[static_cast<std::size_t>(number)]);
+    });
+    m_jobBar.watch(m_copying.get(), tr("Copying %1 differences").arg(count));
+    m_copying->start();
+}

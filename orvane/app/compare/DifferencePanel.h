@@ -1,0 +1,68 @@
+#pragma once
+
+#include "meridane/scene/compare/NxSceneDifferences.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class CopyJob;
+class DifferenceModel;
+class JobBar;
+class QLabel;
+class QLineEdit;
+class QStackedLayout;
+class QTableView;
+class QToolButton;
+
+/// Shows the differences between the open scene and a file: counts, a line to filter them, and a row for each.
+class DifferencePanel : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The bar shows the progress of copying and lives longer.
+    explicit DifferencePanel(JobBar& jobBar, QWidget* parent = nullptr);
+    ~DifferencePanel() override;
+
+    [[nodiscard]] DifferenceModel* model() const noexcept { return m_model; }
+    [[nodiscard]] QTableView* view() const noexcept { return m_view; }
+
+    /// Shows that no file is compared.
+    void clear();
+    /// Shows that the scene is being compared with the file of that name.
+    void showWorking(const QString& name);
+    /// Shows the result.
+    void showDifferences(NxSceneDifferences differences, const QString& name);
+    /// Puts the selected rows on the clipboard, as lines of text.
+    void copySelected();
+    /// The same for all rows that are shown.
+    void copyAll();
+
+Q_SIGNALS:
+    /// The user chose a row.
+    void chosen(const NxSceneDifference& difference);
+    void againRequested();
+
+private:
+    void buildView();
+    void buildTopLine(QWidget* page);
+    void sizeColumns();
+    void showText(const QString& text);
+    void updateHeading();
+    void choose(int row);
+    void copy(std::vector<int> rows);
+
+    JobBar& m_jobBar;
+    DifferenceModel* m_model;
+    QTableView* m_view;
+    QLabel* m_heading;
+    QLineEdit* m_filter;
+    QToolButton* m_again;
+    QLabel* m_text; // in place of rows
+    QStackedLayout* m_pages;
+    QString m_name; // of the other file
+    bool m_columnsSized = false;
+    bool m_choosing = false; // by the press of a mouse button that isn't released yet
+    std::unique_ptr<CopyJob> m_copying;
+};
