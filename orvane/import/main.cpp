@@ -3,6 +3,7 @@
 #include "orvane/import/conversion/ModelReader.h"
 #include "orvane/import/conversion/ModelWriter.h"
 #include "orvane/import/pictures/PictureService.h"
+#include "orvane/import/sandbox/Coverage.h"
 #include "orvane/import/sandbox/FileAccess.h"
 #include "orvane/import/sandbox/HeapTuning.h"
 #include "orvane/import/sandbox/Sandbox.h"
@@ -76,8 +77,8 @@ int readModel(const std::string& path, bool packed)
     if (!scene || !(packed ? writePacked(*scene, error) : writeText(*scene, error)))
         return fail(error);
     // The end of the process frees all memory at once, which is faster than freeing it block by block. Only the leak
-    // check needs that.
-    if constexpr (!orvane::isSanitized())
+    // check needs that, and the counts of branches, which are written then.
+    if constexpr (!orvane::isSanitized() && orvane::coverageFolder() == nullptr)
         std::_Exit(Success);
     return Success;
 }

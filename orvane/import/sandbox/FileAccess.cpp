@@ -1,5 +1,6 @@
 #include "orvane/import/sandbox/FileAccess.h"
 
+#include "orvane/import/sandbox/Coverage.h"
 #include "orvane/import/sandbox/Sanitizer.h"
 
 #include <cstdint>
@@ -33,8 +34,10 @@ constexpr long restrictSelfCall = 446;
 constexpr unsigned int askVersion = 1;
 constexpr int folderRule = 1;
 
+constexpr std::uint64_t writeFiles = 1U << 1U;
 constexpr std::uint64_t readFiles = 1U << 2U;
 constexpr std::uint64_t readFolders = 1U << 3U;
+constexpr std::uint64_t createFiles = 1U << 8U;
 
 constexpr std::uint64_t allBelow(unsigned int bit)
 {
@@ -63,12 +66,12 @@ std::size_t sizeOf(long version)
     return sizeof(std::uint64_t) * (version >= 6 ? 3 : version >= 4 ? 2 : 1);
 }
 
-bool allowReading(int ruleSet, const std::string& folder)
+bool allow(int ruleSet, const std::string& folder, std::uint64_t access)
 {
     const int descriptor = ::open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
         return false;
-    const FolderRule rule{readFiles | readFolders, descriptor};
+    const FolderRule rule{access, descriptor};
     const bool added = syscall(addRuleCall, ruleSet, folderRule, &rule, 0U) == 0;
     close(descriptor);
     return added;
@@ -95,12 +98,15 @@ bool restrictFiles(const std::vector<std::string>& readableFolders)
     const auto ruleSet = static_cast<int>(syscall(createRuleSetCall, &rules, sizeOf(version), 0U));
     if (ruleSet < 0)
         return false;
+    constexpr std::uint64_t reading = readFiles | readFolders;
     for (const std::string& folder : readableFolders)
-        allowReading(ruleSet, folder);
+        allow(ruleSet, folder, reading);
     if constexpr (isSanitized()) {
         for (const std::string& folder : foldersOfTheSanitizer())
-            allowReading(ruleSet, folder);
+            allow(ruleSet, folder, reading);
     }
+    if constexpr (coverageFolder() != nullptr)
+        allow(ruleSet, coverageFolder(), readFiles | writeFiles | createFiles);
     const bool restricted = prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && syscall(restrictSelfCall, ruleSet, 0U) == 0;
     close(ruleSet);
     return restricted;

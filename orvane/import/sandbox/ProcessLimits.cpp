@@ -1,5 +1,6 @@
 #include "orvane/import/sandbox/ProcessLimits.h"
 
+#include "orvane/import/sandbox/Coverage.h"
 #include "orvane/import/sandbox/Sanitizer.h"
 
 #include <algorithm>
@@ -64,7 +65,7 @@ void applyLimits(const ProcessLimits& limits)
     if (!isSanitized())
         setLimit(RLIMIT_NPROC, 0);
     // A redirected standard output is a file that the user wants written.
-    if (!writesToAFile())
+    if (!writesToAFile() && coverageFolder() == nullptr)
         setLimit(RLIMIT_FSIZE, 0);
     // A refused write must return an error and not kill the process.
     std::signal(SIGXFSZ, SIG_IGN);

@@ -1,5 +1,6 @@
 #include "orvane/import/sandbox/SystemCallFilter.h"
 
+#include "orvane/import/sandbox/Coverage.h"
 #include "orvane/import/sandbox/Sanitizer.h"
 
 #include <cerrno>
@@ -103,6 +104,15 @@ void allowTheProcessItself(Rules& rules)
         SCMP_SYS(process_vm_readv), SCMP_SYS(pipe), SCMP_SYS(pipe2)});
 }
 
+// The files of the counts are opened with exactly these flags, and locked, because several processes may exit at once.
+[[maybe_unused]] void allowCounting(Rules& rules)
+{
+    constexpr auto writing = static_cast<std::uint64_t>(O_ACCMODE | O_CREAT | O_TRUNC);
+    constexpr auto counting = static_cast<std::uint64_t>(O_RDWR | O_CREAT);
+    rules.allowIf(SCMP_SYS(openat), {{2, SCMP_CMP_MASKED_EQ, writing, counting}});
+    rules.allowIf(SCMP_SYS(fcntl), {equals(1, static_cast<std::uint64_t>(F_SETLKW))});
+}
+
 } // namespace
 
 bool filterSystemCalls()
@@ -113,6 +123,8 @@ bool filterSystemCalls()
     allowTheProcessItself(rules);
     if constexpr (isSanitized())
         allowTheSanitizer(rules);
+    if constexpr (coverageFolder() != nullptr)
+        allowCounting(rules);
     return rules.load();
 }
 
