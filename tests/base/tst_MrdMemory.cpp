@@ -9,6 +9,7 @@
 #include <cstring>
 #include <limits>
 #include <new>
+#include <stdexcept>
 #include <thread>
 
 namespace {
@@ -151,6 +152,13 @@ private Q_SLOTS:
     {
         const HandlerGuard<NxMemoryError> guard([](const NxError*, void*) { throw std::bad_alloc(); }, nullptr);
         QVERIFY(safeMalloc("image.cpp", 5, tooMuch, nullptr) == nullptr);
+    }
+
+    void anotherExceptionOfTheHandlerIsPassedOn()
+    {
+        const HandlerGuard<NxMemoryError> guard(
+            [](const NxError*, void*) { throw std::runtime_error("of the handler"); }, nullptr);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, static_cast<void>(safeMalloc("image.cpp", 5, tooMuch, nullptr)));
     }
 
     void eightThreadsCountTogether()

@@ -134,6 +134,18 @@ private Q_SLOTS:
         QCOMPARE(queue.protocol, "aaai");
     }
 
+    void idleOnlySensorsDoNotWaitForEachOther()
+    {
+        LetterQueue queue;
+        for (LetterSensor* const sensor : {&queue.a, &queue.b}) {
+            sensor->idleOnly = true;
+            queue.schedule(sensor);
+        }
+        queue.a.also = [&] { queue.schedule(&queue.a); };
+        QVERIFY(queue.process());
+        QCOMPARE(queue.protocol, "ab");
+    }
+
     void aBudgetStopsThePassAfterASensorAndKeepsTheRest()
     {
         LetterQueue queue;

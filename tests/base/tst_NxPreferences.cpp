@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cctype>
 #include <thread>
 
 namespace {
@@ -119,6 +120,26 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(NxPreferences::getString("KAL_TEST", "default").toUtf8()), value);
     }
 
+    void namesAreOfLettersDigitsAndThreeMarks()
+    {
+        const HandlerGuard<NxReadError> guard([](const NxError*, void*) {}, nullptr);
+        for (char character = '!'; character <= '~'; ++character) {
+            if (character == '=') // ends the name
+                continue;
+            const QByteArray name = QByteArray("KAL") + character + 'X';
+            const bool good = QByteArray("_.-").contains(character) || isalnum(character) != 0;
+            QCOMPARE(load(settingsOf(name + " = 1")), good);
+            QCOMPARE(NxPreferences::getInt(name.constData(), 0), good ? 1 : 0);
+        }
+    }
+
+    void anEmptyFileNameEndsTheSettings()
+    {
+        QVERIFY(load(settingsOf("KAL_TEST = 1")));
+        QVERIFY(load(""));
+        QCOMPARE(NxPreferences::getInt("KAL_TEST", 0), 0);
+    }
+
     void aBrokenLineIsPostedAndTheOthersHold_data()
     {
         QTest::addColumn<QByteArray>("line");
@@ -183,6 +204,8 @@ private Q_SLOTS:
         QVERIFY(large.resize(1024 * 1024 + 1));
         QTest::newRow("directory") << QFile::encodeName(m_folder.path())
                                    << QByteArray("cannot read the settings file: Is a directory");
+        QTest::newRow("below a file") << QFile::encodeName(large.fileName() + QStringLiteral("/settings"))
+                                      << QByteArray("cannot read the settings file: Not a directory");
         QTest::newRow("too large") << QFile::encodeName(large.fileName())
                                    << QByteArray("the settings file is larger than 1 MiB");
         QTest::newRow("endless") << QByteArray("/dev/zero") << QByteArray("the settings file is larger than 1 MiB");

@@ -187,7 +187,12 @@ private Q_SLOTS:
         QVERIFY(!successor.isDerivedFrom(former));
         NxType::unregisterClass(former); // again: the successor keeps the name
         QVERIFY(NxType::fromName("TestPassing") == successor);
+        const std::vector<NxType> shapes = NxType::getAllDerivedFrom(Shape::getClassTypeId());
+        QCOMPARE(std::count(shapes.begin(), shapes.end(), successor), 1);
+        QCOMPARE(std::count(shapes.begin(), shapes.end(), former), 0);
         NxType::unregisterClass(successor);
+        NxType::unregisterClass(successor);
+        QVERIFY(NxType::fromName("TestPassing").isBad());
         NxType::unregisterClass(NxType());
     }
 

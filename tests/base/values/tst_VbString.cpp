@@ -194,6 +194,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::newRow("high at the end") << QList<ushort>{'a', 0xD800, 0} << QStringLiteral("a\uFFFD");
         QTest::newRow("high before a letter") << QList<ushort>{0xDBFF, 'a', 0} << QStringLiteral("\uFFFDa");
+        QTest::newRow("high before a later character")
+            << QList<ushort>{0xD800, 0xE000, 0} << QStringLiteral("\uFFFD\uE000");
         QTest::newRow("low alone") << QList<ushort>{0xDC00, 'a', 0} << QStringLiteral("\uFFFDa");
         QTest::newRow("wrong way round") << QList<ushort>{0xDC00, 0xD800, 0} << QStringLiteral("\uFFFD\uFFFD");
         QTest::newRow("high before a pair")
