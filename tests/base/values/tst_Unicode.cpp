@@ -53,7 +53,6 @@ private Q_SLOTS:
         QTest::newRow("first surrogate") << 0xD800U;
         QTest::newRow("last surrogate") << 0xDFFFU;
         QTest::newRow("beyond Unicode") << 0x110000U;
-        QTest::newRow("hexadecimal with a capital prefix") << QByteArray("0X1f") << 31;
         QTest::newRow("greatest") << 0xFFFFFFFFU;
     }
     void whatIsNoCodePointBecomesTheReplacement()

@@ -94,6 +94,7 @@ SimplifiedMesh simplified(const NxMesh& mesh, const MeshShape& shape, std::uint3
     const std::size_t count = cornersOf(shape.primitive);
     for (std::size_t first = 0; first + count <= indices.size(); first += count) {
         const std::size_t before = result.indices.size();
+        const std::size_t knownCells = result.positions.size();
         for (std::size_t i = first; i < first + count; ++i) {
             const std::uint32_t corner = corners.take(indices[i]);
             const auto own = result.indices.begin() + static_cast<std::ptrdiff_t>(before);
@@ -104,7 +105,7 @@ SimplifiedMesh simplified(const NxMesh& mesh, const MeshShape& shape, std::uint3
             result.indices.push_back(corner);
         }
         // Of points, one in each cell is kept.
-        if (count == 1 && result.indices.back() + 1 != result.positions.size())
+        if (count == 1 && result.positions.size() == knownCells)
             result.indices.pop_back();
     }
     return result;
