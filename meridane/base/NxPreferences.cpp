@@ -58,8 +58,8 @@ std::string messageOf(int error)
 /// The content of a settings file; empty if it doesn't exist. Sets a message if it can't be read.
 std::optional<std::string> readSettings(const char* path, std::string& message)
 {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(
-        std::fopen(path, "rb"), [](std::FILE* f) { return f == nullptr ? 0 : std::fclose(f); });
+    const auto close = [](std::FILE* open) { return std::fclose(open); };
+    const std::unique_ptr<std::FILE, decltype(close)> file(std::fopen(path, "rb"));
     if (file == nullptr) {
         if (errno == ENOENT)
             return std::string();

@@ -31,7 +31,7 @@ public:
 
     [[nodiscard]] ClassRecord* find(std::uint32_t index) const noexcept
     {
-        if (index == 0 || index > m_count.load(std::memory_order_acquire))
+        if (index == 0)
             return nullptr;
         return &(*m_chunks[(index - 1) / chunkSize])[(index - 1) % chunkSize];
     }

@@ -260,7 +260,7 @@ void NxViewpoint::frame(const VbVec3f& min, const VbVec3f& max, float aspect)
 {
     const VbVec3d center = add(scaled(VbVec3d(min), 0.5), scaled(VbVec3d(max), 0.5));
     const VbVec3f half = narrowed(subtract(VbVec3d(max), center));
-    if (!isFinite(center) || !isFinite(half))
+    if (!isFinite(center)) // else the half is finite too
         return;
     *this = sensible();
     const auto ratio = static_cast<double>(sensibleLength(aspect, 1));

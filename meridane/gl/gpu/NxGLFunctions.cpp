@@ -9,10 +9,13 @@ constexpr int leastVersion = 33;
 bool NxGLFunctions::load(GetProcAddress getProcAddress)
 {
     m_error.clear();
-#define NX_GL_LOAD(Type, name)                                                                                         \
-    name = reinterpret_cast<Type>(getProcAddress("gl" #name));                                                         \
-    if (name == nullptr && m_error.empty())                                                                            \
-        m_error = "the OpenGL function gl" #name " is missing";
+    const auto find = [&](const char* name) {
+        void* const function = getProcAddress(name);
+        if (function == nullptr && m_error.empty())
+            m_error = std::string("the OpenGL function ") + name + " is missing";
+        return function;
+    };
+#define NX_GL_LOAD(Type, name) name = reinterpret_cast<Type>(find("gl" #name));
     NX_GL_FUNCTIONS(NX_GL_LOAD)
 #undef NX_GL_LOAD
     return m_error.empty() && checkVersion();
