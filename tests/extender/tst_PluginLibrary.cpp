@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <elf.h>
+
 using namespace Qt::StringLiterals;
 
 class TestPluginLibrary : public QObject {
@@ -83,6 +85,9 @@ private Q_SLOTS:
             words("construct load unload destroy"));
         plugin("OtherInterfaceVersion", "it was built against version 3 of the plug-in interface; this is version 2",
             words("construct destroy"));
+        plugin("OtherVersionThrows",
+            "it was built against version 3 of the plug-in interface; this is version 2; its \"unloadPlugin\" threw an "
+            "exception: the licence was lost");
     }
     void aBrokenPluginIsToldInOneLineAndLeftOut()
     {
@@ -106,6 +111,11 @@ private Q_SLOTS:
         QTest::newRow("cut off behind the magic number") << QByteArray("\x7f"
                                                                        "ELF\x02\x01\x01",
             7);
+        // The fifth byte is the size of addresses.
+        const QByteArray magic("\x7f"
+                               "ELF");
+        QTest::newRow("of another word size") << magic + QByteArray("\x01\x01\x01") + QByteArray(100, '\0');
+        QTest::newRow("segments of another size") << magic + QByteArray("\x02\x01\x01") + QByteArray(100, '\0');
     }
     void aFileThatIsNoLibraryIsToldWithTheSystemsReason()
     {
@@ -138,6 +148,36 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString fileName = folder.filePath(u"libcut.so"_s);
         writeFile(fileName, sound.read(size));
+
+        OrvPluginsManager manager;
+        QCOMPARE(manager.loadPlugin(fileName), fileName + u": it can't be loaded as a plug-in: the file is cut off"_s);
+    }
+
+    void aLibraryWhoseHeaderPointsBehindItsEndIsCutOff_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<quint64>("value");
+        QTest::newRow("segments far behind") << u"segments"_s << (quint64(1) << 40);
+        QTest::newRow("segments where no file reaches") << u"segments"_s << ~quint64(0);
+        QTest::newRow("a segment begins behind") << u"segment"_s << (quint64(1) << 40);
+    }
+    void aLibraryWhoseHeaderPointsBehindItsEndIsCutOff()
+    {
+        QFETCH(const QString, field);
+        QFETCH(const quint64, value);
+        QByteArray bytes = readFile(pathOf(u"Sound"_s));
+        auto* const header = reinterpret_cast<Elf64_Ehdr*>(bytes.data());
+        if (field == u"segments") {
+            header->e_phoff = value;
+        } else {
+            auto* segment = reinterpret_cast<Elf64_Phdr*>(bytes.data() + header->e_phoff);
+            while (segment->p_type != PT_LOAD)
+                ++segment;
+            segment->p_offset = value;
+        }
+        const QTemporaryDir folder;
+        const QString fileName = folder.filePath(u"libcut.so"_s);
+        writeFile(fileName, bytes);
 
         OrvPluginsManager manager;
         QCOMPARE(manager.loadPlugin(fileName), fileName + u": it can't be loaded as a plug-in: the file is cut off"_s);

@@ -58,6 +58,8 @@ private Q_SLOTS:
         row("comma too many", R"({"name": "P", })", "1:15: expected a key, and found \"}\"");
         row("comma too many in a list", R"({"extensions": {"a": ["b", ]}})",
             "1:28: expected the name of an extension, and found \"]\"");
+        row("no comma in a list", R"({"extensions": {"a": ["b" "c"]}})",
+            "1:27: expected \",\" or \"]\", and found the text \"c\"");
         row("key without quotation marks", R"({name: "P"})", "1:2: unexpected \"name\"");
         row("something behind it", R"({"name": "P", "extensions": {}} {})",
             "1:33: expected nothing behind the profile, and found an object");
@@ -67,6 +69,7 @@ private Q_SLOTS:
         row("signed code", R"({"name": "a\u+123"})", "1:12: there is no such escape sequence");
         row("line break in a text", "{\"name\": \"a\nb\"}", "1:12: a control character in a text must be escaped");
         row("bad number", R"({"name": 01})", "1:10: unexpected \"01\"");
+        row("word of letters and marks", R"({"name": -a_b.c+1})", "1:10: unexpected \"-a_b.c+1\"");
         row("NUL", QByteArray("{\0}", 3), "1:2: unexpected \"\uFFFD\"");
         // Encoding; the column counts characters.
         row("invalid UTF-8", "{\n \"name\": \"\xC3\xA9\xFF\"}", "2:12: it isn't valid UTF-8");
@@ -81,6 +84,10 @@ private Q_SLOTS:
             "1:15: a profile has a \"name\" and \"extensions\", but no \"Extensions\"");
         row("unknown key that would break the line", R"({"a\nb\u2028": 1})",
             "1:2: a profile has a \"name\" and \"extensions\", but no \"a\uFFFDb\uFFFD\"");
+        row("unknown key with the other line separator", R"({"a\u2029": 1})",
+            "1:2: a profile has a \"name\" and \"extensions\", but no \"a\uFFFD\"");
+        row("unknown key of a rare character", R"({"\ud83d\ude00": 1})",
+            "1:2: a profile has a \"name\" and \"extensions\", but no \"\U0001F600\"");
         row("unknown key of great length", "{\"" + QByteArray(5000, 'k') + "\": 1}",
             "1:2: a profile has a \"name\" and \"extensions\", but no "
             "\"kkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkkk\u2026\"");
@@ -94,6 +101,9 @@ private Q_SLOTS:
         row("empty name", R"({"name": ""})", "1:10: the profile's name is empty");
         row("blank name", R"({"name": " \t"})", "1:10: the profile's name is empty");
         row("name is a number", R"({"name": 7})", "1:10: expected a text, the profile's name, and found a number");
+        row("name is a colon", R"({"name": :})", "1:10: expected a text, the profile's name, and found \":\"");
+        row("name is a comma", R"({"name": ,})", "1:10: expected a text, the profile's name, and found \",\"");
+        row("name is false", R"({"name": false})", "1:10: expected a text, the profile's name, and found false");
         row("name is null", R"({"name": null})", "1:10: expected a text, the profile's name, and found null");
         row("extensions are a list", R"({"extensions": ["a"]})",
             "1:16: expected an object, the extensions, and found a list");

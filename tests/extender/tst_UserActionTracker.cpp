@@ -56,6 +56,15 @@ private:
     QStringList& m_calls;
 };
 
+/// Accepts the touches of a widget.
+class TouchFilter : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        return event->type() == QEvent::TouchBegin || event->type() == QEvent::TouchEnd;
+    }
+};
+
 } // namespace
 
 class TestUserActionTracker : public QObject {
@@ -86,6 +95,15 @@ class TestUserActionTracker : public QObject {
         QCoreApplication::sendEvent(&widget, &event);
     }
     static inline quint64 s_wheelTime = 5000000;
+
+    /// Sends an event of the right arrow key to the slider and delivers everything that it causes.
+    void sendKey(QEvent::Type type, int time, bool isRepeated = false)
+    {
+        QKeyEvent event(type, Qt::Key_Right, Qt::NoModifier, QString(), isRepeated);
+        event.setTimestamp(quint64(6000000) + quint64(time));
+        QCoreApplication::sendEvent(&m_window->slider, &event);
+        QCoreApplication::processEvents();
+    }
 
 private Q_SLOTS:
     void init()
@@ -210,17 +228,44 @@ private Q_SLOTS:
     {
         m_window->slider.setFocus();
         for (int i = 0; i < 5; ++i) {
-            QKeyEvent event(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), i > 0);
-            event.setTimestamp(quint64(6000000) + quint64(i));
-            QCoreApplication::sendEvent(&m_window->slider, &event);
-            QCoreApplication::processEvents();
+            // A window system may repeat the release too.
+            if (i > 0)
+                sendKey(QEvent::KeyRelease, i, true);
+            sendKey(QEvent::KeyPress, i, i > 0);
         }
-        QKeyEvent release(QEvent::KeyRelease, Qt::Key_Right, Qt::NoModifier);
-        QCoreApplication::sendEvent(&m_window->slider, &release);
-        QCoreApplication::processEvents();
+        sendKey(QEvent::KeyRelease, 5);
         QCOMPARE(m_window->pushed, 5);
         QCOMPARE(steps(), 1);
         m_window->push();
+        QCOMPARE(steps(), 2);
+    }
+
+    void aKeyWhoseReleaseWasLostBeginsANewStep()
+    {
+        sendKey(QEvent::KeyPress, 0);
+        sendKey(QEvent::KeyPress, 1);
+        sendKey(QEvent::KeyRelease, 2);
+        QCOMPARE(m_window->pushed, 2);
+        QCOMPARE(steps(), 2);
+    }
+
+    void aKeyHeldWhileTheApplicationChangesEndsItsStep()
+    {
+        sendKey(QEvent::KeyPress, 0);
+        QEvent change(QEvent::ApplicationStateChange);
+        QCoreApplication::sendEvent(m_window.get(), &change);
+        QCoreApplication::processEvents();
+        m_window->push();
+        QCOMPARE(m_window->pushed, 2);
+        QCOMPARE(steps(), 2);
+    }
+
+    void aTurnOfTheWheelWithAKeyHeldIsAStepOfItsOwn()
+    {
+        sendKey(QEvent::KeyPress, 0);
+        turnWheel(m_window->slider);
+        sendKey(QEvent::KeyRelease, 1);
+        QCOMPARE(m_window->pushed, 2);
         QCOMPARE(steps(), 2);
     }
 
@@ -301,6 +346,21 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         m_window->push();
         QCOMPARE(steps(), 2);
+    }
+
+    void aTouchInTheMidstOfADragDoesNotSplitIt()
+    {
+        const std::unique_ptr<QPointingDevice> device(QTest::createTouchDevice());
+        drag(0, 0.3);
+        TouchFilter filter; // so that no mouse events are made from the touch
+        m_window->button.installEventFilter(&filter);
+        m_window->button.setAttribute(Qt::WA_AcceptTouchEvents);
+        QTest::touchEvent(&m_window->button, device.get()).press(0, QPoint(2, 2));
+        QTest::touchEvent(&m_window->button, device.get()).release(0, QPoint(2, 2));
+        QCoreApplication::processEvents();
+        m_window->push();
+        drop(0.3);
+        QCOMPARE(steps(), 1);
     }
 
     void aLostReleaseEndsWithTheNextPress()

@@ -262,6 +262,59 @@ private Q_SLOTS:
         const NxViewpoint viewpoint = NxViewpoint::ofCamera(*camera, scaleMatrix(VbVec3f(2, 2, 2)));
         QCOMPARE(viewpoint.projection, NxViewpoint::ORTHOGRAPHIC);
         QCOMPARE(viewpoint.height, 6.F);
+        camera->height.setIgnored(1);
+        QCOMPARE(NxViewpoint::ofCamera(*camera, VbMatrix()).height, 2.F);
+    }
+
+    void anIgnoredOrientationLooksAlongNegativeZ()
+    {
+        const NxRef<NxPerspectiveCamera> camera(new NxPerspectiveCamera);
+        camera->orientation.setValue(VbRotation(VbVec3f(0, 1, 0), 1));
+        camera->orientation.setIgnored(1);
+        QVERIFY(isNear(NxViewpoint::ofCamera(*camera, VbMatrix()).viewDirection(), VbVec3f(0, 0, -1)));
+    }
+
+    void equalsOnlyOneWithTheSameMembers()
+    {
+        const NxViewpoint viewpoint;
+        QVERIFY(viewpoint == NxViewpoint());
+        NxViewpoint other;
+        other.position = VbVec3d(1, 0, 5);
+        QVERIFY(viewpoint != other);
+        other = NxViewpoint();
+        other.orientation = VbRotation(VbVec3f(0, 1, 0), 1);
+        QVERIFY(viewpoint != other);
+        other = NxViewpoint();
+        other.projection = NxViewpoint::ORTHOGRAPHIC;
+        QVERIFY(viewpoint != other);
+        for (float NxViewpoint::*const member :
+            {&NxViewpoint::heightAngle, &NxViewpoint::height, &NxViewpoint::focalDistance}) {
+            other = NxViewpoint();
+            other.*member = 1;
+            QVERIFY(viewpoint != other);
+        }
+    }
+
+    void orbitsWithTheHeadDown()
+    {
+        NxViewpoint viewpoint;
+        viewpoint.orientation = VbRotation(VbVec3f(0, 0, 1), std::numbers::pi_v<float>);
+        QVERIFY(isNear(viewpoint.upAxis(), VbVec3f(0, -1, 0)));
+        viewpoint.orbit(std::numbers::pi_v<float> / 2, 0);
+        // To the right as the viewer sees it, and with the head still down.
+        QVERIFY(isNear(viewpoint.position, VbVec3f(-5, 0, 0)));
+        QVERIFY(isNear(viewpoint.upAxis(), VbVec3f(0, -1, 0)));
+    }
+
+    void focusesOnWhatIsAhead()
+    {
+        NxViewpoint viewpoint;
+        viewpoint.focus(VbVec3d(1, 1, 2));
+        QCOMPARE(viewpoint.focalDistance, 3.F);
+        viewpoint.focus(VbVec3d(0, 0, 6)); // behind
+        QCOMPARE(viewpoint.focalDistance, 3.F);
+        viewpoint.focus(VbVec3d(0, 0, -1e300)); // farther away than the largest float
+        QCOMPARE(viewpoint.focalDistance, 3.F);
     }
 
     void survivesACameraInsideOut_data()
@@ -289,7 +342,9 @@ private Q_SLOTS:
         viewpoint.focalDistance = number;
         QVERIFY(isFiniteAll(viewpoint));
         viewpoint.orbit(number, 1);
+        viewpoint.orbit(1, number);
         viewpoint.zoom(number, factors);
+        viewpoint.zoom(2, factors);
         viewpoint.pan(middle, VbVec2f(0, number), aspect, 1);
         viewpoint.lookAlong(factors, factors);
         viewpoint.frame(VbVec3f(), factors, number);
