@@ -155,172 +155,158 @@ class TestNxOffscreenContextFaults : public QObject {
 private Q_SLOTS:
     void init() { driver = Driver(); }
 
-    void aMissingAbilityIsNamed_data();
-    void aMissingAbilityIsNamed();
-    void theDisplaysAreTriedInOrder_data();
-    void theDisplaysAreTriedInOrder();
-    void theNextDisplayServesWhereOneFails();
-    void aDriverThatReportsNoResetsIsUsed();
-    void aDriverThatNeedsASurfaceGetsTheSmallest();
-    void aDisplayWithoutSurfacesNeedsNoConfiguration_data();
-    void aDisplayWithoutSurfacesNeedsNoConfiguration();
-    void theContextIsNoLongerCurrentAfterItsDestruction();
-    void aResetIsReported_data();
-    void aResetIsReported();
-    void theFirstMissingFunctionIsNamed();
-};
-
-void TestNxOffscreenContextFaults::aMissingAbilityIsNamed_data()
-{
-    QTest::addColumn<QString>("missing");
-    QTest::addColumn<QString>("error");
-    QTest::newRow("display") << QStringLiteral("display") << QStringLiteral("there is no EGL display");
-    QTest::newRow("OpenGL") << QStringLiteral("OpenGL") << QStringLiteral("the driver has no OpenGL");
-    QTest::newRow("version") << QStringLiteral("version") << QStringLiteral("the driver has no OpenGL 3.3");
-    QTest::newRow("window") << QStringLiteral("window") << QStringLiteral("the driver can't draw without a window");
-}
-
-void TestNxOffscreenContextFaults::aMissingAbilityIsNamed()
-{
-    QFETCH(const QString, missing);
-    QFETCH(const QString, error);
-    driver.hasPlatformDisplays = false;
-    if (missing == QStringLiteral("display"))
-        driver.defaultDisplay = EGL_NO_DISPLAY;
-    driver.hasOpenGL = missing != QStringLiteral("OpenGL");
-    driver.hasContexts = missing != QStringLiteral("version");
-    driver.canBeCurrent = missing != QStringLiteral("window");
-    NxOffscreenContext tested;
-    QVERIFY(!tested.isValid());
-    QCOMPARE(QString::fromUtf8(tested.error().toUtf8()), error);
-    QVERIFY(!tested.makeCurrent());
-    QCOMPARE(driver.contexts, 0);
-}
-
-void TestNxOffscreenContextFaults::theDisplaysAreTriedInOrder_data()
-{
-    QTest::addColumn<QByteArray>("extensions"); // empty: the driver has no list
-    QTest::addColumn<bool>("canListDevices");
-    QTest::addColumn<bool>("listsDevices");
-    QTest::addColumn<QList<qulonglong>>("tried");
-    const QByteArray surfaceless("EGL_MESA_platform_surfaceless");
-    const QByteArray device("EGL_EXT_platform_device");
-    using List = QList<qulonglong>;
-    QTest::newRow("none but the default") << QByteArray("EGL_EXT_other") << true << true << List{1};
-    QTest::newRow("no list of extensions") << QByteArray() << true << true << List{1};
-    QTest::newRow("without a surface") << surfaceless << true << true << List{2, 1};
-    QTest::newRow("devices") << device << true << true << List{100, 101, 1};
-    QTest::newRow("both") << device + ' ' + surfaceless << true << true << List{2, 100, 101, 1};
-    QTest::newRow("devices can't be listed") << device << false << true << List{1};
-    QTest::newRow("listing the devices fails") << device << true << false << List{1};
-    QTest::newRow("parts of longer names") << "X" + surfaceless + ' ' + device + "_drm" << true << true << List{1};
-    QTest::newRow("behind a longer name") << device + "_drm " + device << true << true << List{100, 101, 1};
-}
-
-void TestNxOffscreenContextFaults::theDisplaysAreTriedInOrder()
-{
-    QFETCH(const QByteArray, extensions);
-    QFETCH(const bool, canListDevices);
-    QFETCH(const bool, listsDevices);
-    QFETCH(const QList<qulonglong>, tried);
-    driver.clientExtensions = extensions.isEmpty() ? nullptr : extensions.constData();
-    driver.canListDevices = canListDevices;
-    driver.listsDevices = listsDevices;
-    driver.devices = 2;
-    driver.working = {};
-    QVERIFY(!NxOffscreenContext().isValid());
-    QList<qulonglong> found;
-    for (void* const display : driver.tried)
-        found.append(reinterpret_cast<std::uintptr_t>(display));
-    QCOMPARE(found, tried);
-}
-
-void TestNxOffscreenContextFaults::theNextDisplayServesWhereOneFails()
-{
-    driver.working = {defaultDisplay};
-    const NxOffscreenContext tested;
-    QVERIFY(tested.isValid());
-    QVERIFY(tested.error().isEmpty());
-    QCOMPARE(driver.tried, (std::vector<void*>{surfacelessDisplay, defaultDisplay}));
-}
-
-void TestNxOffscreenContextFaults::aDriverThatReportsNoResetsIsUsed()
-{
-    driver.notifiesResets = false;
-    const NxOffscreenContext tested;
-    QVERIFY(tested.isValid());
-    QCOMPARE(driver.contexts, 1);
-}
-
-void TestNxOffscreenContextFaults::aDriverThatNeedsASurfaceGetsTheSmallest()
-{
-    driver.displayExtensions = "";
+    void aMissingAbilityIsNamed_data()
     {
+        QTest::addColumn<QString>("missing");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("display") << QStringLiteral("display") << QStringLiteral("there is no EGL display");
+        QTest::newRow("OpenGL") << QStringLiteral("OpenGL") << QStringLiteral("the driver has no OpenGL");
+        QTest::newRow("version") << QStringLiteral("version") << QStringLiteral("the driver has no OpenGL 3.3");
+        QTest::newRow("window") << QStringLiteral("window") << QStringLiteral("the driver can't draw without a window");
+    }
+
+    void aMissingAbilityIsNamed()
+    {
+        QFETCH(const QString, missing);
+        QFETCH(const QString, error);
+        driver.hasPlatformDisplays = false;
+        if (missing == QStringLiteral("display"))
+            driver.defaultDisplay = EGL_NO_DISPLAY;
+        driver.hasOpenGL = missing != QStringLiteral("OpenGL");
+        driver.hasContexts = missing != QStringLiteral("version");
+        driver.canBeCurrent = missing != QStringLiteral("window");
         NxOffscreenContext tested;
+        QVERIFY(!tested.isValid());
+        QCOMPARE(QString::fromUtf8(tested.error().toUtf8()), error);
+        QVERIFY(!tested.makeCurrent());
+        QCOMPARE(driver.contexts, 0);
+    }
+
+    void theDisplaysAreTriedInOrder_data()
+    {
+        QTest::addColumn<QByteArray>("extensions"); // empty: the driver has no list
+        QTest::addColumn<bool>("canListDevices");
+        QTest::addColumn<bool>("listsDevices");
+        QTest::addColumn<QList<qulonglong>>("tried");
+        const QByteArray surfaceless("EGL_MESA_platform_surfaceless");
+        const QByteArray device("EGL_EXT_platform_device");
+        using List = QList<qulonglong>;
+        QTest::newRow("none but the default") << QByteArray("EGL_EXT_other") << true << true << List{1};
+        QTest::newRow("no list of extensions") << QByteArray() << true << true << List{1};
+        QTest::newRow("without a surface") << surfaceless << true << true << List{2, 1};
+        QTest::newRow("devices") << device << true << true << List{100, 101, 1};
+        QTest::newRow("both") << device + ' ' + surfaceless << true << true << List{2, 100, 101, 1};
+        QTest::newRow("devices can't be listed") << device << false << true << List{1};
+        QTest::newRow("listing the devices fails") << device << true << false << List{1};
+        QTest::newRow("parts of longer names") << "X" + surfaceless + ' ' + device + "_drm" << true << true << List{1};
+        QTest::newRow("behind a longer name") << device + "_drm " + device << true << true << List{100, 101, 1};
+    }
+
+    void theDisplaysAreTriedInOrder()
+    {
+        QFETCH(const QByteArray, extensions);
+        QFETCH(const bool, canListDevices);
+        QFETCH(const bool, listsDevices);
+        QFETCH(const QList<qulonglong>, tried);
+        driver.clientExtensions = extensions.isEmpty() ? nullptr : extensions.constData();
+        driver.canListDevices = canListDevices;
+        driver.listsDevices = listsDevices;
+        driver.devices = 2;
+        driver.working = {};
+        QVERIFY(!NxOffscreenContext().isValid());
+        QList<qulonglong> found;
+        for (void* const display : driver.tried)
+            found.append(reinterpret_cast<std::uintptr_t>(display));
+        QCOMPARE(found, tried);
+    }
+
+    void theNextDisplayServesWhereOneFails()
+    {
+        driver.working = {defaultDisplay};
+        const NxOffscreenContext tested;
         QVERIFY(tested.isValid());
-        QCOMPARE(driver.surfaces, 1);
+        QVERIFY(tested.error().isEmpty());
+        QCOMPARE(driver.tried, (std::vector<void*>{surfacelessDisplay, defaultDisplay}));
     }
-    QCOMPARE(driver.surfaces, 0);
-    QCOMPARE(driver.contexts, 0);
-}
 
-void TestNxOffscreenContextFaults::aDisplayWithoutSurfacesNeedsNoConfiguration_data()
-{
-    QTest::addColumn<int>("configs");
-    QTest::addColumn<bool>("isChosen");
-    QTest::newRow("one") << 1 << true;
-    QTest::newRow("none") << 0 << false;
-    QTest::newRow("the question fails") << -1 << false;
-}
-
-void TestNxOffscreenContextFaults::aDisplayWithoutSurfacesNeedsNoConfiguration()
-{
-    QFETCH(const int, configs);
-    QFETCH(const bool, isChosen);
-    driver.configs = configs;
-    QVERIFY(NxOffscreenContext().isValid());
-    QCOMPARE(driver.configOfContext, isChosen ? config : EGL_NO_CONFIG_KHR);
-}
-
-void TestNxOffscreenContextFaults::theContextIsNoLongerCurrentAfterItsDestruction()
-{
+    void aDriverThatReportsNoResetsIsUsed()
     {
-        NxOffscreenContext tested;
-        QVERIFY(driver.current == nullptr);
-        QVERIFY(tested.makeCurrent());
-        QCOMPARE(driver.current, context);
-        QVERIFY(tested.makeCurrent());
+        driver.notifiesResets = false;
+        const NxOffscreenContext tested;
+        QVERIFY(tested.isValid());
+        QCOMPARE(driver.contexts, 1);
     }
-    QVERIFY(driver.current == nullptr);
-}
 
-void TestNxOffscreenContextFaults::aResetIsReported_data()
-{
-    QTest::addColumn<QByteArray>("function");
-    QTest::addColumn<uint>("status");
-    QTest::addColumn<bool>("isLost");
-    QTest::newRow("none") << QByteArray("glGetGraphicsResetStatus") << 0U << false;
-    QTest::newRow("reset") << QByteArray("glGetGraphicsResetStatus") << 0x8253U << true;
-    QTest::newRow("by the extension") << QByteArray("glGetGraphicsResetStatusARB") << 0x8253U << true;
-    QTest::newRow("not known") << QByteArray() << 0x8253U << false;
-}
+    void aDriverThatNeedsASurfaceGetsTheSmallest()
+    {
+        driver.displayExtensions = "";
+        {
+            NxOffscreenContext tested;
+            QVERIFY(tested.isValid());
+            QCOMPARE(driver.surfaces, 1);
+        }
+        QCOMPARE(driver.surfaces, 0);
+        QCOMPARE(driver.contexts, 0);
+    }
 
-void TestNxOffscreenContextFaults::aResetIsReported()
-{
-    QFETCH(const QByteArray, function);
-    QFETCH(const uint, status);
-    QFETCH(const bool, isLost);
-    driver.resetFunction = function.toStdString();
-    driver.resetStatus = status;
-    QCOMPARE(NxOffscreenContext::isLost(), isLost);
-}
+    void aDisplayWithoutSurfacesNeedsNoConfiguration_data()
+    {
+        QTest::addColumn<int>("configs");
+        QTest::addColumn<bool>("isChosen");
+        QTest::newRow("one") << 1 << true;
+        QTest::newRow("none") << 0 << false;
+        QTest::newRow("the question fails") << -1 << false;
+    }
 
-void TestNxOffscreenContextFaults::theFirstMissingFunctionIsNamed()
-{
-    NxGLFunctions functions;
-    QVERIFY(!functions.load(&NxOffscreenContext::getProcAddress));
-    QCOMPARE(functions.error(), std::string("the OpenGL function glActiveTexture is missing"));
-}
+    void aDisplayWithoutSurfacesNeedsNoConfiguration()
+    {
+        QFETCH(const int, configs);
+        QFETCH(const bool, isChosen);
+        driver.configs = configs;
+        QVERIFY(NxOffscreenContext().isValid());
+        QCOMPARE(driver.configOfContext, isChosen ? config : EGL_NO_CONFIG_KHR);
+    }
+
+    void theContextIsNoLongerCurrentAfterItsDestruction()
+    {
+        {
+            NxOffscreenContext tested;
+            QVERIFY(driver.current == nullptr);
+            QVERIFY(tested.makeCurrent());
+            QCOMPARE(driver.current, context);
+            QVERIFY(tested.makeCurrent());
+        }
+        QVERIFY(driver.current == nullptr);
+    }
+
+    void aResetIsReported_data()
+    {
+        QTest::addColumn<QByteArray>("function");
+        QTest::addColumn<uint>("status");
+        QTest::addColumn<bool>("isLost");
+        QTest::newRow("none") << QByteArray("glGetGraphicsResetStatus") << 0U << false;
+        QTest::newRow("reset") << QByteArray("glGetGraphicsResetStatus") << 0x8253U << true;
+        QTest::newRow("by the extension") << QByteArray("glGetGraphicsResetStatusARB") << 0x8253U << true;
+        QTest::newRow("not known") << QByteArray() << 0x8253U << false;
+    }
+
+    void aResetIsReported()
+    {
+        QFETCH(const QByteArray, function);
+        QFETCH(const uint, status);
+        QFETCH(const bool, isLost);
+        driver.resetFunction = function.toStdString();
+        driver.resetStatus = status;
+        QCOMPARE(NxOffscreenContext::isLost(), isLost);
+    }
+
+    void theFirstMissingFunctionIsNamed()
+    {
+        NxGLFunctions functions;
+        QVERIFY(!functions.load(&NxOffscreenContext::getProcAddress));
+        QCOMPARE(functions.error(), std::string("the OpenGL function glActiveTexture is missing"));
+    }
+};
 
 QTEST_APPLESS_MAIN(TestNxOffscreenContextFaults)
 #include "tst_NxOffscreenContextFaults.moc"

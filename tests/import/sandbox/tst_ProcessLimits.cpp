@@ -2,6 +2,7 @@
 #include "TestFiles.h"
 #include "import/sandbox/BusyHelper.h"
 
+#include "orvane/import/sandbox/Coverage.h"
 #include "orvane/import/sandbox/Sanitizer.h"
 
 #include <csignal>
