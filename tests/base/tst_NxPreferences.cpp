@@ -129,7 +129,7 @@ private Q_SLOTS:
             const QByteArray name = QByteArray("KAL") + character + 'X';
             const bool good = QByteArray("_.-").contains(character) || isalnum(character) != 0;
             QCOMPARE(load(settingsOf(name + " = 1")), good);
-            QCOMPARE(NxPreferences::getInt(name.constData(), 0), good ? 1 : 0);
+            QCOMPARE(NxPreferences::getBool(name.constData(), 0), good ? 1 : 0);
         }
     }
 
@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         QVERIFY(load(settingsOf("KAL_TEST = 1")));
         QVERIFY(load(""));
-        QCOMPARE(NxPreferences::getInt("KAL_TEST", 0), 0);
+        QCOMPARE(NxPreferences::getBool("KAL_TEST", 0), 0);
     }
 
     void aBrokenLineIsPostedAndTheOthersHold_data()

@@ -2,8 +2,8 @@
 
 namespace orvane {
 
-/// The build folder, in a build that counts which branches the tests take (KAL_COVERAGE); null in all other builds. When
-/// a process exits, it adds its counts to files in this folder. Limits and sandbox must allow that.
+/// The build folder, in a build that counts which branches the tests take (KAL_COVERAGE); null in all other builds.
+/// When a process exits, it adds its counts to files in this folder. Limits and sandbox must allow that.
 [[nodiscard]] constexpr const char* coverageFolder()
 {
 #if defined(KAL_COVERAGE_FOLDER)
