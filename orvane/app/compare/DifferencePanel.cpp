@@ -90,6 +90,7 @@ void DifferencePanel::buildTopLine(QWidget* page)
     m_filter->setAccessibleName(tr("Filter"));
     m_filter->setToolTip(tr("Shows the rows that contain all of these words"));
     m_filter->setClearButtonEnabled(true);
+    m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
     m_filter->setMaximumWidth(fontMetrics().averageCharWidth() * 40);
     line->addWidget(m_filter, 1);
     m_again->setObjectName(QStringLiteral("compareAgain"));
@@ -174,8 +175,11 @@ void DifferencePanel::showDifferences(NxSceneDifferences differences, const QStr
 void DifferencePanel::sizeColumns()
 {
     constexpr std::array shares{0.36, 0.2, 0.22};
+    constexpr std::array leastCharacters{24, 16, 14};
+    const int character = fontMetrics().averageCharWidth();
     for (std::size_t column = 0; column < shares.size(); ++column)
-        m_view->setColumnWidth(static_cast<int>(column), static_cast<int>(shares.at(column) * width()));
+        m_view->setColumnWidth(static_cast<int>(column),
+            std::max(static_cast<int>(shares.at(column) * width()), leastCharacters.at(column) * character));
 }
 
 void DifferencePanel::showText(const QString& text)

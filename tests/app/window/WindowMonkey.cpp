@@ -97,7 +97,7 @@ void WindowMonkey::act()
 
 void WindowMonkey::askForFile()
 {
-    const int what = below(12);
+    const int what = below(13);
     ++m_done[QStringLiteral("request %1").arg(what)];
     switch (what) {
     case 0:
@@ -119,11 +119,13 @@ void WindowMonkey::askForFile()
     }
     case 7:
         return flow()->closeScene();
+    case 8:
+        return flow()->compareWith(m_files.toRead(m_random()));
     default:
         break;
     }
     static const QStringList dialogs{QStringLiteral("fileSaveAs"), QStringLiteral("fileExport"),
-        QStringLiteral("fileOpen"), QStringLiteral("fileImport")};
+        QStringLiteral("fileOpen"), QStringLiteral("fileImport"), QStringLiteral("fileCompare")};
     m_window->findChild<QAction*>(dialogs.at(below(static_cast<int>(dialogs.size()))))->trigger();
 }
 
