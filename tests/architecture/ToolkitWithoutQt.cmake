@@ -10,9 +10,12 @@ if(dynamic MATCHES "\\[libQt[^]]*\\]")
   message(FATAL_ERROR "${LIBRARY} needs ${CMAKE_MATCH_0}")
 endif()
 execute_process(
-  COMMAND "${NM}" --dynamic --undefined-only --with-symbol-versions "${LIBRARY}"
+  COMMAND "${READELF}" --dyn-syms --wide "${LIBRARY}"
   OUTPUT_VARIABLE symbols
   COMMAND_ERROR_IS_FATAL ANY)
-if(symbols MATCHES "[^ \n]+@+Qt_6[^\n]*")
-  message(FATAL_ERROR "${LIBRARY} refers to ${CMAKE_MATCH_0}")
+if(NOT symbols MATCHES " UND ")
+  message(FATAL_ERROR "${LIBRARY}: no list of symbols found")
+endif()
+if(symbols MATCHES " UND ([^ \n]+@+Qt_6[^ \n]*)")
+  message(FATAL_ERROR "${LIBRARY} refers to ${CMAKE_MATCH_1}")
 endif()
