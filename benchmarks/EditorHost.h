@@ -12,8 +12,8 @@
 
 namespace bench {
 
-/// The host framework with the default plug-in, of which the dock of field editors runs and controls every editor, and
-/// the node of the gallery with a field of every class.
+/// The host framework with the default plug-in. Its profile runs the dock of field editors, which controls every
+/// editor. `node` has a field of every class.
 class EditorHost final : public OrvShell {
 public:
     EditorHost();

@@ -4,7 +4,7 @@
 
 #include <string>
 
-/// A scene from its text; null with the reason in `error` for a text that is none.
+/// Reads a scene from its text. Returns null, with the reason in `error`, if the text isn't a scene.
 inline NxRef<NxGroup> sceneOf(const std::string& text, std::string& error)
 {
     NxSceneReader reader(text, "scene");

@@ -78,7 +78,7 @@ HelperProcess::HelperProcess(const HelperOptions& options, const QStringList& ar
     connect(&m_process, &QProcess::readyReadStandardOutput, this, &HelperProcess::takeOutputOfProcess);
     connect(&m_process, &QProcess::readyReadStandardError, this, &HelperProcess::takeMessagesOfProcess);
     connect(&m_process, &QProcess::finished, this, &HelperProcess::takeEnd);
-    // Queued, since a process that can't be started may say so at once.
+    // Queued, since `start` may report at once that the process can't be started.
     connect(&m_process, &QProcess::errorOccurred, this, &HelperProcess::takeError, Qt::QueuedConnection);
     connect(&m_process, &QProcess::bytesWritten, this, [this] {
         m_patience.start();

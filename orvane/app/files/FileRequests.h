@@ -7,35 +7,35 @@
 #include <functional>
 #include <optional>
 
-/// Something that the user asked for in the File menu or its like.
+/// What the user has requested of the open scene or a file, such as an action of the File menu.
 struct FileRequest {
     enum class Kind { New, Open, Add, Compare, Save, SaveAs, Export, Close, Quit };
-    /// For a request that any scene will do for.
+    /// The `scene` of a request that may run whichever scene is open.
     static constexpr int anyScene = 0;
 
     Kind kind;
-    QString fileName; // empty where the kind has none, or the user is still to choose it
-    int scene; // the number of the scene that it was asked for
+    QString fileName; // empty for a kind without a file, or if the user chooses it later
+    int scene; // the number of the scene that was open then, or `anyScene`
     std::function<void()> run;
-    std::function<void(const QString& reason)> lost = {}; // called in place of `run` when it is given up
+    std::function<void(const QString& reason)> lost = {}; // called instead of `run` if the request is dropped
 
     /// What it does, such as "opening robot.mrd", for a message.
     [[nodiscard]] static QString name(Kind kind, const QString& fileName);
     [[nodiscard]] QString name() const { return name(kind, fileName); }
 };
 
-/// The requests that wait until they can be carried out, in the order in which they were made.
+/// The requests that wait because another is being carried out, in the order in which they were made.
 class FileRequests {
 public:
-    /// Appends a request. One that repeats the last isn't kept, unless it has a `lost` to be called, or adds a model,
-    /// of which a user may want several.
+    /// Appends a request. Ignores one that equals the last, except that a model may be added several times and that a
+    /// request with `lost` is always kept, so that one of its functions is called.
     void push(FileRequest request);
-    /// Takes the first request that may run out of the queue.
+    /// Removes and returns the first request for which `mayRun` returns true.
     [[nodiscard]] std::optional<FileRequest> takeFirst(const std::function<bool(const FileRequest&)>& mayRun);
-    /// Gives up the requests for another scene than the one of that number. The result names those that weren't to
-    /// close it anyway.
+    /// Drops the requests for other scenes than that one. Returns the names of the dropped ones, except for those that
+    /// close a scene, since theirs is closed already.
     QStringList dropOtherScenes(int scene, const QString& reason);
-    /// Gives up the requests that leave the open scene. The result names them.
+    /// Drops the requests that replace or close the open scene. Returns their names.
     QStringList dropLeaving(const QString& reason);
 
 private:
