@@ -5,11 +5,14 @@
 #include "Settle.h"
 #include "Timing.h"
 
+#include "orvane/app/compare/SceneComparer.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/window/MainWindow.h"
 
 #include "meridane/base/NxDelayQueue.h"
+#include "meridane/scene/file/NxSceneReader.h"
+#include "meridane/scene/nodes/NxComplexity.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -46,6 +49,16 @@ public:
         window.openFile(fileName);
         const double longest = longestTurn([&isOpen] { return isOpen; });
         QObject::disconnect(connection);
+        bench::settle();
+        return longest;
+    }
+
+    /// Compares the scene with another and gives the longest time for which the window didn't answer.
+    double compare(const NxRef<NxGroup>& other)
+    {
+        window.compareWith(other, QStringLiteral("other.mrd"));
+        const auto* const comparer = window.findChild<SceneComparer*>();
+        const double longest = longestTurn([comparer] { return !comparer->isWorking(); });
         bench::settle();
         return longest;
     }
@@ -89,6 +102,18 @@ private:
     }
 };
 
+/// The large scene, with one other value or with other values in all nodes.
+NxRef<NxGroup> otherScene(bool allDiffer)
+{
+    NxSceneReader reader(bench::sceneText(bench::largeSceneNodes), "other.mrd");
+    reader.run();
+    NxRef<NxGroup> scene = reader.takeScene();
+    const auto nodes = scene->getChildren().front()->getChildren();
+    for (NxNode* const node : allDiffer ? nodes : nodes.subspan(nodes.size() / 2, 1))
+        dynamic_cast<NxComplexity*>(node)->textureQuality.setValue(1);
+    return scene;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -119,6 +144,16 @@ int main(int argc, char** argv)
         bench::median(smallTimes), 1.1});
     bench::report({"opening 1,000,000 nodes: longest wait of the window", "ms", bench::median(opening), 0, 0});
     bench::report({"closing 1,000,000 nodes: longest wait of the window", "ms", bench::median(closing), 0, 100});
+    tool.open(large);
+    for (const bool allDiffer : {false, true}) {
+        std::vector<double> comparing;
+        const NxRef<NxGroup> other = otherScene(allDiffer);
+        for (int round = 0; round < rounds; ++round)
+            comparing.push_back(tool.compare(other) * millisecondsPerSecond);
+        bench::report({allDiffer ? "comparing 1,000,000 nodes, all different: longest wait of the window"
+                                 : "comparing 1,000,000 nodes, one different: longest wait of the window",
+            "ms", bench::median(comparing), 0, 100});
+    }
     QFile::remove(small);
     QFile::remove(large);
     return 0;

@@ -3,6 +3,7 @@
 #include "meridane/scene/compare/NxSceneDifference.h"
 
 #include <cstddef>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,12 +22,12 @@ public:
     /// For texts that aren't shortened.
     static constexpr std::size_t whole = std::string::npos;
 
-    [[nodiscard]] const std::vector<NxSceneDifference>& list() const noexcept { return m_list; }
+    [[nodiscard]] const std::deque<NxSceneDifference>& list() const noexcept { return m_list; }
     [[nodiscard]] const NxComparedNode& node(const NxSceneDifference& difference) const
     {
         return m_nodes[difference.node];
     }
-    [[nodiscard]] const std::vector<NxComparedNode>& nodes() const noexcept { return m_nodes; }
+    [[nodiscard]] const std::deque<NxComparedNode>& nodes() const noexcept { return m_nodes; }
 
     /// One word for the kind of a difference, such as "added" or "value".
     [[nodiscard]] static const char* kindName(Kind kind);
@@ -53,7 +54,8 @@ public:
 private:
     [[nodiscard]] std::string valueText(const NxSceneDifference& difference, Side side, std::size_t length) const;
 
-    std::vector<NxComparedNode> m_nodes;
-    std::vector<NxSceneDifference> m_list;
+    // Not vectors, which would move a million elements at once as they grow.
+    std::deque<NxComparedNode> m_nodes;
+    std::deque<NxSceneDifference> m_list;
     std::vector<std::string> m_texts;
 };

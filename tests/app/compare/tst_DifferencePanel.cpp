@@ -21,6 +21,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 const char* const oldScene = "#mrd 1.0\n"
@@ -132,7 +134,9 @@ private Q_SLOTS:
     {
         QList<int> chosen;
         connect(m_panel, &DifferencePanel::chosen, m_panel, [&](const NxSceneDifference& difference) {
-            chosen.append(static_cast<int>(&difference - m_panel->model()->differences().list().data()));
+            const auto& list = m_panel->model()->differences().list();
+            const auto isChosen = [&](const NxSceneDifference& listed) { return &listed == &difference; };
+            chosen.append(static_cast<int>(std::find_if(list.begin(), list.end(), isChosen) - list.begin()));
         });
         m_panel->view()->setFocus();
         QCOMPARE(chosen, QList<int>());

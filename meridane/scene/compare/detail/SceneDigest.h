@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/scene/compare/detail/ChunkedList.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
 #include <cstddef>
@@ -71,7 +72,7 @@ private:
     [[nodiscard]] std::uint64_t hashFields(NxNode& node, bool& hasContent);
     [[nodiscard]] std::uint64_t hashClass(const NxNode& node);
 
-    std::vector<Node> m_nodes;
+    ChunkedList<Node> m_nodes;
     std::vector<Slot> m_slots;
     std::vector<OpenNode> m_open; // from the scene on
     std::unordered_map<const NxNode*, std::uint32_t> m_shared; // the numbers of nodes with several references
