@@ -17,6 +17,7 @@
 #include <QTextStream>
 
 #include <cstdlib>
+#include <exception>
 #include <memory>
 #include <typeinfo>
 
@@ -153,9 +154,14 @@ Result<> BatchRun::writeDifferences(const NxRef<NxGroup>& scene)
     const auto second = open(m_commandLine.secondFile);
     if (!second)
         return Failure{second.error()};
-    NxSceneComparison comparison(scene, second.value());
-    comparison.run();
-    const NxSceneDifferences differences = comparison.takeDifferences();
+    NxSceneDifferences differences;
+    try {
+        NxSceneComparison comparison(scene, second.value());
+        comparison.run();
+        differences = comparison.takeDifferences();
+    } catch (const std::exception&) {
+        return Failure{QStringLiteral("The comparison with %1 doesn't fit in memory.").arg(m_commandLine.secondFile)};
+    }
     m_differs = !differences.list().empty();
     const DifferenceListing listing(differences, m_output);
     if (m_commandLine.json)
