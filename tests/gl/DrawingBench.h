@@ -44,6 +44,8 @@ public:
 
     [[nodiscard]] NxSceneDrawing& drawing() { return *m_drawing; }
     [[nodiscard]] const NxGLFunctions& gl() const { return m_gl; }
+    /// A test may replace functions by ones that fail, for drawings that are made afterwards too.
+    [[nodiscard]] NxGLFunctions& gl() { return m_gl; }
     /// Changes the style.
     template <typename Change>
     void restyle(Change change)

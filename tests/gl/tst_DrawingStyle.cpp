@@ -12,6 +12,28 @@ class TestDrawingStyle : public QObject {
 private Q_SLOTS:
     void cleanup() { QCOMPARE(m_bench.takeMessages(), QStringList()); }
 
+    void stylesDifferIfOneMemberDoes()
+    {
+        QVERIFY(NxDrawingStyle() == NxDrawingStyle());
+        using Change = void (*)(NxDrawingStyle&);
+        for (const Change change :
+            std::initializer_list<Change>{[](NxDrawingStyle& style) { style.surfaces = NxDrawingStyle::WIREFRAME; },
+                [](NxDrawingStyle& style) { style.grid = !style.grid; },
+                [](NxDrawingStyle& style) { style.axes = !style.axes; },
+                [](NxDrawingStyle& style) { style.boundingBoxes = !style.boundingBoxes; },
+                [](NxDrawingStyle& style) { style.backgroundBottom = VbColor(1, 0, 0); },
+                [](NxDrawingStyle& style) { style.backgroundTop = VbColor(1, 0, 0); },
+                [](NxDrawingStyle& style) { style.gridColor = VbColor(1, 0, 0); },
+                [](NxDrawingStyle& style) { style.boundingBoxColor = VbColor(1, 0, 0); },
+                [](NxDrawingStyle& style) { style.outlineColor = VbColor(1, 0, 0); },
+                [](NxDrawingStyle& style) { style.outlineWidth = 3; },
+                [](NxDrawingStyle& style) { style.pointSize = 5; }}) {
+            NxDrawingStyle changed;
+            change(changed);
+            QVERIFY(changed != NxDrawingStyle());
+        }
+    }
+
     void wireframeShowsTheSides()
     {
         m_bench.restyle([](NxDrawingStyle& style) { style.surfaces = NxDrawingStyle::WIREFRAME; });

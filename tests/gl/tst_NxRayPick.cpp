@@ -126,6 +126,55 @@ private Q_SLOTS:
         QVERIFY(NxRayPick(rayAt(5.5F, 0.2F)).pick(*m_scene));
     }
 
+    void honoursMatricesThatAreNotAffine_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<float>("number"); // in the last column of the matrix
+        QTest::addColumn<bool>("meetsRight");
+        QTest::addColumn<bool>("meetsAbove");
+        QTest::newRow("along x") << 0 << 0.5F << false << true;
+        QTest::newRow("along y") << 1 << 0.5F << true << false;
+        QTest::newRow("along z") << 2 << 0.5F << true << true; // the triangle has no z
+        QTest::newRow("everywhere") << 3 << 2.F << false << false;
+    }
+    void honoursMatricesThatAreNotAffine()
+    {
+        QFETCH(const int, row);
+        QFETCH(const float, number);
+        QFETCH(const bool, meetsRight);
+        QFETCH(const bool, meetsAbove);
+        VbMatrix matrix;
+        matrix[row][3] = number;
+        const NxRef<NxMatrixTransform> transform(new NxMatrixTransform);
+        transform->matrix.setValue(matrix);
+        transform->addChild(makeTriangle().get());
+        m_scene->addChild(transform.get());
+        QVERIFY(NxRayPick(rayAt(0.2F, 0.2F)).pick(*m_scene));
+        QCOMPARE(NxRayPick(rayAt(1.5F, 0.1F)).pick(*m_scene).has_value(), meetsRight);
+        QCOMPARE(NxRayPick(rayAt(0.1F, 1.5F)).pick(*m_scene).has_value(), meetsAbove);
+    }
+
+    void anIgnoredPrimitiveIsATriangle()
+    {
+        const NxRef<NxMesh> mesh = makeTriangle();
+        mesh->primitive.setValue(NxMesh::POINTS);
+        m_scene->addChild(mesh.get());
+        QVERIFY(!NxRayPick(rayAt(0.5F, 0.5F)).pick(*m_scene));
+        mesh->primitive.setIgnored(1);
+        QVERIFY(NxRayPick(rayAt(0.5F, 0.5F)).pick(*m_scene));
+    }
+
+    void anIgnoredSwitchShowsNoChild()
+    {
+        const NxRef<NxSwitch> choice(new NxSwitch);
+        choice->addChild(makeTriangle().get());
+        choice->whichChild.setValue(0);
+        m_scene->addChild(choice.get());
+        QVERIFY(NxRayPick(rayAt(0.5F, 0.5F)).pick(*m_scene));
+        choice->whichChild.setIgnored(1);
+        QVERIFY(!NxRayPick(rayAt(0.5F, 0.5F)).pick(*m_scene));
+    }
+
     void tellsThePlaceOfASharedNode()
     {
         const NxRef<NxMesh> mesh = makeTriangle();

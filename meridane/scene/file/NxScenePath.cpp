@@ -9,10 +9,10 @@ using meridane::ScenePathStep;
 
 namespace {
 
-/// The state of following a path: the group whose child the next step names, and the text up to there.
+/// The path up to a problem, for its message.
 std::string placeText(std::string_view path, std::size_t end)
 {
-    return end == 0 ? "the scene" : '\'' + std::string(path.substr(0, end)) + '\'';
+    return '\'' + std::string(path.substr(0, end)) + '\'';
 }
 
 NxNode* findNamed(std::span<NxNode* const> children, const ScenePathStep& step, std::string& error)
@@ -47,8 +47,7 @@ NxNode* findIndexed(std::span<NxNode* const> children, const ScenePathStep& step
 void findField(NxScenePath::Target& target, std::string_view path, std::size_t at)
 {
     const std::string name(path.substr(at + 1));
-    NxNode* node = target.node();
-    target.field = node == nullptr ? nullptr : node->getField(VbName(name.c_str()));
+    target.field = target.node()->getField(VbName(name.c_str()));
     if (target.field == nullptr)
         target.error = placeText(path, at) + " has no field '" + name + '\'';
 }

@@ -26,7 +26,11 @@ private Q_SLOTS:
     {
         QVERIFY(VbBox2f(VbVec2f(1, 2), VbVec2f(3, 4)) == VbBox2f(VbVec2f(1, 2), VbVec2f(3, 4)));
         QVERIFY(VbBox2f(VbVec2f(1, 2), VbVec2f(3, 4)) != VbBox2f(VbVec2f(1, 2), VbVec2f(3, 5)));
-        QVERIFY(VbBox3s(VbVec3s(1, 2, 3), VbVec3s()) != VbBox3s());
+        QVERIFY(VbBox2f(VbVec2f(1, 2), VbVec2f(3, 4)) != VbBox2f(VbVec2f(0, 2), VbVec2f(3, 4)));
+        const VbBox3s box(VbVec3s(1, 2, 3), VbVec3s(4, 5, 6));
+        QVERIFY(box == VbBox3s(VbVec3s(1, 2, 3), VbVec3s(4, 5, 6)));
+        QVERIFY(box != VbBox3s(VbVec3s(1, 2, 4), VbVec3s(4, 5, 6)));
+        QVERIFY(box != VbBox3s(VbVec3s(1, 2, 3), VbVec3s(4, 5, 7)));
     }
 };
 

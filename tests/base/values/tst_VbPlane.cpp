@@ -28,6 +28,14 @@ private Q_SLOTS:
         QVERIFY(VbPlane(VbVec3f(0, 1e-40F, 0), 0).getNormal() == VbVec3f(0, 1, 0));
     }
 
+    void comparisonIsByNormalAndDistance()
+    {
+        const VbPlane plane(VbVec3f(1, 0, 0), 2);
+        QVERIFY(plane == VbPlane(VbVec3f(3, 0, 0), 2));
+        QVERIFY(plane != VbPlane(VbVec3f(0, 1, 0), 2));
+        QVERIFY(plane != VbPlane(VbVec3f(1, 0, 0), 3));
+    }
+
     void readingBackChangesNothing()
     {
         for (int i = 1; i < 1000; ++i) {

@@ -40,6 +40,8 @@ private Q_SLOTS:
         QVERIFY(axis == VbVec3f(3, 0, -4));
         QCOMPARE(radians, 100.0F);
         QVERIFY(rotation == VbRotation(VbVec3f(3, 0, -4), 100));
+        QVERIFY(rotation != VbRotation(VbVec3f(3, 0, 4), 100));
+        QVERIFY(rotation != VbRotation(VbVec3f(3, 0, -4), 101));
     }
 
     void aQuaternionGivesAxisAndAngle_data()

@@ -60,6 +60,14 @@ private Q_SLOTS:
         }));
         QVERIFY2(QByteArray::fromStdString(functions.error()).startsWith("OpenGL 3.3 is needed, this is "),
             functions.error().c_str());
+        QVERIFY(!functions.load([](const char* name) -> void* {
+            if (std::string_view(name) == "glGetString")
+                return reinterpret_cast<void*>(PFNGLGETSTRINGPROC([](GLenum) -> const GLubyte* { return nullptr; }));
+            if (std::string_view(name) == "glGetIntegerv")
+                return reinterpret_cast<void*>(PFNGLGETINTEGERVPROC([](GLenum, GLint* value) { *value = 0; }));
+            return NxOffscreenContext::getProcAddress(name);
+        }));
+        QCOMPARE(functions.error(), std::string("OpenGL 3.3 is needed, this is no context"));
         QVERIFY(functions.load(&NxOffscreenContext::getProcAddress));
         QCOMPARE(functions.error(), std::string());
     }

@@ -47,6 +47,33 @@ class TestMeshStore : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void aMeshWithLessDetailKeepsItsColoursAndTexture()
+    {
+        const auto complexity = make<NxComplexity>();
+        complexity->value.setValue(0.1F);
+        const auto colored = ball(0.4F, 20);
+        colored->colors.setValues(
+            std::vector<VbVec4f>(static_cast<std::size_t>(colored->positions.getNum()), {0, 0, 1, 1}));
+        const auto left = make<NxTransform>();
+        left->translation.setValue(VbVec3f(-0.5F, 0, 0));
+        left->addChild(colored.get());
+        const auto textured = ball(0.4F, 20);
+        // All of it shows the lower right pixel.
+        textured->textureCoordinates.setValues(
+            std::vector<VbVec2f>(static_cast<std::size_t>(textured->positions.getNum()), {0.75F, 0.25F}));
+        const auto right = make<NxTransform>();
+        right->translation.setValue(VbVec3f(0.5F, 0, 0));
+        right->addChild(fourPixels().get());
+        right->addChild(textured.get());
+        const auto scene = groupOf({complexity.get(), plain(1, 1, 1).get(), left.get(), right.get()});
+        m_bench.drawing().setScene(scene.get());
+        const QImage picture = m_bench.draw();
+        m_bench.drawing().setScene(nullptr);
+        QVERIFY(isNear(pixelAt(picture, -0.5, 0), blue, 30));
+        QVERIFY(isNear(pixelAt(picture, 0.5, 0), green, 30));
+        QCOMPARE(m_bench.takeMessages(), QStringList());
+    }
+
     void aMeshIsDrawnAsItIsBeforeTheQueueTells_data()
     {
         QTest::addColumn<Edit>("edit");

@@ -187,6 +187,25 @@ private Q_SLOTS:
         QVERIFY(recorder.texts().front().find("more than 6 places") != std::string::npos);
     }
 
+    void nodesWithoutPlacesEndAtALimitToo()
+    {
+        TextRecorder recorder;
+        const HandlerGuard<NxDebugError> guard(TextRecorder::record, &recorder);
+        const NxRef<NxGroup> many = new NxGroup;
+        many->addChild(triangle().get());
+        for (int i = 0; i < 100; ++i)
+            many->addChild(new NxMaterial);
+        many->addChild(triangle(5).get());
+        const NxRef<NxGroup> scene = new NxGroup;
+        scene->addChild(many.get());
+        PlacedScene placed(deaf(), 10);
+        placed.setRoot(scene.get());
+        QCOMPARE(leftSides(placed), Sides{0});
+        QCOMPARE(recorder.texts(),
+            std::vector<std::string>{
+                "The scene has more than 10 places of groups and meshes; the others aren't drawn"});
+    }
+
     void whatWasLeftOutComesInWhenThereIsRoom()
     {
         TextRecorder recorder;

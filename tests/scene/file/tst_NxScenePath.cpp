@@ -106,6 +106,7 @@ private Q_SLOTS:
         row("/robot/Mesh[1]", "'/robot/Mesh[1]': there are 1 children of class Mesh");
         row("/robot/Lamp[0]", "'/robot/Lamp[0]': there are 0 children of class Lamp");
         row("/robot/Mesh[", "'/robot/Mesh': expected an index and \"]\" behind \"[\"");
+        row("/robot/Mesh[1", "'/robot/Mesh': expected an index and \"]\" behind \"[\"");
         row("/robot/Mesh[-1]", "'/robot/Mesh': expected an index and \"]\" behind \"[\"");
         row("/robot/Mesh[x]", "'/robot/Mesh': expected an index and \"]\" behind \"[\"");
         row("/robot/Mesh[99999999999]", "'/robot/Mesh': expected an index and \"]\" behind \"[\"");

@@ -50,8 +50,24 @@ private Q_SLOTS:
         const QString face = QString::fromUtf8("\xF0\x9F\x98\x80");
         QCOMPARE(face.size(), 2);
         QCOMPARE(orvane::fittingText(face.repeated(30), metrics, 1), face + QStringLiteral("..."));
-        const QString shown = orvane::fittingText(face.repeated(30), metrics, 80);
-        QCOMPARE(shown.chopped(3).size() % 2, 0);
+        for (int room = 20; room < 120; ++room) {
+            const QString shown = orvane::fittingText(face.repeated(30), metrics, room);
+            QCOMPARE(shown.chopped(3).size() % 2, 0);
+        }
+    }
+
+    void halfACharacterIsACharacter_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("first half") << QString(QChar(0xD83D)) + QStringLiteral("wide");
+        QTest::newRow("second half") << QString(QChar(0xDE00)) + QStringLiteral("wide");
+    }
+    void halfACharacterIsACharacter()
+    {
+        QFETCH(const QString, text);
+        const QFontMetrics metrics(QApplication::font());
+        QCOMPARE(orvane::fittingText(text, metrics, 0), text.left(1) + QStringLiteral("..."));
+        QCOMPARE(orvane::fittingText(text.left(1), metrics, 0), text.left(1) + QStringLiteral("..."));
     }
 
     void longTextIsShownLikeItsBeginning()

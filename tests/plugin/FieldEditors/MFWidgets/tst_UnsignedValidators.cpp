@@ -47,7 +47,16 @@ private Q_SLOTS:
 
     void rangeCanBeSet()
     {
-        QUIntValidator validator(nullptr);
+        QUIntValidator ofInts(nullptr);
+        checkRangeOf(ofInts);
+        QULongValidator ofLongs(nullptr);
+        checkRangeOf(ofLongs);
+    }
+
+private:
+    template <typename Validator>
+    void checkRangeOf(Validator& validator)
+    {
         const QSignalSpy changes(&validator, &QValidator::changed);
         validator.setRange(5, 6);
         QString text = QStringLiteral("7");
@@ -56,6 +65,10 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), 1);
         validator.setRange(5, 6);
         QCOMPARE(changes.count(), 1);
+        validator.setRange(5, 7);
+        QCOMPARE(validator.validate(text, position), QValidator::Acceptable);
+        validator.setRange(6, 7);
+        QCOMPARE(changes.count(), 3);
     }
 };
 
