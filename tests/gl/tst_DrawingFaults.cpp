@@ -264,7 +264,7 @@ private Q_SLOTS:
         filterCalls = 0;
         const QImage picture = m_bench.draw();
         QVERIFY(isNear(pixelAt(picture, -0.75, -0.5), red, 64));
-        COMPARE_PIXEL(picture, 0.75, 0.5, white);
+        QVERIFY(isNear(pixelAt(picture, 0.75, 0.5), white, 64));
         QCOMPARE(filterCalls, hasNoAnisotropy ? 0 : 2);
     }
 

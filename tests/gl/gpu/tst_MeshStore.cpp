@@ -66,12 +66,12 @@ private Q_SLOTS:
         right->addChild(fourPixels().get());
         right->addChild(textured.get());
         const auto scene = groupOf({complexity.get(), plain(1, 1, 1).get(), left.get(), right.get()});
-        m_bench.drawing().setScene(scene.get());
-        const QImage picture = m_bench.draw();
-        m_bench.drawing().setScene(nullptr);
+        DrawingBench bench;
+        bench.drawing().setScene(scene.get());
+        const QImage picture = bench.draw();
         QVERIFY(isNear(pixelAt(picture, -0.5, 0), blue, 30));
         QVERIFY(isNear(pixelAt(picture, 0.5, 0), green, 30));
-        QCOMPARE(m_bench.takeMessages(), QStringList());
+        QCOMPARE(bench.takeMessages(), QStringList());
     }
 
     void aMeshIsDrawnAsItIsBeforeTheQueueTells_data()
