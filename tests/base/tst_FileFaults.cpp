@@ -1,3 +1,4 @@
+#include "base/AccessControlList.h"
 #include "base/FailingCalls.h"
 #include "base/FolderCase.h"
 #include "base/OrdinaryUser.h"
@@ -128,6 +129,66 @@ private Q_SLOTS:
         const Scope scope({"fstat", EIO});
         FileReader reader;
         QCOMPARE(reader.open(path("file")).value_or("no message"), path("file") + ": Input/output error");
+    }
+
+    void aListOfRightsThatCannotBeSetLeavesTheUserAlone()
+    {
+        const std::string list = accessControlList({{1, 6, -1}, {2, 6, 1234}, {4, 4, -1}, {16, 6, -1}, {32, 4, -1}});
+        if (::setxattr(path("file").c_str(), "system.posix_acl_access", list.data(), list.size(), 0) != 0)
+            QSKIP("the file system keeps no access control lists");
+        {
+            const Scope scope({"fsetxattr", EPERM});
+            QVERIFY(!replace(path("file"), "new"));
+        }
+        struct stat status { };
+        QCOMPARE(::stat(path("file").c_str(), &status), 0);
+        QCOMPARE(status.st_mode & 07777U, 0600U);
+    }
+
+    void aGroupThatCannotBeSetLosesWhatOthersLack()
+    {
+        if (::geteuid() != 0)
+            QSKIP("takes the rights of the super user");
+        constexpr uid_t nobody = 65534;
+        QCOMPARE(::chown(path("file").c_str(), nobody, 4321), 0);
+        QCOMPARE(::chmod(path("file").c_str(), 06664), 0);
+        QCOMPARE(::chmod(m_folder->path().toLocal8Bit().constData(), 0777), 0);
+        {
+            const OrdinaryUser user;
+            QVERIFY(user.isReady());
+            QCOMPARE(replace(path("file"), "new").value_or("no message"), std::string("no message"));
+        }
+        struct stat status { };
+        QCOMPARE(::stat(path("file").c_str(), &status), 0);
+        QCOMPARE(status.st_uid, nobody);
+        QCOMPARE(status.st_mode & 07777U, 0644U);
+    }
+
+    void aListOfRightsOfAGroupThatCannotBeSetLeavesTheUserAlone()
+    {
+        if (::geteuid() != 0)
+            QSKIP("takes the rights of the super user");
+        constexpr uid_t nobody = 65534;
+        const std::string list = accessControlList({{1, 6, -1}, {2, 6, 1234}, {4, 4, -1}, {16, 6, -1}, {32, 4, -1}});
+        if (::setxattr(path("file").c_str(), "system.posix_acl_access", list.data(), list.size(), 0) != 0)
+            QSKIP("the file system keeps no access control lists");
+        QCOMPARE(::chown(path("file").c_str(), nobody, 4321), 0);
+        QCOMPARE(::chmod(m_folder->path().toLocal8Bit().constData(), 0777), 0);
+        {
+            const OrdinaryUser user;
+            QVERIFY(user.isReady());
+            QCOMPARE(replace(path("file"), "new").value_or("no message"), std::string("no message"));
+        }
+        struct stat status { };
+        QCOMPARE(::stat(path("file").c_str(), &status), 0);
+        QCOMPARE(status.st_mode & 07777U, 0600U);
+    }
+
+    void aNewFileWhoseStatusCannotBeReadGetsTheNextName()
+    {
+        const Scope scope({"fstat", EIO});
+        QCOMPARE(replace(path("file"), "new").value_or("no message"), std::string("no message"));
+        QCOMPARE(contentOf("file"), QByteArray("new"));
     }
 
     void theFileOfAKilledProcessIsRemoved()

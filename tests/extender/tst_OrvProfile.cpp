@@ -32,6 +32,22 @@ class TestOrvProfile : public QObject {
     }
 
 private Q_SLOTS:
+    void theFirstOfTwoEntriesCounts()
+    {
+        OrvProfile profile(u"P"_s, {{u"a"_s, true, {u"b"_s}}, {u"a"_s, false, {}}});
+        profile.resolve(m_extensions);
+        QCOMPARE(controlledBy(profile, m_a), u"b"_s);
+    }
+
+    void aFileThatCannotBeReadIsReported()
+    {
+        // Nothing is at its beginning, which is the address zero.
+        const QString fileName = u"/proc/self/mem"_s;
+        const auto result = OrvProfile::read(fileName);
+        QVERIFY(result.profile == nullptr);
+        QCOMPARE(result.error, fileName + u": Input/output error"_s);
+    }
+
     void namesBecomeSettings_data()
     {
         QTest::addColumn<QByteArray>("extensions");

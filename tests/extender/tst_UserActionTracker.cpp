@@ -240,6 +240,19 @@ private Q_SLOTS:
         QCOMPARE(steps(), 2);
     }
 
+    void aKeyIsKnownByItsScanCode()
+    {
+        // The release of a letter comes without the modifier key that was held at its press.
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Right, Qt::ShiftModifier, 38, 0, 0);
+        press.setTimestamp(7000000);
+        QCoreApplication::sendEvent(&m_window->slider, &press);
+        QKeyEvent release(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, 38, 0, 0);
+        QCoreApplication::sendEvent(&m_window->slider, &release);
+        QCoreApplication::processEvents();
+        m_window->push();
+        QCOMPARE(steps(), m_window->pushed);
+    }
+
     void aKeyWhoseReleaseWasLostBeginsANewStep()
     {
         sendKey(QEvent::KeyPress, 0);
