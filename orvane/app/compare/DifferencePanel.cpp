@@ -221,7 +221,7 @@ void DifferencePanel::copySelected()
             rows.push_back(row);
     }
     std::sort(rows.begin(), rows.end());
-    copy(std::move(rows));
+    copy(rows);
 }
 
 void DifferencePanel::copyAll()
@@ -229,10 +229,10 @@ void DifferencePanel::copyAll()
     std::vector<int> rows(static_cast<std::size_t>(m_model->rowCount()));
     for (std::size_t row = 0; row < rows.size(); ++row)
         rows[row] = static_cast<int>(row);
-    copy(std::move(rows));
+    copy(rows);
 }
 
-void DifferencePanel::copy(std::vector<int> rows)
+void DifferencePanel::copy(const std::vector<int>& rows)
 {
     if (rows.empty())
         return;

@@ -51,7 +51,7 @@ private:
     void showText(const QString& text);
     void updateHeading();
     void choose(int row);
-    void copy(std::vector<int> rows);
+    void copy(const std::vector<int>& rows);
 
     JobBar& m_jobBar;
     DifferenceModel* m_model;
