@@ -97,7 +97,7 @@ void WindowMonkey::act()
 
 void WindowMonkey::askForFile()
 {
-    const int what = below(13);
+    const int what = below(12);
     ++m_done[QStringLiteral("request %1").arg(what)];
     switch (what) {
     case 0:
@@ -119,8 +119,6 @@ void WindowMonkey::askForFile()
     }
     case 7:
         return flow()->closeScene();
-    case 8:
-        return flow()->compareWith(m_files.toRead(m_random()));
     default:
         break;
     }
