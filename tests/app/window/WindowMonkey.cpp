@@ -186,7 +186,8 @@ QDialog* WindowMonkey::openDialog() const
 {
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     static const QSet<QString> ours{QStringLiteral("saveQuestion"), QStringLiteral("saveDialog"),
-        QStringLiteral("openDialog"), QStringLiteral("importDialog"), QStringLiteral("exportDialog")};
+        QStringLiteral("openDialog"), QStringLiteral("importDialog"), QStringLiteral("exportDialog"),
+        QStringLiteral("compareDialog")};
     return dialog != nullptr && ours.contains(dialog->objectName()) ? dialog : nullptr;
 }
 
