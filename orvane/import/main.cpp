@@ -78,7 +78,7 @@ int readModel(const std::string& path, bool packed)
         return fail(error);
     // The end of the process frees all memory at once, which is faster than freeing it block by block. Only the leak
     // check needs that, and the counts of branches, which are written then.
-    if constexpr (!orvane::isSanitized() && orvane::coverageFolder() == nullptr)
+    if constexpr (!orvane::isSanitized() && orvane::coverageFolder().empty())
         std::_Exit(Success);
     return Success;
 }

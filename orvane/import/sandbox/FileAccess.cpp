@@ -105,8 +105,8 @@ bool restrictFiles(const std::vector<std::string>& readableFolders)
         for (const std::string& folder : foldersOfTheSanitizer())
             allow(ruleSet, folder, reading);
     }
-    if constexpr (coverageFolder() != nullptr)
-        allow(ruleSet, coverageFolder(), readFiles | writeFiles | createFiles);
+    if constexpr (!coverageFolder().empty())
+        allow(ruleSet, std::string(coverageFolder()), readFiles | writeFiles | createFiles);
     const bool restricted = prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && syscall(restrictSelfCall, ruleSet, 0U) == 0;
     close(ruleSet);
     return restricted;

@@ -65,7 +65,7 @@ void applyLimits(const ProcessLimits& limits)
     if (!isSanitized())
         setLimit(RLIMIT_NPROC, 0);
     // A redirected standard output is a file that the user wants written.
-    if (!writesToAFile() && coverageFolder() == nullptr)
+    if (!writesToAFile() && coverageFolder().empty())
         setLimit(RLIMIT_FSIZE, 0);
     // A refused write must return an error and not kill the process.
     std::signal(SIGXFSZ, SIG_IGN);

@@ -123,7 +123,7 @@ bool filterSystemCalls()
     allowTheProcessItself(rules);
     if constexpr (isSanitized())
         allowTheSanitizer(rules);
-    if constexpr (coverageFolder() != nullptr)
+    if constexpr (!coverageFolder().empty())
         allowCounting(rules);
     return rules.load();
 }

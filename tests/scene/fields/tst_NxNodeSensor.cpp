@@ -101,6 +101,23 @@ private Q_SLOTS:
         QVERIFY(sensor.getAttachedNode() == nullptr);
     }
 
+    void attachingToTheSameNodeAgainKeepsWhatIsDue()
+    {
+        Watched watched;
+        watched.node->size.setValue(2);
+        watched.sensor.attach(watched.node.get());
+        QCOMPARE(watched.take(), 1);
+    }
+
+    void attachingToNothingDetaches()
+    {
+        Watched watched;
+        watched.node->size.setValue(2);
+        watched.sensor.attach(nullptr);
+        QVERIFY(watched.sensor.getAttachedNode() == nullptr);
+        QCOMPARE(watched.take(), 0);
+    }
+
     void attachingElsewhereGivesTheFormerNodeUp()
     {
         Watched watched;
