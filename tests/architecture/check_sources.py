@@ -27,12 +27,21 @@ ALLOWED_CIRCLES = {
         "meridane/base/NxDelayQueue",
         "meridane/base/NxDelayQueueSensor",
     },
-    "a field knows its container, a container describes its fields, and both notify their sensors": {
+    "a field knows its container, a container describes its fields, both notify their sensors and record their changes": {
+        "meridane/scene/fields/ChangeRecord",
+        "meridane/scene/fields/ChangeRecorder",
         "meridane/scene/fields/NxField",
         "meridane/scene/fields/NxFieldContainer",
         "meridane/scene/fields/NxFieldData",
         "meridane/scene/fields/NxFieldSensor",
         "meridane/scene/fields/NxNodeSensor",
+        "meridane/scene/fields/detail/FieldRecords",
+        "meridane/scene/fields/detail/IgnoredRecord",
+        "meridane/scene/fields/detail/NameRecord",
+    },
+    "a group records the changes of its children, and a record takes them back": {
+        "meridane/scene/nodes/ChildrenRecord",
+        "meridane/scene/nodes/NxGroup",
     },
     "a multi-value editor makes its table, and table and delegate are made with the editor that they ask for texts": {
         "src/FieldEditors/MFWidgets/DvMFColorTable",

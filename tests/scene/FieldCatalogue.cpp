@@ -49,6 +49,7 @@
 #include "meridane/scene/fields/single/NxSFVec3f.h"
 #include "meridane/scene/fields/single/NxSFVec3s.h"
 #include "meridane/scene/fields/single/NxSFVec4f.h"
+#include "meridane/scene/nodes/NxNode.h"
 #include "meridane/scene/text/NxEnumeration.h"
 
 #include <QTest>
@@ -58,7 +59,7 @@
 namespace {
 
 template <typename Field>
-class CatalogueNode final : public NxFieldContainer {
+class CatalogueNode final : public NxNode {
 public:
     CatalogueNode()
         : m_field(makeField())
@@ -68,8 +69,7 @@ public:
     [[nodiscard]] NxType getTypeId() const override
     {
         static const std::string name = std::string("CatalogueNodeOf") + Field::getClassTypeId().getName().getString();
-        static const NxType type
-            = NxType::registerClass(name.c_str(), NxFieldContainer::getClassTypeId(), &make<NxTypedObject>);
+        static const NxType type = NxType::registerClass(name.c_str(), NxNode::getClassTypeId(), &make<NxTypedObject>);
         return type;
     }
     [[nodiscard]] NxFieldData* getFieldData() override

@@ -42,6 +42,7 @@ public:
     {
         if (index < 0 || index >= getNum())
             return false;
+        recordRow(index);
         m_values[static_cast<std::size_t>(index)] = value;
         touch();
         return true;
@@ -57,6 +58,7 @@ public:
     /// Returns all values without a copy, leaves the list empty and notifies the observers once.
     [[nodiscard]] std::vector<Value> takeValues()
     {
+        recordValue();
         std::vector<Value> values = std::exchange(m_values, {});
         touch();
         return values;
@@ -72,6 +74,7 @@ public:
     [[nodiscard]] std::size_t valueBytes() const override;
     Progress readText(TextReader& reader, bool first, std::size_t budget) override;
     bool writeText(std::string& text, std::size_t& position, std::size_t budget) const override;
+    [[nodiscard]] std::unique_ptr<ChangeRecord> recordOfValue() override;
 
 protected:
     [[nodiscard]] const Format& format() const noexcept { return m_format; }
@@ -81,6 +84,18 @@ protected:
 private:
     bool assignText(TextReader& reader) override;
     bool assign1Text(int index, TextReader& reader) override;
+    /// Reports a row that is about to change.
+    void recordRow(int row)
+    {
+        if (ChangeRecorder::attached() != nullptr) [[unlikely]]
+            makeRecordOfRow(row);
+    }
+    void makeRecordOfRow(int row);
+    /// Reports that `count` new values are about to replace the rows from `first` to before `end`. Returns the recorder
+    /// if it took a record, so that it can be withdrawn.
+    ChangeRecorder* recordRows(std::size_t first, std::size_t end, std::size_t count);
+    /// Replaces the list. The old one is moved to the record of the change if there is one.
+    void replace(std::vector<Value>&& values);
     Progress readNextValue(std::vector<Value>& values, TextReader& reader, std::size_t maximum) const;
     Progress readValues(std::vector<Value>& values, TextReader& reader, bool first, std::size_t budget) const;
 

@@ -6,6 +6,7 @@
 #include "meridane/scene/fields/NxFieldContainer.h"
 #include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/NxFieldSensor.h"
+#include "meridane/scene/fields/detail/IgnoredRecord.h"
 #include "meridane/scene/text/TextReader.h"
 
 #include <limits>
@@ -56,8 +57,28 @@ void NxField::setIgnored(int flag)
     const bool ignored = flag != 0;
     if (ignored == m_ignored)
         return;
+    if (!m_isIgnoredRecorded) {
+        if (meridane::ChangeRecorder* const recorder = meridane::ChangeRecorder::of(m_container)) {
+            recorder->add(std::make_unique<meridane::IgnoredRecord>(*this));
+            m_isIgnoredRecorded = true;
+        }
+    }
     m_ignored = ignored;
     touch();
+}
+
+meridane::ChangeRecorder* NxField::recorder() const
+{
+    return m_isRecorded ? nullptr : meridane::ChangeRecorder::of(m_container);
+}
+
+void NxField::makeRecord()
+{
+    meridane::ChangeRecorder* const recorder = meridane::ChangeRecorder::of(m_container);
+    if (recorder == nullptr)
+        return;
+    recorder->add(recordOfValue());
+    m_isRecorded = true;
 }
 
 bool NxField::isDefault() const

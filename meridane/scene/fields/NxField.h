@@ -1,9 +1,11 @@
 #pragma once
 
 #include "meridane/base/types/NxTypedObject.h"
+#include "meridane/scene/fields/ChangeRecorder.h"
 #include "meridane/scene/fields/detail/SensorList.h"
 
 #include <cstddef>
+#include <memory>
 #include <string>
 
 class NxFieldContainer;
@@ -11,8 +13,12 @@ class NxFieldSensor;
 class VbString;
 
 namespace meridane {
+class ChangeRecord;
+class IgnoredRecord;
+template <typename Value>
+class ValueRecord;
 class TextReader;
-}
+} // namespace meridane
 
 /// One named value, or list of values, of a node.
 ///
@@ -53,6 +59,9 @@ public:
     /// Notifies the observers that the value changed.
     void touch();
 
+    /// A record with a copy of the present value, which keeps the node alive. The field must have one.
+    [[nodiscard]] virtual std::unique_ptr<meridane::ChangeRecord> recordOfValue() = 0;
+
     /// The result of a slice of reading.
     enum class Progress { Done, More, Failed };
 
@@ -65,6 +74,20 @@ public:
     virtual bool writeText(std::string& text, std::size_t& position, std::size_t budget) const = 0;
 
 protected:
+    /// Reports the value to the attached recorder if it follows the node. Every write calls it directly before it
+    /// changes the value; further writes within a step of the recorder report nothing. May throw `std::bad_alloc`, then
+    /// the value must not be changed.
+    void recordValue()
+    {
+        if (meridane::ChangeRecorder::attached() != nullptr && !m_isRecorded) [[unlikely]]
+            makeRecord();
+    }
+    /// The attached recorder if the next write needs a record, otherwise null. For classes that record less than the
+    /// whole value.
+    [[nodiscard]] meridane::ChangeRecorder* recorder() const;
+    /// Notes that the recorder has the whole value, so that the further writes of the step need no record.
+    void noteRecorded() noexcept { m_isRecorded = true; }
+
     /// Whether the other field is of the same class, so that it may be cast to it. The types of two classes that
     /// couldn't be registered are equal, though the classes aren't.
     [[nodiscard]] bool isOfSameClass(const NxField& other) const;
@@ -75,6 +98,11 @@ protected:
 
 private:
     friend class NxFieldSensor;
+    friend class meridane::IgnoredRecord;
+    template <typename Value>
+    friend class meridane::ValueRecord;
+
+    void makeRecord();
 
     /// Reads the text into a new value first, so that the present one is kept if the text doesn't parse.
     virtual bool assignText(meridane::TextReader& reader) = 0;
@@ -82,6 +110,8 @@ private:
     NxFieldContainer* m_container;
     meridane::SensorList<NxFieldSensor> m_sensors;
     bool m_ignored = false;
+    bool m_isRecorded = false; // the recorder has the whole value from before the present step
+    bool m_isIgnoredRecorded = false; // and the flag
 };
 
 /// The first line in the declaration of a field class: `NX_FIELD(NxSFFloat)`.

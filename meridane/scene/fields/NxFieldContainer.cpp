@@ -1,9 +1,11 @@
 #include "meridane/scene/fields/NxFieldContainer.h"
 
 #include "meridane/base/values/VbName.h"
+#include "meridane/scene/fields/ChangeRecorder.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/NxNodeSensor.h"
+#include "meridane/scene/fields/detail/NameRecord.h"
 
 #include <utility>
 
@@ -22,6 +24,8 @@ NxFieldContainer::NxFieldContainer()
 
 NxFieldContainer::~NxFieldContainer()
 {
+    if (m_recorderNumber != 0 && meridane::ChangeRecorder::attached() != nullptr)
+        meridane::ChangeRecorder::attached()->forget(*this);
     if (m_rare)
         m_rare->sensors.dyingReference();
 }
@@ -34,6 +38,12 @@ void NxFieldContainer::unref() const
 
 void NxFieldContainer::setName(const VbString& name)
 {
+    if (m_isNameRecorded == 0) {
+        if (meridane::ChangeRecorder* const recorder = meridane::ChangeRecorder::of(this)) {
+            recorder->add(std::make_unique<meridane::NameRecord>(*this));
+            m_isNameRecorded = 1;
+        }
+    }
     m_name = name;
     noteStructureChange();
     touch();

@@ -14,6 +14,11 @@ class NxFieldData;
 class NxNodeSensor;
 class VbName;
 
+namespace meridane {
+class ChangeRecorder;
+class NameRecord;
+} // namespace meridane
+
 /// The owner of fields: a node of the scene, with a name and a count of references.
 ///
 /// A new container has no reference; the last `unref` deletes it. Thread of the user interface only.
@@ -67,6 +72,8 @@ protected:
 private:
     friend class NxField;
     friend class NxNodeSensor;
+    friend class meridane::ChangeRecorder;
+    friend class meridane::NameRecord;
 
     /// Data that few nodes have; allocated with the first sensor or unknown field.
     struct Rare {
@@ -79,6 +86,8 @@ private:
     static std::uint64_t s_structureRevision;
 
     mutable int m_references = 0;
+    std::uint32_t m_recorderNumber : 31 = 0; // belongs to the recorder of changes
+    std::uint32_t m_isNameRecorded : 1 = 0; // the recorder has the name from before the present step
     VbString m_name;
     std::unique_ptr<Rare> m_rare;
 };

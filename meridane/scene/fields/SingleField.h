@@ -29,6 +29,7 @@ public:
     /// Sets the value and notifies the observers, even if the value is the same.
     void setValue(Read value)
     {
+        recordValue();
         m_value = value;
         touch();
     }
@@ -38,6 +39,7 @@ public:
     [[nodiscard]] std::size_t valueBytes() const override;
     Progress readText(TextReader& reader, bool first, std::size_t budget) override;
     bool writeText(std::string& text, std::size_t& position, std::size_t budget) const override;
+    [[nodiscard]] std::unique_ptr<ChangeRecord> recordOfValue() override;
 
 protected:
     [[nodiscard]] const Format& format() const noexcept { return m_format; }

@@ -1,6 +1,10 @@
 #include "meridane/scene/nodes/NxGroup.h"
 
+#include "meridane/scene/fields/ChangeRecorder.h"
+#include "meridane/scene/nodes/ChildrenRecord.h"
+
 #include <algorithm>
+#include <memory>
 #include <unordered_set>
 
 NX_NODE_SOURCE(NxGroup, NxNode, "Group")
@@ -10,6 +14,13 @@ namespace {
 NxGroup* asGroup(NxNode* node)
 {
     return node->isOfType(NxGroup::getClassTypeId()) ? static_cast<NxGroup*>(node) : nullptr;
+}
+
+/// Makes room for one more, so that adding it can't fail.
+void makeRoom(std::vector<NxNode*>& nodes)
+{
+    if (nodes.size() == nodes.capacity())
+        nodes.reserve(2 * nodes.size() + 1);
 }
 
 /// Whether `wanted` is below `top`. Keeps its own stack, since nodes may be nested deeply.
@@ -90,6 +101,9 @@ bool NxGroup::insertChild(NxNode* node, int index)
     // A group without parents closes no cycle, so that scenes can be built from the bottom up without a search.
     if (m_places > 0 && holds(node, this))
         return false;
+    makeRoom(m_children);
+    const auto place = static_cast<std::size_t>(index);
+    recordChildren(place, place, std::span(&node, 1));
     m_children.insert(m_children.begin() + index, node);
     hold(node);
     noteChildrenChange();
@@ -102,6 +116,8 @@ bool NxGroup::removeChild(int index)
     NxNode* child = getChild(index);
     if (child == nullptr)
         return false;
+    const auto place = static_cast<std::size_t>(index);
+    recordChildren(place, place + 1, {});
     m_children.erase(m_children.begin() + index);
     noteChildrenChange();
     touch();
@@ -113,12 +129,24 @@ void NxGroup::removeAllChildren()
 {
     if (m_children.empty())
         return;
+    recordChildren(0, m_children.size(), {});
     std::vector<NxNode*> children;
     children.swap(m_children);
     noteChildrenChange();
     touch();
     for (NxNode* child : children)
         release(child);
+}
+
+void NxGroup::recordChildren(std::size_t first, std::size_t end, std::span<NxNode* const> nodes)
+{
+    meridane::ChangeRecorder* const recorder = meridane::ChangeRecorder::of(this);
+    if (recorder == nullptr)
+        return;
+    auto record = std::make_unique<meridane::ChildrenRecord>(
+        *this, first, nodes.size(), std::span<NxNode* const>(m_children).subspan(first, end - first));
+    recorder->follow(nodes);
+    recorder->add(std::move(record));
 }
 
 void NxGroup::appendUnchecked(NxNode* node, NxGroup* group)

@@ -4,6 +4,7 @@
 
 namespace meridane {
 
+class ChildrenRecord;
 class SceneParser;
 
 } // namespace meridane
@@ -40,11 +41,15 @@ protected:
     ~NxGroup() override;
 
 private:
+    friend class meridane::ChildrenRecord;
     friend class meridane::SceneParser;
 
     /// For a node that is known not to contain this group; `group` is the same node, or null if it is none.
     void appendUnchecked(NxNode* node, NxGroup* group);
     void noteChildrenChange() noexcept;
+    /// Reports that these nodes are about to replace the children from `first` to before `end`. The new ones are
+    /// followed from then on.
+    void recordChildren(std::size_t first, std::size_t end, std::span<NxNode* const> nodes);
     static void hold(NxNode* node);
     static void release(NxNode* node);
 

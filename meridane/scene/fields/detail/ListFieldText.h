@@ -3,6 +3,7 @@
 #include "meridane/base/values/VbString.h"
 #include "meridane/scene/fields/ListField.h"
 #include "meridane/scene/fields/MemoryGuard.h"
+#include "meridane/scene/fields/detail/FieldRecords.h"
 #include "meridane/scene/text/detail/ValueBits.h"
 
 #include <algorithm>
@@ -29,6 +30,7 @@ void ListField<Value, Format>::deleteValues(int start, int count)
     const long long end = count == -1 ? getNum() : std::min<long long>(static_cast<long long>(start) + count, getNum());
     if (first >= end)
         return;
+    recordRows(static_cast<std::size_t>(first), static_cast<std::size_t>(end), 0);
     m_values.erase(m_values.begin() + first, m_values.begin() + end);
     touch();
 }
@@ -48,7 +50,15 @@ void ListField<Value, Format>::insertCopies(int start, int count, const Value& v
     const bool fits = withinMemory((m_values.size() + number) * sizeof(Value), [&] {
         if (!canHave(m_values.size() + number))
             throw std::bad_alloc();
-        m_values.insert(m_values.begin() + std::clamp(start, 0, getNum()), number, value);
+        const auto place = static_cast<std::size_t>(std::clamp(start, 0, getNum()));
+        ChangeRecorder* const changes = recordRows(place, place, number);
+        try {
+            m_values.insert(m_values.begin() + static_cast<std::ptrdiff_t>(place), number, value);
+        } catch (...) {
+            if (changes != nullptr)
+                changes->withdraw();
+            throw;
+        }
         return true;
     });
     if (fits)
@@ -70,7 +80,7 @@ bool ListField<Value, Format>::setValues(std::vector<Value>&& values)
 {
     if (!canHave(values.size()))
         return reportMemory(values.size() * sizeof(Value));
-    m_values = std::move(values);
+    replace(std::move(values));
     touch();
     return true;
 }
@@ -194,7 +204,7 @@ bool ListField<Value, Format>::assignText(TextReader& reader)
     if (readValues(values, reader, true, std::numeric_limits<std::size_t>::max()) != Progress::Done
         || !reader.expectEnd())
         return false;
-    m_values = std::move(values);
+    replace(std::move(values));
     return true;
 }
 
@@ -204,8 +214,48 @@ bool ListField<Value, Format>::assign1Text(int index, TextReader& reader)
     Value value{};
     if (!m_format.readWhole(reader, value))
         return false;
+    recordRow(index);
     m_values[static_cast<std::size_t>(index)] = std::move(value);
     return true;
+}
+
+template <typename Value, typename Format>
+std::unique_ptr<ChangeRecord> ListField<Value, Format>::recordOfValue()
+{
+    return std::make_unique<ValueRecord<std::vector<Value>>>(*this, m_values, m_values);
+}
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::makeRecordOfRow(int row)
+{
+    const auto first = static_cast<std::size_t>(row);
+    ChangeRecorder* const changes = recorder();
+    if (changes == nullptr || changes->hasRow(*this, row))
+        return;
+    changes->add(std::make_unique<RowsRecord<Value>>(*this, m_values, first, 1, std::vector<Value>{m_values[first]}));
+    changes->noteRow(*this, row);
+}
+
+template <typename Value, typename Format>
+ChangeRecorder* ListField<Value, Format>::recordRows(std::size_t first, std::size_t end, std::size_t count)
+{
+    ChangeRecorder* const changes = recorder();
+    if (changes == nullptr)
+        return nullptr;
+    const auto begin = m_values.begin();
+    std::vector<Value> rows(begin + static_cast<std::ptrdiff_t>(first), begin + static_cast<std::ptrdiff_t>(end));
+    changes->add(std::make_unique<RowsRecord<Value>>(*this, m_values, first, count, std::move(rows)));
+    return changes;
+}
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::replace(std::vector<Value>&& values)
+{
+    if (ChangeRecorder* const changes = recorder()) {
+        changes->add(std::make_unique<ValueRecord<std::vector<Value>>>(*this, m_values, std::move(m_values)));
+        noteRecorded();
+    }
+    m_values = std::move(values);
 }
 
 } // namespace meridane

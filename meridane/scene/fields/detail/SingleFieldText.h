@@ -2,6 +2,7 @@
 
 #include "meridane/scene/fields/MemoryGuard.h"
 #include "meridane/scene/fields/SingleField.h"
+#include "meridane/scene/fields/detail/FieldRecords.h"
 #include "meridane/scene/text/detail/ValueBits.h"
 
 #include <type_traits>
@@ -22,6 +23,7 @@ bool SingleField<Value, Format>::copyFrom(const NxField& other)
         return false;
     const Value& value = static_cast<const SingleField&>(other).m_value;
     const bool fits = withinMemory(bytesOfValue(value), [&] {
+        recordValue();
         m_value = value;
         return true;
     });
@@ -62,8 +64,15 @@ bool SingleField<Value, Format>::assignText(TextReader& reader)
     Value value{};
     if (!m_format.readWhole(reader, value))
         return false;
+    recordValue();
     m_value = std::move(value);
     return true;
+}
+
+template <typename Value, typename Format>
+std::unique_ptr<ChangeRecord> SingleField<Value, Format>::recordOfValue()
+{
+    return std::make_unique<ValueRecord<Value>>(*this, m_value, m_value);
 }
 
 } // namespace meridane

@@ -2,6 +2,7 @@
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/fields/MemoryGuard.h"
+#include "meridane/scene/fields/detail/FieldRecords.h"
 #include "meridane/scene/text/TextReader.h"
 
 #include <algorithm>
@@ -46,13 +47,14 @@ bool NxSFImage::setValue(const VbVec2s& size, int components, std::vector<unsign
     const Image image{size, components, {}};
     if (!image.isValid() || bytes.size() != image.byteCount())
         return false;
-    m_image = {size, components, std::move(bytes)};
+    replace({size, components, std::move(bytes)});
     touch();
     return true;
 }
 
 std::vector<unsigned char> NxSFImage::takeBytes()
 {
+    recordValue();
     Image image = std::exchange(m_image, {});
     touch();
     return std::move(image.bytes);
@@ -165,6 +167,20 @@ bool NxSFImage::assignText(meridane::TextReader& reader)
     }
     if (!reader.expectEnd())
         return false;
-    m_image = std::move(image);
+    replace(std::move(image));
     return true;
+}
+
+std::unique_ptr<meridane::ChangeRecord> NxSFImage::recordOfValue()
+{
+    return std::make_unique<meridane::ValueRecord<Image>>(*this, m_image, m_image);
+}
+
+void NxSFImage::replace(Image&& image)
+{
+    if (meridane::ChangeRecorder* const changes = recorder()) {
+        changes->add(std::make_unique<meridane::ValueRecord<Image>>(*this, m_image, std::move(m_image)));
+        noteRecorded();
+    }
+    m_image = std::move(image);
 }

@@ -36,6 +36,7 @@ public:
     [[nodiscard]] std::size_t valueBytes() const override;
     Progress readText(meridane::TextReader& reader, bool first, std::size_t budget) override;
     bool writeText(std::string& text, std::size_t& position, std::size_t budget) const override;
+    [[nodiscard]] std::unique_ptr<meridane::ChangeRecord> recordOfValue() override;
 
 private:
     struct Image {
@@ -47,9 +48,17 @@ private:
         [[nodiscard]] std::size_t byteCount() const noexcept;
         // Whether these are valid for an image or the empty image, apart from the number of bytes.
         [[nodiscard]] bool isValid() const noexcept;
+
+        friend bool isSameValue(const Image& left, const Image& right)
+        {
+            return left.size == right.size && left.components == right.components && left.bytes == right.bytes;
+        }
+        friend std::size_t bytesOfValue(const Image& image) { return sizeof(image) + image.bytes.size(); }
     };
 
     bool assignText(meridane::TextReader& reader) override;
+    /// Replaces the image. The old one is moved to the record of the change if there is one.
+    void replace(Image&& image);
     static bool readHeader(Image& image, meridane::TextReader& reader);
     static bool readPixel(Image& image, meridane::TextReader& reader);
 

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <span>
 #include <type_traits>
+#include <vector>
 
 /// What fields need to know of their values' memory.
 namespace meridane {
@@ -41,6 +42,12 @@ bool areSameValues(std::span<const Value> left, std::span<const Value> right)
     }
 }
 
+template <typename Value>
+bool isSameValue(const std::vector<Value>& left, const std::vector<Value>& right)
+{
+    return areSameValues<Value>(left, right);
+}
+
 /// About how many bytes a value holds.
 template <typename Value>
 std::size_t bytesOfValue(const Value& /*value*/)
@@ -50,6 +57,18 @@ std::size_t bytesOfValue(const Value& /*value*/)
 inline std::size_t bytesOfValue(const VbString& value)
 {
     return sizeof(VbString) + value.view().size();
+}
+template <typename Value>
+std::size_t bytesOfValue(const std::vector<Value>& values)
+{
+    if constexpr (std::is_trivially_copyable_v<Value>) {
+        return sizeof(values) + values.size() * sizeof(Value);
+    } else {
+        std::size_t bytes = sizeof(values);
+        for (const Value& value : values)
+            bytes += bytesOfValue(value);
+        return bytes;
+    }
 }
 
 } // namespace meridane

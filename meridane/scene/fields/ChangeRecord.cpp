@@ -1,0 +1,7 @@
+#include "meridane/scene/fields/ChangeRecord.h"
+
+namespace meridane {
+
+ChangeRecord::~ChangeRecord() = default;
+
+} // namespace meridane

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+
+class NxField;
+class NxFieldContainer;
+class NxNode;
+
+namespace meridane {
+
+class ChangeRecord;
+
+/// Receives a record of each write to the nodes of one scene, before the write happens. At most one recorder is
+/// attached at a time; without one, a write only costs the test for it. Thread of the user interface only.
+class ChangeRecorder {
+public:
+    ChangeRecorder(const ChangeRecorder&) = delete;
+    ChangeRecorder& operator=(const ChangeRecorder&) = delete;
+
+    /// The recorder that is attached, or null.
+    [[nodiscard]] static ChangeRecorder* attached() noexcept { return s_attached; }
+    /// The attached recorder if it follows that node, which may be null. It has room for one more record, so that `add`
+    /// can't fail. May throw `std::bad_alloc`.
+    [[nodiscard]] static ChangeRecorder* of(const NxFieldContainer* node);
+
+    /// Takes the record of a write that happens next. Only after `of`, once for each call.
+    virtual void add(std::unique_ptr<ChangeRecord> record) noexcept = 0;
+    /// Takes back the latest record: the write has failed and changed nothing.
+    virtual void withdraw() noexcept = 0;
+    /// Whether a row of a list needs no record, since the open step has one already.
+    [[nodiscard]] virtual bool hasRow(const NxField& list, int row) const noexcept = 0;
+    /// Notes that the record that was added last is one of that row alone. May throw `std::bad_alloc`.
+    virtual void noteRow(const NxField& list, int row) = 0;
+    /// Follows these nodes, and those below them, from now on. They are about to become children of a node that is
+    /// followed. May throw `std::bad_alloc`; then nothing else has changed.
+    virtual void follow(std::span<NxNode* const> nodes) = 0;
+    /// A node that was followed is being destroyed.
+    virtual void forget(const NxFieldContainer& node) noexcept = 0;
+
+protected:
+    ChangeRecorder() = default;
+    virtual ~ChangeRecorder() = default;
+
+    static void attach(ChangeRecorder* recorder) noexcept { s_attached = recorder; }
+
+    /// The number that the recorder gave a node; 0 for none.
+    [[nodiscard]] static std::uint32_t numberOf(const NxFieldContainer& node) noexcept;
+    static void setNumber(NxFieldContainer& node, std::uint32_t number) noexcept;
+
+private:
+    /// Whether the node is one of the scene.
+    [[nodiscard]] virtual bool follows(const NxFieldContainer& node) const noexcept = 0;
+    virtual void makeRoom() = 0;
+
+    static ChangeRecorder* s_attached;
+};
+
+} // namespace meridane

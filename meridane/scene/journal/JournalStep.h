@@ -1,0 +1,49 @@
+#pragma once
+
+#include "meridane/scene/fields/ChangeRecord.h"
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace meridane {
+
+/// The changes of one step, with which it can be undone and redone exactly. It keeps the nodes alive that it changed.
+/// Thread of the user interface only.
+class JournalStep {
+public:
+    using Records = std::vector<std::unique_ptr<ChangeRecord>>;
+
+    /// The records in the order of the writes, at least one.
+    explicit JournalStep(Records records);
+    JournalStep(const JournalStep&) = delete;
+    JournalStep& operator=(const JournalStep&) = delete;
+    ~JournalStep();
+
+    /// The changes in the order in which they happened. Records of places that the step changed and changed back aren't
+    /// among them.
+    [[nodiscard]] std::span<const std::unique_ptr<ChangeRecord>> records() const noexcept { return m_records; }
+    /// The approximate memory in bytes.
+    [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
+
+    /// Puts every changed place back to its state before the step, then notifies the observers of each place once. The
+    /// scene must be in the state directly after the step.
+    void undo();
+    /// The opposite: the scene must be in the state directly before the step.
+    void redo();
+
+    /// Appends a step that directly followed this one. Returns false if the two together changed nothing; then the step
+    /// is of no further use. The scene must be in the state directly after the other step.
+    bool append(JournalStep&& next);
+
+    /// Whether a step that directly followed this one has put everything back. The scene must be in the state directly
+    /// after that step.
+    [[nodiscard]] bool isReversedBy(const JournalStep& next) const;
+
+private:
+    Records m_records;
+    std::size_t m_bytes = 0;
+};
+
+} // namespace meridane

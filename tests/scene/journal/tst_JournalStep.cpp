@@ -1,0 +1,151 @@
+#include "scene/FieldCatalogue.h"
+#include "scene/RandomScene.h"
+#include "scene/TestNodes.h"
+#include "scene/journal/JournalRun.h"
+#include "scene/journal/RandomChanges.h"
+
+#include "meridane/scene/fields/NxField.h"
+
+#include <QTest>
+
+#include <ranges>
+
+using meridane::JournalStep;
+
+/// That steps undo and redo exactly.
+class TestJournalStep : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyFieldClassIsPutBackExactly_data() { addFieldKindRows(); }
+
+    void everyFieldClassIsPutBackExactly()
+    {
+        QFETCH(const FieldKind*, kind);
+        const NxRef<NxGroup> scene(new NxGroup);
+        const NxRef<NxFieldContainer> node = kind->makeNode();
+        scene->addChild(static_cast<NxNode*>(node.get()));
+        JournalRun run(*scene);
+        RandomValues random(3);
+        std::vector<NxRef<NxFieldContainer>> states;
+        NxField& field = fieldOf(node);
+        const auto keepState = [&] {
+            states.push_back(kind->makeNode());
+            fieldOf(states.back()).copyFrom(field);
+        };
+        keepState();
+        while (run.steps().size() < 30) {
+            kind->setRandom(field, random);
+            if (run.steps().size() % 3 == 0)
+                kind->setRandom(field, random); // the second write of a step
+            if (run.finish() != nullptr)
+                keepState();
+        }
+        for (std::size_t i = run.steps().size(); i-- > 0;) {
+            run.steps()[i]->undo();
+            QVERIFY(field.isSame(fieldOf(states[i])));
+        }
+        for (std::size_t i = 0; i < run.steps().size(); ++i) {
+            run.steps()[i]->redo();
+            QVERIFY(field.isSame(fieldOf(states[i + 1])));
+        }
+    }
+
+    void randomChangesAreUndoneAndRedoneExactly_data()
+    {
+        QTest::addColumn<unsigned int>("seed");
+        for (unsigned int seed = 1; seed <= 20; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+
+    void randomChangesAreUndoneAndRedoneExactly()
+    {
+        QFETCH(unsigned int, seed);
+        const NxRef<NxGroup> scene = makeRandomScene(seed);
+        JournalRun run(*scene);
+        RandomChanges changes(*scene, seed);
+        std::vector<std::string> texts{run.text()};
+        for (int i = 0; i < 200; ++i) {
+            changes.makeSome();
+            if (run.finish() != nullptr)
+                texts.push_back(run.text());
+            else
+                QCOMPARE(run.text(), texts.back());
+        }
+        auto& steps = run.steps();
+        QVERIFY(steps.size() > 100);
+        // A walk: back to the beginning, to some places, to the end.
+        std::mt19937 random(seed);
+        std::size_t place = steps.size();
+        std::vector<std::size_t> targets{0, steps.size()};
+        for (int i = 0; i < 20; ++i)
+            targets.push_back(random() % (steps.size() + 1));
+        targets.push_back(0);
+        for (const std::size_t target : targets) {
+            for (; place > target; --place)
+                steps[place - 1]->undo();
+            for (; place < target; ++place)
+                steps[place]->redo();
+            QVERIFY2(run.text() == texts[place], qPrintable(QString::number(place)));
+        }
+        QVERIFY(!run.journal().hasRecords());
+    }
+
+    void appendedStepsAreUndoneTogether_data() { randomChangesAreUndoneAndRedoneExactly_data(); }
+
+    void appendedStepsAreUndoneTogether()
+    {
+        QFETCH(unsigned int, seed);
+        const NxRef<NxGroup> scene = makeRandomScene(seed);
+        JournalRun run(*scene);
+        RandomChanges changes(*scene, seed);
+        const std::string before = run.text();
+        scene->addChild(new ProbeNode);
+        auto* const first = run.finish();
+        for (int i = 0; i < 50; ++i) {
+            changes.makeSome();
+            if (auto next = run.journal().finishStep())
+                QVERIFY(first->append(std::move(*next)));
+        }
+        const std::string after = run.text();
+        first->undo();
+        QCOMPARE(run.text(), before);
+        first->redo();
+        QCOMPARE(run.text(), after);
+    }
+
+    void typingIntoOneFieldStaysOneRecord()
+    {
+        const NxRef<NxGroup> scene(new NxGroup);
+        const NxRef<ProbeNode> probe(new ProbeNode);
+        scene->addChild(probe.get());
+        JournalRun run(*scene);
+        probe->title.setValue("a");
+        auto* const step = run.finish();
+        const std::size_t bytes = step->bytes();
+        for (int i = 0; i < 100; ++i) {
+            probe->title.setValue(std::to_string(i).c_str());
+            QVERIFY(step->append(std::move(*run.journal().finishStep())));
+        }
+        QCOMPARE(step->records().size(), std::size_t{1});
+        QCOMPARE(step->bytes(), bytes);
+        probe->title.setValue("untitled");
+        QVERIFY(!step->append(std::move(*run.journal().finishStep())));
+    }
+
+    void recordsOfNumbersAreSmall()
+    {
+        const NxRef<NxGroup> scene(new NxGroup);
+        for (int i = 0; i < 10'000; ++i)
+            scene->addChild(new ProbeNode);
+        JournalRun run(*scene);
+        for (NxNode* node : scene->getChildren())
+            static_cast<ProbeNode*>(node)->size.setValue(2);
+        const auto* const step = run.finish();
+        QCOMPARE(step->records().size(), std::size_t{10'000});
+        QVERIFY(step->bytes() < 80 * step->records().size());
+    }
+};
+
+QTEST_APPLESS_MAIN(TestJournalStep)
+#include "tst_JournalStep.moc"
