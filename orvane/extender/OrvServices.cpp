@@ -1,12 +1,19 @@
 #include "orvane/extender/OrvServices.h"
 
 #include "orvane/extender/OrvCommand.h"
+#include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/detail/DelayQueuePump.h"
 #include "orvane/extender/detail/OrvHistory.h"
 #include "orvane/extender/detail/Selection.h"
+#include "orvane/extender/detail/StepEnd.h"
 #include "orvane/extender/detail/UserActionTracker.h"
 
 #include "meridane/base/NxDelayQueue.h"
+#include "meridane/base/NxPreferences.h"
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/journal/Journal.h"
+
+#include <utility>
 
 namespace {
 
@@ -14,12 +21,11 @@ OrvServices* theServices = nullptr;
 
 } // namespace
 
-// Emits historyChanged if one of the results has changed during its life.
+// Emits historyChanged at its end if one of the results differs from the last time.
 class OrvServices::HistoryChange {
 public:
     explicit HistoryChange(OrvServices& services)
         : m_services(services)
-        , m_answers(answers())
     {
     }
     HistoryChange(const HistoryChange&) = delete;
@@ -27,27 +33,30 @@ public:
 
     ~HistoryChange()
     {
-        if (answers() != m_answers)
+        const OrvHistory& history = *m_services.m_history;
+        const Answers answers{history.canUndo(), history.canRedo(), history.isClean()};
+        if (std::exchange(m_services.m_answers, answers) != answers)
             Q_EMIT m_services.historyChanged();
     }
 
 private:
-    struct Answers {
-        bool canUndo;
-        bool canRedo;
-        bool isClean;
-
-        bool operator==(const Answers&) const = default;
-    };
-
-    [[nodiscard]] Answers answers() const
-    {
-        const OrvHistory& history = *m_services.m_history;
-        return {history.canUndo(), history.canRedo(), history.isClean()};
-    }
-
     OrvServices& m_services;
-    Answers m_answers;
+};
+
+// Editors may push commands as they show what is selected.
+class OrvServices::Showing {
+public:
+    explicit Showing(OrvHistory& history)
+        : m_history(history)
+    {
+        m_history.beginGroup();
+    }
+    Showing(const Showing&) = delete;
+    Showing& operator=(const Showing&) = delete;
+    ~Showing() { m_history.endGroup(); }
+
+private:
+    OrvHistory& m_history;
 };
 
 OrvServices* OrvServices::getInstance()
@@ -58,17 +67,34 @@ OrvServices* OrvServices::getInstance()
 OrvServices::OrvServices()
     : m_pump(std::make_unique<DelayQueuePump>(NxDelayQueue::getDefault()))
     , m_userAction(std::make_unique<UserActionTracker>())
+    , m_stepEnd(std::make_unique<StepEnd>(*m_userAction, NxDelayQueue::getDefault()))
     , m_selection(std::make_unique<Selection>(
           Selection::Announcements{[this](NxFieldContainer* node) { Q_EMIT selectedNodeChanged(node); },
               [this](NxField* field) { Q_EMIT selectedFieldChanged(field); }}))
+    , m_document(std::make_unique<OrvDocument>())
     , m_history(std::make_unique<OrvHistory>())
 {
     Q_ASSERT_X(theServices == nullptr, "OrvServices", "there is one services object at a time");
     theServices = this;
+    connect(m_document.get(), &OrvDocument::opened, this, &OrvServices::useJournal);
+    connect(m_document.get(), &OrvDocument::aboutToClose, this, &OrvServices::dropJournal);
+    connect(m_userAction.get(), &UserActionTracker::began, this, [this] {
+        beginStep({m_userAction->currentAction(), m_userAction->currentTyping()});
+    });
+    connect(m_userAction.get(), &UserActionTracker::ended, m_stepEnd.get(), &StepEnd::lookLater);
+    connect(m_pump.get(), &DelayQueuePump::passBegins, this, [this] { m_history->beginPass(); });
+    connect(m_pump.get(), &DelayQueuePump::passEnded, this, [this](bool isLast) {
+        m_history->endPass(isLast);
+        if (isLast)
+            m_stepEnd->lookLater();
+    });
+    connect(m_stepEnd.get(), &StepEnd::changed, this, &OrvServices::noteChange);
+    connect(m_stepEnd.get(), &StepEnd::ended, this, [this] { beginStep({}); });
 }
 
 OrvServices::~OrvServices()
 {
+    m_document->close();
     theServices = nullptr;
 }
 
@@ -77,27 +103,61 @@ void OrvServices::pushCommand(OrvCommand* command)
     if (command == nullptr)
         return;
     const HistoryChange change(*this);
+    m_stepEnd->lookLater();
     m_history->push(std::unique_ptr<OrvCommand>(command),
         {m_userAction->currentAction(), m_selection->field(), m_selection->node(), m_selection->fieldOwner()});
 }
 
+void OrvServices::useJournal()
+{
+    const HistoryChange change(*this);
+    meridane::Journal* const journal = m_document->journal();
+    const bool isExact = NxPreferences::getString("ORVANE_UNDO", VbString()) != VbString("commands");
+    m_history->setJournal(journal, isExact ? OrvHistory::Moves::Exact : OrvHistory::Moves::Commands);
+    journal->setHook([](void* stepEnd) { static_cast<StepEnd*>(stepEnd)->lookLater(); }, m_stepEnd.get());
+}
+
+void OrvServices::dropJournal()
+{
+    const HistoryChange change(*this);
+    m_history->setJournal(nullptr);
+}
+
+void OrvServices::noteChange()
+{
+    const HistoryChange change(*this);
+    if (m_history->isStepOpen())
+        Q_EMIT documentEdited();
+}
+
+void OrvServices::beginStep(const HistoryOrigin& origin)
+{
+    const HistoryChange change(*this);
+    if (m_history->beginStep(origin))
+        Q_EMIT stepFinished();
+}
+
 void OrvServices::selectNode(NxFieldContainer* node)
 {
+    const Showing showing(*m_history);
     m_selection->selectNode(node);
 }
 
 void OrvServices::selectField(NxField* field)
 {
+    const Showing showing(*m_history);
     m_selection->selectField(field);
 }
 
 void OrvServices::select(NxFieldContainer* node, NxField* field)
 {
+    const Showing showing(*m_history);
     m_selection->select(node, field);
 }
 
 void OrvServices::announceSelection()
 {
+    const Showing showing(*m_history);
     m_selection->announce();
 }
 
@@ -115,12 +175,14 @@ void OrvServices::undo()
 {
     const HistoryChange change(*this);
     m_history->undo();
+    Q_EMIT documentEdited();
 }
 
 void OrvServices::redo()
 {
     const HistoryChange change(*this);
     m_history->redo();
+    Q_EMIT documentEdited();
 }
 
 bool OrvServices::canUndo() const
@@ -131,6 +193,16 @@ bool OrvServices::canUndo() const
 bool OrvServices::canRedo() const
 {
     return m_history->canRedo();
+}
+
+QString OrvServices::undoText() const
+{
+    return m_history->undoText();
+}
+
+QString OrvServices::redoText() const
+{
+    return m_history->redoText();
 }
 
 void OrvServices::setClean()

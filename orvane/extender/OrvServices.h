@@ -7,10 +7,13 @@
 
 class NxField;
 class NxFieldContainer;
+struct HistoryOrigin;
 class DelayQueuePump;
 class OrvCommand;
+class OrvDocument;
 class OrvHistory;
 class Selection;
+class StepEnd;
 class UserActionTracker;
 
 /// Announces the selection, keeps the undo history, and processes the toolkit's delay queue from the event loop.
@@ -38,6 +41,9 @@ public:
     /// part of the same step; one that is pushed while another one is undone or redone is executed and then dropped.
     virtual void pushCommand(OrvCommand* command);
 
+    /// The scene that is open. Its journal makes the history exact: see `undo`.
+    [[nodiscard]] OrvDocument& document() const noexcept { return *m_document; }
+
     // A slot of a selection signal may select something, too. That selection is announced as soon as all slots have
     // been called for the current one; until then the getters return the current one. Select a node together with its
     // field in one call: between two calls, a slot of the first could select something else. Slots that answer each
@@ -60,11 +66,19 @@ public:
     [[nodiscard]] NxField* getSelectedField() const noexcept;
 
     /// Undoes the last step, its commands in reverse order. Does nothing if there is none, or if a command calls it.
+    ///
+    /// While a document is open, its journal knows what each action of the user changed, with or without commands. Then
+    /// every changed place is put back exactly as it was before the step, whatever the commands did. Commands that
+    /// changed nothing join the step before them. If the preference `ORVANE_UNDO` is `commands` when the document is
+    /// opened, a step is only undone as its commands do it.
     void undo();
     /// Redoes the step that was undone last. Does nothing if there is none, or if a command calls it.
     void redo();
     [[nodiscard]] bool canUndo() const;
     [[nodiscard]] bool canRedo() const;
+    /// What `undo` and `redo` would change, such as "Set arm.rotation"; empty where that isn't known.
+    [[nodiscard]] QString undoText() const;
+    [[nodiscard]] QString redoText() const;
     /// Marks the current state as the saved one.
     void setClean();
     /// Whether the current state is the saved one.
@@ -86,12 +100,34 @@ Q_SIGNALS:
     void selectedFieldChanged(NxField* field);
     /// The result of `canUndo`, `canRedo` or `isClean` has changed.
     void historyChanged();
+    /// Something in the open document has changed; more may follow in the same step.
+    void documentEdited();
+    /// A step that changed the open document has ended.
+    void stepFinished();
 
 private:
     class HistoryChange;
+    class Showing;
+
+    /// Of the history, as they were announced last.
+    struct Answers {
+        bool canUndo = false;
+        bool canRedo = false;
+        bool isClean = true;
+
+        bool operator==(const Answers&) const = default;
+    };
+
+    void useJournal();
+    void dropJournal();
+    void noteChange();
+    void beginStep(const HistoryOrigin& origin);
 
     std::unique_ptr<DelayQueuePump> m_pump;
     std::unique_ptr<UserActionTracker> m_userAction;
+    std::unique_ptr<StepEnd> m_stepEnd;
     std::unique_ptr<Selection> m_selection;
+    std::unique_ptr<OrvDocument> m_document;
     std::unique_ptr<OrvHistory> m_history;
+    Answers m_answers;
 };

@@ -105,7 +105,7 @@ private Q_SLOTS:
         QTRY_COMPARE(find(Qt::red).size, 0);
         QVERIFY(find(Qt::green).size > 200);
         m_tool->release();
-        QTRY_COMPARE(m_tool->action(QStringLiteral("Undo")), QStringLiteral("enabled"));
+        QTRY_COMPARE(m_tool->action(QStringLiteral("Undo Set red.transparency")), QStringLiteral("enabled"));
         m_tool->key(QStringLiteral("ctrl+z"));
         QTRY_VERIFY(find(Qt::red).size > 200);
         QCOMPARE(m_tool->quit(), 0);

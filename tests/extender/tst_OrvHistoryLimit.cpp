@@ -77,9 +77,9 @@ private Q_SLOTS:
     void theNumberOfStepsIsBounded()
     {
         OrvHistory history;
-        for (int i = 0; i < OrvHistory::maximumSteps + 10; ++i)
+        for (std::size_t i = 0; i < OrvHistory::maximumSteps + 10; ++i)
             history.push(std::make_unique<TestCommand>(QString(), m_calls), {alone, nullptr, nullptr, nullptr});
-        QCOMPARE(history.undoDepth(), OrvHistory::maximumSteps);
+        QCOMPARE(history.undoDepth(), static_cast<int>(OrvHistory::maximumSteps));
     }
 
     void theEstimateGrowsWithTheValueAndWithTheRowsRemoved()

@@ -144,7 +144,7 @@ private Q_SLOTS:
         QFETCH(const bool, meetsRight);
         QFETCH(const bool, meetsAbove);
         VbMatrix matrix;
-        matrix[row][3] = number;
+        matrix[static_cast<std::size_t>(row)][3] = number;
         const NxRef<NxMatrixTransform> transform(new NxMatrixTransform);
         transform->matrix.setValue(matrix);
         transform->addChild(makeTriangle().get());

@@ -180,7 +180,7 @@ void FileFlow::leave(const Next& next)
 void FileFlow::startOpen(const QString& fileName, const Opened& opened)
 {
     const FileWork::Reader reader{
-        [this, fileName, opened](const NxRef<NxGroup>& scene) { takeScene(scene, fileName, opened); },
+        [this, fileName, opened](const ReadScene& read) { takeScene(read, fileName, opened); },
         [this, fileName, opened](const QString& reason, Loss loss) {
             forgetIfMissing(fileName);
             loseOpen(opened, reason, loss);
@@ -198,7 +198,7 @@ void FileFlow::startAdd(const QString& fileName)
         return;
     }
     m_work.read(Kind::Add, m_jobMakers.load(fileName),
-        {[this, fileName](const NxRef<NxGroup>& content) { addToScene(content, fileName); },
+        {[this, fileName](const ReadScene& read) { addToScene(read.scene, fileName); },
             [this, fileName](const QString& reason, Loss loss) {
                 forgetIfMissing(fileName);
                 loseOpen({}, reason, loss);
@@ -210,8 +210,8 @@ void FileFlow::startCompare(const QString& fileName)
     if (!m_session.document().isOpen() || refusesBehindOpen(Kind::Compare, fileName))
         return;
     m_work.read(Kind::Compare, m_jobMakers.load(fileName),
-        {[this, fileName](const NxRef<NxGroup>& other) {
-             Q_EMIT readToCompare(other, fileName);
+        {[this, fileName](const ReadScene& read) {
+             Q_EMIT readToCompare(read.scene, fileName);
              Q_EMIT ended({});
          },
             [this, fileName](const QString& reason, Loss loss) {
@@ -231,12 +231,12 @@ bool FileFlow::refusesBehindOpen(Kind kind, const QString& fileName)
     return true;
 }
 
-void FileFlow::takeScene(const NxRef<NxGroup>& scene, const QString& fileName, const Opened& opened)
+void FileFlow::takeScene(const ReadScene& read, const QString& fileName, const Opened& opened)
 {
     m_recent.add(fileName);
     // The old scene could be edited while the new one was read.
-    leave({[this, scene, fileName, opened] {
-               m_session.document().open(scene, fileName);
+    leave({[this, read, fileName, opened] {
+               m_session.document().open(read.journal, fileName);
                endOpen(opened, {});
            },
         [this, fileName, opened] { cancelOpen(opened, fileName); }});

@@ -1,6 +1,10 @@
 #include "orvane/app/files/FileJob.h"
 
+#include "orvane/app/base/SliceClock.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/extender/OrvDocument.h"
+
+#include "meridane/scene/journal/Journal.h"
 
 #include <QTimerEvent>
 
@@ -49,6 +53,35 @@ void FileJob::end()
     m_ended = true;
     m_slices.stop();
     release();
+}
+
+SceneJob::SceneJob(const QString& fileName)
+    : FileJob(fileName)
+{
+}
+
+SceneJob::~SceneJob() = default;
+
+void SceneJob::finishAtOnceWith(const NxRef<NxGroup>& scene)
+{
+    m_read = {scene, OrvDocument::makeJournal(*scene)};
+    finish();
+}
+
+void SceneJob::finishWith(const NxRef<NxGroup>& scene)
+{
+    m_numbered = {scene, std::make_shared<meridane::Journal>(*scene)};
+    startSlices();
+}
+
+void SceneJob::runSlice()
+{
+    if (m_numbered.journal == nullptr) {
+        readSlice();
+    } else if (!m_numbered.journal->run(SliceClock::length)) {
+        m_read = std::exchange(m_numbered, {});
+        finish();
+    }
 }
 
 void SceneJob::failToRead(NxReadFailure failure)

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
 #include <utility>
 
 /// Long work on a file, done in slices or by another process, so that the window never waits for it.
@@ -62,24 +63,45 @@ private:
     bool m_ended = false;
 };
 
+namespace meridane {
+class Journal;
+}
+
+/// What a job has read: the scene, and a journal of it that doesn't record yet.
+struct ReadScene {
+    NxRef<NxGroup> scene;
+    std::shared_ptr<meridane::Journal> journal;
+};
+
 /// A job that ends with a scene.
 class SceneJob : public FileJob {
     Q_OBJECT
 
 public:
-    using FileJob::FileJob;
+    explicit SceneJob(const QString& fileName);
+    ~SceneJob() override;
 
     /// The scene, once the job has finished; null after the first call.
-    [[nodiscard]] NxRef<NxGroup> takeScene() { return std::exchange(m_scene, NxRef<NxGroup>()); }
+    [[nodiscard]] NxRef<NxGroup> takeScene() { return take().scene; }
+    /// The same with its journal.
+    [[nodiscard]] ReadScene take() { return std::exchange(m_read, {}); }
     /// What was wrong with the file, once the job has failed: the message of `failed`, and its place in the file.
     [[nodiscard]] const NxReadFailure& failure() const noexcept { return m_failure; }
 
 protected:
-    void setScene(NxRef<NxGroup> scene) { m_scene = std::move(scene); }
+    /// Does some milliseconds of the reading.
+    virtual void readSlice() { }
+    /// Ends the job with that scene, after some more slices in which its journal is prepared.
+    void finishWith(const NxRef<NxGroup>& scene);
+    /// The same at once, for a small scene.
+    void finishAtOnceWith(const NxRef<NxGroup>& scene);
     /// Ends the job with `failed`.
     void failToRead(NxReadFailure failure);
 
 private:
-    NxRef<NxGroup> m_scene;
+    void runSlice() final;
+
+    ReadScene m_numbered; // while the journal is prepared
+    ReadScene m_read; // once the job has finished
     NxReadFailure m_failure;
 };

@@ -131,7 +131,7 @@ void FileWork::read(Kind kind, std::unique_ptr<SceneJob> job, const Reader& read
     m_reading.emplace(Reading{kind, job->fileName(), reader, std::move(job), {}});
     connect(running, &FileJob::finished, this, [this, running] {
         m_messages.clearTopic(readingTopic);
-        m_reading->content = running->takeScene();
+        m_reading->content = running->take();
         retire(std::move(m_reading->job));
         goOnLater();
     });

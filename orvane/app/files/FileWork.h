@@ -37,7 +37,7 @@ public:
     };
     /// What is done with a file that is read. One of the two is called, unless the work is abandoned.
     struct Reader {
-        std::function<void(const NxRef<NxGroup>& content)> take;
+        std::function<void(const ReadScene& content)> take;
         /// The reason is a message.
         std::function<void(const QString& reason, Loss loss)> lost;
     };
@@ -86,7 +86,7 @@ private:
         QString fileName;
         Reader reader;
         std::unique_ptr<SceneJob> job; // null once the file is read
-        NxRef<NxGroup> content; // of the file that was read
+        ReadScene content; // of the file that was read
     };
     struct Writing {
         std::unique_ptr<FileJob> job;

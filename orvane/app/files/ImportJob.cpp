@@ -49,7 +49,7 @@ void ImportJob::startReading()
     startSlices();
 }
 
-void ImportJob::runSlice()
+void ImportJob::readSlice()
 {
     using State = orvane::PackedSceneReader::State;
     switch (m_reader->step(SliceClock::length)) {
@@ -71,8 +71,7 @@ void ImportJob::finishWhenAllIsDone()
     // A helper that fails after its last byte may have written anything.
     if (!m_helperEnded || m_reader->state() != orvane::PackedSceneReader::State::Done)
         return;
-    setScene(m_reader->takeScene());
-    finish();
+    finishWith(m_reader->takeScene());
 }
 
 void ImportJob::failForNoScene(const QString& reason)

@@ -37,7 +37,7 @@ void LoadJob::release()
     m_reader.reset();
 }
 
-void LoadJob::runSlice()
+void LoadJob::readSlice()
 {
     if (m_reader == nullptr)
         readBytes();
@@ -104,8 +104,7 @@ void LoadJob::readScene()
         failToRead(m_reader->failure());
         break;
     case NxSceneReader::State::Done:
-        setScene(m_reader->takeScene());
-        finish();
+        finishWith(m_reader->takeScene());
         break;
     }
 }

@@ -25,7 +25,7 @@ public:
     void start() override;
 
 protected:
-    void runSlice() override;
+    void readSlice() override;
     void release() override;
 
 private:

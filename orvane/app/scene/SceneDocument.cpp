@@ -3,8 +3,11 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/scene/SceneDisposal.h"
 #include "orvane/app/scene/ScenePaths.h"
+#include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
 #include "orvane/transfer/FileFormats.h"
+
+#include "meridane/scene/journal/Journal.h"
 
 #include <QFileInfo>
 
@@ -39,18 +42,23 @@ bool SceneDocument::isModified() const
 
 void SceneDocument::newScene()
 {
-    replace(NxRef<NxGroup>(new NxGroup), QString());
+    replace(OrvDocument::makeJournal(*new NxGroup), QString());
 }
 
-void SceneDocument::open(NxRef<NxGroup> scene, const QString& fileName)
+void SceneDocument::open(const NxRef<NxGroup>& scene, const QString& fileName)
 {
-    replace(std::move(scene), orvane::absoluteFileName(fileName));
+    open(OrvDocument::makeJournal(*scene), fileName);
+}
+
+void SceneDocument::open(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName)
+{
+    replace(journal, orvane::absoluteFileName(fileName));
 }
 
 void SceneDocument::close()
 {
     if (isOpen())
-        replace(NxRef<NxGroup>(), QString());
+        replace(nullptr, QString());
 }
 
 void SceneDocument::setSaved(const QString& fileName)
@@ -72,14 +80,17 @@ bool SceneDocument::isSceneFileName(const QString& fileName)
     return fileName.endsWith(fileExtension(), Qt::CaseInsensitive);
 }
 
-void SceneDocument::replace(NxRef<NxGroup> scene, const QString& fileName)
+void SceneDocument::replace(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName)
 {
     // Before the scene is deleted, editors release its fields, then views its nodes, then commands both.
     m_services.selectField(nullptr);
     m_services.selectNode(nullptr);
     Q_EMIT sceneAboutToChange();
+    m_services.document().close();
     m_services.clearHistory();
-    m_disposal.dispose(std::exchange(m_scene, std::move(scene)));
+    m_disposal.dispose(std::exchange(m_scene, NxRef<NxGroup>(journal != nullptr ? &journal->scene() : nullptr)));
+    if (journal != nullptr)
+        m_services.document().open(journal);
     ++m_sceneNumber;
     m_pathFolder = orvane::folderOf(fileName);
     m_fileName = fileName; // slots of sceneChanged ask for its folder

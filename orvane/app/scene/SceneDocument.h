@@ -6,6 +6,12 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
+namespace meridane {
+class Journal;
+}
+
 class OrvServices;
 class SceneDisposal;
 
@@ -41,7 +47,9 @@ public:
     /// Opens an empty scene in place of the present one.
     void newScene();
     /// Opens a scene in place of the present one.
-    void open(NxRef<NxGroup> scene, const QString& fileName);
+    void open(const NxRef<NxGroup>& scene, const QString& fileName);
+    /// Opens the scene of a journal whose `run` has ended.
+    void open(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName);
     /// Leaves nothing open.
     void close();
     /// Notes that the scene in its present state was saved to that file.
@@ -60,7 +68,7 @@ Q_SIGNALS:
     void modifiedChanged(bool modified);
 
 private:
-    void replace(NxRef<NxGroup> scene, const QString& fileName);
+    void replace(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName);
     void setFileName(const QString& fileName);
     void reportModified();
 

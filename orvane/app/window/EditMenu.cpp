@@ -1,6 +1,7 @@
 #include "orvane/app/window/EditMenu.h"
 
 #include "orvane/app/base/DrawnIcon.h"
+#include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/scene/NodeCommands.h"
 #include "orvane/app/scene/SceneTreeModel.h"
@@ -75,6 +76,8 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
     }
 
     connect(&session.services(), &OrvServices::historyChanged, this, &EditMenu::updateActions);
+    connect(&session.services(), &OrvServices::documentEdited, this, &EditMenu::updateActions);
+    connect(&session.services(), &OrvServices::stepFinished, this, &EditMenu::updateActions);
     connect(tree, &SceneTreePanel::selectionChanged, this, &EditMenu::updateActions);
     connect(tree->model(), &SceneTreeModel::renameRequested, this, &EditMenu::renameNode);
     QCoreApplication::instance()->installEventFilter(this);
@@ -125,8 +128,13 @@ bool EditMenu::eventFilter(QObject* object, QEvent* event)
 
 void EditMenu::updateActions()
 {
-    m_undo->setEnabled(m_session.services().canUndo());
-    m_redo->setEnabled(m_session.services().canRedo());
+    const OrvServices& services = m_session.services();
+    const auto update = [](QAction* action, bool isEnabled, const QString& text, const QString& step) {
+        action->setEnabled(isEnabled);
+        action->setText(step.isEmpty() ? text : text + u' ' + orvane::menuText(step));
+    };
+    update(m_undo, services.canUndo(), tr("&Undo"), services.undoText());
+    update(m_redo, services.canRedo(), tr("&Redo"), services.redoText());
     const bool node = m_tree->selected().isValid();
     m_rename->setEnabled(node);
     m_delete->setEnabled(node);

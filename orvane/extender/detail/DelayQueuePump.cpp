@@ -37,6 +37,8 @@ bool DelayQueuePump::event(QEvent* event)
         return QObject::event(event);
     // If sensors are left, the queue wakes the pump again, and the new event is handled in the next turn of the event
     // loop.
+    Q_EMIT passBegins();
     m_queue.process(m_slice);
+    Q_EMIT passEnded(m_queue.isEmpty());
     return true;
 }

@@ -12,12 +12,19 @@ class NxDelayQueue;
 ///
 /// A queue has one pump at a time. Thread of the scene only.
 class DelayQueuePump : public QObject {
+    Q_OBJECT
+
 public:
     /// The longest time for one event, so that input and painting aren't delayed.
     static constexpr std::chrono::milliseconds defaultSlice{8};
 
     explicit DelayQueuePump(NxDelayQueue& queue, std::chrono::nanoseconds slice = defaultSlice);
     ~DelayQueuePump() override;
+
+Q_SIGNALS:
+    /// Sensors are about to be called, and have been called. `isLast` says whether none waits any more.
+    void passBegins();
+    void passEnded(bool isLast);
 
 protected:
     bool event(QEvent* event) override;

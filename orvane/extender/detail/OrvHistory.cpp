@@ -1,161 +1,19 @@
 #include "orvane/extender/detail/OrvHistory.h"
 
 #include "orvane/extender/OrvCommand.h"
-#include "orvane/extender/detail/FieldWatch.h"
+#include "orvane/extender/detail/CommandBytes.h"
 
-#include "meridane/scene/fields/NxFieldContainer.h"
-#include "meridane/scene/fields/NxMField.h"
-#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/journal/Journal.h"
 
-#include <algorithm>
-#include <iterator>
 #include <utility>
-#include <vector>
 
 namespace {
 
-// The memory of a step without its commands, and of a command without its texts.
-constexpr std::size_t bytesPerStep = 320;
-constexpr std::size_t bytesPerCommand = 64;
-constexpr std::size_t bytesPerText = 48;
-// A value of four bytes has up to sixteen characters with its separator; others have fewer for each byte.
-constexpr std::size_t textBytesPerValueByte = 4;
+// An editor that shows a value may write it back in its own precision, once. Observers that answer without end keep
+// what they write.
+constexpr int mostTakeBacks = 8;
 
 } // namespace
-
-// Estimates the memory of a command from the field before the execution and after it. A command on a single value keeps
-// two texts of it. One on a list keeps two texts of a row, and the texts of the rows that it removes. The execution may
-// destroy the field.
-class OrvHistory::CommandBytes {
-public:
-    explicit CommandBytes(NxField* field)
-        : m_field(field)
-        , m_rows(rows(1))
-        , m_rowBytes(field != nullptr && m_rows > 0 ? field->valueBytes() / static_cast<std::size_t>(m_rows) : 0)
-    {
-    }
-
-    [[nodiscard]] std::size_t afterExecution() const
-    {
-        const int removedRows = std::max(0, m_rows - rows(m_rows));
-        const auto texts = 2 + static_cast<std::size_t>(removedRows);
-        return bytesPerCommand + texts * (bytesPerText + textBytesPerValueByte * m_rowBytes);
-    }
-
-private:
-    [[nodiscard]] int rows(int withoutList) const
-    {
-        const auto* list = dynamic_cast<const NxMField*>(m_field.getAttachedField());
-        return list != nullptr ? list->getNum() : withoutList;
-    }
-
-    FieldWatch m_field;
-    int m_rows;
-    std::size_t m_rowBytes;
-};
-
-// The commands of one action. The first redo(), which the stack calls as the step is pushed, executes the command.
-class OrvHistory::Step : public QUndoCommand {
-public:
-    Step(OrvHistory& history, std::unique_ptr<OrvCommand> command, const Context& context)
-        : m_history(history)
-        , m_firstEstimate(std::make_unique<CommandBytes>(context.field))
-        , m_action(context.action)
-    {
-        add(std::move(command), context);
-        setBytes(bytesPerStep);
-    }
-
-    ~Step() override
-    {
-        setBytes(0);
-        if (m_isEmptied)
-            --m_history.m_emptySteps;
-    }
-
-    [[nodiscard]] int id() const override { return m_action; }
-
-    void redo() override
-    {
-        if (const auto estimate = std::move(m_firstEstimate)) {
-            execute(*estimate);
-            return;
-        }
-        for (const auto& command : m_commands)
-            command->redo();
-    }
-
-    void undo() override
-    {
-        std::for_each(m_commands.rbegin(), m_commands.rend(), [](const auto& command) { command->undo(); });
-    }
-
-    bool mergeWith(const QUndoCommand* other) override
-    {
-        // The stack destroys the other step next, so its commands may be taken.
-        auto& step = const_cast<Step&>(static_cast<const Step&>(*other));
-        std::ranges::move(step.m_commands, std::back_inserter(m_commands));
-        for (const auto& node : step.m_nodes)
-            hold(node.get());
-        setBytes(m_bytes + step.m_bytes - bytesPerStep);
-        return true;
-    }
-
-    // Adds a command that is pushed while one of this step is executed, and executes it.
-    void executeInside(std::unique_ptr<OrvCommand> command, const Context& context)
-    {
-        const CommandBytes estimate(context.field);
-        add(std::move(command), context);
-        execute(estimate);
-    }
-
-    // Destroys the commands, then releases the nodes that they referred to.
-    void empty()
-    {
-        m_commands = std::vector<std::unique_ptr<OrvCommand>>();
-        m_nodes = std::vector<NxRef<NxFieldContainer>>();
-        setBytes(0);
-        m_isEmptied = true;
-        ++m_history.m_emptySteps;
-    }
-
-private:
-    void add(std::unique_ptr<OrvCommand> command, const Context& context)
-    {
-        m_commands.push_back(std::move(command));
-        hold(context.node);
-        hold(context.fieldOwner);
-    }
-
-    void hold(NxFieldContainer* node)
-    {
-        if (node != nullptr && std::ranges::find(m_nodes, NxRef(node)) == m_nodes.end())
-            m_nodes.emplace_back(node);
-    }
-
-    void execute(const CommandBytes& estimate)
-    {
-        OrvCommand& command = *m_commands.back();
-        command.execute();
-        setBytes(m_bytes + estimate.afterExecution());
-    }
-
-    void setBytes(std::size_t bytes)
-    {
-        m_history.m_bytes += bytes - m_bytes;
-        m_bytes = bytes;
-    }
-
-    OrvHistory& m_history;
-    /// Until the first execution.
-    std::unique_ptr<CommandBytes> m_firstEstimate;
-    int m_action;
-    std::size_t m_bytes = 0;
-    bool m_isEmptied = false;
-    // Declared after the nodes, so that the commands are destroyed first.
-    std::vector<NxRef<NxFieldContainer>> m_nodes;
-    std::vector<std::unique_ptr<OrvCommand>> m_commands;
-};
 
 // Records what the history is doing, so that a call by a command is recognised.
 class OrvHistory::Working {
@@ -171,7 +29,6 @@ public:
     ~Working()
     {
         m_history.m_work = Work::None;
-        m_history.m_executing = nullptr;
         if (std::exchange(m_history.m_clearLater, false))
             m_history.clear();
     }
@@ -180,21 +37,20 @@ private:
     OrvHistory& m_history;
 };
 
-OrvHistory::OrvHistory()
-{
-    m_stack.setUndoLimit(maximumSteps);
-}
+OrvHistory::OrvHistory() = default;
+OrvHistory::~OrvHistory() = default;
 
-OrvHistory::~OrvHistory()
+void OrvHistory::setJournal(meridane::Journal* journal, Moves moves)
 {
-    // Here, while the members that the steps use still exist.
-    m_stack.clear();
+    clear();
+    m_journal = journal;
+    m_moves = moves;
 }
 
 void OrvHistory::push(std::unique_ptr<OrvCommand> command, const Context& context)
 {
     if (m_work == Work::Executing) {
-        m_executing->executeInside(std::move(command), context);
+        execute(std::move(command), context);
         return;
     }
     if (m_work == Work::Moving) {
@@ -202,58 +58,294 @@ void OrvHistory::push(std::unique_ptr<OrvCommand> command, const Context& contex
         return;
     }
     const Working working(*this, Work::Executing);
-    m_executing = new Step(*this, std::move(command), context);
-    m_stack.push(m_executing);
+    const bool isAlone = context.action == HistoryOrigin::none && (m_groups == 0 || m_journal == nullptr);
+    if (isAlone || (m_open && m_open->origin().action != context.action))
+        closeStep();
+    if (!m_open) {
+        const bool isOrigin = context.action == m_origin.action;
+        m_open = std::make_unique<HistoryStep>(isOrigin ? m_origin : HistoryOrigin{context.action});
+    }
+    execute(std::move(command), context);
+    if (m_journal == nullptr)
+        closeStep();
+}
+
+void OrvHistory::execute(std::unique_ptr<OrvCommand> command, const Context& context)
+{
+    const CommandBytes estimate(context.field);
+    OrvCommand& executed = *command;
+    m_open->add(std::move(command), context.node, context.fieldOwner);
+    executed.execute();
+    m_open->addCommandBytes(estimate.afterExecution());
+}
+
+bool OrvHistory::beginStep(const HistoryOrigin& origin)
+{
+    const bool changed = finishStep();
+    if (origin.action != HistoryOrigin::none)
+        m_takeBacks = 0;
+    m_origin = origin;
+    return changed;
+}
+
+bool OrvHistory::finishStep()
+{
+    return m_work == Work::None && closeStep();
+}
+
+bool OrvHistory::isStepOpen() const
+{
+    return m_open != nullptr || (m_journal != nullptr && m_journal->hasRecords());
+}
+
+bool OrvHistory::closeStep()
+{
+    m_hasOpenChanges = false;
+    auto changes = m_journal != nullptr ? m_journal->finishStep() : nullptr;
+    auto step = std::move(m_open);
+    if (!step && !changes)
+        return false;
+    if (!step)
+        step = std::make_unique<HistoryStep>(m_origin);
+    const bool changed = m_journal == nullptr || changes != nullptr;
+    step->setChanges(std::move(changes));
+    if (changed)
+        keep(std::move(step));
+    else
+        keepWithoutChange(std::move(step));
     trim();
+    return changed;
+}
+
+void OrvHistory::beginGroup()
+{
+    if (m_groups == 0 && m_origin.action == HistoryOrigin::none)
+        finishStep();
+    ++m_groups;
+}
+
+void OrvHistory::endGroup()
+{
+    --m_groups;
+}
+
+void OrvHistory::beginPass()
+{
+    ++m_groups;
+    // What was written before the observers are called is no answer to the undo.
+    if (m_takeBacks > 0)
+        finishStep();
+}
+
+void OrvHistory::endPass(bool isLast)
+{
+    --m_groups;
+    if (m_takeBacks == 0 || m_work != Work::None)
+        return;
+    if (!isStepOpen()) {
+        m_takeBacks = isLast ? 0 : m_takeBacks;
+        return;
+    }
+    --m_takeBacks;
+    m_hasOpenChanges = false;
+    m_journal->revertStep(); // which may notify them again
+    if (auto step = std::move(m_open))
+        keepWithoutChange(std::move(step));
+}
+
+void OrvHistory::keep(std::unique_ptr<HistoryStep> step)
+{
+    dropRedo();
+    m_state = ++m_latestState;
+    if (joins(*step)) {
+        join(*m_steps.back(), std::move(step));
+        return;
+    }
+    step->setState(m_state);
+    m_bytes += step->bytes();
+    m_steps.push_back(std::move(step));
+    ++m_position;
+}
+
+// The commands of one action are one step, and with a journal the keys that are typed into one line. A saved state
+// stays reachable.
+bool OrvHistory::joins(const HistoryStep& step) const
+{
+    if (m_position == 0 || m_cleanState == stateAt(m_position))
+        return false;
+    const auto sameNumber = [](int left, int right) { return left != HistoryOrigin::none && left == right; };
+    const HistoryOrigin& last = m_steps.back()->origin();
+    return sameNumber(last.action, step.origin().action)
+        || (m_journal != nullptr && sameNumber(last.typing, step.origin().typing));
+}
+
+void OrvHistory::join(HistoryStep& last, std::unique_ptr<HistoryStep> step)
+{
+    m_bytes -= last.bytes();
+    last.append(std::move(*step));
+    m_bytes += last.bytes();
+    last.setState(m_state);
+    if (m_journal == nullptr || last.changes() != nullptr)
+        return;
+    // The two together change nothing.
+    m_bytes -= last.bytes();
+    auto undone = std::move(m_steps.back());
+    m_steps.pop_back();
+    --m_position;
+    m_state = stateAt(m_position);
+    if (undone->hasCommands())
+        keepWithoutChange(std::move(undone));
+}
+
+// Steps that can be redone are kept, since the scene is as it was.
+void OrvHistory::keepWithoutChange(std::unique_ptr<HistoryStep> step)
+{
+    if (m_position > 0) {
+        HistoryStep& last = *m_steps[m_position - 1];
+        m_bytes -= last.bytes();
+        last.appendCommands(std::move(*step));
+        m_bytes += last.bytes();
+        return;
+    }
+    step->setState(m_oldestState);
+    m_bytes += step->bytes();
+    m_steps.push_front(std::move(step));
+    ++m_position;
 }
 
 void OrvHistory::undo()
 {
-    if (m_work != Work::None || !canUndo())
+    if (m_work != Work::None)
+        return;
+    closeStep();
+    if (m_position == 0)
         return;
     const Working working(*this, Work::Moving);
-    m_stack.undo();
+    moveBack();
 }
 
 void OrvHistory::redo()
 {
     if (m_work != Work::None)
         return;
+    closeStep();
+    if (m_position == m_steps.size())
+        return;
     const Working working(*this, Work::Moving);
-    m_stack.redo();
+    moveForward();
+}
+
+void OrvHistory::moveBack()
+{
+    HistoryStep& step = *m_steps[m_position - 1];
+    step.undoCommands();
+    --m_position;
+    if (m_journal != nullptr && m_moves == Moves::Exact) {
+        m_journal->revertStep();
+        if (step.changes() != nullptr)
+            step.changes()->undo();
+        m_takeBacks = mostTakeBacks;
+    }
+    enterState(stateAt(m_position), step);
+}
+
+void OrvHistory::moveForward()
+{
+    HistoryStep& step = *m_steps[m_position];
+    step.redoCommands();
+    ++m_position;
+    if (m_journal != nullptr && m_moves == Moves::Exact) {
+        m_journal->revertStep();
+        if (step.changes() != nullptr)
+            step.changes()->redo();
+        m_takeBacks = mostTakeBacks;
+    }
+    enterState(stateAt(m_position), step);
+}
+
+void OrvHistory::enterState(std::uint64_t state, HistoryStep& step)
+{
+    if (m_journal == nullptr || m_moves == Moves::Exact) {
+        m_state = state;
+        return;
+    }
+    // The commands may have left the scene in any state.
+    auto moved = m_journal->finishStep();
+    if (moved == nullptr)
+        return;
+    const bool isThere = step.changes() != nullptr && step.changes()->isReversedBy(*moved);
+    m_state = isThere ? state : ++m_latestState;
+    step.replaceChanges(std::move(moved));
 }
 
 bool OrvHistory::canUndo() const
 {
-    return undoDepth() > 0;
+    return m_position > 0 || m_open != nullptr || hasOpenChanges();
 }
 
 bool OrvHistory::canRedo() const
 {
-    return m_stack.canRedo();
+    return m_position < m_steps.size() && !hasOpenChanges();
 }
 
 int OrvHistory::undoDepth() const
 {
-    return m_stack.index() - m_emptySteps;
+    const bool isStep = hasOpenChanges() || (m_position == 0 && m_open != nullptr);
+    return static_cast<int>(m_position) + (isStep ? 1 : 0);
+}
+
+QString OrvHistory::undoText() const
+{
+    return m_position > 0 && !hasOpenChanges() ? m_steps[m_position - 1]->label() : QString();
+}
+
+QString OrvHistory::redoText() const
+{
+    return canRedo() ? m_steps[m_position]->label() : QString();
+}
+
+bool OrvHistory::hasOpenChanges() const
+{
+    if (m_journal == nullptr || !m_journal->hasRecords())
+        return false;
+    // Not judged for each write again: an action may make many.
+    m_hasOpenChanges = m_hasOpenChanges || m_journal->hasChanges();
+    return m_hasOpenChanges;
 }
 
 void OrvHistory::setClean()
 {
-    m_stack.setClean();
+    finishStep();
+    m_cleanState = m_state;
 }
 
 bool OrvHistory::isClean() const
 {
-    return m_stack.isClean();
+    return m_cleanState == m_state && !hasOpenChanges();
+}
+
+bool OrvHistory::isCleanAt(std::size_t position) const
+{
+    return m_cleanState == stateAt(position);
 }
 
 void OrvHistory::clear()
 {
-    if (m_work != Work::None)
+    if (m_work != Work::None) {
         m_clearLater = true;
-    else
-        m_stack.clear();
+        return;
+    }
+    // The destructor of a command may call the history.
+    const auto open = std::move(m_open);
+    const auto steps = std::exchange(m_steps, {});
+    if (m_journal != nullptr)
+        static_cast<void>(m_journal->finishStep()); // what it changed stays
+    m_position = 0;
+    m_bytes = 0;
+    m_takeBacks = 0;
+    m_state = ++m_latestState;
+    m_oldestState = m_state;
+    m_cleanState = m_state;
 }
 
 void OrvHistory::setLimit(std::size_t bytes)
@@ -263,15 +355,28 @@ void OrvHistory::setLimit(std::size_t bytes)
         trim();
 }
 
+void OrvHistory::dropRedo()
+{
+    while (m_steps.size() > m_position) {
+        m_bytes -= m_steps.back()->bytes();
+        const auto dropped = std::move(m_steps.back());
+        m_steps.pop_back();
+    }
+}
+
 // The newest step stays, whatever its size, so that the last change can always be undone.
 void OrvHistory::trim()
 {
-    while (m_bytes > m_limit && m_emptySteps < m_stack.index() - 1)
-        stepAt(m_emptySteps)->empty();
+    while ((m_bytes > m_limit || m_steps.size() > maximumSteps) && m_position > 1) {
+        m_oldestState = m_steps.front()->state();
+        m_bytes -= m_steps.front()->bytes();
+        const auto dropped = std::move(m_steps.front());
+        m_steps.pop_front();
+        --m_position;
+    }
 }
 
-OrvHistory::Step* OrvHistory::stepAt(int index) const
+std::uint64_t OrvHistory::stateAt(std::size_t position) const
 {
-    // The stack returns its commands as constants, although it got them from here.
-    return static_cast<Step*>(const_cast<QUndoCommand*>(m_stack.command(index)));
+    return position == 0 ? m_oldestState : m_steps[position - 1]->state();
 }

@@ -1,27 +1,35 @@
 #pragma once
 
-#include <QUndoStack>
+#include "orvane/extender/detail/HistoryStep.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <deque>
 #include <memory>
+
+namespace meridane {
+class Journal;
+}
 
 class NxField;
 class NxFieldContainer;
 class OrvCommand;
 
-/// The undo history: an undo stack of steps, each of which holds the commands of one action of the user, the nodes that
-/// they may refer to, and an estimate of its memory.
+/// The undo history: steps, each of which holds the commands of one action of the user and, with a journal, what the
+/// action changed.
 ///
-/// The stack can't drop its oldest steps by memory, so the steps beyond the limit stay at its bottom without commands
-/// and aren't counted. A command that another one pushes while it is executed belongs to the same step. One that it
-/// pushes while it is undone or redone is executed and not kept, since keeping it would drop the steps that can be
-/// redone.
+/// Without a journal, undoing a step only calls the commands' `undo`. With one, it also puts every place of the scene
+/// back to its state before the step, bit for bit, whatever the commands did, and whether there were any. A step then
+/// ends with `finishStep`, where it is judged: commands that changed nothing join the step before them.
+///
+/// A command that another one pushes while it is executed belongs to the same step. One that it pushes while it is
+/// undone or redone is executed and not kept, since keeping it would drop the steps that can be redone.
 class OrvHistory {
 public:
     static constexpr std::size_t defaultLimit = std::size_t{256} << 20;
 
-    /// Limits the memory of the stack itself, including the steps without commands.
-    static constexpr int maximumSteps = 100'000;
+    /// Limits the number of steps.
+    static constexpr std::size_t maximumSteps = 100'000;
 
     OrvHistory();
     OrvHistory(const OrvHistory&) = delete;
@@ -41,13 +49,42 @@ public:
         NxFieldContainer* fieldOwner;
     };
 
+    /// How a step is undone and redone with a journal.
+    enum class Moves : std::uint8_t {
+        Exact, ///< to the bit
+        Commands, ///< only as the commands do it
+    };
+
+    /// Uses the journal of the scene, or none if null. Drops everything first. The journal must outlive its use here.
+    void setJournal(meridane::Journal* journal, Moves moves = Moves::Exact);
+
     /// Executes the command at once and keeps it.
     void push(std::unique_ptr<OrvCommand> command, const Context& context);
+    /// `finishStep`; what follows has that origin.
+    bool beginStep(const HistoryOrigin& origin);
+    /// Ends the open step: it is judged and kept. Returns whether there was one that changed something. Does nothing
+    /// while a command runs.
+    bool finishStep();
+    /// Between the calls, commands outside of any action form one step: editors push several as they show a field,
+    /// which change nothing together.
+    void beginGroup();
+    void endGroup();
+    /// Call them before and after the observers of the scene are called, who form a group. What they write after an
+    /// undo or redo is taken back, since an undone step leaves the scene as it was before. `isLast` says whether no
+    /// observer waits any more.
+    void beginPass();
+    void endPass(bool isLast);
+    /// Whether commands or changes wait for the end of their step.
+    [[nodiscard]] bool isStepOpen() const;
+
     void undo();
     void redo();
     [[nodiscard]] bool canUndo() const;
     [[nodiscard]] bool canRedo() const;
     [[nodiscard]] int undoDepth() const;
+    /// The labels of the steps that would be undone and redone; empty for the open step.
+    [[nodiscard]] QString undoText() const;
+    [[nodiscard]] QString redoText() const;
     void setClean();
     [[nodiscard]] bool isClean() const;
     /// Drops everything. If a command calls it, it takes effect when that command returns.
@@ -57,23 +94,49 @@ public:
     /// The estimate for all steps kept.
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
 
+    /// The finished steps, the oldest first.
+    [[nodiscard]] const std::deque<std::unique_ptr<HistoryStep>>& steps() const noexcept { return m_steps; }
+    /// How many of the steps are done; the others can be redone.
+    [[nodiscard]] std::size_t position() const noexcept { return m_position; }
+    /// Whether the state after that many steps is the saved one.
+    [[nodiscard]] bool isCleanAt(std::size_t position) const;
+
 private:
-    class CommandBytes;
-    class Step;
     enum class Work { None, Executing, Moving };
     class Working;
 
-    void executeInside(std::unique_ptr<OrvCommand> command, const Context& context);
+    void execute(std::unique_ptr<OrvCommand> command, const Context& context);
+    bool closeStep();
+    void keep(std::unique_ptr<HistoryStep> step);
+    void keepWithoutChange(std::unique_ptr<HistoryStep> step);
+    [[nodiscard]] bool joins(const HistoryStep& step) const;
+    void join(HistoryStep& last, std::unique_ptr<HistoryStep> step);
+    void moveBack();
+    void moveForward();
+    void enterState(std::uint64_t state, HistoryStep& step);
+    void dropRedo();
     void trim();
-    [[nodiscard]] Step* stepAt(int index) const;
+    [[nodiscard]] std::uint64_t stateAt(std::size_t position) const;
+    [[nodiscard]] bool hasOpenChanges() const;
 
-    QUndoStack m_stack;
+    meridane::Journal* m_journal = nullptr;
+    Moves m_moves = Moves::Exact;
+    std::deque<std::unique_ptr<HistoryStep>> m_steps;
+    std::size_t m_position = 0;
+    /// The commands of the step that is open; null if there are none.
+    std::unique_ptr<HistoryStep> m_open;
+    HistoryOrigin m_origin;
     std::size_t m_limit = defaultLimit;
     std::size_t m_bytes = 0;
-    /// The steps without commands at the bottom of the stack.
-    int m_emptySteps = 0;
+    // Numbers of states of the scene: before the oldest step, now, and when it was saved; and the number given last.
+    std::uint64_t m_oldestState = 0;
+    std::uint64_t m_state = 0;
+    std::uint64_t m_cleanState = 0;
+    std::uint64_t m_latestState = 0;
+    /// How often writes that answer an undo or redo are still taken back.
+    int m_takeBacks = 0;
+    int m_groups = 0;
     Work m_work = Work::None;
-    /// The step whose command is being executed.
-    Step* m_executing = nullptr;
     bool m_clearLater = false;
+    mutable bool m_hasOpenChanges = false; // found already
 };

@@ -1,8 +1,12 @@
 #include "orvane/extender/detail/UserActionTracker.h"
 
-#include <QCoreApplication>
+#include <QAbstractSpinBox>
+#include <QApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QTextEdit>
 
 namespace {
 
@@ -33,9 +37,16 @@ std::uint32_t keyOf(const QKeyEvent& event)
     return event.nativeScanCode() != 0 ? event.nativeScanCode() : static_cast<std::uint32_t>(event.key());
 }
 
+bool isTextWidget(const QWidget* widget)
+{
+    return qobject_cast<const QLineEdit*>(widget) != nullptr || qobject_cast<const QAbstractSpinBox*>(widget) != nullptr
+        || qobject_cast<const QPlainTextEdit*>(widget) != nullptr || qobject_cast<const QTextEdit*>(widget) != nullptr;
+}
+
 } // namespace
 
-UserActionTracker::UserActionTracker()
+UserActionTracker::UserActionTracker(Clock clock)
+    : m_clock(clock)
 {
     if (QCoreApplication::instance() != nullptr)
         QCoreApplication::instance()->installEventFilter(this);
@@ -104,7 +115,7 @@ void UserActionTracker::keyPressed(const QKeyEvent& event)
     const bool isOfferedAgain = m_holder == Holder::Key && keyOf(event) == m_key && event.timestamp() == m_beganAt;
     if (isOfferedAgain)
         return;
-    begin(Holder::Key, event.timestamp());
+    begin(Holder::Key, event.timestamp(), typingOf(event));
     m_key = keyOf(event);
 }
 
@@ -122,12 +133,30 @@ void UserActionTracker::touchBegan(const QPointerEvent& event)
         begin(Holder::Touch, event.timestamp());
 }
 
-void UserActionTracker::begin(Holder holder, std::uint64_t timestamp)
+int UserActionTracker::typingOf(const QKeyEvent& event)
 {
+    QWidget* const widget = QApplication::focusWidget();
+    const auto now = m_clock();
+    const bool goesOn = m_typing != none && widget == m_typedInto && now - m_typedAt < typingPause;
+    m_typedInto = isTextWidget(widget) ? widget : nullptr;
+    m_typedAt = now;
+    if (m_typedInto == nullptr)
+        return none;
+    const bool isLast = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const int typing = goesOn ? m_typing : ++m_lastTyping;
+    if (isLast)
+        m_typedInto = nullptr;
+    return typing;
+}
+
+void UserActionTracker::begin(Holder holder, std::uint64_t timestamp, int typing)
+{
+    m_typing = typing;
     m_lastAction = m_lastAction == std::numeric_limits<int>::max() ? 1 : m_lastAction + 1;
     m_action = m_lastAction;
     m_holder = holder;
     m_beganAt = timestamp;
+    Q_EMIT began();
 }
 
 void UserActionTracker::released()
@@ -141,7 +170,9 @@ bool UserActionTracker::event(QEvent* event)
 {
     if (event->type() != EndEvent::eventType())
         return QObject::event(event);
-    if (m_holder == Holder::Nothing && static_cast<const EndEvent*>(event)->action() == m_action)
+    if (m_holder == Holder::Nothing && static_cast<const EndEvent*>(event)->action() == m_action) {
         m_action = none;
+        Q_EMIT ended();
+    }
     return true;
 }

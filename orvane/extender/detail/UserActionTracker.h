@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
+#include <chrono>
 #include <cstdint>
 
 class QKeyEvent;
@@ -17,13 +20,30 @@ class QPointerEvent;
 ///
 /// It watches every event of the application object that exists when it is made.
 class UserActionTracker : public QObject {
+    Q_OBJECT
+
 public:
-    UserActionTracker();
+    using Clock = std::chrono::steady_clock::time_point (*)();
+
+    /// Tests pass a clock of their own.
+    explicit UserActionTracker(Clock clock = &std::chrono::steady_clock::now);
     ~UserActionTracker() override;
+
+    /// How far apart two keys that are typed into one line may be to belong together.
+    static constexpr std::chrono::seconds typingPause{2};
 
     static constexpr int none = -1;
     /// The number of the current action, or `none`.
     [[nodiscard]] int currentAction() const noexcept { return m_action; }
+    /// A number of the text that the user is typing, or `none`: the same one for all keys that go to one line or text
+    /// widget, until another control is used, the focus leaves, Return is pressed or two seconds pass without a key.
+    [[nodiscard]] int currentTyping() const noexcept { return m_action == none ? none : m_typing; }
+
+Q_SIGNALS:
+    /// An action begins; its event hasn't been delivered yet.
+    void began();
+    /// An action has ended, and no other one has begun.
+    void ended();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -37,13 +57,20 @@ private:
     void wheelTurned(const QPointerEvent& event);
     void touchBegan(const QPointerEvent& event);
     void released();
-    void begin(Holder holder, std::uint64_t timestamp);
+    void begin(Holder holder, std::uint64_t timestamp, int typing = none);
     [[nodiscard]] bool isPointerDown() const noexcept
     {
         return m_holder == Holder::Button || m_holder == Holder::Touch;
     }
 
+    [[nodiscard]] int typingOf(const QKeyEvent& event);
+
+    Clock m_clock;
     int m_action = none;
+    int m_typing = none;
+    int m_lastTyping = 0;
+    QPointer<QWidget> m_typedInto;
+    std::chrono::steady_clock::time_point m_typedAt;
     int m_lastAction = 0;
     Holder m_holder = Holder::Nothing;
     /// When the action began. An event is seen once for each window and widget that it is delivered to.

@@ -31,8 +31,7 @@ public:
             group->setName(orvane::toVbString(QFileInfo(fileName()).completeBaseName()));
             group->addChild(new NxGroup);
             scene->addChild(group.get());
-            setScene(scene);
-            SceneJob::finish();
+            finishAtOnceWith(scene);
         }
         void fail(const QString& message) { failToRead({{}, 0, 0, message.toStdString()}); }
 

@@ -19,10 +19,6 @@
 #include <QTest>
 #include <QTreeView>
 
-namespace {
-
-} // namespace
-
 WindowMonkey::WindowMonkey(unsigned seed, QHash<QString, int>& done)
     : m_random(seed)
     , m_done(done)
@@ -265,6 +261,7 @@ void WindowMonkey::takeNewScene()
     ++m_done[QStringLiteral("scene")];
     m_addsThere = MonkeyFiles::countParts(open);
     m_marks.mark(open);
+    m_session->services().clearHistory(); // an undo would take the mark away
     noteSave(m_session->document().saveFileName()); // by any key or button, from now on
 }
 

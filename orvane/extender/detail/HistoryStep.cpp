@@ -1,0 +1,83 @@
+#include "orvane/extender/detail/HistoryStep.h"
+
+#include "orvane/extender/OrvCommand.h"
+#include "orvane/extender/detail/StepLabel.h"
+
+#include "meridane/scene/fields/NxFieldContainer.h"
+
+#include <algorithm>
+#include <iterator>
+#include <ranges>
+
+namespace {
+
+// The memory of a step without its commands and changes.
+constexpr std::size_t bytesPerStep = 320;
+
+} // namespace
+
+HistoryStep::HistoryStep(const HistoryOrigin& origin)
+    : m_origin(origin)
+{
+}
+
+HistoryStep::~HistoryStep() = default;
+
+void HistoryStep::add(std::unique_ptr<OrvCommand> command, NxFieldContainer* node, NxFieldContainer* fieldOwner)
+{
+    m_commands.push_back(std::move(command));
+    hold(node);
+    hold(fieldOwner);
+}
+
+void HistoryStep::undoCommands()
+{
+    for (const auto& command : m_commands | std::views::reverse)
+        command->undo();
+}
+
+void HistoryStep::redoCommands()
+{
+    for (const auto& command : m_commands)
+        command->redo();
+}
+
+void HistoryStep::setChanges(std::unique_ptr<meridane::JournalStep> changes)
+{
+    m_changes = std::move(changes);
+    updateLabel();
+}
+
+void HistoryStep::appendCommands(HistoryStep&& step)
+{
+    std::ranges::move(step.m_commands, std::back_inserter(m_commands));
+    for (const auto& node : step.m_nodes)
+        hold(node.get());
+    m_commandBytes += step.m_commandBytes;
+}
+
+void HistoryStep::append(HistoryStep&& step)
+{
+    if (m_changes == nullptr)
+        m_changes = std::move(step.m_changes);
+    else if (step.m_changes != nullptr && !m_changes->append(std::move(*step.m_changes)))
+        m_changes.reset();
+    updateLabel();
+    appendCommands(std::move(step));
+}
+
+void HistoryStep::updateLabel()
+{
+    m_label = m_changes != nullptr ? orvane::labelOf(*m_changes) : QString();
+}
+
+std::size_t HistoryStep::bytes() const
+{
+    return bytesPerStep + m_commandBytes + (m_changes != nullptr ? m_changes->bytes() : 0);
+}
+
+void HistoryStep::hold(NxFieldContainer* node)
+{
+    if (node != nullptr && std::ranges::find(m_nodes, NxRef(node)) == m_nodes.end())
+        m_nodes.emplace_back(node);
+}

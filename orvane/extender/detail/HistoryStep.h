@@ -1,0 +1,88 @@
+#pragma once
+
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/journal/JournalStep.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <utility>
+#include <vector>
+
+class NxFieldContainer;
+class OrvCommand;
+
+/// What a step of the history belongs to.
+struct HistoryOrigin {
+    static constexpr int none = -1;
+
+    /// The action of the user.
+    int action = none;
+    /// The text that the user types, the same number for all keys that belong together.
+    int typing = none;
+};
+
+/// One step of the undo history: the commands of one action of the user, the nodes that they may refer to, and what the
+/// action changed in the scene.
+class HistoryStep {
+public:
+    explicit HistoryStep(const HistoryOrigin& origin);
+    HistoryStep(const HistoryStep&) = delete;
+    HistoryStep& operator=(const HistoryStep&) = delete;
+    ~HistoryStep();
+
+    [[nodiscard]] const HistoryOrigin& origin() const noexcept { return m_origin; }
+    /// When the step began.
+    [[nodiscard]] const QDateTime& time() const noexcept { return m_time; }
+
+    /// Takes a command, and keeps the nodes alive as long; either may be null.
+    void add(std::unique_ptr<OrvCommand> command, NxFieldContainer* node, NxFieldContainer* fieldOwner);
+    [[nodiscard]] bool hasCommands() const noexcept { return !m_commands.empty(); }
+    /// Adds to the estimate of the memory of the commands.
+    void addCommandBytes(std::size_t bytes) noexcept { m_commandBytes += bytes; }
+    /// Calls `undo` of the commands, the last one first.
+    void undoCommands();
+    /// Calls `redo` of the commands, the first one first.
+    void redoCommands();
+
+    // The scene is in the state directly after the step as its changes are set or others are appended.
+
+    /// What the step changed; null for a step that changed nothing, and without a journal.
+    [[nodiscard]] meridane::JournalStep* changes() const noexcept { return m_changes.get(); }
+    /// Says in some words what the step changed; empty without changes.
+    [[nodiscard]] const QString& label() const noexcept { return m_label; }
+    void setChanges(std::unique_ptr<meridane::JournalStep> changes);
+
+    /// Sets the changes of the latest move over this step, back or forward. The label stays.
+    void replaceChanges(std::unique_ptr<meridane::JournalStep> changes) { m_changes = std::move(changes); }
+
+    /// Appends the commands of a step that changed nothing.
+    void appendCommands(HistoryStep&& step);
+    /// Appends a step that directly followed this one. The scene is in the state after that step. If the two together
+    /// change nothing, there are no changes left.
+    void append(HistoryStep&& step);
+
+    /// The memory in bytes, estimated.
+    [[nodiscard]] std::size_t bytes() const;
+
+    /// A number of the scene's state after the step. Equal states have equal numbers.
+    [[nodiscard]] std::uint64_t state() const noexcept { return m_state; }
+    void setState(std::uint64_t state) noexcept { m_state = state; }
+
+private:
+    void updateLabel();
+    void hold(NxFieldContainer* node);
+
+    HistoryOrigin m_origin;
+    QString m_label;
+    QDateTime m_time = QDateTime::currentDateTime();
+    std::size_t m_commandBytes = 0;
+    std::uint64_t m_state = 0;
+    std::unique_ptr<meridane::JournalStep> m_changes;
+    // Declared after the nodes, so that the commands are destroyed first.
+    std::vector<NxRef<NxFieldContainer>> m_nodes;
+    std::vector<std::unique_ptr<OrvCommand>> m_commands;
+};
