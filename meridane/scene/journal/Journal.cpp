@@ -77,16 +77,22 @@ bool Journal::hasChanges() const
 
 std::unique_ptr<JournalStep> Journal::finishStep()
 {
-    JournalStep::Records records = takeRecords();
+    if (m_records.empty())
+        return nullptr;
+    closeRecords();
+    JournalStep::Records records = std::exchange(m_records, {});
     StepRecords::removeUnchanged(records);
     return records.empty() ? nullptr : std::make_unique<JournalStep>(std::move(records));
 }
 
 void Journal::revertStep()
 {
-    const JournalStep::Records records = takeRecords();
-    StepRecords::undo(records);
-    StepRecords::notify(records);
+    if (m_records.empty())
+        return;
+    closeRecords();
+    StepRecords::undo(m_records);
+    StepRecords::notify(m_records);
+    m_records.clear(); // which keeps its memory for the next undo
 }
 
 void Journal::add(std::unique_ptr<ChangeRecord> record) noexcept
@@ -163,14 +169,14 @@ void Journal::giveNumber(NxFieldContainer& node)
     setNumber(node, static_cast<std::uint32_t>(m_nodes.size()));
 }
 
-JournalStep::Records Journal::takeRecords() noexcept
+void Journal::closeRecords() noexcept
 {
     for (const auto& record : m_records)
         record->close();
-    m_rows.clear();
+    if (!m_rows.empty())
+        m_rows.clear();
     m_latestList = nullptr;
     m_bytes = 0;
-    return std::exchange(m_records, {});
 }
 
 } // namespace meridane

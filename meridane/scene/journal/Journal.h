@@ -71,7 +71,7 @@ private:
     [[nodiscard]] bool follows(const NxFieldContainer& node) const noexcept override;
     void makeRoom() override;
     void giveNumber(NxFieldContainer& node);
-    [[nodiscard]] JournalStep::Records takeRecords() noexcept;
+    void closeRecords() noexcept;
 
     NxRef<NxGroup> m_scene;
     std::optional<NodeTraversal> m_waiting; // for their numbers

@@ -3,9 +3,9 @@
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/journal/JournalStep.h"
 
-#include <QDateTime>
 #include <QString>
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -36,7 +36,7 @@ public:
 
     [[nodiscard]] const HistoryOrigin& origin() const noexcept { return m_origin; }
     /// When the step began.
-    [[nodiscard]] const QDateTime& time() const noexcept { return m_time; }
+    [[nodiscard]] std::chrono::system_clock::time_point time() const noexcept { return m_time; }
 
     /// Takes a command, and keeps the nodes alive as long; either may be null.
     void add(std::unique_ptr<OrvCommand> command, NxFieldContainer* node, NxFieldContainer* fieldOwner);
@@ -78,7 +78,7 @@ private:
 
     HistoryOrigin m_origin;
     QString m_label;
-    QDateTime m_time = QDateTime::currentDateTime();
+    std::chrono::system_clock::time_point m_time = std::chrono::system_clock::now();
     std::size_t m_commandBytes = 0;
     std::uint64_t m_state = 0;
     std::unique_ptr<meridane::JournalStep> m_changes;

@@ -101,10 +101,12 @@ bool OrvHistory::isStepOpen() const
 bool OrvHistory::closeStep()
 {
     m_hasOpenChanges = false;
+    if (!isStepOpen())
+        return false;
     auto changes = m_journal != nullptr ? m_journal->finishStep() : nullptr;
     auto step = std::move(m_open);
     if (!step && !changes)
-        return false;
+        return false; // what was written has been written back
     if (!step)
         step = std::make_unique<HistoryStep>(m_origin);
     const bool changed = m_journal == nullptr || changes != nullptr;
