@@ -39,7 +39,8 @@ void ChildrenRecord::exchange()
 bool ChildrenRecord::isSameAsNow() const
 {
     const auto present = group().getChildren().subspan(m_start, m_count);
-    return std::ranges::equal(present, m_children, {}, {}, &NxRef<NxNode>::get);
+    const auto isSame = [](const NxNode* child, const NxRef<NxNode>& other) { return child == other.get(); };
+    return std::equal(present.begin(), present.end(), m_children.begin(), m_children.end(), isSame);
 }
 
 std::ptrdiff_t ChildrenRecord::growth() const noexcept

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <ranges>
 
 namespace {
 
@@ -32,8 +31,7 @@ void HistoryStep::add(std::unique_ptr<OrvCommand> command, NxFieldContainer* nod
 
 void HistoryStep::undoCommands()
 {
-    for (const auto& command : m_commands | std::views::reverse)
-        command->undo();
+    std::for_each(m_commands.rbegin(), m_commands.rend(), [](const auto& command) { command->undo(); });
 }
 
 void HistoryStep::redoCommands()

@@ -44,7 +44,8 @@ bool PlaceSnapshots::areSameAsNow() const
         && isSame(m_ignored, [](const NxField& field, bool ignored) { return field.isIgnored() == ignored; })
         && isSame(m_names, [](const NxFieldContainer& node, const VbString& name) { return node.getName() == name; })
         && isSame(m_children, [](const NxGroup& group, const std::vector<NxNode*>& children) {
-               return std::ranges::equal(group.getChildren(), children);
+               const auto present = group.getChildren();
+               return std::equal(present.begin(), present.end(), children.begin(), children.end());
            });
 }
 

@@ -3,7 +3,6 @@
 #include "meridane/scene/journal/detail/PlaceSnapshots.h"
 
 #include <algorithm>
-#include <ranges>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -73,8 +72,7 @@ bool isChanged(const Sequence& sequence)
         return true;
     PlaceSnapshots present;
     present.add(*sequence.records.front());
-    for (ChangeRecord* record : sequence.records | std::views::reverse)
-        record->exchange();
+    std::for_each(sequence.records.rbegin(), sequence.records.rend(), [](ChangeRecord* record) { record->exchange(); });
     const bool same = present.areSameAsNow();
     for (ChangeRecord* record : sequence.records)
         record->exchange();
@@ -108,8 +106,7 @@ private:
 
 void undo(View records)
 {
-    for (const auto& record : records | std::views::reverse)
-        record->exchange();
+    std::for_each(records.rbegin(), records.rend(), [](const auto& record) { record->exchange(); });
 }
 
 void redo(View records)
