@@ -1,4 +1,3 @@
-#include "meridane/gl/gpu/detail/Fingerprint.h"
 #include "meridane/gl/gpu/detail/RangeList.h"
 #include "meridane/gl/places/detail/BoundsTree.h"
 
@@ -155,23 +154,6 @@ private Q_SLOTS:
         QVERIFY(!list.canTake(11));
         list.release(10, 10);
         QCOMPARE(list.take(30), std::optional<std::uint32_t>(0));
-    }
-
-    void fingerprintsDiffer()
-    {
-        std::set<std::uint64_t> seen;
-        std::vector<std::byte> bytes;
-        // Zeros of all lengths, and each with one bit set.
-        for (std::size_t length = 0; length < 100; ++length) {
-            bytes.assign(length, std::byte{0});
-            QVERIFY(seen.insert(fingerprintOf(bytes)).second);
-            QCOMPARE(fingerprintOf(bytes), *seen.find(fingerprintOf(bytes)));
-            for (std::size_t bit = 0; bit < 8 * length; ++bit) {
-                bytes[bit / 8] = std::byte{1} << (bit % 8);
-                QVERIFY(seen.insert(fingerprintOf(bytes)).second);
-                bytes[bit / 8] = std::byte{0};
-            }
-        }
     }
 };
 

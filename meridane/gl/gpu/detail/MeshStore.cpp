@@ -1,6 +1,6 @@
 #include "meridane/gl/gpu/detail/MeshStore.h"
 
-#include "meridane/gl/gpu/detail/Fingerprint.h"
+#include "meridane/base/ContentHash.h"
 #include "meridane/gl/places/detail/EffectiveField.h"
 
 #include <algorithm>
@@ -313,7 +313,7 @@ void MeshStore::sendList(
         return;
     MeshRecord& mesh = *transfer.mesh;
     if (transfer.cells == 0) {
-        const std::uint64_t fingerprint = fingerprintOf(bytes);
+        const std::uint64_t fingerprint = shortHashOf(bytes);
         if (fingerprint == std::exchange(mesh.fingerprints[list], fingerprint))
             return;
     }

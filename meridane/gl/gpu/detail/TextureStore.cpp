@@ -1,6 +1,6 @@
 #include "meridane/gl/gpu/detail/TextureStore.h"
 
-#include "meridane/gl/gpu/detail/Fingerprint.h"
+#include "meridane/base/ContentHash.h"
 #include "meridane/gl/gpu/detail/GLStateScope.h"
 #include "meridane/gl/gpu/detail/TextureImage.h"
 #include "meridane/gl/places/detail/EffectiveField.h"
@@ -39,10 +39,10 @@ std::uint64_t fingerprintOf(const TextureImage& image)
 {
     const std::array<std::uint64_t, 4> parts{static_cast<std::uint64_t>(image.width),
         static_cast<std::uint64_t>(image.height), static_cast<std::uint64_t>(image.components),
-        meridane::fingerprintOf(std::as_bytes(std::span(image.bytes,
+        meridane::shortHashOf(std::as_bytes(std::span(image.bytes,
             static_cast<std::size_t>(image.width) * static_cast<std::size_t>(image.height)
                 * static_cast<std::size_t>(image.components))))};
-    return meridane::fingerprintOf(std::as_bytes(std::span(parts)));
+    return meridane::shortHashOf(std::as_bytes(std::span(parts)));
 }
 
 /// From nearest pixels to all kinds of smoothing.
