@@ -236,7 +236,7 @@ void FileFlow::takeScene(const ReadScene& read, const QString& fileName, const O
     m_recent.add(fileName);
     // The old scene could be edited while the new one was read.
     leave({[this, read, fileName, opened] {
-               m_session.document().open(read.journal, fileName);
+               m_session.document().open(read.journal, fileName, read.content);
                endOpen(opened, {});
            },
         [this, fileName, opened] { cancelOpen(opened, fileName); }});
@@ -306,7 +306,7 @@ void FileFlow::writeScene(const QString& fileName, const Next& next)
 {
     write(fileName, tr("Saving"),
         {[this, fileName, next] {
-             m_session.document().setSaved(fileName);
+             m_session.document().setSaved(fileName, m_work.writtenContent());
              m_recent.add(fileName);
              next.proceed();
          },

@@ -64,13 +64,13 @@ SceneJob::~SceneJob() = default;
 
 void SceneJob::finishAtOnceWith(const NxRef<NxGroup>& scene)
 {
-    m_read = {scene, OrvDocument::makeJournal(*scene)};
+    m_read = {scene, OrvDocument::makeJournal(*scene), content()};
     finish();
 }
 
 void SceneJob::finishWith(const NxRef<NxGroup>& scene)
 {
-    m_numbered = {scene, std::make_shared<meridane::Journal>(*scene)};
+    m_numbered = {scene, std::make_shared<meridane::Journal>(*scene), content()};
     startSlices();
 }
 

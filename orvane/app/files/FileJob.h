@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/base/ContentHash.h"
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/file/NxReadFailure.h"
 #include "meridane/scene/nodes/NxGroup.h"
@@ -9,6 +10,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <utility>
 
 /// Long work on a file, done in slices or by another process, so that the window never waits for it.
@@ -30,6 +32,8 @@ public:
     void cancel();
 
     [[nodiscard]] const QString& fileName() const noexcept { return m_fileName; }
+    /// The content of the file as the job read or wrote it, once it has finished; nothing for a job that doesn't know.
+    [[nodiscard]] const std::optional<meridane::ContentHash>& content() const noexcept { return m_content; }
 
 Q_SIGNALS:
     /// The share of the work that is done, 0 to 1, or -1 while it isn't known.
@@ -50,6 +54,7 @@ protected:
     /// Closes files and ends processes. Called once, when the job ends.
     virtual void release() { }
 
+    void setContent(const meridane::ContentHash& content) { m_content = content; }
     /// Ends the job with `finished`.
     void finish();
     /// Ends the job with `failed`. Does nothing when the job has ended.
@@ -59,6 +64,7 @@ private:
     void end();
 
     QString m_fileName;
+    std::optional<meridane::ContentHash> m_content;
     QBasicTimer m_slices;
     bool m_ended = false;
 };
@@ -67,10 +73,11 @@ namespace meridane {
 class Journal;
 }
 
-/// What a job has read: the scene, and a journal of it that doesn't record yet.
+/// What a job has read: the scene, a journal of it that doesn't record yet, and the content of the file.
 struct ReadScene {
     NxRef<NxGroup> scene;
     std::shared_ptr<meridane::Journal> journal;
+    std::optional<meridane::ContentHash> content = {};
 };
 
 /// A job that ends with a scene.

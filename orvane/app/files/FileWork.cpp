@@ -186,8 +186,9 @@ void FileWork::write(std::unique_ptr<FileJob> job, const QString& text, const Ne
     FileJob* running = job.get();
     m_writing.emplace(Writing{std::move(job), std::make_unique<InputBlock>(&m_jobBar), next});
     connect(m_writing->block.get(), &InputBlock::escapePressed, running, &FileJob::cancel);
-    connect(running, &FileJob::finished, this, [this] {
+    connect(running, &FileJob::finished, this, [this, running] {
         m_messages.clearTopic(writingTopic);
+        m_writtenContent = running->content();
         endWriting(WritingEnd::Written);
     });
     connect(running, &FileJob::failed, this, [this](const QString& message) {

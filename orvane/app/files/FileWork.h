@@ -65,6 +65,11 @@ public:
     void stopReading(const QString& reason);
     /// Starts to write a scene. None must be written already.
     void write(std::unique_ptr<FileJob> job, const QString& text, const Next& next);
+    /// What the file holds that was written last.
+    [[nodiscard]] const std::optional<meridane::ContentHash>& writtenContent() const noexcept
+    {
+        return m_writtenContent;
+    }
     /// Gives up the requests that were made for a scene that isn't open any more.
     void dropOtherScenes(int openScene);
     /// Gives up the file that is read and all requests that wait, without a message.
@@ -113,5 +118,6 @@ private:
     std::optional<Writing> m_writing;
     QList<const QObject*> m_dialogs; // that are open
     FileRequests m_waiting;
+    std::optional<meridane::ContentHash> m_writtenContent;
     bool m_goingOn = false; // inside `goOn`
 };

@@ -6,6 +6,7 @@
 
 ImportJob::ImportJob(const QString& fileName, const HelperOptions& options)
     : SceneJob(fileName)
+    , m_hasher(orvane::toStdFileName(fileName))
     , m_helper(options, {QStringLiteral("--packed"), QStringLiteral("--read"), orvane::absoluteFileName(fileName)},
           orvane::modelSize(orvane::toStdFileName(fileName)))
 {
@@ -27,6 +28,18 @@ ImportJob::~ImportJob() = default;
 void ImportJob::start()
 {
     Q_EMIT progressed(-1);
+    startSlices();
+}
+
+void ImportJob::hashFile()
+{
+    const auto state = m_hasher.step(SliceClock());
+    if (state == meridane::FileHasher::State::Working)
+        return;
+    // A file that can't be read is reported by the helper.
+    if (state == meridane::FileHasher::State::Done)
+        setContent(m_hasher.hash());
+    pauseSlices();
     m_helper.start();
 }
 
@@ -51,6 +64,8 @@ void ImportJob::startReading()
 
 void ImportJob::readSlice()
 {
+    if (m_reader == nullptr)
+        return hashFile();
     using State = orvane::PackedSceneReader::State;
     switch (m_reader->step(SliceClock::length)) {
     case State::Working:

@@ -4,6 +4,8 @@
 #include "orvane/app/files/FileJob.h"
 #include "orvane/transfer/PackedSceneReader.h"
 
+#include "meridane/base/FileHasher.h"
+
 #include <memory>
 
 /// Reads a foreign model: the import helper turns it into a packed scene, which is read in slices as soon as it is
@@ -22,12 +24,15 @@ protected:
     void release() override;
 
 private:
+    void hashFile();
     void takeOutput();
     void startReading();
     void finishWhenAllIsDone();
     void failForNoScene(const QString& reason);
     void failToImport(const QString& message);
 
+    /// Before the helper is started, so that a change of the file while it is read is noticed later.
+    meridane::FileHasher m_hasher;
     HelperProcess m_helper;
     orvane::PackedParts m_parts;
     std::unique_ptr<orvane::PackedSceneReader> m_reader; // once all parts are there, or the helper has ended

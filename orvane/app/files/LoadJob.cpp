@@ -53,15 +53,25 @@ void LoadJob::readBytes()
             return failToRead(std::move(*failure));
     }
     while (!m_atEnd && !slice.isSpent()) {
-        if (const auto message = m_file.read(m_bytes, chunk, m_atEnd))
+        if (const auto message = readChunk())
             return failToRead(withMessage(*message));
         if (auto failure = checkSize(m_bytes.size()))
             return failToRead(std::move(*failure));
     }
-    if (m_atEnd)
+    if (m_atEnd) {
+        setContent(m_hasher.hash());
         m_reader = std::make_unique<NxSceneReader>(std::move(m_bytes), orvane::toStdFileName(fileName()));
-    else if (m_file.size() > 0)
+    } else if (m_file.size() > 0) {
         Q_EMIT progressed(readingShare * static_cast<double>(m_bytes.size()) / static_cast<double>(m_file.size()));
+    }
+}
+
+std::optional<std::string> LoadJob::readChunk()
+{
+    const std::size_t before = m_bytes.size();
+    auto message = m_file.read(m_bytes, chunk, m_atEnd);
+    m_hasher.add(std::string_view(m_bytes).substr(before));
+    return message;
 }
 
 std::optional<NxReadFailure> LoadJob::open()
@@ -70,7 +80,7 @@ std::optional<NxReadFailure> LoadJob::open()
     const std::string name = orvane::toStdFileName(fileName());
     auto message = m_file.open(name);
     if (!message)
-        message = m_file.read(m_bytes, chunk, m_atEnd);
+        message = readChunk();
     if (message)
         return withMessage(*message);
     if (auto failure = NxSceneReader::checkBeginning(m_bytes.substr(0, beginning), name))

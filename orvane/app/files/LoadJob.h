@@ -3,6 +3,7 @@
 #include "orvane/app/base/SliceClock.h"
 #include "orvane/app/files/FileJob.h"
 
+#include "meridane/base/ContentHash.h"
 #include "meridane/base/Files.h"
 #include "meridane/scene/file/NxSceneReader.h"
 
@@ -30,6 +31,8 @@ protected:
 
 private:
     void readBytes();
+    /// The result is the message of a failure.
+    [[nodiscard]] std::optional<std::string> readChunk();
     /// Opens the file and checks its beginning.
     [[nodiscard]] std::optional<NxReadFailure> open();
     [[nodiscard]] std::optional<NxReadFailure> checkSize(std::size_t size) const;
@@ -38,6 +41,7 @@ private:
     SliceClock::Clock m_clock;
     meridane::FileReader m_file;
     std::string m_bytes;
+    meridane::ContentHasher m_hasher; // of the file, as it is read
     std::unique_ptr<NxSceneReader> m_reader; // once the file is in memory
     bool m_opened = false;
     bool m_atEnd = false;

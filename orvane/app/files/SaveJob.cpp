@@ -55,9 +55,13 @@ orvane::Result<SaveJob::Progress> SaveJob::writeSlice()
         failure = name + ": " + m_writer->failure();
     if (!failure)
         failure = m_file->write(text.data(), text.size());
+    m_hasher.add(text);
     if (!failure && !more)
         failure = m_file->commit();
     if (failure)
         return orvane::Failure{orvane::toQString(*failure)};
-    return more ? Progress::Working : Progress::Done;
+    if (more)
+        return Progress::Working;
+    setContent(m_hasher.hash());
+    return Progress::Done;
 }

@@ -4,6 +4,7 @@
 #include "orvane/app/base/SliceClock.h"
 #include "orvane/app/files/FileJob.h"
 
+#include "meridane/base/ContentHash.h"
 #include "meridane/base/Files.h"
 #include "meridane/scene/file/NxSceneWriter.h"
 
@@ -36,4 +37,5 @@ private:
     QString m_pathFolder;
     std::unique_ptr<NxSceneWriter> m_writer;
     std::unique_ptr<meridane::FileReplacer> m_file; // once it is open
+    meridane::ContentHasher m_hasher; // of what is written
 };

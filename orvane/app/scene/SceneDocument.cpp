@@ -42,7 +42,7 @@ bool SceneDocument::isModified() const
 
 void SceneDocument::newScene()
 {
-    replace(OrvDocument::makeJournal(*new NxGroup), QString());
+    replace(OrvDocument::makeJournal(*new NxGroup), QString(), std::nullopt);
 }
 
 void SceneDocument::open(const NxRef<NxGroup>& scene, const QString& fileName)
@@ -50,19 +50,21 @@ void SceneDocument::open(const NxRef<NxGroup>& scene, const QString& fileName)
     open(OrvDocument::makeJournal(*scene), fileName);
 }
 
-void SceneDocument::open(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName)
+void SceneDocument::open(
+    const std::shared_ptr<meridane::Journal>& journal, const QString& fileName, const FileContent& content)
 {
-    replace(journal, orvane::absoluteFileName(fileName));
+    replace(journal, orvane::absoluteFileName(fileName), content);
 }
 
 void SceneDocument::close()
 {
     if (isOpen())
-        replace(nullptr, QString());
+        replace(nullptr, QString(), std::nullopt);
 }
 
-void SceneDocument::setSaved(const QString& fileName)
+void SceneDocument::setSaved(const QString& fileName, const FileContent& content)
 {
+    m_fileContent = content;
     m_services.setClean();
     if (m_pathFolder.isEmpty())
         m_pathFolder = orvane::folderOf(fileName);
@@ -80,7 +82,8 @@ bool SceneDocument::isSceneFileName(const QString& fileName)
     return fileName.endsWith(fileExtension(), Qt::CaseInsensitive);
 }
 
-void SceneDocument::replace(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName)
+void SceneDocument::replace(
+    const std::shared_ptr<meridane::Journal>& journal, const QString& fileName, const FileContent& content)
 {
     // Before the scene is deleted, editors release its fields, then views its nodes, then commands both.
     m_services.selectField(nullptr);
@@ -93,6 +96,7 @@ void SceneDocument::replace(const std::shared_ptr<meridane::Journal>& journal, c
         m_services.document().open(journal);
     ++m_sceneNumber;
     m_pathFolder = orvane::folderOf(fileName);
+    m_fileContent = content;
     m_fileName = fileName; // slots of sceneChanged ask for its folder
     Q_EMIT sceneChanged();
     setFileName(fileName);

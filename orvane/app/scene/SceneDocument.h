@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/base/ContentHash.h"
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
@@ -7,6 +8,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace meridane {
 class Journal;
@@ -22,6 +24,8 @@ class SceneDocument : public QObject {
     Q_OBJECT
 
 public:
+    using FileContent = std::optional<meridane::ContentHash>;
+
     /// Both live longer than the document.
     SceneDocument(OrvServices& services, SceneDisposal& disposal);
     ~SceneDocument() override;
@@ -37,6 +41,9 @@ public:
     [[nodiscard]] const QString& pathFolder() const noexcept { return m_pathFolder; }
     /// The file that saving writes: empty where the user must choose one, as for a scene that was imported.
     [[nodiscard]] QString saveFileName() const;
+    /// What the file held when the scene was read from it or saved to it; nothing for a new scene, and if it isn't
+    /// known.
+    [[nodiscard]] const FileContent& fileContent() const noexcept { return m_fileContent; }
     /// The name of the scene in titles and messages.
     [[nodiscard]] QString displayName() const;
     [[nodiscard]] bool isModified() const;
@@ -48,12 +55,13 @@ public:
     void newScene();
     /// Opens a scene in place of the present one.
     void open(const NxRef<NxGroup>& scene, const QString& fileName);
-    /// Opens the scene of a journal whose `run` has ended.
-    void open(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName);
+    /// Opens the scene of a journal whose `run` has ended; `content` is that of the file, if it is known.
+    void open(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName,
+        const FileContent& content = std::nullopt);
     /// Leaves nothing open.
     void close();
-    /// Notes that the scene in its present state was saved to that file.
-    void setSaved(const QString& fileName);
+    /// Notes that the scene in its present state was saved to that file, which has that content now.
+    void setSaved(const QString& fileName, const FileContent& content = std::nullopt);
 
     /// The extension of scene files, with its dot.
     [[nodiscard]] static QString fileExtension();
@@ -68,7 +76,8 @@ Q_SIGNALS:
     void modifiedChanged(bool modified);
 
 private:
-    void replace(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName);
+    void replace(
+        const std::shared_ptr<meridane::Journal>& journal, const QString& fileName, const FileContent& content);
     void setFileName(const QString& fileName);
     void reportModified();
 
@@ -76,6 +85,7 @@ private:
     SceneDisposal& m_disposal;
     NxRef<NxGroup> m_scene;
     QString m_fileName;
+    FileContent m_fileContent;
     QString m_pathFolder;
     int m_sceneNumber = 1;
     bool m_reportedModified = false;

@@ -53,6 +53,25 @@ private Q_SLOTS:
         QVERIFY(!job.takeScene());
     }
 
+    void knowsTheContentOfTheFile()
+    {
+        writeFile(m_fileName, AppScenes::robotText);
+        LoadJob load(m_fileName);
+        QVERIFY(!load.content());
+        const QSignalSpy read(&load, &FileJob::finished);
+        load.start();
+        QTRY_COMPARE(read.size(), 1);
+        const ReadScene scene = load.take();
+        QVERIFY(scene.content == meridane::ContentHash::of(AppScenes::robotText));
+
+        SaveJob save(scene.scene, m_folder->filePath(QStringLiteral("copy.mrd")));
+        QVERIFY(!save.content());
+        const QSignalSpy written(&save, &FileJob::finished);
+        save.start();
+        QTRY_COMPARE(written.size(), 1);
+        QVERIFY(save.content() == meridane::ContentHash::of(readFile(save.fileName()).toStdString()));
+    }
+
     void refusesWhatCannotBeRead_data()
     {
         QTest::addColumn<QString>("fileName");

@@ -26,6 +26,7 @@ private Q_SLOTS:
         QCOMPARE(record.finished, 1);
         QCOMPARE(record.ends(), 1);
         QCOMPARE(m_errors, 0);
+        QVERIFY(job.content() == meridane::ContentHash::of(readFile(job.fileName()).toStdString()));
         const NxRef<NxGroup> scene = job.takeScene();
         QVERIFY(scene);
         QCOMPARE(scene->getNumChildren(), 3);
