@@ -1,10 +1,8 @@
+#include "base/FileSizeLimit.h"
 #include "base/FolderCase.h"
 
 #include <QTest>
 
-#include <csignal>
-
-#include <sys/resource.h>
 #include <unistd.h>
 
 using meridane::FileReplacer;
@@ -106,15 +104,9 @@ private Q_SLOTS:
     {
         FileReplacer replacer;
         QVERIFY(!replacer.open(path("file")));
-        struct rlimit old { };
-        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &old), 0);
-        const rlimit small{100000, old.rlim_max};
-        const auto handler = ::signal(SIGXFSZ, SIG_IGN);
-        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
+        const FileSizeLimit limit(100000);
         const std::string bytes(200000, 'x');
         const auto message = replacer.write(bytes.data(), bytes.size());
-        ::setrlimit(RLIMIT_FSIZE, &old);
-        ::signal(SIGXFSZ, handler);
         QCOMPARE(message.value_or("no message"), path("file") + ": File too large");
     }
 };

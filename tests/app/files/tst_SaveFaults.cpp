@@ -2,6 +2,7 @@
 #include "TestFiles.h"
 #include "app/AppScenes.h"
 #include "app/SaveScene.h"
+#include "base/FileSizeLimit.h"
 
 #include <QDir>
 #include <QProcess>
@@ -11,33 +12,9 @@
 #include <csignal>
 #include <random>
 
-#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
-
-/// Lets no file of this process grow beyond that many bytes as long as it lives.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-        : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_old);
-        const rlimit limit{bytes, m_old.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    struct rlimit m_old { };
-    void (*m_oldHandler)(int);
-};
 
 QByteArray textOf(const NxRef<NxGroup>& scene)
 {

@@ -1,0 +1,62 @@
+#include "orvane/app/recovery/RecoveryFolder.h"
+
+#include "orvane/app/base/TextConversion.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QUuid>
+
+#include <cerrno>
+#include <cstring>
+
+#include <sys/stat.h>
+
+namespace {
+
+const QString extension = QStringLiteral(".recovery");
+
+} // namespace
+
+RecoveryFolder::RecoveryFolder(const QString& path)
+    : m_path(path)
+{
+}
+
+QString RecoveryFolder::defaultPath()
+{
+    // As for all of these variables, a path that is not absolute is ignored.
+    QString state = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(state))
+        state = QDir::homePath() + QStringLiteral("/.local/state");
+    return state + QStringLiteral("/orvane/recovery");
+}
+
+orvane::Result<std::unique_ptr<LockedFile>> RecoveryFolder::createFile() const
+{
+    if (!QFileInfo::exists(m_path)) {
+        const QString parent = QFileInfo(m_path).path();
+        constexpr mode_t onlyForTheUser = 0700;
+        if (!QDir().mkpath(parent) || ::mkdir(orvane::toStdFileName(m_path).c_str(), onlyForTheUser) != 0)
+            return orvane::Failure{QStringLiteral("%1: %2").arg(m_path, QString::fromLocal8Bit(std::strerror(errno)))};
+    }
+    const auto create = [this] {
+        const QString name = QUuid::createUuid().toString(QUuid::WithoutBraces);
+        return LockedFile::create(m_path + u'/' + name + extension);
+    };
+    // Another process that looks for abandoned files may lock a new one for a moment.
+    constexpr int attempts = 10;
+    auto file = create();
+    for (int i = 1; !file && i < attempts; ++i)
+        file = create();
+    return file;
+}
+
+std::vector<std::unique_ptr<LockedFile>> RecoveryFolder::lockAbandoned() const
+{
+    std::vector<std::unique_ptr<LockedFile>> files;
+    for (const QString& name : QDir(m_path).entryList({u'*' + extension}, QDir::Files | QDir::Hidden, QDir::Time)) {
+        if (auto file = LockedFile::lock(m_path + u'/' + name))
+            files.push_back(std::move(file));
+    }
+    return files;
+}
