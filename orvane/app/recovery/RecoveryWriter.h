@@ -25,7 +25,7 @@ public:
     /// Writes what waits and keeps the file, if `discard` wasn't called. Doesn't wait for it.
     ~RecoveryWriter() override;
 
-    /// Appends bytes, and syncs the file to the disk within `syncInterval`.
+    /// Appends bytes, and syncs the file to the disk within `RecoveryWriterWork::syncInterval`.
     void append(std::string bytes);
     /// Deletes the file. Nothing may be appended afterwards.
     void discard();
@@ -34,8 +34,6 @@ public:
     [[nodiscard]] std::size_t waitingBytes() const noexcept { return m_waitingBytes; }
     /// How many bytes were appended in all.
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
-
-    static constexpr int syncInterval = 5000; // milliseconds
 
 Q_SIGNALS:
     /// Bytes were written; fewer wait now.

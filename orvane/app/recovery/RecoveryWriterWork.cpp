@@ -1,7 +1,5 @@
 #include "orvane/app/recovery/RecoveryWriterWork.h"
 
-#include "orvane/app/recovery/RecoveryWriter.h"
-
 #include <utility>
 
 RecoveryWriterWork::RecoveryWriterWork(std::unique_ptr<LockedFile> file)
@@ -20,7 +18,7 @@ void RecoveryWriterWork::append(const std::string& bytes)
     if (!m_hasFailed) {
         check(m_file->append(bytes));
         if (!m_hasFailed && !m_syncTimer.isActive())
-            m_syncTimer.start(RecoveryWriter::syncInterval, this);
+            m_syncTimer.start(static_cast<int>(std::chrono::milliseconds(syncInterval).count()), this);
     }
     Q_EMIT written(bytes.size());
 }

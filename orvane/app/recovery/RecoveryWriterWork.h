@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QString>
 
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -14,6 +15,9 @@ class RecoveryWriterWork : public QObject {
     Q_OBJECT
 
 public:
+    /// How soon the disk has what was appended.
+    static constexpr std::chrono::seconds syncInterval{5};
+
     explicit RecoveryWriterWork(std::unique_ptr<LockedFile> file);
     ~RecoveryWriterWork() override;
 
