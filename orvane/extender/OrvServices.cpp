@@ -211,6 +211,12 @@ void OrvServices::setClean()
     m_history->setClean();
 }
 
+void OrvServices::forgetClean()
+{
+    const HistoryChange change(*this);
+    m_history->forgetClean();
+}
+
 bool OrvServices::isClean() const
 {
     return m_history->isClean();

@@ -81,6 +81,8 @@ public:
     [[nodiscard]] QString redoText() const;
     /// Marks the current state as the saved one.
     void setClean();
+    /// Marks no state as the saved one: no file has the scene as it is, or as undo and redo make it.
+    void forgetClean();
     /// Whether the current state is the saved one.
     [[nodiscard]] bool isClean() const;
     /// Drops the whole history and makes the current state clean. Call it before the scene is destroyed. If a command

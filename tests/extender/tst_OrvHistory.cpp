@@ -120,6 +120,24 @@ private Q_SLOTS:
         QVERIFY(!history.isClean());
     }
 
+    void aForgottenCleanStateNeverComesBack()
+    {
+        OrvHistory history;
+        push(history, "a");
+        history.setClean();
+        history.forgetClean();
+        QVERIFY(!history.isClean());
+        history.undo();
+        QVERIFY(!history.isClean());
+        push(history, "b");
+        QVERIFY(!history.isClean());
+        history.setClean();
+        QVERIFY(history.isClean());
+        history.forgetClean();
+        history.clear();
+        QVERIFY(history.isClean());
+    }
+
     void anActionGoesOnAsANewStepBehindTheCleanMark()
     {
         OrvHistory history;

@@ -332,6 +332,10 @@ private Q_SLOTS:
         QCOMPARE(changes(), 1);
         services.redo();
         QCOMPARE(changes(), 1);
+        services.setClean();
+        QCOMPARE(changes(), 1);
+        services.forgetClean();
+        QCOMPARE(changes(), 1);
         services.clearHistory();
         QCOMPARE(changes(), 1);
         QVERIFY(services.isClean());

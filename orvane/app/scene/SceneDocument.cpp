@@ -56,6 +56,11 @@ void SceneDocument::open(
     replace(journal, orvane::absoluteFileName(fileName), content);
 }
 
+void SceneDocument::setUnsaved()
+{
+    m_services.forgetClean();
+}
+
 void SceneDocument::close()
 {
     if (isOpen())

@@ -58,6 +58,8 @@ public:
     /// Opens the scene of a journal whose `run` has ended; `content` is that of the file, if it is known.
     void open(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName,
         const FileContent& content = std::nullopt);
+    /// Notes that no file has the scene as it is, so that the user is asked before it is closed.
+    void setUnsaved();
     /// Leaves nothing open.
     void close();
     /// Notes that the scene in its present state was saved to that file, which has that content now.

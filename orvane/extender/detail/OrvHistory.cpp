@@ -321,6 +321,12 @@ void OrvHistory::setClean()
     m_cleanState = m_state;
 }
 
+void OrvHistory::forgetClean()
+{
+    finishStep();
+    m_cleanState = ++m_latestState; // of no step
+}
+
 bool OrvHistory::isClean() const
 {
     return m_cleanState == m_state && !hasOpenChanges();

@@ -86,6 +86,8 @@ public:
     [[nodiscard]] QString undoText() const;
     [[nodiscard]] QString redoText() const;
     void setClean();
+    /// No state is the saved one until `setClean` is called.
+    void forgetClean();
     [[nodiscard]] bool isClean() const;
     /// Drops everything. If a command calls it, it takes effect when that command returns.
     void clear();
