@@ -114,7 +114,7 @@ void OrvServices::useJournal()
     meridane::Journal* const journal = m_document->journal();
     const bool isExact = NxPreferences::getString("ORVANE_UNDO", VbString()) != VbString("commands");
     m_history->setJournal(journal, isExact ? OrvHistory::Moves::Exact : OrvHistory::Moves::Commands);
-    journal->setHook([](void* stepEnd) { static_cast<StepEnd*>(stepEnd)->lookLater(); }, m_stepEnd.get());
+    journal->addListener(*m_stepEnd);
 }
 
 void OrvServices::dropJournal()

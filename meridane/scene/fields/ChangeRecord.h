@@ -33,8 +33,22 @@ public:
     virtual void exchange() = 0;
     /// Whether the place is in the recorded state now, bit for bit.
     [[nodiscard]] virtual bool isSameAsNow() const = 0;
-    /// By how many rows or children the place is longer now than in the recorded state.
-    [[nodiscard]] virtual std::ptrdiff_t growth() const noexcept { return 0; }
+    /// Which rows of a list or children of a group the place consists of.
+    struct Extent {
+        std::size_t start = 0;
+        std::size_t present = 0; ///< how many they are in the scene; for a list only while it isn't being written
+        std::size_t recorded = 0; ///< how many they are in the recorded state
+    };
+    /// The extent of rows, of children and of the value of a list; nothing for other places.
+    [[nodiscard]] virtual Extent extent() const noexcept { return {}; }
+    /// By how many rows or children the place is longer now than in the recorded state; 0 for other places.
+    [[nodiscard]] std::ptrdiff_t growth() const noexcept
+    {
+        if (m_kind != Kind::Rows && m_kind != Kind::Children)
+            return 0;
+        const Extent extent = this->extent();
+        return static_cast<std::ptrdiff_t>(extent.present) - static_cast<std::ptrdiff_t>(extent.recorded);
+    }
     /// Notifies the observers of the place that it changed.
     virtual void notify() const = 0;
     /// The memory of the record in bytes, approximately.

@@ -27,7 +27,7 @@ public:
 
     /// Takes the record of a write that happens next. Only after `of`, once for each call.
     virtual void add(std::unique_ptr<ChangeRecord> record) noexcept = 0;
-    /// Takes back the latest record: the write has failed and changed nothing.
+    /// Takes back the latest record, of rows: the write has failed and changed nothing.
     virtual void withdraw() noexcept = 0;
     /// Whether a row of a list needs no record, since the open step has one already.
     [[nodiscard]] virtual bool hasRow(const NxField& list, int row) const noexcept = 0;
@@ -36,6 +36,8 @@ public:
     /// Follows these nodes, and those below them, from now on. They are about to become children of a node that is
     /// followed. May throw `std::bad_alloc`; then nothing else has changed.
     virtual void follow(std::span<NxNode* const> nodes) = 0;
+    /// A record that was taken earlier is about to be exchanged.
+    virtual void noteExchange(const ChangeRecord& record) noexcept = 0;
     /// A node that was followed is being destroyed.
     virtual void forget(const NxFieldContainer& node) noexcept = 0;
 
@@ -48,6 +50,20 @@ protected:
     /// The number that the recorder gave a node; 0 for none.
     [[nodiscard]] static std::uint32_t numberOf(const NxFieldContainer& node) noexcept;
     static void setNumber(NxFieldContainer& node, std::uint32_t number) noexcept;
+
+    /// What the recorder has of a field or a node from before the present step, so that further writes make no records.
+    struct Marks {
+        bool value = false;
+        bool ignored = false;
+        bool name = false;
+
+        [[nodiscard]] bool isEmpty() const noexcept { return !value && !ignored && !name; }
+    };
+    [[nodiscard]] static Marks marksOf(const NxField& field) noexcept;
+    [[nodiscard]] static Marks marksOf(const NxFieldContainer& node) noexcept;
+    /// Removes the marks: the next write makes a record again.
+    static void removeMarks(NxField& field) noexcept;
+    static void removeMarks(NxFieldContainer& node) noexcept;
 
 private:
     /// Whether the node is one of the scene.

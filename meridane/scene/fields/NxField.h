@@ -98,6 +98,7 @@ protected:
 
 private:
     friend class NxFieldSensor;
+    friend class meridane::ChangeRecorder;
     friend class meridane::IgnoredRecord;
     template <typename Value>
     friend class meridane::ValueRecord;

@@ -64,10 +64,77 @@ std::optional<std::size_t> Journal::number(const NxFieldContainer& node) const n
     return number < m_nodes.size() && m_nodes[number] == &node ? std::optional(number) : std::nullopt;
 }
 
-void Journal::setHook(void (*hook)(void*), void* data) noexcept
+void Journal::addListener(JournalListener& listener)
 {
-    m_hook = hook;
-    m_hookData = data;
+    m_listeners.push_back(&listener);
+}
+
+void Journal::removeListener(JournalListener& listener) noexcept
+{
+    std::erase(m_listeners, &listener);
+}
+
+void Journal::inform(const PlaceChange& change) noexcept
+{
+    for (JournalListener* const listener : m_listeners)
+        listener->aboutToChange(change);
+}
+
+void Journal::reportAgain(NxField& field)
+{
+    if (const Marks marks = marksOf(field); !marks.isEmpty()) {
+        Marks& reopened = m_reopened[&field];
+        reopened.value = reopened.value || marks.value;
+        reopened.ignored = reopened.ignored || marks.ignored;
+        removeMarks(field);
+    }
+    if (m_rows.empty())
+        return;
+    if (const auto found = m_rows.find(&field); found != m_rows.end()) {
+        ++found->second.round;
+        m_areRowsReopened = true;
+    }
+    m_latestList = nullptr;
+}
+
+void Journal::reportAgain(NxFieldContainer& node)
+{
+    if (marksOf(node).isEmpty())
+        return;
+    m_reopened[&node].name = true;
+    removeMarks(node);
+}
+
+void Journal::reportAllAgain()
+{
+    for (const auto& record : m_records) {
+        if (NxField* const field = record->field())
+            reportAgain(*field);
+        else
+            reportAgain(record->node());
+    }
+}
+
+bool Journal::isHeld(const ChangeRecord& record) const noexcept
+{
+    using Kind = ChangeRecord::Kind;
+    if (record.kind() == Kind::Children)
+        return false;
+    if (!m_reopened.empty()) {
+        const void* const owner = record.field() != nullptr ? static_cast<const void*>(record.field()) : &record.node();
+        if (const auto found = m_reopened.find(owner); found != m_reopened.end()) {
+            const Marks& marks = found->second;
+            const bool isInValue = record.kind() == Kind::Value || record.kind() == Kind::Rows;
+            if (isInValue ? marks.value : record.kind() == Kind::Ignored ? marks.ignored : marks.name)
+                return true;
+        }
+    }
+    if (!m_areRowsReopened || record.kind() != Kind::Rows)
+        return false;
+    const ChangeRecord::Extent extent = record.extent();
+    const auto found = m_rows.find(record.field());
+    return extent.present == 1 && extent.recorded == 1 && found != m_rows.end()
+        && found->second.rounds.contains(static_cast<int>(extent.start));
 }
 
 bool Journal::hasChanges() const
@@ -90,25 +157,43 @@ void Journal::revertStep()
     if (m_records.empty())
         return;
     closeRecords();
-    StepRecords::undo(m_records);
+    StepRecords::moveBack(m_records);
     StepRecords::notify(m_records);
     m_records.clear(); // which keeps its memory for the next undo
 }
 
 void Journal::add(std::unique_ptr<ChangeRecord> record) noexcept
 {
+    const ChangeRecord::Extent extent = record->extent();
+    m_latest = {PlaceChange::Cause::Write, record->kind(), &record->node(), record->field(), extent.start,
+        extent.recorded, extent.present};
+    inform(m_latest);
     if (record->growth() != 0 && record->field() != nullptr) {
         m_rows.erase(record->field());
         m_latestList = nullptr;
     }
+    m_hasLatest = !isHeld(*record);
+    if (!m_hasLatest)
+        return;
     m_bytes += sizeof(record) + record->bytes();
     m_records.push_back(std::move(record));
-    if (m_hook != nullptr)
-        m_hook(m_hookData);
+}
+
+void Journal::noteExchange(const ChangeRecord& record) noexcept
+{
+    if (!follows(record.node()))
+        return;
+    const ChangeRecord::Extent extent = record.extent();
+    inform({PlaceChange::Cause::Exchange, record.kind(), &record.node(), record.field(), extent.start, extent.present,
+        extent.recorded});
 }
 
 void Journal::withdraw() noexcept
 {
+    std::swap(m_latest.removed, m_latest.inserted);
+    inform(m_latest);
+    if (!m_hasLatest)
+        return;
     m_bytes -= sizeof(m_records.back()) + m_records.back()->bytes();
     m_records.back()->close();
     m_records.pop_back();
@@ -119,12 +204,16 @@ bool Journal::hasRow(const NxField& list, int row) const noexcept
     if (m_latestList == &list && m_latestRow == row)
         return true;
     const auto found = m_rows.find(&list);
-    return found != m_rows.end() && found->second.contains(row);
+    if (found == m_rows.end())
+        return false;
+    const auto round = found->second.rounds.find(row);
+    return round != found->second.rounds.end() && round->second == found->second.round;
 }
 
 void Journal::noteRow(const NxField& list, int row)
 {
-    m_rows[&list].insert(row);
+    ListRows& rows = m_rows[&list];
+    rows.rounds[row] = rows.round;
     m_latestList = &list;
     m_latestRow = row;
 }
@@ -148,8 +237,12 @@ void Journal::follow(std::span<NxNode* const> nodes)
 
 void Journal::forget(const NxFieldContainer& node) noexcept
 {
-    if (const auto number = this->number(node))
-        m_nodes[*number] = nullptr;
+    const auto number = this->number(node);
+    if (!number)
+        return;
+    m_nodes[*number] = nullptr;
+    for (JournalListener* const listener : m_listeners)
+        listener->aboutToDestroy(*number);
 }
 
 bool Journal::follows(const NxFieldContainer& node) const noexcept
@@ -175,6 +268,9 @@ void Journal::closeRecords() noexcept
         record->close();
     if (!m_rows.empty())
         m_rows.clear();
+    m_areRowsReopened = false;
+    if (!m_reopened.empty())
+        m_reopened.clear();
     m_latestList = nullptr;
     m_bytes = 0;
 }

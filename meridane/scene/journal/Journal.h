@@ -3,6 +3,7 @@
 #include "meridane/base/WorkBudget.h"
 #include "meridane/scene/fields/ChangeRecorder.h"
 #include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/journal/JournalListener.h"
 #include "meridane/scene/journal/JournalStep.h"
 #include "meridane/scene/nodes/NodeTraversal.h"
 #include "meridane/scene/nodes/NxGroup.h"
@@ -12,7 +13,6 @@
 #include <memory>
 #include <optional>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace meridane {
@@ -45,9 +45,16 @@ public:
     /// The number of a node, or nothing if the journal doesn't follow it.
     [[nodiscard]] std::optional<std::size_t> number(const NxFieldContainer& node) const noexcept;
 
-    /// Calls `hook` with `data` whenever a record is made, directly before the write. It must not write to the scene.
-    /// Null for none.
-    void setHook(void (*hook)(void*), void* data) noexcept;
+    /// The listener is informed of changes from now on, until it is removed. It must outlive that.
+    void addListener(JournalListener& listener);
+    void removeListener(JournalListener& listener) noexcept;
+    /// Of further writes to a place within a step, listeners hear only of the first. Call this to be informed of the
+    /// next write to the field again, or to the name of the node; the step takes no second record for that. The node
+    /// must be followed. May throw `std::bad_alloc`, then nothing has changed.
+    void reportAgain(NxField& field);
+    void reportAgain(NxFieldContainer& node);
+    /// The same for all places that were written since the last step.
+    void reportAllAgain();
 
     /// Whether anything was written since the last step, even if it was written back.
     [[nodiscard]] bool hasRecords() const noexcept { return !m_records.empty(); }
@@ -61,6 +68,7 @@ public:
     void revertStep();
 
     void add(std::unique_ptr<ChangeRecord> record) noexcept override;
+    void noteExchange(const ChangeRecord& record) noexcept override;
     void withdraw() noexcept override;
     [[nodiscard]] bool hasRow(const NxField& list, int row) const noexcept override;
     void noteRow(const NxField& list, int row) override;
@@ -72,16 +80,28 @@ private:
     void makeRoom() override;
     void giveNumber(NxFieldContainer& node);
     void closeRecords() noexcept;
+    /// Whether the open step needs no record of that place, since it has an earlier one.
+    [[nodiscard]] bool isHeld(const ChangeRecord& record) const noexcept;
+    void inform(const PlaceChange& change) noexcept;
+
+    /// The rows with a record of their own since their list last changed its length.
+    struct ListRows {
+        std::unordered_map<int, unsigned int> rounds; // in which a row was reported last
+        unsigned int round = 0; // counts the calls of `reportAgain`
+    };
 
     NxRef<NxGroup> m_scene;
     std::optional<NodeTraversal> m_waiting; // for their numbers
     std::vector<NxFieldContainer*> m_nodes; // by number; null for a node that was destroyed
     JournalStep::Records m_records; // of the open step
-    void (*m_hook)(void*) = nullptr;
-    void* m_hookData = nullptr;
+    bool m_hasLatest = false; // the last of them is of the latest write
+    PlaceChange m_latest;
+    std::vector<JournalListener*> m_listeners;
     std::size_t m_bytes = 0;
-    /// The rows with a record of their own since their list last changed its length.
-    std::unordered_map<const NxField*, std::unordered_set<int>> m_rows;
+    std::unordered_map<const NxField*, ListRows> m_rows;
+    bool m_areRowsReopened = false;
+    /// What the open step has of fields and nodes whose next write is reported again.
+    std::unordered_map<const void*, Marks> m_reopened;
     const NxField* m_latestList = nullptr; // whose row was noted last
     int m_latestRow = 0;
 };

@@ -50,13 +50,13 @@ JournalStep::~JournalStep() = default;
 
 void JournalStep::undo()
 {
-    StepRecords::undo(m_records);
+    StepRecords::moveBack(m_records);
     StepRecords::notify(m_records);
 }
 
 void JournalStep::redo()
 {
-    StepRecords::redo(m_records);
+    StepRecords::moveForward(m_records);
     StepRecords::notify(m_records);
 }
 

@@ -43,11 +43,6 @@ bool ChildrenRecord::isSameAsNow() const
     return std::equal(present.begin(), present.end(), m_children.begin(), m_children.end(), isSame);
 }
 
-std::ptrdiff_t ChildrenRecord::growth() const noexcept
-{
-    return static_cast<std::ptrdiff_t>(m_count) - static_cast<std::ptrdiff_t>(m_children.size());
-}
-
 std::size_t ChildrenRecord::bytes() const
 {
     return sizeof(*this) + m_children.size() * sizeof(NxRef<NxNode>);

@@ -26,7 +26,7 @@ public:
 
     void exchange() override;
     [[nodiscard]] bool isSameAsNow() const override;
-    [[nodiscard]] std::ptrdiff_t growth() const noexcept override;
+    [[nodiscard]] Extent extent() const noexcept override { return {m_start, m_count, m_children.size()}; }
     void notify() const override { group().touch(); }
     [[nodiscard]] std::size_t bytes() const override;
 

@@ -32,6 +32,12 @@ void StepEnd::lookLater()
         QCoreApplication::postEvent(this, new QEvent(lookEventType()), Qt::LowEventPriority);
 }
 
+void StepEnd::aboutToChange(const meridane::PlaceChange& change) noexcept
+{
+    if (change.cause == meridane::PlaceChange::Cause::Write)
+        lookLater();
+}
+
 bool StepEnd::event(QEvent* event)
 {
     if (event->type() != lookEventType())

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "meridane/scene/journal/JournalListener.h"
+
 #include <QObject>
 
 class NxDelayQueue;
@@ -9,7 +11,7 @@ class UserActionTracker;
 /// have been called.
 ///
 /// Thread of the user interface only.
-class StepEnd : public QObject {
+class StepEnd : public QObject, public meridane::JournalListener {
     Q_OBJECT
 
 public:
@@ -18,6 +20,8 @@ public:
 
     /// Something changes now, or may have come to its end.
     void lookLater();
+    /// Looks later after a write.
+    void aboutToChange(const meridane::PlaceChange& change) noexcept override;
 
 Q_SIGNALS:
     /// Something has changed.

@@ -43,10 +43,22 @@ public:
 
     void exchange() override { std::swap(*m_place, m_value); }
     [[nodiscard]] bool isSameAsNow() const override { return isSameValue(*m_place, m_value); }
+    [[nodiscard]] Extent extent() const noexcept override { return {0, rowsOf(*m_place), rowsOf(m_value)}; }
     [[nodiscard]] std::size_t bytes() const override { return sizeof(*this) - sizeof(Value) + bytesOfValue(m_value); }
     void close() noexcept override { field()->m_isRecorded = false; }
 
 private:
+    template <typename Other>
+    static std::size_t rowsOf(const Other& /*value*/) noexcept
+    {
+        return 0;
+    }
+    template <typename Row>
+    static std::size_t rowsOf(const std::vector<Row>& list) noexcept
+    {
+        return list.size();
+    }
+
     Value* m_place;
     Value m_value;
 };
@@ -88,10 +100,7 @@ public:
         return m_count == m_rows.size()
             && areSameValues<Value>(std::span<const Value>(*m_list).subspan(m_start, m_count), m_rows);
     }
-    [[nodiscard]] std::ptrdiff_t growth() const noexcept override
-    {
-        return static_cast<std::ptrdiff_t>(m_count) - static_cast<std::ptrdiff_t>(m_rows.size());
-    }
+    [[nodiscard]] Extent extent() const noexcept override { return {m_start, m_count, m_rows.size()}; }
 
     [[nodiscard]] std::size_t bytes() const override
     {

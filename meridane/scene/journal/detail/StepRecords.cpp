@@ -1,5 +1,6 @@
 #include "meridane/scene/journal/detail/StepRecords.h"
 
+#include "meridane/scene/fields/ChangeRecorder.h"
 #include "meridane/scene/journal/detail/PlaceSnapshots.h"
 
 #include <algorithm>
@@ -27,6 +28,13 @@ bool isPart(const ChangeRecord& record)
 bool mayBeInSequence(const ChangeRecord& record)
 {
     return isPart(record) || record.kind() == ChangeRecord::Kind::Value;
+}
+
+void exchangeNoted(ChangeRecord& record)
+{
+    if (ChangeRecorder* const recorder = ChangeRecorder::attached())
+        recorder->noteExchange(record);
+    record.exchange();
 }
 
 /// The records of one list or group whose rows or children have moved, so that they can't be judged one by one.
@@ -113,6 +121,17 @@ void redo(View records)
 {
     for (const auto& record : records)
         record->exchange();
+}
+
+void moveBack(View records)
+{
+    std::for_each(records.rbegin(), records.rend(), [](const auto& record) { exchangeNoted(*record); });
+}
+
+void moveForward(View records)
+{
+    for (const auto& record : records)
+        exchangeNoted(*record);
 }
 
 void notify(View records)

@@ -15,6 +15,9 @@ using Records = std::vector<std::unique_ptr<ChangeRecord>>;
 void undo(std::span<const std::unique_ptr<ChangeRecord>> records);
 /// Exchanges them from the first to the last, which gives the state after the step again.
 void redo(std::span<const std::unique_ptr<ChangeRecord>> records);
+/// `undo` and `redo` that the attached recorder is informed of. The others are only for a short look at a state.
+void moveBack(std::span<const std::unique_ptr<ChangeRecord>> records);
+void moveForward(std::span<const std::unique_ptr<ChangeRecord>> records);
 /// Notifies the observers of each changed field, name and group once.
 void notify(std::span<const std::unique_ptr<ChangeRecord>> records);
 
