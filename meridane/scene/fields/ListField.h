@@ -2,6 +2,7 @@
 
 #include "meridane/scene/fields/NxMField.h"
 #include "meridane/scene/text/ValueText.h"
+#include "meridane/scene/text/detail/PlainValue.h"
 
 #include <cassert>
 #include <span>
@@ -68,6 +69,9 @@ public:
     void get1(int index, VbString& text) const override;
     void deleteValues(int start, int count) override;
     void insertSpace(int start, int count) override;
+    [[nodiscard]] std::size_t plainRowBytes() const noexcept override;
+    void appendPlainRows(std::string& bytes, int start, int count) const override;
+    bool replacePlainRows(int start, int count, std::string_view bytes) override;
 
     [[nodiscard]] bool isSame(const NxField& other) const override;
     bool copyFrom(const NxField& other) override;
@@ -82,6 +86,8 @@ protected:
     void insertCopies(int start, int count, const Value& value);
 
 private:
+    static constexpr bool hasPlainRows = PlainValue<Value> && std::is_same_v<Format, ValueFormat<Value>>;
+
     bool assignText(TextReader& reader) override;
     bool assign1Text(int index, TextReader& reader) override;
     /// Reports a row that is about to change.
@@ -94,6 +100,8 @@ private:
     /// Reports that `count` new values are about to replace the rows from `first` to before `end`. Returns the recorder
     /// if it took a record, so that it can be withdrawn.
     ChangeRecorder* recordRows(std::size_t first, std::size_t end, std::size_t count);
+    /// Makes the list longer or shorter, so that it has `count` rows in place of those from `first` to before `end`.
+    void resizeRows(std::size_t first, std::size_t end, std::size_t count);
     /// Replaces the list. The old one is moved to the record of the change if there is one.
     void replace(std::vector<Value>&& values);
     Progress readNextValue(std::vector<Value>& values, TextReader& reader, std::size_t maximum) const;

@@ -2,6 +2,10 @@
 
 #include "meridane/scene/fields/NxField.h"
 
+#include <cstddef>
+#include <string>
+#include <string_view>
+
 /// The root of all fields that hold a list of values.
 ///
 /// Rows are counted from 0. The values lie next to each other in memory.
@@ -36,6 +40,17 @@ public:
     /// Inserts `count` values at `start`, which is limited to 0 to `getNum`, each with the default of its type. If the
     /// list doesn't fit in memory, it isn't changed, and an `NxMemoryError` is reported.
     virtual void insertSpace(int start, int count) = 0;
+
+    /// The size of a row in bytes, for lists of plain numbers: rows of them may be copied as bytes, and may have any
+    /// bits. 0 for other lists.
+    [[nodiscard]] virtual std::size_t plainRowBytes() const noexcept = 0;
+    /// Appends the bytes of `count` rows from `start` on. The list must be one of plain numbers, and the rows must
+    /// exist.
+    virtual void appendPlainRows(std::string& bytes, int start, int count) const = 0;
+    /// Replaces `count` rows from `start` on by those bytes and notifies the observers. Changes nothing and returns
+    /// false if the list isn't one of plain numbers, the rows don't exist, the bytes end within a row, or the list
+    /// wouldn't fit in memory.
+    virtual bool replacePlainRows(int start, int count, std::string_view bytes) = 0;
 
 protected:
     using NxField::NxField;

@@ -7,6 +7,8 @@
 #include "meridane/scene/text/detail/ValueBits.h"
 
 #include <algorithm>
+#include <cassert>
+#include <cstring>
 #include <limits>
 #include <new>
 #include <string>
@@ -63,6 +65,66 @@ void ListField<Value, Format>::insertCopies(int start, int count, const Value& v
     });
     if (fits)
         touch();
+}
+
+template <typename Value, typename Format>
+std::size_t ListField<Value, Format>::plainRowBytes() const noexcept
+{
+    return hasPlainRows ? sizeof(Value) : 0;
+}
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::appendPlainRows(std::string& bytes, int start, int count) const
+{
+    assert(hasPlainRows && start >= 0 && count >= 0 && count <= getNum() - start && "plain rows that exist");
+    if constexpr (hasPlainRows) {
+        const auto rows = std::span<const Value>(m_values).subspan(
+            static_cast<std::size_t>(start), static_cast<std::size_t>(count));
+        bytes.append(reinterpret_cast<const char*>(rows.data()), rows.size_bytes());
+    }
+}
+
+template <typename Value, typename Format>
+bool ListField<Value, Format>::replacePlainRows(int start, int count, std::string_view bytes)
+{
+    if constexpr (!hasPlainRows) {
+        return false;
+    } else {
+        if (start < 0 || count < 0 || start > getNum() || count > getNum() - start || bytes.size() % sizeof(Value) != 0)
+            return false;
+        const auto first = static_cast<std::size_t>(start);
+        const std::size_t end = first + static_cast<std::size_t>(count);
+        const std::size_t rows = bytes.size() / sizeof(Value);
+        const bool fits = withinMemory(bytes.size(), [&] {
+            if (!canHave(m_values.size() - (end - first) + rows))
+                throw std::bad_alloc();
+            ChangeRecorder* const changes = recordRows(first, end, rows);
+            try {
+                resizeRows(first, end, rows);
+            } catch (...) {
+                if (changes != nullptr)
+                    changes->withdraw();
+                throw;
+            }
+            return true;
+        });
+        if (!fits)
+            return false;
+        if (rows > 0)
+            std::memcpy(m_values.data() + first, bytes.data(), bytes.size());
+        touch();
+        return true;
+    }
+}
+
+template <typename Value, typename Format>
+void ListField<Value, Format>::resizeRows(std::size_t first, std::size_t end, std::size_t count)
+{
+    const auto place = [this](std::size_t row) { return m_values.begin() + static_cast<std::ptrdiff_t>(row); };
+    if (count > end - first)
+        m_values.insert(place(end), count - (end - first), Value());
+    else
+        m_values.erase(place(first + count), place(end));
 }
 
 template <typename Value, typename Format>

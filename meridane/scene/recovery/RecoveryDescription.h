@@ -1,0 +1,44 @@
+#pragma once
+
+#include "meridane/base/ContentHash.h"
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+namespace meridane {
+
+/// What a recovery file belongs to.
+struct RecoveryDescription {
+    /// What the changes in the file begin from.
+    enum class Base : std::uint8_t {
+        File, ///< the scene file of that name, size and hash
+        Nothing, ///< an empty scene: the changes build the whole scene
+    };
+
+    Base base = Base::Nothing;
+    /// The scene as users know it, such as the name of its file or of the model that it was imported from.
+    std::string displayName;
+    /// The absolute name of the scene's file; empty for a scene without one. With the base `Nothing` it is only for
+    /// information.
+    std::string fileName;
+    std::uint64_t fileSize = 0; ///< in bytes
+    ContentHash fileHash;
+    /// The number of nodes of the base, the group that holds the top nodes included. The capture sets it.
+    std::uint64_t nodeCount = 0;
+    /// When the recovery file was begun.
+    std::chrono::system_clock::time_point begun;
+
+    friend bool operator==(const RecoveryDescription&, const RecoveryDescription&) = default;
+};
+
+/// A state of the scene that can be recovered.
+struct RecoveryCommit {
+    std::chrono::system_clock::time_point time;
+    /// How many steps the user would lose, as the application counts them.
+    std::uint64_t steps = 0;
+
+    friend bool operator==(const RecoveryCommit&, const RecoveryCommit&) = default;
+};
+
+} // namespace meridane
