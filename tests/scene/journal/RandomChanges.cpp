@@ -24,6 +24,11 @@ void RandomChanges::makeSome()
         makeOne();
 }
 
+void RandomChanges::releaseNodes()
+{
+    std::erase_if(m_nodes, [](const NxRef<NxNode>& node) { return node->getRefCount() == 1; });
+}
+
 void RandomChanges::makeOne()
 {
     NxNode& node = *m_nodes[m_random.below(m_nodes.size())].get();

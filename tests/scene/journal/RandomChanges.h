@@ -17,6 +17,8 @@ public:
 
     /// One to four writes.
     void makeSome();
+    /// Releases the nodes that nobody else holds, so that they are destroyed.
+    void releaseNodes();
 
 private:
     void makeOne();
