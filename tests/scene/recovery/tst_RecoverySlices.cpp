@@ -246,6 +246,21 @@ private Q_SLOTS:
         QCOMPARE(m_run->capture().description().nodeCount, std::uint64_t{2003});
     }
 
+    void aPlaceOfAnOpenStepIsWatchedFromTheStart()
+    {
+        m_journal = std::make_unique<JournalRun>(*m_root);
+        m_probe->size.setValue(4);
+        m_probe->weights.set1Value(0, 4);
+        m_probe->setName("a");
+        m_run = std::make_unique<RecoveryRun>(m_journal->journal(), Base::File);
+        m_run->runAll();
+        m_probe->size.setValue(5);
+        m_probe->weights.set1Value(0, 5);
+        m_probe->setName("b");
+        captureAndCompare();
+        QCOMPARE(m_journal->finish()->records().size(), std::size_t{3});
+    }
+
     void placesThatChangeAllTheTimeAreCapturedInTheEnd()
     {
         start(Base::File);
