@@ -13,7 +13,7 @@ namespace meridane {
 namespace {
 
 // Between two looks at the clock.
-constexpr int nodesPerLook = 256;
+constexpr int numbersPerLook = 256;
 constexpr int piecesPerLook = 8;
 
 // After so many slices that only captured the same places again, one slice captures all.
@@ -80,7 +80,7 @@ bool ChangeCapture::run(std::string& operations, const WorkBudget& budget)
 bool ChangeCapture::numberNodes(const WorkBudget& budget)
 {
     do {
-        for (int i = 0; i < nodesPerLook; ++i) {
+        for (int i = 0; i < numbersPerLook; ++i) {
             const NxNode* const node = m_traversal->next();
             if (node == nullptr) {
                 m_traversal.reset();

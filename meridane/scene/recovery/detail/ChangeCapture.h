@@ -15,7 +15,6 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
-#include <vector>
 
 class NxNode;
 
@@ -68,7 +67,7 @@ private:
     std::unique_ptr<NodeCapture> m_nodeCapture;
     std::unordered_map<std::size_t, DirtyNode> m_dirty; // by number in the journal
     std::deque<std::size_t> m_queue; // of those, the node that changed first is first; may contain destroyed nodes
-    std::vector<std::size_t> m_waiting; // nodes whose contents are still to be captured
+    std::deque<std::size_t> m_waiting; // nodes whose contents are still to be captured
     std::optional<std::size_t> m_present; // the node that is being captured; dirty until its end
     bool m_isAgain = false; // that node was captured since the latest commit
     bool m_hadNews = false; // something was captured for the first time in this slice

@@ -12,7 +12,7 @@ namespace {
 // With more parts, the ones that are close together are joined.
 constexpr std::size_t mostParts = 4096;
 
-std::ptrdiff_t difference(std::size_t left, std::size_t right)
+std::ptrdiff_t signedDifference(std::size_t left, std::size_t right)
 {
     return static_cast<std::ptrdiff_t>(left) - static_cast<std::ptrdiff_t>(right);
 }
@@ -41,7 +41,7 @@ void DirtyRows::replace(std::size_t start, std::size_t removed, std::size_t inse
     }
     joined.stale += behind - joined.start - dirty;
     joined.count = behind - joined.start - removed + inserted;
-    m_growth += difference(inserted, removed);
+    m_growth += signedDifference(inserted, removed);
     m_latest = static_cast<std::size_t>(first - m_parts.begin());
     if (first == end) {
         m_parts.insert(first, joined);
@@ -85,7 +85,7 @@ void DirtyRows::replaceAll(std::size_t count)
 {
     if (m_isWhole)
         return;
-    m_loggedRows = static_cast<std::size_t>(difference(count, 0) - m_growth);
+    m_loggedRows = static_cast<std::size_t>(signedDifference(count, 0) - m_growth);
     m_parts.clear();
     m_isWhole = true;
 }
@@ -94,7 +94,7 @@ void DirtyRows::setCount(std::size_t count)
 {
     assert(m_isWhole && "the number is unknown");
     m_isWhole = false;
-    m_growth = difference(count, m_loggedRows);
+    m_growth = signedDifference(count, m_loggedRows);
     if (count > 0 || m_loggedRows > 0)
         m_parts.push_back({0, count, m_loggedRows});
 }
@@ -103,8 +103,9 @@ void DirtyRows::setCount(std::size_t count)
 DirtyRows::Part DirtyRows::next() const noexcept
 {
     const Range& part = m_parts.back();
-    const std::ptrdiff_t growthBefore = m_growth - difference(part.count, part.stale);
-    return {part.start, part.count, static_cast<std::size_t>(difference(part.start, 0) - growthBefore), part.stale};
+    const std::ptrdiff_t growthBefore = m_growth - signedDifference(part.count, part.stale);
+    return {
+        part.start, part.count, static_cast<std::size_t>(signedDifference(part.start, 0) - growthBefore), part.stale};
 }
 
 DirtyRows::Part DirtyRows::take(std::size_t count)
@@ -113,7 +114,7 @@ DirtyRows::Part DirtyRows::take(std::size_t count)
     taken.count = std::min(count, taken.count);
     Range& part = m_parts.back();
     taken.stale = taken.count == part.count ? part.stale : std::min(taken.count, part.stale);
-    m_growth -= difference(taken.count, taken.stale);
+    m_growth -= signedDifference(taken.count, taken.stale);
     part.start += taken.count;
     part.count -= taken.count;
     part.stale -= taken.stale;
@@ -131,7 +132,7 @@ std::optional<DirtyRows::Part> DirtyRows::takeStale()
     for (std::size_t i = 0; i < m_latest; ++i)
         inserted += m_parts[i].count;
     const Part taken{part.start, 0, part.start - inserted, part.stale};
-    m_growth += difference(part.stale, 0);
+    m_growth += signedDifference(part.stale, 0);
     part.stale = 0;
     if (part.count == 0)
         m_parts.erase(m_parts.begin() + static_cast<std::ptrdiff_t>(m_latest));

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <deque>
 
 namespace meridane {
 
@@ -43,7 +43,7 @@ private:
         State state = State::Unknown;
     };
 
-    std::vector<Node> m_nodes;
+    std::deque<Node> m_nodes; // which grows without moving all
     std::uint32_t m_count = 0;
     std::uint32_t m_commit = 1;
 };

@@ -30,7 +30,7 @@ std::uint8_t partsOf(bool isFirst, bool isLast)
 } // namespace
 
 NodeCapture::NodeCapture(
-    Journal& journal, LogNumbers& numbers, OperationWriter& operations, std::vector<std::size_t>& waiting)
+    Journal& journal, LogNumbers& numbers, OperationWriter& operations, std::deque<std::size_t>& waiting)
     : m_journal(journal)
     , m_numbers(numbers)
     , m_operations(operations)

@@ -4,7 +4,7 @@
 #include "meridane/scene/recovery/detail/OperationWriter.h"
 
 #include <cstddef>
-#include <vector>
+#include <deque>
 
 class NxField;
 class NxMField;
@@ -19,7 +19,7 @@ class LogNumbers;
 class NodeCapture {
 public:
     /// All live longer. Nodes that become known are appended to `waiting`.
-    NodeCapture(Journal& journal, LogNumbers& numbers, OperationWriter& operations, std::vector<std::size_t>& waiting);
+    NodeCapture(Journal& journal, LogNumbers& numbers, OperationWriter& operations, std::deque<std::size_t>& waiting);
 
     /// What is to be captured of a node of which the file knows only the class: all that isn't as in a new node. The
     /// journal reports all changes from now on.
@@ -39,7 +39,7 @@ private:
     Journal& m_journal;
     LogNumbers& m_numbers;
     OperationWriter& m_operations;
-    std::vector<std::size_t>& m_waiting;
+    std::deque<std::size_t>& m_waiting;
 };
 
 } // namespace meridane

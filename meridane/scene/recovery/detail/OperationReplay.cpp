@@ -15,9 +15,9 @@ using RecoveryFormat::Operation;
 namespace {
 
 constexpr int operationsPerLook = 32;
-constexpr int nodesPerLook = 256;
+constexpr int replayedNodesPerLook = 256;
 constexpr std::uint64_t mostRows = std::numeric_limits<int>::max();
-constexpr const char* incomplete = "an operation is incomplete";
+constexpr const char* incompleteOperation = "an operation is incomplete";
 constexpr const char* noSuchRows = "rows of a list that it replaces aren't there";
 constexpr const char* otherField = "a field that it changes is of another type";
 
@@ -66,7 +66,7 @@ NxRef<NxGroup> OperationReplay::takeScene()
 
 void OperationReplay::numberNodes()
 {
-    for (int i = 0; i < nodesPerLook; ++i) {
+    for (int i = 0; i < replayedNodesPerLook; ++i) {
         NxNode* const node = m_traversal->next();
         if (node != nullptr) {
             m_nodes.emplace_back(node);
@@ -86,7 +86,7 @@ void OperationReplay::releaseNodes()
         fail("its last value is incomplete");
         return;
     }
-    m_nodes.resize(m_nodes.size() - std::min<std::size_t>(m_nodes.size(), nodesPerLook));
+    m_nodes.resize(m_nodes.size() - std::min<std::size_t>(m_nodes.size(), replayedNodesPerLook));
 }
 
 void OperationReplay::applyNext()
@@ -102,7 +102,7 @@ void OperationReplay::applyNext()
         }
         std::uint8_t code = 0;
         if (!m_reader.byte(code) || !apply(static_cast<Operation>(code)))
-            fail(incomplete);
+            fail(incompleteOperation);
     }
 }
 

@@ -12,7 +12,7 @@ namespace meridane {
 
 namespace {
 
-constexpr const char* incomplete = "the description of a class is incomplete";
+constexpr const char* incompleteClass = "the description of a class is incomplete";
 
 bool isIdentifier(std::string_view name)
 {
@@ -34,12 +34,12 @@ std::string ReplayClasses::add(ByteReader& reader)
     std::string_view name;
     if (!reader.byte(kind) || kind > static_cast<std::uint8_t>(RecoveryFormat::ClassKind::Unknown) || !reader.text(name)
         || !isIdentifier(name))
-        return incomplete;
+        return incompleteClass;
     Class& added = m_classes.emplace_back();
     added.name = name;
     if (kind == static_cast<std::uint8_t>(RecoveryFormat::ClassKind::Unknown)) {
         std::uint64_t fields = 0;
-        return reader.number(fields, 0) ? std::string() : incomplete;
+        return reader.number(fields, 0) ? std::string() : incompleteClass;
     }
     added.known = &m_knownClasses.find(name);
     const NxRef<NxNode> example = added.known->create();
@@ -53,14 +53,14 @@ std::string ReplayClasses::compareFields(ByteReader& reader, const std::string& 
 {
     std::uint64_t count = 0;
     if (!reader.number(count))
-        return incomplete;
+        return incompleteClass;
     bool isSame = count == static_cast<std::uint64_t>(data.getNumFields());
     for (int i = 0; isSame && i < data.getNumFields(); ++i) {
         std::string_view fieldName;
         std::string_view type;
         std::uint64_t hash = 0;
         if (!reader.text(fieldName) || !reader.text(type) || !reader.wideNumber(hash))
-            return incomplete;
+            return incompleteClass;
         const NxField& field = *data.getDefault(i);
         isSame = fieldName == data.getFieldName(i).getString() && type == field.getTypeId().getName().getString()
             && hash == hashOfDefault(field);
