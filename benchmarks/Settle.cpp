@@ -1,13 +1,13 @@
 #include "Settle.h"
 
+#include "Timing.h"
+
 #include "meridane/base/NxDelayQueue.h"
 
 #include <QCoreApplication>
 #include <QEvent>
 #include <QEventLoop>
 #include <QWidget>
-
-#include <ctime>
 
 namespace bench {
 
@@ -35,13 +35,6 @@ private:
     QWidget* m_widget;
 };
 
-double processorSeconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
 } // namespace
 
 void settle()
@@ -55,10 +48,10 @@ void settle()
 double secondsToPainted(QWidget* widget, const std::function<void()>& action)
 {
     const PaintCounter counter(widget);
-    const double start = processorSeconds();
+    const double start = processorTime();
     action();
     settle();
-    const double time = processorSeconds() - start;
+    const double time = processorTime() - start;
     if (counter.count == 0)
         qFatal("%s wasn't painted", widget->metaObject()->className());
     return time;

@@ -3,6 +3,7 @@
 #include "Figure.h"
 
 #include <chrono>
+#include <ctime>
 #include <vector>
 
 namespace bench {
@@ -13,6 +14,13 @@ double seconds(const std::function<void()>& part)
     const Clock::time_point start = Clock::now();
     part();
     return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+double processorTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
 void compare(const std::string& name, double bar, int rounds, const Work& work, const Work& baseline)
