@@ -1,8 +1,8 @@
 #include "meridane/scene/compare/NxSceneDifferences.h"
 
 #include "meridane/base/values/VbName.h"
+#include "meridane/scene/compare/ShortText.h"
 #include "meridane/scene/compare/detail/FieldComparison.h"
-#include "meridane/scene/compare/detail/ShortText.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/text/ValueText.h"
 

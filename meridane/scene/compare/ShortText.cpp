@@ -1,4 +1,4 @@
-#include "meridane/scene/compare/detail/ShortText.h"
+#include "meridane/scene/compare/ShortText.h"
 
 #include "meridane/base/values/VbString.h"
 #include "meridane/scene/fields/NxMField.h"
