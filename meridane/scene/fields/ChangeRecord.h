@@ -49,6 +49,10 @@ public:
         const Extent extent = this->extent();
         return static_cast<std::ptrdiff_t>(extent.present) - static_cast<std::ptrdiff_t>(extent.recorded);
     }
+    /// Shows what is recorded in the place itself, whatever the state of the scene: the value, the flag, the name, or
+    /// the recorded rows as a list of their own. Called again, it puts the present state back, which must happen before
+    /// anything else. Without notifications and records, and not for children.
+    virtual void show() { exchange(); }
     /// Notifies the observers of the place that it changed.
     virtual void notify() const = 0;
     /// The memory of the record in bytes, approximately.

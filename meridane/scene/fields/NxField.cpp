@@ -9,6 +9,7 @@
 #include "meridane/scene/fields/detail/IgnoredRecord.h"
 #include "meridane/scene/text/TextReader.h"
 
+#include <cassert>
 #include <limits>
 #include <typeinfo>
 #include <utility>
@@ -79,6 +80,20 @@ void NxField::makeRecord()
         return;
     recorder->add(recordOfValue());
     m_isRecorded = true;
+}
+
+bool NxField::exchangeValue(meridane::ChangeRecord& record)
+{
+    assert(record.field() == this && record.kind() == meridane::ChangeRecord::Kind::Value);
+    const bool fits = meridane::withinMemory(valueBytes(), [this] {
+        recordValue();
+        return true;
+    });
+    if (!fits)
+        return false;
+    record.exchange();
+    touch();
+    return true;
 }
 
 bool NxField::isDefault() const

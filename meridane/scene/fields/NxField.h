@@ -62,6 +62,11 @@ public:
     /// A record with a copy of the present value, which keeps the node alive. The field must have one.
     [[nodiscard]] virtual std::unique_ptr<meridane::ChangeRecord> recordOfValue() = 0;
 
+    /// Writes the value of a record that `recordOfValue` has made of this field. The record holds the value before
+    /// then, so that a second call takes the first one back. Observers are notified. Returns false and changes nothing
+    /// if the write doesn't fit in memory, which is reported.
+    bool exchangeValue(meridane::ChangeRecord& record);
+
     /// The result of a slice of reading.
     enum class Progress { Done, More, Failed };
 

@@ -60,6 +60,8 @@ public:
     [[nodiscard]] bool hasRecords() const noexcept { return !m_records.empty(); }
     /// Whether any bit of the scene differs from its state when the open step began.
     [[nodiscard]] bool hasChanges() const;
+    /// The records of the open step, in the order of the writes.
+    [[nodiscard]] std::span<const std::unique_ptr<ChangeRecord>> records() const noexcept { return m_records; }
     /// The memory of the open step in bytes, approximately.
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
     /// Ends the open step and begins another one. Null if the step changed nothing.

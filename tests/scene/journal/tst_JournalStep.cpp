@@ -5,6 +5,7 @@
 #include "scene/journal/RandomChanges.h"
 
 #include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/nodes/NxFieldGallery.h"
 
 #include <QTest>
 
@@ -48,6 +49,90 @@ private Q_SLOTS:
         for (std::size_t i = 0; i < run.steps().size(); ++i) {
             run.steps()[i]->redo();
             QVERIFY(field.isSame(fieldOf(states[i + 1])));
+        }
+    }
+
+    void whatIsRecordedIsShownInItsPlace_data() { addFieldKindRows(); }
+
+    void whatIsRecordedIsShownInItsPlace()
+    {
+        QFETCH(const FieldKind*, kind);
+        const NxRef<NxGroup> scene(new NxGroup);
+        const NxRef<NxFieldContainer> node = kind->makeNode();
+        const NxRef<NxFieldContainer> copies[] = {kind->makeNode(), kind->makeNode()};
+        scene->addChild(static_cast<NxNode*>(node.get()));
+        JournalRun run(*scene);
+        RandomValues random(5);
+        NxField& field = fieldOf(node);
+        for (int i = 0; i < 20; ++i) {
+            fieldOf(copies[0]).copyFrom(field);
+            NxField& other = fieldOf(copies[1]);
+            other.copyFrom(field);
+            kind->setRandom(other, random);
+            field.copyFrom(other);
+            const JournalStep* const step = run.finish();
+            if (step == nullptr)
+                continue;
+            QCOMPARE(step->records().size(), 1U);
+            meridane::ChangeRecord& record = *step->records().front();
+            record.show();
+            QVERIFY(field.isSame(fieldOf(copies[0])));
+            record.show();
+            QVERIFY(field.isSame(other));
+        }
+    }
+
+    void rowsAreShownAsAListOfTheirOwn()
+    {
+        const NxRef<NxGroup> scene(new NxGroup);
+        const NxRef<NxFieldGallery> gallery(new NxFieldGallery);
+        scene->addChild(gallery.get());
+        gallery->mfInt32.set("[1, 2, 3, 4, 5]");
+        JournalRun run(*scene);
+        gallery->mfInt32.deleteValues(1, 2);
+        const JournalStep* const step = run.finish();
+        gallery->mfInt32.deleteValues(0, -1); // a state that the record doesn't fit
+        meridane::ChangeRecord& record = *step->records().front();
+        QCOMPARE(record.extent().start, 1U);
+        QCOMPARE(record.extent().recorded, 2U);
+        QCOMPARE(record.extent().present, 0U);
+        VbString text;
+        record.show();
+        gallery->mfInt32.get(text);
+        QCOMPARE(text, VbString("[2, 3]"));
+        record.show();
+        QCOMPARE(gallery->mfInt32.getNum(), 0);
+    }
+
+    void anOlderValueIsWrittenAsAChange_data() { addFieldKindRows(); }
+
+    void anOlderValueIsWrittenAsAChange()
+    {
+        QFETCH(const FieldKind*, kind);
+        const NxRef<NxGroup> scene(new NxGroup);
+        const NxRef<NxFieldContainer> node = kind->makeNode();
+        const NxRef<NxFieldContainer> copies[] = {kind->makeNode(), kind->makeNode()};
+        scene->addChild(static_cast<NxNode*>(node.get()));
+        JournalRun run(*scene);
+        RandomValues random(7);
+        NxField& field = fieldOf(node);
+        for (int i = 0; i < 20; ++i) {
+            fieldOf(copies[0]).copyFrom(field);
+            const auto older = field.recordOfValue();
+            kind->setRandom(field, random);
+            fieldOf(copies[1]).copyFrom(field);
+            static_cast<void>(run.finish());
+            QVERIFY(field.exchangeValue(*older));
+            QVERIFY(field.isSame(fieldOf(copies[0])));
+            if (JournalStep* const step = run.finish()) {
+                step->undo();
+                QVERIFY(field.isSame(fieldOf(copies[1])));
+                step->redo();
+                QVERIFY(field.isSame(fieldOf(copies[0])));
+            }
+            QVERIFY(field.exchangeValue(*older));
+            QVERIFY(field.isSame(fieldOf(copies[1])));
+            static_cast<void>(run.finish());
         }
     }
 

@@ -102,6 +102,8 @@ public:
     }
     [[nodiscard]] Extent extent() const noexcept override { return {m_start, m_count, m_rows.size()}; }
 
+    void show() override { m_list->swap(m_rows); }
+
     [[nodiscard]] std::size_t bytes() const override
     {
         std::size_t bytes = sizeof(*this);
