@@ -7,7 +7,7 @@
 class OrvExtension;
 
 /// The version of the host's interface. It grows whenever plug-ins have to be built again.
-constexpr int orvaneInterfaceVersion = 3;
+constexpr int orvaneInterfaceVersion = 4;
 
 /// A plug-in: the owner of extensions. Its library exports `OrvPlugin* loadPlugin()` and `void unloadPlugin()` with C
 /// linkage.

@@ -2,7 +2,9 @@
 
 #include "orvane/extender/OrvCommand.h"
 #include "orvane/extender/OrvDocument.h"
+#include "orvane/extender/OrvStepList.h"
 #include "orvane/extender/detail/DelayQueuePump.h"
+#include "orvane/extender/detail/HistoryLimit.h"
 #include "orvane/extender/detail/OrvHistory.h"
 #include "orvane/extender/detail/Selection.h"
 #include "orvane/extender/detail/StepEnd.h"
@@ -13,6 +15,8 @@
 #include "meridane/base/values/VbString.h"
 #include "meridane/scene/journal/Journal.h"
 
+#include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -21,7 +25,7 @@ OrvServices* theServices = nullptr;
 
 } // namespace
 
-// Emits historyChanged at its end if one of the results differs from the last time.
+// Announces at its end what has changed in the history.
 class OrvServices::HistoryChange {
 public:
     explicit HistoryChange(OrvServices& services)
@@ -31,13 +35,7 @@ public:
     HistoryChange(const HistoryChange&) = delete;
     HistoryChange& operator=(const HistoryChange&) = delete;
 
-    ~HistoryChange()
-    {
-        const OrvHistory& history = *m_services.m_history;
-        const Answers answers{history.canUndo(), history.canRedo(), history.isClean()};
-        if (std::exchange(m_services.m_answers, answers) != answers)
-            Q_EMIT m_services.historyChanged();
-    }
+    ~HistoryChange() { m_services.announceHistory(); }
 
 private:
     OrvServices& m_services;
@@ -46,9 +44,10 @@ private:
 // Editors may push commands as they show what is selected.
 class OrvServices::Showing {
 public:
-    explicit Showing(OrvHistory& history)
-        : m_history(history)
+    explicit Showing(OrvServices& services)
+        : m_history(*services.m_history)
     {
+        const HistoryChange change(services);
         m_history.beginGroup();
     }
     Showing(const Showing&) = delete;
@@ -73,6 +72,7 @@ OrvServices::OrvServices()
               [this](NxField* field) { Q_EMIT selectedFieldChanged(field); }}))
     , m_document(std::make_unique<OrvDocument>())
     , m_history(std::make_unique<OrvHistory>())
+    , m_steps(std::make_unique<OrvStepList>(*m_history))
 {
     Q_ASSERT_X(theServices == nullptr, "OrvServices", "there is one services object at a time");
     theServices = this;
@@ -82,8 +82,12 @@ OrvServices::OrvServices()
         beginStep({m_userAction->currentAction(), m_userAction->currentTyping()});
     });
     connect(m_userAction.get(), &UserActionTracker::ended, m_stepEnd.get(), &StepEnd::lookLater);
-    connect(m_pump.get(), &DelayQueuePump::passBegins, this, [this] { m_history->beginPass(); });
+    connect(m_pump.get(), &DelayQueuePump::passBegins, this, [this] {
+        const HistoryChange change(*this);
+        m_history->beginPass();
+    });
     connect(m_pump.get(), &DelayQueuePump::passEnded, this, [this](bool isLast) {
+        const HistoryChange change(*this);
         m_history->endPass(isLast);
         if (isLast)
             m_stepEnd->lookLater();
@@ -113,6 +117,8 @@ void OrvServices::useJournal()
     const HistoryChange change(*this);
     meridane::Journal* const journal = m_document->journal();
     const bool isExact = NxPreferences::getString("ORVANE_UNDO", VbString()) != VbString("commands");
+    if (const std::optional<std::size_t> limit = orvane::preferredHistoryLimit())
+        m_history->setLimit(*limit);
     m_history->setJournal(journal, isExact ? OrvHistory::Moves::Exact : OrvHistory::Moves::Commands);
     journal->addListener(*m_stepEnd);
 }
@@ -133,31 +139,46 @@ void OrvServices::noteChange()
 void OrvServices::beginStep(const HistoryOrigin& origin)
 {
     const HistoryChange change(*this);
-    if (m_history->beginStep(origin))
+    m_history->beginStep(origin);
+}
+
+void OrvServices::announceHistory()
+{
+    const OrvHistory::Changes changes = m_history->takeChanges();
+    if (changes.areThere())
+        Q_EMIT m_steps->changed(
+            static_cast<int>(changes.dropped), static_cast<int>(std::min(changes.first, m_history->steps().size())));
+    const Shown shown{m_steps->position(), m_history->cleanState(), m_history->bytes(), m_history->limit()};
+    if (std::exchange(m_shown, shown) != shown || changes.areThere())
+        Q_EMIT m_steps->updated();
+    const Answers answers{m_history->canUndo(), m_history->canRedo(), m_history->isClean()};
+    if (std::exchange(m_answers, answers) != answers)
+        Q_EMIT historyChanged();
+    if (changes.hasFinished)
         Q_EMIT stepFinished();
 }
 
 void OrvServices::selectNode(NxFieldContainer* node)
 {
-    const Showing showing(*m_history);
+    const Showing showing(*this);
     m_selection->selectNode(node);
 }
 
 void OrvServices::selectField(NxField* field)
 {
-    const Showing showing(*m_history);
+    const Showing showing(*this);
     m_selection->selectField(field);
 }
 
 void OrvServices::select(NxFieldContainer* node, NxField* field)
 {
-    const Showing showing(*m_history);
+    const Showing showing(*this);
     m_selection->select(node, field);
 }
 
 void OrvServices::announceSelection()
 {
-    const Showing showing(*m_history);
+    const Showing showing(*this);
     m_selection->announce();
 }
 
@@ -173,15 +194,25 @@ NxField* OrvServices::getSelectedField() const noexcept
 
 void OrvServices::undo()
 {
-    const HistoryChange change(*this);
-    m_history->undo();
+    bool moved = false;
+    {
+        const HistoryChange change(*this);
+        moved = m_history->undo();
+    }
+    if (moved)
+        Q_EMIT m_steps->movedOver(m_steps->position());
     Q_EMIT documentEdited();
 }
 
 void OrvServices::redo()
 {
-    const HistoryChange change(*this);
-    m_history->redo();
+    bool moved = false;
+    {
+        const HistoryChange change(*this);
+        moved = m_history->redo();
+    }
+    if (moved)
+        Q_EMIT m_steps->movedOver(m_steps->position() - 1);
     Q_EMIT documentEdited();
 }
 

@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 
 class NxField;
@@ -12,6 +13,7 @@ class DelayQueuePump;
 class OrvCommand;
 class OrvDocument;
 class OrvHistory;
+class OrvStepList;
 class Selection;
 class StepEnd;
 class UserActionTracker;
@@ -88,11 +90,14 @@ public:
     /// Drops the whole history and makes the current state clean. Call it before the scene is destroyed. If a command
     /// calls it, it takes effect as soon as that command has returned.
     void clearHistory();
+    /// The steps of the history, to be listed.
+    [[nodiscard]] OrvStepList& steps() const noexcept { return *m_steps; }
     /// The number of steps that can be undone.
     [[nodiscard]] int undoDepth() const;
     /// Limits the memory of the history, in bytes. Beyond the limit the oldest steps are dropped, but never the newest.
     /// The default is 256 MiB. The memory of a command is estimated from the value of the selected field: two texts of
-    /// it, or, for a list, two texts of a row and one for each row that the command removed.
+    /// it, or, for a list, two texts of a row and one for each row that the command removed. The preference
+    /// `ORVANE_HISTORY`, in MiB, sets the limit when a document is opened.
     void setHistoryLimit(std::size_t bytes);
 
 Q_SIGNALS:
@@ -119,11 +124,21 @@ private:
 
         bool operator==(const Answers&) const = default;
     };
+    /// What its list of steps shows.
+    struct Shown {
+        int position = 0;
+        std::uint64_t savedState = 0;
+        std::size_t bytes = 0;
+        std::size_t limit = 0;
+
+        bool operator==(const Shown&) const = default;
+    };
 
     void useJournal();
     void dropJournal();
     void noteChange();
     void beginStep(const HistoryOrigin& origin);
+    void announceHistory();
 
     std::unique_ptr<DelayQueuePump> m_pump;
     std::unique_ptr<UserActionTracker> m_userAction;
@@ -131,5 +146,7 @@ private:
     std::unique_ptr<Selection> m_selection;
     std::unique_ptr<OrvDocument> m_document;
     std::unique_ptr<OrvHistory> m_history;
+    std::unique_ptr<OrvStepList> m_steps;
     Answers m_answers;
+    Shown m_shown;
 };

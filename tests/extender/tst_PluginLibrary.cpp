@@ -83,10 +83,10 @@ private Q_SLOTS:
         plugin("ThrowsInLoadPlugin", "its \"loadPlugin\" threw an exception: no licence for this machine");
         plugin("ThrowsInLoad", "it can't be loaded, for it threw an exception: no such font",
             words("construct load unload destroy"));
-        plugin("OtherInterfaceVersion", "it was built against version 4 of the plug-in interface; this is version 3",
+        plugin("OtherInterfaceVersion", "it was built against version 5 of the plug-in interface; this is version 4",
             words("construct destroy"));
         plugin("OtherVersionThrows",
-            "it was built against version 4 of the plug-in interface; this is version 3; its \"unloadPlugin\" threw an "
+            "it was built against version 5 of the plug-in interface; this is version 4; its \"unloadPlugin\" threw an "
             "exception: the licence was lost");
     }
     void aBrokenPluginIsToldInOneLineAndLeftOut()

@@ -1,7 +1,6 @@
 #include "orvane/extender/detail/HistoryStep.h"
 
 #include "orvane/extender/OrvCommand.h"
-#include "orvane/extender/detail/StepLabel.h"
 
 #include "meridane/scene/fields/NxFieldContainer.h"
 
@@ -40,10 +39,9 @@ void HistoryStep::redoCommands()
         command->redo();
 }
 
-void HistoryStep::setChanges(std::unique_ptr<meridane::JournalStep> changes)
+void HistoryStep::updateLabel(const NxGroup& scene)
 {
-    m_changes = std::move(changes);
-    updateLabel();
+    m_label = m_changes != nullptr ? orvane::labelOf(*m_changes, scene) : orvane::StepLabel();
 }
 
 void HistoryStep::appendCommands(HistoryStep&& step)
@@ -60,13 +58,7 @@ void HistoryStep::append(HistoryStep&& step)
         m_changes = std::move(step.m_changes);
     else if (step.m_changes != nullptr && !m_changes->append(std::move(*step.m_changes)))
         m_changes.reset();
-    updateLabel();
     appendCommands(std::move(step));
-}
-
-void HistoryStep::updateLabel()
-{
-    m_label = m_changes != nullptr ? orvane::labelOf(*m_changes) : QString();
 }
 
 std::size_t HistoryStep::bytes() const

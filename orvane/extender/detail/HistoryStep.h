@@ -1,9 +1,9 @@
 #pragma once
 
+#include "orvane/extender/detail/StepLabel.h"
+
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/journal/JournalStep.h"
-
-#include <QString>
 
 #include <chrono>
 #include <cstddef>
@@ -13,6 +13,7 @@
 #include <vector>
 
 class NxFieldContainer;
+class NxGroup;
 class OrvCommand;
 
 /// What a step of the history belongs to.
@@ -48,16 +49,15 @@ public:
     /// Calls `redo` of the commands, the first one first.
     void redoCommands();
 
-    // The scene is in the state directly after the step as its changes are set or others are appended.
-
     /// What the step changed; null for a step that changed nothing, and without a journal.
     [[nodiscard]] meridane::JournalStep* changes() const noexcept { return m_changes.get(); }
     /// Says in some words what the step changed; empty without changes.
-    [[nodiscard]] const QString& label() const noexcept { return m_label; }
-    void setChanges(std::unique_ptr<meridane::JournalStep> changes);
-
-    /// Sets the changes of the latest move over this step, back or forward. The label stays.
-    void replaceChanges(std::unique_ptr<meridane::JournalStep> changes) { m_changes = std::move(changes); }
+    [[nodiscard]] const QString& label() const noexcept { return m_label.text; }
+    /// The class of the node that the step changed; the bad type if it is about none or several.
+    [[nodiscard]] NxType nodeType() const noexcept { return m_label.nodeType; }
+    void setChanges(std::unique_ptr<meridane::JournalStep> changes) { m_changes = std::move(changes); }
+    /// Makes the label. `scene` holds the top nodes. The scene is in the state directly after the step.
+    void updateLabel(const NxGroup& scene);
 
     /// Appends the commands of a step that changed nothing.
     void appendCommands(HistoryStep&& step);
@@ -73,11 +73,10 @@ public:
     void setState(std::uint64_t state) noexcept { m_state = state; }
 
 private:
-    void updateLabel();
     void hold(NxFieldContainer* node);
 
     HistoryOrigin m_origin;
-    QString m_label;
+    orvane::StepLabel m_label;
     std::chrono::system_clock::time_point m_time = std::chrono::system_clock::now();
     std::size_t m_commandBytes = 0;
     std::uint64_t m_state = 0;

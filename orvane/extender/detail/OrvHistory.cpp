@@ -116,6 +116,7 @@ bool OrvHistory::closeStep()
     else
         keepWithoutChange(std::move(step));
     trim();
+    m_changes.hasFinished = m_changes.hasFinished || changed;
     return changed;
 }
 
@@ -163,6 +164,9 @@ void OrvHistory::keep(std::unique_ptr<HistoryStep> step)
         join(*m_steps.back(), std::move(step));
         return;
     }
+    noteChange(m_position);
+    if (m_journal != nullptr)
+        step->updateLabel(m_journal->scene());
     step->setState(m_state);
     m_bytes += step->bytes();
     m_steps.push_back(std::move(step));
@@ -183,8 +187,11 @@ bool OrvHistory::joins(const HistoryStep& step) const
 
 void OrvHistory::join(HistoryStep& last, std::unique_ptr<HistoryStep> step)
 {
+    noteChange(m_position - 1);
     m_bytes -= last.bytes();
     last.append(std::move(*step));
+    if (m_journal != nullptr)
+        last.updateLabel(m_journal->scene());
     m_bytes += last.bytes();
     last.setState(m_state);
     if (m_journal == nullptr || last.changes() != nullptr)
@@ -209,57 +216,51 @@ void OrvHistory::keepWithoutChange(std::unique_ptr<HistoryStep> step)
         m_bytes += last.bytes();
         return;
     }
+    noteChange(0);
     step->setState(m_oldestState);
     m_bytes += step->bytes();
     m_steps.push_front(std::move(step));
     ++m_position;
 }
 
-void OrvHistory::undo()
+bool OrvHistory::undo()
 {
-    if (m_work != Work::None)
-        return;
-    closeStep();
-    if (m_position == 0)
-        return;
+    if (!endStepToMove() || m_position == 0)
+        return false;
     const Working working(*this, Work::Moving);
-    moveBack();
-}
-
-void OrvHistory::redo()
-{
-    if (m_work != Work::None)
-        return;
-    closeStep();
-    if (m_position == m_steps.size())
-        return;
-    const Working working(*this, Work::Moving);
-    moveForward();
-}
-
-void OrvHistory::moveBack()
-{
     HistoryStep& step = *m_steps[m_position - 1];
     step.undoCommands();
     --m_position;
-    if (m_journal != nullptr && m_moves == Moves::Exact) {
-        m_journal->revertStep();
-        if (step.changes() != nullptr)
-            step.changes()->undo();
-        m_takeBacks = mostTakeBacks;
-    }
-    enterState(stateAt(m_position), step);
+    finishMove(step, &meridane::JournalStep::undo);
+    return true;
 }
 
-void OrvHistory::moveForward()
+bool OrvHistory::redo()
 {
+    if (!endStepToMove() || m_position == m_steps.size())
+        return false;
+    const Working working(*this, Work::Moving);
     HistoryStep& step = *m_steps[m_position];
     step.redoCommands();
     ++m_position;
+    finishMove(step, &meridane::JournalStep::redo);
+    return true;
+}
+
+bool OrvHistory::endStepToMove()
+{
+    if (m_work != Work::None)
+        return false;
+    closeStep();
+    return true;
+}
+
+void OrvHistory::finishMove(HistoryStep& step, void (meridane::JournalStep::*move)())
+{
     if (m_journal != nullptr && m_moves == Moves::Exact) {
         m_journal->revertStep();
         if (step.changes() != nullptr)
-            step.changes()->redo();
+            (step.changes()->*move)();
         m_takeBacks = mostTakeBacks;
     }
     enterState(stateAt(m_position), step);
@@ -277,7 +278,7 @@ void OrvHistory::enterState(std::uint64_t state, HistoryStep& step)
         return;
     const bool isThere = step.changes() != nullptr && step.changes()->isReversedBy(*moved);
     m_state = isThere ? state : ++m_latestState;
-    step.replaceChanges(std::move(moved));
+    step.setChanges(std::move(moved));
 }
 
 bool OrvHistory::canUndo() const
@@ -348,6 +349,8 @@ void OrvHistory::clear()
     const auto steps = std::exchange(m_steps, {});
     if (m_journal != nullptr)
         static_cast<void>(m_journal->finishStep()); // what it changed stays
+    noteChange(0);
+    m_hasDropped = false;
     m_position = 0;
     m_bytes = 0;
     m_takeBacks = 0;
@@ -365,6 +368,8 @@ void OrvHistory::setLimit(std::size_t bytes)
 
 void OrvHistory::dropRedo()
 {
+    if (m_steps.size() > m_position)
+        noteChange(m_position);
     while (m_steps.size() > m_position) {
         m_bytes -= m_steps.back()->bytes();
         const auto dropped = std::move(m_steps.back());
@@ -381,6 +386,10 @@ void OrvHistory::trim()
         const auto dropped = std::move(m_steps.front());
         m_steps.pop_front();
         --m_position;
+        m_hasDropped = true;
+        ++m_changes.dropped;
+        if (m_changes.first != Changes::none && m_changes.first > 0)
+            --m_changes.first;
     }
 }
 

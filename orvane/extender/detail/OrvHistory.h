@@ -2,10 +2,12 @@
 
 #include "orvane/extender/detail/HistoryStep.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <memory>
+#include <utility>
 
 namespace meridane {
 class Journal;
@@ -77,8 +79,9 @@ public:
     /// Whether commands or changes wait for the end of their step.
     [[nodiscard]] bool isStepOpen() const;
 
-    void undo();
-    void redo();
+    /// Both return whether there was a step to move over.
+    bool undo();
+    bool redo();
     [[nodiscard]] bool canUndo() const;
     [[nodiscard]] bool canRedo() const;
     [[nodiscard]] int undoDepth() const;
@@ -93,6 +96,7 @@ public:
     void clear();
 
     void setLimit(std::size_t bytes);
+    [[nodiscard]] std::size_t limit() const noexcept { return m_limit; }
     /// The estimate for all steps kept.
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
 
@@ -102,6 +106,23 @@ public:
     [[nodiscard]] std::size_t position() const noexcept { return m_position; }
     /// Whether the state after that many steps is the saved one.
     [[nodiscard]] bool isCleanAt(std::size_t position) const;
+    /// The number of the saved state.
+    [[nodiscard]] std::uint64_t cleanState() const noexcept { return m_cleanState; }
+    /// Whether steps before the oldest one were dropped.
+    [[nodiscard]] bool hasDropped() const noexcept { return m_hasDropped; }
+
+    /// How the list of steps has changed.
+    struct Changes {
+        static constexpr std::size_t none = static_cast<std::size_t>(-1);
+
+        std::size_t dropped = 0; ///< of the oldest steps
+        std::size_t first = none; ///< of the steps that are there now, from which on others may be there
+        bool hasFinished = false; ///< a step that changed something
+
+        [[nodiscard]] bool areThere() const noexcept { return dropped > 0 || first != none; }
+    };
+    /// The changes since the last call.
+    [[nodiscard]] Changes takeChanges() noexcept { return std::exchange(m_changes, {}); }
 
 private:
     enum class Work { None, Executing, Moving };
@@ -113,13 +134,16 @@ private:
     void keepWithoutChange(std::unique_ptr<HistoryStep> step);
     [[nodiscard]] bool joins(const HistoryStep& step) const;
     void join(HistoryStep& last, std::unique_ptr<HistoryStep> step);
-    void moveBack();
-    void moveForward();
+    /// Returns false while a command runs, which can't move.
+    bool endStepToMove();
+    /// Puts every place of the step to its state after the move.
+    void finishMove(HistoryStep& step, void (meridane::JournalStep::*move)());
     void enterState(std::uint64_t state, HistoryStep& step);
     void dropRedo();
     void trim();
     [[nodiscard]] std::uint64_t stateAt(std::size_t position) const;
     [[nodiscard]] bool hasOpenChanges() const;
+    void noteChange(std::size_t first) noexcept { m_changes.first = std::min(m_changes.first, first); }
 
     meridane::Journal* m_journal = nullptr;
     Moves m_moves = Moves::Exact;
@@ -139,6 +163,8 @@ private:
     int m_takeBacks = 0;
     int m_groups = 0;
     Work m_work = Work::None;
+    Changes m_changes;
     bool m_clearLater = false;
+    bool m_hasDropped = false;
     mutable bool m_hasOpenChanges = false; // found already
 };

@@ -10,10 +10,13 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <span>
 
 namespace {
 
 using meridane::ChangeRecord;
+using meridane::ChildrenRecord;
+using orvane::StepLabel;
 using Records = std::span<const std::unique_ptr<ChangeRecord>>;
 
 QString tr(const char* text, int count = -1)
@@ -36,48 +39,101 @@ QString nameOf(const NxField& field)
     return nameOf(*field.getContainer()) + u'.' + orvane::toQString(field.getContainer()->getFieldName(&field));
 }
 
-QString labelOfChildren(Records records)
+/// The only node that is added, or taken away, by a change of children; null if there are none or several.
+const NxNode* onlyNode(std::span<NxNode* const> children)
 {
-    std::vector<const NxNode*> added;
-    std::vector<const NxNode*> removed;
-    for (const auto& record : records) {
-        const auto& children = static_cast<const meridane::ChildrenRecord&>(*record);
-        if (records.size() == 1) {
-            const auto present = children.presentChildren();
-            added.assign(present.begin(), present.end());
-        }
-        for (const auto& child : children.otherChildren())
-            removed.push_back(child.get());
+    return children.size() == 1 ? children.front() : nullptr;
+}
+
+const NxNode* onlyRemoved(const ChildrenRecord& record)
+{
+    return record.otherChildren().size() == 1 && record.extent().present == 0 ? record.otherChildren().front().get()
+                                                                              : nullptr;
+}
+
+/// The only node that the first of two changes has added, after both.
+const NxNode* onlyAddedBefore(const ChildrenRecord& record, const ChildrenRecord& next)
+{
+    ChangeRecord::Extent rows = record.extent();
+    if (rows.present != 1 || rows.recorded != 0)
+        return nullptr;
+    if (&next.group() == &record.group() && next.extent().start < rows.start)
+        rows.start -= next.extent().recorded;
+    const auto children = record.group().getChildren();
+    return rows.start < children.size() ? children[rows.start] : nullptr;
+}
+
+/// The node that two changes have moved, and where to.
+struct Move {
+    const NxNode* node = nullptr; // null for none
+    const NxGroup* from = nullptr;
+    const NxGroup* to = nullptr;
+};
+
+Move findMove(const ChildrenRecord& first, const ChildrenRecord& second)
+{
+    if (const NxNode* const removed = onlyRemoved(first)) {
+        if (second.otherChildren().empty() && onlyNode(second.presentChildren()) == removed)
+            return {removed, &first.group(), &second.group()};
+    } else if (const NxNode* const later = onlyRemoved(second)) {
+        if (onlyAddedBefore(first, second) == later)
+            return {later, &second.group(), &first.group()};
     }
-    if (records.size() > 1)
-        return removed.size() == 1 ? tr("Move %1").arg(nameOf(*removed.front())) : tr("Change the structure");
-    if (added.size() == 1 && removed.empty())
-        return tr("Add %1").arg(nameOf(*added.front()));
-    if (added.empty() && removed.size() == 1)
-        return tr("Remove %1").arg(nameOf(*removed.front()));
-    return tr("Change the children of %1").arg(nameOf(records.front()->node()));
+    return {};
+}
+
+StepLabel labelOfMove(const Move& move, const NxGroup& scene)
+{
+    const NxType type = move.node->getTypeId();
+    const QString name = nameOf(*move.node);
+    if (move.from == move.to)
+        return {tr("Reorder %1").arg(name), type};
+    if (move.to == &scene)
+        return {tr("Move %1 to the top").arg(name), type};
+    return {tr("Move %1 to %2").arg(name, nameOf(*move.to)), type};
+}
+
+StepLabel labelOfChildren(Records records, const NxGroup& scene)
+{
+    const auto& first = static_cast<const ChildrenRecord&>(*records.front());
+    if (records.size() == 1) {
+        const auto present = first.presentChildren();
+        if (const NxNode* const added = onlyNode(present); added != nullptr && first.otherChildren().empty())
+            return {tr("Add %1").arg(nameOf(*added)), added->getTypeId()};
+        if (const NxNode* const removed = onlyRemoved(first))
+            return {tr("Remove %1").arg(nameOf(*removed)), removed->getTypeId()};
+    } else if (records.size() == 2) {
+        const Move move = findMove(first, static_cast<const ChildrenRecord&>(*records.back()));
+        if (move.node != nullptr)
+            return labelOfMove(move, scene);
+    }
+    const NxGroup& group = first.group();
+    if (&group == &scene || std::ranges::any_of(records, [&](const auto& record) { return &record->node() != &group; }))
+        return {tr("Change the structure"), {}};
+    return {tr("Change the children of %1").arg(nameOf(group)), group.getTypeId()};
 }
 
 } // namespace
 
-QString orvane::labelOf(const meridane::JournalStep& step)
+orvane::StepLabel orvane::labelOf(const meridane::JournalStep& step, const NxGroup& scene)
 {
     const Records records = step.records();
     const ChangeRecord& first = *records.front();
+    const NxFieldContainer& node = first.node();
     const auto all = [&](const auto& test) { return std::ranges::all_of(records, test); };
-    const auto isOfKind = [&first](const auto& record) { return record->kind() == first.kind(); };
-    if (first.kind() == ChangeRecord::Kind::Children && all(isOfKind))
-        return labelOfChildren(records);
-    if (all([&first](
-                const auto& record) { return record->field() == first.field() && &record->node() == &first.node(); })) {
-        if (first.kind() == ChangeRecord::Kind::Name)
-            return tr("Rename %1").arg(nameOf(first.node()));
-        if (first.kind() == ChangeRecord::Kind::Ignored && records.size() == 1)
-            return (first.field()->isIgnored() ? tr("Ignore %1") : tr("Use %1")).arg(nameOf(*first.field()));
-        if (first.field() != nullptr)
-            return tr("Set %1").arg(nameOf(*first.field()));
-    }
-    if (all([&first](const auto& record) { return &record->node() == &first.node(); }))
-        return tr("Change %1").arg(nameOf(first.node()));
-    return tr("Change several nodes");
+    if (first.kind() == ChangeRecord::Kind::Children
+        && all([](const auto& record) { return record->kind() == ChangeRecord::Kind::Children; }))
+        return labelOfChildren(records, scene);
+    if (!all([&node](const auto& record) { return &record->node() == &node; }))
+        return {tr("Change several nodes"), {}};
+    const auto label = [&node](const QString& text) { return StepLabel{text, node.getTypeId()}; };
+    if (!all([&first](const auto& record) { return record->field() == first.field(); }))
+        return label(tr("Change %1").arg(nameOf(node)));
+    if (first.kind() == ChangeRecord::Kind::Name && records.size() == 1)
+        return label(tr("Rename %1").arg(nameOf(node)));
+    if (first.kind() == ChangeRecord::Kind::Ignored && records.size() == 1)
+        return label((first.field()->isIgnored() ? tr("Ignore %1") : tr("Use %1")).arg(nameOf(*first.field())));
+    if (first.field() != nullptr)
+        return label(tr("Set %1").arg(nameOf(*first.field())));
+    return label(tr("Change %1").arg(nameOf(node)));
 }
