@@ -1,7 +1,6 @@
 #include "orvane/app/compare/DifferenceModel.h"
 
 #include "orvane/app/base/PlainText.h"
-#include "orvane/app/base/SliceClock.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/compare/DifferenceText.h"
 #include "orvane/app/scene/NodeIcons.h"
@@ -10,7 +9,6 @@
 
 #include <QTimerEvent>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -40,8 +38,7 @@ void DifferenceModel::setDifferences(NxSceneDifferences differences)
     beginResetModel();
     watchRow(-1);
     m_filtering.stop();
-    m_words.clear();
-    m_shown.clear();
+    m_filter.setText({});
     m_texts.clear();
     m_differences = std::move(differences);
     endResetModel();
@@ -55,22 +52,20 @@ const NxSceneDifference& DifferenceModel::difference(int row) const
 std::size_t DifferenceModel::placeOf(int row) const
 {
     const auto place = static_cast<std::size_t>(row);
-    return m_words.isEmpty() ? place : m_shown[place];
+    return m_filter.isOn() ? m_filter.found()[place] : place;
 }
 
 void DifferenceModel::setFilter(const QString& text)
 {
     beginResetModel();
     watchRow(-1);
-    m_words = text.simplified().split(u' ', Qt::SkipEmptyParts);
-    m_shown.clear();
-    m_nextToFilter = 0;
+    m_filter.setText(text);
     endResetModel();
-    if (m_words.isEmpty()) {
+    if (m_filter.isOn()) {
+        m_filtering.start(0, this);
+    } else {
         m_filtering.stop();
         Q_EMIT filtered();
-    } else {
-        m_filtering.start(0, this);
     }
 }
 
@@ -78,36 +73,26 @@ void DifferenceModel::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() != m_filtering.timerId())
         return;
-    constexpr std::size_t rowsAtOnce = 16;
-    const SliceClock slice;
     const std::size_t count = m_differences.list().size();
-    std::vector<std::uint32_t> found;
-    while (m_nextToFilter < count && !slice.isSpent()) {
-        const std::size_t end = std::min(count, m_nextToFilter + rowsAtOnce);
-        for (; m_nextToFilter < end; ++m_nextToFilter) {
-            if (matches(m_nextToFilter))
-                found.push_back(static_cast<std::uint32_t>(m_nextToFilter));
-        }
-    }
+    const auto found = m_filter.find(count, [this](std::size_t place) { return rowText(place); });
     if (!found.empty()) {
         const int first = rowCount();
         beginInsertRows({}, first, first + static_cast<int>(found.size()) - 1);
-        m_shown.insert(m_shown.end(), found.begin(), found.end());
+        m_filter.append(found);
         endInsertRows();
     }
-    if (m_nextToFilter < count)
+    if (!m_filter.isDone(count))
         return;
     m_filtering.stop();
     Q_EMIT filtered();
 }
 
-bool DifferenceModel::matches(std::size_t place) const
+QString DifferenceModel::rowText(std::size_t place) const
 {
     QString row;
     for (int column = 0; column < ColumnCount; ++column)
         row += makeText(place, column) + u'\n';
-    return std::all_of(m_words.begin(), m_words.end(),
-        [&row](const QString& word) { return row.contains(word, Qt::CaseInsensitive); });
+    return row;
 }
 
 void DifferenceModel::watchRow(int row)
@@ -129,7 +114,7 @@ int DifferenceModel::rowCount(const QModelIndex& parent) const
 {
     if (parent.isValid())
         return 0;
-    return static_cast<int>(m_words.isEmpty() ? m_differences.list().size() : m_shown.size());
+    return static_cast<int>(m_filter.isOn() ? m_filter.found().size() : m_differences.list().size());
 }
 
 int DifferenceModel::columnCount(const QModelIndex& parent) const

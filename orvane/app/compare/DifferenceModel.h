@@ -1,16 +1,15 @@
 #pragma once
 
+#include "orvane/app/base/RowFilter.h"
+
 #include "meridane/scene/compare/NxSceneDifferences.h"
 #include "meridane/scene/fields/NxFieldSensor.h"
 
 #include <QAbstractTableModel>
 #include <QBasicTimer>
 #include <QCache>
-#include <QStringList>
 
 #include <cstddef>
-#include <cstdint>
-#include <vector>
 
 /// The differences of two scenes as rows, side by side: the node, what differs, and what each scene has.
 ///
@@ -52,13 +51,11 @@ private:
     [[nodiscard]] std::size_t placeOf(int row) const;
     [[nodiscard]] QString text(std::size_t place, int column) const;
     [[nodiscard]] QString makeText(std::size_t place, int column) const;
-    [[nodiscard]] bool matches(std::size_t place) const;
+    [[nodiscard]] QString rowText(std::size_t place) const;
     void updateWatchedRow();
 
     NxSceneDifferences m_differences;
-    QStringList m_words; // of the filter; without any, all rows are shown
-    std::vector<std::uint32_t> m_shown; // that match the filter
-    std::size_t m_nextToFilter = 0;
+    RowFilter m_filter;
     QBasicTimer m_filtering;
     mutable QCache<std::size_t, QString> m_texts; // of cells that were shown
     NxFieldSensor m_sensor;

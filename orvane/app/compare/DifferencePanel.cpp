@@ -1,6 +1,7 @@
 #include "orvane/app/compare/DifferencePanel.h"
 
 #include "orvane/app/base/PlainText.h"
+#include "orvane/app/base/RowTable.h"
 #include "orvane/app/compare/CopyJob.h"
 #include "orvane/app/compare/DifferenceModel.h"
 #include "orvane/app/compare/DifferenceText.h"
@@ -8,12 +9,10 @@
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QStackedLayout>
-#include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -47,7 +46,7 @@ DifferencePanel::DifferencePanel(JobBar& jobBar, QWidget* parent)
     : QWidget(parent)
     , m_jobBar(jobBar)
     , m_model(new DifferenceModel(this))
-    , m_view(new QTableView(this))
+    , m_view(new RowTable(this))
     , m_heading(new QLabel(this))
     , m_filter(new QLineEdit(this))
     , m_again(new QToolButton(this))
@@ -104,20 +103,7 @@ void DifferencePanel::buildView()
     m_view->setObjectName(QStringLiteral("differenceTable"));
     m_view->setAccessibleName(tr("Differences"));
     m_view->setModel(m_model);
-    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_view->setAlternatingRowColors(true);
-    m_view->setShowGrid(false);
-    m_view->setWordWrap(false);
-    m_view->setTabKeyNavigation(false);
-    m_view->setFrameShape(QFrame::NoFrame);
-    m_view->setTextElideMode(Qt::ElideMiddle);
-    m_view->verticalHeader()->hide();
-    m_view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
-    m_view->horizontalHeader()->setHighlightSections(false);
-    m_view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_view->horizontalHeader()->setStretchLastSection(true);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* copy = new QAction(tr("&Copy"), m_view);
     copy->setShortcut(QKeySequence::Copy);
