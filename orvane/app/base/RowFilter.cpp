@@ -41,7 +41,7 @@ void RowFilter::restartFrom(std::size_t row)
 
 void RowFilter::removeFirst(std::size_t rows)
 {
-    m_found.erase(m_found.begin(), m_found.begin() + static_cast<std::ptrdiff_t>(countBefore(rows)));
+    m_found.erase(m_found.begin(), m_found.begin() + static_cast<std::ptrdiff_t>(countBefore(rows + 1)));
     for (std::uint32_t& row : m_found)
         row -= static_cast<std::uint32_t>(rows);
     m_next -= std::min(m_next, rows);

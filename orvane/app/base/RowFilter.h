@@ -31,7 +31,7 @@ public:
     [[nodiscard]] std::size_t countBefore(std::size_t row) const;
     /// Forgets the rows found from that one on, and looks at them again.
     void restartFrom(std::size_t row);
-    /// The first rows of the list are gone.
+    /// The first rows of the list are gone. The one that is the first now has another text, and isn't found any more.
     void removeFirst(std::size_t rows);
 
 private:

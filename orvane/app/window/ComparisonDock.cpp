@@ -7,6 +7,7 @@
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/window/DockPlace.h"
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/scene/file/NxScenePath.h"
@@ -14,12 +15,6 @@
 #include <QMainWindow>
 
 #include <utility>
-
-namespace {
-
-constexpr int firstHeight = 250;
-
-} // namespace
 
 ComparisonDock::ComparisonDock(
     Session& session, MessageBar& messages, JobBar& jobBar, SceneTreePanel* tree, QMainWindow* window)
@@ -44,25 +39,9 @@ void ComparisonDock::compare(const NxRef<NxGroup>& other, const QString& fileNam
 void ComparisonDock::reveal()
 {
     if (!std::exchange(m_placed, true) && !m_window->restoreDockWidget(this))
-        place();
+        orvane::placeAtBottom(m_window, this);
     show();
     raise();
-}
-
-// Rows are wide: other docks at the bottom become tabs of one place with this one.
-void ComparisonDock::place()
-{
-    QDockWidget* beside = nullptr;
-    for (QDockWidget* const dock : m_window->findChildren<QDockWidget*>(Qt::FindDirectChildrenOnly)) {
-        const bool isAtBottom = m_window->dockWidgetArea(dock) == Qt::BottomDockWidgetArea;
-        if (dock != this && isAtBottom && dock->isVisible() && !dock->isFloating())
-            beside = dock;
-    }
-    m_window->addDockWidget(Qt::BottomDockWidgetArea, this);
-    if (beside != nullptr)
-        m_window->tabifyDockWidget(beside, this);
-    else
-        m_window->resizeDocks({this}, {firstHeight}, Qt::Vertical);
 }
 
 void ComparisonDock::select(const NxSceneDifference& difference)

@@ -30,7 +30,6 @@ public:
 private:
     void select(const NxSceneDifference& difference);
     void reveal();
-    void place();
 
     Session& m_session;
     SceneTreePanel* m_tree;

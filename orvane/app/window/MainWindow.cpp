@@ -8,6 +8,7 @@
 #include "orvane/app/files/FileMenu.h"
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/files/RecentFiles.h"
+#include "orvane/app/history/StepTravel.h"
 #include "orvane/app/images/ImageFolderQuestion.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
@@ -23,6 +24,8 @@
 #include "orvane/app/window/ComparisonDock.h"
 #include "orvane/app/window/EditMenu.h"
 #include "orvane/app/window/HelpMenu.h"
+#include "orvane/app/window/HistoryDock.h"
+#include "orvane/app/window/ReturnedNodes.h"
 #include "orvane/app/window/SelectionLink.h"
 #include "orvane/app/window/StartPage.h"
 #include "orvane/app/window/WindowShell.h"
@@ -171,6 +174,9 @@ void MainWindow::buildDocks()
     addDockWidget(Qt::RightDockWidgetArea, fieldsDock);
     resizeDocks({dock, fieldsDock}, {treeWidth, WindowShell::sideDockWidth}, Qt::Horizontal);
     new SelectionLink(m_session.services(), m_tree, m_fields);
+    auto* travel = new StepTravel(m_session.services(), this);
+    new HistoryDock(m_session, *travel, *m_messages, this);
+    new ReturnedNodes(m_session.services(), *travel, m_tree);
     new SelectionStatus(m_session, m_tree, statusBar());
     new ViewLink(m_session, m_view, m_tree, statusBar());
     statusBar()->addPermanentWidget(m_jobBar);

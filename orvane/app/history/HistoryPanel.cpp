@@ -1,0 +1,206 @@
+#include "orvane/app/history/HistoryPanel.h"
+
+#include "orvane/app/base/PlainText.h"
+#include "orvane/app/base/RowTable.h"
+#include "orvane/app/history/HistoryModel.h"
+#include "orvane/app/history/PutBack.h"
+#include "orvane/app/history/StepTravel.h"
+#include "orvane/app/messages/MessageBar.h"
+#include "orvane/extender/OrvServices.h"
+#include "orvane/extender/OrvStepList.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QToolButton>
+
+#include <utility>
+
+namespace {
+
+const QString putBackTopic = QStringLiteral("putBack");
+
+/// Such as "3.4 MiB", without the fraction of whole numbers.
+QString mebibytes(std::size_t bytes)
+{
+    constexpr double bytesInMiB = 1024 * 1024;
+    const QString number = QString::number(static_cast<double>(bytes) / bytesInMiB, 'f', 1);
+    return number.endsWith(QLatin1String(".0")) ? number.chopped(2) : number;
+}
+
+} // namespace
+
+HistoryPanel::HistoryPanel(OrvServices& services, StepTravel& travel, MessageBar& messages, QWidget* parent)
+    : QWidget(parent)
+    , m_services(services)
+    , m_travel(travel)
+    , m_messages(messages)
+    , m_model(new HistoryModel(services, this))
+    , m_view(new RowTable(this))
+    , m_filter(new QLineEdit(this))
+    , m_goTo(new QAction(tr("&Go to This State"), this))
+    , m_putBack(new QAction(tr("&Put This Value Back"), this))
+    , m_putBackButton(new QToolButton(this))
+    , m_slider(new QSlider(Qt::Horizontal, this))
+    , m_place(new QLabel(this))
+    , m_memory(new QLabel(this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto* top = new QWidget(this);
+    buildTopLine(top);
+    layout->addWidget(top);
+    buildView();
+    layout->addWidget(m_view, 1);
+    auto* bottom = new QWidget(this);
+    buildBottomLine(bottom);
+    layout->addWidget(bottom);
+    setFocusProxy(m_view);
+
+    // Thousands of steps may be undone at once.
+    m_update.setSingleShot(true);
+    connect(&m_update, &QTimer::timeout, this, &HistoryPanel::update);
+    const auto updateSoon = [this] { m_update.start(0); };
+    connect(&services.steps(), &OrvStepList::updated, this, updateSoon);
+    connect(&travel, &StepTravel::ended, this, updateSoon);
+    connect(m_model, &HistoryModel::filtered, this, updateSoon);
+    update();
+}
+
+HistoryPanel::~HistoryPanel() = default;
+
+void HistoryPanel::buildTopLine(QWidget* page)
+{
+    auto* line = new QHBoxLayout(page);
+    line->setContentsMargins(8, 4, 8, 4);
+    m_filter->setObjectName(QStringLiteral("historyFilter"));
+    m_filter->setPlaceholderText(tr("Filter"));
+    m_filter->setAccessibleName(tr("Filter"));
+    m_filter->setToolTip(tr("Shows the steps that contain all of these words: in their name, or in a value"));
+    m_filter->setClearButtonEnabled(true);
+    m_filter->setMaximumWidth(fontMetrics().averageCharWidth() * 50);
+    connect(m_filter, &QLineEdit::textChanged, m_model, &HistoryModel::setFilter);
+    line->addWidget(m_filter, 1);
+    line->addStretch();
+    m_memory->setObjectName(QStringLiteral("historyMemory"));
+    m_memory->setToolTip(tr("Beyond this limit the oldest steps are dropped. The preference ORVANE_HISTORY sets it."));
+    line->addWidget(m_memory);
+    m_putBackButton->setObjectName(QStringLiteral("putValueBack"));
+    m_putBackButton->setDefaultAction(m_putBack);
+    line->addWidget(m_putBackButton);
+}
+
+void HistoryPanel::buildView()
+{
+    m_view->setObjectName(QStringLiteral("historyTable"));
+    m_view->setAccessibleName(tr("History"));
+    m_view->setModel(m_model);
+    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_view->addActions({m_goTo, m_putBack});
+    m_view->installEventFilter(this);
+    sizeColumns();
+    connect(m_view, &QTableView::clicked, this, &HistoryPanel::goToRow);
+    connect(m_goTo, &QAction::triggered, this, [this] { goToRow(m_view->currentIndex()); });
+    connect(m_putBack, &QAction::triggered, this, &HistoryPanel::putBack);
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &HistoryPanel::updateActions);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &HistoryPanel::updateActions);
+}
+
+void HistoryPanel::buildBottomLine(QWidget* page)
+{
+    auto* line = new QHBoxLayout(page);
+    line->setContentsMargins(8, 4, 8, 4);
+    m_slider->setObjectName(QStringLiteral("historySlider"));
+    m_slider->setAccessibleName(tr("Time"));
+    m_slider->setToolTip(tr("Goes through all states of the scene"));
+    connect(m_slider, &QSlider::valueChanged, &m_travel, &StepTravel::goTo);
+    // The end of the travel may be behind the pointer.
+    connect(m_slider, &QSlider::sliderReleased, this, &HistoryPanel::update);
+    line->addWidget(m_slider, 1);
+    m_place->setObjectName(QStringLiteral("historyPlace"));
+    line->addWidget(m_place);
+}
+
+// The rest is the last column's.
+void HistoryPanel::sizeColumns()
+{
+    constexpr int characters[] = {12, 40, 30, 30};
+    for (int column = 0; column < HistoryModel::TimeColumn; ++column)
+        m_view->setColumnWidth(column, fontMetrics().averageCharWidth() * characters[column]);
+}
+
+bool HistoryPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_view && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            goToRow(m_view->currentIndex());
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void HistoryPanel::update()
+{
+    const OrvStepList& steps = m_services.steps();
+    const int position = steps.position();
+    // While the user drags the slider, it shows where the user wants to go.
+    if (!m_slider->isSliderDown()) {
+        const QSignalBlocker blocker(m_slider);
+        m_slider->setRange(0, steps.count());
+        m_slider->setPageStep(qMax(1, steps.count() / 10));
+        m_slider->setValue(m_travel.isUnderway() ? m_travel.goal() : position);
+    }
+    m_slider->setEnabled(steps.count() > 0);
+    m_place->setText(tr("Step %1 of %2").arg(position).arg(steps.count()));
+    const QString count = steps.count() == 1 ? tr("1 step") : tr("%1 steps").arg(steps.count());
+    m_memory->setText(tr("%1, %2 MiB of %3 MiB").arg(count, mebibytes(steps.bytes()), mebibytes(steps.limit())));
+    if (std::exchange(m_shownPosition, position) != position) {
+        const int row = m_model->rowOf(position);
+        if (row >= 0)
+            m_view->scrollTo(m_model->index(row, 0));
+    }
+    updateActions();
+}
+
+int HistoryPanel::selectedPosition() const
+{
+    const QModelIndexList rows = m_view->selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : m_model->positionOf(rows.front().row());
+}
+
+void HistoryPanel::updateActions()
+{
+    const int position = selectedPosition();
+    m_goTo->setEnabled(position >= 0 && position != m_services.steps().position());
+    const QString reason = orvane::whyNotPutBack(m_services.steps(), position - 1);
+    m_putBack->setEnabled(reason.isEmpty());
+    m_putBack->setToolTip(reason.isEmpty()
+            ? tr("Writes the value from before the selected step, without undoing what came after it")
+            : reason);
+}
+
+void HistoryPanel::goToRow(const QModelIndex& index)
+{
+    if (index.isValid())
+        m_travel.goTo(m_model->positionOf(index.row()));
+}
+
+void HistoryPanel::putBack()
+{
+    m_messages.clearTopic(putBackTopic);
+    const auto history = m_model->history();
+    if (!history)
+        return;
+    const orvane::Result<> result = orvane::putBack(*history, selectedPosition() - 1);
+    if (!result)
+        m_messages.showMessage(MessageBar::Severity::Information, result.error(), putBackTopic);
+}

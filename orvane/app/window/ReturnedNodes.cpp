@@ -1,0 +1,110 @@
+#include "orvane/app/window/ReturnedNodes.h"
+
+#include "orvane/app/history/StepTravel.h"
+#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/extender/OrvDocument.h"
+#include "orvane/extender/OrvServices.h"
+#include "orvane/extender/OrvStepList.h"
+
+#include "meridane/scene/journal/Journal.h"
+#include "meridane/scene/journal/JournalStep.h"
+#include "meridane/scene/nodes/ChildrenRecord.h"
+
+#include <QTreeView>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+using meridane::ChildrenRecord;
+
+/// The node that a step brought to its place when it was undone or redone just now; the last one of several.
+NxNode* returnedBy(const meridane::JournalStep& step)
+{
+    NxNode* returned = nullptr;
+    for (const auto& record : step.records()) {
+        if (record->kind() != meridane::ChangeRecord::Kind::Children)
+            return nullptr; // more than a change of the structure
+        const auto& children = static_cast<const ChildrenRecord&>(*record);
+        const ChildrenRecord::Extent rows = children.extent();
+        const auto present = children.group().getChildren();
+        if (rows.present == 1 && rows.start < present.size())
+            returned = present[rows.start];
+    }
+    return returned;
+}
+
+} // namespace
+
+ReturnedNodes::ReturnedNodes(OrvServices& services, const StepTravel& travel, SceneTreePanel* tree)
+    : QObject(tree)
+    , m_services(services)
+    , m_travel(travel)
+    , m_tree(tree)
+{
+    connect(&services.steps(), &OrvStepList::movedOver, this, &ReturnedNodes::noteStep);
+    connect(&travel, &StepTravel::ended, this, &ReturnedNodes::show);
+    connect(&services.document(), &OrvDocument::aboutToClose, this, [this] {
+        m_returned = NxRef<NxNode>();
+        m_unfolded.clear();
+    });
+    connect(tree->view(), &QTreeView::expanded, this, [this](const QModelIndex& index) { noteUnfolded(index, true); });
+    connect(
+        tree->view(), &QTreeView::collapsed, this, [this](const QModelIndex& index) { noteUnfolded(index, false); });
+}
+
+void ReturnedNodes::noteStep(int index)
+{
+    const OrvStepList& steps = m_services.steps();
+    const meridane::JournalStep* const changes = index < steps.count() ? steps.changes(index) : nullptr;
+    m_returned = NxRef<NxNode>(changes != nullptr ? returnedBy(*changes) : nullptr);
+    if (!m_travel.isUnderway())
+        show();
+}
+
+void ReturnedNodes::show()
+{
+    const NxRef<NxNode> node = std::exchange(m_returned, NxRef<NxNode>());
+    if (!node)
+        return;
+    const QModelIndex index = m_tree->model()->findNode(node.get());
+    if (!index.isValid())
+        return;
+    unfold(index);
+    m_tree->select(index);
+}
+
+void ReturnedNodes::noteUnfolded(const QModelIndex& index, bool isUnfolded)
+{
+    const meridane::Journal* const journal = m_services.document().journal();
+    const NxNode* const node = m_tree->model()->node(index);
+    const auto number = journal != nullptr && node != nullptr ? journal->number(*node) : std::nullopt;
+    if (!number)
+        return;
+    if (isUnfolded)
+        m_unfolded.insert(*number);
+    else
+        m_unfolded.erase(*number);
+}
+
+void ReturnedNodes::unfold(const QModelIndex& index)
+{
+    const meridane::Journal* const journal = m_services.document().journal();
+    std::vector<QPersistentModelIndex> waiting{index};
+    while (!waiting.empty()) {
+        const QModelIndex next = waiting.back();
+        waiting.pop_back();
+        const auto number = journal->number(*m_tree->model()->node(next));
+        if (!number || !m_unfolded.contains(*number))
+            continue;
+        m_tree->model()->fetchMore(next); // which the view may put off
+        m_tree->view()->expand(next);
+        for (int row = 0; row < m_tree->model()->rowCount(next); ++row) {
+            const QModelIndex child = m_tree->model()->index(row, SceneTreeModel::NameColumn, next);
+            if (!m_tree->model()->node(child)->getChildren().empty())
+                waiting.emplace_back(child);
+        }
+    }
+}
