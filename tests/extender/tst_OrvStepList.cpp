@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "extender/HistoryWalk.h"
 #include "extender/TestCommand.h"
 
@@ -8,9 +9,11 @@
 #include "meridane/base/errors/NxDebugError.h"
 #include "meridane/base/errors/NxErrorHandler.h"
 #include "meridane/base/values/VbString.h"
+#include "meridane/scene/journal/Journal.h"
 #include "meridane/scene/journal/JournalStep.h"
 #include "meridane/scene/nodes/NxFieldGallery.h"
 
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -144,13 +147,108 @@ private Q_SLOTS:
         QCOMPARE(moved, QList<QVariantList>({{1}, {1}}));
     }
 
-    void aChangeOfALongerStepGivesItAnotherNumber()
+    void aMoveToAnotherGroupIsOneStep_data()
     {
-        write(1);
+        QTest::addColumn<bool>("insertFirst");
+        QTest::newRow("removed, then inserted") << false;
+        QTest::newRow("inserted, then removed") << true;
+    }
+    void aMoveToAnotherGroupIsOneStep()
+    {
+        QFETCH(const bool, insertFirst);
+        const NxRef<NxGroup> arm(new NxGroup);
+        const NxRef<NxGroup> leg(new NxGroup);
+        arm->setName("arm");
+        leg->setName("leg");
+        for (NxNode* node : {static_cast<NxNode*>(new NxGroup), static_cast<NxNode*>(arm.get())})
+            m_scene->addChild(node);
+        m_scene->addChild(leg.get());
+        arm->addChild(new NxGroup);
+        const NxRef<NxGroup> hand(new NxGroup);
+        hand->setName("hand");
+        arm->addChild(hand.get());
+        HistoryWalk::settle();
+        const auto number = m_services->document().journal()->number(*hand);
+        const auto move = [&](NxGroup& from, NxGroup& to, int place) {
+            const NxRef<NxNode> kept(hand.get());
+            const int old = from.findChild(hand.get());
+            const bool isAfter = &from == &to && place <= old;
+            if (insertFirst)
+                to.insertChild(hand.get(), &from == &to && place > old ? place + 1 : place);
+            from.removeChild(old + (insertFirst && isAfter ? 1 : 0));
+            if (!insertFirst)
+                to.insertChild(hand.get(), place);
+            HistoryWalk::settle();
+        };
+        const int before = steps().count();
+        move(*arm, *leg, 0);
+        move(*leg, *m_scene, 1);
+        move(*m_scene, *m_scene, 3);
+        move(*m_scene, *m_scene, 0);
+        move(*m_scene, *arm, 0);
+        QCOMPARE(labels().mid(before),
+            QStringList({u"Move hand to leg"_s, u"Move hand to the top"_s, u"Reorder hand"_s, u"Reorder hand"_s,
+                u"Move hand to arm"_s}));
+        for (int step = before; step < steps().count(); ++step)
+            QCOMPARE(steps().nodeType(step), hand->getTypeId());
+        QCOMPARE(arm->getChild(0), hand.get());
+        m_services->undo();
+        QCOMPARE(m_scene->getChild(0), hand.get());
+        for (int i = 0; i < 4; ++i)
+            m_services->undo();
+        QCOMPARE(arm->getChild(1), hand.get());
+        QCOMPARE(leg->getNumChildren(), 0);
+        QCOMPARE(m_services->document().journal()->number(*hand), number);
+        m_services->redo();
+        QCOMPARE(leg->getChild(0), hand.get());
+        QCOMPARE(m_services->document().journal()->number(*hand), number);
+    }
+
+    void otherChangesOfChildrenHaveTheirLabels()
+    {
+        const NxRef<NxGroup> arm(new NxGroup);
+        arm->setName("arm");
+        m_scene->addChild(arm.get());
+        HistoryWalk::settle();
+        arm->addChild(new NxGroup);
+        arm->addChild(new NxGroup);
+        HistoryWalk::settle();
+        arm->removeAllChildren();
+        HistoryWalk::settle();
+        m_scene->removeChild(1);
+        HistoryWalk::settle();
+        m_scene->addChild(new NxGroup);
+        m_scene->addChild(arm.get());
+        HistoryWalk::settle();
+        arm->addChild(new NxGroup);
+        arm->setName("leg");
+        HistoryWalk::settle();
+        QCOMPARE(labels(),
+            QStringList({u"Add arm"_s, u"Change the children of arm"_s, u"Change the children of arm"_s,
+                u"Remove arm"_s, u"Change the structure"_s, u"Change leg"_s}));
+    }
+
+    void aStepThatGrowsGetsAnotherNumber()
+    {
+        QLineEdit line;
+        connect(&line, &QLineEdit::textEdited, &line,
+            [this](const QString& text) { m_gallery->sfString.setValue(orvane::toVbString(text)); });
+        line.show();
+        line.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&line, testPatience));
+        line.setFocus();
+        QTest::keyClicks(&line, u"a"_s);
+        HistoryWalk::settle();
         const std::uint64_t number = steps().number(0);
         m_services->undo();
         m_services->redo();
         QCOMPARE(steps().number(0), number);
+        QSignalSpy changed(&steps(), &OrvStepList::changed);
+        QTest::keyClicks(&line, u"b"_s);
+        HistoryWalk::settle();
+        QCOMPARE(steps().count(), 1);
+        QCOMPARE(changes(changed), QStringList({u"0 0"_s}));
+        QVERIFY(steps().number(0) != number);
     }
 
     // The selection ends what was written outside of any action.
