@@ -1,8 +1,8 @@
 // Going back through the undo history with the journal, against the commands' own undos.
 
 #include "Timing.h"
+#include "extender/SetValueCommand.h"
 
-#include "orvane/extender/OrvCommand.h"
 #include "orvane/extender/detail/OrvHistory.h"
 
 #include "meridane/base/NxDelayQueue.h"
@@ -14,31 +14,12 @@
 
 #include <chrono>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
 constexpr int steps = 10'000;
-
-/// As the editors' command of a single value, which keeps the texts before and after.
-class SetTextCommand : public OrvCommand {
-public:
-    SetTextCommand(NxField& field, const VbString& text)
-        : m_field(field)
-        , m_new(text)
-    {
-        m_field.get(m_old);
-    }
-
-    void execute() override { m_field.set(m_new); }
-    void undo() override { m_field.set(m_old); }
-    void redo() override { m_field.set(m_new); }
-
-private:
-    NxField& m_field;
-    VbString m_old;
-    VbString m_new;
-};
 
 void ignore(void* /*data*/, NxSensor* /*sensor*/) { }
 
@@ -64,8 +45,10 @@ double goBack(bool recorded)
     for (int i = 0; i < steps; ++i) {
         const std::string number = std::to_string(i) + ".5";
         const std::string texts[] = {number, number + " 1 2", '"' + number + '"'};
-        history.push(std::make_unique<SetTextCommand>(*fields[i % 3], VbString(texts[i % 3])),
-            {-1, fields[i % 3], gallery.get(), gallery.get()});
+        // As the editors do: the field is written first.
+        auto command = std::make_unique<SetValueCommand>(*fields[i % 3]);
+        fields[i % 3]->set(VbString(texts[i % 3]));
+        history.push(std::move(command), {-1, fields[i % 3], gallery.get(), gallery.get()});
     }
     history.finishStep();
     return bench::seconds([&history] {
