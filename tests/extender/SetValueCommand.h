@@ -2,6 +2,7 @@
 
 #include "orvane/extender/OrvCommand.h"
 
+#include "meridane/base/values/VbString.h"
 #include "meridane/scene/fields/NxField.h"
 
 /// Like the command of a slider's drag: it holds the texts before and after, and reads the new one when it is executed.
