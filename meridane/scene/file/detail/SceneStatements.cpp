@@ -1,6 +1,7 @@
 #include "meridane/base/values/TextPosition.h"
 #include "meridane/scene/file/detail/SceneLimits.h"
 #include "meridane/scene/file/detail/SceneParser.h"
+#include "meridane/scene/text/Identifier.h"
 
 // The grammar of scene files: one statement after the other.
 
@@ -10,16 +11,6 @@ namespace {
 
 constexpr std::string_view expectedOutside = "a node";
 constexpr std::string_view expectedInside = "a field, a node or \"}\"";
-
-bool isLetter(char character)
-{
-    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') || character == '_';
-}
-
-bool isLetterOrDigit(char character)
-{
-    return isLetter(character) || (character >= '0' && character <= '9');
-}
 
 bool endsStatement(char character)
 {
@@ -64,10 +55,10 @@ void SceneParser::skipSeparators()
 bool SceneParser::readIdentifier(std::string_view& word, std::string_view expected)
 {
     const std::string_view rest = m_reader.rest();
-    if (rest.empty() || !isLetter(rest.front()))
+    if (rest.empty() || !isIdentifierStart(rest.front()))
         return m_reader.fail(expected);
     std::size_t length = 1;
-    while (length < rest.size() && length <= maxNameLength && isLetterOrDigit(rest[length]))
+    while (length < rest.size() && length <= maxNameLength && isIdentifierCharacter(rest[length]))
         ++length;
     if (length > maxNameLength)
         return m_reader.fail("a word of at most 65536 bytes");
@@ -136,7 +127,7 @@ bool SceneParser::readNodeHead(std::string& name, std::string& label)
         m_reader.skipBlanks();
         expected = "\"as\" or \"{\"";
     }
-    if (isLetter(m_reader.peek())) {
+    if (isIdentifierStart(m_reader.peek())) {
         const std::size_t place = m_reader.position();
         std::string_view word;
         if (!m_reader.readWord(word, expected) || word != "as")

@@ -5,6 +5,7 @@
 #include "meridane/scene/nodes/NxUnknownNode.h"
 #include "meridane/scene/recovery/detail/ClassFingerprint.h"
 #include "meridane/scene/recovery/detail/RecoveryFormat.h"
+#include "meridane/scene/text/Identifier.h"
 
 #include <string_view>
 
@@ -14,32 +15,20 @@ namespace {
 
 constexpr const char* incompleteClass = "the description of a class is incomplete";
 
-bool isIdentifier(std::string_view name)
-{
-    const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'; };
-    if (name.empty() || !isLetter(name.front()) || name == "use" || name == "ignored")
-        return false;
-    for (const char c : name) {
-        if (!isLetter(c) && (c < '0' || c > '9'))
-            return false;
-    }
-    return true;
-}
-
 } // namespace
 
 std::string ReplayClasses::add(ByteReader& reader)
 {
     std::uint8_t kind = 0;
     std::string_view name;
-    if (!reader.byte(kind) || kind > static_cast<std::uint8_t>(RecoveryFormat::ClassKind::Unknown) || !reader.text(name)
-        || !isIdentifier(name))
+    if (!reader.byte(kind) || kind > static_cast<std::uint8_t>(RecoveryFormat::ClassKind::Unknown)
+        || !reader.text(name))
         return incompleteClass;
     Class& added = m_classes.emplace_back();
     added.name = name;
     if (kind == static_cast<std::uint8_t>(RecoveryFormat::ClassKind::Unknown)) {
         std::uint64_t fields = 0;
-        return reader.number(fields, 0) ? std::string() : incompleteClass;
+        return isClassName(name) && reader.number(fields, 0) ? std::string() : incompleteClass;
     }
     added.known = &m_knownClasses.find(name);
     const NxRef<NxNode> example = added.known->create();
