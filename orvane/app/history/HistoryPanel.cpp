@@ -15,10 +15,14 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QToolButton>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
@@ -26,11 +30,11 @@ namespace {
 const QString putBackTopic = QStringLiteral("putBack");
 
 /// Such as "3.4 MiB", without the fraction of whole numbers.
-QString mebibytes(std::size_t bytes)
+QString memoryText(std::size_t bytes)
 {
-    constexpr double bytesInMiB = 1024 * 1024;
-    const QString number = QString::number(static_cast<double>(bytes) / bytesInMiB, 'f', 1);
-    return number.endsWith(QLatin1String(".0")) ? number.chopped(2) : number;
+    return QLocale::c()
+        .formattedDataSize(static_cast<qint64>(bytes), 1)
+        .replace(QLatin1String(".0 "), QLatin1String(" "));
 }
 
 } // namespace
@@ -105,7 +109,9 @@ void HistoryPanel::buildView()
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_view->addActions({m_goTo, m_putBack});
     m_view->installEventFilter(this);
-    sizeColumns();
+    connect(m_view->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+        m_columnsChosen = m_columnsChosen || (!m_sizingColumns && column != HistoryModel::TimeColumn);
+    });
     connect(m_view, &QTableView::clicked, this, &HistoryPanel::goToRow);
     connect(m_goTo, &QAction::triggered, this, [this] { goToRow(m_view->currentIndex()); });
     connect(m_putBack, &QAction::triggered, this, &HistoryPanel::putBack);
@@ -128,12 +134,27 @@ void HistoryPanel::buildBottomLine(QWidget* page)
     line->addWidget(m_place);
 }
 
-// The rest is the last column's.
+// States and times are of one length; the other columns share what is left.
 void HistoryPanel::sizeColumns()
 {
-    constexpr int characters[] = {12, 40, 30, 30};
-    for (int column = 0; column < HistoryModel::TimeColumn; ++column)
-        m_view->setColumnWidth(column, fontMetrics().averageCharWidth() * characters[column]);
+    constexpr int stateCharacters = 12;
+    constexpr int timeCharacters = 15;
+    constexpr std::array shares{0.44, 0.28, 0.28};
+    constexpr std::array leastCharacters{14, 8, 8};
+    const QScopedValueRollback sizing(m_sizingColumns, true);
+    const int character = fontMetrics().averageCharWidth();
+    const int left = width() - (stateCharacters + timeCharacters) * character;
+    m_view->setColumnWidth(HistoryModel::StateColumn, stateCharacters * character);
+    for (std::size_t column = 0; column < shares.size(); ++column)
+        m_view->setColumnWidth(HistoryModel::StepColumn + static_cast<int>(column),
+            std::max(static_cast<int>(shares.at(column) * left), leastCharacters.at(column) * character));
+}
+
+void HistoryPanel::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (!m_columnsChosen)
+        sizeColumns();
 }
 
 bool HistoryPanel::eventFilter(QObject* watched, QEvent* event)
@@ -162,7 +183,7 @@ void HistoryPanel::update()
     m_slider->setEnabled(steps.count() > 0);
     m_place->setText(tr("Step %1 of %2").arg(position).arg(steps.count()));
     const QString count = steps.count() == 1 ? tr("1 step") : tr("%1 steps").arg(steps.count());
-    m_memory->setText(tr("%1, %2 MiB of %3 MiB").arg(count, mebibytes(steps.bytes()), mebibytes(steps.limit())));
+    m_memory->setText(tr("%1, %2 of %3").arg(count, memoryText(steps.bytes()), memoryText(steps.limit())));
     if (std::exchange(m_shownPosition, position) != position) {
         const int row = m_model->rowOf(position);
         if (row >= 0)

@@ -29,6 +29,7 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void buildTopLine(QWidget* page);
@@ -55,4 +56,6 @@ private:
     QLabel* m_memory;
     QTimer m_update;
     int m_shownPosition = -1;
+    bool m_sizingColumns = false;
+    bool m_columnsChosen = false; // by the user
 };
