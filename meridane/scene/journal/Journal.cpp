@@ -35,6 +35,15 @@ void Journal::record() noexcept
     attach(this);
 }
 
+void Journal::adopt(const Journal& tree)
+{
+    assert(!tree.m_waiting && "all nodes have numbers");
+    m_adopted.reserve(m_adopted.size() + 1);
+    const std::size_t first = m_nodes.size();
+    m_nodes.insert(m_nodes.end(), tree.m_nodes.begin(), tree.m_nodes.end());
+    m_adopted.push_back(first);
+}
+
 bool Journal::run(const WorkBudget& budget)
 {
     while (m_waiting) {
@@ -59,9 +68,18 @@ NxFieldContainer* Journal::node(std::size_t number) const noexcept
 
 std::optional<std::size_t> Journal::number(const NxFieldContainer& node) const noexcept
 {
+    if (numberOf(node) == 0)
+        return std::nullopt;
     // The node may have the number that another journal gave it.
-    const std::size_t number = std::size_t{numberOf(node)} - 1;
-    return number < m_nodes.size() && m_nodes[number] == &node ? std::optional(number) : std::nullopt;
+    const auto isNumber = [&](std::size_t number) { return number < m_nodes.size() && m_nodes[number] == &node; };
+    const std::size_t given = std::size_t{numberOf(node)} - 1;
+    if (isNumber(given))
+        return given;
+    for (const std::size_t difference : m_adopted) {
+        if (isNumber(given + difference))
+            return given + difference;
+    }
+    return std::nullopt;
 }
 
 void Journal::addListener(JournalListener& listener)

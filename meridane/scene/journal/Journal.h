@@ -35,6 +35,10 @@ public:
     bool run(const WorkBudget& budget);
     /// Begins to record, after `run` and while no other journal records.
     void record() noexcept;
+    /// Follows the nodes of a tree that is about to be added to the scene, so that adding it takes no time however many
+    /// they are. `tree` is a journal of it whose `run` has ended; the tree must not have changed its structure since.
+    /// May throw `std::bad_alloc`, then nothing has changed.
+    void adopt(const Journal& tree);
     [[nodiscard]] bool isRecording() const noexcept { return attached() == this; }
 
     [[nodiscard]] NxGroup& scene() const noexcept { return *m_scene; }
@@ -95,6 +99,8 @@ private:
     NxRef<NxGroup> m_scene;
     std::optional<NodeTraversal> m_waiting; // for their numbers
     std::vector<NxFieldContainer*> m_nodes; // by number; null for a node that was destroyed
+    /// For each tree that was adopted, the difference between the numbers here and those that its nodes have.
+    std::vector<std::size_t> m_adopted;
     JournalStep::Records m_records; // of the open step
     bool m_hasLatest = false; // the last of them is of the latest write
     PlaceChange m_latest;

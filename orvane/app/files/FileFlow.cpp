@@ -9,6 +9,10 @@
 #include "orvane/app/scene/NodeCommands.h"
 #include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/extender/OrvDocument.h"
+#include "orvane/extender/OrvServices.h"
+
+#include "meridane/scene/journal/Journal.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -198,7 +202,7 @@ void FileFlow::startAdd(const QString& fileName)
         return;
     }
     m_work.read(Kind::Add, m_jobMakers.load(fileName),
-        {[this, fileName](const ReadScene& read) { addToScene(read.scene, fileName); },
+        {[this, fileName](const ReadScene& read) { addToScene(read, fileName); },
             [this, fileName](const QString& reason, Loss loss) {
                 forgetIfMissing(fileName);
                 loseOpen({}, reason, loss);
@@ -242,12 +246,14 @@ void FileFlow::takeScene(const ReadScene& read, const QString& fileName, const O
         [this, fileName, opened] { cancelOpen(opened, fileName); }});
 }
 
-void FileFlow::addToScene(const NxRef<NxGroup>& content, const QString& fileName)
+void FileFlow::addToScene(const ReadScene& read, const QString& fileName)
 {
     m_recent.add(fileName);
-    orvane::rebasePaths(*content, orvane::folderOf(fileName), m_session.document().pathFolder());
-    content->setName(orvane::toVbString(QFileInfo(fileName).completeBaseName()));
-    m_session.services().pushCommand(new AddNodeCommand(m_session.document().scene(), content, m_session.disposal()));
+    orvane::rebasePaths(*read.scene, orvane::folderOf(fileName), m_session.document().pathFolder());
+    read.scene->setName(orvane::toVbString(QFileInfo(fileName).completeBaseName()));
+    m_session.services().document().journal()->adopt(*read.journal);
+    m_session.services().pushCommand(
+        new AddNodeCommand(m_session.document().scene(), read.scene, m_session.disposal()));
     Q_EMIT ended({});
 }
 

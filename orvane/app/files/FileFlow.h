@@ -91,7 +91,7 @@ private:
     void startCompare(const QString& fileName);
     [[nodiscard]] bool refusesBehindOpen(Kind kind, const QString& fileName);
     void takeScene(const ReadScene& read, const QString& fileName, const Opened& opened);
-    void addToScene(const NxRef<NxGroup>& content, const QString& fileName);
+    void addToScene(const ReadScene& read, const QString& fileName);
     void endOpen(const Opened& opened, const orvane::Result<>& result);
     void loseOpen(const Opened& opened, const QString& reason, Loss loss);
     void cancelOpen(const Opened& opened, const QString& fileName);

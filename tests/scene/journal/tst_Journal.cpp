@@ -217,6 +217,41 @@ private Q_SLOTS:
         QCOMPARE(m_run->journal().number(*below), std::size_t{3});
     }
 
+    void anAdoptedTreeIsFollowed()
+    {
+        // Two trees whose nodes have the same numbers in their own journals.
+        std::vector<NxRef<NxGroup>> trees;
+        for (int i = 0; i < 2; ++i) {
+            const NxRef<NxGroup>& tree = trees.emplace_back(new NxGroup);
+            tree->addChild(new ProbeNode);
+            tree->addChild(new ProbeNode);
+            Journal journal(*tree);
+            while (journal.run(std::chrono::seconds(0))) { }
+            m_run->journal().adopt(journal);
+            m_scene->addChild(tree.get());
+        }
+        QCOMPARE(m_run->finish()->records().size(), std::size_t{2});
+        QCOMPARE(m_run->journal().nodeCount(), std::size_t{8});
+        std::vector<NxNode*> nodes{m_scene.get(), m_probe.get()};
+        for (const NxRef<NxGroup>& tree : trees)
+            nodes.insert(nodes.end(), {tree.get(), tree->getChild(0), tree->getChild(1)});
+        for (std::size_t number = 0; number < nodes.size(); ++number) {
+            QCOMPARE(m_run->journal().node(number), nodes[number]);
+            QCOMPARE(m_run->journal().number(*nodes[number]), number);
+            nodes[number]->setName("a");
+        }
+        QCOMPARE(m_run->finish()->records().size(), std::size_t{8});
+        m_scene->addChild(new ProbeNode);
+        QCOMPARE(m_run->journal().number(*m_scene->getChild(3)), std::size_t{8});
+        m_scene->removeChild(2);
+        m_run->finish();
+        m_run->steps().clear();
+        trees.clear();
+        QVERIFY(m_run->journal().node(5) == nullptr);
+        QVERIFY(m_run->journal().node(6) == nullptr);
+        QVERIFY(m_run->journal().node(4) != nullptr);
+    }
+
     void aRemovedNodeIsKeptAlive()
     {
         m_probe->title.setValue("kept");
