@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <unordered_map>
@@ -98,7 +99,8 @@ private:
 
     NxRef<NxGroup> m_scene;
     std::optional<NodeTraversal> m_waiting; // for their numbers
-    std::vector<NxFieldContainer*> m_nodes; // by number; null for a node that was destroyed
+    /// By number; null for a node that was destroyed. A deque, which grows without being moved.
+    std::deque<NxFieldContainer*> m_nodes;
     /// For each tree that was adopted, the difference between the numbers here and those that its nodes have.
     std::vector<std::size_t> m_adopted;
     JournalStep::Records m_records; // of the open step

@@ -5,6 +5,8 @@
 
 #include <set>
 #include <tuple>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace meridane {
@@ -26,16 +28,26 @@ public:
     bool add(const ChangeRecord& record)
     {
         const ChangeRecord::Kind kind = record.kind();
-        return kind == ChangeRecord::Kind::Rows || kind == ChangeRecord::Kind::Children
-            || m_places.emplace(kind, &record.node(), record.field()).second;
+        if (kind == ChangeRecord::Kind::Rows)
+            return !hasValue(record) && addRows(record);
+        return kind == ChangeRecord::Kind::Children || m_places.emplace(kind, &record.node(), record.field()).second;
     }
+
+private:
     [[nodiscard]] bool hasValue(const ChangeRecord& record) const
     {
         return m_places.contains({ChangeRecord::Kind::Value, &record.node(), record.field()});
     }
+    bool addRows(const ChangeRecord& record)
+    {
+        if (record.growth() != 0)
+            m_rows.erase(record.field()); // they have moved
+        const ChangeRecord::Extent extent = record.extent();
+        return record.growth() != 0 || extent.present != 1 || m_rows[record.field()].insert(extent.start).second;
+    }
 
-private:
     std::set<std::tuple<ChangeRecord::Kind, const NxFieldContainer*, const NxField*>> m_places;
+    std::unordered_map<const NxField*, std::unordered_set<std::size_t>> m_rows; // single ones
 };
 
 } // namespace
@@ -66,8 +78,7 @@ bool JournalStep::append(JournalStep&& next)
     for (const auto& record : m_records)
         places.add(*record);
     for (auto& record : next.m_records) {
-        const bool isRow = record->kind() == ChangeRecord::Kind::Rows;
-        if (isRow ? !places.hasValue(*record) : places.add(*record))
+        if (places.add(*record))
             m_records.push_back(std::move(record));
     }
     next.m_records.clear();

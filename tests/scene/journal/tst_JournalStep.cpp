@@ -218,6 +218,48 @@ private Q_SLOTS:
         QVERIFY(!step->append(std::move(*run.journal().finishStep())));
     }
 
+    void typingIntoOneRowStaysOneRecord()
+    {
+        const NxRef<NxGroup> scene(new NxGroup);
+        const NxRef<ProbeNode> probe(new ProbeNode);
+        scene->addChild(probe.get());
+        JournalRun run(*scene);
+        probe->weights.set1Value(1, 9);
+        auto* const step = run.finish();
+        for (int i = 0; i < 100; ++i) {
+            probe->weights.set1Value(1, static_cast<float>(i + 10));
+            QVERIFY(step->append(std::move(*run.journal().finishStep())));
+        }
+        QCOMPARE(step->records().size(), std::size_t{1});
+        probe->weights.set1Value(1, 2);
+        QVERIFY(!step->append(std::move(*run.journal().finishStep())));
+    }
+
+    void aRowAndRowsThatOverlapAreUndoneTogether()
+    {
+        const NxRef<NxGroup> scene(new NxGroup);
+        const NxRef<ProbeNode> probe(new ProbeNode);
+        scene->addChild(probe.get());
+        JournalRun run(*scene);
+        const std::string before = run.text();
+        std::string rows;
+        probe->weights.appendPlainRows(rows, 0, 3);
+        probe->weights.set1Value(1, 9);
+        probe->size.setValue(2);
+        auto* const step = run.finish();
+        const std::string row = rows.substr(0, sizeof(float));
+        QVERIFY(probe->weights.replacePlainRows(1, 1, row));
+        QVERIFY(step->append(std::move(*run.journal().finishStep())));
+        QVERIFY(probe->weights.replacePlainRows(0, 3, rows));
+        probe->weights.set1Value(0, 7);
+        QVERIFY(step->append(std::move(*run.journal().finishStep())));
+        const std::string after = run.text();
+        step->undo();
+        QCOMPARE(run.text(), before);
+        step->redo();
+        QCOMPARE(run.text(), after);
+    }
+
     void recordsOfNumbersAreSmall()
     {
         const NxRef<NxGroup> scene(new NxGroup);

@@ -98,7 +98,11 @@ bool ListField<Value, Format>::replacePlainRows(int start, int count, std::strin
         const bool fits = withinMemory(bytes.size(), [&] {
             if (!canHave(m_values.size() - (end - first) + rows))
                 throw std::bad_alloc();
-            ChangeRecorder* const changes = recordRows(first, end, rows);
+            ChangeRecorder* changes = nullptr;
+            if (count == 1 && rows == 1)
+                recordRow(start); // which may have a record already
+            else
+                changes = recordRows(first, end, rows);
             try {
                 resizeRows(first, end, rows);
             } catch (...) {

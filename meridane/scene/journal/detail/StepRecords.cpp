@@ -37,7 +37,8 @@ void exchangeNoted(ChangeRecord& record)
     record.exchange();
 }
 
-/// The records of one list or group whose rows or children have moved, so that they can't be judged one by one.
+/// The records of one list or group whose rows or children have moved, or were written together, so that they can't be
+/// judged one by one.
 struct Sequence {
     std::vector<ChangeRecord*> records;
     std::ptrdiff_t growth = 0;
@@ -54,7 +55,7 @@ Sequences findSequences(View records)
         const void* const owner = ownerOf(*record);
         if (isPart(*record)) {
             lists.insert(owner);
-            if (record->growth() != 0)
+            if (record->growth() != 0 || record->extent().present != 1)
                 sequences.try_emplace(owner);
         } else if (record->kind() == ChangeRecord::Kind::Value && lists.contains(owner)) {
             sequences[owner].isReplaced = true;
