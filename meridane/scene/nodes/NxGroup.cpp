@@ -138,6 +138,33 @@ void NxGroup::removeAllChildren()
         release(child);
 }
 
+bool NxGroup::replaceChildren(int index, int count, std::span<NxNode* const> nodes)
+{
+    if (index < 0 || count < 0 || index > getNumChildren() || count > getNumChildren() - index)
+        return false;
+    const auto isRefused
+        = [this](NxNode* node) { return node == nullptr || node == this || (m_places > 0 && holds(node, this)); };
+    if (std::ranges::any_of(nodes, isRefused))
+        return false;
+    if (count == 0 && nodes.empty())
+        return true;
+    const auto first = static_cast<std::size_t>(index);
+    const std::size_t end = first + static_cast<std::size_t>(count);
+    const std::span<NxNode* const> present = m_children;
+    std::vector<NxNode*> children;
+    children.reserve(present.size() - (end - first) + nodes.size());
+    children.assign(present.begin(), present.begin() + index);
+    children.insert(children.end(), nodes.begin(), nodes.end());
+    children.insert(children.end(), present.begin() + index + count, present.end());
+    recordChildren(first, end, nodes);
+    std::ranges::for_each(nodes, hold);
+    children.swap(m_children);
+    noteChildrenChange();
+    touch();
+    std::ranges::for_each(std::span(children).subspan(first, end - first), release);
+    return true;
+}
+
 void NxGroup::recordChildren(std::size_t first, std::size_t end, std::span<NxNode* const> nodes)
 {
     meridane::ChangeRecorder* const recorder = meridane::ChangeRecorder::of(this);

@@ -36,6 +36,9 @@ public:
     /// Removes the child at that index and releases the reference to it. Returns false for an index out of range.
     bool removeChild(int index);
     void removeAllChildren();
+    /// Replaces `count` children from that index on by other nodes, as one change. Returns false and changes nothing if
+    /// there are no such children, and if one of the nodes is null, this group, or a node that contains this group.
+    bool replaceChildren(int index, int count, std::span<NxNode* const> nodes);
 
 protected:
     ~NxGroup() override;

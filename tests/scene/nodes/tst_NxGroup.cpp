@@ -6,6 +6,9 @@
 
 #include <QTest>
 
+#include <array>
+#include <vector>
+
 namespace {
 
 /// Counts the groups that are alive.
@@ -72,6 +75,46 @@ private Q_SLOTS:
         QCOMPARE(group->getChildren()[1], second);
         QCOMPARE(group->findChild(third), 2);
         QVERIFY(group->getChild(3) == nullptr);
+    }
+
+    void childrenAreReplacedAtOnce()
+    {
+        const NxRef<NxGroup> group(new CountedGroup);
+        const std::array<NxRef<NxGroup>, 6> nodes{
+            new CountedGroup, new CountedGroup, new CountedGroup, new CountedGroup, new CountedGroup, new CountedGroup};
+        const auto children = [&group] {
+            const auto present = group->getChildren();
+            return std::vector<NxNode*>(present.begin(), present.end());
+        };
+        const auto is = [&nodes](std::initializer_list<std::size_t> numbers) {
+            std::vector<NxNode*> result;
+            for (const std::size_t number : numbers)
+                result.push_back(nodes.at(number).get());
+            return result;
+        };
+        QVERIFY(group->replaceChildren(0, 0, is({0, 1, 2})));
+        QCOMPARE(children(), is({0, 1, 2}));
+        NodeObserver observer(group.get());
+        QVERIFY(group->replaceChildren(1, 1, is({3, 4, 5})));
+        QCOMPARE(observer.take(), 1);
+        QCOMPARE(children(), is({0, 3, 4, 5, 2}));
+        QCOMPARE(nodes[1]->getRefCount(), 1);
+        QCOMPARE(nodes[3]->getRefCount(), 2);
+        QVERIFY(group->replaceChildren(0, 4, {}));
+        QCOMPARE(children(), is({2}));
+        QVERIFY(group->replaceChildren(1, 0, {}));
+        QCOMPARE(observer.take(), 1);
+
+        QVERIFY(nodes[2]->addChild(nodes[0].get()));
+        QVERIFY(!nodes[0]->replaceChildren(0, 0, is({1, 2}))); // 2 contains 0
+        const std::array<NxNode*, 1> itself{group.get()};
+        const std::array<NxNode*, 1> nothing{nullptr};
+        QVERIFY(!group->replaceChildren(0, 1, itself));
+        QVERIFY(!group->replaceChildren(0, 1, nothing));
+        QVERIFY(!group->replaceChildren(0, 2, {}));
+        QVERIFY(!group->replaceChildren(-1, 1, {}));
+        QVERIFY(!group->replaceChildren(2, 0, {}));
+        QCOMPARE(children(), is({2}));
     }
 
     void aGroupHoldsOneReferencePerPlace()

@@ -2,46 +2,22 @@
 
 namespace meridane {
 
-ComparisonWork::ComparisonWork(NxGroup& left, NxGroup& right)
-    : m_revision(NxFieldContainer::getStructureRevision())
-    , m_left(left)
-    , m_right(right)
-{
-}
-
 bool ComparisonWork::step(const WorkBudget& budget)
 {
-    while (work(budget)) {
-        if (budget.isSpent())
+    if (!m_collector) {
+        if (m_matching.step(budget))
             return true;
+        m_collector.emplace(m_matching.tables());
     }
-    return false;
-}
-
-bool ComparisonWork::work(const WorkBudget& budget)
-{
-    constexpr std::size_t nodesPerSlice = 64;
-    if (m_collector)
-        return m_collector->step(budget);
-    if (m_matching) {
-        if (!m_matching->step(nodesPerSlice))
-            m_collector.emplace(*m_tables);
-    } else if (m_digested == 2) {
-        m_tables.emplace(m_left, m_right);
-        m_matching.emplace(*m_tables);
-    } else if (!(m_digested == 0 ? m_left : m_right).step(nodesPerSlice)) {
-        ++m_digested;
-    }
-    return true;
+    return m_collector->step(budget);
 }
 
 double ComparisonWork::progress() const
 {
-    constexpr double digestShare = 0.25; // of one scene
-    constexpr double collectorStart = 0.75;
+    constexpr double matchingShare = 0.75;
     if (m_collector)
-        return collectorStart + (1 - collectorStart) * m_collector->progress();
-    return digestShare * m_digested;
+        return matchingShare + (1 - matchingShare) * m_collector->progress();
+    return matchingShare * m_matching.progress();
 }
 
 } // namespace meridane

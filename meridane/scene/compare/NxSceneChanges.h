@@ -1,0 +1,56 @@
+#pragma once
+
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxGroup.h"
+
+#include <memory>
+#include <vector>
+
+/// What makes a scene equal to another one, while nodes of both stay the same objects. `NxSceneUpdate` finds it out.
+///
+/// It can be applied and taken back any number of times. The scene may be in any state, but only in the one from before
+/// or after the changes is the result exact. It holds the nodes. Thread of the user interface only.
+class NxSceneChanges {
+public:
+    /// What changes in one node.
+    struct NodeChange {
+        NxRef<NxNode> node;
+        /// Has the name and the values that the node is to get; null if they stay.
+        NxRef<NxNode> other;
+        bool isRenamed = false;
+        std::vector<int> fields; ///< those with another value or ignored flag, by their index in the class
+    };
+    /// Some children of a group: those after the first `before` and before the last `after`.
+    struct ChildrenChange {
+        NxRef<NxGroup> group;
+        int before = 0;
+        int after = 0;
+        std::vector<NxRef<NxNode>> children; ///< that the group is to get there
+    };
+    /// A node, and the one that takes its place since it is of another class or has other unknown fields.
+    struct Replacement {
+        NxRef<NxNode> node;
+        NxRef<NxNode> other;
+    };
+
+    /// Whether the scenes were equal.
+    [[nodiscard]] bool isEmpty() const noexcept { return m_nodes.empty() && m_children.empty(); }
+    /// Exchanges the changed places with what they are to become: the first call makes the changes, the second one
+    /// takes them back, and so on. Throws `std::bad_alloc` for want of memory, with some of them made.
+    void exchange();
+
+    /// The node that takes the place of a node of the scene, or null.
+    [[nodiscard]] NxNode* replacementOf(const NxFieldContainer* node) const;
+    /// The top ones of the nodes that come and go.
+    [[nodiscard]] std::vector<NxRef<NxNode>> nodes() const;
+
+    // For the update.
+    void add(NodeChange change) { m_nodes.push_back(std::move(change)); }
+    void add(ChildrenChange change) { m_children.push_back(std::move(change)); }
+    void add(Replacement replacement) { m_replacements.push_back(std::move(replacement)); }
+
+private:
+    std::vector<NodeChange> m_nodes;
+    std::vector<ChildrenChange> m_children;
+    std::vector<Replacement> m_replacements;
+};
