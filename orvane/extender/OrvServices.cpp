@@ -112,6 +112,14 @@ void OrvServices::pushCommand(OrvCommand* command)
         {m_userAction->currentAction(), m_selection->field(), m_selection->node(), m_selection->fieldOwner()});
 }
 
+void OrvServices::pushStep(OrvCommand* command, const QString& label)
+{
+    beginStep({});
+    const HistoryChange change(*this);
+    m_stepEnd->lookLater();
+    m_history->push(std::unique_ptr<OrvCommand>(command), {HistoryOrigin::none, nullptr, nullptr, nullptr, label});
+}
+
 void OrvServices::useJournal()
 {
     const HistoryChange change(*this);
@@ -214,6 +222,11 @@ void OrvServices::redo()
     if (moved)
         Q_EMIT m_steps->movedOver(m_steps->position() - 1);
     Q_EMIT documentEdited();
+}
+
+bool OrvServices::isUndoExact() const
+{
+    return m_history->isExact();
 }
 
 bool OrvServices::canUndo() const

@@ -42,6 +42,9 @@ public:
     /// on a field of another node must hold that node itself. A command that is pushed while another one is executed is
     /// part of the same step; one that is pushed while another one is undone or redone is executed and then dropped.
     virtual void pushCommand(OrvCommand* command);
+    /// The same for a command that is a step of its own, with that label, such as "Reload robot.mrd", whatever action
+    /// of the user goes on. What its observers write belongs to the step.
+    void pushStep(OrvCommand* command, const QString& label);
 
     /// The scene that is open. Its journal makes the history exact: see `undo`.
     [[nodiscard]] OrvDocument& document() const noexcept { return *m_document; }
@@ -76,6 +79,8 @@ public:
     void undo();
     /// Redoes the step that was undone last. Does nothing if there is none, or if a command calls it.
     void redo();
+    /// Whether a document is open and its steps are undone to the bit, whatever their commands do.
+    [[nodiscard]] bool isUndoExact() const;
     [[nodiscard]] bool canUndo() const;
     [[nodiscard]] bool canRedo() const;
     /// What `undo` and `redo` would change, such as "Set arm.rotation"; empty where that isn't known.

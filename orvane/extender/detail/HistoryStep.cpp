@@ -41,7 +41,12 @@ void HistoryStep::redoCommands()
 
 void HistoryStep::updateLabel(const NxGroup& scene)
 {
-    m_label = m_changes != nullptr ? orvane::labelOf(*m_changes, scene) : orvane::StepLabel();
+    if (m_changes == nullptr)
+        m_label = {};
+    else if (m_givenLabel.isEmpty())
+        m_label = orvane::labelOf(*m_changes, scene);
+    else
+        m_label = {m_givenLabel, {}};
 }
 
 void HistoryStep::appendCommands(HistoryStep&& step)

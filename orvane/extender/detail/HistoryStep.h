@@ -58,6 +58,8 @@ public:
     void setChanges(std::unique_ptr<meridane::JournalStep> changes) { m_changes = std::move(changes); }
     /// Makes the label. `scene` holds the top nodes. The scene is in the state directly after the step.
     void updateLabel(const NxGroup& scene);
+    /// Sets what `updateLabel` uses in place of words of its own; empty for nothing.
+    void setGivenLabel(const QString& text) { m_givenLabel = text; }
 
     /// Appends the commands of a step that changed nothing.
     void appendCommands(HistoryStep&& step);
@@ -77,6 +79,7 @@ private:
 
     HistoryOrigin m_origin;
     orvane::StepLabel m_label;
+    QString m_givenLabel;
     std::chrono::system_clock::time_point m_time = std::chrono::system_clock::now();
     std::size_t m_commandBytes = 0;
     std::uint64_t m_state = 0;

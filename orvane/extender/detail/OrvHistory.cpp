@@ -64,6 +64,7 @@ void OrvHistory::push(std::unique_ptr<OrvCommand> command, const Context& contex
     if (!m_open) {
         const bool isOrigin = context.action == m_origin.action;
         m_open = std::make_unique<HistoryStep>(isOrigin ? m_origin : HistoryOrigin{context.action});
+        m_open->setGivenLabel(context.label);
     }
     execute(std::move(command), context);
     if (m_journal == nullptr)

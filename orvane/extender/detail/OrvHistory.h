@@ -49,6 +49,8 @@ public:
         /// Kept alive as long as the command; either may be null.
         NxFieldContainer* node;
         NxFieldContainer* fieldOwner;
+        /// The label of the step; empty for one that is made of what the step changes.
+        QString label = {};
     };
 
     /// How a step is undone and redone with a journal.
@@ -59,6 +61,8 @@ public:
 
     /// Uses the journal of the scene, or none if null. Drops everything first. The journal must outlive its use here.
     void setJournal(meridane::Journal* journal, Moves moves = Moves::Exact);
+    /// Whether a step is undone to the bit, whatever its commands do.
+    [[nodiscard]] bool isExact() const noexcept { return m_journal != nullptr && m_moves == Moves::Exact; }
 
     /// Executes the command at once and keeps it.
     void push(std::unique_ptr<OrvCommand> command, const Context& context);
