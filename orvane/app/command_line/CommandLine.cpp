@@ -48,6 +48,9 @@ struct Options {
         QStringLiteral("FILE")};
     QCommandLineOption size{QStringLiteral("size"),
         QStringLiteral("Size of the window in pixels, %1.").arg(sizeLimits()), QStringLiteral("WxH")};
+    QCommandLineOption watch{QStringLiteral("watch"),
+        QStringLiteral(
+            "Reload the file by itself when it changes on disk, while the scene has no changes of your own.")};
     QCommandLineOption noSettings{QStringLiteral("no-settings"), QStringLiteral("Neither read nor write settings.")};
     QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Print the version.")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this help.")};
@@ -55,7 +58,7 @@ struct Options {
     void addTo(QCommandLineParser& parser) const
     {
         parser.addOptions({plugin, profile, select, set, get, list, diff, json, listExtensions, exportTo, screenshot,
-            size, noSettings, version, help});
+            size, watch, noSettings, version, help});
         parser.addPositionalArgument(QStringLiteral("file"),
             QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
         parser.addPositionalArgument(
@@ -115,6 +118,21 @@ Result<> checkFiles(const QStringList& files, bool diff, bool json)
     return {};
 }
 
+Result<> checkWatch(const QCommandLineParser& parser, const Options& options)
+{
+    if (!parser.isSet(options.watch))
+        return {};
+    for (const QCommandLineOption& option :
+        {options.get, options.list, options.diff, options.listExtensions, options.exportTo, options.screenshot}) {
+        if (parser.isSet(option))
+            return Failure{QStringLiteral("--watch needs a window that stays open, so it can't be used with %1.")
+                               .arg(nameOf(option))};
+    }
+    if (parser.positionalArguments().isEmpty())
+        return Failure{QStringLiteral("--watch expects a file, such as --watch robot.glb.")};
+    return {};
+}
+
 // Refuses what the parser accepts although it would be ignored, or mistaken for an option that wasn't given.
 Result<> checkUse(const QCommandLineParser& parser, const Options& options)
 {
@@ -134,6 +152,8 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
         if (parser.values(option).size() > 1)
             return Failure{QStringLiteral("%1 can be given once only.").arg(nameOf(option))};
     }
+    if (const auto watch = checkWatch(parser, options); !watch)
+        return watch;
     return checkFiles(parser.positionalArguments(), parser.isSet(options.diff), parser.isSet(options.json));
 }
 
@@ -184,6 +204,7 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
     result.diff = parser.isSet(options.diff);
     result.json = parser.isSet(options.json);
     result.listExtensions = parser.isSet(options.listExtensions);
+    result.watch = parser.isSet(options.watch);
     result.noSettings = parser.isSet(options.noSettings);
     for (const QString& argument : parser.values(options.set)) {
         const auto assignment = parseAssignment(argument);

@@ -34,6 +34,7 @@ struct CommandLine {
     bool diff = false;
     bool json = false;
     bool listExtensions = false;
+    bool watch = false;
     bool noSettings = false;
     bool version = false;
     bool help = false;

@@ -45,6 +45,7 @@ int WindowRun::run()
                    "in a window to allow it.")
                     .arg(folder));
         });
+    window.setReloadsByItself(m_commandLine.watch);
     showSoon(window);
     QTimer::singleShot(0, &window, [this, &session, &window] { start(session, window); });
     const int status = QApplication::exec();

@@ -16,7 +16,6 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
 
 #include <utility>
 
@@ -33,10 +32,21 @@ FileFlow::FileFlow(
     , m_window(window)
     , m_jobMakers(std::move(jobMakers))
     , m_work(messages, jobBar, this)
+    , m_disk(session.document())
+    , m_reload(session, m_work, m_jobMakers.load)
+    , m_saving(session, recent, m_work, m_disk, m_jobMakers.save, window)
 {
     connect(&m_work, &FileWork::writingEnded, this, &FileFlow::ended);
     connect(&session.document(), &SceneDocument::sceneChanged, this,
         [this] { m_work.dropOtherScenes(m_session.document().sceneNumber()); });
+    connect(&m_reload, &SceneReload::aboutToChange, this, &FileFlow::aboutToReload);
+    connect(&m_reload, &SceneReload::done, this, &FileFlow::reloaded);
+    connect(&m_reload, &SceneReload::ended, this, [this](const orvane::Result<>& result) {
+        if (!result)
+            Q_EMIT reloadFailed();
+        Q_EMIT ended(result);
+    });
+    connect(&m_saving, &SceneSaving::compareRequested, this, &FileFlow::compareWith);
 }
 
 FileFlow::~FileFlow() = default;
@@ -79,14 +89,20 @@ void FileFlow::compareWith(const QString& fileName)
         Kind::Compare, [this, fileName] { startCompare(fileName); }, fileName);
 }
 
+void FileFlow::reload()
+{
+    request(
+        Kind::Reload, [this] { startReload(); }, m_session.document().fileName());
+}
+
 void FileFlow::save()
 {
-    request(Kind::Save, [this] { saveThen({}); });
+    request(Kind::Save, [this] { m_saving.save({}); });
 }
 
 void FileFlow::saveAs()
 {
-    request(Kind::SaveAs, [this] { chooseSaveFile({}); });
+    request(Kind::SaveAs, [this] { m_saving.saveAs({}); });
 }
 
 void FileFlow::saveTo(const QString& fileName)
@@ -96,13 +112,13 @@ void FileFlow::saveTo(const QString& fileName)
         return;
     }
     request(
-        Kind::Save, [this, fileName] { writeScene(fileName, {}); }, fileName);
+        Kind::Save, [this, fileName] { m_saving.saveTo(fileName, {}); }, fileName);
 }
 
 void FileFlow::exportTo(const QString& fileName)
 {
     request(
-        Kind::Export, [this, fileName] { writeModel(fileName); }, fileName);
+        Kind::Export, [this, fileName] { m_saving.exportTo(fileName); }, fileName);
 }
 
 // A file that is chosen in a dialog isn't queued again: the request had its turn when the dialog was opened.
@@ -127,13 +143,7 @@ void FileFlow::chooseFileToImport()
 
 void FileFlow::chooseFileToExport()
 {
-    request(Kind::Export, [this] {
-        if (!m_session.document().isOpen())
-            return;
-        QFileDialog* dialog = orvane::makeExportDialog(m_window, m_session.document());
-        connect(dialog, &QFileDialog::fileSelected, this, &FileFlow::writeModel);
-        m_work.open(dialog);
-    });
+    request(Kind::Export, [this] { m_saving.chooseExport(); });
 }
 
 void FileFlow::chooseFileToCompare()
@@ -175,7 +185,7 @@ void FileFlow::leave(const Next& next)
         return;
     }
     auto* question = new SaveQuestion(m_session.document().displayName(), m_window);
-    connect(question, &SaveQuestion::saveChosen, this, [this, next] { saveThen(next); });
+    connect(question, &SaveQuestion::saveChosen, this, [this, next] { m_saving.save(next); });
     connect(question, &SaveQuestion::discardChosen, this, next.proceed);
     connect(question, &SaveQuestion::cancelChosen, this, next.giveUp);
     m_work.open(question);
@@ -222,6 +232,12 @@ void FileFlow::startCompare(const QString& fileName)
                 forgetIfMissing(fileName);
                 loseOpen({}, reason, loss);
             }});
+}
+
+void FileFlow::startReload()
+{
+    if (!refusesBehindOpen(Kind::Reload, m_session.document().fileName()))
+        m_reload.start();
 }
 
 // What comes of it would be lost with the present scene, and the user hasn't seen the next one yet.
@@ -282,68 +298,4 @@ void FileFlow::forgetIfMissing(const QString& fileName)
 {
     if (!QFileInfo::exists(fileName))
         m_recent.remove(fileName);
-}
-
-void FileFlow::saveThen(const Next& next)
-{
-    const QString fileName = m_session.document().saveFileName();
-    if (fileName.isEmpty())
-        chooseSaveFile(next);
-    else
-        writeScene(fileName, next);
-}
-
-void FileFlow::chooseSaveFile(const Next& next)
-{
-    if (!m_session.document().isOpen()) {
-        next.giveUp();
-        return;
-    }
-    QFileDialog* dialog = orvane::makeSaveDialog(m_window, m_session.document());
-    connect(dialog, &QFileDialog::fileSelected, this, [this, next](const QString& fileName) {
-        writeScene(
-            SceneDocument::isSceneFileName(fileName) ? fileName : fileName + SceneDocument::fileExtension(), next);
-    });
-    connect(dialog, &QDialog::rejected, this, next.giveUp);
-    m_work.open(dialog);
-}
-
-void FileFlow::writeScene(const QString& fileName, const Next& next)
-{
-    write(fileName, tr("Saving"),
-        {[this, fileName, next] {
-             m_session.document().setSaved(fileName, m_work.writtenContent());
-             m_recent.add(fileName);
-             next.proceed();
-         },
-            next.giveUp});
-}
-
-void FileFlow::writeModel(const QString& fileName)
-{
-    write(fileName, tr("Exporting"),
-        {[this, fileName] { m_work.showWritingMessage(false, tr("Exported to %1.").arg(fileName)); }});
-}
-
-void FileFlow::write(const QString& fileName, const QString& text, const Next& next)
-{
-    if (!mayWrite()) {
-        next.giveUp();
-        return;
-    }
-    const SceneDocument& document = m_session.document();
-    m_work.write(m_jobMakers.save(NxRef<NxGroup>(document.scene()), fileName, document.pathFolder()), text, next);
-}
-
-bool FileFlow::mayWrite()
-{
-    if (!m_session.document().isOpen())
-        return false;
-    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
-        // A drag in progress goes on changing the scene.
-        m_work.showWritingMessage(true, tr("Nothing was saved: a mouse button is held down."));
-        return false;
-    }
-    orvane::commitPendingEdit();
-    return true;
 }

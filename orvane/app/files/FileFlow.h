@@ -1,6 +1,9 @@
 #pragma once
 
 #include "orvane/app/files/FileWork.h"
+#include "orvane/app/files/SceneReload.h"
+#include "orvane/app/files/SceneSaving.h"
+#include "orvane/app/files/disk/DiskWatch.h"
 
 #include <QObject>
 #include <QString>
@@ -32,10 +35,8 @@ public:
 
     /// What makes the jobs.
     struct JobMakers {
-        std::function<std::unique_ptr<SceneJob>(const QString& fileName)> load;
-        std::function<std::unique_ptr<FileJob>(
-            const NxRef<NxGroup>& scene, const QString& fileName, const QString& pathFolder)>
-            save;
+        SceneReload::Load load;
+        SceneSaving::Write save;
     };
 
     /// The session, the bars and the window live longer than the flow.
@@ -53,7 +54,10 @@ public:
     void import(const QString& fileName);
     /// Reads a file to compare the open scene with it; `readToCompare` follows. Does nothing when no scene is open.
     void compareWith(const QString& fileName);
-    /// Saves to the scene's own file, or asks for one.
+    /// Makes the open scene equal to its file again, as a step that can be undone. Does nothing for a scene without a
+    /// file.
+    void reload();
+    /// Saves to the scene's own file, or asks for one. Asks as well if somebody else has changed the file.
     void save();
     void saveAs();
     /// Saves or exports, as the file's extension says.
@@ -71,7 +75,16 @@ public:
     /// Gives up the file that is read and all requests that wait, without a message: the window is closed.
     void abandon();
 
+    /// Whether the file of the open scene has changed on disk.
+    [[nodiscard]] DiskWatch& disk() noexcept { return m_disk; }
+
 Q_SIGNALS:
+    /// The open scene is about to become equal to its file.
+    void aboutToReload();
+    /// It is now. The text says so to the user.
+    void reloaded(const QString& text);
+    /// The file can't be reloaded.
+    void reloadFailed();
     /// The open scene is to be compared with the scene of that file.
     void readToCompare(const NxRef<NxGroup>& other, const QString& fileName);
     /// A job finished, failed, or was given up, which is no failure.
@@ -97,16 +110,14 @@ private:
     void cancelOpen(const Opened& opened, const QString& fileName);
     void forgetIfMissing(const QString& fileName);
 
-    void saveThen(const Next& next);
-    void chooseSaveFile(const Next& next);
-    void writeScene(const QString& fileName, const Next& next);
-    void writeModel(const QString& fileName);
-    void write(const QString& fileName, const QString& text, const Next& next);
-    [[nodiscard]] bool mayWrite();
+    void startReload();
 
     Session& m_session;
     RecentFiles& m_recent;
     QWidget* m_window;
     JobMakers m_jobMakers;
     FileWork m_work;
+    DiskWatch m_disk;
+    SceneReload m_reload;
+    SceneSaving m_saving;
 };

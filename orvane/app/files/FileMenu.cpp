@@ -39,6 +39,10 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     m_saveAs = addAction(tr("Save &As…"), "fileSaveAs");
     m_saveAs->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     connect(m_saveAs, &QAction::triggered, &flow, &FileFlow::saveAs);
+    m_reload = addAction(tr("&Reload from Disk"), "fileReload");
+    m_reload->setShortcut(QKeySequence(Qt::Key_F5));
+    m_reload->setStatusTip(tr("Makes the scene equal to its file again; undo brings your changes back"));
+    connect(m_reload, &QAction::triggered, &flow, &FileFlow::reload);
     m_menu->addSeparator();
     QAction* import = addAction(tr("&Import…"), "fileImport");
     import->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
@@ -60,6 +64,7 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
 
     connect(&recent, &RecentFiles::changed, this, &FileMenu::fillRecentMenu);
     connect(&document, &SceneDocument::sceneChanged, this, &FileMenu::updateActions);
+    connect(&document, &SceneDocument::fileNameChanged, this, &FileMenu::updateActions);
     fillRecentMenu();
     updateActions();
 }
@@ -99,4 +104,5 @@ void FileMenu::updateActions()
 {
     for (QAction* action : {m_save, m_saveAs, m_export, m_compare, m_close})
         action->setEnabled(m_document.isOpen());
+    m_reload->setEnabled(!m_document.fileName().isEmpty());
 }

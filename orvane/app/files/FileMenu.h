@@ -34,6 +34,7 @@ private:
     QAction* m_open;
     QAction* m_save;
     QAction* m_saveAs;
+    QAction* m_reload;
     QAction* m_export;
     QAction* m_compare;
     QAction* m_close;

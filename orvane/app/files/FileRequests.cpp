@@ -27,6 +27,8 @@ QString FileRequest::name(Kind kind, const QString& fileName)
         return translated("adding %1").arg(file);
     case Kind::Compare:
         return translated("comparing with %1").arg(file);
+    case Kind::Reload:
+        return translated("reloading %1").arg(file);
     case Kind::Save:
     case Kind::SaveAs:
         return fileName.isEmpty() ? translated("saving the scene") : translated("saving %1").arg(file);

@@ -9,7 +9,7 @@
 
 /// What the user has requested of the open scene or a file, such as an action of the File menu.
 struct FileRequest {
-    enum class Kind { New, Open, Add, Compare, Save, SaveAs, Export, Close, Quit };
+    enum class Kind { New, Open, Add, Compare, Reload, Save, SaveAs, Export, Close, Quit };
     /// The `scene` of a request that may run whichever scene is open.
     static constexpr int anyScene = 0;
 

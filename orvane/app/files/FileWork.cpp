@@ -28,6 +28,8 @@ QString readingText(FileRequest::Kind kind)
         return FileWork::tr("Adding %1");
     case FileRequest::Kind::Compare:
         return FileWork::tr("Reading %1 to compare it");
+    case FileRequest::Kind::Reload:
+        return FileWork::tr("Reloading %1");
     default:
         return FileWork::tr("Opening %1");
     }
@@ -57,15 +59,15 @@ void FileWork::push(FileRequest request)
 
 void FileWork::open(QDialog* dialog)
 {
-    waitFor(dialog);
+    hold(dialog);
     dialog->open();
 }
 
-void FileWork::waitFor(QWidget* dialog)
+void FileWork::hold(QObject* work)
 {
-    m_dialogs.append(dialog);
-    dialog->installEventFilter(this);
-    connect(dialog, &QObject::destroyed, this, &FileWork::release);
+    m_holders.append(work);
+    work->installEventFilter(this);
+    connect(work, &QObject::destroyed, this, &FileWork::release);
 }
 
 bool FileWork::eventFilter(QObject* object, QEvent* event)
@@ -78,25 +80,27 @@ bool FileWork::eventFilter(QObject* object, QEvent* event)
 
 void FileWork::release(const QObject* dialog)
 {
-    if (m_dialogs.removeOne(dialog))
+    if (m_holders.removeOne(dialog))
         goOnLater();
 }
 
 bool FileWork::isHeld()
 {
     // An editor's dialog, which is about a field of the open scene.
-    if (QWidget* modal = QApplication::activeModalWidget(); modal != nullptr && !m_dialogs.contains(modal))
-        waitFor(modal);
-    return m_writing || !m_dialogs.isEmpty();
+    if (QWidget* modal = QApplication::activeModalWidget(); modal != nullptr && !m_holders.contains(modal))
+        hold(modal);
+    return m_writing || !m_holders.isEmpty();
 }
 
 bool FileWork::mayRun(const FileRequest& request) const
 {
-    // Models are added one after the other, and a comparison is with the scene as it is with them.
-    const bool waits = request.kind == Kind::Add || request.kind == Kind::Compare;
-    const bool isAdding = m_reading && m_reading->kind == Kind::Add;
-    const bool isComparing = m_reading && m_reading->kind == Kind::Compare;
-    return !waits || !(isAdding || (isComparing && request.kind == Kind::Add));
+    // Models are added one after the other, a comparison is with the scene as it is with them, and a reload replaces
+    // what was there before it.
+    const bool waits = request.kind == Kind::Add || request.kind == Kind::Compare || request.kind == Kind::Reload;
+    if (!waits || !m_reading)
+        return true;
+    const bool isReplaced = m_reading->kind == Kind::Compare && request.kind == Kind::Compare;
+    return m_reading->kind == Kind::Open || isReplaced;
 }
 
 void FileWork::goOn()
@@ -158,10 +162,16 @@ void FileWork::stopReading(const QString& reason)
     loseReading(reason, Loss::Stopped);
 }
 
+void FileWork::stopReloading(const QString& reason)
+{
+    if (m_reading && m_reading->kind == Kind::Reload)
+        stopReading(reason);
+}
+
 // In the window, and as an error of the toolkit for extensions that list them, such as the console.
 void FileWork::reportFailure(const SceneJob& job, const QString& message)
 {
-    m_messages.showMessage(MessageBar::Severity::Error, message, readingTopic);
+    showReadingError(message);
     const NxReadFailure& failure = job.failure();
     NxReadError::post(VbString(meridane::withoutMarkup(failure.file)), failure.line, failure.column,
         VbString(meridane::withoutMarkup(failure.message)));
@@ -236,6 +246,11 @@ void FileWork::reportGivenUp(const QStringList& names, const QString& reason)
     if (!names.isEmpty())
         m_messages.showMessage(
             MessageBar::Severity::Warning, tr("Not done: %1. %2").arg(names.join(QStringLiteral(", ")), reason));
+}
+
+void FileWork::showReadingError(const QString& text)
+{
+    m_messages.showMessage(MessageBar::Severity::Error, text, readingTopic);
 }
 
 void FileWork::showWritingMessage(bool isWarning, const QString& text)

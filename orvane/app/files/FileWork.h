@@ -56,13 +56,18 @@ public:
     void push(FileRequest request);
     /// Opens a dialog without blocking.
     void open(QDialog* dialog);
+    /// Lets requests wait until that object is deleted.
+    void hold(QObject* work);
 
-    /// Starts to read a file, to open it, to add it or to compare with it. A file that is still read is given up.
+    /// Starts to read a file, to open it, to add it, to compare with it or to reload it. A file that is still read is
+    /// given up.
     void read(Kind kind, std::unique_ptr<SceneJob> job, const Reader& reader);
     /// The file that is read to be opened, also while it waits to be taken over; empty if there is none.
     [[nodiscard]] QString fileBeingOpened() const;
     /// Gives up the file that is read.
     void stopReading(const QString& reason);
+    /// The same if it is read to be reloaded.
+    void stopReloading(const QString& reason);
     /// Starts to write a scene. None must be written already.
     void write(std::unique_ptr<FileJob> job, const QString& text, const Next& next);
     /// What the file holds that was written last.
@@ -77,6 +82,7 @@ public:
 
     /// Shows a message about what is given up.
     void reportGivenUp(const QStringList& names, const QString& reason);
+    void showReadingError(const QString& text);
     void showWritingMessage(bool isWarning, const QString& text);
 
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -99,7 +105,6 @@ private:
         Next next;
     };
 
-    void waitFor(QWidget* dialog);
     void release(const QObject* dialog);
     [[nodiscard]] bool isHeld();
     [[nodiscard]] bool mayRun(const FileRequest& request) const;
@@ -116,7 +121,7 @@ private:
     JobBar& m_jobBar;
     std::optional<Reading> m_reading;
     std::optional<Writing> m_writing;
-    QList<const QObject*> m_dialogs; // that are open
+    QList<const QObject*> m_holders; // dialogs that are open, and other work
     FileRequests m_waiting;
     std::optional<meridane::ContentHash> m_writtenContent;
     bool m_goingOn = false; // inside `goOn`

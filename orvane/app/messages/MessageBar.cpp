@@ -25,15 +25,21 @@ void MessageBar::showMessage(Severity severity, const QString& text, const QStri
 void MessageBar::showQuestion(
     const QString& text, const QString& topic, const QString& buttonText, const std::function<void()>& accept)
 {
+    showQuestion(text, topic, {{buttonText, QStringLiteral("acceptMessage"), accept}});
+}
+
+void MessageBar::showQuestion(const QString& text, const QString& topic, const std::vector<Answer>& answers)
+{
     clearTopic(topic);
     if (isShown(text))
         return;
     auto* row = new MessageRow(Severity::Warning, text, topic, this);
-    row->addButton(buttonText);
-    connect(row, &MessageRow::accepted, this, [this, row, accept] {
-        remove(row);
-        accept();
-    });
+    for (const Answer& answer : answers)
+        row->addButton(answer.text, answer.name, [this, row, answer] {
+            if (answer.closes)
+                remove(row);
+            answer.run();
+        });
     add(row);
 }
 

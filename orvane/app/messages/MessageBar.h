@@ -29,6 +29,15 @@ public:
     /// displace it.
     void showQuestion(
         const QString& text, const QString& topic, const QString& buttonText, const std::function<void()>& accept);
+    /// An answer to a question: a button that calls `run`.
+    struct Answer {
+        QString text;
+        QString name; ///< of the button, for tests
+        std::function<void()> run;
+        bool closes = true; ///< whether the button closes the message as well
+    };
+    /// The same with several buttons.
+    void showQuestion(const QString& text, const QString& topic, const std::vector<Answer>& answers);
     /// Takes the message about a topic away.
     void clearTopic(const QString& topic);
     void clear();

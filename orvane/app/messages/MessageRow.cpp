@@ -65,13 +65,12 @@ MessageRow::MessageRow(MessageSeverity severity, const QString& text, const QStr
     m_layout->addWidget(button, 0, Qt::AlignTop);
 }
 
-void MessageRow::addButton(const QString& text)
+void MessageRow::addButton(const QString& text, const QString& name, const std::function<void()>& clicked)
 {
-    m_hasButton = true;
     auto* button = new QPushButton(text, this);
-    button->setObjectName(QStringLiteral("acceptMessage"));
-    connect(button, &QPushButton::clicked, this, &MessageRow::accepted);
-    m_layout->insertWidget(m_layout->indexOf(m_text) + 1, button, 0, Qt::AlignTop);
+    button->setObjectName(name);
+    connect(button, &QPushButton::clicked, this, clicked);
+    m_layout->insertWidget(m_layout->indexOf(m_text) + ++m_buttons, button, 0, Qt::AlignTop);
 }
 
 QString MessageRow::text() const

@@ -4,6 +4,8 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class MessageText;
 class QHBoxLayout;
 
@@ -16,12 +18,11 @@ public:
 
     [[nodiscard]] QString text() const;
     [[nodiscard]] const QString& topic() const noexcept { return m_topic; }
-    /// Adds the button that accepts what the message asks for.
-    void addButton(const QString& text);
-    [[nodiscard]] bool hasButton() const noexcept { return m_hasButton; }
+    /// Adds a button to the right of those that are there, which calls `clicked`.
+    void addButton(const QString& text, const QString& name, const std::function<void()>& clicked);
+    [[nodiscard]] bool hasButton() const noexcept { return m_buttons > 0; }
 
 Q_SIGNALS:
-    void accepted();
     void closed();
 
 protected:
@@ -32,5 +33,5 @@ private:
     QString m_topic;
     MessageText* m_text;
     QHBoxLayout* m_layout;
-    bool m_hasButton = false;
+    int m_buttons = 0;
 };

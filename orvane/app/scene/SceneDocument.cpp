@@ -37,7 +37,7 @@ QString SceneDocument::displayName() const
 
 bool SceneDocument::isModified() const
 {
-    return isOpen() && !m_services.isClean();
+    return isOpen() && (m_isFileLost || !m_services.isClean());
 }
 
 void SceneDocument::newScene()
@@ -70,10 +70,17 @@ void SceneDocument::close()
 void SceneDocument::setSaved(const QString& fileName, const FileContent& content)
 {
     m_fileContent = content;
+    m_isFileLost = false;
     m_services.setClean();
     if (m_pathFolder.isEmpty())
         m_pathFolder = orvane::folderOf(fileName);
     setFileName(orvane::absoluteFileName(fileName));
+    reportModified();
+}
+
+void SceneDocument::setFileLost(bool lost)
+{
+    m_isFileLost = lost;
     reportModified();
 }
 
@@ -102,6 +109,7 @@ void SceneDocument::replace(
     ++m_sceneNumber;
     m_pathFolder = orvane::folderOf(fileName);
     m_fileContent = content;
+    m_isFileLost = false;
     m_fileName = fileName; // slots of sceneChanged ask for its folder
     Q_EMIT sceneChanged();
     setFileName(fileName);

@@ -46,6 +46,7 @@ public:
     [[nodiscard]] const FileContent& fileContent() const noexcept { return m_fileContent; }
     /// The name of the scene in titles and messages.
     [[nodiscard]] QString displayName() const;
+    /// Whether the scene differs from what its file holds.
     [[nodiscard]] bool isModified() const;
     /// Another number for each scene that was open, and for each time without one. So long work can check that the
     /// scene it was started for is still the one that is open.
@@ -62,8 +63,12 @@ public:
     void setUnsaved();
     /// Leaves nothing open.
     void close();
-    /// Notes that the scene in its present state was saved to that file, which has that content now.
+    /// Notes that the file holds that content, and that the scene in its present state is the same: it was saved, or
+    /// made equal to it.
     void setSaved(const QString& fileName, const FileContent& content = std::nullopt);
+    /// Notes whether the content that the scene was read from or saved as isn't in the file any more. Then the scene
+    /// counts as modified until it is saved.
+    void setFileLost(bool lost);
 
     /// The extension of scene files, with its dot.
     [[nodiscard]] static QString fileExtension();
@@ -90,5 +95,6 @@ private:
     FileContent m_fileContent;
     QString m_pathFolder;
     int m_sceneNumber = 1;
+    bool m_isFileLost = false;
     bool m_reportedModified = false;
 };

@@ -42,6 +42,28 @@ void SceneTreeModel::setScene(NxGroup* scene)
     endResetModel();
 }
 
+NxGroup* SceneTreeModel::scene() const
+{
+    return m_root != nullptr ? dynamic_cast<NxGroup*>(m_root->node()) : nullptr;
+}
+
+QModelIndexList SceneTreeModel::fetchedIndexes() const
+{
+    QModelIndexList indexes;
+    std::vector<const SceneBranch*> waiting;
+    if (m_root != nullptr)
+        waiting.push_back(m_root.get());
+    while (!waiting.empty()) {
+        const SceneBranch* const branch = waiting.back();
+        waiting.pop_back();
+        if (branch->parent() != nullptr)
+            indexes.append(indexOfBranch(*branch));
+        for (const auto& [row, below] : branch->branches())
+            waiting.push_back(below.get());
+    }
+    return indexes;
+}
+
 NxNode* SceneTreeModel::node(const QModelIndex& index) const
 {
     return index.isValid() ? static_cast<SceneBranch*>(index.internalPointer())->child(index.row()) : nullptr;

@@ -28,6 +28,10 @@ public:
 
     /// Shows the nodes in this group; null for nothing. Keeps the nodes that are shown alive.
     void setScene(NxGroup* scene);
+    /// The group that is shown, or null.
+    [[nodiscard]] NxGroup* scene() const;
+    /// The rows under which there are rows, each before those under it. Others can't be unfolded.
+    [[nodiscard]] QModelIndexList fetchedIndexes() const;
 
     [[nodiscard]] NxNode* node(const QModelIndex& index) const;
     /// The group that the index's node is a child of.

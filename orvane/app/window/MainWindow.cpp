@@ -16,12 +16,14 @@
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/SelectionStatus.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/scene/TreeState.h"
 #include "orvane/app/view/CameraMenu.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/ViewActions.h"
 #include "orvane/app/view/ViewLink.h"
 #include "orvane/app/view/ViewMenu.h"
 #include "orvane/app/window/ComparisonDock.h"
+#include "orvane/app/window/DiskChangeBar.h"
 #include "orvane/app/window/EditMenu.h"
 #include "orvane/app/window/HelpMenu.h"
 #include "orvane/app/window/HistoryDock.h"
@@ -42,6 +44,9 @@
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <chrono>
+#include <utility>
 
 namespace {
 
@@ -131,6 +136,11 @@ void MainWindow::startView()
         m_view->start();
 }
 
+void MainWindow::setReloadsByItself(bool reloads)
+{
+    m_diskChange->setReloadsByItself(reloads);
+}
+
 bool MainWindow::isLoadingImages() const
 {
     return m_view->drawing().textures().isLoading();
@@ -188,6 +198,7 @@ void MainWindow::buildMenus()
     m_files = new FileFlow(m_session, *m_recent, *m_messages, *m_jobBar, this);
     connect(m_files, &FileFlow::ended, this, &MainWindow::reportSettled, Qt::QueuedConnection);
     connect(m_files, &FileFlow::readToCompare, this, &MainWindow::compareWith);
+    connectReload();
     m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
     auto* editMenu = new EditMenu(this, m_session, m_tree);
     m_view->addAction(editMenu->deleteAction());
@@ -231,12 +242,36 @@ void MainWindow::connectDocument()
 {
     const SceneDocument& scene = document();
     connect(&scene, &SceneDocument::sceneAboutToChange, this, [this] { m_tree->setScene(nullptr); });
+    connect(&scene, &SceneDocument::sceneAboutToChange, this, [this] { m_treeState.reset(); });
     connect(&scene, &SceneDocument::sceneAboutToChange, m_imageFolders, &ImageFolderQuestion::reset);
     connect(&scene, &SceneDocument::sceneChanged, this, &MainWindow::showDocument);
     connect(&scene, &SceneDocument::fileNameChanged, this, &MainWindow::updateTitle);
     connect(&scene, &SceneDocument::modifiedChanged, this, &QWidget::setWindowModified);
     showDocument();
     updateTitle();
+}
+
+void MainWindow::connectReload()
+{
+    m_diskChange = new DiskChangeBar(document(), *m_files, *m_messages, this);
+    connect(m_files, &FileFlow::aboutToReload, this,
+        [this] { m_treeState = std::make_unique<TreeState>(*m_tree, m_session.services()); });
+    connect(m_files, &FileFlow::reloaded, this, [this](const QString& text) {
+        constexpr std::chrono::seconds shown(10);
+        statusBar()->showMessage(text, static_cast<int>(std::chrono::milliseconds(shown).count()));
+        restoreTree();
+    });
+}
+
+// Once the tree has the new rows.
+void MainWindow::restoreTree()
+{
+    if (m_treeState == nullptr)
+        return;
+    if (NxDelayQueue::getDefault().isEmpty())
+        std::exchange(m_treeState, nullptr)->restore();
+    else
+        QMetaObject::invokeMethod(this, &MainWindow::restoreTree, Qt::QueuedConnection);
 }
 
 void MainWindow::updateTitle()

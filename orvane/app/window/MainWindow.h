@@ -11,6 +11,7 @@
 #include <memory>
 
 class ComparisonDock;
+class DiskChangeBar;
 class ErrorRelay;
 class FieldPanel;
 class FileFlow;
@@ -25,6 +26,7 @@ class SceneTreePanel;
 class SceneView;
 class Session;
 class StartPage;
+class TreeState;
 class WindowShell;
 
 /// The tool's window: the view of the scene, the scene tree, the fields of the selected node, and what extensions add.
@@ -51,6 +53,8 @@ public:
     void compareWith(const NxRef<NxGroup>& other, const QString& fileName);
     /// Starts the view's drawing now instead of after the first paint, for a picture of the window.
     void startView();
+    /// Whether a file that changes on disk is reloaded without a question while the scene has no changes of the user.
+    void setReloadsByItself(bool reloads);
     /// Whether images of textures are still being loaded for the view.
     [[nodiscard]] bool isLoadingImages() const;
     /// Shows a message to the user.
@@ -77,6 +81,8 @@ private:
     void updateTitle();
     void showDocument();
     void showStartPage();
+    void connectReload();
+    void restoreTree();
     void reportSettled(const orvane::Result<>& result);
     void saveLayout();
     void restoreLayout();
@@ -96,6 +102,8 @@ private:
     ComparisonDock* m_comparison = nullptr; // made for the first comparison
     FileFlow* m_files = nullptr;
     FileMenu* m_fileMenu = nullptr;
+    DiskChangeBar* m_diskChange = nullptr;
+    std::unique_ptr<TreeState> m_treeState; // from before a reload
     bool m_layoutRestored = false;
     bool m_mayClose = false;
     bool m_insideClose = false;

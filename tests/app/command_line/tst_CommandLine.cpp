@@ -100,6 +100,13 @@ private Q_SLOTS:
                                              << QStringLiteral("two files");
         QTest::newRow("diff of an empty name")
             << QStringList{QStringLiteral("--diff"), QStringLiteral("a.mrd"), QString()} << QStringLiteral("empty");
+        for (const char* const option :
+            {"--get=/a.b", "--list", "--list-extensions", "--export=a.obj", "--screenshot=a.png", "--diff"}) {
+            const QString text = QLatin1String(option);
+            QTest::addRow("watch with %s", option)
+                << QStringList{QStringLiteral("--watch"), text, QStringLiteral("a.mrd")} << text.section(u'=', 0, 0);
+        }
+        QTest::newRow("watch without file") << QStringList{QStringLiteral("--watch")} << QStringLiteral("file");
         QTest::newRow("get without file") << QStringList{QStringLiteral("--get=/a.b")} << QStringLiteral("file");
         QTest::newRow("export without file") << QStringList{QStringLiteral("--export=a.obj")} << QStringLiteral("file");
     }
@@ -164,7 +171,7 @@ private Q_SLOTS:
         const QString help = CommandLine::helpText();
         for (const char* const option :
             {"--plugin", "--profile", "--select", "--set", "--get", "--list", "--list-extensions", "--diff", "--json",
-                "--export", "--screenshot", "--size", "--no-settings", "--version", "--help"})
+                "--export", "--screenshot", "--size", "--watch", "--no-settings", "--version", "--help"})
             QVERIFY2(help.contains(QLatin1String(option)), option);
     }
 };

@@ -65,8 +65,8 @@ protected:
     /// The name of a kind in rows.
     static const char* name(Kind kind)
     {
-        static constexpr std::array<const char*, 9> names{
-            "new", "open", "add", "compare", "save", "save as", "export", "close", "quit"};
+        static constexpr std::array<const char*, 10> names{
+            "new", "open", "add", "compare", "reload", "save", "save as", "export", "close", "quit"};
         return names.at(static_cast<std::size_t>(kind));
     }
 
@@ -82,6 +82,8 @@ protected:
             return m_flow->import(path(file));
         case Kind::Compare:
             return m_flow->compareWith(path(file));
+        case Kind::Reload:
+            return m_flow->reload();
         case Kind::Save:
             return m_flow->save();
         case Kind::SaveAs:

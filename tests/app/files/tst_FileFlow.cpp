@@ -31,6 +31,7 @@ private Q_SLOTS:
             "read a.mrd; read b.mrd; open [b]; Not done: opening a.mrd. b.mrd is opened instead.");
         row(Kind::Open, Kind::Add, "read a.mrd; open [a]; Not done: adding b.mrd. a.mrd is being opened.");
         row(Kind::Open, Kind::Compare, "read a.mrd; open [a]; Not done: comparing with b.mrd. a.mrd is being opened.");
+        row(Kind::Open, Kind::Reload, "read a.mrd; open [a]; Not done: reloading old.mrd. a.mrd is being opened.");
         row(Kind::Open, Kind::Save, "read a.mrd; write [old] to old.mrd; open [a]");
         row(Kind::Open, Kind::SaveAs, "read a.mrd; write [old] to chosen.mrd; open [a]");
         row(Kind::Open, Kind::Export, "read a.mrd; write [old] to out.glb; open [a]; Exported to out.glb.");
@@ -42,6 +43,7 @@ private Q_SLOTS:
             "read a.mrd; read b.mrd; open [b]; Not done: adding a.mrd. b.mrd is opened instead.");
         row(Kind::Add, Kind::Add, "read a.mrd; read b.mrd; now [old+a+b]");
         row(Kind::Add, Kind::Compare, "read a.mrd; read b.mrd; compare [old+a] with [b]");
+        row(Kind::Add, Kind::Reload, "read a.mrd; read old.mrd; now [old]");
         row(Kind::Add, Kind::Save, "read a.mrd; write [old] to old.mrd; now [old+a]");
         row(Kind::Add, Kind::SaveAs, "read a.mrd; write [old] to chosen.mrd; now [old+a]");
         row(Kind::Add, Kind::Export, "read a.mrd; write [old] to out.glb; now [old+a]; Exported to out.glb.");
@@ -55,6 +57,7 @@ private Q_SLOTS:
         row(Kind::Compare, Kind::Compare,
             "read a.mrd; read b.mrd; compare [old] with [b]; "
             "Not done: comparing with a.mrd. b.mrd is compared instead.");
+        row(Kind::Compare, Kind::Reload, "read a.mrd; compare [old] with [a]; read old.mrd; now [old]");
         row(Kind::Compare, Kind::Save, "read a.mrd; write [old] to old.mrd; compare [old] with [a]");
         row(Kind::Compare, Kind::SaveAs, "read a.mrd; write [old] to chosen.mrd; compare [old] with [a]");
         row(Kind::Compare, Kind::Export,
@@ -65,12 +68,29 @@ private Q_SLOTS:
             "read a.mrd; open []; Not done: comparing with a.mrd. A new scene was made instead.");
         row(Kind::Compare, Kind::Quit, "read a.mrd; quit; now [old]");
 
+        row(Kind::Reload, Kind::Open,
+            "read old.mrd; read b.mrd; open [b]; Not done: reloading old.mrd. b.mrd is opened instead.");
+        row(Kind::Reload, Kind::Add, "read old.mrd; read b.mrd; now [old+b]");
+        row(Kind::Reload, Kind::Compare, "read old.mrd; read b.mrd; compare [old] with [b]");
+        row(Kind::Reload, Kind::Reload, "read old.mrd; read old.mrd; now [old]");
+        row(Kind::Reload, Kind::Save,
+            "read old.mrd; write [old] to old.mrd; now [old]; Not done: reloading old.mrd. The scene was saved.");
+        row(Kind::Reload, Kind::SaveAs,
+            "read old.mrd; write [old] to chosen.mrd; now [old]; Not done: reloading old.mrd. The scene was saved.");
+        row(Kind::Reload, Kind::Export, "read old.mrd; write [old] to out.glb; now [old]; Exported to out.glb.");
+        row(Kind::Reload, Kind::Close,
+            "read old.mrd; open nothing; Not done: reloading old.mrd. The scene was closed.");
+        row(Kind::Reload, Kind::New,
+            "read old.mrd; open []; Not done: reloading old.mrd. A new scene was made instead.");
+        row(Kind::Reload, Kind::Quit, "read old.mrd; quit; now [old]");
+
         for (const Kind job : {Kind::Save, Kind::Export}) {
             const QByteArray writes = job == Kind::Save ? "write [old] to old.mrd" : "write [old] to out.glb";
             const QByteArray exported = job == Kind::Export ? "; Exported to out.glb." : "";
             row(job, Kind::Open, writes + "; read b.mrd; open [b]" + exported);
             row(job, Kind::Add, writes + "; read b.mrd; now [old+b]" + exported);
             row(job, Kind::Compare, writes + "; read b.mrd; compare [old] with [b]" + exported);
+            row(job, Kind::Reload, writes + "; read old.mrd; now [old]" + exported);
             row(job, Kind::Save, writes + "; write [old] to old.mrd");
             row(job, Kind::SaveAs, writes + "; write [old] to chosen.mrd");
             row(job, Kind::Export, writes + "; write [old] to out.glb; Exported to out.glb.");

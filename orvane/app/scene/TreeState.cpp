@@ -1,0 +1,62 @@
+#include "orvane/app/scene/TreeState.h"
+
+#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/extender/OrvServices.h"
+
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/file/NxScenePath.h"
+
+#include <QTreeView>
+
+TreeState::TreeState(SceneTreePanel& tree, OrvServices& services)
+    : m_tree(&tree)
+    , m_services(&services)
+    , m_node(services.getSelectedNode())
+{
+    for (const QModelIndex& index : tree.model()->fetchedIndexes()) {
+        if (tree.view()->isExpanded(index))
+            m_unfolded.push_back({index, pathOf(index)});
+    }
+    if (!m_node || tree.selectedNode() != m_node.get())
+        return;
+    m_path = pathOf(tree.selected());
+    const NxField* const field = services.getSelectedField();
+    if (field != nullptr && field->getContainer() == m_node.get())
+        m_field = m_node->getFieldName(field);
+}
+
+void TreeState::restore()
+{
+    for (const Row& row : m_unfolded) {
+        if (!row.index.isValid())
+            m_tree->view()->expand(find(row.path));
+    }
+    if (m_path.empty() || m_services->getSelectedNode() == m_node.get())
+        return;
+    QModelIndex index = m_tree->model()->findNode(m_node.get());
+    if (!index.isValid())
+        index = find(m_path);
+    if (!index.isValid())
+        return;
+    m_tree->select(index);
+    NxNode* const node = m_tree->model()->node(index);
+    if (NxField* const field = m_field.isEmpty() ? nullptr : node->getField(m_field))
+        m_services->select(node, field);
+}
+
+std::string TreeState::pathOf(const QModelIndex& index) const
+{
+    const SceneTreeModel* const model = m_tree->model();
+    const std::vector<NxNode*> nodes = model->path(index);
+    return nodes.empty() ? std::string() : NxScenePath::toText(model->scene(), nodes);
+}
+
+QModelIndex TreeState::find(const std::string& path) const
+{
+    SceneTreeModel* const model = m_tree->model();
+    if (model->scene() == nullptr)
+        return {};
+    const NxScenePath::Target target = NxScenePath::find(model->scene(), path);
+    return target.nodes.empty() ? QModelIndex() : model->indexOfPath(target.nodes);
+}
