@@ -10,80 +10,81 @@
 
 using meridane::ChangeRecord;
 
+namespace {
+
+void exchange(ChangeRecord* record)
+{
+    // A list is in the state that the record of its rows belongs to.
+    if (record->kind() == ChangeRecord::Kind::Rows)
+        record->exchange();
+    else
+        record->show();
+}
+
+} // namespace
+
 PastState::PastState(const History& history, const StepPlace& place, int position, std::size_t mostRecords)
 {
-    collect(history, place, position);
+    collect(history, place, position, mostRecords);
     if (m_records.size() > mostRecords || !doFit())
         return;
     m_isReached = true;
-    for (ChangeRecord* record : m_records) {
-        if (record->kind() == ChangeRecord::Kind::Rows)
-            record->exchange();
-        else
-            record->show();
-    }
+    std::for_each(m_records.rbegin(), m_records.rend(), exchange);
 }
 
 PastState::~PastState()
 {
-    if (!m_isReached)
-        return;
-    std::for_each(m_records.rbegin(), m_records.rend(), [](ChangeRecord* record) {
-        if (record->kind() == ChangeRecord::Kind::Rows)
-            record->exchange();
-        else
-            record->show();
-    });
+    if (m_isReached)
+        std::for_each(m_records.begin(), m_records.end(), exchange);
 }
 
 // A record of a done step, or of the open one, leads to the state before it. One of a step that can be redone leads to
-// the state after it.
-void PastState::collect(const History& history, const StepPlace& place, int position)
+// the state after it. On the way from the past, nothing beyond a whole value matters.
+void PastState::collect(const History& history, const StepPlace& place, int position, std::size_t mostRecords)
 {
-    const auto addAll
-        = [&](auto begin, auto end) { std::for_each(begin, end, [&](const auto& record) { add(*record, place); }); };
-    const auto open = history.journal.records();
-    addAll(open.rbegin(), open.rend());
+    const auto addAll = [&](auto begin, auto end) {
+        return std::all_of(begin, end, [&](const auto& record) { return add(place, *record); });
+    };
     const int present = history.steps.position();
-    if (position <= present) {
-        const std::vector<int> steps = history.index.find(place, position, present);
-        std::for_each(steps.rbegin(), steps.rend(), [&](int step) {
-            const auto records = history.steps.changes(step)->records();
-            addAll(records.rbegin(), records.rend());
-        });
-    } else {
-        for (const int step : history.index.find(place, present, position)) {
-            const auto records = history.steps.changes(step)->records();
-            addAll(records.begin(), records.end());
-        }
+    bool goesOn = true;
+    for (int step = position; goesOn && position <= present && m_records.size() <= mostRecords; ++step) {
+        step = history.index.findFirst(place, step, present);
+        if (step < 0)
+            break;
+        const auto records = history.steps.changes(step)->records();
+        goesOn = addAll(records.begin(), records.end());
     }
+    for (int step = position; goesOn && position > present && m_records.size() <= mostRecords;) {
+        step = history.index.findLast(place, present, step);
+        if (step < 0)
+            break;
+        const auto records = history.steps.changes(step)->records();
+        goesOn = addAll(records.rbegin(), records.rend());
+    }
+    const auto open = history.journal.records();
+    if (goesOn)
+        addAll(open.begin(), open.end());
 }
 
-void PastState::add(ChangeRecord& record, const StepPlace& place)
+// Returns whether the next records matter, too.
+bool PastState::add(const StepPlace& place, ChangeRecord& record)
 {
     if (StepPlace::of(record) != place)
-        return;
-    // Whatever led to this state doesn't matter where it is recorded as a whole.
-    if (record.kind() != ChangeRecord::Kind::Rows)
-        m_records.clear();
+        return true;
     m_records.push_back(&record);
+    return record.kind() == ChangeRecord::Kind::Rows;
 }
 
 bool PastState::doFit() const
 {
-    if (m_records.empty() || m_records.back()->kind() != ChangeRecord::Kind::Rows)
+    if (m_records.empty() || m_records.front()->kind() != ChangeRecord::Kind::Rows)
         return true;
-    auto length = static_cast<std::size_t>(dynamic_cast<const NxMField&>(*m_records.back()->field()).getNum());
-    for (const ChangeRecord* record : m_records) {
+    auto length = static_cast<std::size_t>(dynamic_cast<const NxMField&>(*m_records.front()->field()).getNum());
+    return std::all_of(m_records.rbegin(), m_records.rend(), [&length](const ChangeRecord* record) {
         const ChangeRecord::Extent extent = record->extent();
-        if (record->kind() != ChangeRecord::Kind::Rows) {
-            length = extent.recorded;
-            continue;
-        }
-        if (extent.start + extent.present > length)
-            return false;
-        length += extent.recorded;
-        length -= extent.present;
-    }
-    return true;
+        const bool isWhole = record->kind() != ChangeRecord::Kind::Rows;
+        const bool fits = isWhole || extent.start + extent.present <= length;
+        length = isWhole ? extent.recorded : length + extent.recorded - extent.present;
+        return fits;
+    });
 }

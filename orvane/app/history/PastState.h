@@ -21,9 +21,6 @@ public:
         const meridane::Journal& journal;
     };
 
-    /// Far more than a user has in a list; a state that needs more isn't shown.
-    static constexpr std::size_t mostShown = 20'000;
-
     /// The place as it was after `position` steps of the history. If that needs more than `mostRecords` records, or the
     /// records don't fit the scene (which only happens where the commands alone undo steps), it isn't reached.
     PastState(const History& history, const StepPlace& place, int position, std::size_t mostRecords);
@@ -34,11 +31,11 @@ public:
     [[nodiscard]] bool isReached() const noexcept { return m_isReached; }
 
 private:
-    void collect(const History& history, const StepPlace& place, int position);
-    void add(meridane::ChangeRecord& record, const StepPlace& place);
+    void collect(const History& history, const StepPlace& place, int position, std::size_t mostRecords);
+    bool add(const StepPlace& place, meridane::ChangeRecord& record);
     [[nodiscard]] bool doFit() const;
 
-    /// In the order in which they lead from the present to the past. Only the first one may hold a whole value.
+    /// In the order in which they lead from the past to the present. Only the last one may hold a whole value.
     std::vector<meridane::ChangeRecord*> m_records;
     bool m_isReached = false;
 };

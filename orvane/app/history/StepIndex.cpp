@@ -119,19 +119,40 @@ void StepIndex::add(const StepPlace& place)
     ++m_counts.back();
 }
 
-std::vector<int> StepIndex::find(const StepPlace& place, int begin, int end) const
+int StepIndex::findFirst(const StepPlace& place, int begin, int end) const
 {
-    std::vector<int> found;
+    for (const Entry& entry : entriesOf(place, begin, end)) {
+        if (const int index = indexOf(entry); index >= 0)
+            return index;
+    }
+    return -1;
+}
+
+int StepIndex::findLast(const StepPlace& place, int begin, int end) const
+{
+    const auto entries = entriesOf(place, begin, end);
+    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
+        if (const int index = indexOf(*entry); index >= 0)
+            return index;
+    }
+    return -1;
+}
+
+std::span<const StepIndex::Entry> StepIndex::entriesOf(const StepPlace& place, int begin, int end) const
+{
     const auto known = m_entries.find(place);
     if (known == m_entries.end())
-        return found;
-    const std::vector<Entry>& entries = known->second;
-    const auto isBefore = [](const Entry& entry, std::int64_t step) { return entry.place < step; };
-    auto entry = std::lower_bound(entries.begin(), entries.end(), m_dropped + begin, isBefore);
-    for (; entry != entries.end() && entry->place < m_dropped + end; ++entry) {
-        const auto index = static_cast<int>(entry->place - m_dropped);
-        if (index < static_cast<int>(m_counts.size()) && m_steps.number(index) == entry->number)
-            found.push_back(index);
-    }
-    return found;
+        return {};
+    const auto find = [&](int step) {
+        return std::lower_bound(known->second.begin(), known->second.end(), m_dropped + step,
+            [](const Entry& entry, std::int64_t number) { return entry.place < number; });
+    };
+    return {find(begin), find(end)};
+}
+
+/// The index of the step; -1 if it is gone and another one may be in its place.
+int StepIndex::indexOf(const Entry& entry) const
+{
+    const auto index = static_cast<int>(entry.place - m_dropped);
+    return index < static_cast<int>(m_counts.size()) && m_steps.number(index) == entry.number ? index : -1;
 }

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <deque>
 #include <optional>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -36,8 +37,10 @@ public:
     bool run(const meridane::WorkBudget& budget);
     /// Whether all steps have been read.
     [[nodiscard]] bool isComplete() const;
-    /// The steps from the index `begin` to before `end` that changed the place, in their order, of those read.
-    [[nodiscard]] std::vector<int> find(const StepPlace& place, int begin, int end) const;
+    /// The first step from the index `begin` to before `end` that changed the place, of those read; -1 for none.
+    [[nodiscard]] int findFirst(const StepPlace& place, int begin, int end) const;
+    /// The last one.
+    [[nodiscard]] int findLast(const StepPlace& place, int begin, int end) const;
 
 private:
     struct Hash {
@@ -48,6 +51,8 @@ private:
         std::uint64_t number; // of the step, since another one may have come to its place
     };
 
+    [[nodiscard]] std::span<const Entry> entriesOf(const StepPlace& place, int begin, int end) const;
+    [[nodiscard]] int indexOf(const Entry& entry) const;
     bool readStep(const meridane::WorkBudget& budget);
     void add(const StepPlace& place);
     void forgetAfter(std::size_t steps);

@@ -21,38 +21,35 @@ using Records = std::span<const std::unique_ptr<ChangeRecord>>;
 
 constexpr std::size_t shownLength = 200; // bytes
 constexpr std::size_t mostRowsShown = 16;
+/// How many changes of rows may lie between a shown value and the present, so that a row of the list is ready in a
+/// fraction of a millisecond.
+constexpr std::size_t mostRecords = 500;
 
 QString tr(const char* text, int count = -1)
 {
     return QCoreApplication::translate("StepText", text, nullptr, count);
 }
 
-/// Such as "3: 1 0 0": some rows of a list, with the number of the first one.
-QString rowsText(const NxMField& list, std::size_t first, std::size_t count)
+/// Such as "3: 1 0 0": rows of a list, with the number that the first one has.
+QString rowsText(const NxMField& list, int row, std::size_t count, std::size_t number)
 {
     if (count == 0)
         return {};
-    std::string text = std::to_string(first) + ": ";
+    std::string text = std::to_string(number) + ": ";
     VbString value;
-    for (std::size_t row = 0; row < count; ++row) {
-        if (row > 0)
+    for (std::size_t place = 0; place < count; ++place) {
+        if (place > 0)
             text += ", ";
-        if (row == mostRowsShown || text.size() > shownLength)
+        if (place == mostRowsShown || text.size() > shownLength)
             return orvane::toQString(text + "…");
-        list.get1(static_cast<int>(first + row), value);
+        list.get1(row + static_cast<int>(place), value);
         text += meridane::shortText(value.view(), {}, shownLength);
     }
     return orvane::toQString(text);
 }
 
-/// The rows that a step changed, before or after it.
-struct RowRange {
-    std::size_t first;
-    std::size_t count;
-};
-
-/// What is there now.
-QString textOf(const ChangeRecord& record, const std::optional<RowRange>& rows)
+/// What is at the place of the record now.
+QString presentText(const ChangeRecord& record)
 {
     switch (record.kind()) {
     case ChangeRecord::Kind::Name:
@@ -60,18 +57,31 @@ QString textOf(const ChangeRecord& record, const std::optional<RowRange>& rows)
     case ChangeRecord::Kind::Ignored:
         return record.field()->isIgnored() ? tr("ignored") : tr("used");
     default:
-        break;
+        return orvane::toQString(meridane::shortValue(*record.field(), nullptr, shownLength));
     }
-    if (rows)
-        return rowsText(dynamic_cast<const NxMField&>(*record.field()), rows->first, rows->count);
-    return orvane::toQString(meridane::shortValue(*record.field(), nullptr, shownLength));
 }
 
-QString textAt(
-    const PastState::History& history, const ChangeRecord& record, int position, const std::optional<RowRange>& rows)
+QString recordedText(ChangeRecord& record)
 {
-    const PastState past(history, *StepPlace::of(record), position, PastState::mostShown);
-    return past.isReached() ? orvane::oneLine(textOf(record, rows)) : QString(QChar(0x2026));
+    const ChangeRecord::Extent extent = record.extent();
+    record.show();
+    const QString text = record.kind() == ChangeRecord::Kind::Rows
+        ? rowsText(dynamic_cast<const NxMField&>(*record.field()), 0, extent.recorded, extent.start)
+        : presentText(record);
+    record.show();
+    return text;
+}
+
+/// The text in the state after `position` steps; of the rows of the record alone if there are any.
+QString textAt(const PastState::History& history, const ChangeRecord& record, int position, bool isOfRows)
+{
+    const ChangeRecord::Extent extent = record.extent();
+    const PastState past(history, *StepPlace::of(record), position, mostRecords);
+    if (!past.isReached())
+        return {QChar(0x2026)};
+    return isOfRows ? rowsText(dynamic_cast<const NxMField&>(*record.field()), static_cast<int>(extent.start),
+               extent.present, extent.start)
+                    : presentText(record);
 }
 
 } // namespace
@@ -90,19 +100,18 @@ StepText orvane::stepText(const PastState::History& history, int step)
     if (changes == nullptr)
         return {};
     const Records records = changes->records();
-    const ChangeRecord& first = *records.front();
     if (!onlyPlaceOf(*changes)) {
         const auto isOfChildren = [](const auto& record) { return record->kind() == ChangeRecord::Kind::Children; };
         return {{}, std::ranges::all_of(records, isOfChildren) ? QString() : tr("%1 changes").arg(records.size())};
     }
-    std::optional<RowRange> before;
-    std::optional<RowRange> after;
-    if (records.size() == 1 && first.kind() == ChangeRecord::Kind::Rows) {
-        const ChangeRecord::Extent rows = first.extent();
-        before = RowRange{rows.start, rows.recorded};
-        after = RowRange{rows.start, rows.present};
-        if (step >= history.steps.position())
-            std::swap(before, after);
-    }
-    return {textAt(history, first, step, before), textAt(history, first, step + 1, after)};
+    ChangeRecord& record = *records.front();
+    if (records.size() > 1)
+        return {orvane::oneLine(textAt(history, record, step, false)),
+            orvane::oneLine(textAt(history, record, step + 1, false))};
+    // A record of a done step holds what was before it, and of one that can be redone what comes after it.
+    const bool isDone = step < history.steps.position();
+    const bool isOfRows = record.kind() == ChangeRecord::Kind::Rows;
+    const QString recorded = orvane::oneLine(recordedText(record));
+    const QString other = orvane::oneLine(textAt(history, record, isDone ? step + 1 : step, isOfRows));
+    return isDone ? StepText{recorded, other} : StepText{other, recorded};
 }
