@@ -143,11 +143,17 @@ void HistoryPanel::sizeColumns()
     constexpr std::array leastCharacters{14, 8, 8};
     const QScopedValueRollback sizing(m_sizingColumns, true);
     const int character = fontMetrics().averageCharWidth();
-    const int left = width() - (stateCharacters + timeCharacters) * character;
+    int left = m_view->viewport()->width() - stateCharacters * character;
+    const int shared = left - timeCharacters * character;
     m_view->setColumnWidth(HistoryModel::StateColumn, stateCharacters * character);
-    for (std::size_t column = 0; column < shares.size(); ++column)
-        m_view->setColumnWidth(HistoryModel::StepColumn + static_cast<int>(column),
-            std::max(static_cast<int>(shares.at(column) * left), leastCharacters.at(column) * character));
+    for (std::size_t column = 0; column < shares.size(); ++column) {
+        const int width
+            = std::max(static_cast<int>(shares.at(column) * shared), leastCharacters.at(column) * character);
+        m_view->setColumnWidth(HistoryModel::StepColumn + static_cast<int>(column), width);
+        left -= width;
+    }
+    // The header stretches it only when its own width changes.
+    m_view->setColumnWidth(HistoryModel::TimeColumn, left);
 }
 
 void HistoryPanel::resizeEvent(QResizeEvent* event)

@@ -10,9 +10,11 @@
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QApplication>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTableView>
@@ -361,6 +363,22 @@ private Q_SLOTS:
         click(row, Qt::RightButton);
         QVERIFY(!putBack()->isEnabled());
         QCOMPARE(putBack()->toolTip(), reason);
+    }
+
+    void theColumnsHaveTheWidthOfThePanel()
+    {
+        const auto fits = [this] { return view()->horizontalScrollBar()->maximum() == 0; };
+        QTRY_VERIFY(fits());
+        for (const int width : {700, 640, 1200, 660}) {
+            m_window->resize(width, 400);
+            QTRY_COMPARE(m_window->width(), width);
+            QTRY_VERIFY(fits());
+        }
+        // The user's own widths stay.
+        view()->horizontalHeader()->resizeSection(HistoryModel::StepColumn, 77);
+        m_window->resize(900, 400);
+        QTRY_COMPARE(m_window->width(), 900);
+        QCOMPARE(view()->columnWidth(HistoryModel::StepColumn), 77);
     }
 
     void manyStepsAreListedAtOnce()
