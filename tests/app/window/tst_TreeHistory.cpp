@@ -1,6 +1,8 @@
 #include "app/window/RobotWindowCase.h"
 #include "extender/HistoryWalk.h"
+#include "plugin/Monkey.h"
 
+#include "orvane/app/base/SearchFolders.h"
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/history/HistoryPanel.h"
 #include "orvane/app/scene/SetFieldCommand.h"
@@ -9,6 +11,7 @@
 
 #include "meridane/scene/fields/NxField.h"
 
+#include <QDockWidget>
 #include <QLineEdit>
 #include <QSlider>
 #include <QTableView>
@@ -31,8 +34,8 @@ int numberFrom(const char* variable, int usual)
 } // namespace
 
 /// The scene tree and the history dock at random, by real events: nodes are selected, unfolded, renamed, deleted, added
-/// and brought back, and fields are set in between. The history must be exact. MONKEY_STEPS sets the number of actions,
-/// MONKEY_SEED the seed.
+/// and brought back, and fields are set in between, by the editors and without them. The history must be exact.
+/// MONKEY_STEPS sets the number of actions, MONKEY_SEED the seed.
 class TestTreeHistory : public RobotWindowCase {
     Q_OBJECT
 
@@ -43,7 +46,12 @@ private:
 
     void act()
     {
-        const int what = below(100);
+        // An open popup holds mouse and keyboard, so a user can do nothing else.
+        if (QApplication::activePopupWidget() != nullptr) {
+            m_monkey->poke(m_window.get());
+            return;
+        }
+        const int what = below(150);
         if (what < 25)
             clickTree();
         else if (what < 40)
@@ -60,8 +68,26 @@ private:
             QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
         else if (what < 92)
             QTest::keyClick(m_window.get(), Qt::Key_Y, Qt::ControlModifier);
-        else
+        else if (what < 100)
             useDock();
+        else
+            useEditor();
+    }
+
+    // The editors of the default plug-in write in many ways, also as they show a field.
+    void useEditor()
+    {
+        const int fields = table()->isVisible() ? table()->model()->rowCount() : 0;
+        if (fields > 0 && below(3) == 0) {
+            clickRow(table(), table()->model()->index(below(fields), 0));
+            return;
+        }
+        for (QDockWidget* const dock : m_window->findChildren<QDockWidget*>()) {
+            if (dock->windowTitle() == QLatin1String("Field Editor") && dock->isVisible()) {
+                m_monkey->poke(dock->widget());
+                ++m_pokes;
+            }
+        }
     }
 
     void clickTree()
@@ -137,6 +163,8 @@ private:
     }
 
     std::mt19937 m_random;
+    std::unique_ptr<Monkey> m_monkey;
+    int m_pokes = 0;
     int m_imports = 0;
     int m_dockUses = 0;
 
@@ -144,7 +172,11 @@ private Q_SLOTS:
     void init()
     {
         startBesideRobot();
-        m_window->resize(900, 700);
+        m_session->loadPlugins(OrvPluginsManager::findPlugins(orvane::pluginFolders()));
+        m_session->loadProfiles({QStringLiteral(ORVANE_PROFILES)});
+        QVERIFY(m_session->activateProfile({}));
+        m_window->resize(1200, 800);
+        writeFile(m_robot, QByteArray(AppScenes::robotText) + "FieldGallery \"gallery\" {}\n");
         writeFile(filePath("part.mrd"), "#mrd 1.0\nGroup \"bolts\" {\n  Mesh \"bolt\" {}\n  FieldGallery {}\n}\n");
     }
     void cleanup() { endTool(); }
@@ -162,6 +194,7 @@ private Q_SLOTS:
         QFETCH(const int, seed);
         const int steps = numberFrom("MONKEY_STEPS", usualSteps);
         m_random.seed(static_cast<unsigned>(seed));
+        m_monkey = std::make_unique<Monkey>(static_cast<unsigned>(seed));
         QCOMPARE(open(m_robot), QString());
         QTest::keyClick(m_window.get(), Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
         QVERIFY(panel() != nullptr);
@@ -173,9 +206,14 @@ private Q_SLOTS:
             if (QTest::currentTestFailed())
                 QFAIL(qPrintable(QStringLiteral("That was step %1.").arg(step)));
         }
+        if (QWidget* const popup = QApplication::activePopupWidget())
+            popup->close();
+        services().selectField(nullptr);
         walk.walk();
-        qInfo("The history has %d steps; %d imports and %d uses of the dock.", walk.steps(), m_imports, m_dockUses);
-        QVERIFY(walk.steps() > 0 && m_imports > 0 && m_dockUses > 0);
+        m_monkey.reset();
+        qInfo("The history has %d steps; %d imports, %d uses of the dock, %d of editors.", walk.steps(), m_imports,
+            m_dockUses, m_pokes);
+        QVERIFY(walk.steps() > 0 && m_imports > 0 && m_dockUses > 0 && m_pokes > 0);
     }
 };
 
