@@ -28,8 +28,9 @@ class RecoveryCapture {
 public:
     using Clock = std::chrono::system_clock::time_point (*)();
 
-    /// With `Base::File` the scene must be as a reader of that file gives it. The journal must record, and outlive the
-    /// capture. `clock` gives the times in the file.
+    /// With `Base::File` the scene must be as a reader of that file gives it, which isn't so if the writer of the file
+    /// mapped its file paths (`NxSceneWriter::setPathMap`). The journal must record, and outlive the capture. `clock`
+    /// gives the times in the file.
     RecoveryCapture(Journal& journal, RecoveryDescription description, Clock clock = &std::chrono::system_clock::now);
     ~RecoveryCapture();
     RecoveryCapture(const RecoveryCapture&) = delete;
