@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 namespace meridane {
@@ -19,13 +20,7 @@ constexpr bool isIdentifierCharacter(char character) noexcept
 /// Whether the text is such a name.
 constexpr bool isIdentifier(std::string_view text) noexcept
 {
-    if (text.empty() || !isIdentifierStart(text.front()))
-        return false;
-    for (const char character : text) {
-        if (!isIdentifierCharacter(character))
-            return false;
-    }
-    return true;
+    return !text.empty() && isIdentifierStart(text.front()) && std::ranges::all_of(text, isIdentifierCharacter);
 }
 
 /// Whether the text can be the name of a node class in a scene file.

@@ -327,8 +327,10 @@ bool OperationReplay::readNode(std::uint64_t& number, NxNode*& node)
 {
     if (!m_reader.number(number))
         return false;
-    if (number >= m_nodes.size())
-        return fail("a node that it changes isn't there");
+    if (number >= m_nodes.size()) {
+        fail("a node that it changes isn't there");
+        return false;
+    }
     node = m_nodes[number].get();
     return true;
 }
@@ -339,7 +341,11 @@ bool OperationReplay::readField(std::uint64_t& number, std::uint64_t& index, NxF
     if (!readNode(number, node) || !m_reader.number(index))
         return false;
     field = m_classes.field(*node, index);
-    return field != nullptr || fail("a field that it changes isn't there");
+    if (field == nullptr) {
+        fail("a field that it changes isn't there");
+        return false;
+    }
+    return true;
 }
 
 // Returns false if the part doesn't continue the content before it.
