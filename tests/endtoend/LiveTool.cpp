@@ -119,6 +119,8 @@ bool LiveTool::start(const QStringList& arguments)
     m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("disabled:"));
     if (!m_settingsFolder.isEmpty())
         m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_settingsFolder);
+    m_environment.insert(QStringLiteral("XDG_STATE_HOME"),
+        m_stateFolder.isEmpty() ? m_folder.filePath(QStringLiteral("state")) : m_stateFolder);
     m_tool.setProcessEnvironment(m_environment);
     m_tool.setProcessChannelMode(QProcess::ForwardedChannels);
     m_tool.setProgram(QStringLiteral(ORVANE_PROGRAM));
@@ -151,6 +153,12 @@ int LiveTool::quit()
 {
     key(QStringLiteral("ctrl+q"));
     return m_tool.waitForFinished(testPatience) && m_tool.exitStatus() == QProcess::NormalExit ? m_tool.exitCode() : -1;
+}
+
+void LiveTool::kill()
+{
+    m_tool.kill();
+    m_tool.waitForFinished(testPatience);
 }
 
 QString LiveTool::ask(const QString& request)

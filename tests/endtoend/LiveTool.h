@@ -19,10 +19,14 @@ public:
 
     /// Lets the tool read and write settings, in a folder that the test owns. Without, it has none.
     void keepSettingsIn(const QString& folder) { m_settingsFolder = folder; }
+    /// Lets the tool keep recovery files in a folder that the test owns. Without, it has one of its own.
+    void keepStateIn(const QString& folder) { m_stateFolder = folder; }
     /// Starts server and tool and waits until the window has its place.
     [[nodiscard]] bool start(const QStringList& arguments);
     /// Closes the window as Ctrl+Q does and gives the exit status, or -1.
     [[nodiscard]] int quit();
+    /// Kills the tool, which can do nothing about it.
+    void kill();
 
     /// The centre and extent of a widget, or of a row of a view, in pixels of the screen; waits for it to appear.
     [[nodiscard]] QRect widget(const QString& name);
@@ -66,6 +70,7 @@ private:
 
     QTemporaryDir m_folder;
     QString m_settingsFolder;
+    QString m_stateFolder;
     QProcess m_server;
     QProcess m_windowManager;
     QProcess m_tool;

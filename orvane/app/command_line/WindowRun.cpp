@@ -5,6 +5,7 @@
 #include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/PictureFile.h"
 #include "orvane/app/command_line/StandardOutput.h"
+#include "orvane/app/recovery/RecoveryFolder.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/scene/SetFieldCommand.h"
@@ -36,6 +37,8 @@ int WindowRun::run()
     Session session(m_commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
     MainWindow window(session);
     prepare(session, window);
+    if (!takesPicture())
+        window.startRecovery(RecoveryFolder());
     if (m_commandLine.size.isValid())
         window.resize(m_commandLine.size);
     if (takesPicture())

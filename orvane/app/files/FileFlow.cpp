@@ -77,6 +77,17 @@ void FileFlow::open(const QString& fileName, const Opened& opened)
         [this, opened](const QString& reason) { loseOpen(opened, reason, Loss::Stopped); }});
 }
 
+void FileFlow::openRecovered(const QString& displayName, const QString& fileName,
+    const std::function<std::unique_ptr<SceneJob>()>& makeJob, const Opened& opened)
+{
+    const auto show = [this, fileName](const ReadScene& read) {
+        m_session.document().openUnsaved(read.journal, fileName, read.content);
+    };
+    const Opening opening{displayName, makeJob, show, opened};
+    m_work.push({Kind::Open, displayName, FileRequest::anyScene, [this, opening] { start(opening); },
+        [this, opened](const QString& reason) { loseOpen(opened, reason, Loss::Stopped); }});
+}
+
 void FileFlow::import(const QString& fileName)
 {
     request(
@@ -193,14 +204,25 @@ void FileFlow::leave(const Next& next)
 
 void FileFlow::startOpen(const QString& fileName, const Opened& opened)
 {
-    const FileWork::Reader reader{
-        [this, fileName, opened](const ReadScene& read) { takeScene(read, fileName, opened); },
-        [this, fileName, opened](const QString& reason, Loss loss) {
-            forgetIfMissing(fileName);
-            loseOpen(opened, reason, loss);
-        }};
-    leave({[this, fileName, reader] { m_work.read(Kind::Open, m_jobMakers.load(fileName), reader); },
-        [this, fileName, opened] { cancelOpen(opened, fileName); }});
+    const auto makeJob = [this, fileName] { return m_jobMakers.load(fileName); };
+    const auto show
+        = [this, fileName](const ReadScene& read) { m_session.document().open(read.journal, fileName, read.content); };
+    start({fileName, makeJob, show, [this, fileName, opened](const orvane::Result<>& result) {
+               if (result)
+                   m_recent.add(fileName);
+               else
+                   forgetIfMissing(fileName);
+               if (opened)
+                   opened(result);
+           }});
+}
+
+void FileFlow::start(const Opening& opening)
+{
+    const FileWork::Reader reader{[this, opening](const ReadScene& read) { takeScene(read, opening); },
+        [this, opening](const QString& reason, Loss loss) { loseOpen(opening.opened, reason, loss); }};
+    leave({[this, opening, reader] { m_work.read(Kind::Open, opening.makeJob(), reader); },
+        [this, opening] { cancelOpen(opening.opened, opening.fileName); }});
 }
 
 void FileFlow::startAdd(const QString& fileName)
@@ -251,15 +273,14 @@ bool FileFlow::refusesBehindOpen(Kind kind, const QString& fileName)
     return true;
 }
 
-void FileFlow::takeScene(const ReadScene& read, const QString& fileName, const Opened& opened)
+void FileFlow::takeScene(const ReadScene& read, const Opening& opening)
 {
-    m_recent.add(fileName);
     // The old scene could be edited while the new one was read.
-    leave({[this, read, fileName, opened] {
-               m_session.document().open(read.journal, fileName, read.content);
-               endOpen(opened, {});
+    leave({[this, read, opening] {
+               opening.show(read);
+               endOpen(opening.opened, {});
            },
-        [this, fileName, opened] { cancelOpen(opened, fileName); }});
+        [this, opening] { cancelOpen(opening.opened, opening.fileName); }});
 }
 
 void FileFlow::addToScene(const ReadScene& read, const QString& fileName)

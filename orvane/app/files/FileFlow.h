@@ -49,6 +49,10 @@ public:
     void closeScene();
     /// `opened` is called once, unless the window is closed first.
     void open(const QString& fileName, const Opened& opened = {});
+    /// Opens a scene with changes that aren't saved, of that file, or of none if `fileName` is empty. `makeJob` makes
+    /// the job that recovers it. `opened` is called as for `open`.
+    void openRecovered(const QString& displayName, const QString& fileName,
+        const std::function<std::unique_ptr<SceneJob>()>& makeJob, const Opened& opened);
     /// Adds the content of a file to the open scene, in a group of the file's name, as one step of the history; opens
     /// it when no scene is open.
     void import(const QString& fileName);
@@ -99,11 +103,20 @@ private:
     void requestForAnyScene(Kind kind, const Action& run);
 
     void leave(const Next& next);
+    /// A scene that is to be opened.
+    struct Opening {
+        QString fileName; // or the name of the scene, in messages
+        std::function<std::unique_ptr<SceneJob>()> makeJob;
+        std::function<void(const ReadScene& read)> show;
+        Opened opened;
+    };
+
     void startOpen(const QString& fileName, const Opened& opened);
+    void start(const Opening& opening);
     void startAdd(const QString& fileName);
     void startCompare(const QString& fileName);
     [[nodiscard]] bool refusesBehindOpen(Kind kind, const QString& fileName);
-    void takeScene(const ReadScene& read, const QString& fileName, const Opened& opened);
+    void takeScene(const ReadScene& read, const Opening& opening);
     void addToScene(const ReadScene& read, const QString& fileName);
     void endOpen(const Opened& opened, const orvane::Result<>& result);
     void loseOpen(const Opened& opened, const QString& reason, Loss loss);

@@ -3,6 +3,7 @@
 #include "orvane/app/base/TextConversion.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <utility>
 
@@ -93,6 +94,14 @@ orvane::Result<> LockedFile::sync()
     if (::fdatasync(m_descriptor) == 0)
         return {};
     return failure();
+}
+
+orvane::Result<> LockedFile::rename(const QString& fileName)
+{
+    if (std::rename(orvane::toStdFileName(m_fileName).c_str(), orvane::toStdFileName(fileName).c_str()) != 0)
+        return failure();
+    m_fileName = fileName;
+    return {};
 }
 
 void LockedFile::remove()

@@ -26,6 +26,8 @@ public:
     [[nodiscard]] orvane::Result<> append(std::string_view bytes);
     /// Waits until the disk has everything.
     [[nodiscard]] orvane::Result<> sync();
+    /// Gives the file another name in the same folder. A file that has that name is replaced.
+    [[nodiscard]] orvane::Result<> rename(const QString& fileName);
     /// Deletes the file; it stays locked until the object is destroyed.
     void remove();
 

@@ -14,6 +14,7 @@
 namespace {
 
 const QString extension = QStringLiteral(".recovery");
+const QString firstExtension = QStringLiteral(".part");
 
 } // namespace
 
@@ -41,7 +42,7 @@ orvane::Result<std::unique_ptr<LockedFile>> RecoveryFolder::createFile() const
     }
     const auto create = [this] {
         const QString name = QUuid::createUuid().toString(QUuid::WithoutBraces);
-        return LockedFile::create(m_path + u'/' + name + extension);
+        return LockedFile::create(m_path + u'/' + name + firstExtension);
     };
     // Another process that looks for abandoned files may lock a new one for a moment.
     constexpr int attempts = 10;
@@ -51,11 +52,24 @@ orvane::Result<std::unique_ptr<LockedFile>> RecoveryFolder::createFile() const
     return file;
 }
 
+QString RecoveryFolder::finalName(const QString& fileName)
+{
+    return fileName.chopped(firstExtension.size()) + extension;
+}
+
 std::vector<std::unique_ptr<LockedFile>> RecoveryFolder::lockAbandoned() const
 {
+    for (const auto& file : lock(firstExtension))
+        file->remove();
+    return lock(extension);
+}
+
+std::vector<std::unique_ptr<LockedFile>> RecoveryFolder::lock(const QString& withExtension) const
+{
     std::vector<std::unique_ptr<LockedFile>> files;
-    for (const QString& name : QDir(m_path).entryList({u'*' + extension}, QDir::Files | QDir::Hidden, QDir::Time)) {
-        if (auto file = LockedFile::lock(m_path + u'/' + name))
+    const QDir folder(m_path);
+    for (const QString& name : folder.entryList({u'*' + withExtension}, QDir::Files | QDir::Hidden, QDir::Time)) {
+        if (auto file = LockedFile::lock(folder.filePath(name)))
             files.push_back(std::move(file));
     }
     return files;

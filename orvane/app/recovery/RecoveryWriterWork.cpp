@@ -23,6 +23,14 @@ void RecoveryWriterWork::append(const std::string& bytes)
     Q_EMIT written(bytes.size());
 }
 
+void RecoveryWriterWork::rename(const QString& fileName)
+{
+    sync();
+    if (!m_hasFailed)
+        check(m_file->rename(fileName));
+    Q_EMIT written(0);
+}
+
 void RecoveryWriterWork::discard()
 {
     m_syncTimer.stop();
@@ -38,7 +46,8 @@ void RecoveryWriterWork::timerEvent(QTimerEvent* event)
 void RecoveryWriterWork::sync()
 {
     m_syncTimer.stop();
-    check(m_file->sync());
+    if (!m_hasFailed)
+        check(m_file->sync());
 }
 
 void RecoveryWriterWork::check(const orvane::Result<>& result)

@@ -22,6 +22,7 @@ public:
     ~RecoveryWriterWork() override;
 
     void append(const std::string& bytes);
+    void rename(const QString& fileName);
     void discard();
 
 Q_SIGNALS:

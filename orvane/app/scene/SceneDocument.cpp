@@ -10,6 +10,7 @@
 #include "meridane/scene/journal/Journal.h"
 
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 SceneDocument::SceneDocument(OrvServices& services, SceneDisposal& disposal)
     : m_services(services)
@@ -42,7 +43,7 @@ bool SceneDocument::isModified() const
 
 void SceneDocument::newScene()
 {
-    replace(OrvDocument::makeJournal(*new NxGroup), QString(), std::nullopt);
+    replace(OrvDocument::makeJournal(*new NxGroup), QString(), std::nullopt, State::Saved);
 }
 
 void SceneDocument::open(const NxRef<NxGroup>& scene, const QString& fileName)
@@ -53,18 +54,19 @@ void SceneDocument::open(const NxRef<NxGroup>& scene, const QString& fileName)
 void SceneDocument::open(
     const std::shared_ptr<meridane::Journal>& journal, const QString& fileName, const FileContent& content)
 {
-    replace(journal, orvane::absoluteFileName(fileName), content);
+    replace(journal, orvane::absoluteFileName(fileName), content, State::Saved);
 }
 
-void SceneDocument::setUnsaved()
+void SceneDocument::openUnsaved(
+    const std::shared_ptr<meridane::Journal>& journal, const QString& fileName, const FileContent& content)
 {
-    m_services.forgetClean();
+    replace(journal, orvane::absoluteFileName(fileName), content, State::Unsaved);
 }
 
 void SceneDocument::close()
 {
     if (isOpen())
-        replace(nullptr, QString(), std::nullopt);
+        replace(nullptr, QString(), std::nullopt, State::Saved);
 }
 
 void SceneDocument::setSaved(const QString& fileName, const FileContent& content)
@@ -76,6 +78,7 @@ void SceneDocument::setSaved(const QString& fileName, const FileContent& content
         m_pathFolder = orvane::folderOf(fileName);
     setFileName(orvane::absoluteFileName(fileName));
     reportModified();
+    Q_EMIT saved();
 }
 
 void SceneDocument::setFileLost(bool lost)
@@ -95,8 +98,9 @@ bool SceneDocument::isSceneFileName(const QString& fileName)
 }
 
 void SceneDocument::replace(
-    const std::shared_ptr<meridane::Journal>& journal, const QString& fileName, const FileContent& content)
+    const std::shared_ptr<meridane::Journal>& journal, const QString& fileName, const FileContent& content, State state)
 {
+    const QScopedValueRollback replacing(m_isReplacing, true);
     // Before the scene is deleted, editors release its fields, then views its nodes, then commands both.
     m_services.selectField(nullptr);
     m_services.selectNode(nullptr);
@@ -106,6 +110,8 @@ void SceneDocument::replace(
     m_disposal.dispose(std::exchange(m_scene, NxRef<NxGroup>(journal != nullptr ? &journal->scene() : nullptr)));
     if (journal != nullptr)
         m_services.document().open(journal);
+    if (state == State::Unsaved)
+        m_services.forgetClean();
     ++m_sceneNumber;
     m_pathFolder = orvane::folderOf(fileName);
     m_fileContent = content;
@@ -113,6 +119,7 @@ void SceneDocument::replace(
     m_fileName = fileName; // slots of sceneChanged ask for its folder
     Q_EMIT sceneChanged();
     setFileName(fileName);
+    m_isReplacing = false;
     reportModified();
 }
 
@@ -124,7 +131,7 @@ void SceneDocument::setFileName(const QString& fileName)
 
 void SceneDocument::reportModified()
 {
-    if (isModified() == m_reportedModified)
+    if (m_isReplacing || isModified() == m_reportedModified)
         return;
     m_reportedModified = isModified();
     Q_EMIT modifiedChanged(m_reportedModified);

@@ -59,8 +59,10 @@ public:
     /// Opens the scene of a journal whose `run` has ended; `content` is that of the file, if it is known.
     void open(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName,
         const FileContent& content = std::nullopt);
-    /// Notes that no file has the scene as it is, so that the user is asked before it is closed.
-    void setUnsaved();
+    /// The same for a scene with changes that aren't saved: no state of it is the saved one. `content` is what the file
+    /// holds without them.
+    void openUnsaved(
+        const std::shared_ptr<meridane::Journal>& journal, const QString& fileName, const FileContent& content);
     /// Leaves nothing open.
     void close();
     /// Notes that the file holds that content, and that the scene in its present state is the same: it was saved, or
@@ -80,11 +82,15 @@ Q_SIGNALS:
     void sceneAboutToChange();
     void sceneChanged();
     void fileNameChanged();
+    /// The scene in its present state was saved.
+    void saved();
     void modifiedChanged(bool modified);
 
 private:
-    void replace(
-        const std::shared_ptr<meridane::Journal>& journal, const QString& fileName, const FileContent& content);
+    enum class State { Saved, Unsaved };
+
+    void replace(const std::shared_ptr<meridane::Journal>& journal, const QString& fileName, const FileContent& content,
+        State state);
     void setFileName(const QString& fileName);
     void reportModified();
 
@@ -96,5 +102,6 @@ private:
     QString m_pathFolder;
     int m_sceneNumber = 1;
     bool m_isFileLost = false;
+    bool m_isReplacing = false; // then nothing is reported before the next scene is there
     bool m_reportedModified = false;
 };

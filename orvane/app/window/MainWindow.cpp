@@ -12,6 +12,8 @@
 #include "orvane/app/images/ImageFolderQuestion.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
+#include "orvane/app/recovery/RecoveryOffer.h"
+#include "orvane/app/recovery/SceneRecovery.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/SelectionStatus.h"
@@ -53,6 +55,7 @@ namespace {
 constexpr QSize firstSize(1280, 800);
 constexpr int treeWidth = 330;
 const QString geometryKey = QStringLiteral("window/geometry");
+const QString recoveryTopic = QStringLiteral("recoveryFailure");
 const QString stateKey = QStringLiteral("window/state");
 
 /// The one local file that is being dragged, or the empty name.
@@ -128,6 +131,23 @@ void MainWindow::compareWith(const NxRef<NxGroup>& other, const QString& fileNam
     if (m_comparison == nullptr)
         m_comparison = new ComparisonDock(m_session, *m_messages, *m_jobBar, m_tree, this);
     m_comparison->compare(other, fileName);
+}
+
+void MainWindow::startRecovery(const RecoveryFolder& folder)
+{
+    m_recovery = std::make_unique<SceneRecovery>(m_session.services(), document(), folder, SceneRecovery::Limits());
+    connect(m_recovery.get(), &SceneRecovery::failed, this, [this](const QString& message) {
+        m_messages->showMessage(MessageBar::Severity::Warning,
+            tr("Unsaved changes can't be kept for recovery after a crash: %1. It is tried again every minute.")
+                .arg(message),
+            recoveryTopic);
+    });
+    connect(m_recovery.get(), &SceneRecovery::works, this, [this] { m_messages->clearTopic(recoveryTopic); });
+    connect(&m_files->disk(), &DiskWatch::changed, m_recovery.get(), [this] {
+        if (m_files->disk().state() != DiskWatch::State::Same)
+            m_recovery->leaveFile();
+    });
+    (new RecoveryOffer(*m_files, *m_recovery, *m_messages, this))->start(folder);
 }
 
 void MainWindow::startView()

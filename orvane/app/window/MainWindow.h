@@ -20,8 +20,10 @@ class ImageFolderQuestion;
 class JobBar;
 class MessageBar;
 class QStackedWidget;
+class RecoveryFolder;
 class RecentFiles;
 class SceneDocument;
+class SceneRecovery;
 class SceneTreePanel;
 class SceneView;
 class Session;
@@ -51,6 +53,9 @@ public:
     /// Compares the open scene with another, which the user knows as the file of that name, and shows the differences
     /// in a dock. Returns at once; does nothing if no scene is open.
     void compareWith(const NxRef<NxGroup>& other, const QString& fileName);
+    /// Keeps unsaved changes in recovery files of that folder from now on, and offers what programs have left there
+    /// that didn't end properly.
+    void startRecovery(const RecoveryFolder& folder);
     /// Starts the view's drawing now instead of after the first paint, for a picture of the window.
     void startView();
     /// Whether a file that changes on disk is reloaded without a question while the scene has no changes of the user.
@@ -104,6 +109,7 @@ private:
     FileMenu* m_fileMenu = nullptr;
     DiskChangeBar* m_diskChange = nullptr;
     std::unique_ptr<TreeState> m_treeState; // from before a reload
+    std::unique_ptr<SceneRecovery> m_recovery; // once it is started
     bool m_layoutRestored = false;
     bool m_mayClose = false;
     bool m_insideClose = false;

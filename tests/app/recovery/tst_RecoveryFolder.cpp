@@ -49,8 +49,11 @@ private Q_SLOTS:
         QVERIFY(folder.lockAbandoned().empty()); // not even the folder is there
         auto used = folder.createFile();
         QVERIFY(used);
+        const QString name = RecoveryFolder::finalName(used.value()->fileName());
+        QVERIFY(name.endsWith(QStringLiteral(".recovery")));
+        QVERIFY(used.value()->rename(name));
+        QCOMPARE(used.value()->fileName(), name);
         QVERIFY(folder.lockAbandoned().empty());
-        const QString name = used.value()->fileName();
         used = orvane::Failure{};
         {
             const auto abandoned = folder.lockAbandoned();
@@ -60,6 +63,35 @@ private Q_SLOTS:
         }
         folder.lockAbandoned().front()->remove();
         QVERIFY(!QFileInfo::exists(name));
+    }
+
+    void aFileWithoutAFinalNameIsDeletedOnceNobodyUsesIt()
+    {
+        const RecoveryFolder folder(recoveryPath());
+        auto used = folder.createFile();
+        QVERIFY(used);
+        const QString name = used.value()->fileName();
+        QVERIFY(folder.lockAbandoned().empty());
+        QVERIFY(QFileInfo::exists(name));
+        used = orvane::Failure{};
+        QVERIFY(folder.lockAbandoned().empty());
+        QVERIFY(!QFileInfo::exists(name));
+    }
+
+    void aFileTakesThePlaceOfAnother()
+    {
+        const RecoveryFolder folder(recoveryPath());
+        const auto old = folder.createFile();
+        const auto next = folder.createFile();
+        QVERIFY(old && next);
+        const QString name = RecoveryFolder::finalName(old.value()->fileName());
+        QVERIFY(old.value()->rename(name));
+        QVERIFY(next.value()->append("next"));
+        QVERIFY(next.value()->rename(name));
+        old.value()->remove(); // which isn't there any more
+        QCOMPARE(QDir(recoveryPath()).entryList(QDir::Files), QStringList(QFileInfo(name).fileName()));
+        QVERIFY(!next.value()->rename(recoveryPath() + QStringLiteral("/no/such/folder")));
+        QCOMPARE(next.value()->fileName(), name);
     }
 
     void leavesWhatIsNoFileOfItsOwnAlone()

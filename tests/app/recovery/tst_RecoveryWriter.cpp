@@ -46,6 +46,23 @@ private Q_SLOTS:
         QVERIFY(LockedFile::lock(m_fileName) != nullptr);
     }
 
+    void renamesTheFile()
+    {
+        auto writer = makeWriter();
+        writer->append("one");
+        const QString name = RecoveryFolder::finalName(m_fileName);
+        writer->rename(name);
+        QCOMPARE(writer->fileName(), name);
+        writer->append(" two");
+        QVERIFY(!writer->isDone());
+        QTRY_VERIFY(writer->isDone());
+        QVERIFY(!QFileInfo::exists(std::exchange(m_fileName, name)));
+        QCOMPARE(content(), QByteArray("one two"));
+        const QSignalSpy failed(writer.get(), &RecoveryWriter::failed);
+        writer->rename(name + QStringLiteral("/no/such/folder"));
+        QTRY_COMPARE(failed.size(), 1);
+    }
+
     void deletesTheFile()
     {
         auto writer = makeWriter();
