@@ -88,6 +88,36 @@ private Q_SLOTS:
         QVERIFY(!steps().isSavedAt(0) && steps().isSavedAt(2));
     }
 
+    void aStepOfTheApplicationHasItsOwnLabel()
+    {
+        QVERIFY(m_services->isUndoExact());
+        QStringList calls;
+        const auto push = [&](const char* name, int value) {
+            auto command = std::make_unique<TestCommand>(QString::fromLatin1(name), calls);
+            command->whenExecuted = [this, value] { m_gallery->sfInt32.setValue(value); };
+            return command.release();
+        };
+        m_gallery->sfInt32.setValue(1);
+        m_services->pushStep(push("a", 2), u"Reload a.mrd"_s);
+        m_gallery->setName("gallery"); // as an observer would
+        QCOMPARE(m_services->undoDepth(), 2);
+        HistoryWalk::settle();
+        QCOMPARE(labels(), QStringList({u"Set FieldGallery.sfInt32"_s, u"Reload a.mrd"_s}));
+        QCOMPARE(m_services->undoText(), u"Reload a.mrd"_s);
+        m_services->undo();
+        QCOMPARE(m_gallery->sfInt32.getValue(), 1);
+        QVERIFY(m_gallery->getName().isEmpty());
+        QCOMPARE(m_services->redoText(), u"Reload a.mrd"_s);
+        m_services->redo();
+        QCOMPARE(m_gallery->sfInt32.getValue(), 2);
+        // One that changes nothing is no step.
+        m_services->pushStep(push("b", 2), u"Reload b.mrd"_s);
+        HistoryWalk::settle();
+        QCOMPARE(steps().count(), 2);
+        m_services->document().close();
+        QVERIFY(!m_services->isUndoExact());
+    }
+
     void eachChangeOfTheListIsAnnounced()
     {
         QSignalSpy changed(&steps(), &OrvStepList::changed);

@@ -41,11 +41,8 @@ FileFlow::FileFlow(
         [this] { m_work.dropOtherScenes(m_session.document().sceneNumber()); });
     connect(&m_reload, &SceneReload::aboutToChange, this, &FileFlow::aboutToReload);
     connect(&m_reload, &SceneReload::done, this, &FileFlow::reloaded);
-    connect(&m_reload, &SceneReload::ended, this, [this](const orvane::Result<>& result) {
-        if (!result)
-            Q_EMIT reloadFailed();
-        Q_EMIT ended(result);
-    });
+    connect(&m_reload, &SceneReload::refused, this, &FileFlow::reloadRefused);
+    connect(&m_reload, &SceneReload::ended, this, &FileFlow::ended);
     connect(&m_saving, &SceneSaving::compareRequested, this, &FileFlow::compareWith);
 }
 
@@ -100,10 +97,10 @@ void FileFlow::compareWith(const QString& fileName)
         Kind::Compare, [this, fileName] { startCompare(fileName); }, fileName);
 }
 
-void FileFlow::reload()
+void FileFlow::reload(SceneReload::Trigger trigger)
 {
     request(
-        Kind::Reload, [this] { startReload(); }, m_session.document().fileName());
+        Kind::Reload, [this, trigger] { startReload(trigger); }, m_session.document().fileName());
 }
 
 void FileFlow::save()
@@ -256,10 +253,10 @@ void FileFlow::startCompare(const QString& fileName)
             }});
 }
 
-void FileFlow::startReload()
+void FileFlow::startReload(SceneReload::Trigger trigger)
 {
     if (!refusesBehindOpen(Kind::Reload, m_session.document().fileName()))
-        m_reload.start();
+        m_reload.start(trigger);
 }
 
 // What comes of it would be lost with the present scene, and the user hasn't seen the next one yet.

@@ -60,7 +60,7 @@ public:
     void compareWith(const QString& fileName);
     /// Makes the open scene equal to its file again, as a step that can be undone. Does nothing for a scene without a
     /// file.
-    void reload();
+    void reload(SceneReload::Trigger trigger = SceneReload::Trigger::User);
     /// Saves to the scene's own file, or asks for one. Asks as well if somebody else has changed the file.
     void save();
     void saveAs();
@@ -87,8 +87,8 @@ Q_SIGNALS:
     void aboutToReload();
     /// It is now. The text says so to the user.
     void reloaded(const QString& text);
-    /// The file can't be reloaded.
-    void reloadFailed();
+    /// The file can't be reloaded, or isn't because the scene has changes.
+    void reloadRefused();
     /// The open scene is to be compared with the scene of that file.
     void readToCompare(const NxRef<NxGroup>& other, const QString& fileName);
     /// A job finished, failed, or was given up, which is no failure.
@@ -123,7 +123,7 @@ private:
     void cancelOpen(const Opened& opened, const QString& fileName);
     void forgetIfMissing(const QString& fileName);
 
-    void startReload();
+    void startReload(SceneReload::Trigger trigger);
 
     Session& m_session;
     RecentFiles& m_recent;

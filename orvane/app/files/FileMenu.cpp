@@ -42,7 +42,7 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     m_reload = addAction(tr("&Reload from Disk"), "fileReload");
     m_reload->setShortcut(QKeySequence(Qt::Key_F5));
     m_reload->setStatusTip(tr("Makes the scene equal to its file again; undo brings your changes back"));
-    connect(m_reload, &QAction::triggered, &flow, &FileFlow::reload);
+    connect(m_reload, &QAction::triggered, &flow, [&flow] { flow.reload(); });
     m_menu->addSeparator();
     QAction* import = addAction(tr("&Import…"), "fileImport");
     import->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));

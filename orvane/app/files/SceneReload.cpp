@@ -37,11 +37,12 @@ SceneReload::SceneReload(Session& session, FileWork& work, Load load)
     connect(&session.services(), &OrvServices::stepFinished, this, note);
 }
 
-void SceneReload::start()
+void SceneReload::start(Trigger trigger)
 {
     const QString fileName = m_session.document().fileName();
     if (fileName.isEmpty())
         return;
+    m_trigger = trigger;
     m_attempts = 0;
     m_work.read(FileRequest::Kind::Reload, m_load(fileName),
         {[this, fileName](const ReadScene& read) {
@@ -64,6 +65,11 @@ void SceneReload::prepare(const ReadScene& read, const QString& fileName)
 void SceneReload::finish(const ReadScene& read, const QString& fileName, const Update& update)
 {
     orvane::commitPendingEdit();
+    if (m_trigger == Trigger::Watch && m_session.document().isModified()) {
+        Q_EMIT refused();
+        Q_EMIT ended({});
+        return;
+    }
     const bool isLate = m_isEdited || update->isOutdated() || m_session.services().document().journal()->hasChanges();
     if (isDragging() || (isLate && m_attempts++ < mostAttempts)) {
         prepare(read, fileName);
@@ -117,13 +123,14 @@ void SceneReload::apply(const ReadScene& read, const QString& fileName, NxSceneC
 void SceneReload::fail(const QString& message)
 {
     m_work.showReadingError(message);
+    Q_EMIT refused();
     Q_EMIT ended(orvane::Failure{message});
 }
 
 void SceneReload::lose(const QString& reason, FileWork::Loss loss)
 {
-    if (loss == FileWork::Loss::Failed)
-        Q_EMIT ended(orvane::Failure{reason});
-    else
-        Q_EMIT ended({});
+    const bool failed = loss == FileWork::Loss::Failed;
+    if (failed)
+        Q_EMIT refused();
+    Q_EMIT ended(failed ? orvane::Result<>(orvane::Failure{reason}) : orvane::Result<>());
 }

@@ -20,19 +20,25 @@ class SceneReload : public QObject {
     Q_OBJECT
 
 public:
+    enum class Trigger {
+        User,
+        Watch, ///< the file has changed; a scene that has changes of the user stays as it is
+    };
     using Load = std::function<std::unique_ptr<SceneJob>(const QString& fileName)>;
 
     /// The session and the work live longer.
     SceneReload(Session& session, FileWork& work, Load load);
 
     /// Reads the file of the open scene. Does nothing for a scene without a file.
-    void start();
+    void start(Trigger trigger);
 
 Q_SIGNALS:
     /// The scene is about to become the file's.
     void aboutToChange();
     /// The scene is the file's now. The text says so to the user.
     void done(const QString& text);
+    /// The file can't be read, or the scene stays as it is because it has changes.
+    void refused();
     /// The reload is done, has failed or was given up, which is no failure.
     void ended(const orvane::Result<>& result);
 
@@ -48,6 +54,7 @@ private:
     Session& m_session;
     FileWork& m_work;
     Load m_load;
+    Trigger m_trigger = Trigger::User;
     int m_attempts = 0;
     bool m_isEdited = false; // since the update was started
 };

@@ -19,7 +19,7 @@ DiskChangeBar::DiskChangeBar(SceneDocument& document, FileFlow& flow, MessageBar
     , m_messages(messages)
 {
     connect(&m_disk, &DiskWatch::changed, this, &DiskChangeBar::update);
-    connect(&flow, &FileFlow::reloadFailed, this, [this] {
+    connect(&flow, &FileFlow::reloadRefused, this, [this] {
         if (!m_isAsking && m_disk.state() == DiskWatch::State::Changed)
             ask();
     });
@@ -32,7 +32,7 @@ DiskChangeBar::DiskChangeBar(SceneDocument& document, FileFlow& flow, MessageBar
         &document, &SceneDocument::modifiedChanged, this,
         [this] {
             if (m_reloadsByItself && !m_document.isModified() && m_disk.state() == DiskWatch::State::Changed)
-                m_flow.reload();
+                m_flow.reload(SceneReload::Trigger::Watch);
         },
         Qt::QueuedConnection);
 }
@@ -52,7 +52,7 @@ void DiskChangeBar::update()
         return;
     case DiskWatch::State::Changed:
         if (m_reloadsByItself && !m_document.isModified())
-            m_flow.reload();
+            m_flow.reload(SceneReload::Trigger::Watch);
         else
             ask();
         return;

@@ -119,7 +119,8 @@ void WindowMonkey::askForFile()
         break;
     }
     static const QStringList dialogs{QStringLiteral("fileSaveAs"), QStringLiteral("fileExport"),
-        QStringLiteral("fileOpen"), QStringLiteral("fileImport"), QStringLiteral("fileCompare")};
+        QStringLiteral("fileOpen"), QStringLiteral("fileImport"), QStringLiteral("fileCompare"),
+        QStringLiteral("fileReload")};
     m_window->findChild<QAction*>(dialogs.at(below(static_cast<int>(dialogs.size()))))->trigger();
 }
 
@@ -181,9 +182,9 @@ void WindowMonkey::pressRandomKey(QWidget* widget)
 QDialog* WindowMonkey::openDialog() const
 {
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    static const QSet<QString> ours{QStringLiteral("saveQuestion"), QStringLiteral("saveDialog"),
-        QStringLiteral("openDialog"), QStringLiteral("importDialog"), QStringLiteral("exportDialog"),
-        QStringLiteral("compareDialog")};
+    static const QSet<QString> ours{QStringLiteral("saveQuestion"), QStringLiteral("overwriteQuestion"),
+        QStringLiteral("saveDialog"), QStringLiteral("openDialog"), QStringLiteral("importDialog"),
+        QStringLiteral("exportDialog"), QStringLiteral("compareDialog")};
     return dialog != nullptr && ours.contains(dialog->objectName()) ? dialog : nullptr;
 }
 
@@ -194,6 +195,11 @@ void WindowMonkey::answer(QDialog* dialog)
     m_files.restorePart();
     if (auto* const files = qobject_cast<QFileDialog*>(dialog)) {
         choose(files);
+        return;
+    }
+    if (dialog->objectName() == QLatin1String("overwriteQuestion")) {
+        const auto buttons = qobject_cast<QMessageBox*>(dialog)->buttons();
+        QTest::mouseClick(buttons.at(below(static_cast<int>(buttons.size()))), Qt::LeftButton);
         return;
     }
     static const QList<QMessageBox::StandardButton> answers{

@@ -292,6 +292,23 @@ private Q_SLOTS:
         QTRY_VERIFY(fileMessages().isEmpty());
     }
 
+    void anEditDuringAReloadByItselfStopsIt()
+    {
+        m_window->setReloadsByItself(true);
+        std::string mine;
+        // The file is read from now on.
+        connect(&m_window->findChild<FileFlow*>()->disk(), &DiskWatch::changed, m_window.get(), [this, &mine] {
+            if (mine.empty()) {
+                renameRobot("machine");
+                mine = text();
+            }
+        });
+        writeFile(m_robot, changed);
+        QTRY_VERIFY(button("reloadFromDisk") != nullptr);
+        QCOMPARE(text(), mine);
+        QVERIFY(m_window->isWindowModified());
+    }
+
     void anEditDuringAReloadIsKeptInTheHistory()
     {
         writeFile(m_robot, changed);
