@@ -1,8 +1,11 @@
 #include "orvane/transfer/PackedScene.h"
 
-#include "orvane/transfer/PackedLists.h"
-
 #include "meridane/scene/fields/NxFieldData.h"
+#include "meridane/scene/fields/list/NxMFColorRGBA.h"
+#include "meridane/scene/fields/list/NxMFInt32.h"
+#include "meridane/scene/fields/list/NxMFVec2f.h"
+#include "meridane/scene/fields/list/NxMFVec3f.h"
+#include "meridane/scene/fields/list/NxMFVec4f.h"
 #include "meridane/scene/fields/single/NxSFImage.h"
 #include "meridane/scene/file/NxSceneWriter.h"
 #include "meridane/scene/nodes/NodeTraversal.h"
@@ -11,6 +14,27 @@
 #include <utility>
 
 namespace orvane {
+
+namespace {
+
+/// Calls the action with the field, cast to its class, if it is a list of positions, directions, colours or indices,
+/// which may be sent as bytes.
+template <typename Action>
+void withPackableList(NxField& field, const Action& action)
+{
+    const auto* const any = dynamic_cast<const NxMField*>(&field);
+    if (any == nullptr || any->plainRowBytes() == 0)
+        return;
+    const auto tryAs = [&]<typename List>(List* list) {
+        if (list != nullptr)
+            action(*list);
+        return list != nullptr;
+    };
+    static_cast<void>(tryAs(dynamic_cast<NxMFVec3f*>(&field)) || tryAs(dynamic_cast<NxMFVec2f*>(&field))
+        || tryAs(dynamic_cast<NxMFVec4f*>(&field)) || tryAs(dynamic_cast<NxMFInt32*>(&field)));
+}
+
+} // namespace
 
 PackedScene::PackedScene(NxGroup& scene)
 {

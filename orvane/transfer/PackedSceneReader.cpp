@@ -1,11 +1,9 @@
 #include "orvane/transfer/PackedSceneReader.h"
 
-#include "orvane/transfer/PackedLists.h"
-
 #include "meridane/scene/fields/NxFieldData.h"
+#include "meridane/scene/fields/NxMField.h"
 #include "meridane/scene/fields/single/NxSFImage.h"
 
-#include <cstring>
 #include <limits>
 #include <new>
 #include <stdexcept>
@@ -133,7 +131,10 @@ void PackedSceneReader::readValues(NxField& field)
 {
     bool fits = false;
     if (block().kind == PackedBlock::Kind::List) {
-        fits = withPackableList(field, [this](auto& list) { readList(list); });
+        auto* const list = dynamic_cast<NxMField*>(&field);
+        fits = list != nullptr && list->plainRowBytes() > 0;
+        if (fits)
+            readList(*list);
     } else if (auto* image = dynamic_cast<NxSFImage*>(&field)) {
         fits = true;
         readImage(*image);
@@ -142,22 +143,17 @@ void PackedSceneReader::readValues(NxField& field)
         failAtBlock("is for a field of another kind");
 }
 
-template <typename Values>
-void PackedSceneReader::readList(Values& list)
+void PackedSceneReader::readList(NxMField& list)
 {
-    using Value = ListValue<Values>;
     const std::vector<unsigned char>& bytes = block().bytes;
-    const std::size_t count = bytes.size() / sizeof(Value);
-    if (bytes.size() % sizeof(Value) != 0)
+    if (bytes.size() % list.plainRowBytes() != 0)
         return failAtBlock("ends within a value");
-    if (count > static_cast<std::size_t>(std::numeric_limits<int>::max()))
+    if (bytes.size() / list.plainRowBytes() > static_cast<std::size_t>(std::numeric_limits<int>::max()))
         return failAtBlock("has too many values");
     if (list.getNum() != 0)
         return failAtBlock("is for a field that has values already");
-    std::vector<Value> values(count);
-    if (count > 0) // an empty list may have no address
-        std::memcpy(values.data(), bytes.data(), bytes.size());
-    list.setValues(std::move(values));
+    if (!list.replacePlainRows(0, 0, {reinterpret_cast<const char*>(bytes.data()), bytes.size()}))
+        fail(noRoom);
 }
 
 void PackedSceneReader::readImage(NxSFImage& image)

@@ -13,6 +13,7 @@
 #include <string_view>
 #include <vector>
 
+class NxMField;
 class NxSFImage;
 
 namespace orvane {
@@ -50,8 +51,7 @@ private:
     void findNode();
     void readBlock();
     void readValues(NxField& field);
-    template <typename Values>
-    void readList(Values& list);
+    void readList(NxMField& list);
     void readImage(NxSFImage& image);
     [[nodiscard]] PackedBlock& block() { return m_blocks[m_done]; }
     void fail(std::string reason);
