@@ -93,7 +93,8 @@ QString RecoveryOffer::textFor(const AbandonedScene& scene)
     if (!scene.problem.isEmpty())
         return tr("%1 was open when Orvane ended unexpectedly. Its unsaved changes can't be recovered: %2.")
             .arg(name, scene.problem);
-    return tr("%1 was open when Orvane ended unexpectedly. %n unsaved change(s) can be recovered, up to %2.", nullptr,
-        static_cast<int>(scene.commit.steps))
-        .arg(name, timeText(scene.commit.time));
+    const QString changes
+        = scene.commit.steps == 1 ? tr("1 unsaved change") : tr("%1 unsaved changes").arg(scene.commit.steps);
+    return tr("%1 was open when Orvane ended unexpectedly. %2 can be recovered, up to %3.")
+        .arg(name, changes, timeText(scene.commit.time));
 }

@@ -24,7 +24,7 @@ private Q_SLOTS:
         m_window->startRecovery(folder());
         QTRY_COMPARE(offers().size(), 1);
         QVERIFY2(offers().front().startsWith(
-                     QStringLiteral("robot.mrd was open when Orvane ended unexpectedly. 1 unsaved change(s)")),
+                     QStringLiteral("robot.mrd was open when Orvane ended unexpectedly. 1 unsaved change can be")),
             qPrintable(offers().front()));
         QSignalSpy settled(m_window.get(), &MainWindow::settled);
         click("recoverScene");
