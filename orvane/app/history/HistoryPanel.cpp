@@ -109,6 +109,7 @@ void HistoryPanel::buildView()
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_view->addActions({m_goTo, m_putBack});
     m_view->installEventFilter(this);
+    m_view->viewport()->installEventFilter(this);
     connect(m_view->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
         m_columnsChosen = m_columnsChosen || (!m_sizingColumns && column != HistoryModel::TimeColumn);
     });
@@ -137,7 +138,7 @@ void HistoryPanel::buildBottomLine(QWidget* page)
 // States and times are of one length; the other columns share what is left.
 void HistoryPanel::sizeColumns()
 {
-    constexpr int stateCharacters = 12;
+    constexpr int stateCharacters = 15;
     constexpr int timeCharacters = 15;
     constexpr std::array shares{0.44, 0.28, 0.28};
     constexpr std::array leastCharacters{14, 8, 8};
@@ -152,19 +153,15 @@ void HistoryPanel::sizeColumns()
         m_view->setColumnWidth(HistoryModel::StepColumn + static_cast<int>(column), width);
         left -= width;
     }
-    // The header stretches it only when its own width changes.
+    // The header widens it, but doesn't make it narrower.
     m_view->setColumnWidth(HistoryModel::TimeColumn, left);
-}
-
-void HistoryPanel::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    if (!m_columnsChosen)
-        sizeColumns();
 }
 
 bool HistoryPanel::eventFilter(QObject* watched, QEvent* event)
 {
+    // A scroll bar takes of the width, too.
+    if (watched == m_view->viewport() && event->type() == QEvent::Resize && !m_columnsChosen)
+        sizeColumns();
     if (watched == m_view && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
@@ -227,7 +224,7 @@ void HistoryPanel::putBack()
     const auto history = m_model->history();
     if (!history)
         return;
-    const orvane::Result<> result = orvane::putBack(*history, selectedPosition() - 1);
+    const orvane::Result<> result = orvane::putBack(m_services, *history, selectedPosition() - 1);
     if (!result)
         m_messages.showMessage(MessageBar::Severity::Information, result.error(), putBackTopic);
 }

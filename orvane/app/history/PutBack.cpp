@@ -57,7 +57,7 @@ bool isInScene(const NxFieldContainer& node, NxGroup& scene)
     return &node == &scene || !findPath(&scene, &node).empty();
 }
 
-Result<> putNameBack(const PastState::History& history, int step, const ChangeRecord& record)
+Result<> putNameBack(OrvServices& services, const PastState::History& history, int step, const ChangeRecord& record)
 {
     auto* const node = dynamic_cast<NxNode*>(&record.node());
     VbString name;
@@ -67,11 +67,11 @@ Result<> putNameBack(const PastState::History& history, int step, const ChangeRe
     }
     if (name == node->getName())
         return Failure{tr("The node has this name already.")};
-    OrvServices::getInstance()->pushCommand(new RenameNodeCommand(node, name));
+    services.pushCommand(new RenameNodeCommand(node, name));
     return {};
 }
 
-Result<> putValueBack(const PastState::History& history, int step, const ChangeRecord& record)
+Result<> putValueBack(OrvServices& services, const PastState::History& history, int step, const ChangeRecord& record)
 {
     std::unique_ptr<ChangeRecord> older;
     {
@@ -88,7 +88,7 @@ Result<> putValueBack(const PastState::History& history, int step, const ChangeR
     }
     if (older->isSameAsNow())
         return Failure{tr("The field has this value already.")};
-    OrvServices::getInstance()->pushCommand(new ValueCommand(std::move(older)));
+    services.pushCommand(new ValueCommand(std::move(older)));
     return {};
 }
 
@@ -114,7 +114,7 @@ QString whyNotPutBack(const OrvStepList& steps, int step)
                       : tr("This step changed several values.");
 }
 
-Result<> putBack(const PastState::History& history, int step)
+Result<> putBack(OrvServices& services, const PastState::History& history, int step)
 {
     if (QString reason = whyNotPutBack(history.steps, step); !reason.isEmpty())
         return Failure{std::move(reason)};
@@ -126,7 +126,8 @@ Result<> putBack(const PastState::History& history, int step)
                "undo its removal.")
                 .arg(name)};
     }
-    return record.kind() == Kind::Name ? putNameBack(history, step, record) : putValueBack(history, step, record);
+    return record.kind() == Kind::Name ? putNameBack(services, history, step, record)
+                                       : putValueBack(services, history, step, record);
 }
 
 } // namespace orvane

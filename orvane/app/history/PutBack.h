@@ -5,6 +5,8 @@
 
 #include <QString>
 
+class OrvServices;
+
 /// Giving a field the value back that it had before a step of the history, without undoing what came after.
 namespace orvane {
 
@@ -14,6 +16,6 @@ namespace orvane {
 
 /// Writes the older value as a new step. Fails if the node isn't in the scene any more, if the field has that value
 /// already, or if `whyNotPutBack` has a reason.
-[[nodiscard]] Result<> putBack(const PastState::History& history, int step);
+[[nodiscard]] Result<> putBack(OrvServices& services, const PastState::History& history, int step);
 
 } // namespace orvane

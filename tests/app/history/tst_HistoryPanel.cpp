@@ -374,6 +374,9 @@ private Q_SLOTS:
             QTRY_COMPARE(m_window->width(), width);
             QTRY_VERIFY(fits());
         }
+        setNumbers(40); // which need a scroll bar
+        QTRY_VERIFY(view()->verticalScrollBar()->isVisible());
+        QTRY_VERIFY(fits());
         // The user's own widths stay.
         view()->horizontalHeader()->resizeSection(HistoryModel::StepColumn, 77);
         m_window->resize(900, 400);
