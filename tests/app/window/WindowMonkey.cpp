@@ -193,15 +193,11 @@ void WindowMonkey::answer(QDialog* dialog)
     ++m_done[dialog->objectName()];
     ++m_done[QStringLiteral("dialog")];
     m_files.restorePart();
-    if (auto* const files = qobject_cast<QFileDialog*>(dialog)) {
-        choose(files);
-        return;
-    }
-    if (dialog->objectName() == QLatin1String("overwriteQuestion")) {
-        const auto buttons = qobject_cast<QMessageBox*>(dialog)->buttons();
-        QTest::mouseClick(buttons.at(below(static_cast<int>(buttons.size()))), Qt::LeftButton);
-        return;
-    }
+    if (auto* const files = qobject_cast<QFileDialog*>(dialog))
+        return choose(files);
+    const auto buttons = qobject_cast<QMessageBox*>(dialog)->buttons();
+    if (dialog->objectName() == QLatin1String("overwriteQuestion"))
+        return QTest::mouseClick(buttons.at(below(static_cast<int>(buttons.size()))), Qt::LeftButton);
     static const QList<QMessageBox::StandardButton> answers{
         QMessageBox::Save, QMessageBox::Discard, QMessageBox::Discard, QMessageBox::Cancel};
     const QMessageBox::StandardButton chosen = answers.at(below(static_cast<int>(answers.size())));
