@@ -12,14 +12,14 @@ namespace {
 constexpr std::size_t indexList = attributes;
 constexpr unsigned int layoutWithIndices = 1U << indexList;
 /// The numbers of floats of the attributes.
-constexpr std::array<std::size_t, attributes> components{3, 3, 2, 4};
+constexpr std::array<std::size_t, attributes> attributeFloats{3, 3, 2, 4};
 /// Limits of a page that holds several meshes.
 constexpr std::uint32_t maxSharedVertices = 1U << 22U;
 constexpr std::uint32_t maxSharedIndices = 1U << 24U;
 
 std::size_t elementBytes(std::size_t list)
 {
-    return list == indexList ? sizeof(std::uint32_t) : components[list] * sizeof(float);
+    return list == indexList ? sizeof(std::uint32_t) : attributeFloats[list] * sizeof(float);
 }
 
 bool hasList(unsigned int layout, std::size_t list)
@@ -271,7 +271,7 @@ Id MeshStore::makePage(std::span<const Transfer> transfers, std::size_t first)
             continue;
         const auto place = static_cast<GLuint>(list);
         m_gl.EnableVertexAttribArray(place);
-        m_gl.VertexAttribPointer(place, static_cast<GLint>(components[list]), GL_FLOAT, GL_FALSE, 0, nullptr);
+        m_gl.VertexAttribPointer(place, static_cast<GLint>(attributeFloats[list]), GL_FLOAT, GL_FALSE, 0, nullptr);
     }
     m_bytes += page.bytes;
     // Drawing from a buffer whose allocation failed could read any memory.

@@ -170,14 +170,14 @@ void main()
 SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant variant)
 {
     std::string head = "#define UNLIT 0\n#define SMOOTH 1\n#define FLAT 2\n#define LINE 3\n";
-    const auto define = [&head](const char* name, LightKind kind) {
-        head += std::string("#define ") + name + " " + std::to_string(static_cast<int>(kind)) + "\n";
+    const auto define = [&head](const char* name, int value) {
+        head.append("#define ").append(name).append(" ").append(std::to_string(value)).append("\n");
     };
-    define("DIRECTIONAL", LightKind::Directional);
-    define("POINT", LightKind::Point);
-    define("AT_CAMERA", LightKind::AtCamera);
-    head += "#define LIGHT " + std::to_string(static_cast<int>(variant.light)) + "\n";
-    head += "#define MAX_LIGHTS " + std::to_string(LightList::maxLights) + "\n";
+    define("DIRECTIONAL", static_cast<int>(LightKind::Directional));
+    define("POINT", static_cast<int>(LightKind::Point));
+    define("AT_CAMERA", static_cast<int>(LightKind::AtCamera));
+    define("LIGHT", static_cast<int>(variant.light));
+    define("MAX_LIGHTS", LightList::maxLights);
     head += variant.isTextured ? "#define TEXTURED\n" : "";
     head += variant.hasColors ? "#define COLORED\n" : "";
     SurfaceProgram result{GLProgram(gl, "meshes", head + vertexSource, head + fragmentSource)};
