@@ -30,7 +30,7 @@ public:
 
     /// With `Base::File` the scene must be as a reader of that file gives it, which isn't so if the writer of the file
     /// mapped its file paths (`NxSceneWriter::setPathMap`). The journal must record, and outlive the capture. `clock`
-    /// gives the times in the file.
+    /// gives the times in the file. May throw `std::bad_alloc`.
     RecoveryCapture(Journal& journal, RecoveryDescription description, Clock clock = &std::chrono::system_clock::now);
     ~RecoveryCapture();
     RecoveryCapture(const RecoveryCapture&) = delete;

@@ -11,6 +11,18 @@
 
 namespace meridane {
 
+template <typename Action>
+void RecoveryReplay::doWithinMemory(const Action& action)
+{
+    try {
+        action();
+    } catch (const std::bad_alloc&) {
+        fail("the scene doesn't fit in memory");
+    } catch (const std::length_error&) {
+        fail("the scene doesn't fit in memory");
+    }
+}
+
 RecoveryReplay::RecoveryReplay(const RecoveryFileReader& file, NxRef<NxGroup> base)
 {
     assert(file.state() == RecoveryFileReader::State::Done && "there is a commit");
@@ -20,7 +32,9 @@ RecoveryReplay::RecoveryReplay(const RecoveryFileReader& file, NxRef<NxGroup> ba
                   : "its changes begin from the file " + description.fileName + ", which is missing");
         return;
     }
-    m_replay = std::make_unique<OperationReplay>(file.operations(), std::move(base), description.nodeCount);
+    doWithinMemory([&] {
+        m_replay = std::make_unique<OperationReplay>(file.operations(), std::move(base), description.nodeCount);
+    });
 }
 
 RecoveryReplay::~RecoveryReplay() = default;
@@ -29,18 +43,14 @@ RecoveryReplay::State RecoveryReplay::step(const WorkBudget& budget)
 {
     if (m_state != State::Working)
         return m_state;
-    try {
+    doWithinMemory([&] {
         if (m_replay->step(budget))
-            return m_state;
+            return;
         if (m_replay->failure().empty())
             m_state = State::Done;
         else
             fail(m_replay->failure());
-    } catch (const std::bad_alloc&) {
-        fail("the scene doesn't fit in memory");
-    } catch (const std::length_error&) {
-        fail("the scene doesn't fit in memory");
-    }
+    });
     return m_state;
 }
 

@@ -43,6 +43,8 @@ public:
     [[nodiscard]] NxRef<NxGroup> takeScene();
 
 private:
+    template <typename Action>
+    void doWithinMemory(const Action& action);
     void fail(std::string reason);
 
     std::unique_ptr<OperationReplay> m_replay;

@@ -3,6 +3,7 @@
 #include "meridane/base/values/VbString.h"
 #include "meridane/scene/fields/NxMField.h"
 #include "meridane/scene/fields/single/NxSFImage.h"
+#include "meridane/scene/text/TextReader.h"
 
 #include <algorithm>
 #include <limits>
@@ -19,6 +20,7 @@ constexpr int replayedNodesPerLook = 256;
 constexpr std::uint64_t mostRows = std::numeric_limits<int>::max();
 constexpr const char* incompleteOperation = "an operation is incomplete";
 constexpr const char* noSuchRows = "rows of a list that it replaces aren't there";
+constexpr const char* listTooLong = "a list doesn't fit in memory";
 constexpr const char* otherField = "a field that it changes is of another type";
 
 } // namespace
@@ -185,7 +187,9 @@ bool OperationReplay::setValue()
     m_content += text;
     if (!endPart(parts))
         return true;
-    return field->set(VbString(std::exchange(m_content, {}))) || fail("a value can't be read");
+    TextReader reader(m_content);
+    const auto progress = field->readText(reader, true, std::numeric_limits<std::size_t>::max());
+    return (progress == NxField::Progress::Done && reader.expectEnd()) || fail("a value can't be read");
 }
 
 bool OperationReplay::setImage()
@@ -232,7 +236,10 @@ bool OperationReplay::replacePlainRows()
     auto* const list = dynamic_cast<NxMField*>(field);
     if (list == nullptr || list->plainRowBytes() == 0)
         return fail(otherField);
-    return list->replacePlainRows(static_cast<int>(start), static_cast<int>(count), bytes) || fail(noSuchRows);
+    const auto rows = static_cast<std::uint64_t>(list->getNum());
+    if (start > rows || count > rows - start || bytes.size() % list->plainRowBytes() != 0)
+        return fail(noSuchRows);
+    return list->replacePlainRows(static_cast<int>(start), static_cast<int>(count), bytes) || fail(listTooLong);
 }
 
 bool OperationReplay::replaceTextRows()
@@ -258,7 +265,7 @@ bool OperationReplay::replaceTextRows()
     list->deleteValues(firstNew, static_cast<int>(removed - kept));
     list->insertSpace(firstNew, static_cast<int>(count - kept));
     if (static_cast<std::uint64_t>(list->getNum()) != rows - removed + count)
-        return fail("a list doesn't fit in memory");
+        return fail(listTooLong);
     for (std::uint64_t i = 0; i < count; ++i) {
         std::string_view text;
         if (!m_reader.text(text))
