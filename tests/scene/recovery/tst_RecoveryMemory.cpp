@@ -69,7 +69,8 @@ private:
         m_probe->size.setIgnored(1);
         m_probe->setName("a name that is longer than a short one");
         const NxRef<NxTransform> group(new NxTransform);
-        group->addChild(new NxFieldGallery);
+        const NxRef<NxFieldGallery> gallery(new NxFieldGallery);
+        group->addChild(gallery.get());
         group->addChild(m_probe.get());
         m_root->addChild(group.get());
     }
