@@ -297,7 +297,8 @@ private Q_SLOTS:
         m_window->setReloadsByItself(true);
         std::string mine;
         // The file is read from now on.
-        connect(&m_window->findChild<FileFlow*>()->disk(), &DiskWatch::changed, m_window.get(), [this, &mine] {
+        const QObject guard;
+        connect(&m_window->findChild<FileFlow*>()->disk(), &DiskWatch::changed, &guard, [this, &mine] {
             if (mine.empty()) {
                 renameRobot("machine");
                 mine = text();
