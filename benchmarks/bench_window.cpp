@@ -1,4 +1,5 @@
-// The tool's window with a large scene: what a selection costs, and for how long opening and closing hold it up.
+// The tool's window with a large scene: what a selection costs, and for how long opening, closing and the like hold it
+// up.
 
 #include "Figure.h"
 #include "LargeScene.h"
@@ -6,6 +7,8 @@
 #include "Timing.h"
 
 #include "orvane/app/compare/SceneComparer.h"
+#include "orvane/app/recovery/SceneRecovery.h"
+#include "orvane/app/scene/NodeCommands.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/window/MainWindow.h"
@@ -17,9 +20,11 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QFile>
+#include <QTemporaryDir>
 #include <QTreeView>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -68,6 +73,26 @@ public:
     {
         const double closing = bench::seconds([this] { window.document().close(); });
         return std::max(closing, longestTurn([this] { return !session.disposal().isBusy(); }));
+    }
+
+    /// Keeps the scene in a recovery file, first with one change, then as a whole. Gives the longest times for which
+    /// the window didn't answer.
+    std::array<double, 2> keep()
+    {
+        const QTemporaryDir folder;
+        SceneRecovery recovery(session.services(), session.document(), RecoveryFolder(folder.path()), {});
+        bool isKept = false;
+        QObject::connect(&recovery, &SceneRecovery::kept, &recovery, [&isKept] { isKept = true; });
+        session.services().pushCommand(
+            new RenameNodeCommand(session.document().scene()->getChild(0), VbString("changed")));
+        std::array<double, 2> longest{};
+        longest[0] = longestTurn([&isKept] { return isKept; });
+        isKept = false;
+        recovery.leaveFile();
+        longest[1] = longestTurn([&isKept, &recovery] { return isKept && !recovery.isReplacing(); });
+        session.services().undo();
+        bench::settle();
+        return longest;
     }
 
     /// Selects two nodes in the middle of the scene in turn; gives the times.
@@ -154,6 +179,16 @@ int main(int argc, char** argv)
                                  : "comparing 1,000,000 nodes, one different: longest wait of the window",
             "ms", bench::median(comparing), 0, 100});
     }
+    std::array<std::vector<double>, 2> keeping;
+    for (int round = 0; round < rounds; ++round) {
+        const std::array<double, 2> longest = tool.keep();
+        for (std::size_t i = 0; i < keeping.size(); ++i)
+            keeping[i].push_back(longest[i] * millisecondsPerSecond);
+    }
+    bench::report({"keeping a change of 1,000,000 nodes for recovery: longest wait of the window", "ms",
+        bench::median(keeping[0]), 0, 8});
+    bench::report({"keeping all of 1,000,000 nodes for recovery: longest wait of the window", "ms",
+        bench::median(keeping[1]), 0, 8});
     QFile::remove(small);
     QFile::remove(large);
     return 0;

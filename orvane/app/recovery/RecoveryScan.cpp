@@ -19,8 +19,8 @@ struct RecoveryScan::Work {
     std::unique_ptr<LockedFile> file;
     meridane::FileReader bytesReader;
     std::string bytes;
-    std::unique_ptr<meridane::RecoveryFileReader> reader = {}; // once the bytes are there
-    std::unique_ptr<meridane::FileHasher> base = {}; // once the entries are read, if they begin from a file
+    std::unique_ptr<meridane::RecoveryFileReader> reader; // once the bytes are there
+    std::unique_ptr<meridane::FileHasher> base; // once the entries are read, if they begin from a file
     bool isOpen = false;
 };
 
@@ -44,7 +44,8 @@ void RecoveryScan::startNext()
     m_work.reset();
     if (m_waiting.empty())
         return;
-    m_work.reset(new Work{std::move(m_waiting.back()), {}, {}});
+    m_work = std::make_unique<Work>();
+    m_work->file = std::move(m_waiting.back());
     m_waiting.pop_back();
 }
 

@@ -1,5 +1,7 @@
 #include "orvane/app/recovery/RecoveryWriterWork.h"
 
+#include <QTimerEvent>
+
 #include <utility>
 
 RecoveryWriterWork::RecoveryWriterWork(std::unique_ptr<LockedFile> file)

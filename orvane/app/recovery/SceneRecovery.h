@@ -44,6 +44,8 @@ public:
     /// The scene's file doesn't hold any more what the scene was read from or saved as, so that changes can't begin
     /// from it.
     void leaveFile();
+    /// Whether a new file is being written that will take the place of the present one.
+    [[nodiscard]] bool isReplacing() const noexcept { return m_replacement != nullptr; }
 
 Q_SIGNALS:
     /// The file has the scene as it is now: a crash of the program would lose nothing. A crash of the system may lose
