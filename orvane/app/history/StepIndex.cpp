@@ -121,21 +121,18 @@ void StepIndex::add(const StepPlace& place)
 
 int StepIndex::findFirst(const StepPlace& place, int begin, int end) const
 {
-    for (const Entry& entry : entriesOf(place, begin, end)) {
-        if (const int index = indexOf(entry); index >= 0)
-            return index;
-    }
-    return -1;
+    const auto entries = entriesOf(place, begin, end);
+    const auto found
+        = std::find_if(entries.begin(), entries.end(), [this](const Entry& entry) { return isThere(entry); });
+    return found != entries.end() ? indexOf(*found) : -1;
 }
 
 int StepIndex::findLast(const StepPlace& place, int begin, int end) const
 {
     const auto entries = entriesOf(place, begin, end);
-    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
-        if (const int index = indexOf(*entry); index >= 0)
-            return index;
-    }
-    return -1;
+    const auto found
+        = std::find_if(entries.rbegin(), entries.rend(), [this](const Entry& entry) { return isThere(entry); });
+    return found != entries.rend() ? indexOf(*found) : -1;
 }
 
 std::span<const StepIndex::Entry> StepIndex::entriesOf(const StepPlace& place, int begin, int end) const
@@ -150,9 +147,9 @@ std::span<const StepIndex::Entry> StepIndex::entriesOf(const StepPlace& place, i
     return {find(begin), find(end)};
 }
 
-/// The index of the step; -1 if it is gone and another one may be in its place.
-int StepIndex::indexOf(const Entry& entry) const
+// The step may be gone, and another one in its place.
+bool StepIndex::isThere(const Entry& entry) const
 {
-    const auto index = static_cast<int>(entry.place - m_dropped);
-    return index < static_cast<int>(m_counts.size()) && m_steps.number(index) == entry.number ? index : -1;
+    const int index = indexOf(entry);
+    return index < static_cast<int>(m_counts.size()) && m_steps.number(index) == entry.number;
 }

@@ -52,7 +52,8 @@ private:
     };
 
     [[nodiscard]] std::span<const Entry> entriesOf(const StepPlace& place, int begin, int end) const;
-    [[nodiscard]] int indexOf(const Entry& entry) const;
+    [[nodiscard]] int indexOf(const Entry& entry) const { return static_cast<int>(entry.place - m_dropped); }
+    [[nodiscard]] bool isThere(const Entry& entry) const;
     bool readStep(const meridane::WorkBudget& budget);
     void add(const StepPlace& place);
     void forgetAfter(std::size_t steps);

@@ -65,7 +65,7 @@ QString recordedText(ChangeRecord& record)
 {
     const ChangeRecord::Extent extent = record.extent();
     record.show();
-    const QString text = record.kind() == ChangeRecord::Kind::Rows
+    QString text = record.kind() == ChangeRecord::Kind::Rows
         ? rowsText(dynamic_cast<const NxMField&>(*record.field()), 0, extent.recorded, extent.start)
         : presentText(record);
     record.show();
