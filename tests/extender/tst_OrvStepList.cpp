@@ -58,6 +58,7 @@ private:
         return result;
     }
 
+    QStringList m_calls; // which commands write to until they are destroyed
     std::unique_ptr<OrvServices> m_services;
     NxRef<NxGroup> m_scene;
     NxRef<NxFieldGallery> m_gallery;
@@ -294,8 +295,7 @@ private Q_SLOTS:
 
     void commandsThatChangeNothingAreNoChangeOfTheList()
     {
-        QStringList calls;
-        m_services->pushCommand(new TestCommand(u"a"_s, calls));
+        m_services->pushCommand(new TestCommand(u"a"_s, m_calls));
         HistoryWalk::settle();
         QCOMPARE(steps().count(), 1);
         QVERIFY(steps().label(0).isEmpty() && steps().changes(0) == nullptr);
