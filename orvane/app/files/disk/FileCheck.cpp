@@ -2,6 +2,8 @@
 
 #include "orvane/app/base/TextConversion.h"
 
+#include <QTimerEvent>
+
 #include <sys/stat.h>
 
 namespace {
