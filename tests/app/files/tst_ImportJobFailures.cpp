@@ -3,6 +3,7 @@
 #include "app/files/ImportJobCase.h"
 #include "import/ChildProcesses.h"
 
+#include <QScopeGuard>
 #include <QTest>
 
 #include <csignal>
@@ -82,10 +83,10 @@ private Q_SLOTS:
     void settingsOfTheUsersHeapGoOnToTheHelper()
     {
         qputenv("GLIBC_TUNABLES", "glibc.malloc.check=1:glibc.malloc.tcache_count=3");
+        const auto unset = qScopeGuard([] { qunsetenv("GLIBC_TUNABLES"); });
         ImportJob job(QStringLiteral("box.obj"), fakeHelper(m_folder, "echo \"$GLIBC_TUNABLES\" >&2; exit 1"));
         const JobRecord record(job);
         job.start();
-        qunsetenv("GLIBC_TUNABLES");
         QVERIFY(record.waitForEnd());
         // The last one counts.
         QVERIFY2(record.message().endsWith(QStringLiteral(":glibc.malloc.check=1:glibc.malloc.tcache_count=3")),
@@ -112,10 +113,10 @@ private Q_SLOTS:
         const QString fileName = m_folder.filePath(QStringLiteral("large.obj"));
         writeFile(fileName, QByteArray("v 0 0 0\n").repeated(8 << 20));
         qputenv("ORVANE_IMPORT_MEMORY", "100");
+        const auto unset = qScopeGuard([] { qunsetenv("ORVANE_IMPORT_MEMORY"); });
         ImportJob job(fileName, realHelper());
         const JobRecord record(job);
         job.start();
-        qunsetenv("ORVANE_IMPORT_MEMORY");
         QVERIFY(record.waitForEnd());
         QCOMPARE(record.messages,
             QStringList(QStringLiteral("out of memory: the model needs more than the 100 MiB that it may take")));
