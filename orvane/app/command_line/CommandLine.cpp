@@ -152,7 +152,7 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
         if (parser.values(option).size() > 1)
             return Failure{QStringLiteral("%1 can be given once only.").arg(nameOf(option))};
     }
-    if (const auto watch = checkWatch(parser, options); !watch)
+    if (auto watch = checkWatch(parser, options); !watch)
         return watch;
     return checkFiles(parser.positionalArguments(), parser.isSet(options.diff), parser.isSet(options.json));
 }

@@ -9,4 +9,7 @@ class RecoveryThread : public QThread {
 public:
     RecoveryThread();
     ~RecoveryThread() override;
+
+private:
+    QObject* m_end; // lives in the thread, which quits when it is deleted
 };
