@@ -48,9 +48,9 @@ double goBack(bool recorded)
         // As the editors do: the field is written first.
         auto command = std::make_unique<SetValueCommand>(*fields[i % 3]);
         fields[i % 3]->set(VbString(texts[i % 3]));
-        history.push(std::move(command), {-1, fields[i % 3], gallery.get(), gallery.get()});
+        history.push(std::move(command), {i, fields[i % 3], gallery.get(), gallery.get()});
+        history.finishStep(); // as at the end of each action
     }
-    history.finishStep();
     return bench::seconds([&history] {
         while (history.canUndo()) {
             history.undo();

@@ -66,10 +66,10 @@ double changeRows(int rows, const std::vector<Change>& changes)
     const Scene scene;
     scene.gallery->mfFloat.setValues(std::vector<float>(static_cast<std::size_t>(rows), 1));
     const auto journal = record(*scene.root);
-    std::vector<std::unique_ptr<JournalStep>> steps;
+    std::vector<JournalStep> steps;
     const auto makeStep = [&](const Change& change) {
         change(scene.gallery->mfFloat);
-        steps.push_back(journal->finishStep());
+        steps.push_back(*journal->finishStep());
     };
     for (const Change& change : changes)
         makeStep(change); // the list allocates what it needs
@@ -116,12 +116,12 @@ void measureMemory()
     for (int i = 0; i < nodes; ++i)
         scene.root->addChild(new NxFieldGallery);
     const auto journal = record(*scene.root);
-    std::vector<std::unique_ptr<JournalStep>> kept;
+    std::vector<JournalStep> kept;
     const std::size_t before = allocatedBytes();
     for (int step = 0; step < steps; ++step) {
         for (int i = 1; i <= nodes; ++i)
             static_cast<NxFieldGallery*>(scene.root->getChild(i))->sfFloat.setValue(static_cast<float>(step + 1));
-        kept.push_back(journal->finishStep());
+        kept.push_back(*journal->finishStep());
     }
     constexpr double megabyte = 1 << 20;
     bench::report({"journal: memory of 1,000,000 records", "MB",

@@ -160,14 +160,34 @@ bool Journal::hasChanges() const
     return StepRecords::haveChanges(m_records);
 }
 
-std::unique_ptr<JournalStep> Journal::finishStep()
+std::optional<JournalStep> Journal::finishStep()
 {
     if (m_records.empty())
-        return nullptr;
+        return std::nullopt;
     closeRecords();
     JournalStep::Records records = std::exchange(m_records, {});
     StepRecords::removeUnchanged(records);
-    return records.empty() ? nullptr : std::make_unique<JournalStep>(std::move(records));
+    return records.empty() ? std::nullopt : std::optional<JournalStep>(std::in_place, std::move(records));
+}
+
+void Journal::moveOver(JournalStep* step, void (JournalStep::*move)())
+{
+    // The commands of most steps do it themselves.
+    if (step != nullptr && giveMove(*step))
+        return;
+    revertStep();
+    if (step != nullptr)
+        (step->*move)();
+}
+
+bool Journal::giveMove(JournalStep& step)
+{
+    if (m_records.size() != 1 || !step.takeMove(m_records.front()))
+        return false;
+    m_records.clear(); // which keeps its memory for the next undo
+    step.records().front()->close();
+    closeRecords();
+    return true;
 }
 
 void Journal::revertStep()

@@ -69,8 +69,14 @@ public:
     [[nodiscard]] std::span<const std::unique_ptr<ChangeRecord>> records() const noexcept { return m_records; }
     /// The memory of the open step in bytes, approximately.
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
-    /// Ends the open step and begins another one. Null if the step changed nothing.
-    [[nodiscard]] std::unique_ptr<JournalStep> finishStep();
+    /// Ends the open step and begins another one. Nothing if the step changed nothing.
+    [[nodiscard]] std::optional<JournalStep> finishStep();
+    /// Undoes or redoes a step, as `move` says, whatever the open step did before, such as the commands of the step.
+    /// Begins another open step. Null for a step without changes.
+    void moveOver(JournalStep* step, void (JournalStep::*move)());
+    /// If the open step has done all that undoing or redoing that step would do (see `JournalStep::takeMove`): the step
+    /// takes it over, and another open step begins. Returns whether it was so.
+    [[nodiscard]] bool giveMove(JournalStep& step);
     /// Puts the scene back to its state when the open step began, notifies the observers, and begins another step.
     void revertStep();
 

@@ -4,6 +4,7 @@
 #include "meridane/scene/journal/detail/StepRecords.h"
 
 #include <set>
+#include <span>
 #include <tuple>
 #include <unordered_map>
 #include <unordered_set>
@@ -13,7 +14,7 @@ namespace meridane {
 
 namespace {
 
-std::size_t bytesOf(const JournalStep::Records& records)
+std::size_t bytesOf(std::span<const std::unique_ptr<ChangeRecord>> records)
 {
     std::size_t bytes = 0;
     for (const auto& record : records)
@@ -53,51 +54,84 @@ private:
 } // namespace
 
 JournalStep::JournalStep(Records records)
-    : m_records(std::move(records))
-    , m_bytes(bytesOf(m_records))
 {
+    set(std::move(records));
 }
 
 JournalStep::~JournalStep() = default;
 
 void JournalStep::undo()
 {
-    StepRecords::moveBack(m_records);
-    StepRecords::notify(m_records);
+    StepRecords::moveBack(records());
+    StepRecords::notify(records());
 }
 
 void JournalStep::redo()
 {
-    StepRecords::moveForward(m_records);
-    StepRecords::notify(m_records);
+    StepRecords::moveForward(records());
+    StepRecords::notify(records());
+}
+
+bool JournalStep::takeMove(std::unique_ptr<ChangeRecord>& record)
+{
+    if (m_only == nullptr)
+        return false;
+    auto& own = m_only;
+    const bool isWhole = own->kind() != ChangeRecord::Kind::Rows && own->kind() != ChangeRecord::Kind::Children;
+    const bool isSamePlace
+        = own->kind() == record->kind() && own->field() == record->field() && &own->node() == &record->node();
+    if (!isWhole || !isSamePlace || !own->isSameAsNow())
+        return false;
+    // It recorded the state on the other side of the step.
+    own = std::move(record);
+    own->notify();
+    return true;
 }
 
 bool JournalStep::append(JournalStep&& next)
 {
     WholePlaces places;
-    for (const auto& record : m_records)
+    for (const auto& record : records())
         places.add(*record);
-    for (auto& record : next.m_records) {
+    Records all = take();
+    for (auto& record : next.take()) {
         if (places.add(*record))
-            m_records.push_back(std::move(record));
+            all.push_back(std::move(record));
     }
-    next.m_records.clear();
-    StepRecords::removeUnchanged(m_records);
-    m_bytes = bytesOf(m_records);
-    return !m_records.empty();
+    StepRecords::removeUnchanged(all);
+    set(std::move(all));
+    return !records().empty();
 }
 
 bool JournalStep::isReversedBy(const JournalStep& next) const
 {
     PlaceSnapshots present;
-    present.add(m_records);
-    present.add(next.m_records);
-    StepRecords::undo(next.m_records);
-    StepRecords::undo(m_records);
+    present.add(records());
+    present.add(next.records());
+    StepRecords::undo(next.records());
+    StepRecords::undo(records());
     const bool same = present.areSameAsNow();
-    StepRecords::redo(m_records);
-    StepRecords::redo(next.m_records);
+    StepRecords::redo(records());
+    StepRecords::redo(next.records());
     return same;
+}
+
+void JournalStep::set(Records records)
+{
+    m_bytes = bytesOf(records);
+    if (records.size() == 1)
+        m_only = std::move(records.front());
+    else
+        m_several = std::move(records);
+}
+
+JournalStep::Records JournalStep::take()
+{
+    Records records = std::move(m_several);
+    if (m_only != nullptr)
+        records.push_back(std::move(m_only));
+    m_several.clear();
+    return records;
 }
 
 } // namespace meridane

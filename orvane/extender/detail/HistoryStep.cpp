@@ -41,7 +41,7 @@ void HistoryStep::redoCommands()
 
 void HistoryStep::updateLabel(const NxGroup& scene)
 {
-    if (m_changes == nullptr)
+    if (!m_changes)
         m_label = {};
     else if (m_givenLabel.isEmpty())
         m_label = orvane::labelOf(*m_changes, scene);
@@ -59,16 +59,16 @@ void HistoryStep::appendCommands(HistoryStep&& step)
 
 void HistoryStep::append(HistoryStep&& step)
 {
-    if (m_changes == nullptr)
+    if (!m_changes)
         m_changes = std::move(step.m_changes);
-    else if (step.m_changes != nullptr && !m_changes->append(std::move(*step.m_changes)))
+    else if (step.m_changes && !m_changes->append(std::move(*step.m_changes)))
         m_changes.reset();
     appendCommands(std::move(step));
 }
 
 std::size_t HistoryStep::bytes() const
 {
-    return bytesPerStep + m_commandBytes + (m_changes != nullptr ? m_changes->bytes() : 0);
+    return bytesPerStep + m_commandBytes + (m_changes ? m_changes->bytes() : 0);
 }
 
 void HistoryStep::hold(NxFieldContainer* node)

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -50,12 +51,13 @@ public:
     void redoCommands();
 
     /// What the step changed; null for a step that changed nothing, and without a journal.
-    [[nodiscard]] meridane::JournalStep* changes() const noexcept { return m_changes.get(); }
+    [[nodiscard]] meridane::JournalStep* changes() noexcept { return m_changes ? &*m_changes : nullptr; }
+    [[nodiscard]] const meridane::JournalStep* changes() const noexcept { return m_changes ? &*m_changes : nullptr; }
     /// Says in some words what the step changed; empty without changes.
     [[nodiscard]] const QString& label() const noexcept { return m_label.text; }
     /// The class of the node that the step changed; the bad type if it is about none or several.
     [[nodiscard]] NxType nodeType() const noexcept { return m_label.nodeType; }
-    void setChanges(std::unique_ptr<meridane::JournalStep> changes) { m_changes = std::move(changes); }
+    void setChanges(std::optional<meridane::JournalStep> changes) { m_changes = std::move(changes); }
     /// Makes the label. `scene` holds the top nodes. The scene is in the state directly after the step.
     void updateLabel(const NxGroup& scene);
     /// Sets what `updateLabel` uses in place of words of its own; empty for nothing.
@@ -83,7 +85,7 @@ private:
     std::chrono::system_clock::time_point m_time = std::chrono::system_clock::now();
     std::size_t m_commandBytes = 0;
     std::uint64_t m_state = 0;
-    std::unique_ptr<meridane::JournalStep> m_changes;
+    std::optional<meridane::JournalStep> m_changes;
     // Declared after the nodes, so that the commands are destroyed first.
     std::vector<NxRef<NxFieldContainer>> m_nodes;
     std::vector<std::unique_ptr<OrvCommand>> m_commands;

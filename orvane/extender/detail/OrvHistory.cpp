@@ -104,13 +104,13 @@ bool OrvHistory::closeStep()
     m_hasOpenChanges = false;
     if (!isStepOpen())
         return false;
-    auto changes = m_journal != nullptr ? m_journal->finishStep() : nullptr;
+    auto changes = m_journal != nullptr ? m_journal->finishStep() : std::nullopt;
     auto step = std::move(m_open);
     if (!step && !changes)
         return false; // what was written has been written back
     if (!step)
         step = std::make_unique<HistoryStep>(m_origin);
-    const bool changed = m_journal == nullptr || changes != nullptr;
+    const bool changed = m_journal == nullptr || changes.has_value();
     step->setChanges(std::move(changes));
     if (changed)
         keep(std::move(step));
@@ -259,9 +259,7 @@ bool OrvHistory::endStepToMove()
 void OrvHistory::finishMove(HistoryStep& step, void (meridane::JournalStep::*move)())
 {
     if (m_journal != nullptr && m_moves == Moves::Exact) {
-        m_journal->revertStep();
-        if (step.changes() != nullptr)
-            (step.changes()->*move)();
+        m_journal->moveOver(step.changes(), move);
         m_takeBacks = mostTakeBacks;
     }
     enterState(stateAt(m_position), step);
@@ -275,7 +273,7 @@ void OrvHistory::enterState(std::uint64_t state, HistoryStep& step)
     }
     // The commands may have left the scene in any state.
     auto moved = m_journal->finishStep();
-    if (moved == nullptr)
+    if (!moved)
         return;
     const bool isThere = step.changes() != nullptr && step.changes()->isReversedBy(*moved);
     m_state = isThere ? state : ++m_latestState;

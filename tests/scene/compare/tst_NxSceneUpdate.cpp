@@ -48,8 +48,8 @@ QString check(const NxRef<NxGroup>& scene, const NxRef<NxGroup>& other)
     changes.exchange();
     if (textOf(scene) != after)
         return QStringLiteral("not changed");
-    const auto step = journal.finishStep();
-    if ((step == nullptr) != (before == after))
+    auto step = journal.finishStep();
+    if (!step != (before == after))
         return QStringLiteral("a step without a difference, or none with one");
     changes.exchange();
     if (textOf(scene) != before)
@@ -57,7 +57,7 @@ QString check(const NxRef<NxGroup>& scene, const NxRef<NxGroup>& other)
     journal.revertStep();
     if (textOf(scene) != after)
         return QStringLiteral("not changed again");
-    if (step == nullptr)
+    if (!step)
         return {};
     step->undo();
     if (textOf(scene) != before)

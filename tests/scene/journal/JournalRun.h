@@ -28,7 +28,7 @@ public:
         auto step = m_journal.finishStep();
         if (!step)
             return nullptr;
-        m_steps.push_back(std::move(step));
+        m_steps.push_back(std::make_unique<meridane::JournalStep>(std::move(*step)));
         return m_steps.back().get();
     }
     [[nodiscard]] std::vector<std::unique_ptr<meridane::JournalStep>>& steps() { return m_steps; }

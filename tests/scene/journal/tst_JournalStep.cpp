@@ -104,6 +104,74 @@ private Q_SLOTS:
         QCOMPARE(gallery->mfInt32.getNum(), 0);
     }
 
+    void aWriteThatDoesTheUndoIsTakenOver()
+    {
+        const NxRef<NxGroup> scene(new NxGroup);
+        const NxRef<NxFieldGallery> gallery(new NxFieldGallery);
+        scene->addChild(gallery.get());
+        JournalRun run(*scene);
+        gallery->sfInt32.setValue(1);
+        static_cast<void>(run.finish());
+        gallery->sfInt32.setValue(2);
+        meridane::JournalStep* const step = run.finish();
+        const std::string after = run.text();
+        gallery->sfInt32.setValue(1);
+        const std::string before = run.text();
+        QVERIFY(run.journal().giveMove(*step));
+        QVERIFY(!run.journal().hasRecords());
+        for (int i = 0; i < 2; ++i) {
+            step->redo();
+            QCOMPARE(run.text(), after);
+            step->undo();
+            QCOMPARE(run.text(), before);
+        }
+        gallery->sfInt32.setValue(2); // the same for redo
+        QVERIFY(run.journal().giveMove(*step));
+        step->undo();
+        QCOMPARE(run.text(), before);
+        // The next write is recorded again.
+        gallery->sfInt32.setValue(5);
+        QVERIFY(run.finish() != nullptr);
+    }
+
+    void aWriteThatDoesSomethingElseIsNotTakenOver()
+    {
+        const NxRef<NxGroup> scene(new NxGroup);
+        const NxRef<NxFieldGallery> gallery(new NxFieldGallery);
+        scene->addChild(gallery.get());
+        JournalRun run(*scene);
+        gallery->sfInt32.setValue(2);
+        meridane::JournalStep* const single = run.finish();
+        QVERIFY(!run.journal().giveMove(*single)); // nothing was written
+        gallery->sfInt32.setValue(7); // another value
+        QVERIFY(!run.journal().giveMove(*single));
+        run.journal().revertStep();
+        gallery->sfUInt32.setValue(0); // the same in another field
+        QVERIFY(!run.journal().giveMove(*single));
+        run.journal().revertStep();
+        gallery->sfInt32.setIgnored(1); // the flag of that field
+        QVERIFY(!run.journal().giveMove(*single));
+        run.journal().revertStep();
+        gallery->sfInt32.setValue(0); // and something else
+        gallery->sfBool.setValue(!gallery->sfBool.getValue());
+        QVERIFY(!run.journal().giveMove(*single));
+        run.journal().revertStep();
+        QCOMPARE(gallery->sfInt32.getValue(), 2);
+
+        gallery->mfInt32.insertSpace(0, 1);
+        meridane::JournalStep* const rows = run.finish();
+        gallery->mfInt32.deleteValues(0, 1);
+        QVERIFY(!run.journal().giveMove(*rows));
+        run.journal().revertStep();
+        gallery->setName("a");
+        gallery->sfInt32.setValue(3);
+        meridane::JournalStep* const several = run.finish();
+        gallery->setName("");
+        QVERIFY(!run.journal().giveMove(*several));
+        run.journal().revertStep();
+        QCOMPARE(gallery->sfInt32.getValue(), 3);
+    }
+
     void anOlderValueIsWrittenAsAChange_data() { addFieldKindRows(); }
 
     void anOlderValueIsWrittenAsAChange()
