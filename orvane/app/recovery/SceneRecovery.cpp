@@ -104,9 +104,9 @@ std::unique_ptr<RecoveryLog> SceneRecovery::makeLog(bool mayUseFile)
     description.fileHash = m_document.fileContent().value_or(meridane::ContentHash());
     description.begun = std::chrono::system_clock::now();
     auto log = std::make_unique<RecoveryLog>(*m_services.document().journal(), description, m_folder, m_thread);
-    // Queued, since the log is inside one of its functions.
+    // Queued, since the log is inside one of its functions, and may be deleted.
     connect(log.get(), &RecoveryLog::failed, this, &SceneRecovery::handleFailure, Qt::QueuedConnection);
-    connect(log.get(), &RecoveryLog::written, this, &SceneRecovery::checkLogs);
+    connect(log.get(), &RecoveryLog::written, this, &SceneRecovery::checkLogs, Qt::QueuedConnection);
     return log;
 }
 
@@ -184,6 +184,8 @@ void SceneRecovery::checkLogs()
 // The file that there is keeps the last state that it has, until another one has the scene.
 void SceneRecovery::handleFailure(const QString& message)
 {
+    if (m_log == nullptr)
+        return; // the scene has been closed meanwhile
     if (m_replacement != nullptr)
         m_replacement->setSteps(0);
     m_replacement.reset();
