@@ -1,5 +1,6 @@
 #include "orvane/app/messages/MessageRow.h"
 
+#include "orvane/app/look/Look.h"
 #include "orvane/app/messages/MessageText.h"
 
 #include <QHBoxLayout>
@@ -24,17 +25,17 @@ QStyle::StandardPixmap pixmapOf(MessageSeverity severity)
     return QStyle::SP_MessageBoxCritical;
 }
 
-QColor colorOf(MessageSeverity severity)
+orvane::look::Tint tintOf(MessageSeverity severity)
 {
     switch (severity) {
     case MessageSeverity::Information:
-        return {70, 130, 215};
+        return orvane::look::Tint::Information;
     case MessageSeverity::Warning:
-        return {224, 164, 48};
+        return orvane::look::Tint::Warning;
     case MessageSeverity::Error:
         break;
     }
-    return {214, 80, 70};
+    return orvane::look::Tint::Error;
 }
 
 } // namespace
@@ -80,10 +81,9 @@ QString MessageRow::text() const
 
 void MessageRow::paintEvent(QPaintEvent*)
 {
-    // A tint over the window's own colour, so that the text keeps its contrast in light and in dark palettes.
     QPainter painter(this);
-    QColor tint = colorOf(m_severity);
-    painter.fillRect(QRect(0, 0, 4, height()), tint);
-    tint.setAlpha(48);
-    painter.fillRect(rect(), tint);
+    const QColor window = palette().color(QPalette::Window);
+    const orvane::look::Tint tint = tintOf(m_severity);
+    painter.fillRect(rect(), orvane::look::washColor(tint, window));
+    painter.fillRect(QRect(0, 0, orvane::look::unit(fontMetrics()), height()), orvane::look::markColor(tint, window));
 }
