@@ -98,7 +98,7 @@ private Q_SLOTS:
 
     void theDocumentationHasTheseColours()
     {
-        QFile page(QStringLiteral(ORVANE_SOURCES "/docs/look.md"));
+        QFile page(QString::fromUtf8(ORVANE_SOURCES "/docs/look.md"));
         QVERIFY(page.open(QIODevice::ReadOnly));
         const QColor light(Qt::white);
         const QColor dark(0x23, 0x26, 0x29);
