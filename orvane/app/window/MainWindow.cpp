@@ -18,20 +18,20 @@
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/SelectionStatus.h"
 #include "orvane/app/scene/Session.h"
-#include "orvane/app/scene/TreeState.h"
 #include "orvane/app/view/CameraMenu.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/ViewActions.h"
 #include "orvane/app/view/ViewLink.h"
 #include "orvane/app/view/ViewMenu.h"
+#include "orvane/app/window/CentralArea.h"
 #include "orvane/app/window/ComparisonDock.h"
 #include "orvane/app/window/DiskChangeBar.h"
 #include "orvane/app/window/EditMenu.h"
 #include "orvane/app/window/HelpMenu.h"
 #include "orvane/app/window/HistoryDock.h"
+#include "orvane/app/window/ReloadedTree.h"
 #include "orvane/app/window/ReturnedNodes.h"
 #include "orvane/app/window/SelectionLink.h"
-#include "orvane/app/window/StartPage.h"
 #include "orvane/app/window/WindowShell.h"
 
 #include "meridane/base/NxDelayQueue.h"
@@ -41,11 +41,9 @@
 #include <QDockWidget>
 #include <QMimeData>
 #include <QScopedValueRollback>
-#include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
-#include <QVBoxLayout>
 
 #include <chrono>
 #include <utility>
@@ -73,8 +71,8 @@ MainWindow::MainWindow(Session& session)
     , m_shell(std::make_unique<WindowShell>(this))
     , m_recent(new RecentFiles(session.settings(), this))
     , m_messages(new MessageBar(this))
-    , m_pages(new QStackedWidget(this))
     , m_view(new SceneView(this))
+    , m_central(new CentralArea(m_messages, m_view, *m_recent, this))
     , m_imageFolders(new ImageFolderQuestion(m_view->drawing().textures(), session.settings(), *m_messages, this))
     , m_fields(new FieldPanel(this))
     , m_tree(new SceneTreePanel(this))
@@ -178,14 +176,7 @@ void MainWindow::showWarning(const QString& message)
 
 void MainWindow::buildCentralWidget()
 {
-    auto* container = new QWidget(this);
-    auto* layout = new QVBoxLayout(container);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_messages);
-    m_pages->addWidget(m_view);
-    layout->addWidget(m_pages, 1);
-    setCentralWidget(container);
+    setCentralWidget(m_central);
     connect(&m_view->drawing().textures(), &TextureFiles::folderRefused, this, &MainWindow::imageFolderRefused);
     connect(m_errorRelay.get(), &ErrorRelay::reported, this,
         [this](MessageBar::Severity severity, const QString& text) { m_messages->showMessage(severity, text); });
@@ -218,6 +209,9 @@ void MainWindow::buildMenus()
     m_files = new FileFlow(m_session, *m_recent, *m_messages, *m_jobBar, this);
     connect(m_files, &FileFlow::ended, this, &MainWindow::reportSettled, Qt::QueuedConnection);
     connect(m_files, &FileFlow::readToCompare, this, &MainWindow::compareWith);
+    connect(m_central, &CentralArea::openRequested, m_files, &FileFlow::chooseFileToOpen);
+    connect(m_central, &CentralArea::newRequested, m_files, &FileFlow::newScene);
+    connect(m_central, &CentralArea::fileChosen, this, [this](const QString& fileName) { openFile(fileName); });
     connectReload();
     m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
     auto* editMenu = new EditMenu(this, m_session, m_tree);
@@ -243,26 +237,10 @@ void MainWindow::buildMenus()
     viewMenu->update();
 }
 
-void MainWindow::showStartPage()
-{
-    if (m_startPage == nullptr) {
-        m_startPage = new StartPage(this);
-        m_pages->addWidget(m_startPage);
-        connect(m_startPage, &StartPage::openRequested, m_files, &FileFlow::chooseFileToOpen);
-        connect(m_startPage, &StartPage::newRequested, m_files, &FileFlow::newScene);
-        connect(m_startPage, &StartPage::fileChosen, this, [this](const QString& fileName) { openFile(fileName); });
-        const auto listRecent = [this] { m_startPage->setRecentFiles(m_recent->fileNames()); };
-        connect(m_recent, &RecentFiles::changed, m_startPage, listRecent);
-        listRecent();
-    }
-    m_pages->setCurrentWidget(m_startPage);
-}
-
 void MainWindow::connectDocument()
 {
     const SceneDocument& scene = document();
     connect(&scene, &SceneDocument::sceneAboutToChange, this, [this] { m_tree->setScene(nullptr); });
-    connect(&scene, &SceneDocument::sceneAboutToChange, this, [this] { m_treeState.reset(); });
     connect(&scene, &SceneDocument::sceneAboutToChange, m_imageFolders, &ImageFolderQuestion::reset);
     connect(&scene, &SceneDocument::sceneChanged, this, &MainWindow::showDocument);
     connect(&scene, &SceneDocument::fileNameChanged, this, &MainWindow::updateTitle);
@@ -274,24 +252,11 @@ void MainWindow::connectDocument()
 void MainWindow::connectReload()
 {
     m_diskChange = new DiskChangeBar(document(), *m_files, *m_messages, this);
-    connect(m_files, &FileFlow::aboutToReload, this,
-        [this] { m_treeState = std::make_unique<TreeState>(*m_tree, m_session.services()); });
+    new ReloadedTree(*m_files, document(), m_session.services(), m_tree, this);
     connect(m_files, &FileFlow::reloaded, this, [this](const QString& text) {
         constexpr std::chrono::seconds shown(10);
         statusBar()->showMessage(text, static_cast<int>(std::chrono::milliseconds(shown).count()));
-        restoreTree();
     });
-}
-
-// Once the tree has the new rows.
-void MainWindow::restoreTree()
-{
-    if (m_treeState == nullptr)
-        return;
-    if (NxDelayQueue::getDefault().isEmpty())
-        std::exchange(m_treeState, nullptr)->restore();
-    else
-        QMetaObject::invokeMethod(this, &MainWindow::restoreTree, Qt::QueuedConnection);
 }
 
 void MainWindow::updateTitle()
@@ -306,9 +271,9 @@ void MainWindow::showDocument()
     m_tree->setScene(document().scene());
     // A file may still be opened before the window is shown.
     if (document().isOpen())
-        m_pages->setCurrentWidget(m_view);
+        m_central->showView();
     else if (isVisible())
-        showStartPage();
+        m_central->showStartPage();
 }
 
 void MainWindow::reportSettled(const orvane::Result<>& result)
@@ -344,7 +309,7 @@ void MainWindow::showEvent(QShowEvent* event)
     if (!std::exchange(m_layoutRestored, true))
         restoreLayout();
     if (!document().isOpen())
-        showStartPage();
+        m_central->showStartPage();
     QMainWindow::showEvent(event);
 }
 

@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 
+class CentralArea;
 class ComparisonDock;
 class DiskChangeBar;
 class ErrorRelay;
@@ -19,7 +20,6 @@ class FileMenu;
 class ImageFolderQuestion;
 class JobBar;
 class MessageBar;
-class QStackedWidget;
 class RecoveryFolder;
 class RecentFiles;
 class SceneDocument;
@@ -27,8 +27,6 @@ class SceneRecovery;
 class SceneTreePanel;
 class SceneView;
 class Session;
-class StartPage;
-class TreeState;
 class WindowShell;
 
 /// The tool's window: the view of the scene, the scene tree, the fields of the selected node, and what extensions add.
@@ -85,9 +83,7 @@ private:
     void connectDocument();
     void updateTitle();
     void showDocument();
-    void showStartPage();
     void connectReload();
-    void restoreTree();
     void reportSettled(const orvane::Result<>& result);
     void saveLayout();
     void restoreLayout();
@@ -97,10 +93,9 @@ private:
     std::unique_ptr<WindowShell> m_shell;
     RecentFiles* m_recent;
     MessageBar* m_messages;
-    QStackedWidget* m_pages;
     SceneView* m_view;
+    CentralArea* m_central;
     ImageFolderQuestion* m_imageFolders;
-    StartPage* m_startPage = nullptr; // made when it is first shown
     FieldPanel* m_fields;
     SceneTreePanel* m_tree;
     JobBar* m_jobBar;
@@ -108,7 +103,6 @@ private:
     FileFlow* m_files = nullptr;
     FileMenu* m_fileMenu = nullptr;
     DiskChangeBar* m_diskChange = nullptr;
-    std::unique_ptr<TreeState> m_treeState; // from before a reload
     std::unique_ptr<SceneRecovery> m_recovery; // once it is started
     bool m_layoutRestored = false;
     bool m_mayClose = false;
