@@ -1,4 +1,5 @@
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/command_line/BatchRun.h"
 #include "orvane/app/command_line/CommandLine.h"
 #include "orvane/app/command_line/StandardOutput.h"
@@ -177,6 +178,7 @@ int main(int argc, char* argv[])
     openStandardStreams();
     // A file that outgrows the user's limit is a write error with a message, not the end of the process.
     std::signal(SIGXFSZ, SIG_IGN);
+    orvane::useProgramLocale();
     QCoreApplication::setApplicationName(QStringLiteral("orvane"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ORVANE_VERSION));
     try {

@@ -1,12 +1,12 @@
 #include "orvane/app/recovery/RecoveryOffer.h"
 
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/recovery/RecoverJob.h"
 #include "orvane/app/recovery/SceneRecovery.h"
 
 #include <QDateTime>
-#include <QLocale>
 
 #include <chrono>
 #include <utility>
@@ -18,7 +18,7 @@ const QString topic = QStringLiteral("recovery");
 QString timeText(std::chrono::system_clock::time_point time)
 {
     const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(time.time_since_epoch());
-    return QLocale().toString(QDateTime::fromMSecsSinceEpoch(milliseconds.count()), QLocale::ShortFormat);
+    return orvane::userLocale().toString(QDateTime::fromMSecsSinceEpoch(milliseconds.count()), QLocale::ShortFormat);
 }
 
 } // namespace
