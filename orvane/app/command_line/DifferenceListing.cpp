@@ -2,7 +2,7 @@
 
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/compare/DifferenceText.h"
-#include "orvane/app/fields/FieldText.h"
+#include "orvane/app/fields/values/FieldText.h"
 
 #include "meridane/scene/fields/NxField.h"
 

@@ -1,7 +1,7 @@
 #include "orvane/app/command_line/SceneListing.h"
 
 #include "orvane/app/base/TextConversion.h"
-#include "orvane/app/fields/FieldText.h"
+#include "orvane/app/fields/values/FieldText.h"
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/fields/NxField.h"

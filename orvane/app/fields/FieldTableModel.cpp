@@ -2,7 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
-#include "orvane/app/fields/FieldText.h"
+#include "orvane/app/fields/values/FieldText.h"
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/fields/NxField.h"

@@ -1,4 +1,4 @@
-#include "orvane/app/fields/FieldText.h"
+#include "orvane/app/fields/values/FieldText.h"
 
 #include "orvane/app/base/TextConversion.h"
 
