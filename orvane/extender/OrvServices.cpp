@@ -120,6 +120,18 @@ void OrvServices::pushStep(OrvCommand* command, const QString& label)
     m_history->push(std::unique_ptr<OrvCommand>(command), {HistoryOrigin::none, nullptr, nullptr, nullptr, label});
 }
 
+void OrvServices::beginEdit(const QString& label)
+{
+    const HistoryChange change(*this);
+    m_history->beginEdit(label);
+}
+
+void OrvServices::endEdit()
+{
+    const HistoryChange change(*this);
+    m_history->endEdit();
+}
+
 void OrvServices::useJournal()
 {
     const HistoryChange change(*this);

@@ -45,6 +45,11 @@ public:
     /// The same for a command that is a step of its own, with that label, such as "Reload robot.mrd", whatever action
     /// of the user goes on. What its observers write belongs to the step.
     void pushStep(OrvCommand* command, const QString& label);
+    /// All that changes in the open document between the two calls is one step, however many actions of the user it
+    /// takes, such as in the popup of a colour. If it ends as it began, there is no step. An undo in between undoes
+    /// what has been changed so far. A second `beginEdit` ends the edit before.
+    void beginEdit(const QString& label = {});
+    void endEdit();
 
     /// The scene that is open. Its journal makes the history exact: see `undo`.
     [[nodiscard]] OrvDocument& document() const noexcept { return *m_document; }

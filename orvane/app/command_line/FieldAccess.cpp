@@ -2,11 +2,10 @@
 
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/values/FieldText.h"
+#include "orvane/app/fields/values/FieldTrial.h"
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/fields/NxField.h"
-#include "meridane/scene/fields/NxFieldData.h"
-#include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/file/NxScenePath.h"
 
 namespace orvane {
@@ -25,13 +24,10 @@ Result<NxField*> findField(NxGroup* scene, const QString& path)
 }
 
 // Tries a text on the same field of a new node of the class, so that no sensor of the field is notified.
-bool acceptsText(NxField* field, const VbString& text)
+bool acceptsText(const NxField* field, const VbString& text)
 {
-    NxFieldContainer* const node = field->getContainer();
-    auto* const object = static_cast<NxTypedObject*>(node->getTypeId().createInstance(nullptr));
-    const NxRef<NxFieldContainer> trial(dynamic_cast<NxFieldContainer*>(object));
-    NxFieldData* const data = node->getFieldData();
-    return trial && data->getField(trial.get(), data->getIndex(node, field))->set(text);
+    const FieldTrial trial(*field);
+    return trial.field() != nullptr && trial.field()->set(text);
 }
 
 } // namespace

@@ -49,6 +49,13 @@ void HistoryStep::updateLabel(const NxGroup& scene)
         m_label = {m_givenLabel, {}};
 }
 
+void HistoryStep::setEdit(int number, const QString& label)
+{
+    m_origin.edit = number;
+    if (m_givenLabel.isEmpty())
+        m_givenLabel = label;
+}
+
 void HistoryStep::appendCommands(HistoryStep&& step)
 {
     std::ranges::move(step.m_commands, std::back_inserter(m_commands));

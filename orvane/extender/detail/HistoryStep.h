@@ -25,6 +25,21 @@ struct HistoryOrigin {
     int action = none;
     /// The text that the user types, the same number for all keys that belong together.
     int typing = none;
+    /// The edit between `OrvServices::beginEdit` and `endEdit`.
+    int edit = none;
+
+    [[nodiscard]] bool isSameAction(const HistoryOrigin& next) const noexcept
+    {
+        return action != none && action == next.action;
+    }
+    /// Whether changes of that origin, which follow directly, belong to the same step: those of one action, the keys
+    /// that are typed into one line, and all of one edit.
+    [[nodiscard]] bool isContinuedBy(const HistoryOrigin& next) const noexcept
+    {
+        if (next.edit != none)
+            return edit == next.edit;
+        return isSameAction(next) || (typing != none && typing == next.typing);
+    }
 };
 
 /// One step of the undo history: the commands of one action of the user, the nodes that they may refer to, and what the
@@ -62,6 +77,8 @@ public:
     void updateLabel(const NxGroup& scene);
     /// Sets what `updateLabel` uses in place of words of its own; empty for nothing.
     void setGivenLabel(const QString& text) { m_givenLabel = text; }
+    /// Makes it a part of an edit, whose label may be empty.
+    void setEdit(int number, const QString& label);
 
     /// Appends the commands of a step that changed nothing.
     void appendCommands(HistoryStep&& step);

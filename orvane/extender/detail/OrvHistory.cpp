@@ -110,6 +110,8 @@ bool OrvHistory::closeStep()
         return false; // what was written has been written back
     if (!step)
         step = std::make_unique<HistoryStep>(m_origin);
+    if (m_edit.isOpen())
+        step->setEdit(m_edit.number, m_edit.label);
     const bool changed = m_journal == nullptr || changes.has_value();
     step->setChanges(std::move(changes));
     if (changed)
@@ -174,16 +176,13 @@ void OrvHistory::keep(std::unique_ptr<HistoryStep> step)
     ++m_position;
 }
 
-// The commands of one action are one step, and with a journal the keys that are typed into one line. A saved state
-// stays reachable.
+// A saved state stays reachable.
 bool OrvHistory::joins(const HistoryStep& step) const
 {
     if (m_position == 0 || m_cleanState == stateAt(m_position))
         return false;
-    const auto sameNumber = [](int left, int right) { return left != HistoryOrigin::none && left == right; };
-    const HistoryOrigin& last = m_steps.back()->origin();
-    return sameNumber(last.action, step.origin().action)
-        || (m_journal != nullptr && sameNumber(last.typing, step.origin().typing));
+    return m_journal != nullptr ? m_steps.back()->origin().isContinuedBy(step.origin())
+                                : m_steps.back()->origin().isSameAction(step.origin());
 }
 
 void OrvHistory::join(HistoryStep& last, std::unique_ptr<HistoryStep> step)

@@ -71,6 +71,17 @@ public:
     /// Ends the open step: it is judged and kept. Returns whether there was one that changed something. Does nothing
     /// while a command runs.
     bool finishStep();
+    /// Between the calls, all steps join: see `OrvServices::beginEdit`.
+    void beginEdit(const QString& label)
+    {
+        finishStep();
+        m_edit = {++m_lastEdit, label};
+    }
+    void endEdit()
+    {
+        finishStep();
+        m_edit = {};
+    }
     /// Between the calls, commands outside of any action form one step: editors push several as they show a field,
     /// which change nothing together.
     void beginGroup();
@@ -130,6 +141,13 @@ public:
 
 private:
     enum class Work { None, Executing, Moving };
+    /// What goes on between `beginEdit` and `endEdit`.
+    struct Edit {
+        int number = HistoryOrigin::none;
+        QString label = {};
+
+        [[nodiscard]] bool isOpen() const noexcept { return number != HistoryOrigin::none; }
+    };
     class Working;
 
     void execute(std::unique_ptr<OrvCommand> command, const Context& context);
@@ -156,6 +174,8 @@ private:
     /// The commands of the step that is open; null if there are none.
     std::unique_ptr<HistoryStep> m_open;
     HistoryOrigin m_origin;
+    Edit m_edit;
+    int m_lastEdit = 0;
     std::size_t m_limit = defaultLimit;
     std::size_t m_bytes = 0;
     // Numbers of states of the scene: before the oldest step, now, and when it was saved; and the number given last.

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <span>
+#include <unordered_set>
 
 namespace {
 
@@ -113,6 +114,46 @@ StepLabel labelOfChildren(Records records, const NxGroup& scene)
     return {tr("Change the children of %1").arg(nameOf(group)), group.getTypeId()};
 }
 
+/// The name of the field that all records are of, in whichever node; empty if they are of several.
+VbName commonField(Records records)
+{
+    const ChangeRecord& first = *records.front();
+    if (first.field() == nullptr)
+        return {};
+    const VbName name = first.node().getFieldName(first.field());
+    const bool isCommon = std::ranges::all_of(records, [&](const auto& record) {
+        return record->field() != nullptr && record->node().getFieldName(record->field()) == name;
+    });
+    return isCommon ? name : VbName();
+}
+
+int countNodes(Records records)
+{
+    std::unordered_set<const NxFieldContainer*> nodes;
+    for (const auto& record : records)
+        nodes.insert(&record->node());
+    return static_cast<int>(nodes.size());
+}
+
+bool areAll(Records records, ChangeRecord::Kind kind)
+{
+    return std::ranges::all_of(records, [kind](const auto& record) { return record->kind() == kind; });
+}
+
+StepLabel labelOfSeveralNodes(Records records)
+{
+    const VbName field = commonField(records);
+    if (field.isEmpty())
+        return {tr("Change several nodes"), {}};
+    const ChangeRecord& first = *records.front();
+    const bool isIgnored = first.kind() != ChangeRecord::Kind::Value && first.field()->isIgnored();
+    const auto isLikeFirst = [&](const auto& record) { return record->field()->isIgnored() == isIgnored; };
+    const char* text = "Set %1 of %2 nodes";
+    if (areAll(records, ChangeRecord::Kind::Ignored) && std::ranges::all_of(records, isLikeFirst))
+        text = isIgnored ? "Ignore %1 of %2 nodes" : "Use %1 of %2 nodes";
+    return {tr(text).arg(orvane::toQString(field)).arg(countNodes(records)), {}};
+}
+
 } // namespace
 
 orvane::StepLabel orvane::labelOf(const meridane::JournalStep& step, const NxGroup& scene)
@@ -121,11 +162,10 @@ orvane::StepLabel orvane::labelOf(const meridane::JournalStep& step, const NxGro
     const ChangeRecord& first = *records.front();
     const NxFieldContainer& node = first.node();
     const auto all = [&](const auto& test) { return std::ranges::all_of(records, test); };
-    if (first.kind() == ChangeRecord::Kind::Children
-        && all([](const auto& record) { return record->kind() == ChangeRecord::Kind::Children; }))
+    if (areAll(records, ChangeRecord::Kind::Children))
         return labelOfChildren(records, scene);
     if (!all([&node](const auto& record) { return &record->node() == &node; }))
-        return {tr("Change several nodes"), {}};
+        return labelOfSeveralNodes(records);
     const auto label = [&node](const QString& text) { return StepLabel{text, node.getTypeId()}; };
     if (!all([&first](const auto& record) { return record->field() == first.field(); }))
         return label(tr("Change %1").arg(nameOf(node)));

@@ -1,0 +1,145 @@
+#include "orvane/app/fields/values/FieldWriter.h"
+
+#include "orvane/app/fields/values/FieldText.h"
+#include "orvane/app/fields/values/FieldTrial.h"
+#include "orvane/app/fields/values/FieldWriteCommand.h"
+#include "orvane/app/fields/values/IgnoreCommand.h"
+#include "orvane/app/fields/values/Refusal.h"
+#include "orvane/extender/OrvServices.h"
+
+#include "meridane/base/values/VbString.h"
+#include "meridane/scene/fields/ChangeRecord.h"
+#include "meridane/scene/fields/MemoryGuard.h"
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxFieldData.h"
+
+#include <utility>
+
+FieldWriter::FieldWriter(OrvServices& services, QObject* parent)
+    : QObject(parent)
+    , m_services(services)
+{
+}
+
+FieldWriter::~FieldWriter()
+{
+    end();
+}
+
+orvane::Result<> FieldWriter::setText(const FieldSet& fields, const QString& text)
+{
+    if (fields.isEmpty())
+        return orvane::Failure{tr("There is no field to set.")};
+    const VbString value(text.toStdString());
+    const FieldTrial trial(fields.first());
+    NxField* const spare = trial.field();
+    if (spare != nullptr && !spare->set(value))
+        return orvane::Failure{orvane::refusedText(fields.first(), text)};
+    const auto result = write(fields, [&](NxField& field, std::size_t /*number*/) {
+        return spare != nullptr ? field.copyFrom(*spare) : field.set(value);
+    });
+    if (!result && spare == nullptr)
+        return orvane::Failure{orvane::refusedText(fields.first(), text)};
+    return result;
+}
+
+orvane::Result<> FieldWriter::copy(const FieldSet& fields, const NxField& source)
+{
+    if (fields.isEmpty())
+        return orvane::Failure{tr("There is no field to set.")};
+    if (source.getTypeId() != fields.first().getTypeId()) {
+        return orvane::Failure{tr("%1 is a field of type %2; a value of type %3 can't be copied to it.")
+                                   .arg(fields.name(), orvane::typeName(fields.first()), orvane::typeName(source))};
+    }
+    return write(fields, [&source](NxField& field, std::size_t /*number*/) { return field.copyFrom(source); });
+}
+
+orvane::Result<> FieldWriter::reset(const FieldSet& fields)
+{
+    const auto toDefault = [](NxField& field, std::size_t /*number*/) {
+        NxFieldContainer* const node = field.getContainer();
+        const NxFieldData* const data = node->getFieldData();
+        const NxField* const original = data->getDefault(data->getIndex(node, &field));
+        return original != nullptr && field.copyFrom(*original);
+    };
+    return write(fields, toDefault, tr("Reset %1").arg(fields.name()));
+}
+
+orvane::Result<> FieldWriter::setIgnored(const FieldSet& fields, bool ignored)
+{
+    end();
+    m_services.pushStep(new IgnoreCommand(fields, ignored), {});
+    Q_EMIT written(fields);
+    return {};
+}
+
+orvane::Result<> FieldWriter::change(const FieldSet& fields, const std::function<bool(NxField&)>& function)
+{
+    return write(fields, [&function](NxField& field, std::size_t /*number*/) { return function(field); });
+}
+
+orvane::Result<> FieldWriter::write(const FieldSet& fields, Write write, const QString& label)
+{
+    bool done = false;
+    auto command = std::make_unique<FieldWriteCommand>(fields, std::move(write), done);
+    if (isLive() && fields == m_live) {
+        command->execute(); // `end` makes the step
+    } else if (end(); m_services.isUndoExact()) {
+        // The journal records what the command does, so that a write that fails leaves nothing in the history.
+        m_services.beginEdit(label);
+        command->execute();
+        m_services.endEdit();
+    } else {
+        m_services.pushStep(command.release(), label);
+    }
+    if (!done)
+        return orvane::Failure{tr("%1 can't be changed: the values don't fit in memory.").arg(fields.name())};
+    Q_EMIT written(fields);
+    return {};
+}
+
+orvane::Result<> FieldWriter::begin(const FieldSet& fields)
+{
+    end();
+    const auto record = [this](NxField& field) {
+        m_before.push_back(field.recordOfValue());
+        return true;
+    };
+    for (NxField* const field : fields.fields()) {
+        if (!meridane::withinMemory(field->valueBytes(), [&] { return record(*field); })) {
+            m_before.clear();
+            return orvane::Failure{tr("%1 can't be changed: the values don't fit in memory.").arg(fields.name())};
+        }
+    }
+    m_live = fields;
+    m_services.beginEdit();
+    return {};
+}
+
+void FieldWriter::end()
+{
+    if (!isLive())
+        return;
+    // Where the journal doesn't undo, a command does.
+    if (!m_services.isUndoExact())
+        m_services.pushCommand(new FieldWriteCommand(std::move(m_before)));
+    forgetLive();
+}
+
+void FieldWriter::cancel()
+{
+    for (const auto& record : m_before) {
+        if (!record->isSameAsNow())
+            record->field()->exchangeValue(*record);
+    }
+    forgetLive();
+}
+
+void FieldWriter::forgetLive()
+{
+    if (!isLive())
+        return;
+    m_before.clear();
+    m_live = FieldSet();
+    m_services.endEdit();
+}

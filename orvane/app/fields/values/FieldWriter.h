@@ -1,0 +1,68 @@
+#pragma once
+
+#include "orvane/app/base/Result.h"
+#include "orvane/app/fields/values/FieldSet.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class OrvServices;
+
+namespace meridane {
+class ChangeRecord;
+}
+
+/// Writes the fields of a set, each time as one step of the history, such as "Set arm.rotation" or "Set radius of 12
+/// nodes".
+///
+/// Between `begin` and `end` all writes are one step, for editors that show each change at once. A write that fails for
+/// one field changes none, and returns a message that says which text was refused, why, and what the field takes.
+/// Thread of the user interface only.
+class FieldWriter : public QObject {
+    Q_OBJECT
+
+public:
+    /// The services live longer.
+    explicit FieldWriter(OrvServices& services, QObject* parent = nullptr);
+    /// Ends a live edit.
+    ~FieldWriter() override;
+
+    /// Sets all fields from the text form of a value.
+    orvane::Result<> setText(const FieldSet& fields, const QString& text);
+    /// Copies the value of a field of the same class to all fields.
+    orvane::Result<> copy(const FieldSet& fields, const NxField& source);
+    /// Sets each field to the default of its class.
+    orvane::Result<> reset(const FieldSet& fields);
+    /// Sets whether the scene ignores the fields.
+    orvane::Result<> setIgnored(const FieldSet& fields, bool ignored);
+    /// Changes each field by a function, which returns false and changes nothing if it can't: then no field is changed.
+    orvane::Result<> change(const FieldSet& fields, const std::function<bool(NxField&)>& function);
+
+    /// Begins a live edit: all writes of these fields until `end` or `cancel` are one step, however many actions of the
+    /// user they take. It keeps the present values. Another live edit ends. Fails if the values don't fit in memory.
+    orvane::Result<> begin(const FieldSet& fields);
+    [[nodiscard]] bool isLive() const noexcept { return !m_live.isEmpty(); }
+    /// Ends the live edit, if there is one. If the fields have the values from before, there is no step.
+    void end();
+    /// Puts all fields of the live edit back to their values from before, to the bit.
+    void cancel();
+
+Q_SIGNALS:
+    /// The fields were written.
+    void written(const FieldSet& fields);
+
+private:
+    using Write = std::function<bool(NxField& field, std::size_t number)>;
+
+    /// `label` is empty for one that the history makes.
+    orvane::Result<> write(const FieldSet& fields, Write write, const QString& label = {});
+
+    void forgetLive();
+
+    OrvServices& m_services;
+    FieldSet m_live; // of the live edit; empty for none
+    std::vector<std::unique_ptr<meridane::ChangeRecord>> m_before; // its values
+};
