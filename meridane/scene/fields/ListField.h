@@ -22,9 +22,10 @@ public:
     /// How a value is passed: numbers by value, all others by reference.
     using Read = std::conditional_t<std::is_arithmetic_v<Value>, Value, const Value&>;
 
-    /// `container` may be null, for a field without a node. `name` must be a literal.
-    ListField(NxFieldContainer* container, const char* name, std::vector<Value> values = {}, Format format = Format())
-        : NxMField(container, name)
+    /// `container` may be null, for a field without a node.
+    ListField(NxFieldContainer* container, const FieldDeclaration& declaration, std::vector<Value> values = {},
+        Format format = Format())
+        : NxMField(container, declaration)
         , m_format(format)
         , m_values(std::move(values))
     {

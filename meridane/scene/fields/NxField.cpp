@@ -4,7 +4,6 @@
 #include "meridane/base/values/VbString.h"
 #include "meridane/scene/fields/MemoryGuard.h"
 #include "meridane/scene/fields/NxFieldContainer.h"
-#include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/NxFieldSensor.h"
 #include "meridane/scene/fields/detail/IgnoredRecord.h"
 #include "meridane/scene/text/TextReader.h"
@@ -18,12 +17,6 @@ NxType NxField::getClassTypeId()
 {
     static const NxType type = NxType::registerClass("Field", NxTypedObject::getClassTypeId(), nullptr);
     return type;
-}
-
-NxField::NxField(NxFieldContainer* container, const char* name)
-    : m_container(container)
-{
-    NxFieldData::collectField(container, this, name);
 }
 
 NxField::~NxField()

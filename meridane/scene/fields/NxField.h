@@ -2,6 +2,7 @@
 
 #include "meridane/base/types/NxTypedObject.h"
 #include "meridane/scene/fields/ChangeRecorder.h"
+#include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/detail/SensorList.h"
 
 #include <cstddef>
@@ -97,9 +98,14 @@ protected:
     /// couldn't be registered are equal, though the classes aren't.
     [[nodiscard]] bool isOfSameClass(const NxField& other) const;
 
-    /// Registers the field with the class of the container while the class is being described. The name must be a
-    /// literal.
-    NxField(NxFieldContainer* container, const char* name);
+    /// Registers the field with the class of the container while the class is being described.
+    NxField(NxFieldContainer* container, const meridane::FieldDeclaration& declaration)
+        : m_container(container)
+    {
+        // Inline, and with the declaration passed as a copy, so that the compiler makes it in this branch only.
+        if (NxFieldData::isCollecting()) [[unlikely]]
+            NxFieldData::collectField(container, this, declaration);
+    }
 
 private:
     friend class NxFieldSensor;

@@ -25,6 +25,7 @@ class NameRecord;
 class NxFieldContainer : public NxTypedObject {
 public:
     [[nodiscard]] static NxType getClassTypeId();
+    [[nodiscard]] NxType getTypeId() const override { return getClassTypeId(); }
 
     void ref() const noexcept { ++m_references; }
     /// Releases a reference; the last one deletes the container.

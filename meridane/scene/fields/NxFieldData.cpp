@@ -7,26 +7,6 @@
 
 namespace {
 
-// The description that is being collected on this thread; collections may be nested. The library is loaded when the
-// program starts, so its thread-local variables are accessed without a call. Every constructor of a field reads this
-// one.
-[[gnu::tls_model("initial-exec")]] constinit thread_local NxFieldData* collector = nullptr;
-
-// Makes a description the collecting one until the end of the scope, even if making the instance fails.
-class Collecting {
-public:
-    explicit Collecting(NxFieldData* data)
-        : m_outer(std::exchange(collector, data))
-    {
-    }
-    ~Collecting() { collector = m_outer; }
-    Collecting(const Collecting&) = delete;
-    Collecting& operator=(const Collecting&) = delete;
-
-private:
-    NxFieldData* m_outer;
-};
-
 // The offset of a field in its container. Both are parts of one object, but not of one array.
 std::ptrdiff_t offsetOf(const NxFieldContainer* container, const NxField* field)
 {
@@ -35,7 +15,25 @@ std::ptrdiff_t offsetOf(const NxFieldContainer* container, const NxField* field)
 
 } // namespace
 
-NxFieldData::NxFieldData(NxFieldContainer* (*create)())
+constinit thread_local NxFieldData* NxFieldData::s_collector = nullptr;
+
+/// Makes a description the collecting one until the end of the scope, even if making the instance fails.
+class NxFieldData::Collecting {
+public:
+    explicit Collecting(NxFieldData* data)
+        : m_outer(std::exchange(s_collector, data))
+    {
+    }
+    ~Collecting() { s_collector = m_outer; }
+    Collecting(const Collecting&) = delete;
+    Collecting& operator=(const Collecting&) = delete;
+
+private:
+    NxFieldData* m_outer;
+};
+
+NxFieldData::NxFieldData(NxFieldContainer* (*create)(), std::string_view description)
+    : m_description(description)
 {
     const Collecting collecting(this);
     m_prototype = create();
@@ -52,14 +50,18 @@ NxFieldData::~NxFieldData()
 void NxFieldData::collectContainer(const NxFieldContainer* container)
 {
     // The object that was here before is destroyed.
-    if (collector != nullptr)
-        std::erase_if(collector->m_fields, [&](const Entry& entry) { return entry.container == container; });
+    if (s_collector != nullptr)
+        std::erase_if(s_collector->m_fields, [&](const Entry& entry) { return entry.container == container; });
 }
 
-void NxFieldData::collectField(const NxFieldContainer* container, const NxField* field, const char* name)
+void NxFieldData::collectField(
+    const NxFieldContainer* container, const NxField* field, meridane::FieldDeclaration declaration)
 {
-    if (collector != nullptr && container != nullptr)
-        collector->m_fields.push_back({VbName(name), offsetOf(container, field), container});
+    if (container == nullptr)
+        return;
+    // Members are made while the container is an instance of the class that declares them.
+    s_collector->m_fields.push_back({VbName(declaration.name()), offsetOf(container, field), container,
+        container->getTypeId(), declaration.facts()});
 }
 
 int NxFieldData::getIndex(const NxFieldContainer* container, const NxField* field) const
@@ -103,3 +105,28 @@ const NxField* NxFieldData::getDefault(int index) const
 {
     return getField(m_prototype, index);
 }
+
+const NxFieldFacts& NxFieldData::getFacts(int index) const
+{
+    static constexpr NxFieldFacts none;
+    return index < 0 || index >= getNumFields() ? none : m_fields[static_cast<std::size_t>(index)].facts;
+}
+
+NxType NxFieldData::getDeclaringType(int index) const
+{
+    return index < 0 || index >= getNumFields() ? NxType() : m_fields[static_cast<std::size_t>(index)].declaringType;
+}
+
+namespace meridane {
+
+const NxFieldFacts& factsOf(const NxField& field)
+{
+    static constexpr NxFieldFacts none;
+    NxFieldContainer* const container = field.getContainer();
+    if (container == nullptr)
+        return none;
+    const NxFieldData* const data = container->getFieldData();
+    return data->getFacts(data->getIndex(container, &field));
+}
+
+} // namespace meridane

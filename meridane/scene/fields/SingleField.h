@@ -17,9 +17,10 @@ public:
     /// How a value is passed: numbers by value, all others by reference.
     using Read = std::conditional_t<std::is_arithmetic_v<Value>, Value, const Value&>;
 
-    /// `container` may be null, for a field without a node. `name` must be a literal.
-    SingleField(NxFieldContainer* container, const char* name, Read value = Value(), Format format = Format())
-        : NxSField(container, name)
+    /// `container` may be null, for a field without a node.
+    SingleField(NxFieldContainer* container, const FieldDeclaration& declaration, Read value = Value(),
+        Format format = Format())
+        : NxSField(container, declaration)
         , m_value(value)
         , m_format(format)
     {

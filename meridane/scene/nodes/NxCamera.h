@@ -10,15 +10,20 @@
 class NxCamera : public NxNode {
 public:
     [[nodiscard]] static NxType getClassTypeId();
+    [[nodiscard]] NxType getTypeId() const override { return getClassTypeId(); }
 
-    /// Where the camera is, in scene units.
-    NxSFVec3f position{this, "position", VbVec3f(0, 0, 1)};
-    /// How the camera is turned: axis, and angle in radians.
-    NxSFRotation orientation{this, "orientation"};
-    /// Nothing closer than this is seen, in scene units; above 0.
-    NxSFFloat nearDistance{this, "nearDistance", 0.1F};
-    /// Nothing farther away than this is seen, in scene units; above `nearDistance`.
-    NxSFFloat farDistance{this, "farDistance", 1000};
+    NxSFVec3f position{this, {"position", "Where the camera is.", NxUnit::Metres}, VbVec3f(0, 0, 1)};
+    NxSFRotation orientation{this,
+        {"orientation", "How the camera is turned from looking along negative z with y upwards.", NxUnit::Radians,
+            meridane::step(meridane::degree)}};
+    NxSFFloat nearDistance{this,
+        {"nearDistance", "How close to the camera a thing may be and still be seen.", NxUnit::Metres,
+            meridane::above(0)},
+        0.1F};
+    NxSFFloat farDistance{this,
+        {"farDistance", "How far from the camera a thing may be and still be seen, more than nearDistance.",
+            NxUnit::Metres, meridane::above(0)},
+        1000};
 
 protected:
     NxCamera() = default;

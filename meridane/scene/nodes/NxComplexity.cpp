@@ -1,6 +1,7 @@
 #include "meridane/scene/nodes/NxComplexity.h"
 
-NX_NODE_SOURCE(NxComplexity, NxNode, "Complexity")
+NX_NODE_SOURCE(NxComplexity, NxNode, "Complexity",
+    "The detail with which the surfaces and textures that follow in the group are drawn.")
 
 const NxEnumeration& NxComplexity::types()
 {

@@ -16,12 +16,18 @@ public:
         BOUNDING_BOX = 2, ///< only the boxes around the objects are drawn
     };
 
-    /// What `value` is measured against.
-    NxSFEnum type{this, "type", types(), OBJECT_SPACE};
-    /// The detail, from 0 (coarse and fast) to 1 (fine and slow).
-    NxSFFloat value{this, "value", 0.5F};
-    /// The quality of textures, from 0 (not drawn) to 1 (all kinds of smoothing).
-    NxSFFloat textureQuality{this, "textureQuality", 0.5F};
+    NxSFEnum type{this,
+        {"type",
+            "What value is measured against: the object at any distance, the picture, or neither, and then only boxes "
+            "are drawn."},
+        types(), OBJECT_SPACE};
+    NxSFFloat value{this,
+        {"value", "The detail of surfaces, from coarse and fast (0) to fine and slow (1).", meridane::range(0, 1)},
+        0.5F};
+    NxSFFloat textureQuality{this,
+        {"textureQuality", "The quality of textures, from none drawn (0) to all kinds of smoothing (1).",
+            meridane::range(0, 1)},
+        0.5F};
 
 protected:
     ~NxComplexity() override = default;

@@ -8,8 +8,7 @@ class NxDirectionalLight : public NxLight {
     NX_NODE(NxDirectionalLight)
 
 public:
-    /// Where the rays go; of any length but 0.
-    NxSFVec3f direction{this, "direction", VbVec3f(0, 0, -1)};
+    NxSFVec3f direction{this, {"direction", "Where the rays go, as a vector of any length but 0."}, VbVec3f(0, 0, -1)};
 
 protected:
     ~NxDirectionalLight() override = default;

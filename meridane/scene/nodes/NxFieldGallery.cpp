@@ -1,6 +1,7 @@
 #include "meridane/scene/nodes/NxFieldGallery.h"
 
-NX_NODE_SOURCE(NxFieldGallery, NxNode, "FieldGallery")
+NX_NODE_SOURCE(NxFieldGallery, NxNode, "FieldGallery",
+    "Has one field of every field class to try editors with, and draws nothing.")
 
 // Defined here and not inline, because there are many fields.
 NxFieldGallery::NxFieldGallery() = default;

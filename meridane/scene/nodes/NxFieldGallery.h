@@ -72,100 +72,53 @@ public:
         HIGHLIGHTED = 32, ///< bit 5, with a gap before it
     };
 
-    /// A set of bits with names.
-    NxSFBitMask sfBitMask{this, "sfBitMask", traits()};
-    /// A boolean.
-    NxSFBool sfBool{this, "sfBool"};
-    /// A rectangle.
-    NxSFBox2f sfBox2f{this, "sfBox2f"};
-    /// A box of 16-bit integers.
-    NxSFBox3s sfBox3s{this, "sfBox3s"};
-    /// A colour, each component from 0 to 1.
-    NxSFColor sfColor{this, "sfColor"};
-    /// A colour with opacity, each component from 0 to 1.
-    NxSFColorRGBA sfColorRGBA{this, "sfColorRGBA"};
-    /// A 64-bit number.
-    NxSFDouble sfDouble{this, "sfDouble"};
-    /// One of four names.
-    NxSFEnum sfEnum{this, "sfEnum", qualities()};
-    /// The path of a file.
-    NxSFFilePathString sfFilePathString{this, "sfFilePathString"};
-    /// A 32-bit number.
-    NxSFFloat sfFloat{this, "sfFloat"};
-    /// A small or large image.
-    NxSFImage sfImage{this, "sfImage"};
-    /// A 32-bit integer.
-    NxSFInt32 sfInt32{this, "sfInt32"};
-    /// A 4 by 4 matrix.
-    NxSFMatrix sfMatrix{this, "sfMatrix"};
-    /// A name.
-    NxSFName sfName{this, "sfName"};
-    /// A plane.
-    NxSFPlane sfPlane{this, "sfPlane"};
-    /// An axis, and an angle in radians.
-    NxSFRotation sfRotation{this, "sfRotation"};
-    /// A 16-bit integer.
-    NxSFShort sfShort{this, "sfShort"};
-    /// A text.
-    NxSFString sfString{this, "sfString"};
-    /// A time in seconds.
-    NxSFTime sfTime{this, "sfTime"};
-    /// A 32-bit integer that is never negative.
-    NxSFUInt32 sfUInt32{this, "sfUInt32"};
-    /// A 16-bit integer that is never negative.
-    NxSFUShort sfUShort{this, "sfUShort"};
-    /// Two numbers.
-    NxSFVec2f sfVec2f{this, "sfVec2f"};
-    /// Two 32-bit integers.
-    NxSFVec2i32 sfVec2i32{this, "sfVec2i32"};
-    /// Two 16-bit integers.
-    NxSFVec2s sfVec2s{this, "sfVec2s"};
-    /// Three numbers.
-    NxSFVec3f sfVec3f{this, "sfVec3f"};
-    /// Three 16-bit integers.
-    NxSFVec3s sfVec3s{this, "sfVec3s"};
-    /// Four numbers.
-    NxSFVec4f sfVec4f{this, "sfVec4f"};
-    /// Booleans.
-    NxMFBool mfBool{this, "mfBool"};
-    /// Colours, each component from 0 to 1.
-    NxMFColor mfColor{this, "mfColor"};
-    /// Colours with opacity, each component from 0 to 1.
-    NxMFColorRGBA mfColorRGBA{this, "mfColorRGBA"};
-    /// 64-bit numbers.
-    NxMFDouble mfDouble{this, "mfDouble"};
-    /// Some of four names.
-    NxMFEnum mfEnum{this, "mfEnum", qualities()};
-    /// 32-bit numbers.
-    NxMFFloat mfFloat{this, "mfFloat"};
-    /// 32-bit integers.
-    NxMFInt32 mfInt32{this, "mfInt32"};
-    /// 4 by 4 matrices.
-    NxMFMatrix mfMatrix{this, "mfMatrix"};
-    /// Names.
-    NxMFName mfName{this, "mfName"};
-    /// Planes.
-    NxMFPlane mfPlane{this, "mfPlane"};
-    /// Axes, each with an angle in radians.
-    NxMFRotation mfRotation{this, "mfRotation"};
-    /// 16-bit integers.
-    NxMFShort mfShort{this, "mfShort"};
-    /// Texts.
-    NxMFString mfString{this, "mfString"};
-    /// 32-bit integers that are never negative.
-    NxMFUInt32 mfUInt32{this, "mfUInt32"};
-    /// 16-bit integers that are never negative.
-    NxMFUShort mfUShort{this, "mfUShort"};
-    /// Vectors of two numbers.
-    NxMFVec2f mfVec2f{this, "mfVec2f"};
-    /// Vectors of two 32-bit integers.
-    NxMFVec2i32 mfVec2i32{this, "mfVec2i32"};
-    /// Vectors of two 16-bit integers.
-    NxMFVec2s mfVec2s{this, "mfVec2s"};
-    /// Vectors of three numbers.
-    NxMFVec3f mfVec3f{this, "mfVec3f"};
-    /// Vectors of four numbers.
-    NxMFVec4f mfVec4f{this, "mfVec4f"};
+    NxSFBitMask sfBitMask{this, {"sfBitMask", "A set of bits with names."}, traits()};
+    NxSFBool sfBool{this, {"sfBool", "A boolean."}};
+    NxSFBox2f sfBox2f{this, {"sfBox2f", "A rectangle."}};
+    NxSFBox3s sfBox3s{this, {"sfBox3s", "A box of 16-bit integers."}};
+    NxSFColor sfColor{this, {"sfColor", "A colour.", meridane::softRange(0, 1)}};
+    NxSFColorRGBA sfColorRGBA{this, {"sfColorRGBA", "A colour with opacity.", meridane::softRange(0, 1)}};
+    NxSFDouble sfDouble{this, {"sfDouble", "A 64-bit number."}};
+    NxSFEnum sfEnum{this, {"sfEnum", "One of four names."}, qualities()};
+    NxSFFilePathString sfFilePathString{this, {"sfFilePathString", "The path of a file."}};
+    NxSFFloat sfFloat{this, {"sfFloat", "A 32-bit number."}};
+    NxSFImage sfImage{this, {"sfImage", "A small or large image."}};
+    NxSFInt32 sfInt32{this, {"sfInt32", "A 32-bit integer."}};
+    NxSFMatrix sfMatrix{this, {"sfMatrix", "A 4 by 4 matrix."}};
+    NxSFName sfName{this, {"sfName", "A name."}};
+    NxSFPlane sfPlane{this, {"sfPlane", "A plane."}};
+    NxSFRotation sfRotation{this, {"sfRotation", "A turn about an axis.", NxUnit::Radians}};
+    NxSFShort sfShort{this, {"sfShort", "A 16-bit integer."}};
+    NxSFString sfString{this, {"sfString", "A text."}};
+    NxSFTime sfTime{this, {"sfTime", "A time.", NxUnit::Seconds}};
+    NxSFUInt32 sfUInt32{this, {"sfUInt32", "A 32-bit integer that is never negative."}};
+    NxSFUShort sfUShort{this, {"sfUShort", "A 16-bit integer that is never negative."}};
+    NxSFVec2f sfVec2f{this, {"sfVec2f", "Two numbers."}};
+    NxSFVec2i32 sfVec2i32{this, {"sfVec2i32", "Two 32-bit integers."}};
+    NxSFVec2s sfVec2s{this, {"sfVec2s", "Two 16-bit integers."}};
+    NxSFVec3f sfVec3f{this, {"sfVec3f", "Three numbers."}};
+    NxSFVec3s sfVec3s{this, {"sfVec3s", "Three 16-bit integers."}};
+    NxSFVec4f sfVec4f{this, {"sfVec4f", "Four numbers."}};
+    NxMFBool mfBool{this, {"mfBool", "Booleans."}};
+    NxMFColor mfColor{this, {"mfColor", "Colours.", meridane::softRange(0, 1)}};
+    NxMFColorRGBA mfColorRGBA{this, {"mfColorRGBA", "Colours with opacity.", meridane::softRange(0, 1)}};
+    NxMFDouble mfDouble{this, {"mfDouble", "64-bit numbers."}};
+    NxMFEnum mfEnum{this, {"mfEnum", "Some of four names."}, qualities()};
+    NxMFFloat mfFloat{this, {"mfFloat", "32-bit numbers."}};
+    NxMFInt32 mfInt32{this, {"mfInt32", "32-bit integers."}};
+    NxMFMatrix mfMatrix{this, {"mfMatrix", "4 by 4 matrices."}};
+    NxMFName mfName{this, {"mfName", "Names."}};
+    NxMFPlane mfPlane{this, {"mfPlane", "Planes."}};
+    NxMFRotation mfRotation{this, {"mfRotation", "Turns, each about an axis.", NxUnit::Radians}};
+    NxMFShort mfShort{this, {"mfShort", "16-bit integers."}};
+    NxMFString mfString{this, {"mfString", "Texts."}};
+    NxMFUInt32 mfUInt32{this, {"mfUInt32", "32-bit integers that are never negative."}};
+    NxMFUShort mfUShort{this, {"mfUShort", "16-bit integers that are never negative."}};
+    NxMFVec2f mfVec2f{this, {"mfVec2f", "Vectors of two numbers."}};
+    NxMFVec2i32 mfVec2i32{this, {"mfVec2i32", "Vectors of two 32-bit integers."}};
+    NxMFVec2s mfVec2s{this, {"mfVec2s", "Vectors of two 16-bit integers."}};
+    NxMFVec3f mfVec3f{this, {"mfVec3f", "Vectors of three numbers."}};
+    NxMFVec4f mfVec4f{this, {"mfVec4f", "Vectors of four numbers."}};
 
     NxFieldGallery();
 

@@ -7,7 +7,7 @@
 #include <memory>
 #include <unordered_set>
 
-NX_NODE_SOURCE(NxGroup, NxNode, "Group")
+NX_NODE_SOURCE(NxGroup, NxNode, "Group", "A node that holds other nodes, in order.")
 
 namespace {
 

@@ -9,13 +9,12 @@
 class NxLight : public NxNode {
 public:
     [[nodiscard]] static NxType getClassTypeId();
+    [[nodiscard]] NxType getTypeId() const override { return getClassTypeId(); }
 
-    /// Whether the light shines.
-    NxSFBool on{this, "on", true};
-    /// How bright the light is, from 0 (dark) to 1 (full).
-    NxSFFloat intensity{this, "intensity", 1};
-    /// The colour of the light, each component from 0 to 1.
-    NxSFColor color{this, "color", VbColor(1, 1, 1)};
+    NxSFBool on{this, {"on", "Whether the light shines."}, true};
+    NxSFFloat intensity{
+        this, {"intensity", "How bright the light is, from dark (0) to full (1).", meridane::range(0, 1)}, 1};
+    NxSFColor color{this, {"color", "The colour of the light.", meridane::range(0, 1)}, VbColor(1, 1, 1)};
 
 protected:
     NxLight() = default;

@@ -1,3 +1,3 @@
 #include "meridane/scene/nodes/NxMaterial.h"
 
-NX_NODE_SOURCE(NxMaterial, NxNode, "Material")
+NX_NODE_SOURCE(NxMaterial, NxNode, "Material", "The look of the surfaces that follow in the group.")

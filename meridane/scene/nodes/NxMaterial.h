@@ -9,18 +9,19 @@ class NxMaterial : public NxNode {
     NX_NODE(NxMaterial)
 
 public:
-    /// The part of the ambient light that is reflected, each component from 0 to 1.
-    NxSFColor ambientColor{this, "ambientColor", VbColor(0.2F, 0.2F, 0.2F)};
-    /// The colour of the surface in direct light, each component from 0 to 1.
-    NxSFColor diffuseColor{this, "diffuseColor", VbColor(0.8F, 0.8F, 0.8F)};
-    /// The colour of highlights, each component from 0 to 1.
-    NxSFColor specularColor{this, "specularColor", VbColor(0, 0, 0)};
-    /// The light that the surface gives off by itself, each component from 0 to 1.
-    NxSFColor emissiveColor{this, "emissiveColor", VbColor(0, 0, 0)};
-    /// How sharp highlights are, from 0 (wide) to 1 (small and sharp).
-    NxSFFloat shininess{this, "shininess", 0.2F};
-    /// How much shines through, from 0 (opaque) to 1 (invisible).
-    NxSFFloat transparency{this, "transparency", 0};
+    NxSFColor ambientColor{this,
+        {"ambientColor", "The part of the ambient light that is reflected.", meridane::range(0, 1)},
+        VbColor(0.2F, 0.2F, 0.2F)};
+    NxSFColor diffuseColor{this, {"diffuseColor", "The colour of the surface in direct light.", meridane::range(0, 1)},
+        VbColor(0.8F, 0.8F, 0.8F)};
+    NxSFColor specularColor{
+        this, {"specularColor", "The colour of highlights.", meridane::range(0, 1)}, VbColor(0, 0, 0)};
+    NxSFColor emissiveColor{this,
+        {"emissiveColor", "The light that the surface gives off by itself.", meridane::range(0, 1)}, VbColor(0, 0, 0)};
+    NxSFFloat shininess{this,
+        {"shininess", "How sharp highlights are, from wide (0) to small and sharp (1).", meridane::range(0, 1)}, 0.2F};
+    NxSFFloat transparency{
+        this, {"transparency", "How much shines through, from opaque (0) to invisible (1).", meridane::range(0, 1)}, 0};
 
 protected:
     ~NxMaterial() override = default;

@@ -8,8 +8,8 @@ class NxMatrixTransform : public NxGroup {
     NX_NODE(NxMatrixTransform)
 
 public:
-    /// The matrix from the children to the group above; the translation is in the last row.
-    NxSFMatrix matrix{this, "matrix"};
+    NxSFMatrix matrix{
+        this, {"matrix", "The matrix from the children to the group above, with the translation in the last row."}};
 
 protected:
     ~NxMatrixTransform() override = default;

@@ -1,6 +1,6 @@
 #include "meridane/scene/nodes/NxMesh.h"
 
-NX_NODE_SOURCE(NxMesh, NxNode, "Mesh")
+NX_NODE_SOURCE(NxMesh, NxNode, "Mesh", "Triangles, lines or points with shared corners.")
 
 const NxEnumeration& NxMesh::primitives()
 {

@@ -20,22 +20,27 @@ public:
         POINTS = 2, ///< one index each
     };
 
-    /// The corners, in scene units.
-    NxMFVec3f positions{this, "positions"};
-    /// The direction that the surface faces at each corner, of unit length: none (then flat triangles are lit by their
-    /// own normals) or one for each position.
-    NxMFVec3f normals{this, "normals"};
-    /// The place in the texture for each corner, from 0 to 1 across it, (0, 0) being the lower left: none or one for
-    /// each position.
-    NxMFVec2f textureCoordinates{this, "textureCoordinates"};
-    /// Colours that replace the diffuse colour and the transparency of the material: none, one for all or one for each
-    /// position.
-    NxMFColorRGBA colors{this, "colors"};
-    /// The positions in the order of drawing, counted from 0: three for each triangle (counter-clockwise as seen from
-    /// outside), two for each line, one for each point. Empty for all positions in order.
-    NxMFInt32 indices{this, "indices"};
-    /// What the indices make.
-    NxSFEnum primitive{this, "primitive", primitives(), TRIANGLES};
+    NxMFVec3f positions{this, {"positions", "The corners.", NxUnit::Metres}};
+    NxMFVec3f normals{this,
+        {"normals",
+            "The direction of unit length that the surface faces at each corner: one for each position, or none for "
+            "flat triangles that are lit by their own normals.",
+            meridane::softRange(-1, 1)}};
+    NxMFVec2f textureCoordinates{this,
+        {"textureCoordinates",
+            "The place in the texture for each corner, from 0 to 1 across it with (0, 0) at the lower left: one for "
+            "each position, or none."}};
+    NxMFColorRGBA colors{this,
+        {"colors",
+            "Colours that replace the diffuse colour and the transparency of the material: one for each position, one "
+            "for all, or none.",
+            meridane::softRange(0, 1)}};
+    NxMFInt32 indices{this,
+        {"indices",
+            "The positions in the order of drawing, counted from 0: three for each triangle (counter-clockwise as seen "
+            "from outside), two for each line, one for each point, or none at all for all positions in order.",
+            meridane::atLeast(0)}};
+    NxSFEnum primitive{this, {"primitive", "What the indices make."}, primitives(), TRIANGLES};
 
 protected:
     ~NxMesh() override = default;

@@ -9,6 +9,7 @@
 class NxNode : public NxFieldContainer {
 public:
     [[nodiscard]] static NxType getClassTypeId();
+    [[nodiscard]] NxType getTypeId() const override { return getClassTypeId(); }
 
     /// The node's children in order; none for a node that is no group. Valid until the list changes.
     [[nodiscard]] virtual std::span<NxNode* const> getChildren() const { return {}; }
@@ -22,6 +23,12 @@ protected:
 };
 
 namespace meridane {
+
+/// What a node class says of itself.
+struct ClassTexts {
+    const char* name;
+    const char* description = "";
+};
 
 template <typename Node>
 NxTypedObject* createNode()
@@ -46,14 +53,15 @@ public:                                                                         
                                                                                                                        \
 private:
 
-/// A line in the source file of a node class: `NX_NODE_SOURCE(NxMaterial, NxNode, "Material")`. The class is registered
-/// when the library that holds it is loaded. For scene files, the name of the class and those of its fields consist of
-/// letters, digits and `_`, the first no digit, and the class isn't called `use` or `ignored`.
-#define NX_NODE_SOURCE(Class, Parent, name)                                                                            \
+/// A line in the source file of a node class: `NX_NODE_SOURCE(NxSwitch, NxGroup, "Switch", "A group that shows one of
+/// its children.")`. The description, one sentence with a full stop, may be left out. The class is registered when the
+/// library that holds it is loaded. For scene files, the name of the class and those of its fields consist of letters,
+/// digits and `_`, the first no digit, and the class isn't called `use` or `ignored`.
+#define NX_NODE_SOURCE(Class, Parent, ...)                                                                             \
     NxType Class::getClassTypeId()                                                                                     \
     {                                                                                                                  \
-        static const NxType type                                                                                       \
-            = NxType::registerClass(name, Parent::getClassTypeId(), &meridane::createNode<Class>);                     \
+        static const NxType type = NxType::registerClass(                                                              \
+            meridane::ClassTexts{__VA_ARGS__}.name, Parent::getClassTypeId(), &meridane::createNode<Class>);           \
         return type;                                                                                                   \
     }                                                                                                                  \
     NxType Class::getTypeId() const                                                                                    \
@@ -62,7 +70,8 @@ private:
     }                                                                                                                  \
     NxFieldData* Class::getFieldData()                                                                                 \
     {                                                                                                                  \
-        static NxFieldData data(&meridane::createFieldContainer<Class>);                                               \
+        static NxFieldData data(                                                                                       \
+            &meridane::createFieldContainer<Class>, meridane::ClassTexts{__VA_ARGS__}.description);                    \
         return &data;                                                                                                  \
     }                                                                                                                  \
     namespace {                                                                                                        \

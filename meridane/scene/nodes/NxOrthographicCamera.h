@@ -8,8 +8,7 @@ class NxOrthographicCamera : public NxCamera {
     NX_NODE(NxOrthographicCamera)
 
 public:
-    /// The height of what is seen, in scene units; above 0.
-    NxSFFloat height{this, "height", 2};
+    NxSFFloat height{this, {"height", "The height of what is seen.", NxUnit::Metres, meridane::above(0)}, 2};
 
 protected:
     ~NxOrthographicCamera() override = default;

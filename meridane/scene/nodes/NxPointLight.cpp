@@ -1,3 +1,3 @@
 #include "meridane/scene/nodes/NxPointLight.h"
 
-NX_NODE_SOURCE(NxPointLight, NxLight, "PointLight")
+NX_NODE_SOURCE(NxPointLight, NxLight, "PointLight", "A lamp that shines into all directions.")

@@ -1,3 +1,3 @@
 #include "meridane/scene/nodes/NxSpotLight.h"
 
-NX_NODE_SOURCE(NxSpotLight, NxLight, "SpotLight")
+NX_NODE_SOURCE(NxSpotLight, NxLight, "SpotLight", "A lamp that shines into a cone.")

@@ -4,19 +4,24 @@
 #include "meridane/scene/fields/single/NxSFVec3f.h"
 #include "meridane/scene/nodes/NxLight.h"
 
+#include <numbers>
+
 /// A lamp that shines into a cone.
 class NxSpotLight : public NxLight {
     NX_NODE(NxSpotLight)
 
 public:
-    /// Where the lamp is, the tip of the cone, in scene units.
-    NxSFVec3f location{this, "location", VbVec3f(0, 0, 1)};
-    /// The axis of the cone; of any length but 0.
-    NxSFVec3f direction{this, "direction", VbVec3f(0, 0, -1)};
-    /// The angle between the axis and the side of the cone in radians, from 0 to half of pi.
-    NxSFFloat cutOffAngle{this, "cutOffAngle", 0.7853982F};
-    /// How the light fades from the axis to the side, from 0 (not at all) to 1 (most).
-    NxSFFloat dropOffRate{this, "dropOffRate", 0};
+    NxSFVec3f location{this, {"location", "Where the lamp is, the tip of the cone.", NxUnit::Metres}, VbVec3f(0, 0, 1)};
+    NxSFVec3f direction{
+        this, {"direction", "The axis of the cone, as a vector of any length but 0."}, VbVec3f(0, 0, -1)};
+    NxSFFloat cutOffAngle{this,
+        {"cutOffAngle", "The angle between the axis and the side of the cone.", NxUnit::Radians,
+            meridane::range(0, std::numbers::pi / 2), meridane::step(meridane::degree)},
+        0.7853982F};
+    NxSFFloat dropOffRate{this,
+        {"dropOffRate", "How the light fades from the axis to the side, from not at all (0) to most (1).",
+            meridane::range(0, 1)},
+        0};
 
 protected:
     ~NxSpotLight() override = default;

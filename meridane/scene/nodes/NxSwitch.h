@@ -14,9 +14,11 @@ public:
         ALL = -3, ///< all children are shown
     };
 
-    /// The index of the shown child, from 0; -1 for none and -3 for all. Any other number, or an index beyond the last
-    /// child, shows none.
-    NxSFInt32 whichChild{this, "whichChild", NONE};
+    NxSFInt32 whichChild{this,
+        {"whichChild",
+            "The index of the shown child, counted from 0; -1 or an index without a child shows none, -3 shows all.",
+            meridane::atLeast(-3)},
+        NONE};
 
 protected:
     ~NxSwitch() override = default;

@@ -1,6 +1,7 @@
 #include "meridane/scene/nodes/NxTexture.h"
 
-NX_NODE_SOURCE(NxTexture, NxNode, "Texture")
+NX_NODE_SOURCE(NxTexture, NxNode, "Texture",
+    "An image on the surfaces that follow in the group, placed by their texture coordinates.")
 
 const NxEnumeration& NxTexture::wraps()
 {

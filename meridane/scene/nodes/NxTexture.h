@@ -16,14 +16,12 @@ public:
         CLAMP = 1, ///< the border goes on
     };
 
-    /// The file of the image, relative to the folder of the scene file. It is used when there is no `image`.
-    NxSFFilePathString filePath{this, "filePath"};
-    /// The image itself; the row at the bottom comes first.
-    NxSFImage image{this, "image"};
-    /// What lies to the left and right of the image.
-    NxSFEnum wrapS{this, "wrapS", wraps(), REPEAT};
-    /// What lies below and above the image.
-    NxSFEnum wrapT{this, "wrapT", wraps(), REPEAT};
+    NxSFFilePathString filePath{this,
+        {"filePath",
+            "The file of the image, relative to the folder of the scene file; it is used when image is empty."}};
+    NxSFImage image{this, {"image", "The image itself, with the row at the bottom first."}};
+    NxSFEnum wrapS{this, {"wrapS", "What lies to the left and right of the image."}, wraps(), REPEAT};
+    NxSFEnum wrapT{this, {"wrapT", "What lies below and above the image."}, wraps(), REPEAT};
 
 protected:
     ~NxTexture() override = default;

@@ -10,15 +10,16 @@ class NxTransform : public NxGroup {
     NX_NODE(NxTransform)
 
 public:
-    /// How far the children are moved along x, y and z, in scene units.
-    NxSFVec3f translation{this, "translation"};
-    /// How the children are turned: an axis of any length but 0, and an angle in radians, counter-clockwise when the
-    /// axis points at the viewer.
-    NxSFRotation rotation{this, "rotation"};
-    /// The factors along x, y and z; a negative one mirrors.
-    NxSFVec3f scaleFactor{this, "scaleFactor", VbVec3f(1, 1, 1)};
-    /// The point about which the children are scaled and turned, in their own units.
-    NxSFVec3f center{this, "center"};
+    NxSFVec3f translation{this, {"translation", "How far the children are moved along x, y and z.", NxUnit::Metres}};
+    NxSFRotation rotation{this,
+        {"rotation",
+            "How the children are turned: about an axis of any length but 0, counter-clockwise when it points at the "
+            "viewer.",
+            NxUnit::Radians, meridane::step(meridane::degree)}};
+    NxSFVec3f scaleFactor{
+        this, {"scaleFactor", "The factors along x, y and z, of which a negative one mirrors."}, VbVec3f(1, 1, 1)};
+    NxSFVec3f center{this,
+        {"center", "The point about which the children are scaled and turned, in their own units.", NxUnit::Metres}};
 
 protected:
     ~NxTransform() override = default;

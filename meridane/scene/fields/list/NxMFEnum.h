@@ -11,10 +11,10 @@ class NxMFEnum : public meridane::ListField<int, meridane::EnumFormat> {
 
 public:
     /// The enumeration must outlive the field.
-    NxMFEnum(
-        NxFieldContainer* container, const char* name, const NxEnumeration& enumeration, std::vector<int> values = {})
-        : ListField(
-            container, name, std::move(values), meridane::EnumFormat(enumeration, meridane::EnumFormat::Kind::Value))
+    NxMFEnum(NxFieldContainer* container, const meridane::FieldDeclaration& declaration,
+        const NxEnumeration& enumeration, std::vector<int> values = {})
+        : ListField(container, declaration, std::move(values),
+            meridane::EnumFormat(enumeration, meridane::EnumFormat::Kind::Value))
     {
     }
 

@@ -8,8 +8,9 @@ class NxSFBitMask : public NxSFEnum {
 
 public:
     /// The enumeration must outlive the field.
-    NxSFBitMask(NxFieldContainer* container, const char* name, const NxEnumeration& enumeration, int value = 0)
-        : NxSFEnum(container, name, enumeration, value, meridane::EnumFormat::Kind::Mask)
+    NxSFBitMask(NxFieldContainer* container, const meridane::FieldDeclaration& declaration,
+        const NxEnumeration& enumeration, int value = 0)
+        : NxSFEnum(container, declaration, enumeration, value, meridane::EnumFormat::Kind::Mask)
     {
     }
 };

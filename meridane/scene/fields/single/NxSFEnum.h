@@ -11,8 +11,9 @@ class NxSFEnum : public meridane::SingleField<int, meridane::EnumFormat> {
 
 public:
     /// The enumeration must outlive the field.
-    NxSFEnum(NxFieldContainer* container, const char* name, const NxEnumeration& enumeration, int value = 0)
-        : NxSFEnum(container, name, enumeration, value, meridane::EnumFormat::Kind::Value)
+    NxSFEnum(NxFieldContainer* container, const meridane::FieldDeclaration& declaration,
+        const NxEnumeration& enumeration, int value = 0)
+        : NxSFEnum(container, declaration, enumeration, value, meridane::EnumFormat::Kind::Value)
     {
     }
 
@@ -27,9 +28,9 @@ public:
     virtual bool enumValueByName(const VbName& name, int& value) const;
 
 protected:
-    NxSFEnum(NxFieldContainer* container, const char* name, const NxEnumeration& enumeration, int value,
-        meridane::EnumFormat::Kind kind)
-        : SingleField(container, name, value, meridane::EnumFormat(enumeration, kind))
+    NxSFEnum(NxFieldContainer* container, const meridane::FieldDeclaration& declaration,
+        const NxEnumeration& enumeration, int value, meridane::EnumFormat::Kind kind)
+        : SingleField(container, declaration, value, meridane::EnumFormat(enumeration, kind))
     {
     }
 };

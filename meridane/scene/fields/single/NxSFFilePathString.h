@@ -7,5 +7,8 @@ class NxSFFilePathString : public NxSFString {
     NX_FIELD(NxSFFilePathString)
 
 public:
-    using NxSFString::NxSFString;
+    NxSFFilePathString(NxFieldContainer* container, const meridane::FieldDeclaration& declaration, Read value = {})
+        : NxSFString(container, declaration.ofFile(), value)
+    {
+    }
 };

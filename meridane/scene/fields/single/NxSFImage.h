@@ -13,9 +13,9 @@ class NxSFImage : public NxSField {
     NX_FIELD(NxSFImage)
 
 public:
-    /// An empty image. `container` may be null, for a field without a node. `name` must be a literal.
-    NxSFImage(NxFieldContainer* container, const char* name)
-        : NxSField(container, name)
+    /// An empty image. `container` may be null, for a field without a node.
+    NxSFImage(NxFieldContainer* container, const meridane::FieldDeclaration& declaration)
+        : NxSField(container, declaration)
     {
     }
 
