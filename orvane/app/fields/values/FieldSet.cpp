@@ -4,6 +4,7 @@
 #include "orvane/app/base/TextConversion.h"
 
 #include "meridane/base/values/VbName.h"
+#include "meridane/scene/components/FieldComponents.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/list/NxMFEnum.h"
@@ -13,6 +14,8 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
 
 namespace {
 
@@ -99,6 +102,18 @@ QString FieldSet::name() const
 bool FieldSet::isMixed() const
 {
     return std::ranges::any_of(fields(), [this](const NxField* field) { return !field->isSame(first()); });
+}
+
+bool FieldSet::isMixed(int component) const
+{
+    const auto* const components = isEmpty() ? nullptr : meridane::FieldComponents::of(first());
+    if (components == nullptr)
+        return isMixed();
+    const auto bits = [&](const NxField& field) {
+        return std::bit_cast<std::uint64_t>(components->get(field, 0, component)); // so that a NaN equals itself
+    };
+    return std::ranges::any_of(
+        fields(), [&, expected = bits(first())](const NxField* field) { return bits(*field) != expected; });
 }
 
 bool FieldSet::isChanged() const

@@ -40,6 +40,8 @@ public:
 
     /// Whether the values are not all the same.
     [[nodiscard]] bool isMixed() const;
+    /// The same for one component of values that consist of numbers; a component that isn't there isn't mixed.
+    [[nodiscard]] bool isMixed(int component) const;
     /// Whether any of the values isn't the default of its class.
     [[nodiscard]] bool isChanged() const;
     /// Whether all of the fields are ignored.

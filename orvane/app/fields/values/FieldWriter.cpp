@@ -8,11 +8,14 @@
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/base/values/VbString.h"
+#include "meridane/scene/components/FieldComponents.h"
 #include "meridane/scene/fields/ChangeRecord.h"
 #include "meridane/scene/fields/MemoryGuard.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldData.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 FieldWriter::FieldWriter(OrvServices& services, QObject* parent)
@@ -116,6 +119,32 @@ orvane::Result<> FieldWriter::begin(const FieldSet& fields)
     return {};
 }
 
+void FieldWriter::beginDrag(const FieldSet& fields, int component)
+{
+    const auto* const components = fields.isEmpty() ? nullptr : meridane::FieldComponents::of(fields.first());
+    if (components == nullptr || !begin(fields))
+        return;
+    m_draggedComponent = component;
+    for (const NxField* const field : fields.fields())
+        m_dragStarts.push_back(components->get(*field, 0, component));
+}
+
+void FieldWriter::drag(double delta)
+{
+    if (m_dragStarts.empty())
+        return;
+    const auto& components = *meridane::FieldComponents::of(m_live.first());
+    std::size_t number = 0;
+    for (NxField* const field : m_live.fields()) {
+        const double start = m_dragStarts[number++];
+        if (!std::isfinite(start))
+            continue;
+        const double value = std::clamp(start + delta, components.lowest(), components.highest());
+        components.set(*field, 0, m_draggedComponent, components.isWhole() ? std::round(value) : value);
+    }
+    Q_EMIT written(m_live);
+}
+
 void FieldWriter::end()
 {
     if (!isLive())
@@ -140,6 +169,7 @@ void FieldWriter::forgetLive()
     if (!isLive())
         return;
     m_before.clear();
+    m_dragStarts.clear();
     m_live = FieldSet();
     m_services.endEdit();
 }

@@ -50,6 +50,12 @@ public:
     /// Puts all fields of the live edit back to their values from before, to the bit.
     void cancel();
 
+    /// Begins a live edit that drags a component of all fields. Does nothing for fields without numbers.
+    void beginDrag(const FieldSet& fields, int component);
+    /// Sets the component of each field to its own value from the beginning of the drag plus `delta`, within the range
+    /// of its type; whole numbers are rounded. End the drag with `end` or `cancel`.
+    void drag(double delta);
+
 Q_SIGNALS:
     /// The fields were written.
     void written(const FieldSet& fields);
@@ -65,4 +71,6 @@ private:
     OrvServices& m_services;
     FieldSet m_live; // of the live edit; empty for none
     std::vector<std::unique_ptr<meridane::ChangeRecord>> m_before; // its values
+    int m_draggedComponent = 0;
+    std::vector<double> m_dragStarts; // for each field; empty when none is dragged
 };

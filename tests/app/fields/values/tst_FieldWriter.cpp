@@ -236,6 +236,54 @@ private Q_SLOTS:
         QVERIFY(!many.services().canRedo());
     }
 
+    void aDragMovesEachFieldFromItsOwnValue()
+    {
+        ManyNodes many(galleries(3));
+        FieldWriter writer(many.services());
+        many.field(0, "sfVec3f").set("1 2 3");
+        many.field(1, "sfVec3f").set("1 5 3");
+        const std::string before = many.text();
+        const FieldSet set = many.set("sfVec3f");
+        QVERIFY(set.isMixed(1) && set.isMixed(0) && !set.isMixed(3));
+        writer.beginDrag(set, 1);
+        writer.drag(0.25);
+        ManyNodes::finish();
+        writer.drag(0.5);
+        writer.end();
+        QCOMPARE(textOf(many.field(0, "sfVec3f")), std::string("1 2.5 3"));
+        QCOMPARE(textOf(many.field(1, "sfVec3f")), std::string("1 5.5 3"));
+        QCOMPARE(textOf(many.field(2, "sfVec3f")), std::string("0 0.5 0"));
+        const std::string after = many.text();
+        const int steps = many.services().undoDepth();
+        writer.beginDrag(set, 1);
+        writer.drag(100);
+        ManyNodes::finish();
+        writer.cancel();
+        QCOMPARE(many.text(), after);
+        QCOMPARE(many.services().undoDepth(), steps);
+        many.services().undo();
+        QCOMPARE(many.text(), before);
+    }
+
+    void aDragStaysInTheRangeOfTheType()
+    {
+        ManyNodes many(galleries(2));
+        FieldWriter writer(many.services());
+        writer.beginDrag(many.set("sfShort"), 0);
+        writer.drag(2.6);
+        QCOMPARE(textOf(many.field(0, "sfShort")), std::string("3"));
+        writer.drag(1e9);
+        QCOMPARE(textOf(many.field(1, "sfShort")), std::string("32767"));
+        writer.drag(0);
+        writer.end();
+        ManyNodes::finish();
+        QCOMPARE(many.services().undoDepth(), 0);
+        writer.beginDrag(many.set("sfString"), 0);
+        QVERIFY(!writer.isLive());
+        writer.drag(1);
+        QCOMPARE(many.services().undoDepth(), 0);
+    }
+
     void aLiveEditWithoutAJournalCanBeUndone()
     {
         OrvServices services;
