@@ -104,6 +104,38 @@ private Q_SLOTS:
         QVERIFY(outcome.output.startsWith("1\t"));
     }
 
+    void aNodeClassIsDescribed()
+    {
+        const Outcome outcome = run({QStringLiteral("--describe"), QStringLiteral("Switch")});
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        QVERIFY2(outcome.output.startsWith("Switch (Group, Node)\nA group that shows one of its children"),
+            outcome.output.constData());
+        QVERIFY(outcome.output.contains("  whichChild  SFInt32  -1  at least -3  The index"));
+    }
+
+    void aNodeClassOfAPluginIsDescribed()
+    {
+        const QStringList arguments{QStringLiteral("--plugin"), QStringLiteral(SAMPLE_PLUGIN),
+            QStringLiteral("--describe"), QStringLiteral("SampleMarker")};
+        const Outcome outcome = run(arguments);
+        QCOMPARE(outcome.errors, QByteArray());
+        QCOMPARE(outcome.status, 0);
+        QVERIFY2(outcome.output.startsWith("SampleMarker (Transform, Group, Node)\nA place that somebody"),
+            outcome.output.constData());
+        QVERIFY(outcome.output.contains("metres   at least 0, useful 0.1 to 10  How far from the marker"));
+        // Without the plug-in there is no such class.
+        QCOMPARE(run({QStringLiteral("--describe"), QStringLiteral("SampleMarker")}).status, 1);
+    }
+
+    void anUnknownClassIsAnError()
+    {
+        const Outcome outcome = run({QStringLiteral("--describe"), QStringLiteral("Materail")});
+        QCOMPARE(outcome.errors, QByteArray("orvane: There is no node class 'Materail'; did you mean Material?\n"));
+        QCOMPARE(outcome.output, QByteArray());
+        QCOMPARE(outcome.status, 1);
+    }
+
     void aPictureIsWrittenWithoutADisplay()
     {
         const Outcome outcome = run({QStringLiteral("--screenshot"), path(QStringLiteral("window.png")),

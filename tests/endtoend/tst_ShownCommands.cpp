@@ -53,7 +53,8 @@ class TestShownCommands : public ProgramCase {
 private:
     void runTool(QString command) const
     {
-        static const QRegularExpression output(QStringLiteral("--(list|get|diff|export|screenshot|help|version)"));
+        static const QRegularExpression output(
+            QStringLiteral("--(list|get|describe|diff|export|screenshot|help|version)"));
         if (!command.contains(output)) // it opens a window, whose picture needs no watching
             command = command.remove(QStringLiteral(" --watch")) + QStringLiteral(" --screenshot shown.png");
         const Outcome outcome = runShell(

@@ -1,6 +1,7 @@
 #include "orvane/app/command_line/BatchRun.h"
 
 #include "orvane/app/base/SearchFolders.h"
+#include "orvane/app/command_line/ClassListing.h"
 #include "orvane/app/command_line/DifferenceListing.h"
 #include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/SceneListing.h"
@@ -107,6 +108,8 @@ Result<> BatchRun::run()
 
 Result<> BatchRun::runScene()
 {
+    if (m_commandLine.describe)
+        return describeClasses();
     if (m_commandLine.file.isEmpty())
         return {};
     const auto opened = open(m_commandLine.file);
@@ -123,6 +126,18 @@ Result<> BatchRun::runScene()
             return Failure{orvane::toQString(target.error)};
     }
     return writeOutput(scene);
+}
+
+Result<> BatchRun::describeClasses()
+{
+    const auto listing = ClassListing::of(m_commandLine.classes);
+    if (!listing)
+        return Failure{listing.error()};
+    if (m_commandLine.json)
+        listing.value().printJson(m_output);
+    else
+        listing.value().print(m_output);
+    return {};
 }
 
 Result<> BatchRun::writeOutput(const NxRef<NxGroup>& scene)

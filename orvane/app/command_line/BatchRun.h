@@ -35,6 +35,7 @@ private:
     static orvane::Result<> finish(FileJob& job);
     orvane::Result<> startExtensions(Session& session);
     orvane::Result<> runScene();
+    orvane::Result<> describeClasses();
     orvane::Result<> writeDifferences(const NxRef<NxGroup>& scene);
     [[nodiscard]] static orvane::Result<NxRef<NxGroup>> open(const QString& fileName);
 

@@ -37,7 +37,11 @@ struct Options {
             "Compare the file with a second one and print each difference: its kind, the path, what the first "
             "file has and what the second one has. The status is 0 if there are none, 1 if there are "
             "some and 2 for an error.")};
-    QCommandLineOption json{QStringLiteral("json"), QStringLiteral("Print the differences as one JSON object.")};
+    QCommandLineOption describe{QStringLiteral("describe"),
+        QStringLiteral("Print what these node classes are, or all: each field's type, default, unit, range and "
+                       "description.")};
+    QCommandLineOption json{
+        QStringLiteral("json"), QStringLiteral("Print the differences or the description as one JSON object.")};
     QCommandLineOption listExtensions{QStringLiteral("list-extensions"),
         QStringLiteral("Print each extension's order, class, name and handled type.")};
     QCommandLineOption exportTo{QStringLiteral("export"),
@@ -57,12 +61,14 @@ struct Options {
 
     void addTo(QCommandLineParser& parser) const
     {
-        parser.addOptions({plugin, profile, select, set, get, list, diff, json, listExtensions, exportTo, screenshot,
-            size, watch, noSettings, version, help});
+        parser.addOptions({plugin, profile, select, set, get, list, diff, describe, json, listExtensions, exportTo,
+            screenshot, size, watch, noSettings, version, help});
         parser.addPositionalArgument(QStringLiteral("file"),
             QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
         parser.addPositionalArgument(
             QStringLiteral("second file"), QStringLiteral("With --diff."), QStringLiteral("[second file]"));
+        parser.addPositionalArgument(QStringLiteral("classes"), QStringLiteral("With --describe, instead of files."),
+            QStringLiteral("[classes]"));
     }
 };
 
@@ -104,7 +110,7 @@ QString nameOf(const QCommandLineOption& option)
     return QStringLiteral("--") + option.names().constFirst();
 }
 
-Result<> checkFiles(const QStringList& files, bool diff, bool json)
+Result<> checkFiles(const QStringList& files, bool diff)
 {
     if (!diff && files.size() > 1)
         return Failure{QStringLiteral("One file at a time: '%1' is one too many.").arg(files[1])};
@@ -113,8 +119,19 @@ Result<> checkFiles(const QStringList& files, bool diff, bool json)
     if (diff && files.size() != 2)
         return Failure{
             QStringLiteral("--diff expects two files, such as --diff old.mrd new.mrd, not %1.").arg(files.size())};
-    if (json && !diff)
-        return Failure{QStringLiteral("--json is for --diff alone.")};
+    return {};
+}
+
+Result<> checkDescribe(const QCommandLineParser& parser, const Options& options)
+{
+    for (const QCommandLineOption& option : {options.select, options.set, options.get, options.list, options.diff,
+             options.listExtensions, options.exportTo, options.screenshot, options.size, options.watch}) {
+        if (parser.isSet(option))
+            return Failure{
+                QStringLiteral("--describe opens no scene, so it can't be used with %1.").arg(nameOf(option))};
+    }
+    if (parser.positionalArguments().contains(QString()))
+        return Failure{QStringLiteral("The name of the class is empty.")};
     return {};
 }
 
@@ -154,14 +171,18 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
     }
     if (auto watch = checkWatch(parser, options); !watch)
         return watch;
-    return checkFiles(parser.positionalArguments(), parser.isSet(options.diff), parser.isSet(options.json));
+    if (parser.isSet(options.json) && !parser.isSet(options.diff) && !parser.isSet(options.describe))
+        return Failure{QStringLiteral("--json is for --diff and --describe alone.")};
+    return parser.isSet(options.describe) ? checkDescribe(parser, options)
+                                          : checkFiles(parser.positionalArguments(), parser.isSet(options.diff));
 }
 
 } // namespace
 
 bool CommandLine::isBatch() const
 {
-    const bool asksForOutput = list || diff || listExtensions || !queries.isEmpty() || !exportFiles.isEmpty();
+    const bool asksForOutput
+        = describe || list || diff || listExtensions || !queries.isEmpty() || !exportFiles.isEmpty();
     return asksForOutput && screenshotFile.isEmpty();
 }
 
@@ -192,8 +213,13 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
 
     if (const auto use = checkUse(parser, options); !use)
         return Failure{use.error()};
-    result.file = parser.positionalArguments().value(0);
-    result.secondFile = parser.positionalArguments().value(1);
+    result.describe = parser.isSet(options.describe);
+    if (result.describe) {
+        result.classes = parser.positionalArguments();
+    } else {
+        result.file = parser.positionalArguments().value(0);
+        result.secondFile = parser.positionalArguments().value(1);
+    }
     result.plugins = parser.values(options.plugin);
     result.profile = parser.value(options.profile);
     result.select = parser.value(options.select);

@@ -33,6 +33,8 @@ struct CommandLine {
     bool list = false;
     bool diff = false;
     bool json = false;
+    bool describe = false;
+    QStringList classes; // only with `describe`
     bool listExtensions = false;
     bool watch = false;
     bool noSettings = false;

@@ -51,6 +51,20 @@ private Q_SLOTS:
         QCOMPARE(commandLine.file, QStringLiteral("in.mrd"));
     }
 
+    void classesToDescribeAreTaken()
+    {
+        const auto all = parse({QStringLiteral("--describe")});
+        QVERIFY(all);
+        QVERIFY(all.value().describe && all.value().classes.isEmpty() && all.value().isBatch());
+        QVERIFY(!all.value().needsExtensions());
+        const auto two = parse({QStringLiteral("--json"), QStringLiteral("--describe"), QStringLiteral("Group"),
+            QStringLiteral("Mesh"), QStringLiteral("--plugin=a.so")});
+        QVERIFY(two);
+        QCOMPARE(two.value().classes, QStringList({QStringLiteral("Group"), QStringLiteral("Mesh")}));
+        QVERIFY(two.value().file.isEmpty());
+        QVERIFY(two.value().json && two.value().needsExtensions());
+    }
+
     void unusableArgumentsAreRefused_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -92,6 +106,14 @@ private Q_SLOTS:
         }
         QTest::newRow("json alone") << QStringList{QStringLiteral("--json"), QStringLiteral("a.mrd")}
                                     << QStringLiteral("--diff");
+        for (const char* const option : {"--get=/a.b", "--set=/a.b=1", "--select=/a", "--list", "--list-extensions",
+                 "--export=a.obj", "--screenshot=a.png", "--diff", "--watch", "--size=640x480"}) {
+            const QString text = QLatin1String(option);
+            QTest::addRow("describe with %s", option)
+                << QStringList{QStringLiteral("--describe"), text} << text.section(u'=', 0, 0);
+        }
+        QTest::newRow("description of an empty name")
+            << QStringList{QStringLiteral("--describe"), QString()} << QStringLiteral("empty");
         QTest::newRow("diff of nothing") << QStringList{QStringLiteral("--diff")} << QStringLiteral("two files");
         QTest::newRow("diff of one file")
             << QStringList{QStringLiteral("--diff"), QStringLiteral("a.mrd")} << QStringLiteral("two files");
