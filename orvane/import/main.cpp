@@ -41,8 +41,10 @@ int fail(const std::string& message, Status status = Failure)
     return status;
 }
 
-bool writeText(NxGroup& scene, std::string& error)
+bool writeText(NxGroup& scene, const std::vector<std::string>& warnings, std::string& error)
 {
+    for (const std::string& warning : warnings)
+        std::fprintf(stderr, "warning: %s\n", warning.c_str());
     NxSceneWriter writer(&scene);
     std::string text;
     // In parts, so that the text of a large scene needn't fit in memory as a whole.
@@ -58,9 +60,9 @@ bool writeText(NxGroup& scene, std::string& error)
     return error.empty();
 }
 
-bool writePacked(NxGroup& scene, std::string& error)
+bool writePacked(NxGroup& scene, const std::vector<std::string>& warnings, std::string& error)
 {
-    const orvane::PackedScene packed(scene);
+    const orvane::PackedScene packed(scene, warnings);
     error = packed.failure();
     if (!error.empty())
         return false;
@@ -74,7 +76,10 @@ int readModel(const std::string& path, bool packed)
     std::string error;
     orvane::ModelReader reader;
     const NxRef<NxGroup> scene = reader.read(path, error);
-    if (!scene || !(packed ? writePacked(*scene, error) : writeText(*scene, error)))
+    if (!scene)
+        return fail(error);
+    const std::vector<std::string> warnings = reader.warnings();
+    if (!(packed ? writePacked(*scene, warnings, error) : writeText(*scene, warnings, error)))
         return fail(error);
     // The end of the process frees all memory at once, which is faster than freeing it block by block. Only the leak
     // check needs that, and the counts of branches, which are written then.

@@ -110,8 +110,17 @@ void PackedParts::readFirstLine(std::string_view line)
     m_phase = Phase::TextLine;
 }
 
+void PackedParts::readWarning(std::string_view text)
+{
+    if (m_warnings.size() == PackedScene::mostWarnings)
+        return fail("it has more than " + std::to_string(PackedScene::mostWarnings) + " warnings");
+    m_warnings.emplace_back(text);
+}
+
 void PackedParts::readTextLine(std::string_view line)
 {
+    if (takeStart(line, "warning "))
+        return readWarning(line);
     const std::optional<std::size_t> size = takeStart(line, "text ") ? takeNumber(line) : std::nullopt;
     if (!size || !line.empty() || *size > m_left)
         return failAtSize();
@@ -159,6 +168,7 @@ void PackedParts::endAtEnd()
 
 void PackedParts::fail(std::string reason)
 {
+    m_warnings = {};
     m_text = {};
     m_blocks = {};
     m_failure = std::move(reason);

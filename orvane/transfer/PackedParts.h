@@ -46,6 +46,8 @@ public:
     /// What is wrong or missing, one line; empty when it is complete.
     [[nodiscard]] std::string failure() const;
 
+    /// The warnings that come with the scene, in order, one line of text each.
+    [[nodiscard]] const std::vector<std::string>& warnings() const noexcept { return m_warnings; }
     /// The blocks so far; the last one may lack bytes.
     [[nodiscard]] const std::vector<PackedBlock>& blocks() const noexcept { return m_blocks; }
     /// The text of the scene file without the blocks, and the blocks in the order of the nodes and fields. To be called
@@ -60,6 +62,7 @@ private:
     std::size_t takePartOfLine(std::string_view bytes);
     void readLine();
     void readFirstLine(std::string_view line);
+    void readWarning(std::string_view text);
     void readTextLine(std::string_view line);
     void readBlockLine(std::string_view line);
     void endAtEnd();
@@ -73,6 +76,7 @@ private:
     std::size_t m_left = std::string::npos; // bytes that are still to come, once the first line is known
     std::size_t m_leftOfPart = 0; // the same of the text or the block
     std::string m_line; // that isn't whole yet
+    std::vector<std::string> m_warnings;
     std::string m_text;
     std::vector<PackedBlock> m_blocks;
 };

@@ -10,7 +10,9 @@
 #include "meridane/scene/file/NxSceneWriter.h"
 #include "meridane/scene/nodes/NodeTraversal.h"
 
+#include <algorithm>
 #include <chrono>
+#include <span>
 #include <utility>
 
 namespace orvane {
@@ -34,15 +36,31 @@ void withPackableList(NxField& field, const Action& action)
         || tryAs(dynamic_cast<NxMFVec4f*>(&field)) || tryAs(dynamic_cast<NxMFInt32*>(&field)));
 }
 
+std::string linesOf(const std::vector<std::string>& warnings)
+{
+    std::string lines;
+    for (const std::string& warning : std::span(warnings).first(std::min(warnings.size(), PackedScene::mostWarnings))) {
+        std::string text = warning.substr(0, PackedScene::longestWarning);
+        // Not in the middle of a character.
+        while (text.size() < warning.size() && !text.empty()
+            && (static_cast<unsigned char>(warning[text.size()]) & 0xc0) == 0x80)
+            text.pop_back();
+        std::replace_if(
+            text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
+        lines.append("warning ").append(text).append("\n");
+    }
+    return lines;
+}
+
 } // namespace
 
-PackedScene::PackedScene(NxGroup& scene)
+PackedScene::PackedScene(NxGroup& scene, const std::vector<std::string>& warnings)
 {
     meridane::NodeTraversal nodes(scene);
     std::size_t number = 0;
     while (NxNode* node = nodes.next())
         takeBlocks(*node, number++);
-    writeText(scene);
+    writeText(scene, linesOf(warnings));
 }
 
 void PackedScene::takeBlocks(NxNode& node, std::size_t number)
@@ -84,16 +102,16 @@ void PackedScene::addBlock(
     m_blocks.push_back({std::move(head), kept, {reinterpret_cast<const char*>(kept->data()), size}});
 }
 
-void PackedScene::writeText(NxGroup& scene)
+void PackedScene::writeText(NxGroup& scene, const std::string& warningLines)
 {
     NxSceneWriter writer(&scene);
     while (writer.step(m_text, std::chrono::hours(1))) { }
     m_failure = writer.failure();
     const std::string textHead = std::string("text ").append(std::to_string(m_text.size())).append("\n");
-    std::size_t size = textHead.size() + m_text.size();
+    std::size_t size = warningLines.size() + textHead.size() + m_text.size();
     for (const Block& block : m_blocks)
         size += block.head.size() + block.bytes.size();
-    m_head.append(firstWords).append(std::to_string(size)).append("\n").append(textHead);
+    m_head.append(firstWords).append(std::to_string(size)).append("\n").append(warningLines).append(textHead);
 }
 
 std::vector<std::string_view> PackedScene::portions() const

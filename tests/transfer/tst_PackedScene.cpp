@@ -186,6 +186,35 @@ private Q_SLOTS:
         QCOMPARE(NxSceneWriter::toText(unpack(pack(*scene), failure).get()), text);
     }
 
+    void warningsComeWithTheScene()
+    {
+        const NxRef<NxGroup> scene = new NxGroup;
+        std::vector<std::string> warnings{
+            "left out \"é\"", "", "two\nlines", std::string(899, 'x') + "é", std::string(3000, 'y')};
+        warnings.resize(40, "another");
+        orvane::PackedParts parts;
+        for (const std::string_view portion : PackedScene(*scene, warnings).portions())
+            parts.take(portion);
+        QVERIFY2(parts.isComplete(), parts.failure().c_str());
+        QCOMPARE(parts.warnings().size(), PackedScene::mostWarnings);
+        QCOMPARE(parts.warnings()[0], warnings[0]);
+        QCOMPARE(parts.warnings()[1], std::string());
+        QCOMPARE(parts.warnings()[2], std::string("two lines"));
+        QCOMPARE(parts.warnings()[3], std::string(899, 'x'));
+        QCOMPARE(parts.warnings()[4], std::string(900, 'y'));
+    }
+
+    void tooManyWarningsAreRefused()
+    {
+        std::string warnings;
+        for (int index = 0; index < 33; ++index)
+            warnings += "warning a\n";
+        orvane::PackedParts parts;
+        parts.take("orvane-scene 2 1000\n" + warnings);
+        QVERIFY(parts.isBroken());
+        QCOMPARE(parts.failure(), std::string("it has more than 32 warnings"));
+    }
+
     void anEmptySceneIsPacked()
     {
         const NxRef<NxGroup> scene = new NxGroup;

@@ -5,6 +5,7 @@
 #include "orvane/app/command_line/DifferenceListing.h"
 #include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/SceneListing.h"
+#include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/files/FileJobs.h"
 #include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/Session.h"
@@ -66,6 +67,8 @@ Result<NxRef<NxGroup>> BatchRun::open(const QString& fileName)
     const std::unique_ptr<SceneJob> job = orvane::makeLoadJob(fileName);
     if (const auto result = finish(*job); !result)
         return Failure{result.error()};
+    if (!job->warnings().isEmpty())
+        orvane::printError(QStringLiteral("warning: ") + job->warningText());
     return job->takeScene();
 }
 

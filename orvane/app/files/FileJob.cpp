@@ -62,6 +62,11 @@ SceneJob::SceneJob(const QString& fileName)
 
 SceneJob::~SceneJob() = default;
 
+QString SceneJob::warningText() const
+{
+    return QStringLiteral("%1: %2").arg(fileName(), m_warnings.join(QStringLiteral("; ")));
+}
+
 void SceneJob::finishAtOnceWith(const NxRef<NxGroup>& scene)
 {
     m_read = {scene, OrvDocument::makeJournal(*scene), content()};

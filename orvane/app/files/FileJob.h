@@ -8,6 +8,7 @@
 #include <QBasicTimer>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -94,6 +95,10 @@ public:
     [[nodiscard]] ReadScene take() { return std::exchange(m_read, {}); }
     /// What was wrong with the file, once the job has failed: the message of `failed`, and its place in the file.
     [[nodiscard]] const NxReadFailure& failure() const noexcept { return m_failure; }
+    /// What of the file isn't in the scene, or not as it was, once the job has finished: a text for each.
+    [[nodiscard]] const QStringList& warnings() const noexcept { return m_warnings; }
+    /// The warnings as one message that names the file.
+    [[nodiscard]] QString warningText() const;
 
 protected:
     /// Does some milliseconds of the reading.
@@ -102,6 +107,7 @@ protected:
     void finishWith(const NxRef<NxGroup>& scene);
     /// The same at once, for a small scene.
     void finishAtOnceWith(const NxRef<NxGroup>& scene);
+    void setWarnings(const QStringList& warnings) { m_warnings = warnings; }
     /// Ends the job with `failed`.
     void failToRead(NxReadFailure failure);
 
@@ -111,4 +117,5 @@ private:
     ReadScene m_numbered; // while the journal is prepared
     ReadScene m_read; // once the job has finished
     NxReadFailure m_failure;
+    QStringList m_warnings;
 };

@@ -19,6 +19,7 @@ namespace {
 
 // One topic for each, so that the end of one job doesn't remove the message about the other.
 const QString readingTopic = QStringLiteral("reading");
+const QString warningTopic = QStringLiteral("warnings of reading");
 const QString writingTopic = QStringLiteral("writing");
 
 QString readingText(FileRequest::Kind kind)
@@ -135,6 +136,7 @@ void FileWork::read(Kind kind, std::unique_ptr<SceneJob> job, const Reader& read
     m_reading.emplace(Reading{kind, job->fileName(), reader, std::move(job), {}});
     connect(running, &FileJob::finished, this, [this, running] {
         m_messages.clearTopic(readingTopic);
+        showWarnings(m_reading->kind, *running);
         m_reading->content = running->take();
         retire(std::move(m_reading->job));
         goOnLater();
@@ -175,6 +177,16 @@ void FileWork::reportFailure(const SceneJob& job, const QString& message)
     const NxReadFailure& failure = job.failure();
     NxReadError::post(VbString(meridane::withoutMarkup(failure.file)), failure.line, failure.column,
         VbString(meridane::withoutMarkup(failure.message)));
+}
+
+// A message for each model that is added, since all of them are there.
+void FileWork::showWarnings(Kind kind, const SceneJob& job)
+{
+    if (kind == Kind::Open)
+        m_messages.clearTopic(warningTopic);
+    if (!job.warnings().isEmpty())
+        m_messages.showMessage(MessageBar::Severity::Warning, job.warningText(),
+            kind == Kind::Add ? warningTopic + job.fileName() : warningTopic);
 }
 
 void FileWork::loseReading(const QString& reason, Loss loss)

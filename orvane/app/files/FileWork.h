@@ -111,6 +111,7 @@ private:
     void goOn();
     void goOnLater();
     void reportFailure(const SceneJob& job, const QString& message);
+    void showWarnings(Kind kind, const SceneJob& job);
     void loseReading(const QString& reason, Loss loss);
     [[nodiscard]] Reading takeReading();
     enum class WritingEnd { Written, Failed, Cancelled };

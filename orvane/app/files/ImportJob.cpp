@@ -58,6 +58,10 @@ void ImportJob::takeOutput()
 
 void ImportJob::startReading()
 {
+    QStringList warnings;
+    for (const std::string& warning : m_parts.warnings())
+        warnings += orvane::toQString(warning);
+    setWarnings(warnings);
     m_reader = std::make_unique<orvane::PackedSceneReader>(std::move(m_parts));
     startSlices();
 }

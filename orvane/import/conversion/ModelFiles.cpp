@@ -3,7 +3,11 @@
 #include "orvane/import/sandbox/FileAccess.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <system_error>
+#include <utility>
+
+#include <assimp/MemoryIOWrapper.h>
 
 namespace orvane {
 namespace {
@@ -16,6 +20,7 @@ bool isBelow(const std::filesystem::path& path, const std::filesystem::path& fol
 } // namespace
 
 ModelFiles::ModelFiles(const std::string& model)
+    : m_model(model)
 {
     for (const std::string& folder : foldersOf(model)) {
         std::error_code error;
@@ -32,7 +37,14 @@ bool ModelFiles::Exists(const char* path) const
 
 Assimp::IOStream* ModelFiles::Open(const char* path, const char* mode)
 {
+    if (m_content && path == m_model)
+        return new Assimp::MemoryIOStream(reinterpret_cast<const std::uint8_t*>(m_content->data()), m_content->size());
     return isUsable(path) ? DefaultIOSystem::Open(path, mode) : nullptr;
+}
+
+void ModelFiles::replaceModel(std::string content)
+{
+    m_content = std::move(content);
 }
 
 bool ModelFiles::isUsable(const char* path) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,13 +17,18 @@ public:
     explicit ModelFiles(const std::string& model);
 
     [[nodiscard]] bool Exists(const char* path) const override;
+    /// Lets the model's own file have another content.
+    void replaceModel(std::string content);
+
     /// Returns null for any other file.
     [[nodiscard]] Assimp::IOStream* Open(const char* path, const char* mode) override;
 
 private:
     [[nodiscard]] bool isUsable(const char* path) const;
 
+    std::string m_model;
     std::vector<std::filesystem::path> m_folders; // without symbolic links
+    std::optional<std::string> m_content; // that replaces the model's
 };
 
 } // namespace orvane

@@ -1,6 +1,8 @@
 #include "orvane/import/conversion/ModelReader.h"
 
 #include "orvane/import/conversion/ModelFiles.h"
+#include "orvane/import/conversion/ModelMending.h"
+#include "orvane/import/conversion/ObjMending.h"
 #include "orvane/import/conversion/SceneBuilder.h"
 
 #include "meridane/base/Files.h"
@@ -8,6 +10,7 @@
 #include <algorithm>
 #include <assimp/Importer.hpp>
 #include <filesystem>
+#include <string_view>
 
 #include <assimp/postprocess.h>
 #include <assimp/scene.h>
@@ -16,13 +19,19 @@ namespace orvane {
 namespace {
 
 // Equal vertices are merged, so that formats without indices give the same meshes as formats with them.
-constexpr unsigned int steps
-    = aiProcess_ValidateDataStructure | aiProcess_Triangulate | aiProcess_SortByPType | aiProcess_JoinIdenticalVertices;
+constexpr unsigned int steps = aiProcess_Triangulate | aiProcess_SortByPType | aiProcess_JoinIdenticalVertices;
 
 bool hasModelExtension(const std::string& path)
 {
     const std::string extension = std::filesystem::path(path).extension().string(); // with the dot, if any
     return extension.size() > 1 && Assimp::Importer().IsExtensionSupported(extension);
+}
+
+// Of the reader of OBJ files.
+bool isForBadIndex(const Assimp::Importer& importer)
+{
+    const std::string_view text = importer.GetErrorString();
+    return text.starts_with("OBJ: ") && text.find("index") != std::string_view::npos;
 }
 
 std::string failureText(const std::string& path, const Assimp::Importer& importer)
@@ -55,16 +64,46 @@ NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
         error = *failure;
         return {};
     }
-    m_importer->SetIOHandler(new ModelFiles(path)); // the importer's own
-    const aiScene* model = m_importer->ReadFile(path, steps);
-    if (model == nullptr || model->mRootNode == nullptr) {
-        error = path + ": " + failureText(path, *m_importer);
-        return {};
-    }
-    NxRef<NxGroup> scene = SceneBuilder(*model, std::filesystem::path(path).filename().string()).build(error);
+    auto* const files = new ModelFiles(path); // the importer's own
+    m_importer->SetIOHandler(files);
+    NxRef<NxGroup> scene;
+    if (const aiScene* const model = readMended(path, *files, error))
+        scene = SceneBuilder(*model, std::filesystem::path(path).filename().string()).build(error);
     if (!scene)
         error = path + ": " + error;
     return scene;
+}
+
+// The library's own check refuses a whole model for one bad part.
+const aiScene* ModelReader::readMended(const std::string& path, ModelFiles& files, std::string& error)
+{
+    m_warnings = {};
+    const aiScene* model = m_importer->ReadFile(path, 0);
+    if (model == nullptr && isForBadIndex(*m_importer)) {
+        std::string text;
+        meridane::FileReader reader;
+        bool atEnd = false;
+        if (!reader.open(path) && !reader.read(text, reader.size(), atEnd)) {
+            files.replaceModel(withoutUnusableFaces(text, m_warnings));
+            model = m_importer->ReadFile(path, 0);
+        }
+    }
+    if (model != nullptr && model->mRootNode != nullptr) {
+        // The importer's own, which it lets nobody else change; but its steps don't survive every model.
+        mendModel(const_cast<aiScene&>(*model), m_warnings);
+        if (model->mNumMeshes > 0 && !hasContent(*model)) {
+            error = "nothing in the model can be shown";
+            for (const std::string& warning : warnings())
+                error += "; " + warning;
+            return nullptr;
+        }
+        model = m_importer->ApplyPostProcessing(steps);
+    }
+    if (model == nullptr || model->mRootNode == nullptr) {
+        error = failureText(path, *m_importer);
+        return nullptr;
+    }
+    return model;
 }
 
 } // namespace orvane

@@ -1,16 +1,23 @@
 #pragma once
 
+#include "orvane/import/conversion/ImportWarnings.h"
+
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Assimp {
 class Importer;
 }
 
+struct aiScene;
+
 namespace orvane {
+
+class ModelFiles;
 
 /// Reads a foreign model. The destructor frees the data of the import library, which can take longer than writing the
 /// scene; a process that is about to exit can skip it.
@@ -22,9 +29,14 @@ public:
     /// Returns the scene, or null; then `error` begins with the file's name and says why. Files of textures aren't
     /// opened; embedded textures become images.
     [[nodiscard]] NxRef<NxGroup> read(const std::string& path, std::string& error);
+    /// What the user should know of the model that was read last: what was left out or mended.
+    [[nodiscard]] std::vector<std::string> warnings() const { return m_warnings.texts(); }
 
 private:
+    [[nodiscard]] const aiScene* readMended(const std::string& path, ModelFiles& files, std::string& error);
+
     std::unique_ptr<Assimp::Importer> m_importer;
+    ImportWarnings m_warnings;
 };
 
 } // namespace orvane

@@ -2,6 +2,7 @@
 
 #include "orvane/import/conversion/CameraConversion.h"
 #include "orvane/import/conversion/LightConversion.h"
+#include "orvane/import/conversion/Lists.h"
 #include "orvane/import/conversion/MaterialConversion.h"
 #include "orvane/import/conversion/MeshConversion.h"
 #include "orvane/import/conversion/Texts.h"
@@ -20,17 +21,6 @@
 
 namespace orvane {
 namespace {
-
-std::string_view viewOf(const aiString& text)
-{
-    return {text.data, text.length};
-}
-
-template <typename T>
-std::span<T* const> children(T* const* array, unsigned int count)
-{
-    return {array, array == nullptr ? 0 : count};
-}
 
 bool isPlain(const aiNode& node)
 {
@@ -53,9 +43,9 @@ SceneBuilder::SceneBuilder(const aiScene& model, std::string fileName)
     , m_materials(model.mNumMaterials)
     , m_isGltf(isGltf(model))
 {
-    for (const aiLight* light : children(model.mLights, model.mNumLights))
+    for (const aiLight* light : listOf(model.mLights, model.mNumLights))
         m_lights[viewOf(light->mName)].push_back(light);
-    for (const aiCamera* camera : children(model.mCameras, model.mNumCameras))
+    for (const aiCamera* camera : listOf(model.mCameras, model.mNumCameras))
         m_cameras.emplace(viewOf(camera->mName), camera);
 }
 
@@ -91,7 +81,7 @@ void SceneBuilder::addLights(NxGroup& scene, const aiNode& node, const aiMatrix4
         // Names aren't always unique; a light belongs to the first node with its name.
         place->second.clear();
     }
-    for (const aiNode* child : children(node.mChildren, node.mNumChildren))
+    for (const aiNode* child : listOf(node.mChildren, node.mNumChildren))
         addLights(scene, *child, worldTransform);
 }
 
@@ -117,7 +107,7 @@ bool SceneBuilder::addContent(NxGroup& group, const aiNode& node, int depth)
         if (const NxRef<NxGroup> mesh = meshGroup(index))
             group.addChild(mesh.get());
     }
-    const std::span<aiNode* const> nodes = children(node.mChildren, node.mNumChildren);
+    const auto nodes = listOf(node.mChildren, node.mNumChildren);
     return std::all_of(nodes.begin(), nodes.end(), [&](const aiNode* child) { return addNode(group, *child, depth); });
 }
 

@@ -11,9 +11,14 @@
 /// Texts between a scene and the import library: UTF-8 in both, but the library's hold at most 1023 bytes.
 namespace orvane {
 
+[[nodiscard]] inline std::string_view viewOf(const aiString& text)
+{
+    return {text.data, text.length};
+}
+
 [[nodiscard]] inline VbString toText(const aiString& text)
 {
-    return VbString(std::string_view(text.data, text.length));
+    return VbString(viewOf(text));
 }
 
 [[nodiscard]] inline aiString toAiText(std::string_view text)

@@ -31,6 +31,7 @@ public:
             group->setName(orvane::toVbString(QFileInfo(fileName()).completeBaseName()));
             group->addChild(new NxGroup);
             scene->addChild(group.get());
+            setWarnings(m_jobs.m_warnings);
             finishAtOnceWith(scene);
         }
         void fail(const QString& message) { failToRead({{}, 0, 0, message.toStdString()}); }
@@ -70,6 +71,8 @@ public:
     /// The jobs that run, in the order in which they were started.
     [[nodiscard]] const std::vector<FileJob*>& running() const { return m_running; }
     [[nodiscard]] QStringList& log() { return m_log; }
+    /// The warnings of the files that are read from now on.
+    void setWarnings(const QStringList& warnings) { m_warnings = warnings; }
 
     static void finish(FileJob* job)
     {
@@ -105,4 +108,5 @@ private:
 
     std::vector<FileJob*> m_running;
     QStringList m_log;
+    QStringList m_warnings;
 };

@@ -189,6 +189,27 @@ private Q_SLOTS:
         QCOMPARE(ends, QStringList(QStringLiteral("a.mrd: broken")));
     }
 
+    void warningsOfAFileAreOneMessage()
+    {
+        m_jobs->setWarnings({QStringLiteral("no lamp"), QStringLiteral("no face")});
+        ask(Kind::Open, "a.mrd");
+        finishAll();
+        const QString first = path("a.mrd") + QStringLiteral(": no lamp; no face");
+        QCOMPARE(m_messages->texts(), QStringList(first));
+        m_jobs->setWarnings({});
+        ask(Kind::Open, "b.mrd");
+        finishAll();
+        QCOMPARE(m_messages->texts(), QStringList());
+        QStringList added;
+        for (const char* name : {"c.mrd", "d.mrd"}) {
+            m_jobs->setWarnings({QStringLiteral("no leg")});
+            ask(Kind::Add, name);
+            finishAll();
+            added += path(name) + QStringLiteral(": no leg");
+        }
+        QCOMPARE(m_messages->texts(), added);
+    }
+
     void aSceneThatCouldNotBeWrittenIsNotLeft_data()
     {
         QTest::addColumn<bool>("cancel");

@@ -80,6 +80,20 @@ private Q_SLOTS:
         QCOMPARE(hasImage, fileName.endsWith(QStringLiteral("textured.gltf")));
     }
 
+    void warningsComeWithTheScene()
+    {
+        const QString fileName = m_folder.filePath(QStringLiteral("partial.obj"));
+        writeFile(fileName, "v 0 0 0\nv 1 0 0\nv 0 1 0\no bad\nf 1 2 9\no good\nf 1 2 3\n");
+        ImportJob job(fileName, realHelper());
+        const JobRecord record(job);
+        job.start();
+        QVERIFY(record.waitForEnd());
+        QCOMPARE(record.finished, 1);
+        QCOMPARE(job.warningText(),
+            fileName + QStringLiteral(": left out faces with an index out of range in the meshes: \"bad\""));
+        QCOMPARE(job.warnings().size(), 1);
+    }
+
     void theSceneIsGivenOnce()
     {
         ImportJob job(modelFile("crate.obj"), realHelper());
