@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace meridane {
+
+/// Why a text that a user typed can't be taken: a message of one or two sentences in plain words, and the place in the
+/// text that it is about, in bytes from its beginning.
+struct QueryError {
+    std::string message;
+    std::size_t position = 0;
+};
+
+} // namespace meridane
