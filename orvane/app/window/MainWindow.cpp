@@ -10,6 +10,7 @@
 #include "orvane/app/files/RecentFiles.h"
 #include "orvane/app/history/StepTravel.h"
 #include "orvane/app/images/ImageFolderQuestion.h"
+#include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/recovery/RecoveryOffer.h"
@@ -31,7 +32,6 @@
 #include "orvane/app/window/HistoryDock.h"
 #include "orvane/app/window/ReloadedTree.h"
 #include "orvane/app/window/ReturnedNodes.h"
-#include "orvane/app/window/SelectionLink.h"
 #include "orvane/app/window/WindowShell.h"
 
 #include "meridane/base/NxDelayQueue.h"

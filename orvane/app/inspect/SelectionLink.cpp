@@ -1,4 +1,4 @@
-#include "orvane/app/window/SelectionLink.h"
+#include "orvane/app/inspect/SelectionLink.h"
 
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/fields/FieldTableModel.h"
