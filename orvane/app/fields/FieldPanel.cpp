@@ -2,71 +2,161 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/fields/FieldFilterBar.h"
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
+#include "orvane/app/input/InputMessage.h"
+#include "orvane/app/look/Look.h"
 #include "orvane/app/scene/NodeIcons.h"
 
+#include "meridane/scene/fields/NxMField.h"
 #include "meridane/scene/nodes/NxNode.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLocale>
+#include <QMenu>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QStackedLayout>
-#include <QStyle>
 
-FieldPanel::FieldPanel(QWidget* parent)
+#include <algorithm>
+
+FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* parent)
     : QWidget(parent)
+    , m_settings(settings)
+    , m_writer(services)
     , m_model(new FieldTableModel(this))
     , m_view(new FieldTableView(this))
+    , m_filter(new FieldFilterBar(this))
     , m_icon(new QLabel(this))
     , m_heading(new QLabel(this))
+    , m_tools(new QHBoxLayout)
+    , m_nothing(new QLabel(this))
     , m_hint(new QWidget(this))
     , m_pages(new QStackedLayout(this))
 {
     auto* page = new QWidget(this);
+    buildPage(page);
+    buildColumns();
+    buildHint();
+    m_pages->addWidget(m_hint);
+    m_pages->addWidget(page);
+    connectView();
+    setFocusProxy(m_view);
+}
+
+void FieldPanel::buildPage(QWidget* page)
+{
+    const int unit = orvane::look::unit(fontMetrics());
     auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     auto* headingLine = new QHBoxLayout;
-    headingLine->setContentsMargins(8, 6, 8, 6);
-    headingLine->setSpacing(6);
+    headingLine->setContentsMargins(2 * unit, unit, 2 * unit, unit);
+    headingLine->setSpacing(unit);
     headingLine->addWidget(m_icon);
+    m_heading->setObjectName(QStringLiteral("fieldHeading"));
     m_heading->setTextFormat(Qt::PlainText);
     m_heading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     headingLine->addWidget(m_heading, 1);
+    headingLine->addLayout(m_tools);
     layout->addLayout(headingLine);
-    layout->addWidget(m_view);
-    m_view->setModel(m_model);
-    const int unit = fontMetrics().averageCharWidth();
-    m_view->setColumnWidth(FieldTableModel::NameColumn, unit * 26);
-    m_view->setColumnWidth(FieldTableModel::TypeColumn, unit * 18);
+    layout->addWidget(m_filter);
+    layout->addWidget(m_view, 1);
+    m_nothing->setObjectName(QStringLiteral("noFieldFound"));
+    m_nothing->setTextFormat(Qt::PlainText);
+    m_nothing->setWordWrap(true);
+    m_nothing->setForegroundRole(QPalette::PlaceholderText);
+    m_nothing->setMargin(2 * unit);
+    m_nothing->hide();
+    layout->addWidget(m_nothing);
+}
 
+void FieldPanel::buildColumns()
+{
+    m_view->setModel(m_model);
+    const int letter = fontMetrics().averageCharWidth();
+    const auto width = [this](int column, int usual) {
+        const int chosen = m_settings.columnWidth(column);
+        m_view->setColumnWidth(column, chosen > 0 ? chosen : usual);
+    };
+    width(FieldTableModel::NameColumn, letter * 22);
+    width(FieldTableModel::TypeColumn, letter * 16);
+    m_view->setColumnHidden(FieldTableModel::TypeColumn, !m_settings.isTypeShown());
+    auto* const marks = new MarkDelegate(this);
+    m_view->setItemDelegateForColumn(FieldTableModel::MarkColumn, marks);
+    // Not while the view still works on the click: it may change which rows there are.
+    connect(
+        marks, &MarkDelegate::clicked, this,
+        [this](MarkDelegate::Mark mark, const QPersistentModelIndex& index) {
+            if (index.isValid())
+                useMark(mark, index);
+        },
+        Qt::QueuedConnection);
+
+    QHeaderView* const header = m_view->header();
+    header->setStretchLastSection(false);
+    header->setMinimumSectionSize(MarkDelegate::columnWidth(*m_view));
+    header->setSectionResizeMode(FieldTableModel::ValueColumn, QHeaderView::Stretch);
+    header->setSectionResizeMode(FieldTableModel::MarkColumn, QHeaderView::Fixed);
+    header->resizeSection(FieldTableModel::MarkColumn, MarkDelegate::columnWidth(*m_view));
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header, &QWidget::customContextMenuRequested, this, &FieldPanel::chooseColumns);
+    connect(header, &QHeaderView::sectionResized, this, [this](int column, int /*before*/, int size) {
+        if (column <= FieldTableModel::TypeColumn && size > 0)
+            m_settings.setColumnWidth(column, size);
+    });
+}
+
+void FieldPanel::buildHint()
+{
     auto* hintLayout = new QVBoxLayout(m_hint);
     auto* hint = new QLabel(tr("Select a node in the view or the scene tree to see its fields."), m_hint);
     hint->setAlignment(Qt::AlignCenter);
     hint->setWordWrap(true);
     hint->setForegroundRole(QPalette::PlaceholderText);
     hintLayout->addWidget(hint);
-    m_pages->addWidget(m_hint);
-    m_pages->addWidget(page);
+}
 
+void FieldPanel::connectView()
+{
     // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (!m_settingCurrent)
+        const QModelIndexList selected = m_view->selectionModel()->selectedRows();
+        const bool isGroup = !selected.isEmpty() && m_model->row(selected.front()) == nullptr;
+        if (!m_settingCurrent && !isGroup)
             Q_EMIT fieldChosen(currentField());
     });
-    connect(m_view, &FieldTableView::currentPressed, this,
-        [this](const QModelIndex& index) { Q_EMIT fieldChosen(m_model->field(index)); });
-    setFocusProxy(m_view);
+    connect(m_view, &FieldTableView::currentPressed, this, [this](const QModelIndex& index) {
+        if (m_model->row(index) != nullptr)
+            Q_EMIT fieldChosen(m_model->field(index));
+    });
+    connect(m_view, &FieldTableView::openRequested, this, [this](const QModelIndex& index) {
+        if (auto* const list = dynamic_cast<NxMField*>(m_model->field(index)))
+            Q_EMIT listRequested(list);
+    });
+    connect(m_view, &FieldTableView::editorRequested, this, &FieldPanel::editorRequested);
+    connect(m_view, &QTreeView::collapsed, this, [this](const QModelIndex& index) { foldingChanged(index, true); });
+    connect(m_view, &QTreeView::expanded, this, [this](const QModelIndex& index) { foldingChanged(index, false); });
+    connect(m_filter, &FieldFilterBar::changed, this, &FieldPanel::applyFilter);
+    connect(m_filter, &FieldFilterBar::left, this, [this] { m_view->setFocus(); });
 }
 
 void FieldPanel::setNode(NxFieldContainer* node)
 {
+    setNodes(node != nullptr ? std::make_shared<const FieldSet::Nodes>(1, node) : nullptr);
+}
+
+void FieldPanel::setNodes(const std::shared_ptr<const FieldSet::Nodes>& nodes)
+{
     const QScopedValueRollback guard(m_settingCurrent, true);
-    m_model->setNode(node);
+    m_model->setFavorites(m_settings.favorites()); // which another panel may have changed
+    m_model->setNodes(nodes);
+    unfoldGroups();
     updateHeading();
-    m_pages->setCurrentIndex(node != nullptr ? 1 : 0);
+    m_pages->setCurrentIndex(m_model->node() != nullptr ? 1 : 0);
 }
 
 void FieldPanel::updateHeading()
@@ -74,11 +164,97 @@ void FieldPanel::updateHeading()
     const auto* node = dynamic_cast<const NxNode*>(m_model->node());
     if (node == nullptr)
         return;
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    m_icon->setPixmap(orvane::nodeIcon(node->getTypeId()).pixmap(size));
+    m_icon->setPixmap(orvane::nodeIcon(node->getTypeId()).pixmap(orvane::look::iconSize(fontMetrics())));
     const QString className = QString::fromUtf8(node->getClassName());
     const QString name = orvane::shortLine(orvane::toQString(node->getName()));
-    m_heading->setText(name.isEmpty() ? className : tr("%1 — %2").arg(name, className));
+    QString text = name.isEmpty() ? className : tr("%1 — %2").arg(name, className);
+    if (m_model->nodeCount() > 1)
+        text = tr("%1 nodes, the last one: %2").arg(QLocale(QLocale::English).toString(m_model->nodeCount()), text);
+    m_heading->setText(text);
+}
+
+template <typename Change>
+void FieldPanel::changeRows(Change change)
+{
+    const QScopedValueRollback guard(m_settingCurrent, true);
+    const NxField* const current = currentField();
+    const int place = m_view->verticalScrollBar()->value();
+    change();
+    unfoldGroups();
+    const QModelIndex index = m_model->indexOf(current);
+    if (!index.isValid())
+        return;
+    m_view->setCurrentIndex(index);
+    m_view->verticalScrollBar()->setValue(place);
+    m_view->scrollTo(index);
+}
+
+void FieldPanel::applyFilter()
+{
+    changeRows([this] { m_model->setFilter(m_filter->text(), m_filter->isChangedOnly()); });
+}
+
+void FieldPanel::unfoldGroups()
+{
+    const QScopedValueRollback guard(m_folding, true);
+    // Where something is looked for, nothing is hidden.
+    const bool isFiltered = !m_filter->text().isEmpty() || m_filter->isChangedOnly();
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        const QModelIndex group = m_model->index(row, 0);
+        m_view->setExpanded(group, isFiltered || !m_settings.isFolded(m_model->group(group)->key));
+    }
+    const bool isEmpty = m_model->node() != nullptr && m_model->rowCount() == 0;
+    if (isEmpty)
+        m_nothing->setText(isFiltered ? tr("No field fits the filter.") : tr("These nodes have no field in common."));
+    m_nothing->setVisible(isEmpty);
+}
+
+void FieldPanel::foldingChanged(const QModelIndex& index, bool folded)
+{
+    const FieldGroup* const group = m_model->group(index);
+    if (!m_folding && group != nullptr)
+        m_settings.setFolded(group->key, folded);
+}
+
+void FieldPanel::useMark(MarkDelegate::Mark mark, const QModelIndex& index)
+{
+    const FieldSet fields = m_model->fieldSet(index);
+    orvane::Result<> result;
+    switch (mark) {
+    case MarkDelegate::Mark::Ignore:
+        result = m_writer.setIgnored(fields, !fields.isIgnored());
+        break;
+    case MarkDelegate::Mark::Reset:
+        result = m_writer.reset(fields);
+        break;
+    case MarkDelegate::Mark::Favorite: {
+        const bool isFavorite = index.data(FieldRoles::FavoriteRole).toBool();
+        m_settings.setFavorite(orvane::favoriteKey(*m_model->row(index)), !isFavorite);
+        changeRows([this] { m_model->setFavorites(m_settings.favorites()); });
+        break;
+    }
+    }
+    if (!result)
+        showFailure(result.error());
+}
+
+void FieldPanel::showFailure(const QString& message)
+{
+    const QModelIndex current = m_view->currentIndex().siblingAtColumn(FieldTableModel::ValueColumn);
+    InputMessage::showBriefly(m_view->viewport(), m_view->visualRect(current), message);
+}
+
+void FieldPanel::chooseColumns(const QPoint& place)
+{
+    QMenu menu(this);
+    QAction* const type = menu.addAction(tr("Type"));
+    type->setCheckable(true);
+    type->setChecked(m_settings.isTypeShown());
+    connect(type, &QAction::toggled, this, [this](bool shown) {
+        m_settings.setTypeShown(shown);
+        m_view->setColumnHidden(FieldTableModel::TypeColumn, !shown);
+    });
+    menu.exec(m_view->header()->mapToGlobal(place));
 }
 
 void FieldPanel::setCurrentField(const NxField* field)
@@ -95,6 +271,6 @@ void FieldPanel::setCurrentField(const NxField* field)
 
 NxField* FieldPanel::currentField() const
 {
-    const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
+    const QModelIndexList selected = m_view->selectionModel()->selectedRows();
     return selected.isEmpty() ? nullptr : m_model->field(selected.front());
 }

@@ -1,43 +1,85 @@
 #pragma once
 
-#include "meridane/scene/fields/NxFieldContainer.h"
+#include "orvane/app/fields/FieldTableSettings.h"
+#include "orvane/app/fields/MarkDelegate.h"
+#include "orvane/app/fields/values/FieldSet.h"
+#include "orvane/app/fields/values/FieldWriter.h"
 
 #include <QWidget>
 
+class AppSettings;
+class FieldFilterBar;
 class FieldTableModel;
 class FieldTableView;
 class NxField;
+class NxFieldContainer;
+class NxMField;
+class OrvServices;
+class QHBoxLayout;
 class QLabel;
 class QStackedLayout;
 
-/// The fields of the selected node, under a line that names the node.
+/// The table of the fields of one or several nodes, with the names of the nodes above it. There may be several panels.
 class FieldPanel : public QWidget {
     Q_OBJECT
 
 public:
-    explicit FieldPanel(QWidget* parent = nullptr);
+    /// The services and the settings live longer.
+    FieldPanel(OrvServices& services, AppSettings& settings, QWidget* parent = nullptr);
+
+    /// Shows the fields of a node; null for none.
+    void setNode(NxFieldContainer* node);
+    /// Shows the fields that all nodes have. The first one is the node that was selected last.
+    void setNodes(const std::shared_ptr<const FieldSet::Nodes>& nodes);
+    /// Shows the name of the node again, which may have changed.
+    void updateHeading();
+    /// Selects the row of a field, or none. Emits nothing.
+    void setCurrentField(const NxField* field);
+    /// The field whose row is selected; null for none.
+    [[nodiscard]] NxField* currentField() const;
 
     [[nodiscard]] FieldTableModel* model() const noexcept { return m_model; }
     [[nodiscard]] FieldTableView* view() const noexcept { return m_view; }
-
-    /// Shows the fields of this node; null for none.
-    void setNode(NxFieldContainer* node);
-    /// Updates the line that names the node.
-    void updateHeading();
-    /// Makes the field's row current; null for no row.
-    void setCurrentField(const NxField* field);
-    [[nodiscard]] NxField* currentField() const;
+    [[nodiscard]] FieldWriter& writer() noexcept { return m_writer; }
+    [[nodiscard]] FieldFilterBar* filterBar() const noexcept { return m_filter; }
+    /// At the end of the heading, for tools of whoever shows the panel.
+    [[nodiscard]] QHBoxLayout* headingTools() const noexcept { return m_tools; }
+    /// Shows why something couldn't be done beside the current row.
+    void showFailure(const QString& message);
 
 Q_SIGNALS:
-    /// The user chose the row of a field, which may be the current one already; null for a row without a field.
+    /// The user chose a row; null for a row without a field.
     void fieldChosen(NxField* field);
+    /// The user wants to see a list, by a double click on it or a key.
+    void listRequested(NxMField* list);
+    /// The user wants to go on in the editor of the field's dock.
+    void editorRequested();
 
 private:
+    void buildPage(QWidget* page);
+    void buildColumns();
+    void buildHint();
+    void connectView();
+    void applyFilter();
+    void unfoldGroups();
+    void foldingChanged(const QModelIndex& index, bool folded);
+    void useMark(MarkDelegate::Mark mark, const QModelIndex& index);
+    void chooseColumns(const QPoint& place);
+    /// Changes which rows there are, and keeps the row of the current field selected.
+    template <typename Change>
+    void changeRows(Change change);
+
+    FieldTableSettings m_settings;
+    FieldWriter m_writer;
     FieldTableModel* m_model;
     FieldTableView* m_view;
+    FieldFilterBar* m_filter;
     QLabel* m_icon;
     QLabel* m_heading;
+    QHBoxLayout* m_tools;
+    QLabel* m_nothing;
     QWidget* m_hint;
     QStackedLayout* m_pages;
     bool m_settingCurrent = false;
+    bool m_folding = false; // by the panel itself
 };

@@ -1,86 +1,38 @@
 #include "orvane/app/fields/FieldTableModel.h"
 
-#include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
-#include "orvane/app/fields/values/FieldText.h"
+#include "orvane/app/fields/FieldFilter.h"
+#include "orvane/app/fields/FieldToolTip.h"
 
-#include "meridane/base/values/VbName.h"
 #include "meridane/scene/fields/NxField.h"
-#include "meridane/scene/fields/NxFieldSensor.h"
 
 #include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
 
-namespace {
+#include <algorithm>
 
-constexpr int toolTipCharacters = 1000;
-
-QString fieldName(const NxFieldContainer& node, const NxField& field)
-{
-    return QString::fromLatin1(node.getFieldName(&field).getString());
-}
-
-QString fieldToolTip(const NxField& field)
-{
-    QString text = FieldTableModel::tr("Type: %1").arg(orvane::typeName(field));
-    text += u'\n' + FieldTableModel::tr("Value: %1").arg(orvane::beginningOf(field, toolTipCharacters));
-    if (field.isDefault())
-        text += u'\n' + FieldTableModel::tr("This is the default.");
-    if (field.isIgnored())
-        text += u'\n' + FieldTableModel::tr("Ignored: the scene takes no notice of this value.");
-    return orvane::plainToolTip(text);
-}
-
-/// Ignored rows have a struck-out name; values that aren't the default are bold.
-QFont rowFont(bool ignored, bool differs, int column)
-{
-    QFont font;
-    font.setStrikeOut(ignored && column == FieldTableModel::NameColumn);
-    font.setBold(differs && column != FieldTableModel::TypeColumn);
-    return font;
-}
-
-QVariant rowColor(bool ignored, int column)
-{
-    if (!ignored && column != FieldTableModel::TypeColumn)
-        return {};
-    return QGuiApplication::palette().color(QPalette::PlaceholderText);
-}
-
-QString cut(const std::string& text, int length)
-{
-    const QString whole
-        = orvane::toQString(std::string_view(text).substr(0, 4 * (static_cast<std::size_t>(length) + 1)));
-    return whole.size() <= length ? whole : whole.left(length) + QChar(0x2026);
-}
-
-} // namespace
-
-struct FieldTableModel::Row {
-    Row(FieldTableModel* owner, NxField* shown, int place)
+struct FieldTableModel::Watch {
+    Watch(FieldTableModel* owner, NxField* field, std::size_t row)
         : model(owner)
-        , field(shown)
-        , number(place)
+        , number(row)
         , sensor(
               [](void* data, NxSensor*) {
-                  auto* row = static_cast<Row*>(data);
-                  row->model->updateRow(*row);
+                  const auto* const watch = static_cast<Watch*>(data);
+                  watch->model->rowChanged(watch->number);
               },
               this)
     {
-        sensor.attach(shown);
+        sensor.attach(field);
     }
 
     FieldTableModel* model;
-    NxField* field;
-    int number;
-    QString text; // the value as it is shown; null when it has to be made
+    std::size_t number;
     NxFieldSensor sensor;
 };
 
 FieldTableModel::FieldTableModel(QObject* parent)
-    : QAbstractTableModel(parent)
+    : QAbstractItemModel(parent)
 {
 }
 
@@ -88,89 +40,255 @@ FieldTableModel::~FieldTableModel() = default;
 
 void FieldTableModel::setNode(NxFieldContainer* node)
 {
+    setNodes(node != nullptr ? std::make_shared<const FieldSet::Nodes>(1, node) : nullptr);
+}
+
+void FieldTableModel::setNodes(const std::shared_ptr<const FieldSet::Nodes>& nodes)
+{
     beginResetModel();
+    m_watches.clear();
+    m_nodeWatches.clear();
+    m_nodes = nodes != nullptr && nodes->empty() ? nullptr : nodes;
+    m_groups.clear();
+    m_all.clear();
     m_rows.clear();
-    m_node = NxRef<NxFieldContainer>(node);
-    if (node != nullptr) {
-        for (NxField* field : node->getFields())
-            m_rows.push_back(std::make_unique<Row>(this, field, static_cast<int>(m_rows.size())));
+    if (m_nodes) {
+        m_rows = orvane::fieldRows(m_nodes);
+        rebuild();
+        watchNodes();
     }
     endResetModel();
 }
 
+NxFieldContainer* FieldTableModel::node() const noexcept
+{
+    return m_nodes ? m_nodes->front().get() : nullptr;
+}
+
+void FieldTableModel::setFilter(const QString& text, bool changedOnly)
+{
+    beginResetModel();
+    m_filter = text;
+    m_changedOnly = changedOnly;
+    applyFilter();
+    endResetModel();
+}
+
+void FieldTableModel::setFavorites(const QSet<QString>& favorites)
+{
+    beginResetModel();
+    m_favorites = favorites;
+    rebuild();
+    endResetModel();
+}
+
+void FieldTableModel::rebuild()
+{
+    m_all = orvane::fieldGroups(m_rows, m_favorites);
+    applyFilter();
+}
+
+void FieldTableModel::applyFilter()
+{
+    const FieldFilter filter(m_filter, m_changedOnly);
+    m_groups.clear();
+    for (const auto& group : m_all) {
+        group->shown.clear();
+        std::ranges::copy_if(group->rows, std::back_inserter(group->shown),
+            [&filter](const FieldRow* row) { return filter.shows(*row); });
+        if (!group->shown.empty())
+            m_groups.push_back(group.get());
+    }
+}
+
+void FieldTableModel::watchNodes()
+{
+    if (m_nodes->size() == 1) {
+        for (std::size_t number = 0; number < m_rows.size(); ++number) {
+            if (NxField* const field = m_rows[number]->first())
+                m_watches.push_back(std::make_unique<Watch>(this, field, number));
+        }
+        return;
+    }
+    // Fewer than a sensor for each field of each node.
+    const auto callback = [](void* data, NxSensor*) { static_cast<FieldTableModel*>(data)->refreshLater(); };
+    m_nodeWatches.reserve(m_nodes->size());
+    for (const NxRef<NxFieldContainer>& node : *m_nodes) {
+        m_nodeWatches.push_back(std::make_unique<NxNodeSensor>(callback, this));
+        m_nodeWatches.back()->attach(node.get());
+    }
+}
+
+void FieldTableModel::rowChanged(std::size_t number)
+{
+    FieldRow& row = *m_rows[number];
+    row.forget();
+    const QModelIndex changed = indexOf(row);
+    if (!changed.isValid())
+        return;
+    Q_EMIT dataChanged(changed, changed.siblingAtColumn(MarkColumn));
+    const QModelIndex group = changed.parent(); // counts the changed ones
+    Q_EMIT dataChanged(group.siblingAtColumn(ValueColumn), group.siblingAtColumn(ValueColumn));
+}
+
+void FieldTableModel::refreshLater()
+{
+    if (m_refreshPosted)
+        return;
+    m_refreshPosted = true;
+    QMetaObject::invokeMethod(this, &FieldTableModel::refresh, Qt::QueuedConnection);
+}
+
+void FieldTableModel::refresh()
+{
+    m_refreshPosted = false;
+    for (const auto& row : m_rows)
+        row->forget();
+    if (m_groups.empty())
+        return;
+    for (int group = 0; group < rowCount(); ++group) {
+        const QModelIndex parent = index(group, 0);
+        Q_EMIT dataChanged(index(0, NameColumn, parent), index(rowCount(parent) - 1, MarkColumn, parent));
+    }
+    Q_EMIT dataChanged(index(0, NameColumn), index(rowCount() - 1, MarkColumn));
+    Q_EMIT valuesChanged();
+}
+
+const FieldGroup* FieldTableModel::group(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return nullptr;
+    const auto* const group = static_cast<const FieldGroup*>(index.internalPointer());
+    return group != nullptr ? group : m_groups[static_cast<std::size_t>(index.row())];
+}
+
+const FieldRow* FieldTableModel::row(const QModelIndex& index) const
+{
+    const auto* const group = static_cast<const FieldGroup*>(index.internalPointer());
+    return index.isValid() && group != nullptr ? group->shown[static_cast<std::size_t>(index.row())] : nullptr;
+}
+
+FieldSet FieldTableModel::fieldSet(const QModelIndex& index) const
+{
+    const FieldRow* const found = row(index);
+    return found != nullptr ? found->fields() : FieldSet();
+}
+
 NxField* FieldTableModel::field(const QModelIndex& index) const
 {
-    const auto row = static_cast<std::size_t>(index.row());
-    return index.isValid() && row < m_rows.size() ? m_rows[row]->field : nullptr;
+    const FieldRow* const found = row(index);
+    return found != nullptr ? found->first() : nullptr;
 }
 
 QModelIndex FieldTableModel::indexOf(const NxField* field) const
 {
-    for (const std::unique_ptr<Row>& row : m_rows) {
-        if (row->field == field)
-            return index(row->number, NameColumn);
+    const auto found = std::ranges::find_if(m_rows, [field](const auto& row) { return row->first() == field; });
+    return field != nullptr && found != m_rows.end() ? indexOf(**found) : QModelIndex();
+}
+
+QModelIndex FieldTableModel::indexOf(const FieldRow& row) const
+{
+    for (FieldGroup* const group : m_groups) {
+        const auto found = std::ranges::find(group->shown, &row);
+        if (found != group->shown.end())
+            return createIndex(static_cast<int>(found - group->shown.begin()), NameColumn, group);
     }
     return {};
 }
 
-int FieldTableModel::rowCount(const QModelIndex& parent) const
+int FieldTableModel::shownCount() const
 {
-    if (parent.isValid() || !m_node)
-        return 0;
-    return static_cast<int>(m_rows.size() + m_node->getUnknownFields().size());
+    std::size_t count = 0;
+    for (const FieldGroup* const group : m_groups)
+        count += group->shown.size();
+    return static_cast<int>(count);
 }
 
-int FieldTableModel::columnCount(const QModelIndex& parent) const
+QModelIndex FieldTableModel::index(int row, int column, const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(ColumnCount);
+    if (!hasIndex(row, column, parent))
+        return {};
+    return createIndex(row, column, parent.isValid() ? m_groups[static_cast<std::size_t>(parent.row())] : nullptr);
+}
+
+QModelIndex FieldTableModel::parent(const QModelIndex& index) const
+{
+    const auto* const group = static_cast<const FieldGroup*>(index.internalPointer());
+    if (!index.isValid() || group == nullptr)
+        return {};
+    return createIndex(static_cast<int>(std::ranges::find(m_groups, group) - m_groups.begin()), NameColumn, nullptr);
+}
+
+int FieldTableModel::rowCount(const QModelIndex& parent) const
+{
+    if (!parent.isValid())
+        return static_cast<int>(m_groups.size());
+    if (parent.internalPointer() != nullptr || parent.column() != NameColumn)
+        return 0;
+    return static_cast<int>(m_groups[static_cast<std::size_t>(parent.row())]->shown.size());
+}
+
+int FieldTableModel::columnCount(const QModelIndex& /*parent*/) const
+{
+    return ColumnCount;
 }
 
 QVariant FieldTableModel::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const auto row = static_cast<std::size_t>(index.row());
-    if (row < m_rows.size())
-        return fieldData(*m_rows[row], index.column(), role);
-    return unknownData(m_node->getUnknownFields()[row - m_rows.size()], index.column(), role);
+    const FieldRow* const found = row(index);
+    return found != nullptr ? rowData(*found, *group(index), index.column(), role)
+                            : groupData(*group(index), index.column(), role);
 }
 
-QVariant FieldTableModel::fieldData(Row& row, int column, int role) const
+QVariant FieldTableModel::groupData(const FieldGroup& group, int column, int role) const
 {
-    const NxField& field = *row.field;
-    switch (role) {
-    case Qt::DisplayRole:
-        if (column == NameColumn)
-            return fieldName(*m_node, field);
-        if (column == TypeColumn)
-            return orvane::typeName(field);
-        if (row.text.isNull())
-            row.text = orvane::oneLine(orvane::beginningOf(field, shownCharacters));
-        return row.text;
-    case Qt::FontRole:
-        return rowFont(field.isIgnored(), !field.isDefault(), column);
-    case Qt::ForegroundRole:
-        return rowColor(field.isIgnored(), column);
-    case Qt::ToolTipRole:
-        return fieldToolTip(field);
-    default:
-        return {};
+    if (role == Qt::DisplayRole && column == NameColumn)
+        return group.title;
+    if (role == FieldRoles::ChangedRole)
+        return group.changedCount();
+    if (role == Qt::DisplayRole && column == ValueColumn && group.kind != FieldGroup::Kind::Unknown) {
+        const int changed = group.changedCount();
+        return changed > 0 ? tr("%1 changed").arg(changed) : QString();
     }
+    if (role == Qt::ToolTipRole)
+        return orvane::groupToolTip(group);
+    return {};
 }
 
-QVariant FieldTableModel::unknownData(const NxFieldContainer::UnknownField& field, int column, int role) const
+QVariant FieldTableModel::rowData(const FieldRow& row, const FieldGroup& group, int column, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
         if (column == NameColumn)
-            return orvane::shortLine(orvane::toQString(field.name));
-        return column == TypeColumn ? tr("unknown") : orvane::oneLine(cut(field.text, shownCharacters));
-    case Qt::FontRole:
-        return rowFont(field.ignored, true, column);
+            return row.name();
+        if (column == TypeColumn)
+            return row.type();
+        return column == ValueColumn ? row.text() : QString();
+    case Qt::FontRole: {
+        QFont font;
+        font.setStrikeOut(row.isIgnored() && column == NameColumn);
+        font.setBold(row.isChanged() && column != TypeColumn);
+        return font;
+    }
     case Qt::ForegroundRole:
-        return rowColor(true, column);
+        if (row.isIgnored() || row.fields().isEmpty() || column == TypeColumn
+            || (column == ValueColumn && row.isMixed()))
+            return QGuiApplication::palette().color(QPalette::PlaceholderText);
+        return {};
     case Qt::ToolTipRole:
-        return tr("The class of this node has no such field. It is kept and written back as it was.");
+        return orvane::fieldToolTip(row);
+    case FieldRoles::FieldSetRole:
+        return QVariant::fromValue(row.fields().isEmpty() ? nullptr : &row.fields());
+    case FieldRoles::MixedRole:
+        return row.isMixed();
+    case FieldRoles::ChangedRole:
+        return row.isChanged();
+    case FieldRoles::IgnoredRole:
+        return row.isIgnored();
+    case FieldRoles::FavoriteRole:
+        return group.kind == FieldGroup::Kind::Favorites;
     default:
         return {};
     }
@@ -185,18 +303,21 @@ QVariant FieldTableModel::headerData(int section, Qt::Orientation orientation, i
         return tr("Field");
     case TypeColumn:
         return tr("Type");
-    default:
+    case ValueColumn:
         return tr("Value");
+    default:
+        return {};
     }
 }
 
 Qt::ItemFlags FieldTableModel::flags(const QModelIndex& index) const
 {
-    return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemNeverHasChildren : Qt::NoItemFlags;
-}
-
-void FieldTableModel::updateRow(Row& row)
-{
-    row.text = QString();
-    Q_EMIT dataChanged(index(row.number, NameColumn), index(row.number, ValueColumn));
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    const FieldRow* const found = row(index);
+    if (found == nullptr)
+        return Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    const Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
+    const bool isEditable = index.column() == ValueColumn && !found->fields().isEmpty() && !found->isList();
+    return isEditable ? flags | Qt::ItemIsEditable : flags;
 }

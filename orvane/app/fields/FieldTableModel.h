@@ -1,51 +1,91 @@
 #pragma once
 
-#include "meridane/scene/fields/NxFieldContainer.h"
-#include "meridane/scene/fields/NxRef.h"
+#include "orvane/app/fields/FieldGroup.h"
+#include "orvane/app/fields/values/FieldRoles.h"
 
-#include <QAbstractTableModel>
+#include "meridane/scene/fields/NxFieldSensor.h"
+#include "meridane/scene/fields/NxNodeSensor.h"
+
+#include <QAbstractItemModel>
+#include <QSet>
 
 #include <memory>
 #include <vector>
 
-/// The fields of one node: name, type and value, a row each.
-///
-/// Values are shown by the beginning of their text form. Fields that the scene ignores, and fields that differ from
-/// their default, look different. The last rows are fields of the file that the class doesn't have. Changes
-/// arrive by sensors, so a moment later.
-class FieldTableModel : public QAbstractTableModel {
+class NxField;
+class NxFieldContainer;
+
+/// The fields of one or several nodes as a tree: groups by class, the most derived first, and in them a row for each
+/// field that all nodes have. It follows the values. Unknown fields are at the end.
+class FieldTableModel : public QAbstractItemModel {
     Q_OBJECT
 
 public:
-    enum Column { NameColumn, TypeColumn, ValueColumn, ColumnCount };
-    /// How much of a value's text is shown.
-    static constexpr int shownCharacters = 300;
+    enum Column { NameColumn, TypeColumn, ValueColumn, MarkColumn, ColumnCount };
 
     explicit FieldTableModel(QObject* parent = nullptr);
     ~FieldTableModel() override;
 
-    /// Shows the fields of this node and holds it alive; null for none.
+    /// Shows the fields of a node; null for none.
     void setNode(NxFieldContainer* node);
-    [[nodiscard]] NxFieldContainer* node() const noexcept { return m_node.get(); }
+    /// Shows the fields that all nodes have. The first one is the node that was selected last; null or empty for none.
+    void setNodes(const std::shared_ptr<const FieldSet::Nodes>& nodes);
+    /// The node that was selected last; null for none.
+    [[nodiscard]] NxFieldContainer* node() const noexcept;
+    [[nodiscard]] int nodeCount() const noexcept { return m_nodes ? static_cast<int>(m_nodes->size()) : 0; }
 
-    /// The field of a row; null for a row that has none.
+    /// Shows only rows that contain all words of the text, each in their name, type or value, with its letters in
+    /// order; and only changed ones if `changedOnly`. Rows don't come and go as they are edited, but with the next
+    /// filter.
+    void setFilter(const QString& text, bool changedOnly);
+    /// The keys of the fields that are favourites, see `orvane::favoriteKey`.
+    void setFavorites(const QSet<QString>& favorites);
+
+    /// The row of an index; null for a group.
+    [[nodiscard]] const FieldRow* row(const QModelIndex& index) const;
+    /// The group whose row the index is, or in which it is; null for an invalid index.
+    [[nodiscard]] const FieldGroup* group(const QModelIndex& index) const;
+    /// The fields of a row; the empty set for a group and for an unknown field.
+    [[nodiscard]] FieldSet fieldSet(const QModelIndex& index) const;
+    /// The field of the node that was selected last; null for other rows.
     [[nodiscard]] NxField* field(const QModelIndex& index) const;
-    /// The first cell of the row of a field of the node, or an invalid index.
+    /// The row of a field of the node that was selected last; invalid if it isn't shown.
     [[nodiscard]] QModelIndex indexOf(const NxField* field) const;
+    [[nodiscard]] int shownCount() const;
 
+    [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QModelIndex parent(const QModelIndex& index) const override;
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+Q_SIGNALS:
+    /// Values of several nodes have changed.
+    void valuesChanged();
+
 private:
-    struct Row;
+    struct Watch;
 
-    [[nodiscard]] QVariant fieldData(Row& row, int column, int role) const;
-    [[nodiscard]] QVariant unknownData(const NxFieldContainer::UnknownField& field, int column, int role) const;
-    void updateRow(Row& row);
+    void rebuild();
+    void applyFilter();
+    void watchNodes();
+    void rowChanged(std::size_t number);
+    void refreshLater();
+    void refresh();
+    [[nodiscard]] QVariant groupData(const FieldGroup& group, int column, int role) const;
+    [[nodiscard]] QVariant rowData(const FieldRow& row, const FieldGroup& group, int column, int role) const;
+    [[nodiscard]] QModelIndex indexOf(const FieldRow& row) const;
 
-    NxRef<NxFieldContainer> m_node;
-    std::vector<std::unique_ptr<Row>> m_rows; // of the fields; those of unknown fields follow
+    std::shared_ptr<const FieldSet::Nodes> m_nodes; // null for none
+    std::vector<std::unique_ptr<FieldRow>> m_rows;
+    std::vector<std::unique_ptr<FieldGroup>> m_all; // all groups
+    std::vector<FieldGroup*> m_groups; // those with rows that pass the filter
+    std::vector<std::unique_ptr<Watch>> m_watches; // of the fields of a single node
+    std::vector<std::unique_ptr<NxNodeSensor>> m_nodeWatches; // of several nodes
+    QString m_filter;
+    QSet<QString> m_favorites;
+    bool m_changedOnly = false;
+    bool m_refreshPosted = false;
 };

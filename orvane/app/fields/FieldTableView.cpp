@@ -1,36 +1,54 @@
 #include "orvane/app/fields/FieldTableView.h"
 
+#include "orvane/app/fields/FieldTableModel.h"
+#include "orvane/app/look/Look.h"
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 
 FieldTableView::FieldTableView(QWidget* parent)
-    : QTableView(parent)
+    : QTreeView(parent)
 {
     setObjectName(QStringLiteral("fieldTable"));
     setAccessibleName(tr("Fields"));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
+    setEditTriggers(EditKeyPressed); // a click or a typed character edits by the delegate of the values
     setAlternatingRowColors(true);
-    setShowGrid(false);
-    setWordWrap(false);
-    setTabKeyNavigation(false); // Tab goes on to the next widget
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setExpandsOnDoubleClick(true);
     setFrameShape(NoFrame);
     setTextElideMode(Qt::ElideRight);
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
-    horizontalHeader()->setStretchLastSection(true);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setIndentation(4 * orvane::look::unit(fontMetrics()));
+    viewport()->setAttribute(Qt::WA_Hover);
+    header()->setHighlightSections(false);
+    header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header()->setSectionsMovable(false);
+}
+
+bool FieldTableView::isGroup(const QModelIndex& index) const
+{
+    return index.isValid() && !index.parent().isValid();
+}
+
+void FieldTableView::editRow(const QModelIndex& index)
+{
+    const QModelIndex value = index.siblingAtColumn(FieldTableModel::ValueColumn);
+    if (value.flags().testFlag(Qt::ItemIsEditable))
+        edit(value, EditKeyPressed, nullptr);
+    else if (index.isValid() && !isGroup(index))
+        Q_EMIT openRequested(index);
 }
 
 void FieldTableView::mousePressEvent(QMouseEvent* event)
 {
-    const QModelIndex pressed = indexAt(event->pos());
-    const bool chosenBefore = pressed.isValid() && selectionModel()->isRowSelected(pressed.row(), QModelIndex());
-    QTableView::mousePressEvent(event);
-    if (chosenBefore)
+    const QPersistentModelIndex pressed = indexAt(event->pos());
+    const bool chosenBefore = pressed.isValid() && selectionModel()->isRowSelected(pressed.row(), pressed.parent());
+    QTreeView::mousePressEvent(event);
+    if (chosenBefore && pressed.isValid())
         Q_EMIT currentPressed(pressed);
 }
 
@@ -38,26 +56,64 @@ void FieldTableView::mouseMoveEvent(QMouseEvent* event)
 {
     // The dock of the field's editor may appear at the press and move other rows under the pointer.
     if (event->buttons() == Qt::NoButton)
-        QTableView::mouseMoveEvent(event);
+        QTreeView::mouseMoveEvent(event);
+}
+
+void FieldTableView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const QModelIndex index = indexAt(event->pos());
+    QTreeView::mouseDoubleClickEvent(event);
+    const bool isOpened = index.isValid() && !isGroup(index) && index.column() != FieldTableModel::MarkColumn
+        && !index.siblingAtColumn(FieldTableModel::ValueColumn).flags().testFlag(Qt::ItemIsEditable);
+    if (isOpened && event->button() == Qt::LeftButton)
+        Q_EMIT openRequested(index);
 }
 
 void FieldTableView::keyPressEvent(QKeyEvent* event)
 {
     const QModelIndex current = currentIndex();
-    if ((event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) || !current.isValid())
-        QTableView::keyPressEvent(event);
-    else if (selectionModel()->isRowSelected(current.row(), QModelIndex()))
-        Q_EMIT currentPressed(current);
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (isReturn && modifiers == Qt::ControlModifier)
+        Q_EMIT editorRequested();
+    else if (current.isValid() && modifiers == Qt::NoModifier && (isReturn || event->key() == Qt::Key_F2))
+        activateRow(current);
     else
-        selectRow(current.row());
+        QTreeView::keyPressEvent(event);
+}
+
+void FieldTableView::activateRow(const QModelIndex& index)
+{
+    const QPersistentModelIndex activated(index);
+    if (selectionModel()->isRowSelected(index.row(), index.parent()))
+        Q_EMIT currentPressed(index);
+    else
+        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (isGroup(activated))
+        setExpanded(activated, !isExpanded(activated));
+    else
+        editRow(activated);
 }
 
 void FieldTableView::resizeEvent(QResizeEvent* event)
 {
-    QTableView::resizeEvent(event);
+    QTreeView::resizeEvent(event);
     const QModelIndex current = currentIndex();
-    const int place = rowViewportPosition(current.row());
+    const QRect place = visualRect(current);
     // A dock with the field's editor may have appeared below and covered the place of the row.
-    if (current.isValid() && place >= 0 && place < event->oldSize().height())
+    if (current.isValid() && place.isValid() && place.top() >= 0 && place.top() < event->oldSize().height())
         scrollTo(current);
+}
+
+void FieldTableView::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (isGroup(index))
+        painter->fillRect(option.rect, palette().color(QPalette::Window));
+    QTreeView::drawRow(painter, option, index);
+}
+
+void FieldTableView::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const
+{
+    if (isGroup(index)) // fields have no branches of their own
+        QTreeView::drawBranches(painter, rect, index);
 }

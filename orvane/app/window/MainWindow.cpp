@@ -74,7 +74,7 @@ MainWindow::MainWindow(Session& session)
     , m_view(new SceneView(this))
     , m_central(new CentralArea(m_messages, m_view, *m_recent, this))
     , m_imageFolders(new ImageFolderQuestion(m_view->drawing().textures(), session.settings(), *m_messages, this))
-    , m_fields(new FieldPanel(this))
+    , m_fields(new FieldPanel(session.services(), session.settings(), this))
     , m_tree(new SceneTreePanel(this))
     , m_jobBar(new JobBar(this))
 {

@@ -3,7 +3,10 @@
 #include "orvane/app/fields/FieldTableModel.h"
 
 #include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/nodes/NxFieldGallery.h"
+#include "meridane/scene/nodes/NxPointLight.h"
+#include "meridane/scene/nodes/NxSpotLight.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -31,11 +34,11 @@ private Q_SLOTS:
     {
         const QAbstractItemModelTester tester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
         const std::vector<NxField*> fields = m_node->getFields();
-        QCOMPARE(m_model->rowCount(), static_cast<int>(fields.size()));
-        for (int row = 0; row < m_model->rowCount(); ++row) {
-            NxField* field = fields[static_cast<std::size_t>(row)];
-            QCOMPARE(m_model->field(m_model->index(row, 1)), field);
-            QCOMPARE(m_model->indexOf(field).row(), row);
+        QCOMPARE(m_model->shownCount(), static_cast<int>(fields.size()));
+        for (NxField* const field : fields) {
+            const QModelIndex index = m_model->indexOf(field);
+            QCOMPARE(m_model->field(index.siblingAtColumn(FieldTableModel::ValueColumn)), field);
+            QCOMPARE(m_model->fieldSet(index).count(), 1);
             QCOMPARE(
                 cell(field, FieldTableModel::NameColumn), QString::fromLatin1(m_node->getFieldName(field).getString()));
             QCOMPARE(cell(field, FieldTableModel::TypeColumn),
@@ -45,6 +48,141 @@ private Q_SLOTS:
         QCOMPARE(m_model->rowCount(), 0);
     }
 
+    void groupsTheFieldsByTheClassThatDeclaresThem()
+    {
+        const NxRef<NxNode> light(new NxSpotLight);
+        m_model->setNode(light.get());
+        const QAbstractItemModelTester tester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(groups(), QStringList({QStringLiteral("SpotLight"), QStringLiteral("Light")}));
+        QCOMPARE(m_model->indexOf(light->getField("intensity")).parent().data().toString(), QStringLiteral("Light"));
+        QVERIFY(m_model->fieldSet(m_model->index(0, 0)).isEmpty());
+    }
+
+    void countsTheChangedFieldsOfAGroup()
+    {
+        const NxRef<NxNode> light(new NxSpotLight);
+        m_model->setNode(light.get());
+        const QModelIndex group = m_model->index(1, FieldTableModel::ValueColumn);
+        QCOMPARE(group.data().toString(), QString());
+        const QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
+        QVERIFY(light->getField("intensity")->set("0.5"));
+        AppScenes::runSensors();
+        QCOMPARE(group.data().toString(), QStringLiteral("1 changed"));
+        QVERIFY(!changed.isEmpty() && changed.back().front().toModelIndex() == group);
+    }
+
+    void putsFavoritesOnTop()
+    {
+        const NxRef<NxNode> light(new NxSpotLight);
+        m_model->setFavorites({QStringLiteral("Light.intensity")});
+        m_model->setNode(light.get());
+        const QAbstractItemModelTester tester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(
+            groups(), QStringList({QStringLiteral("Favorites"), QStringLiteral("SpotLight"), QStringLiteral("Light")}));
+        const QModelIndex favorite = m_model->indexOf(light->getField("intensity"));
+        QCOMPARE(favorite.parent().row(), 0);
+        QVERIFY(favorite.data(FieldRoles::FavoriteRole).toBool());
+        m_model->setFavorites({});
+        QCOMPARE(groups().size(), 2);
+    }
+
+    void filtersByNameTypeAndValue_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<bool>("isShown");
+        QTest::newRow("letters of the name in order") << QStringLiteral("ints") << true;
+        QTest::newRow("in the wrong order") << QStringLiteral("sntii") << false;
+        QTest::newRow("type") << QStringLiteral("SFFloat") << true;
+        QTest::newRow("value") << QStringLiteral("0.125") << true;
+        QTest::newRow("two words") << QStringLiteral("0.125 inten") << true;
+        QTest::newRow("one of two words") << QStringLiteral("0.125 radius") << false;
+    }
+    void filtersByNameTypeAndValue()
+    {
+        QFETCH(const QString, filter);
+        QFETCH(const bool, isShown);
+        const NxRef<NxNode> light(new NxSpotLight);
+        QVERIFY(light->getField("intensity")->set("0.125"));
+        m_model->setNode(light.get());
+        const QAbstractItemModelTester tester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        m_model->setFilter(filter, false);
+        QCOMPARE(m_model->indexOf(light->getField("intensity")).isValid(), isShown);
+        m_model->setFilter(QString(), false);
+        QCOMPARE(m_model->shownCount(), static_cast<int>(light->getFields().size()));
+    }
+
+    void showsOnlyChangedFields()
+    {
+        const NxRef<NxNode> light(new NxSpotLight);
+        QVERIFY(light->getField("intensity")->set("0.125"));
+        m_model->setNode(light.get());
+        const QAbstractItemModelTester tester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        m_model->setFilter(QString(), true);
+        QCOMPARE(m_model->shownCount(), 1);
+        QCOMPARE(groups(), QStringList(QStringLiteral("Light")));
+        // A row that is edited stays.
+        QVERIFY(light->getField("intensity")->set("1"));
+        AppScenes::runSensors();
+        QCOMPARE(m_model->shownCount(), 1);
+        m_model->setFilter(QString(), true);
+        QCOMPARE(m_model->rowCount(), 0);
+    }
+
+    void showsTheFieldsThatSeveralNodesHave()
+    {
+        const NxRef<NxNode> spot(new NxSpotLight);
+        const NxRef<NxNode> point(new NxPointLight);
+        QVERIFY(spot->getField("intensity")->set("0.5"));
+        const auto nodes = std::make_shared<const FieldSet::Nodes>(FieldSet::Nodes{spot.get(), point.get()});
+        m_model->setNodes(nodes);
+        const QAbstractItemModelTester tester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QVERIFY(!m_model->indexOf(spot->getField("cutOffAngle")).isValid());
+        QVERIFY(m_model->indexOf(spot->getField("location")).isValid());
+        NxField* const field = spot->getField("intensity");
+        QCOMPARE(m_model->fieldSet(m_model->indexOf(field)).count(), 2);
+        QCOMPARE(cell(field, FieldTableModel::ValueColumn), QString(QChar(0x2014)));
+        QVERIFY(m_model->indexOf(field).data(FieldRoles::MixedRole).toBool());
+        QVERIFY(m_model->indexOf(field)
+                    .data(Qt::ToolTipRole)
+                    .toString()
+                    .contains(QStringLiteral("The 2 nodes have different values.")));
+        QVERIFY(font(field).bold());
+        const QSignalSpy changed(m_model.get(), &FieldTableModel::valuesChanged);
+        QVERIFY(point->getField("intensity")->set("0.5"));
+        AppScenes::runSensors();
+        QTRY_COMPARE(changed.size(), 1);
+        QCOMPARE(cell(field, FieldTableModel::ValueColumn), QStringLiteral("0.5"));
+    }
+
+    void onlyValuesThatAreNotListsAreEditedInTheirRow()
+    {
+        const auto isEditable = [this](const char* type) {
+            return m_model->indexOf(fieldOfType(type))
+                .siblingAtColumn(FieldTableModel::ValueColumn)
+                .flags()
+                .testFlag(Qt::ItemIsEditable);
+        };
+        QVERIFY(isEditable("SFFloat"));
+        QVERIFY(!isEditable("MFFloat"));
+        QVERIFY(!m_model->indexOf(fieldOfType("SFFloat")).flags().testFlag(Qt::ItemIsEditable));
+    }
+
+    void theToolTipTellsWhatTheFieldIs()
+    {
+        const NxRef<NxNode> light(new NxSpotLight);
+        m_model->setNode(light.get());
+        QVERIFY(light->getField("intensity")->set("0.5"));
+        const QString tip = m_model->indexOf(light->getField("intensity")).data(Qt::ToolTipRole).toString();
+        for (const char* const part : {"Type: SFFloat", "Range: ", "Value: 0.5", "Default: 1"})
+            QVERIFY2(tip.contains(QLatin1String(part)), qPrintable(tip));
+        const std::string_view description = meridane::factsOf(*light->getField("intensity")).description;
+        QVERIFY(!description.empty() && tip.contains(QString::fromUtf8(description.data()).left(30)));
+        QVERIFY(m_model->indexOf(light->getField("cutOffAngle"))
+                    .data(Qt::ToolTipRole)
+                    .toString()
+                    .contains(QStringLiteral("Unit: rad")));
+    }
+
     void followsTheValue()
     {
         NxField* field = fieldOfType("SFFloat");
@@ -52,7 +190,7 @@ private Q_SLOTS:
         const QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
         QVERIFY(field->set("2.5"));
         AppScenes::runSensors();
-        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed.size(), 2); // and the count of its group
         QCOMPARE(cell(field, FieldTableModel::ValueColumn), QStringLiteral("2.5"));
     }
 
@@ -86,16 +224,17 @@ private Q_SLOTS:
         QVERIFY(field->set(text.constData()));
         const QString shown = cell(field, FieldTableModel::ValueColumn);
         const QString tip = m_model->indexOf(field).data(Qt::ToolTipRole).toString();
-        QCOMPARE(shown.size(), FieldTableModel::shownCharacters + 1);
-        QVERIFY(shown.startsWith(QStringLiteral("[1.25, 1.25")));
+        const QString count = QStringLiteral("2,000,000 × Float  ");
+        QCOMPARE(shown.size(), count.size() + FieldRow::shownCharacters + 1);
+        QVERIFY(shown.startsWith(count + QStringLiteral("[1.25, 1.25")));
         QVERIFY(shown.endsWith(QChar(0x2026)));
-        QVERIFY(tip.size() < 1200);
+        QVERIFY(tip.size() < 600);
     }
 
     void cutsBetweenCharacters()
     {
         NxField* field = fieldOfType("SFString");
-        QString text(FieldTableModel::shownCharacters - 2, u'x');
+        QString text(FieldRow::shownCharacters - 2, u'x');
         text += QStringLiteral("\U0001F600\U0001F600\U0001F600");
         QVERIFY(field->set(QStringLiteral("\"%1\"").arg(text).toUtf8().constData()));
         const QString shown = cell(field, FieldTableModel::ValueColumn);
@@ -109,15 +248,18 @@ private Q_SLOTS:
         QVERIFY(scene);
         m_model->setNode(scene->getChild(0));
         const QAbstractItemModelTester tester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-        const int row = m_model->rowCount() - 1;
-        QCOMPARE(m_model->index(row, FieldTableModel::NameColumn).data().toString(), QStringLiteral("wings"));
-        QCOMPARE(m_model->index(row, FieldTableModel::ValueColumn).data().toString(), QStringLiteral("7"));
-        QCOMPARE(m_model->field(m_model->index(row, 0)), nullptr);
+        const QModelIndex group = m_model->index(m_model->rowCount() - 1, 0);
+        QCOMPARE(group.data().toString(), QStringLiteral("Unknown fields"));
+        const QModelIndex unknown = m_model->index(0, FieldTableModel::NameColumn, group);
+        QCOMPARE(unknown.data().toString(), QStringLiteral("wings"));
+        QCOMPARE(unknown.siblingAtColumn(FieldTableModel::ValueColumn).data().toString(), QStringLiteral("7"));
+        QCOMPARE(m_model->field(unknown), nullptr);
+        QVERIFY(m_model->fieldSet(unknown).isEmpty());
     }
 
     void holdsItsNodeAlive()
     {
-        QCOMPARE(m_node->getRefCount(), 2);
+        QVERIFY(m_node->getRefCount() > 1);
         m_model->setNode(nullptr);
         QCOMPARE(m_node->getRefCount(), 1);
     }
@@ -130,6 +272,14 @@ private:
                 return field;
         }
         qFatal("no field of type %s", type);
+    }
+
+    QStringList groups()
+    {
+        QStringList titles;
+        for (int row = 0; row < m_model->rowCount(); ++row)
+            titles += m_model->index(row, 0).data().toString();
+        return titles;
     }
 
     QString cell(NxField* field, int column)

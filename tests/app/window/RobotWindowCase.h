@@ -4,6 +4,7 @@
 #include "app/AppScenes.h"
 #include "app/WindowCase.h"
 
+#include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/scene/SceneTreeModel.h"
@@ -35,6 +36,18 @@ protected:
     }
 
     QTreeView* tree() { return m_window->findChild<QTreeView*>(QStringLiteral("sceneTree")); }
+    /// The row of a field of the selected node, which may be folded away.
+    QModelIndex fieldRow(const NxField* field)
+    {
+        return static_cast<const FieldTableModel*>(table()->model())->indexOf(field);
+    }
+    /// The row of a field by its number in the node; a negative one counts from the end.
+    QModelIndex fieldRow(int number)
+    {
+        const std::vector<NxField*> fields = m_session->services().getSelectedNode()->getFields();
+        return fieldRow(fields.at(
+            number < 0 ? fields.size() - static_cast<std::size_t>(-number) : static_cast<std::size_t>(number)));
+    }
     FieldTableView* table() { return m_window->findChild<FieldTableView*>(); }
     QStringList messages() { return m_window->findChild<MessageBar*>()->texts(); }
     NxGroup* robot() { return dynamic_cast<NxGroup*>(m_window->document().scene()->getChild(0)); }

@@ -77,9 +77,12 @@ private:
     // The editors of the default plug-in write in many ways, also as they show a field.
     void useEditor()
     {
-        const int fields = table()->isVisible() ? table()->model()->rowCount() : 0;
+        const NxFieldContainer* const node = m_session->services().getSelectedNode();
+        const int fields = table()->isVisible() && node != nullptr
+            ? static_cast<const FieldTableModel*>(table()->model())->shownCount()
+            : 0;
         if (fields > 0 && below(3) == 0) {
-            clickRow(table(), table()->model()->index(below(fields), 0));
+            clickRow(table(), fieldRow(below(fields)));
             return;
         }
         for (QDockWidget* const dock : m_window->findChildren<QDockWidget*>()) {

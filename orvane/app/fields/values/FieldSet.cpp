@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
+#include <utility>
 
 namespace {
 
@@ -54,17 +55,15 @@ FieldSet::FieldSet(NxField& first, const std::shared_ptr<const Nodes>& nodes)
     auto fields = std::make_shared<std::vector<NxField*>>();
     fields->reserve(nodes->size());
     fields->push_back(&first);
-    const NxFieldData* latest = nullptr; // neighbours are mostly of one class
-    int index = -1;
+    std::vector<std::pair<const NxFieldData*, int>> indexes; // in each class, of which there are few
     for (const NxRef<NxFieldContainer>& node : *nodes) {
         if (node.get() == first.getContainer())
             continue;
         const NxFieldData* const data = node->getFieldData();
-        if (data != latest) {
-            latest = data;
-            index = indexOfLike(*data, first);
-        }
-        NxField* const field = data->getField(node.get(), index);
+        auto found = std::ranges::find(indexes, data, [](const auto& entry) { return entry.first; });
+        if (found == indexes.end())
+            found = indexes.insert(found, {data, indexOfLike(*data, first)});
+        NxField* const field = data->getField(node.get(), found->second);
         if (field == nullptr) {
             m_nodes.reset();
             return;
@@ -118,7 +117,21 @@ bool FieldSet::isMixed(int component) const
 
 bool FieldSet::isChanged() const
 {
-    return std::ranges::any_of(fields(), [](const NxField* field) { return !field->isDefault(); });
+    const NxFieldData* latest = nullptr; // neighbours are mostly of one class
+    const NxField* original = nullptr;
+    for (const NxField* const field : fields()) {
+        NxFieldContainer* const node = field->getContainer();
+        const NxFieldData* const data = node != nullptr ? node->getFieldData() : nullptr;
+        if (data == nullptr)
+            return true;
+        if (data != latest) {
+            latest = data;
+            original = data->getDefault(data->getIndex(node, field));
+        }
+        if (original == nullptr || !field->isSame(*original))
+            return true;
+    }
+    return false;
 }
 
 bool FieldSet::isIgnored() const

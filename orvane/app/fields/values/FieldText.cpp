@@ -3,7 +3,9 @@
 #include "orvane/app/base/TextConversion.h"
 
 #include "meridane/base/values/VbName.h"
-#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxMField.h"
+
+#include <QLocale>
 
 #include <string>
 
@@ -30,6 +32,16 @@ QString beginningOf(const NxField& field, qsizetype length)
 QString typeName(const NxField& field)
 {
     return QString::fromLatin1(field.getTypeId().getName().getString());
+}
+
+QString rowCountText(const NxMField& list)
+{
+    QString type = typeName(list);
+    if (type.startsWith(QStringLiteral("MF")))
+        type.remove(0, 2);
+    // With commas, which the program's own locale doesn't have.
+    static const QLocale locale(QLocale::English);
+    return locale.toString(list.getNum()) + QStringLiteral(" × ") + type;
 }
 
 } // namespace orvane

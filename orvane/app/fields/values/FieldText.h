@@ -3,6 +3,7 @@
 #include <QString>
 
 class NxField;
+class NxMField;
 
 namespace orvane {
 
@@ -12,5 +13,8 @@ namespace orvane {
 
 /// The name of a field's class, as users know it.
 [[nodiscard]] QString typeName(const NxField& field);
+
+/// How many rows a list has, and of what, such as "1,000,000 × Vec3f".
+[[nodiscard]] QString rowCountText(const NxMField& list);
 
 } // namespace orvane

@@ -1,0 +1,71 @@
+#include "orvane/app/fields/FieldTableSettings.h"
+
+#include "orvane/app/base/AppSettings.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+const QString favoritesKey = QStringLiteral("fieldTable/favorites");
+const QString foldedKey = QStringLiteral("fieldTable/folded");
+const QString typeShownKey = QStringLiteral("fieldTable/typeShown");
+constexpr int widestColumn = 10'000;
+
+QString widthKey(int column)
+{
+    return QStringLiteral("fieldTable/width%1").arg(column);
+}
+
+} // namespace
+
+QSet<QString> FieldTableSettings::favorites() const
+{
+    const QStringList list = m_settings.value(favoritesKey).toStringList();
+    return {list.begin(), list.end()};
+}
+
+void FieldTableSettings::setFavorite(const QString& key, bool favorite)
+{
+    change(favoritesKey, key, favorite);
+}
+
+bool FieldTableSettings::isFolded(const QString& key) const
+{
+    return m_settings.value(foldedKey).toStringList().contains(key);
+}
+
+void FieldTableSettings::setFolded(const QString& key, bool folded)
+{
+    change(foldedKey, key, folded);
+}
+
+int FieldTableSettings::columnWidth(int column) const
+{
+    return std::clamp(m_settings.value(widthKey(column)).toInt(), 0, widestColumn);
+}
+
+void FieldTableSettings::setColumnWidth(int column, int width)
+{
+    m_settings.setValue(widthKey(column), width);
+}
+
+bool FieldTableSettings::isTypeShown() const
+{
+    return m_settings.value(typeShownKey, false).toBool();
+}
+
+void FieldTableSettings::setTypeShown(bool shown)
+{
+    m_settings.setValue(typeShownKey, shown);
+}
+
+void FieldTableSettings::change(const QString& list, const QString& key, bool contained)
+{
+    QStringList keys = m_settings.value(list).toStringList();
+    keys.removeAll(key);
+    if (contained)
+        keys += key;
+    m_settings.setValue(list, keys);
+}

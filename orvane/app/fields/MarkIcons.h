@@ -1,0 +1,14 @@
+#pragma once
+
+#include "orvane/app/fields/MarkDelegate.h"
+
+class QColor;
+class QPainter;
+class QRect;
+
+namespace orvane {
+
+/// Draws the icon of a mark; `isOn` fills it.
+void drawMark(QPainter& painter, MarkDelegate::Mark mark, const QRect& place, const QColor& color, bool isOn);
+
+} // namespace orvane
