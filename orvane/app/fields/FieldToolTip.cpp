@@ -3,8 +3,8 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldGroup.h"
+#include "orvane/app/fields/values/FactsText.h"
 #include "orvane/app/fields/values/FieldText.h"
-#include "orvane/app/input/NumberLimits.h"
 
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldData.h"
@@ -23,26 +23,14 @@ QString tr(const char* text)
     return QCoreApplication::translate("FieldToolTip", text);
 }
 
-/// The numbers from one limit to another, either of which may be missing.
-QString rangeText(double minimum, double maximum)
+QStringList factLines(const NxField& field)
 {
-    if (minimum == -NxFieldFacts::infinity)
-        return tr("up to %1").arg(plainNumber(maximum));
-    if (maximum == NxFieldFacts::infinity)
-        return tr("from %1").arg(plainNumber(minimum));
-    return tr("%1 to %2").arg(plainNumber(minimum), plainNumber(maximum));
-}
-
-QStringList factLines(const NxFieldFacts& facts)
-{
+    const NxFieldFacts& facts = meridane::factsOf(field);
     QStringList lines;
-    if (const auto unit = meridane::symbolOf(facts.unit); !unit.empty())
-        lines += tr("Unit: %1").arg(toQString(unit));
-    if (facts.hasHardRange())
-        lines += tr("Range: %1").arg(rangeText(facts.hardMinimum, facts.hardMaximum));
-    const bool isNarrower = facts.softMinimum > facts.hardMinimum || facts.softMaximum < facts.hardMaximum;
-    if (facts.hasSoftRange() && isNarrower)
-        lines += tr("Usual range: %1").arg(rangeText(facts.softMinimum, facts.softMaximum));
+    if (const QString unit = unitText(facts.unit); !unit.isEmpty())
+        lines += tr("Unit: %1").arg(unit);
+    if (const QString range = rangeText(field, facts); !range.isEmpty())
+        lines += tr("Range: %1").arg(range);
     return lines;
 }
 
@@ -71,12 +59,11 @@ QString fieldToolTip(const FieldRow& row)
 {
     if (row.first() == nullptr)
         return tr("The class of this node has no such field. It is kept and written back as it was.");
-    const NxFieldFacts& facts = meridane::factsOf(*row.first());
     QStringList lines;
-    if (!facts.description.empty())
-        lines += toQString(facts.description);
+    if (const auto description = meridane::factsOf(*row.first()).description; !description.empty())
+        lines += toQString(description);
     lines += tr("Type: %1").arg(row.type());
-    lines += factLines(facts);
+    lines += factLines(*row.first());
     lines += valueLines(row);
     if (row.isIgnored())
         lines += tr("Ignored: the scene takes no notice of this value.");

@@ -180,7 +180,7 @@ private Q_SLOTS:
         QVERIFY(m_model->indexOf(light->getField("cutOffAngle"))
                     .data(Qt::ToolTipRole)
                     .toString()
-                    .contains(QStringLiteral("Unit: rad")));
+                    .contains(QStringLiteral("Unit: radians")));
     }
 
     void followsTheValue()

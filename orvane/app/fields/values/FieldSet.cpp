@@ -1,7 +1,7 @@
 #include "orvane/app/fields/values/FieldSet.h"
 
-#include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/fields/values/FieldText.h"
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/components/FieldComponents.h"
@@ -9,7 +9,6 @@
 #include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/list/NxMFEnum.h"
 #include "meridane/scene/fields/single/NxSFEnum.h"
-#include "meridane/scene/nodes/NxNode.h"
 
 #include <QCoreApplication>
 
@@ -31,14 +30,6 @@ const int* choicesOf(const NxField& field)
     else if (const auto* const list = dynamic_cast<const NxMFEnum*>(&field))
         list->getEnums(count, values, names);
     return values;
-}
-
-QString nodeName(const NxFieldContainer& node)
-{
-    if (!node.getName().isEmpty())
-        return orvane::shortLine(orvane::toQString(node.getName()));
-    const auto* const sceneNode = dynamic_cast<const NxNode*>(&node);
-    return QString::fromUtf8(sceneNode != nullptr ? sceneNode->getClassName() : node.getTypeId().getName().getString());
 }
 
 } // namespace
@@ -94,7 +85,7 @@ QString FieldSet::name() const
     const NxFieldContainer& node = *first().getContainer();
     const QString field = orvane::toQString(node.getFieldName(&first()));
     if (count() == 1)
-        return nodeName(node) + u'.' + field;
+        return orvane::nodeName(node) + u'.' + field;
     return QCoreApplication::translate("FieldSet", "%1 of %L2 nodes").arg(field).arg(count());
 }
 

@@ -1,5 +1,6 @@
 #include "orvane/app/fields/values/FieldWriter.h"
 
+#include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/values/FieldText.h"
 #include "orvane/app/fields/values/FieldTrial.h"
 #include "orvane/app/fields/values/FieldWriteCommand.h"
@@ -8,6 +9,7 @@
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/base/values/VbString.h"
+#include "meridane/query/Expression.h"
 #include "meridane/scene/components/FieldComponents.h"
 #include "meridane/scene/fields/ChangeRecord.h"
 #include "meridane/scene/fields/MemoryGuard.h"
@@ -17,6 +19,7 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+#include <variant>
 
 FieldWriter::FieldWriter(OrvServices& services, QObject* parent)
     : QObject(parent)
@@ -44,6 +47,28 @@ orvane::Result<> FieldWriter::setText(const FieldSet& fields, const QString& tex
     if (!result && spare == nullptr)
         return orvane::Failure{orvane::refusedText(fields.first(), text)};
     return result;
+}
+
+orvane::Result<> FieldWriter::setNumber(const FieldSet& fields, int component, const meridane::Expression& expression)
+{
+    const auto* const components = fields.isEmpty() ? nullptr : meridane::FieldComponents::of(fields.first());
+    if (components == nullptr)
+        return orvane::Failure{tr("%1 doesn't consist of numbers.").arg(fields.name())};
+    std::vector<double> values;
+    values.reserve(fields.fields().size());
+    for (const NxField* const field : fields.fields()) {
+        const auto value = expression.evaluate(components->get(*field, 0, component));
+        const auto* const number = std::get_if<double>(&value);
+        QString reason = number == nullptr ? orvane::toQString(std::get<meridane::QueryError>(value).message)
+                                           : orvane::refusedNumber(*field, component, *number);
+        if (!reason.isEmpty() && fields.count() > 1)
+            reason = tr("%1: %2").arg(orvane::nodeName(*field->getContainer()), reason);
+        if (!reason.isEmpty())
+            return orvane::Failure{tr("\"%1\" can't be taken. %2").arg(orvane::toQString(expression.text()), reason)};
+        values.push_back(*number);
+    }
+    return write(fields,
+        [&](NxField& field, std::size_t number) { return components->set(field, 0, component, values[number]); });
 }
 
 orvane::Result<> FieldWriter::copy(const FieldSet& fields, const NxField& source)

@@ -13,7 +13,8 @@ class OrvServices;
 
 namespace meridane {
 class ChangeRecord;
-}
+class Expression;
+} // namespace meridane
 
 /// Writes the fields of a set, each time as one step of the history, such as "Set arm.rotation" or "Set radius of 12
 /// nodes".
@@ -32,6 +33,9 @@ public:
 
     /// Sets all fields from the text form of a value.
     orvane::Result<> setText(const FieldSet& fields, const QString& text);
+    /// Sets a component of each field to the value of an expression of one variable, which is the field's own number.
+    /// A number outside the hard range of the field is refused.
+    orvane::Result<> setNumber(const FieldSet& fields, int component, const meridane::Expression& expression);
     /// Copies the value of a field of the same class to all fields.
     orvane::Result<> copy(const FieldSet& fields, const NxField& source);
     /// Sets each field to the default of its class.

@@ -3,7 +3,7 @@
 
 #include "orvane/app/fields/values/FieldWriter.h"
 
-#include "meridane/scene/nodes/NxCamera.h"
+#include "meridane/query/Expression.h"
 #include "meridane/scene/nodes/NxFieldGallery.h"
 #include "meridane/scene/nodes/NxMaterial.h"
 
@@ -23,6 +23,10 @@ private:
         for (int i = 0; i < count; ++i)
             nodes.emplace_back(new NxFieldGallery);
         return nodes;
+    }
+    static meridane::Expression expression(std::string_view text)
+    {
+        return std::get<meridane::Expression>(meridane::Expression::parse(text));
     }
     static std::string textOf(const NxField& field)
     {
@@ -177,6 +181,61 @@ private Q_SLOTS:
         QCOMPARE(textOf(*set.fields()[2]), std::string("2"));
         services.redo();
         QCOMPARE(textOf(*set.fields()[2]), std::string("9"));
+    }
+
+    void anExpressionWorksOnEachFieldsOwnValue()
+    {
+        ManyNodes many(galleries(3));
+        FieldWriter writer(many.services());
+        many.field(0, "sfVec3f").set("1 2 3");
+        many.field(1, "sfVec3f").set("10 20 30");
+        const std::string before = many.text();
+        QVERIFY(writer.setNumber(many.set("sfVec3f"), 1, expression("x*2 + 1")));
+        QCOMPARE(textOf(many.field(0, "sfVec3f")), std::string("1 5 3"));
+        QCOMPARE(textOf(many.field(1, "sfVec3f")), std::string("10 41 30"));
+        QCOMPARE(textOf(many.field(2, "sfVec3f")), std::string("0 1 0"));
+        ManyNodes::finish();
+        many.services().undo();
+        QCOMPARE(many.text(), before);
+    }
+
+    void aNumberThatOneFieldCannotTakeChangesNone_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("out of the type") << u"sfShort"_s << u"30000 + x"_s << u"32767"_s;
+        QTest::newRow("not whole") << u"sfInt32"_s << u"x / 7"_s << u"whole"_s;
+        QTest::newRow("not defined") << u"sfFloat"_s << u"1 / (x - 5000)"_s << u"division"_s;
+        QTest::newRow("no numbers") << u"sfString"_s << u"1"_s << u"numbers"_s;
+    }
+    void aNumberThatOneFieldCannotTakeChangesNone()
+    {
+        QFETCH(const QString, field);
+        QFETCH(const QString, text);
+        QFETCH(const QString, reason);
+        ManyNodes many(galleries(3));
+        FieldWriter writer(many.services());
+        const QByteArray name = field.toLatin1();
+        if (field != u"sfString"_s)
+            many.field(1, name.constData()).set("5000");
+        const std::string before = many.text();
+        const int steps = many.services().undoDepth();
+        const auto result = writer.setNumber(many.set(name.constData()), 0, expression(text.toStdString()));
+        QVERIFY(!result);
+        QVERIFY2(result.error().contains(reason), qPrintable(result.error()));
+        QCOMPARE(many.text(), before);
+        QCOMPARE(many.services().undoDepth(), steps);
+    }
+
+    void aNumberOutsideTheHardRangeIsRefused()
+    {
+        ManyNodes many({new NxMaterial});
+        FieldWriter writer(many.services());
+        const QString error = writer.setNumber(many.set("transparency"), 0, expression("1.5")).error();
+        QCOMPARE(error, u"\"1.5\" can't be taken. 1.5 is out of the range of transparency: 0 to 1."_s);
+        QVERIFY(writer.setNumber(many.set("transparency"), 0, expression("50%")));
+        QCOMPARE(textOf(many.field(0, "transparency")), std::string("0.5"));
     }
 
     void aLiveEditOfManyActionsIsOneStep()
