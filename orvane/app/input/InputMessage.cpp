@@ -44,8 +44,14 @@ void InputMessage::showFor(QWidget* widget, const QString& text, Kind kind)
 
 void InputMessage::showBriefly(QWidget* widget, const QRect& place, const QString& text, Kind kind)
 {
+    // The editor of a cell may just have been hidden.
+    QPoint offset;
+    while (!widget->isVisible() && !widget->isWindow() && widget->parentWidget() != nullptr) {
+        offset += widget->pos();
+        widget = widget->parentWidget();
+    }
     delete shownIn(widget);
-    auto* const message = new InputMessage(widget, place, text, kind);
+    auto* const message = new InputMessage(widget, place.translated(offset), text, kind);
     QTimer::singleShot(readingTime(text), message, &InputMessage::dismiss);
 }
 

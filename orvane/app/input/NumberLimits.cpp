@@ -1,23 +1,50 @@
 #include "orvane/app/input/NumberLimits.h"
 
-#include <QLocale>
+#include "orvane/app/base/TextConversion.h"
+
+#include "meridane/query/NumberText.h"
+#include "meridane/scene/fields/NxFieldData.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace orvane {
 
-QString plainNumber(double number)
+QString plainNumber(double number, meridane::FieldComponents::Number type)
 {
-    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+    return toQString(meridane::numberText(number, type));
+}
+
+NumberLimits NumberLimits::of(const NxField& field, int component)
+{
+    NumberLimits limits;
+    const auto* const components = meridane::FieldComponents::of(field);
+    if (components == nullptr || component < 0 || component >= components->count())
+        return limits;
+    limits.hardMinimum = components->lowest();
+    limits.hardMaximum = components->highest();
+    limits.isWhole = components->isWhole();
+    limits.mayBeInfinite = !limits.isWhole;
+    const bool isRotation = components->name(components->count() - 1) == "angle";
+    if (isRotation && component < components->count() - 1)
+        return limits; // what is declared of a rotation holds for its angle
+    const NxFieldFacts& facts = meridane::factsOf(field);
+    limits.validMinimum = facts.excludesMinimum ? std::nextafter(facts.hardMinimum, none) : facts.hardMinimum;
+    limits.validMaximum = facts.excludesMaximum ? std::nextafter(facts.hardMaximum, -none) : facts.hardMaximum;
+    limits.softMinimum = facts.softMinimum;
+    limits.softMaximum = facts.softMaximum;
+    limits.step = facts.step;
+    limits.isAngle = isRotation || facts.unit == NxUnit::Radians;
+    return limits;
 }
 
 NumberLimits::Range NumberLimits::rangeOf(double number) const
 {
     if (!refusal(number).isEmpty())
         return Range::Impossible;
-    const bool usual = std::isnan(number) || (number >= softMinimum && number <= softMaximum);
-    return usual ? Range::Usual : Range::Unusual;
+    if (number < validMinimum || number > validMaximum)
+        return Range::Senseless;
+    return number < softMinimum || number > softMaximum ? Range::Unusual : Range::Usual;
 }
 
 QString NumberLimits::refusal(double number) const

@@ -1,23 +1,39 @@
 #pragma once
 
+#include "meridane/scene/components/FieldComponents.h"
+
 #include <QCoreApplication>
 #include <QString>
 
 #include <limits>
 
+class NxField;
+
 namespace orvane {
 
-/// Which numbers an input takes, and which of them are unusual. Bounds are inclusive; infinite ones don't exist.
+/// Which numbers an input takes, and which of them are unusual or make no sense. Bounds are inclusive; infinite ones
+/// don't exist.
 struct NumberLimits {
     Q_DECLARE_TR_FUNCTIONS(NumberLimits)
 
 public:
     static constexpr double none = std::numeric_limits<double>::infinity();
 
-    enum class Range { Usual, Unusual, Impossible };
+    enum class Range {
+        Usual,
+        Unusual, ///< outside the soft bounds: in the colour of a warning
+        Senseless, ///< outside the valid bounds: in the colour of an error
+        Impossible, ///< not taken
+    };
+
+    /// The limits of a component of a field's values: those of its type, and what its node class declares. The
+    /// default limits for a component that doesn't exist.
+    [[nodiscard]] static NumberLimits of(const NxField& field, int component);
 
     double hardMinimum = -none; ///< A number below it isn't taken.
     double hardMaximum = none;
+    double validMinimum = -none; ///< A number below it is taken, in the colour of an error.
+    double validMaximum = none;
     double softMinimum = -none; ///< A number below it is taken, in the colour of a warning.
     double softMaximum = none;
     double step = 0; ///< of one press of an arrow key; 0 for one that fits the value
@@ -35,7 +51,8 @@ public:
     [[nodiscard]] double stepFrom(double value) const;
 };
 
-/// The shortest text of the C locale that is read as this number.
-[[nodiscard]] QString plainNumber(double number);
+/// The shortest text of the C locale that a field of that type reads as this number.
+[[nodiscard]] QString plainNumber(
+    double number, meridane::FieldComponents::Number type = meridane::FieldComponents::Number::Double);
 
 } // namespace orvane

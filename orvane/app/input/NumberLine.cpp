@@ -3,12 +3,14 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/input/InputMessage.h"
+#include "orvane/app/input/PassingFocus.h"
 #include "orvane/app/look/Look.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
 
+using meridane::Expression;
 using orvane::Failure;
 using orvane::NumberLimits;
 using orvane::Result;
@@ -26,12 +28,6 @@ bool isStep(const QKeyEvent& event)
     return (event.key() == Qt::Key_Up || event.key() == Qt::Key_Down) && !event.modifiers().testFlag(Qt::AltModifier);
 }
 
-/// A context menu or another program has the keys for a while; the text is still being typed.
-bool isPassing(Qt::FocusReason reason)
-{
-    return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason;
-}
-
 } // namespace
 
 NumberLine::NumberLine(QWidget* parent)
@@ -39,8 +35,9 @@ NumberLine::NumberLine(QWidget* parent)
 {
     setMaxLength(longestText);
     connect(this, &QLineEdit::textEdited, this, [this] {
-        const auto number = readText();
-        showRange(number ? std::optional(number.value()) : std::nullopt);
+        const auto expression = readText();
+        const auto number = expression ? evaluate(expression.value()) : Failure{QString()};
+        showRange(number ? number.value() : std::nullopt);
     });
     connect(this, &QLineEdit::inputRejected, this, &NumberLine::refuseLongText, Qt::QueuedConnection);
     setValue(0);
@@ -83,15 +80,20 @@ bool NumberLine::isPending() const
     return isModified() && text() != m_shown;
 }
 
+double NumberLine::number() const
+{
+    const auto number = m_expression ? evaluate(*m_expression) : Failure{QString()};
+    return number ? number.value().value_or(std::numeric_limits<double>::quiet_NaN())
+                  : std::numeric_limits<double>::quiet_NaN();
+}
+
 bool NumberLine::accept()
 {
     if (!isPending()) {
         Q_EMIT restored();
         return true;
     }
-    const auto number = readText();
-    const QString why = number ? m_limits.refusal(number.value()) : number.error();
-    if (!why.isEmpty()) {
+    if (const QString why = refusal(); !why.isEmpty()) {
         refuse(why);
         return false;
     }
@@ -121,15 +123,42 @@ void NumberLine::refuse(const QString& why)
     InputMessage::showFor(this, tr("“%1”: %2").arg(orvane::shortLine(text()), why));
 }
 
-Result<double> NumberLine::readText() const
+Result<Expression> NumberLine::readText() const
 {
-    QString plain = text().trimmed();
-    plain.replace(u',', u'.');
-    bool isNumber = false;
-    const double number = QLocale::c().toDouble(plain, &isNumber);
-    if (!isNumber)
-        return Failure{tr("This isn't a number. Needed is %1.").arg(m_limits.description())};
-    return number;
+    Expression::Context context;
+    context.isAngle = m_limits.isAngle;
+    context.mayBeInfinite = m_limits.mayBeInfinite;
+    context.isWhole = m_limits.isWhole;
+    auto parsed = Expression::parse(text().toStdString(), context);
+    if (const auto* const error = std::get_if<meridane::QueryError>(&parsed))
+        return Failure{orvane::toQString(error->message)};
+    return std::get<Expression>(std::move(parsed));
+}
+
+// Nothing if only the owner knows the values that it is for.
+Result<std::optional<double>> NumberLine::evaluate(const Expression& expression) const
+{
+    if (expression.usesVariables() && !m_value)
+        return std::optional<double>();
+    const auto number = expression.evaluate(m_value.value_or(0));
+    if (const auto* const error = std::get_if<meridane::QueryError>(&number))
+        return Failure{orvane::toQString(error->message)};
+    return std::optional(std::get<double>(number));
+}
+
+// Why the text can't be taken; empty if it can, which is then the expression.
+QString NumberLine::refusal()
+{
+    const auto expression = readText();
+    const auto number = expression ? evaluate(expression.value()) : Failure{expression.error()};
+    if (!number)
+        return tr("%1 Needed is %2.").arg(number.error(), m_limits.description());
+    if (number.value()) {
+        if (const QString why = m_limits.refusal(*number.value()); !why.isEmpty())
+            return why;
+    }
+    m_expression = expression.value();
+    return {};
 }
 
 bool NumberLine::event(QEvent* event)
@@ -174,7 +203,7 @@ void NumberLine::step(const QKeyEvent& event)
 void NumberLine::focusOutEvent(QFocusEvent* event)
 {
     const QPointer<NumberLine> self = this;
-    if (!isPassing(event->reason()) && isPending())
+    if (!orvane::isPassingFocus(event->reason()) && isPending())
         leave();
     if (self != nullptr)
         QLineEdit::focusOutEvent(event);

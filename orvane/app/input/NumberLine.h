@@ -3,6 +3,8 @@
 #include "orvane/app/base/Result.h"
 #include "orvane/app/input/NumberLimits.h"
 
+#include "meridane/query/Expression.h"
+
 #include <QLineEdit>
 
 #include <optional>
@@ -23,7 +25,7 @@ class NumberLine : public QLineEdit {
 
 public:
     /// A longer text isn't taken.
-    static constexpr int longestText = 10'000;
+    static constexpr int longestText = static_cast<int>(meridane::Expression::mostBytes);
 
     explicit NumberLine(QWidget* parent = nullptr);
     ~NumberLine() override;
@@ -43,6 +45,11 @@ public:
 
     /// Whether something has been typed that is neither accepted nor restored.
     [[nodiscard]] bool isPending() const;
+    /// What the text means. Only in a slot of `accepted`.
+    [[nodiscard]] const meridane::Expression& expression() const { return *m_expression; }
+    /// The number that it means for the present value. Only in a slot of `accepted`; NaN if the text uses `x` and only
+    /// the owner knows the values.
+    [[nodiscard]] double number() const;
     /// Accepts what has been typed, as Return does. False when it was refused.
     bool accept();
     /// Shows the value again, as Escape does.
@@ -51,8 +58,8 @@ public:
     void refuse(const QString& why);
 
 Q_SIGNALS:
-    /// The typed text makes sense, and its result, if the line knows it, is within the hard range. What the line shows
-    /// stays until the owner sets the value.
+    /// The typed text makes sense, and its result, if the line knows it, can be taken: see `expression`. What the line
+    /// shows stays until the owner sets the value.
     void accepted();
     /// Nothing is to be written: Escape, Return on an untouched text, or leaving a text that can't be taken.
     void restored();
@@ -65,7 +72,9 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    [[nodiscard]] orvane::Result<double> readText() const;
+    [[nodiscard]] orvane::Result<meridane::Expression> readText() const;
+    [[nodiscard]] orvane::Result<std::optional<double>> evaluate(const meridane::Expression& expression) const;
+    [[nodiscard]] QString refusal();
     void step(const QKeyEvent& event);
     void leave();
     void showRange(std::optional<double> number);
@@ -74,5 +83,6 @@ private:
     orvane::NumberLimits m_limits;
     std::optional<double> m_value = 0;
     QString m_shown;
+    std::optional<meridane::Expression> m_expression; // the text that was accepted last
     bool m_refused = false;
 };

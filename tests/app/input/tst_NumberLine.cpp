@@ -65,6 +65,59 @@ private Q_SLOTS:
         QVERIFY(message().isEmpty());
     }
 
+    void formulasAreEvaluated_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<double>("number");
+        QTest::newRow("comma") << QStringLiteral("3,5") << 3.5;
+        QTest::newRow("point") << QStringLiteral("2.5") << 2.5;
+        QTest::newRow("formula") << QStringLiteral("2*3+1") << 7.0;
+        QTest::newRow("the present value") << QStringLiteral("x*1,5") << 6.0;
+        QTest::newRow("per cent") << QStringLiteral("50%") << 0.5;
+    }
+    void formulasAreEvaluated()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const double, number);
+        for (const char* const locale : {"C", "de_DE", "fr_FR", "ar_EG"}) {
+            QLocale::setDefault(QLocale(QLatin1String(locale)));
+            const QSignalSpy accepted(m_line, &NumberLine::accepted);
+            type(text.toUtf8().constData());
+            QTest::keyClick(m_line, Qt::Key_Return);
+            QCOMPARE(accepted.size(), 1);
+            QCOMPARE(m_line->number(), number);
+        }
+        QLocale::setDefault(QLocale::c());
+    }
+
+    void severalValuesAreForTheOwner()
+    {
+        m_line->setMixed(QStringLiteral("mixed"));
+        const QSignalSpy accepted(m_line, &NumberLine::accepted);
+        type("x+1");
+        QTest::keyClick(m_line, Qt::Key_Return);
+        QCOMPARE(accepted.size(), 1);
+        QVERIFY(qIsNaN(m_line->number()));
+        QCOMPARE(std::get<double>(m_line->expression().evaluate(2)), 3.0);
+    }
+
+    void whatHasNoValueIsRefused_data()
+    {
+        QTest::addColumn<QString>("text");
+        for (const char* const text : {"1/0", "2*", "inf", "sqrt(0-1)", "apples", "1e999"})
+            QTest::newRow(text) << QString::fromLatin1(text);
+    }
+    void whatHasNoValueIsRefused()
+    {
+        QFETCH(const QString, text);
+        const QSignalSpy accepted(m_line, &NumberLine::accepted);
+        type(text.toUtf8().constData());
+        QTest::keyClick(m_line, Qt::Key_Return);
+        QVERIFY(accepted.isEmpty());
+        QVERIFY(message().startsWith(QStringLiteral("“%1”: ").arg(text)));
+        QVERIFY(message().contains(QStringLiteral("a number")));
+    }
+
     void returnOnAnUntouchedTextWritesNothing()
     {
         const QSignalSpy accepted(m_line, &NumberLine::accepted);
@@ -209,7 +262,8 @@ private Q_SLOTS:
         m_window->setPalette(palette);
         NumberLimits limits;
         limits.softMaximum = 10;
-        limits.hardMaximum = 100;
+        limits.validMaximum = 100;
+        limits.hardMaximum = 1000;
         m_line->setLimits(limits);
         const QColor warning = orvane::look::textColor(orvane::look::Tint::Warning, base);
         const QColor error = orvane::look::textColor(orvane::look::Tint::Error, base);
@@ -217,6 +271,8 @@ private Q_SLOTS:
         type("11");
         QCOMPARE(textColor(), warning);
         type("101");
+        QCOMPARE(textColor(), error);
+        type("1001");
         QCOMPARE(textColor(), error);
         type("9");
         QCOMPARE(textColor(), text);
@@ -234,7 +290,7 @@ private Q_SLOTS:
         QApplication::clipboard()->setText(QString(1'000'000, u'1'));
         m_line->selectAll();
         QTest::keyClick(m_line, Qt::Key_V, Qt::ControlModifier);
-        QTRY_VERIFY(message().contains(QStringLiteral("10000")));
+        QTRY_VERIFY(message().contains(QString::number(NumberLine::longestText)));
         QCOMPARE(m_line->text(), QStringLiteral("4"));
         QApplication::clipboard()->clear();
     }
