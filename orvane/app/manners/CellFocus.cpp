@@ -1,0 +1,114 @@
+#include "orvane/app/manners/CellFocus.h"
+
+#include "orvane/app/manners/EditorDocks.h"
+#include "orvane/app/manners/EditorLine.h"
+
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxMField.h"
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QDockWidget>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTableView>
+
+namespace {
+
+/// Popups of Qt itself, such as menus and the lists of combo boxes, take the keys by themselves.
+bool isEditorPopup(const QWidget* widget)
+{
+    return widget->windowType() == Qt::Popup && widget->findChild<QLineEdit*>() != nullptr
+        && EditorDocks::dockOf(widget) != nullptr;
+}
+
+} // namespace
+
+CellFocus::CellFocus(QObject* parent)
+    : QObject(parent)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+CellFocus::~CellFocus() = default;
+
+bool CellFocus::eventFilter(QObject* object, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if (!object->isWidgetType())
+        return false;
+    auto* const widget = static_cast<QWidget*>(object);
+    if (type == QEvent::Show)
+        widgetShown(widget);
+    else if (type == QEvent::Hide && widget == m_escaped)
+        popupHidden(widget);
+    else if (type == QEvent::KeyPress)
+        m_escaped = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape ? widget->window() : nullptr;
+    else if (type == QEvent::FocusIn && qobject_cast<QAbstractSpinBox*>(widget) != nullptr)
+        boxFocused(static_cast<QAbstractSpinBox*>(widget));
+    return false;
+}
+
+void CellFocus::widgetShown(QWidget* widget)
+{
+    if (widget->isWindow()) {
+        if (isEditorPopup(widget))
+            popupShown(widget);
+        return;
+    }
+    const auto* const view = qobject_cast<QTableView*>(
+        widget->parentWidget() != nullptr ? widget->parentWidget()->parentWidget() : nullptr);
+    if (view != nullptr && widget->parentWidget() == view->viewport() && EditorDocks::dockOf(view) != nullptr)
+        cellEditorShown(widget);
+}
+
+// The popup is about to take over the keys, and gives them to the widget that has the focus in it.
+void CellFocus::popupShown(QWidget* popup)
+{
+    auto* const line = qobject_cast<QLineEdit*>(EditorDocks::firstControl(popup));
+    if (line == nullptr)
+        return;
+    line->setFocus(Qt::PopupFocusReason);
+    line->selectAll();
+}
+
+void CellFocus::popupHidden(QWidget* popup)
+{
+    m_escaped = nullptr;
+    const QPointer<QDockWidget> dock = EditorDocks::dockOf(popup);
+    // After the popup has gone and the focus is where it was before.
+    const auto giveFocus = [dock] {
+        const QWidget* const focus = QApplication::focusWidget();
+        if (dock == nullptr || (focus != nullptr && dock->isAncestorOf(focus)))
+            return;
+        if (QWidget* const control = EditorDocks::firstControl(dock->widget()))
+            control->setFocus();
+    };
+    if (popup->windowType() == Qt::Popup && dock != nullptr)
+        QMetaObject::invokeMethod(this, giveFocus, Qt::QueuedConnection);
+}
+
+void CellFocus::cellEditorShown(QWidget* editor)
+{
+    auto* line = qobject_cast<QLineEdit*>(editor);
+    if (line == nullptr) {
+        line = editor->findChild<QLineEdit*>();
+        if (line == nullptr)
+            return;
+        editor->setFocusProxy(line); // the frame itself does nothing with keys
+        line->selectAll();
+    }
+    const auto target = EditorLine::of(line, line->text());
+    if (target && target->isBesideWhole()) {
+        target->showOwnValue();
+        line->selectAll();
+    }
+}
+
+// While a number is typed, each of its beginnings would be written.
+void CellFocus::boxFocused(QAbstractSpinBox* box)
+{
+    NxField* const field = EditorDocks::fieldOf(box);
+    if (field != nullptr && !field->isOfType(NxMField::getClassTypeId()))
+        box->setKeyboardTracking(false);
+}

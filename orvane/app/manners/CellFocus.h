@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+class QAbstractSpinBox;
+
+/// Gives the keys to what an editor opens: the first line of a popup such as the grid of a matrix, and the line in the
+/// editor of a cell. When Escape closes such a popup, the focus goes back to the editor.
+///
+/// It also makes the line of a cell show the cell's own value, and spin boxes of single values write a typed number
+/// once it is finished.
+class CellFocus : public QObject {
+    Q_OBJECT
+
+public:
+    explicit CellFocus(QObject* parent);
+    ~CellFocus() override;
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void widgetShown(QWidget* widget);
+    void popupHidden(QWidget* popup);
+    static void popupShown(QWidget* popup);
+    static void cellEditorShown(QWidget* editor);
+    static void boxFocused(QAbstractSpinBox* box);
+
+    QPointer<QWidget> m_escaped; // the popup to which the last key, Escape, went
+};
