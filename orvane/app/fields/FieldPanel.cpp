@@ -5,6 +5,7 @@
 #include "orvane/app/fields/FieldFilterBar.h"
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
+#include "orvane/app/fields/MarkDelegate.h"
 #include "orvane/app/input/InputMessage.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/scene/NodeIcons.h"
@@ -90,7 +91,7 @@ void FieldPanel::buildColumns()
     // Not while the view still works on the click: it may change which rows there are.
     connect(
         marks, &MarkDelegate::clicked, this,
-        [this](MarkDelegate::Mark mark, const QPersistentModelIndex& index) {
+        [this](FieldMark mark, const QPersistentModelIndex& index) {
             if (index.isValid())
                 useMark(mark, index);
         },
@@ -216,18 +217,18 @@ void FieldPanel::foldingChanged(const QModelIndex& index, bool folded)
         m_settings.setFolded(group->key, folded);
 }
 
-void FieldPanel::useMark(MarkDelegate::Mark mark, const QModelIndex& index)
+void FieldPanel::useMark(FieldMark mark, const QModelIndex& index)
 {
     const FieldSet fields = m_model->fieldSet(index);
     orvane::Result<> result;
     switch (mark) {
-    case MarkDelegate::Mark::Ignore:
+    case FieldMark::Ignore:
         result = m_writer.setIgnored(fields, !fields.isIgnored());
         break;
-    case MarkDelegate::Mark::Reset:
+    case FieldMark::Reset:
         result = m_writer.reset(fields);
         break;
-    case MarkDelegate::Mark::Favorite: {
+    case FieldMark::Favorite: {
         const bool isFavorite = index.data(FieldRoles::FavoriteRole).toBool();
         m_settings.setFavorite(orvane::favoriteKey(*m_model->row(index)), !isFavorite);
         changeRows([this] { m_model->setFavorites(m_settings.favorites()); });

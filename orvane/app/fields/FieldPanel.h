@@ -1,7 +1,7 @@
 #pragma once
 
+#include "orvane/app/fields/FieldMark.h"
 #include "orvane/app/fields/FieldTableSettings.h"
-#include "orvane/app/fields/MarkDelegate.h"
 #include "orvane/app/fields/values/FieldSet.h"
 #include "orvane/app/fields/values/FieldWriter.h"
 
@@ -63,7 +63,7 @@ private:
     void applyFilter();
     void unfoldGroups();
     void foldingChanged(const QModelIndex& index, bool folded);
-    void useMark(MarkDelegate::Mark mark, const QModelIndex& index);
+    void useMark(FieldMark mark, const QModelIndex& index);
     void chooseColumns(const QPoint& place);
     /// Changes which rows there are, and keeps the row of the current field selected.
     template <typename Change>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/app/fields/FieldMark.h"
+
 #include <QPersistentModelIndex>
 #include <QStyledItemDelegate>
 
@@ -11,7 +13,7 @@ class MarkDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
-    enum class Mark { Ignore, Favorite, Reset };
+    using Mark = FieldMark;
     static constexpr int markCount = 3;
 
     explicit MarkDelegate(QObject* parent = nullptr);
@@ -30,5 +32,5 @@ public:
     [[nodiscard]] static QRect placeOf(Mark mark, const QStyleOptionViewItem& option);
 
 Q_SIGNALS:
-    void clicked(MarkDelegate::Mark mark, const QPersistentModelIndex& index);
+    void clicked(FieldMark mark, const QPersistentModelIndex& index);
 };

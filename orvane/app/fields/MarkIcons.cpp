@@ -53,7 +53,7 @@ QPainterPath ignoreSign()
 
 } // namespace
 
-void orvane::drawMark(QPainter& painter, MarkDelegate::Mark mark, const QRect& place, const QColor& color, bool isOn)
+void orvane::drawMark(QPainter& painter, FieldMark mark, const QRect& place, const QColor& color, bool isOn)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -61,15 +61,15 @@ void orvane::drawMark(QPainter& painter, MarkDelegate::Mark mark, const QRect& p
     painter.scale(place.width() / units, place.height() / units);
     painter.setPen(QPen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     switch (mark) {
-    case MarkDelegate::Mark::Ignore:
+    case FieldMark::Ignore:
         painter.drawPath(ignoreSign());
         break;
-    case MarkDelegate::Mark::Favorite:
+    case FieldMark::Favorite:
         if (isOn)
             painter.setBrush(color);
         painter.drawPath(star());
         break;
-    case MarkDelegate::Mark::Reset:
+    case FieldMark::Reset:
         painter.drawPath(resetArrow());
         break;
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/app/fields/MarkDelegate.h"
+#include "orvane/app/fields/FieldMark.h"
 
 class QColor;
 class QPainter;
@@ -9,6 +9,6 @@ class QRect;
 namespace orvane {
 
 /// Draws the icon of a mark; `isOn` fills it.
-void drawMark(QPainter& painter, MarkDelegate::Mark mark, const QRect& place, const QColor& color, bool isOn);
+void drawMark(QPainter& painter, FieldMark mark, const QRect& place, const QColor& color, bool isOn);
 
 } // namespace orvane

@@ -8,6 +8,7 @@
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
+#include "orvane/app/fields/MarkDelegate.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
@@ -76,7 +77,7 @@ protected:
         QTest::keyClick(view(), key, modifiers);
         ManyNodes::finish();
     }
-    void clickMark(MarkDelegate::Mark mark, const char* name)
+    void clickMark(FieldMark mark, const char* name)
     {
         const QModelIndex index = row(name, FieldTableModel::MarkColumn);
         view()->scrollTo(index);

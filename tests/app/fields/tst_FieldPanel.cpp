@@ -9,7 +9,7 @@
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
-using Mark = MarkDelegate::Mark;
+using Mark = FieldMark;
 
 /// The panel of fields, used by mouse and keys.
 class TestFieldPanel : public FieldPanelCase {

@@ -374,28 +374,6 @@ private Q_SLOTS:
         QCOMPARE(textOf(many.field(2, "sfInt32")), std::string("6"));
         QVERIFY(many.set("sfInt32").isMixed());
     }
-
-    void aSetHasTheFieldsThatAllNodesHave()
-    {
-        NxMaterial* const material = new NxMaterial;
-        ManyNodes many({new NxFieldGallery, material});
-        QVERIFY(FieldSet(many.field(0, "sfFloat"), many.nodes()).isEmpty());
-        const FieldSet alone(many.field(0, "sfFloat"));
-        QCOMPARE(alone.count(), 1);
-        QCOMPARE(alone.name(), u"FieldGallery.sfFloat"_s);
-    }
-
-    void aSetKeepsItsNodes()
-    {
-        FieldSet set;
-        {
-            const NxRef<NxNode> gallery(new NxFieldGallery);
-            set = FieldSet(*gallery->getField("sfFloat"));
-            QCOMPARE(gallery->getRefCount(), 2);
-        }
-        QVERIFY(set.first().set("3"));
-        QVERIFY(set.isChanged());
-    }
 };
 
 QTEST_MAIN(TestFieldWriter)
