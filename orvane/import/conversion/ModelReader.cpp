@@ -27,6 +27,16 @@ bool hasModelExtension(const std::string& path)
     return extension.size() > 1 && Assimp::Importer().IsExtensionSupported(extension);
 }
 
+std::string beginningOf(meridane::FileReader& file)
+{
+    constexpr std::size_t size = 4096;
+    std::string beginning;
+    bool atEnd = false;
+    // A file that can't be read is reported by the library.
+    static_cast<void>(file.read(beginning, size, atEnd));
+    return beginning;
+}
+
 // Of the reader of OBJ files.
 bool isForBadIndex(const Assimp::Importer& importer)
 {
@@ -60,10 +70,12 @@ ModelReader::~ModelReader() = default;
 NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
 {
     // The library has one message for every failure to open a file; the toolkit distinguishes them.
-    if (const std::optional<std::string> failure = meridane::FileReader().open(path)) {
+    meridane::FileReader file;
+    if (const std::optional<std::string> failure = file.open(path)) {
         error = *failure;
         return {};
     }
+    m_colorStorage = colorStorageOf(beginningOf(file));
     auto* const files = new ModelFiles(path); // the importer's own
     m_importer->SetIOHandler(files);
     NxRef<NxGroup> scene;
@@ -90,7 +102,10 @@ const aiScene* ModelReader::readMended(const std::string& path, ModelFiles& file
     }
     if (model != nullptr && model->mRootNode != nullptr) {
         // The importer's own, which it lets nobody else change; but its steps don't survive every model.
-        mendModel(const_cast<aiScene&>(*model), m_warnings);
+        auto& mended = const_cast<aiScene&>(*model);
+        mendModel(mended, m_warnings);
+        mendVertexColors(mended, m_colorStorage, m_warnings);
+        mendMaterials(mended, m_warnings);
         if (model->mNumMeshes > 0 && !hasContent(*model)) {
             error = "nothing in the model can be shown";
             for (const std::string& warning : warnings())

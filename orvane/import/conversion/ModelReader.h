@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orvane/import/conversion/ColorMending.h"
 #include "orvane/import/conversion/ImportWarnings.h"
 
 #include "meridane/scene/fields/NxRef.h"
@@ -37,6 +38,7 @@ private:
 
     std::unique_ptr<Assimp::Importer> m_importer;
     ImportWarnings m_warnings;
+    ColorStorage m_colorStorage = ColorStorage::Usual;
 };
 
 } // namespace orvane

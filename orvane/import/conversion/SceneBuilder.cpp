@@ -5,6 +5,7 @@
 #include "orvane/import/conversion/Lists.h"
 #include "orvane/import/conversion/MaterialConversion.h"
 #include "orvane/import/conversion/MeshConversion.h"
+#include "orvane/import/conversion/SourceFormat.h"
 #include "orvane/import/conversion/Texts.h"
 #include "orvane/import/conversion/TransformConversion.h"
 
@@ -16,7 +17,6 @@
 #include <span>
 #include <utility>
 
-#include <assimp/commonMetaData.h>
 #include <assimp/scene.h>
 
 namespace orvane {
@@ -27,13 +27,6 @@ bool isPlain(const aiNode& node)
     return node.mNumChildren == 0 && node.mNumMeshes == 0;
 }
 
-bool isGltf(const aiScene& model)
-{
-    aiString format;
-    return model.mMetaData != nullptr && model.mMetaData->Get(AI_METADATA_SOURCE_FORMAT, format)
-        && viewOf(format).starts_with("glTF2");
-}
-
 } // namespace
 
 SceneBuilder::SceneBuilder(const aiScene& model, std::string fileName)
@@ -41,7 +34,7 @@ SceneBuilder::SceneBuilder(const aiScene& model, std::string fileName)
     , m_fileName(std::move(fileName))
     , m_meshGroups(model.mNumMeshes)
     , m_materials(model.mNumMaterials)
-    , m_isGltf(isGltf(model))
+    , m_isGltf(hasSourceFormat(model, "glTF2"))
 {
     for (const aiLight* light : listOf(model.mLights, model.mNumLights))
         m_lights[viewOf(light->mName)].push_back(light);
