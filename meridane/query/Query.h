@@ -1,0 +1,63 @@
+#pragma once
+
+#include "meridane/query/QueryError.h"
+#include "meridane/query/QuerySubject.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <variant>
+
+class NxField;
+class NxNode;
+
+namespace meridane {
+
+class QueryTree;
+
+/// What a user searches for, the same words for trees, tables, lists and the command line.
+///
+/// | words | what they match |
+/// |---|---|
+/// | `arm` | a name of a node, a field or a class in which these letters occur in this order; a value that contains
+/// them | | `"left arm"` | a name or a value that contains this text | | `/arm[0-9]+/` | a name or a value in which the
+/// regular expression is found | | `t:Mesh` | a node of this class or of one that derives from it, and its fields; a
+/// field of this class (`t:Vec3f`) | | `f:radius` | a field whose name has these letters in this order | | `=0.5`
+/// `!=0.5` `<1` `<=1` `>1` `>=1` | a field with such a number; `=` and `!=` also compare texts | | `~text` | a field
+/// whose value contains this text | | `changed`, `ignored` | a field that differs from its default, or that is ignored
+/// |
+///
+/// Words side by side must all match; `and`, `or`, `not` and brackets combine them. `not` binds closest, `or` least.
+/// Letters match in either case. A node matches words about fields if one field of it matches all that are side by
+/// side, and `not` with such words if no field matches.
+///
+/// Copies share their words and are cheap. Not for several threads at a time.
+class Query {
+public:
+    using Subject = QuerySubject;
+
+    /// The empty query, which matches everything.
+    Query() = default;
+    [[nodiscard]] static std::variant<Query, QueryError> parse(std::string_view text, Subject subject = Subject::Scene);
+
+    /// Whether it has no words.
+    [[nodiscard]] bool isEmpty() const noexcept { return m_tree == nullptr; }
+    /// Whether it has words about fields: `f:`, values, `changed`, `ignored`.
+    [[nodiscard]] bool isAboutFields() const noexcept;
+
+    /// Of values the first 4 KiB of the text and the first 1,000 texts of a list are searched, but all numbers.
+    [[nodiscard]] bool matches(const NxNode& node) const;
+    [[nodiscard]] bool matches(const NxField& field) const;
+    /// A plain text, in UTF-8. A word matches if the text contains it.
+    [[nodiscard]] bool matchesText(std::string_view text) const;
+
+private:
+    explicit Query(std::shared_ptr<const QueryTree> tree)
+        : m_tree(std::move(tree))
+    {
+    }
+
+    std::shared_ptr<const QueryTree> m_tree;
+};
+
+} // namespace meridane

@@ -1,0 +1,74 @@
+#include "meridane/query/detail/ClassPattern.h"
+
+#include "meridane/base/types/NxTypedObject.h"
+#include "meridane/base/values/Unicode.h"
+#include "meridane/base/values/VbName.h"
+#include "meridane/query/detail/CaseFolding.h"
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/nodes/NxNode.h"
+
+#include <algorithm>
+
+namespace meridane {
+namespace {
+
+std::string foldedNameOf(NxType type)
+{
+    return foldCase(latin1ToUtf8(type.getName().getString()));
+}
+
+/// Without the letters that say whether a class of fields has one value or many.
+std::string_view withoutKind(std::string_view name)
+{
+    return name.starts_with("sf") || name.starts_with("mf") ? name.substr(2) : name;
+}
+
+} // namespace
+
+ClassPattern::ClassPattern(std::string_view name)
+    : m_name(foldCase(name))
+{
+    const std::vector<NxType> all = NxType::getAllDerivedFrom(NxTypedObject::getClassTypeId());
+    m_isWhole = std::ranges::any_of(all, [this](NxType type) {
+        const std::string known = foldedNameOf(type);
+        return known == m_name || (type.isDerivedFrom(NxField::getClassTypeId()) && withoutKind(known) == m_name);
+    });
+}
+
+bool ClassPattern::matches(const NxNode& node) const
+{
+    // The name in the file of a node whose class isn't known.
+    return matches(node.getTypeId()) || matchesName(foldCase(node.getClassName()));
+}
+
+bool ClassPattern::matches(const NxField& field) const
+{
+    return matches(field.getTypeId());
+}
+
+bool ClassPattern::matches(NxType type) const
+{
+    const auto known = std::ranges::find(m_known, type, &std::pair<NxType, bool>::first);
+    if (known != m_known.end())
+        return known->second;
+    m_known.emplace_back(type, matchesOneOf(type));
+    return m_known.back().second;
+}
+
+bool ClassPattern::matchesOneOf(NxType type) const
+{
+    const bool isField = type.isDerivedFrom(NxField::getClassTypeId());
+    for (; !type.isBad(); type = type.getParent()) {
+        const std::string name = foldedNameOf(type);
+        if (matchesName(name) || (isField && matchesName(withoutKind(name))))
+            return true;
+    }
+    return false;
+}
+
+bool ClassPattern::matchesName(std::string_view name) const
+{
+    return m_isWhole ? name == m_name : name.starts_with(m_name);
+}
+
+} // namespace meridane

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "meridane/base/types/NxType.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+class NxField;
+class NxNode;
+
+namespace meridane {
+
+/// The name of a class, in any case of letters: the objects of this class and of those that derive from it. If no class
+/// has exactly this name, it is the beginning of names. Classes of fields also match without `SF` or `MF`.
+class ClassPattern {
+public:
+    explicit ClassPattern(std::string_view name);
+
+    [[nodiscard]] bool matches(const NxNode& node) const;
+    /// A field, by its own class.
+    [[nodiscard]] bool matches(const NxField& field) const;
+
+private:
+    [[nodiscard]] bool matches(NxType type) const;
+    [[nodiscard]] bool matchesOneOf(NxType type) const;
+    [[nodiscard]] bool matchesName(std::string_view name) const;
+
+    std::string m_name;
+    bool m_isWhole = false;
+    mutable std::vector<std::pair<NxType, bool>> m_known; ///< the results so far
+};
+
+} // namespace meridane

@@ -1,0 +1,115 @@
+#include "meridane/query/detail/TextPattern.h"
+
+#include "meridane/base/values/MessageText.h"
+#include "meridane/query/detail/CaseFolding.h"
+
+#include <re2/re2.h>
+
+namespace meridane {
+namespace {
+
+std::string refusalOf(const re2::RE2& expression)
+{
+    constexpr std::size_t mostShown = 40;
+    const std::string part = "\"" + excerpt(expression.error_arg(), mostShown) + "\"";
+    switch (expression.error_code()) {
+    case re2::RE2::ErrorBadEscape:
+        return "The regular expression has " + part + ", which has no meaning.";
+    case re2::RE2::ErrorBadCharClass:
+    case re2::RE2::ErrorBadCharRange:
+        return "The regular expression has " + part + ", which is no range or class of characters.";
+    case re2::RE2::ErrorMissingBracket:
+        return "The regular expression has a [ without ].";
+    case re2::RE2::ErrorMissingParen:
+        return "The regular expression has a ( without ).";
+    case re2::RE2::ErrorUnexpectedParen:
+        return "The regular expression has a ) without (.";
+    case re2::RE2::ErrorTrailingBackslash:
+        return "The regular expression ends in a backslash. Write \\\\ to find one.";
+    case re2::RE2::ErrorRepeatArgument:
+        return "The regular expression has " + part + ", but nothing before it to repeat.";
+    case re2::RE2::ErrorRepeatSize:
+        return "The regular expression repeats too often or the wrong way round: " + part + ".";
+    case re2::RE2::ErrorRepeatOp:
+        return "The regular expression has two repetitions in a row: " + part + ".";
+    case re2::RE2::ErrorBadPerlOp:
+        return "The regular expression has " + part + ", which isn't supported.";
+    case re2::RE2::ErrorBadUTF8:
+        return "The regular expression has bytes that are no text.";
+    case re2::RE2::ErrorBadNamedCapture:
+        return "The regular expression has a wrong name in " + part + ".";
+    case re2::RE2::ErrorPatternTooLarge:
+        return "The regular expression is too large.";
+    default:
+        return "The regular expression is wrong: " + expression.error() + ".";
+    }
+}
+
+bool hasInOrder(std::string_view text, std::string_view letters)
+{
+    std::size_t found = 0;
+    for (const char letter : letters) {
+        found = text.find(letter, found);
+        if (found == std::string_view::npos)
+            return false;
+        ++found;
+    }
+    return true;
+}
+
+} // namespace
+
+TextPattern TextPattern::word(std::string_view word)
+{
+    TextPattern pattern = phrase(word);
+    pattern.m_isWord = true;
+    return pattern;
+}
+
+TextPattern TextPattern::phrase(std::string_view text)
+{
+    TextPattern pattern;
+    pattern.m_text = foldCase(text);
+    return pattern;
+}
+
+TextPattern TextPattern::regularExpression(std::string_view expression)
+{
+    constexpr std::int64_t mostMemory = 1 << 20;
+    re2::RE2::Options options;
+    options.set_case_sensitive(false);
+    options.set_log_errors(false);
+    options.set_max_mem(mostMemory);
+    TextPattern pattern;
+    auto compiled = std::make_shared<const re2::RE2>(re2::StringPiece(expression.data(), expression.size()), options);
+    if (compiled->ok())
+        pattern.m_expression = std::move(compiled);
+    else
+        pattern.m_refusal = refusalOf(*compiled);
+    return pattern;
+}
+
+std::string_view TextPattern::folded(std::string_view text) const
+{
+    foldCase(text, m_folded);
+    return m_folded;
+}
+
+bool TextPattern::matchesName(std::string_view name) const
+{
+    return m_isWord ? hasInOrder(folded(name), m_text) : matchesText(name);
+}
+
+bool TextPattern::matchesText(std::string_view text) const
+{
+    if (m_expression != nullptr)
+        return re2::RE2::PartialMatch(re2::StringPiece(text.data(), text.size()), *m_expression);
+    return folded(text).find(m_text) != std::string_view::npos;
+}
+
+bool TextPattern::isEqualTo(std::string_view text) const
+{
+    return m_expression == nullptr && folded(text) == m_text;
+}
+
+} // namespace meridane

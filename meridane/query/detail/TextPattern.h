@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace re2 {
+class RE2;
+}
+
+namespace meridane {
+
+/// What a text may be searched for, in any case of letters.
+class TextPattern {
+public:
+    /// A word: letters that occur in this order, or one after the other.
+    [[nodiscard]] static TextPattern word(std::string_view word);
+    /// A text that occurs as it is.
+    [[nodiscard]] static TextPattern phrase(std::string_view text);
+    /// A regular expression. If it is wrong, `refusal` is its message.
+    [[nodiscard]] static TextPattern regularExpression(std::string_view expression);
+
+    /// Why the pattern can't be used, in plain words.
+    [[nodiscard]] const std::optional<std::string>& refusal() const noexcept { return m_refusal; }
+
+    /// Whether it matches a name: the letters of a word need only be in order.
+    [[nodiscard]] bool matchesName(std::string_view name) const;
+    /// Whether it matches a longer text, in which the letters of a word must be next to each other.
+    [[nodiscard]] bool matchesText(std::string_view text) const;
+    /// Whether the text is the word or the phrase.
+    [[nodiscard]] bool isEqualTo(std::string_view text) const;
+
+private:
+    TextPattern() = default;
+    [[nodiscard]] std::string_view folded(std::string_view text) const;
+
+    std::string m_text; ///< in small letters
+    bool m_isWord = false;
+    std::shared_ptr<const re2::RE2> m_expression;
+    std::optional<std::string> m_refusal;
+    mutable std::string m_folded; ///< the text that is searched
+};
+
+} // namespace meridane
