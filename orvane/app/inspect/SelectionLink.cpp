@@ -2,27 +2,39 @@
 
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/fields/FieldTableModel.h"
+#include "orvane/app/inspect/NodeLock.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/scene/fields/NxField.h"
 
-SelectionLink::SelectionLink(OrvServices& services, SceneTreePanel* tree, FieldPanel* fields)
+#include <QScopedValueRollback>
+
+SelectionLink::SelectionLink(OrvServices& services, SceneTreePanel* tree, FieldPanel* fields, NodeLock& lock)
     : QObject(tree)
     , m_services(services)
     , m_tree(tree)
     , m_fields(fields)
+    , m_lock(lock)
 {
     connect(tree, &SceneTreePanel::selectionChanged, this, &SelectionLink::chooseNode);
     connect(fields, &FieldPanel::fieldChosen, &services, &OrvServices::selectField);
     connect(&services, &OrvServices::selectedNodeChanged, this, &SelectionLink::showNode);
     connect(&services, &OrvServices::selectedFieldChanged, this, &SelectionLink::showField);
+    connect(&lock, &NodeLock::changed, this, &SelectionLink::followTree);
+}
+
+void SelectionLink::browse(const QModelIndex& index, NxField* field)
+{
+    m_tree->select(index);
+    if (field == nullptr ? !m_lock.isOn() : !m_lock.isOn() || field->getContainer() == m_lock.node())
+        m_services.selectField(field);
 }
 
 void SelectionLink::chooseNode(NxFieldContainer* node)
 {
-    if (node == m_services.getSelectedNode())
+    if (node == m_services.getSelectedNode() || m_lock.isOn())
         return;
     if (NxField* kept = keptField(node))
         m_services.select(node, kept);
@@ -40,10 +52,23 @@ NxField* SelectionLink::keptField(NxFieldContainer* node) const
     return same != nullptr && same->getTypeId() == before->getTypeId() ? same : nullptr;
 }
 
+// Once the lock is off.
+void SelectionLink::followTree()
+{
+    if (m_lock.isOn() && m_services.getSelectedNode() != m_lock.node())
+        m_services.selectNode(m_lock.node()); // it went on to another node by itself
+    else if (!m_isShowing)
+        chooseNode(m_tree->selectedNode());
+}
+
 void SelectionLink::showNode(NxFieldContainer* node)
 {
+    const QScopedValueRollback showing(m_isShowing, true);
     if (m_fields->model()->node() != node)
         m_fields->setNode(node);
+    if (m_lock.isOn() && node == m_lock.node())
+        return;
+    m_lock.giveUp(node != nullptr ? tr("another node was selected") : tr("nothing is selected any more"));
     if (m_tree->selectedNode() != node)
         m_tree->select(m_tree->model()->findNode(node));
 }

@@ -62,7 +62,10 @@ void SelectionStatus::timerEvent(QTimerEvent*)
             scene == nullptr ? QString() : counted(scene->getChildren().size(), tr("top node"), tr("top nodes")));
         m_namer.clear();
     } else if (way) {
-        const auto path = m_namer.name(*scene, *way, m_session.services().getSelectedField(), SliceClock::length);
+        // The selection may be locked on another node than that of the tree.
+        const NxField* const selected = m_session.services().getSelectedField();
+        const NxField* const field = selected != nullptr && selected->getContainer() == node ? selected : nullptr;
+        const auto path = m_namer.name(*scene, *way, field, SliceClock::length);
         if (!path)
             return; // the timer goes on
         m_path->setPath(orvane::toQString(*path));

@@ -12,13 +12,13 @@
 TreeState::TreeState(SceneTreePanel& tree, OrvServices& services)
     : m_tree(&tree)
     , m_services(&services)
-    , m_node(services.getSelectedNode())
+    , m_node(tree.selectedNode())
 {
     for (const QModelIndex& index : tree.model()->fetchedIndexes()) {
         if (tree.view()->isExpanded(index))
             m_unfolded.push_back({index, pathOf(index)});
     }
-    if (!m_node || tree.selectedNode() != m_node.get())
+    if (!m_node)
         return;
     m_path = pathOf(tree.selected());
     const NxField* const field = services.getSelectedField();
@@ -32,7 +32,7 @@ void TreeState::restore()
         if (!row.index.isValid())
             m_tree->view()->expand(find(row.path));
     }
-    if (m_path.empty() || m_services->getSelectedNode() == m_node.get())
+    if (m_path.empty() || m_tree->selectedNode() == m_node.get())
         return;
     QModelIndex index = m_tree->model()->findNode(m_node.get());
     if (!index.isValid())
@@ -41,8 +41,10 @@ void TreeState::restore()
         return;
     m_tree->select(index);
     NxNode* const node = m_tree->model()->node(index);
-    if (NxField* const field = m_field.isEmpty() ? nullptr : node->getField(m_field))
-        m_services->select(node, field);
+    NxField* const field = m_field.isEmpty() ? nullptr : node->getField(m_field);
+    // The selection may be locked on another node.
+    if (field != nullptr && m_services->getSelectedNode() == node)
+        m_services->selectField(field);
 }
 
 std::string TreeState::pathOf(const QModelIndex& index) const

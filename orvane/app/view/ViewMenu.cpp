@@ -34,6 +34,8 @@ void ViewMenu::update()
     m_menu->addSeparator();
     for (QToolBar* toolBar : m_window->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
         m_menu->addAction(toolBar->toggleViewAction());
-    m_menu->addSeparator();
-    m_menu->addActions(m_appended);
+    for (const QList<QAction*>& actions : m_appended) {
+        m_menu->addSeparator();
+        m_menu->addActions(actions);
+    }
 }

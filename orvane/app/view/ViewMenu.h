@@ -18,8 +18,8 @@ public:
     /// For a window without a view, actions and cameras are null.
     explicit ViewMenu(QMainWindow* window, ViewActions* actions = nullptr, CameraMenu* cameras = nullptr);
 
-    /// Lists this action at the end, from the next `update` on.
-    void append(QAction* action) { m_appended.append(action); }
+    /// Lists these actions together at the end, from the next `update` on.
+    void append(const QList<QAction*>& actions) { m_appended.append(actions); }
     /// Lists what there is now.
     void update();
 
@@ -28,5 +28,5 @@ private:
     ViewActions* m_actions;
     CameraMenu* m_cameras;
     QMenu* m_menu;
-    QList<QAction*> m_appended;
+    QList<QList<QAction*>> m_appended;
 };

@@ -3,12 +3,12 @@
 #include "orvane/app/compare/DifferenceModel.h"
 #include "orvane/app/compare/DifferencePanel.h"
 #include "orvane/app/compare/SceneComparer.h"
+#include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/window/DockPlace.h"
-#include "orvane/extender/OrvServices.h"
 
 #include "meridane/scene/file/NxScenePath.h"
 
@@ -16,11 +16,12 @@
 
 #include <utility>
 
-ComparisonDock::ComparisonDock(
-    Session& session, MessageBar& messages, JobBar& jobBar, SceneTreePanel* tree, QMainWindow* window)
+ComparisonDock::ComparisonDock(Session& session, MessageBar& messages, JobBar& jobBar, SceneTreePanel* tree,
+    SelectionLink& link, QMainWindow* window)
     : QDockWidget(tr("Comparison"), window)
     , m_session(session)
     , m_tree(tree)
+    , m_link(link)
     , m_window(window)
     , m_panel(new DifferencePanel(jobBar, this))
     , m_comparer(new SceneComparer(session, messages, jobBar, m_panel, this))
@@ -59,6 +60,5 @@ void ComparisonDock::select(const NxSceneDifference& difference)
         = target.node() == node ? m_tree->model()->indexOfPath(target.nodes) : m_tree->model()->findNode(node);
     if (!index.isValid())
         return; // the node was deleted
-    m_tree->select(index);
-    m_session.services().selectField(field);
+    m_link.browse(index, field);
 }

@@ -12,6 +12,7 @@ class MessageBar;
 class QMainWindow;
 class SceneComparer;
 class SceneTreePanel;
+class SelectionLink;
 class Session;
 
 /// The dock with the differences between the open scene and a file. The choice of a row selects its node and field.
@@ -20,7 +21,8 @@ class ComparisonDock : public QDockWidget {
 
 public:
     /// All live as long as the window.
-    ComparisonDock(Session& session, MessageBar& messages, JobBar& jobBar, SceneTreePanel* tree, QMainWindow* window);
+    ComparisonDock(Session& session, MessageBar& messages, JobBar& jobBar, SceneTreePanel* tree, SelectionLink& link,
+        QMainWindow* window);
 
     /// Compares the open scene with another, which the user knows as the file of that name, and shows the dock. Doesn't
     /// block.
@@ -33,6 +35,7 @@ private:
 
     Session& m_session;
     SceneTreePanel* m_tree;
+    SelectionLink& m_link;
     QMainWindow* m_window;
     DifferencePanel* m_panel;
     SceneComparer* m_comparer;

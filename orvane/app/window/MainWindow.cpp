@@ -10,6 +10,7 @@
 #include "orvane/app/files/RecentFiles.h"
 #include "orvane/app/history/StepTravel.h"
 #include "orvane/app/images/ImageFolderQuestion.h"
+#include "orvane/app/inspect/Inspectors.h"
 #include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
@@ -119,15 +120,14 @@ orvane::Result<> MainWindow::selectPath(const QString& path)
     const NxScenePath::Target target = NxScenePath::find(document().scene(), path.toStdString());
     if (!target.error.empty())
         return orvane::Failure{orvane::toQString(target.error)};
-    m_tree->select(m_tree->model()->indexOfPath(target.nodes));
-    m_session.services().selectField(target.field);
+    m_inspectors->link().browse(m_tree->model()->indexOfPath(target.nodes), target.field);
     return {};
 }
 
 void MainWindow::compareWith(const NxRef<NxGroup>& other, const QString& fileName)
 {
     if (m_comparison == nullptr)
-        m_comparison = new ComparisonDock(m_session, *m_messages, *m_jobBar, m_tree, this);
+        m_comparison = new ComparisonDock(m_session, *m_messages, *m_jobBar, m_tree, m_inspectors->link(), this);
     m_comparison->compare(other, fileName);
 }
 
@@ -194,7 +194,7 @@ void MainWindow::buildDocks()
     fieldsDock->setWidget(m_fields);
     addDockWidget(Qt::RightDockWidgetArea, fieldsDock);
     resizeDocks({dock, fieldsDock}, {treeWidth, WindowShell::sideDockWidth}, Qt::Horizontal);
-    new SelectionLink(m_session.services(), m_tree, m_fields);
+    m_inspectors = new Inspectors(m_session, m_tree, m_fields, this);
     auto* travel = new StepTravel(m_session.services(), this);
     new HistoryDock(m_session, *travel, *m_messages, this);
     new ReturnedNodes(m_session.services(), *travel, m_tree);
@@ -233,7 +233,8 @@ void MainWindow::buildMenus()
     enable();
     connect(m_imageFolders, &ImageFolderQuestion::changed, forget, enable);
     connect(forget, &QAction::triggered, m_imageFolders, &ImageFolderQuestion::forgetFolders);
-    viewMenu->append(forget);
+    viewMenu->append(m_inspectors->menuActions());
+    viewMenu->append({forget});
     viewMenu->update();
 }
 
@@ -252,6 +253,7 @@ void MainWindow::connectDocument()
 void MainWindow::connectReload()
 {
     m_diskChange = new DiskChangeBar(document(), *m_files, *m_messages, this);
+    m_inspectors->followReloads(*m_files);
     new ReloadedTree(*m_files, document(), m_session.services(), m_tree, this);
     connect(m_files, &FileFlow::reloaded, this, [this](const QString& text) {
         constexpr std::chrono::seconds shown(10);

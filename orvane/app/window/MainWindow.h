@@ -19,6 +19,7 @@ class FileFlow;
 class FileMenu;
 class ImageFolderQuestion;
 class JobBar;
+class Inspectors;
 class MessageBar;
 class RecoveryFolder;
 class RecentFiles;
@@ -98,6 +99,7 @@ private:
     ImageFolderQuestion* m_imageFolders;
     FieldPanel* m_fields;
     SceneTreePanel* m_tree;
+    Inspectors* m_inspectors = nullptr;
     JobBar* m_jobBar;
     ComparisonDock* m_comparison = nullptr; // made for the first comparison
     FileFlow* m_files = nullptr;

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QIcon>
+
+/// The icons of this room, in the colour of the text.
+namespace orvane {
+
+[[nodiscard]] QIcon openPadlock();
+[[nodiscard]] QIcon closedPadlock();
+/// An arrow to the left, and one to the right.
+[[nodiscard]] QIcon backArrow();
+[[nodiscard]] QIcon forwardArrow();
+
+} // namespace orvane

@@ -1,0 +1,67 @@
+#include "orvane/app/inspect/Inspectors.h"
+
+#include "orvane/app/inspect/LockAction.h"
+#include "orvane/app/inspect/LockStatus.h"
+#include "orvane/app/inspect/NodeLock.h"
+#include "orvane/app/inspect/PlaceActions.h"
+#include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/scene/Session.h"
+
+#include <QMainWindow>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include <chrono>
+
+Inspectors::Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* fields, QMainWindow* window)
+    : QObject(window)
+    , m_session(session)
+    , m_tree(tree)
+    , m_window(window)
+    , m_lock(new NodeLock(session, tree)) // which lives as long as the link
+    , m_link(new SelectionLink(session.services(), tree, fields, *m_lock))
+    , m_places(new PlaceActions(session, tree, *m_link, window))
+    , m_lockAction(new LockAction(
+          *m_lock, [this] { return selectedPath(); }, this))
+{
+    m_lockAction->setObjectName(QStringLiteral("lockInspector"));
+    m_lockAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L));
+    connect(&session.services(), &OrvServices::selectedNodeChanged, m_lockAction, &LockAction::update);
+    connect(m_lock, &NodeLock::lost, this, &Inspectors::showMessage);
+    window->statusBar()->addPermanentWidget(new LockStatus(*m_lock, m_lockAction->shortcut(), window));
+
+    QToolBar* const toolBar = window->addToolBar(tr("Selection"));
+    toolBar->setObjectName(QStringLiteral("selectionToolBar"));
+    m_places->addTo(toolBar);
+    toolBar->addAction(m_lockAction);
+}
+
+Inspectors::~Inspectors() = default;
+
+void Inspectors::followReloads(const FileFlow& flow)
+{
+    m_lock->followReloads(flow);
+}
+
+QList<QAction*> Inspectors::menuActions() const
+{
+    return {m_places->backAction(), m_places->forwardAction(), m_lockAction};
+}
+
+void Inspectors::showMessage(const QString& message)
+{
+    constexpr std::chrono::seconds shown(10);
+    m_window->statusBar()->showMessage(message, static_cast<int>(std::chrono::milliseconds(shown).count()));
+}
+
+/// Where the selected node is; in the place that is chosen in the tree if it has several.
+std::vector<NxNode*> Inspectors::selectedPath() const
+{
+    const NxFieldContainer* const node = m_session.services().getSelectedNode();
+    if (node == nullptr)
+        return {};
+    SceneTreeModel& model = *m_tree->model();
+    return model.path(m_tree->selectedNode() == node ? m_tree->selected() : model.findNode(node));
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+
+#include <vector>
+
+class FieldPanel;
+class FileFlow;
+class LockAction;
+class NodeLock;
+class NxNode;
+class PlaceActions;
+class QAction;
+class QMainWindow;
+class SceneTreePanel;
+class SelectionLink;
+class Session;
+
+/// What the window's inspectors show: the selection, or the node that they are locked on; and the way back to what was
+/// selected before.
+class Inspectors : public QObject {
+    Q_OBJECT
+
+public:
+    /// Adds a tool bar and what belongs in the status bar to the window. All live as long as the window.
+    Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* fields, QMainWindow* window);
+    ~Inspectors() override;
+
+    /// Lets locks go on to the nodes that reloads put in place of others.
+    void followReloads(const FileFlow& flow);
+    [[nodiscard]] SelectionLink& link() const noexcept { return *m_link; }
+    /// For the View menu.
+    [[nodiscard]] QList<QAction*> menuActions() const;
+
+private:
+    void showMessage(const QString& message);
+    [[nodiscard]] std::vector<NxNode*> selectedPath() const;
+
+    Session& m_session;
+    SceneTreePanel* m_tree;
+    QMainWindow* m_window;
+    NodeLock* m_lock;
+    SelectionLink* m_link;
+    PlaceActions* m_places;
+    LockAction* m_lockAction;
+};

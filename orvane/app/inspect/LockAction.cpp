@@ -1,0 +1,46 @@
+#include "orvane/app/inspect/LockAction.h"
+
+#include "orvane/app/base/PlainText.h"
+#include "orvane/app/inspect/InspectIcons.h"
+#include "orvane/app/inspect/NodeLock.h"
+
+#include <QSignalBlocker>
+
+#include <utility>
+
+LockAction::LockAction(NodeLock& lock, ShownPath shownPath, QObject* parent)
+    : QAction(parent)
+    , m_lock(lock)
+    , m_shownPath(std::move(shownPath))
+{
+    setCheckable(true);
+    setText(tr("&Lock Inspector"));
+    setStatusTip(tr("Keeps fields and editors on this node while you browse on"));
+    connect(this, &QAction::toggled, this, &LockAction::setLocked);
+    connect(&lock, &NodeLock::changed, this, &LockAction::update);
+    update();
+}
+
+void LockAction::update()
+{
+    const bool isOn = m_lock.isOn();
+    {
+        const QSignalBlocker blocker(this); // the lock is as it should be
+        setChecked(isOn);
+    }
+    setEnabled(isOn || !m_shownPath().empty());
+    setIcon(isOn ? orvane::closedPadlock() : orvane::openPadlock());
+    setToolTip(
+        orvane::plainToolTip(isOn ? tr("Locked on %1. Click to follow the selection again.").arg(m_lock.pathText())
+                                  : tr("Lock: stay on this node while you browse on.")));
+}
+
+void LockAction::setLocked(bool locked)
+{
+    const std::vector<NxNode*> path = locked ? m_shownPath() : std::vector<NxNode*>();
+    if (path.empty())
+        m_lock.unlock();
+    else
+        m_lock.lock(path);
+    update();
+}

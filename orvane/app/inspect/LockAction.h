@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QAction>
+
+#include <functional>
+#include <vector>
+
+class NodeLock;
+class NxNode;
+
+/// Turns the lock of an inspector on and off. It is checked while the lock is on, and shows a padlock, open or closed.
+class LockAction : public QAction {
+    Q_OBJECT
+
+public:
+    /// Where the node is that the inspector shows, from a child of the scene down; empty if it shows none.
+    using ShownPath = std::function<std::vector<NxNode*>()>;
+
+    /// The lock lives as long as the action.
+    LockAction(NodeLock& lock, ShownPath shownPath, QObject* parent);
+
+    /// Is disabled while there is nothing to lock. Call it when the inspector shows something else.
+    void update();
+
+private:
+    void setLocked(bool locked);
+
+    NodeLock& m_lock;
+    ShownPath m_shownPath;
+};
