@@ -12,7 +12,7 @@
 namespace orvane {
 namespace {
 
-constexpr std::size_t longestLine = 1024;
+constexpr std::size_t longestLine = PackedScene::longestWarning + 100;
 constexpr const char* noBegin = "it doesn't begin like one";
 
 // Takes a blank and a number up to that off.

@@ -29,7 +29,7 @@ public:
     static constexpr int shortestList = 64;
 
     /// More bytes of a warning are cut off, more warnings are left out.
-    static constexpr std::size_t longestWarning = 900;
+    static constexpr std::size_t longestWarning = 4000;
     static constexpr std::size_t mostWarnings = 32;
 
     /// Moves the long lists and the images out of the scene, and writes the text of the rest. The warnings are what the

@@ -190,7 +190,7 @@ private Q_SLOTS:
     {
         const NxRef<NxGroup> scene = new NxGroup;
         std::vector<std::string> warnings{
-            "left out \"é\"", "", "two\nlines", std::string(899, 'x') + "é", std::string(3000, 'y')};
+            "left out \"é\"", "", "two\nlines", std::string(3999, 'x') + "é", std::string(9000, 'y')};
         warnings.resize(40, "another");
         orvane::PackedParts parts;
         for (const std::string_view portion : PackedScene(*scene, warnings).portions())
@@ -200,8 +200,8 @@ private Q_SLOTS:
         QCOMPARE(parts.warnings()[0], warnings[0]);
         QCOMPARE(parts.warnings()[1], std::string());
         QCOMPARE(parts.warnings()[2], std::string("two lines"));
-        QCOMPARE(parts.warnings()[3], std::string(899, 'x'));
-        QCOMPARE(parts.warnings()[4], std::string(900, 'y'));
+        QCOMPARE(parts.warnings()[3], std::string(3999, 'x'));
+        QCOMPARE(parts.warnings()[4], std::string(4000, 'y'));
     }
 
     void tooManyWarningsAreRefused()

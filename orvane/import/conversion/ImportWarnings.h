@@ -12,7 +12,7 @@ namespace orvane {
 class ImportWarnings {
 public:
     /// A warning names that many parts, and counts the others.
-    static constexpr std::size_t mostNames = 8;
+    static constexpr std::size_t mostNames = 40;
 
     /// Adds a part to the warning of that text, which is the start of a sentence such as "left out lights without a
     /// node". A part is listed once, however often it is added. Parts without a name are counted only.

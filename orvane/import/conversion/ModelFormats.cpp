@@ -8,8 +8,6 @@
 #include <cctype>
 
 namespace orvane {
-namespace {
-
 std::string lowerCase(std::string_view text)
 {
     std::string lower(text);
@@ -17,8 +15,6 @@ std::string lowerCase(std::string_view text)
         c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     return lower;
 }
-
-} // namespace
 
 std::vector<std::string> readableExtensions()
 {

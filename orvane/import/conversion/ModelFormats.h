@@ -7,6 +7,8 @@
 /// The foreign formats, each named by the extension of its files: lower case, without the dot.
 namespace orvane {
 
+/// The text with its ASCII letters in lower case.
+[[nodiscard]] std::string lowerCase(std::string_view text);
 /// All extensions that can be read, sorted.
 [[nodiscard]] std::vector<std::string> readableExtensions();
 /// All extensions that can be written, sorted.

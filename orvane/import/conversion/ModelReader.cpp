@@ -80,7 +80,7 @@ NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
     m_importer->SetIOHandler(files);
     NxRef<NxGroup> scene;
     if (const aiScene* const model = readMended(path, *files, error))
-        scene = SceneBuilder(*model, std::filesystem::path(path).filename().string()).build(error);
+        scene = SceneBuilder(*model, path, m_warnings).build(error);
     if (!scene)
         error = path + ": " + error;
     return scene;

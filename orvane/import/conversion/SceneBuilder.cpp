@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <filesystem>
 #include <span>
 #include <utility>
 
@@ -29,9 +30,11 @@ bool isPlain(const aiNode& node)
 
 } // namespace
 
-SceneBuilder::SceneBuilder(const aiScene& model, std::string fileName)
+SceneBuilder::SceneBuilder(const aiScene& model, const std::string& path, ImportWarnings& warnings)
     : m_model(model)
-    , m_fileName(std::move(fileName))
+    , m_fileName(std::filesystem::path(path).filename().string())
+    , m_warnings(warnings)
+    , m_textureFiles(path)
     , m_meshGroups(model.mNumMeshes)
     , m_materials(model.mNumMaterials)
     , m_isGltf(hasSourceFormat(model, "glTF2"))
@@ -162,9 +165,22 @@ NxRef<NxTexture> SceneBuilder::texture(unsigned int materialIndex)
     if (path.empty())
         return {};
     NxRef<NxTexture>& result = m_textures[{path, textureWrap(material, 0), textureWrap(material, 1)}];
-    if (!result)
+    if (!result) {
         result = toTexture(material, m_model);
+        findImage(*result);
+    }
     return result;
+}
+
+void SceneBuilder::findImage(NxTexture& texture)
+{
+    const std::string_view path = texture.filePath.getValue().view();
+    if (!texture.image.isDefault() || path.empty())
+        return;
+    if (const std::optional<std::string> found = m_textureFiles.find(path))
+        texture.filePath.setValue(VbString(std::string_view(*found)));
+    else
+        m_warnings.add("didn't find the images", path);
 }
 
 } // namespace orvane

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "orvane/import/conversion/ImportWarnings.h"
+#include "orvane/import/conversion/TextureSearch.h"
+
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxCamera.h"
 #include "meridane/scene/nodes/NxGroup.h"
@@ -29,8 +32,8 @@ namespace orvane {
 /// materials and textures that the model uses several times are shared.
 class SceneBuilder {
 public:
-    /// The model must outlive the builder. `fileName` is the name of its file, without a folder.
-    SceneBuilder(const aiScene& model, std::string fileName);
+    /// Model and warnings must outlive the builder. `path` is that of the model's file.
+    SceneBuilder(const aiScene& model, const std::string& path, ImportWarnings& warnings);
 
     /// The scene, or null; then `error` says what a scene can't contain.
     [[nodiscard]] NxRef<NxGroup> build(std::string& error);
@@ -47,11 +50,14 @@ private:
     [[nodiscard]] NxRef<NxGroup> meshGroup(unsigned int index);
     [[nodiscard]] NxRef<NxMaterial> material(unsigned int index);
     [[nodiscard]] NxRef<NxTexture> texture(unsigned int materialIndex);
+    void findImage(NxTexture& texture);
 
     using TextureKey = std::tuple<std::string, int, int>; // path and wraps
 
     const aiScene& m_model;
-    std::string m_fileName;
+    std::string m_fileName; // without a folder
+    ImportWarnings& m_warnings;
+    TextureSearch m_textureFiles;
     std::unordered_map<std::string_view, std::vector<const aiLight*>> m_lights; // by the name of their node
     std::unordered_map<std::string_view, const aiCamera*> m_cameras;
     std::vector<NxRef<NxGroup>> m_meshGroups; // as the model's meshes, made when used
