@@ -1,7 +1,7 @@
 #include "meridane/gl/gpu/detail/MeshSimplification.h"
 
 #include "meridane/gl/geometry/MatrixMath.h"
-#include "meridane/gl/places/detail/EffectiveField.h"
+#include "meridane/scene/fields/EffectiveField.h"
 #include "meridane/scene/nodes/NxMesh.h"
 
 #include <algorithm>

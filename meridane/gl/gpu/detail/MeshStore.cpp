@@ -1,7 +1,7 @@
 #include "meridane/gl/gpu/detail/MeshStore.h"
 
 #include "meridane/base/ContentHash.h"
-#include "meridane/gl/places/detail/EffectiveField.h"
+#include "meridane/scene/fields/EffectiveField.h"
 
 #include <algorithm>
 #include <utility>

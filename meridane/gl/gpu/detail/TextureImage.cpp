@@ -1,8 +1,8 @@
 #include "meridane/gl/gpu/detail/TextureImage.h"
 
-#include "meridane/gl/places/detail/EffectiveField.h"
 #include "meridane/gl/places/detail/LookRecords.h"
 #include "meridane/gl/places/detail/Problems.h"
+#include "meridane/scene/fields/EffectiveField.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -3,7 +3,7 @@
 #include "meridane/base/ContentHash.h"
 #include "meridane/gl/gpu/detail/GLStateScope.h"
 #include "meridane/gl/gpu/detail/TextureImage.h"
-#include "meridane/gl/places/detail/EffectiveField.h"
+#include "meridane/scene/fields/EffectiveField.h"
 
 #include <algorithm>
 #include <span>

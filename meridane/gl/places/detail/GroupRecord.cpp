@@ -1,6 +1,6 @@
 #include "meridane/gl/places/detail/GroupRecord.h"
 
-#include "meridane/gl/places/detail/EffectiveField.h"
+#include "meridane/scene/fields/EffectiveField.h"
 #include "meridane/scene/nodes/NxMatrixTransform.h"
 #include "meridane/scene/nodes/NxSwitch.h"
 #include "meridane/scene/nodes/NxTransform.h"

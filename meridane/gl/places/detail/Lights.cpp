@@ -1,8 +1,8 @@
 #include "meridane/gl/places/detail/Lights.h"
 
 #include "meridane/gl/geometry/MatrixMath.h"
-#include "meridane/gl/places/detail/EffectiveField.h"
 #include "meridane/gl/places/detail/NodeRecords.h"
+#include "meridane/scene/fields/EffectiveField.h"
 #include "meridane/scene/nodes/NxDirectionalLight.h"
 #include "meridane/scene/nodes/NxPointLight.h"
 #include "meridane/scene/nodes/NxSpotLight.h"

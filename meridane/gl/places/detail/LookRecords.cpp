@@ -1,6 +1,6 @@
 #include "meridane/gl/places/detail/LookRecords.h"
 
-#include "meridane/gl/places/detail/EffectiveField.h"
+#include "meridane/scene/fields/EffectiveField.h"
 #include "meridane/scene/fields/NxRef.h"
 
 #include <algorithm>

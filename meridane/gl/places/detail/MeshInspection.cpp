@@ -1,7 +1,7 @@
 #include "meridane/gl/places/detail/MeshInspection.h"
 
-#include "meridane/gl/places/detail/EffectiveField.h"
 #include "meridane/gl/places/detail/Problems.h"
+#include "meridane/scene/fields/EffectiveField.h"
 #include "meridane/scene/nodes/NxMesh.h"
 
 #include <algorithm>

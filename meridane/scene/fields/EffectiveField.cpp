@@ -1,4 +1,4 @@
-#include "meridane/gl/places/detail/EffectiveField.h"
+#include "meridane/scene/fields/EffectiveField.h"
 
 #include "meridane/scene/fields/NxFieldContainer.h"
 #include "meridane/scene/fields/NxFieldData.h"

@@ -1,4 +1,4 @@
-#include "meridane/gl/places/detail/EffectiveField.h"
+#include "meridane/scene/fields/EffectiveField.h"
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/fields/single/NxSFFloat.h"
 #include "meridane/scene/nodes/NxMaterial.h"
