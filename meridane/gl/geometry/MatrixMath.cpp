@@ -7,7 +7,6 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <utility>
 
 namespace meridane {
 
@@ -21,35 +20,6 @@ double wide(float value) noexcept
 VbVec3f narrow(double x, double y, double z) noexcept
 {
     return {static_cast<float>(x), static_cast<float>(y), static_cast<float>(z)};
-}
-
-using Rows = std::array<std::array<double, 8>, 4>;
-
-// Brings the column's largest element into the row of the same index; false when all are 0 or none is a number.
-bool choosePivot(Rows& rows, std::size_t column) noexcept
-{
-    std::size_t best = column;
-    for (std::size_t row = column + 1; row < 4; ++row) {
-        if (std::abs(rows[row][column]) > std::abs(rows[best][column]))
-            best = row;
-    }
-    std::swap(rows[column], rows[best]);
-    return std::abs(rows[column][column]) > 0.0;
-}
-
-// Makes the column that of the identity: divides its row by the pivot and subtracts multiples of it from the others.
-void eliminate(Rows& rows, std::size_t column) noexcept
-{
-    const double pivot = rows[column][column];
-    for (double& element : rows[column])
-        element /= pivot;
-    for (std::size_t row = 0; row < 4; ++row) {
-        const double factor = rows[row][column];
-        if (row == column || factor == 0.0)
-            continue;
-        for (std::size_t i = 0; i < 8; ++i)
-            rows[row][i] -= factor * rows[column][i];
-    }
 }
 
 std::array<VbVec3d, 3> rotationRows(const VbRotation& rotation) noexcept
@@ -91,31 +61,6 @@ Matrix4d localTransformOf(const NxTransform& node) noexcept
 VbMatrix multiply(const VbMatrix& first, const VbMatrix& second) noexcept
 {
     return narrowed(multiply(Matrix4d(first), Matrix4d(second)));
-}
-
-std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept
-{
-    // Gauss-Jordan elimination on the matrix and, beside it, the identity, which becomes the inverse.
-    Rows rows{};
-    for (std::size_t row = 0; row < 4; ++row) {
-        for (std::size_t column = 0; column < 4; ++column)
-            rows[row][column] = wide(matrix[row][column]);
-        rows[row][4 + row] = 1.0;
-    }
-    for (std::size_t column = 0; column < 4; ++column) {
-        if (!choosePivot(rows, column))
-            return std::nullopt;
-        eliminate(rows, column);
-    }
-    VbMatrix result;
-    for (std::size_t row = 0; row < 4; ++row) {
-        for (std::size_t column = 0; column < 4; ++column) {
-            result[row][column] = static_cast<float>(rows[row][4 + column]);
-            if (!std::isfinite(result[row][column]))
-                return std::nullopt;
-        }
-    }
-    return result;
 }
 
 VbMatrix rotationMatrix(const VbRotation& rotation) noexcept

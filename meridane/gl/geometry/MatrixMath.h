@@ -1,11 +1,10 @@
 #pragma once
 
+#include "meridane/base/values/MatrixInverse.h"
 #include "meridane/base/values/VbMatrix.h"
 #include "meridane/base/values/VbRotation.h"
 #include "meridane/base/values/VbVec.h"
 #include "meridane/gl/geometry/Matrix4d.h"
-
-#include <optional>
 
 class NxNode;
 
@@ -16,8 +15,6 @@ namespace meridane {
 
 /// The matrix that applies `first`, then `second`.
 [[nodiscard]] VbMatrix multiply(const VbMatrix& first, const VbMatrix& second) noexcept;
-/// Nothing for a matrix that can't be inverted, or whose inverse has elements that aren't finite.
-[[nodiscard]] std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept;
 [[nodiscard]] VbMatrix rotationMatrix(const VbRotation& rotation) noexcept;
 
 /// Transforms a direction or distance, to which the translation doesn't apply.

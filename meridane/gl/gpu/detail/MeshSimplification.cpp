@@ -1,6 +1,7 @@
 #include "meridane/gl/gpu/detail/MeshSimplification.h"
 
 #include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/scene/check/MeshPrimitives.h"
 #include "meridane/scene/fields/EffectiveField.h"
 #include "meridane/scene/nodes/NxMesh.h"
 

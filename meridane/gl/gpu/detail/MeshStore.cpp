@@ -1,6 +1,7 @@
 #include "meridane/gl/gpu/detail/MeshStore.h"
 
 #include "meridane/base/ContentHash.h"
+#include "meridane/scene/check/MeshPrimitives.h"
 #include "meridane/scene/fields/EffectiveField.h"
 
 #include <algorithm>

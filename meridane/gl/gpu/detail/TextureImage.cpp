@@ -2,6 +2,7 @@
 
 #include "meridane/gl/places/detail/LookRecords.h"
 #include "meridane/gl/places/detail/Problems.h"
+#include "meridane/scene/check/NxSceneProblem.h"
 #include "meridane/scene/fields/EffectiveField.h"
 
 #include <algorithm>
@@ -109,11 +110,11 @@ TextureImage imageOf(TextureRecord& record, const NxImageLoader& loader, int max
         load(image, path, record, loader, problems);
     }
     problems.note(record, Problem::NoImage, image.bytes == nullptr && path.empty(),
-        [] { return "it has neither an image nor an image file; surfaces are drawn without it"; });
+        [] { return problemText(NxProblemKind::NoImage); });
     const bool isTooLarge = image.width > maxSide || image.height > maxSide;
     problems.note(record, Problem::ImageTooLarge, isTooLarge, [&] {
-        return "its image of " + sizeText(image.width, image.height) + " pixels is drawn smaller; the GPU takes "
-            + std::to_string(maxSide) + " a side";
+        return problemText(NxProblemKind::ImageTooLarge,
+            {.limit = static_cast<std::size_t>(maxSide), .detail = sizeText(image.width, image.height)});
     });
     if (isTooLarge)
         shrink(image, maxSide);

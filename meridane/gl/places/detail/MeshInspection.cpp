@@ -1,22 +1,17 @@
 #include "meridane/gl/places/detail/MeshInspection.h"
 
 #include "meridane/gl/places/detail/Problems.h"
+#include "meridane/scene/check/MeshPrimitives.h"
+#include "meridane/scene/check/NxSceneProblem.h"
 #include "meridane/scene/fields/EffectiveField.h"
 #include "meridane/scene/nodes/NxMesh.h"
 
 #include <algorithm>
 #include <cmath>
 #include <span>
-#include <string>
 
 namespace meridane {
 namespace {
-
-bool isUsable(const VbVec3f& point)
-{
-    // One test instead of three: infinity and NaN times 0 are NaN.
-    return std::isfinite(point[0] * 0 + point[1] * 0 + point[2] * 0);
-}
 
 std::size_t inspectPositions(std::span<const VbVec3f> positions, NxBounds& bounds)
 {
@@ -52,27 +47,19 @@ VbVec3f originOf(const NxBounds& bounds)
     return origin;
 }
 
-std::size_t countOutOfRange(std::span<const int> indices, std::size_t vertexCount)
-{
-    return static_cast<std::size_t>(std::count_if(indices.begin(), indices.end(),
-        [vertexCount](int index) { return index < 0 || static_cast<std::size_t>(index) >= vertexCount; }));
-}
-
 /// Whether there is one value for each position. Reports any other number, unless it is 0.
-bool hasEach(std::size_t count, std::size_t positions, const char* what, Problem problem, NodeRecord& record,
+bool hasEach(std::size_t count, std::size_t positions, NxProblemKind kind, Problem problem, NodeRecord& record,
     Problems& problems, bool oneIsFine = false)
 {
     const bool isWrong = positions != 0 && count != 0 && count != positions && !(oneIsFine && count == 1);
-    problems.note(record, problem, isWrong, [&] {
-        return std::to_string(count) + " " + what + " for " + std::to_string(positions)
-            + " positions; drawn as if it had none";
-    });
+    problems.note(record, problem, isWrong, [&] { return problemText(kind, {.count = count, .total = positions}); });
     return count != 0 && count == positions;
 }
 
 void inspectColors(MeshShape& shape, std::span<const VbVec4f> colors, NodeRecord& record, Problems& problems)
 {
-    if (hasEach(colors.size(), shape.vertexCount, "colours", Problem::ColorCount, record, problems, true))
+    if (hasEach(
+            colors.size(), shape.vertexCount, NxProblemKind::ColorCount, Problem::ColorCount, record, problems, true))
         shape.colors = MeshShape::Colors::Each;
     else if (colors.size() == 1)
         shape.colors = MeshShape::Colors::One;
@@ -82,18 +69,7 @@ void inspectColors(MeshShape& shape, std::span<const VbVec4f> colors, NodeRecord
         && std::any_of(colors.begin(), colors.end(), [](const VbVec4f& color) { return color[3] < 1; });
 }
 
-int primitiveOf(const NxMesh& mesh)
-{
-    const int primitive = effectiveField(mesh.primitive).getValue();
-    return primitive == NxMesh::LINES || primitive == NxMesh::POINTS ? primitive : int{NxMesh::TRIANGLES};
-}
-
 } // namespace
-
-std::size_t cornersOf(int primitive)
-{
-    return primitive == NxMesh::POINTS ? 1 : primitive == NxMesh::LINES ? 2 : 3;
-}
 
 MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems)
 {
@@ -109,50 +85,27 @@ MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems)
     const std::size_t outOfRange = countOutOfRange(indices, positions.size());
     const bool isIncomplete = count % corners != 0;
 
-    problems.note(record, Problem::NoPositions, positions.empty(), [] { return "it has no positions to draw"; });
+    problems.note(
+        record, Problem::NoPositions, positions.empty(), [] { return problemText(NxProblemKind::NoPositions); });
     problems.note(record, Problem::PositionNotFinite, uselessPositions != 0, [&] {
-        return std::to_string(uselessPositions) + " of " + std::to_string(positions.size())
-            + " positions are no finite numbers; what they belong to isn't drawn";
+        return problemText(NxProblemKind::PositionNotFinite, {.count = uselessPositions, .total = positions.size()});
     });
     problems.note(record, Problem::IndexOutOfRange, outOfRange != 0 && !positions.empty(), [&] {
-        return std::to_string(outOfRange) + " of " + std::to_string(indices.size())
-            + " indices are out of range, from 0 to " + std::to_string(positions.size() - 1)
-            + "; what they belong to isn't drawn";
+        return problemText(
+            NxProblemKind::IndexOutOfRange, {.count = outOfRange, .total = indices.size(), .limit = positions.size()});
     });
     problems.note(record, Problem::IncompletePrimitive, isIncomplete, [&] {
-        return "the number of its " + std::string(indices.empty() ? "positions, " : "indices, ") + std::to_string(count)
-            + ", isn't a multiple of " + std::to_string(corners) + "; the last ones aren't drawn";
+        return problemText(NxProblemKind::IncompletePrimitive,
+            {.total = count, .limit = corners, .detail = indices.empty() ? "positions" : "indices"});
     });
-    shape.hasNormals = hasEach(effectiveField(mesh.normals).getValues().size(), positions.size(), "normals",
-        Problem::NormalCount, record, problems);
+    shape.hasNormals = hasEach(effectiveField(mesh.normals).getValues().size(), positions.size(),
+        NxProblemKind::NormalCount, Problem::NormalCount, record, problems);
     shape.hasCoordinates = hasEach(effectiveField(mesh.textureCoordinates).getValues().size(), positions.size(),
-        "texture coordinates", Problem::CoordinateCount, record, problems);
+        NxProblemKind::CoordinateCount, Problem::CoordinateCount, record, problems);
     inspectColors(shape, effectiveField(mesh.colors).getValues(), record, problems);
     shape.needsFilter = uselessPositions != 0 || outOfRange != 0 || isIncomplete;
     shape.hasIndices = !indices.empty() || shape.needsFilter;
     return shape;
-}
-
-std::vector<std::uint32_t> usableIndices(const NxMesh& mesh)
-{
-    const std::span<const VbVec3f> positions = effectiveField(mesh.positions).getValues();
-    const std::span<const int> indices = effectiveField(mesh.indices).getValues();
-    const std::size_t corners = cornersOf(primitiveOf(mesh));
-    const std::size_t count = indices.empty() ? positions.size() : indices.size();
-    std::vector<std::uint32_t> result;
-    result.reserve(count);
-    for (std::size_t first = 0; first + corners <= count; first += corners) {
-        const std::size_t before = result.size();
-        for (std::size_t i = first; i < first + corners; ++i) {
-            const auto index = indices.empty() ? static_cast<std::uint32_t>(i) : static_cast<std::uint32_t>(indices[i]);
-            if (index >= positions.size() || !isUsable(positions[index])) {
-                result.resize(before);
-                break;
-            }
-            result.push_back(index);
-        }
-    }
-    return result;
 }
 
 } // namespace meridane

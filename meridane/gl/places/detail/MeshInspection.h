@@ -42,9 +42,4 @@ struct MeshShape {
 /// Examines all lists of a mesh and reports its problems.
 [[nodiscard]] MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems);
 
-/// The indices of all whole primitives whose positions exist and are finite.
-[[nodiscard]] std::vector<std::uint32_t> usableIndices(const NxMesh& mesh);
-/// The number of indices of a primitive.
-[[nodiscard]] std::size_t cornersOf(int primitive);
-
 } // namespace meridane

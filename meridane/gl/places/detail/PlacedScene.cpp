@@ -1,6 +1,7 @@
 #include "meridane/gl/places/detail/PlacedScene.h"
 
 #include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/scene/check/NxSceneProblem.h"
 
 #include <algorithm>
 #include <utility>
@@ -149,7 +150,7 @@ Matrix4d PlacedScene::worldTransformIn(GroupRecord& group, const Matrix4d& paren
 {
     const Matrix4d own = localTransformOf(group.group());
     m_problems.note(group, Problem::Transform, !inverse(narrowed(own)).has_value(),
-        [] { return "its matrix can't be inverted; what it places is flat or can't be drawn"; });
+        [] { return problemText(NxProblemKind::SingularMatrix); });
     return multiply(own, parent);
 }
 

@@ -1,0 +1,77 @@
+#include "meridane/scene/check/detail/ClassPlan.h"
+
+#include "meridane/scene/fields/NxMField.h"
+#include "meridane/scene/fields/single/NxSFFilePathString.h"
+#include "meridane/scene/nodes/NxCamera.h"
+#include "meridane/scene/nodes/NxComplexity.h"
+#include "meridane/scene/nodes/NxFieldGallery.h"
+#include "meridane/scene/nodes/NxLight.h"
+#include "meridane/scene/nodes/NxMaterial.h"
+#include "meridane/scene/nodes/NxMesh.h"
+#include "meridane/scene/nodes/NxSwitch.h"
+#include "meridane/scene/nodes/NxTexture.h"
+#include "meridane/scene/nodes/NxUnknownNode.h"
+
+namespace meridane {
+namespace {
+
+using Role = ClassPlan::Role;
+
+Role roleOf(NxType type)
+{
+    const auto is = [type](NxType base) { return type.isDerivedFrom(base); };
+    if (is(NxUnknownNode::getClassTypeId()))
+        return Role::UnknownGroup;
+    if (is(NxSwitch::getClassTypeId()))
+        return Role::Switch;
+    if (is(NxGroup::getClassTypeId()))
+        return Role::Group;
+    if (is(NxMesh::getClassTypeId()))
+        return Role::Mesh;
+    if (is(NxMaterial::getClassTypeId()))
+        return Role::Material;
+    if (is(NxTexture::getClassTypeId()))
+        return Role::Texture;
+    if (is(NxComplexity::getClassTypeId()))
+        return Role::Complexity;
+    if (is(NxLight::getClassTypeId()))
+        return Role::Light;
+    if (is(NxCamera::getClassTypeId()))
+        return Role::Camera;
+    return is(NxFieldGallery::getClassTypeId()) ? Role::Bystander : Role::Unknown;
+}
+
+} // namespace
+
+const ClassPlan& ClassPlans::of(NxNode& node)
+{
+    NxFieldData* const data = node.getFieldData();
+    if (data == m_latestClass)
+        return *m_latest;
+    const auto [found, isNew] = m_plans.try_emplace(data);
+    ClassPlan& plan = found->second;
+    if (isNew) {
+        plan.role = roleOf(node.getTypeId());
+        for (int index = 0; index < data->getNumFields(); ++index) {
+            const NxField& field = *data->getField(&node, index);
+            const NxFieldFacts& facts = data->getFacts(index);
+            if (dynamic_cast<const NxSFFilePathString*>(&field) != nullptr)
+                plan.files.push_back({index});
+            const FieldComponents* const components = FieldComponents::of(field);
+            if (components == nullptr)
+                continue;
+            ClassPlan::Numbers numbers{index, components, FieldRange(*components, facts),
+                dynamic_cast<const NxMField*>(&field) != nullptr, !components->isWhole(), facts.hasHardRange()};
+            // The indices of a mesh and the choice of a switch have checks of their own.
+            if (!numbers.mayBeInfinite && (plan.role == Role::Mesh || plan.role == Role::Switch))
+                numbers.hasRange = false;
+            if (numbers.mayBeInfinite || numbers.hasRange)
+                plan.numbers.push_back(numbers);
+        }
+    }
+    m_latestClass = data;
+    m_latest = &plan;
+    return plan;
+}
+
+} // namespace meridane
