@@ -1,5 +1,9 @@
 #include "orvane/app/inspect/Inspectors.h"
 
+#include "orvane/app/fields/FieldPanel.h"
+#include "orvane/app/fields/FieldTableModel.h"
+#include "orvane/app/inspect/InspectorDock.h"
+#include "orvane/app/inspect/InspectorDocks.h"
 #include "orvane/app/inspect/LockAction.h"
 #include "orvane/app/inspect/LockStatus.h"
 #include "orvane/app/inspect/NodeLock.h"
@@ -25,29 +29,51 @@ Inspectors::Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* field
     , m_places(new PlaceActions(session, tree, *m_link, window))
     , m_lockAction(new LockAction(
           *m_lock, [this] { return selectedPath(); }, this))
+    , m_docks(new InspectorDocks(session, tree, window))
 {
     m_lockAction->setObjectName(QStringLiteral("lockInspector"));
-    m_lockAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L));
+    m_lockAction->setShortcut(LockAction::keys());
+    m_lockAction->addButtonTo(fields->headingTools());
+    connect(m_docks, &InspectorDocks::added, this, &Inspectors::noteDock);
     connect(&session.services(), &OrvServices::selectedNodeChanged, m_lockAction, &LockAction::update);
     connect(m_lock, &NodeLock::lost, this, &Inspectors::showMessage);
     window->statusBar()->addPermanentWidget(new LockStatus(*m_lock, m_lockAction->shortcut(), window));
+}
 
-    QToolBar* const toolBar = window->addToolBar(tr("Selection"));
+Inspectors::~Inspectors() = default;
+
+void Inspectors::addToolBar()
+{
+    QToolBar* const toolBar = m_window->addToolBar(tr("Selection"));
     toolBar->setObjectName(QStringLiteral("selectionToolBar"));
     m_places->addTo(toolBar);
     toolBar->addAction(m_lockAction);
 }
 
-Inspectors::~Inspectors() = default;
-
 void Inspectors::followReloads(const FileFlow& flow)
 {
     m_lock->followReloads(flow);
+    m_docks->followReloads(flow);
 }
 
 QList<QAction*> Inspectors::menuActions() const
 {
-    return {m_places->backAction(), m_places->forwardAction(), m_lockAction};
+    return {m_places->backAction(), m_places->forwardAction(), m_lockAction, m_docks->newAction()};
+}
+
+void Inspectors::restoreDocks()
+{
+    m_docks->restore();
+}
+
+void Inspectors::noteDock(InspectorDock* dock)
+{
+    connect(&dock->lock(), &NodeLock::lost, this, &Inspectors::showMessage);
+    connect(&dock->panel(), &FieldPanel::editorRequested, this, [this, dock] {
+        const FieldPanel& panel = dock->panel();
+        m_link->browse(m_tree->model()->findNode(panel.model()->node()), panel.currentField());
+    });
+    Q_EMIT panelAdded(&dock->panel());
 }
 
 void Inspectors::showMessage(const QString& message)

@@ -7,6 +7,8 @@
 
 class FieldPanel;
 class FileFlow;
+class InspectorDock;
+class InspectorDocks;
 class LockAction;
 class NodeLock;
 class NxNode;
@@ -23,17 +25,25 @@ class Inspectors : public QObject {
     Q_OBJECT
 
 public:
-    /// Adds a tool bar and what belongs in the status bar to the window. All live as long as the window.
+    /// Adds what belongs in the status bar to the window. All live as long as the window.
     Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* fields, QMainWindow* window);
     ~Inspectors() override;
 
     /// Lets locks go on to the nodes that reloads put in place of others.
     void followReloads(const FileFlow& flow);
     [[nodiscard]] SelectionLink& link() const noexcept { return *m_link; }
+    void addToolBar();
     /// For the View menu.
     [[nodiscard]] QList<QAction*> menuActions() const;
+    /// Adds the further inspectors that the last window had, once the slots of `panelAdded` are connected.
+    void restoreDocks();
+
+Q_SIGNALS:
+    /// There is another panel, for those who connect to the signals of each.
+    void panelAdded(FieldPanel* panel);
 
 private:
+    void noteDock(InspectorDock* dock);
     void showMessage(const QString& message);
     [[nodiscard]] std::vector<NxNode*> selectedPath() const;
 
@@ -44,4 +54,5 @@ private:
     SelectionLink* m_link;
     PlaceActions* m_places;
     LockAction* m_lockAction;
+    InspectorDocks* m_docks;
 };

@@ -4,7 +4,9 @@
 #include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/inspect/NodeLock.h"
 
+#include <QBoxLayout>
 #include <QSignalBlocker>
+#include <QToolButton>
 
 #include <utility>
 
@@ -33,6 +35,15 @@ void LockAction::update()
     setToolTip(
         orvane::plainToolTip(isOn ? tr("Locked on %1. Click to follow the selection again.").arg(m_lock.pathText())
                                   : tr("Lock: stay on this node while you browse on.")));
+}
+
+void LockAction::addButtonTo(QBoxLayout* tools)
+{
+    auto* const button = new QToolButton(tools->parentWidget());
+    button->setObjectName(QStringLiteral("lockButton"));
+    button->setAutoRaise(true);
+    button->setDefaultAction(this);
+    tools->addWidget(button);
 }
 
 void LockAction::setLocked(bool locked)

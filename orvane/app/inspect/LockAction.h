@@ -7,6 +7,7 @@
 
 class NodeLock;
 class NxNode;
+class QBoxLayout;
 
 /// Turns the lock of an inspector on and off. It is checked while the lock is on, and shows a padlock, open or closed.
 class LockAction : public QAction {
@@ -21,6 +22,11 @@ public:
 
     /// Is disabled while there is nothing to lock. Call it when the inspector shows something else.
     void update();
+    /// Adds a button for it to the heading of the inspector.
+    void addButtonTo(QBoxLayout* tools);
+
+    /// What turns the lock of the inspector with the focus on and off.
+    [[nodiscard]] static QKeySequence keys() { return {Qt::CTRL | Qt::SHIFT | Qt::Key_L}; }
 
 private:
     void setLocked(bool locked);

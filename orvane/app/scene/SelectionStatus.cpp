@@ -39,6 +39,7 @@ SelectionStatus::SelectionStatus(Session& session, SceneTreePanel* tree, QStatus
     connect(&services, &OrvServices::selectedNodeChanged, this, &SelectionStatus::updateSoon);
     connect(&services, &OrvServices::selectedFieldChanged, this, &SelectionStatus::updateSoon);
     connect(&session.document(), &SceneDocument::sceneChanged, this, &SelectionStatus::updateSoon);
+    connect(tree, &SceneTreePanel::selectionChanged, this, &SelectionStatus::updateSoon);
     const SceneTreeModel* model = tree->model();
     connect(model, &QAbstractItemModel::dataChanged, this, &SelectionStatus::updateSoon);
     connect(model, &QAbstractItemModel::rowsInserted, this, &SelectionStatus::updateSoon);

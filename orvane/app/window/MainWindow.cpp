@@ -226,6 +226,7 @@ void MainWindow::buildMenus()
     toolBar->addActions(m_fileMenu->toolBarActions());
     toolBar->addSeparator();
     toolBar->addActions(editMenu->toolBarActions());
+    m_inspectors->addToolBar();
     auto* forget = new QAction(tr("Forget Allowed &Image Folders"), this);
     forget->setObjectName(QStringLiteral("forgetImageFolders"));
     forget->setStatusTip(tr("Takes back that scenes may refer to images in folders outside their own"));
@@ -339,6 +340,7 @@ void MainWindow::saveLayout()
 
 void MainWindow::restoreLayout()
 {
+    m_inspectors->restoreDocks();
     const QByteArray state = m_session.settings().value(stateKey).toByteArray();
     if (state.isEmpty())
         return;

@@ -104,7 +104,8 @@ private Q_SLOTS:
         QVERIFY(lockStatus()->toolTip().contains(QStringLiteral("/robot/arm")));
         QVERIFY(lockStatus()->toolTip().contains(QStringLiteral("Ctrl+Shift+L")));
         // The path in the status bar is that of the tree, without the locked node's field.
-        services().selectField(node("/robot/arm")->getFields().front());
+        services().selectField(node("/robot/arm")->getField("positions"));
+        QTRY_COMPARE(m_window->findChild<SelectionLabel*>()->path(), QStringLiteral("/robot/arm.positions"));
         clickNode("/robot/hand");
         QTRY_COMPARE(m_window->findChild<SelectionLabel*>()->path(), QStringLiteral("/robot/hand"));
         QTest::mouseClick(lockStatus(), Qt::LeftButton);
