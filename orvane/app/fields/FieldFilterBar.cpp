@@ -32,7 +32,9 @@ FieldFilterBar::FieldFilterBar(QWidget* parent)
     m_changedOnly->setToolTip(tr("Show only fields that differ from their defaults."));
     m_changedOnly->setAccessibleName(tr("Show only changed fields"));
     m_changedOnly->setCheckable(true);
-    m_changedOnly->setAutoRaise(true);
+    QFont bold = font();
+    bold.setBold(true); // as the rows that it shows
+    m_changedOnly->setFont(bold);
 
     connect(m_line, &QLineEdit::textChanged, this, &FieldFilterBar::changed);
     connect(m_changedOnly, &QToolButton::toggled, this, &FieldFilterBar::changed);

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/fields/FieldActions.h"
 #include "orvane/app/fields/FieldFilterBar.h"
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
@@ -45,6 +46,8 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     m_pages->addWidget(m_hint);
     m_pages->addWidget(page);
     connectView();
+    const auto* const actions = new FieldActions(services, this);
+    connect(actions, &FieldActions::nodesFound, this, &FieldPanel::nodesFound);
     setFocusProxy(m_view);
 }
 
@@ -228,15 +231,21 @@ void FieldPanel::useMark(FieldMark mark, const QModelIndex& index)
     case FieldMark::Reset:
         result = m_writer.reset(fields);
         break;
-    case FieldMark::Favorite: {
-        const bool isFavorite = index.data(FieldRoles::FavoriteRole).toBool();
-        m_settings.setFavorite(orvane::favoriteKey(*m_model->row(index)), !isFavorite);
-        changeRows([this] { m_model->setFavorites(m_settings.favorites()); });
+    case FieldMark::Favorite:
+        toggleFavorite(index);
         break;
-    }
     }
     if (!result)
         showFailure(result.error());
+}
+
+void FieldPanel::toggleFavorite(const QModelIndex& index)
+{
+    const FieldRow* const row = m_model->row(index);
+    if (row == nullptr || row->fields().isEmpty())
+        return;
+    m_settings.setFavorite(orvane::favoriteKey(*row), !index.data(FieldRoles::FavoriteRole).toBool());
+    changeRows([this] { m_model->setFavorites(m_settings.favorites()); });
 }
 
 void FieldPanel::showFailure(const QString& message)

@@ -7,6 +7,8 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class AppSettings;
 class FieldFilterBar;
 class FieldTableModel;
@@ -14,6 +16,7 @@ class FieldTableView;
 class NxField;
 class NxFieldContainer;
 class NxMField;
+class NxNode;
 class OrvServices;
 class QHBoxLayout;
 class QLabel;
@@ -44,6 +47,8 @@ public:
     [[nodiscard]] FieldFilterBar* filterBar() const noexcept { return m_filter; }
     /// At the end of the heading, for tools of whoever shows the panel.
     [[nodiscard]] QHBoxLayout* headingTools() const noexcept { return m_tools; }
+    /// Makes the field of a row a favourite, or no favourite.
+    void toggleFavorite(const QModelIndex& index);
     /// Shows why something couldn't be done beside the current row.
     void showFailure(const QString& message);
 
@@ -54,6 +59,8 @@ Q_SIGNALS:
     void listRequested(NxMField* list);
     /// The user wants to go on in the editor of the field's dock.
     void editorRequested();
+    /// The user looked for the nodes with the value of a row. There are two at least.
+    void nodesFound(const std::vector<NxNode*>& nodes);
 
 private:
     void buildPage(QWidget* page);

@@ -204,6 +204,21 @@ int FieldTableModel::shownCount() const
     return static_cast<int>(count);
 }
 
+std::vector<FieldSet> FieldTableModel::allFields(const QModelIndex& group) const
+{
+    const FieldGroup* const only = this->group(group);
+    std::vector<FieldSet> fields;
+    for (const auto& candidate : m_all) {
+        if (only != nullptr && candidate.get() != only)
+            continue;
+        for (const FieldRow* const row : candidate->rows) {
+            if (!row->fields().isEmpty())
+                fields.push_back(row->fields());
+        }
+    }
+    return fields;
+}
+
 QModelIndex FieldTableModel::index(int row, int column, const QModelIndex& parent) const
 {
     if (!hasIndex(row, column, parent))
@@ -246,6 +261,8 @@ QVariant FieldTableModel::groupData(const FieldGroup& group, int column, int rol
 {
     if (role == Qt::DisplayRole && column == NameColumn)
         return group.title;
+    if (role == Qt::BackgroundRole)
+        return QGuiApplication::palette().color(QPalette::Window);
     if (role == FieldRoles::ChangedRole)
         return group.changedCount();
     if (role == Qt::DisplayRole && column == ValueColumn && group.kind != FieldGroup::Kind::Unknown) {

@@ -52,6 +52,9 @@ public:
     /// The row of a field of the node that was selected last; invalid if it isn't shown.
     [[nodiscard]] QModelIndex indexOf(const NxField* field) const;
     [[nodiscard]] int shownCount() const;
+    /// The fields of all rows of a group, or of all groups if the index is invalid, whether the filter shows them or
+    /// not. Unknown fields are left out.
+    [[nodiscard]] std::vector<FieldSet> allFields(const QModelIndex& group) const;
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     [[nodiscard]] QModelIndex parent(const QModelIndex& index) const override;

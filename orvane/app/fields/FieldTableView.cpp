@@ -105,15 +105,10 @@ void FieldTableView::resizeEvent(QResizeEvent* event)
         scrollTo(current);
 }
 
-void FieldTableView::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
-{
-    if (isGroup(index))
-        painter->fillRect(option.rect, palette().color(QPalette::Window));
-    QTreeView::drawRow(painter, option, index);
-}
-
 void FieldTableView::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const
 {
-    if (isGroup(index)) // fields have no branches of their own
-        QTreeView::drawBranches(painter, rect, index);
+    if (!isGroup(index))
+        return; // fields have no branches of their own
+    painter->fillRect(rect, palette().color(QPalette::Window));
+    QTreeView::drawBranches(painter, rect, index);
 }

@@ -148,10 +148,11 @@ StepLabel labelOfSeveralNodes(Records records)
     const ChangeRecord& first = *records.front();
     const bool isIgnored = first.kind() != ChangeRecord::Kind::Value && first.field()->isIgnored();
     const auto isLikeFirst = [&](const auto& record) { return record->field()->isIgnored() == isIgnored; };
-    const char* text = "Set %1 of %2 nodes";
-    if (areAll(records, ChangeRecord::Kind::Ignored) && std::ranges::all_of(records, isLikeFirst))
-        text = isIgnored ? "Ignore %1 of %2 nodes" : "Use %1 of %2 nodes";
-    return {tr(text).arg(orvane::toQString(field)).arg(countNodes(records)), {}};
+    const bool isFlag = areAll(records, ChangeRecord::Kind::Ignored) && std::ranges::all_of(records, isLikeFirst);
+    const QString text = !isFlag ? tr("Set %1 of %2 nodes")
+        : isIgnored              ? tr("Ignore %1 of %2 nodes")
+                                 : tr("Use %1 of %2 nodes");
+    return {text.arg(orvane::toQString(field)).arg(countNodes(records)), {}};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Patience.h"
+#include "app/AppScenes.h"
 #include "app/fields/values/ManyNodes.h"
 
 #include "orvane/app/base/AppSettings.h"

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 #include <variant>
 
@@ -59,8 +60,9 @@ orvane::Result<> FieldWriter::setNumber(const FieldSet& fields, int component, c
     for (const NxField* const field : fields.fields()) {
         const auto value = expression.evaluate(components->get(*field, 0, component));
         const auto* const number = std::get_if<double>(&value);
-        QString reason = number == nullptr ? orvane::toQString(std::get<meridane::QueryError>(value).message)
-                                           : orvane::refusedNumber(*field, component, *number);
+        const std::optional<std::string> refusal
+            = number == nullptr ? std::get<meridane::QueryError>(value).message : components->refusal(*number);
+        QString reason = orvane::toQString(refusal.value_or(std::string()));
         if (!reason.isEmpty() && fields.count() > 1)
             reason = tr("%1: %2").arg(orvane::nodeName(*field->getContainer()), reason);
         if (!reason.isEmpty())
@@ -98,6 +100,42 @@ orvane::Result<> FieldWriter::setIgnored(const FieldSet& fields, bool ignored)
     end();
     m_services.pushStep(new IgnoreCommand(fields, ignored), {});
     Q_EMIT written(fields);
+    return {};
+}
+
+orvane::Result<> FieldWriter::setAll(std::span<const Item> items, const QString& label)
+{
+    std::vector<FieldTrial> trials;
+    for (const Item& item : items) {
+        trials.emplace_back(item.fields.first());
+        NxField* const spare = trials.back().field();
+        if (spare == nullptr || !spare->set(VbString(item.text)))
+            return orvane::Failure{orvane::refusedText(item.fields.first(), orvane::toQString(item.text))};
+    }
+    end();
+    std::vector<std::unique_ptr<OrvCommand>> written;
+    bool done = true;
+    m_services.beginEdit(label);
+    for (std::size_t i = 0; i < items.size() && done; ++i) {
+        const NxField* const spare = trials[i].field();
+        const auto copyTo = [spare](NxField& field, std::size_t /*number*/) { return field.copyFrom(*spare); };
+        written.push_back(std::make_unique<FieldWriteCommand>(items[i].fields, copyTo, done));
+        written.back()->execute();
+        written.push_back(std::make_unique<IgnoreCommand>(items[i].fields, items[i].isIgnored));
+        written.back()->execute();
+    }
+    if (!done)
+        std::for_each(written.rbegin(), written.rend(), [](const auto& command) { command->undo(); });
+    m_services.endEdit();
+    if (!done)
+        return orvane::Failure{tr("The fields can't be changed: the values don't fit in memory.")};
+    // Where the journal doesn't undo, the commands do, in one step if they belong to one action of the user.
+    for (auto& command : written) {
+        if (!m_services.isUndoExact())
+            m_services.pushCommand(command.release());
+    }
+    for (const Item& item : items)
+        Q_EMIT this->written(item.fields);
     return {};
 }
 

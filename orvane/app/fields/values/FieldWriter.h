@@ -7,6 +7,8 @@
 
 #include <functional>
 #include <memory>
+#include <span>
+#include <string>
 #include <vector>
 
 class OrvServices;
@@ -34,7 +36,7 @@ public:
     /// Sets all fields from the text form of a value.
     orvane::Result<> setText(const FieldSet& fields, const QString& text);
     /// Sets a component of each field to the value of an expression of one variable, which is the field's own number.
-    /// A number outside the hard range of the field is refused.
+    /// A number that the type of one of the fields can't hold is refused.
     orvane::Result<> setNumber(const FieldSet& fields, int component, const meridane::Expression& expression);
     /// Copies the value of a field of the same class to all fields.
     orvane::Result<> copy(const FieldSet& fields, const NxField& source);
@@ -42,6 +44,15 @@ public:
     orvane::Result<> reset(const FieldSet& fields);
     /// Sets whether the scene ignores the fields.
     orvane::Result<> setIgnored(const FieldSet& fields, bool ignored);
+    /// A value for the fields of a row.
+    struct Item {
+        FieldSet fields;
+        std::string text; ///< the text form
+        bool isIgnored = false;
+    };
+    /// Sets values and ignored flags of several rows as one step with that label. If one of the texts is refused,
+    /// nothing is changed.
+    orvane::Result<> setAll(std::span<const Item> items, const QString& label);
     /// Changes each field by a function, which returns false and changes nothing if it can't: then no field is changed.
     orvane::Result<> change(const FieldSet& fields, const std::function<bool(NxField&)>& function);
 

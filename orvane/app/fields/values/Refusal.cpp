@@ -3,11 +3,9 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/values/FactsText.h"
-#include "orvane/app/fields/values/FieldLimits.h"
 #include "orvane/app/fields/values/FieldText.h"
 
 #include "meridane/base/values/VbName.h"
-#include "meridane/scene/components/FieldComponents.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldContainer.h"
 #include "meridane/scene/fields/NxFieldData.h"
@@ -42,16 +40,4 @@ QString orvane::refusedText(const NxField& field, const QString& text)
     if (const QString range = rangeText(field, meridane::factsOf(field)); !range.isEmpty())
         return refused + u' ' + tr("It takes: %1.").arg(range);
     return refused + u' ' + tr("The default is an example of one: %1").arg(exampleOf(field));
-}
-
-QString orvane::refusedNumber(const NxField& field, int component, double number)
-{
-    const auto* const components = meridane::FieldComponents::of(field);
-    if (const auto reason = components->refusal(number))
-        return toQString(*reason);
-    const NxFieldFacts& facts = meridane::factsOf(field);
-    if (!hasFacts(field, component) || !facts.hasHardRange() || facts.isInHardRange(number))
-        return {};
-    const QString name = toQString(field.getContainer()->getFieldName(&field));
-    return tr("%1 is out of the range of %2: %3.").arg(plainNumber(number), name, rangeText(field, facts));
 }

@@ -228,16 +228,6 @@ private Q_SLOTS:
         QCOMPARE(many.services().undoDepth(), steps);
     }
 
-    void aNumberOutsideTheHardRangeIsRefused()
-    {
-        ManyNodes many({new NxMaterial});
-        FieldWriter writer(many.services());
-        const QString error = writer.setNumber(many.set("transparency"), 0, expression("1.5")).error();
-        QCOMPARE(error, u"\"1.5\" can't be taken. 1.5 is out of the range of transparency: 0 to 1."_s);
-        QVERIFY(writer.setNumber(many.set("transparency"), 0, expression("50%")));
-        QCOMPARE(textOf(many.field(0, "transparency")), std::string("0.5"));
-    }
-
     void aLiveEditOfManyActionsIsOneStep()
     {
         ManyNodes many(galleries(3));

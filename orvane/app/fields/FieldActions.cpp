@@ -1,0 +1,227 @@
+#include "orvane/app/fields/FieldActions.h"
+
+#include "orvane/app/base/PlainText.h"
+#include "orvane/app/fields/FieldClipboard.h"
+#include "orvane/app/fields/FieldPanel.h"
+#include "orvane/app/fields/FieldReferences.h"
+#include "orvane/app/fields/FieldTableModel.h"
+#include "orvane/app/fields/FieldTableView.h"
+#include "orvane/app/fields/values/FieldText.h"
+#include "orvane/extender/OrvDocument.h"
+#include "orvane/extender/OrvServices.h"
+
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/nodes/NxGroup.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMimeData>
+
+#include <vector>
+
+namespace {
+
+const QMimeData& clipboardData()
+{
+    static const QMimeData nothing;
+    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+    return data != nullptr ? *data : nothing;
+}
+
+} // namespace
+
+FieldActions::FieldActions(OrvServices& services, FieldPanel* panel)
+    : QObject(panel)
+    , m_services(services)
+    , m_panel(panel)
+    , m_edit(add(tr("&Edit"), {}, &FieldActions::edit))
+    , m_copy(add(tr("&Copy Value"), {QKeySequence::Copy}, &FieldActions::copyValue))
+    , m_paste(add(tr("&Paste Value"), {QKeySequence::Paste}, &FieldActions::pasteValue))
+    , m_copyPath(add(tr("Copy P&ath"), {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, &FieldActions::copyPath))
+    , m_copyAssignment(
+          add(tr("Copy as --&set Argument"), {Qt::CTRL | Qt::ALT | Qt::Key_S}, &FieldActions::copyAssignment))
+    , m_copyAll(add(tr("Copy A&ll Fields"), {Qt::CTRL | Qt::ALT | Qt::Key_C}, &FieldActions::copyAll))
+    , m_copyGroup(add(tr("Copy Fields of This &Group"), {Qt::CTRL | Qt::ALT | Qt::Key_G}, &FieldActions::copyGroup))
+    , m_pasteAll(add(tr("Paste All F&ields"), {Qt::CTRL | Qt::ALT | Qt::Key_V}, &FieldActions::pasteAll))
+    , m_reset(add(tr("&Reset to Default"), {Qt::CTRL | Qt::Key_Backspace}, &FieldActions::reset))
+    , m_ignore(add(tr("I&gnore"), {Qt::CTRL | Qt::ALT | Qt::Key_I}, &FieldActions::toggleIgnored))
+    , m_favorite(add(tr("&Favorite"), {Qt::CTRL | Qt::Key_B}, &FieldActions::toggleFavorite))
+    , m_findSame(
+          add(tr("Select &Nodes with This Value"), {Qt::CTRL | Qt::ALT | Qt::Key_F}, &FieldActions::findSameValue))
+{
+    m_ignore->setCheckable(true);
+    m_favorite->setCheckable(true);
+    FieldTableView* const view = panel->view();
+    view->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(view, &QWidget::customContextMenuRequested, this, &FieldActions::showMenu);
+}
+
+QAction* FieldActions::add(const QString& text, const QList<QKeySequence>& keys, void (FieldActions::*slot)())
+{
+    auto* const action = new QAction(text, this);
+    action->setShortcuts(keys);
+    action->setShortcutContext(Qt::WidgetShortcut); // not in the editors of its cells
+    connect(action, &QAction::triggered, this, slot);
+    m_panel->view()->addAction(action);
+    return action;
+}
+
+QModelIndex FieldActions::current() const
+{
+    const QModelIndexList selected = m_panel->view()->selectionModel()->selectedRows();
+    return selected.isEmpty() ? m_panel->view()->currentIndex() : selected.front();
+}
+
+FieldSet FieldActions::fields() const
+{
+    return m_panel->model()->fieldSet(current());
+}
+
+QString FieldActions::nodes() const
+{
+    const FieldTableModel* const model = m_panel->model();
+    return model->nodeCount() == 1 ? orvane::nodeName(*model->node()) : tr("%1 nodes").arg(model->nodeCount());
+}
+
+void FieldActions::showMenu(const QPoint& place)
+{
+    update();
+    QMenu menu(m_panel);
+    menu.setObjectName(QStringLiteral("fieldMenu"));
+    menu.addActions({m_edit});
+    menu.addSeparator();
+    menu.addActions({m_copy, m_paste, m_copyPath, m_copyAssignment});
+    menu.addSeparator();
+    menu.addActions({m_copyAll, m_copyGroup, m_pasteAll});
+    menu.addSeparator();
+    menu.addActions({m_reset, m_ignore, m_favorite});
+    menu.addSeparator();
+    menu.addActions({m_findSame});
+    menu.exec(m_panel->view()->viewport()->mapToGlobal(place));
+    for (QAction* const action : m_panel->view()->actions())
+        action->setEnabled(true); // the keys say why they can't
+}
+
+void FieldActions::update()
+{
+    const FieldSet set = fields();
+    const bool hasField = !set.isEmpty();
+    for (QAction* const action : {m_edit, m_copy, m_paste, m_copyPath, m_copyAssignment, m_ignore, m_favorite})
+        action->setEnabled(hasField);
+    const FieldRow* const row = m_panel->model()->row(current());
+    m_edit->setText(row != nullptr && row->isList() ? tr("&Open List") : tr("&Edit"));
+    m_reset->setEnabled(hasField && set.isChanged());
+    m_findSame->setEnabled(hasField && !set.isMixed());
+    m_ignore->setChecked(hasField && set.isIgnored());
+    m_favorite->setChecked(current().data(FieldRoles::FavoriteRole).toBool());
+}
+
+void FieldActions::edit()
+{
+    m_panel->view()->editRow(current());
+}
+
+void FieldActions::copyValue()
+{
+    const FieldSet set = fields();
+    if (set.isEmpty())
+        return;
+    if (set.isMixed())
+        m_panel->showFailure(
+            tr("The %1 nodes have different values. Select one of them to copy its value.").arg(set.count()));
+    else
+        QGuiApplication::clipboard()->setMimeData(orvane::valueMimeData(set.first()).release());
+}
+
+void FieldActions::pasteValue()
+{
+    const auto result = orvane::pasteValue(m_panel->writer(), fields(), clipboardData());
+    if (!result)
+        m_panel->showFailure(result.error());
+}
+
+void FieldActions::copyPath()
+{
+    if (const NxGroup* const scene = m_services.document().root(); scene != nullptr && !fields().isEmpty())
+        QGuiApplication::clipboard()->setText(orvane::pathsOf(fields(), *scene));
+}
+
+void FieldActions::copyAssignment()
+{
+    if (const NxGroup* const scene = m_services.document().root(); scene != nullptr && !fields().isEmpty())
+        QGuiApplication::clipboard()->setText(orvane::assignmentsOf(fields(), *scene));
+}
+
+void FieldActions::copyAll()
+{
+    copyRows({});
+}
+
+void FieldActions::copyGroup()
+{
+    const QModelIndex index = current();
+    copyRows(index.parent().isValid() ? index.parent() : index);
+}
+
+void FieldActions::copyRows(const QModelIndex& group)
+{
+    std::vector<const NxField*> copied;
+    for (const FieldSet& set : m_panel->model()->allFields(group)) {
+        if (!set.isMixed())
+            copied.push_back(&set.first());
+    }
+    if (copied.empty())
+        m_panel->showFailure(tr("There is no field to copy that has one value."));
+    else
+        QGuiApplication::clipboard()->setMimeData(orvane::fieldsMimeData(copied).release());
+}
+
+void FieldActions::pasteAll()
+{
+    const auto result
+        = orvane::pasteFields(m_panel->writer(), m_panel->model()->allFields({}), clipboardData(), nodes());
+    if (const QString message = result ? result.value() : result.error(); !message.isEmpty())
+        m_panel->showFailure(message);
+}
+
+void FieldActions::reset()
+{
+    const FieldSet set = fields();
+    if (set.isEmpty() || !set.isChanged())
+        return;
+    if (const auto result = m_panel->writer().reset(set); !result)
+        m_panel->showFailure(result.error());
+}
+
+void FieldActions::toggleIgnored()
+{
+    const FieldSet set = fields();
+    if (set.isEmpty())
+        return;
+    if (const auto result = m_panel->writer().setIgnored(set, !set.isIgnored()); !result)
+        m_panel->showFailure(result.error());
+}
+
+void FieldActions::toggleFavorite()
+{
+    m_panel->toggleFavorite(current());
+}
+
+void FieldActions::findSameValue()
+{
+    const FieldSet set = fields();
+    const NxGroup* const scene = m_services.document().root();
+    if (set.isEmpty() || scene == nullptr)
+        return;
+    if (set.isMixed()) {
+        m_panel->showFailure(tr("The %1 nodes have different values. Select one of them first.").arg(set.count()));
+        return;
+    }
+    const std::vector<NxNode*> found = orvane::nodesWithValue(set.first(), *scene);
+    if (found.size() > 1)
+        Q_EMIT nodesFound(found);
+    else
+        m_panel->showFailure(tr("No other node has this value of %1.").arg(m_panel->model()->row(current())->name()));
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QModelIndex>
+#include <QObject>
+
+#include <vector>
+
+class FieldPanel;
+class FieldSet;
+class NxNode;
+class OrvServices;
+class QAction;
+
+/// What can be done with the rows of the field table: by keys while the table has the focus, and in its context menu.
+class FieldActions : public QObject {
+    Q_OBJECT
+
+public:
+    /// The panel owns it; the services live longer.
+    FieldActions(OrvServices& services, FieldPanel* panel);
+
+Q_SIGNALS:
+    /// These nodes, two at least, have the value that was looked for.
+    void nodesFound(const std::vector<NxNode*>& nodes);
+
+private:
+    QAction* add(const QString& text, const QList<QKeySequence>& keys, void (FieldActions::*slot)());
+    void showMenu(const QPoint& place);
+    void update();
+    [[nodiscard]] QModelIndex current() const;
+    [[nodiscard]] FieldSet fields() const;
+    [[nodiscard]] QString nodes() const;
+
+    void edit();
+    void copyValue();
+    void pasteValue();
+    void copyPath();
+    void copyAssignment();
+    void copyAll();
+    void copyGroup();
+    void pasteAll();
+    void reset();
+    void toggleIgnored();
+    void toggleFavorite();
+    void findSameValue();
+    void copyRows(const QModelIndex& group);
+
+    OrvServices& m_services;
+    FieldPanel* m_panel;
+    QAction* m_edit;
+    QAction* m_copy;
+    QAction* m_paste;
+    QAction* m_copyPath;
+    QAction* m_copyAssignment;
+    QAction* m_copyAll;
+    QAction* m_copyGroup;
+    QAction* m_pasteAll;
+    QAction* m_reset;
+    QAction* m_ignore;
+    QAction* m_favorite;
+    QAction* m_findSame;
+};
