@@ -11,6 +11,7 @@
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPersistentModelIndex>
 #include <QTableView>
 
 namespace {
@@ -20,6 +21,14 @@ bool isEditorPopup(const QWidget* widget)
 {
     return widget->windowType() == Qt::Popup && widget->findChild<QLineEdit*>() != nullptr
         && EditorDocks::dockOf(widget) != nullptr;
+}
+
+/// The table in a cell of which the widget is; null for none.
+QTableView* tableOf(const QWidget* widget)
+{
+    const QWidget* const parent = widget->parentWidget();
+    auto* const view = parent != nullptr ? qobject_cast<QTableView*>(parent->parentWidget()) : nullptr;
+    return view != nullptr && view->viewport() == parent ? view : nullptr;
 }
 
 } // namespace
@@ -43,10 +52,41 @@ bool CellFocus::eventFilter(QObject* object, QEvent* event)
     else if (type == QEvent::Hide && widget == m_escaped)
         popupHidden(widget);
     else if (type == QEvent::KeyPress)
-        m_escaped = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape ? widget->window() : nullptr;
+        keyPressed(widget, static_cast<QKeyEvent*>(event)->key());
     else if (type == QEvent::FocusIn && qobject_cast<QAbstractSpinBox*>(widget) != nullptr)
         boxFocused(static_cast<QAbstractSpinBox*>(widget));
     return false;
+}
+
+void CellFocus::keyPressed(QWidget* widget, int key)
+{
+    m_escaped = key == Qt::Key_Escape ? widget->window() : nullptr;
+    if (key == Qt::Key_Tab || key == Qt::Key_Backtab)
+        tabPressed(widget, key == Qt::Key_Backtab);
+}
+
+// The tables take the line out of the cell before they would go on to the next one.
+void CellFocus::tabPressed(QWidget* widget, bool backwards)
+{
+    auto* const line = qobject_cast<QLineEdit*>(widget);
+    const QPointer<QTableView> view = line != nullptr ? tableOf(line) : nullptr;
+    if (view == nullptr || EditorDocks::dockOf(view) == nullptr)
+        return;
+    const QModelIndex cell = view->indexAt(line->geometry().center());
+    const auto target = EditorLine::of(line, line->text());
+    const int firstColumn = target && target->isBesideWhole() ? 1 : 0;
+    const auto goOn = [view, cell = QPersistentModelIndex(cell), firstColumn, backwards] {
+        if (view == nullptr || !cell.isValid())
+            return;
+        const int columns = cell.model()->columnCount() - firstColumn;
+        const int place = cell.row() * columns + cell.column() - firstColumn + (backwards ? -1 : 1);
+        const QModelIndex next = cell.model()->index(place / columns, place % columns + firstColumn);
+        if (place < 0 || !next.isValid() || !view->hasFocus())
+            return;
+        view->setCurrentIndex(next);
+        view->edit(next);
+    };
+    QMetaObject::invokeMethod(view, goOn, Qt::QueuedConnection);
 }
 
 void CellFocus::widgetShown(QWidget* widget)
@@ -56,9 +96,7 @@ void CellFocus::widgetShown(QWidget* widget)
             popupShown(widget);
         return;
     }
-    const auto* const view = qobject_cast<QTableView*>(
-        widget->parentWidget() != nullptr ? widget->parentWidget()->parentWidget() : nullptr);
-    if (view != nullptr && widget->parentWidget() == view->viewport() && EditorDocks::dockOf(view) != nullptr)
+    if (const QTableView* const view = tableOf(widget); view != nullptr && EditorDocks::dockOf(view) != nullptr)
         cellEditorShown(widget);
 }
 

@@ -52,7 +52,8 @@ QString withoutDecimals(const QString& number)
         return number;
     const auto decimals = static_cast<int>(mantissa.size() - point - 1);
     const int exponent = (parts.size() > 1 ? parts.back().toInt() : 0) - decimals;
-    return QString(mantissa).remove(point, 1) + u'e' + QString::number(exponent);
+    static const QRegularExpression zeros(QStringLiteral("^(-?)0+(?=[0-9])"));
+    return QString(mantissa).remove(point, 1).replace(zeros, QStringLiteral("\\1")) + u'e' + QString::number(exponent);
 }
 
 void narrow(NumberLimits& limits, double lowest, double highest)
@@ -222,10 +223,10 @@ double EditorLine::present() const
 
 void EditorLine::showOwnValue() const
 {
-    const double own = present();
-    if (std::isnan(own) || m_table == nullptr)
+    if (m_table == nullptr || m_field == nullptr || m_place.component < 0)
         return;
-    if (const QString text = textFor(own); !text.isEmpty() && m_line->text() != text)
+    const QString text = orvane::plainNumber(present(), FieldComponents::of(*m_field)->number());
+    if (m_line->text() != text)
         m_line->setText(text);
 }
 

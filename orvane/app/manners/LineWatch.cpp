@@ -8,6 +8,15 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+namespace {
+
+bool isKeyReason(Qt::FocusReason reason)
+{
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+}
+
+} // namespace
+
 LineWatch::LineWatch(QObject* parent)
     : QObject(parent)
 {
@@ -60,6 +69,8 @@ void LineWatch::settle(const QLineEdit* line)
 
 bool LineWatch::eventFilter(QObject* object, QEvent* event)
 {
+    if (event->type() == QEvent::MouseButtonPress)
+        m_marked = nullptr;
     const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::InputMethod;
     const bool isFocus = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
     QLineEdit* const line = isKey || isFocus ? lineOf(object) : nullptr;
@@ -67,6 +78,8 @@ bool LineWatch::eventFilter(QObject* object, QEvent* event)
         return false;
     if (line != m_line)
         watch(line);
+    const bool isByKey = event->type() == QEvent::FocusIn && isKeyReason(static_cast<QFocusEvent*>(event)->reason());
+    m_marked = isByKey ? line : nullptr;
     if (isFocus && !orvane::isPassingFocus(static_cast<QFocusEvent*>(event)->reason()))
         m_isTyped = false;
     // The editor shows a new value, or has written the former text.
@@ -78,7 +91,7 @@ bool LineWatch::eventFilter(QObject* object, QEvent* event)
 void LineWatch::watch(QLineEdit* line)
 {
     if (m_line != nullptr)
-        disconnect(m_line, &QLineEdit::textEdited, this, nullptr);
+        disconnect(m_line, nullptr, this, nullptr);
     m_line = line;
     m_isTyped = false;
     if (!line->isModified())
@@ -88,4 +101,11 @@ void LineWatch::watch(QLineEdit* line)
         m_isTyped = true;
     });
     connect(line, &QLineEdit::returnPressed, this, [this] { m_isTyped = false; });
+    connect(line, &QLineEdit::selectionChanged, this, &LineWatch::keepMarked, Qt::QueuedConnection);
+}
+
+void LineWatch::keepMarked()
+{
+    if (m_marked != nullptr && m_marked == m_line && !m_line->hasSelectedText())
+        m_line->selectAll();
 }

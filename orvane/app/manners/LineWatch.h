@@ -12,6 +12,9 @@ class QWidget;
 ///
 /// Some editors write at every key, others at Return or when the line is left; a line that is restored reports the text
 /// to its editor as if it had been typed, so both have the former value again.
+///
+/// A line that is reached by a key has its text marked, so that a number that is typed replaces it. It stays marked
+/// when the editor shows the value again.
 class LineWatch : public QObject {
     Q_OBJECT
 
@@ -39,8 +42,10 @@ protected:
 
 private:
     void watch(QLineEdit* line);
+    void keepMarked();
 
     QPointer<QLineEdit> m_line;
+    QPointer<QLineEdit> m_marked; // reached by a key, and not used since
     QString m_before;
     QString m_typed;
     bool m_isTyped = false;

@@ -137,6 +137,7 @@ bool NumberTyping::finishLine(QLineEdit* line)
     // A slider in a cell would write another row than its own.
     if (line->isModified() && target->isPartOfCell()
         && target->write(m_services, QLocale::c().toDouble(line->text()))) {
+        line->setModified(false); // written already
         QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
         QCoreApplication::sendEvent(line, &escape);
         return true;

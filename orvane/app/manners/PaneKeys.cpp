@@ -74,6 +74,7 @@ PaneKeys::PaneKeys(QMainWindow* window, FieldPanel* fields, LineWatch& watch)
     , m_watch(watch)
     , m_docks(window)
 {
+    connect(fields, &FieldPanel::editorRequested, this, &PaneKeys::focusEditor);
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -98,12 +99,6 @@ bool PaneKeys::keyPressed(QWidget* widget, const QKeyEvent& key)
         if (QApplication::activePopupWidget() != nullptr || (modifiers & ~Qt::ShiftModifier) != Qt::NoModifier)
             return false;
         step(modifiers.testFlag(Qt::ShiftModifier) ? -1 : 1);
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (modifiers != Qt::ControlModifier || (widget != m_fields && !m_fields->isAncestorOf(widget)))
-            return false;
-        focusEditor();
         return true;
     case Qt::Key_Escape:
         return modifiers == Qt::NoModifier && escape(widget);

@@ -1,11 +1,12 @@
 #include "orvane/app/manners/WheelFocus.h"
 
+#include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QDial>
-#include <QEvent>
 #include <QSlider>
+#include <QWheelEvent>
 
 namespace {
 
@@ -24,6 +25,22 @@ bool hasFocusInside(const QWidget* widget)
 {
     const QWidget* const focus = QApplication::focusWidget();
     return focus != nullptr && (focus == widget || widget->isAncestorOf(focus));
+}
+
+/// Passes the event on to the first area around the control that can scroll.
+void scrollAround(const QWidget* control, const QWheelEvent& event)
+{
+    for (QWidget* each = control->parentWidget(); each != nullptr; each = each->parentWidget()) {
+        auto* const area = qobject_cast<QAbstractScrollArea*>(each);
+        if (area == nullptr)
+            continue;
+        QWidget* const viewport = area->viewport();
+        QWheelEvent passed(viewport->mapFromGlobal(event.globalPosition()), event.globalPosition(), event.pixelDelta(),
+            event.angleDelta(), event.buttons(), event.modifiers(), event.phase(), event.inverted(), event.source());
+        passed.setTimestamp(event.timestamp());
+        QCoreApplication::sendEvent(viewport, &passed);
+        return;
+    }
 }
 
 } // namespace
@@ -50,6 +67,6 @@ bool WheelFocus::eventFilter(QObject* object, QEvent* event)
     }
     if (hasFocusInside(control))
         return false;
-    event->ignore(); // it goes on to the control's parents
+    scrollAround(control, *static_cast<QWheelEvent*>(event));
     return true;
 }

@@ -12,6 +12,7 @@
 #include "orvane/app/images/ImageFolderQuestion.h"
 #include "orvane/app/inspect/Inspectors.h"
 #include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/manners/EditorManners.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/recovery/RecoveryOffer.h"
@@ -219,6 +220,7 @@ void MainWindow::buildMenus()
     auto* viewMenu
         = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), new CameraMenu(m_view, document()));
     new HelpMenu(this, *m_shell);
+    new EditorManners(this, m_session.services(), m_fields);
     connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);
 
     QToolBar* toolBar = addToolBar(tr("File and Edit"));
