@@ -85,6 +85,7 @@ const char* usage() noexcept
     return "Usage: orvane-import --read FILE            write the model as a scene to standard output,\n"
            "                     [--packed]             with its long lists as they lie in memory, for a tool of\n"
            "                                            the same build\n"
+           "                     [--keep-groups]        with the groups that have one child and no effect\n"
            "       orvane-import --write EXTENSION      read a scene from standard input and write the model,\n"
            "                     [--name NAME]          as framed files, to standard output\n"
            "       orvane-import --pictures             decode the image files that come from standard input, for a\n"
@@ -119,6 +120,10 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
             arguments.packed = true;
             continue;
         }
+        if (option == "--keep-groups") {
+            arguments.import.keepsGroups = true;
+            continue;
+        }
         if (option == "--encoded") {
             encoded = true;
             continue;
@@ -147,6 +152,10 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
     }
     if (arguments.packed && arguments.task != Arguments::Task::Read) {
         error = "--packed goes with --read only";
+        return std::nullopt;
+    }
+    if (arguments.import.keepsGroups && arguments.task != Arguments::Task::Read) {
+        error = "--keep-groups goes with --read only";
         return std::nullopt;
     }
     if (encoded && !(decode(arguments.subject) && decode(arguments.name))) {

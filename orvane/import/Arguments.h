@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orvane/import/conversion/ImportOptions.h"
 #include "orvane/import/sandbox/ProcessLimits.h"
 
 #include <optional>
@@ -15,6 +16,8 @@ struct Arguments {
     Task task = Task::Help;
     /// Read: the path of the model. Write: the extension that names the format.
     std::string subject;
+    /// Read: what becomes of the model.
+    ImportOptions import;
     /// Read: whether to write the scene packed (see `PackedScene`) rather than as text.
     bool packed = false;
     /// Write: the name of the model's files without extension.

@@ -71,15 +71,15 @@ bool writePacked(NxGroup& scene, const std::vector<std::string>& warnings, std::
         portions.begin(), portions.end(), [&](std::string_view portion) { return orvane::writeAll(portion, error); });
 }
 
-int readModel(const std::string& path, bool packed)
+int readModel(const std::string& path, const Arguments& arguments)
 {
     std::string error;
-    orvane::ModelReader reader;
+    orvane::ModelReader reader(arguments.import);
     const NxRef<NxGroup> scene = reader.read(path, error);
     if (!scene)
         return fail(error);
     const std::vector<std::string> warnings = reader.warnings();
-    if (!(packed ? writePacked(*scene, warnings, error) : writeText(*scene, warnings, error)))
+    if (!(arguments.packed ? writePacked(*scene, warnings, error) : writeText(*scene, warnings, error)))
         return fail(error);
     // The end of the process frees all memory at once, which is faster than freeing it block by block. Only the leak
     // check needs that, and the counts of branches, which are written then.
@@ -156,7 +156,7 @@ int run(const Arguments& arguments, std::string input, const orvane::SandboxStat
 {
     switch (arguments.task) {
     case Arguments::Task::Read:
-        return readModel(arguments.subject, arguments.packed);
+        return readModel(arguments.subject, arguments);
     case Arguments::Task::Write:
         return writeModel(arguments.subject, arguments.name, std::move(input));
     case Arguments::Task::Pictures:

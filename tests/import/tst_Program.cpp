@@ -115,6 +115,9 @@ private Q_SLOTS:
             QStringLiteral("obj")} << alone;
         QTest::newRow("packed formats") << QStringList{QStringLiteral("--formats"), QStringLiteral("--packed")}
                                         << alone;
+        QTest::newRow("groups of what is written")
+            << QStringList{QStringLiteral("--keep-groups"), QStringLiteral("--write"), QStringLiteral("obj")}
+            << QStringLiteral("--keep-groups goes with --read only") + end;
         QTest::newRow("no number") << QStringList{QStringLiteral("--formats"), QStringLiteral("--memory"),
             QStringLiteral("1x")} << QStringLiteral("--memory needs a whole number, not \"1x\"") + end;
         QTest::newRow("number too large")

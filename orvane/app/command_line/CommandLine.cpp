@@ -55,6 +55,8 @@ struct Options {
     QCommandLineOption watch{QStringLiteral("watch"),
         QStringLiteral(
             "Reload the file by itself when it changes on disk, while the scene has no changes of your own.")};
+    QCommandLineOption keepGroups{QStringLiteral("keep-groups"),
+        QStringLiteral("Keep the groups of models that have one child and no effect, which are joined otherwise.")};
     QCommandLineOption noSettings{QStringLiteral("no-settings"), QStringLiteral("Neither read nor write settings.")};
     QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Print the version.")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this help.")};
@@ -62,7 +64,7 @@ struct Options {
     void addTo(QCommandLineParser& parser) const
     {
         parser.addOptions({plugin, profile, select, set, get, list, diff, describe, json, listExtensions, exportTo,
-            screenshot, size, watch, noSettings, version, help});
+            screenshot, size, watch, keepGroups, noSettings, version, help});
         parser.addPositionalArgument(QStringLiteral("file"),
             QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
         parser.addPositionalArgument(
@@ -231,6 +233,7 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
     result.json = parser.isSet(options.json);
     result.listExtensions = parser.isSet(options.listExtensions);
     result.watch = parser.isSet(options.watch);
+    result.keepGroups = parser.isSet(options.keepGroups);
     result.noSettings = parser.isSet(options.noSettings);
     for (const QString& argument : parser.values(options.set)) {
         const auto assignment = parseAssignment(argument);

@@ -37,6 +37,7 @@ struct CommandLine {
     QStringList classes; // only with `describe`
     bool listExtensions = false;
     bool watch = false;
+    bool keepGroups = false;
     bool noSettings = false;
     bool version = false;
     bool help = false;

@@ -167,6 +167,9 @@ int run(int argc, char** argv)
         return print(CommandLine::helpText());
     if (commandLine.version)
         return print(QStringLiteral("orvane " ORVANE_VERSION "\n"));
+    // Before any thread reads it: the option counts more than the user's own setting.
+    if (commandLine.keepGroups)
+        qputenv("ORVANE_KEEP_GROUPS", "1");
     return commandLine.isBatch() ? runBatch(commandLine, argv) : runWindow(commandLine, argv);
 }
 

@@ -4,11 +4,24 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/transfer/WorkTime.h"
 
+#include "meridane/base/NxPreferences.h"
+
+namespace {
+
+QStringList argumentsFor(const QString& fileName)
+{
+    QStringList arguments{QStringLiteral("--packed"), QStringLiteral("--read"), orvane::absoluteFileName(fileName)};
+    if (NxPreferences::getBool("ORVANE_KEEP_GROUPS", 0) != 0)
+        arguments += QStringLiteral("--keep-groups");
+    return arguments;
+}
+
+} // namespace
+
 ImportJob::ImportJob(const QString& fileName, const HelperOptions& options)
     : SceneJob(fileName)
     , m_hasher(orvane::toStdFileName(fileName))
-    , m_helper(options, {QStringLiteral("--packed"), QStringLiteral("--read"), orvane::absoluteFileName(fileName)},
-          orvane::modelSize(orvane::toStdFileName(fileName)))
+    , m_helper(options, argumentsFor(fileName), orvane::modelSize(orvane::toStdFileName(fileName)))
 {
     connect(&m_helper, &HelperProcess::outputGrew, this, &ImportJob::takeOutput);
     connect(&m_helper, &HelperProcess::ended, this, [this] {

@@ -1,6 +1,6 @@
 #include "orvane/import/conversion/CameraConversion.h"
 
-#include "orvane/import/conversion/Texts.h"
+#include "orvane/import/conversion/Names.h"
 #include "orvane/import/conversion/TransformConversion.h"
 
 #include "meridane/scene/nodes/NxOrthographicCamera.h"
@@ -38,7 +38,7 @@ NxRef<NxCamera> toOrthographicCamera(const aiCamera& camera)
 NxRef<NxCamera> toCamera(const aiCamera& camera)
 {
     NxRef<NxCamera> result = camera.mOrthographicWidth > 0 ? toOrthographicCamera(camera) : toPerspectiveCamera(camera);
-    result->setName(toText(camera.mName));
+    result->setName(toName(camera.mName));
     result->position.setValue(toVec(camera.mPosition));
     const VbRotation orientation = rotationTo(camera.mLookAt, camera.mUp);
     if (orientation.getAngle() != 0)

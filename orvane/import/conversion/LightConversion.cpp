@@ -1,6 +1,6 @@
 #include "orvane/import/conversion/LightConversion.h"
 
-#include "orvane/import/conversion/Texts.h"
+#include "orvane/import/conversion/Names.h"
 #include "orvane/import/conversion/TransformConversion.h"
 
 #include "meridane/scene/nodes/NxDirectionalLight.h"
@@ -82,7 +82,7 @@ NxRef<NxLight> toLight(const aiLight& light, const aiMatrix4x4& transform)
     NxRef<NxLight> result = makeLight(light, transform, strength);
     if (!result)
         return {};
-    result->setName(toText(light.mName));
+    result->setName(toName(light.mName));
     // The brightest component is full, so that colour and brightness come apart in one way only.
     if (strength > 0)
         result->color.setValue(VbColor(color.r / strength, color.g / strength, color.b / strength));

@@ -1,5 +1,6 @@
 #include "orvane/import/conversion/MaterialConversion.h"
 
+#include "orvane/import/conversion/Names.h"
 #include "orvane/import/conversion/Texts.h"
 #include "orvane/import/pictures/ImageCodec.h"
 
@@ -64,7 +65,7 @@ NxRef<NxMaterial> toMaterial(const aiMaterial& material)
     NxRef<NxMaterial> result = new NxMaterial;
     aiString name;
     if (material.Get(AI_MATKEY_NAME, name) == aiReturn_SUCCESS)
-        result->setName(toText(name));
+        result->setName(toName(name));
     takeColor(material, result->ambientColor, AI_MATKEY_COLOR_AMBIENT);
     if (!takeColor(material, result->diffuseColor, AI_MATKEY_COLOR_DIFFUSE))
         takeColor(material, result->diffuseColor, AI_MATKEY_BASE_COLOR);
@@ -125,7 +126,8 @@ NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model)
 void setMaterial(aiMaterial& target, const NxMaterial* material)
 {
     const NxRef<const NxMaterial> look = material != nullptr ? material : new NxMaterial;
-    const aiString name = toAiText(look->getName().isEmpty() ? std::string_view("Material") : look->getName().view());
+    const aiString name
+        = toAiText(look->getName().isEmpty() ? std::string_view(AI_DEFAULT_MATERIAL_NAME) : look->getName().view());
     const aiColor3D ambient = toAiColor(look->ambientColor);
     const aiColor3D diffuse = toAiColor(look->diffuseColor);
     const aiColor3D specular = toAiColor(look->specularColor);

@@ -1,5 +1,6 @@
 #include "orvane/import/conversion/MeshConversion.h"
 
+#include "orvane/import/conversion/Names.h"
 #include "orvane/import/conversion/Texts.h"
 #include "orvane/import/conversion/TransformConversion.h"
 
@@ -110,7 +111,7 @@ NxRef<NxMesh> toMesh(const aiMesh& mesh)
 {
     NxRef<NxMesh> result = new NxMesh;
     const int primitive = primitiveOf(mesh);
-    result->setName(toText(mesh.mName));
+    result->setName(toName(mesh.mName));
     result->primitive.setValue(primitive);
     result->positions.setValues(converted<VbVec3f>(mesh.mVertices, mesh.mNumVertices, &toVec));
     result->normals.setValues(converted<VbVec3f>(mesh.mNormals, mesh.mNumVertices, &toDirection));

@@ -181,7 +181,9 @@ void ModelBuilder::addLight(Node& node, const NxLight& light)
     std::unique_ptr<aiLight> made = toAiLight(light, transform);
     if (made == nullptr || light.on.getValue() == 0)
         return;
-    made->mName = addPlaced(node, light.getName(), "Light", transform).node->mName;
+    // A name that the reader takes for none.
+    const std::string otherwise = "lights[" + std::to_string(m_lights.size()) + "]";
+    made->mName = addPlaced(node, light.getName(), otherwise.c_str(), transform).node->mName;
     m_lights.push_back(std::move(made));
 }
 
@@ -191,7 +193,8 @@ void ModelBuilder::addCamera(Node& node, const NxCamera& camera)
     std::unique_ptr<aiCamera> made = toAiCamera(camera, transform);
     if (made == nullptr)
         return;
-    made->mName = addPlaced(node, camera.getName(), "Camera", transform).node->mName;
+    const std::string otherwise = "cameras[" + std::to_string(m_cameras.size()) + "]";
+    made->mName = addPlaced(node, camera.getName(), otherwise.c_str(), transform).node->mName;
     m_cameras.push_back(std::move(made));
 }
 

@@ -3,6 +3,7 @@
 #include "orvane/import/conversion/ModelFiles.h"
 #include "orvane/import/conversion/ModelMending.h"
 #include "orvane/import/conversion/ObjMending.h"
+#include "orvane/import/conversion/PivotFolding.h"
 #include "orvane/import/conversion/SceneBuilder.h"
 
 #include "meridane/base/Files.h"
@@ -60,8 +61,9 @@ std::string failureText(const std::string& path, const Assimp::Importer& importe
 
 } // namespace
 
-ModelReader::ModelReader()
+ModelReader::ModelReader(const ImportOptions& options)
     : m_importer(std::make_unique<Assimp::Importer>())
+    , m_options(options)
 {
 }
 
@@ -80,7 +82,7 @@ NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
     m_importer->SetIOHandler(files);
     NxRef<NxGroup> scene;
     if (const aiScene* const model = readMended(path, *files, error))
-        scene = SceneBuilder(*model, path, m_warnings).build(error);
+        scene = SceneBuilder(*model, path, m_options, m_warnings).build(error);
     if (!scene)
         error = path + ": " + error;
     return scene;
@@ -106,6 +108,7 @@ const aiScene* ModelReader::readMended(const std::string& path, ModelFiles& file
         mendModel(mended, m_warnings);
         mendVertexColors(mended, m_colorStorage, m_warnings);
         mendMaterials(mended, m_warnings);
+        foldPivots(*mended.mRootNode);
         if (model->mNumMeshes > 0 && !hasContent(*model)) {
             error = "nothing in the model can be shown";
             for (const std::string& warning : warnings())

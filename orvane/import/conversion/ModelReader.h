@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orvane/import/conversion/ColorMending.h"
+#include "orvane/import/conversion/ImportOptions.h"
 #include "orvane/import/conversion/ImportWarnings.h"
 
 #include "meridane/scene/fields/NxRef.h"
@@ -24,7 +25,7 @@ class ModelFiles;
 /// scene; a process that is about to exit can skip it.
 class ModelReader {
 public:
-    ModelReader();
+    explicit ModelReader(const ImportOptions& options = {});
     ~ModelReader();
 
     /// Returns the scene, or null; then `error` begins with the file's name and says why. Files of textures aren't
@@ -37,6 +38,7 @@ private:
     [[nodiscard]] const aiScene* readMended(const std::string& path, ModelFiles& files, std::string& error);
 
     std::unique_ptr<Assimp::Importer> m_importer;
+    ImportOptions m_options;
     ImportWarnings m_warnings;
     ColorStorage m_colorStorage = ColorStorage::Usual;
 };

@@ -5,6 +5,7 @@
 #include "orvane/import/conversion/Lists.h"
 #include "orvane/import/conversion/MaterialConversion.h"
 #include "orvane/import/conversion/MeshConversion.h"
+#include "orvane/import/conversion/Names.h"
 #include "orvane/import/conversion/SourceFormat.h"
 #include "orvane/import/conversion/Texts.h"
 #include "orvane/import/conversion/TransformConversion.h"
@@ -30,8 +31,10 @@ bool isPlain(const aiNode& node)
 
 } // namespace
 
-SceneBuilder::SceneBuilder(const aiScene& model, const std::string& path, ImportWarnings& warnings)
+SceneBuilder::SceneBuilder(
+    const aiScene& model, const std::string& path, const ImportOptions& options, ImportWarnings& warnings)
     : m_model(model)
+    , m_options(options)
     , m_fileName(std::filesystem::path(path).filename().string())
     , m_warnings(warnings)
     , m_textureFiles(path)
@@ -59,10 +62,13 @@ NxRef<NxGroup> SceneBuilder::build(std::string& error)
 // Many readers add a node above those of the model.
 bool SceneBuilder::isMadeUp(const aiNode& root) const
 {
-    constexpr std::array<std::string_view, 5> names{"", "ROOT", "RootNode", "Scene", "<BlenderRoot>"};
+    constexpr std::array<std::string_view, 3> names{"ROOT", "RootNode", "Scene"};
     const std::string_view name = viewOf(root.mName);
-    const bool named = std::find(names.begin(), names.end(), name) == names.end() && name != m_fileName;
-    return !named && root.mTransformation.IsIdentity() && !m_cameras.contains(name) && !m_lights.contains(name);
+    // A node that has no name in its file is a group like others.
+    const bool isGroup = m_options.keepsGroups && !name.empty() && !name.starts_with('<');
+    const bool isNamed = (isGroup || !isMadeUpName(name)) && std::find(names.begin(), names.end(), name) == names.end()
+        && name != m_fileName;
+    return !isNamed && root.mTransformation.IsIdentity() && !m_cameras.contains(name) && !m_lights.contains(name);
 }
 
 void SceneBuilder::addLights(NxGroup& scene, const aiNode& node, const aiMatrix4x4& above)
@@ -81,13 +87,38 @@ void SceneBuilder::addLights(NxGroup& scene, const aiNode& node, const aiMatrix4
         addLights(scene, *child, worldTransform);
 }
 
-bool SceneBuilder::addNode(NxGroup& parent, const aiNode& node, int depth)
+bool SceneBuilder::isEmptyLink(const aiNode& node) const
 {
+    const std::string_view name = viewOf(node.mName);
+    return node.mNumMeshes == 0 && listOf(node.mChildren, node.mNumChildren).size() == 1
+        && node.mTransformation.IsIdentity() && !m_lights.contains(name) && !m_cameras.contains(name);
+}
+
+// The last group of a chain remains if it has a name.
+bool SceneBuilder::isJoined(const aiNode& node) const
+{
+    return !m_options.keepsGroups && isEmptyLink(node)
+        && (isMadeUpName(viewOf(node.mName)) || isEmptyLink(*node.mChildren[0]));
+}
+
+VbString SceneBuilder::nameOf(const aiNode& node) const
+{
+    const VbString name = toName(node.mName);
+    return !name.isEmpty() || node.mNumMeshes == 0 ? name : toName(m_model.mMeshes[node.mMeshes[0]]->mName);
+}
+
+bool SceneBuilder::addNode(NxGroup& parent, const aiNode& node, int depth, const VbString& nameAbove)
+{
+    if (isJoined(node)) {
+        const VbString name = toName(node.mName);
+        return addNode(parent, *node.mChildren[0], depth, name.isEmpty() ? nameAbove : name);
+    }
     // A node that only positions a light or a camera isn't needed: the light or camera has the position.
     if (isPlain(node) && (m_lights.contains(viewOf(node.mName)) || addPlainCamera(parent, node)))
         return true;
     const NxRef<NxGroup> group = makeTransform(node.mTransformation);
-    group->setName(toText(node.mName));
+    const VbString name = nameOf(node);
+    group->setName(name.isEmpty() ? nameAbove : name);
     parent.addChild(group.get());
     return addContent(*group, node, depth + 1);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orvane/import/conversion/ImportOptions.h"
 #include "orvane/import/conversion/ImportWarnings.h"
 #include "orvane/import/conversion/TextureSearch.h"
 
@@ -28,19 +29,23 @@ namespace orvane {
 /// Builds our scene from a model that the import library has read.
 ///
 /// Lights come first, at the top of the scene, since they shine on what follows. A node becomes a transform with the
-/// node's name. It contains a group for each of its meshes, with material and texture before the mesh. Meshes,
+/// node's name, or that of its first mesh. Of groups that have one child each and no effect, one with a name remains.
+/// A node contains a group for each of its meshes, with material and texture before the mesh. Meshes,
 /// materials and textures that the model uses several times are shared.
 class SceneBuilder {
 public:
     /// Model and warnings must outlive the builder. `path` is that of the model's file.
-    SceneBuilder(const aiScene& model, const std::string& path, ImportWarnings& warnings);
+    SceneBuilder(const aiScene& model, const std::string& path, const ImportOptions& options, ImportWarnings& warnings);
 
     /// The scene, or null; then `error` says what a scene can't contain.
     [[nodiscard]] NxRef<NxGroup> build(std::string& error);
 
 private:
     void addLights(NxGroup& scene, const aiNode& node, const aiMatrix4x4& above);
-    bool addNode(NxGroup& parent, const aiNode& node, int depth);
+    bool addNode(NxGroup& parent, const aiNode& node, int depth, const VbString& nameAbove = {});
+    [[nodiscard]] bool isEmptyLink(const aiNode& node) const;
+    [[nodiscard]] bool isJoined(const aiNode& node) const;
+    [[nodiscard]] VbString nameOf(const aiNode& node) const;
     bool addContent(NxGroup& group, const aiNode& node, int depth);
     /// Replaces a node that only positions a camera by the camera. Returns false for other nodes.
     bool addPlainCamera(NxGroup& parent, const aiNode& node);
@@ -55,6 +60,7 @@ private:
     using TextureKey = std::tuple<std::string, int, int>; // path and wraps
 
     const aiScene& m_model;
+    ImportOptions m_options;
     std::string m_fileName; // without a folder
     ImportWarnings& m_warnings;
     TextureSearch m_textureFiles;

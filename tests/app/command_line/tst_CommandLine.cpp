@@ -191,9 +191,9 @@ private Q_SLOTS:
     void helpNamesEveryOption()
     {
         const QString help = CommandLine::helpText();
-        for (const char* const option :
-            {"--plugin", "--profile", "--select", "--set", "--get", "--list", "--list-extensions", "--diff", "--json",
-                "--export", "--screenshot", "--size", "--watch", "--no-settings", "--version", "--help"})
+        for (const char* const option : {"--plugin", "--profile", "--select", "--set", "--get", "--list",
+                 "--list-extensions", "--diff", "--json", "--export", "--screenshot", "--size", "--watch",
+                 "--keep-groups", "--no-settings", "--version", "--help"})
             QVERIFY2(help.contains(QLatin1String(option)), option);
     }
 };

@@ -2,6 +2,7 @@
 #include "app/files/ImportJobCase.h"
 #include "import/Gltf.h"
 
+#include "meridane/base/NxPreferences.h"
 #include "meridane/scene/file/NxSceneWriter.h"
 
 #include <QBuffer>
@@ -92,6 +93,24 @@ private Q_SLOTS:
         QCOMPARE(job.warningText(),
             fileName + QStringLiteral(": left out faces with an index out of range in the meshes: \"bad\""));
         QCOMPARE(job.warnings().size(), 1);
+    }
+
+    void aPreferenceKeepsGroupsOfOneChild()
+    {
+        const QString fileName = m_folder.filePath(QStringLiteral("groups.gltf"));
+        writeFile(fileName,
+            gltf::model(R"({"name": "file", "children": [1]}, {"name": "robot", "children": [2]},
+            {"name": "arm", "mesh": 0})",
+                R"("scenes": [{"nodes": [0]}],)"));
+        for (const char* keeps : {"0", "1"}) {
+            NxPreferences::set("ORVANE_KEEP_GROUPS", keeps);
+            ImportJob job(fileName, realHelper());
+            const JobRecord record(job);
+            job.start();
+            QVERIFY(record.waitForEnd());
+            QCOMPARE(job.takeScene()->getChild(0)->getName(), VbString(*keeps == '1' ? "file" : "robot"));
+        }
+        NxPreferences::unset("ORVANE_KEEP_GROUPS");
     }
 
     void theSceneIsGivenOnce()

@@ -275,7 +275,7 @@ private Q_SLOTS:
     {
         QByteArray nodes;
         for (int index = 0; index < 600; ++index)
-            nodes += "{\"name\": \"n\", \"children\": [" + QByteArray::number(index + 1) + "]}, ";
+            nodes += "{\"name\": \"n\", \"scale\": [2, 1, 1], \"children\": [" + QByteArray::number(index + 1) + "]}, ";
         nodes += "{\"name\": \"last\", \"mesh\": 0}";
         QVERIFY(!read(gltf::model(nodes, R"("scenes": [{"nodes": [0]}], )")));
         QVERIFY2(m_error.contains(QStringLiteral("nodes are nested more than 512 deep")), qPrintable(m_error));
