@@ -1,7 +1,6 @@
 #include "gl/DrawingBench.h"
 
 #include "meridane/scene/nodes/NxComplexity.h"
-#include "meridane/scene/nodes/NxDirectionalLight.h"
 #include "meridane/scene/nodes/NxMaterial.h"
 #include "meridane/scene/nodes/NxTransform.h"
 
@@ -217,20 +216,6 @@ private Q_SLOTS:
         COMPARE_PIXEL(picture, -0.5 + 0.12, 0, black);
         COMPARE_PIXEL(picture, 0, 0.5, green);
         COMPARE_PIXEL(picture, 0.5, 0, black);
-    }
-
-    void aPointCloudShowsItsColors()
-    {
-        // Without indices, and without normals: the lights don't count.
-        const auto mesh = meshOf({{-0.5F, 0, 0}, {0.5F, 0, 0}, {0, 0.5F, 0}}, NxMesh::POINTS);
-        mesh->colors.setValues({{1, 0, 0, 1}, {0, 1, 0, 1}, {0, 0, 1, 1}});
-        const auto light = make<NxDirectionalLight>();
-        light->direction.setValue(VbVec3f(0, 0, 1));
-        const QImage picture = pictureOf({light.get(), plain(1, 1, 1).get(), mesh.get()});
-        COMPARE_PIXEL(picture, -0.5, 0, red);
-        COMPARE_PIXEL(picture, 0.5, 0, green);
-        COMPARE_PIXEL(picture, 0, 0.5, blue);
-        COMPARE_PIXEL(picture, 0, 0, black);
     }
 
     void colorsOfCornersReplaceTheMaterial()

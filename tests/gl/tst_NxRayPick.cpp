@@ -259,24 +259,6 @@ private Q_SLOTS:
         QVERIFY(!NxRayPick(rayAt(x + 0.001F, y + 0.001F)).pick(*m_scene));
     }
 
-    void meetsThePointsOfACloud()
-    {
-        const NxRef<NxMesh> mesh = new NxMesh;
-        mesh->primitive.setValue(NxMesh::POINTS);
-        mesh->positions.setValues(std::vector<VbVec3f>{{0, 0, 0}, {1, 0, 0}, {2, 0, 0}}); // without indices
-        m_scene->addChild(mesh.get());
-        for (const float x : {0.F, 1.F, 2.F}) {
-            NxRayPick pick(rayAt(x + 0.05F, 0));
-            pick.setTolerance(0.1F, 0);
-            const auto hit = pick.pick(*m_scene);
-            QVERIFY(hit.has_value());
-            QCOMPARE(hit->primitive, static_cast<int>(x));
-        }
-        NxRayPick between(rayAt(0.5F, 0));
-        between.setTolerance(0.1F, 0);
-        QVERIFY(!between.pick(*m_scene));
-    }
-
     void measuresLinesAsThePictureShowsThem()
     {
         const NxRef<NxMesh> mesh(new NxMesh);

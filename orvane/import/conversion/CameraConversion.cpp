@@ -1,7 +1,7 @@
 #include "orvane/import/conversion/CameraConversion.h"
 
-#include "orvane/import/conversion/Names.h"
 #include "orvane/import/conversion/TransformConversion.h"
+#include "orvane/import/mending/Names.h"
 
 #include "meridane/scene/nodes/NxOrthographicCamera.h"
 #include "meridane/scene/nodes/NxPerspectiveCamera.h"

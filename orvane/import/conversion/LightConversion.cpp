@@ -1,7 +1,7 @@
 #include "orvane/import/conversion/LightConversion.h"
 
-#include "orvane/import/conversion/Names.h"
 #include "orvane/import/conversion/TransformConversion.h"
+#include "orvane/import/mending/Names.h"
 
 #include "meridane/scene/nodes/NxDirectionalLight.h"
 #include "meridane/scene/nodes/NxPointLight.h"

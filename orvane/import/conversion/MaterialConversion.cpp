@@ -1,7 +1,7 @@
 #include "orvane/import/conversion/MaterialConversion.h"
 
-#include "orvane/import/conversion/Names.h"
-#include "orvane/import/conversion/Texts.h"
+#include "orvane/import/mending/Names.h"
+#include "orvane/import/mending/Texts.h"
 #include "orvane/import/pictures/ImageCodec.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "orvane/import/conversion/MeshConversion.h"
 
-#include "orvane/import/conversion/Names.h"
-#include "orvane/import/conversion/Texts.h"
 #include "orvane/import/conversion/TransformConversion.h"
+#include "orvane/import/mending/Names.h"
+#include "orvane/import/mending/Texts.h"
 
 #include <algorithm>
 #include <cmath>

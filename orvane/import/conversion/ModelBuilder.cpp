@@ -4,8 +4,8 @@
 #include "orvane/import/conversion/LightConversion.h"
 #include "orvane/import/conversion/MaterialConversion.h"
 #include "orvane/import/conversion/MeshConversion.h"
-#include "orvane/import/conversion/Texts.h"
 #include "orvane/import/conversion/TransformConversion.h"
+#include "orvane/import/mending/Texts.h"
 #include "orvane/import/pictures/ImageCodec.h"
 
 #include "meridane/scene/nodes/NxSwitch.h"

@@ -1,10 +1,10 @@
 #include "orvane/import/conversion/ModelReader.h"
 
 #include "orvane/import/conversion/ModelFiles.h"
-#include "orvane/import/conversion/ModelMending.h"
-#include "orvane/import/conversion/ObjMending.h"
-#include "orvane/import/conversion/PivotFolding.h"
 #include "orvane/import/conversion/SceneBuilder.h"
+#include "orvane/import/mending/ModelMending.h"
+#include "orvane/import/mending/ObjMending.h"
+#include "orvane/import/mending/PivotFolding.h"
 
 #include "meridane/base/Files.h"
 

@@ -4,7 +4,7 @@
 #include "orvane/import/conversion/MemoryFiles.h"
 #include "orvane/import/conversion/ModelBuilder.h"
 #include "orvane/import/conversion/ModelFormats.h"
-#include "orvane/import/conversion/Texts.h"
+#include "orvane/import/mending/Texts.h"
 
 #include <algorithm>
 #include <assimp/Exporter.hpp>

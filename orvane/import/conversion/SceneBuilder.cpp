@@ -2,13 +2,13 @@
 
 #include "orvane/import/conversion/CameraConversion.h"
 #include "orvane/import/conversion/LightConversion.h"
-#include "orvane/import/conversion/Lists.h"
 #include "orvane/import/conversion/MaterialConversion.h"
 #include "orvane/import/conversion/MeshConversion.h"
-#include "orvane/import/conversion/Names.h"
-#include "orvane/import/conversion/SourceFormat.h"
-#include "orvane/import/conversion/Texts.h"
 #include "orvane/import/conversion/TransformConversion.h"
+#include "orvane/import/mending/Lists.h"
+#include "orvane/import/mending/Names.h"
+#include "orvane/import/mending/SourceFormat.h"
+#include "orvane/import/mending/Texts.h"
 
 #include "meridane/scene/file/NxSceneReader.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "orvane/import/conversion/ImportOptions.h"
-#include "orvane/import/conversion/ImportWarnings.h"
 #include "orvane/import/conversion/TextureSearch.h"
+#include "orvane/import/mending/ImportWarnings.h"
 
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxCamera.h"

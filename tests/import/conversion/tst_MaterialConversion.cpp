@@ -1,5 +1,5 @@
 #include "orvane/import/conversion/MaterialConversion.h"
-#include "orvane/import/conversion/Texts.h"
+#include "orvane/import/mending/Texts.h"
 
 #include <QTest>
 

@@ -2,8 +2,8 @@
 #include "import/Gltf.h"
 #include "import/conversion/ReadModels.h"
 
-#include "orvane/import/conversion/Names.h"
-#include "orvane/import/conversion/PivotFolding.h"
+#include "orvane/import/mending/Names.h"
+#include "orvane/import/mending/PivotFolding.h"
 
 #include "meridane/scene/file/NxScenePath.h"
 #include "meridane/scene/nodes/NxMaterial.h"

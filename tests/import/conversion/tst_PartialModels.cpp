@@ -1,6 +1,6 @@
 #include "import/conversion/ReadModels.h"
 
-#include "orvane/import/conversion/ObjMending.h"
+#include "orvane/import/mending/ObjMending.h"
 
 #include "meridane/scene/nodes/NxMesh.h"
 

@@ -1,7 +1,7 @@
 #include "import/Collada.h"
 #include "import/conversion/ReadModels.h"
 
-#include "orvane/import/conversion/ColorMending.h"
+#include "orvane/import/mending/ColorMending.h"
 
 #include "meridane/scene/nodes/NxMaterial.h"
 #include "meridane/scene/nodes/NxMesh.h"

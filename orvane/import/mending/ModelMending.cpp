@@ -1,7 +1,7 @@
-#include "orvane/import/conversion/ModelMending.h"
+#include "orvane/import/mending/ModelMending.h"
 
-#include "orvane/import/conversion/Lists.h"
-#include "orvane/import/conversion/Texts.h"
+#include "orvane/import/mending/Lists.h"
+#include "orvane/import/mending/Texts.h"
 
 #include <algorithm>
 #include <string>

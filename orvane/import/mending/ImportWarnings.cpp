@@ -1,4 +1,4 @@
-#include "orvane/import/conversion/ImportWarnings.h"
+#include "orvane/import/mending/ImportWarnings.h"
 
 #include <algorithm>
 

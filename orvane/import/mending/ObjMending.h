@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/import/conversion/ImportWarnings.h"
+#include "orvane/import/mending/ImportWarnings.h"
 
 #include <string>
 #include <string_view>

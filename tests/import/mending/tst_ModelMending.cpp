@@ -1,4 +1,4 @@
-#include "orvane/import/conversion/ModelMending.h"
+#include "orvane/import/mending/ModelMending.h"
 
 #include <QTest>
 

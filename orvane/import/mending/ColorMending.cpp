@@ -1,7 +1,7 @@
-#include "orvane/import/conversion/ColorMending.h"
+#include "orvane/import/mending/ColorMending.h"
 
-#include "orvane/import/conversion/Lists.h"
-#include "orvane/import/conversion/Texts.h"
+#include "orvane/import/mending/Lists.h"
+#include "orvane/import/mending/Texts.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/import/conversion/Texts.h"
+#include "orvane/import/mending/Texts.h"
 
 #include <string_view>
 

@@ -1,6 +1,6 @@
-#include "orvane/import/conversion/Names.h"
+#include "orvane/import/mending/Names.h"
 
-#include "orvane/import/conversion/Texts.h"
+#include "orvane/import/mending/Texts.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "orvane/import/conversion/ObjMending.h"
+#include "orvane/import/mending/ObjMending.h"
 
 #include <algorithm>
 #include <array>
