@@ -17,15 +17,15 @@ class QueryTree;
 
 /// What a user searches for, the same words for trees, tables, lists and the command line.
 ///
-/// | words | what they match |
-/// |---|---|
-/// | `arm` | a name of a node, a field or a class in which these letters occur in this order; a value that contains
-/// them | | `"left arm"` | a name or a value that contains this text | | `/arm[0-9]+/` | a name or a value in which the
-/// regular expression is found | | `t:Mesh` | a node of this class or of one that derives from it, and its fields; a
-/// field of this class (`t:Vec3f`) | | `f:radius` | a field whose name has these letters in this order | | `=0.5`
-/// `!=0.5` `<1` `<=1` `>1` `>=1` | a field with such a number; `=` and `!=` also compare texts | | `~text` | a field
-/// whose value contains this text | | `changed`, `ignored` | a field that differs from its default, or that is ignored
-/// |
+/// - `arm`: a name of a node or a field, or a class of fields, in which these letters occur in this order; a class of
+///   nodes or a value that contains them.
+/// - `"left arm"`: a name or a value that contains this text.
+/// - `/arm[0-9]+/`: a name or a value in which the regular expression is found.
+/// - `t:Mesh`: a node of this class or of one that derives from it, and its fields; a field of this class (`t:Vec3f`).
+/// - `f:radius`: a field whose name has these letters in this order.
+/// - `=0.5` `!=0.5` `<1` `<=1` `>1` `>=1`: a field with such a number; `=` and `!=` also compare texts.
+/// - `~text`: a field whose value contains this text.
+/// - `changed`, `ignored`: a field that differs from its default, or that is ignored.
 ///
 /// Words side by side must all match; `and`, `or`, `not` and brackets combine them. `not` binds closest, `or` least.
 /// Letters match in either case. A node matches words about fields if one field of it matches all that are side by

@@ -166,6 +166,7 @@ private Q_SLOTS:
             {"\"lf\"", ""},
             {"left arm", "yes"},
             {"extended", "yes"},
+            {"xtnd", ""},
             {"/^left/", "yes"},
             {"/left$/", ""},
             {"t:ExtendedProbe", "yes"},

@@ -187,7 +187,8 @@ bool fits(const Condition& condition, const NodeFacts& node)
     const auto part = [&](const Condition& inner) { return fits(inner, node); };
     switch (condition.kind) {
     case Kind::Name:
-        return lettersInOrder(node.name, condition.word) || lettersInOrder(node.classes.front(), condition.word);
+        return lettersInOrder(node.name, condition.word)
+            || lower(node.classes.front()).find(condition.word) != std::string::npos;
     case Kind::Class:
         return std::ranges::find(node.classes, condition.word) != node.classes.end();
     case Kind::Or:

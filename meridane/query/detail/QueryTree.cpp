@@ -92,7 +92,7 @@ bool QueryTree::matches(const NxNode& node) const
     return std::visit(
         Overloaded{
             [&](const Name& name) {
-                return name.pattern.matchesName(node.getName().view()) || name.pattern.matchesName(node.getClassName());
+                return name.pattern.matchesName(node.getName().view()) || name.pattern.matchesText(node.getClassName());
             },
             [&](const Class& type) { return type.pattern.matches(node); },
             [&](const All& all) {

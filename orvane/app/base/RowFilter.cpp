@@ -4,9 +4,9 @@
 
 #include <algorithm>
 
-void RowFilter::setText(const QString& text)
+void RowFilter::setQuery(const meridane::Query& query)
 {
-    m_words = text.simplified().split(u' ', Qt::SkipEmptyParts);
+    m_query = query;
     m_found.clear();
     m_next = 0;
 }
@@ -19,9 +19,8 @@ std::vector<std::uint32_t> RowFilter::find(std::size_t count, const RowText& tex
     while (m_next < count && !slice.isSpent()) {
         const std::size_t end = std::min(count, m_next + rowsAtOnce);
         for (; m_next < end; ++m_next) {
-            const QString row = text(m_next);
-            if (std::all_of(m_words.begin(), m_words.end(),
-                    [&row](const QString& word) { return row.contains(word, Qt::CaseInsensitive); }))
+            const QByteArray row = text(m_next).toUtf8();
+            if (m_query.matchesText({row.constData(), static_cast<std::size_t>(row.size())}))
                 found.push_back(static_cast<std::uint32_t>(m_next));
         }
     }

@@ -1,21 +1,22 @@
 #pragma once
 
+#include "meridane/query/Query.h"
+
 #include <QString>
-#include <QStringList>
 
 #include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <vector>
 
-/// The rows of a long list that contain all words of a text, in any case of letters. They are found in slices.
+/// The rows of a long list that match a query for rows. They are found in slices.
 class RowFilter {
 public:
     using RowText = std::function<QString(std::size_t row)>;
 
-    /// Forgets what was found. Without words, all rows are shown and none is found.
-    void setText(const QString& text);
-    [[nodiscard]] bool isOn() const noexcept { return !m_words.isEmpty(); }
+    /// Forgets what was found. With the empty query, all rows are shown and none is found.
+    void setQuery(const meridane::Query& query);
+    [[nodiscard]] bool isOn() const noexcept { return !m_query.isEmpty(); }
 
     /// The rows found, in their order.
     [[nodiscard]] const std::vector<std::uint32_t>& found() const noexcept { return m_found; }
@@ -35,7 +36,7 @@ public:
     void removeFirst(std::size_t rows);
 
 private:
-    QStringList m_words;
+    meridane::Query m_query;
     std::vector<std::uint32_t> m_found;
     std::size_t m_next = 0; // to be looked at
 };

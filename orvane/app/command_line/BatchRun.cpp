@@ -4,6 +4,7 @@
 #include "orvane/app/command_line/ClassListing.h"
 #include "orvane/app/command_line/DifferenceListing.h"
 #include "orvane/app/command_line/FieldAccess.h"
+#include "orvane/app/command_line/FoundPlaces.h"
 #include "orvane/app/command_line/SceneListing.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/files/FileJobs.h"
@@ -152,6 +153,10 @@ Result<> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
         if (!text)
             return Failure{text.error()};
         m_output << text.value() << '\n';
+    }
+    for (const QString& search : m_commandLine.searches) {
+        if (auto found = FoundPlaces(scene.get(), m_output).print(search); !found)
+            return found;
     }
     if (m_commandLine.list)
         SceneListing(scene.get(), m_output).print();

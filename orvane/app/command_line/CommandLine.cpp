@@ -1,5 +1,7 @@
 #include "orvane/app/command_line/CommandLine.h"
 
+#include "orvane/app/command_line/FoundPlaces.h"
+
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
@@ -29,6 +31,10 @@ struct Options {
         QStringLiteral("Set a field from its text form, in the order given; repeatable."), QStringLiteral("PATH=TEXT")};
     QCommandLineOption get{
         QStringLiteral("get"), QStringLiteral("Print a field's value; repeatable."), QStringLiteral("PATH")};
+    QCommandLineOption find{QStringLiteral("find"),
+        QStringLiteral("Print the path of each node that matches, or of each field, such as 't:Mesh hand' or 'f:radius "
+                       ">1'; repeatable. docs/query.md describes the words."),
+        QStringLiteral("QUERY")};
     QCommandLineOption list{QStringLiteral("list"),
         QStringLiteral("Print each node with its class and each field with its type and value. A node that is "
                        "in several places is printed in full once, then with the path of the first place.")};
@@ -63,8 +69,8 @@ struct Options {
 
     void addTo(QCommandLineParser& parser) const
     {
-        parser.addOptions({plugin, profile, select, set, get, list, diff, describe, json, listExtensions, exportTo,
-            screenshot, size, watch, keepGroups, noSettings, version, help});
+        parser.addOptions({plugin, profile, select, set, get, find, list, diff, describe, json, listExtensions,
+            exportTo, screenshot, size, watch, keepGroups, noSettings, version, help});
         parser.addPositionalArgument(QStringLiteral("file"),
             QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
         parser.addPositionalArgument(
@@ -126,8 +132,8 @@ Result<> checkFiles(const QStringList& files, bool diff)
 
 Result<> checkDescribe(const QCommandLineParser& parser, const Options& options)
 {
-    for (const QCommandLineOption& option : {options.select, options.set, options.get, options.list, options.diff,
-             options.listExtensions, options.exportTo, options.screenshot, options.size, options.watch}) {
+    for (const QCommandLineOption& option : {options.select, options.set, options.get, options.find, options.list,
+             options.diff, options.listExtensions, options.exportTo, options.screenshot, options.size, options.watch}) {
         if (parser.isSet(option))
             return Failure{
                 QStringLiteral("--describe opens no scene, so it can't be used with %1.").arg(nameOf(option))};
@@ -141,8 +147,8 @@ Result<> checkWatch(const QCommandLineParser& parser, const Options& options)
 {
     if (!parser.isSet(options.watch))
         return {};
-    for (const QCommandLineOption& option :
-        {options.get, options.list, options.diff, options.listExtensions, options.exportTo, options.screenshot}) {
+    for (const QCommandLineOption& option : {options.get, options.find, options.list, options.diff,
+             options.listExtensions, options.exportTo, options.screenshot}) {
         if (parser.isSet(option))
             return Failure{QStringLiteral("--watch needs a window that stays open, so it can't be used with %1.")
                                .arg(nameOf(option))};
@@ -156,13 +162,13 @@ Result<> checkWatch(const QCommandLineParser& parser, const Options& options)
 Result<> checkUse(const QCommandLineParser& parser, const Options& options)
 {
     for (const QCommandLineOption& option : {options.plugin, options.profile, options.select, options.set, options.get,
-             options.exportTo, options.screenshot, options.size}) {
+             options.find, options.exportTo, options.screenshot, options.size}) {
         if (parser.values(option).contains(QString()))
             return Failure{QStringLiteral("%1 expects %2, not an empty text.").arg(nameOf(option), option.valueName())};
     }
     // Names of files may be any bytes.
     for (const QCommandLineOption& option :
-        {options.plugin, options.profile, options.select, options.set, options.get}) {
+        {options.plugin, options.profile, options.select, options.set, options.get, options.find}) {
         const QStringList values = parser.values(option);
         if (!std::all_of(values.begin(), values.end(), [](const QString& value) { return value.isValidUtf16(); }))
             return Failure{QStringLiteral("%1 expects UTF-8.").arg(nameOf(option))};
@@ -183,8 +189,8 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
 
 bool CommandLine::isBatch() const
 {
-    const bool asksForOutput
-        = describe || list || diff || listExtensions || !queries.isEmpty() || !exportFiles.isEmpty();
+    const bool asksForOutput = describe || list || diff || listExtensions || !queries.isEmpty() || !searches.isEmpty()
+        || !exportFiles.isEmpty();
     return asksForOutput && screenshotFile.isEmpty();
 }
 
@@ -226,6 +232,7 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
     result.profile = parser.value(options.profile);
     result.select = parser.value(options.select);
     result.queries = parser.values(options.get);
+    result.searches = parser.values(options.find);
     result.exportFiles = parser.values(options.exportTo);
     result.screenshotFile = parser.value(options.screenshot);
     result.list = parser.isSet(options.list);
@@ -241,6 +248,10 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
             return Failure{assignment.error()};
         result.assignments.append(assignment.value());
     }
+    for (const QString& search : result.searches) {
+        if (const auto query = FoundPlaces::parse(search); !query)
+            return Failure{query.error()};
+    }
     if (parser.isSet(options.size)) {
         const auto size = parseSize(parser.value(options.size));
         if (!size)
@@ -248,10 +259,11 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
         result.size = size.value();
     }
 
-    const bool needsScene = result.list || !result.queries.isEmpty() || !result.assignments.isEmpty()
-        || !result.select.isEmpty() || !result.exportFiles.isEmpty();
+    const bool needsScene = result.list || !result.queries.isEmpty() || !result.searches.isEmpty()
+        || !result.assignments.isEmpty() || !result.select.isEmpty() || !result.exportFiles.isEmpty();
     if (needsScene && result.file.isEmpty())
-        return Failure{QStringLiteral("A file is missing: --get, --set, --list, --select and --export work on one.")};
+        return Failure{
+            QStringLiteral("A file is missing: --get, --set, --find, --list, --select and --export work on one.")};
     return result;
 }
 

@@ -26,7 +26,8 @@ struct CommandLine {
     QString profile;
     QString select;
     QList<Assignment> assignments;
-    QStringList queries;
+    QStringList queries; // paths of fields
+    QStringList searches;
     QStringList exportFiles;
     QString screenshotFile;
     QSize size;

@@ -38,7 +38,7 @@ void DifferenceModel::setDifferences(NxSceneDifferences differences)
     beginResetModel();
     watchRow(-1);
     m_filtering.stop();
-    m_filter.setText({});
+    m_filter.setQuery({});
     m_texts.clear();
     m_differences = std::move(differences);
     endResetModel();
@@ -55,11 +55,11 @@ std::size_t DifferenceModel::placeOf(int row) const
     return m_filter.isOn() ? m_filter.found()[place] : place;
 }
 
-void DifferenceModel::setFilter(const QString& text)
+void DifferenceModel::setFilter(const meridane::Query& query)
 {
     beginResetModel();
     watchRow(-1);
-    m_filter.setText(text);
+    m_filter.setQuery(query);
     endResetModel();
     if (m_filter.isOn()) {
         m_filtering.start(0, this);

@@ -29,9 +29,8 @@ public:
     /// The difference of a row that exists.
     [[nodiscard]] const NxSceneDifference& difference(int row) const;
 
-    /// Shows the rows that contain all words of the text, in any case of letters. The rows come in slices; `filtered`
-    /// follows when all are there.
-    void setFilter(const QString& text);
+    /// Shows the rows that match a query for rows. They come in slices; `filtered` follows when all are there.
+    void setFilter(const meridane::Query& query);
     /// Updates the row when the field of this scene changes; an invalid row ends that. One row at a time.
     void watchRow(int row);
 

@@ -6,12 +6,11 @@
 #include "orvane/app/compare/DifferenceModel.h"
 #include "orvane/app/compare/DifferenceText.h"
 #include "orvane/app/files/JobBar.h"
+#include "orvane/app/input/FilterLine.h"
 
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
-#include <QSignalBlocker>
 #include <QStackedLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -48,7 +47,7 @@ DifferencePanel::DifferencePanel(JobBar& jobBar, QWidget* parent)
     , m_model(new DifferenceModel(this))
     , m_view(new RowTable(this))
     , m_heading(new QLabel(this))
-    , m_filter(new QLineEdit(this))
+    , m_filter(new FilterLine(meridane::Query::Subject::Rows, this))
     , m_again(new QToolButton(this))
     , m_text(new QLabel(this))
     , m_pages(new QStackedLayout)
@@ -68,7 +67,8 @@ DifferencePanel::DifferencePanel(JobBar& jobBar, QWidget* parent)
     m_pages->addWidget(m_text);
     m_pages->addWidget(m_view);
     layout->addLayout(m_pages, 1);
-    connect(m_filter, &QLineEdit::textChanged, m_model, &DifferenceModel::setFilter);
+    connect(m_filter, &FilterLine::queryChanged, m_model, &DifferenceModel::setFilter);
+    connect(m_filter, &FilterLine::left, m_view, [this] { m_view->setFocus(); });
     connect(m_model, &DifferenceModel::filtered, this, &DifferencePanel::updateHeading);
     connect(m_again, &QToolButton::clicked, this, &DifferencePanel::againRequested);
     clear();
@@ -85,10 +85,8 @@ void DifferencePanel::buildTopLine(QWidget* page)
     m_heading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     line->addWidget(m_heading, 3);
     m_filter->setObjectName(QStringLiteral("comparisonFilter"));
-    m_filter->setPlaceholderText(tr("Filter"));
-    m_filter->setAccessibleName(tr("Filter"));
-    m_filter->setToolTip(tr("Shows the rows that contain all of these words"));
-    m_filter->setClearButtonEnabled(true);
+    m_filter->setToolTip(tr("Shows the rows that contain these words. not, or, brackets, \"texts with blanks\" and "
+                            "/regular expressions/ may be used."));
     m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
     m_filter->setMaximumWidth(fontMetrics().averageCharWidth() * 40);
     line->addWidget(m_filter, 1);
@@ -170,8 +168,7 @@ void DifferencePanel::sizeColumns()
 
 void DifferencePanel::showText(const QString& text)
 {
-    const QSignalBlocker blocker(m_filter);
-    m_filter->clear();
+    m_filter->reset();
     m_filter->setEnabled(false);
     m_text->setText(text);
     m_pages->setCurrentWidget(m_text);

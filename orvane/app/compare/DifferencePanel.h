@@ -9,9 +9,9 @@
 
 class CopyJob;
 class DifferenceModel;
+class FilterLine;
 class JobBar;
 class QLabel;
-class QLineEdit;
 class QStackedLayout;
 class QTableView;
 class QToolButton;
@@ -57,7 +57,7 @@ private:
     DifferenceModel* m_model;
     QTableView* m_view;
     QLabel* m_heading;
-    QLineEdit* m_filter;
+    FilterLine* m_filter;
     QToolButton* m_again;
     QLabel* m_text; // in place of rows
     QStackedLayout* m_pages;

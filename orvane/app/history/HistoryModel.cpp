@@ -45,10 +45,10 @@ void HistoryModel::setOrigin(const QString& text)
     updateRows();
 }
 
-void HistoryModel::setFilter(const QString& text)
+void HistoryModel::setFilter(const meridane::Query& query)
 {
     beginResetModel();
-    m_filter.setText(text);
+    m_filter.setQuery(query);
     endResetModel();
     if (m_filter.isOn())
         m_work.start(0, this);

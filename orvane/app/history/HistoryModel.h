@@ -30,9 +30,8 @@ public:
 
     /// Names the state before the first step, such as "Opened robot.mrd".
     void setOrigin(const QString& text);
-    /// Shows the rows that contain all words of the text, in any case of letters. The rows come in slices; `filtered`
-    /// follows when all are there.
-    void setFilter(const QString& text);
+    /// Shows the rows that match a query for rows. They come in slices; `filtered` follows when all are there.
+    void setFilter(const meridane::Query& query);
     [[nodiscard]] bool isFiltered() const noexcept { return m_filter.isOn(); }
 
     /// The position of a row that exists.

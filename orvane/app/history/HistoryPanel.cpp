@@ -5,6 +5,7 @@
 #include "orvane/app/history/HistoryModel.h"
 #include "orvane/app/history/PutBack.h"
 #include "orvane/app/history/StepTravel.h"
+#include "orvane/app/input/FilterLine.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/extender/OrvServices.h"
 #include "orvane/extender/OrvStepList.h"
@@ -14,7 +15,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QLocale>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
@@ -46,7 +46,7 @@ HistoryPanel::HistoryPanel(OrvServices& services, StepTravel& travel, MessageBar
     , m_messages(messages)
     , m_model(new HistoryModel(services, this))
     , m_view(new RowTable(this))
-    , m_filter(new QLineEdit(this))
+    , m_filter(new FilterLine(meridane::Query::Subject::Rows, this))
     , m_goTo(new QAction(tr("&Go to This State"), this))
     , m_putBack(new QAction(tr("&Put This Value Back"), this))
     , m_putBackButton(new QToolButton(this))
@@ -84,12 +84,12 @@ void HistoryPanel::buildTopLine(QWidget* page)
     auto* line = new QHBoxLayout(page);
     line->setContentsMargins(8, 4, 8, 4);
     m_filter->setObjectName(QStringLiteral("historyFilter"));
-    m_filter->setPlaceholderText(tr("Filter"));
-    m_filter->setAccessibleName(tr("Filter"));
-    m_filter->setToolTip(tr("Shows the steps that contain all of these words: in their name, or in a value"));
-    m_filter->setClearButtonEnabled(true);
+    m_filter->setToolTip(
+        tr("Shows the steps that contain these words: in their name, or in a value. not, or, brackets, "
+           "\"texts with blanks\" and /regular expressions/ may be used."));
     m_filter->setMaximumWidth(fontMetrics().averageCharWidth() * 50);
-    connect(m_filter, &QLineEdit::textChanged, m_model, &HistoryModel::setFilter);
+    connect(m_filter, &FilterLine::queryChanged, m_model, &HistoryModel::setFilter);
+    connect(m_filter, &FilterLine::left, m_view, [this] { m_view->setFocus(); });
     line->addWidget(m_filter, 1);
     line->addStretch();
     m_memory->setObjectName(QStringLiteral("historyMemory"));

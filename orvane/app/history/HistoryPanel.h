@@ -3,12 +3,12 @@
 #include <QTimer>
 #include <QWidget>
 
+class FilterLine;
 class HistoryModel;
 class MessageBar;
 class OrvServices;
 class QAction;
 class QLabel;
-class QLineEdit;
 class QModelIndex;
 class QSlider;
 class QTableView;
@@ -46,7 +46,7 @@ private:
     MessageBar& m_messages;
     HistoryModel* m_model;
     QTableView* m_view;
-    QLineEdit* m_filter;
+    FilterLine* m_filter;
     QAction* m_goTo;
     QAction* m_putBack;
     QToolButton* m_putBackButton;

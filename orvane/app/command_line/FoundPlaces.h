@@ -1,0 +1,37 @@
+#pragma once
+
+#include "orvane/app/base/Result.h"
+
+#include "meridane/query/Query.h"
+#include "meridane/scene/file/NxScenePathNamer.h"
+
+#include <QString>
+
+#include <vector>
+
+class NxGroup;
+class QTextStream;
+
+/// Prints what a query finds in a scene: the path of each node that matches, or of each field if the query has words
+/// about fields, one a line, in the order of the scene. A node that is in several places is printed with the first one.
+class FoundPlaces {
+public:
+    /// `scene` must outlive the object and must not change meanwhile.
+    FoundPlaces(NxGroup* scene, QTextStream& output)
+        : m_scene(scene)
+        , m_output(output)
+    {
+    }
+
+    /// The query of a text. A failure names the text and the place in it.
+    [[nodiscard]] static orvane::Result<meridane::Query> parse(const QString& text);
+    /// Prints line by line. Ends early when the output can't be written any more. Fails if nothing is found.
+    orvane::Result<> print(const QString& text);
+
+private:
+    void printPath(const std::vector<int>& places, const NxField* field);
+
+    NxGroup* m_scene;
+    QTextStream& m_output;
+    NxScenePathNamer m_namer;
+};
