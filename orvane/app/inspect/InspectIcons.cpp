@@ -22,21 +22,19 @@ QPen penOf(QIcon::Mode mode)
     return {inkOf(mode), lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
-/// The shackle of an open padlock has turned to the right.
-QIcon padlock(double shackleLeft)
+QIcon padlock(bool isOpen)
 {
-    return orvane::drawnIcon([shackleLeft](QPainter& painter, QIcon::Mode mode) {
+    return orvane::drawnIcon([isOpen](QPainter& painter, QIcon::Mode mode) {
         constexpr double shackleWidth = 5;
+        const double shackleLeft = isOpen ? 9.5 : 5.5; // turned to the right, or in the middle
         painter.setPen(penOf(mode));
-        QPainterPath shackle(QPointF(shackleLeft, 7));
+        QPainterPath shackle(QPointF(shackleLeft, 7.5));
         shackle.lineTo(shackleLeft, 5);
         shackle.arcTo(QRectF(shackleLeft, 2, shackleWidth, shackleWidth), 180, -180);
-        shackle.lineTo(shackleLeft + shackleWidth, 7);
-        painter.setClipRect(QRectF(0, 0, 16, 8.5));
+        shackle.lineTo(shackleLeft + shackleWidth, isOpen ? 5 : 7.5);
         painter.drawPath(shackle);
-        painter.setClipping(false);
-        painter.setBrush(inkOf(mode));
-        painter.drawRoundedRect(QRectF(3, 7.5, 10, 6.5), 1, 1);
+        painter.drawRoundedRect(QRectF(3, 7.5, 10, 6), 1, 1);
+        painter.drawLine(QPointF(8, 10), QPointF(8, 11));
     });
 }
 
@@ -57,14 +55,12 @@ QIcon arrow(bool toTheLeft)
 
 QIcon orvane::openPadlock()
 {
-    constexpr double toTheRight = 8.5;
-    return padlock(toTheRight);
+    return padlock(true);
 }
 
 QIcon orvane::closedPadlock()
 {
-    constexpr double inTheMiddle = 5.5;
-    return padlock(inTheMiddle);
+    return padlock(false);
 }
 
 QIcon orvane::backArrow()

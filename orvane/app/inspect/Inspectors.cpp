@@ -2,6 +2,7 @@
 
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/fields/FieldTableModel.h"
+#include "orvane/app/inspect/FieldTitleBars.h"
 #include "orvane/app/inspect/InspectorDock.h"
 #include "orvane/app/inspect/InspectorDocks.h"
 #include "orvane/app/inspect/LockAction.h"
@@ -34,6 +35,7 @@ Inspectors::Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* field
     m_lockAction->setObjectName(QStringLiteral("lockInspector"));
     m_lockAction->setShortcut(LockAction::keys());
     m_lockAction->addButtonTo(fields->headingTools());
+    new FieldTitleBars(session, tree, *m_lock, window);
     connect(m_docks, &InspectorDocks::added, this, &Inspectors::noteDock);
     connect(&session.services(), &OrvServices::selectedNodeChanged, m_lockAction, &LockAction::update);
     connect(m_lock, &NodeLock::lost, this, &Inspectors::showMessage);
