@@ -158,6 +158,18 @@ private Q_SLOTS:
         QTest::newRow("unknown extension") << QStringLiteral("a.foo") << QByteArray("foo") << unknown;
         QTest::newRow("no extension") << QStringLiteral("readme") << QByteArray("Read me.") << unknown;
         QTest::newRow("our own format") << QStringLiteral("a.mrd") << QByteArray("#mrd 1.0\n") << unknown;
+        QTest::newRow("text") << QStringLiteral("a.txt") << QByteArray("Once upon a time.\nv 1\nThe end.\n") << unknown;
+        QTest::newRow("materials") << QStringLiteral("a.mtl")
+                                   << QByteArray("# Blender MTL File: 'x.blend'\nnewmtl red\nKd 1 0 0\n") << unknown;
+        QTest::newRow("a scene of another kind")
+            << QStringLiteral("a.usda") << QByteArray("#usda 1.0\ndef Xform \"a\" {}\n") << unknown;
+        const QString otherFormat = broken + QStringLiteral("it isn't in the format of its extension");
+        for (const char* extension : {"glb", "blend", "ply", "stl", "off", "x", "md3"})
+            QTest::newRow(extension) << QStringLiteral("text.%1").arg(QLatin1String(extension))
+                                     << QByteArray("Once upon a time.\n").repeated(100) << otherFormat;
+        QTest::newRow("text as a model") << QStringLiteral("text.obj")
+                                         << QByteArray("Once upon a time.\n").repeated(100)
+                                         << QStringLiteral("nothing in the model can be shown");
         QTest::newRow("empty") << QStringLiteral("empty.obj") << QByteArray("") << broken;
         QTest::newRow("no JSON") << QStringLiteral("a.gltf") << QByteArray("{\"asset\": {\"version\": \"2.0\"")
                                  << broken;

@@ -9,6 +9,7 @@
 #include "meridane/base/Files.h"
 
 #include <algorithm>
+#include <array>
 #include <assimp/Importer.hpp>
 #include <filesystem>
 #include <string_view>
@@ -21,6 +22,8 @@ namespace {
 
 // Equal vertices are merged, so that formats without indices give the same meshes as formats with them.
 constexpr unsigned int steps = aiProcess_Triangulate | aiProcess_SortByPType | aiProcess_JoinIdenticalVertices;
+
+constexpr const char* unknownFormat = "this is in none of the model formats that can be read";
 
 bool hasModelExtension(const std::string& path)
 {
@@ -45,15 +48,23 @@ bool isForBadIndex(const Assimp::Importer& importer)
     return text.starts_with("OBJ: ") && text.find("index") != std::string_view::npos;
 }
 
+// Where no reader knows the content, the message of the library only repeats the path. Where one reader only takes the
+// content for its own, it misses what its files begin with.
+bool isForOtherFormat(std::string_view text)
+{
+    constexpr std::array<std::string_view, 6> signs{
+        "No suitable reader found", "magic", "Magic", "Header is invalid", "Header mismatch", "storage representation"};
+    return std::any_of(
+        signs.begin(), signs.end(), [&](std::string_view sign) { return text.find(sign) != std::string_view::npos; });
+}
+
 std::string failureText(const std::string& path, const Assimp::Importer& importer)
 {
     std::string text = importer.GetErrorString();
     if (text.empty())
         return "the model can't be read";
-    // The message of the library only repeats the path.
-    if (text.starts_with("No suitable reader found"))
-        return hasModelExtension(path) ? "the model is broken: it isn't in the format of its extension"
-                                       : "this is in none of the model formats that can be read";
+    if (isForOtherFormat(text))
+        return hasModelExtension(path) ? "the model is broken: it isn't in the format of its extension" : unknownFormat;
     std::replace_if(
         text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
     return "the model is broken: " + text;
@@ -88,31 +99,47 @@ NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
     return scene;
 }
 
+// Some readers refuse a whole file for one bad index.
+const aiScene* ModelReader::readFile(const std::string& path, ModelFiles& files)
+{
+    const aiScene* const model = m_importer->ReadFile(path, 0);
+    if (model != nullptr || !isForBadIndex(*m_importer))
+        return model;
+    std::string text;
+    meridane::FileReader reader;
+    bool atEnd = false;
+    if (reader.open(path) || reader.read(text, reader.size(), atEnd))
+        return nullptr;
+    files.replaceModel(withoutUnusableFaces(text, m_warnings));
+    return m_importer->ReadFile(path, 0);
+}
+
 // The library's own check refuses a whole model for one bad part.
+bool ModelReader::mend(aiScene& model, std::string& error)
+{
+    mendModel(model, m_warnings);
+    mendVertexColors(model, m_colorStorage, m_warnings);
+    mendMaterials(model, m_warnings);
+    foldPivots(*model.mRootNode);
+    // Nodes alone may be meant.
+    if (hasContent(model) || (model.mNumMeshes == 0 && model.mRootNode->mNumChildren > 0))
+        return true;
+    error = "nothing in the model can be shown";
+    for (const std::string& warning : warnings())
+        error += "; " + warning;
+    return false;
+}
+
 const aiScene* ModelReader::readMended(const std::string& path, ModelFiles& files, std::string& error)
 {
     m_warnings = {};
-    const aiScene* model = m_importer->ReadFile(path, 0);
-    if (model == nullptr && isForBadIndex(*m_importer)) {
-        std::string text;
-        meridane::FileReader reader;
-        bool atEnd = false;
-        if (!reader.open(path) && !reader.read(text, reader.size(), atEnd)) {
-            files.replaceModel(withoutUnusableFaces(text, m_warnings));
-            model = m_importer->ReadFile(path, 0);
-        }
-    }
+    const aiScene* model = readFile(path, files);
     if (model != nullptr && model->mRootNode != nullptr) {
         // The importer's own, which it lets nobody else change; but its steps don't survive every model.
-        auto& mended = const_cast<aiScene&>(*model);
-        mendModel(mended, m_warnings);
-        mendVertexColors(mended, m_colorStorage, m_warnings);
-        mendMaterials(mended, m_warnings);
-        foldPivots(*mended.mRootNode);
-        if (model->mNumMeshes > 0 && !hasContent(*model)) {
-            error = "nothing in the model can be shown";
-            for (const std::string& warning : warnings())
-                error += "; " + warning;
+        if (!mend(const_cast<aiScene&>(*model), error)) {
+            // A reader that takes every text for its own.
+            if (model->mNumMeshes == 0 && !hasModelExtension(path))
+                error = unknownFormat;
             return nullptr;
         }
         model = m_importer->ApplyPostProcessing(steps);

@@ -35,6 +35,8 @@ public:
     [[nodiscard]] std::vector<std::string> warnings() const { return m_warnings.texts(); }
 
 private:
+    [[nodiscard]] const aiScene* readFile(const std::string& path, ModelFiles& files);
+    [[nodiscard]] bool mend(aiScene& model, std::string& error);
     [[nodiscard]] const aiScene* readMended(const std::string& path, ModelFiles& files, std::string& error);
 
     std::unique_ptr<Assimp::Importer> m_importer;
