@@ -1,0 +1,62 @@
+#include "orvane/app/fields/popups/ImagePopup.h"
+
+#include "orvane/app/fields/popups/ImageSample.h"
+#include "orvane/app/look/Look.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+/// Translucent parts are seen over checks. A small image is enlarged by whole numbers, so that its pixels are seen.
+QPixmap shownPixmap(const QImage& image, int side)
+{
+    const int factor = std::max(1, side / 2 / std::max(image.width(), image.height()));
+    QPixmap pixmap(image.size() * factor);
+    QPainter painter(&pixmap);
+    painter.fillRect(pixmap.rect(), Qt::white);
+    constexpr int check = 8;
+    for (int top = 0; top < pixmap.height(); top += check) {
+        for (int left = top / check % 2 * check; left < pixmap.width(); left += 2 * check)
+            painter.fillRect(left, top, check, check, Qt::lightGray);
+    }
+    painter.drawImage(pixmap.rect(), image);
+    return pixmap;
+}
+
+} // namespace
+
+ImagePopup::ImagePopup(const NxSFImage& image, QWidget* parent)
+    : PopupFrame(parent)
+{
+    setObjectName(QStringLiteral("imagePopup"));
+    const QString description = orvane::imageDescription(image);
+    setAccessibleName(description);
+    auto* const layout = new QVBoxLayout(this);
+    const int unit = orvane::look::unit(fontMetrics());
+    layout->setContentsMargins(unit, unit, unit, unit);
+    layout->setSpacing(unit);
+    const qreal ratio = devicePixelRatioF();
+    const int side = static_cast<int>(largestSide * ratio);
+    const QImage sample = orvane::sampledImage(image, {side, side});
+    if (!sample.isNull()) {
+        QPixmap pixmap = shownPixmap(sample, side);
+        pixmap.setDevicePixelRatio(ratio);
+        auto* const picture = new QLabel(this);
+        picture->setObjectName(QStringLiteral("picture"));
+        picture->setPixmap(pixmap);
+        picture->setAlignment(Qt::AlignCenter);
+        layout->addWidget(picture);
+    }
+    auto* const text = new QLabel(description, this);
+    text->setTextFormat(Qt::PlainText);
+    layout->addWidget(text);
+}
+
+void ImagePopup::mousePressEvent(QMouseEvent* /*event*/)
+{
+    finish(true);
+}

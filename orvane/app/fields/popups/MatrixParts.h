@@ -1,0 +1,50 @@
+#pragma once
+
+#include "meridane/base/values/VbMatrix.h"
+#include "meridane/base/values/VbRotation.h"
+
+#include <array>
+#include <numbers>
+
+namespace orvane {
+
+inline constexpr double degreesOfRadian = 180 / std::numbers::pi;
+
+/// A turn about the fixed axes x, then y, then z, each in degrees.
+using EulerDegrees = std::array<double, 3>;
+
+[[nodiscard]] EulerDegrees toEuler(const VbRotation& rotation);
+/// The axis has length 1; the angle is from 0 to pi.
+[[nodiscard]] VbRotation fromEuler(const EulerDegrees& degrees);
+/// Whether the axis has length 1 within the precision of its numbers. True for an axis that can't get it: of no
+/// length, or not finite.
+[[nodiscard]] bool isNormal(const VbRotation& rotation);
+/// The same rotation with an axis of length 1.
+[[nodiscard]] VbRotation normalised(const VbRotation& rotation);
+
+/// A matrix as a scale along the axes, then a rotation, then a translation.
+struct MatrixParts {
+    std::array<double, 3> translation{};
+    EulerDegrees rotation{};
+    std::array<double, 3> scale{1, 1, 1};
+};
+
+/// What a matrix holds beside these parts.
+enum class MatrixRest {
+    None, ///< the parts give the matrix within the precision of its numbers
+    Shear, ///< its axes aren't at right angles
+    Projection, ///< its last column isn't 0, 0, 0, 1
+    NotFinite, ///< an element is infinite or no number
+};
+
+struct MatrixDecomposition {
+    MatrixParts parts;
+    MatrixRest rest = MatrixRest::None;
+};
+
+/// The parts of a matrix; a mirrored one has a negative scale along x. If there is a rest, the parts are those of the
+/// nearest matrix without it.
+[[nodiscard]] MatrixDecomposition decomposed(const VbMatrix& matrix);
+[[nodiscard]] VbMatrix composed(const MatrixParts& parts);
+
+} // namespace orvane
