@@ -7,6 +7,9 @@
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
 #include "orvane/app/fields/MarkDelegate.h"
+#include "orvane/app/fields/cells/NameScrub.h"
+#include "orvane/app/fields/cells/ValueDelegate.h"
+#include "orvane/app/fields/editors/CellServices.h"
 #include "orvane/app/input/InputMessage.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/scene/NodeIcons.h"
@@ -24,6 +27,7 @@
 #include <QStackedLayout>
 
 #include <algorithm>
+#include <utility>
 
 FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* parent)
     : QWidget(parent)
@@ -31,6 +35,7 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     , m_writer(services)
     , m_model(new FieldTableModel(this))
     , m_view(new FieldTableView(this))
+    , m_values(new ValueDelegate(m_view, m_writer, &settings))
     , m_filter(new FieldFilterBar(this))
     , m_icon(new QLabel(this))
     , m_heading(new QLabel(this))
@@ -42,6 +47,8 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     auto* page = new QWidget(this);
     buildPage(page);
     buildColumns();
+    m_view->setItemDelegateForColumn(FieldTableModel::ValueColumn, m_values);
+    new NameScrub(m_view, m_values, FieldTableModel::NameColumn, FieldTableModel::ValueColumn);
     buildHint();
     m_pages->addWidget(m_hint);
     m_pages->addWidget(page);
@@ -161,6 +168,11 @@ void FieldPanel::setNodes(const std::shared_ptr<const FieldSet::Nodes>& nodes)
     unfoldGroups();
     updateHeading();
     m_pages->setCurrentIndex(m_model->node() != nullptr ? 1 : 0);
+}
+
+void FieldPanel::setSceneFolder(std::function<QString()> folder)
+{
+    m_values->services().setFolder(std::move(folder));
 }
 
 void FieldPanel::updateHeading()

@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <vector>
 
 class AppSettings;
@@ -21,6 +22,7 @@ class OrvServices;
 class QHBoxLayout;
 class QLabel;
 class QStackedLayout;
+class ValueDelegate;
 
 /// The table of the fields of one or several nodes, with the names of the nodes above it. There may be several panels.
 class FieldPanel : public QWidget {
@@ -44,7 +46,10 @@ public:
     [[nodiscard]] FieldTableModel* model() const noexcept { return m_model; }
     [[nodiscard]] FieldTableView* view() const noexcept { return m_view; }
     [[nodiscard]] FieldWriter& writer() noexcept { return m_writer; }
+    [[nodiscard]] ValueDelegate* values() const noexcept { return m_values; }
     [[nodiscard]] FieldFilterBar* filterBar() const noexcept { return m_filter; }
+    /// Where the folder of the scene's file comes from, at which relative paths begin.
+    void setSceneFolder(std::function<QString()> folder);
     /// At the end of the heading, for tools of whoever shows the panel.
     [[nodiscard]] QHBoxLayout* headingTools() const noexcept { return m_tools; }
     /// Makes the field of a row a favourite, or no favourite.
@@ -80,6 +85,7 @@ private:
     FieldWriter m_writer;
     FieldTableModel* m_model;
     FieldTableView* m_view;
+    ValueDelegate* m_values;
     FieldFilterBar* m_filter;
     QLabel* m_icon;
     QLabel* m_heading;

@@ -1,5 +1,6 @@
 #include "orvane/app/window/MainWindow.h"
 
+#include "orvane/app/base/DraggedFile.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/base/TextGuard.h"
@@ -17,6 +18,7 @@
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/recovery/RecoveryOffer.h"
 #include "orvane/app/recovery/SceneRecovery.h"
+#include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/SelectionStatus.h"
@@ -59,12 +61,6 @@ const QString recoveryTopic = QStringLiteral("recoveryFailure");
 const QString stateKey = QStringLiteral("window/state");
 
 /// The one local file that is being dragged, or the empty name.
-QString draggedFile(const QMimeData* data)
-{
-    const QList<QUrl> urls = data->urls();
-    return urls.size() == 1 ? orvane::fromFileUrl(urls.front().toEncoded()) : QString();
-}
-
 } // namespace
 
 MainWindow::MainWindow(Session& session)
@@ -91,6 +87,7 @@ MainWindow::MainWindow(Session& session)
     buildMenus();
     connectDocument();
 
+    m_fields->setSceneFolder([this] { return orvane::folderOf(document().fileName()); });
     resize(firstSize);
     restoreGeometry(session.settings().value(geometryKey).toByteArray());
     if (!session.settings().problem().isEmpty())
@@ -320,13 +317,13 @@ void MainWindow::showEvent(QShowEvent* event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!draggedFile(event->mimeData()).isEmpty())
+    if (!orvane::draggedFile(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
-    const QString fileName = draggedFile(event->mimeData());
+    const QString fileName = orvane::draggedFile(*event->mimeData());
     if (fileName.isEmpty())
         return;
     event->acceptProposedAction();

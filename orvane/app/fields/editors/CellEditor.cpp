@@ -1,0 +1,38 @@
+#include "orvane/app/fields/editors/CellEditor.h"
+
+#include "orvane/app/fields/editors/CellServices.h"
+#include "orvane/app/fields/values/FieldRoles.h"
+
+CellEditor::CellEditor(const CellEdit& edit, QWidget* parent)
+    : QWidget(parent)
+    , m_edit(edit)
+{
+    // What is below must not be seen.
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+FieldSet CellEditor::fields() const
+{
+    const auto* const fields = m_edit.index.data(FieldRoles::FieldSetRole).value<const FieldSet*>();
+    return fields != nullptr ? *fields : FieldSet();
+}
+
+FieldWriter& CellEditor::writer() const
+{
+    return services().writer();
+}
+
+void CellEditor::finish(Next next)
+{
+    if (m_isFinished)
+        return;
+    m_isFinished = true;
+    Q_EMIT finished(next);
+}
+
+bool CellEditor::focusNextPrevChild(bool /*next*/)
+{
+    return false;
+}

@@ -1,0 +1,45 @@
+#include "orvane/app/fields/editors/CellServices.h"
+
+#include "orvane/app/base/AppSettings.h"
+#include "orvane/app/fields/editors/ImageThumbnails.h"
+#include "orvane/app/fields/editors/PathChecks.h"
+
+#include <utility>
+
+namespace {
+
+QString eulerKey()
+{
+    return QStringLiteral("fields/eulerDegrees");
+}
+
+} // namespace
+
+CellServices::CellServices(FieldWriter& writer, AppSettings* settings, QObject* parent)
+    : QObject(parent)
+    , m_writer(writer)
+    , m_settings(settings)
+    , m_paths(std::make_unique<PathChecks>())
+    , m_thumbnails(std::make_unique<ImageThumbnails>())
+{
+    if (settings != nullptr)
+        m_isEulerShown = settings->value(eulerKey(), false).toBool();
+    connect(m_paths.get(), &PathChecks::changed, this, &CellServices::changed);
+}
+
+CellServices::~CellServices() = default;
+
+void CellServices::setFolder(std::function<QString()> folder)
+{
+    m_folder = std::move(folder);
+}
+
+void CellServices::setEulerShown(bool shown)
+{
+    if (shown == m_isEulerShown)
+        return;
+    m_isEulerShown = shown;
+    if (m_settings != nullptr)
+        m_settings->setValue(eulerKey(), shown);
+    Q_EMIT changed();
+}
