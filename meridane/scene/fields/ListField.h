@@ -66,6 +66,11 @@ public:
         return values;
     }
 
+    /// Replaces `count` rows from `start` on by others, which may lie in the list itself, and notifies the observers
+    /// once. Returns false, and changes nothing, if the rows don't exist or the list doesn't fit in memory, which is
+    /// reported.
+    bool replaceRows(int start, int count, std::span<const Value> rows);
+
     [[nodiscard]] int firstDifferentRow(const NxField& other) const override;
     void get1(int index, VbString& text) const override;
     void deleteValues(int start, int count) override;

@@ -122,6 +122,29 @@ bool ListField<Value, Format>::replacePlainRows(int start, int count, std::strin
 }
 
 template <typename Value, typename Format>
+bool ListField<Value, Format>::replaceRows(int start, int count, std::span<const Value> rows)
+{
+    if (start < 0 || count < 0 || start > getNum() || count > getNum() - start)
+        return false;
+    const auto first = static_cast<std::size_t>(start);
+    const std::size_t end = first + static_cast<std::size_t>(count);
+    const bool fits = withinMemory(rows.size_bytes(), [&] {
+        if (!canHave(m_values.size() - (end - first) + rows.size()))
+            throw std::bad_alloc();
+        // All memory is allocated before anything changes.
+        std::vector<Value> copies(rows.begin(), rows.end());
+        m_values.reserve(m_values.size() - (end - first) + rows.size());
+        recordRows(first, end, rows.size());
+        resizeRows(first, end, copies.size());
+        std::ranges::move(copies, m_values.begin() + start);
+        return true;
+    });
+    if (fits)
+        touch();
+    return fits;
+}
+
+template <typename Value, typename Format>
 void ListField<Value, Format>::resizeRows(std::size_t first, std::size_t end, std::size_t count)
 {
     const auto place = [this](std::size_t row) { return m_values.begin() + static_cast<std::ptrdiff_t>(row); };
