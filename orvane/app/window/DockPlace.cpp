@@ -3,13 +3,9 @@
 #include <QDockWidget>
 #include <QMainWindow>
 
-namespace {
+#include <algorithm>
 
-constexpr int firstHeight = 250;
-
-} // namespace
-
-void orvane::placeAtBottom(QMainWindow* window, QDockWidget* dock)
+void orvane::placeAtBottom(QMainWindow* window, QDockWidget* dock, int height)
 {
     QDockWidget* beside = nullptr;
     for (QDockWidget* const other : window->findChildren<QDockWidget*>(Qt::FindDirectChildrenOnly)) {
@@ -18,8 +14,9 @@ void orvane::placeAtBottom(QMainWindow* window, QDockWidget* dock)
             beside = other;
     }
     window->addDockWidget(Qt::BottomDockWidgetArea, dock);
-    if (beside != nullptr)
+    if (beside != nullptr) {
         window->tabifyDockWidget(beside, dock);
-    else
-        window->resizeDocks({dock}, {firstHeight}, Qt::Vertical);
+        height = std::max(height, beside->height());
+    }
+    window->resizeDocks({beside != nullptr ? beside : dock}, {height}, Qt::Vertical);
 }

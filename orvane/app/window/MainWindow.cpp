@@ -34,6 +34,7 @@
 #include "orvane/app/window/EditMenu.h"
 #include "orvane/app/window/HelpMenu.h"
 #include "orvane/app/window/HistoryDock.h"
+#include "orvane/app/window/ListDock.h"
 #include "orvane/app/window/ReloadedTree.h"
 #include "orvane/app/window/ReturnedNodes.h"
 #include "orvane/app/window/WindowShell.h"
@@ -195,6 +196,7 @@ void MainWindow::buildDocks()
     m_inspectors = new Inspectors(m_session, m_tree, m_fields, this);
     auto* travel = new StepTravel(m_session.services(), this);
     new HistoryDock(m_session, *travel, *m_messages, this);
+    (new ListDock(m_session, this))->follow(*m_fields, *m_inspectors);
     new ReturnedNodes(m_session.services(), *travel, m_tree);
     new SelectionStatus(m_session, m_tree, statusBar());
     new ViewLink(m_session, m_view, m_tree, statusBar());

@@ -1,0 +1,231 @@
+#include "orvane/app/lists/ListActions.h"
+
+#include "orvane/app/lists/ListClipboard.h"
+#include "orvane/app/lists/ListView.h"
+#include "orvane/app/lists/rows/ListEdits.h"
+#include "orvane/app/lists/rows/ListModel.h"
+#include "orvane/app/lists/rows/ListRows.h"
+#include "orvane/app/messages/MessageBar.h"
+
+#include "meridane/scene/components/FieldComponents.h"
+#include "meridane/scene/fields/NxMField.h"
+
+#include <QAction>
+#include <QInputDialog>
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const QString resizeTopic = QStringLiteral("listResize");
+const QString editTopic = QStringLiteral("listEdit");
+
+} // namespace
+
+ListActions::ListActions(
+    ListModel& model, ListView* view, ListEdits& edits, ListClipboard& clipboard, MessageBar& messages)
+    : QObject(view)
+    , m_model(model)
+    , m_view(view)
+    , m_edits(edits)
+    , m_clipboard(clipboard)
+    , m_messages(messages)
+    , m_insert(add("listInsert", tr("&Insert Rows"), Qt::Key_Insert, &ListActions::insert))
+    , m_duplicate(
+          add("listDuplicate", tr("D&uplicate Rows"), Qt::CTRL | Qt::SHIFT | Qt::Key_D, &ListActions::duplicate))
+    , m_remove(add("listRemove", tr("&Delete Rows"), QKeySequence::Delete, &ListActions::remove))
+    , m_moveUp(add("listMoveUp", tr("Move &Up"), Qt::ALT | Qt::Key_Up, &ListActions::moveUp))
+    , m_moveDown(add("listMoveDown", tr("Move D&own"), Qt::ALT | Qt::Key_Down, &ListActions::moveDown))
+{
+    addSeparator();
+    m_cut = add("listCut", tr("Cu&t Rows"), QKeySequence::Cut, &ListActions::cut);
+    m_copy = add("listCopy", tr("&Copy Cells"), QKeySequence::Copy, &ListActions::copy);
+    m_paste = add("listPaste", tr("&Paste Cells"), QKeySequence::Paste, &ListActions::paste);
+    addSeparator();
+    m_fillLinear = add("listFillLinear", tr("Fill &Evenly from First to Last"), {}, &ListActions::fillLinear);
+    m_resize = add("listResize", tr("&Number of Rows…"), {}, &ListActions::resize);
+    m_fillLinear->setStatusTip(tr("Gives the selected cells of a column values with equal steps between the first "
+                                  "and the last of them"));
+    view->addActions(m_all);
+    view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    connect(view, &ListView::rowsDropped, this, &ListActions::drop);
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListActions::update);
+    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this, &ListActions::update);
+    connect(&model, &ListModel::listChanged, this, &ListActions::update);
+    connect(&model, &ListModel::modelReset, this, &ListActions::update);
+    connect(&model, &ListModel::listAboutToBeLeft, this, [this] { m_messages.clear(); });
+    update();
+}
+
+QAction* ListActions::add(const char* name, const QString& text, const QKeySequence& key, void (ListActions::*run)())
+{
+    auto* const action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, &QAction::triggered, this, run);
+    m_all.append(action);
+    return action;
+}
+
+void ListActions::addSeparator()
+{
+    auto* const separator = new QAction(this);
+    separator->setSeparator(true);
+    m_all.append(separator);
+}
+
+void ListActions::update()
+{
+    const bool hasList = m_model.list() != nullptr;
+    const bool hasRows = m_view->currentIndex().isValid() || m_view->selectionModel()->hasSelection();
+    for (QAction* const action : {m_insert, m_paste, m_resize})
+        action->setEnabled(hasList);
+    for (QAction* const action : {m_duplicate, m_remove, m_cut, m_copy})
+        action->setEnabled(hasRows);
+    const bool canMove = hasRows && m_model.showsAll();
+    for (QAction* const action : {m_moveUp, m_moveDown})
+        action->setEnabled(canMove);
+    m_fillLinear->setEnabled(m_view->selectedCount() > 2 && m_model.columns().kind() == ListColumns::Kind::Number);
+}
+
+void ListActions::show(const orvane::Result<>& result)
+{
+    if (result)
+        m_messages.clearTopic(editTopic);
+    else
+        m_messages.showMessage(MessageBar::Severity::Warning, result.error(), editTopic);
+}
+
+void ListActions::insert()
+{
+    const RowRuns rows = m_view->selectedListRows();
+    const int count = std::max(1, m_view->selectedCount());
+    const int before = rows.empty() ? m_model.list()->getNum() : rows.front().first;
+    show(m_edits.insertRows(before, count));
+}
+
+void ListActions::duplicate()
+{
+    show(m_edits.duplicateRows(m_view->selectedListRows()));
+}
+
+void ListActions::remove()
+{
+    show(m_edits.removeRows(m_view->selectedListRows()));
+}
+
+void ListActions::moveUp()
+{
+    const RowRuns rows = m_view->selectedListRows();
+    if (!rows.empty())
+        moveTo(rows.front().first - 1);
+}
+
+void ListActions::moveDown()
+{
+    const RowRuns rows = m_view->selectedListRows();
+    if (!rows.empty())
+        moveTo(rows.back().end() + 1);
+}
+
+void ListActions::moveTo(int before)
+{
+    const RowRuns rows = m_view->selectedListRows();
+    if (before < 0 || before > m_model.list()->getNum() || !orvane::wouldMove(rows, before))
+        return;
+    const orvane::Result<> result = m_edits.moveRows(rows, before);
+    show(result);
+    if (!result)
+        return;
+    int first = before;
+    for (const RowRun run : rows)
+        first -= std::clamp(before - run.first, 0, run.count);
+    const bool isSelected = m_view->selectionModel()->hasSelection();
+    const int column = m_view->currentIndex().column();
+    if (isSelected)
+        m_view->selectPlaces({{first, orvane::rowCount(rows)}}, m_view->selectedColumns());
+    else
+        m_view->setCurrentIndex(m_model.index(first, column));
+}
+
+void ListActions::drop(int place)
+{
+    if (m_model.showsAll())
+        moveTo(place);
+    else
+        show(orvane::Failure{
+            tr("Rows can be moved only while all of them are shown in their order. Clear range, filter and sorting.")});
+}
+
+void ListActions::copy()
+{
+    m_clipboard.copy();
+}
+
+void ListActions::cut()
+{
+    m_clipboard.cut();
+}
+
+void ListActions::paste()
+{
+    m_clipboard.paste();
+}
+
+void ListActions::fillLinear()
+{
+    const RowRuns places = m_view->selectedPlaces();
+    const ListView::Columns columns = m_view->selectedColumns();
+    const bool isWhole = m_model.columns().components()->isWhole();
+    std::vector<int> rows = orvane::rowsOf(places);
+    std::ranges::transform(rows, rows.begin(), [this](int place) { return m_model.map().listRow(place); });
+    PastedRows cells{static_cast<int>(rows.size()), columns.last - columns.first + 1, {}, {}};
+    for (int column = columns.first; column <= columns.last; ++column) {
+        const double first = m_model.columns().number(rows.front(), column);
+        const double last = m_model.columns().number(rows.back(), column);
+        std::vector<double>& values = cells.numbers.emplace_back();
+        values.reserve(rows.size());
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const double value = std::lerp(first, last, static_cast<double>(i) / static_cast<double>(rows.size() - 1));
+            values.push_back(isWhole ? std::round(value) : value);
+        }
+    }
+    show(m_edits.setCells(cells, rows, columns.first, ListEdits::Cause::Fill));
+}
+
+void ListActions::resize()
+{
+    auto* const dialog = new QInputDialog(m_view);
+    dialog->setObjectName(QStringLiteral("listResizeDialog"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(tr("Number of Rows"));
+    dialog->setLabelText(tr("Number of rows of %1:").arg(m_edits.listName()));
+    dialog->setInputMode(QInputDialog::IntInput);
+    dialog->setIntRange(0, NxMField::getMaximumNum());
+    dialog->setIntValue(m_model.list()->getNum());
+    const NxMField* const list = m_model.list();
+    connect(dialog, &QInputDialog::intValueSelected, this, [this, list](int count) {
+        if (m_model.list() == list)
+            resizeTo(count);
+        else
+            show(orvane::Failure{tr("Another list is shown now. Nothing was changed.")});
+    });
+    connect(&m_model, &ListModel::listAboutToBeLeft, dialog, &QDialog::reject);
+    dialog->open();
+}
+
+void ListActions::resizeTo(int count)
+{
+    const long long added = static_cast<long long>(count) - m_model.list()->getNum();
+    if (count <= ListEdits::manyRows || added <= 0) {
+        show(m_edits.resize(count));
+        return;
+    }
+    const QString number = QLocale(QLocale::English).toString(count);
+    m_messages.showQuestion(
+        tr("%1 is going to have %2 rows, which need a lot of memory. Go on?").arg(m_edits.listName(), number),
+        resizeTopic, tr("Make %1 Rows").arg(number), [this, count] { show(m_edits.resize(count)); });
+}

@@ -1,0 +1,99 @@
+#include "orvane/app/lists/rows/RowExpression.h"
+
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/lists/rows/ListColumns.h"
+
+#include "meridane/scene/components/FieldComponents.h"
+#include "meridane/scene/fields/NxMField.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("RowExpression", text);
+}
+
+orvane::Failure failureOf(int row, const meridane::QueryError& error)
+{
+    return {tr("Row %1: %2").arg(row).arg(orvane::toQString(error.message))};
+}
+
+} // namespace
+
+orvane::Result<RowExpression> RowExpression::parse(const QString& text, const ListColumns& columns, Use use, int column)
+{
+    meridane::Expression::Context context;
+    context.variables = columns.variables();
+    std::vector<int> sources(context.variables.size());
+    std::iota(sources.begin(), sources.end(), 0);
+    if (use == Use::Column && std::ranges::find(context.variables, "x") == context.variables.end()) {
+        context.variables.emplace_back("x");
+        sources.push_back(column);
+    }
+    context.variables.emplace_back("i");
+    sources.push_back(-1);
+    context.mayBeInfinite = use == Use::Filter || !columns.components()->isWhole();
+    context.isAngle = use == Use::Column && columns.components()->name(column) == "angle";
+    auto parsed = meridane::Expression::parse(text.toStdString(), context);
+    if (const auto* const error = std::get_if<meridane::QueryError>(&parsed))
+        return orvane::Failure{orvane::toQString(error->message)};
+    RowExpression result(std::get<meridane::Expression>(std::move(parsed)));
+    if (use == Use::Filter && !result.m_expression.usesVariables()) {
+        const auto value = result.m_expression.evaluate(std::vector<double>(sources.size()));
+        const auto* const number = std::get_if<double>(&value);
+        if (number != nullptr && std::isnan(*number))
+            return orvane::Failure{tr("This is NaN, which is neither true nor false. To find rows with NaN, compare a "
+                                      "component with itself, such as not x = x.")};
+    }
+    result.m_sources = std::move(sources);
+    result.m_columns.resize(result.m_sources.size());
+    return result;
+}
+
+template <typename Fill>
+std::vector<std::span<const double>> RowExpression::readColumns(std::size_t rows, const Fill& fill)
+{
+    std::vector<std::span<const double>> columns(m_sources.size());
+    for (std::size_t variable = 0; variable < m_sources.size(); ++variable) {
+        if (!m_expression.usesVariable(variable))
+            continue;
+        m_columns[variable].resize(rows);
+        fill(m_sources[variable], std::span(m_columns[variable]));
+        columns[variable] = m_columns[variable];
+    }
+    return columns;
+}
+
+orvane::Result<> RowExpression::evaluate(const NxMField& list, int first, std::span<double> values)
+{
+    const auto* const components = meridane::FieldComponents::of(list);
+    const auto columns = readColumns(values.size(), [&](int component, std::span<double> column) {
+        if (component < 0)
+            std::iota(column.begin(), column.end(), static_cast<double>(first));
+        else
+            components->read(list, first, component, column);
+    });
+    if (const auto failure = m_expression.evaluateRows(columns, values))
+        return failureOf(first + static_cast<int>(failure->row), failure->error);
+    return {};
+}
+
+orvane::Result<> RowExpression::evaluate(const NxMField& list, std::span<const int> rows, std::span<double> values)
+{
+    if (rows.empty() || rows.back() - rows.front() + 1 == static_cast<int>(rows.size()))
+        return rows.empty() ? orvane::Result<>() : evaluate(list, rows.front(), values);
+    const auto* const components = meridane::FieldComponents::of(list);
+    const auto columns = readColumns(values.size(), [&](int component, std::span<double> column) {
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            column[i] = component < 0 ? rows[i] : components->get(list, rows[i], component);
+    });
+    if (const auto failure = m_expression.evaluateRows(columns, values))
+        return failureOf(rows[failure->row], failure->error);
+    return {};
+}

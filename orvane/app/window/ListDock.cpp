@@ -1,0 +1,67 @@
+#include "orvane/app/window/ListDock.h"
+
+#include "orvane/app/fields/FieldPanel.h"
+#include "orvane/app/inspect/Inspectors.h"
+#include "orvane/app/lists/ListPanel.h"
+#include "orvane/app/lists/ListView.h"
+#include "orvane/app/scene/Session.h"
+#include "orvane/app/window/DockPlace.h"
+
+#include "meridane/scene/fields/NxMField.h"
+
+#include <QAction>
+#include <QMainWindow>
+
+ListDock::ListDock(Session& session, QMainWindow* window)
+    : QDockWidget(tr("List"), window)
+    , m_session(session)
+    , m_window(window)
+{
+    setObjectName(QStringLiteral("listDock"));
+    toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
+    hide();
+}
+
+void ListDock::openList(NxMField* list)
+{
+    show();
+    m_panel->setList(list);
+    m_panel->view()->setFocus(Qt::OtherFocusReason);
+    if (!m_panel->view()->currentIndex().isValid())
+        m_panel->view()->moveCurrent(0, 0);
+}
+
+void ListDock::follow(FieldPanel& fields, const Inspectors& inspectors)
+{
+    const auto connectTo
+        = [this](FieldPanel* panel) { connect(panel, &FieldPanel::listRequested, this, &ListDock::openList); };
+    connectTo(&fields);
+    connect(&inspectors, &Inspectors::panelAdded, this, connectTo);
+}
+
+void ListDock::setVisible(bool visible)
+{
+    if (visible) {
+        constexpr int leastRows = 8;
+        fill();
+        if (!isFloating() && m_window->dockWidgetArea(this) == Qt::NoDockWidgetArea)
+            orvane::placeAtBottom(m_window, this, m_panel->heightFor(leastRows) + titleHeight());
+    }
+    QDockWidget::setVisible(visible);
+    // Behind the tab of another dock it would seem that nothing happened.
+    if (visible && m_window->isVisible())
+        raise();
+}
+
+int ListDock::titleHeight() const
+{
+    return fontMetrics().height() + 2 * style()->pixelMetric(QStyle::PM_DockWidgetTitleMargin, nullptr, this);
+}
+
+void ListDock::fill()
+{
+    if (m_panel != nullptr)
+        return;
+    m_panel = new ListPanel(m_session.services(), m_session.settings(), this);
+    setWidget(m_panel);
+}

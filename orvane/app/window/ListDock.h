@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDockWidget>
+
+class FieldPanel;
+class Inspectors;
+class ListPanel;
+class NxMField;
+class QMainWindow;
+class Session;
+
+/// The dock with the rows of a list field. It is hidden until the user shows it; its content is made then.
+class ListDock : public QDockWidget {
+    Q_OBJECT
+
+public:
+    /// Both live as long as the window.
+    ListDock(Session& session, QMainWindow* window);
+
+    /// Shows a list field, which has a node, and moves the focus to its rows.
+    void openList(NxMField* list);
+    /// Opens each list that the user asks for in the panel, and in those of further inspectors. They live as long as
+    /// the window.
+    void follow(FieldPanel& fields, const Inspectors& inspectors);
+    void setVisible(bool visible) override;
+
+private:
+    void fill();
+    [[nodiscard]] int titleHeight() const;
+
+    Session& m_session;
+    QMainWindow* m_window;
+    ListPanel* m_panel = nullptr; // made when it is first shown
+};
