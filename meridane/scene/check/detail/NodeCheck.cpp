@@ -16,7 +16,7 @@
 namespace meridane {
 namespace {
 
-constexpr std::size_t rowsAtOnce = 256;
+constexpr std::size_t listRowsAtOnce = 256;
 
 } // namespace
 
@@ -88,13 +88,13 @@ bool NodeCheck::checkNumbers(WorkMeter& meter)
 
 bool NodeCheck::checkField(const ClassPlan::Numbers& numbers, NxField& field, WorkMeter& meter)
 {
-    std::array<double, rowsAtOnce> values{};
+    std::array<double, listRowsAtOnce> values{};
     const int rows = numbers.components->rows(field);
     for (; m_component < numbers.components->count(); ++m_component) {
         while (m_row < rows) {
             if (meter.isSpent())
                 return false;
-            const std::size_t count = std::min(rowsAtOnce, static_cast<std::size_t>(rows - m_row));
+            const std::size_t count = std::min(listRowsAtOnce, static_cast<std::size_t>(rows - m_row));
             numbers.components->read(field, m_row, m_component, std::span(values).first(count));
             for (std::size_t i = 0; i < count; ++i) {
                 const int row = m_row + static_cast<int>(i);
