@@ -10,6 +10,12 @@
 
 namespace orvane {
 
+namespace {
+
+constexpr double beyondReach = 1e30;
+
+} // namespace
+
 QString plainNumber(double number, meridane::FieldComponents::Number type)
 {
     return toQString(meridane::numberText(number, type));
@@ -52,25 +58,34 @@ QString NumberLimits::refusal(double number) const
     if (!std::isfinite(number)) {
         return mayBeInfinite
             ? QString()
-            : tr("%1 isn't a number that fits here. Needed is %2.").arg(plainNumber(number), description());
+            : tr("%1 isn't a number that fits here. Enter %2.").arg(plainNumber(number), description());
     }
     if (isWhole && number != std::trunc(number))
-        return tr("%1 has a fraction. Needed is %2.").arg(plainNumber(number), description());
+        return tr("%1 has a fraction. Enter %2.").arg(plainNumber(number), description());
     if (number < hardMinimum)
-        return tr("%1 is too small. Needed is %2.").arg(plainNumber(number), description());
+        return outOfReach(tr("%1 is too small.").arg(plainNumber(number)), tr("The least is %1."), hardMinimum);
     if (number > hardMaximum)
-        return tr("%1 is too large. Needed is %2.").arg(plainNumber(number), description());
+        return outOfReach(tr("%1 is too large.").arg(plainNumber(number)), tr("The greatest is %1."), hardMaximum);
     return {};
+}
+
+// A bound that the description leaves out is given by itself.
+QString NumberLimits::outOfReach(const QString& problem, const QString& boundText, double bound) const
+{
+    return std::abs(bound) < beyondReach ? tr("%1 Enter %2.").arg(problem, description())
+                                         : problem + u' ' + boundText.arg(plainNumber(bound));
 }
 
 QString NumberLimits::description() const
 {
     const QString kind = isWhole ? tr("a whole number") : tr("a number");
-    if (std::isfinite(hardMinimum) && std::isfinite(hardMaximum))
+    const bool hasMinimum = hardMinimum > -beyondReach;
+    const bool hasMaximum = hardMaximum < beyondReach;
+    if (hasMinimum && hasMaximum)
         return tr("%1 from %2 to %3").arg(kind, plainNumber(hardMinimum), plainNumber(hardMaximum));
-    if (std::isfinite(hardMinimum))
+    if (hasMinimum)
         return tr("%1 of at least %2").arg(kind, plainNumber(hardMinimum));
-    if (std::isfinite(hardMaximum))
+    if (hasMaximum)
         return tr("%1 of at most %2").arg(kind, plainNumber(hardMaximum));
     return kind;
 }

@@ -44,11 +44,15 @@ public:
     [[nodiscard]] Range rangeOf(double number) const;
     /// Why the number isn't taken, in a sentence; empty for one that is.
     [[nodiscard]] QString refusal(double number) const;
-    /// The numbers that are taken, such as "a whole number from 0 to 65535".
+    /// The numbers that are taken, such as "a whole number from 0 to 65535". Bounds that nobody reaches, such as those
+    /// of floating point types, are left out.
     [[nodiscard]] QString description() const;
     /// How much one press of an arrow key changes a value: `step`, or a hundredth of the value's order of magnitude,
     /// at least 1 for whole numbers. More than 0.
     [[nodiscard]] double stepFrom(double value) const;
+
+private:
+    [[nodiscard]] QString outOfReach(const QString& problem, const QString& boundText, double bound) const;
 };
 
 /// The shortest text of the C locale that a field of that type reads as this number.

@@ -152,7 +152,7 @@ QString NumberLine::refusal()
     const auto expression = readText();
     const auto number = expression ? evaluate(expression.value()) : Failure{expression.error()};
     if (!number)
-        return tr("%1 Needed is %2.").arg(number.error(), m_limits.description());
+        return tr("%1 Enter %2 or a formula.").arg(number.error(), m_limits.description());
     if (number.value()) {
         if (const QString why = m_limits.refusal(*number.value()); !why.isEmpty())
             return why;

@@ -75,7 +75,7 @@ void LineCover::finish()
     const double number = m_input->number();
     const QString text = m_target.textFor(number);
     if (text.isEmpty()) {
-        m_input->refuse(tr("The editor doesn't take %1. Needed is %2.")
+        m_input->refuse(tr("The editor doesn't take %1. Enter %2.")
                             .arg(orvane::plainNumber(number), m_target.limits().description()));
         return;
     }

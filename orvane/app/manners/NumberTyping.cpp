@@ -111,11 +111,11 @@ QString NumberTyping::refusal(const EditorLine& target) const
     bool isNumber = false;
     const double number = QLocale::c().toDouble(text, &isNumber);
     QString why = isNumber ? target.limits().refusal(number)
-                           : tr("This isn't a number. Needed is %1.").arg(target.limits().description());
+                           : tr("This isn't a number. Enter %1.").arg(target.limits().description());
     if (why.isEmpty()) {
         if (!target.textFor(number).isEmpty())
             return {}; // with fewer decimals than typed
-        why = tr("The editor doesn't take it. Needed is %1.").arg(target.limits().description());
+        why = tr("The editor doesn't take it. Enter %1.").arg(target.limits().description());
     }
     return tr("“%1”: %2").arg(orvane::shortLine(text), why);
 }
