@@ -170,15 +170,22 @@ bool EditorLine::takesBeginning(const QString& text) const
     return m_line->validator() == nullptr || m_line->validator()->validate(tried, position) != QValidator::Invalid;
 }
 
+QString EditorLine::acceptableText(const QLineEdit* line, const QString& number)
+{
+    for (const QString& text : {number, withoutDecimals(number)}) {
+        QString tried = text;
+        auto position = static_cast<int>(tried.size());
+        if (line->validator() == nullptr || line->validator()->validate(tried, position) == QValidator::Acceptable)
+            return text;
+    }
+    return {};
+}
+
 bool EditorLine::takes(const QString& text) const
 {
     bool isNumber = false;
     const double number = QLocale::c().toDouble(text, &isNumber);
-    if (!isNumber || !m_limits.refusal(number).isEmpty())
-        return false;
-    QString tried = text;
-    auto position = static_cast<int>(tried.size());
-    return m_line->validator() == nullptr || m_line->validator()->validate(tried, position) == QValidator::Acceptable;
+    return isNumber && m_limits.refusal(number).isEmpty() && acceptableText(m_line, text) == text;
 }
 
 QString EditorLine::textFor(double number) const
@@ -190,11 +197,13 @@ QString EditorLine::textFor(double number) const
         = components != nullptr ? orvane::plainNumber(number, components->number()) : orvane::plainNumber(number);
     if (m_limits.isWhole)
         exact = QString::number(number, 'f', 0);
-    for (const QString& text : {exact, withoutDecimals(exact)}) {
-        if (takes(text))
-            return text;
-    }
-    return {};
+    return m_limits.refusal(number).isEmpty() ? acceptableText(m_line, exact) : QString();
+}
+
+bool EditorLine::waitsForReturn() const
+{
+    const FieldComponents* const components = m_field != nullptr ? FieldComponents::of(*m_field) : nullptr;
+    return !m_group.isEmpty() && components->name(components->count() - 1) == "angle";
 }
 
 bool EditorLine::isPartOfCell() const
@@ -223,10 +232,10 @@ double EditorLine::present() const
 
 void EditorLine::showOwnValue() const
 {
-    if (m_table == nullptr || m_field == nullptr || m_place.component < 0)
+    const double own = present();
+    if (m_table == nullptr || std::isnan(own))
         return;
-    const QString text = orvane::plainNumber(present(), FieldComponents::of(*m_field)->number());
-    if (m_line->text() != text)
+    if (const QString text = textFor(own); !text.isEmpty() && m_line->text() != text)
         m_line->setText(text);
 }
 
@@ -238,8 +247,8 @@ void EditorLine::refineOthers() const
     for (int component = 0; component < components->count(); ++component) {
         QLineEdit* const line = m_group.at(component);
         const double exact = components->get(*m_field, 0, component);
-        const QString text = orvane::plainNumber(exact, components->number());
-        if (!line->isModified() && line->text() != text && shows(line->text(), exact))
+        const QString text = acceptableText(line, orvane::plainNumber(exact, components->number()));
+        if (!text.isEmpty() && !line->isModified() && line->text() != text && shows(line->text(), exact))
             line->setText(text);
     }
 }

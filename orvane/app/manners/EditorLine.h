@@ -31,9 +31,14 @@ public:
     [[nodiscard]] bool takesBeginning(const QString& text) const;
     /// Whether the text is a number that the editor reads at Return.
     [[nodiscard]] bool takes(const QString& text) const;
+    /// A text for the number that the validator of the line takes: the number as it is, or without a decimal sign,
+    /// since validators limit the decimals. Empty if there is none.
+    [[nodiscard]] static QString acceptableText(const QLineEdit* line, const QString& number);
     /// The text of the C locale by which the editor reads exactly that number; empty if it takes no such text.
     [[nodiscard]] QString textFor(double number) const;
 
+    /// Whether its editor waits for Return, since the numbers belong together: that of a rotation.
+    [[nodiscard]] bool waitsForReturn() const;
     /// Whether it is a part of a cell's editor, such as a slider with a line.
     [[nodiscard]] bool isPartOfCell() const;
     /// Writes the number to the field itself. False if the place in the field isn't known.

@@ -1,6 +1,7 @@
 #include "orvane/app/manners/EditorManners.h"
 
 #include "orvane/app/manners/CellFocus.h"
+#include "orvane/app/manners/GridGuard.h"
 #include "orvane/app/manners/LineWatch.h"
 #include "orvane/app/manners/NumberTyping.h"
 #include "orvane/app/manners/PaneKeys.h"
@@ -42,6 +43,7 @@ void EditorManners::begin()
     new WheelFocus(this);
     new ShortTips(this);
     new CellFocus(this);
+    new GridGuard(this);
     new NumberTyping(m_services, *watch, this);
     new PaneKeys(m_window, m_fields, *watch);
 }

@@ -85,6 +85,7 @@ void LineCover::finish()
     }
     const QPointer<LineCover> self = this;
     const bool isTab = m_isTab;
+    const bool isLeft = m_isLeft;
     const int tab = m_isBackwards ? Qt::Key_Backtab : Qt::Key_Tab;
     m_isWriting = true;
     close();
@@ -94,6 +95,11 @@ void LineCover::finish()
         return;
     }
     enter(text);
+    if (m_target.waitsForReturn() && (isTab || isLeft)) {
+        if (isTab)
+            sendKey(tab);
+        return;
+    }
     const bool tabCommits = isTab && m_target.table() != nullptr;
     sendKey(tabCommits ? tab : Qt::Key_Return);
     if (self != nullptr && m_line != nullptr)

@@ -15,6 +15,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPointer>
 
 namespace {
 
@@ -120,6 +121,20 @@ QString NumberTyping::refusal(const EditorLine& target) const
     return tr("“%1”: %2").arg(orvane::shortLine(text), why);
 }
 
+// The focus hasn't arrived yet where it goes.
+void NumberTyping::remindOfReturn(QLineEdit* line)
+{
+    const auto remind = [line = QPointer<QLineEdit>(line)] {
+        const QWidget* const focus = QApplication::focusWidget();
+        if (line == nullptr || !line->isVisible() || !line->isModified()
+            || (focus != nullptr && line->parentWidget()->isAncestorOf(focus)))
+            return;
+        InputMessage::showBriefly(line, line->rect(),
+            tr("Not written yet: these numbers are written together, at Return."), InputMessage::Kind::Warning);
+    };
+    QMetaObject::invokeMethod(this, remind, Qt::QueuedConnection);
+}
+
 // Return in a line. True if the editor doesn't get the key.
 bool NumberTyping::finishLine(QLineEdit* line)
 {
@@ -158,6 +173,8 @@ void NumberTyping::leaveLine(QLineEdit* line)
     const QString why = refusal(*target);
     if (why.isEmpty()) {
         target->refineOthers();
+        if (target->waitsForReturn())
+            remindOfReturn(line);
         return;
     }
     m_watch.restore(line);

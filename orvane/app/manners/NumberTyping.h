@@ -30,6 +30,7 @@ private:
     bool insert(QLineEdit* line, const QString& text, bool isPasted);
     bool finishLine(QLineEdit* line);
     void leaveLine(QLineEdit* line);
+    void remindOfReturn(QLineEdit* line);
     [[nodiscard]] QString refusal(const EditorLine& target) const;
 
     OrvServices& m_services;

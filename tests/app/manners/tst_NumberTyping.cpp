@@ -264,6 +264,30 @@ private Q_SLOTS:
         QCOMPARE(value("sfVec3f"), QStringLiteral("0.33333334 0.1234567 3.5"));
     }
 
+    void theNumbersOfARotationWaitForReturn()
+    {
+        const QString before = value("sfRotation");
+        select("sfRotation");
+        enter(lines().at(0));
+        type(QStringLiteral("1,0"));
+        press(Qt::Key_Tab);
+        QVERIFY(lines().at(1)->hasFocus());
+        QCOMPARE(lines().at(0)->text(), QStringLiteral("1"));
+        QCOMPARE(value("sfRotation"), before);
+        type(QStringLiteral("0*1"));
+        press(Qt::Key_Tab);
+        type(QStringLiteral("0"));
+        m_window->findChild<QWidget*>(QStringLiteral("sceneTree"))->setFocus();
+        settle();
+        QCOMPARE(value("sfRotation"), before);
+        QVERIFY(message().contains(QStringLiteral("Return")));
+        enter(lines().at(3));
+        type(QStringLiteral("90deg"));
+        press(Qt::Key_Return);
+        QCOMPARE(value("sfRotation"), QStringLiteral("1 0 0 1.5707964"));
+        QCOMPARE(steps(), 1);
+    }
+
     void aSpinBoxWritesAFinishedNumber()
     {
         select("sfVec2i32");
