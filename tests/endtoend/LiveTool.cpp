@@ -53,7 +53,8 @@ bool LiveTool::startServer()
     // Without key repetition: on a busy machine a key seems to be held for long.
     m_server.setArguments(
         {QStringLiteral("-r"), QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-            QStringLiteral("0"), QStringLiteral("1280x800x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+            QStringLiteral("0"), QStringLiteral("%1x%2x24").arg(1280 * m_scale).arg(800 * m_scale),
+            QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     m_server.start();
     if (!m_server.waitForReadyRead(testPatience))
         return false;
@@ -61,6 +62,10 @@ bool LiveTool::startServer()
     m_environment.insert(
         QStringLiteral("DISPLAY"), u':' + QString::fromLatin1(m_server.readAllStandardOutput().trimmed()));
     m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    if (m_scale > 1)
+        m_environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(m_scale));
+    if (!m_locale.isEmpty())
+        m_environment.insert(QStringLiteral("LC_ALL"), m_locale);
     return startWindowManager();
 }
 
@@ -186,14 +191,20 @@ QString LiveTool::await(const QString& request)
     return reply;
 }
 
+QRect LiveTool::onScreen(const QString& reply) const
+{
+    const QRect rect = toRect(reply);
+    return {rect.topLeft() * m_scale, rect.size() * m_scale};
+}
+
 QRect LiveTool::widget(const QString& name)
 {
-    return toRect(await(QStringLiteral("widget ") + name));
+    return onScreen(await(QStringLiteral("widget ") + name));
 }
 
 QRect LiveTool::item(const QString& view, const QString& text)
 {
-    return toRect(await(QStringLiteral("item %1 %2").arg(view, text)));
+    return onScreen(await(QStringLiteral("item %1 %2").arg(view, text)));
 }
 
 QString LiveTool::property(const QString& name, const QString& key)

@@ -21,6 +21,10 @@ public:
     void keepSettingsIn(const QString& folder) { m_settingsFolder = folder; }
     /// Lets the tool keep recovery files in a folder that the test owns. Without, it has one of its own.
     void keepStateIn(const QString& folder) { m_stateFolder = folder; }
+    /// The locale of the desktop, such as "de_DE.UTF-8".
+    void useLocale(const QString& locale) { m_locale = locale; }
+    /// How many pixels of the screen are one of the tool's. The screen has as many more.
+    void useScale(int scale) { m_scale = scale; }
     /// Starts server and tool and waits until the window has its place.
     [[nodiscard]] bool start(const QStringList& arguments);
     /// Closes the window as Ctrl+Q does and gives the exit status, or -1.
@@ -59,6 +63,7 @@ public:
 
 private:
     [[nodiscard]] QStringList settingsArguments() const;
+    [[nodiscard]] QRect onScreen(const QString& reply) const;
     [[nodiscard]] QString ask(const QString& request);
     /// Asks until the answer isn't empty.
     [[nodiscard]] QString await(const QString& request);
@@ -71,6 +76,8 @@ private:
     QTemporaryDir m_folder;
     QString m_settingsFolder;
     QString m_stateFolder;
+    QString m_locale;
+    int m_scale = 1;
     QProcess m_server;
     QProcess m_windowManager;
     QProcess m_tool;
