@@ -7,6 +7,15 @@
 namespace orvane {
 namespace {
 
+bool parseSpace(std::string_view text, ImportOptions::Space& space)
+{
+    using Space = ImportOptions::Space;
+    if (text != "convert" && text != "axes" && text != "keep")
+        return false;
+    space = text == "convert" ? Space::Convert : text == "axes" ? Space::Axes : Space::Keep;
+    return true;
+}
+
 bool parseNumber(std::string_view text, std::size_t& number)
 {
     const auto [behind, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -46,6 +55,8 @@ std::string* valueOf(std::string_view option, Arguments& arguments)
         arguments.task = Arguments::Task::Write;
         return &arguments.subject;
     }
+    if (option == "--space")
+        return &arguments.space;
     return option == "--name" ? &arguments.name : nullptr;
 }
 
@@ -85,6 +96,9 @@ const char* usage() noexcept
     return "Usage: orvane-import --read FILE            write the model as a scene to standard output,\n"
            "                     [--packed]             with its long lists as they lie in memory, for a tool of\n"
            "                                            the same build\n"
+           "                     [--space SPACE]        with the unit and the up axis of the file: convert to\n"
+           "                                            metres with y upwards (the default), axes, which only\n"
+           "                                            turns, or keep\n"
            "                     [--keep-groups]        with the groups that have one child and no effect\n"
            "       orvane-import --write EXTENSION      read a scene from standard input and write the model,\n"
            "                     [--name NAME]          as framed files, to standard output\n"
@@ -152,6 +166,10 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
     }
     if (arguments.packed && arguments.task != Arguments::Task::Read) {
         error = "--packed goes with --read only";
+        return std::nullopt;
+    }
+    if (!parseSpace(arguments.space, arguments.import.space)) {
+        error = "--space needs convert, axes or keep, not \"" + arguments.space + "\"";
         return std::nullopt;
     }
     if (arguments.import.keepsGroups && arguments.task != Arguments::Task::Read) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/import/conversion/ImportOptions.h"
+#include "orvane/import/mending/ImportOptions.h"
 #include "orvane/import/sandbox/ProcessLimits.h"
 
 #include <optional>
@@ -18,6 +18,7 @@ struct Arguments {
     std::string subject;
     /// Read: what becomes of the model.
     ImportOptions import;
+    std::string space = "convert"; // of it, as text
     /// Read: whether to write the scene packed (see `PackedScene`) rather than as text.
     bool packed = false;
     /// Write: the name of the model's files without extension.

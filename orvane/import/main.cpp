@@ -41,10 +41,12 @@ int fail(const std::string& message, Status status = Failure)
     return status;
 }
 
-bool writeText(NxGroup& scene, const std::vector<std::string>& warnings, std::string& error)
+bool writeText(NxGroup& scene, const orvane::ModelReader& reader, std::string& error)
 {
-    for (const std::string& warning : warnings)
+    for (const std::string& warning : reader.warnings())
         std::fprintf(stderr, "warning: %s\n", warning.c_str());
+    if (!reader.note().empty())
+        std::fprintf(stderr, "note: %s\n", reader.note().c_str());
     NxSceneWriter writer(&scene);
     std::string text;
     // In parts, so that the text of a large scene needn't fit in memory as a whole.
@@ -60,9 +62,9 @@ bool writeText(NxGroup& scene, const std::vector<std::string>& warnings, std::st
     return error.empty();
 }
 
-bool writePacked(NxGroup& scene, const std::vector<std::string>& warnings, std::string& error)
+bool writePacked(NxGroup& scene, const orvane::ModelReader& reader, std::string& error)
 {
-    const orvane::PackedScene packed(scene, warnings);
+    const orvane::PackedScene packed(scene, reader.warnings(), reader.note());
     error = packed.failure();
     if (!error.empty())
         return false;
@@ -78,8 +80,7 @@ int readModel(const std::string& path, const Arguments& arguments)
     const NxRef<NxGroup> scene = reader.read(path, error);
     if (!scene)
         return fail(error);
-    const std::vector<std::string> warnings = reader.warnings();
-    if (!(arguments.packed ? writePacked(*scene, warnings, error) : writeText(*scene, warnings, error)))
+    if (!(arguments.packed ? writePacked(*scene, reader, error) : writeText(*scene, reader, error)))
         return fail(error);
     // The end of the process frees all memory at once, which is faster than freeing it block by block. Only the leak
     // check needs that, and the counts of branches, which are written then.

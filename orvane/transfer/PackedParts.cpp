@@ -121,6 +121,10 @@ void PackedParts::readTextLine(std::string_view line)
 {
     if (takeStart(line, "warning "))
         return readWarning(line);
+    if (takeStart(line, "note ")) {
+        m_note = line;
+        return;
+    }
     const std::optional<std::size_t> size = takeStart(line, "text ") ? takeNumber(line) : std::nullopt;
     if (!size || !line.empty() || *size > m_left)
         return failAtSize();
@@ -169,6 +173,7 @@ void PackedParts::endAtEnd()
 void PackedParts::fail(std::string reason)
 {
     m_warnings = {};
+    m_note = {};
     m_text = {};
     m_blocks = {};
     m_failure = std::move(reason);

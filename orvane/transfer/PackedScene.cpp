@@ -36,31 +36,32 @@ void withPackableList(NxField& field, const Action& action)
         || tryAs(dynamic_cast<NxMFVec4f*>(&field)) || tryAs(dynamic_cast<NxMFInt32*>(&field)));
 }
 
-std::string linesOf(const std::vector<std::string>& warnings)
+std::string lineOf(const char* word, const std::string& message)
 {
-    std::string lines;
-    for (const std::string& warning : std::span(warnings).first(std::min(warnings.size(), PackedScene::mostWarnings))) {
-        std::string text = warning.substr(0, PackedScene::longestWarning);
-        // Not in the middle of a character.
-        while (text.size() < warning.size() && !text.empty()
-            && (static_cast<unsigned char>(warning[text.size()]) & 0xc0) == 0x80)
-            text.pop_back();
-        std::replace_if(
-            text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
-        lines.append("warning ").append(text).append("\n");
-    }
-    return lines;
+    std::string text = message.substr(0, PackedScene::longestWarning);
+    // Not in the middle of a character.
+    while (text.size() < message.size() && !text.empty()
+        && (static_cast<unsigned char>(message[text.size()]) & 0xc0) == 0x80)
+        text.pop_back();
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
+    return word + text + '\n';
 }
 
 } // namespace
 
-PackedScene::PackedScene(NxGroup& scene, const std::vector<std::string>& warnings)
+PackedScene::PackedScene(NxGroup& scene, const std::vector<std::string>& warnings, const std::string& note)
 {
     meridane::NodeTraversal nodes(scene);
     std::size_t number = 0;
     while (NxNode* node = nodes.next())
         takeBlocks(*node, number++);
-    writeText(scene, linesOf(warnings));
+    std::string lines;
+    for (const std::string& warning : std::span(warnings).first(std::min(warnings.size(), mostWarnings)))
+        lines += lineOf("warning ", warning);
+    if (!note.empty())
+        lines += lineOf("note ", note);
+    writeText(scene, lines);
 }
 
 void PackedScene::takeBlocks(NxNode& node, std::size_t number)
@@ -102,16 +103,16 @@ void PackedScene::addBlock(
     m_blocks.push_back({std::move(head), kept, {reinterpret_cast<const char*>(kept->data()), size}});
 }
 
-void PackedScene::writeText(NxGroup& scene, const std::string& warningLines)
+void PackedScene::writeText(NxGroup& scene, const std::string& messageLines)
 {
     NxSceneWriter writer(&scene);
     while (writer.step(m_text, std::chrono::hours(1))) { }
     m_failure = writer.failure();
     const std::string textHead = std::string("text ").append(std::to_string(m_text.size())).append("\n");
-    std::size_t size = warningLines.size() + textHead.size() + m_text.size();
+    std::size_t size = messageLines.size() + textHead.size() + m_text.size();
     for (const Block& block : m_blocks)
         size += block.head.size() + block.bytes.size();
-    m_head.append(firstWords).append(std::to_string(size)).append("\n").append(warningLines).append(textHead);
+    m_head.append(firstWords).append(std::to_string(size)).append("\n").append(messageLines).append(textHead);
 }
 
 std::vector<std::string_view> PackedScene::portions() const

@@ -14,10 +14,11 @@ class NxSFImage;
 /// in memory, everything else as the text of a scene file.
 ///
 /// The text "orvane-scene 2 SIZE" and a line feed, where SIZE is the number of bytes after that line; a line "warning
-/// TEXT" for each warning; a line "text SIZE" and the SIZE bytes of a scene file, in which those fields are empty; then
-/// for each of them a block: a line "list SIZE NODE FIELD" or "image SIZE NODE WIDTH HEIGHT COMPONENTS FIELD", and its
-/// SIZE bytes. NODE counts the nodes in the order of the text from 0 (see `meridane::NodeTraversal`), FIELD is the name
-/// of a field of that node. The blocks are in the order of the nodes, and of the fields of a node.
+/// TEXT" for each warning; a line "note TEXT" if there is a note; a line "text SIZE" and the SIZE bytes of a scene
+/// file, in which those fields are empty; then for each of them a block: a line "list SIZE NODE FIELD" or "image SIZE
+/// NODE WIDTH HEIGHT COMPONENTS FIELD", and its SIZE bytes. NODE counts the nodes in the order of the text from 0 (see
+/// `meridane::NodeTraversal`), FIELD is the name of a field of that node. The blocks are in the order of the nodes, and
+/// of the fields of a node.
 namespace orvane {
 
 /// A scene that is ready to be sent.
@@ -34,7 +35,8 @@ public:
 
     /// Moves the long lists and the images out of the scene, and writes the text of the rest. The warnings are what the
     /// user should know of the scene: text in UTF-8, control characters become blanks.
-    explicit PackedScene(NxGroup& scene, const std::vector<std::string>& warnings = {});
+    /// The note is a sentence for the status line.
+    explicit PackedScene(NxGroup& scene, const std::vector<std::string>& warnings = {}, const std::string& note = {});
 
     /// Why the scene can't be written; empty if it can.
     [[nodiscard]] const std::string& failure() const noexcept { return m_failure; }
@@ -53,7 +55,7 @@ private:
     void takeImage(NxSFImage& field, const std::string& node, const std::string& name);
     template <typename Value>
     void addBlock(const char* word, const std::string& numbers, const std::string& name, std::vector<Value> values);
-    void writeText(NxGroup& scene, const std::string& warningLines);
+    void writeText(NxGroup& scene, const std::string& messageLines);
 
     std::string m_head; // of all, with the warnings, and of the text
     std::string m_text;

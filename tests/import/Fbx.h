@@ -11,6 +11,20 @@ inline QByteArray vector(const char* name, const char* value)
     return QByteArray("P: \"") + name + "\", \"Vector3D\", \"Vector\", \"\"," + value + '\n';
 }
 
+inline QByteArray number(const char* name, const char* type, const char* kind, const char* value)
+{
+    return QByteArray("P: \"") + name + "\", \"" + type + "\", \"" + kind + "\", \"\"," + value + '\n';
+}
+
+/// Settings of a file: its axes, as the numbers that the format has for them, and how many centimetres a unit is.
+inline QByteArray space(const char* up, const char* front, const char* frontSign, const char* right, const char* unit)
+{
+    return number("UpAxis", "int", "Integer", up) + number("UpAxisSign", "int", "Integer", "1")
+        + number("FrontAxis", "int", "Integer", front) + number("FrontAxisSign", "int", "Integer", frontSign)
+        + number("CoordAxis", "int", "Integer", right) + number("CoordAxisSign", "int", "Integer", "1")
+        + number("UnitScaleFactor", "double", "Number", unit);
+}
+
 /// A model with these nodes, in which each but the first is a child of the one before it. Each has the triangle. A node
 /// is its name and its properties.
 struct Node {

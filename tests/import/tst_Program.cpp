@@ -115,6 +115,9 @@ private Q_SLOTS:
             QStringLiteral("obj")} << alone;
         QTest::newRow("packed formats") << QStringList{QStringLiteral("--formats"), QStringLiteral("--packed")}
                                         << alone;
+        QTest::newRow("unknown space") << QStringList{QStringLiteral("--read"), QStringLiteral("a.obj"),
+            QStringLiteral("--space"), QStringLiteral("outer")}
+                                       << QStringLiteral("--space needs convert, axes or keep, not \"outer\"") + end;
         QTest::newRow("groups of what is written")
             << QStringList{QStringLiteral("--keep-groups"), QStringLiteral("--write"), QStringLiteral("obj")}
             << QStringLiteral("--keep-groups goes with --read only") + end;

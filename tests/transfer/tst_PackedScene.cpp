@@ -193,7 +193,8 @@ private Q_SLOTS:
             "left out \"é\"", "", "two\nlines", std::string(3999, 'x') + "é", std::string(9000, 'y')};
         warnings.resize(40, "another");
         orvane::PackedParts parts;
-        for (const std::string_view portion : PackedScene(*scene, warnings).portions())
+        const PackedScene packed(*scene, warnings);
+        for (const std::string_view portion : packed.portions())
             parts.take(portion);
         QVERIFY2(parts.isComplete(), parts.failure().c_str());
         QCOMPARE(parts.warnings().size(), PackedScene::mostWarnings);
@@ -202,6 +203,18 @@ private Q_SLOTS:
         QCOMPARE(parts.warnings()[2], std::string("two lines"));
         QCOMPARE(parts.warnings()[3], std::string(3999, 'x'));
         QCOMPARE(parts.warnings()[4], std::string(4000, 'y'));
+    }
+
+    void aNoteComesWithTheScene()
+    {
+        const NxRef<NxGroup> scene = new NxGroup;
+        orvane::PackedParts parts;
+        const PackedScene packed(*scene, {"a"}, "turned\nround");
+        for (const std::string_view portion : packed.portions())
+            parts.take(portion);
+        QVERIFY2(parts.isComplete(), parts.failure().c_str());
+        QCOMPARE(parts.note(), std::string("turned round"));
+        QCOMPARE(parts.warnings(), std::vector<std::string>{"a"});
     }
 
     void tooManyWarningsAreRefused()

@@ -70,6 +70,8 @@ Result<NxRef<NxGroup>> BatchRun::open(const QString& fileName)
         return Failure{result.error()};
     if (!job->warnings().isEmpty())
         orvane::printError(QStringLiteral("warning: ") + job->warningText());
+    if (!job->note().isEmpty())
+        orvane::printError(QStringLiteral("note: %1: %2").arg(fileName, job->note()));
     return job->takeScene();
 }
 

@@ -37,6 +37,7 @@ FileFlow::FileFlow(
     , m_saving(session, recent, m_work, m_disk, m_jobMakers.save, window)
 {
     connect(&m_work, &FileWork::writingEnded, this, &FileFlow::ended);
+    connect(&m_work, &FileWork::noted, this, &FileFlow::noted);
     connect(&session.document(), &SceneDocument::sceneChanged, this,
         [this] { m_work.dropOtherScenes(m_session.document().sceneNumber()); });
     connect(&m_reload, &SceneReload::aboutToChange, this, &FileFlow::aboutToReload);

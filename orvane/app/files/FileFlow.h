@@ -87,6 +87,8 @@ Q_SIGNALS:
     void aboutToReload();
     /// It is now. The text says so to the user.
     void reloaded(const QString& text);
+    /// Something that the user should know of a file that was read, and that needs nothing to be done.
+    void noted(const QString& text);
     /// The file can't be reloaded, or isn't because the scene has changes.
     void reloadRefused();
     /// The open scene is to be compared with the scene of that file.

@@ -97,6 +97,8 @@ public:
     [[nodiscard]] const NxReadFailure& failure() const noexcept { return m_failure; }
     /// What of the file isn't in the scene, or not as it was, once the job has finished: a text for each.
     [[nodiscard]] const QStringList& warnings() const noexcept { return m_warnings; }
+    /// What became of the unit and the up axis of the file, a sentence; empty if that is nothing to speak of.
+    [[nodiscard]] const QString& note() const noexcept { return m_note; }
     /// The warnings as one message that names the file.
     [[nodiscard]] QString warningText() const;
 
@@ -108,6 +110,7 @@ protected:
     /// The same at once, for a small scene.
     void finishAtOnceWith(const NxRef<NxGroup>& scene);
     void setWarnings(const QStringList& warnings) { m_warnings = warnings; }
+    void setNote(const QString& note) { m_note = note; }
     /// Ends the job with `failed`.
     void failToRead(NxReadFailure failure);
 
@@ -118,4 +121,5 @@ private:
     ReadScene m_read; // once the job has finished
     NxReadFailure m_failure;
     QStringList m_warnings;
+    QString m_note;
 };

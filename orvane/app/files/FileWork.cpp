@@ -137,6 +137,8 @@ void FileWork::read(Kind kind, std::unique_ptr<SceneJob> job, const Reader& read
     connect(running, &FileJob::finished, this, [this, running] {
         m_messages.clearTopic(readingTopic);
         showWarnings(m_reading->kind, *running);
+        if (!running->note().isEmpty())
+            Q_EMIT noted(running->note());
         m_reading->content = running->take();
         retire(std::move(m_reading->job));
         goOnLater();

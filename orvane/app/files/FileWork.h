@@ -90,6 +90,8 @@ public:
 Q_SIGNALS:
     /// A scene was written, or the user cancelled that, or it failed.
     void writingEnded(const orvane::Result<>& result);
+    /// Something that the user should know of a file that was read, and that needs nothing to be done.
+    void noted(const QString& text);
 
 private:
     struct Reading {

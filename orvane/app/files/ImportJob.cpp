@@ -13,6 +13,9 @@ QStringList argumentsFor(const QString& fileName)
     QStringList arguments{QStringLiteral("--packed"), QStringLiteral("--read"), orvane::absoluteFileName(fileName)};
     if (NxPreferences::getBool("ORVANE_KEEP_GROUPS", 0) != 0)
         arguments += QStringLiteral("--keep-groups");
+    const VbString space = NxPreferences::getString("ORVANE_MODEL_SPACE", VbString("convert"));
+    if (space == VbString("axes") || space == VbString("keep"))
+        arguments << QStringLiteral("--space") << orvane::toQString(space.view());
     return arguments;
 }
 
@@ -75,6 +78,7 @@ void ImportJob::startReading()
     for (const std::string& warning : m_parts.warnings())
         warnings += orvane::toQString(warning);
     setWarnings(warnings);
+    setNote(orvane::toQString(m_parts.note()));
     m_reader = std::make_unique<orvane::PackedSceneReader>(std::move(m_parts));
     startSlices();
 }

@@ -257,10 +257,12 @@ void MainWindow::connectReload()
     m_diskChange = new DiskChangeBar(document(), *m_files, *m_messages, this);
     m_inspectors->followReloads(*m_files);
     new ReloadedTree(*m_files, document(), m_session.services(), m_tree, this);
-    connect(m_files, &FileFlow::reloaded, this, [this](const QString& text) {
+    const auto say = [this](const QString& text) {
         constexpr std::chrono::seconds shown(10);
         statusBar()->showMessage(text, static_cast<int>(std::chrono::milliseconds(shown).count()));
-    });
+    };
+    connect(m_files, &FileFlow::reloaded, this, say);
+    connect(m_files, &FileFlow::noted, this, say);
 }
 
 void MainWindow::updateTitle()

@@ -5,6 +5,7 @@
 #include "orvane/import/mending/ModelMending.h"
 #include "orvane/import/mending/ObjMending.h"
 #include "orvane/import/mending/PivotFolding.h"
+#include "orvane/import/mending/SpaceConversion.h"
 
 #include "meridane/base/Files.h"
 
@@ -121,6 +122,7 @@ bool ModelReader::mend(aiScene& model, std::string& error)
     mendVertexColors(model, m_colorStorage, m_warnings);
     mendMaterials(model, m_warnings);
     foldPivots(*model.mRootNode);
+    m_note = convertSpace(model, m_options.space);
     // Nodes alone may be meant.
     if (hasContent(model) || (model.mNumMeshes == 0 && model.mRootNode->mNumChildren > 0))
         return true;
@@ -133,6 +135,7 @@ bool ModelReader::mend(aiScene& model, std::string& error)
 const aiScene* ModelReader::readMended(const std::string& path, ModelFiles& files, std::string& error)
 {
     m_warnings = {};
+    m_note.clear();
     const aiScene* model = readFile(path, files);
     if (model != nullptr && model->mRootNode != nullptr) {
         // The importer's own, which it lets nobody else change; but its steps don't survive every model.

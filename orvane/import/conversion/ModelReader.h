@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orvane/import/conversion/ImportOptions.h"
 #include "orvane/import/mending/ColorMending.h"
+#include "orvane/import/mending/ImportOptions.h"
 #include "orvane/import/mending/ImportWarnings.h"
 
 #include "meridane/scene/fields/NxRef.h"
@@ -33,6 +33,8 @@ public:
     [[nodiscard]] NxRef<NxGroup> read(const std::string& path, std::string& error);
     /// What the user should know of the model that was read last: what was left out or mended.
     [[nodiscard]] std::vector<std::string> warnings() const { return m_warnings.texts(); }
+    /// What became of its unit and up axis, a sentence; empty if that is nothing to speak of.
+    [[nodiscard]] const std::string& note() const noexcept { return m_note; }
 
 private:
     [[nodiscard]] const aiScene* readFile(const std::string& path, ModelFiles& files);
@@ -42,6 +44,7 @@ private:
     std::unique_ptr<Assimp::Importer> m_importer;
     ImportOptions m_options;
     ImportWarnings m_warnings;
+    std::string m_note;
     ColorStorage m_colorStorage = ColorStorage::Usual;
 };
 

@@ -86,6 +86,12 @@ std::vector<NamedFile> writeModel(
     if (format == "obj")
         makeMaterialNamesUnique(*model);
 
+    if (format == "fbxa") {
+        // Centimetres in a unit: scenes are in metres.
+        model->mMetaData = aiMetadata::Alloc(1);
+        model->mMetaData->Set(0, "UnitScaleFactor", 100.0);
+    }
+
     std::optional<GltfAdditions> additions;
     if (isGltf)
         additions.emplace(*model);

@@ -29,6 +29,9 @@ bool isPlain(const aiNode& node)
     return node.mNumChildren == 0 && node.mNumMeshes == 0;
 }
 
+// Of the nodes that many readers add above those of the model.
+constexpr std::array<std::string_view, 3> rootNames{"ROOT", "RootNode", "Scene"};
+
 } // namespace
 
 SceneBuilder::SceneBuilder(
@@ -62,12 +65,11 @@ NxRef<NxGroup> SceneBuilder::build(std::string& error)
 // Many readers add a node above those of the model.
 bool SceneBuilder::isMadeUp(const aiNode& root) const
 {
-    constexpr std::array<std::string_view, 3> names{"ROOT", "RootNode", "Scene"};
     const std::string_view name = viewOf(root.mName);
     // A node that has no name in its file is a group like others.
     const bool isGroup = m_options.keepsGroups && !name.empty() && !name.starts_with('<');
-    const bool isNamed = (isGroup || !isMadeUpName(name)) && std::find(names.begin(), names.end(), name) == names.end()
-        && name != m_fileName;
+    const bool isNamed = (isGroup || !isMadeUpName(name))
+        && std::find(rootNames.begin(), rootNames.end(), name) == rootNames.end() && name != m_fileName;
     return !isNamed && root.mTransformation.IsIdentity() && !m_cameras.contains(name) && !m_lights.contains(name);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orvane/import/conversion/ImportOptions.h"
 #include "orvane/import/conversion/TextureSearch.h"
+#include "orvane/import/mending/ImportOptions.h"
 #include "orvane/import/mending/ImportWarnings.h"
 
 #include "meridane/scene/fields/NxRef.h"

@@ -32,6 +32,7 @@ public:
             group->addChild(new NxGroup);
             scene->addChild(group.get());
             setWarnings(m_jobs.m_warnings);
+            setNote(m_jobs.m_note);
             finishAtOnceWith(scene);
         }
         void fail(const QString& message) { failToRead({{}, 0, 0, message.toStdString()}); }
@@ -73,6 +74,7 @@ public:
     [[nodiscard]] QStringList& log() { return m_log; }
     /// The warnings of the files that are read from now on.
     void setWarnings(const QStringList& warnings) { m_warnings = warnings; }
+    void setNote(const QString& note) { m_note = note; }
 
     static void finish(FileJob* job)
     {
@@ -109,4 +111,5 @@ private:
     std::vector<FileJob*> m_running;
     QStringList m_log;
     QStringList m_warnings;
+    QString m_note;
 };

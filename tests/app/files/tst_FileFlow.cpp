@@ -189,6 +189,20 @@ private Q_SLOTS:
         QCOMPARE(ends, QStringList(QStringLiteral("a.mrd: broken")));
     }
 
+    void theNoteOfAFileIsPassedOn()
+    {
+        QStringList notes;
+        connect(m_flow, &FileFlow::noted, m_flow, [&notes](const QString& text) { notes += text; });
+        m_jobs->setNote(QStringLiteral("it was turned"));
+        ask(Kind::Open, "a.mrd");
+        finishAll();
+        m_jobs->setNote({});
+        ask(Kind::Open, "b.mrd");
+        finishAll();
+        QCOMPARE(notes, QStringList(QStringLiteral("it was turned")));
+        QCOMPARE(m_messages->texts(), QStringList());
+    }
+
     void warningsOfAFileAreOneMessage()
     {
         m_jobs->setWarnings({QStringLiteral("no lamp"), QStringLiteral("no face")});

@@ -27,9 +27,12 @@ public:
         m_crashed = run.crashed;
         m_message = run.message();
         m_warnings.clear();
+        m_note.clear();
         for (const QString& line : run.error.split(u'\n')) {
             if (line.startsWith(QStringLiteral("warning: ")))
                 m_warnings += line.mid(9);
+            if (line.startsWith(QStringLiteral("note: ")))
+                m_note = line.mid(6);
         }
         std::string error;
         return run.status == 0 ? sceneOf(run.output, error) : NxRef<NxGroup>();
@@ -38,6 +41,8 @@ public:
     [[nodiscard]] QString path(const char* name) const { return m_folder.filePath(QString::fromUtf8(name)); }
     /// The warnings of the model that was read last.
     [[nodiscard]] const QStringList& warnings() const { return m_warnings; }
+    /// What was said of its space.
+    [[nodiscard]] const QString& note() const { return m_note; }
     /// Why it was refused, without the path.
     [[nodiscard]] QString message() const { return m_message.section(QStringLiteral(": "), 1); }
     [[nodiscard]] bool hasCrashed() const { return m_crashed; }
@@ -62,5 +67,6 @@ private:
     QTemporaryDir m_folder;
     QString m_message;
     QStringList m_warnings;
+    QString m_note;
     bool m_crashed = false;
 };

@@ -55,3 +55,20 @@ inline std::vector<WorldTriangle> worldTriangles(const NxGroup& scene)
     std::sort(triangles.begin(), triangles.end());
     return triangles;
 }
+
+// The corners of all meshes where they are seen, in the order of the scene.
+inline std::vector<aiVector3D> placedCorners(const NxGroup& group, const aiMatrix4x4& above = {})
+{
+    std::vector<aiVector3D> corners;
+    const aiMatrix4x4 worldTransform = above * orvane::matrixOf(group);
+    for (NxNode* child : group.getChildren()) {
+        if (const auto* mesh = dynamic_cast<const NxMesh*>(child)) {
+            for (const int index : mesh->indices.getValues())
+                corners.push_back(worldTransform * orvane::toAiVector(mesh->positions[index]));
+        } else if (const auto* inner = dynamic_cast<const NxGroup*>(child)) {
+            const std::vector<aiVector3D> more = placedCorners(*inner, worldTransform);
+            corners.insert(corners.end(), more.begin(), more.end());
+        }
+    }
+    return corners;
+}
