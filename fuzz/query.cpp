@@ -20,7 +20,7 @@ NxRef<NxGroup> makeScene()
     NxSceneReader reader("#mrd 1.0\n"
                          "Transform \"robot\" {\n  translation = 1 2 nan\n"
                          "  Material \"red / blue\" { ignored transparency = 0.5 }\n"
-                         "  Mesh \"\xC3\x84rmel\" { positions = [0 0 0, 1 0 0, inf 1 0] indices = [0, 1, 2] }\n"
+                         "  Mesh \"\xC3\x84rmel\" { positions = [0 0 0, 1 0 0, inf 1 0]; indices = [0, 1, 2] }\n"
                          "  PointLight { }\n}\nFieldGallery { }\nWidget \"w\" { unknown = 1 }\n",
         "sample");
     reader.run();

@@ -19,8 +19,8 @@ bool ExpressionSource::isLetter(char character) noexcept
 
 std::string ExpressionSource::quote(std::string_view text)
 {
-    constexpr std::size_t mostBytes = 40;
-    return "\"" + excerpt(text, mostBytes) + "\"";
+    constexpr std::size_t mostQuoted = 40;
+    return "\"" + excerpt(text, mostQuoted) + "\"";
 }
 
 void ExpressionSource::skipBlanks() noexcept

@@ -54,7 +54,8 @@ FormulaParser::FormulaParser()
 void FormulaParser::bind(std::size_t index, const double* value)
 {
     // The library reads variables only; formulas have no assignments.
-    DefineVar("v" + std::to_string(index), const_cast<double*>(value)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    DefineVar(std::string("v").append(std::to_string(index)),
+        const_cast<double*>(value)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
 }
 
 void FormulaParser::InitCharSets()

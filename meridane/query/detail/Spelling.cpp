@@ -15,6 +15,7 @@ struct Replacement {
 };
 
 constexpr std::string_view degree(&Spelling::degreeSign, 1);
+constexpr std::string_view unknown(&Spelling::unknownSign, 1);
 
 constexpr std::array replacements{
     Replacement{U'\u00A0', U'\u00A0', " "}, // no-break space
@@ -49,17 +50,25 @@ char32_t codePointOf(std::string_view character)
     }
 }
 
-std::string spellCharacter(std::string_view character)
+std::string_view spellOther(std::string_view character)
 {
+    static constexpr std::string_view digits = "0123456789";
     const char32_t codePoint = codePointOf(character);
     const auto found = std::ranges::find_if(replacements,
         [codePoint](const Replacement& entry) { return codePoint >= entry.first && codePoint <= entry.last; });
     if (found == replacements.end())
-        return {Spelling::unknownSign};
-    std::string ascii(found->ascii);
-    if (ascii == "0")
-        ascii[0] = static_cast<char>('0' + (codePoint - found->first));
-    return ascii;
+        return unknown;
+    return found->ascii == "0" ? digits.substr(codePoint - found->first, 1) : found->ascii;
+}
+
+std::string_view spellCharacter(std::string_view character)
+{
+    const auto byte = static_cast<unsigned char>(character[0]);
+    if (byte >= 0x80)
+        return spellOther(character);
+    if (byte == '\t' || byte == '\n' || byte == '\r')
+        return " ";
+    return byte < ' ' || byte == 0x7F ? unknown : character;
 }
 
 } // namespace
@@ -77,14 +86,7 @@ Spelling spell(std::string_view original)
     Spelling result;
     for (std::size_t offset = 0; offset < original.size();) {
         const std::string_view character = characterAt(original, offset);
-        const auto byte = static_cast<unsigned char>(character[0]);
-        std::string ascii(character);
-        if (byte >= 0x80)
-            ascii = spellCharacter(character);
-        else if (byte == '\t' || byte == '\n' || byte == '\r')
-            ascii = " ";
-        else if (byte < ' ' || byte == 0x7F)
-            ascii = Spelling::unknownSign;
+        const std::string_view ascii = spellCharacter(character);
         result.text += ascii;
         result.positions.insert(result.positions.end(), ascii.size(), offset);
         offset += character.size();

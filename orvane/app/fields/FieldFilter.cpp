@@ -3,34 +3,23 @@
 #include "orvane/app/fields/FieldRow.h"
 
 #include <algorithm>
+#include <utility>
 
-namespace {
-
-bool hasLettersInOrder(const QString& text, const QString& letters)
-{
-    qsizetype next = 0;
-    for (const QChar letter : letters) {
-        next = text.indexOf(letter, next, Qt::CaseInsensitive) + 1;
-        if (next == 0)
-            return false;
-    }
-    return true;
-}
-
-} // namespace
-
-FieldFilter::FieldFilter(const QString& text, bool changedOnly)
-    : m_words(text.simplified().split(u' ', Qt::SkipEmptyParts))
+FieldFilter::FieldFilter(meridane::Query query, bool changedOnly)
+    : m_query(std::move(query))
     , m_changedOnly(changedOnly)
 {
 }
 
+// Of many nodes the first ones decide: a key in the filter line may not take long.
 bool FieldFilter::shows(const FieldRow& row) const
 {
+    constexpr std::size_t mostFields = 50;
     if (m_changedOnly && !row.isChanged())
         return false;
-    return std::ranges::all_of(m_words, [&row](const QString& word) {
-        return hasLettersInOrder(row.name(), word) || hasLettersInOrder(row.type(), word)
-            || hasLettersInOrder(row.text(), word);
-    });
+    if (row.fields().isEmpty())
+        return m_query.matchesText((row.name() + u'\n' + row.text()).toStdString());
+    const std::span<NxField* const> fields = row.fields().fields();
+    return std::ranges::any_of(fields.first(std::min(fields.size(), mostFields)),
+        [this](const NxField* field) { return m_query.matches(*field); });
 }

@@ -1,16 +1,14 @@
 #include "orvane/app/fields/FieldFilterBar.h"
 
+#include "orvane/app/input/FilterLine.h"
 #include "orvane/app/look/Look.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QToolButton>
 
 FieldFilterBar::FieldFilterBar(QWidget* parent)
     : QWidget(parent)
-    , m_line(new QLineEdit(this))
+    , m_line(new FilterLine(meridane::Query::Subject::Scene, this))
     , m_changedOnly(new QToolButton(this))
 {
     const int unit = orvane::look::unit(fontMetrics());
@@ -23,10 +21,8 @@ FieldFilterBar::FieldFilterBar(QWidget* parent)
     m_line->setObjectName(QStringLiteral("fieldFilter"));
     m_line->setAccessibleName(tr("Filter the fields"));
     m_line->setPlaceholderText(tr("Filter by name, type or value"));
-    m_line->setToolTip(tr("Words of which each is in the name, the type or the value of a field, with its letters in "
-                          "order."));
-    m_line->setClearButtonEnabled(true);
-    m_line->installEventFilter(this);
+    m_line->setToolTip(tr("Letters of the name or the type in their order, words of the value, or a query: f:radius, "
+                          "t:Vec3f, >0.5, =true, ~text, changed, ignored, not, or, brackets, /regular expressions/."));
     m_changedOnly->setObjectName(QStringLiteral("changedFieldsOnly"));
     m_changedOnly->setText(tr("Changed"));
     m_changedOnly->setToolTip(tr("Show only fields that differ from their defaults."));
@@ -36,13 +32,19 @@ FieldFilterBar::FieldFilterBar(QWidget* parent)
     bold.setBold(true); // as the rows that it shows
     m_changedOnly->setFont(bold);
 
-    connect(m_line, &QLineEdit::textChanged, this, &FieldFilterBar::changed);
+    connect(m_line, &FilterLine::queryChanged, this, &FieldFilterBar::changed);
+    connect(m_line, &FilterLine::left, this, &FieldFilterBar::left);
     connect(m_changedOnly, &QToolButton::toggled, this, &FieldFilterBar::changed);
 }
 
-QString FieldFilterBar::text() const
+const meridane::Query& FieldFilterBar::query() const
 {
-    return m_line->text();
+    return m_line->query();
+}
+
+bool FieldFilterBar::isOn() const
+{
+    return !query().isEmpty() || isChangedOnly();
 }
 
 bool FieldFilterBar::isChangedOnly() const
@@ -54,20 +56,4 @@ void FieldFilterBar::clear()
 {
     m_line->clear();
     m_changedOnly->setChecked(false);
-}
-
-bool FieldFilterBar::eventFilter(QObject* object, QEvent* event)
-{
-    if (object == m_line && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<const QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Escape && !m_line->text().isEmpty()) {
-            m_line->clear();
-            return true;
-        }
-        if (key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
-            Q_EMIT left();
-            return true;
-        }
-    }
-    return QWidget::eventFilter(object, event);
 }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "meridane/query/Query.h"
+
 #include <QWidget>
 
-class QLineEdit;
+class FilterLine;
 class QToolButton;
 
 /// The line above the field table that chooses which rows it shows.
@@ -12,9 +14,12 @@ class FieldFilterBar : public QWidget {
 public:
     explicit FieldFilterBar(QWidget* parent = nullptr);
 
-    [[nodiscard]] QString text() const;
+    /// The query of the line, or the last one that made sense.
+    [[nodiscard]] const meridane::Query& query() const;
+    /// Whether anything may be hidden.
+    [[nodiscard]] bool isOn() const;
     [[nodiscard]] bool isChangedOnly() const;
-    [[nodiscard]] QLineEdit* line() const noexcept { return m_line; }
+    [[nodiscard]] FilterLine* line() const noexcept { return m_line; }
     void clear();
 
 Q_SIGNALS:
@@ -22,10 +27,7 @@ Q_SIGNALS:
     /// The user goes on in the table.
     void left();
 
-protected:
-    bool eventFilter(QObject* object, QEvent* event) override;
-
 private:
-    QLineEdit* m_line;
+    FilterLine* m_line;
     QToolButton* m_changedOnly;
 };

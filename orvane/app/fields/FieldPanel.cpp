@@ -207,14 +207,14 @@ void FieldPanel::changeRows(Change change)
 
 void FieldPanel::applyFilter()
 {
-    changeRows([this] { m_model->setFilter(m_filter->text(), m_filter->isChangedOnly()); });
+    changeRows([this] { m_model->setFilter(m_filter->query(), m_filter->isChangedOnly()); });
 }
 
 void FieldPanel::unfoldGroups()
 {
     const QScopedValueRollback guard(m_folding, true);
     // Where something is looked for, nothing is hidden.
-    const bool isFiltered = !m_filter->text().isEmpty() || m_filter->isChangedOnly();
+    const bool isFiltered = m_filter->isOn();
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const QModelIndex group = m_model->index(row, 0);
         m_view->setExpanded(group, isFiltered || !m_settings.isFolded(m_model->group(group)->key));

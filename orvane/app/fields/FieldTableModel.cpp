@@ -65,10 +65,10 @@ NxFieldContainer* FieldTableModel::node() const noexcept
     return m_nodes ? m_nodes->front().get() : nullptr;
 }
 
-void FieldTableModel::setFilter(const QString& text, bool changedOnly)
+void FieldTableModel::setFilter(const meridane::Query& query, bool changedOnly)
 {
     beginResetModel();
-    m_filter = text;
+    m_filter = query;
     m_changedOnly = changedOnly;
     applyFilter();
     endResetModel();

@@ -3,6 +3,7 @@
 #include "orvane/app/fields/FieldGroup.h"
 #include "orvane/app/fields/values/FieldRoles.h"
 
+#include "meridane/query/Query.h"
 #include "meridane/scene/fields/NxFieldSensor.h"
 #include "meridane/scene/fields/NxNodeSensor.h"
 
@@ -34,10 +35,9 @@ public:
     [[nodiscard]] NxFieldContainer* node() const noexcept;
     [[nodiscard]] int nodeCount() const noexcept { return m_nodes ? static_cast<int>(m_nodes->size()) : 0; }
 
-    /// Shows only rows that contain all words of the text, each in their name, type or value, with its letters in
-    /// order; and only changed ones if `changedOnly`. Rows don't come and go as they are edited, but with the next
-    /// filter.
-    void setFilter(const QString& text, bool changedOnly);
+    /// Shows only rows whose field matches the query; and only changed ones if `changedOnly`. Rows don't come and go as
+    /// they are edited, but with the next filter.
+    void setFilter(const meridane::Query& query, bool changedOnly);
     /// The keys of the fields that are favourites, see `orvane::favoriteKey`.
     void setFavorites(const QSet<QString>& favorites);
 
@@ -87,7 +87,7 @@ private:
     std::vector<FieldGroup*> m_groups; // those with rows that pass the filter
     std::vector<std::unique_ptr<Watch>> m_watches; // of the fields of a single node
     std::vector<std::unique_ptr<NxNodeSensor>> m_nodeWatches; // of several nodes
-    QString m_filter;
+    meridane::Query m_filter;
     QSet<QString> m_favorites;
     bool m_changedOnly = false;
     bool m_refreshPosted = false;

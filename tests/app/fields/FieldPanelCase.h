@@ -10,6 +10,7 @@
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
 #include "orvane/app/fields/MarkDelegate.h"
+#include "orvane/app/input/FilterLine.h"
 
 #include <QHeaderView>
 #include <QLineEdit>

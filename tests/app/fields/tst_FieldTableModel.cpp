@@ -15,6 +15,11 @@
 class TestFieldTableModel : public QObject {
     Q_OBJECT
 
+    static meridane::Query queryOf(const QString& text)
+    {
+        return std::get<meridane::Query>(meridane::Query::parse(text.toStdString()));
+    }
+
 private Q_SLOTS:
     void init()
     {
@@ -94,6 +99,12 @@ private Q_SLOTS:
         QTest::newRow("in the wrong order") << QStringLiteral("sntii") << false;
         QTest::newRow("type") << QStringLiteral("SFFloat") << true;
         QTest::newRow("value") << QStringLiteral("0.125") << true;
+        QTest::newRow("greater") << QStringLiteral(">0.1") << true;
+        QTest::newRow("of another field") << QStringLiteral("f:location >0.1") << false;
+        QTest::newRow("changed") << QStringLiteral("changed") << true;
+        QTest::newRow("class of the node") << QStringLiteral("t:Light f:intensity") << true;
+        QTest::newRow("regular expression") << QStringLiteral("/^int.*y$/") << true;
+        QTest::newRow("not") << QStringLiteral("not intensity") << false;
         QTest::newRow("two words") << QStringLiteral("0.125 inten") << true;
         QTest::newRow("one of two words") << QStringLiteral("0.125 radius") << false;
     }
@@ -105,9 +116,9 @@ private Q_SLOTS:
         QVERIFY(light->getField("intensity")->set("0.125"));
         m_model->setNode(light.get());
         const QAbstractItemModelTester tester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-        m_model->setFilter(filter, false);
+        m_model->setFilter(queryOf(filter), false);
         QCOMPARE(m_model->indexOf(light->getField("intensity")).isValid(), isShown);
-        m_model->setFilter(QString(), false);
+        m_model->setFilter({}, false);
         QCOMPARE(m_model->shownCount(), static_cast<int>(light->getFields().size()));
     }
 
@@ -117,14 +128,14 @@ private Q_SLOTS:
         QVERIFY(light->getField("intensity")->set("0.125"));
         m_model->setNode(light.get());
         const QAbstractItemModelTester tester(m_model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
-        m_model->setFilter(QString(), true);
+        m_model->setFilter({}, true);
         QCOMPARE(m_model->shownCount(), 1);
         QCOMPARE(groups(), QStringList(QStringLiteral("Light")));
         // A row that is edited stays.
         QVERIFY(light->getField("intensity")->set("1"));
         AppScenes::runSensors();
         QCOMPARE(m_model->shownCount(), 1);
-        m_model->setFilter(QString(), true);
+        m_model->setFilter({}, true);
         QCOMPARE(m_model->rowCount(), 0);
     }
 

@@ -155,7 +155,7 @@ void NodeCheck::checkFiles()
             report(NxProblemKind::MissingFile, &field).detail = excerpt(path, maxBytes);
         else if (finding.state == NxFileFinding::State::Unreadable)
             report(NxProblemKind::UnreadableFile, &field).detail
-                = "'" + excerpt(path, maxBytes) + "' " + finding.reason;
+                = std::string("'").append(excerpt(path, maxBytes)).append("' ").append(finding.reason);
         m_awaitsFile = m_awaitsFile || finding.state == NxFileFinding::State::Unknown;
     }
 }
