@@ -29,7 +29,9 @@ void CellEditor::finish(Next next)
     if (m_isFinished)
         return;
     m_isFinished = true;
-    Q_EMIT finished(next);
+    // The view has hidden an editor whose row has vanished, and knows it no more.
+    if (!isHidden())
+        Q_EMIT finished(next);
 }
 
 bool CellEditor::focusNextPrevChild(bool /*next*/)

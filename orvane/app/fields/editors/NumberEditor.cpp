@@ -23,6 +23,27 @@
 
 using meridane::FieldComponents;
 
+namespace orvane {
+
+namespace {
+
+// A tenth more or less must not give 0.30000000000000004.
+double withoutRounding(double sum, double present, double change)
+{
+    constexpr int digits = 14;
+    constexpr int mostDecimals = 22; // powers of ten up to this one are exact
+    const double scale = std::max(std::abs(present), std::abs(change));
+    const int decimals = digits - static_cast<int>(std::floor(std::log10(scale)));
+    const double factor = std::pow(10.0, std::abs(decimals));
+    if (!(scale > 0) || std::abs(decimals) > mostDecimals)
+        return sum;
+    return decimals > 0 ? std::round(sum * factor) / factor : std::round(sum / factor) * factor;
+}
+
+} // namespace
+
+} // namespace orvane
+
 FieldNumber orvane::fieldNumber(const NxField& field, int component)
 {
     const FieldComponents* const components = FieldComponents::of(field);
@@ -41,12 +62,7 @@ double orvane::stepped(const FieldNumber& number, const NxField& field, double c
     const double sum = present + change;
     if (!std::isfinite(sum))
         return present;
-    // A tenth more or less must not give 0.30000000000000004.
-    const double scale = std::max(std::abs(present), std::abs(change));
-    const double digit = scale > 0 ? std::pow(10.0, std::floor(std::log10(scale)) - 14) : 1;
-    const double tidy = number.limits.isWhole     ? std::round(sum)
-        : digit > 0 && std::isfinite(sum / digit) ? std::round(sum / digit) / (1 / digit)
-                                                  : sum;
+    const double tidy = number.limits.isWhole ? std::round(sum) : withoutRounding(sum, present, change);
     return std::clamp(tidy, number.limits.hardMinimum, number.limits.hardMaximum);
 }
 

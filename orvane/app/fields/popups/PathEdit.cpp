@@ -6,7 +6,6 @@
 #include "orvane/app/look/Look.h"
 #include "orvane/app/scene/ScenePaths.h"
 
-#include <QAbstractItemView>
 #include <QCompleter>
 #include <QDir>
 #include <QDirIterator>
@@ -83,11 +82,6 @@ QString PathEdit::path() const
 bool PathEdit::isModified() const
 {
     return m_line->isModified();
-}
-
-bool PathEdit::isCompleting() const
-{
-    return m_completer->popup()->isVisible();
 }
 
 // Only the folder that is being typed is read.

@@ -28,8 +28,6 @@ public:
     /// Opens the dialog at the file that is named, or in its folder.
     void openDialog();
     [[nodiscard]] bool isDialogOpen() const noexcept { return m_dialog != nullptr; }
-    /// Whether the list of completions is open.
-    [[nodiscard]] bool isCompleting() const;
 
 Q_SIGNALS:
     /// A file was chosen in the dialog or dropped. `path` is relative if the file and the folder are near each other.

@@ -46,7 +46,8 @@ bool PopupFrame::acceptLines()
 
 bool PopupFrame::eventFilter(QObject* object, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress)
+    const bool isLine = std::find(m_lines.begin(), m_lines.end(), object) != m_lines.end();
+    if (!isLine || event->type() != QEvent::KeyPress)
         return QFrame::eventFilter(object, event);
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key != Qt::Key_Return && key != Qt::Key_Enter)
