@@ -5,14 +5,17 @@
 #include "orvane/app/command_line/DifferenceListing.h"
 #include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/FoundPlaces.h"
+#include "orvane/app/command_line/ProblemListing.h"
 #include "orvane/app/command_line/SceneListing.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/files/FileJobs.h"
+#include "orvane/app/problems/FileLook.h"
 #include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/extender/OrvEditor.h"
 
 #include "meridane/base/values/VbName.h"
+#include "meridane/scene/check/NxSceneCheck.h"
 #include "meridane/scene/compare/NxSceneComparison.h"
 #include "meridane/scene/file/NxScenePath.h"
 
@@ -23,6 +26,7 @@
 #include <exception>
 #include <memory>
 #include <typeinfo>
+#include <utility>
 
 #include <cxxabi.h>
 
@@ -166,6 +170,10 @@ Result<> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
         if (auto written = writeDifferences(scene); !written)
             return written;
     }
+    if (m_commandLine.check) {
+        if (auto written = writeProblems(scene); !written)
+            return written;
+    }
     for (const QString& fileName : m_commandLine.exportFiles) {
         auto written = finish(*orvane::makeSaveJob(scene, fileName, orvane::folderOf(m_commandLine.file)));
         if (!written)
@@ -187,11 +195,30 @@ Result<> BatchRun::writeDifferences(const NxRef<NxGroup>& scene)
     } catch (const std::exception&) {
         return Failure{QStringLiteral("The comparison with %1 doesn't fit in memory.").arg(m_commandLine.secondFile)};
     }
-    m_differs = !differences.list().empty();
+    m_status = differences.list().empty() ? 0 : 1;
     const DifferenceListing listing(differences, m_output);
     if (m_commandLine.json)
         listing.printJson(m_commandLine.file, m_commandLine.secondFile);
     else
         listing.print();
+    return {};
+}
+
+Result<> BatchRun::writeProblems(const NxRef<NxGroup>& scene)
+{
+    NxCheckOptions options;
+    options.findFile = orvane::fileFinder(orvane::folderOf(m_commandLine.file));
+    try {
+        NxSceneCheck check(scene, std::move(options));
+        check.run();
+        const ProblemListing listing(check, *scene, m_output);
+        if (m_commandLine.json)
+            listing.printJson(m_commandLine.file);
+        else
+            listing.print();
+        m_status = check.count(NxSeverity::Error) > 0 ? 2 : check.count(NxSeverity::Warning) > 0 ? 1 : 0;
+    } catch (const std::exception&) {
+        return Failure{QStringLiteral("The check of %1 doesn't fit in memory.").arg(m_commandLine.file)};
+    }
     return {};
 }

@@ -9,7 +9,7 @@ class FileJob;
 class QTextStream;
 class Session;
 
-/// Runs a command line without a window: opens the file, sets fields, prints, compares, exports.
+/// Runs a command line without a window: opens the file, sets fields, prints, compares, checks, exports.
 ///
 /// Needs a core application; where the command line needs extensions, a widget application, on any platform.
 class BatchRun {
@@ -28,8 +28,9 @@ public:
     void listExtensions(Session& session);
     /// Prints and exports what is asked for of a scene that is open and changed already; null for no scene.
     orvane::Result<> writeOutput(const NxRef<NxGroup>& scene);
-    /// The exit status of a run that didn't fail: 1 if the files that were compared differ, else 0.
-    [[nodiscard]] int status() const noexcept { return m_differs ? 1 : 0; }
+    /// The exit status of a run that didn't fail: 1 if the files that were compared differ; 1 if the scene that was
+    /// checked has warnings and 2 if it has errors; else 0.
+    [[nodiscard]] int status() const noexcept { return m_status; }
 
 private:
     static orvane::Result<> finish(FileJob& job);
@@ -37,9 +38,10 @@ private:
     orvane::Result<> runScene();
     orvane::Result<> describeClasses();
     orvane::Result<> writeDifferences(const NxRef<NxGroup>& scene);
+    orvane::Result<> writeProblems(const NxRef<NxGroup>& scene);
     [[nodiscard]] static orvane::Result<NxRef<NxGroup>> open(const QString& fileName);
 
     const CommandLine& m_commandLine;
     QTextStream& m_output;
-    bool m_differs = false;
+    int m_status = 0;
 };

@@ -46,8 +46,13 @@ struct Options {
     QCommandLineOption describe{QStringLiteral("describe"),
         QStringLiteral("Print what these node classes are, or all: each field's type, default, unit, range and "
                        "description.")};
-    QCommandLineOption json{
-        QStringLiteral("json"), QStringLiteral("Print the differences or the description as one JSON object.")};
+    QCommandLineOption check{QStringLiteral("check"),
+        QStringLiteral(
+            "Look for everything that is wrong with the scene and print each problem: the path, error, warning or "
+            "information, its identifier and a sentence. The status is 0 if there are no errors and warnings, 1 if "
+            "there are warnings, 2 if there are errors and 3 if the file can't be checked.")};
+    QCommandLineOption json{QStringLiteral("json"),
+        QStringLiteral("Print the differences, the description or the problems as one JSON object.")};
     QCommandLineOption listExtensions{QStringLiteral("list-extensions"),
         QStringLiteral("Print each extension's order, class, name and handled type.")};
     QCommandLineOption exportTo{QStringLiteral("export"),
@@ -69,7 +74,7 @@ struct Options {
 
     void addTo(QCommandLineParser& parser) const
     {
-        parser.addOptions({plugin, profile, select, set, get, find, list, diff, describe, json, listExtensions,
+        parser.addOptions({plugin, profile, select, set, get, find, list, diff, describe, check, json, listExtensions,
             exportTo, screenshot, size, watch, keepGroups, noSettings, version, help});
         parser.addPositionalArgument(QStringLiteral("file"),
             QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
@@ -132,8 +137,9 @@ Result<> checkFiles(const QStringList& files, bool diff)
 
 Result<> checkDescribe(const QCommandLineParser& parser, const Options& options)
 {
-    for (const QCommandLineOption& option : {options.select, options.set, options.get, options.find, options.list,
-             options.diff, options.listExtensions, options.exportTo, options.screenshot, options.size, options.watch}) {
+    for (const QCommandLineOption& option :
+        {options.select, options.set, options.get, options.find, options.list, options.diff, options.check,
+            options.listExtensions, options.exportTo, options.screenshot, options.size, options.watch}) {
         if (parser.isSet(option))
             return Failure{
                 QStringLiteral("--describe opens no scene, so it can't be used with %1.").arg(nameOf(option))};
@@ -147,7 +153,7 @@ Result<> checkWatch(const QCommandLineParser& parser, const Options& options)
 {
     if (!parser.isSet(options.watch))
         return {};
-    for (const QCommandLineOption& option : {options.get, options.find, options.list, options.diff,
+    for (const QCommandLineOption& option : {options.get, options.find, options.list, options.diff, options.check,
              options.listExtensions, options.exportTo, options.screenshot}) {
         if (parser.isSet(option))
             return Failure{QStringLiteral("--watch needs a window that stays open, so it can't be used with %1.")
@@ -179,18 +185,27 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
     }
     if (auto watch = checkWatch(parser, options); !watch)
         return watch;
-    if (parser.isSet(options.json) && !parser.isSet(options.diff) && !parser.isSet(options.describe))
-        return Failure{QStringLiteral("--json is for --diff and --describe alone.")};
+    if (parser.isSet(options.diff) && parser.isSet(options.check))
+        return Failure{
+            QStringLiteral("--diff and --check can't be used together: each has an exit status of its own.")};
+    if (parser.isSet(options.json) && !parser.isSet(options.diff) && !parser.isSet(options.describe)
+        && !parser.isSet(options.check))
+        return Failure{QStringLiteral("--json is for --diff, --describe and --check alone.")};
     return parser.isSet(options.describe) ? checkDescribe(parser, options)
                                           : checkFiles(parser.positionalArguments(), parser.isSet(options.diff));
 }
 
 } // namespace
 
+int CommandLine::failureStatus() const noexcept
+{
+    return check ? checkFailureStatus : diff ? 2 : 1;
+}
+
 bool CommandLine::isBatch() const
 {
-    const bool asksForOutput = describe || list || diff || listExtensions || !queries.isEmpty() || !searches.isEmpty()
-        || !exportFiles.isEmpty();
+    const bool asksForOutput = describe || list || diff || check || listExtensions || !queries.isEmpty()
+        || !searches.isEmpty() || !exportFiles.isEmpty();
     return asksForOutput && screenshotFile.isEmpty();
 }
 
@@ -237,6 +252,7 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
     result.screenshotFile = parser.value(options.screenshot);
     result.list = parser.isSet(options.list);
     result.diff = parser.isSet(options.diff);
+    result.check = parser.isSet(options.check);
     result.json = parser.isSet(options.json);
     result.listExtensions = parser.isSet(options.listExtensions);
     result.watch = parser.isSet(options.watch);
@@ -259,11 +275,11 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
         result.size = size.value();
     }
 
-    const bool needsScene = result.list || !result.queries.isEmpty() || !result.searches.isEmpty()
+    const bool needsScene = result.list || result.check || !result.queries.isEmpty() || !result.searches.isEmpty()
         || !result.assignments.isEmpty() || !result.select.isEmpty() || !result.exportFiles.isEmpty();
     if (needsScene && result.file.isEmpty())
-        return Failure{
-            QStringLiteral("A file is missing: --get, --set, --find, --list, --select and --export work on one.")};
+        return Failure{QStringLiteral(
+            "A file is missing: --get, --set, --find, --list, --check, --select and --export work on one.")};
     return result;
 }
 

@@ -20,6 +20,9 @@ struct CommandLine {
     static constexpr int longestSide = 8192;
     static constexpr qint64 mostPixels = qint64{32} << 20;
 
+    /// The exit status of a check that failed; 1 and 2 are those of warnings and errors.
+    static constexpr int checkFailureStatus = 3;
+
     QString file;
     QString secondFile; // only with `diff`
     QStringList plugins;
@@ -33,6 +36,7 @@ struct CommandLine {
     QSize size;
     bool list = false;
     bool diff = false;
+    bool check = false;
     bool json = false;
     bool describe = false;
     QStringList classes; // only with `describe`
@@ -44,7 +48,7 @@ struct CommandLine {
     bool help = false;
 
     /// The exit status of a run that failed, for whatever reason.
-    [[nodiscard]] int failureStatus() const noexcept { return diff ? 2 : 1; }
+    [[nodiscard]] int failureStatus() const noexcept;
     /// True when all that is asked for can be done without a window.
     [[nodiscard]] bool isBatch() const;
     /// True when plug-ins or profiles have to be loaded, even without a window.

@@ -33,6 +33,8 @@ bool hasDisplay()
     return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
 }
 
+int exceptionStatus = statusFailed;
+
 int fail(const QString& message, int status)
 {
     orvane::printError(message);
@@ -54,7 +56,7 @@ int fail(const QString& message, int status)
     }
     // There may be no memory for more than this.
     std::fprintf(stderr, "orvane: %s\n", reason);
-    std::_Exit(statusFailed);
+    std::_Exit(exceptionStatus);
 }
 
 // If they are closed, the first files that are opened get their descriptors, and every message is written into them.
@@ -160,9 +162,12 @@ int run(int argc, char** argv)
     for (int i = 0; i < argc; ++i)
         arguments += orvane::fromStdFileName(argv[i]);
     const auto parsed = CommandLine::parse(arguments);
+    // Of a check, the usual statuses mean that there are problems in the scene.
+    const bool isCheck = arguments.contains(QStringLiteral("--check"));
     if (!parsed)
-        return fail(parsed.error(), statusUnusableArguments);
+        return fail(parsed.error(), isCheck ? CommandLine::checkFailureStatus : statusUnusableArguments);
     const CommandLine& commandLine = parsed.value();
+    exceptionStatus = commandLine.failureStatus();
     if (commandLine.help)
         return print(CommandLine::helpText());
     if (commandLine.version)

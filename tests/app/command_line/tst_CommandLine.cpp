@@ -107,13 +107,19 @@ private Q_SLOTS:
         QTest::newRow("json alone") << QStringList{QStringLiteral("--json"), QStringLiteral("a.mrd")}
                                     << QStringLiteral("--diff");
         for (const char* const option : {"--get=/a.b", "--set=/a.b=1", "--select=/a", "--list", "--list-extensions",
-                 "--export=a.obj", "--screenshot=a.png", "--diff", "--watch", "--size=640x480"}) {
+                 "--export=a.obj", "--screenshot=a.png", "--diff", "--check", "--watch", "--size=640x480"}) {
             const QString text = QLatin1String(option);
             QTest::addRow("describe with %s", option)
                 << QStringList{QStringLiteral("--describe"), text} << text.section(u'=', 0, 0);
         }
         QTest::newRow("description of an empty name")
             << QStringList{QStringLiteral("--describe"), QString()} << QStringLiteral("empty");
+        QTest::newRow("check and diff") << QStringList{QStringLiteral("--check"), QStringLiteral("--diff"),
+            QStringLiteral("a.mrd"), QStringLiteral("b.mrd")}
+                                        << QStringLiteral("together");
+        QTest::newRow("check without file") << QStringList{QStringLiteral("--check")} << QStringLiteral("file");
+        QTest::newRow("check of two files") << QStringList{QStringLiteral("--check"), QStringLiteral("a.mrd"),
+            QStringLiteral("b.mrd")} << QStringLiteral("One file");
         QTest::newRow("diff of nothing") << QStringList{QStringLiteral("--diff")} << QStringLiteral("two files");
         QTest::newRow("diff of one file")
             << QStringList{QStringLiteral("--diff"), QStringLiteral("a.mrd")} << QStringLiteral("two files");
@@ -122,8 +128,8 @@ private Q_SLOTS:
                                              << QStringLiteral("two files");
         QTest::newRow("diff of an empty name")
             << QStringList{QStringLiteral("--diff"), QStringLiteral("a.mrd"), QString()} << QStringLiteral("empty");
-        for (const char* const option :
-            {"--get=/a.b", "--list", "--list-extensions", "--export=a.obj", "--screenshot=a.png", "--diff"}) {
+        for (const char* const option : {"--get=/a.b", "--list", "--list-extensions", "--export=a.obj",
+                 "--screenshot=a.png", "--diff", "--check"}) {
             const QString text = QLatin1String(option);
             QTest::addRow("watch with %s", option)
                 << QStringList{QStringLiteral("--watch"), text, QStringLiteral("a.mrd")} << text.section(u'=', 0, 0);
@@ -159,6 +165,15 @@ private Q_SLOTS:
         QCOMPARE(parse({QStringLiteral("--list"), QStringLiteral("a.mrd")}).value().failureStatus(), 1);
     }
 
+    void aCheckIsBatchWorkWithAStatusOfItsOwn()
+    {
+        const auto parsed = parse({QStringLiteral("--check"), QStringLiteral("--json"), QStringLiteral("a.glb")});
+        QCOMPARE(parsed.error(), QString());
+        const CommandLine& commandLine = parsed.value();
+        QVERIFY(commandLine.check && commandLine.json && commandLine.isBatch() && !commandLine.needsExtensions());
+        QCOMPARE(commandLine.failureStatus(), 3);
+    }
+
     void theLargestSizesAreTaken()
     {
         QCOMPARE(parse({QStringLiteral("--size=7680x4320")}).error(), QString());
@@ -192,7 +207,7 @@ private Q_SLOTS:
     {
         const QString help = CommandLine::helpText();
         for (const char* const option : {"--plugin", "--profile", "--select", "--set", "--get", "--list",
-                 "--list-extensions", "--diff", "--json", "--export", "--screenshot", "--size", "--watch",
+                 "--list-extensions", "--diff", "--check", "--json", "--export", "--screenshot", "--size", "--watch",
                  "--keep-groups", "--no-settings", "--version", "--help"})
             QVERIFY2(help.contains(QLatin1String(option)), option);
     }
