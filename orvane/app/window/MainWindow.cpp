@@ -35,6 +35,7 @@
 #include "orvane/app/window/HelpMenu.h"
 #include "orvane/app/window/HistoryDock.h"
 #include "orvane/app/window/ListDock.h"
+#include "orvane/app/window/ProblemsDock.h"
 #include "orvane/app/window/ReloadedTree.h"
 #include "orvane/app/window/ReturnedNodes.h"
 #include "orvane/app/window/WindowShell.h"
@@ -197,6 +198,7 @@ void MainWindow::buildDocks()
     auto* travel = new StepTravel(m_session.services(), this);
     new HistoryDock(m_session, *travel, *m_messages, this);
     (new ListDock(m_session, this))->follow(*m_fields, *m_inspectors);
+    new ProblemsDock(m_session, *m_imageFolders, *m_jobBar, m_tree, this);
     new ReturnedNodes(m_session.services(), *travel, m_tree);
     new SelectionStatus(m_session, m_tree, statusBar());
     new ViewLink(m_session, m_view, m_tree, statusBar());

@@ -1,0 +1,372 @@
+#include "orvane/app/problems/ProblemPanel.h"
+
+#include "orvane/app/base/RowTable.h"
+#include "orvane/app/compare/CopyJob.h"
+#include "orvane/app/files/JobBar.h"
+#include "orvane/app/look/Look.h"
+#include "orvane/app/problems/LiveCheck.h"
+#include "orvane/app/problems/MendCommand.h"
+#include "orvane/app/problems/ProblemModel.h"
+#include "orvane/app/problems/ProblemText.h"
+#include "orvane/app/problems/SeverityIcons.h"
+#include "orvane/extender/OrvDocument.h"
+#include "orvane/extender/OrvServices.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QStackedLayout>
+#include <QStyledItemDelegate>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr std::array severities{NxSeverity::Error, NxSeverity::Warning, NxSeverity::Information};
+
+/// Such as "1 error" or "3 warnings".
+QString countText(std::size_t count, NxSeverity severity)
+{
+    const QString name = orvane::severityName(severity);
+    const bool takesPlural = count != 1 && severity != NxSeverity::Information;
+    return QStringLiteral("%1 %2%3").arg(count).arg(name, takesPlural ? QStringLiteral("s") : QString());
+}
+
+/// Shortens sentences at their ends, and leaves paths to the view.
+class SentenceDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->textElideMode = Qt::ElideRight;
+    }
+};
+
+} // namespace
+
+ProblemPanel::ProblemPanel(LiveCheck& check, OrvServices& services, JobBar& jobBar, QWidget* parent)
+    : QWidget(parent)
+    , m_check(check)
+    , m_services(services)
+    , m_jobBar(jobBar)
+    , m_model(new ProblemModel(this))
+    , m_view(new RowTable(this))
+    , m_filter(new QLineEdit(this))
+    , m_mend(new QAction(tr("&Mend"), this))
+    , m_mendKind(new QAction(tr("Mend All of This &Kind"), this))
+    , m_again(new QAction(tr("Check A&gain"), this))
+    , m_text(new QLabel(this))
+    , m_pages(new QStackedLayout)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    auto* top = new QWidget(this);
+    buildTopLine(top);
+    layout->addWidget(top);
+    buildView();
+    m_text->setObjectName(QStringLiteral("problemText"));
+    m_text->setAlignment(Qt::AlignCenter);
+    m_text->setWordWrap(true);
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setForegroundRole(QPalette::PlaceholderText);
+    m_pages->addWidget(m_text);
+    m_pages->addWidget(m_view);
+    layout->addLayout(m_pages, 1);
+    setFocusProxy(m_view);
+    updateIcons();
+    connect(&check, &LiveCheck::replaced, this, &ProblemPanel::replaceCheck);
+    connect(&check, &LiveCheck::changed, m_model, &ProblemModel::update);
+    connect(&check, &LiveCheck::settledChanged, this, &ProblemPanel::update);
+    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(m_model, signal, this, &ProblemPanel::update);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &ProblemPanel::update);
+    replaceCheck();
+}
+
+ProblemPanel::~ProblemPanel() = default;
+
+void ProblemPanel::buildTopLine(QWidget* page)
+{
+    const int unit = orvane::look::unit(fontMetrics());
+    auto* line = new QHBoxLayout(page);
+    line->setContentsMargins(2 * unit, unit, 2 * unit, unit);
+    line->setSpacing(unit);
+    for (const NxSeverity severity : severities)
+        addSeverity(page, severity);
+    m_filter->setObjectName(QStringLiteral("problemFilter"));
+    m_filter->setPlaceholderText(tr("Filter"));
+    m_filter->setAccessibleName(tr("Filter"));
+    m_filter->setToolTip(tr("Shows the problems that contain all of these words: in the sentence, the names on the way "
+                            "to the node, its class, or the identifier"));
+    m_filter->setClearButtonEnabled(true);
+    m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
+    connect(m_filter, &QLineEdit::textChanged, m_model, &ProblemModel::setFilter);
+    line->addWidget(m_filter, 1);
+    const auto addButton = [&](QAction* action, const char* name) {
+        auto* button = new QToolButton(page);
+        button->setObjectName(QLatin1String(name));
+        button->setDefaultAction(action);
+        line->addWidget(button);
+    };
+    addButton(m_mend, "mendProblem");
+    addButton(m_mendKind, "mendKind");
+    addButton(m_again, "checkAgain");
+    m_again->setToolTip(tr("Checks the whole scene again, and looks at its files again"));
+    connect(m_mend, &QAction::triggered, this, &ProblemPanel::mendSelected);
+    connect(m_mendKind, &QAction::triggered, this, &ProblemPanel::mendKind);
+    connect(m_again, &QAction::triggered, &m_check, &LiveCheck::restart);
+}
+
+void ProblemPanel::addSeverity(QWidget* page, NxSeverity severity)
+{
+    auto* button = new QToolButton(page);
+    button->setObjectName(orvane::severityName(severity) + QStringLiteral("Problems"));
+    button->setCheckable(true);
+    button->setChecked(true);
+    button->setAutoRaise(true);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    connect(
+        button, &QToolButton::toggled, this, [this, severity](bool isShown) { m_model->setShown(severity, isShown); });
+    page->layout()->addWidget(button);
+    m_severities[static_cast<std::size_t>(severity)] = button;
+}
+
+void ProblemPanel::buildView()
+{
+    m_view->setObjectName(QStringLiteral("problemTable"));
+    m_view->setAccessibleName(tr("Problems"));
+    m_view->setModel(m_model);
+    m_view->setItemDelegateForColumn(ProblemModel::SentenceColumn, new SentenceDelegate(m_view));
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_view->installEventFilter(this);
+    m_view->viewport()->installEventFilter(this);
+    auto* copy = new QAction(tr("&Copy"), m_view);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &ProblemPanel::copySelected);
+    auto* copyAll = new QAction(tr("Copy &All"), m_view);
+    connect(copyAll, &QAction::triggered, this, &ProblemPanel::copyAll);
+    m_view->addActions({m_mend, m_mendKind, copy, copyAll});
+    // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        updateActions();
+        m_choosing = false;
+        // A row that is selected because the one before it went away isn't chosen.
+        if (m_view->hasFocus() && m_view->selectionModel()->selectedRows().size() == 1) {
+            m_choosing = true;
+            choose(m_view->selectionModel()->selectedRows().front().row());
+        }
+    });
+    connect(m_view, &QTableView::clicked, this, [this](const QModelIndex& index) {
+        if (!std::exchange(m_choosing, false) && selectedRows().size() == 1)
+            choose(index.row());
+    });
+    connect(m_view->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+        m_columnsChosen = m_columnsChosen || (!m_sizingColumns && column != ProblemModel::IdentifierColumn);
+    });
+}
+
+void ProblemPanel::replaceCheck()
+{
+    m_copying.reset();
+    const NxSceneCheck* const check = m_check.check();
+    m_model->setCheck(check, check == nullptr ? nullptr : m_services.document().root());
+    update();
+}
+
+QString ProblemPanel::stateText() const
+{
+    const NxSceneCheck* const check = m_check.check();
+    if (check == nullptr)
+        return tr("No scene is open.");
+    if (!m_check.isSettled())
+        return tr("Checking the scene… %1 nodes so far").arg(check->nodeCount());
+    const bool hasProblems = std::any_of(
+        severities.begin(), severities.end(), [check](NxSeverity severity) { return check->count(severity) > 0; });
+    if (hasProblems && m_model->hidesRows())
+        return tr("The filter hides all problems.");
+    return hasProblems ? QString() : tr("No problems were found.");
+}
+
+void ProblemPanel::update()
+{
+    const NxSceneCheck* const check = m_check.check();
+    for (const NxSeverity severity : severities) {
+        QToolButton* const button = m_severities[static_cast<std::size_t>(severity)];
+        const std::size_t count = check == nullptr ? 0 : check->count(severity);
+        button->setText(QString::number(count));
+        button->setAccessibleName(countText(count, severity));
+        button->setToolTip(tr("%1, shown or hidden by this button").arg(countText(count, severity)));
+    }
+    const bool isEmpty = m_model->rowCount() == 0;
+    if (isEmpty)
+        m_text->setText(stateText());
+    m_pages->setCurrentIndex(isEmpty ? 0 : 1);
+    m_again->setEnabled(check != nullptr);
+    updateActions();
+    Q_EMIT countsChanged();
+}
+
+void ProblemPanel::updateActions()
+{
+    const std::vector<int> rows = selectedRows();
+    const NxSceneProblem* const first = rows.empty() ? nullptr : m_model->problem(rows.front());
+    const bool canMend = std::any_of(rows.begin(), rows.end(), [this](int row) {
+        const NxSceneProblem* const problem = m_model->problem(row);
+        return problem != nullptr && problem->isMendable;
+    });
+    const QString reason = rows.empty() ? tr("Select a problem to mend it.")
+        : !canMend                      ? tr("There is no safe mend for this problem.")
+        : !m_check.isSettled()          ? tr("The scene is still being checked.")
+                                        : QString();
+    m_mend->setEnabled(reason.isEmpty());
+    m_mend->setToolTip(!reason.isEmpty() ? reason
+            : rows.size() == 1           ? orvane::mendText(*first)
+                                         : tr("Mends the selected problems as one step"));
+    const bool hasMend = first != nullptr && !first->about().mend.empty();
+    m_mendKind->setEnabled(hasMend && m_check.isSettled());
+    m_mendKind->setToolTip(!hasMend ? reason
+                                    : tr("Mends all problems of the scene with the identifier %1 as one step")
+                                          .arg(orvane::identifierOf(*first)));
+}
+
+void ProblemPanel::updateIcons()
+{
+    m_model->setPalette(palette());
+    const int size = orvane::look::iconSize(fontMetrics());
+    m_view->setIconSize(QSize(size, size));
+    for (const NxSeverity severity : severities) {
+        QToolButton* const button = m_severities[static_cast<std::size_t>(severity)];
+        button->setIcon(orvane::severityIcon(severity, palette()));
+        button->setIconSize(QSize(size, size));
+    }
+}
+
+void ProblemPanel::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        updateIcons();
+    QWidget::changeEvent(event);
+}
+
+bool ProblemPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_view->viewport() && event->type() == QEvent::Resize && !m_columnsChosen)
+        sizeColumns();
+    if (watched == m_view && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_view->currentIndex().isValid()) {
+            choose(m_view->currentIndex().row());
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+// The rest is the last column's.
+void ProblemPanel::sizeColumns()
+{
+    constexpr double shareOfSentence = 0.52;
+    constexpr double shareOfPlace = 0.3;
+    constexpr int leastCharacters = 16;
+    const QScopedValueRollback sizing(m_sizingColumns, true);
+    const int least = leastCharacters * fontMetrics().averageCharWidth();
+    const int width = m_view->viewport()->width();
+    m_view->setColumnWidth(ProblemModel::SentenceColumn, std::max(least, static_cast<int>(shareOfSentence * width)));
+    m_view->setColumnWidth(ProblemModel::PlaceColumn, std::max(least, static_cast<int>(shareOfPlace * width)));
+}
+
+void ProblemPanel::choose(int row)
+{
+    if (const NxSceneProblem* const problem = m_model->problem(row)) {
+        // A copy, since a slot may change the scene.
+        const NxSceneProblem chosenProblem = *problem;
+        Q_EMIT chosen(chosenProblem);
+    }
+}
+
+std::vector<int> ProblemPanel::selectedRows() const
+{
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range : m_view->selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void ProblemPanel::mendSelected()
+{
+    std::vector<NxSceneProblem> problems;
+    for (const int row : selectedRows()) {
+        const NxSceneProblem* const problem = m_model->problem(row);
+        if (problem != nullptr && problem->isMendable)
+            problems.push_back(*problem);
+    }
+    mend(std::move(problems));
+}
+
+void ProblemPanel::mendKind()
+{
+    const std::vector<int> rows = selectedRows();
+    const NxSceneProblem* const first = rows.empty() ? nullptr : m_model->problem(rows.front());
+    if (first != nullptr)
+        mend(m_model->allOfKind(first->kind));
+}
+
+void ProblemPanel::mend(std::vector<NxSceneProblem> problems)
+{
+    const auto isLeft = [](const NxSceneProblem& problem) { return !problem.isMendable; };
+    problems.erase(std::remove_if(problems.begin(), problems.end(), isLeft), problems.end());
+    if (problems.empty() || !m_check.isSettled())
+        return;
+    const QString one = orvane::mendText(problems.front());
+    const QString label = problems.size() == 1 ? tr("Mend: %1").arg(one) : tr("Mend %1 problems").arg(problems.size());
+    const NxSceneMend::Undo undo = m_services.isUndoExact() ? NxSceneMend::Undo::ByJournal : NxSceneMend::Undo::ByMend;
+    m_services.pushStep(new MendCommand(std::move(problems), undo), label);
+}
+
+void ProblemPanel::copySelected()
+{
+    copy(selectedRows());
+}
+
+void ProblemPanel::copyAll()
+{
+    std::vector<int> rows(static_cast<std::size_t>(m_model->rowCount()));
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        rows[row] = static_cast<int>(row);
+    copy(rows);
+}
+
+void ProblemPanel::copy(const std::vector<int>& rows)
+{
+    std::vector<NxSceneProblem> copied;
+    copied.reserve(rows.size());
+    for (const int row : rows) {
+        if (const NxSceneProblem* const problem = m_model->problem(row))
+            copied.push_back(*problem);
+    }
+    if (copied.empty())
+        return;
+    const auto count = static_cast<int>(copied.size());
+    m_copying = std::make_unique<CopyJob>(count, [this, copied = std::move(copied)](int number) {
+        return m_model->line(copied[static_cast<std::size_t>(number)]);
+    });
+    m_jobBar.watch(m_copying.get(), tr("Copying %1 problems").arg(count));
+    m_copying->start();
+}
