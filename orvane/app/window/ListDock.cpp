@@ -31,6 +31,12 @@ void ListDock::openList(NxMField* list)
         m_panel->view()->moveCurrent(0, 0);
 }
 
+void ListDock::showRow(const NxField* list, int row)
+{
+    if (!isHidden() && m_panel != nullptr && m_panel->list() == list)
+        m_panel->view()->selectListRows({{row, 1}});
+}
+
 void ListDock::follow(FieldPanel& fields, const Inspectors& inspectors)
 {
     const auto connectTo

@@ -5,6 +5,7 @@
 class FieldPanel;
 class Inspectors;
 class ListPanel;
+class NxField;
 class NxMField;
 class QMainWindow;
 class Session;
@@ -19,6 +20,8 @@ public:
 
     /// Shows a list field, which has a node, and moves the focus to its rows.
     void openList(NxMField* list);
+    /// Selects a row of the list that is shown. Does nothing while the dock is hidden or shows another list.
+    void showRow(const NxField* list, int row);
     /// Opens each list that the user asks for in the panel, and in those of further inspectors. They live as long as
     /// the window.
     void follow(FieldPanel& fields, const Inspectors& inspectors);

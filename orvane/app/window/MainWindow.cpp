@@ -41,6 +41,7 @@
 #include "orvane/app/window/WindowShell.h"
 
 #include "meridane/base/NxDelayQueue.h"
+#include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/file/NxScenePath.h"
 
 #include <QCloseEvent>
@@ -197,8 +198,10 @@ void MainWindow::buildDocks()
     m_inspectors = new Inspectors(m_session, m_tree, m_fields, this);
     auto* travel = new StepTravel(m_session.services(), this);
     new HistoryDock(m_session, *travel, *m_messages, this);
-    (new ListDock(m_session, this))->follow(*m_fields, *m_inspectors);
-    new ProblemsDock(m_session, *m_imageFolders, *m_jobBar, m_tree, this);
+    auto* lists = new ListDock(m_session, this);
+    lists->follow(*m_fields, *m_inspectors);
+    auto* problems = new ProblemsDock(m_session, *m_imageFolders, *m_jobBar, m_tree, this);
+    connect(problems, &ProblemsDock::rowChosen, lists, &ListDock::showRow);
     new ReturnedNodes(m_session.services(), *travel, m_tree);
     new SelectionStatus(m_session, m_tree, statusBar());
     new ViewLink(m_session, m_view, m_tree, statusBar());

@@ -1,7 +1,10 @@
 #include "app/window/RobotWindowCase.h"
 
+#include "orvane/app/lists/ListPanel.h"
+#include "orvane/app/lists/ListView.h"
 #include "orvane/app/problems/ProblemModel.h"
 #include "orvane/app/problems/ProblemPanel.h"
+#include "orvane/app/window/ListDock.h"
 #include "orvane/app/window/ProblemsDock.h"
 #include "orvane/extender/OrvServices.h"
 
@@ -125,6 +128,20 @@ private Q_SLOTS:
         QCOMPARE(m_session->services().getSelectedNode(), m_window->document().scene()->getChild(1));
         QCOMPARE(rows, QList<int>{0});
         disconnect(dock(), &ProblemsDock::rowChosen, this, nullptr);
+    }
+
+    void aClickSelectsTheRowOfTheListThatIsShown()
+    {
+        openBroken();
+        auto* const lists = m_window->findChild<ListDock*>();
+        lists->show();
+        m_window->addDockWidget(Qt::RightDockWidgetArea, lists);
+        clickProblem("zero-normal", "/robot/hand.normals");
+        auto* const panel = lists->findChild<ListPanel*>();
+        QCOMPARE(panel->list(), &dynamic_cast<NxMesh*>(robot()->getChild(1))->normals);
+        QCOMPARE(panel->view()->selectedPlaces(), (RowRuns{{2, 1}}));
+        // Without the focus, which stays where the user is.
+        QVERIFY(!panel->isAncestorOf(QApplication::focusWidget()));
     }
 
     void theKeyboardDoesTheSame()

@@ -56,6 +56,8 @@ private Q_SLOTS:
             "Mesh { positions = [0 0 0, 1 0 0, 0 1 0]; indices = [0, 1, 2] }");
         row("incomplete-primitive without indices", "Mesh { positions = [0 0 0, 1 0 0, 0 1 0, 5 5 5] }",
             "Mesh { positions = [0 0 0, 1 0 0, 0 1 0, 5 5 5]; indices = [0, 1, 2] }");
+        row("ignored indices", "Mesh { positions = [0 0 0, 1 0 0, 0 1 0, 5 5 5]; ignored indices = [0, 1, 2] }",
+            "Mesh { positions = [0 0 0, 1 0 0, 0 1 0, 5 5 5]; ignored indices = [0, 1, 2] }");
         row("zero-normal", "Mesh { positions = [0 0 0, 2 0 0, 0 2 0]; normals = [0 0 0, 0 1 0, 0 0 0] }",
             "Mesh { positions = [0 0 0, 2 0 0, 0 2 0]; normals = [0 0 1, 0 1 0, 0 0 1] }");
         row("zero-normal of points", "Mesh { positions = [0 0 0]; normals = [0 0 0]; primitive = POINTS }",

@@ -139,8 +139,9 @@ void MeshCheck::reportFaces(NxMesh& mesh, std::vector<NxSceneProblem>& problems)
     const std::size_t corners = cornersOf(primitiveOf(mesh));
     const std::size_t count = indices.empty() ? positions.size() : indices.size();
     NxField& list = indices.empty() ? static_cast<NxField&>(mesh.positions) : mesh.indices;
-    // A list of indices that becomes empty would mean all positions.
-    const bool isAnythingLeft = m_usableFaces > 0;
+    // A list of indices that becomes empty would mean all positions, and one that is ignored means nothing.
+    const bool canSetIndices = !mesh.indices.isIgnored();
+    const bool isAnythingLeft = canSetIndices && m_usableFaces > 0;
     if (m_uselessPositions.count > 0) {
         NxSceneProblem& problem
             = problems.emplace_back(problemOf(mesh, mesh.positions, NxProblemKind::PositionNotFinite));
@@ -171,7 +172,7 @@ void MeshCheck::reportFaces(NxMesh& mesh, std::vector<NxSceneProblem>& problems)
         problem.count = m_degenerate.count;
         problem.total = count / corners;
         problem.detail = corners == 2 ? "lines" : "triangles";
-        problem.isMendable = m_usableFaces > m_degenerate.count;
+        problem.isMendable = canSetIndices && m_usableFaces > m_degenerate.count;
     }
 }
 
