@@ -21,6 +21,9 @@ private Q_SLOTS:
         QCOMPARE(numberText(static_cast<double>(0.1F), FieldComponents::Number::Float), std::string("0.1"));
         QCOMPARE(numberText(1e300, FieldComponents::Number::Float), std::string("1e+300"));
         QCOMPARE(numberText(-0.0), std::string("-0"));
+        QCOMPARE(numberText(4e9, FieldComponents::Number::UInt), std::string("4000000000"));
+        QCOMPARE(numberText(-2e9, FieldComponents::Number::Int), std::string("-2000000000"));
+        QCOMPARE(numberText(0.5, FieldComponents::Number::Int), std::string("0.5"));
         QCOMPARE(numberText(4294967295.0, FieldComponents::Number::UInt), std::string("4294967295"));
         QCOMPARE(numberText(std::numeric_limits<double>::infinity()), std::string("inf"));
         QCOMPARE(

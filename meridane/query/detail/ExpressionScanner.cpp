@@ -107,7 +107,7 @@ bool ExpressionScanner::readOperandWord()
     if (variable != m_context.variables.end()) {
         const auto index = static_cast<std::size_t>(variable - m_context.variables.begin());
         m_formula.uses[index] = true;
-        addOperand("v" + std::to_string(index));
+        addOperand(std::string("v").append(std::to_string(index)));
     } else if (function != nullptr) {
         m_source.skip(word.size());
         return readFunction(*function, start);

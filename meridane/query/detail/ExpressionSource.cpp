@@ -20,7 +20,7 @@ bool ExpressionSource::isLetter(char character) noexcept
 std::string ExpressionSource::quote(std::string_view text)
 {
     constexpr std::size_t mostQuoted = 40;
-    return "\"" + excerpt(text, mostQuoted) + "\"";
+    return std::string("\"").append(excerpt(text, mostQuoted)).append("\"");
 }
 
 void ExpressionSource::skipBlanks() noexcept

@@ -9,6 +9,9 @@ namespace {
 
 std::string numberText(double value)
 {
+    constexpr double mostDigits = 1e15;
+    if (std::abs(value) < mostDigits && value == std::trunc(value))
+        return std::to_string(static_cast<long long>(value));
     std::string text;
     writeValue(text, value);
     return text;

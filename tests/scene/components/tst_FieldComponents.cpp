@@ -287,6 +287,8 @@ private Q_SLOTS:
         };
         QCOMPARE(refusal("SFShort", 40000),
             QByteArray("40000 is out of range: the field takes whole numbers from -32768 to 32767."));
+        QCOMPARE(refusal("SFShort", 4e9),
+            QByteArray("4000000000 is out of range: the field takes whole numbers from -32768 to 32767."));
         QCOMPARE(refusal("SFUInt32", 1.5), QByteArray("1.5 isn't a whole number."));
         QCOMPARE(refusal("SFInt32", infinity), QByteArray("inf isn't a whole number."));
         QVERIFY(refusal("SFFloat", 1e39).startsWith("1e+39 is out of range"));
