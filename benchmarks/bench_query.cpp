@@ -4,6 +4,7 @@
 
 #include "meridane/query/Expression.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <string>
@@ -24,8 +25,8 @@ std::vector<double> column(double step)
     return values;
 }
 
-/// Both texts mean the same.
-void measure(const std::string& name, const std::string& text, const std::string& parserText)
+/// Both texts mean the same. The rows are evaluated in parts.
+void measure(const std::string& name, const std::string& text, const std::string& parserText, std::size_t part = rows)
 {
     std::array columns{column(0.25), column(0.5), column(0.01)};
     std::vector<double> out(rows);
@@ -38,8 +39,15 @@ void measure(const std::string& name, const std::string& text, const std::string
         [&] {
             return bench::seconds([&] {
                 const auto parsed = meridane::Expression::parse(text, context);
-                if (std::get<meridane::Expression>(parsed).evaluateRows(spans, out))
-                    std::abort();
+                for (std::size_t start = 0; start < rows; start += part) {
+                    const std::size_t count = std::min(part, rows - start);
+                    std::array<std::span<const double>, 3> slice;
+                    for (std::size_t i = 0; i < slice.size(); ++i)
+                        slice[i] = spans[i].subspan(start, count);
+                    if (std::get<meridane::Expression>(parsed).evaluateRows(
+                            slice, std::span(out).subspan(start, count)))
+                        std::abort();
+                }
             });
         },
         [&] {
@@ -62,6 +70,7 @@ int main()
 {
     measure("x*2 + y over 1,000,000 rows", "x*2 + y", "x*2 + y");
     measure("x > 0 and z < 1 over 1,000,000 rows", "x > 0 and z < 1", "x > 0 && z < 1");
+    measure("x > 0 and z < 1 over 1,000,000 rows in parts of 1,024", "x > 0 and z < 1", "x > 0 && z < 1", 1024);
     measure("a formula of six terms over 1,000,000 rows", "(x + y)*50% - z/2 + max(x; y; z)",
         "(x + y)*0.5 - z/2 + max(x, y, z)");
     return EXIT_SUCCESS;

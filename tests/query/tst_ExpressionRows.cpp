@@ -25,7 +25,7 @@ private Q_SLOTS:
     void rowsHaveTheValuesOfSingleNumbers_data()
     {
         QTest::addColumn<int>("rows");
-        for (const int rows : {0, 1, 100, 256, 257, 1000, 30'000})
+        for (const int rows : {0, 1, 100, 10'000, 10'001, 30'000})
             QTest::addRow("%d rows", rows) << rows;
     }
 
@@ -57,7 +57,7 @@ private Q_SLOTS:
     void anExpressionIsUsedForManySlices()
     {
         const Expression expression = parsed("x + 1");
-        for (const std::size_t count : {500U, 10U, 700U, 1U, 5000U}) {
+        for (const std::size_t count : {500U, 10U, 20'000U, 1U, 11'000U}) {
             const std::vector<double> column(count, static_cast<double>(count));
             std::vector<double> out(count);
             QVERIFY(!expression.evaluateRows(Columns{column}, out));

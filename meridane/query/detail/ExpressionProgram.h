@@ -42,6 +42,7 @@ private:
     std::string m_text;
     ExpressionContext m_context;
     Formula m_formula;
+    std::vector<std::size_t> m_used; ///< indices of the variables that occur
     std::vector<double> m_variables;
     std::unique_ptr<FormulaParser> m_parser; ///< of single values, bound to `m_variables`
     std::unique_ptr<FormulaParser> m_rowParser; ///< of many rows, bound to the columns; made when it is needed

@@ -34,8 +34,9 @@ ExpressionScanner::ExpressionScanner(std::string_view original, const Expression
 std::variant<Formula, QueryError> ExpressionScanner::run()
 {
     if (m_isTooLong)
-        return QueryError{"The text is longer than " + std::to_string(ExpressionContext::mostBytes)
-                + " characters, which is the limit of a formula.",
+        return QueryError{std::string("The text is longer than ")
+                              .append(std::to_string(ExpressionContext::mostBytes))
+                              .append(" characters, which is the limit of a formula."),
             ExpressionContext::mostBytes};
     bool isGood = true;
     while (isGood) {
