@@ -50,7 +50,7 @@ ListActions::ListActions(
                                   "and the last of them"));
     view->addActions(m_all);
     view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    connect(view, &ListView::rowsDropped, this, &ListActions::drop);
+    connect(view, &ListView::rowsDropped, this, &ListActions::moveTo);
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListActions::update);
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this, &ListActions::update);
     connect(&model, &ListModel::listChanged, this, &ListActions::update);
@@ -83,11 +83,8 @@ void ListActions::update()
     const bool hasRows = m_view->currentIndex().isValid() || m_view->selectionModel()->hasSelection();
     for (QAction* const action : {m_insert, m_paste, m_resize})
         action->setEnabled(hasList);
-    for (QAction* const action : {m_duplicate, m_remove, m_cut, m_copy})
+    for (QAction* const action : {m_duplicate, m_remove, m_moveUp, m_moveDown, m_cut, m_copy})
         action->setEnabled(hasRows);
-    const bool canMove = hasRows && m_model.showsAll();
-    for (QAction* const action : {m_moveUp, m_moveDown})
-        action->setEnabled(canMove);
     m_fillLinear->setEnabled(m_view->selectedCount() > 2 && m_model.columns().kind() == ListColumns::Kind::Number);
 }
 
@@ -133,6 +130,11 @@ void ListActions::moveDown()
 
 void ListActions::moveTo(int before)
 {
+    if (!m_model.showsAll()) {
+        show(orvane::Failure{
+            tr("Rows can be moved only while all of them are shown in their order. Clear range, filter and sorting.")});
+        return;
+    }
     const RowRuns rows = m_view->selectedListRows();
     if (before < 0 || before > m_model.list()->getNum() || !orvane::wouldMove(rows, before))
         return;
@@ -149,15 +151,6 @@ void ListActions::moveTo(int before)
         m_view->selectPlaces({{first, orvane::rowCount(rows)}}, m_view->selectedColumns());
     else
         m_view->setCurrentIndex(m_model.index(first, column));
-}
-
-void ListActions::drop(int place)
-{
-    if (m_model.showsAll())
-        moveTo(place);
-    else
-        show(orvane::Failure{
-            tr("Rows can be moved only while all of them are shown in their order. Clear range, filter and sorting.")});
 }
 
 void ListActions::copy()

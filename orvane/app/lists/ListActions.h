@@ -39,7 +39,6 @@ private:
     void moveUp();
     void moveDown();
     void moveTo(int before);
-    void drop(int place);
     void copy();
     void cut();
     void paste();

@@ -21,7 +21,7 @@ namespace {
 
 QString numberText(int number)
 {
-    return QLocale::c().toString(number);
+    return QLocale(QLocale::English).toString(number);
 }
 
 /// The order of the rows that makes them ascend.
@@ -210,14 +210,12 @@ orvane::Result<> ListEdits::setCells(const PastedRows& cells, std::span<const in
                 texts.append(cells.texts[static_cast<qsizetype>(place)]);
             return orvane::writeTexts(list, places, texts);
         }
-        std::vector<double> values(order.size());
-        for (int i = 0; i < cells.columns; ++i) {
-            const auto& numbers = cells.numbers[static_cast<std::size_t>(i)];
+        std::vector<std::vector<double>> columns;
+        for (const std::vector<double>& numbers : cells.numbers) {
+            std::vector<double>& values = columns.emplace_back(order.size());
             std::ranges::transform(order, values.begin(), [&](std::size_t place) { return numbers[place]; });
-            if (!orvane::writeColumn(list, places, column + i, values))
-                return false;
         }
-        return true;
+        return orvane::writeColumns(list, places, column, columns);
     };
     return push(label, [&](NxMField& list) {
         list.insertSpace(present, appended);

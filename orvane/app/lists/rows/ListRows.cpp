@@ -8,6 +8,7 @@
 #include "meridane/scene/fields/MemoryGuard.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <ranges>
 #include <span>
@@ -123,6 +124,28 @@ bool writeTextsIn(List& list, std::span<const int> rows, const QStringList& text
     });
 }
 
+/// The normal of a plane is normalised by each write, so all of its components are written together.
+bool writePlanes(
+    NxMFPlane& list, std::span<const int> rows, int component, std::span<const std::vector<double>> columns)
+{
+    const auto& components = *meridane::FieldComponents::of(list);
+    std::vector<VbPlane> planes;
+    return meridane::withinMemory(rows.size() * sizeof(VbPlane), [&] {
+        planes.reserve(rows.size());
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            std::array<float, 4> parts{};
+            for (int part = 0; part < static_cast<int>(parts.size()); ++part) {
+                const auto column = static_cast<std::size_t>(part - component);
+                const bool isWritten = part >= component && column < columns.size();
+                parts.at(static_cast<std::size_t>(part))
+                    = static_cast<float>(isWritten ? columns[column][i] : components.get(list, rows[i], part));
+            }
+            planes.emplace_back(VbVec3f(parts[0], parts[1], parts[2]), parts[3]);
+        }
+        return replaceSome(list, rows, std::move(planes));
+    });
+}
+
 /// The text form says whether a class takes a text only when it is written.
 bool writeTextForms(NxMField& list, std::span<const int> rows, const QStringList& texts)
 {
@@ -192,6 +215,18 @@ bool writeColumn(NxMField& list, std::span<const int> rows, int component, std::
         if (!components->setColumn(list, rows.subspan(from, end - from), component, values.subspan(from, end - from)))
             return false;
         from = end;
+    }
+    return true;
+}
+
+bool writeColumns(
+    NxMField& list, std::span<const int> rows, int component, std::span<const std::vector<double>> columns)
+{
+    if (auto* const planes = dynamic_cast<NxMFPlane*>(&list); planes != nullptr && columns.size() > 1)
+        return rows.empty() || writePlanes(*planes, rows, component, columns);
+    for (const std::vector<double>& column : columns) {
+        if (!writeColumn(list, rows, component++, column))
+            return false;
     }
     return true;
 }

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <span>
+#include <vector>
 
 class NxMField;
 
@@ -26,6 +27,9 @@ bool insertCopies(NxMField& list, const RowRuns& rows, int before);
 /// Writes a component of these rows, ascending and unique, with a value for each. The list must have components, and
 /// they must be able to have the values. Returns false as `removeRows` does.
 bool writeColumn(NxMField& list, std::span<const int> rows, int component, std::span<const double> values);
+/// The same with the components from `component` on, a vector of values for each.
+bool writeColumns(
+    NxMField& list, std::span<const int> rows, int component, std::span<const std::vector<double>> columns);
 /// Writes rows, ascending and unique, of a list of texts or names, or in the text form for others, with a text for
 /// each. Returns false, and changes nothing, if the class refuses one, or as `removeRows` does.
 bool writeTexts(NxMField& list, std::span<const int> rows, const QStringList& texts);

@@ -14,6 +14,9 @@
 
 namespace {
 
+/// More are divided among threads, which wait for each other by spinning.
+constexpr std::size_t rowsAtOnce = 256;
+
 QString tr(const char* text)
 {
     return QCoreApplication::translate("RowExpression", text);
@@ -79,9 +82,7 @@ orvane::Result<> RowExpression::evaluate(const NxMField& list, int first, std::s
         else
             components->read(list, first, component, column);
     });
-    if (const auto failure = m_expression.evaluateRows(columns, values))
-        return failureOf(first + static_cast<int>(failure->row), failure->error);
-    return {};
+    return evaluate(columns, values, [first](std::size_t place) { return first + static_cast<int>(place); });
 }
 
 orvane::Result<> RowExpression::evaluate(const NxMField& list, std::span<const int> rows, std::span<double> values)
@@ -93,7 +94,20 @@ orvane::Result<> RowExpression::evaluate(const NxMField& list, std::span<const i
         for (std::size_t i = 0; i < rows.size(); ++i)
             column[i] = component < 0 ? rows[i] : components->get(list, rows[i], component);
     });
-    if (const auto failure = m_expression.evaluateRows(columns, values))
-        return failureOf(rows[failure->row], failure->error);
+    return evaluate(columns, values, [rows](std::size_t place) { return rows[place]; });
+}
+
+template <typename RowAt>
+orvane::Result<> RowExpression::evaluate(
+    std::span<const std::span<const double>> columns, std::span<double> values, const RowAt& rowAt)
+{
+    std::vector<std::span<const double>> parts(columns.size());
+    for (std::size_t first = 0; first < values.size(); first += rowsAtOnce) {
+        const std::size_t count = std::min(rowsAtOnce, values.size() - first);
+        std::ranges::transform(columns, parts.begin(),
+            [&](std::span<const double> column) { return column.empty() ? column : column.subspan(first, count); });
+        if (const auto failure = m_expression.evaluateRows(parts, values.subspan(first, count)))
+            return failureOf(rowAt(first + failure->row), failure->error);
+    }
     return {};
 }

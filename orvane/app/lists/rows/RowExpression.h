@@ -42,6 +42,10 @@ private:
     {
     }
 
+    template <typename RowAt>
+    orvane::Result<> evaluate(
+        std::span<const std::span<const double>> columns, std::span<double> values, const RowAt& rowAt);
+
     meridane::Expression m_expression;
     std::vector<int> m_sources; // for each variable, the component; -1 for the number of the row
     std::vector<std::vector<double>> m_columns; // for each variable that is used
