@@ -1,5 +1,6 @@
 #include "orvane/app/manners/CellFocus.h"
 
+#include "orvane/app/manners/CellSlider.h"
 #include "orvane/app/manners/EditorDocks.h"
 #include "orvane/app/manners/EditorLine.h"
 
@@ -12,6 +13,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPersistentModelIndex>
+#include <QSlider>
 #include <QTableView>
 
 namespace {
@@ -137,10 +139,15 @@ void CellFocus::cellEditorShown(QWidget* editor)
         line->selectAll();
     }
     const auto target = EditorLine::of(line, line->text());
-    if (target && target->isBesideWhole()) {
+    if (!target)
+        return;
+    if (target->isBesideWhole()) {
         target->showOwnValue();
         line->selectAll();
     }
+    auto* const slider = editor->findChild<QSlider*>();
+    if (slider != nullptr && target->field() != nullptr && target->row() > 0)
+        new CellSlider(slider, *target);
 }
 
 // While a number is typed, each of its beginnings would be written.

@@ -45,7 +45,10 @@ public:
     [[nodiscard]] bool write(OrvServices& services, double number) const;
     /// The number that the field has in the place of the line; NaN if that isn't known.
     [[nodiscard]] double present() const;
-    [[nodiscard]] const NxField* field() const noexcept { return m_field; }
+    /// The field, if its values are numbers; else null.
+    [[nodiscard]] NxField* field() const noexcept { return m_field; }
+    /// The row of the list that it shows; -1 if that isn't known.
+    [[nodiscard]] int row() const noexcept { return m_place.row; }
 
     /// Gives the line of a cell the number of its cell, with all digits. The lines of some tables open with the text of
     /// another cell, and write it when they are closed.

@@ -223,6 +223,29 @@ private Q_SLOTS:
         QCOMPARE(steps(), 1);
     }
 
+    void theSliderOfACellWritesItsOwnRow()
+    {
+        const QString before = value("mfFloat");
+        select("mfFloat");
+        openCell(2, 0);
+        auto* const slider = cells()->findChild<QSlider*>();
+        QVERIFY(slider != nullptr);
+        const QPoint middle = slider->rect().center();
+        const int width = slider->width();
+        QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, QPoint(6, middle.y()));
+        for (int step = 1; step <= 4; ++step)
+            QTest::mouseMove(slider, QPoint(6 + step * width / 6, middle.y()));
+        QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, QPoint(6 + 4 * width / 6, middle.y()));
+        settle();
+        const QStringList rows = value("mfFloat").mid(1).split(QStringLiteral(", "));
+        QCOMPARE(rows.at(0), QStringLiteral("0.5"));
+        QCOMPARE(rows.at(1), QStringLiteral("1"));
+        QVERIFY(rows.at(2).toDouble() > -3.75);
+        QCOMPARE(steps(), 1);
+        m_session->services().undo();
+        QCOMPARE(value("mfFloat"), before);
+    }
+
     void openingTheCellOfAColourLosesNoValue()
     {
         field("mfColor")->set("[0.5 0.5 1, 0.25 0.33333334 0]");
