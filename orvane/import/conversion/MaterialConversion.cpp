@@ -1,12 +1,16 @@
 #include "orvane/import/conversion/MaterialConversion.h"
 
+#include "orvane/import/mending/ColorMending.h"
 #include "orvane/import/mending/Names.h"
 #include "orvane/import/mending/Texts.h"
 #include "orvane/import/pictures/ImageCodec.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstddef>
 #include <utility>
 
+#include <assimp/GltfMaterial.h>
 #include <assimp/scene.h>
 
 namespace orvane {
@@ -50,6 +54,21 @@ std::optional<Picture> pictureOf(const aiTexture& texture)
             picture.bytes.insert(picture.bytes.end(), {texel.r, texel.g, texel.b, texel.a});
     }
     return picture;
+}
+
+/// Removes the opacity of each pixel.
+void removeOpacity(Picture& picture)
+{
+    if (picture.components != 2 && picture.components != 4)
+        return;
+    const auto components = static_cast<std::size_t>(picture.components);
+    std::size_t end = 0;
+    for (std::size_t place = 0; place < picture.bytes.size(); ++place) {
+        if (place % components != components - 1)
+            picture.bytes[end++] = picture.bytes[place];
+    }
+    picture.bytes.resize(end);
+    --picture.components;
 }
 
 aiColor3D toAiColor(const NxSFColor& field)
@@ -97,6 +116,32 @@ int textureWrap(const aiMaterial& material, int axis)
     return mode == aiTextureMapMode_Clamp || mode == aiTextureMapMode_Decal ? NxTexture::CLAMP : NxTexture::REPEAT;
 }
 
+TextureMapping textureMapping(const aiMaterial& material)
+{
+    TextureMapping mapping;
+    const aiTextureType type = textureTypeOf(material);
+    int channel = 0;
+    if (material.Get(AI_MATKEY_UVWSRC(type, 0), channel) == aiReturn_SUCCESS && channel > 0
+        && channel < AI_MAX_NUMBER_OF_TEXTURECOORDS)
+        mapping.channel = static_cast<unsigned int>(channel);
+    aiUVTransform given;
+    aiString mode;
+    // Of the formats that have one, only glTF defines it well.
+    if (material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) != aiReturn_SUCCESS
+        || material.Get(AI_MATKEY_UVTRANSFORM(type, 0), given) != aiReturn_SUCCESS)
+        return mapping;
+    // The library turns about the middle of the image, with v upwards; here are the numbers of the file.
+    const float cosine = std::cos(-given.mRotation);
+    const float sine = std::sin(-given.mRotation);
+    const aiVector2D& scale = given.mScaling;
+    const float left = given.mTranslation.x - 0.5F * scale.x * (1 - cosine + sine);
+    const float top = 1 - scale.y - given.mTranslation.y + 0.5F * scale.y * (sine + cosine - 1);
+    // With v downwards u' = c x u + s y v + left and v' = -s x u + c y v + top, and v = 1 - (v upwards).
+    mapping.across = {cosine * scale.x, -sine * scale.y, sine * scale.y + left};
+    mapping.upwards = {sine * scale.x, cosine * scale.y, 1 - cosine * scale.y - top};
+    return mapping;
+}
+
 NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model)
 {
     const std::string path = texturePath(material);
@@ -117,6 +162,8 @@ NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model)
     else
         result->setName(name);
     if (std::optional<Picture> picture = pictureOf(*embedded)) {
+        if (isDeclaredOpaque(material))
+            removeOpacity(*picture);
         const VbVec2s size(static_cast<short>(picture->width), static_cast<short>(picture->height));
         result->image.setValue(size, picture->components, std::move(picture->bytes));
     }

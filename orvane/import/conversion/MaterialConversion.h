@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/import/conversion/TextureMapping.h"
+
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxMaterial.h"
 #include "meridane/scene/nodes/NxTexture.h"
@@ -19,6 +21,8 @@ namespace orvane {
 [[nodiscard]] std::string texturePath(const aiMaterial& material);
 /// The wrap mode of that texture, an `NxTexture::Wrap`, along axis 0 (left and right) or 1 (below and above).
 [[nodiscard]] int textureWrap(const aiMaterial& material, int axis);
+/// How that texture is placed on the surface.
+[[nodiscard]] TextureMapping textureMapping(const aiMaterial& material);
 /// The texture of the material, or null. It has an image if the model contains one that can be decoded.
 [[nodiscard]] NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model);
 

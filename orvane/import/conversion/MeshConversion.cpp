@@ -107,7 +107,7 @@ void setFaces(aiMesh& target, std::span<const int> indices, unsigned int corners
 
 } // namespace
 
-NxRef<NxMesh> toMesh(const aiMesh& mesh)
+NxRef<NxMesh> toMesh(const aiMesh& mesh, const TextureMapping& mapping)
 {
     NxRef<NxMesh> result = new NxMesh;
     const int primitive = primitiveOf(mesh);
@@ -115,8 +115,15 @@ NxRef<NxMesh> toMesh(const aiMesh& mesh)
     result->primitive.setValue(primitive);
     result->positions.setValues(converted<VbVec3f>(mesh.mVertices, mesh.mNumVertices, &toVec));
     result->normals.setValues(converted<VbVec3f>(mesh.mNormals, mesh.mNumVertices, &toDirection));
-    result->textureCoordinates.setValues(converted<VbVec2f>(
-        mesh.mTextureCoords[0], mesh.mNumVertices, [](const aiVector3D& place) { return VbVec2f(place.x, place.y); }));
+    const aiVector3D* const coordinates = mesh.mTextureCoords[mapping.channel] != nullptr
+        ? mesh.mTextureCoords[mapping.channel]
+        : mesh.mTextureCoords[0];
+    const bool isMapped = mapping.across != TextureMapping().across || mapping.upwards != TextureMapping().upwards;
+    result->textureCoordinates.setValues(
+        converted<VbVec2f>(coordinates, mesh.mNumVertices, [&](const aiVector3D& given) {
+            const aiVector3D place(given.x, given.y, 1);
+            return isMapped ? VbVec2f(mapping.across * place, mapping.upwards * place) : VbVec2f(given.x, given.y);
+        }));
     result->colors.setValues(converted<VbVec4f>(mesh.mColors[0], mesh.mNumVertices,
         [](const aiColor4D& color) { return VbVec4f(color.r, color.g, color.b, color.a); }));
     result->indices.setValues(indicesOf(mesh, cornersOf(primitive)));

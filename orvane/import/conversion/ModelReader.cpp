@@ -5,6 +5,7 @@
 #include "orvane/import/mending/ModelMending.h"
 #include "orvane/import/mending/ObjMending.h"
 #include "orvane/import/mending/PivotFolding.h"
+#include "orvane/import/mending/RestPose.h"
 #include "orvane/import/mending/SpaceConversion.h"
 
 #include "meridane/base/Files.h"
@@ -118,6 +119,8 @@ const aiScene* ModelReader::readFile(const std::string& path, ModelFiles& files)
 // The library's own check refuses a whole model for one bad part.
 bool ModelReader::mend(aiScene& model, std::string& error)
 {
+    reportMotion(model, m_warnings);
+    poseSkins(model);
     mendModel(model, m_warnings);
     mendVertexColors(model, m_colorStorage, m_warnings);
     mendMaterials(model, m_warnings);

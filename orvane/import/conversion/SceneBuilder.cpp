@@ -5,6 +5,7 @@
 #include "orvane/import/conversion/MaterialConversion.h"
 #include "orvane/import/conversion/MeshConversion.h"
 #include "orvane/import/conversion/TransformConversion.h"
+#include "orvane/import/mending/ColorMending.h"
 #include "orvane/import/mending/Lists.h"
 #include "orvane/import/mending/Names.h"
 #include "orvane/import/mending/SourceFormat.h"
@@ -174,12 +175,14 @@ NxRef<NxGroup> SceneBuilder::meshGroup(unsigned int index)
         return group;
     const aiMesh& mesh = *m_model.mMeshes[index];
     group = new NxGroup;
+    TextureMapping mapping;
     if (mesh.mMaterialIndex < m_materials.size()) {
         group->addChild(material(mesh.mMaterialIndex).get());
         if (const NxRef<NxTexture> picture = texture(mesh.mMaterialIndex))
             group->addChild(picture.get());
+        mapping = textureMapping(*m_model.mMaterials[mesh.mMaterialIndex]);
     }
-    group->addChild(toMesh(mesh).get());
+    group->addChild(toMesh(mesh, mapping).get());
     return group;
 }
 
@@ -197,7 +200,8 @@ NxRef<NxTexture> SceneBuilder::texture(unsigned int materialIndex)
     const std::string path = texturePath(material);
     if (path.empty())
         return {};
-    NxRef<NxTexture>& result = m_textures[{path, textureWrap(material, 0), textureWrap(material, 1)}];
+    NxRef<NxTexture>& result
+        = m_textures[{path, textureWrap(material, 0), textureWrap(material, 1), isDeclaredOpaque(material)}];
     if (!result) {
         result = toTexture(material, m_model);
         findImage(*result);

@@ -57,7 +57,7 @@ private:
     [[nodiscard]] NxRef<NxTexture> texture(unsigned int materialIndex);
     void findImage(NxTexture& texture);
 
-    using TextureKey = std::tuple<std::string, int, int>; // path and wraps
+    using TextureKey = std::tuple<std::string, int, int, bool>; // path, wraps, whether it is opaque
 
     const aiScene& m_model;
     ImportOptions m_options;

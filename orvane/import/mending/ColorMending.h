@@ -8,6 +8,7 @@
 
 #include <assimp/types.h>
 
+struct aiMaterial;
 struct aiScene;
 
 namespace orvane {
@@ -38,6 +39,8 @@ enum class ColorMending {
 
 /// Mends the vertex colours of all meshes, and leaves out those that can't be mended.
 void mendVertexColors(aiScene& model, ColorStorage storage, ImportWarnings& warnings);
+/// Whether a glTF material says that its opacity and that of its texture have no meaning.
+[[nodiscard]] bool isDeclaredOpaque(const aiMaterial& material);
 /// Mends materials that would make everything invisible or too bright: opacities of Collada files are inverted where
 /// their exporter wrote the opposite of what it meant.
 void mendMaterials(aiScene& model, ImportWarnings& warnings);

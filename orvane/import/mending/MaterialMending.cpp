@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include <assimp/GltfMaterial.h>
 #include <assimp/scene.h>
 
 namespace orvane {
@@ -96,7 +97,29 @@ void lightenTextured(aiMaterial& material)
     material.AddProperty(&color, 1, AI_MATKEY_COLOR_DIFFUSE);
 }
 
+// The format has the opacity of an opaque surface without a meaning.
+void makeOpaque(aiScene& model)
+{
+    for (unsigned int index = 0; index < model.mNumMaterials; ++index) {
+        aiMaterial& material = *model.mMaterials[index];
+        if (!isDeclaredOpaque(material))
+            continue;
+        const float opacity = 1;
+        material.AddProperty(&opacity, 1, AI_MATKEY_OPACITY);
+        for (aiMesh* mesh : listOf(model.mMeshes, model.mNumMeshes)) {
+            for (aiColor4D& color : listOf(mesh->mColors[0], mesh->mMaterialIndex == index ? mesh->mNumVertices : 0))
+                color.a = 1;
+        }
+    }
+}
+
 } // namespace
+
+bool isDeclaredOpaque(const aiMaterial& material)
+{
+    aiString mode;
+    return material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) == aiReturn_SUCCESS && viewOf(mode) == "OPAQUE";
+}
 
 void mendMaterials(aiScene& model, ImportWarnings& warnings)
 {
@@ -104,6 +127,7 @@ void mendMaterials(aiScene& model, ImportWarnings& warnings)
         dimMadeUpMaterial(*material);
         lightenTextured(*material);
     }
+    makeOpaque(model);
     const std::vector<aiMaterial*> used = materialsInUse(model);
     if (hasSourceFormat(model, "Collada"))
         invertOpacities(used, warnings);
