@@ -11,6 +11,12 @@ QRect ValueCell::partArea(
     return area;
 }
 
+QRect ValueCell::editorArea(
+    const QRect& area, const NxField& field, int part, const CellServices& services, const QFont& /*font*/) const
+{
+    return partArea(area, field, part, services);
+}
+
 int ValueCell::partAt(
     const QRect& area, const NxField& field, const QPoint& position, const CellServices& services) const
 {

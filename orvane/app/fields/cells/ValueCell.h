@@ -44,6 +44,9 @@ public:
     /// The place of a part in that of the value.
     [[nodiscard]] virtual QRect partArea(
         const QRect& area, const NxField& field, int part, const CellServices& services) const;
+    /// The place of the editor of a part: without what stays in sight beside it.
+    [[nodiscard]] virtual QRect editorArea(
+        const QRect& area, const NxField& field, int part, const CellServices& services, const QFont& font) const;
     /// The part at a position; -1 for none.
     [[nodiscard]] int partAt(
         const QRect& area, const NxField& field, const QPoint& position, const CellServices& services) const;

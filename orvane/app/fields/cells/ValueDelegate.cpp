@@ -198,8 +198,8 @@ void ValueDelegate::updateEditorGeometry(
         return QStyledItemDelegate::updateEditorGeometry(editor, option, index);
     const NxField& field = fields->first();
     const QRect area = areaOf(*m_view, option.rect);
-    const QRect part = orvane::cellOf(field).partArea(area, field, cell->part(), *m_services);
-    // A number needs more room than a narrow column has, and the row is as high as a line.
+    const QRect part = orvane::cellOf(field).editorArea(area, field, cell->part(), *m_services, option.font);
+    // A number needs more room than a narrow component has, and a line is as high as the row.
     const int least = std::min(option.rect.width(), cell->minimumWidth());
     const int left = std::min(part.left(), option.rect.right() + 1 - least);
     editor->setGeometry(left, option.rect.top(), std::max(part.width(), least), option.rect.height());

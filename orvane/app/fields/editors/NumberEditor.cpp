@@ -79,6 +79,8 @@ NumberEditor::NumberEditor(const CellEdit& edit, FieldNumber number, QWidget* pa
     m_line->setLimits(m_number.limits);
     m_line->installEventFilter(this);
     setFocusProxy(m_line);
+    constexpr int shownDigits = 10;
+    setMinimumWidth(shownDigits * fontMetrics().averageCharWidth());
     connect(m_line, &NumberLine::accepted, this, &NumberEditor::accept);
     connect(m_line, &NumberLine::stepped, this, &NumberEditor::step);
     connect(m_line, &NumberLine::restored, this, [this] {

@@ -20,6 +20,7 @@ MaskPopup::MaskPopup(QWidget* parent)
     layout->addWidget(m_list);
     m_list->setAccessibleName(tr("Bits"));
     m_list->setFrameShape(NoFrame);
+    m_list->setSpacing(1);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // The list would change a bit only by a click on its box.
     m_list->installEventFilter(this);
@@ -40,7 +41,7 @@ void MaskPopup::setBits(const std::vector<Bits>& bits)
     m_list->setCurrentRow(0);
     constexpr int mostRowsShown = 16;
     const int rows = std::clamp(m_list->count(), 1, mostRowsShown);
-    m_list->setFixedHeight(rows * std::max(m_list->sizeHintForRow(0), fontMetrics().height()));
+    m_list->setFixedHeight(rows * (std::max(m_list->sizeHintForRow(0), fontMetrics().height()) + 2));
     m_list->setMinimumWidth(m_list->sizeHintForColumn(0) + 2 * fontMetrics().averageCharWidth());
 }
 

@@ -93,7 +93,7 @@ MatrixPopup::MatrixPopup(QWidget* parent)
     m_partRows[Rotation]->setLimits(degrees);
     form->addRow(m_rest);
     form->addRow(m_removeRest);
-    m_rows[0]->lines().front()->setFocus();
+    m_rows[0]->lines().front()->setFocus(Qt::TabFocusReason); // which selects the number
 }
 
 NumberRow* MatrixPopup::addRow(NumberRow* row)

@@ -73,7 +73,7 @@ RotationPopup::RotationPopup(QWidget* parent)
     });
     connect(m_normalise, &QPushButton::clicked, this, [this] { take(orvane::normalised(m_rotation)); });
     connect(m_showEuler, &QCheckBox::toggled, this, &RotationPopup::eulerShownChanged);
-    m_axis->lines().front()->setFocus();
+    m_axis->lines().front()->setFocus(Qt::TabFocusReason); // which selects the number
 }
 
 NumberRow* RotationPopup::addRow(NumberRow* row)

@@ -357,6 +357,26 @@ private Q_SLOTS:
         QCOMPARE(line()->text(), u"0"_s);
     }
 
+    void theLetterStaysInSight()
+    {
+        const QRect whole = part("sfVec3f", 1);
+        clickPart("sfVec3f", 1);
+        QVERIFY(editor()->geometry().left() > whole.left() + 3);
+        QVERIFY(editor()->width() >= editor()->minimumWidth());
+    }
+
+    void aNumberThatIsTooLongHasAnEllipsis()
+    {
+        QVERIFY(field("sfVec4f").set("123456.78 123456.78 123456.78 123456.78"));
+        m_panel->resize(300, 800);
+        ManyNodes::finish();
+        // Not the picture of another number that would fit.
+        const QImage cut = picture("sfVec4f");
+        QVERIFY(field("sfVec4f").set("12345 12345 12345 12345"));
+        ManyNodes::finish();
+        QVERIFY(cut != picture("sfVec4f"));
+    }
+
     void editorsHaveNames()
     {
         clickPart("sfVec3f", 2);

@@ -10,8 +10,6 @@
 #include "meridane/scene/fields/single/NxSFBool.h"
 
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionViewItem>
 
 namespace {
 
@@ -32,18 +30,33 @@ void toggleFlags(const CellServices& services, const FieldSet& fields, QWidget* 
         InputMessage::showFor(widget, result.error());
 }
 
+// Many styles draw a box that can't be seen on a dark or a selected row.
+void paintBox(QPainter& painter, const QRect& place, const CellPaint& cell, Qt::CheckState state)
+{
+    const qreal unit = place.width() / 16.0;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(orvane::look::quietColor(cell.text, cell.background), unit));
+    painter.drawRoundedRect(QRectF(place).adjusted(2 * unit, 2 * unit, -2 * unit, -2 * unit), 2 * unit, 2 * unit);
+    painter.setPen(QPen(cell.text, 2 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(place.topLeft());
+    if (state == Qt::Checked)
+        painter.drawPolyline(QPolygonF{{5 * unit, 8.5 * unit}, {7 * unit, 11 * unit}, {11 * unit, 5.5 * unit}});
+    else if (state == Qt::PartiallyChecked)
+        painter.drawLine(QPointF(5 * unit, 8 * unit), QPointF(11 * unit, 8 * unit));
+    painter.translate(-place.topLeft());
+    painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
 } // namespace
 
 void FlagCell::paint(QPainter& painter, const CellPaint& cell, const FieldSet& fields) const
 {
     const bool on = isOn(fields.first());
-    QStyleOptionViewItem option;
-    option.initFrom(cell.view);
-    option.palette = cell.palette;
-    option.rect = orvane::markArea(cell);
-    option.state = cell.isEnabled ? QStyle::State_Enabled : QStyle::State_None;
-    option.state |= cell.isMixed ? QStyle::State_NoChange : on ? QStyle::State_On : QStyle::State_Off;
-    cell.view->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &option, &painter, cell.view);
+    paintBox(painter, orvane::markArea(cell), cell,
+        cell.isMixed ? Qt::PartiallyChecked
+            : on     ? Qt::Checked
+                     : Qt::Unchecked);
     if (cell.isMixed)
         orvane::paintMixed(painter, cell, orvane::besideMark(cell));
     else

@@ -64,6 +64,18 @@ QRect NumberCell::partArea(const QRect& area, const NxField& field, int part, co
     return orvane::columnOf(area, FieldComponents::of(field)->count(), part);
 }
 
+// The letter stays in sight.
+QRect NumberCell::editorArea(
+    const QRect& area, const NxField& field, int part, const CellServices& services, const QFont& font) const
+{
+    const QRect whole = partArea(area, field, part, services);
+    const int component = scrubbedComponent(field, part, services);
+    const QString letter = component >= 0 ? orvane::letterOf(field, component) : QString();
+    if (letter.isEmpty())
+        return whole;
+    return whole.adjusted(QFontMetrics(orvane::letterFont(font)).horizontalAdvance(letter), 0, 0, 0);
+}
+
 int NumberCell::scrubbedComponent(const NxField& /*field*/, int part, const CellServices& /*services*/) const
 {
     return part;

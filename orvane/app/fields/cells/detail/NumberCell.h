@@ -11,6 +11,8 @@ public:
     [[nodiscard]] int parts(const NxField& field, const CellServices& services) const override;
     [[nodiscard]] QRect partArea(
         const QRect& area, const NxField& field, int part, const CellServices& services) const override;
+    [[nodiscard]] QRect editorArea(const QRect& area, const NxField& field, int part, const CellServices& services,
+        const QFont& font) const override;
     [[nodiscard]] int scrubbedComponent(const NxField& field, int part, const CellServices& services) const override;
     [[nodiscard]] CellEditor* createEditor(const CellEdit& edit, QWidget* parent) const override;
 
