@@ -2,11 +2,11 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/fields/FieldClipboard.h"
-#include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/fields/FieldReferences.h"
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
 #include "orvane/app/fields/values/FieldText.h"
+#include "orvane/app/fields/values/FieldWriter.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
 
@@ -32,10 +32,12 @@ const QMimeData& clipboardData()
 
 } // namespace
 
-FieldActions::FieldActions(OrvServices& services, FieldPanel* panel)
-    : QObject(panel)
+FieldActions::FieldActions(OrvServices& services, FieldWriter& writer, FieldTableModel* model, FieldTableView* view)
+    : QObject(view)
     , m_services(services)
-    , m_panel(panel)
+    , m_writer(writer)
+    , m_model(model)
+    , m_view(view)
     , m_edit(add(tr("&Edit"), {}, &FieldActions::edit))
     , m_copy(add(tr("&Copy Value"), {QKeySequence::Copy}, &FieldActions::copyValue))
     , m_paste(add(tr("&Paste Value"), {QKeySequence::Paste}, &FieldActions::pasteValue))
@@ -47,13 +49,13 @@ FieldActions::FieldActions(OrvServices& services, FieldPanel* panel)
     , m_pasteAll(add(tr("Paste All F&ields"), {Qt::CTRL | Qt::ALT | Qt::Key_V}, &FieldActions::pasteAll))
     , m_reset(add(tr("&Reset to Default"), {Qt::CTRL | Qt::Key_Backspace}, &FieldActions::reset))
     , m_ignore(add(tr("I&gnore"), {Qt::CTRL | Qt::ALT | Qt::Key_I}, &FieldActions::toggleIgnored))
-    , m_favorite(add(tr("&Favorite"), {Qt::CTRL | Qt::Key_B}, &FieldActions::toggleFavorite))
+    , m_favorite(add(tr("&Favorite"), {Qt::CTRL | Qt::Key_B}, nullptr))
     , m_findSame(
           add(tr("Select &Nodes with This Value"), {Qt::CTRL | Qt::ALT | Qt::Key_F}, &FieldActions::findSameValue))
 {
     m_ignore->setCheckable(true);
     m_favorite->setCheckable(true);
-    FieldTableView* const view = panel->view();
+    connect(m_favorite, &QAction::triggered, this, [this] { Q_EMIT favoriteToggled(current()); });
     view->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(view, &QWidget::customContextMenuRequested, this, &FieldActions::showMenu);
 }
@@ -63,32 +65,32 @@ QAction* FieldActions::add(const QString& text, const QList<QKeySequence>& keys,
     auto* const action = new QAction(text, this);
     action->setShortcuts(keys);
     action->setShortcutContext(Qt::WidgetShortcut); // not in the editors of its cells
-    connect(action, &QAction::triggered, this, slot);
-    m_panel->view()->addAction(action);
+    if (slot != nullptr)
+        connect(action, &QAction::triggered, this, slot);
+    m_view->addAction(action);
     return action;
 }
 
 QModelIndex FieldActions::current() const
 {
-    const QModelIndexList selected = m_panel->view()->selectionModel()->selectedRows();
-    return selected.isEmpty() ? m_panel->view()->currentIndex() : selected.front();
+    const QModelIndexList selected = m_view->selectionModel()->selectedRows();
+    return selected.isEmpty() ? m_view->currentIndex() : selected.front();
 }
 
 FieldSet FieldActions::fields() const
 {
-    return m_panel->model()->fieldSet(current());
+    return m_model->fieldSet(current());
 }
 
 QString FieldActions::nodes() const
 {
-    const FieldTableModel* const model = m_panel->model();
-    return model->nodeCount() == 1 ? orvane::nodeName(*model->node()) : tr("%1 nodes").arg(model->nodeCount());
+    return m_model->nodeCount() == 1 ? orvane::nodeName(*m_model->node()) : tr("%1 nodes").arg(m_model->nodeCount());
 }
 
 void FieldActions::showMenu(const QPoint& place)
 {
     update();
-    QMenu menu(m_panel);
+    QMenu menu(m_view);
     menu.setObjectName(QStringLiteral("fieldMenu"));
     menu.addActions({m_edit});
     menu.addSeparator();
@@ -99,8 +101,8 @@ void FieldActions::showMenu(const QPoint& place)
     menu.addActions({m_reset, m_ignore, m_favorite});
     menu.addSeparator();
     menu.addActions({m_findSame});
-    menu.exec(m_panel->view()->viewport()->mapToGlobal(place));
-    for (QAction* const action : m_panel->view()->actions())
+    menu.exec(m_view->viewport()->mapToGlobal(place));
+    for (QAction* const action : m_view->actions())
         action->setEnabled(true); // the keys say why they can't
 }
 
@@ -110,7 +112,7 @@ void FieldActions::update()
     const bool hasField = !set.isEmpty();
     for (QAction* const action : {m_edit, m_copy, m_paste, m_copyPath, m_copyAssignment, m_ignore, m_favorite})
         action->setEnabled(hasField);
-    const FieldRow* const row = m_panel->model()->row(current());
+    const FieldRow* const row = m_model->row(current());
     m_edit->setText(row != nullptr && row->isList() ? tr("&Open List") : tr("&Edit"));
     m_reset->setEnabled(hasField && set.isChanged());
     m_findSame->setEnabled(hasField && !set.isMixed());
@@ -120,7 +122,7 @@ void FieldActions::update()
 
 void FieldActions::edit()
 {
-    m_panel->view()->editRow(current());
+    m_view->editRow(current());
 }
 
 void FieldActions::copyValue()
@@ -129,17 +131,16 @@ void FieldActions::copyValue()
     if (set.isEmpty())
         return;
     if (set.isMixed())
-        m_panel->showFailure(
-            tr("The %1 nodes have different values. Select one of them to copy its value.").arg(set.count()));
+        Q_EMIT failed(tr("The %1 nodes have different values. Select one of them to copy its value.").arg(set.count()));
     else
         QGuiApplication::clipboard()->setMimeData(orvane::valueMimeData(set.first()).release());
 }
 
 void FieldActions::pasteValue()
 {
-    const auto result = orvane::pasteValue(m_panel->writer(), fields(), clipboardData());
+    const auto result = orvane::pasteValue(m_writer, fields(), clipboardData());
     if (!result)
-        m_panel->showFailure(result.error());
+        Q_EMIT failed(result.error());
 }
 
 void FieldActions::copyPath()
@@ -168,22 +169,21 @@ void FieldActions::copyGroup()
 void FieldActions::copyRows(const QModelIndex& group)
 {
     std::vector<const NxField*> copied;
-    for (const FieldSet& set : m_panel->model()->allFields(group)) {
+    for (const FieldSet& set : m_model->allFields(group)) {
         if (!set.isMixed())
             copied.push_back(&set.first());
     }
     if (copied.empty())
-        m_panel->showFailure(tr("There is no field to copy that has one value."));
+        Q_EMIT failed(tr("There is no field to copy that has one value."));
     else
         QGuiApplication::clipboard()->setMimeData(orvane::fieldsMimeData(copied).release());
 }
 
 void FieldActions::pasteAll()
 {
-    const auto result
-        = orvane::pasteFields(m_panel->writer(), m_panel->model()->allFields({}), clipboardData(), nodes());
+    const auto result = orvane::pasteFields(m_writer, m_model->allFields({}), clipboardData(), nodes());
     if (const QString message = result ? result.value() : result.error(); !message.isEmpty())
-        m_panel->showFailure(message);
+        Q_EMIT failed(message);
 }
 
 void FieldActions::reset()
@@ -191,8 +191,8 @@ void FieldActions::reset()
     const FieldSet set = fields();
     if (set.isEmpty() || !set.isChanged())
         return;
-    if (const auto result = m_panel->writer().reset(set); !result)
-        m_panel->showFailure(result.error());
+    if (const auto result = m_writer.reset(set); !result)
+        Q_EMIT failed(result.error());
 }
 
 void FieldActions::toggleIgnored()
@@ -200,13 +200,8 @@ void FieldActions::toggleIgnored()
     const FieldSet set = fields();
     if (set.isEmpty())
         return;
-    if (const auto result = m_panel->writer().setIgnored(set, !set.isIgnored()); !result)
-        m_panel->showFailure(result.error());
-}
-
-void FieldActions::toggleFavorite()
-{
-    m_panel->toggleFavorite(current());
+    if (const auto result = m_writer.setIgnored(set, !set.isIgnored()); !result)
+        Q_EMIT failed(result.error());
 }
 
 void FieldActions::findSameValue()
@@ -216,12 +211,12 @@ void FieldActions::findSameValue()
     if (set.isEmpty() || scene == nullptr)
         return;
     if (set.isMixed()) {
-        m_panel->showFailure(tr("The %1 nodes have different values. Select one of them first.").arg(set.count()));
+        Q_EMIT failed(tr("The %1 nodes have different values. Select one of them first.").arg(set.count()));
         return;
     }
     const std::vector<NxNode*> found = orvane::nodesWithValue(set.first(), *scene);
     if (found.size() > 1)
         Q_EMIT nodesFound(found);
     else
-        m_panel->showFailure(tr("No other node has this value of %1.").arg(m_panel->model()->row(current())->name()));
+        Q_EMIT failed(tr("No other node has this value of %1.").arg(m_model->row(current())->name()));
 }

@@ -5,8 +5,10 @@
 
 #include <vector>
 
-class FieldPanel;
 class FieldSet;
+class FieldTableModel;
+class FieldTableView;
+class FieldWriter;
 class NxNode;
 class OrvServices;
 class QAction;
@@ -16,10 +18,14 @@ class FieldActions : public QObject {
     Q_OBJECT
 
 public:
-    /// The panel owns it; the services live longer.
-    FieldActions(OrvServices& services, FieldPanel* panel);
+    /// The view owns it; all others live longer.
+    FieldActions(OrvServices& services, FieldWriter& writer, FieldTableModel* model, FieldTableView* view);
 
 Q_SIGNALS:
+    /// Something couldn't be done, or not all of it.
+    void failed(const QString& message);
+    /// The field of that row is to be made a favourite, or no favourite any more.
+    void favoriteToggled(const QModelIndex& index);
     /// These nodes, two at least, have the value that was looked for.
     void nodesFound(const std::vector<NxNode*>& nodes);
 
@@ -41,12 +47,13 @@ private:
     void pasteAll();
     void reset();
     void toggleIgnored();
-    void toggleFavorite();
     void findSameValue();
     void copyRows(const QModelIndex& group);
 
     OrvServices& m_services;
-    FieldPanel* m_panel;
+    FieldWriter& m_writer;
+    FieldTableModel* m_model;
+    FieldTableView* m_view;
     QAction* m_edit;
     QAction* m_copy;
     QAction* m_paste;

@@ -53,8 +53,10 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     m_pages->addWidget(m_hint);
     m_pages->addWidget(page);
     connectView();
-    const auto* const actions = new FieldActions(services, this);
+    const auto* const actions = new FieldActions(services, m_writer, m_model, m_view);
     connect(actions, &FieldActions::nodesFound, this, &FieldPanel::nodesFound);
+    connect(actions, &FieldActions::failed, this, &FieldPanel::showFailure);
+    connect(actions, &FieldActions::favoriteToggled, this, &FieldPanel::toggleFavorite);
     setFocusProxy(m_view);
 }
 
