@@ -33,6 +33,7 @@ public:
     void setNodes(const std::shared_ptr<const FieldSet::Nodes>& nodes);
     /// The node that was selected last; null for none.
     [[nodiscard]] NxFieldContainer* node() const noexcept;
+    [[nodiscard]] const std::shared_ptr<const FieldSet::Nodes>& nodes() const noexcept { return m_nodes; }
     [[nodiscard]] int nodeCount() const noexcept { return m_nodes ? static_cast<int>(m_nodes->size()) : 0; }
 
     /// Shows only rows whose field matches the query; and only changed ones if `changedOnly`. Rows don't come and go as

@@ -4,6 +4,7 @@
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/inspect/LockAction.h"
 #include "orvane/app/inspect/NodeLock.h"
+#include "orvane/app/scene/NodeSelection.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
@@ -30,6 +31,7 @@ InspectorDock::InspectorDock(int number, Session& session, SceneTreePanel* tree,
     connect(tree, &SceneTreePanel::selectionChanged, this, &InspectorDock::follow);
     connect(tree->model(), &QAbstractItemModel::dataChanged, m_panel, &FieldPanel::updateHeading);
     connect(m_panel, &FieldPanel::fieldChosen, this, &InspectorDock::choose);
+    connect(m_panel, &FieldPanel::nodesFound, &tree->selection(), &NodeSelection::select);
     connect(&session.services(), &OrvServices::selectedFieldChanged, this, &InspectorDock::showField);
     connect(&session.document(), &SceneDocument::sceneAboutToChange, this, [this] { m_panel->setNode(nullptr); });
     follow();
@@ -41,9 +43,15 @@ void InspectorDock::follow()
 {
     m_lockAction->update();
     NxNode* const node = m_lock->isOn() ? m_lock->node() : m_tree->selectedNode();
-    if (m_panel->model()->node() == node)
+    const auto selected = m_lock->isOn() ? nullptr : m_tree->selection().nodes();
+    const bool areSeveral = selected && selected->size() > 1;
+    const FieldTableModel& model = *m_panel->model();
+    if (areSeveral ? model.nodes() == selected : model.node() == node && model.nodeCount() <= 1)
         return;
-    m_panel->setNode(node);
+    if (areSeveral)
+        m_panel->setNodes(selected);
+    else
+        m_panel->setNode(node);
     showField(m_session.services().getSelectedField());
 }
 

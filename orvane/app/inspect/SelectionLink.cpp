@@ -3,6 +3,7 @@
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/inspect/NodeLock.h"
+#include "orvane/app/scene/NodeSelection.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/extender/OrvServices.h"
@@ -23,6 +24,7 @@ SelectionLink::SelectionLink(OrvServices& services, SceneTreePanel* tree, FieldP
     connect(&services, &OrvServices::selectedNodeChanged, this, &SelectionLink::showNode);
     connect(&services, &OrvServices::selectedFieldChanged, this, &SelectionLink::showField);
     connect(&lock, &NodeLock::changed, this, &SelectionLink::followTree);
+    connect(fields, &FieldPanel::nodesFound, &tree->selection(), &NodeSelection::select);
 }
 
 void SelectionLink::browse(const QModelIndex& index, NxField* field)
@@ -34,8 +36,10 @@ void SelectionLink::browse(const QModelIndex& index, NxField* field)
 
 void SelectionLink::chooseNode(NxFieldContainer* node)
 {
-    if (node == m_services.getSelectedNode() || m_lock.isOn())
+    if (node == m_services.getSelectedNode() || m_lock.isOn()) {
+        showNodes();
         return;
+    }
     if (NxField* kept = keptField(node))
         m_services.select(node, kept);
     else
@@ -64,13 +68,27 @@ void SelectionLink::followTree()
 void SelectionLink::showNode(NxFieldContainer* node)
 {
     const QScopedValueRollback showing(m_isShowing, true);
-    if (m_fields->model()->node() != node)
-        m_fields->setNode(node);
+    showNodes();
     if (m_lock.isOn() && node == m_lock.node())
         return;
     m_lock.giveUp(node != nullptr ? tr("another node was selected") : tr("nothing is selected any more"));
     if (m_tree->selectedNode() != node)
         m_tree->select(m_tree->model()->findNode(node));
+}
+
+void SelectionLink::showNodes()
+{
+    NxFieldContainer* const node = m_services.getSelectedNode();
+    const auto selected = m_tree->selection().nodes();
+    const bool areSeveral = selected && selected->size() > 1 && selected->front().get() == node && !m_lock.isOn();
+    const FieldTableModel& model = *m_fields->model();
+    if (areSeveral ? model.nodes() == selected : model.node() == node && model.nodeCount() <= 1)
+        return;
+    if (areSeveral)
+        m_fields->setNodes(selected);
+    else
+        m_fields->setNode(node);
+    m_fields->setCurrentField(m_services.getSelectedField());
 }
 
 void SelectionLink::showField(NxField* field)

@@ -17,6 +17,9 @@ class SceneTreePanel;
 /// A field stays selected across nodes: the node that comes next has the field of the same name and type selected, if
 /// there is one, so that a user can walk through nodes and compare or edit one field.
 ///
+/// If several nodes are selected in the tree, the services have the one selected last, and the field table shows the
+/// fields that all of them have.
+///
 /// While the lock is on, the field table and the services' selection, which extensions follow, stay on its node; what
 /// the user browses to is selected in the tree alone, and with it in the view.
 class SelectionLink : public QObject {
@@ -32,6 +35,8 @@ public:
 private:
     void chooseNode(NxFieldContainer* node);
     void showNode(NxFieldContainer* node);
+    /// Shows the fields of all nodes that are selected in the tree if they belong to the services' selection.
+    void showNodes();
     void showField(NxField* field);
     void followTree();
     [[nodiscard]] NxField* keptField(NxFieldContainer* node) const;

@@ -1,5 +1,6 @@
 #include "orvane/app/scene/SceneTreePanel.h"
 
+#include "orvane/app/scene/NodeSelection.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 
 #include <QAction>
@@ -25,6 +26,8 @@ SceneTreePanel::SceneTreePanel(QWidget* parent)
     m_view->setObjectName(QStringLiteral("sceneTree"));
     m_view->setAccessibleName(tr("Scene"));
     m_view->setModel(m_model);
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_selection = new NodeSelection(m_view, m_model);
     m_view->setUniformRowHeights(true);
     m_view->setAlternatingRowColors(true);
     m_view->setFrameShape(QFrame::NoFrame);
@@ -38,15 +41,13 @@ SceneTreePanel::SceneTreePanel(QWidget* parent)
     m_view->setIndentation(indentation);
     m_view->header()->resizeSection(SceneTreeModel::NameColumn, fontMetrics().averageCharWidth() * 32);
     // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.
-    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-        [this] { Q_EMIT selectionChanged(selectedNode()); });
+    connect(m_selection, &NodeSelection::changed, this, [this] { Q_EMIT selectionChanged(selectedNode()); });
     setFocusProxy(m_view);
 }
 
 QModelIndex SceneTreePanel::selected() const
 {
-    const QModelIndexList selected = m_view->selectionModel()->selectedIndexes();
-    return selected.isEmpty() ? QModelIndex() : selected.front().siblingAtColumn(SceneTreeModel::NameColumn);
+    return m_selection->lastIndex();
 }
 
 NxNode* SceneTreePanel::selectedNode() const
@@ -68,10 +69,7 @@ void SceneTreePanel::select(const QModelIndex& index)
 
 void SceneTreePanel::setScene(NxGroup* scene)
 {
-    const bool hadSelection = selected().isValid();
     m_model->setScene(scene);
-    if (hadSelection)
-        Q_EMIT selectionChanged(nullptr); // a reset clears the selection without a signal
     if (m_model->rowCount() > mostUnfolded)
         return;
     for (int row = 0; row < m_model->rowCount(); ++row) {

@@ -5,6 +5,7 @@
 #include <QModelIndex>
 #include <QWidget>
 
+class NodeSelection;
 class QAction;
 class QTreeView;
 class SceneTreeModel;
@@ -19,10 +20,13 @@ public:
     [[nodiscard]] SceneTreeModel* model() const noexcept { return m_model; }
     [[nodiscard]] QTreeView* view() const noexcept { return m_view; }
 
-    /// The first cell of the row that is selected, or an invalid index.
+    /// All nodes that are selected.
+    [[nodiscard]] NodeSelection& selection() const noexcept { return *m_selection; }
+    /// The first cell of the row that was selected last, or an invalid index.
     [[nodiscard]] QModelIndex selected() const;
     [[nodiscard]] NxNode* selectedNode() const;
-    /// Selects the row of a node and scrolls to it; an invalid index selects nothing.
+    /// Selects the row of a node alone and scrolls to it, unless it is the one selected last; an invalid index selects
+    /// nothing.
     void select(const QModelIndex& index);
 
     /// Shows a scene with its first nodes unfolded; null for none.
@@ -33,10 +37,11 @@ public:
     void addNodeAction(QAction* action);
 
 Q_SIGNALS:
-    /// Another node is selected now, or none.
+    /// Other nodes are selected now, or none. The node is the one selected last, which may be the same as before.
     void selectionChanged(NxNode* node);
 
 private:
     SceneTreeModel* m_model;
     QTreeView* m_view;
+    NodeSelection* m_selection;
 };

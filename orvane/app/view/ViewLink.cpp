@@ -1,10 +1,12 @@
 #include "orvane/app/view/ViewLink.h"
 
+#include "orvane/app/scene/NodeSelection.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/view/SceneView.h"
 
+#include <QGuiApplication>
 #include <QLabel>
 #include <QStatusBar>
 
@@ -67,7 +69,11 @@ void ViewLink::showSelection()
 
 void ViewLink::choose(const std::vector<NxNode*>& nodes, const VbVec3d& point)
 {
-    m_tree->select(m_tree->model()->indexOfPath(nodes));
+    const QModelIndex index = m_tree->model()->indexOfPath(nodes);
+    if (QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier))
+        m_tree->selection().toggle(index);
+    else
+        m_tree->select(index);
     m_point->setText(tr("at %1, %2, %3").arg(coordinate(point[0]), coordinate(point[1]), coordinate(point[2])));
     m_point->show();
 }

@@ -6,6 +6,7 @@
 #include "orvane/app/fields/values/FieldWriteCommand.h"
 #include "orvane/app/fields/values/IgnoreCommand.h"
 #include "orvane/app/fields/values/Refusal.h"
+#include "orvane/extender/OrvCommand.h"
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/base/values/VbString.h"
@@ -98,7 +99,7 @@ orvane::Result<> FieldWriter::reset(const FieldSet& fields)
 orvane::Result<> FieldWriter::setIgnored(const FieldSet& fields, bool ignored)
 {
     end();
-    m_services.pushStep(new IgnoreCommand(fields, ignored), {});
+    push(std::make_unique<IgnoreCommand>(fields, ignored), {});
     Q_EMIT written(fields);
     return {};
 }
@@ -150,18 +151,26 @@ orvane::Result<> FieldWriter::write(const FieldSet& fields, Write write, const Q
     auto command = std::make_unique<FieldWriteCommand>(fields, std::move(write), done);
     if (isLive() && fields == m_live) {
         command->execute(); // `end` makes the step
-    } else if (end(); m_services.isUndoExact()) {
-        // The journal records what the command does, so that a write that fails leaves nothing in the history.
-        m_services.beginEdit(label);
-        command->execute();
-        m_services.endEdit();
     } else {
-        m_services.pushStep(command.release(), label);
+        end();
+        push(std::move(command), label);
     }
     if (!done)
         return orvane::Failure{tr("%1 can't be changed: the values don't fit in memory.").arg(fields.name())};
     Q_EMIT written(fields);
     return {};
+}
+
+void FieldWriter::push(std::unique_ptr<OrvCommand> command, const QString& label)
+{
+    if (!m_services.isUndoExact()) {
+        m_services.pushStep(command.release(), label);
+        return;
+    }
+    // The journal records what the command does, so that one that changes nothing leaves nothing in the history.
+    m_services.beginEdit(label);
+    command->execute();
+    m_services.endEdit();
 }
 
 orvane::Result<> FieldWriter::begin(const FieldSet& fields)

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+class OrvCommand;
 class OrvServices;
 
 namespace meridane {
@@ -81,6 +82,7 @@ private:
     /// `label` is empty for one that the history makes.
     orvane::Result<> write(const FieldSet& fields, Write write, const QString& label = {});
 
+    void push(std::unique_ptr<OrvCommand> command, const QString& label);
     void forgetLive();
 
     OrvServices& m_services;
