@@ -6,6 +6,7 @@
 #include "meridane/query/detail/CaseFolding.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/nodes/NxNode.h"
+#include "meridane/scene/nodes/NxUnknownNode.h"
 
 #include <algorithm>
 
@@ -37,8 +38,9 @@ ClassPattern::ClassPattern(std::string_view name)
 
 bool ClassPattern::matches(const NxNode& node) const
 {
-    // The name in the file of a node whose class isn't known.
-    return matches(node.getTypeId()) || matchesName(foldCase(node.getClassName()));
+    // A node whose class isn't known has the name that its file gave.
+    return matches(node.getTypeId())
+        || (node.isOfType(NxUnknownNode::getClassTypeId()) && matchesName(foldCase(node.getClassName())));
 }
 
 bool ClassPattern::matches(const NxField& field) const

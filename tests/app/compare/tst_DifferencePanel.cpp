@@ -105,11 +105,16 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("typed");
         QTest::addColumn<int>("expected");
-        QTest::newRow("path") << QStringLiteral("ARM") << 1;
+        QTest::newRow("part of a path") << QStringLiteral("ARM") << 1;
         QTest::newRow("field") << QStringLiteral("shin") << 1;
         QTest::newRow("kind") << QStringLiteral("removed") << 1;
         QTest::newRow("value") << QStringLiteral("1 2 4") << 1;
         QTest::newRow("several words") << QStringLiteral("false robot") << 1;
+        QTest::newRow("one of two") << QStringLiteral("shin or removed") << 2;
+        QTest::newRow("without a word") << QStringLiteral("robot not removed") << 3;
+        QTest::newRow("text with blanks") << QStringLiteral("\"1 2 4\"") << 1;
+        QTest::newRow("regular expression") << QStringLiteral("/arm.*trans/") << 1;
+        QTest::newRow("path") << QStringLiteral("/robot/arm") << 1;
         QTest::newRow("all") << QStringLiteral("robot") << 4;
         QTest::newRow("none") << QStringLiteral("wheel") << 0;
         QTest::newRow("blanks") << QStringLiteral("  ") << 4;

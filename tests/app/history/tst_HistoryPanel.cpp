@@ -230,6 +230,10 @@ private Q_SLOTS:
         QCOMPARE(model()->positionOf(0), 13);
         filter("moon");
         QCOMPARE(model()->rowCount(), 1);
+        filter("moon or leg");
+        QCOMPARE(model()->rowCount(), 2);
+        filter("hand not \"12\" not moon /sfint\\d+/");
+        QCOMPARE(model()->rowCount(), 11);
         filter("rename leg");
         QCOMPARE(model()->positionOf(0), 14);
         QCOMPARE(model()->rowOf(14), 0);
