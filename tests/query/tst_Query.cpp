@@ -332,6 +332,7 @@ private Q_SLOTS:
         const Query query = parsed("\"a \\\"b\\\" \\\\c\"", Query::Subject::Rows);
         QVERIFY(query.matchesText("x a \"B\" \\c"));
         QVERIFY(!query.matchesText("a b c"));
+        QVERIFY(parsed("/a.b/", Query::Subject::Rows).matchesText("A\nB"));
         QVERIFY(parsed("/a\\/b/", Query::Subject::Rows).matchesText("A/B"));
     }
 };

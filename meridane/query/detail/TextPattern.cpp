@@ -79,6 +79,7 @@ TextPattern TextPattern::regularExpression(std::string_view expression)
     re2::RE2::Options options;
     options.set_case_sensitive(false);
     options.set_log_errors(false);
+    options.set_dot_nl(true); // the cells of a row are lines of one text
     options.set_max_mem(mostMemory);
     TextPattern pattern;
     auto compiled = std::make_shared<const re2::RE2>(re2::StringPiece(expression.data(), expression.size()), options);
