@@ -2,6 +2,7 @@
 
 #include "orvane/import/conversion/ModelFiles.h"
 #include "orvane/import/conversion/SceneBuilder.h"
+#include "orvane/import/mending/GltfMending.h"
 #include "orvane/import/mending/ModelMending.h"
 #include "orvane/import/mending/ObjMending.h"
 #include "orvane/import/mending/PivotFolding.h"
@@ -48,6 +49,17 @@ bool isForBadIndex(const Assimp::Importer& importer)
 {
     const std::string_view text = importer.GetErrorString();
     return text.starts_with("OBJ: ") && text.find("index") != std::string_view::npos;
+}
+
+// The name of a mesh for which the reader of glTF gives up; empty for any other reason.
+std::string emptyMeshOf(const Assimp::Importer& importer)
+{
+    const std::string_view text = importer.GetErrorString();
+    constexpr std::string_view start = "Mesh \"";
+    constexpr std::string_view end = "\" has no faces";
+    if (!text.starts_with(start) || !text.ends_with(end))
+        return {};
+    return std::string(text.substr(start.size(), text.size() - start.size() - end.size()));
 }
 
 // Where no reader knows the content, the message of the library only repeats the path. Where one reader only takes the
@@ -101,19 +113,33 @@ NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
     return scene;
 }
 
-// Some readers refuse a whole file for one bad index.
+// Some readers refuse a whole file for one bad index or one empty mesh.
 const aiScene* ModelReader::readFile(const std::string& path, ModelFiles& files)
 {
-    const aiScene* const model = m_importer->ReadFile(path, 0);
-    if (model != nullptr || !isForBadIndex(*m_importer))
+    const aiScene* model = m_importer->ReadFile(path, 0);
+    if (model != nullptr)
         return model;
-    std::string text;
+    std::string content;
     meridane::FileReader reader;
     bool atEnd = false;
-    if (reader.open(path) || reader.read(text, reader.size(), atEnd))
+    if (reader.open(path) || reader.read(content, reader.size(), atEnd))
         return nullptr;
-    files.replaceModel(withoutUnusableFaces(text, m_warnings));
-    return m_importer->ReadFile(path, 0);
+    if (isForBadIndex(*m_importer)) {
+        files.replaceModel(withoutUnusableFaces(content, m_warnings));
+        return m_importer->ReadFile(path, 0);
+    }
+    // Meshes whose indices are all unusable are found one after the other.
+    constexpr int mostAttempts = 16;
+    for (int attempt = 0; model == nullptr && attempt < mostAttempts; ++attempt) {
+        const std::string empty = emptyMeshOf(*m_importer);
+        std::optional<std::string> mended = withoutUnusableParts(content, empty, m_warnings);
+        if (!mended)
+            break;
+        content = *mended;
+        files.replaceModel(std::move(*mended));
+        model = m_importer->ReadFile(path, 0);
+    }
+    return model;
 }
 
 // The library's own check refuses a whole model for one bad part.

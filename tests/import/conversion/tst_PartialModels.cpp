@@ -1,3 +1,4 @@
+#include "import/Gltf.h"
 #include "import/conversion/ReadModels.h"
 
 #include "orvane/import/mending/ObjMending.h"
@@ -16,6 +17,23 @@ QByteArray ply(const QByteArray& faces, int count)
            "element face "
         + QByteArray::number(count)
         + "\nproperty list uchar int vertex_indices\nend_header\n0 0 0\n1 0 0\n0 1 0\n1 1 0\n" + faces;
+}
+
+/// A model in glTF as a binary file.
+QByteArray binary(QByteArray text)
+{
+    const qsizetype uri = text.indexOf(", \"uri\"");
+    const qsizetype data = text.indexOf("base64,", uri) + 7;
+    const qsizetype end = text.indexOf('"', data);
+    const QByteArray buffer = QByteArray::fromBase64(text.mid(data, end - data));
+    text.remove(uri, end + 1 - uri);
+    text.append((4 - text.size() % 4) % 4, ' ');
+    const auto word = [](qsizetype number) {
+        const auto value = static_cast<quint32>(number);
+        return QByteArray(reinterpret_cast<const char*>(&value), sizeof value);
+    };
+    return "glTF" + word(2) + word(28 + text.size() + buffer.size()) + word(text.size()) + "JSON" + text
+        + word(buffer.size()) + QByteArray("BIN\0", 4) + buffer;
 }
 
 } // namespace
@@ -40,6 +58,38 @@ private Q_SLOTS:
         QTest::newRow("an index before the beginning")
             << QByteArray("model.obj") << triangle + "o good\nf -3 -2 -1\nf -1 -2 -9\n"
             << 3 << faces + QStringLiteral("\"good\"");
+        const QByteArray twoNodes = R"("scenes": [{"nodes": [0, 1]}], )";
+        const auto mesh = [](const char* primitive) {
+            QByteArray model = gltf::model(
+                R"({"name": "a", "mesh": 0}, {"name": "b", "mesh": 1})", R"("scenes": [{"nodes": [0, 1]}], )");
+            return model.replace("\"indices\": 1}]}]",
+                QByteArray("\"indices\": 1}]}, {\"name\": \"bad\", \"primitives\": [") + primitive + "]}]");
+        };
+        const QString empty = QStringLiteral("left out meshes without anything to draw in the nodes: \"b\"");
+        QTest::newRow("a glTF mesh without positions")
+            << QByteArray("model.gltf") << mesh(R"({"attributes": {}})") << 3 << empty;
+        QTest::newRow("a glTF mesh of missing numbers")
+            << QByteArray("model.gltf") << mesh(R"({"attributes": {"POSITION": 9}})") << 3 << empty;
+        QTest::newRow("glTF indices that are positions")
+            << QByteArray("model.gltf") << mesh(R"({"attributes": {"POSITION": 0}, "indices": 8})") << 3 << empty;
+        QTest::newRow("a glTF node of a missing mesh")
+            << QByteArray("model.gltf")
+            << gltf::model(R"({"name": "a", "mesh": 0}, {"name": "b", "mesh": 7})", twoNodes) << 3 << empty;
+        QTest::newRow("a missing glTF node")
+            << QByteArray("model.gltf")
+            << gltf::model(R"({"name": "a", "mesh": 0, "children": [5]}, {"name": "b"})", twoNodes) << 3
+            << QStringLiteral("left out nodes that don't exist in the nodes: \"a\"");
+        QTest::newRow("a missing glTF material")
+            << QByteArray("model.gltf")
+            << gltf::model(R"({"name": "a", "mesh": 0}, {"name": "b"})", twoNodes, R"(, "material": 3)") << 3
+            << QStringLiteral("left out materials that don't exist in the meshes: \"triangle\"");
+        QTest::newRow("a binary glTF mesh without positions")
+            << QByteArray("model.glb") << binary(mesh(R"({"attributes": {}})")) << 3 << empty;
+        QByteArray badIndices = mesh(R"({"attributes": {"POSITION": 0}, "indices": 2})");
+        badIndices.replace("\"type\": \"SCALAR\"}]",
+            "\"type\": \"SCALAR\"}, {\"bufferView\": 0, \"byteOffset\": 12, \"componentType\": 5125, \"count\": 3, "
+            "\"type\": \"SCALAR\"}]");
+        QTest::newRow("glTF indices out of range alone") << QByteArray("model.gltf") << badIndices << 3 << empty;
         QTest::newRow("an empty mesh") << QByteArray("model.stl")
                                        << QByteArray("solid empty\nendsolid empty\nsolid good\nfacet normal 0 0 1\n"
                                                      "outer loop\nvertex 0 0 0\nvertex 1 0 0\nvertex 0 1 0\n"
