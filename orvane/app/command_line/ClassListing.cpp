@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/NearNames.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/fields/values/FactsText.h"
 #include "orvane/app/fields/values/FieldText.h"
 
@@ -10,7 +11,6 @@
 #include "meridane/scene/fields/NxField.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
 
@@ -109,7 +109,7 @@ QJsonObject jsonField(const NxFieldData& data, int index)
         {QStringLiteral("isFile"), facts.isFile}};
 }
 
-QByteArray jsonClass(NxNode& node)
+QString jsonClass(NxNode& node)
 {
     const NxFieldData& data = *node.getFieldData();
     QJsonArray fields;
@@ -118,7 +118,7 @@ QByteArray jsonClass(NxNode& node)
     const QJsonObject object{{QStringLiteral("name"), nameOf(node.getTypeId())},
         {QStringLiteral("bases"), QJsonArray::fromStringList(basesOf(node.getTypeId()))},
         {QStringLiteral("description"), textOf(data.getDescription())}, {QStringLiteral("fields"), fields}};
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+    return orvane::jsonLine(object);
 }
 
 /// The classes whose instances can be made, by name.
@@ -171,7 +171,7 @@ void ClassListing::printJson(QTextStream& output) const
     output << R"({"version":1,"classes":[)";
     const char* separator = "\n";
     for (const NxRef<NxNode>& node : m_nodes) {
-        output << separator << QString::fromUtf8(jsonClass(*node));
+        output << separator << jsonClass(*node);
         separator = ",\n";
     }
     output << "\n]}\n";

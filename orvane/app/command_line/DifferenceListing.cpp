@@ -1,12 +1,12 @@
 #include "orvane/app/command_line/DifferenceListing.h"
 
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/compare/DifferenceText.h"
 #include "orvane/app/fields/values/FieldText.h"
 
 #include "meridane/scene/fields/NxField.h"
 
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
 
@@ -65,11 +65,6 @@ QJsonObject jsonObject(const NxSceneDifferences& differences, const NxSceneDiffe
     return object;
 }
 
-QString compact(const QJsonObject& object)
-{
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
 } // namespace
 
 void DifferenceListing::print() const
@@ -86,12 +81,12 @@ void DifferenceListing::printJson(const QString& oldFile, const QString& newFile
     const QJsonObject head{{QStringLiteral("version"), 1}, {QStringLiteral("old"), oldFile},
         {QStringLiteral("new"), newFile}, {QStringLiteral("equal"), m_differences.list().empty()},
         {QStringLiteral("counts"), countKinds(m_differences)}};
-    m_output << compact(head).chopped(1) << QStringLiteral(",\"differences\":[");
+    m_output << orvane::jsonLine(head).chopped(1) << QStringLiteral(",\"differences\":[");
     const char* separator = "\n";
     for (const NxSceneDifference& difference : m_differences.list()) {
         if (m_output.status() != QTextStream::Ok)
             return;
-        m_output << separator << compact(jsonObject(m_differences, difference));
+        m_output << separator << orvane::jsonLine(jsonObject(m_differences, difference));
         separator = ",\n";
     }
     m_output << QStringLiteral("\n]}\n");

@@ -1,13 +1,13 @@
 #include "orvane/app/command_line/ProblemListing.h"
 
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/command_line/StandardOutput.h"
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/check/NxSceneCheck.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/file/NxScenePathNamer.h"
 
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QTextStream>
 
@@ -40,11 +40,6 @@ private:
     const NxGroup& m_scene;
     NxScenePathNamer m_namer;
 };
-
-QString compact(const QJsonObject& object)
-{
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
 
 QJsonObject jsonObject(const NxSceneProblem& problem, const QString& path)
 {
@@ -84,11 +79,11 @@ void ProblemListing::printJson(const QString& file) const
     const QJsonObject head{{QStringLiteral("version"), 1}, {QStringLiteral("file"), file},
         {QStringLiteral("errors"), count(NxSeverity::Error)}, {QStringLiteral("warnings"), count(NxSeverity::Warning)},
         {QStringLiteral("information"), count(NxSeverity::Information)}};
-    m_output << compact(head).chopped(1) << QStringLiteral(",\"problems\":[");
+    m_output << orvane::jsonLine(head).chopped(1) << QStringLiteral(",\"problems\":[");
     const char* separator = "\n";
     Paths paths(m_scene);
     m_check.reportAll([&](const NxSceneProblem& problem, std::span<const int> places) {
-        m_output << separator << compact(jsonObject(problem, paths.of(places, nullptr)));
+        m_output << separator << orvane::jsonLine(jsonObject(problem, paths.of(places, nullptr)));
         separator = ",\n";
         return m_output.status() == QTextStream::Ok;
     });

@@ -2,6 +2,9 @@
 
 #include "orvane/app/base/PlainText.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <cstdio>
 
 namespace orvane {
@@ -17,6 +20,11 @@ Result<> StandardOutput::finish()
     if (m_stream.status() == QTextStream::Ok && std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
         return {};
     return Failure{QStringLiteral("standard output: %1").arg(qt_error_string())};
+}
+
+QString jsonLine(const QJsonObject& object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
 void printError(const QString& message)

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QTextStream>
 
+class QJsonObject;
+
 namespace orvane {
 
 /// Standard output, buffered.
@@ -19,6 +21,9 @@ public:
 private:
     QTextStream m_stream;
 };
+
+/// An object as JSON without line ends.
+[[nodiscard]] QString jsonLine(const QJsonObject& object);
 
 /// Writes a message to standard error as one line, whatever is in it.
 void printError(const QString& message);

@@ -115,7 +115,7 @@ QColor washColor(Tint tint, const QColor& background)
 
 QColor mixed(const QColor& from, const QColor& to, double part)
 {
-    const auto mix = [part](float left, float right) { return static_cast<float>(left * (1 - part) + right * part); };
+    const auto mix = [part](double left, double right) { return static_cast<float>(left * (1 - part) + right * part); };
     return QColor::fromRgbF(
         mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()), mix(from.blueF(), to.blueF()));
 }
