@@ -21,6 +21,10 @@ LineCover::LineCover(const EditorLine& target, OrvServices& services, const QStr
 {
     m_input->setObjectName(QStringLiteral("numberCover"));
     m_input->setAccessibleName(tr("Number or formula"));
+    m_input->setToolTip(
+        tr("Takes %1, or a formula in which x is the present value. Up and Down step, with Shift ten times "
+           "as far, with Ctrl a tenth.")
+            .arg(target.limits().description()));
     m_input->setFrame(m_line->hasFrame());
     m_input->setGeometry(m_line->rect());
     m_input->setLimits(target.limits());

@@ -250,6 +250,21 @@ private Q_SLOTS:
         QApplication::clipboard()->clear();
     }
 
+    void aHugePasteChangesNothing()
+    {
+        select("sfFloat");
+        QLineEdit* const line = lines().front();
+        const QString shown = line->text();
+        enter(line);
+        QApplication::clipboard()->setText(QString(1'000'000, u'('));
+        press(Qt::Key_V, Qt::ControlModifier);
+        QVERIFY(message().contains(QStringLiteral("4096")));
+        QCOMPARE(cover(), nullptr);
+        QCOMPARE(line->text(), shown);
+        QCOMPARE(value("sfFloat"), QStringLiteral("42.5"));
+        QApplication::clipboard()->clear();
+    }
+
     void otherComponentsKeepAllTheirDigits()
     {
         field("sfVec3f")->set("0.33333334 0.1234567 2");
