@@ -276,17 +276,20 @@ bool ProblemPanel::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-// The rest is the last column's.
 void ProblemPanel::sizeColumns()
 {
-    constexpr double shareOfSentence = 0.52;
-    constexpr double shareOfPlace = 0.3;
+    constexpr std::array shares{0.52, 0.3};
     constexpr int leastCharacters = 16;
     const QScopedValueRollback sizing(m_sizingColumns, true);
     const int least = leastCharacters * fontMetrics().averageCharWidth();
-    const int width = m_view->viewport()->width();
-    m_view->setColumnWidth(ProblemModel::SentenceColumn, std::max(least, static_cast<int>(shareOfSentence * width)));
-    m_view->setColumnWidth(ProblemModel::PlaceColumn, std::max(least, static_cast<int>(shareOfPlace * width)));
+    int left = m_view->viewport()->width();
+    for (std::size_t column = 0; column < shares.size(); ++column) {
+        const int width = std::max(least, static_cast<int>(shares.at(column) * m_view->viewport()->width()));
+        m_view->setColumnWidth(static_cast<int>(column), width);
+        left -= width;
+    }
+    // The header widens it, but doesn't make it narrower.
+    m_view->setColumnWidth(ProblemModel::IdentifierColumn, left);
 }
 
 void ProblemPanel::choose(int row)

@@ -178,6 +178,22 @@ private Q_SLOTS:
         QTRY_COMPARE(model()->rowCount(), 4);
     }
 
+    void withoutExactUndoTheMendTakesItselfBack()
+    {
+        qputenv("ORVANE_UNDO", "commands");
+        openBroken();
+        const QString before = sceneText();
+        QVERIFY(!m_session->services().isUndoExact());
+        clickProblem("index-out-of-range", "/robot/arm.indices");
+        QTRY_VERIFY(button("mendKind")->isEnabled());
+        click("mendKind");
+        QTRY_COMPARE(model()->rowCount(), 3);
+        m_session->services().undo();
+        QCOMPARE(sceneText(), before);
+        QTRY_COMPARE(model()->rowCount(), 5);
+        qunsetenv("ORVANE_UNDO");
+    }
+
     void allOfAKindAreOneStep()
     {
         openBroken();
