@@ -46,9 +46,12 @@ void reportLongestSlice(const char* name, const std::string& text)
     NxSceneCheck check(scene);
     double longest = 0;
     bool goesOn = true;
-    while (goesOn)
-        longest
-            = std::max(longest, bench::seconds([&] { goesOn = check.step(slice) == NxSceneCheck::State::Working; }));
+    while (goesOn) {
+        // The time of this process alone, since other programs may run between two looks at the clock.
+        const double begin = bench::processorTime();
+        goesOn = check.step(slice) == NxSceneCheck::State::Working;
+        longest = std::max(longest, bench::processorTime() - begin);
+    }
     std::printf("longest slice of 8 ms, %s: %.1f ms\n", name, 1000 * longest);
 }
 

@@ -34,7 +34,9 @@ void NodeCheck::stop() noexcept
     m_component = 0;
     m_row = 0;
     m_findings = {};
-    m_mesh = {};
+    if (m_plan != nullptr && m_plan->role == ClassPlan::Role::Mesh)
+        m_mesh = {};
+    m_plan = nullptr;
     m_problems.clear();
     m_awaitsFile = false;
 }
@@ -78,7 +80,8 @@ bool NodeCheck::checkNumbers(WorkMeter& meter)
             continue;
         if (!checkField(numbers, field, meter))
             return false;
-        reportNumbers(numbers, field);
+        if (m_findings.notFinite + m_findings.outOfRange > 0)
+            reportNumbers(numbers, field);
         m_component = 0;
         m_row = 0;
         m_findings = {};
@@ -86,28 +89,39 @@ bool NodeCheck::checkNumbers(WorkMeter& meter)
     return true;
 }
 
+void NodeCheck::checkNumber(const ClassPlan::Numbers& numbers, int row, double value)
+{
+    if (!std::isfinite(value)) {
+        ++m_findings.notFinite;
+        if (m_findings.firstNotFinite < 0 || row < m_findings.firstNotFinite)
+            m_findings.firstNotFinite = row;
+    } else if (numbers.hasRange && !numbers.range.contains(m_component, value)) {
+        ++m_findings.outOfRange;
+        if (m_findings.firstOutOfRange < 0 || row < m_findings.firstOutOfRange)
+            m_findings.firstOutOfRange = row;
+    }
+}
+
 bool NodeCheck::checkField(const ClassPlan::Numbers& numbers, NxField& field, WorkMeter& meter)
 {
-    std::array<double, listRowsAtOnce> values{};
+    const int components = numbers.components->count();
+    if (!numbers.isList) {
+        for (m_component = 0; m_component < components; ++m_component)
+            checkNumber(numbers, 0, numbers.components->get(field, 0, m_component));
+        meter.count(static_cast<std::size_t>(components));
+        return true;
+    }
+    std::array<double, listRowsAtOnce>
+        values; // NOLINT(cppcoreguidelines-pro-type-member-init): written before it is read
     const int rows = numbers.components->rows(field);
-    for (; m_component < numbers.components->count(); ++m_component) {
+    for (; m_component < components; ++m_component) {
         while (m_row < rows) {
             if (meter.isSpent())
                 return false;
             const std::size_t count = std::min(listRowsAtOnce, static_cast<std::size_t>(rows - m_row));
             numbers.components->read(field, m_row, m_component, std::span(values).first(count));
-            for (std::size_t i = 0; i < count; ++i) {
-                const int row = m_row + static_cast<int>(i);
-                if (!std::isfinite(values[i])) {
-                    ++m_findings.notFinite;
-                    if (m_findings.firstNotFinite < 0 || row < m_findings.firstNotFinite)
-                        m_findings.firstNotFinite = row;
-                } else if (numbers.hasRange && !numbers.range.contains(m_component, values[i])) {
-                    ++m_findings.outOfRange;
-                    if (m_findings.firstOutOfRange < 0 || row < m_findings.firstOutOfRange)
-                        m_findings.firstOutOfRange = row;
-                }
-            }
+            for (std::size_t i = 0; i < count; ++i)
+                checkNumber(numbers, m_row + static_cast<int>(i), values[i]);
             m_row += static_cast<int>(count);
             meter.count(2 * count + 8);
         }
@@ -162,6 +176,8 @@ void NodeCheck::checkFiles()
 
 void NodeCheck::checkByClass()
 {
+    if (!hasFindings(m_plan->role))
+        return;
     const auto found = [this](NxProblemKind kind, NxField* field) -> NxSceneProblem& { return report(kind, field); };
     findByClass(*m_node, m_plan->role, m_options, found);
 }

@@ -44,6 +44,7 @@ private:
 
     bool checkNumbers(WorkMeter& meter);
     bool checkField(const ClassPlan::Numbers& numbers, NxField& field, WorkMeter& meter);
+    void checkNumber(const ClassPlan::Numbers& numbers, int row, double value);
     void reportNumbers(const ClassPlan::Numbers& numbers, NxField& field);
     void checkFiles();
     void checkByClass();

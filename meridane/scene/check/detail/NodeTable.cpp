@@ -1,45 +1,66 @@
 #include "meridane/scene/check/detail/NodeTable.h"
 
 #include <bit>
-#include <utility>
 
 namespace meridane {
+namespace {
 
-std::uint64_t NodeTable::hashOf(const NxNode* node) noexcept
+constexpr unsigned int regionBits = 16;
+
+std::uintptr_t keyOf(const NxNode* node) noexcept
 {
-    // Fibonacci hashing: the upper bits depend on all bits of the address.
-    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15U;
-    return std::bit_cast<std::uintptr_t>(node) * factor;
+    return std::bit_cast<std::uintptr_t>(node) >> regionBits;
 }
 
-// The slot of the node, or the free one where it belongs. The shard has a free slot.
-std::size_t NodeTable::Shard::indexOf(const NxNode* node, std::uint64_t hash) const noexcept
+} // namespace
+
+// In proportion to the place of the node in the region.
+std::size_t NodeTable::Region::homeOf(const NxNode* node) const noexcept
+{
+    constexpr std::uintptr_t mask = (std::uintptr_t{1} << regionBits) - 1;
+    return ((std::bit_cast<std::uintptr_t>(node) & mask) * slots.size()) >> regionBits;
+}
+
+// The slot of the node, or the free one where it belongs. The region has a free slot.
+std::size_t NodeTable::Region::indexOf(const NxNode* node) const noexcept
 {
     const std::size_t mask = slots.size() - 1;
-    std::size_t index = (hash >> 32U) & mask;
+    std::size_t index = homeOf(node);
     while (slots[index].node != nullptr && slots[index].node != node)
         index = (index + 1) & mask;
     return index;
 }
 
-void NodeTable::Shard::grow()
+void NodeTable::Region::grow()
 {
-    constexpr std::size_t firstSlots = 16;
+    constexpr std::size_t firstSlots = 8;
     std::vector<Entry> old(slots.empty() ? firstSlots : 2 * slots.size());
     old.swap(slots);
     for (const Entry& entry : old) {
         if (entry.node != nullptr)
-            slots[indexOf(entry.node, hashOf(entry.node))] = entry;
+            slots[indexOf(entry.node)] = entry;
     }
+}
+
+NodeTable::Region* NodeTable::regionOf(const NxNode* node) noexcept
+{
+    const std::uintptr_t key = keyOf(node);
+    if (m_latest != nullptr && key == m_latestKey)
+        return m_latest;
+    const auto found = m_regions.find(key);
+    if (found == m_regions.end())
+        return nullptr;
+    m_latestKey = key;
+    m_latest = &found->second;
+    return m_latest;
 }
 
 NodeTable::Entry* NodeTable::find(const NxNode* node) noexcept
 {
-    const std::uint64_t hash = hashOf(node);
-    Shard& shard = shardOf(hash);
-    if (shard.used == 0)
+    Region* const region = regionOf(node);
+    if (region == nullptr || region->used == 0)
         return nullptr;
-    Entry& entry = shard.slots[shard.indexOf(node, hash)];
+    Entry& entry = region->slots[region->indexOf(node)];
     return entry.node == nullptr ? nullptr : &entry;
 }
 
@@ -50,14 +71,15 @@ const NodeTable::Entry* NodeTable::find(const NxNode* node) const noexcept
 
 NodeTable::Entry& NodeTable::insert(const NxNode* node)
 {
-    const std::uint64_t hash = hashOf(node);
-    Shard& shard = shardOf(hash);
-    if (4 * (shard.used + 1) > 3 * shard.slots.size())
-        shard.grow();
-    Entry& entry = shard.slots[shard.indexOf(node, hash)];
+    Region* region = regionOf(node);
+    if (region == nullptr) // elements of the map stay where they are
+        region = &m_regions[keyOf(node)];
+    if (2 * (region->used + 1) > region->slots.size())
+        region->grow();
+    Entry& entry = region->slots[region->indexOf(node)];
     if (entry.node == nullptr) {
         entry.node = node;
-        ++shard.used;
+        ++region->used;
         ++m_size;
     }
     return entry;
@@ -65,24 +87,24 @@ NodeTable::Entry& NodeTable::insert(const NxNode* node)
 
 void NodeTable::remove(const NxNode* node) noexcept
 {
-    const std::uint64_t hash = hashOf(node);
-    Shard& shard = shardOf(hash);
-    if (shard.used == 0)
+    Region* const region = regionOf(node);
+    if (region == nullptr || region->used == 0)
         return;
-    std::size_t hole = shard.indexOf(node, hash);
-    if (shard.slots[hole].node == nullptr)
+    std::vector<Entry>& slots = region->slots;
+    std::size_t hole = region->indexOf(node);
+    if (slots[hole].node == nullptr)
         return;
     // Moves the entries behind it forward that would otherwise not be found.
-    const std::size_t mask = shard.slots.size() - 1;
-    for (std::size_t next = (hole + 1) & mask; shard.slots[next].node != nullptr; next = (next + 1) & mask) {
-        const std::size_t wanted = (hashOf(shard.slots[next].node) >> 32U) & mask;
+    const std::size_t mask = slots.size() - 1;
+    for (std::size_t next = (hole + 1) & mask; slots[next].node != nullptr; next = (next + 1) & mask) {
+        const std::size_t wanted = region->homeOf(slots[next].node);
         if (((next - wanted) & mask) >= ((next - hole) & mask)) {
-            shard.slots[hole] = shard.slots[next];
+            slots[hole] = slots[next];
             hole = next;
         }
     }
-    shard.slots[hole] = {};
-    --shard.used;
+    slots[hole] = {};
+    --region->used;
     --m_size;
 }
 

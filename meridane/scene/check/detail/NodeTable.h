@@ -1,16 +1,17 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <unordered_map>
 #include <vector>
 
 class NxNode;
 
 namespace meridane {
 
-/// Entries for the nodes of a scene by their addresses. It is divided into many small tables, so that no insertion has
-/// to move more than a few thousand entries, however many there are.
+/// Entries for the nodes of a scene by their addresses. It is divided by regions of the memory, so that no insertion
+/// has to move more than a few thousand entries. Within a region the entries are in the order of the addresses as far
+/// as they have no holes, since nodes that were made one after the other are mostly looked for one after the other.
 class NodeTable {
 public:
     static constexpr std::uint32_t none = UINT32_MAX;
@@ -32,21 +33,21 @@ public:
     [[nodiscard]] std::size_t size() const noexcept { return m_size; }
 
 private:
-    /// Linear probing; the number of slots is a power of two, of which at most three quarters are used.
-    struct Shard {
+    /// Linear probing; at most half of the slots are used.
+    struct Region {
         std::vector<Entry> slots;
         std::size_t used = 0;
 
-        [[nodiscard]] std::size_t indexOf(const NxNode* node, std::uint64_t hash) const noexcept;
+        [[nodiscard]] std::size_t homeOf(const NxNode* node) const noexcept;
+        [[nodiscard]] std::size_t indexOf(const NxNode* node) const noexcept;
         void grow();
     };
 
-    static constexpr std::size_t shardCount = 1024;
+    [[nodiscard]] Region* regionOf(const NxNode* node) noexcept;
 
-    [[nodiscard]] static std::uint64_t hashOf(const NxNode* node) noexcept;
-    [[nodiscard]] Shard& shardOf(std::uint64_t hash) noexcept { return m_shards[hash >> 54U]; }
-
-    std::array<Shard, shardCount> m_shards;
+    std::unordered_map<std::uintptr_t, Region> m_regions; // by the upper bits of the addresses
+    std::uintptr_t m_latestKey = 0;
+    Region* m_latest = nullptr;
     std::size_t m_size = 0;
 };
 

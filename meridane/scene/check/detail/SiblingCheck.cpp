@@ -26,7 +26,6 @@ void SiblingCheck::start(NxGroup& group, Role role)
     // Which of its children a switch shows may change at any time, and nobody knows what an unknown class does.
     m_isSwitch = role == Role::Switch || role == Role::UnknownGroup;
     m_usesAll = role == Role::UnknownGroup;
-    m_names.resize(group.getChildren().size() / namesInTable + 1);
 }
 
 void SiblingCheck::stop() noexcept
@@ -42,7 +41,8 @@ void SiblingCheck::stop() noexcept
         m_trash.swap(m_names);
     m_names.clear();
     m_reportedNames = 0;
-    m_reported = {};
+    if (std::exchange(m_hasReports, false))
+        m_reported = {};
     m_problems.clear();
 }
 
@@ -95,6 +95,8 @@ void SiblingCheck::noteName(NxNode& child)
     const std::string_view name = child.getName().view();
     if (name.empty())
         return;
+    if (m_names.empty())
+        m_names.resize(m_group->getChildren().size() / namesInTable + 1);
     Namesakes& namesakes = m_names[std::hash<std::string_view>()(name) % m_names.size()][name];
     if (namesakes.count == 0)
         namesakes.first = &child;
@@ -132,6 +134,7 @@ void SiblingCheck::reportUnused(const Waiting& waiting, NxProblemKind kind)
 void SiblingCheck::report(NxProblemKind kind, int place, std::size_t count, std::string_view name)
 {
     constexpr std::size_t maxBytes = 60;
+    m_hasReports = true;
     Reported& reported = m_reported[static_cast<std::size_t>(kind)];
     if (reported.count == maxReports) {
         reported.more.push_back(place);
@@ -176,7 +179,7 @@ bool SiblingCheck::reportNames(WorkMeter& meter)
 
 void SiblingCheck::reportMore()
 {
-    for (std::size_t kind = 0; kind < m_reported.size(); ++kind) {
+    for (std::size_t kind = 0; m_hasReports && kind < m_reported.size(); ++kind) {
         std::vector<int>& more = m_reported[kind].more;
         if (more.empty())
             continue;

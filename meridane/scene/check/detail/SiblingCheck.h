@@ -96,6 +96,7 @@ private:
     std::size_t m_reportedNames = 0; // tables of them
     std::vector<Names> m_trash; // tables of groups that weren't finished
     std::array<Reported, problemKindCount> m_reported;
+    bool m_hasReports = false;
     std::vector<NxSceneProblem> m_problems;
 };
 
