@@ -52,7 +52,7 @@ public:
     [[nodiscard]] NxType getTypeId() const override
     {
         static const NxType type = NxType::registerClass(
-            "WideNode", NxNode::getClassTypeId(), [] { return static_cast<void*>(new WideNode); });
+            "WideNode", NxNode::getClassTypeId(), []() -> NxTypedObject* { return new WideNode; });
         return type;
     }
     [[nodiscard]] NxFieldData* getFieldData() override
@@ -205,6 +205,7 @@ std::shared_ptr<const FieldSet::Nodes> manyLights(int count)
 
 int main(int argc, char** argv)
 {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     TableRun run;
     const std::array<NxRef<NxNode>, 2> galleries{new NxFieldGallery, new NxFieldGallery};

@@ -11,7 +11,7 @@
 
 namespace {
 
-QString tr(const char* text)
+QString fieldGroupText(const char* text)
 {
     return QCoreApplication::translate("FieldGroup", text);
 }
@@ -79,9 +79,11 @@ std::vector<std::unique_ptr<FieldGroup>> fieldGroups(
     NxType latestType;
     for (const auto& row : rows) {
         if (row->fields().isEmpty()) {
-            group(FieldGroup::Kind::Unknown, tr("Unknown fields"), QStringLiteral("?")).rows.push_back(row.get());
+            group(FieldGroup::Kind::Unknown, fieldGroupText("Unknown fields"), QStringLiteral("?"))
+                .rows.push_back(row.get());
         } else if (!favorites.isEmpty() && favorites.contains(favoriteKey(*row))) {
-            group(FieldGroup::Kind::Favorites, tr("Favorites"), QStringLiteral("*")).rows.push_back(row.get());
+            group(FieldGroup::Kind::Favorites, fieldGroupText("Favorites"), QStringLiteral("*"))
+                .rows.push_back(row.get());
         } else {
             if (latest == nullptr || row->declaringType() != latestType) {
                 latestType = row->declaringType();

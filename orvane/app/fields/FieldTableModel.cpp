@@ -3,14 +3,44 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldFilter.h"
 #include "orvane/app/fields/FieldToolTip.h"
+#include "orvane/app/look/Look.h"
 
 #include "meridane/scene/fields/NxField.h"
 
+#include <QColor>
 #include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QStringList>
 
 #include <algorithm>
+
+namespace {
+
+QColor quietColor()
+{
+    const QPalette palette = QGuiApplication::palette();
+    return orvane::look::quietColor(palette.color(QPalette::Text), palette.color(QPalette::Base));
+}
+
+/// What the marks and a dash say to who can't see them; nothing for what is text already.
+QVariant accessibleText(const FieldRow& row, const FieldGroup& group, int column)
+{
+    if (column == FieldTableModel::ValueColumn && row.isMixed())
+        return FieldTableModel::tr("mixed");
+    if (column != FieldTableModel::MarkColumn)
+        return {};
+    QStringList marks;
+    if (row.isChanged())
+        marks += FieldTableModel::tr("changed");
+    if (row.isIgnored())
+        marks += FieldTableModel::tr("ignored");
+    if (group.kind == FieldGroup::Kind::Favorites)
+        marks += FieldTableModel::tr("favorite");
+    return marks.join(QStringLiteral(", "));
+}
+
+} // namespace
 
 struct FieldTableModel::Watch {
     Watch(FieldTableModel* owner, NxField* field, std::size_t row)
@@ -292,10 +322,12 @@ QVariant FieldTableModel::rowData(const FieldRow& row, const FieldGroup& group, 
     case Qt::ForegroundRole:
         if (row.isIgnored() || row.fields().isEmpty() || column == TypeColumn
             || (column == ValueColumn && row.isMixed()))
-            return QGuiApplication::palette().color(QPalette::PlaceholderText);
+            return quietColor();
         return {};
     case Qt::ToolTipRole:
         return orvane::fieldToolTip(row);
+    case Qt::AccessibleTextRole:
+        return accessibleText(row, group, column);
     case FieldRoles::FieldSetRole:
         return QVariant::fromValue(row.fields().isEmpty() ? nullptr : &row.fields());
     case FieldRoles::MixedRole:

@@ -18,7 +18,7 @@ namespace {
 
 constexpr qsizetype valueCharacters = 200;
 
-QString tr(const char* text)
+QString fieldToolTipText(const char* text)
 {
     return QCoreApplication::translate("FieldToolTip", text);
 }
@@ -28,9 +28,9 @@ QStringList factLines(const NxField& field)
     const NxFieldFacts& facts = meridane::factsOf(field);
     QStringList lines;
     if (const QString unit = unitText(facts.unit); !unit.isEmpty())
-        lines += tr("Unit: %1").arg(unit);
+        lines += fieldToolTipText("Unit: %1").arg(unit);
     if (const QString range = rangeText(field, facts); !range.isEmpty())
-        lines += tr("Range: %1").arg(range);
+        lines += fieldToolTipText("Range: %1").arg(range);
     return lines;
 }
 
@@ -43,13 +43,13 @@ QStringList valueLines(const FieldRow& row)
     const NxField* const original = data->getDefault(data->getIndex(node, &field));
     QStringList lines;
     if (row.isMixed())
-        lines += tr("The %1 nodes have different values.").arg(row.fields().count());
+        lines += fieldToolTipText("The %1 nodes have different values.").arg(row.fields().count());
     else
-        lines += tr("Value: %1").arg(beginningOf(field, valueCharacters));
+        lines += fieldToolTipText("Value: %1").arg(beginningOf(field, valueCharacters));
     if (!row.isChanged())
-        lines += tr("This is the default.");
+        lines += fieldToolTipText("This is the default.");
     else if (original != nullptr)
-        lines += tr("Default: %1").arg(beginningOf(*original, valueCharacters));
+        lines += fieldToolTipText("Default: %1").arg(beginningOf(*original, valueCharacters));
     return lines;
 }
 
@@ -58,15 +58,15 @@ QStringList valueLines(const FieldRow& row)
 QString fieldToolTip(const FieldRow& row)
 {
     if (row.first() == nullptr)
-        return tr("The class of this node has no such field. It is kept and written back as it was.");
+        return fieldToolTipText("The class of this node has no such field. It is kept and written back as it was.");
     QStringList lines;
     if (const auto description = meridane::factsOf(*row.first()).description; !description.empty())
         lines += toQString(description);
-    lines += tr("Type: %1").arg(row.type());
+    lines += fieldToolTipText("Type: %1").arg(row.type());
     lines += factLines(*row.first());
     lines += valueLines(row);
     if (row.isIgnored())
-        lines += tr("Ignored: the scene takes no notice of this value.");
+        lines += fieldToolTipText("Ignored: the scene takes no notice of this value.");
     return plainToolTip(lines.join(u'\n'));
 }
 
@@ -74,13 +74,14 @@ QString groupToolTip(const FieldGroup& group)
 {
     switch (group.kind) {
     case FieldGroup::Kind::Favorites:
-        return tr("The fields of this class that have a star.");
+        return fieldToolTipText("The fields of this class that have a star.");
     case FieldGroup::Kind::Unknown:
-        return tr("The class of this node has no such fields. They are kept and written back as they were.");
+        return fieldToolTipText(
+            "The class of this node has no such fields. They are kept and written back as they were.");
     case FieldGroup::Kind::Class:
         break;
     }
-    return plainToolTip(tr("The fields that the class %1 declares.").arg(group.title));
+    return plainToolTip(fieldToolTipText("The fields that the class %1 declares.").arg(group.title));
 }
 
 } // namespace orvane

@@ -158,6 +158,11 @@ private Q_SLOTS:
                     .toString()
                     .contains(QStringLiteral("The 2 nodes have different values.")));
         QVERIFY(font(field).bold());
+        const auto spoken = [&](int column) {
+            return m_model->indexOf(field).siblingAtColumn(column).data(Qt::AccessibleTextRole).toString();
+        };
+        QCOMPARE(spoken(FieldTableModel::ValueColumn), QStringLiteral("mixed"));
+        QCOMPARE(spoken(FieldTableModel::MarkColumn), QStringLiteral("changed"));
         const QSignalSpy changed(m_model.get(), &FieldTableModel::valuesChanged);
         QVERIFY(point->getField("intensity")->set("0.5"));
         AppScenes::runSensors();

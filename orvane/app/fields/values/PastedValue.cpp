@@ -25,7 +25,7 @@ namespace {
 
 using meridane::FieldComponents;
 
-QString tr(const char* text)
+QString pastedValueText(const char* text)
 {
     return QCoreApplication::translate("PastedValue", text);
 }
@@ -107,7 +107,7 @@ Result<std::string> pastedValue(const NxField& field, const QString& text)
         return Failure{refusedText(field, text) + u' ' + numbers.error()};
     std::string rows = rowsText(numbers.value(), *components, isList);
     if (!spare->set(VbString(rows)))
-        return Failure{refusedText(field, text) + u' ' + tr("A number is out of the range of its type.")};
+        return Failure{refusedText(field, text) + u' ' + pastedValueText("A number is out of the range of its type.")};
     return rows;
 }
 
