@@ -32,26 +32,26 @@ std::string wordOf(std::size_t number)
 }
 
 /// The text of a file, and what follows it in a binary one.
-struct Parts {
+struct GltfParts {
     std::string_view text;
     std::string_view rest;
     bool isBinary = false;
 };
 
-std::optional<Parts> partsOf(std::string_view file)
+std::optional<GltfParts> partsOf(std::string_view file)
 {
     if (!file.starts_with("glTF"))
-        return Parts{file, {}, false};
+        return GltfParts{file, {}, false};
     if (file.size() < headSize + chunkHeadSize || wordAt(file, headSize + 4) != textKind)
         return std::nullopt;
     const std::size_t start = headSize + chunkHeadSize;
     const std::size_t size = wordAt(file, headSize);
     if (size > file.size() - start)
         return std::nullopt;
-    return Parts{file.substr(start, size), file.substr(start + size), true};
+    return GltfParts{file.substr(start, size), file.substr(start + size), true};
 }
 
-std::string joined(const Parts& parts, std::string text)
+std::string joined(const GltfParts& parts, std::string text)
 {
     if (!parts.isBinary)
         return text;
@@ -195,7 +195,7 @@ private:
 std::optional<std::string> withoutUnusableParts(
     std::string_view file, std::string_view emptyMesh, ImportWarnings& warnings)
 {
-    const std::optional<Parts> parts = partsOf(file);
+    const std::optional<GltfParts> parts = partsOf(file);
     if (!parts)
         return std::nullopt;
     Json json = Json::parse(parts->text, nullptr, false);

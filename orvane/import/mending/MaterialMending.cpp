@@ -100,16 +100,18 @@ void lightenTextured(aiMaterial& material)
 // The format has the opacity of an opaque surface without a meaning.
 void makeOpaque(aiScene& model)
 {
-    for (unsigned int index = 0; index < model.mNumMaterials; ++index) {
-        aiMaterial& material = *model.mMaterials[index];
-        if (!isDeclaredOpaque(material))
-            continue;
+    std::vector<bool> isOpaque;
+    for (aiMaterial* material : listOf(model.mMaterials, model.mNumMaterials)) {
         const float opacity = 1;
-        material.AddProperty(&opacity, 1, AI_MATKEY_OPACITY);
-        for (aiMesh* mesh : listOf(model.mMeshes, model.mNumMeshes)) {
-            for (aiColor4D& color : listOf(mesh->mColors[0], mesh->mMaterialIndex == index ? mesh->mNumVertices : 0))
-                color.a = 1;
-        }
+        isOpaque.push_back(isDeclaredOpaque(*material));
+        if (isOpaque.back())
+            material->AddProperty(&opacity, 1, AI_MATKEY_OPACITY);
+    }
+    for (const aiMesh* mesh : listOf(model.mMeshes, model.mNumMeshes)) {
+        if (mesh->mMaterialIndex >= isOpaque.size() || !isOpaque[mesh->mMaterialIndex])
+            continue;
+        for (aiColor4D& color : listOf(mesh->mColors[0], mesh->mNumVertices))
+            color.a = 1;
     }
 }
 
