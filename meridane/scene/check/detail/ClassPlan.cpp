@@ -12,6 +12,8 @@
 #include "meridane/scene/nodes/NxTexture.h"
 #include "meridane/scene/nodes/NxUnknownNode.h"
 
+#include <bit>
+
 namespace meridane {
 namespace {
 
@@ -46,8 +48,10 @@ Role roleOf(NxType type)
 const ClassPlan& ClassPlans::of(NxNode& node)
 {
     NxFieldData* const data = node.getFieldData();
-    if (data == m_latestClass)
-        return *m_latest;
+    constexpr unsigned int alignmentBits = 4;
+    Recent& recent = m_recent[(std::bit_cast<std::uintptr_t>(data) >> alignmentBits) % m_recent.size()];
+    if (data == recent.data)
+        return *recent.plan;
     const auto [found, isNew] = m_plans.try_emplace(data);
     ClassPlan& plan = found->second;
     if (isNew) {
@@ -69,8 +73,7 @@ const ClassPlan& ClassPlans::of(NxNode& node)
                 plan.numbers.push_back(numbers);
         }
     }
-    m_latestClass = data;
-    m_latest = &plan;
+    recent = {data, &plan};
     return plan;
 }
 

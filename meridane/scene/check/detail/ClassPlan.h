@@ -3,6 +3,7 @@
 #include "meridane/scene/check/detail/FieldRange.h"
 #include "meridane/scene/components/FieldComponents.h"
 
+#include <array>
 #include <cstdint>
 #include <unordered_map>
 #include <vector>
@@ -57,8 +58,12 @@ public:
 
 private:
     std::unordered_map<const NxFieldData*, ClassPlan> m_plans;
-    const NxFieldData* m_latestClass = nullptr;
-    const ClassPlan* m_latest = nullptr;
+    /// Those of the latest classes, since nodes of a few classes alternate.
+    struct Recent {
+        const NxFieldData* data = nullptr;
+        const ClassPlan* plan = nullptr;
+    };
+    std::array<Recent, 16> m_recent;
 };
 
 } // namespace meridane
