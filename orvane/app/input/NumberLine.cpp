@@ -4,6 +4,7 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/input/InputMessage.h"
 #include "orvane/app/input/PassingFocus.h"
+#include "orvane/app/input/PlainReturn.h"
 #include "orvane/app/look/Look.h"
 
 #include <QApplication>
@@ -16,12 +17,6 @@ using orvane::NumberLimits;
 using orvane::Result;
 
 namespace {
-
-bool isReturn(const QKeyEvent& event)
-{
-    return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
-        && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-}
 
 bool isStep(const QKeyEvent& event)
 {
@@ -166,7 +161,7 @@ bool NumberLine::event(QEvent* event)
     // The keys of the line come before those of the window's actions while something is being typed.
     if (event->type() == QEvent::ShortcutOverride && isPending()) {
         const auto* const key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Escape || isReturn(*key) || isStep(*key))
+        if (key->key() == Qt::Key_Escape || orvane::isPlainReturn(*key) || isStep(*key))
             event->accept();
     }
     if (event->type() == QEvent::ApplicationPaletteChange)
@@ -176,7 +171,7 @@ bool NumberLine::event(QEvent* event)
 
 void NumberLine::keyPressEvent(QKeyEvent* event)
 {
-    if (isReturn(*event)) {
+    if (orvane::isPlainReturn(*event)) {
         accept();
     } else if (event->key() == Qt::Key_Escape) {
         const bool wasPending = isPending();

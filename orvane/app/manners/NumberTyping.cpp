@@ -4,6 +4,7 @@
 #include "orvane/app/input/InputMessage.h"
 #include "orvane/app/input/NumberLine.h"
 #include "orvane/app/input/PassingFocus.h"
+#include "orvane/app/input/PlainReturn.h"
 #include "orvane/app/manners/EditorDocks.h"
 #include "orvane/app/manners/EditorLine.h"
 #include "orvane/app/manners/LineCover.h"
@@ -27,12 +28,6 @@ QString typedText(const QKeyEvent& key)
     const bool isCommand = commands != Qt::NoModifier && commands != (Qt::ControlModifier | Qt::AltModifier);
     const QString text = key.text();
     return isCommand || text.isEmpty() || !text.front().isPrint() ? QString() : text;
-}
-
-bool isReturn(const QKeyEvent& key)
-{
-    return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)
-        && (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
 } // namespace
@@ -66,7 +61,7 @@ bool NumberTyping::eventFilter(QObject* object, QEvent* event)
 
 bool NumberTyping::keyPressed(QLineEdit* line, const QKeyEvent& key)
 {
-    if (isReturn(key))
+    if (orvane::isPlainReturn(key))
         return finishLine(line);
     if (key.matches(QKeySequence::Paste))
         return insert(line, QApplication::clipboard()->text(), true);
