@@ -69,14 +69,16 @@ void FieldTitleBar::updateTexts()
 void FieldTitleBar::updateButtons()
 {
     // As the style has them in usual title bars.
-    const int icon = style()->pixelMetric(QStyle::PM_TitleBarButtonIconSize, nullptr, m_dock);
-    const int side = icon + 2 * style()->pixelMetric(QStyle::PM_DockWidgetTitleBarButtonMargin, nullptr, m_dock);
+    const int most = style()->pixelMetric(QStyle::PM_TitleBarButtonIconSize, nullptr, m_dock);
+    const int margin = style()->pixelMetric(QStyle::PM_DockWidgetTitleBarButtonMargin, nullptr, m_dock);
     const std::pair<QToolButton*, QStyle::StandardPixmap> icons[]{
         {m_floatButton, QStyle::SP_TitleBarNormalButton}, {m_closeButton, QStyle::SP_TitleBarCloseButton}};
     for (const auto& [button, picture] : icons) {
-        button->setIcon(style()->standardIcon(picture, nullptr, m_dock));
-        button->setIconSize({icon, icon});
-        button->setFixedSize(side, side);
+        const QIcon icon = style()->standardIcon(picture, nullptr, m_dock);
+        const QSize size = icon.actualSize({most, most});
+        button->setIcon(icon);
+        button->setIconSize(size);
+        button->setFixedSize(size.grownBy({margin, margin, margin, margin}));
     }
     m_floatButton->setVisible(m_dock->features().testFlag(QDockWidget::DockWidgetFloatable));
     m_closeButton->setVisible(m_dock->features().testFlag(QDockWidget::DockWidgetClosable));

@@ -4,6 +4,7 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/inspect/FieldTitleBar.h"
 #include "orvane/app/inspect/NodeLock.h"
+#include "orvane/app/inspect/ScenePlace.h"
 #include "orvane/app/scene/NodeSearch.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
@@ -15,8 +16,6 @@
 #include <QDockWidget>
 #include <QEvent>
 #include <QMainWindow>
-
-#include <algorithm>
 
 namespace {
 
@@ -88,24 +87,12 @@ std::vector<int> FieldTitleBars::places() const
 {
     const NxGroup* const scene = m_session.document().scene();
     const NxFieldContainer* const node = m_session.services().getSelectedField()->getContainer();
-    std::vector<NxNode*> path;
     if (m_lock.isOn() && m_lock.node() == node)
-        path = m_lock.path();
-    else if (m_tree->selectedNode() == node)
-        path = m_tree->model()->path(m_tree->selected());
-    else
-        path = orvane::findPath(scene, node);
-    std::vector<int> result;
-    const NxNode* group = scene;
-    for (const NxNode* const step : path) {
-        const auto children = group->getChildren();
-        const auto place = std::find(children.begin(), children.end(), step);
-        if (place == children.end())
-            return {}; // the tree's rows follow the scene a moment later
-        result.push_back(static_cast<int>(place - children.begin()));
-        group = step;
-    }
-    return result;
+        return m_lock.rows();
+    if (m_tree->selectedNode() == node)
+        return ScenePlace(m_tree->model()->path(m_tree->selected()), m_tree->selectedRows()).rows(*scene);
+    const std::vector<NxNode*> path = orvane::findPath(scene, node);
+    return path.empty() ? std::vector<int>() : ScenePlace(path).rows(*scene);
 }
 
 void FieldTitleBars::show(const QString& path)

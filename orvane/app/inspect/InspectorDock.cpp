@@ -26,6 +26,7 @@ InspectorDock::InspectorDock(int number, Session& session, SceneTreePanel* tree,
     setObjectName(QStringLiteral("inspectorDock%1").arg(number));
     setAttribute(Qt::WA_DeleteOnClose);
     setWidget(m_panel);
+    m_panel->setSceneFolder([&session] { return session.document().pathFolder(); });
     m_lockAction->addButtonTo(m_panel->headingTools());
     connect(m_lock, &NodeLock::changed, this, &InspectorDock::follow);
     connect(tree, &SceneTreePanel::selectionChanged, this, &InspectorDock::follow);

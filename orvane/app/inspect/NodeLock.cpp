@@ -39,6 +39,12 @@ std::vector<NxNode*> NodeLock::path() const
     return isOn() && scene != nullptr ? m_place->find(*scene) : std::vector<NxNode*>();
 }
 
+std::vector<int> NodeLock::rows() const
+{
+    const NxGroup* const scene = m_session.document().scene();
+    return isOn() && scene != nullptr ? m_place->rows(*scene) : std::vector<int>();
+}
+
 QString NodeLock::pathText() const
 {
     const std::vector<NxNode*> nodes = path();

@@ -35,7 +35,9 @@ public:
     [[nodiscard]] NxNode* node() const noexcept { return m_node.get(); }
     /// The nodes from a child of the scene down to it; empty while the lock is off.
     [[nodiscard]] std::vector<NxNode*> path() const;
-    /// The same as text; empty while the lock is off.
+    /// The indices of these nodes in their groups.
+    [[nodiscard]] std::vector<int> rows() const;
+    /// The path as text; empty while the lock is off.
     [[nodiscard]] QString pathText() const;
 
     /// Stays on the last node of a path, which begins with a child of the scene.

@@ -92,7 +92,7 @@ void PlaceActions::noteNode(NxNode* node)
     if (node == nullptr || path.empty())
         m_history.leave();
     else
-        m_history.visit(path);
+        m_history.visit(path, m_tree->selectedRows());
     noteField(m_session.services().getSelectedField());
     update();
 }

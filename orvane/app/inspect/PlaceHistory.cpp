@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-void PlaceHistory::visit(std::span<NxNode* const> path)
+void PlaceHistory::visit(std::span<NxNode* const> path, std::span<const int> rows)
 {
     if (!m_visits.empty() && node(m_present) == path.back()) {
         m_isAway = false;
@@ -13,7 +13,7 @@ void PlaceHistory::visit(std::span<NxNode* const> path)
     std::erase_if(m_visits, [](const Visit& visit) { return visit.place.node() == nullptr; });
     if (m_visits.size() == mostPlaces)
         m_visits.erase(m_visits.begin());
-    m_visits.push_back({ScenePlace(path), VbName()});
+    m_visits.push_back({ScenePlace(path, rows), VbName()});
     m_present = m_visits.size() - 1;
     m_isAway = false;
 }

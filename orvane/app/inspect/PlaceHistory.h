@@ -24,8 +24,9 @@ public:
 
     enum class Direction { Back, Forward };
 
-    /// The user went to a node, whose path isn't empty. The places ahead are forgotten, unless it is the present one.
-    void visit(std::span<NxNode* const> path);
+    /// The user went to a node; see `ScenePlace` for the arguments. The places ahead are forgotten, unless it is the
+    /// present one.
+    void visit(std::span<NxNode* const> path, std::span<const int> rows = {});
     /// The user is at no node any more; the present place is the first one behind.
     void leave() noexcept { m_isAway = true; }
     /// A field of that node was selected. It is the one of the present place if that is the node's.

@@ -36,10 +36,14 @@ void SelectionLink::browse(const QModelIndex& index, NxField* field)
 
 void SelectionLink::chooseNode(NxFieldContainer* node)
 {
-    if (node == m_services.getSelectedNode() || m_lock.isOn()) {
+    if (node == m_services.getSelectedNode() || m_lock.isOn())
         showNodes();
-        return;
-    }
+    else
+        selectNode(node);
+}
+
+void SelectionLink::selectNode(NxFieldContainer* node)
+{
     if (NxField* kept = keptField(node))
         m_services.select(node, kept);
     else
@@ -60,7 +64,7 @@ NxField* SelectionLink::keptField(NxFieldContainer* node) const
 void SelectionLink::followTree()
 {
     if (m_lock.isOn() && m_services.getSelectedNode() != m_lock.node())
-        m_services.selectNode(m_lock.node()); // it went on to another node by itself
+        selectNode(m_lock.node()); // it went on to another node by itself
     else if (!m_isShowing)
         chooseNode(m_tree->selectedNode());
 }

@@ -34,6 +34,7 @@ public:
 
 private:
     void chooseNode(NxFieldContainer* node);
+    void selectNode(NxFieldContainer* node);
     void showNode(NxFieldContainer* node);
     /// Shows the fields of all nodes that are selected in the tree if they belong to the services' selection.
     void showNodes();

@@ -8,6 +8,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 /// A scene with more top nodes than this is shown folded.
@@ -53,6 +55,15 @@ QModelIndex SceneTreePanel::selected() const
 NxNode* SceneTreePanel::selectedNode() const
 {
     return m_model->node(selected());
+}
+
+std::vector<int> SceneTreePanel::selectedRows() const
+{
+    std::vector<int> rows;
+    for (QModelIndex step = selected(); step.isValid(); step = step.parent())
+        rows.push_back(step.row());
+    std::reverse(rows.begin(), rows.end());
+    return rows;
 }
 
 void SceneTreePanel::select(const QModelIndex& index)

@@ -5,6 +5,8 @@
 #include <QModelIndex>
 #include <QWidget>
 
+#include <vector>
+
 class NodeSelection;
 class QAction;
 class QTreeView;
@@ -25,6 +27,9 @@ public:
     /// The first cell of the row that was selected last, or an invalid index.
     [[nodiscard]] QModelIndex selected() const;
     [[nodiscard]] NxNode* selectedNode() const;
+    /// The rows that lead to it, from the top one down; empty if none is selected. They are also the indices of nodes
+    /// in their groups, but follow these a moment later.
+    [[nodiscard]] std::vector<int> selectedRows() const;
     /// Selects the row of a node alone and scrolls to it, unless it is the one selected last; an invalid index selects
     /// nothing.
     void select(const QModelIndex& index);

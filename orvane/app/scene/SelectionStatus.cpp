@@ -13,8 +13,6 @@
 #include <QLabel>
 #include <QStatusBar>
 
-#include <algorithm>
-
 namespace {
 
 /// "1 node", "2 nodes".
@@ -77,10 +75,7 @@ void SelectionStatus::timerEvent(QTimerEvent*)
 
 std::optional<std::vector<int>> SelectionStatus::places(const NxGroup& scene) const
 {
-    std::vector<int> rows;
-    for (QModelIndex step = m_tree->selected(); step.isValid(); step = step.parent())
-        rows.push_back(step.row());
-    std::reverse(rows.begin(), rows.end());
+    const std::vector<int> rows = m_tree->selectedRows();
     // The tree's rows follow the scene a moment later; then this is called again.
     const NxNode* node = &scene;
     for (const int row : rows) {

@@ -15,6 +15,8 @@
 #include <QStatusBar>
 #include <QToolButton>
 
+#include <random>
+
 /// Further inspectors in the window, by real events.
 class TestInspectorDocks : public RobotWindowCase {
     Q_OBJECT
@@ -224,6 +226,59 @@ private Q_SLOTS:
         makeWindow();
         QCOMPARE(docks().size(), 1);
         QCOMPARE(docks().front()->number(), 3);
+    }
+
+    /// Opens, locks and closes inspectors, browses, deletes and undoes at random. MONKEY_SEED sets the seed,
+    /// MONKEY_STEPS the number of steps.
+    void anyOrderKeepsThemOnNodesOfTheScene()
+    {
+        bool isSet = false;
+        const int wanted = qEnvironmentVariableIntValue("MONKEY_STEPS", &isSet);
+        const int steps = isSet ? wanted : 200;
+        std::mt19937 random(static_cast<unsigned>(qEnvironmentVariableIntValue("MONKEY_SEED")));
+        const auto below = [&random](qsizetype limit) { return static_cast<qsizetype>(random()) % limit; };
+        int followed = 0;
+        int locked = 0;
+        for (int step = 0; step < steps; ++step) {
+            const qsizetype what = below(100);
+            InspectorDock* const dock = docks().isEmpty() ? nullptr : docks().at(below(docks().size()));
+            if (what < 30) {
+                const QModelIndex row = tree()->indexAt({20, static_cast<int>(below(150))});
+                if (row.isValid())
+                    QTest::mouseClick(tree()->viewport(), Qt::LeftButton, {}, tree()->visualRect(row).center());
+            } else if (what < 40) {
+                openAnother();
+            } else if (what < 47 && dock != nullptr) {
+                close(dock);
+            } else if (what < 62 && dock != nullptr) {
+                QTest::mouseClick(padlock(dock), Qt::LeftButton);
+            } else if (what < 70) {
+                QTest::mouseClick(padlock(&mainPanel()), Qt::LeftButton);
+            } else if (what < 80) {
+                QTest::keyClick(tree(), Qt::Key_Delete);
+            } else if (what < 92) {
+                services().undo();
+            } else if (what < 98) {
+                services().redo();
+            } else {
+                services().setClean(); // or the file isn't opened again without a question
+                open(m_robot);
+                tree()->expandAll();
+            }
+            AppScenes::runSensors();
+            QCoreApplication::processEvents();
+            AppScenes::runSensors();
+            for (const InspectorDock* const each : docks()) {
+                const bool isOn = each->lock().isOn();
+                ++(isOn ? locked : followed);
+                const NxNode* const shown
+                    = isOn ? each->lock().node() : m_window->findChild<SceneTreePanel*>()->selectedNode();
+                QCOMPARE(nodeIn(each), static_cast<const NxFieldContainer*>(shown));
+                QVERIFY(!isOn || !each->lock().path().empty());
+                QCOMPARE(each->lockAction().isChecked(), isOn);
+            }
+        }
+        QVERIFY(followed > 0 && locked > 0);
     }
 
     void theMenuOpensOne()

@@ -12,7 +12,7 @@
 namespace orvane {
 namespace {
 
-QString translated(const char* text)
+QString factText(const char* text)
 {
     return QCoreApplication::translate("FactsText", text);
 }
@@ -27,19 +27,17 @@ QString limitsText(double minimum, bool excludesMinimum, double maximum, bool ex
 {
     const bool hasMinimum = std::isfinite(minimum);
     const bool hasMaximum = std::isfinite(maximum);
-    const QString least
-        = (excludesMinimum ? translated("above %1") : translated("at least %1")).arg(limitText(minimum));
-    const QString greatest
-        = (excludesMaximum ? translated("below %1") : translated("at most %1")).arg(limitText(maximum));
+    const QString least = (excludesMinimum ? factText("above %1") : factText("at least %1")).arg(limitText(minimum));
+    const QString greatest = (excludesMaximum ? factText("below %1") : factText("at most %1")).arg(limitText(maximum));
     if (hasMinimum && hasMaximum && !excludesMinimum && !excludesMaximum)
-        return translated("%1 to %2").arg(limitText(minimum), limitText(maximum));
+        return factText("%1 to %2").arg(limitText(minimum), limitText(maximum));
     if (hasMinimum && hasMaximum)
-        return translated("%1 and %2").arg(least, greatest);
+        return factText("%1 and %2").arg(least, greatest);
     return hasMinimum ? least : hasMaximum ? greatest : QString();
 }
 
 template <typename Field>
-QStringList namesOf(const Field& field)
+QStringList choiceNames(const Field& field)
 {
     int count = 0;
     int* values = nullptr;
@@ -54,11 +52,11 @@ QStringList namesOf(const Field& field)
 QString choicesText(const NxField& field)
 {
     if (const auto* const mask = dynamic_cast<const NxSFBitMask*>(&field))
-        return namesOf(*mask).join(QStringLiteral(" | "));
+        return choiceNames(*mask).join(QStringLiteral(" | "));
     if (const auto* const choice = dynamic_cast<const NxSFEnum*>(&field))
-        return namesOf(*choice).join(QStringLiteral(", "));
+        return choiceNames(*choice).join(QStringLiteral(", "));
     if (const auto* const list = dynamic_cast<const NxMFEnum*>(&field))
-        return namesOf(*list).join(QStringLiteral(", "));
+        return choiceNames(*list).join(QStringLiteral(", "));
     return {};
 }
 
@@ -71,7 +69,7 @@ QString rangeText(const NxField& field, const NxFieldFacts& facts)
     QStringList parts{choicesText(field), hard};
     if (isNarrower) {
         parts.append(
-            translated("useful %1")
+            factText("useful %1")
                 .arg(limitsText(facts.softMinimum, facts.excludesMinimum && facts.softMinimum == facts.hardMinimum,
                     facts.softMaximum, facts.excludesMaximum && facts.softMaximum == facts.hardMaximum)));
     }
@@ -83,13 +81,13 @@ QString unitText(NxUnit unit)
 {
     switch (unit) {
     case NxUnit::Radians:
-        return translated("radians");
+        return factText("radians");
     case NxUnit::Metres:
-        return translated("metres");
+        return factText("metres");
     case NxUnit::Percent:
-        return translated("per cent");
+        return factText("per cent");
     case NxUnit::Seconds:
-        return translated("seconds");
+        return factText("seconds");
     case NxUnit::None:
         break;
     }
