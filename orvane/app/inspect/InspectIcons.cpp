@@ -1,6 +1,7 @@
 #include "orvane/app/inspect/InspectIcons.h"
 
 #include "orvane/app/base/DrawnIcon.h"
+#include "orvane/app/fields/MarkIcons.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -9,7 +10,7 @@
 
 namespace {
 
-constexpr double lineWidth = 1.5;
+constexpr double strokeWidth = 1.5;
 
 QColor inkOf(QIcon::Mode mode)
 {
@@ -19,7 +20,7 @@ QColor inkOf(QIcon::Mode mode)
 
 QPen penOf(QIcon::Mode mode)
 {
-    return {inkOf(mode), lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+    return {inkOf(mode), strokeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
 QIcon padlock(bool isOpen)
@@ -61,6 +62,13 @@ QIcon orvane::openPadlock()
 QIcon orvane::closedPadlock()
 {
     return padlock(false);
+}
+
+QIcon orvane::starIcon()
+{
+    return drawnIcon([](QPainter& painter, QIcon::Mode mode) {
+        drawMark(painter, FieldMark::Favorite, QRect(0, 0, 16, 16), inkOf(mode), false);
+    });
 }
 
 QIcon orvane::backArrow()

@@ -11,4 +11,7 @@ namespace orvane {
 [[nodiscard]] QIcon backArrow();
 [[nodiscard]] QIcon forwardArrow();
 
+/// A star for favorites.
+[[nodiscard]] QIcon starIcon();
+
 } // namespace orvane

@@ -2,6 +2,8 @@
 
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/fields/FieldTableModel.h"
+#include "orvane/app/inspect/FavoriteActions.h"
+#include "orvane/app/inspect/FavoriteNodes.h"
 #include "orvane/app/inspect/FieldTitleBars.h"
 #include "orvane/app/inspect/InspectorDock.h"
 #include "orvane/app/inspect/InspectorDocks.h"
@@ -31,11 +33,14 @@ Inspectors::Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* field
     , m_lockAction(new LockAction(
           *m_lock, [this] { return selectedPath(); }, this))
     , m_docks(new InspectorDocks(session, tree, window))
+    , m_favorites(new FavoriteNodes(session, tree)) // its view draws them
+    , m_favoriteActions(new FavoriteActions(*m_favorites, tree, window))
 {
     m_lockAction->setObjectName(QStringLiteral("lockInspector"));
     m_lockAction->setShortcut(LockAction::keys());
     m_lockAction->addButtonTo(fields->headingTools());
     new FieldTitleBars(session, tree, *m_lock, window);
+    connect(m_favoriteActions, &FavoriteActions::refused, this, &Inspectors::showMessage);
     connect(m_docks, &InspectorDocks::added, this, &Inspectors::noteDock);
     connect(&session.services(), &OrvServices::selectedNodeChanged, m_lockAction, &LockAction::update);
     connect(m_lock, &NodeLock::lost, this, &Inspectors::showMessage);
@@ -49,6 +54,7 @@ void Inspectors::addToolBar()
     QToolBar* const toolBar = m_window->addToolBar(tr("Selection"));
     toolBar->setObjectName(QStringLiteral("selectionToolBar"));
     m_places->addTo(toolBar);
+    m_favoriteActions->addTo(toolBar);
     toolBar->addAction(m_lockAction);
 }
 
@@ -56,11 +62,29 @@ void Inspectors::followReloads(const FileFlow& flow)
 {
     m_lock->followReloads(flow);
     m_docks->followReloads(flow);
+    m_favorites->followReloads(flow);
 }
 
 QList<QAction*> Inspectors::menuActions() const
 {
-    return {m_places->backAction(), m_places->forwardAction(), m_lockAction, m_docks->newAction()};
+    return {m_places->backAction(), m_places->forwardAction(), favoriteAction(), m_lockAction, m_docks->newAction()};
+}
+
+QAction* Inspectors::favoriteAction() const
+{
+    return m_favoriteActions->toggleAction();
+}
+
+QAction* Inspectors::newAction() const
+{
+    return m_docks->newAction();
+}
+
+void Inspectors::lockOnSelected()
+{
+    m_lock->unlock();
+    if (const std::vector<NxNode*> path = m_tree->model()->path(m_tree->selected()); !path.empty())
+        m_lock->lock(path);
 }
 
 void Inspectors::restoreDocks()

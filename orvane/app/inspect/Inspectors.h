@@ -5,6 +5,8 @@
 
 #include <vector>
 
+class FavoriteActions;
+class FavoriteNodes;
 class FieldPanel;
 class FileFlow;
 class InspectorDock;
@@ -35,6 +37,14 @@ public:
     void addToolBar();
     /// For the View menu.
     [[nodiscard]] QList<QAction*> menuActions() const;
+    /// Marks the node that is selected in the tree as a favorite.
+    [[nodiscard]] QAction* favoriteAction() const;
+    /// Opens a further inspector.
+    [[nodiscard]] QAction* newAction() const;
+    /// Locks the first inspector on the node that is selected in the tree, whatever it is locked on now.
+    void lockOnSelected();
+    /// Shows a message in the status bar for some seconds.
+    void showMessage(const QString& message);
     /// Adds the further inspectors that the last window had, once the slots of `panelAdded` are connected.
     void restoreDocks();
 
@@ -44,7 +54,6 @@ Q_SIGNALS:
 
 private:
     void noteDock(InspectorDock* dock);
-    void showMessage(const QString& message);
     [[nodiscard]] std::vector<NxNode*> selectedPath() const;
 
     Session& m_session;
@@ -55,4 +64,6 @@ private:
     PlaceActions* m_places;
     LockAction* m_lockAction;
     InspectorDocks* m_docks;
+    FavoriteNodes* m_favorites;
+    FavoriteActions* m_favoriteActions;
 };

@@ -54,7 +54,6 @@ SceneView::SceneView(QWidget* parent)
            "minus zoom, F frames the selection, A frames all, 1 to 6 look along the axes."));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setContextMenuPolicy(Qt::ActionsContextMenu);
     m_viewpoint.lookAlong(firstDirection, upwards);
     orvane::setViewColors(m_style, palette());
     m_drawing.setStyle(m_style);
@@ -351,6 +350,16 @@ void SceneView::keyPressEvent(QKeyEvent* event)
         Q_EMIT pickedNothing();
     else
         QWidget::keyPressEvent(event);
+}
+
+void SceneView::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (!m_scene || m_navigation.dragUnderWay() != ViewNavigation::Drag::None)
+        return;
+    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+    if (!isByKey)
+        pick(event->pos());
+    Q_EMIT menuRequested(isByKey ? mapToGlobal(rect().center()) : event->globalPos());
 }
 
 void SceneView::focusInEvent(QFocusEvent*)

@@ -62,6 +62,8 @@ Q_SIGNALS:
     void picked(const std::vector<NxNode*>& nodes, const VbVec3d& point);
     /// The user clicked on nothing.
     void pickedNothing();
+    /// The user wants a menu at that place of the screen, about what is selected. A click has picked what it is on.
+    void menuRequested(const QPoint& place);
     /// The user moved, not through `setViewpoint`.
     void moved();
 
@@ -76,6 +78,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void redraw(const QSize& deviceSize);

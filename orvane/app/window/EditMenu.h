@@ -23,6 +23,8 @@ public:
     [[nodiscard]] QList<QAction*> toolBarActions() const;
     /// Deletes the selected node. Its key works in the tree, and in every other widget that the action is added to.
     [[nodiscard]] QAction* deleteAction() const noexcept { return m_delete; }
+    /// What can be done with the node that is selected in the tree.
+    [[nodiscard]] QList<QAction*> nodeActions() const { return {m_rename, m_delete}; }
 
     bool eventFilter(QObject* object, QEvent* event) override;
 

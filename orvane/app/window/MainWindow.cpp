@@ -12,13 +12,13 @@
 #include "orvane/app/history/StepTravel.h"
 #include "orvane/app/images/ImageFolderQuestion.h"
 #include "orvane/app/inspect/Inspectors.h"
+#include "orvane/app/inspect/NodeMenu.h"
 #include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/manners/EditorManners.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/recovery/RecoveryOffer.h"
 #include "orvane/app/recovery/SceneRecovery.h"
-#include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/SelectionStatus.h"
@@ -90,7 +90,7 @@ MainWindow::MainWindow(Session& session)
     buildMenus();
     connectDocument();
 
-    m_fields->setSceneFolder([this] { return orvane::folderOf(document().fileName()); });
+    m_fields->setSceneFolder([this] { return document().pathFolder(); });
     resize(firstSize);
     restoreGeometry(session.settings().value(geometryKey).toByteArray());
     if (!session.settings().problem().isEmpty())
@@ -221,8 +221,9 @@ void MainWindow::buildMenus()
     m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
     auto* editMenu = new EditMenu(this, m_session, m_tree);
     m_view->addAction(editMenu->deleteAction());
-    auto* viewMenu
-        = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), new CameraMenu(m_view, document()));
+    auto* cameras = new CameraMenu(m_view, document());
+    auto* viewMenu = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), cameras);
+    new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodeActions());
     new HelpMenu(this, *m_shell);
     new EditorManners(this, m_session.services(), m_fields);
     connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);
