@@ -8,6 +8,7 @@
 #include "orvane/import/mending/PivotFolding.h"
 #include "orvane/import/mending/RestPose.h"
 #include "orvane/import/mending/SpaceConversion.h"
+#include "orvane/import/sandbox/Sanitizer.h"
 
 #include "meridane/base/Files.h"
 
@@ -116,7 +117,11 @@ NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
 // Some readers refuse a whole file for one bad index or one empty mesh.
 const aiScene* ModelReader::readFile(const std::string& path, ModelFiles& files)
 {
-    const aiScene* model = m_importer->ReadFile(path, 0);
+    const aiScene* model = nullptr;
+    {
+        const LeaksIgnored ignored;
+        model = m_importer->ReadFile(path, 0);
+    }
     if (model != nullptr)
         return model;
     std::string content;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sanitizer/lsan_interface.h>
+
 namespace orvane {
 
 /// True in a program built with the address sanitizer. The sanitizer reserves terabytes of address space. Its leak
@@ -19,5 +21,23 @@ namespace orvane {
     return false;
 #endif
 }
+
+/// While one lives, memory that is allocated isn't looked for by the leak check: some readers of the import library
+/// lose a part of what they have read when they give up a file.
+class LeaksIgnored {
+public:
+    LeaksIgnored()
+    {
+        if constexpr (isSanitized())
+            __lsan_disable();
+    }
+    LeaksIgnored(const LeaksIgnored&) = delete;
+    LeaksIgnored& operator=(const LeaksIgnored&) = delete;
+    ~LeaksIgnored()
+    {
+        if constexpr (isSanitized())
+            __lsan_enable();
+    }
+};
 
 } // namespace orvane
