@@ -12,6 +12,8 @@
 #include "orvane/app/inspect/NodeLock.h"
 #include "orvane/app/inspect/PlaceActions.h"
 #include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/scene/SceneDocument.h"
+#include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/SceneTreeModel.h"
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
@@ -99,6 +101,7 @@ void Inspectors::noteDock(InspectorDock* dock)
         const FieldPanel& panel = dock->panel();
         m_link->browse(m_tree->model()->findNode(panel.model()->node()), panel.currentField());
     });
+    dock->panel().setSceneFolder([this] { return orvane::folderOf(m_session.document().fileName()); });
     Q_EMIT panelAdded(&dock->panel());
 }
 

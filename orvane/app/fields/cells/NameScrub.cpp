@@ -4,6 +4,7 @@
 #include "orvane/app/fields/cells/CellRegistry.h"
 #include "orvane/app/fields/cells/ValueDelegate.h"
 #include "orvane/app/fields/cells/detail/CellPainting.h"
+#include "orvane/app/fields/cells/detail/ToolTips.h"
 #include "orvane/app/fields/editors/CellServices.h"
 #include "orvane/app/fields/editors/FieldAt.h"
 #include "orvane/app/fields/editors/FieldNumbers.h"
@@ -215,6 +216,7 @@ bool NameScrub::showToolTip(const QHelpEvent& event) const
     const QString hint = orvane::plainToolTip(
         tr("Drag to change the number; with Shift ten times as fast, with Ctrl ten times as slow."));
     const QModelIndex index = target->index;
-    QToolTip::showText(event.globalPos(), index.data(Qt::ToolTipRole).toString() + hint, m_view->viewport());
+    QToolTip::showText(
+        event.globalPos(), orvane::joinedToolTips(hint, index.data(Qt::ToolTipRole).toString()), m_view->viewport());
     return true;
 }

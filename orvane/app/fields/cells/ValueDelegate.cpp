@@ -3,6 +3,7 @@
 #include "orvane/app/base/DraggedFile.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/fields/cells/CellRegistry.h"
+#include "orvane/app/fields/cells/detail/ToolTips.h"
 #include "orvane/app/fields/editors/CellEditor.h"
 #include "orvane/app/fields/editors/CellServices.h"
 #include "orvane/app/fields/editors/FieldAt.h"
@@ -267,7 +268,7 @@ bool ValueDelegate::helpEvent(
     const QString tip = index.data(Qt::ToolTipRole).toString();
     if (own.isEmpty())
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    QToolTip::showText(event->globalPos(), orvane::plainToolTip(own) + tip, view->viewport());
+    QToolTip::showText(event->globalPos(), orvane::joinedToolTips(orvane::plainToolTip(own), tip), view->viewport());
     return true;
 }
 
