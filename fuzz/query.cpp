@@ -58,7 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
             checkMessage(*error, count);
             continue;
         }
-        const Query& query = std::get<Query>(parsed);
+        const auto& query = std::get<Query>(parsed);
         if (query.isEmpty())
             continue;
         const auto opposite = Query::parse("not (" + std::string(text) + ")", subject);

@@ -31,6 +31,38 @@ std::string countText(const ProblemFacts& problem, const char* what)
     return number(problem.count) + " " + what + " for " + number(problem.total) + " positions; drawn as if it had none";
 }
 
+/// What a part of the positions or indices of a mesh is.
+std::string partText(const ProblemFacts& problem, const std::string& what)
+{
+    return number(problem.count) + " of " + number(problem.total) + " " + what + "; what they belong to isn't drawn";
+}
+
+std::string incompleteText(const ProblemFacts& problem)
+{
+    return "the number of its " + std::string(problem.detail) + ", " + number(problem.total) + ", isn't a multiple of "
+        + number(problem.limit) + "; the last ones aren't drawn";
+}
+
+std::string largeImageText(const ProblemFacts& problem)
+{
+    return "its image of " + std::string(problem.detail) + " pixels is drawn smaller; the GPU takes "
+        + number(problem.limit) + " a side";
+}
+
+std::string switchText(const ProblemFacts& problem)
+{
+    return "it has no child of that number, so it shows none; it has " + number(problem.total)
+        + (problem.total == 1 ? " child" : " children");
+}
+
+std::string duplicateText(const ProblemFacts& problem)
+{
+    const std::string name = "'" + std::string(problem.detail) + "'";
+    if (problem.isShared)
+        return number(problem.count) + " more names of this group are those of several children, such as " + name;
+    return number(problem.count) + " children of the same group are called " + name;
+}
+
 std::string unusedText(const ProblemFacts& problem, const char* what)
 {
     if (problem.isShared)
@@ -58,14 +90,11 @@ std::string problemText(NxProblemKind kind, const ProblemFacts& problem)
     case NxProblemKind::NoPositions:
         return "it has no positions to draw";
     case NxProblemKind::PositionNotFinite:
-        return number(problem.count) + " of " + number(problem.total)
-            + " positions are no finite numbers; what they belong to isn't drawn";
+        return partText(problem, "positions are no finite numbers");
     case NxProblemKind::IndexOutOfRange:
-        return number(problem.count) + " of " + number(problem.total) + " indices are out of range, from 0 to "
-            + number(problem.limit - 1) + "; what they belong to isn't drawn";
+        return partText(problem, "indices are out of range, from 0 to " + number(problem.limit - 1));
     case NxProblemKind::IncompletePrimitive:
-        return "the number of its " + std::string(problem.detail) + ", " + number(problem.total)
-            + ", isn't a multiple of " + number(problem.limit) + "; the last ones aren't drawn";
+        return incompleteText(problem);
     case NxProblemKind::NormalCount:
         return countText(problem, "normals");
     case NxProblemKind::ColorCount:
@@ -85,20 +114,15 @@ std::string problemText(NxProblemKind kind, const ProblemFacts& problem)
     case NxProblemKind::NoImage:
         return "it has neither an image nor an image file; surfaces are drawn without it";
     case NxProblemKind::ImageTooLarge:
-        return "its image of " + std::string(problem.detail) + " pixels is drawn smaller; the GPU takes "
-            + number(problem.limit) + " a side";
+        return largeImageText(problem);
     case NxProblemKind::CameraDistances:
         return "its far distance isn't greater than its near distance, so it sees nothing";
     case NxProblemKind::LightWithoutEffect:
         return "it is on, but " + std::string(problem.detail) + ", so it lights nothing";
     case NxProblemKind::SwitchIndex:
-        return "it has no child of that number, so it shows none; it has " + number(problem.total)
-            + (problem.total == 1 ? " child" : " children");
+        return switchText(problem);
     case NxProblemKind::DuplicateName:
-        if (problem.isShared)
-            return number(problem.count) + " more names of this group are those of several children, such as '"
-                + std::string(problem.detail) + "'";
-        return number(problem.count) + " children of the same group are called '" + std::string(problem.detail) + "'";
+        return duplicateText(problem);
     case NxProblemKind::UnusedMaterial:
         return unusedText(problem, "material");
     case NxProblemKind::UnusedTexture:

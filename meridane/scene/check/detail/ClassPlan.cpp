@@ -56,16 +56,17 @@ const ClassPlan& ClassPlans::of(NxNode& node)
     ClassPlan& plan = found->second;
     if (isNew) {
         plan.role = roleOf(node.getTypeId());
-        for (int index = 0; index < data->getNumFields(); ++index) {
-            const NxField& field = *data->getField(&node, index);
+        int index = -1;
+        for (const NxField* const field : node.getFields()) {
+            ++index;
             const NxFieldFacts& facts = data->getFacts(index);
-            if (dynamic_cast<const NxSFFilePathString*>(&field) != nullptr)
+            if (dynamic_cast<const NxSFFilePathString*>(field) != nullptr)
                 plan.files.push_back({index});
-            const FieldComponents* const components = FieldComponents::of(field);
+            const FieldComponents* const components = FieldComponents::of(*field);
             if (components == nullptr)
                 continue;
             ClassPlan::Numbers numbers{index, components, FieldRange(*components, facts),
-                dynamic_cast<const NxMField*>(&field) != nullptr, !components->isWhole(), facts.hasHardRange()};
+                dynamic_cast<const NxMField*>(field) != nullptr, !components->isWhole(), facts.hasHardRange()};
             // The indices of a mesh and the choice of a switch have checks of their own.
             if (!numbers.mayBeInfinite && (plan.role == Role::Mesh || plan.role == Role::Switch))
                 numbers.hasRange = false;

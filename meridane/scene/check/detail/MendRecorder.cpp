@@ -2,6 +2,7 @@
 
 #include "meridane/scene/fields/NxField.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace meridane {
@@ -84,8 +85,7 @@ void MendRecorder::removeChildren(NxGroup& group, const std::vector<int>& places
 
 void MendRecorder::undo()
 {
-    for (auto write = m_writes.rbegin(); write != m_writes.rend(); ++write)
-        exchange(*write);
+    std::for_each(m_writes.rbegin(), m_writes.rend(), exchange);
 }
 
 void MendRecorder::redo()
