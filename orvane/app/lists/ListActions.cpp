@@ -19,8 +19,8 @@
 
 namespace {
 
-const QString resizeTopic = QStringLiteral("listResize");
-const QString editTopic = QStringLiteral("listEdit");
+const QString listResizeTopic = QStringLiteral("listResize");
+const QString listEditTopic = QStringLiteral("listEdit");
 
 } // namespace
 
@@ -91,9 +91,9 @@ void ListActions::update()
 void ListActions::show(const orvane::Result<>& result)
 {
     if (result)
-        m_messages.clearTopic(editTopic);
+        m_messages.clearTopic(listEditTopic);
     else
-        m_messages.showMessage(MessageBar::Severity::Warning, result.error(), editTopic);
+        m_messages.showMessage(MessageBar::Severity::Warning, result.error(), listEditTopic);
 }
 
 void ListActions::insert()
@@ -220,5 +220,5 @@ void ListActions::resizeTo(int count)
     const QString number = QLocale(QLocale::English).toString(count);
     m_messages.showQuestion(
         tr("%1 is going to have %2 rows, which need a lot of memory. Go on?").arg(m_edits.listName(), number),
-        resizeTopic, tr("Make %1 Rows").arg(number), [this, count] { show(m_edits.resize(count)); });
+        listResizeTopic, tr("Make %1 Rows").arg(number), [this, count] { show(m_edits.resize(count)); });
 }

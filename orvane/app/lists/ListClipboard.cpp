@@ -22,7 +22,7 @@ namespace {
 constexpr int cellsAtOnce = 20'000;
 constexpr qsizetype charactersAtOnce = 200'000;
 
-void run(ListJob& job, bool isShort)
+void runListJob(ListJob& job, bool isShort)
 {
     if (isShort)
         job.runAll();
@@ -72,7 +72,7 @@ void ListClipboard::copyThen(bool removes)
     connect(m_copy.get(), &FileJob::finished, this, &ListClipboard::finishCopy);
     connect(m_copy.get(), &FileJob::cancelled, this, [this] { m_copy.release()->deleteLater(); });
     m_jobBar.watch(m_copy.get(), tr("Copying rows"));
-    run(*m_copy, static_cast<long long>(m_copiedRows) * (last - first + 1) <= cellsAtOnce);
+    runListJob(*m_copy, static_cast<long long>(m_copiedRows) * (last - first + 1) <= cellsAtOnce);
 }
 
 void ListClipboard::finishCopy()
@@ -115,7 +115,7 @@ void ListClipboard::paste()
     });
     connect(m_paste.get(), &FileJob::cancelled, this, [this] { m_paste.release()->deleteLater(); });
     m_jobBar.watch(m_paste.get(), tr("Reading the clipboard"));
-    run(*m_paste, text.size() <= charactersAtOnce);
+    runListJob(*m_paste, text.size() <= charactersAtOnce);
 }
 
 void ListClipboard::finishPaste()

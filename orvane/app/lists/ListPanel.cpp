@@ -37,14 +37,14 @@
 
 namespace {
 
-const QString statisticsKey = QStringLiteral("lists/statistics");
+const QString listStatisticsKey = QStringLiteral("lists/statistics");
 
-QString countText(int rows)
+QString listCountText(int rows)
 {
     return QLocale(QLocale::English).toString(rows);
 }
 
-QString typeText(const NxMField& list)
+QString listTypeText(const NxMField& list)
 {
     const QString name = orvane::toQString(list.getTypeId().getName());
     return name.startsWith(QLatin1String("MF")) ? name.mid(2) : name;
@@ -120,7 +120,7 @@ QWidget* ListPanel::buildTop()
     auto* const statistics = new QAction(tr("&Statistics"), this);
     statistics->setObjectName(QStringLiteral("listShowStatistics"));
     statistics->setCheckable(true);
-    statistics->setChecked(m_settings.value(statisticsKey, true).toBool());
+    statistics->setChecked(m_settings.value(listStatisticsKey, true).toBool());
     connect(statistics, &QAction::toggled, this, &ListPanel::showStatistics);
     auto* const menuButton = new QToolButton(top);
     menuButton->setObjectName(QStringLiteral("listMenuButton"));
@@ -286,11 +286,11 @@ void ListPanel::updateCounts()
         return;
     }
     const int count = m_model->listCount();
-    QString text = tr("%1 × %2").arg(countText(count), typeText(*list()));
+    QString text = tr("%1 × %2").arg(listCountText(count), listTypeText(*list()));
     if (!m_model->showsAll())
-        text += tr(", %1 shown").arg(countText(m_model->rowCount()));
+        text += tr(", %1 shown").arg(listCountText(m_model->rowCount()));
     if (const int selected = m_view->selectedCount(); selected > 1)
-        text += tr(", %1 selected").arg(countText(selected));
+        text += tr(", %1 selected").arg(listCountText(selected));
     m_counts->setText(text);
 }
 
@@ -301,7 +301,7 @@ void ListPanel::showMessage(const QString& message)
 
 void ListPanel::showStatistics(bool shows)
 {
-    m_settings.setValue(statisticsKey, shows);
+    m_settings.setValue(listStatisticsKey, shows);
     m_statistics->setVisible(shows);
 }
 

@@ -15,10 +15,10 @@
 
 namespace {
 
-enum Column { MinimumColumn, MaximumColumn, MeanColumn, NanColumn, ColumnCount };
+enum StatisticsColumn { MinimumColumn, MaximumColumn, MeanColumn, NanColumn, StatisticsColumnCount };
 
 /// The number for people: six digits, since sums are rounded anyway.
-QString shortNumber(double number)
+QString statisticsNumber(double number)
 {
     constexpr int digits = 6;
     return QLocale::c().toString(number, 'g', digits);
@@ -32,7 +32,7 @@ ListStatistics::ListStatistics(ListModel& model, ListView& view, JobBar& jobBar,
     , m_view(view)
     , m_jobBar(jobBar)
     , m_heading(new QLabel(this))
-    , m_table(new QTableWidget(0, ColumnCount, this))
+    , m_table(new QTableWidget(0, StatisticsColumnCount, this))
 {
     setObjectName(QStringLiteral("listStatistics"));
     auto* const layout = new QVBoxLayout(this);
@@ -123,10 +123,11 @@ void ListStatistics::show(const std::vector<ColumnStatistics>& columns)
         titles.append(m_model.columns().title(row));
         const ColumnStatistics& statistics = columns[static_cast<std::size_t>(row)];
         const bool hasNumbers = statistics.count > statistics.nanCount;
-        const std::array<QString, ColumnCount> texts{hasNumbers ? shortNumber(statistics.minimum) : QString(),
-            hasNumbers ? shortNumber(statistics.maximum) : QString(),
-            hasNumbers ? shortNumber(statistics.mean) : QString(), QString::number(statistics.nanCount)};
-        for (int column = 0; column < ColumnCount; ++column) {
+        const std::array<QString, StatisticsColumnCount> texts{
+            hasNumbers ? statisticsNumber(statistics.minimum) : QString(),
+            hasNumbers ? statisticsNumber(statistics.maximum) : QString(),
+            hasNumbers ? statisticsNumber(statistics.mean) : QString(), QString::number(statistics.nanCount)};
+        for (int column = 0; column < StatisticsColumnCount; ++column) {
             auto* const item = new QTableWidgetItem(texts.at(static_cast<std::size_t>(column)));
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
             m_table->setItem(row, column, item);

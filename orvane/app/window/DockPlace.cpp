@@ -3,9 +3,13 @@
 #include <QDockWidget>
 #include <QMainWindow>
 
-#include <algorithm>
+namespace {
 
-void orvane::placeAtBottom(QMainWindow* window, QDockWidget* dock, int height)
+constexpr int firstHeight = 250;
+
+} // namespace
+
+void orvane::placeAtBottom(QMainWindow* window, QDockWidget* dock)
 {
     QDockWidget* beside = nullptr;
     for (QDockWidget* const other : window->findChildren<QDockWidget*>(Qt::FindDirectChildrenOnly)) {
@@ -14,9 +18,8 @@ void orvane::placeAtBottom(QMainWindow* window, QDockWidget* dock, int height)
             beside = other;
     }
     window->addDockWidget(Qt::BottomDockWidgetArea, dock);
-    if (beside != nullptr) {
+    if (beside != nullptr)
         window->tabifyDockWidget(beside, dock);
-        height = std::max(height, beside->height());
-    }
-    window->resizeDocks({beside != nullptr ? beside : dock}, {height}, Qt::Vertical);
+    else
+        window->resizeDocks({dock}, {firstHeight}, Qt::Vertical);
 }

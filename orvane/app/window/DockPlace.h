@@ -5,8 +5,7 @@ class QMainWindow;
 
 namespace orvane {
 
-/// Adds a dock with wide rows to the bottom of the window. If other docks are there, they become tabs of one place,
-/// which has at least that height in pixels.
-void placeAtBottom(QMainWindow* window, QDockWidget* dock, int height = 250);
+/// Adds a dock with wide rows to the bottom of the window. If other docks are there, they become tabs of one place.
+void placeAtBottom(QMainWindow* window, QDockWidget* dock);
 
 } // namespace orvane

@@ -5,12 +5,15 @@
 #include "orvane/app/lists/ListPanel.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/window/DockHeights.h"
 #include "orvane/app/window/DockPlace.h"
 
 #include "meridane/scene/fields/NxMField.h"
 
 #include <QAction>
 #include <QMainWindow>
+
+#include <utility>
 
 ListDock::ListDock(Session& session, QMainWindow* window)
     : QDockWidget(tr("List"), window)
@@ -48,20 +51,28 @@ void ListDock::follow(FieldPanel& fields, const Inspectors& inspectors)
 void ListDock::setVisible(bool visible)
 {
     if (visible) {
-        constexpr int leastRows = 8;
         fill();
-        if (!isFloating() && m_window->dockWidgetArea(this) == Qt::NoDockWidgetArea)
-            orvane::placeAtBottom(m_window, this, m_panel->heightFor(leastRows) + titleHeight());
+        if (!isFloating() && m_window->dockWidgetArea(this) == Qt::NoDockWidgetArea) {
+            orvane::placeAtBottom(m_window, this);
+            m_isNew = true;
+        }
     }
     QDockWidget::setVisible(visible);
+    if (visible)
+        QMetaObject::invokeMethod(this, &ListDock::showLeastRows, Qt::QueuedConnection);
     // Behind the tab of another dock it would seem that nothing happened.
     if (visible && m_window->isVisible())
         raise();
 }
 
-int ListDock::titleHeight() const
+// Once the layout has its size. Later the user's choice stays.
+void ListDock::showLeastRows()
 {
-    return fontMetrics().height() + 2 * style()->pixelMetric(QStyle::PM_DockWidgetTitleMargin, nullptr, this);
+    if (!std::exchange(m_isNew, false) || isFloating() || !isVisible())
+        return;
+    const int missing = m_panel->heightFor(DockHeights::leastRows) - m_panel->height();
+    if (missing > 0)
+        m_window->resizeDocks({this}, {height() + missing}, Qt::Vertical);
 }
 
 void ListDock::fill()

@@ -29,9 +29,10 @@ public:
 
 private:
     void fill();
-    [[nodiscard]] int titleHeight() const;
+    void showLeastRows();
 
     Session& m_session;
     QMainWindow* m_window;
     ListPanel* m_panel = nullptr; // made when it is first shown
+    bool m_isNew = false; // its height hasn't been chosen
 };

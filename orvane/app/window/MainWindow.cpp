@@ -31,6 +31,7 @@
 #include "orvane/app/window/CentralArea.h"
 #include "orvane/app/window/ComparisonDock.h"
 #include "orvane/app/window/DiskChangeBar.h"
+#include "orvane/app/window/DockHeights.h"
 #include "orvane/app/window/EditMenu.h"
 #include "orvane/app/window/HelpMenu.h"
 #include "orvane/app/window/HistoryDock.h"
@@ -200,6 +201,7 @@ void MainWindow::buildDocks()
     new HistoryDock(m_session, *travel, *m_messages, this);
     auto* lists = new ListDock(m_session, this);
     lists->follow(*m_fields, *m_inspectors);
+    new DockHeights(*m_shell, m_session.services(), m_session.settings(), this);
     auto* problems = new ProblemsDock(m_session, *m_imageFolders, *m_jobBar, m_tree, this);
     connect(problems, &ProblemsDock::rowChosen, lists, &ListDock::showRow);
     new ReturnedNodes(m_session.services(), *travel, m_tree);

@@ -13,14 +13,14 @@
 
 namespace {
 
-QString quoted(std::string_view cell)
+QString quotedBriefly(std::string_view cell)
 {
     constexpr std::size_t shownBytes = 200;
     return u'"' + orvane::shortLine(orvane::toQString(cell.substr(0, shownBytes)), 40) + u'"';
 }
 
 template <typename Number>
-bool readWhole(std::string_view text, double& number)
+bool readWholeNumber(std::string_view text, double& number)
 {
     Number read = 0;
     const char* const end = text.data() + text.size();
@@ -42,7 +42,7 @@ bool readPlainNumber(std::string_view text, bool isFloat, double& number)
         withPoint[comma] = '.';
         text = withPoint;
     }
-    return isFloat ? readWhole<float>(text, number) : readWhole<double>(text, number);
+    return isFloat ? readWholeNumber<float>(text, number) : readWholeNumber<double>(text, number);
 }
 
 } // namespace
@@ -152,7 +152,7 @@ orvane::Result<> PasteJob::addNumber(std::size_t cell)
     }
     return orvane::Failure{tr("Line %1, column %2: %3 can't be pasted. %4 Nothing was pasted.")
                                .arg(m_line)
-                               .arg(m_columns.title(column), quoted(m_cells[cell]), reason)};
+                               .arg(m_columns.title(column), quotedBriefly(m_cells[cell]), reason)};
 }
 
 orvane::Result<double> PasteJob::numberOf(std::string_view text, int column) const

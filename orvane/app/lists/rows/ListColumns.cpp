@@ -17,7 +17,7 @@ namespace {
 
 using meridane::FieldComponents;
 
-ListColumns::Kind kindOf(const FieldComponents& components, bool isEnum)
+ListColumns::Kind columnKindOf(const FieldComponents& components, bool isEnum)
 {
     if (isEnum)
         return ListColumns::Kind::Choice;
@@ -35,7 +35,7 @@ ListColumns::ListColumns(NxMField& list)
     , m_count(m_components != nullptr ? m_components->count() : 1)
 {
     if (m_components != nullptr) {
-        m_kind = kindOf(*m_components, m_enums != nullptr);
+        m_kind = columnKindOf(*m_components, m_enums != nullptr);
         m_isColor = m_components->name(0) == "r";
         m_isFloat = m_components->number() == FieldComponents::Number::Float;
     } else if (m_strings != nullptr || m_names != nullptr) {

@@ -16,11 +16,11 @@
 
 namespace {
 
-constexpr qsizetype shownCharacters = 300; // of a text
-constexpr qsizetype toolTipCharacters = 1000;
+constexpr qsizetype shownCellCharacters = 300; // of a text
+constexpr qsizetype cellTipCharacters = 1000;
 
 /// The colour of the title of a component; none for those without an axis or a channel.
-QVariant titleColor(const QString& title)
+QVariant columnTitleColor(const QString& title)
 {
     using orvane::look::Tint;
     static const std::array tints{std::pair(u"x", Tint::AxisX), std::pair(u"r", Tint::AxisX),
@@ -187,7 +187,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const
         return m_columns.number(row, 0) == 1 ? Qt::Checked : Qt::Unchecked;
     case Qt::ToolTipRole:
         return isNumber ? QVariant()
-                        : orvane::plainToolTip(m_columns.text(row, index.column()).left(toolTipCharacters));
+                        : orvane::plainToolTip(m_columns.text(row, index.column()).left(cellTipCharacters));
     case SwatchRole:
         return index.column() == 0 && m_columns.isColor() ? swatch(row) : QVariant();
     default:
@@ -200,7 +200,7 @@ QString ListModel::shownText(int row, int column) const
     const QString text = m_columns.text(row, column);
     if (m_columns.kind() == ListColumns::Kind::Number)
         return text;
-    return orvane::oneLine(text.size() <= shownCharacters ? text : text.left(shownCharacters) + QChar(0x2026));
+    return orvane::oneLine(text.size() <= shownCellCharacters ? text : text.left(shownCellCharacters) + QChar(0x2026));
 }
 
 QVariant ListModel::swatch(int row) const
@@ -226,7 +226,7 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
     if (role == Qt::DisplayRole)
         return m_columns.title(section);
     if (role == Qt::ForegroundRole)
-        return titleColor(m_columns.title(section));
+        return columnTitleColor(m_columns.title(section));
     return {};
 }
 

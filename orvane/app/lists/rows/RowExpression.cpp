@@ -6,8 +6,6 @@
 #include "meridane/scene/components/FieldComponents.h"
 #include "meridane/scene/fields/NxMField.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -15,16 +13,11 @@
 namespace {
 
 /// More are divided among threads, which wait for each other by spinning.
-constexpr std::size_t rowsAtOnce = 256;
+constexpr std::size_t rowsPerEvaluation = 256;
 
-QString tr(const char* text)
+orvane::Failure failureOfRow(int row, const meridane::QueryError& error)
 {
-    return QCoreApplication::translate("RowExpression", text);
-}
-
-orvane::Failure failureOf(int row, const meridane::QueryError& error)
-{
-    return {tr("Row %1: %2").arg(row).arg(orvane::toQString(error.message))};
+    return {RowExpression::tr("Row %1: %2").arg(row).arg(orvane::toQString(error.message))};
 }
 
 } // namespace
@@ -102,12 +95,12 @@ orvane::Result<> RowExpression::evaluate(
     std::span<const std::span<const double>> columns, std::span<double> values, const RowAt& rowAt)
 {
     std::vector<std::span<const double>> parts(columns.size());
-    for (std::size_t first = 0; first < values.size(); first += rowsAtOnce) {
-        const std::size_t count = std::min(rowsAtOnce, values.size() - first);
+    for (std::size_t first = 0; first < values.size(); first += rowsPerEvaluation) {
+        const std::size_t count = std::min(rowsPerEvaluation, values.size() - first);
         std::ranges::transform(columns, parts.begin(),
             [&](std::span<const double> column) { return column.empty() ? column : column.subspan(first, count); });
         if (const auto failure = m_expression.evaluateRows(parts, values.subspan(first, count)))
-            return failureOf(rowAt(first + failure->row), failure->error);
+            return failureOfRow(rowAt(first + failure->row), failure->error);
     }
     return {};
 }

@@ -4,6 +4,7 @@
 
 #include "meridane/query/Expression.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <span>
@@ -15,6 +16,8 @@ class NxMField;
 /// A formula that is evaluated for rows of a numeric list. It knows the components of the row by their names and the
 /// number of the row as `i`.
 class RowExpression {
+    Q_DECLARE_TR_FUNCTIONS(RowExpression)
+
 public:
     /// What the value of the formula is for.
     enum class Use {

@@ -2,7 +2,6 @@
 
 #include "orvane/app/base/PlainText.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -10,16 +9,11 @@
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("RowRange", text);
-}
-
 /// Numbers beyond this are beyond every list.
 constexpr long long farthest = 1LL << 40;
 
 /// A part of a range; nothing for an empty one. Fails for what isn't a whole number.
-orvane::Result<std::optional<long long>> parsePart(const QString& text)
+orvane::Result<std::optional<long long>> parseRangePart(const QString& text)
 {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty())
@@ -31,15 +25,16 @@ orvane::Result<std::optional<long long>> parsePart(const QString& text)
     const bool hasDigitsOnly = !digits.isEmpty()
         && std::all_of(digits.begin(), digits.end(), [](QChar sign) { return sign >= u'0' && sign <= u'9'; });
     if (!hasDigitsOnly || (!isNumber && !isLong))
-        return orvane::Failure{tr("\"%1\" isn't the number of a row. Write a range such as 0:5000, 10:, -5: or ::-1.")
-                                   .arg(orvane::shortLine(trimmed, 40))};
+        return orvane::Failure{
+            RowRange::tr("\"%1\" isn't the number of a row. Write a range such as 0:5000, 10:, -5: or ::-1.")
+                .arg(orvane::shortLine(trimmed, 40))};
     if (!isNumber)
         return std::optional(trimmed.startsWith(u'-') ? -farthest : farthest);
     return std::optional(std::clamp(number, -farthest, farthest));
 }
 
 /// Of a list with `count` rows: the row that a part means, limited to `lowest` and `highest`.
-long long placeOf(
+long long rangePlaceOf(
     const std::optional<long long>& part, long long otherwise, long long count, long long lowest, long long highest)
 {
     if (!part)
@@ -60,7 +55,7 @@ orvane::Result<RowRange> RowRange::parse(const QString& text)
         return orvane::Failure{tr("A range has at most three parts: first:end:step.")};
     std::optional<long long> parts[mostParts];
     for (qsizetype part = 0; part < texts.size(); ++part) {
-        const auto parsed = parsePart(texts[part]);
+        const auto parsed = parseRangePart(texts[part]);
         if (!parsed)
             return orvane::Failure{parsed.error()};
         parts[part] = parsed.value();
@@ -85,8 +80,8 @@ RowRange::Rows RowRange::rows(int count) const
     const bool backwards = m_step < 0;
     const long long lowest = backwards ? -1 : 0;
     const long long highest = backwards ? count - 1LL : count;
-    const long long first = placeOf(m_first, backwards ? highest : lowest, count, lowest, highest);
-    const long long end = placeOf(m_end, backwards ? lowest : highest, count, lowest, highest);
+    const long long first = rangePlaceOf(m_first, backwards ? highest : lowest, count, lowest, highest);
+    const long long end = rangePlaceOf(m_end, backwards ? lowest : highest, count, lowest, highest);
     const long long length = backwards ? first - end : end - first;
     if (length <= 0)
         return {};

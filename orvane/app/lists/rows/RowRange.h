@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/Result.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <optional>
@@ -11,6 +12,8 @@
 /// It is `first:end:step`; each part may be left out. Rows count from 0, negative numbers from the end of the list. The
 /// row `end` isn't part of the range. With a negative step the rows go backwards. Parts beyond the list are cut.
 class RowRange {
+    Q_DECLARE_TR_FUNCTIONS(RowRange)
+
 public:
     /// The rows of a range in a list of a certain length: `first`, `first + step` and so on.
     struct Rows {

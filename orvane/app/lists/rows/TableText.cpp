@@ -5,35 +5,35 @@
 
 namespace {
 
-constexpr char none = 0;
+constexpr char noSeparator = 0;
 
-bool isLineEnd(char sign)
+bool isRowEnd(char sign)
 {
     return sign == '\n' || sign == '\r';
 }
 
-bool isBlank(char sign)
+bool isCellBlank(char sign)
 {
     return sign == ' ' || sign == '\t';
 }
 
-std::string_view trimmed(std::string_view text)
+std::string_view trimmedCell(std::string_view text)
 {
-    while (!text.empty() && isBlank(text.front()))
+    while (!text.empty() && isCellBlank(text.front()))
         text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
+    while (!text.empty() && isCellBlank(text.back()))
         text.remove_suffix(1);
     return text;
 }
 
 /// The first line with more than blanks.
-std::string_view firstLine(std::string_view text)
+std::string_view firstTableLine(std::string_view text)
 {
     const std::size_t begin = text.find_first_not_of(" \r\n");
     if (begin == std::string_view::npos)
         return {};
     text.remove_prefix(begin);
-    return trimmed(text.substr(0, text.find_first_of("\r\n")));
+    return trimmedCell(text.substr(0, text.find_first_of("\r\n")));
 }
 
 bool separatesWithCommas(std::string_view line)
@@ -42,7 +42,7 @@ bool separatesWithCommas(std::string_view line)
     if (comma == std::string_view::npos)
         return false;
     return line.find(',', comma + 1) != std::string_view::npos || line.find('.') != std::string_view::npos
-        || (comma + 1 < line.size() && isBlank(line[comma + 1]));
+        || (comma + 1 < line.size() && isCellBlank(line[comma + 1]));
 }
 
 } // namespace
@@ -70,13 +70,13 @@ char TableReader::findSeparator(Content content) const
     if (m_text.find('\t') != std::string::npos)
         return '\t';
     if (content == Content::Texts)
-        return none;
+        return noSeparator;
     if (m_text.find(';') != std::string::npos)
         return ';';
-    const std::string_view line = firstLine(m_text);
+    const std::string_view line = firstTableLine(m_text);
     if (separatesWithCommas(line))
         return ',';
-    return line.find(' ') != std::string_view::npos ? ' ' : none;
+    return line.find(' ') != std::string_view::npos ? ' ' : noSeparator;
 }
 
 double TableReader::share() const
@@ -96,7 +96,7 @@ bool TableReader::readRow(std::vector<std::string_view>& cells)
         cells.push_back(readCell());
         if (m_separator == ' ')
             skipBlanks();
-        const bool atEnd = m_position >= m_text.size() || isLineEnd(m_text[m_position]);
+        const bool atEnd = m_position >= m_text.size() || isRowEnd(m_text[m_position]);
         if (atEnd)
             break;
         if (m_separator != ' ')
@@ -112,26 +112,26 @@ bool TableReader::readRow(std::vector<std::string_view>& cells)
 
 void TableReader::skipBlanks()
 {
-    while (m_position < m_text.size() && isBlank(m_text[m_position]))
+    while (m_position < m_text.size() && isCellBlank(m_text[m_position]))
         ++m_position;
 }
 
 bool TableReader::isCellEnd(std::size_t position) const
 {
-    return position >= m_text.size() || isLineEnd(m_text[position])
-        || (m_separator != none && m_text[position] == m_separator);
+    return position >= m_text.size() || isRowEnd(m_text[position])
+        || (m_separator != noSeparator && m_text[position] == m_separator);
 }
 
 std::string_view TableReader::readCell()
 {
     std::string_view cell;
     if (m_position < m_text.size() && m_text[m_position] == '"' && readQuoted(cell))
-        return m_trims ? trimmed(cell) : cell;
+        return m_trims ? trimmedCell(cell) : cell;
     const std::size_t begin = m_position;
     while (!isCellEnd(m_position))
         ++m_position;
     cell = std::string_view(m_text).substr(begin, m_position - begin);
-    return m_trims ? trimmed(cell) : cell;
+    return m_trims ? trimmedCell(cell) : cell;
 }
 
 // A quote whose other half isn't at the end of a cell is an ordinary character.
