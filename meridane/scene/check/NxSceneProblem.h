@@ -44,7 +44,7 @@ struct ProblemFacts {
     std::size_t count = 1;
     std::size_t total = 1;
     std::size_t limit = 0;
-    std::string_view detail;
+    std::string_view detail = {};
     bool isShared = false; ///< by many siblings, as one problem
 };
 

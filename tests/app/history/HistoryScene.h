@@ -34,6 +34,14 @@ public:
 
     /// Ends the step of what was written.
     void finish() { HistoryWalk::settle(); }
+    /// Steps that set the hand's sfInt32 to the numbers from 1 on.
+    void setNumbers(int last)
+    {
+        for (int value = 1; value <= last; ++value) {
+            hand().sfInt32.setValue(value);
+            finish();
+        }
+    }
     /// A step that sets a field from its text form.
     void set(NxField& field, const char* text)
     {

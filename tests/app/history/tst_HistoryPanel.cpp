@@ -40,14 +40,6 @@ private:
     }
     [[nodiscard]] std::int32_t number() { return m_open->hand().sfInt32.getValue(); }
 
-    void setNumbers(int last)
-    {
-        for (int value = 1; value <= last; ++value) {
-            m_open->hand().sfInt32.setValue(value);
-            m_open->finish();
-        }
-    }
-
     /// A row without its time.
     [[nodiscard]] QString row(int row)
     {
@@ -122,7 +114,7 @@ private Q_SLOTS:
     {
         const QAbstractItemModelTester tester(model());
         QCOMPARE(rows(), QStringList({u"Now, saved|New scene||"_s}));
-        setNumbers(2);
+        m_open->setNumbers(2);
         m_open->hand().setName("fist");
         m_open->finish();
         m_open->services().setClean();
@@ -145,7 +137,7 @@ private Q_SLOTS:
 
     void aClickGoesToAState()
     {
-        setNumbers(5);
+        m_open->setNumbers(5);
         click(2);
         QTRY_COMPARE(number(), 2);
         click(0);
@@ -158,7 +150,7 @@ private Q_SLOTS:
 
     void theRightButtonOnlySelects()
     {
-        setNumbers(3);
+        m_open->setNumbers(3);
         click(1, Qt::RightButton);
         QCOMPARE(number(), 3);
         QCOMPARE(view()->currentIndex().row(), 1);
@@ -169,7 +161,7 @@ private Q_SLOTS:
 
     void returnGoesToTheStateThatTheArrowsChoose()
     {
-        setNumbers(3);
+        m_open->setNumbers(3);
         click(3);
         QTest::keyClick(view(), Qt::Key_Up);
         QTest::keyClick(view(), Qt::Key_Up);
@@ -184,7 +176,7 @@ private Q_SLOTS:
 
     void theSliderGoesThroughTime()
     {
-        setNumbers(50);
+        m_open->setNumbers(50);
         QTRY_COMPARE(slider()->maximum(), 50);
         QCOMPARE(slider()->value(), 50);
         slider()->setFocus();
@@ -201,7 +193,7 @@ private Q_SLOTS:
 
     void theSliderFollowsThePointer()
     {
-        setNumbers(50);
+        m_open->setNumbers(50);
         QTRY_COMPARE(slider()->maximum(), 50);
         const int middle = slider()->height() / 2;
         const QPoint handle(slider()->width() - 8, middle);
@@ -221,7 +213,7 @@ private Q_SLOTS:
     void rowsAreFilteredByNameAndValue()
     {
         const QAbstractItemModelTester tester(model());
-        setNumbers(12);
+        m_open->setNumbers(12);
         m_open->set(m_open->hand().sfString, "\"moon\"");
         m_open->arm().setName("leg");
         m_open->finish();
@@ -249,11 +241,11 @@ private Q_SLOTS:
     void aFilteredListFollowsTheHistory()
     {
         const QAbstractItemModelTester tester(model());
-        setNumbers(4);
+        m_open->setNumbers(4);
         m_open->set(m_open->hand().sfFloat, "9");
         filter("sfint32");
         QCOMPARE(model()->rowCount(), 4);
-        setNumbers(6);
+        m_open->setNumbers(6);
         QTRY_COMPARE(model()->rowCount(), 10);
         m_open->goTo(2);
         m_open->set(m_open->hand().sfFloat, "1");
@@ -267,7 +259,7 @@ private Q_SLOTS:
     void theListFollowsItsScene()
     {
         const QAbstractItemModelTester tester(model());
-        setNumbers(3);
+        m_open->setNumbers(3);
         m_open->services().document().close();
         m_open->services().clearHistory();
         QCOMPARE(model()->rowCount(), 1);
@@ -277,7 +269,7 @@ private Q_SLOTS:
 
     void anOlderValueIsPutBackAlone()
     {
-        setNumbers(3);
+        m_open->setNumbers(3);
         m_open->set(m_open->hand().sfFloat, "8");
         click(4);
         QVERIFY(putBack()->isEnabled());
@@ -332,7 +324,7 @@ private Q_SLOTS:
 
     void aValueOfARemovedNodeIsRefused()
     {
-        setNumbers(2);
+        m_open->setNumbers(2);
         m_open->scene().removeChild(0); // the group that holds it
         m_open->finish();
         click(2, Qt::RightButton);
@@ -378,7 +370,7 @@ private Q_SLOTS:
             QTRY_COMPARE(m_window->width(), width);
             QTRY_VERIFY(fits());
         }
-        setNumbers(40); // which need a scroll bar
+        m_open->setNumbers(40); // which need a scroll bar
         QTRY_VERIFY(view()->verticalScrollBar()->isVisible());
         QTRY_VERIFY(fits());
         // The user's own widths stay.
@@ -390,7 +382,7 @@ private Q_SLOTS:
 
     void manyStepsAreListedAtOnce()
     {
-        setNumbers(800);
+        m_open->setNumbers(800);
         QTRY_COMPARE(label("historyPlace"), u"Step 800 of 800"_s);
         QVERIFY(view()->visualRect(model()->index(800, 0)).isValid());
         click(0);
