@@ -10,7 +10,7 @@
 
 namespace {
 
-const QString favoritesKey = QStringLiteral("scene/favorites");
+const QString nodeFavoritesKey = QStringLiteral("scene/favorites");
 
 /// Neither a file's name nor a path has a line feed without its being escaped or replaced here.
 QString entryOf(const QString& fileName, const QStringList& paths)
@@ -92,20 +92,20 @@ void FavoriteNodes::store()
     const QString fileName = m_session.document().fileName();
     if (fileName.isEmpty() || fileName.contains(u'\n'))
         return;
-    QStringList entries = m_session.settings().value(favoritesKey).toStringList();
+    QStringList entries = m_session.settings().value(nodeFavoritesKey).toStringList();
     const QStringList before = entries;
     entries.removeIf([&fileName](const QString& entry) { return entry.section(u'\n', 0, 0) == fileName; });
     if (const QStringList texts = pathTexts(); !texts.isEmpty())
         entries.prepend(entryOf(fileName, texts));
     if (entries != before)
-        m_session.settings().setValue(favoritesKey, entries.mid(0, mostScenes));
+        m_session.settings().setValue(nodeFavoritesKey, entries.mid(0, mostScenes));
 }
 
 void FavoriteNodes::load()
 {
     m_favorites.clear();
     const SceneDocument& document = m_session.document();
-    const QStringList entries = m_session.settings().value(favoritesKey).toStringList();
+    const QStringList entries = m_session.settings().value(nodeFavoritesKey).toStringList();
     for (const QString& entry : entries) {
         const QStringList parts = entry.split(u'\n');
         if (!document.isOpen() || document.fileName().isEmpty() || parts.first() != document.fileName())

@@ -37,7 +37,7 @@ QString limitsText(double minimum, bool excludesMinimum, double maximum, bool ex
 }
 
 template <typename Field>
-QStringList choiceNames(const Field& field)
+QStringList enumerationNames(const Field& field)
 {
     int count = 0;
     int* values = nullptr;
@@ -52,11 +52,11 @@ QStringList choiceNames(const Field& field)
 QString choicesText(const NxField& field)
 {
     if (const auto* const mask = dynamic_cast<const NxSFBitMask*>(&field))
-        return choiceNames(*mask).join(QStringLiteral(" | "));
+        return enumerationNames(*mask).join(QStringLiteral(" | "));
     if (const auto* const choice = dynamic_cast<const NxSFEnum*>(&field))
-        return choiceNames(*choice).join(QStringLiteral(", "));
+        return enumerationNames(*choice).join(QStringLiteral(", "));
     if (const auto* const list = dynamic_cast<const NxMFEnum*>(&field))
-        return choiceNames(*list).join(QStringLiteral(", "));
+        return enumerationNames(*list).join(QStringLiteral(", "));
     return {};
 }
 
