@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::size_t chunk = std::size_t{1} << 20;
+constexpr std::size_t scannedAtOnce = std::size_t{1} << 20;
 
 } // namespace
 
@@ -73,7 +73,7 @@ void RecoveryScan::readBytes()
         failure = m_work->bytesReader.open(orvane::toStdFileName(m_work->file->fileName()));
     bool atEnd = false;
     while (!failure && !atEnd && !slice.isSpent())
-        failure = m_work->bytesReader.read(m_work->bytes, chunk, atEnd);
+        failure = m_work->bytesReader.read(m_work->bytes, scannedAtOnce, atEnd);
     if (failure)
         end(orvane::toQString(*failure));
     else if (atEnd)
