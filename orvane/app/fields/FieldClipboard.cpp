@@ -14,6 +14,7 @@
 
 #include <QCoreApplication>
 #include <QDataStream>
+#include <QIODevice>
 #include <QMimeData>
 #include <QStringList>
 #include <QTextDocumentFragment>

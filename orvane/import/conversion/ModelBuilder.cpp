@@ -254,7 +254,10 @@ std::string ModelBuilder::addImageFile(std::string bytes)
 {
     const std::string stem = m_imageName + "_" + fingerprintText(bytes);
     for (int number = 1;; ++number) {
-        std::string name = stem + (number == 1 ? "" : "_" + std::to_string(number)) + ".png";
+        std::string name = stem;
+        if (number > 1)
+            name.append("_").append(std::to_string(number));
+        name += ".png";
         const auto present = std::find_if(
             m_imageFiles.begin(), m_imageFiles.end(), [&](const NamedFile& file) { return file.name == name; });
         if (present == m_imageFiles.end()) {

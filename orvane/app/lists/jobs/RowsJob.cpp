@@ -51,10 +51,14 @@ bool RowsJob::runPart()
     switch (m_phase) {
     case Phase::Filter:
         return filterPart();
+    case Phase::List:
+        return listPart();
     case Phase::Keys:
         return keysPart();
     case Phase::Sort:
         return sortPart();
+    case Phase::Gather:
+        return gatherPart();
     case Phase::Done:
         break;
     }
@@ -69,10 +73,13 @@ double RowsJob::share() const
     switch (m_phase) {
     case Phase::Filter:
         return part * filters / (filters + sorts);
+    case Phase::List:
+        return 0;
     case Phase::Keys:
         return (filters + part / 2) / (filters + sorts);
     case Phase::Sort:
         return (filters + 0.5 + 1.5 * std::max(m_numberSort.share(), m_textSort.share())) / (filters + sorts);
+    case Phase::Gather:
     case Phase::Done:
         break;
     }
@@ -82,9 +89,7 @@ double RowsJob::share() const
 bool RowsJob::filterPart()
 {
     if (!m_filter) {
-        if (m_order.column >= 0)
-            listRows();
-        beginSort();
+        m_phase = m_order.column >= 0 ? Phase::List : Phase::Done;
         return m_phase != Phase::Done;
     }
     m_isListed = true;
@@ -111,13 +116,16 @@ bool RowsJob::filterPart()
     return m_phase != Phase::Done;
 }
 
-void RowsJob::listRows()
+bool RowsJob::listPart()
 {
     const RowMap range(m_range);
-    m_rows.resize(static_cast<std::size_t>(m_range.count));
-    for (int place = 0; place < m_range.count; ++place)
-        m_rows[static_cast<std::size_t>(place)] = range.listRow(place);
+    m_rows.reserve(static_cast<std::size_t>(m_range.count));
+    for (int i = 0; i < rowsPerPart && std::ssize(m_rows) < m_range.count; ++i)
+        m_rows.push_back(range.listRow(static_cast<int>(m_rows.size())));
     m_isListed = true;
+    if (std::ssize(m_rows) == m_range.count)
+        beginSort();
+    return true;
 }
 
 void RowsJob::beginSort()
@@ -169,14 +177,27 @@ bool RowsJob::sortPart()
     };
     if (m_columns.isNumeric() ? m_numberSort.runPart(numberLess) : m_textSort.runPart(textLess))
         return true;
+    m_phase = Phase::Gather;
+    m_sorted.reserve(m_rows.size());
+    return true;
+}
+
+bool RowsJob::gatherPart()
+{
+    const std::size_t stop = std::min(m_rows.size(), m_sorted.size() + rowsPerPart);
+    const std::size_t ordered = m_rows.size() - m_last.size();
+    while (m_sorted.size() < stop) {
+        const std::size_t place = m_sorted.size();
+        if (place >= ordered)
+            m_sorted.push_back(m_last[place - ordered]);
+        else if (m_columns.isNumeric())
+            m_sorted.push_back(m_numberSort.items()[place].row);
+        else
+            m_sorted.push_back(m_rows[static_cast<std::size_t>(m_textSort.items()[place])]);
+    }
+    if (stop < m_rows.size())
+        return true;
     m_phase = Phase::Done;
-    std::vector<int> sorted;
-    sorted.reserve(m_rows.size());
-    for (const NumberKey& key : m_numberSort.items())
-        sorted.push_back(key.row);
-    for (const int place : m_textSort.items())
-        sorted.push_back(m_rows[static_cast<std::size_t>(place)]);
-    sorted.insert(sorted.end(), m_last.begin(), m_last.end());
-    m_rows = std::move(sorted);
+    m_rows.swap(m_sorted);
     return false;
 }

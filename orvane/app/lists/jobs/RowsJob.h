@@ -39,7 +39,7 @@ public:
     [[nodiscard]] RowMap takeMap();
 
 private:
-    enum class Phase { Filter, Keys, Sort, Done };
+    enum class Phase { Filter, List, Keys, Sort, Gather, Done };
     struct NumberKey {
         double key;
         int row;
@@ -48,9 +48,10 @@ private:
     bool runPart() override;
     [[nodiscard]] double share() const override;
     bool filterPart();
+    bool listPart();
     bool keysPart();
     bool sortPart();
-    void listRows();
+    bool gatherPart();
     void beginSort();
 
     NxMField& m_list;
@@ -62,12 +63,13 @@ private:
     Phase m_phase = Phase::Filter;
     int m_next; // row of the list to be filtered, or place in `m_rows` whose key is read
     int m_end;
-    std::vector<int> m_rows; // that pass, then sorted
+    std::vector<int> m_rows; // that pass; at the end sorted
     bool m_isListed = false; // `m_rows` are the result, not the range
     std::vector<int> m_last; // rows with NaN
     std::vector<NumberKey> m_keys;
     SliceSort<NumberKey> m_numberSort;
     std::vector<QCollatorSortKey> m_textKeys; // by place in `m_rows`
     SliceSort<int> m_textSort; // of places
+    std::vector<int> m_sorted; // rows, while they are gathered
     QCollator m_collator;
 };
