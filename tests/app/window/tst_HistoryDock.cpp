@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QMenu>
+#include <QTableView>
 
 /// The dock of the history in the window.
 class TestHistoryDock : public RobotWindowCase {

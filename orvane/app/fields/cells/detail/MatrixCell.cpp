@@ -45,7 +45,7 @@ QString matrixText(const NxField& field)
     const orvane::MatrixDecomposition decomposition = orvane::decomposed(matrix);
     if (decomposition.rest != MatrixRest::None) {
         constexpr int shownCharacters = 200;
-        const QString elements = orvane::beginningOf(field, shownCharacters);
+        QString elements = orvane::beginningOf(field, shownCharacters);
         switch (decomposition.rest) {
         case MatrixRest::Shear:
             return matrixWord("with shear: %1").arg(elements);
