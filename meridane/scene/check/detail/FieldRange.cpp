@@ -16,6 +16,13 @@ std::string numberText(double number)
     return text;
 }
 
+/// The number as a float keeps it. GCC 12 drops the conversion of two numbers that follow each other in memory, unless
+/// it is in a function of its own.
+[[gnu::noinline]] double asFloat(double number)
+{
+    return static_cast<double>(static_cast<float>(number));
+}
+
 } // namespace
 
 FieldRange::FieldRange(const FieldComponents& components, const NxFieldFacts& facts)
@@ -23,8 +30,8 @@ FieldRange::FieldRange(const FieldComponents& components, const NxFieldFacts& fa
 {
     if (components.number() == FieldComponents::Number::Float) {
         // Half of pi as a float is greater than as a double.
-        m_facts.hardMinimum = static_cast<double>(static_cast<float>(facts.hardMinimum));
-        m_facts.hardMaximum = static_cast<double>(static_cast<float>(facts.hardMaximum));
+        m_facts.hardMinimum = asFloat(facts.hardMinimum);
+        m_facts.hardMaximum = asFloat(facts.hardMaximum);
     }
     // In a rotation it holds for the angle alone.
     const int last = components.count() - 1;
