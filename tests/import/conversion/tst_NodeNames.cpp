@@ -159,7 +159,8 @@ private Q_SLOTS:
         ReadModels models;
         const NxRef<NxGroup> scene = models.read("model.fbx",
             fbx::model({{"arm", pivots},
-                {"hand", fbx::vector("RotationPivot", "1,0,0") + fbx::vector("Lcl Rotation", "0,45,0")}}));
+                           {"hand", fbx::vector("RotationPivot", "1,0,0") + fbx::vector("Lcl Rotation", "0,45,0")}},
+                fbx::space("1", "2", "1", "0", "100")));
         QVERIFY2(scene, qPrintable(models.message()));
         const std::vector<NxTransform*> transforms = ReadModels::all<NxTransform>(*scene);
         QCOMPARE(transforms.size(), std::size_t(2));
