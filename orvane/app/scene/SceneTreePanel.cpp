@@ -2,10 +2,10 @@
 
 #include "orvane/app/scene/NodeSelection.h"
 #include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/scene/SceneTreeView.h"
 
 #include <QAction>
 #include <QHeaderView>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -20,7 +20,7 @@ constexpr int mostUnfolded = 20;
 SceneTreePanel::SceneTreePanel(QWidget* parent)
     : QWidget(parent)
     , m_model(new SceneTreeModel(this))
-    , m_view(new QTreeView(this))
+    , m_view(new SceneTreeView(this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

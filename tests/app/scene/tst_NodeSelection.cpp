@@ -105,9 +105,10 @@ private Q_SLOTS:
         AppScenes::runSensors();
         QCOMPARE(selected(), Nodes{arm});
         QCOMPARE(m_panel->selectedNode(), arm);
-        group->removeChild(0);
+        group->removeChild(0); // the last one that is selected
         AppScenes::runSensors();
-        QVERIFY(selected().empty());
+        QCOMPARE(selected(), Nodes{robot(0)});
+        QVERIFY(robot(0) != arm);
         m_panel->setScene(nullptr);
         QVERIFY(selected().empty());
     }
