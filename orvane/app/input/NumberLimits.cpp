@@ -78,7 +78,7 @@ QString NumberLimits::outOfReach(const QString& problem, const QString& boundTex
 
 QString NumberLimits::description() const
 {
-    const QString kind = isWhole ? tr("a whole number") : tr("a number");
+    QString kind = isWhole ? tr("a whole number") : tr("a number");
     const bool hasMinimum = hardMinimum > -beyondReach;
     const bool hasMaximum = hardMaximum < beyondReach;
     if (hasMinimum && hasMaximum)

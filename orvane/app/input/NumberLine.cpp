@@ -149,7 +149,7 @@ QString NumberLine::refusal()
     if (!number)
         return tr("%1 Enter %2 or a formula.").arg(number.error(), m_limits.description());
     if (number.value()) {
-        if (const QString why = m_limits.refusal(*number.value()); !why.isEmpty())
+        if (QString why = m_limits.refusal(*number.value()); !why.isEmpty())
             return why;
     }
     m_expression = expression.value();

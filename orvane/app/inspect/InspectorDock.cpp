@@ -11,6 +11,7 @@
 
 #include "meridane/scene/fields/NxField.h"
 
+#include <QHBoxLayout>
 #include <QKeyEvent>
 
 InspectorDock::InspectorDock(int number, Session& session, SceneTreePanel* tree, QWidget* parent)

@@ -18,6 +18,7 @@
 #include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
 
+#include <QHBoxLayout>
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QToolBar>

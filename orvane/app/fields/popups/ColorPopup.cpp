@@ -111,8 +111,8 @@ void ColorPopup::addNumberLine(
     edit->setObjectName(QStringLiteral("colorLine%1").arg(line));
     orvane::NumberLimits limits;
     limits.softMinimum = 0;
-    limits.softMaximum = line == Hue ? 360 : 1;
-    limits.step = line == Hue ? 1 : 0.01;
+    limits.softMaximum = line == Hue ? 360.0 : 1.0;
+    limits.step = line == Hue ? 1.0 : 0.01;
     if (line >= Hue) {
         limits.hardMinimum = 0;
         limits.hardMaximum = line == Value ? orvane::NumberLimits::none : limits.softMaximum;
@@ -161,9 +161,8 @@ void ColorPopup::addEyedropper(QGridLayout* grid)
         if (!m_eyedropper->start())
             InputMessage::showFor(button, tr("The colours of the screen can't be read here."));
     });
-    connect(m_eyedropper, &Eyedropper::hovered, this, [this](const QColor& color) {
-        m_swatches->setNow({color.redF(), color.greenF(), color.blueF(), m_color[3]});
-    });
+    connect(m_eyedropper, &Eyedropper::hovered, this,
+        [this](const QColor& color) { m_swatches->setNow(componentsOf(color)); });
     connect(m_eyedropper, &Eyedropper::picked, this, &ColorPopup::pick);
     connect(m_eyedropper, &Eyedropper::cancelled, this, &ColorPopup::showColor);
 }
@@ -220,9 +219,16 @@ void ColorPopup::takeHue(const orvane::HueNumbers& color)
     Q_EMIT colorChanged(m_color);
 }
 
+// With the opacity of the present colour.
+orvane::ColorNumbers ColorPopup::componentsOf(const QColor& color) const
+{
+    return {static_cast<double>(color.redF()), static_cast<double>(color.greenF()), static_cast<double>(color.blueF()),
+        m_color[3]};
+}
+
 void ColorPopup::pick(const QColor& color)
 {
-    take({color.redF(), color.greenF(), color.blueF(), m_color[3]});
+    take(componentsOf(color));
 }
 
 void ColorPopup::showColor()

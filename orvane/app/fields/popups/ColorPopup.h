@@ -38,6 +38,7 @@ private:
     void addEyedropper(QGridLayout* grid);
     void acceptHex();
     void takeNumber(Line line, double number);
+    [[nodiscard]] orvane::ColorNumbers componentsOf(const QColor& color) const;
     void take(const orvane::ColorNumbers& color);
     void takeHue(const orvane::HueNumbers& color);
     void pick(const QColor& color);

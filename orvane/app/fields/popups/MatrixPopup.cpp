@@ -64,6 +64,7 @@ MatrixPopup::MatrixPopup(QWidget* parent)
     form->setSpacing(unit);
     for (int row = 0; row < 4; ++row) {
         std::vector<NumberRow::Component> columns;
+        columns.reserve(4);
         for (int column = 0; column < 4; ++column)
             columns.push_back({{}, {}, tr("Row %1, column %2").arg(row).arg(column)});
         auto* const line = addRow(new NumberRow(columns, &orvane::floatText, this));
