@@ -172,6 +172,16 @@ def contract_is_documented(project, sources, includes):
             yield f"docs/contract.md names {file} {function}, which doesn't exist"
 
 
+def features_are_tested(project, sources, includes):
+    """The tests that are named in docs/features.md exist."""
+    page = (project / "docs" / "features.md").read_text()
+    for place, function in re.findall(r"^\| .+ \| .+ \| `([\w/]+)` `(\w+)` \|$", page, re.MULTILINE):
+        folder, name = place.rsplit("/", 1)
+        path = project / "tests" / folder / f"tst_{name}.cpp"
+        if not path.exists() or not re.search(rf"void (\w+::)?{function}\(\)\s*{{", path.read_text()):
+            yield f"docs/features.md names {place} {function}, which doesn't exist"
+
+
 def strongly_connected(edges):
     """The strongly connected parts of a graph, found by Tarjan's algorithm without recursion."""
     index, low, stack, on_stack, parts = {}, {}, [], set(), []
@@ -206,7 +216,7 @@ def strongly_connected(edges):
 
 
 RULES = [folders_hold_few_files, files_are_short, rooms_are_layered, private_headers_stay_private, units_include_no_circles,
-         contract_is_documented]
+         contract_is_documented, features_are_tested]
 
 
 def main():
