@@ -50,12 +50,17 @@ FieldActions::FieldActions(OrvServices& services, FieldWriter& writer, FieldTabl
     , m_reset(add(tr("&Reset to Default"), {Qt::CTRL | Qt::Key_Backspace}, &FieldActions::reset))
     , m_ignore(add(tr("I&gnore"), {Qt::CTRL | Qt::ALT | Qt::Key_I}, &FieldActions::toggleIgnored))
     , m_favorite(add(tr("&Favorite"), {Qt::CTRL | Qt::Key_B}, nullptr))
+    , m_defer(add(tr("&Write When Done"), {Qt::CTRL | Qt::ALT | Qt::Key_W}, nullptr))
     , m_findSame(
           add(tr("Select &Nodes with This Value"), {Qt::CTRL | Qt::ALT | Qt::Key_F}, &FieldActions::findSameValue))
 {
     m_ignore->setCheckable(true);
     m_favorite->setCheckable(true);
+    m_defer->setCheckable(true);
+    m_defer->setStatusTip(
+        tr("While you drag, step or use a popup, the value is only shown; it is written when you are done."));
     connect(m_favorite, &QAction::triggered, this, [this] { Q_EMIT favoriteToggled(current()); });
+    connect(m_defer, &QAction::triggered, this, [this] { Q_EMIT deferralToggled(current(), !isDeferred()); });
     view->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(view, &QWidget::customContextMenuRequested, this, &FieldActions::showMenu);
 }
@@ -82,6 +87,12 @@ FieldSet FieldActions::fields() const
     return m_model->fieldSet(current());
 }
 
+bool FieldActions::isDeferred() const
+{
+    const FieldSet set = fields();
+    return !set.isEmpty() && m_writer.isDeferred(FieldSet(set.first())); // however many there are
+}
+
 QString FieldActions::nodes() const
 {
     return m_model->nodeCount() == 1 ? orvane::nodeName(*m_model->node()) : tr("%1 nodes").arg(m_model->nodeCount());
@@ -98,7 +109,7 @@ void FieldActions::showMenu(const QPoint& place)
     menu.addSeparator();
     menu.addActions({m_copyAll, m_copyGroup, m_pasteAll});
     menu.addSeparator();
-    menu.addActions({m_reset, m_ignore, m_favorite});
+    menu.addActions({m_reset, m_ignore, m_favorite, m_defer});
     menu.addSeparator();
     menu.addActions({m_findSame});
     menu.exec(m_view->viewport()->mapToGlobal(place));
@@ -117,6 +128,8 @@ void FieldActions::update()
     m_reset->setEnabled(hasField && set.isChanged());
     m_findSame->setEnabled(hasField && !set.isMixed());
     m_ignore->setChecked(hasField && set.isIgnored());
+    m_defer->setEnabled(hasField && !row->isList());
+    m_defer->setChecked(isDeferred());
     m_favorite->setChecked(current().data(FieldRoles::FavoriteRole).toBool());
 }
 

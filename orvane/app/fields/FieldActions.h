@@ -26,6 +26,8 @@ Q_SIGNALS:
     void failed(const QString& message);
     /// The field of that row is to be made a favourite, or no favourite any more.
     void favoriteToggled(const QModelIndex& index);
+    /// The field of that row is to be written only when its edit is done, or at once.
+    void deferralToggled(const QModelIndex& index, bool deferred);
     /// These nodes, two at least, have the value that was looked for.
     void nodesFound(const std::vector<NxNode*>& nodes);
 
@@ -35,6 +37,7 @@ private:
     void update();
     [[nodiscard]] QModelIndex current() const;
     [[nodiscard]] FieldSet fields() const;
+    [[nodiscard]] bool isDeferred() const;
     [[nodiscard]] QString nodes() const;
 
     void edit();
@@ -65,5 +68,6 @@ private:
     QAction* m_reset;
     QAction* m_ignore;
     QAction* m_favorite;
+    QAction* m_defer;
     QAction* m_findSame;
 };

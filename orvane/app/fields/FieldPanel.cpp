@@ -57,6 +57,12 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     connect(actions, &FieldActions::nodesFound, this, &FieldPanel::nodesFound);
     connect(actions, &FieldActions::failed, this, &FieldPanel::showFailure);
     connect(actions, &FieldActions::favoriteToggled, this, &FieldPanel::toggleFavorite);
+    connect(actions, &FieldActions::deferralToggled, this, &FieldPanel::setDeferred);
+    connect(&m_writer, &FieldWriter::failed, this, &FieldPanel::showFailure);
+    m_writer.setDeferral([this](const NxField& first) {
+        const FieldRow* const row = m_model->row(m_model->indexOf(&first));
+        return row != nullptr && m_settings.isDeferred(orvane::favoriteKey(*row));
+    });
     setFocusProxy(m_view);
 }
 
@@ -260,6 +266,13 @@ void FieldPanel::toggleFavorite(const QModelIndex& index)
         return;
     m_settings.setFavorite(orvane::favoriteKey(*row), !index.data(FieldRoles::FavoriteRole).toBool());
     changeRows([this] { m_model->setFavorites(m_settings.favorites()); });
+}
+
+void FieldPanel::setDeferred(const QModelIndex& index, bool deferred)
+{
+    const FieldRow* const row = m_model->row(index);
+    if (row != nullptr && !row->fields().isEmpty() && !row->isList())
+        m_settings.setDeferred(orvane::favoriteKey(*row), deferred);
 }
 
 void FieldPanel::showFailure(const QString& message)

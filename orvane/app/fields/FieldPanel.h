@@ -54,6 +54,8 @@ public:
     [[nodiscard]] QHBoxLayout* headingTools() const noexcept { return m_tools; }
     /// Makes the field of a row a favourite, or no favourite.
     void toggleFavorite(const QModelIndex& index);
+    /// Sets whether the field of a row is written only when its edit is done.
+    void setDeferred(const QModelIndex& index, bool deferred);
     /// Shows why something couldn't be done beside the current row.
     void showFailure(const QString& message);
 

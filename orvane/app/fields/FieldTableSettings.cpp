@@ -9,6 +9,7 @@
 namespace {
 
 const QString favoritesKey = QStringLiteral("fieldTable/favorites");
+const QString deferredKey = QStringLiteral("fieldTable/deferred");
 const QString foldedKey = QStringLiteral("fieldTable/folded");
 const QString typeShownKey = QStringLiteral("fieldTable/typeShown");
 constexpr int widestColumn = 10'000;
@@ -29,6 +30,16 @@ QSet<QString> FieldTableSettings::favorites() const
 void FieldTableSettings::setFavorite(const QString& key, bool favorite)
 {
     change(favoritesKey, key, favorite);
+}
+
+bool FieldTableSettings::isDeferred(const QString& key) const
+{
+    return m_settings.value(deferredKey).toStringList().contains(key);
+}
+
+void FieldTableSettings::setDeferred(const QString& key, bool deferred)
+{
+    change(deferredKey, key, deferred);
 }
 
 bool FieldTableSettings::isFolded(const QString& key) const

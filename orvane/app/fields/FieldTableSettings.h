@@ -18,6 +18,10 @@ public:
     [[nodiscard]] QSet<QString> favorites() const;
     void setFavorite(const QString& key, bool favorite);
 
+    /// Whether the field with that key, see `orvane::favoriteKey`, is written only when its edit is done.
+    [[nodiscard]] bool isDeferred(const QString& key) const;
+    void setDeferred(const QString& key, bool deferred);
+
     /// Whether the group with that key is folded.
     [[nodiscard]] bool isFolded(const QString& key) const;
     void setFolded(const QString& key, bool folded);

@@ -7,6 +7,8 @@
 #include "orvane/app/fields/editors/CellEditor.h"
 #include "orvane/app/fields/editors/CellServices.h"
 #include "orvane/app/fields/editors/FieldAt.h"
+#include "orvane/app/fields/editors/PendingText.h"
+#include "orvane/app/fields/values/FieldWriter.h"
 #include "orvane/app/look/Look.h"
 
 #include "meridane/scene/fields/NxSField.h"
@@ -18,6 +20,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStatusTipEvent>
 #include <QToolTip>
 #include <QTreeView>
 
@@ -47,11 +50,23 @@ ValueDelegate::ValueDelegate(QAbstractItemView* view, FieldWriter& writer, AppSe
     , m_services(std::make_unique<CellServices>(writer, settings))
 {
     connect(m_services.get(), &CellServices::changed, view->viewport(), qOverload<>(&QWidget::update));
+    connect(&writer, &FieldWriter::pendingChanged, this, &ValueDelegate::showPending);
     view->viewport()->setAcceptDrops(true);
     view->viewport()->installEventFilter(this);
 }
 
 ValueDelegate::~ValueDelegate() = default;
+
+void ValueDelegate::showPending()
+{
+    if (m_view == nullptr)
+        return;
+    m_view->viewport()->update();
+    // No tool tip is shown during a drag; the window says it in its status bar.
+    const bool isPending = m_services->writer().isPending();
+    QStatusTipEvent tip(isPending ? orvane::pendingText() : QString());
+    QCoreApplication::sendEvent(m_view, &tip);
+}
 
 QRect ValueDelegate::areaOf(const QWidget& view, const QRect& cell)
 {
@@ -68,6 +83,17 @@ void ValueDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     panel.index = index;
     m_view->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &panel, painter, m_view);
 
+    const CellPaint cell = cellPaint(option, index);
+    painter->save();
+    painter->setClipRect(option.rect, Qt::IntersectClip);
+    orvane::cellOf(fields->first()).paint(*painter, cell, m_services->writer().pending(*fields));
+    painter->restore();
+}
+
+CellPaint ValueDelegate::cellPaint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const FieldWriter& writer = m_services->writer();
+    const FieldSet& fields = *shownFields(index);
     CellPaint cell;
     cell.area = areaOf(*m_view, option.rect);
     const QVariant font = index.data(Qt::FontRole);
@@ -79,14 +105,16 @@ void ValueDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     cell.text = option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
     if (const QVariant color = index.data(Qt::ForegroundRole); color.isValid() && !isSelected)
         cell.text = color.value<QBrush>().color();
-    cell.isMixed = fields->count() > 1 && index.data(FieldRoles::MixedRole).toBool();
+    cell.isMixed = fields.count() > 1 && index.data(FieldRoles::MixedRole).toBool();
+    if (writer.isPending(fields)) {
+        cell.font.setItalic(true);
+        cell.text = orvane::look::quietColor(cell.text, cell.background);
+        cell.isMixed = writer.pending(fields).isMixed();
+    }
     cell.isEnabled = group != QPalette::Disabled;
     cell.view = m_view;
     cell.services = m_services.get();
-    painter->save();
-    painter->setClipRect(option.rect, Qt::IntersectClip);
-    orvane::cellOf(fields->first()).paint(*painter, cell, *fields);
-    painter->restore();
+    return cell;
 }
 
 QSize ValueDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
@@ -264,7 +292,8 @@ bool ValueDelegate::helpEvent(
     if (event->type() != QEvent::ToolTip || fields == nullptr)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
     const ValueCell& cell = orvane::cellOf(fields->first());
-    const QString own = cell.toolTip(*fields, *m_services);
+    const bool isPending = m_services->writer().isPending(*fields);
+    const QString own = isPending ? orvane::pendingText() : cell.toolTip(*fields, *m_services);
     const QString tip = index.data(Qt::ToolTipRole).toString();
     if (own.isEmpty())
         return QStyledItemDelegate::helpEvent(event, view, option, index);

@@ -15,6 +15,7 @@ class FieldSet;
 class FieldWriter;
 class QAbstractItemView;
 class ValueCell;
+struct CellPaint;
 
 /// Shows and edits the values of fields in a column of a view, each with its kind of cell.
 ///
@@ -60,6 +61,8 @@ private:
         QPoint position;
     };
 
+    void showPending();
+    [[nodiscard]] CellPaint cellPaint(const QStyleOptionViewItem& option, const QModelIndex& index) const;
     void handleClick(const QModelIndex& index, const QRect& area, const QPoint& position);
     void close(CellEditor* editor, const QPersistentModelIndex& index, int next);
     void editBeside(const QModelIndex& index, int part, int step);

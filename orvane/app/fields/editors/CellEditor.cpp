@@ -1,7 +1,9 @@
 #include "orvane/app/fields/editors/CellEditor.h"
 
 #include "orvane/app/fields/editors/CellServices.h"
-#include "orvane/app/fields/values/FieldRoles.h"
+#include "orvane/app/fields/editors/FieldAt.h"
+#include "orvane/app/fields/editors/PendingText.h"
+#include "orvane/app/fields/values/FieldWriter.h"
 
 CellEditor::CellEditor(const CellEdit& edit, QWidget* parent)
     : QWidget(parent)
@@ -15,8 +17,14 @@ CellEditor::CellEditor(const CellEdit& edit, QWidget* parent)
 
 FieldSet CellEditor::fields() const
 {
-    const auto* const fields = m_edit.index.data(FieldRoles::FieldSetRole).value<const FieldSet*>();
-    return fields != nullptr ? *fields : FieldSet();
+    return writer().pending(orvane::fieldsOf(m_edit.index));
+}
+
+bool CellEditor::showPending()
+{
+    const bool isPending = writer().isPending(fields());
+    setToolTip(isPending ? orvane::pendingText() : QString());
+    return isPending;
 }
 
 FieldWriter& CellEditor::writer() const

@@ -21,7 +21,7 @@ public:
     CellEditor(const CellEdit& edit, QWidget* parent);
 
     [[nodiscard]] int part() const noexcept { return m_edit.part; }
-    /// The fields of the cell, as the table has them now.
+    /// The fields of the cell, as the table has them now; while their edit is deferred, those with the pending values.
     [[nodiscard]] FieldSet fields() const;
 
     /// Shows the present value, unless the user is typing.
@@ -35,6 +35,8 @@ protected:
     [[nodiscard]] const CellEdit& edit() const noexcept { return m_edit; }
     [[nodiscard]] CellServices& services() const noexcept { return *m_edit.services; }
     [[nodiscard]] FieldWriter& writer() const;
+    /// Says in a tool tip whether what is shown is still to be written, and returns it.
+    bool showPending();
 
     /// Emits `finished`, once.
     void finish(Next next = Next::Nothing);

@@ -111,6 +111,9 @@ void NumberEditor::show()
         m_line->setMixed(tr("several values"));
     else
         m_line->setValue(first, m_number.text(set.first()));
+    QFont font = m_line->font();
+    font.setItalic(showPending());
+    m_line->setFont(font);
     m_line->selectAll();
 }
 

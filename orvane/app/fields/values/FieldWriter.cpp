@@ -17,6 +17,8 @@
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldData.h"
 
+#include <QSignalBlocker>
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -31,6 +33,7 @@ FieldWriter::FieldWriter(OrvServices& services, QObject* parent)
 
 FieldWriter::~FieldWriter()
 {
+    const QSignalBlocker blocker(this); // who listens may be half destroyed
     end();
 }
 
@@ -42,12 +45,12 @@ orvane::Result<> FieldWriter::setText(const FieldSet& fields, const QString& tex
     const FieldTrial trial(fields.first());
     NxField* const spare = trial.field();
     if (spare != nullptr && !spare->set(value))
-        return orvane::Failure{orvane::refusedText(fields.first(), text)};
+        return orvane::Failure{orvane::refusedText(original(fields).first(), text)};
     const auto result = write(fields, [&](NxField& field, std::size_t /*number*/) {
         return spare != nullptr ? field.copyFrom(*spare) : field.set(value);
     });
     if (!result && spare == nullptr)
-        return orvane::Failure{orvane::refusedText(fields.first(), text)};
+        return orvane::Failure{orvane::refusedText(original(fields).first(), text)};
     return result;
 }
 
@@ -58,14 +61,15 @@ orvane::Result<> FieldWriter::setNumber(const FieldSet& fields, int component, c
         return orvane::Failure{tr("%1 doesn't consist of numbers.").arg(fields.name())};
     std::vector<double> values;
     values.reserve(fields.fields().size());
-    for (const NxField* const field : fields.fields()) {
+    const std::span<NxField* const> named = original(fields).fields();
+    for (const NxField* const field : pending(fields).fields()) {
         const auto value = expression.evaluate(components->get(*field, 0, component));
         const auto* const number = std::get_if<double>(&value);
         const std::optional<std::string> refusal
             = number == nullptr ? std::get<meridane::QueryError>(value).message : components->refusal(*number);
         QString reason = orvane::toQString(refusal.value_or(std::string()));
         if (!reason.isEmpty() && fields.count() > 1)
-            reason = tr("%1: %2").arg(orvane::nodeName(*field->getContainer()), reason);
+            reason = tr("%1: %2").arg(orvane::nodeName(*named[values.size()]->getContainer()), reason);
         if (!reason.isEmpty())
             return orvane::Failure{tr("\"%1\" can't be taken. %2").arg(orvane::toQString(expression.text()), reason)};
         values.push_back(*number);
@@ -79,8 +83,9 @@ orvane::Result<> FieldWriter::copy(const FieldSet& fields, const NxField& source
     if (fields.isEmpty())
         return orvane::Failure{tr("There is no field to set.")};
     if (source.getTypeId() != fields.first().getTypeId()) {
-        return orvane::Failure{tr("%1 is a field of type %2; a value of type %3 can't be copied to it.")
-                                   .arg(fields.name(), orvane::typeName(fields.first()), orvane::typeName(source))};
+        return orvane::Failure{
+            tr("%1 is a field of type %2; a value of type %3 can't be copied to it.")
+                .arg(original(fields).name(), orvane::typeName(fields.first()), orvane::typeName(source))};
     }
     return write(fields, [&source](NxField& field, std::size_t /*number*/) { return field.copyFrom(source); });
 }
@@ -148,17 +153,26 @@ orvane::Result<> FieldWriter::change(const FieldSet& fields, const std::function
 orvane::Result<> FieldWriter::write(const FieldSet& fields, Write write, const QString& label)
 {
     bool done = false;
-    auto command = std::make_unique<FieldWriteCommand>(fields, std::move(write), done);
-    if (isLive() && fields == m_live) {
+    const FieldSet named = original(fields);
+    auto command = std::make_unique<FieldWriteCommand>(pending(named), std::move(write), done);
+    if (isLive() && named == m_live) {
         command->execute(); // `end` makes the step
     } else {
         end();
         push(std::move(command), label);
     }
     if (!done)
-        return orvane::Failure{tr("%1 can't be changed: the values don't fit in memory.").arg(fields.name())};
-    Q_EMIT written(fields);
+        return orvane::Failure{tr("%1 can't be changed: the values don't fit in memory.").arg(named.name())};
+    announce(named);
     return {};
+}
+
+void FieldWriter::announce(const FieldSet& fields)
+{
+    if (isPending(fields))
+        Q_EMIT pendingChanged();
+    else
+        Q_EMIT written(fields);
 }
 
 void FieldWriter::push(std::unique_ptr<OrvCommand> command, const QString& label)
@@ -175,20 +189,70 @@ void FieldWriter::push(std::unique_ptr<OrvCommand> command, const QString& label
 
 orvane::Result<> FieldWriter::begin(const FieldSet& fields)
 {
+    const FieldSet live = original(fields);
     end();
-    const auto record = [this](NxField& field) {
+    if (isDeferred(live) && makePending(live)) {
+        m_live = live;
+        Q_EMIT pendingChanged();
+        return {};
+    }
+    if (const auto result = record(live); !result)
+        return result;
+    m_live = live;
+    m_services.beginEdit();
+    return {};
+}
+
+orvane::Result<> FieldWriter::record(const FieldSet& fields)
+{
+    const auto recordOne = [this](NxField& field) {
         m_before.push_back(field.recordOfValue());
         return true;
     };
     for (NxField* const field : fields.fields()) {
-        if (!meridane::withinMemory(field->valueBytes(), [&] { return record(*field); })) {
+        if (!meridane::withinMemory(field->valueBytes(), [&] { return recordOne(*field); })) {
             m_before.clear();
             return orvane::Failure{tr("%1 can't be changed: the values don't fit in memory.").arg(fields.name())};
         }
     }
-    m_live = fields;
-    m_services.beginEdit();
     return {};
+}
+
+bool FieldWriter::isDeferred(const FieldSet& fields) const
+{
+    return m_deferral && !fields.isEmpty() && fields.count() <= mostDeferred && m_deferral(fields.first());
+}
+
+// False if there can't be a spare field for each: then the fields are written at once.
+bool FieldWriter::makePending(const FieldSet& fields)
+{
+    const auto nodes = std::make_shared<FieldSet::Nodes>();
+    NxField* first = nullptr;
+    for (const NxField* const field : fields.fields()) {
+        const FieldTrial trial(*field);
+        if (trial.field() == nullptr || !trial.field()->copyFrom(*field))
+            return false;
+        if (first == nullptr)
+            first = trial.field();
+        nodes->emplace_back(trial.field()->getContainer());
+    }
+    m_pending = FieldSet(*first, nodes);
+    return !m_pending.isEmpty();
+}
+
+const FieldSet& FieldWriter::pending(const FieldSet& fields) const
+{
+    return isPending(fields) ? m_pending : fields;
+}
+
+bool FieldWriter::isPending(const FieldSet& fields) const
+{
+    return isPending() && (fields == m_live || fields == m_pending);
+}
+
+const FieldSet& FieldWriter::original(const FieldSet& fields) const
+{
+    return isPending(fields) ? m_live : fields;
 }
 
 void FieldWriter::beginDrag(const FieldSet& fields, int component)
@@ -197,7 +261,7 @@ void FieldWriter::beginDrag(const FieldSet& fields, int component)
     if (components == nullptr || !begin(fields))
         return;
     m_draggedComponent = component;
-    for (const NxField* const field : fields.fields())
+    for (const NxField* const field : m_live.fields())
         m_dragStarts.push_back(components->get(*field, 0, component));
 }
 
@@ -207,24 +271,40 @@ void FieldWriter::drag(double delta)
         return;
     const auto& components = *meridane::FieldComponents::of(m_live.first());
     std::size_t number = 0;
-    for (NxField* const field : m_live.fields()) {
+    for (NxField* const field : pending(m_live).fields()) {
         const double start = m_dragStarts[number++];
         if (!std::isfinite(start))
             continue;
         const double value = std::clamp(start + delta, components.lowest(), components.highest());
         components.set(*field, 0, m_draggedComponent, components.isWhole() ? std::round(value) : value);
     }
-    Q_EMIT written(m_live);
+    announce(m_live);
 }
 
 void FieldWriter::end()
 {
     if (!isLive())
         return;
+    if (isPending())
+        return writePending();
     // Where the journal doesn't undo, a command does.
     if (!m_services.isUndoExact())
         m_services.pushCommand(new FieldWriteCommand(std::move(m_before)));
     forgetLive();
+}
+
+void FieldWriter::writePending()
+{
+    const FieldSet fields = m_live;
+    const FieldSet values = m_pending;
+    forgetLive(); // from now on the fields themselves are written
+    const auto isSame = [](const NxField* left, const NxField* right) { return left->isSame(*right); };
+    if (std::ranges::equal(fields.fields(), values.fields(), isSame))
+        return;
+    const auto result = write(
+        fields, [&values](NxField& field, std::size_t number) { return field.copyFrom(*values.fields()[number]); });
+    if (!result)
+        Q_EMIT failed(result.error());
 }
 
 void FieldWriter::cancel()
@@ -243,5 +323,8 @@ void FieldWriter::forgetLive()
     m_before.clear();
     m_dragStarts.clear();
     m_live = FieldSet();
-    m_services.endEdit();
+    if (!isPending())
+        return m_services.endEdit();
+    m_pending = FieldSet();
+    Q_EMIT pendingChanged();
 }

@@ -9,6 +9,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 class OrvCommand;
@@ -24,6 +25,8 @@ class Expression;
 ///
 /// Between `begin` and `end` all writes are one step, for editors that show each change at once. A write that fails for
 /// one field changes none, and returns a message that says which text was refused, why, and what the field takes.
+///
+/// A live edit can be deferred: then its writes go to spare fields, and `end` writes the fields themselves, once.
 /// Thread of the user interface only.
 class FieldWriter : public QObject {
     Q_OBJECT
@@ -61,10 +64,23 @@ public:
     /// user they take. It keeps the present values. Another live edit ends. Fails if the values don't fit in memory.
     orvane::Result<> begin(const FieldSet& fields);
     [[nodiscard]] bool isLive() const noexcept { return !m_live.isEmpty(); }
-    /// Ends the live edit, if there is one. If the fields have the values from before, there is no step.
+    /// Ends the live edit, if there is one, and writes the pending values of a deferred one. If the fields have the
+    /// values from before, there is no step.
     void end();
-    /// Puts all fields of the live edit back to their values from before, to the bit.
+    /// Puts all fields of the live edit back to their values from before, to the bit. Pending values are dropped.
     void cancel();
+
+    /// Sets which fields are written only at the end of a live edit. All are written at once until it is set.
+    void setDeferral(std::function<bool(const NxField& first)> deferral) { m_deferral = std::move(deferral); }
+    [[nodiscard]] bool isDeferred(const FieldSet& fields) const;
+    /// Sets of more fields are written at once in any case: each pending value needs a spare node.
+    static constexpr int mostDeferred = 1'000;
+    /// The spare fields with the pending values, in the same order, while a deferred edit of the fields goes on;
+    /// otherwise the fields. They can be passed in place of the fields.
+    [[nodiscard]] const FieldSet& pending(const FieldSet& fields) const;
+    [[nodiscard]] bool isPending(const FieldSet& fields) const;
+    /// Whether a deferred edit goes on.
+    [[nodiscard]] bool isPending() const noexcept { return !m_pending.isEmpty(); }
 
     /// Begins a live edit that drags a component of all fields. Does nothing for fields without numbers.
     void beginDrag(const FieldSet& fields, int component);
@@ -75,6 +91,10 @@ public:
 Q_SIGNALS:
     /// The fields were written.
     void written(const FieldSet& fields);
+    /// Pending values have changed, have been written or dropped.
+    void pendingChanged();
+    /// The pending values couldn't be written; the fields are as before.
+    void failed(const QString& message);
 
 private:
     using Write = std::function<bool(NxField& field, std::size_t number)>;
@@ -83,11 +103,19 @@ private:
     orvane::Result<> write(const FieldSet& fields, Write write, const QString& label = {});
 
     void push(std::unique_ptr<OrvCommand> command, const QString& label);
+    [[nodiscard]] orvane::Result<> record(const FieldSet& fields);
+    [[nodiscard]] bool makePending(const FieldSet& fields);
+    void writePending();
+    void announce(const FieldSet& fields);
     void forgetLive();
+    /// The fields that spare ones stand for.
+    [[nodiscard]] const FieldSet& original(const FieldSet& fields) const;
 
     OrvServices& m_services;
     FieldSet m_live; // of the live edit; empty for none
     std::vector<std::unique_ptr<meridane::ChangeRecord>> m_before; // its values
+    FieldSet m_pending; // the spare fields of a deferred one; empty for none
+    std::function<bool(const NxField& first)> m_deferral;
     int m_draggedComponent = 0;
     std::vector<double> m_dragStarts; // for each field; empty when none is dragged
 };
