@@ -28,6 +28,7 @@
 NameScrub::NameScrub(QAbstractItemView* view, ValueDelegate* delegate, int nameColumn, int valueColumn)
     : QObject(view)
     , m_view(view)
+    , m_viewport(view->viewport())
     , m_delegate(delegate)
     , m_nameColumn(nameColumn)
     , m_valueColumn(valueColumn)
@@ -88,7 +89,7 @@ bool NameScrub::eventFilter(QObject* object, QEvent* event)
             end(false);
         return true;
     }
-    return object == m_view->viewport() && handleViewport(event);
+    return object == m_viewport && handleViewport(event);
 }
 
 bool NameScrub::handleViewport(QEvent* event)

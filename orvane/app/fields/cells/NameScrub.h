@@ -12,6 +12,7 @@
 class QAbstractItemView;
 class QHelpEvent;
 class QMouseEvent;
+class QWidget;
 class ValueDelegate;
 
 /// Lets the user drag on the name of a number, or on the letter of a component, to change it.
@@ -59,6 +60,7 @@ private:
     void showCursor(const QPoint& position);
 
     QAbstractItemView* m_view;
+    QWidget* m_viewport; // its own; events still come while the view is being destroyed
     QPointer<ValueDelegate> m_delegate;
     int m_nameColumn;
     int m_valueColumn;

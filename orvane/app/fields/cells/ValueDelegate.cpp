@@ -47,6 +47,7 @@ QPalette::ColorGroup groupOf(const QStyleOptionViewItem& option)
 ValueDelegate::ValueDelegate(QAbstractItemView* view, FieldWriter& writer, AppSettings* settings)
     : QStyledItemDelegate(view)
     , m_view(view)
+    , m_viewport(view->viewport())
     , m_services(std::make_unique<CellServices>(writer, settings))
 {
     connect(m_services.get(), &CellServices::changed, view->viewport(), qOverload<>(&QWidget::update));
@@ -303,13 +304,13 @@ bool ValueDelegate::helpEvent(
 
 bool ValueDelegate::eventFilter(QObject* object, QEvent* event)
 {
-    if (m_view == nullptr || object != m_view->viewport())
+    if (object != m_viewport)
         return false; // editors handle their keys and the loss of the focus themselves
     switch (event->type()) {
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::Drop:
-        return dragOver(event);
+        return m_view != nullptr && dragOver(event);
     default:
         return false;
     }

@@ -70,6 +70,7 @@ private:
     [[nodiscard]] bool dragOver(QEvent* event);
 
     QPointer<QAbstractItemView> m_view;
+    const QObject* m_viewport; // its own; events still come while the view is being destroyed
     std::unique_ptr<CellServices> m_services;
     mutable Opening m_opening; // of the next editor
     std::optional<Press> m_press;
