@@ -126,9 +126,9 @@ void ListClipboard::finishPaste()
         Q_EMIT failed(tr("The list changed while the clipboard was being read. Nothing was pasted; paste again."));
         return;
     }
-    PastedRows cells = job->takeRows();
+    const PastedRows cells = job->takeRows();
     const int rows = cells.rows;
-    if (const auto result = write(std::move(cells)); !result)
+    if (const auto result = write(cells); !result)
         Q_EMIT failed(result.error());
     else
         Q_EMIT done(rows == 1 ? tr("1 row was pasted.")
@@ -142,7 +142,7 @@ bool ListClipboard::hasSeveralCells() const
         || (selection.size() == 1 && (selection.front().height() > 1 || selection.front().width() > 1));
 }
 
-orvane::Result<> ListClipboard::write(PastedRows cells)
+orvane::Result<> ListClipboard::write(const PastedRows& cells)
 {
     const RowRuns places = m_view.selectedPlaces();
     if (cells.rows == 1 && cells.columns == 1 && hasSeveralCells())

@@ -40,7 +40,7 @@ private:
     void finishCopy();
     void finishPaste();
     [[nodiscard]] bool hasSeveralCells() const;
-    [[nodiscard]] orvane::Result<> write(PastedRows cells);
+    [[nodiscard]] orvane::Result<> write(const PastedRows& cells);
     orvane::Result<> fillSelection(const PastedRows& cell);
 
     ListModel& m_model;

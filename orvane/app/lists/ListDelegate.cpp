@@ -85,7 +85,7 @@ void ListDelegate::paintSwatch(QPainter& painter, const QStyleOptionViewItem& op
     painter.fillRect(square, opaque);
     if (color.alpha() < 255) // the right half shows how much is seen through it
         painter.fillRect(square.adjusted(square.width() / 2, 0, 0, 0),
-            orvane::look::mixed(option.palette.color(QPalette::Base), opaque, color.alphaF()));
+            orvane::look::mixed(option.palette.color(QPalette::Base), opaque, static_cast<double>(color.alphaF())));
     painter.setPen(option.palette.color(QPalette::Mid));
     painter.drawRect(square.adjusted(0, 0, -1, -1));
 }

@@ -4,6 +4,7 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace orvane::look {
@@ -49,6 +50,11 @@ Pair colorsOf(Tint tint)
     return {};
 }
 
+std::array<double, 3> numbersOf(const QColor& color)
+{
+    return {static_cast<double>(color.redF()), static_cast<double>(color.greenF()), static_cast<double>(color.blueF())};
+}
+
 double linear(double component)
 {
     return component <= 0.04045 ? component / 12.92 : std::pow((component + 0.055) / 1.055, 2.4);
@@ -56,7 +62,8 @@ double linear(double component)
 
 double luminance(const QColor& color)
 {
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+    const std::array rgb = numbersOf(color);
+    return 0.2126 * linear(rgb[0]) + 0.7152 * linear(rgb[1]) + 0.0722 * linear(rgb[2]);
 }
 
 // Moves the colour towards black or white, by the smallest step that gives it the contrast. One of the two always can.
@@ -115,9 +122,10 @@ QColor washColor(Tint tint, const QColor& background)
 
 QColor mixed(const QColor& from, const QColor& to, double part)
 {
-    const auto mix = [part](double left, double right) { return static_cast<float>(left * (1 - part) + right * part); };
-    return QColor::fromRgbF(
-        mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()), mix(from.blueF(), to.blueF()));
+    const std::array first = numbersOf(from);
+    const std::array second = numbersOf(to);
+    const auto mix = [&](std::size_t i) { return static_cast<float>(first.at(i) * (1 - part) + second.at(i) * part); };
+    return QColor::fromRgbF(mix(0), mix(1), mix(2));
 }
 
 int unit(const QFontMetrics& font)

@@ -115,17 +115,18 @@ void CellFocus::popupShown(QWidget* popup)
 void CellFocus::popupHidden(QWidget* popup)
 {
     m_escaped = nullptr;
-    const QPointer<QDockWidget> dock = EditorDocks::dockOf(popup);
+    QDockWidget* const dock = EditorDocks::dockOf(popup);
+    if (popup->windowType() != Qt::Popup || dock == nullptr)
+        return;
     // After the popup has gone and the focus is where it was before.
     const auto giveFocus = [dock] {
         const QWidget* const focus = QApplication::focusWidget();
-        if (dock == nullptr || (focus != nullptr && dock->isAncestorOf(focus)))
+        if (focus != nullptr && dock->isAncestorOf(focus))
             return;
         if (QWidget* const control = EditorDocks::firstControl(dock->widget()))
             control->setFocus();
     };
-    if (popup->windowType() == Qt::Popup && dock != nullptr)
-        QMetaObject::invokeMethod(this, giveFocus, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(dock, giveFocus, Qt::QueuedConnection);
 }
 
 void CellFocus::cellEditorShown(QWidget* editor)

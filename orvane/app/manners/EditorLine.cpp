@@ -46,7 +46,7 @@ bool shows(const QString& text, double number)
 QString withoutDecimals(const QString& number)
 {
     const auto parts = number.split(u'e');
-    const QString mantissa = parts.front();
+    const QString& mantissa = parts.front();
     const qsizetype point = mantissa.indexOf(u'.');
     if (point < 0)
         return number;
@@ -203,7 +203,7 @@ QString EditorLine::textFor(double number) const
 bool EditorLine::waitsForReturn() const
 {
     const FieldComponents* const components = m_field != nullptr ? FieldComponents::of(*m_field) : nullptr;
-    return !m_group.isEmpty() && components->name(components->count() - 1) == "angle";
+    return !m_group.isEmpty() && components != nullptr && components->name(components->count() - 1) == "angle";
 }
 
 bool EditorLine::isPartOfCell() const

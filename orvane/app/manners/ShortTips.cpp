@@ -16,7 +16,7 @@ QString tipOf(const QWidget* widget, const QPoint& place)
 {
     const auto* const view = qobject_cast<const QAbstractItemView*>(widget->parentWidget());
     if (view != nullptr && view->viewport() == widget) {
-        const QString tip = view->indexAt(place).data(Qt::ToolTipRole).toString();
+        QString tip = view->indexAt(place).data(Qt::ToolTipRole).toString();
         if (!tip.isEmpty())
             return tip;
     }

@@ -46,7 +46,7 @@ orvane::Result<> FieldWriter::setText(const FieldSet& fields, const QString& tex
     NxField* const spare = trial.field();
     if (spare != nullptr && !spare->set(value))
         return orvane::Failure{orvane::refusedText(original(fields).first(), text)};
-    const auto result = write(fields, [&](NxField& field, std::size_t /*number*/) {
+    auto result = write(fields, [&](NxField& field, std::size_t /*number*/) {
         return spare != nullptr ? field.copyFrom(*spare) : field.set(value);
     });
     if (!result && spare == nullptr)
@@ -196,7 +196,7 @@ orvane::Result<> FieldWriter::begin(const FieldSet& fields)
         Q_EMIT pendingChanged();
         return {};
     }
-    if (const auto result = record(live); !result)
+    if (auto result = record(live); !result)
         return result;
     m_live = live;
     m_services.beginEdit();
@@ -289,7 +289,7 @@ void FieldWriter::end()
         return writePending();
     // Where the journal doesn't undo, a command does.
     if (!m_services.isUndoExact())
-        m_services.pushCommand(new FieldWriteCommand(std::move(m_before)));
+        m_services.pushCommand(new FieldWriteCommand(std::exchange(m_before, {})));
     forgetLive();
 }
 

@@ -54,8 +54,8 @@ PasteJob::PasteJob(NxMField& list, const QString& text, int firstColumn, SliceCl
     , m_reader(text.toStdString(), m_columns.isNumeric() ? TableReader::Content::Numbers : TableReader::Content::Texts)
 {
     const QList<ListColumns::Choice> choices = m_columns.choices();
-    for (auto choice = choices.rbegin(); choice != choices.rend(); ++choice)
-        m_choices.insert(choice->name.toUtf8(), choice->value);
+    std::for_each(choices.crbegin(), choices.crend(),
+        [this](const ListColumns::Choice& choice) { m_choices.insert(choice.name.toUtf8(), choice.value); });
 }
 
 PasteJob::~PasteJob() = default;

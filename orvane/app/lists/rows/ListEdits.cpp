@@ -113,7 +113,7 @@ orvane::Result<> ListEdits::setText(std::span<const int> rows, const QString& te
         : tr("Set %1 rows of %2").arg(rowCountText(static_cast<int>(rows.size())), listName());
     const QStringList texts(static_cast<qsizetype>(rows.size()), text);
     const bool isText = m_model.columns().kind() == ListColumns::Kind::Text;
-    const orvane::Result<> result = push(label, [&](NxMField& list) { return orvane::writeTexts(list, rows, texts); });
+    orvane::Result<> result = push(label, [&](NxMField& list) { return orvane::writeTexts(list, rows, texts); });
     if (!result && !isText)
         return orvane::Failure{tr("\"%1\" isn't the text of a value of this list.").arg(orvane::shortLine(text, 60))};
     return result;

@@ -86,8 +86,11 @@ void ListModel::follow(const std::vector<RowSplice>& splices)
 {
     if (m_showsAll) {
         m_pending = splices;
-        while (!m_pending.empty())
-            spliceAll(m_pending.front());
+        while (!m_pending.empty()) {
+            const RowSplice splice = m_pending.front();
+            spliceAll(splice);
+            Q_EMIT rowsSpliced({splice});
+        }
     } else if (!splices.empty()) {
         spliceMap(splices);
     }
@@ -116,7 +119,6 @@ void ListModel::spliceAll(RowSplice splice)
     } else {
         m_pending.erase(m_pending.begin());
     }
-    Q_EMIT rowsSpliced({splice});
 }
 
 // Where a row is now that views know by its place before the pending changes; -1 if it is gone.
@@ -197,7 +199,7 @@ QVariant ListModel::data(const QModelIndex& index, int role) const
 
 QString ListModel::shownText(int row, int column) const
 {
-    const QString text = m_columns.text(row, column);
+    QString text = m_columns.text(row, column);
     if (m_columns.kind() == ListColumns::Kind::Number)
         return text;
     return orvane::oneLine(text.size() <= shownCellCharacters ? text : text.left(shownCellCharacters) + QChar(0x2026));

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <ranges>
 #include <span>
 #include <utility>
 #include <vector>
@@ -167,8 +166,8 @@ bool writeTextForms(NxMField& list, std::span<const int> rows, const QStringList
 bool removeRows(NxMField& list, const RowRuns& rows)
 {
     if (rows.size() <= fewRuns) {
-        for (const RowRun run : rows | std::views::reverse)
-            list.deleteValues(run.first, run.count);
+        std::for_each(
+            rows.rbegin(), rows.rend(), [&list](const RowRun& run) { list.deleteValues(run.first, run.count); });
         return true;
     }
     return visitList(list, [&rows](auto& typed) { return removeTogether(typed, rows); });
