@@ -66,6 +66,12 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     setFocusProxy(m_view);
 }
 
+// An editor that is still open in the view ends its edit through the writer.
+FieldPanel::~FieldPanel()
+{
+    delete m_view;
+}
+
 void FieldPanel::buildPage(QWidget* page)
 {
     const int unit = orvane::look::unit(fontMetrics());

@@ -31,6 +31,7 @@ class FieldPanel : public QWidget {
 public:
     /// The services and the settings live longer.
     FieldPanel(OrvServices& services, AppSettings& settings, QWidget* parent = nullptr);
+    ~FieldPanel() override;
 
     /// Shows the fields of a node; null for none.
     void setNode(NxFieldContainer* node);
