@@ -90,6 +90,12 @@ NumberEditor::NumberEditor(const CellEdit& edit, FieldNumber number, QWidget* pa
     show();
 }
 
+// The line loses the focus while it is destroyed, and would report what is typed in it.
+NumberEditor::~NumberEditor()
+{
+    m_line->disconnect(this);
+}
+
 void NumberEditor::refresh()
 {
     if (!m_line->isPending())

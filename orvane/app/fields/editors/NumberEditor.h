@@ -34,6 +34,7 @@ class NumberEditor : public CellEditor {
 
 public:
     NumberEditor(const CellEdit& edit, FieldNumber number, QWidget* parent);
+    ~NumberEditor() override;
 
     void refresh() override;
 
