@@ -103,7 +103,7 @@ void EditorLine::findPlace(const QWidget* frame, const NxField* field)
     if (m_table != nullptr && m_table->model() != nullptr) {
         const QPoint middle = m_line->mapTo(m_table->viewport(), m_line->rect().center());
         const QModelIndex index = m_table->indexAt(middle);
-        // A column ahead of the components shows the row as a whole, such as its colour.
+        // A column before the components shows the row as a whole, such as its colour.
         const int ahead = m_table->model()->columnCount() - components->count();
         if (index.isValid() && ahead >= 0 && index.column() >= ahead)
             m_place = {index.row(), index.column() - ahead};

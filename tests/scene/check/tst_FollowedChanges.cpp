@@ -48,7 +48,7 @@ QStringList listed(const NxSceneCheck& check, const NxGroup& scene)
 
 } // namespace
 
-// A check that follows the changes of a scene against one that begins anew after each of them.
+// A check that follows the changes of a scene against a new one after each of them.
 class TestFollowedChanges : public QObject {
     Q_OBJECT
 
