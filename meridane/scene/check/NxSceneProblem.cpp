@@ -63,12 +63,27 @@ std::string duplicateText(const ProblemFacts& problem)
     return number(problem.count) + " children of the same group are called " + name;
 }
 
-std::string unusedText(const ProblemFacts& problem, const char* what)
+const char* unusedWord(NxProblemKind kind) noexcept
 {
+    switch (kind) {
+    case NxProblemKind::UnusedMaterial:
+        return "material";
+    case NxProblemKind::UnusedTexture:
+        return "texture";
+    case NxProblemKind::UnusedLight:
+        return "light";
+    default:
+        return "complexity";
+    }
+}
+
+std::string unusedText(NxProblemKind kind, const ProblemFacts& problem)
+{
+    const std::string what = unusedWord(kind);
     if (problem.isShared)
-        return std::string("this ") + what + " and " + number(problem.count - 1)
+        return "this " + what + " and " + number(problem.count - 1)
             + " more of its group apply to nothing, since no mesh follows them";
-    return std::string("no mesh follows this ") + what + " in its group, so it applies to nothing";
+    return "no mesh follows this " + what + " in its group, so it applies to nothing";
 }
 
 } // namespace
@@ -124,13 +139,10 @@ std::string problemText(NxProblemKind kind, const ProblemFacts& problem)
     case NxProblemKind::DuplicateName:
         return duplicateText(problem);
     case NxProblemKind::UnusedMaterial:
-        return unusedText(problem, "material");
     case NxProblemKind::UnusedTexture:
-        return unusedText(problem, "texture");
     case NxProblemKind::UnusedLight:
-        return unusedText(problem, "light");
     case NxProblemKind::UnusedComplexity:
-        return unusedText(problem, "complexity");
+        return unusedText(kind, problem);
     case NxProblemKind::EmptyGroup:
         return "it has no children";
     case NxProblemKind::UnknownClass:

@@ -12,8 +12,6 @@
 #include "meridane/scene/nodes/NxTexture.h"
 #include "meridane/scene/nodes/NxUnknownNode.h"
 
-#include <bit>
-
 namespace meridane {
 namespace {
 
@@ -43,39 +41,51 @@ Role roleOf(NxType type)
     return is(NxFieldGallery::getClassTypeId()) ? Role::Bystander : Role::Unknown;
 }
 
+template <typename Class>
+bool isA(const NxField& field) noexcept
+{
+    return dynamic_cast<const Class*>(&field) != nullptr;
+}
+
+ClassPlan planOf(NxNode& node, const NxFieldData& data)
+{
+    ClassPlan plan;
+    plan.role = roleOf(node.getTypeId());
+    int index = -1;
+    for (const NxField* const member : node.getFields()) {
+        ++index;
+        const NxField& field = *member;
+        const NxFieldFacts& facts = data.getFacts(index);
+        if (isA<NxSFFilePathString>(field))
+            plan.files.push_back({index});
+        const FieldComponents* const components = FieldComponents::of(field);
+        if (components == nullptr)
+            continue;
+        ClassPlan::Numbers numbers{index, components, FieldRange(*components, facts), isA<NxMField>(field),
+            !components->isWhole(), facts.hasHardRange()};
+        // The indices of a mesh and the choice of a switch have checks of their own.
+        if (!numbers.mayBeInfinite && (plan.role == Role::Mesh || plan.role == Role::Switch))
+            numbers.hasRange = false;
+        if (numbers.mayBeInfinite || numbers.hasRange)
+            plan.numbers.push_back(numbers);
+    }
+    return plan;
+}
+
 } // namespace
 
 const ClassPlan& ClassPlans::of(NxNode& node)
 {
     NxFieldData* const data = node.getFieldData();
     constexpr unsigned int alignmentBits = 4;
-    Recent& recent = m_recent[(std::bit_cast<std::uintptr_t>(data) >> alignmentBits) % m_recent.size()];
+    Recent& recent = m_recent[(reinterpret_cast<std::uintptr_t>(data) >> alignmentBits) % m_recent.size()];
     if (data == recent.data)
         return *recent.plan;
     const auto [found, isNew] = m_plans.try_emplace(data);
-    ClassPlan& plan = found->second;
-    if (isNew) {
-        plan.role = roleOf(node.getTypeId());
-        int index = -1;
-        for (const NxField* const field : node.getFields()) {
-            ++index;
-            const NxFieldFacts& facts = data->getFacts(index);
-            if (dynamic_cast<const NxSFFilePathString*>(field) != nullptr)
-                plan.files.push_back({index});
-            const FieldComponents* const components = FieldComponents::of(*field);
-            if (components == nullptr)
-                continue;
-            ClassPlan::Numbers numbers{index, components, FieldRange(*components, facts),
-                dynamic_cast<const NxMField*>(field) != nullptr, !components->isWhole(), facts.hasHardRange()};
-            // The indices of a mesh and the choice of a switch have checks of their own.
-            if (!numbers.mayBeInfinite && (plan.role == Role::Mesh || plan.role == Role::Switch))
-                numbers.hasRange = false;
-            if (numbers.mayBeInfinite || numbers.hasRange)
-                plan.numbers.push_back(numbers);
-        }
-    }
-    recent = {data, &plan};
-    return plan;
+    if (isNew)
+        found->second = planOf(node, *data);
+    recent = {data, &found->second};
+    return found->second;
 }
 
 } // namespace meridane

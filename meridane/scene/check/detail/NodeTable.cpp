@@ -1,7 +1,5 @@
 #include "meridane/scene/check/detail/NodeTable.h"
 
-#include <bit>
-
 namespace meridane {
 namespace {
 
@@ -9,7 +7,7 @@ constexpr unsigned int regionBits = 16;
 
 std::uintptr_t keyOf(const NxNode* node) noexcept
 {
-    return std::bit_cast<std::uintptr_t>(node) >> regionBits;
+    return reinterpret_cast<std::uintptr_t>(node) >> regionBits;
 }
 
 } // namespace
@@ -18,7 +16,7 @@ std::uintptr_t keyOf(const NxNode* node) noexcept
 std::size_t NodeTable::Region::homeOf(const NxNode* node) const noexcept
 {
     constexpr std::uintptr_t mask = (std::uintptr_t{1} << regionBits) - 1;
-    return ((std::bit_cast<std::uintptr_t>(node) & mask) * slots.size()) >> regionBits;
+    return ((reinterpret_cast<std::uintptr_t>(node) & mask) * slots.size()) >> regionBits;
 }
 
 // The slot of the node, or the free one where it belongs. The region has a free slot.
