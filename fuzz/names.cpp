@@ -8,8 +8,8 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldTableModel.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SelectionLabel.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SelectionLabel.h"
 
 #include "meridane/base/values/MessageText.h"
 #include "meridane/base/values/Unicode.h"

@@ -3,7 +3,7 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/compare/DifferenceText.h"
-#include "orvane/app/scene/NodeIcons.h"
+#include "orvane/app/tree/NodeIcons.h"
 
 #include "meridane/scene/fields/NxField.h"
 

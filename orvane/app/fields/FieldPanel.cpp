@@ -12,7 +12,7 @@
 #include "orvane/app/fields/editors/CellServices.h"
 #include "orvane/app/input/InputMessage.h"
 #include "orvane/app/look/Look.h"
-#include "orvane/app/scene/NodeIcons.h"
+#include "orvane/app/tree/NodeIcons.h"
 
 #include "meridane/scene/fields/NxMField.h"
 #include "meridane/scene/nodes/NxNode.h"

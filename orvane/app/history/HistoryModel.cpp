@@ -2,7 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/SliceClock.h"
-#include "orvane/app/scene/NodeIcons.h"
+#include "orvane/app/tree/NodeIcons.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
 #include "orvane/extender/OrvStepList.h"

@@ -5,9 +5,9 @@
 #include "orvane/app/inspect/FavoriteDelegate.h"
 #include "orvane/app/inspect/FavoriteNodes.h"
 #include "orvane/app/inspect/InspectIcons.h"
-#include "orvane/app/scene/NodeIcons.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/tree/NodeIcons.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 
 #include <QAction>
 #include <QMenu>

@@ -3,7 +3,7 @@
 #include "orvane/app/fields/MarkIcons.h"
 #include "orvane/app/inspect/FavoriteNodes.h"
 #include "orvane/app/look/Look.h"
-#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreeModel.h"
 
 #include <QPainter>
 

@@ -6,9 +6,9 @@
 #include "orvane/app/inspect/NodeLock.h"
 #include "orvane/app/inspect/ScenePlace.h"
 #include "orvane/app/scene/NodeSearch.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/extender/OrvEditor.h"
 
 #include "meridane/scene/fields/NxField.h"

@@ -4,10 +4,10 @@
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/inspect/LockAction.h"
 #include "orvane/app/inspect/NodeLock.h"
-#include "orvane/app/scene/NodeSelection.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/NodeSelection.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 
 #include "meridane/scene/fields/NxField.h"
 

@@ -2,9 +2,9 @@
 
 #include "orvane/app/inspect/InspectorDock.h"
 #include "orvane/app/inspect/NodeLock.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 
 #include <QAction>
 #include <QMainWindow>

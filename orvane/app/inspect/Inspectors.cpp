@@ -14,9 +14,9 @@
 #include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/ScenePaths.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 
 #include <QHBoxLayout>
 #include <QMainWindow>

@@ -4,9 +4,9 @@
 #include "orvane/app/fields/FieldClipboard.h"
 #include "orvane/app/fields/values/FieldText.h"
 #include "orvane/app/inspect/Inspectors.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/CameraMenu.h"
 #include "orvane/app/view/SceneView.h"
 

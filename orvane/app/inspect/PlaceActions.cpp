@@ -4,10 +4,10 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/inspect/SelectionLink.h"
-#include "orvane/app/scene/NodeIcons.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/NodeIcons.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 
 #include "meridane/scene/fields/NxField.h"
 

@@ -3,9 +3,9 @@
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/inspect/NodeLock.h"
-#include "orvane/app/scene/NodeSelection.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/tree/NodeSelection.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/scene/fields/NxField.h"

@@ -1,9 +1,9 @@
 #include "orvane/app/view/ViewLink.h"
 
-#include "orvane/app/scene/NodeSelection.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/NodeSelection.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/SceneView.h"
 
 #include <QGuiApplication>

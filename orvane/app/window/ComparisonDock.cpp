@@ -5,9 +5,9 @@
 #include "orvane/app/compare/SceneComparer.h"
 #include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/scene/SceneDocument.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/window/DockPlace.h"
 
 #include "meridane/scene/file/NxScenePath.h"

@@ -3,9 +3,9 @@
 #include "orvane/app/problems/LiveCheck.h"
 #include "orvane/app/problems/ProblemPanel.h"
 #include "orvane/app/scene/SceneDocument.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/window/DockPlace.h"
 #include "orvane/extender/OrvServices.h"
 

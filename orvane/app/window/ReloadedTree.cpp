@@ -2,8 +2,8 @@
 
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/scene/SceneDocument.h"
-#include "orvane/app/scene/SceneTreePanel.h"
-#include "orvane/app/scene/TreeState.h"
+#include "orvane/app/tree/SceneTreePanel.h"
+#include "orvane/app/tree/TreeState.h"
 
 #include "meridane/base/NxDelayQueue.h"
 

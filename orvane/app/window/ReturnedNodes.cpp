@@ -1,8 +1,8 @@
 #include "orvane/app/window/ReturnedNodes.h"
 
 #include "orvane/app/history/StepTravel.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
 #include "orvane/extender/OrvStepList.h"

@@ -4,7 +4,7 @@
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/inspect/Inspectors.h"
-#include "orvane/app/scene/SelectionLabel.h"
+#include "orvane/app/tree/SelectionLabel.h"
 
 #include "meridane/scene/file/NxScenePath.h"
 

@@ -8,8 +8,8 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldTableView.h"
 #include "orvane/app/scene/NodeCommands.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/extender/OrvShell.h"
 
 #include "meridane/base/Files.h"

@@ -3,8 +3,8 @@
 #include "app/view/ViewScenes.h"
 
 #include "orvane/app/messages/MessageBar.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/SceneCameras.h"
 #include "orvane/app/view/SceneView.h"
 

@@ -1,6 +1,6 @@
 #include "app/window/RobotWindowCase.h"
 
-#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 
 #include "meridane/scene/fields/NxField.h"
 

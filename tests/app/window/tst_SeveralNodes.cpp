@@ -1,7 +1,7 @@
 #include "app/window/RobotWindowCase.h"
 
 #include "orvane/app/fields/FieldPanel.h"
-#include "orvane/app/scene/NodeSelection.h"
+#include "orvane/app/tree/NodeSelection.h"
 #include "orvane/extender/OrvStepList.h"
 
 #include "meridane/scene/fields/NxField.h"

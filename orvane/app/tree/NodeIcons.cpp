@@ -1,4 +1,4 @@
-#include "orvane/app/scene/NodeIcons.h"
+#include "orvane/app/tree/NodeIcons.h"
 
 #include "orvane/app/base/DrawnIcon.h"
 

@@ -1,6 +1,6 @@
 #include "app/AppScenes.h"
 
-#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreeModel.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>

@@ -1,4 +1,4 @@
-#include "orvane/app/scene/ShownNodes.h"
+#include "orvane/app/tree/ShownNodes.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
-#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreeModel.h"
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
-#include "orvane/app/scene/NodeIcons.h"
 #include "orvane/app/scene/NodeSearch.h"
-#include "orvane/app/scene/SceneBranch.h"
-#include "orvane/app/scene/ShownNodes.h"
+#include "orvane/app/tree/NodeIcons.h"
+#include "orvane/app/tree/SceneBranch.h"
+#include "orvane/app/tree/ShownNodes.h"
 
 #include <QFont>
 

@@ -1,4 +1,4 @@
-#include "orvane/app/scene/SceneTreeView.h"
+#include "orvane/app/tree/SceneTreeView.h"
 
 #include <QItemSelectionModel>
 

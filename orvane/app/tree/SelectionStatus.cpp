@@ -1,11 +1,11 @@
-#include "orvane/app/scene/SelectionStatus.h"
+#include "orvane/app/tree/SelectionStatus.h"
 
 #include "orvane/app/base/SliceClock.h"
 #include "orvane/app/base/TextConversion.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
-#include "orvane/app/scene/SelectionLabel.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
+#include "orvane/app/tree/SelectionLabel.h"
 
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldData.h"

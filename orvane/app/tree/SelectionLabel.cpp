@@ -1,4 +1,4 @@
-#include "orvane/app/scene/SelectionLabel.h"
+#include "orvane/app/tree/SelectionLabel.h"
 
 #include "orvane/app/base/PlainText.h"
 

@@ -1,6 +1,6 @@
-#include "orvane/app/scene/NodeSelection.h"
+#include "orvane/app/tree/NodeSelection.h"
 
-#include "orvane/app/scene/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreeModel.h"
 
 #include "meridane/scene/nodes/NodeTraversal.h"
 

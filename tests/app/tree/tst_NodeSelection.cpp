@@ -1,8 +1,8 @@
 #include "app/AppScenes.h"
 
-#include "orvane/app/scene/NodeSelection.h"
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/tree/NodeSelection.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "orvane/app/scene/SceneBranch.h"
+#include "orvane/app/tree/SceneBranch.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "orvane/app/scene/TreeState.h"
+#include "orvane/app/tree/TreeState.h"
 
-#include "orvane/app/scene/SceneTreeModel.h"
-#include "orvane/app/scene/SceneTreePanel.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/scene/fields/NxField.h"
