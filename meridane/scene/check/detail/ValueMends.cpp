@@ -105,7 +105,7 @@ bool showNoChild(NxSwitch& node, MendRecorder& recorder)
 
 bool mendValues(const NxSceneProblem& problem, MendRecorder& recorder)
 {
-    if (!problem.isMendable || problem.field == nullptr)
+    if (!problem.isMendable || problem.node.get() == nullptr || problem.field == nullptr)
         return false;
     if (auto* const mesh = dynamic_cast<NxMesh*>(problem.node.get());
         mesh != nullptr && problem.kind != NxProblemKind::NotFinite && problem.kind != NxProblemKind::OutOfRange)
