@@ -1,14 +1,11 @@
 #pragma once
 
-#include "orvane/app/fields/editors/CellEditor.h"
-
-#include <QLineEdit>
+#include "orvane/app/fields/editors/TextLineEditor.h"
 
 #include <functional>
 
-/// Edits a value as a line of text. Return, Tab and leaving write it, Escape restores; a text that can't be taken
-/// stays, with the reason below it.
-class LineEditor : public CellEditor {
+/// Edits a value as a line of text.
+class LineEditor : public TextLineEditor {
     Q_OBJECT
 
 public:
@@ -18,18 +15,11 @@ public:
 
     LineEditor(const CellEdit& edit, Shown shown, FormOf formOf, QWidget* parent);
 
-    void refresh() override;
-
 protected:
-    bool eventFilter(QObject* object, QEvent* event) override;
+    [[nodiscard]] QString shownText(const NxField& field) const override;
+    [[nodiscard]] QString formOf(const QString& text) const override;
 
 private:
-    /// False when the text was refused.
-    [[nodiscard]] bool write();
-    void leave();
-    [[nodiscard]] bool handleKey(const QKeyEvent& event);
-
-    QLineEdit* m_line;
     Shown m_shown;
     FormOf m_formOf;
 };

@@ -1,25 +1,22 @@
 #pragma once
 
-#include "orvane/app/fields/editors/CellEditor.h"
+#include "orvane/app/fields/editors/TextLineEditor.h"
 
 class PathEdit;
 
-/// Edits the path of a file in a line with completion, and in a dialog.
-class PathEditor : public CellEditor {
+/// Edits the path of a file in a line with completion, and in a dialog, which Alt+Down opens as well.
+class PathEditor : public TextLineEditor {
     Q_OBJECT
 
 public:
     PathEditor(const CellEdit& edit, QWidget* parent);
 
-    void refresh() override;
-
 protected:
-    bool eventFilter(QObject* object, QEvent* event) override;
+    [[nodiscard]] QString shownText(const NxField& field) const override;
+    [[nodiscard]] QString formOf(const QString& text) const override;
+    void leave() override;
+    [[nodiscard]] bool handleKey(const QKeyEvent& event) override;
 
 private:
-    [[nodiscard]] bool write();
-    [[nodiscard]] bool handleKey(const QKeyEvent& event);
-    void leave();
-
     PathEdit* m_path;
 };

@@ -68,22 +68,6 @@ PathEdit::PathEdit(QString folder, QWidget* parent)
     connect(m_button, &QToolButton::clicked, this, &PathEdit::openDialog);
 }
 
-void PathEdit::setPath(const QString& path)
-{
-    m_line->setText(path);
-    m_line->selectAll();
-}
-
-QString PathEdit::path() const
-{
-    return m_line->text();
-}
-
-bool PathEdit::isModified() const
-{
-    return m_line->isModified();
-}
-
 // Only the folder that is being typed is read.
 void PathEdit::complete(const QString& text)
 {

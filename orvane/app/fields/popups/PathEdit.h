@@ -20,10 +20,6 @@ public:
     /// `folder` is empty for a scene that has no file yet.
     explicit PathEdit(QString folder, QWidget* parent = nullptr);
 
-    /// Shows a path and selects it.
-    void setPath(const QString& path);
-    [[nodiscard]] QString path() const;
-    [[nodiscard]] bool isModified() const;
     [[nodiscard]] QLineEdit* line() const noexcept { return m_line; }
     /// Opens the dialog at the file that is named, or in its folder.
     void openDialog();
