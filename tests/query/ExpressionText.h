@@ -1,5 +1,7 @@
 #pragma once
 
+#include "query/WrongTexts.h"
+
 #include "meridane/query/Expression.h"
 #include "meridane/query/NumberText.h"
 
@@ -13,13 +15,11 @@
 inline std::string resultOf(std::string_view text, const meridane::Expression::Context& context = {},
     const std::vector<double>& variables = {2})
 {
-    const auto errorText
-        = [](const meridane::QueryError& error) { return std::to_string(error.position) + ": " + error.message; };
     const auto parsed = meridane::Expression::parse(text, context);
     if (const auto* const error = std::get_if<meridane::QueryError>(&parsed))
-        return errorText(*error);
+        return wrong_text::messageOf(*error);
     const auto value = std::get<meridane::Expression>(parsed).evaluate(variables);
     if (const auto* const error = std::get_if<meridane::QueryError>(&value))
-        return errorText(*error);
+        return wrong_text::messageOf(*error);
     return meridane::numberText(std::get<double>(value));
 }

@@ -1,3 +1,5 @@
+#include "query/WrongTexts.h"
+
 #include "meridane/query/Query.h"
 
 #include <QTest>
@@ -6,6 +8,7 @@
 
 using meridane::Query;
 using meridane::QueryError;
+using wrong_text::repeated;
 
 /// Queries that are wrong, and how the message says so.
 class TestQueryErrors : public QObject {
@@ -16,68 +19,57 @@ private:
     {
         const auto parsed = Query::parse(text, subject);
         const auto* const error = std::get_if<QueryError>(&parsed);
-        return error != nullptr ? std::to_string(error->position) + ": " + error->message : std::string();
-    }
-    static std::string repeated(std::string_view text, int count)
-    {
-        std::string result;
-        for (int i = 0; i < count; ++i)
-            result += text;
-        return result;
+        return error != nullptr ? wrong_text::messageOf(*error) : std::string();
     }
 
 private Q_SLOTS:
     void wrongQueriesHaveMessages_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("message");
-        const auto row = [](const char* text, const char* message) {
-            QTest::newRow(text) << QByteArray(text) << QByteArray(message);
-        };
-        row("(arm", "0: A closing bracket is missing for this opening one. Put brackets to search for in quotes.");
-        row("a (b (c)", "2: A closing bracket is missing for this opening one. Put brackets to search for in quotes.");
-        row("arm)", "3: An opening bracket is missing for this closing one. Put brackets to search for in quotes.");
-        row("()", "1: A word is missing before \")\". Put it in quotes to search for it.");
-        row("not", "3: A word is missing at the end.");
-        row("arm or", "6: A word is missing at the end.");
-        row("arm and", "7: A word is missing at the end.");
-        row("or arm", "0: A word is missing before \"or\". Put it in quotes to search for it.");
-        row("arm or and", "7: A word is missing before \"and\". Put it in quotes to search for it.");
-        row("\"arm", "0: The closing quote is missing.");
-        row("f:", "2: The name of a field is missing after f:.");
-        row("f: radius", "2: The name of a field is missing after f:.");
-        row("t:", "2: The name of a class is missing after t:, such as t:Mesh.");
-        row("~", "1: A text is missing after ~.");
-        row("f:radius >", "10: A value is missing after >.");
-        row("=", "1: A value is missing after =.");
-        row(">abc", "1: \"abc\" isn't known here. There are no variables.");
-        row(">\"5\"", "1: Only numbers are greater or less. Texts are compared by = and !=.");
-        row(">1,234.5", "1: Signs between thousands can't be read: write 1234.5 for 1,234.5.");
-        row("f:radius =1,234.5", "10: Signs between thousands can't be read: write 1234.5 for 1,234.5.");
-        row("=1/0", "1: A division by 0 has no result.");
-        row("=5x", "2: A multiplication needs its sign: write * before \"x\".");
-        row(">nan", "1: Nothing is greater or less than nan. Write =nan to find it.");
-        row("f:radius <= nan", "12: Nothing is greater or less than nan. Write =nan to find it.");
-        row("/[/", "0: The regular expression has a [ without ].");
-        row("arm /(/", "4: The regular expression has a ( without ).");
-        row("/)/", "0: The regular expression has a ) without (.");
-        row("/*/", "0: The regular expression has \"*\", but nothing before it to repeat.");
-        row("/a**/", "0: The regular expression has two repetitions in a row: \"**\".");
-        row("/[b-a]/", "0: The regular expression has \"b-a\", which is no range or class of characters.");
-        row("/a{1001}/", "0: The regular expression repeats too often or the wrong way round: \"{1001}\".");
-        row("/\\q/", "0: The regular expression has \"\\q\", which has no meaning.");
-        row("/(?=a)/", "0: The regular expression has \"(?=\", which isn't supported.");
-        row("/[[:foo:]]/", "0: The regular expression has \"[:foo:]\", which is no range or class of characters.");
-        row("/((a{100}){100}){100}/", "0: The regular expression repeats too often or the wrong way round: \"{100}\".");
-        row("f:/[/", "2: The regular expression has a [ without ].");
-        row("~/[/", "1: The regular expression has a [ without ].");
+        wrong_text::addRows({
+            {"(arm", "0: A closing bracket is missing for this opening one. Put brackets to search for in quotes."},
+            {"a (b (c)", "2: A closing bracket is missing for this opening one. Put brackets to search for in quotes."},
+            {"arm)", "3: An opening bracket is missing for this closing one. Put brackets to search for in quotes."},
+            {"()", "1: A word is missing before \")\". Put it in quotes to search for it."},
+            {"not", "3: A word is missing at the end."},
+            {"arm or", "6: A word is missing at the end."},
+            {"arm and", "7: A word is missing at the end."},
+            {"or arm", "0: A word is missing before \"or\". Put it in quotes to search for it."},
+            {"arm or and", "7: A word is missing before \"and\". Put it in quotes to search for it."},
+            {"\"arm", "0: The closing quote is missing."},
+            {"f:", "2: The name of a field is missing after f:."},
+            {"f: radius", "2: The name of a field is missing after f:."},
+            {"t:", "2: The name of a class is missing after t:, such as t:Mesh."},
+            {"~", "1: A text is missing after ~."},
+            {"f:radius >", "10: A value is missing after >."},
+            {"=", "1: A value is missing after =."},
+            {">abc", "1: \"abc\" isn't known here. There are no variables."},
+            {">\"5\"", "1: Only numbers are greater or less. Texts are compared by = and !=."},
+            {">1,234.5", "1: Signs between thousands can't be read: write 1234.5 for 1,234.5."},
+            {"f:radius =1,234.5", "10: Signs between thousands can't be read: write 1234.5 for 1,234.5."},
+            {"=1/0", "1: A division by 0 has no result."},
+            {"=5x", "2: A multiplication needs its sign: write * before \"x\"."},
+            {">nan", "1: Nothing is greater or less than nan. Write =nan to find it."},
+            {"f:radius <= nan", "12: Nothing is greater or less than nan. Write =nan to find it."},
+            {"/[/", "0: The regular expression has a [ without ]."},
+            {"arm /(/", "4: The regular expression has a ( without )."},
+            {"/)/", "0: The regular expression has a ) without (."},
+            {"/*/", "0: The regular expression has \"*\", but nothing before it to repeat."},
+            {"/a**/", "0: The regular expression has two repetitions in a row: \"**\"."},
+            {"/[b-a]/", "0: The regular expression has \"b-a\", which is no range or class of characters."},
+            {"/a{1001}/", "0: The regular expression repeats too often or the wrong way round: \"{1001}\"."},
+            {"/\\q/", "0: The regular expression has \"\\q\", which has no meaning."},
+            {"/(?=a)/", "0: The regular expression has \"(?=\", which isn't supported."},
+            {"/[[:foo:]]/", "0: The regular expression has \"[:foo:]\", which is no range or class of characters."},
+            {"/((a{100}){100}){100}/",
+                "0: The regular expression repeats too often or the wrong way round: \"{100}\"."},
+            {"f:/[/", "2: The regular expression has a [ without ]."},
+            {"~/[/", "1: The regular expression has a [ without ]."},
+        });
     }
 
     void wrongQueriesHaveMessages()
     {
-        QFETCH(QByteArray, text);
-        QFETCH(QByteArray, message);
-        QCOMPARE(QByteArray::fromStdString(errorOf(text.toStdString())), message);
+        wrong_text::checkRow([](const std::string& text) { return errorOf(text); });
     }
 
     void queriesHaveLimits()
