@@ -2,13 +2,11 @@
 
 #include "orvane/app/view/ViewColors.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleHints>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -42,10 +40,12 @@ std::vector<NxRef<NxNode>> held(const std::vector<NxNode*>& nodes)
 
 SceneView::SceneView(QWidget* parent)
     : QWidget(parent)
-    , m_navigation(m_viewpoint, [this](const QPointF& position) -> std::optional<VbVec3d> {
-        const std::optional<NxRayHit> hit = hitAt(position);
-        return hit ? std::optional(hit->point) : std::nullopt;
-    })
+    , m_navigation(m_viewpoint,
+          [this](const QPointF& position) -> std::optional<VbVec3d> {
+              const std::optional<NxRayHit> hit = hitAt(position);
+              return hit ? std::optional(hit->point) : std::nullopt;
+          })
+    , m_input(*this, m_navigation, [this] { noteMove(); })
 {
     setObjectName(QStringLiteral("sceneView"));
     setAccessibleName(tr("View"));
@@ -53,6 +53,7 @@ SceneView::SceneView(QWidget* parent)
         tr("The picture of the scene. The arrow keys go round it, with Shift they move it; plus and "
            "minus zoom, F frames the selection, A frames all, 1 to 6 look along the axes."));
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_viewpoint.lookAlong(firstDirection, upwards);
     orvane::setViewColors(m_style, palette());
@@ -93,7 +94,7 @@ void SceneView::setScene(NxGroup* scene, const QString& folder, const std::optio
     m_scene = NxRef<NxGroup>(scene);
     m_selected.clear();
     m_drawing.setScene(scene, folder);
-    endDrag();
+    m_input.cancel();
     m_viewpoint = NxViewpoint();
     m_viewpoint.lookAlong(firstDirection, upwards);
     if (viewpoint)
@@ -233,6 +234,8 @@ void SceneView::paintEvent(QPaintEvent*)
         background.setColorAt(1, toColor(m_style.backgroundBottom));
         painter.fillRect(rect(), background);
     }
+    if (m_message == nullptr)
+        m_input.paint(painter);
     if (hasFocus()) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
@@ -274,92 +277,49 @@ std::optional<NxRayHit> SceneView::hitAt(const QPointF& position) const
     return pick.pick(*m_scene);
 }
 
-void SceneView::pick(const QPointF& position)
-{
-    if (const std::optional<NxRayHit> hit = hitAt(position))
-        Q_EMIT picked(hit->path, hit->point);
-    else
-        Q_EMIT pickedNothing();
-}
-
 void SceneView::mousePressEvent(QMouseEvent* event)
 {
-    if (!m_scene || m_navigation.dragUnderWay() != ViewNavigation::Drag::None)
-        return;
-    if (event->button() == Qt::MiddleButton
-        || (event->button() == Qt::LeftButton && event->modifiers().testFlag(Qt::ShiftModifier)))
-        m_navigation.startDrag(ViewNavigation::Drag::Pan, event->position());
-    else if (event->button() == Qt::LeftButton)
-        m_navigation.startDrag(ViewNavigation::Drag::Orbit, event->position());
-    else
-        return;
-    m_button = event->button();
-    m_pressed = event->position();
-    m_dragging = false;
+    m_input.mousePress(*event);
 }
 
 void SceneView::mouseMoveEvent(QMouseEvent* event)
 {
-    const ViewNavigation::Drag drag = m_navigation.dragUnderWay();
-    if (drag == ViewNavigation::Drag::None)
-        return;
-    if (!event->buttons().testFlag(m_button)) { // another widget got the release
-        endDrag();
-        return;
-    }
-    const QPointF way = event->position() - m_pressed;
-    // A click with an unsteady hand is no drag.
-    if (!m_dragging && way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
-        return;
-    if (!std::exchange(m_dragging, true))
-        setCursor(drag == ViewNavigation::Drag::Pan ? Qt::SizeAllCursor : Qt::ClosedHandCursor);
-    m_navigation.drag(event->position());
-    noteMove();
-}
-
-void SceneView::endDrag()
-{
-    m_navigation.endDrag();
-    unsetCursor();
+    m_input.mouseMove(*event);
 }
 
 void SceneView::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (m_navigation.dragUnderWay() == ViewNavigation::Drag::None || event->button() != m_button)
-        return;
-    endDrag();
-    if (!m_dragging && event->button() == Qt::LeftButton)
-        pick(event->position());
+    m_input.mouseRelease(*event);
 }
 
 void SceneView::wheelEvent(QWheelEvent* event)
 {
-    constexpr float notch = 120;
-    const auto turned = static_cast<float>(event->angleDelta().y());
-    if (turned == 0 || !m_scene)
-        return;
-    m_navigation.zoom(turned / notch, event->position());
-    noteMove();
+    m_input.wheel(*event);
 }
 
 void SceneView::keyPressEvent(QKeyEvent* event)
 {
-    if (m_scene && m_navigation.pressKey(*event))
-        noteMove();
-    else if (m_scene && event->key() == Qt::Key_Escape)
-        Q_EMIT pickedNothing();
-    else
+    if (!m_input.keyPress(*event))
         QWidget::keyPressEvent(event);
 }
 
 void SceneView::contextMenuEvent(QContextMenuEvent* event)
 {
-    if (!m_scene || m_navigation.dragUnderWay() != ViewNavigation::Drag::None)
-        return;
-    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
-    if (!isByKey)
-        pick(event->pos());
-    Q_EMIT menuRequested(isByKey ? mapToGlobal(rect().center()) : event->globalPos());
+    m_input.contextMenu(*event);
+}
+
+void SceneView::leaveEvent(QEvent*)
+{
+    m_input.leave();
+}
+
+bool SceneView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && m_input.overridesShortcut(static_cast<const QKeyEvent&>(*event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void SceneView::focusInEvent(QFocusEvent*)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orvane/app/view/ViewDrawing.h"
+#include "orvane/app/view/ViewInput.h"
 #include "orvane/app/view/ViewNavigation.h"
 
 #include "meridane/gl/NxRayPick.h"
@@ -33,6 +34,13 @@ public:
     void start();
     [[nodiscard]] ViewDrawing& drawing() noexcept { return m_drawing; }
 
+    /// What mouse and keys do here; for tools to be added to.
+    [[nodiscard]] ViewInput& input() noexcept { return m_input; }
+    /// Where positions of the view are in the picture.
+    [[nodiscard]] const ViewNavigation& navigation() const noexcept { return m_navigation; }
+
+    /// The scene that is shown, or null.
+    [[nodiscard]] NxGroup* scene() const noexcept { return m_scene.get(); }
     /// Shows a scene, whose texture files count from the folder; null for none. Without a viewpoint all is in view.
     void setScene(NxGroup* scene, const QString& folder, const std::optional<NxViewpoint>& viewpoint = {});
     /// Outlines the last of these nodes, each a child of the one before; none for nothing.
@@ -43,6 +51,8 @@ public:
     void setViewpoint(const NxViewpoint& viewpoint);
     /// Whether the user has left the viewpoint that shows all.
     [[nodiscard]] bool hasMoved() const noexcept { return m_hasMoved; }
+    /// What a click there would pick, or nothing.
+    [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const;
     void frameAll();
     /// Frames the selected node, or the nearest node above it that has an extent; the whole scene when nothing is
     /// selected.
@@ -79,19 +89,19 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     void redraw(const QSize& deviceSize);
     void showAll();
-    void endDrag();
     void redrawLater();
     void noteMove();
     void showProblem();
-    [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const;
-    void pick(const QPointF& position);
 
     NxViewpoint m_viewpoint;
     ViewNavigation m_navigation;
+    ViewInput m_input;
     NxDrawingStyle m_style;
     ViewDrawing m_drawing;
     NxRef<NxGroup> m_scene;
@@ -99,12 +109,9 @@ private:
     QImage m_picture;
     QSize m_drawnSize; // in device pixels
     QLabel* m_message = nullptr;
-    QPointF m_pressed;
-    Qt::MouseButton m_button = Qt::NoButton; // of the drag under way
     bool m_stale = true;
     bool m_startQueued = false;
     bool m_hasMoved = false;
     bool m_showsAll = true; // whatever the size, until the user moves
     bool m_framesAll = true; // with the next picture
-    bool m_dragging = false; // rather than clicking
 };

@@ -1,0 +1,199 @@
+#include "orvane/app/view/ViewInput.h"
+
+#include "orvane/app/view/SceneView.h"
+#include "orvane/app/view/ViewNavigation.h"
+#include "orvane/app/view/ViewTool.h"
+
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyleHints>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <utility>
+
+ViewInput::ViewInput(SceneView& view, ViewNavigation& navigation, std::function<void()> moved)
+    : m_view(view)
+    , m_navigation(navigation)
+    , m_moved(std::move(moved))
+{
+}
+
+void ViewInput::addTool(ViewTool* tool)
+{
+    m_tools.insert(m_tools.begin(), tool);
+}
+
+void ViewInput::removeTool(ViewTool* tool)
+{
+    if (m_taker == tool)
+        m_taker = nullptr;
+    std::erase(m_tools, tool);
+}
+
+bool ViewInput::isDragging() const
+{
+    return m_taker != nullptr || m_navigation.dragUnderWay() != ViewNavigation::Drag::None;
+}
+
+void ViewInput::cancel()
+{
+    if (ViewTool* const taker = std::exchange(m_taker, nullptr); taker != nullptr)
+        taker->cancel();
+    m_navigation.endDrag();
+    m_view.unsetCursor();
+}
+
+bool ViewInput::giveToTools(const QMouseEvent& event)
+{
+    const auto taker
+        = std::find_if(m_tools.begin(), m_tools.end(), [&](ViewTool* tool) { return tool->mousePress(event); });
+    if (taker == m_tools.end())
+        return false;
+    m_taker = *taker;
+    m_button = event.button();
+    m_withoutMenu = true;
+    return true;
+}
+
+void ViewInput::mousePress(const QMouseEvent& event)
+{
+    if (m_taker != nullptr) {
+        m_taker->mousePress(event);
+        return;
+    }
+    if (m_view.scene() == nullptr || isDragging())
+        return;
+    m_withoutMenu = false;
+    if (giveToTools(event))
+        return;
+    if (event.button() == Qt::MiddleButton
+        || (event.button() == Qt::LeftButton && event.modifiers().testFlag(Qt::ShiftModifier)))
+        m_navigation.startDrag(ViewNavigation::Drag::Pan, event.position());
+    else if (event.button() == Qt::LeftButton)
+        m_navigation.startDrag(ViewNavigation::Drag::Orbit, event.position());
+    else
+        return;
+    leaveTools(nullptr);
+    m_button = event.button();
+    m_pressed = event.position();
+    m_isMoving = false;
+}
+
+void ViewInput::mouseMove(const QMouseEvent& event)
+{
+    if (!isDragging()) {
+        const auto taker = m_view.scene() == nullptr || event.buttons() != Qt::NoButton
+            ? m_tools.end()
+            : std::find_if(m_tools.begin(), m_tools.end(), [&](ViewTool* tool) { return tool->mouseMove(event); });
+        leaveTools(taker == m_tools.end() ? nullptr : *taker);
+        return;
+    }
+    if (!event.buttons().testFlag(m_button)) { // another widget got the release
+        cancel();
+        return;
+    }
+    if (m_taker != nullptr) {
+        m_taker->mouseMove(event);
+        return;
+    }
+    const QPointF way = event.position() - m_pressed;
+    // A click with an unsteady hand is no drag.
+    if (!m_isMoving && way.manhattanLength() < QGuiApplication::styleHints()->startDragDistance())
+        return;
+    if (!std::exchange(m_isMoving, true))
+        m_view.setCursor(
+            m_navigation.dragUnderWay() == ViewNavigation::Drag::Pan ? Qt::SizeAllCursor : Qt::ClosedHandCursor);
+    m_navigation.drag(event.position());
+    m_moved();
+}
+
+void ViewInput::mouseRelease(const QMouseEvent& event)
+{
+    if (!isDragging() || event.button() != m_button)
+        return;
+    if (ViewTool* const taker = std::exchange(m_taker, nullptr); taker != nullptr) {
+        taker->mouseRelease(event);
+        return;
+    }
+    m_navigation.endDrag();
+    m_view.unsetCursor();
+    if (!m_isMoving && event.button() == Qt::LeftButton)
+        pick(event.position());
+}
+
+void ViewInput::leave()
+{
+    if (!isDragging())
+        leaveTools(nullptr);
+}
+
+void ViewInput::leaveTools(const ViewTool* but)
+{
+    for (ViewTool* tool : m_tools) {
+        if (tool != but)
+            tool->leave();
+    }
+}
+
+void ViewInput::wheel(const QWheelEvent& event)
+{
+    constexpr float notch = 120;
+    const auto turned = static_cast<float>(event.angleDelta().y());
+    if (turned == 0 || m_view.scene() == nullptr || m_taker != nullptr)
+        return;
+    m_navigation.zoom(turned / notch, event.position());
+    m_moved();
+}
+
+bool ViewInput::overridesShortcut(const QKeyEvent& event) const
+{
+    if (m_taker != nullptr)
+        return m_taker->wantsKey(event);
+    return m_view.scene() != nullptr
+        && std::any_of(m_tools.begin(), m_tools.end(), [&](const ViewTool* tool) { return tool->wantsKey(event); });
+}
+
+bool ViewInput::keyPress(const QKeyEvent& event)
+{
+    if (m_view.scene() == nullptr)
+        return false;
+    if (m_taker != nullptr)
+        return m_taker->keyPress(event);
+    if (std::any_of(m_tools.begin(), m_tools.end(), [&](ViewTool* tool) { return tool->keyPress(event); }))
+        return true;
+    if (m_navigation.pressKey(event)) {
+        m_moved();
+        return true;
+    }
+    if (event.key() != Qt::Key_Escape)
+        return false;
+    Q_EMIT m_view.pickedNothing();
+    return true;
+}
+
+void ViewInput::contextMenu(const QContextMenuEvent& event)
+{
+    const bool isByKey = event.reason() == QContextMenuEvent::Keyboard;
+    if (m_view.scene() == nullptr || isDragging() || (!isByKey && m_withoutMenu))
+        return;
+    if (!isByKey)
+        pick(event.pos());
+    Q_EMIT m_view.menuRequested(isByKey ? m_view.mapToGlobal(m_view.rect().center()) : event.globalPos());
+}
+
+void ViewInput::paint(QPainter& painter) const
+{
+    for (std::size_t tool = m_tools.size(); tool-- > 0;)
+        m_tools[tool]->paint(painter);
+}
+
+void ViewInput::pick(const QPointF& position)
+{
+    if (const std::optional<NxRayHit> hit = m_view.hitAt(position))
+        Q_EMIT m_view.picked(hit->path, hit->point);
+    else
+        Q_EMIT m_view.pickedNothing();
+}

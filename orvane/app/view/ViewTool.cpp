@@ -1,0 +1,29 @@
+#include "orvane/app/view/ViewTool.h"
+
+bool ViewTool::mousePress(const QMouseEvent& /*event*/)
+{
+    return false;
+}
+
+bool ViewTool::mouseMove(const QMouseEvent& /*event*/)
+{
+    return false;
+}
+
+void ViewTool::mouseRelease(const QMouseEvent& /*event*/) { }
+
+void ViewTool::cancel() { }
+
+void ViewTool::leave() { }
+
+bool ViewTool::wantsKey(const QKeyEvent& /*event*/) const
+{
+    return false;
+}
+
+bool ViewTool::keyPress(const QKeyEvent& /*event*/)
+{
+    return false;
+}
+
+void ViewTool::paint(QPainter& /*painter*/) const { }
