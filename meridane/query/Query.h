@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/query/FoundParts.h"
 #include "meridane/query/QueryError.h"
 #include "meridane/query/QuerySubject.h"
 
@@ -50,6 +51,9 @@ public:
     [[nodiscard]] bool matches(const NxField& field) const;
     /// A plain text, in UTF-8. A word matches if the text contains it.
     [[nodiscard]] bool matchesText(std::string_view text) const;
+    /// The parts of a text, in UTF-8, in which words of the query are found, for highlighting: of the first 4 KiB.
+    /// Words after `not`, comparisons of numbers, `changed` and `ignored` have none.
+    [[nodiscard]] FoundParts foundIn(std::string_view text, SearchedText kind) const;
 
 private:
     explicit Query(std::shared_ptr<const QueryTree> tree)

@@ -11,6 +11,7 @@
 
 #include <QTest>
 
+#include <algorithm>
 #include <limits>
 
 using meridane::Query;
@@ -53,6 +54,19 @@ private:
         QTest::addColumn<QByteArray>("expected");
         for (const auto& [query, expected] : rows)
             QTest::newRow(query) << QByteArray(query) << QByteArray(expected);
+    }
+
+    /// The found parts in brackets: "[ar]m".
+    static std::string marked(const std::string& query, std::string_view text, meridane::SearchedText kind)
+    {
+        std::string result(text);
+        meridane::FoundParts parts = parsed(query).foundIn(text, kind);
+        std::ranges::reverse(parts);
+        for (const meridane::FoundPart& part : parts) {
+            result.insert(part.start + part.length, "]");
+            result.insert(part.start, "[");
+        }
+        return result;
     }
 
 private Q_SLOTS:
@@ -334,6 +348,32 @@ private Q_SLOTS:
         QVERIFY(!query.matchesText("a b c"));
         QVERIFY(parsed("/a.b/", Query::Subject::Rows).matchesText("A\nB"));
         QVERIFY(parsed("/a\\/b/", Query::Subject::Rows).matchesText("A/B"));
+    }
+
+    void whatWasFoundCanBeHighlighted()
+    {
+        using enum meridane::SearchedText;
+        QCOMPARE(marked("arm", "leftArm", Name), std::string("left[Arm]"));
+        QCOMPARE(marked("lfa", "leftArm", Name), std::string("[l]e[f]t[A]rm"));
+        QCOMPARE(marked("lfa", "leftArm", Value), std::string("leftArm"));
+        QCOMPARE(marked("lfx", "leftArm", Name), std::string("leftArm"));
+        QCOMPARE(marked("a", "Banana", Value), std::string("B[a]n[a]n[a]"));
+        QCOMPARE(marked("ana nab", "banana", Name), std::string("b[ana]na"));
+        QCOMPARE(marked("ban or nan", "banana", Value), std::string("[banan]a"));
+        QCOMPARE(marked("not arm", "leftArm", Name), std::string("leftArm"));
+        QCOMPARE(marked("f:arm", "leftArm", Name), std::string("left[Arm]"));
+        QCOMPARE(marked("f:arm", "leftArm", Value), std::string("leftArm"));
+        QCOMPARE(marked("~arm", "leftArm", Name), std::string("leftArm"));
+        QCOMPARE(marked("~arm", "leftArm", Value), std::string("left[Arm]"));
+        QCOMPARE(marked("/t.r|f/", "leftArm", Name), std::string("le[ftAr]m"));
+        QCOMPARE(marked("/x*/", "leftArm", Name), std::string("leftArm"));
+        QCOMPARE(marked("t:Vec3f", "SFVec3f", Class), std::string("SF[Vec3f]"));
+        QCOMPARE(marked("t:SFVec", "SFVec3f", Class), std::string("[SFVec]3f"));
+        QCOMPARE(marked("t:Vec3f", "Vec3f", Name), std::string("Vec3f"));
+        QCOMPARE(marked("\u00E4\u00D6", "x\u00C4yz\u00F6", Name), std::string("x[\u00C4]yz[\u00F6]"));
+        QCOMPARE(marked("/\u00E4/", "x\u00C4\u00C4", Value), std::string("x[\u00C4\u00C4]"));
+        QCOMPARE(marked("changed =0.5", "0.5", Value), std::string("0.5"));
+        QCOMPARE(marked("", "leftArm", Name), std::string("leftArm"));
     }
 };
 

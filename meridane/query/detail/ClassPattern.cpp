@@ -48,6 +48,16 @@ bool ClassPattern::matches(const NxField& field) const
     return matches(field.getTypeId());
 }
 
+void ClassPattern::addFound(std::string_view name, FoundParts& parts) const
+{
+    const std::string folded = foldCase(name);
+    const std::size_t start = folded.size() - withoutKind(folded).size();
+    if (matchesName(folded))
+        parts.push_back({0, m_name.size()});
+    else if (matchesName(withoutKind(folded)))
+        parts.push_back({start, m_name.size()});
+}
+
 bool ClassPattern::matches(NxType type) const
 {
     const auto known = std::ranges::find(m_known, type, &std::pair<NxType, bool>::first);

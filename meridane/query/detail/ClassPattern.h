@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meridane/base/types/NxType.h"
+#include "meridane/query/FoundParts.h"
 
 #include <string>
 #include <string_view>
@@ -21,6 +22,8 @@ public:
     [[nodiscard]] bool matches(const NxNode& node) const;
     /// A field, by its own class.
     [[nodiscard]] bool matches(const NxField& field) const;
+    /// Adds the part of a class's name that is the pattern.
+    void addFound(std::string_view name, FoundParts& parts) const;
 
 private:
     [[nodiscard]] bool matches(NxType type) const;

@@ -129,4 +129,34 @@ bool QueryTree::matchesText(std::string_view text) const
         m_condition);
 }
 
+void QueryTree::addFound(std::string_view text, SearchedText kind, FoundParts& parts) const
+{
+    const auto addAll = [&](const std::vector<QueryTree>& conditions) {
+        for (const QueryTree& each : conditions)
+            each.addFound(text, kind, parts);
+    };
+    std::visit(Overloaded{
+                   [&](const Name& name) {
+                       kind == SearchedText::Value ? name.pattern.addFoundInText(text, parts)
+                                                   : name.pattern.addFoundInName(text, parts);
+                   },
+                   [&](const Class& type) {
+                       if (kind == SearchedText::Class)
+                           type.pattern.addFound(text, parts);
+                   },
+                   [&](const FieldName& name) {
+                       if (kind == SearchedText::Name)
+                           name.pattern.addFoundInName(text, parts);
+                   },
+                   [&](const ValueText& value) {
+                       if (kind == SearchedText::Value)
+                           value.pattern.addFoundInText(text, parts);
+                   },
+                   [&](const All& all) { addAll(all.conditions); },
+                   [&](const Any& any) { addAll(any.conditions); },
+                   [](const auto&) {},
+               },
+        m_condition);
+}
+
 } // namespace meridane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/query/FoundParts.h"
 #include "meridane/query/detail/ClassPattern.h"
 #include "meridane/query/detail/TextPattern.h"
 #include "meridane/query/detail/ValueTest.h"
@@ -52,6 +53,8 @@ public:
     [[nodiscard]] bool matches(const NxNode& node) const;
     [[nodiscard]] bool matches(const NxField& field) const;
     [[nodiscard]] bool matchesText(std::string_view text) const;
+    /// Adds the parts of a text in which words are found, in any order.
+    void addFound(std::string_view text, SearchedText kind, FoundParts& parts) const;
 
 private:
     Condition m_condition;

@@ -57,6 +57,28 @@ bool hasInOrder(std::string_view text, std::string_view letters)
     return true;
 }
 
+std::size_t characterSize(std::string_view text, std::size_t start)
+{
+    std::size_t end = start + 1;
+    while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80)
+        ++end;
+    return end - start;
+}
+
+void addFoundByExpression(const re2::RE2& expression, std::string_view text, FoundParts& parts)
+{
+    const re2::StringPiece searched(text.data(), text.size());
+    re2::StringPiece found;
+    for (std::size_t start = 0; start < text.size();) {
+        if (!expression.Match(searched, start, text.size(), re2::RE2::UNANCHORED, &found, 1))
+            return;
+        const auto at = static_cast<std::size_t>(found.data() - text.data());
+        if (!found.empty())
+            parts.push_back({at, found.size()});
+        start = at + (found.empty() ? characterSize(text, at) : found.size());
+    }
+}
+
 } // namespace
 
 TextPattern TextPattern::word(std::string_view word)
@@ -106,6 +128,37 @@ bool TextPattern::matchesText(std::string_view text) const
     if (m_expression != nullptr)
         return re2::RE2::PartialMatch(re2::StringPiece(text.data(), text.size()), *m_expression);
     return folded(text).find(m_text) != std::string_view::npos;
+}
+
+void TextPattern::addFoundInName(std::string_view name, FoundParts& parts) const
+{
+    const std::size_t before = parts.size();
+    addFoundInText(name, parts);
+    if (!m_isWord || parts.size() > before || !matchesName(name))
+        return;
+    std::size_t found = 0;
+    for (std::size_t i = 0; i < m_text.size(); i += characterSize(m_text, i)) {
+        const std::string_view letter = std::string_view(m_text).substr(i, characterSize(m_text, i));
+        found = m_folded.find(letter, found);
+        if (found == std::string::npos)
+            return;
+        parts.push_back({found, letter.size()});
+        found += letter.size();
+    }
+}
+
+void TextPattern::addFoundInText(std::string_view text, FoundParts& parts) const
+{
+    if (m_expression != nullptr) {
+        addFoundByExpression(*m_expression, text, parts);
+        return;
+    }
+    const std::string_view searched = folded(text);
+    if (m_text.empty())
+        return;
+    for (std::size_t at = searched.find(m_text); at != std::string_view::npos;
+         at = searched.find(m_text, at + m_text.size()))
+        parts.push_back({at, m_text.size()});
 }
 
 bool TextPattern::isEqualTo(std::string_view text) const

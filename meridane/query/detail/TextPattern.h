@@ -1,5 +1,7 @@
 #pragma once
 
+#include "meridane/query/FoundParts.h"
+
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,6 +30,10 @@ public:
     [[nodiscard]] bool matchesName(std::string_view name) const;
     /// Whether it matches a longer text, in which the letters of a word must be next to each other.
     [[nodiscard]] bool matchesText(std::string_view text) const;
+    /// Adds what `matchesName` finds: the letters of a word, together if they are so anywhere.
+    void addFoundInName(std::string_view name, FoundParts& parts) const;
+    /// Adds all that `matchesText` can find.
+    void addFoundInText(std::string_view text, FoundParts& parts) const;
     /// Whether the text is the word or the phrase.
     [[nodiscard]] bool isEqualTo(std::string_view text) const;
 
