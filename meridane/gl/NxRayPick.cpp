@@ -22,6 +22,7 @@ struct Step {
     std::span<NxNode* const> children;
     std::size_t next = 0;
     Matrix4d matrix; // from the children to the ray
+    NxNodeVisibility::State state; // of the group
 };
 
 std::span<NxNode* const> shownChildren(const NxNode& node)
@@ -82,7 +83,8 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
     MeshHit search(m_radius, m_slope, m_nearest, m_farthest);
     std::optional<NxRayHit> hit;
     // Without recursion: a scene may be too deep for the stack.
-    std::vector<Step> steps{{shownChildren(root), 0, multiply(localTransformOf(root), sceneToRay(m_ray))}};
+    std::vector<Step> steps{
+        {shownChildren(root), 0, multiply(localTransformOf(root), sceneToRay(m_ray)), m_visibility.below({}, root)}};
     for (std::size_t places = 0; !steps.empty() && places < maxPlaces; ++places) {
         Step& step = steps.back();
         if (step.next == step.children.size()) {
@@ -90,17 +92,18 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
             continue;
         }
         const NxNode& node = *step.children[step.next++];
+        const NxNodeVisibility::State state = m_visibility.below(step.state, node);
         const std::span<NxNode* const> children = shownChildren(node);
         if (const auto* mesh = dynamic_cast<const NxMesh*>(&node)) {
-            if (!search.meet(*mesh, step.matrix))
+            if (!m_visibility.shows(state) || !search.meet(*mesh, step.matrix))
                 continue;
             hit = NxRayHit{{}, VbVec3d(), static_cast<float>(search.distance()), search.primitive()};
             for (const Step& above : steps)
                 hit->path.push_back(above.children[above.next - 1]);
-        } else if (!children.empty()) {
+        } else if (!children.empty() && !state.isHidden) {
             const Matrix4d matrix = multiply(localTransformOf(node), step.matrix);
             if (isFinite(matrix))
-                steps.push_back({children, 0, matrix});
+                steps.push_back({children, 0, matrix, state});
         }
     }
     if (hit) {

@@ -2,6 +2,7 @@
 
 #include "meridane/base/values/VbVec.h"
 #include "meridane/gl/geometry/NxViewpoint.h"
+#include "meridane/gl/places/NxNodeVisibility.h"
 
 #include <optional>
 #include <vector>
@@ -33,6 +34,9 @@ public:
     /// Limits hits to a range of distances from the origin. At first from 0 to infinity.
     void setDistances(float nearest, float farthest) noexcept;
 
+    /// Skips nodes that aren't shown. At first all are.
+    void setVisibility(const NxNodeVisibility& visibility) { m_visibility = visibility; }
+
     /// The first hit below `root`, or nothing.
     [[nodiscard]] std::optional<NxRayHit> pick(const NxNode& root) const;
 
@@ -42,4 +46,5 @@ private:
     float m_slope = 0;
     float m_nearest = 0;
     float m_farthest;
+    NxNodeVisibility m_visibility;
 };

@@ -66,6 +66,7 @@ public:
     std::vector<Id> selectedItems;
     std::uint64_t selectedStructure = 0;
     bool isSelectionStale = false;
+    NxNodeVisibility visibility;
 
     GLErrors errors;
     ItemPainter painter;
@@ -87,6 +88,7 @@ void NxSceneDrawing::Private::updateSelection()
         nodes.push_back(node.get());
     if (!nodes.empty())
         selectedItems = isSelectionPath ? scene.itemsBelow(nodes) : scene.itemsBelow(nodes.front());
+    std::erase_if(selectedItems, [this](Id item) { return !scene.isShown(item); });
 }
 
 // Limited to what the context supports.
@@ -147,6 +149,7 @@ void NxSceneDrawing::setScene(NxNode* root)
     m_private->errors.forget();
     m_private->selection.clear();
     m_private->isSelectionStale = true;
+    m_private->visibility = NxNodeVisibility();
     m_private->scene.setRoot(root);
     m_private->noteChange();
 }
@@ -171,6 +174,20 @@ void NxSceneDrawing::setSelectedPath(std::span<NxNode* const> nodes)
     m_private->selection.assign(nodes.begin(), nodes.end());
     m_private->isSelectionPath = true;
     m_private->isSelectionStale = true;
+    m_private->noteChange();
+}
+
+void NxSceneDrawing::setHiddenNodes(std::span<NxNode* const> nodes)
+{
+    m_private->visibility.setHidden(nodes);
+    m_private->scene.setVisibility(m_private->visibility);
+    m_private->noteChange();
+}
+
+void NxSceneDrawing::setIsolatedNodes(std::span<NxNode* const> nodes)
+{
+    m_private->visibility.setIsolated(nodes);
+    m_private->scene.setVisibility(m_private->visibility);
     m_private->noteChange();
 }
 

@@ -32,7 +32,8 @@ public:
     NxSceneDrawing& operator=(const NxSceneDrawing&) = delete;
     ~NxSceneDrawing();
 
-    /// Sets the root of the scene to draw; null for nothing. The drawing holds a reference to it. Clears the selection.
+    /// Sets the root of the scene to draw; null for nothing. The drawing holds a reference to it. Clears the selection
+    /// and shows all nodes.
     void setScene(NxNode* root);
     [[nodiscard]] NxNode* scene() const;
 
@@ -40,6 +41,12 @@ public:
     void setSelectedNode(NxNode* node);
     /// Outlines one instance of a node, given as the path of nodes from a child of the root to it; empty for none.
     void setSelectedPath(std::span<NxNode* const> nodes);
+
+    /// Doesn't draw these nodes and what is below them: see `NxNodeVisibility`. They have no box either. Holds
+    /// references to them. Another scene ends it.
+    void setHiddenNodes(std::span<NxNode* const> nodes);
+    /// Draws nothing but these nodes and what is below them; everything if there are none.
+    void setIsolatedNodes(std::span<NxNode* const> nodes);
 
     void setStyle(const NxDrawingStyle& style);
     [[nodiscard]] const NxDrawingStyle& style() const;

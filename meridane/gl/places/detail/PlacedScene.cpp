@@ -29,6 +29,7 @@ void PlacedScene::setRoot(NxNode* root)
         empty(topPlace);
     }
     m_problems.forget();
+    m_visibility = NxNodeVisibility();
     m_isCut = false;
     m_isCutReported = false;
     m_root = root;
@@ -135,7 +136,7 @@ void PlacedScene::followMesh(MeshRecord& mesh)
     if (mesh.shape.bounds == before)
         return;
     for (Id id = mesh.firstItem; id != noId; id = m_table.item(id).nextOfMesh)
-        m_tree.set(id, boundsOf(m_table.item(id)));
+        updateBox(id);
 }
 
 void PlacedScene::inspectMesh(MeshRecord& mesh)
@@ -171,7 +172,7 @@ void PlacedScene::move(Id top)
             ++m_lighting;
         }
         for (Id id = place.firstItem; id != noId; id = m_table.item(id).nextInPlace)
-            m_tree.set(id, boundsOf(m_table.item(id)));
+            updateBox(id);
         for (Id id = place.firstChild; id != noId; id = m_table.place(id).nextSibling)
             waiting.push_back(id);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/gl/places/NxNodeVisibility.h"
 #include "meridane/gl/places/detail/BoundsTree.h"
 #include "meridane/gl/places/detail/Looks.h"
 #include "meridane/gl/places/detail/NodeRecords.h"
@@ -49,12 +50,15 @@ public:
     [[nodiscard]] NxNode* root() const noexcept { return m_root.get(); }
     /// Applies the changes since the last call.
     void update();
+    /// Which nodes are shown; the boxes of others aren't in `tree`. Ended by another root.
+    void setVisibility(NxNodeVisibility visibility);
+    [[nodiscard]] bool isShown(Id item) const;
 
     [[nodiscard]] const PlaceTable& table() const noexcept { return m_table; }
     [[nodiscard]] const Looks& looks() const noexcept { return m_looks; }
     [[nodiscard]] BoundsTree& tree() noexcept { return m_tree; }
     [[nodiscard]] Problems& problems() noexcept { return m_problems; }
-    /// A number that changes when places are added or removed.
+    /// A number that changes when places are added, removed, hidden or shown.
     [[nodiscard]] std::uint64_t structure() const noexcept { return m_structure; }
     /// The cost of all updates so far: nodes visited, places moved and keys compared.
     [[nodiscard]] std::uint64_t steps() const noexcept { return m_steps; }
@@ -108,6 +112,7 @@ private:
     void removePlace(Id id);
     void removeItem(Id id);
     void move(Id top);
+    void updateBox(Id item);
     [[nodiscard]] Matrix4d worldTransformIn(GroupRecord& group, const Matrix4d& parent);
     void inspectMesh(MeshRecord& mesh);
     void collect(Id top, std::vector<Id>& items) const;
@@ -123,6 +128,7 @@ private:
         = LightList::maxLights; // expired entries are removed when there are more entries than this
     PlaceTable m_table;
     BoundsTree m_tree;
+    NxNodeVisibility m_visibility;
     Problems m_problems;
     std::vector<NodeRecord*> m_pending; // changed since the latest update
     std::uint64_t m_structure = 0;

@@ -243,8 +243,7 @@ void PlacedScene::addMesh(NxMesh& mesh, Filling& filling)
     item.mesh = &record;
     item.place = filling.place;
     item.look = lookOf(filling);
-    const Id id = m_table.addItem(item);
-    m_tree.set(id, boundsOf(item));
+    updateBox(m_table.addItem(item));
 }
 
 } // namespace meridane
