@@ -8,7 +8,7 @@
 #include <QPainter>
 
 FavoriteDelegate::FavoriteDelegate(const FavoriteNodes& favorites, const SceneTreeModel& model, QObject* parent)
-    : QStyledItemDelegate(parent)
+    : NodeDelegate(parent)
     , m_favorites(favorites)
     , m_model(model)
 {
@@ -21,7 +21,7 @@ bool FavoriteDelegate::isFavorite(const QModelIndex& index) const
 
 void FavoriteDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
-    QStyledItemDelegate::initStyleOption(option, index);
+    NodeDelegate::initStyleOption(option, index);
     if (!isFavorite(index))
         return;
     // The text ends before the star.
@@ -33,7 +33,7 @@ void FavoriteDelegate::initStyleOption(QStyleOptionViewItem* option, const QMode
 
 void FavoriteDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    QStyledItemDelegate::paint(painter, option, index);
+    NodeDelegate::paint(painter, option, index);
     if (!isFavorite(index))
         return;
     const int side = orvane::look::iconSize(option.fontMetrics);

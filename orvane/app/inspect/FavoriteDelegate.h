@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "orvane/app/tree/NodeDelegate.h"
 
 class FavoriteNodes;
 class SceneTreeModel;
 
 /// Draws the names in the scene tree, with a star at the end of the rows of favorites.
-class FavoriteDelegate : public QStyledItemDelegate {
+class FavoriteDelegate : public NodeDelegate {
     Q_OBJECT
 
 public:

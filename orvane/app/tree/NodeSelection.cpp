@@ -1,5 +1,6 @@
 #include "orvane/app/tree/NodeSelection.h"
 
+#include "orvane/app/tree/RowOrder.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 
 #include "meridane/scene/nodes/NodeTraversal.h"
@@ -8,6 +9,7 @@
 #include <QItemSelectionModel>
 #include <QSignalBlocker>
 
+#include <algorithm>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -108,6 +110,48 @@ void NodeSelection::select(std::span<NxNode* const> nodes)
         if (node == nodes.front())
             last = indexes[group->second].back();
     }
+    QItemSelection ranges;
+    for (const QModelIndexList& group : indexes)
+        addRanges(ranges, group);
+    setRanges(ranges, last);
+}
+
+QModelIndexList NodeSelection::indexes() const
+{
+    return orvane::rowsInTreeOrder(m_view->selectionModel()->selection());
+}
+
+void NodeSelection::selectIndexes(const QModelIndexList& indexes, const QModelIndex& last)
+{
+    QHash<QModelIndex, std::size_t> groups; // where in `rows`
+    std::vector<QModelIndexList> rows; // of each group
+    QModelIndex current;
+    for (const QModelIndex& index : indexes) {
+        if (index.model() != m_model)
+            continue;
+        const QModelIndex row = index.siblingAtColumn(SceneTreeModel::NameColumn);
+        const QModelIndex parent = row.parent();
+        const auto known = groups.constFind(parent);
+        const std::size_t group = known != groups.constEnd() ? *known : rows.size();
+        if (group == rows.size()) {
+            groups.insert(parent, group);
+            rows.emplace_back();
+        }
+        rows[group].append(row);
+        if (!current.isValid() || row == last)
+            current = row;
+    }
+    QItemSelection ranges;
+    for (QModelIndexList& group : rows) {
+        std::sort(group.begin(), group.end()); // siblings, so by their rows
+        group.erase(std::unique(group.begin(), group.end()), group.end());
+        addRanges(ranges, group);
+    }
+    setRanges(ranges, current);
+}
+
+void NodeSelection::setRanges(const QItemSelection& ranges, const QModelIndex& last)
+{
     QItemSelectionModel& selection = *m_view->selectionModel();
     if (last.isValid()) {
         selection.setCurrentIndex(last, QItemSelectionModel::NoUpdate);
@@ -116,9 +160,6 @@ void NodeSelection::select(std::span<NxNode* const> nodes)
     {
         // The view looks for the place of each range, which takes time in proportion to all rows.
         const QSignalBlocker blocker(&selection);
-        QItemSelection ranges;
-        for (const QModelIndexList& group : indexes)
-            addRanges(ranges, group);
         selection.clearSelection(); // a change of many ranges to many others takes long
         selection.select(ranges, QItemSelectionModel::Select);
     }

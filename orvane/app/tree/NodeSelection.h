@@ -12,6 +12,7 @@
 
 class NxNode;
 class QAbstractItemView;
+class QItemSelection;
 class SceneTreeModel;
 
 /// The nodes that are selected in the scene tree, each once, however many places it has.
@@ -29,12 +30,17 @@ public:
     /// The nodes; the one selected last is the first of them, and the others are in the order in which they were
     /// selected. Null if none is. The object stays the same until the selection changes.
     [[nodiscard]] std::shared_ptr<const Nodes> nodes() const;
+    /// The first cells of all selected rows, in the order of the tree. A node may be in several of them.
+    [[nodiscard]] QModelIndexList indexes() const;
     /// The row of the node selected last, its first cell; invalid if none is selected.
     [[nodiscard]] QModelIndex lastIndex() const;
 
     /// Selects these nodes and no others; the first one is the one selected last. Nodes that aren't in the scene are
     /// left out. It takes one way through the scene.
     void select(std::span<NxNode* const> nodes);
+    /// Selects these rows and no others. `last` becomes the one selected last if it is one of them, else the first is.
+    /// Takes time in proportion to them.
+    void selectIndexes(const QModelIndexList& indexes, const QModelIndex& last = {});
     /// Adds the node of a row, or takes it away if it is selected.
     void toggle(const QModelIndex& index);
 
@@ -44,6 +50,7 @@ Q_SIGNALS:
 
 private:
     void forget();
+    void setRanges(const QItemSelection& ranges, const QModelIndex& last);
 
     QAbstractItemView* m_view;
     SceneTreeModel* m_model;

@@ -4,6 +4,7 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/scene/NodeSearch.h"
 #include "orvane/app/tree/NodeIcons.h"
+#include "orvane/app/tree/NodeMarks.h"
 #include "orvane/app/tree/SceneBranch.h"
 #include "orvane/app/tree/ShownNodes.h"
 
@@ -169,11 +170,10 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
                                             : QString::fromUtf8(shown->getClassName());
     case Qt::DecorationRole:
         return index.column() == NameColumn ? QVariant(orvane::nodeIcon(shown->getTypeId())) : QVariant();
-    case Qt::FontRole: {
-        QFont font;
-        font.setItalic(true);
-        return unnamed && index.column() == NameColumn ? QVariant(font) : QVariant();
-    }
+    case Qt::FontRole:
+        return index.column() == NameColumn ? font(index) : QVariant();
+    case GreyedRole:
+        return m_marks != nullptr && !m_marks->isHit(*shown) && !m_marks->leadsToHit(*shown);
     case Qt::ToolTipRole:
         return toolTip(index);
     default:
@@ -298,6 +298,18 @@ void SceneTreeModel::layoutAgain()
 {
     Q_EMIT layoutAboutToBeChanged();
     Q_EMIT layoutChanged();
+}
+
+QVariant SceneTreeModel::font(const QModelIndex& index) const
+{
+    const NxNode* const shown = node(index);
+    const bool isHit = m_marks != nullptr && m_marks->isHit(*shown);
+    if (!isHit && !shown->getName().isEmpty())
+        return {};
+    QFont font;
+    font.setItalic(shown->getName().isEmpty());
+    font.setBold(isHit);
+    return font;
 }
 
 QString SceneTreeModel::toolTip(const QModelIndex& index) const

@@ -8,6 +8,7 @@
 #include <span>
 #include <vector>
 
+class NodeMarks;
 class SceneBranch;
 class ShownNodes;
 
@@ -22,6 +23,9 @@ class SceneTreeModel : public QAbstractItemModel {
 
 public:
     enum Column { NameColumn, ClassColumn, ColumnCount };
+    enum Role {
+        GreyedRole = Qt::UserRole, ///< whether a search has found neither the node nor anything below it
+    };
 
     explicit SceneTreeModel(QObject* parent = nullptr);
     ~SceneTreeModel() override;
@@ -30,6 +34,8 @@ public:
     void setScene(NxGroup* scene);
     /// The group that is shown, or null.
     [[nodiscard]] NxGroup* scene() const;
+    /// Shows which nodes a search has found; null for none. Views must be repainted by the caller.
+    void setMarks(std::shared_ptr<const NodeMarks> marks) { m_marks = std::move(marks); }
     /// The rows under which there are rows, each before those under it. Others can't be unfolded.
     [[nodiscard]] QModelIndexList fetchedIndexes() const;
 
@@ -71,7 +77,9 @@ private:
     void updateRows(SceneBranch& branch, NxNode& node, bool unfolds);
     void layoutAgain();
     [[nodiscard]] QString toolTip(const QModelIndex& index) const;
+    [[nodiscard]] QVariant font(const QModelIndex& index) const;
 
     std::unique_ptr<SceneBranch> m_root;
     std::unique_ptr<ShownNodes> m_shown;
+    std::shared_ptr<const NodeMarks> m_marks;
 };

@@ -1,5 +1,7 @@
 #include "orvane/app/tree/SceneTreePanel.h"
 
+#include "orvane/app/tree/NodeDelegate.h"
+#include "orvane/app/tree/NodeMarks.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreeView.h"
@@ -21,13 +23,15 @@ SceneTreePanel::SceneTreePanel(QWidget* parent)
     : QWidget(parent)
     , m_model(new SceneTreeModel(this))
     , m_view(new SceneTreeView(this))
+    , m_layout(new QVBoxLayout(this))
 {
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_view);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(m_view);
     m_view->setObjectName(QStringLiteral("sceneTree"));
     m_view->setAccessibleName(tr("Scene"));
     m_view->setModel(m_model);
+    m_view->setItemDelegate(new NodeDelegate(m_view));
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_selection = new NodeSelection(m_view, m_model);
     m_view->setUniformRowHeights(true);
@@ -76,6 +80,56 @@ void SceneTreePanel::select(const QModelIndex& index)
     } else {
         m_view->selectionModel()->clear();
     }
+}
+
+QTreeView* SceneTreePanel::view() const noexcept
+{
+    return m_view;
+}
+
+void SceneTreePanel::setMarks(const std::shared_ptr<const NodeMarks>& marks)
+{
+    m_model->setMarks(marks);
+    m_view->viewport()->update();
+}
+
+FoldState SceneTreePanel::foldState() const
+{
+    std::vector<QPersistentModelIndex> unfolded;
+    for (const QModelIndex& index : m_model->fetchedIndexes()) {
+        if (m_view->isExpanded(index))
+            unfolded.emplace_back(index);
+    }
+    return FoldState(std::move(unfolded));
+}
+
+void SceneTreePanel::restoreFolds(const FoldState& state)
+{
+    QSet<QModelIndex> wanted;
+    for (const QPersistentModelIndex& index : state.unfolded())
+        wanted.insert(index);
+    m_view->layoutLater();
+    for (const QModelIndex& index : m_model->fetchedIndexes()) {
+        if (const bool isUnfolded = wanted.contains(index); isUnfolded != m_view->isExpanded(index))
+            m_view->setExpanded(index, isUnfolded);
+    }
+}
+
+void SceneTreePanel::unfoldTo(std::span<NxNode* const> path)
+{
+    if (path.size() < 2)
+        return;
+    m_view->layoutLater();
+    for (QModelIndex index = m_model->indexOfPath(path.first(path.size() - 1)); index.isValid(); index = index.parent())
+        m_view->expand(index);
+}
+
+void SceneTreePanel::setHeaderWidget(QWidget* widget)
+{
+    delete m_header;
+    m_header = widget;
+    if (m_header != nullptr)
+        m_layout->insertWidget(0, m_header);
 }
 
 void SceneTreePanel::setScene(NxGroup* scene)

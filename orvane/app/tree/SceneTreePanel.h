@@ -1,16 +1,23 @@
 #pragma once
 
+#include "orvane/app/tree/FoldState.h"
+
 #include "meridane/scene/nodes/NxGroup.h"
 
 #include <QModelIndex>
 #include <QWidget>
 
+#include <memory>
+#include <span>
 #include <vector>
 
+class NodeMarks;
 class NodeSelection;
 class QAction;
 class QTreeView;
+class QVBoxLayout;
 class SceneTreeModel;
+class SceneTreeView;
 
 /// The scene tree with its rows.
 class SceneTreePanel : public QWidget {
@@ -20,7 +27,7 @@ public:
     explicit SceneTreePanel(QWidget* parent = nullptr);
 
     [[nodiscard]] SceneTreeModel* model() const noexcept { return m_model; }
-    [[nodiscard]] QTreeView* view() const noexcept { return m_view; }
+    [[nodiscard]] QTreeView* view() const noexcept;
 
     /// All nodes that are selected.
     [[nodiscard]] NodeSelection& selection() const noexcept { return *m_selection; }
@@ -33,6 +40,19 @@ public:
     /// Selects the row of a node alone and scrolls to it, unless it is the one selected last; an invalid index selects
     /// nothing.
     void select(const QModelIndex& index);
+
+    /// Draws the names of hits in bold and greys what neither is one nor leads to one; null ends it. To be called again
+    /// whenever the answers of the marks have changed.
+    void setMarks(const std::shared_ptr<const NodeMarks>& marks);
+    /// Which rows are unfolded now.
+    [[nodiscard]] FoldState foldState() const;
+    /// Folds and unfolds rows so that those are unfolded that were then, as far as they are still there.
+    void restoreFolds(const FoldState& state);
+    /// Unfolds all that is above the last of these nodes, each a child of the one before. To show many nodes of one
+    /// group, call it for one of them: each call looks for the nodes among all their siblings.
+    void unfoldTo(std::span<NxNode* const> path);
+    /// Shows a widget above the tree, which the panel owns from now on. Deletes the one before.
+    void setHeaderWidget(QWidget* widget);
 
     /// Shows a scene with its first nodes unfolded; null for none.
     void setScene(NxGroup* scene);
@@ -47,6 +67,8 @@ Q_SIGNALS:
 
 private:
     SceneTreeModel* m_model;
-    QTreeView* m_view;
+    SceneTreeView* m_view;
     NodeSelection* m_selection;
+    QVBoxLayout* m_layout;
+    QWidget* m_header = nullptr;
 };

@@ -10,6 +10,10 @@ class SceneTreeView : public QTreeView {
 public:
     using QTreeView::QTreeView;
 
+    /// Lays all rows out again before they are used next. Until then, folding and unfolding any number of rows takes
+    /// hardly any time.
+    void layoutLater() { scheduleDelayedItemsLayout(); }
+
 protected Q_SLOTS:
     void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 

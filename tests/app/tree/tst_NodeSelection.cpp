@@ -126,6 +126,25 @@ private Q_SLOTS:
         QVERIFY(selected().empty());
     }
 
+    void rowsAreSelectedInTheOrderOfTheTree()
+    {
+        open(AppScenes::robot());
+        const auto indexOf = [this](NxNode* node) { return m_panel->model()->findNode(node); };
+        const QModelIndexList wanted{
+            indexOf(sun()), indexOf(robot(2)), indexOf(robot()), indexOf(robot(0)), indexOf(robot(2))};
+        m_panel->selection().selectIndexes(wanted);
+        QCOMPARE(m_panel->selectedNode(), sun());
+        QCOMPARE(m_panel->selection().indexes(),
+            (QModelIndexList{indexOf(robot()), indexOf(robot(0)), indexOf(robot(2)), indexOf(sun())}));
+        m_panel->selection().selectIndexes(wanted, indexOf(robot(2)));
+        QCOMPARE(m_panel->selectedNode(), robot(2));
+        QCOMPARE(selected().size(), std::size_t{4});
+        m_panel->selection().selectIndexes({indexOf(robot(1)).siblingAtColumn(SceneTreeModel::ClassColumn)});
+        QCOMPARE(selected(), Nodes{robot(1)});
+        m_panel->selection().selectIndexes({});
+        QVERIFY(m_panel->selection().indexes().isEmpty());
+    }
+
     void aNodeInTwoPlacesIsThereOnce()
     {
         const NxRef<NxGroup> scene(new NxGroup);
