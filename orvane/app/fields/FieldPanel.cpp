@@ -6,6 +6,7 @@
 #include "orvane/app/fields/FieldFilterBar.h"
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
+#include "orvane/app/fields/FieldTextDelegate.h"
 #include "orvane/app/fields/MarkDelegate.h"
 #include "orvane/app/fields/cells/NameScrub.h"
 #include "orvane/app/fields/cells/ValueDelegate.h"
@@ -26,7 +27,7 @@
 #include <QScrollBar>
 #include <QStackedLayout>
 
-#include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* parent)
@@ -36,6 +37,8 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     , m_model(new FieldTableModel(this))
     , m_view(new FieldTableView(this))
     , m_values(new ValueDelegate(m_view, m_writer, &settings))
+    , m_names(new FieldTextDelegate(meridane::SearchedText::Name, this))
+    , m_types(new FieldTextDelegate(meridane::SearchedText::Class, this))
     , m_filter(new FieldFilterBar(this))
     , m_icon(new QLabel(this))
     , m_heading(new QLabel(this))
@@ -47,6 +50,8 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     auto* page = new QWidget(this);
     buildPage(page);
     buildColumns();
+    m_view->setItemDelegateForColumn(FieldTableModel::NameColumn, m_names);
+    m_view->setItemDelegateForColumn(FieldTableModel::TypeColumn, m_types);
     m_view->setItemDelegateForColumn(FieldTableModel::ValueColumn, m_values);
     new NameScrub(m_view, m_values, FieldTableModel::NameColumn, FieldTableModel::ValueColumn);
     buildHint();
@@ -221,6 +226,8 @@ void FieldPanel::changeRows(Change change)
 
 void FieldPanel::applyFilter()
 {
+    for (FoundTextDelegate* const each : std::initializer_list<FoundTextDelegate*>{m_names, m_types, m_values})
+        each->setQuery(m_filter->query());
     changeRows([this] { m_model->setFilter(m_filter->query(), m_filter->isChangedOnly()); });
 }
 

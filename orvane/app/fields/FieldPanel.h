@@ -14,6 +14,7 @@ class AppSettings;
 class FieldFilterBar;
 class FieldTableModel;
 class FieldTableView;
+class FieldTextDelegate;
 class NxField;
 class NxFieldContainer;
 class NxMField;
@@ -89,6 +90,8 @@ private:
     FieldTableModel* m_model;
     FieldTableView* m_view;
     ValueDelegate* m_values;
+    FieldTextDelegate* m_names;
+    FieldTextDelegate* m_types;
     FieldFilterBar* m_filter;
     QLabel* m_icon;
     QLabel* m_heading;

@@ -1,7 +1,7 @@
 #include "orvane/app/look/Look.h"
 
 #include <QFontMetrics>
-#include <QPalette>
+#include <QStyleOption>
 
 #include <algorithm>
 #include <array>
@@ -118,6 +118,13 @@ QColor washColor(Tint tint, const QColor& background)
 {
     const Pair colors = colorsOf(tint);
     return mixed(background, isDark(background) ? colors.onDark : colors.onLight, 0.15);
+}
+
+QPalette::ColorGroup groupOf(const QStyleOption& option)
+{
+    if ((option.state & QStyle::State_Enabled) == 0)
+        return QPalette::Disabled;
+    return (option.state & QStyle::State_Active) != 0 ? QPalette::Normal : QPalette::Inactive;
 }
 
 QColor mixed(const QColor& from, const QColor& to, double part)

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 #include <array>
 
 class QFontMetrics;
-class QPalette;
+class QStyleOption;
 
 /// The visual language of the tool: colours with a meaning, and sizes that follow the font. docs/look.md shows it.
 namespace orvane::look {
@@ -58,6 +59,9 @@ inline constexpr double markContrast = 3;
 [[nodiscard]] QColor quietColor(const QColor& text, const QColor& background);
 /// A light tint of the background, on which the text of the palette keeps its contrast.
 [[nodiscard]] QColor washColor(Tint tint, const QColor& background);
+
+/// The group of a palette's colours for an item as it is painted.
+[[nodiscard]] QPalette::ColorGroup groupOf(const QStyleOption& option);
 
 /// A colour between two, from the first at 0 to the second at 1.
 [[nodiscard]] QColor mixed(const QColor& from, const QColor& to, double part);

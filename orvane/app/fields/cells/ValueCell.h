@@ -8,6 +8,10 @@
 #include <QPalette>
 #include <QRect>
 
+namespace meridane {
+class Query;
+}
+
 class CellEditor;
 class CellServices;
 class NxField;
@@ -25,6 +29,7 @@ struct CellPaint {
     bool isEnabled = true;
     QWidget* view = nullptr; ///< whose style and screen are used
     CellServices* services = nullptr;
+    const meridane::Query* query = nullptr; ///< whose words are highlighted; null for none
 };
 
 /// How the values of some field classes are shown and edited in a cell of a table. There is one object for each kind of

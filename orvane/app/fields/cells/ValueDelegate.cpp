@@ -35,17 +35,10 @@ const FieldSet* shownFields(const QModelIndex& index)
     return isShown ? fields : nullptr;
 }
 
-QPalette::ColorGroup groupOf(const QStyleOptionViewItem& option)
-{
-    if ((option.state & QStyle::State_Enabled) == 0)
-        return QPalette::Disabled;
-    return (option.state & QStyle::State_Active) != 0 ? QPalette::Normal : QPalette::Inactive;
-}
-
 } // namespace
 
 ValueDelegate::ValueDelegate(QAbstractItemView* view, FieldWriter& writer, AppSettings* settings)
-    : QStyledItemDelegate(view)
+    : FoundTextDelegate(meridane::SearchedText::Value, view)
     , m_view(view)
     , m_viewport(view->viewport())
     , m_services(std::make_unique<CellServices>(writer, settings))
@@ -57,6 +50,11 @@ ValueDelegate::ValueDelegate(QAbstractItemView* view, FieldWriter& writer, AppSe
 }
 
 ValueDelegate::~ValueDelegate() = default;
+
+bool ValueDelegate::isSearched(const QModelIndex& index) const
+{
+    return index.parent().isValid();
+}
 
 void ValueDelegate::showPending()
 {
@@ -79,7 +77,7 @@ void ValueDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 {
     const FieldSet* const fields = shownFields(index);
     if (fields == nullptr || m_view == nullptr)
-        return QStyledItemDelegate::paint(painter, option, index);
+        return FoundTextDelegate::paint(painter, option, index);
     QStyleOptionViewItem panel = option;
     panel.index = index;
     m_view->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &panel, painter, m_view);
@@ -101,7 +99,7 @@ CellPaint ValueDelegate::cellPaint(const QStyleOptionViewItem& option, const QMo
     cell.font = font.isValid() ? font.value<QFont>().resolve(option.font) : option.font;
     cell.palette = option.palette;
     const bool isSelected = (option.state & QStyle::State_Selected) != 0;
-    const QPalette::ColorGroup group = groupOf(option);
+    const QPalette::ColorGroup group = orvane::look::groupOf(option);
     cell.background = option.palette.color(group, isSelected ? QPalette::Highlight : QPalette::Base);
     cell.text = option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
     if (const QVariant color = index.data(Qt::ForegroundRole); color.isValid() && !isSelected)
@@ -114,6 +112,7 @@ CellPaint ValueDelegate::cellPaint(const QStyleOptionViewItem& option, const QMo
     }
     cell.isEnabled = group != QPalette::Disabled;
     cell.view = m_view;
+    cell.query = query().isEmpty() ? nullptr : &query();
     cell.services = m_services.get();
     return cell;
 }
@@ -121,7 +120,7 @@ CellPaint ValueDelegate::cellPaint(const QStyleOptionViewItem& option, const QMo
 QSize ValueDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     if (shownFields(index) == nullptr)
-        return QStyledItemDelegate::sizeHint(option, index);
+        return FoundTextDelegate::sizeHint(option, index);
     constexpr int characters = 24;
     return {characters * option.fontMetrics.averageCharWidth(), orvane::look::rowHeight(option.fontMetrics)};
 }
@@ -210,13 +209,13 @@ void ValueDelegate::setEditorData(QWidget* editor, const QModelIndex& index) con
     if (auto* const cell = qobject_cast<CellEditor*>(editor); cell != nullptr)
         cell->refresh();
     else
-        QStyledItemDelegate::setEditorData(editor, index);
+        FoundTextDelegate::setEditorData(editor, index);
 }
 
 void ValueDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const
 {
     if (qobject_cast<CellEditor*>(editor) == nullptr) // which has written by itself
-        QStyledItemDelegate::setModelData(editor, model, index);
+        FoundTextDelegate::setModelData(editor, model, index);
 }
 
 void ValueDelegate::updateEditorGeometry(
@@ -225,7 +224,7 @@ void ValueDelegate::updateEditorGeometry(
     const auto* const cell = qobject_cast<CellEditor*>(editor);
     const FieldSet* const fields = shownFields(index);
     if (cell == nullptr || fields == nullptr || m_view == nullptr)
-        return QStyledItemDelegate::updateEditorGeometry(editor, option, index);
+        return FoundTextDelegate::updateEditorGeometry(editor, option, index);
     const NxField& field = fields->first();
     const QRect area = areaOf(*m_view, option.rect);
     const QRect part = orvane::cellOf(field).editorArea(area, field, cell->part(), *m_services, option.font);
@@ -239,7 +238,7 @@ bool ValueDelegate::editorEvent(
     QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option, const QModelIndex& index)
 {
     if (shownFields(index) == nullptr || m_view == nullptr)
-        return QStyledItemDelegate::editorEvent(event, model, option, index);
+        return FoundTextDelegate::editorEvent(event, model, option, index);
     switch (event->type()) {
     case QEvent::MouseButtonPress: {
         const auto* const mouse = static_cast<QMouseEvent*>(event);
@@ -291,13 +290,13 @@ bool ValueDelegate::helpEvent(
 {
     const FieldSet* const fields = shownFields(index);
     if (event->type() != QEvent::ToolTip || fields == nullptr)
-        return QStyledItemDelegate::helpEvent(event, view, option, index);
+        return FoundTextDelegate::helpEvent(event, view, option, index);
     const ValueCell& cell = orvane::cellOf(fields->first());
     const bool isPending = m_services->writer().isPending(*fields);
     const QString own = isPending ? orvane::pendingText() : cell.toolTip(*fields, *m_services);
     const QString tip = index.data(Qt::ToolTipRole).toString();
     if (own.isEmpty())
-        return QStyledItemDelegate::helpEvent(event, view, option, index);
+        return FoundTextDelegate::helpEvent(event, view, option, index);
     QToolTip::showText(event->globalPos(), orvane::joinedToolTips(orvane::plainToolTip(own), tip), view->viewport());
     return true;
 }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "orvane/app/fields/editors/CellEdit.h"
+#include "orvane/app/input/FoundTextDelegate.h"
 
 #include <QPointer>
-#include <QStyledItemDelegate>
 
 #include <memory>
 #include <optional>
@@ -22,7 +22,7 @@ struct CellPaint;
 /// The model gives the fields of a row as `FieldRoles::FieldSetRole`; rows without fields, and lists, are shown as
 /// usual. A click on a value edits it, and so do the edit keys of the view. Tab goes on to the next part of the value
 /// and then to the next row, Shift+Tab back. The model must flag the cells as editable. User-interface thread only.
-class ValueDelegate : public QStyledItemDelegate {
+class ValueDelegate : public FoundTextDelegate {
     Q_OBJECT
 
 public:
@@ -50,6 +50,7 @@ protected:
     bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
         const QModelIndex& index) override;
     bool eventFilter(QObject* object, QEvent* event) override;
+    [[nodiscard]] bool isSearched(const QModelIndex& index) const override;
 
 private:
     struct Opening {

@@ -1,5 +1,7 @@
 #include "orvane/app/fields/cells/detail/CellPainting.h"
 
+#include "orvane/app/input/FoundText.h"
+
 #include <QFontMetrics>
 #include <QHash>
 #include <QPainter>
@@ -28,7 +30,17 @@ int paintText(QPainter& painter, const QFont& font, const QRect& area, const QSt
 
 int paintText(QPainter& painter, const CellPaint& cell, const QRect& area, const QString& text)
 {
-    return paintText(painter, cell.font, area, text, cell.text);
+    return paintText(painter, cell, area, text, cell.text);
+}
+
+int paintText(QPainter& painter, const CellPaint& cell, const QRect& area, const QString& text, const QColor& color)
+{
+    if (cell.query != nullptr) {
+        const FoundFormats formats = foundFormats(*cell.query, text, meridane::SearchedText::Value, cell.background);
+        if (!formats.isEmpty())
+            return paintFound(painter, cell.font, area, text, color, formats);
+    }
+    return paintText(painter, cell.font, area, text, color);
 }
 
 void paintMixed(QPainter& painter, const CellPaint& cell, const QRect& area)

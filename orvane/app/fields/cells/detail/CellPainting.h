@@ -9,8 +9,10 @@ namespace orvane {
 /// One line in the middle of the area, from its left side; what doesn't fit is left out and leaves an ellipsis. Returns
 /// the width that was painted.
 int paintText(QPainter& painter, const QFont& font, const QRect& area, const QString& text, const QColor& color);
-/// The same with the font and the colour of the cell.
+/// A part of the value, with the font and the colour of the cell, and with what the filter has found highlighted.
 int paintText(QPainter& painter, const CellPaint& cell, const QRect& area, const QString& text);
+/// The same in another colour.
+int paintText(QPainter& painter, const CellPaint& cell, const QRect& area, const QString& text, const QColor& color);
 /// A dash for values that differ.
 void paintMixed(QPainter& painter, const CellPaint& cell, const QRect& area);
 

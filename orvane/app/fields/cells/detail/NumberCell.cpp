@@ -34,7 +34,7 @@ void orvane::paintNumber(QPainter& painter, const CellPaint& cell, const QRect& 
         color = tintOn(
             number.range == NumberLimits::Range::Unusual ? look::Tint::Warning : look::Tint::Error, cell.background);
     }
-    paintText(painter, cell.font, rest, number.text, color);
+    paintText(painter, cell, rest, number.text, color);
 }
 
 void NumberCell::paint(QPainter& painter, const CellPaint& cell, const FieldSet& fields) const

@@ -56,7 +56,7 @@ void PathCell::paint(QPainter& painter, const CellPaint& cell, const FieldSet& f
     }
     const QColor color = orvane::tintOn(orvane::look::Tint::Warning, cell.background);
     paintWarning(painter, orvane::markArea(cell), color, cell.background);
-    orvane::paintText(painter, cell.font, orvane::besideMark(cell), orvane::oneLine(path), color);
+    orvane::paintText(painter, cell, orvane::besideMark(cell), orvane::oneLine(path), color);
 }
 
 void PathCell::dropFile(const CellEdit& edit, const QString& fileName) const
