@@ -7,6 +7,7 @@
 #include "meridane/gl/painting/detail/LinePainter.h"
 #include "meridane/gl/painting/detail/OutlinePainter.h"
 #include "meridane/gl/painting/detail/ScreenPass.h"
+#include "meridane/gl/painting/detail/SeenItems.h"
 #include "meridane/gl/places/detail/PlacedScene.h"
 
 #include <algorithm>
@@ -38,6 +39,7 @@ public:
         , painter(functions, errors)
         , lines(functions)
         , outline(functions)
+        , seenItems(functions)
         , background(functions, "the background", backgroundSource)
         , scene({[this] { noteChange(); }, [this](MeshRecord& mesh) { painter.meshes().release(mesh); },
               [this](TextureRecord& texture) { painter.textures().release(texture); }})
@@ -63,7 +65,9 @@ public:
     std::vector<NxRef<NxNode>> selection;
     bool isSelectionPath = false;
     bool isChangeReported = false;
+    std::vector<NxRef<NxNode>> otherSelection;
     std::vector<Id> selectedItems;
+    std::vector<Id> otherItems;
     std::uint64_t selectedStructure = 0;
     bool isSelectionStale = false;
     NxNodeVisibility visibility;
@@ -72,6 +76,7 @@ public:
     ItemPainter painter;
     LinePainter lines;
     OutlinePainter outline;
+    SeenItems seenItems;
     ScreenPass background;
     PlacedScene scene; // last: its destructor releases objects of the painters
 };
@@ -88,7 +93,16 @@ void NxSceneDrawing::Private::updateSelection()
         nodes.push_back(node.get());
     if (!nodes.empty())
         selectedItems = isSelectionPath ? scene.itemsBelow(nodes) : scene.itemsBelow(nodes.front());
-    std::erase_if(selectedItems, [this](Id item) { return !scene.isShown(item); });
+    otherItems.clear();
+    for (const NxRef<NxNode>& node : otherSelection) {
+        const std::vector<Id> items = scene.itemsBelow(node.get());
+        otherItems.insert(otherItems.end(), items.begin(), items.end());
+    }
+    // Nodes may be selected together with what is above them.
+    std::sort(otherItems.begin(), otherItems.end());
+    otherItems.erase(std::unique(otherItems.begin(), otherItems.end()), otherItems.end());
+    for (std::vector<Id>* items : {&selectedItems, &otherItems})
+        std::erase_if(*items, [this](Id item) { return !scene.isShown(item); });
 }
 
 // Limited to what the context supports.
@@ -148,6 +162,7 @@ void NxSceneDrawing::setScene(NxNode* root)
 {
     m_private->errors.forget();
     m_private->selection.clear();
+    m_private->otherSelection.clear();
     m_private->isSelectionStale = true;
     m_private->visibility = NxNodeVisibility();
     m_private->scene.setRoot(root);
@@ -173,6 +188,13 @@ void NxSceneDrawing::setSelectedPath(std::span<NxNode* const> nodes)
 {
     m_private->selection.assign(nodes.begin(), nodes.end());
     m_private->isSelectionPath = true;
+    m_private->isSelectionStale = true;
+    m_private->noteChange();
+}
+
+void NxSceneDrawing::setOtherSelectedNodes(std::span<NxNode* const> nodes)
+{
+    m_private->otherSelection.assign(nodes.begin(), nodes.end());
     m_private->isSelectionStale = true;
     m_private->noteChange();
 }
@@ -256,10 +278,31 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
         picture.setEnabled(GL_PROGRAM_POINT_SIZE);
         picture.setLineWidth(self.lineWidth(scale));
         self.drawMeshesAndLines(ground, frame);
+        NxDrawingStyle weaker = self.style;
+        weaker.outlineColor = weaker.otherOutlineColor;
+        weaker.outlineWidth /= 2;
+        self.outline.draw(self.scene, self.otherItems, self.painter, frame, weaker, self.counts);
         self.outline.draw(self.scene, self.selectedItems, self.painter, frame, self.style, self.counts);
     }
     ++self.counts.pictures;
     self.errors.report("Drawing the scene");
+}
+
+std::vector<std::vector<NxNode*>> NxSceneDrawing::seenIn(
+    const NxPixelRectangle& part, const NxViewpoint& viewpoint, int width, int height, float scale)
+{
+    Private& self = *m_private;
+    self.scene.update();
+    const PictureFrame frame(viewpoint, self.scene.tree().bounds(), width, height, scale);
+    GLStateScope picture(self.gl);
+    picture.bindObjects();
+    self.gl.ActiveTexture(GL_TEXTURE0);
+    self.painter.prepare(self.scene, frame, self.style, self.loader, self.counts);
+    std::vector<std::vector<NxNode*>> paths;
+    for (const Id item : self.seenItems.find(self.scene, self.painter, frame, self.style, part, self.counts))
+        paths.push_back(self.scene.pathOf(item));
+    self.errors.report("Finding what is seen");
+    return paths;
 }
 
 NxBounds NxSceneDrawing::bounds()
@@ -307,6 +350,7 @@ void NxSceneDrawing::contextLost()
     self.painter.forget();
     self.lines.forget();
     self.outline.forget();
+    self.seenItems.forget();
     self.background.forget();
     self.noteChange();
 }

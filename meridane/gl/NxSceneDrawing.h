@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meridane/gl/geometry/NxBounds.h"
+#include "meridane/gl/geometry/NxPixelRectangle.h"
 #include "meridane/gl/gpu/NxDrawingCounts.h"
 #include "meridane/gl/gpu/NxImage.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
@@ -42,6 +43,8 @@ public:
     /// Outlines one instance of a node, given as the path of nodes from a child of the root to it; empty for none.
     void setSelectedPath(std::span<NxNode* const> nodes);
 
+    /// Outlines all instances of these nodes too, with the weaker line. Holds references to them.
+    void setOtherSelectedNodes(std::span<NxNode* const> nodes);
     /// Doesn't draw these nodes and what is below them: see `NxNodeVisibility`. They have no box either. Holds
     /// references to them. Another scene ends it.
     void setHiddenNodes(std::span<NxNode* const> nodes);
@@ -64,6 +67,12 @@ public:
     /// buffer. `scale` is the number of device pixels in a point of the screen. Afterwards all state of the context
     /// that drawing changes has OpenGL's default, except for the framebuffer, which remains bound.
     void draw(const NxViewpoint& viewpoint, int width, int height, float scale);
+
+    /// The meshes that are seen in a part of that picture, each as the path of nodes from a child of the root to it.
+    /// What is behind other surfaces isn't seen, nor what is hidden or drawn as a box. Needs the context, and takes
+    /// about as long as a picture.
+    [[nodiscard]] std::vector<std::vector<NxNode*>> seenIn(
+        const NxPixelRectangle& part, const NxViewpoint& viewpoint, int width, int height, float scale);
 
     /// The box around the whole scene, in view or not. Positions that aren't finite are left out.
     [[nodiscard]] NxBounds bounds();

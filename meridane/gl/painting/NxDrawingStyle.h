@@ -25,7 +25,9 @@ struct NxDrawingStyle {
     VbColor boundingBoxColor{0.9F, 0.75F, 0.2F};
     /// The line around the selection.
     VbColor outlineColor{1.0F, 0.6F, 0.1F};
-    /// The width of that line in points of the screen (see `NxSceneDrawing::draw`).
+    /// The line around other nodes that are selected, half as wide.
+    VbColor otherOutlineColor{0.85F, 0.62F, 0.36F};
+    /// The width of the line around the selection in points of the screen (see `NxSceneDrawing::draw`).
     float outlineWidth = 2;
     /// The size of points of meshes, in the same unit.
     float pointSize = 4;

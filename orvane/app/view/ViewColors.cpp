@@ -27,5 +27,6 @@ void orvane::setViewColors(NxDrawingStyle& style, const QPalette& palette)
     style.backgroundBottom = toColor(orvane::look::mixed(ground, window, share));
     style.gridColor = toColor(isDark ? QColor(104, 108, 116) : QColor(150, 156, 164));
     style.boundingBoxColor = toColor(isDark ? QColor(230, 190, 60) : QColor(120, 84, 0));
+    style.otherOutlineColor = toColor(isDark ? QColor(214, 160, 96) : QColor(176, 104, 40));
     style.outlineColor = toColor(isDark ? QColor(255, 153, 26) : QColor(235, 110, 0));
 }

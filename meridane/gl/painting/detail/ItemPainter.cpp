@@ -2,6 +2,7 @@
 
 #include "meridane/gl/geometry/MatrixMath.h"
 #include "meridane/gl/gpu/detail/GLStateScope.h"
+#include "meridane/gl/painting/detail/NumberColor.h"
 #include "meridane/gl/places/detail/DetailLevel.h"
 
 #include <algorithm>
@@ -358,7 +359,9 @@ void ItemPainter::drawShapes(
     PlacedScene& scene, std::span<const Id> items, const ModelUniforms& uniforms, NxDrawingCounts& counts)
 {
     Id page = noId;
+    std::uint32_t number = 0;
     for (const Id id : items) {
+        ++number;
         const Item& item = scene.table().item(id);
         const MeshRange range = item.mesh->rangeOf(cellsOf(scene, id));
         if (range.page == noId)
@@ -368,6 +371,8 @@ void ItemPainter::drawShapes(
             m_meshes.bind(page);
         }
         place(scene, item, uniforms);
+        if (uniforms.number >= 0)
+            m_gl.Uniform4fv(uniforms.number, 1, colorOfNumber(number).data());
         issue(*item.mesh, range, counts);
     }
 }

@@ -35,7 +35,10 @@ public:
     struct ModelUniforms {
         int origin;
         int modelMatrix;
+        int number = -1; ///< gets the place of the item in the list, from 1 on, as a colour of four bytes
     };
+    /// The items in view, after `prepare`.
+    [[nodiscard]] const std::vector<Id>& found() const noexcept { return m_found; }
     /// Draws the shapes of some items, in view or not, with the bound program.
     void drawShapes(
         PlacedScene& scene, std::span<const Id> items, const ModelUniforms& uniforms, NxDrawingCounts& counts);

@@ -2,6 +2,7 @@
 
 #include "meridane/base/errors/NxGLError.h"
 #include "meridane/gl/gpu/detail/GLStateScope.h"
+#include "meridane/gl/painting/detail/FramebufferScope.h"
 
 #include <algorithm>
 #include <cmath>
@@ -56,25 +57,8 @@ void main()
 }
 )";
 
-/// Binds the framebuffer of the picture again at the end of the scope.
-class FramebufferScope {
-public:
-    explicit FramebufferScope(const NxGLFunctions& gl)
-        : m_gl(gl)
-    {
-        m_gl.GetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &m_picture);
-    }
-    FramebufferScope(const FramebufferScope&) = delete;
-    FramebufferScope& operator=(const FramebufferScope&) = delete;
-    ~FramebufferScope() { m_gl.BindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(m_picture)); }
-
-private:
-    const NxGLFunctions& m_gl;
-    int m_picture = 0;
-};
-
 /// The part of the picture that shows some items, with a margin.
-PixelRectangle rectangleOf(PlacedScene& scene, std::span<const Id> items, const PictureFrame& frame, int margin)
+NxPixelRectangle rectangleOf(PlacedScene& scene, std::span<const Id> items, const PictureFrame& frame, int margin)
 {
     NxBounds bounds;
     for (const Id id : items)
@@ -183,7 +167,7 @@ void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPai
     if (!m_shapes.isUsable())
         return;
     const float width = std::max(style.outlineWidth * frame.scale, 1.0F);
-    const PixelRectangle part = rectangleOf(scene, items, frame, static_cast<int>(std::ceil(width)) + 2);
+    const NxPixelRectangle part = rectangleOf(scene, items, frame, static_cast<int>(std::ceil(width)) + 2);
     {
         const FramebufferScope framebuffer(m_gl);
         if (!prepareMask(frame.width, frame.height))
@@ -203,7 +187,7 @@ void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPai
 }
 
 void OutlinePainter::drawBorder(
-    const PixelRectangle& part, float width, const NxDrawingStyle& style, NxDrawingCounts& counts)
+    const NxPixelRectangle& part, float width, const NxDrawingStyle& style, NxDrawingCounts& counts)
 {
     if (!m_border.use())
         return;

@@ -1,19 +1,12 @@
 #pragma once
 
+#include "meridane/gl/geometry/NxPixelRectangle.h"
 #include "meridane/gl/painting/detail/ItemPainter.h"
 #include "meridane/gl/painting/detail/ScreenPass.h"
 
 #include <span>
 
 namespace meridane {
-
-/// A part of the picture, in pixels.
-struct PixelRectangle {
-    int left = 0;
-    int bottom = 0;
-    int width = 0;
-    int height = 0;
-};
 
 /// Draws a line around some items, even where they are hidden: draws their shapes into a mask, and the border of the
 /// mask into the picture.
@@ -32,7 +25,7 @@ public:
 private:
     void prepareShapes();
     bool prepareMask(int width, int height);
-    void drawBorder(const PixelRectangle& part, float width, const NxDrawingStyle& style, NxDrawingCounts& counts);
+    void drawBorder(const NxPixelRectangle& part, float width, const NxDrawingStyle& style, NxDrawingCounts& counts);
     void deleteMask();
 
     const NxGLFunctions& m_gl;

@@ -275,6 +275,16 @@ std::vector<Id> PlacedScene::itemsBelow(std::span<const NxNode* const> path) con
     return items;
 }
 
+std::vector<NxNode*> PlacedScene::pathOf(Id item) const
+{
+    std::vector<NxNode*> path{m_table.item(item).mesh->node()};
+    const Id root = m_table.place(topPlace).firstChild;
+    for (Id id = m_table.item(item).place; id != root && id != topPlace; id = m_table.place(id).parent)
+        path.push_back(m_table.place(id).group->node());
+    std::reverse(path.begin(), path.end());
+    return path;
+}
+
 void PlacedScene::collect(Id top, std::vector<Id>& items) const
 {
     std::vector<Id> waiting{top};

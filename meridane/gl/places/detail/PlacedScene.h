@@ -69,6 +69,8 @@ public:
     [[nodiscard]] std::vector<Id> itemsBelow(const NxNode* node) const;
     /// The items below one instance of a node, given as the path of nodes from a child of the root.
     [[nodiscard]] std::vector<Id> itemsBelow(std::span<const NxNode* const> path) const;
+    /// The nodes from a child of the root to the mesh of an item.
+    [[nodiscard]] std::vector<NxNode*> pathOf(Id item) const;
     /// The box around an item relative to `from`; a point near the item makes the box exact. Empty if the item is
     /// farther away than the largest float.
     [[nodiscard]] NxBounds boundsOf(const Item& item, const VbVec3d& from = VbVec3d()) const;
