@@ -1,5 +1,6 @@
 #include "meridane/base/values/MatrixInverse.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -39,13 +40,12 @@ void eliminate(Rows& rows, std::size_t column) noexcept
 
 } // namespace
 
-std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept
+std::optional<MatrixRows> inverse(const MatrixRows& matrix) noexcept
 {
     // Gauss-Jordan elimination on the matrix and, beside it, the identity, which becomes the inverse.
     Rows rows{};
     for (std::size_t row = 0; row < 4; ++row) {
-        for (std::size_t column = 0; column < 4; ++column)
-            rows[row][column] = static_cast<double>(matrix[row][column]);
+        std::copy(matrix[row].begin(), matrix[row].end(), rows[row].begin());
         rows[row][4 + row] = 1.0;
     }
     for (std::size_t column = 0; column < 4; ++column) {
@@ -53,10 +53,27 @@ std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept
             return std::nullopt;
         eliminate(rows, column);
     }
+    MatrixRows result{};
+    for (std::size_t row = 0; row < 4; ++row) {
+        std::copy_n(rows[row].begin() + 4, 4, result[row].begin());
+        if (!std::all_of(result[row].begin(), result[row].end(), [](double element) { return std::isfinite(element); }))
+            return std::nullopt;
+    }
+    return result;
+}
+
+std::optional<VbMatrix> inverse(const VbMatrix& matrix) noexcept
+{
+    MatrixRows rows{};
+    for (std::size_t row = 0; row < 4; ++row)
+        std::copy(matrix[row].begin(), matrix[row].end(), rows[row].begin());
+    const std::optional<MatrixRows> inverted = inverse(rows);
+    if (!inverted)
+        return std::nullopt;
     VbMatrix result;
     for (std::size_t row = 0; row < 4; ++row) {
         for (std::size_t column = 0; column < 4; ++column) {
-            result[row][column] = static_cast<float>(rows[row][4 + column]);
+            result[row][column] = static_cast<float>((*inverted)[row][column]);
             if (!std::isfinite(result[row][column]))
                 return std::nullopt;
         }

@@ -135,6 +135,33 @@ VbVec3f transformDirection(const VbVec3f& direction, const Matrix4d& matrix) noe
     return narrowed(sums);
 }
 
+VbVec3d transformVector(const VbVec3d& vector, const Matrix4d& matrix) noexcept
+{
+    VbVec3d sums;
+    for (std::size_t column = 0; column < 3; ++column) {
+        for (std::size_t i = 0; i < 3; ++i)
+            sums[column] += vector[i] * matrix[i][column];
+    }
+    return sums;
+}
+
+double determinant(const Matrix4d& matrix) noexcept
+{
+    const auto row = [&](std::size_t i) { return VbVec3d(matrix[i][0], matrix[i][1], matrix[i][2]); };
+    return dot(row(0), cross(row(1), row(2)));
+}
+
+std::optional<Matrix4d> inverse(const Matrix4d& matrix) noexcept
+{
+    const std::optional<MatrixRows> rows = inverse(MatrixRows{matrix[0], matrix[1], matrix[2], matrix[3]});
+    if (!rows)
+        return {};
+    Matrix4d result;
+    for (std::size_t row = 0; row < 4; ++row)
+        result[row] = (*rows)[row];
+    return result;
+}
+
 Matrix4d localTransformOf(const NxNode& node) noexcept
 {
     if (const auto* transform = dynamic_cast<const NxTransform*>(&node))
@@ -209,6 +236,18 @@ double dot(const VbVec3d& left, const VbVec3d& right) noexcept
 double length(const VbVec3d& vector) noexcept
 {
     return std::sqrt(dot(vector, vector));
+}
+
+VbVec3d cross(const VbVec3d& left, const VbVec3d& right) noexcept
+{
+    return {left[1] * right[2] - left[2] * right[1], left[2] * right[0] - left[0] * right[2],
+        left[0] * right[1] - left[1] * right[0]};
+}
+
+VbVec3d normalized(const VbVec3d& vector, const VbVec3d& otherwise) noexcept
+{
+    const double size = length(vector);
+    return size > 0 && std::isfinite(size) ? scaled(vector, 1 / size) : otherwise;
 }
 
 bool isFinite(const VbVec3d& vector) noexcept

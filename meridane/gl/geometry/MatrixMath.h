@@ -6,6 +6,8 @@
 #include "meridane/base/values/VbVec.h"
 #include "meridane/gl/geometry/Matrix4d.h"
 
+#include <optional>
+
 class NxNode;
 
 /// Computations with matrices and vectors for drawing and picking. Points are rows and multiply from the left, as
@@ -25,6 +27,12 @@ namespace meridane {
 /// The transformed point, divided by its fourth coordinate.
 [[nodiscard]] VbVec3d transformPoint(const VbVec3d& point, const Matrix4d& matrix) noexcept;
 [[nodiscard]] VbVec3f transformDirection(const VbVec3f& direction, const Matrix4d& matrix) noexcept;
+/// Transforms a direction or distance, to which the translation doesn't apply, in double precision.
+[[nodiscard]] VbVec3d transformVector(const VbVec3d& vector, const Matrix4d& matrix) noexcept;
+/// The inverse, or nothing for a matrix that can't be inverted.
+[[nodiscard]] std::optional<Matrix4d> inverse(const Matrix4d& matrix) noexcept;
+/// The determinant of the upper left 3 by 3 part: negative if the matrix mirrors.
+[[nodiscard]] double determinant(const Matrix4d& matrix) noexcept;
 /// The matrix or vector rounded to floats.
 [[nodiscard]] VbMatrix narrowed(const Matrix4d& matrix) noexcept;
 [[nodiscard]] VbVec3f narrowed(const VbVec3d& vector) noexcept;
@@ -48,6 +56,9 @@ namespace meridane {
 [[nodiscard]] VbVec3d scaled(const VbVec3d& vector, double factor) noexcept;
 [[nodiscard]] double dot(const VbVec3d& left, const VbVec3d& right) noexcept;
 [[nodiscard]] double length(const VbVec3d& vector) noexcept;
+[[nodiscard]] VbVec3d cross(const VbVec3d& left, const VbVec3d& right) noexcept;
+/// The vector of length 1, or `otherwise` for one that has no direction or isn't finite.
+[[nodiscard]] VbVec3d normalized(const VbVec3d& vector, const VbVec3d& otherwise) noexcept;
 /// Whether all components are finite when rounded to floats.
 [[nodiscard]] bool isFinite(const VbVec3d& vector) noexcept;
 
