@@ -104,10 +104,14 @@ void DifferencePanel::buildView()
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* copy = new QAction(tr("&Copy"), m_view);
+    copy->setObjectName(QStringLiteral("comparison.copy"));
+    copy->setStatusTip(tr("Copies the selected differences as lines of text"));
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetShortcut);
     connect(copy, &QAction::triggered, this, &DifferencePanel::copySelected);
     auto* copyAll = new QAction(tr("Copy &All"), m_view);
+    copyAll->setObjectName(QStringLiteral("comparison.copyAll"));
+    copyAll->setStatusTip(tr("Copies all differences that are shown as lines of text"));
     connect(copyAll, &QAction::triggered, this, &DifferencePanel::copyAll);
     m_view->addActions({copy, copyAll});
     // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.

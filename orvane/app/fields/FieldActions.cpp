@@ -38,36 +38,51 @@ FieldActions::FieldActions(OrvServices& services, FieldWriter& writer, FieldTabl
     , m_writer(writer)
     , m_model(model)
     , m_view(view)
-    , m_edit(add(tr("&Edit"), {}, &FieldActions::edit))
-    , m_copy(add(tr("&Copy Value"), {QKeySequence::Copy}, &FieldActions::copyValue))
-    , m_paste(add(tr("&Paste Value"), {QKeySequence::Paste}, &FieldActions::pasteValue))
-    , m_copyPath(add(tr("Copy P&ath"), {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, &FieldActions::copyPath))
-    , m_copyAssignment(
-          add(tr("Copy as --&set Argument"), {Qt::CTRL | Qt::ALT | Qt::Key_S}, &FieldActions::copyAssignment))
-    , m_copyAll(add(tr("Copy A&ll Fields"), {Qt::CTRL | Qt::ALT | Qt::Key_C}, &FieldActions::copyAll))
-    , m_copyGroup(add(tr("Copy Fields of This &Group"), {Qt::CTRL | Qt::ALT | Qt::Key_G}, &FieldActions::copyGroup))
-    , m_pasteAll(add(tr("Paste All F&ields"), {Qt::CTRL | Qt::ALT | Qt::Key_V}, &FieldActions::pasteAll))
-    , m_reset(add(tr("&Reset to Default"), {Qt::CTRL | Qt::Key_Backspace}, &FieldActions::reset))
-    , m_ignore(add(tr("I&gnore"), {Qt::CTRL | Qt::ALT | Qt::Key_I}, &FieldActions::toggleIgnored))
-    , m_favorite(add(tr("&Favorite"), {Qt::CTRL | Qt::Key_B}, nullptr))
-    , m_defer(add(tr("&Write When Done"), {Qt::CTRL | Qt::ALT | Qt::Key_W}, nullptr))
-    , m_findSame(
-          add(tr("Select &Nodes with This Value"), {Qt::CTRL | Qt::ALT | Qt::Key_F}, &FieldActions::findSameValue))
+    , m_edit(add("field.edit", tr("&Edit"), tr("Opens the editor of the value"), {}, &FieldActions::edit))
+    , m_copy(add("field.copyValue", tr("&Copy Value"), tr("Copies the value as text"), {QKeySequence::Copy},
+          &FieldActions::copyValue))
+    , m_paste(add("field.pasteValue", tr("&Paste Value"), tr("Writes the value of the clipboard"),
+          {QKeySequence::Paste}, &FieldActions::pasteValue))
+    , m_copyPath(add("field.copyPath", tr("Copy P&ath"), tr("Copies the path of the field in the scene"),
+          {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, &FieldActions::copyPath))
+    , m_copyAssignment(add("field.copyAssignment", tr("Copy as --&set Argument"),
+          tr("Copies path and value as an argument of the command line"), {Qt::CTRL | Qt::ALT | Qt::Key_S},
+          &FieldActions::copyAssignment))
+    , m_copyAll(add("field.copyAll", tr("Copy A&ll Fields"), tr("Copies all values of the node"),
+          {Qt::CTRL | Qt::ALT | Qt::Key_C}, &FieldActions::copyAll))
+    , m_copyGroup(add("field.copyGroup", tr("Copy Fields of This &Group"),
+          tr("Copies the values of this group of fields"), {Qt::CTRL | Qt::ALT | Qt::Key_G}, &FieldActions::copyGroup))
+    , m_pasteAll(add("field.pasteAll", tr("Paste All F&ields"),
+          tr("Writes all values of the clipboard to fields of the same name"), {Qt::CTRL | Qt::ALT | Qt::Key_V},
+          &FieldActions::pasteAll))
+    , m_reset(add("field.reset", tr("&Reset to Default"), tr("Gives the field its default value"),
+          {Qt::CTRL | Qt::Key_Backspace}, &FieldActions::reset))
+    , m_ignore(add("field.ignore", tr("I&gnore"), tr("Makes the scene behave as if the field had its default"),
+          {Qt::CTRL | Qt::ALT | Qt::Key_I}, &FieldActions::toggleIgnored))
+    , m_favorite(add("field.favorite", tr("&Favorite"), tr("Keeps the field on top for all nodes of this class"),
+          {Qt::CTRL | Qt::Key_B}, nullptr))
+    , m_defer(add("field.writeWhenDone", tr("&Write When Done"),
+          tr("While you drag, step or use a popup, the value is only shown; it is written when you are done."),
+          {Qt::CTRL | Qt::ALT | Qt::Key_W}, nullptr))
+    , m_findSame(add("field.selectSameValue", tr("Select &Nodes with This Value"),
+          tr("Selects all nodes whose field has this value"), {Qt::CTRL | Qt::ALT | Qt::Key_F},
+          &FieldActions::findSameValue))
 {
     m_ignore->setCheckable(true);
     m_favorite->setCheckable(true);
     m_defer->setCheckable(true);
-    m_defer->setStatusTip(
-        tr("While you drag, step or use a popup, the value is only shown; it is written when you are done."));
     connect(m_favorite, &QAction::triggered, this, [this] { Q_EMIT favoriteToggled(current()); });
     connect(m_defer, &QAction::triggered, this, [this] { Q_EMIT deferralToggled(current(), !isDeferred()); });
     view->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(view, &QWidget::customContextMenuRequested, this, &FieldActions::showMenu);
 }
 
-QAction* FieldActions::add(const QString& text, const QList<QKeySequence>& keys, void (FieldActions::*slot)())
+QAction* FieldActions::add(const char* name, const QString& text, const QString& statusTip,
+    const QList<QKeySequence>& keys, void (FieldActions::*slot)())
 {
     auto* const action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setStatusTip(statusTip);
     action->setShortcuts(keys);
     action->setShortcutContext(Qt::WidgetShortcut); // not in the editors of its cells
     if (slot != nullptr)

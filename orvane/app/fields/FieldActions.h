@@ -32,7 +32,8 @@ Q_SIGNALS:
     void nodesFound(const std::vector<NxNode*>& nodes);
 
 private:
-    QAction* add(const QString& text, const QList<QKeySequence>& keys, void (FieldActions::*slot)());
+    QAction* add(const char* name, const QString& text, const QString& statusTip, const QList<QKeySequence>& keys,
+        void (FieldActions::*slot)());
     void showMenu(const QPoint& place);
     void update();
     [[nodiscard]] QModelIndex current() const;

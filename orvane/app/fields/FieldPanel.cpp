@@ -18,6 +18,7 @@
 #include "meridane/scene/fields/NxMField.h"
 #include "meridane/scene/nodes/NxNode.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -46,6 +47,7 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     , m_nothing(new QLabel(this))
     , m_hint(new QWidget(this))
     , m_pages(new QStackedLayout(this))
+    , m_showType(new QAction(tr("Show &Types"), this))
 {
     auto* page = new QWidget(this);
     buildPage(page);
@@ -125,6 +127,15 @@ void FieldPanel::buildColumns()
                 useMark(mark, index);
         },
         Qt::QueuedConnection);
+
+    m_showType->setObjectName(QStringLiteral("field.showType"));
+    m_showType->setStatusTip(tr("Shows the column with the types of the fields"));
+    m_showType->setCheckable(true);
+    m_showType->setChecked(m_settings.isTypeShown());
+    connect(m_showType, &QAction::toggled, this, [this](bool shown) {
+        m_settings.setTypeShown(shown);
+        m_view->setColumnHidden(FieldTableModel::TypeColumn, !shown);
+    });
 
     QHeaderView* const header = m_view->header();
     header->setStretchLastSection(false);
@@ -297,13 +308,7 @@ void FieldPanel::showFailure(const QString& message)
 void FieldPanel::chooseColumns(const QPoint& place)
 {
     QMenu menu(this);
-    QAction* const type = menu.addAction(tr("Type"));
-    type->setCheckable(true);
-    type->setChecked(m_settings.isTypeShown());
-    connect(type, &QAction::toggled, this, [this](bool shown) {
-        m_settings.setTypeShown(shown);
-        m_view->setColumnHidden(FieldTableModel::TypeColumn, !shown);
-    });
+    menu.addAction(m_showType);
     menu.exec(m_view->header()->mapToGlobal(place));
 }
 

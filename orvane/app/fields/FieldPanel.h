@@ -20,6 +20,7 @@ class NxFieldContainer;
 class NxMField;
 class NxNode;
 class OrvServices;
+class QAction;
 class QHBoxLayout;
 class QLabel;
 class QStackedLayout;
@@ -99,6 +100,7 @@ private:
     QLabel* m_nothing;
     QWidget* m_hint;
     QStackedLayout* m_pages;
+    QAction* m_showType;
     bool m_settingCurrent = false;
     bool m_folding = false; // by the panel itself
 };

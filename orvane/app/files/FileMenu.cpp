@@ -21,43 +21,43 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     , m_menu(window->menuBar()->addMenu(tr("&File")))
 {
     const QStyle* style = window->style();
-    m_new = addAction(tr("&New"), "fileNew");
+    m_new = addAction(tr("&New"), "file.new", tr("Starts an empty scene"));
     m_new->setShortcut(QKeySequence::New);
     m_new->setIcon(style->standardIcon(QStyle::SP_FileIcon));
     connect(m_new, &QAction::triggered, &flow, &FileFlow::newScene);
-    m_open = addAction(tr("&Open…"), "fileOpen");
+    m_open = addAction(tr("&Open…"), "file.open", tr("Opens a scene or a model"));
     m_open->setShortcut(QKeySequence::Open);
     m_open->setIcon(style->standardIcon(QStyle::SP_DialogOpenButton));
     connect(m_open, &QAction::triggered, &flow, &FileFlow::chooseFileToOpen);
     m_recentMenu = m_menu->addMenu(tr("Open &Recent"));
     m_recentMenu->setObjectName(QStringLiteral("recentMenu"));
     m_menu->addSeparator();
-    m_save = addAction(tr("&Save"), "fileSave");
+    m_save = addAction(tr("&Save"), "file.save", tr("Writes the scene to its file"));
     m_save->setShortcut(QKeySequence::Save);
     m_save->setIcon(style->standardIcon(QStyle::SP_DialogSaveButton));
     connect(m_save, &QAction::triggered, &flow, &FileFlow::save);
-    m_saveAs = addAction(tr("Save &As…"), "fileSaveAs");
+    m_saveAs = addAction(tr("Save &As…"), "file.saveAs", tr("Writes the scene to another file, which becomes its own"));
     m_saveAs->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     connect(m_saveAs, &QAction::triggered, &flow, &FileFlow::saveAs);
-    m_reload = addAction(tr("&Reload from Disk"), "fileReload");
+    m_reload = addAction(tr("&Reload from Disk"), "file.reload",
+        tr("Makes the scene equal to its file again; undo brings your changes back"));
     m_reload->setShortcut(QKeySequence(Qt::Key_F5));
-    m_reload->setStatusTip(tr("Makes the scene equal to its file again; undo brings your changes back"));
     connect(m_reload, &QAction::triggered, &flow, [&flow] { flow.reload(); });
     m_menu->addSeparator();
-    QAction* import = addAction(tr("&Import…"), "fileImport");
+    QAction* import = addAction(tr("&Import…"), "file.import", tr("Adds the content of a file to the scene"));
     import->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
     connect(import, &QAction::triggered, &flow, &FileFlow::chooseFileToImport);
-    m_export = addAction(tr("&Export…"), "fileExport");
+    m_export = addAction(tr("&Export…"), "file.export", tr("Writes the scene to a file of another format"));
     m_export->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
     connect(m_export, &QAction::triggered, &flow, &FileFlow::chooseFileToExport);
-    m_compare = addAction(tr("Compare &With…"), "fileCompare");
+    m_compare = addAction(tr("Compare &With…"), "file.compare", tr("Shows how the scene differs from a file"));
     m_compare->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
     connect(m_compare, &QAction::triggered, &flow, &FileFlow::chooseFileToCompare);
     m_menu->addSeparator();
-    m_close = addAction(tr("&Close"), "fileClose");
+    m_close = addAction(tr("&Close"), "file.close", tr("Closes the scene"));
     m_close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
     connect(m_close, &QAction::triggered, &flow, &FileFlow::closeScene);
-    QAction* quit = addAction(tr("&Quit"), "fileQuit");
+    QAction* quit = addAction(tr("&Quit"), "file.quit", tr("Closes the window and ends the program"));
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     quit->setMenuRole(QAction::QuitRole);
     connect(quit, &QAction::triggered, window, &QWidget::close);
@@ -69,9 +69,10 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     updateActions();
 }
 
-QAction* FileMenu::addAction(const QString& text, const char* name)
+QAction* FileMenu::addAction(const QString& text, const char* name, const QString& statusTip)
 {
     QAction* action = m_menu->addAction(text);
+    action->setStatusTip(statusTip);
     action->setObjectName(QLatin1String(name));
     return action;
 }
@@ -97,7 +98,10 @@ void FileMenu::fillRecentMenu()
     if (number == 0)
         return;
     m_recentMenu->addSeparator();
-    connect(m_recentMenu->addAction(tr("&Clear List")), &QAction::triggered, &m_recent, &RecentFiles::clear);
+    QAction* const clear = m_recentMenu->addAction(tr("&Clear List"));
+    clear->setObjectName(QStringLiteral("file.clearRecent"));
+    clear->setStatusTip(tr("Forgets which files were opened"));
+    connect(clear, &QAction::triggered, &m_recent, &RecentFiles::clear);
 }
 
 void FileMenu::updateActions()

@@ -20,7 +20,7 @@ public:
     [[nodiscard]] QList<QAction*> toolBarActions() const;
 
 private:
-    QAction* addAction(const QString& text, const char* name);
+    QAction* addAction(const QString& text, const char* name, const QString& statusTip);
     void fillRecentMenu();
     void updateActions();
 

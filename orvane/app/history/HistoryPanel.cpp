@@ -107,6 +107,10 @@ void HistoryPanel::buildView()
     m_view->setModel(m_model);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_goTo->setObjectName(QStringLiteral("history.goTo"));
+    m_goTo->setStatusTip(tr("Undoes or redoes the steps up to the selected one"));
+    m_putBack->setObjectName(QStringLiteral("history.putBack"));
+    m_putBack->setStatusTip(tr("Writes the value from before the selected step, without undoing what came after it"));
     m_view->addActions({m_goTo, m_putBack});
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);

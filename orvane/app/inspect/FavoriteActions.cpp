@@ -22,7 +22,7 @@ FavoriteActions::FavoriteActions(FavoriteNodes& favorites, SceneTreePanel* tree,
     , m_toggle(new QAction(tr("Fa&vorite Node"), this))
     , m_menu(new QMenu(window))
 {
-    m_toggle->setObjectName(QStringLiteral("favoriteNode"));
+    m_toggle->setObjectName(QStringLiteral("node.favorite"));
     m_toggle->setCheckable(true);
     m_toggle->setIcon(orvane::starIcon());
     m_toggle->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_B));

@@ -25,6 +25,7 @@ InspectorDock::InspectorDock(int number, Session& session, SceneTreePanel* tree,
           *m_lock, [tree] { return tree->model()->path(tree->selected()); }, this))
 {
     setObjectName(QStringLiteral("inspectorDock%1").arg(number));
+    m_lockAction->setObjectName(QStringLiteral("inspector.lock%1").arg(number));
     setAttribute(Qt::WA_DeleteOnClose);
     setWidget(m_panel);
     m_panel->setSceneFolder([&session] { return session.document().pathFolder(); });

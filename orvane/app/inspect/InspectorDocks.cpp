@@ -25,7 +25,7 @@ InspectorDocks::InspectorDocks(Session& session, SceneTreePanel* tree, QMainWind
     , m_window(window)
     , m_newAction(new QAction(tr("New &Inspector"), this))
 {
-    m_newAction->setObjectName(QStringLiteral("newInspector"));
+    m_newAction->setObjectName(QStringLiteral("inspector.new"));
     m_newAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_I));
     m_newAction->setStatusTip(
         tr("Opens a further table of fields, which stays on this node; %1 at most").arg(mostDocks));

@@ -39,7 +39,7 @@ Inspectors::Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* field
     , m_favorites(new FavoriteNodes(session, tree)) // its view draws them
     , m_favoriteActions(new FavoriteActions(*m_favorites, tree, window))
 {
-    m_lockAction->setObjectName(QStringLiteral("lockInspector"));
+    m_lockAction->setObjectName(QStringLiteral("inspector.lock"));
     m_lockAction->setShortcut(LockAction::keys());
     m_lockAction->addButtonTo(fields->headingTools());
     new FieldTitleBars(session, tree, *m_lock, window);

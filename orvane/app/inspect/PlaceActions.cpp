@@ -45,10 +45,10 @@ PlaceActions::PlaceActions(Session& session, SceneTreePanel* tree, SelectionLink
     , m_back(makeWay(Direction::Back, tr("&Back"), tr("Selects the node that was selected before")))
     , m_forward(makeWay(Direction::Forward, tr("&Forward"), tr("Selects the node that Back has left")))
 {
-    m_back.action->setObjectName(QStringLiteral("selectionBack"));
+    m_back.action->setObjectName(QStringLiteral("selection.back"));
     m_back.action->setIcon(orvane::backArrow());
     m_back.action->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Left));
-    m_forward.action->setObjectName(QStringLiteral("selectionForward"));
+    m_forward.action->setObjectName(QStringLiteral("selection.forward"));
     m_forward.action->setIcon(orvane::forwardArrow());
     m_forward.action->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Right));
     connect(tree, &SceneTreePanel::selectionChanged, this, &PlaceActions::noteNode);

@@ -32,22 +32,29 @@ ListActions::ListActions(
     , m_edits(edits)
     , m_clipboard(clipboard)
     , m_messages(messages)
-    , m_insert(add("listInsert", tr("&Insert Rows"), Qt::Key_Insert, &ListActions::insert))
-    , m_duplicate(
-          add("listDuplicate", tr("D&uplicate Rows"), Qt::CTRL | Qt::SHIFT | Qt::Key_D, &ListActions::duplicate))
-    , m_remove(add("listRemove", tr("&Delete Rows"), QKeySequence::Delete, &ListActions::remove))
-    , m_moveUp(add("listMoveUp", tr("Move &Up"), Qt::ALT | Qt::Key_Up, &ListActions::moveUp))
-    , m_moveDown(add("listMoveDown", tr("Move D&own"), Qt::ALT | Qt::Key_Down, &ListActions::moveDown))
+    , m_insert(add("list.insert", tr("&Insert Rows"), Qt::Key_Insert, &ListActions::insert,
+          tr("Adds rows with default values before the selected ones")))
+    , m_duplicate(add("list.duplicate", tr("D&uplicate Rows"), Qt::CTRL | Qt::SHIFT | Qt::Key_D,
+          &ListActions::duplicate, tr("Adds copies of the selected rows behind them")))
+    , m_remove(add("list.remove", tr("&Delete Rows"), QKeySequence::Delete, &ListActions::remove,
+          tr("Removes the selected rows")))
+    , m_moveUp(add("list.moveUp", tr("Move &Up"), Qt::ALT | Qt::Key_Up, &ListActions::moveUp,
+          tr("Moves the selected rows one place up")))
+    , m_moveDown(add("list.moveDown", tr("Move D&own"), Qt::ALT | Qt::Key_Down, &ListActions::moveDown,
+          tr("Moves the selected rows one place down")))
 {
     addSeparator();
-    m_cut = add("listCut", tr("Cu&t Rows"), QKeySequence::Cut, &ListActions::cut);
-    m_copy = add("listCopy", tr("&Copy Cells"), QKeySequence::Copy, &ListActions::copy);
-    m_paste = add("listPaste", tr("&Paste Cells"), QKeySequence::Paste, &ListActions::paste);
+    m_cut = add("list.cut", tr("Cu&t Rows"), QKeySequence::Cut, &ListActions::cut,
+        tr("Copies the selected rows and removes them"));
+    m_copy = add("list.copy", tr("&Copy Cells"), QKeySequence::Copy, &ListActions::copy,
+        tr("Copies the selected cells as text"));
+    m_paste = add("list.paste", tr("&Paste Cells"), QKeySequence::Paste, &ListActions::paste,
+        tr("Writes the cells of the clipboard from the current cell on"));
     addSeparator();
-    m_fillLinear = add("listFillLinear", tr("Fill &Evenly from First to Last"), {}, &ListActions::fillLinear);
-    m_resize = add("listResize", tr("&Number of Rows…"), {}, &ListActions::resize);
-    m_fillLinear->setStatusTip(tr("Gives the selected cells of a column values with equal steps between the first "
-                                  "and the last of them"));
+    m_fillLinear = add("list.fillLinear", tr("Fill &Evenly from First to Last"), {}, &ListActions::fillLinear,
+        tr("Gives the selected cells of a column values with equal steps between the first and the last of them"));
+    m_resize
+        = add("list.resize", tr("&Number of Rows…"), {}, &ListActions::resize, tr("Sets how many rows the list has"));
     view->addActions(m_all);
     view->setContextMenuPolicy(Qt::ActionsContextMenu);
     connect(view, &ListView::rowsDropped, this, &ListActions::moveTo);
@@ -59,10 +66,12 @@ ListActions::ListActions(
     update();
 }
 
-QAction* ListActions::add(const char* name, const QString& text, const QKeySequence& key, void (ListActions::*run)())
+QAction* ListActions::add(const char* name, const QString& text, const QKeySequence& key, void (ListActions::*run)(),
+    const QString& statusTip)
 {
     auto* const action = new QAction(text, this);
     action->setObjectName(QLatin1String(name));
+    action->setStatusTip(statusTip);
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetShortcut);
     connect(action, &QAction::triggered, this, run);

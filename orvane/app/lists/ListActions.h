@@ -30,7 +30,8 @@ public:
     [[nodiscard]] const QList<QAction*>& all() const noexcept { return m_all; }
 
 private:
-    QAction* add(const char* name, const QString& text, const QKeySequence& key, void (ListActions::*run)());
+    QAction* add(const char* name, const QString& text, const QKeySequence& key, void (ListActions::*run)(),
+        const QString& statusTip);
     void addSeparator();
     void update();
     void insert();

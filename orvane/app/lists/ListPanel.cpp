@@ -118,7 +118,8 @@ QWidget* ListPanel::buildTop()
     addButton(line, actions->moveUpAction(), QString(QChar(0x2191)));
     addButton(line, actions->moveDownAction(), QString(QChar(0x2193)));
     auto* const statistics = new QAction(tr("&Statistics"), this);
-    statistics->setObjectName(QStringLiteral("listShowStatistics"));
+    statistics->setObjectName(QStringLiteral("list.showStatistics"));
+    statistics->setStatusTip(tr("Shows smallest, largest and mean values beside the rows"));
     statistics->setCheckable(true);
     statistics->setChecked(m_settings.value(listStatisticsKey, true).toBool());
     connect(statistics, &QAction::toggled, this, &ListPanel::showStatistics);
@@ -177,17 +178,22 @@ QWidget* ListPanel::buildBottom()
 
 void ListPanel::connectParts()
 {
-    const auto addKey = [this](const char* name, const QKeySequence& key, const auto& run) {
-        auto* const action = new QAction(this);
+    const auto addKey = [this](const char* name, const QString& text, const QString& statusTip, const QKeySequence& key,
+                            const auto& run) {
+        auto* const action = new QAction(text, this);
+        action->setStatusTip(statusTip);
         action->setObjectName(QLatin1String(name));
         action->setShortcut(key);
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         connect(action, &QAction::triggered, this, run);
         addAction(action);
     };
-    addKey("listBeginGoTo", Qt::CTRL | Qt::Key_G, [this] { m_find->beginGoTo(); });
-    addKey("listBeginFilter", QKeySequence::Find, [this] { m_find->beginFilter(); });
-    addKey("listBeginSet", Qt::CTRL | Qt::Key_Equal, [this] { m_set->begin(); });
+    addKey("list.beginGoTo", tr("Go to Row"), tr("Types the number of a row to go to"), Qt::CTRL | Qt::Key_G,
+        [this] { m_find->beginGoTo(); });
+    addKey("list.beginFilter", tr("Filter Rows"), tr("Types what the shown rows contain"), QKeySequence::Find,
+        [this] { m_find->beginFilter(); });
+    addKey("list.beginSet", tr("Set Column"), tr("Types a formula for the values of a column"),
+        Qt::CTRL | Qt::Key_Equal, [this] { m_set->begin(); });
     connect(m_view->horizontalHeader(), &QHeaderView::sectionClicked, this, &ListPanel::sortBy);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListPanel::updateCounts);
     connect(m_model, &ListModel::listChanged, this, &ListPanel::updateCounts);

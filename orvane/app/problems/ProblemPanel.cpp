@@ -120,6 +120,12 @@ void ProblemPanel::buildTopLine(QWidget* page)
         button->setDefaultAction(action);
         line->addWidget(button);
     };
+    m_mend->setObjectName(QStringLiteral("problems.mend"));
+    m_mend->setStatusTip(tr("Mends the selected problems as one step"));
+    m_mendKind->setObjectName(QStringLiteral("problems.mendKind"));
+    m_mendKind->setStatusTip(tr("Mends all problems of the kind of the selected one as one step"));
+    m_again->setObjectName(QStringLiteral("problems.checkAgain"));
+    m_again->setStatusTip(tr("Checks the whole scene again, and looks at its files again"));
     addButton(m_mend, "mendProblem");
     addButton(m_mendKind, "mendKind");
     addButton(m_again, "checkAgain");
@@ -154,10 +160,14 @@ void ProblemPanel::buildView()
     m_view->installEventFilter(this);
     m_view->viewport()->installEventFilter(this);
     auto* copy = new QAction(tr("&Copy"), m_view);
+    copy->setObjectName(QStringLiteral("problems.copy"));
+    copy->setStatusTip(tr("Copies the selected problems as lines of text"));
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetShortcut);
     connect(copy, &QAction::triggered, this, &ProblemPanel::copySelected);
     auto* copyAll = new QAction(tr("Copy &All"), m_view);
+    copyAll->setObjectName(QStringLiteral("problems.copyAll"));
+    copyAll->setStatusTip(tr("Copies all problems that are shown as lines of text"));
     connect(copyAll, &QAction::triggered, this, &ProblemPanel::copyAll);
     m_view->addActions({m_mend, m_mendKind, copy, copyAll});
     // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.

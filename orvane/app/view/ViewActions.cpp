@@ -30,12 +30,12 @@ ViewActions::ViewActions(SceneView* view, AppSettings& settings)
     connect(m_framing.back(), &QAction::triggered, view, &SceneView::frameSelection);
 
     const VbVec3f up(0, 1, 0);
-    addAxis("viewFront", tr("&Front"), Qt::Key_1, VbVec3f(0, 0, -1), up);
-    addAxis("viewBack", tr("&Back"), Qt::Key_2, VbVec3f(0, 0, 1), up);
-    addAxis("viewRight", tr("&Right"), Qt::Key_3, VbVec3f(-1, 0, 0), up);
-    addAxis("viewLeft", tr("&Left"), Qt::Key_4, VbVec3f(1, 0, 0), up);
-    addAxis("viewTop", tr("&Top"), Qt::Key_5, VbVec3f(0, -1, 0), VbVec3f(0, 0, -1));
-    addAxis("viewBottom", tr("B&ottom"), Qt::Key_6, VbVec3f(0, 1, 0), VbVec3f(0, 0, 1));
+    addAxis("front", tr("&Front"), Qt::Key_1, VbVec3f(0, 0, -1), up);
+    addAxis("back", tr("&Back"), Qt::Key_2, VbVec3f(0, 0, 1), up);
+    addAxis("right", tr("&Right"), Qt::Key_3, VbVec3f(-1, 0, 0), up);
+    addAxis("left", tr("&Left"), Qt::Key_4, VbVec3f(1, 0, 0), up);
+    addAxis("top", tr("&Top"), Qt::Key_5, VbVec3f(0, -1, 0), VbVec3f(0, 0, -1));
+    addAxis("bottom", tr("B&ottom"), Qt::Key_6, VbVec3f(0, 1, 0), VbVec3f(0, 0, 1));
 
     addProjection("perspective", tr("&Perspective"), tr("Distant things look smaller"), NxViewpoint::PERSPECTIVE);
     addProjection("orthographic", tr("&Orthographic"), tr("Things look the same size at any distance"),
@@ -51,7 +51,7 @@ ViewActions::ViewActions(SceneView* view, AppSettings& settings)
 QAction* ViewActions::addAction(const char* name, const QString& text, const QString& toolTip, const QKeySequence& key)
 {
     auto* action = new QAction(text, this);
-    action->setObjectName(QLatin1String(name));
+    action->setObjectName(QStringLiteral("view.") + QLatin1String(name));
     action->setToolTip(toolTip);
     action->setStatusTip(toolTip);
     if (!key.isEmpty()) {

@@ -30,12 +30,22 @@ void ViewMenu::update()
         m_menu->addSeparator();
     }
     for (QDockWidget* dock : m_window->findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
-        m_menu->addAction(dock->toggleViewAction());
+        addSwitch(dock->toggleViewAction(), *dock);
     m_menu->addSeparator();
     for (QToolBar* toolBar : m_window->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
-        m_menu->addAction(toolBar->toggleViewAction());
+        addSwitch(toolBar->toggleViewAction(), *toolBar);
     for (const QList<QAction*>& actions : m_appended) {
         m_menu->addSeparator();
         m_menu->addActions(actions);
     }
+}
+
+// Docks of extensions too, whose actions have no name of their own.
+void ViewMenu::addSwitch(QAction* action, const QWidget& part)
+{
+    if (action->objectName().isEmpty() && !part.objectName().isEmpty())
+        action->setObjectName(QStringLiteral("show.") + part.objectName());
+    if (action->statusTip().isEmpty())
+        action->setStatusTip(tr("Shows or hides this part of the window"));
+    m_menu->addAction(action);
 }

@@ -7,6 +7,7 @@ class CameraMenu;
 class QAction;
 class QMainWindow;
 class QMenu;
+class QWidget;
 class ViewActions;
 
 /// The View menu: what the user can do with the view, and every dock and tool bar that the window has at the moment, to
@@ -24,6 +25,8 @@ public:
     void update();
 
 private:
+    void addSwitch(QAction* action, const QWidget& part);
+
     QMainWindow* m_window;
     ViewActions* m_actions;
     CameraMenu* m_cameras;

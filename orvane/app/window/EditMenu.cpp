@@ -57,17 +57,21 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
         action->setShortcut(key);
         return action;
     };
-    m_undo = add(tr("&Undo"), QKeySequence::Undo, "editUndo");
+    m_undo = add(tr("&Undo"), QKeySequence::Undo, "edit.undo");
     m_undo->setIcon(turningArrow(window->palette(), false));
+    m_undo->setStatusTip(tr("Takes back the last step"));
     connect(m_undo, &QAction::triggered, &session.services(), &OrvServices::undo);
-    m_redo = add(tr("&Redo"), {}, "editRedo");
+    m_redo = add(tr("&Redo"), {}, "edit.redo");
     m_redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     m_redo->setIcon(turningArrow(window->palette(), true));
+    m_redo->setStatusTip(tr("Makes the step again that was taken back last"));
     connect(m_redo, &QAction::triggered, &session.services(), &OrvServices::redo);
     menu->addSeparator();
-    m_rename = add(tr("Re&name Node"), Qt::Key_F2, "editRename");
+    m_rename = add(tr("Re&name Node"), Qt::Key_F2, "node.rename");
+    m_rename->setStatusTip(tr("Edits the name of the selected node in the tree"));
     connect(m_rename, &QAction::triggered, tree, &SceneTreePanel::renameSelected);
-    m_delete = add(tr("&Delete Node"), QKeySequence::Delete, "editDelete");
+    m_delete = add(tr("&Delete Node"), QKeySequence::Delete, "node.delete");
+    m_delete->setStatusTip(tr("Removes the selected node from the scene"));
     connect(m_delete, &QAction::triggered, this, &EditMenu::deleteNode);
     // These keys act on the selected node only while the tree or the view has the focus.
     for (QAction* action : {m_rename, m_delete}) {

@@ -65,12 +65,14 @@ HelpMenu::HelpMenu(QMainWindow* window, const WindowShell& shell)
 {
     QMenu* menu = window->menuBar()->addMenu(tr("&Help"));
     QAction* keys = menu->addAction(tr("&Keys"));
-    keys->setObjectName(QStringLiteral("helpKeys"));
+    keys->setObjectName(QStringLiteral("help.keys"));
     keys->setShortcut(QKeySequence::HelpContents);
+    keys->setStatusTip(tr("Shows the keys of all actions"));
     connect(keys, &QAction::triggered, this, &HelpMenu::showKeys);
     QAction* about = menu->addAction(tr("&About Orvane"));
-    about->setObjectName(QStringLiteral("helpAbout"));
+    about->setObjectName(QStringLiteral("help.about"));
     about->setMenuRole(QAction::AboutRole);
+    about->setStatusTip(tr("Shows the version of the program and its extensions"));
     connect(about, &QAction::triggered, this, &HelpMenu::showAbout);
 }
 

@@ -237,7 +237,7 @@ void MainWindow::buildMenus()
     toolBar->addActions(editMenu->toolBarActions());
     m_inspectors->addToolBar();
     auto* forget = new QAction(tr("Forget Allowed &Image Folders"), this);
-    forget->setObjectName(QStringLiteral("forgetImageFolders"));
+    forget->setObjectName(QStringLiteral("file.forgetImageFolders"));
     forget->setStatusTip(tr("Takes back that scenes may refer to images in folders outside their own"));
     const auto enable = [this, forget] { forget->setEnabled(!m_imageFolders->allowedFolders().isEmpty()); };
     enable();

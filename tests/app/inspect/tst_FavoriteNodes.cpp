@@ -30,7 +30,7 @@ private:
         QVERIFY2(favorites().contains(node(path)), path);
     }
     FavoriteNodes& favorites() { return *m_window->findChild<FavoriteNodes*>(); }
-    QAction* star() { return m_window->findChild<QAction*>(QStringLiteral("favoriteNode")); }
+    QAction* star() { return m_window->findChild<QAction*>(QStringLiteral("node.favorite")); }
     QMenu* list() { return m_window->findChild<QMenu*>(QStringLiteral("favoriteNodes")); }
     QStringList listed()
     {

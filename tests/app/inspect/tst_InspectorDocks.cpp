@@ -109,11 +109,11 @@ private Q_SLOTS:
         QTRY_VERIFY(docks().front()->panel().view()->hasFocus());
         QTest::keyClick(docks().front()->panel().view(), Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
         QVERIFY(!docks().front()->lock().isOn());
-        QVERIFY(!m_window->findChild<QAction*>(QStringLiteral("lockInspector"))->isChecked());
+        QVERIFY(!m_window->findChild<QAction*>(QStringLiteral("inspector.lock"))->isChecked());
         tree()->setFocus();
         QTest::keyClick(tree(), Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
         QVERIFY(!docks().front()->lock().isOn());
-        QVERIFY(m_window->findChild<QAction*>(QStringLiteral("lockInspector"))->isChecked());
+        QVERIFY(m_window->findChild<QAction*>(QStringLiteral("inspector.lock"))->isChecked());
     }
 
     void aRowOfTheSelectedNodeIsSelectedEverywhere()
@@ -189,7 +189,7 @@ private Q_SLOTS:
         for (int i = 0; i < InspectorDocks::mostDocks + 3; ++i)
             openAnother();
         QCOMPARE(docks().size(), InspectorDocks::mostDocks);
-        auto* const action = m_window->findChild<QAction*>(QStringLiteral("newInspector"));
+        auto* const action = m_window->findChild<QAction*>(QStringLiteral("inspector.new"));
         QVERIFY(!action->isEnabled());
         close(docks().front());
         QVERIFY(action->isEnabled());
@@ -284,7 +284,7 @@ private Q_SLOTS:
     void theMenuOpensOne()
     {
         auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("viewMenu"));
-        auto* const action = m_window->findChild<QAction*>(QStringLiteral("newInspector"));
+        auto* const action = m_window->findChild<QAction*>(QStringLiteral("inspector.new"));
         QVERIFY(menu->actions().contains(action));
         menu->popup(m_window->mapToGlobal(QPoint(20, 20)));
         QTRY_VERIFY(menu->isVisible());

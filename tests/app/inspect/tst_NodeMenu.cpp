@@ -188,7 +188,7 @@ private Q_SLOTS:
     {
         rightClickTree(placeOf("/robot/arm"));
         choose("Lock Inspector on This");
-        auto* const lock = m_window->findChild<QAction*>(QStringLiteral("lockInspector"));
+        auto* const lock = m_window->findChild<QAction*>(QStringLiteral("inspector.lock"));
         QVERIFY(lock->isChecked());
         rightClickTree(placeOf("/sun"));
         QCOMPARE(services().getSelectedNode(), node("/robot/arm"));

@@ -37,7 +37,7 @@ private:
     const NxFieldContainer* tableNode() { return m_window->findChild<FieldPanel*>()->model()->node(); }
     QToolButton* lockStatus() { return m_window->findChild<QToolButton*>(QStringLiteral("lockStatus")); }
     QAction* action(const char* name) { return m_window->findChild<QAction*>(QLatin1String(name)); }
-    bool isLocked() { return action("lockInspector")->isChecked(); }
+    bool isLocked() { return action("inspector.lock")->isChecked(); }
     void pressLock() { QTest::keyClick(m_window.get(), Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier); }
     void goBack() { QTest::keyClick(m_window.get(), Qt::Key_Left, Qt::AltModifier); }
     void goForward() { QTest::keyClick(m_window.get(), Qt::Key_Right, Qt::AltModifier); }
@@ -115,12 +115,12 @@ private Q_SLOTS:
 
     void thePadlockOfTheToolBarLocks()
     {
-        QVERIFY(!buttonOf("lockInspector")->isEnabled()); // there is nothing to lock
+        QVERIFY(!buttonOf("inspector.lock")->isEnabled()); // there is nothing to lock
         clickNode("/sun");
-        QTest::mouseClick(buttonOf("lockInspector"), Qt::LeftButton);
+        QTest::mouseClick(buttonOf("inspector.lock"), Qt::LeftButton);
         QVERIFY(isLocked());
-        QVERIFY(buttonOf("lockInspector")->toolTip().contains(QStringLiteral("/sun")));
-        QTest::mouseClick(buttonOf("lockInspector"), Qt::LeftButton);
+        QVERIFY(buttonOf("inspector.lock")->toolTip().contains(QStringLiteral("/sun")));
+        QTest::mouseClick(buttonOf("inspector.lock"), Qt::LeftButton);
         QVERIFY(!isLocked());
     }
 
@@ -218,7 +218,7 @@ private Q_SLOTS:
         open(m_robot);
         QVERIFY(!isLocked());
         QCOMPARE(services().getSelectedNode(), nullptr);
-        QVERIFY(!action("selectionBack")->isEnabled());
+        QVERIFY(!action("selection.back")->isEnabled());
         check();
     }
 
@@ -251,7 +251,7 @@ private Q_SLOTS:
 
     void keysGoBackAndForward()
     {
-        QVERIFY(!action("selectionBack")->isEnabled());
+        QVERIFY(!action("selection.back")->isEnabled());
         clickNode("/robot/arm");
         services().selectField(node("/robot/arm")->getFields().back());
         clickNode("/robot");
@@ -261,11 +261,11 @@ private Q_SLOTS:
         goBack();
         QCOMPARE(services().getSelectedNode(), node("/robot/arm"));
         QCOMPARE(services().getSelectedField(), node("/robot/arm")->getFields().back());
-        QVERIFY(!action("selectionBack")->isEnabled());
+        QVERIFY(!action("selection.back")->isEnabled());
         goForward();
         goForward();
         QCOMPARE(services().getSelectedNode(), sun());
-        QVERIFY(!action("selectionForward")->isEnabled());
+        QVERIFY(!action("selection.forward")->isEnabled());
     }
 
     void theButtonsOfTheMouseGoBackAndForward()
@@ -285,7 +285,7 @@ private Q_SLOTS:
         clickNode("/robot/arm");
         clickNode("/robot/hand");
         clickNode("/sun");
-        QMenu* const places = buttonOf("selectionBack")->menu();
+        QMenu* const places = buttonOf("selection.back")->menu();
         places->popup(m_window->mapToGlobal(QPoint(50, 50)));
         QTRY_VERIFY(places->isVisible());
         QCOMPARE(places->actions().size(), 2);
@@ -293,7 +293,7 @@ private Q_SLOTS:
         QTest::mouseClick(
             places, Qt::LeftButton, Qt::NoModifier, places->actionGeometry(places->actions().at(1)).center());
         QCOMPARE(services().getSelectedNode(), node("/robot/arm"));
-        QVERIFY(action("selectionForward")->isEnabled());
+        QVERIFY(action("selection.forward")->isEnabled());
     }
 
     void backBrowsesWhileTheLockIsOn()
@@ -323,7 +323,7 @@ private Q_SLOTS:
     void theMenuHasItAll()
     {
         auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("viewMenu"));
-        for (const char* const name : {"selectionBack", "selectionForward", "lockInspector"})
+        for (const char* const name : {"selection.back", "selection.forward", "inspector.lock"})
             QVERIFY2(menu->actions().contains(action(name)), name);
     }
 

@@ -105,7 +105,7 @@ private Q_SLOTS:
         QCOMPARE(lastStep(), u"Move 2 rows of hand.mfInt32"_s);
         QCOMPARE(steps().count(), 3);
         for (QToolButton* const button : m_panel->findChildren<QToolButton*>()) {
-            if (button->defaultAction() != nullptr && button->defaultAction()->objectName() == u"listMoveDown"_s)
+            if (button->defaultAction() != nullptr && button->defaultAction()->objectName() == u"list.moveDown"_s)
                 QTest::mouseClick(button, Qt::LeftButton);
         }
         m_open->finish();
@@ -234,7 +234,7 @@ private Q_SLOTS:
         show(vectors(), "[0 0 0, 5 5 5, 5 5 5, 5 5 5, 1 8 0]");
         clickCell(0, 0);
         clickCell(4, 1, Qt::ShiftModifier);
-        trigger("listFillLinear");
+        trigger("list.fillLinear");
         QCOMPARE(textOf(vectors()), u"[0 0 0, 0.25 2 5, 0.5 4 5, 0.75 6 5, 1 8 0]"_s);
         QCOMPARE(lastStep(), u"Fill 5 rows of hand.mfVec3f"_s);
         QCOMPARE(steps().count(), 1);
@@ -250,7 +250,7 @@ private Q_SLOTS:
         QTRY_COMPARE(statistics(), QStringList({u"x|1|4|2.5|0"_s, u"y|2|2|2|1"_s, u"z|3|6|4.5|0"_s}));
         vectors().set1(0, "10 2 3");
         QTRY_COMPARE(statistics().front(), u"x|4|10|7|0"_s);
-        trigger("listShowStatistics");
+        trigger("list.showStatistics");
         QVERIFY(!m_panel->findChild<QWidget*>(u"listStatistics"_s)->isVisible());
     }
 
@@ -270,7 +270,7 @@ private:
     }
     void resizeTo(int count)
     {
-        trigger("listResize");
+        trigger("list.resize");
         auto* const dialog = m_panel->findChild<QDialog*>(u"listResizeDialog"_s);
         QVERIFY(dialog != nullptr);
         auto* const box = dialog->findChild<QSpinBox*>();

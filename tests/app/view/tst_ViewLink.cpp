@@ -114,7 +114,7 @@ private Q_SLOTS:
         lookAhead();
         const QPoint place = clickable(Qt::green);
         QVERIFY(m_window->selectPath(QStringLiteral("/right")));
-        QAction* remove = action("editDelete");
+        QAction* remove = action("node.delete");
         remove->trigger();
         QTRY_COMPARE(ViewScenes::count(shown(), Qt::green), 0);
         m_session->services().undo();
@@ -135,7 +135,7 @@ private Q_SLOTS:
 
     void tellsItsKeys()
     {
-        action("helpKeys")->trigger();
+        action("help.keys")->trigger();
         auto* dialog = m_window->findChild<QDialog*>(QStringLiteral("keysDialog"));
         const QString text = dialog->findChild<QLabel*>()->text();
         for (const char* row : {"<td>F</td>", "<td>A</td>", "<td>6</td>", "Arrow keys"})
@@ -166,28 +166,28 @@ private Q_SLOTS:
 
     void keepsWhatIsSwitchedOn()
     {
-        QVERIFY(action("grid")->isChecked());
-        QVERIFY(action("solid")->isChecked());
-        action("grid")->trigger();
-        action("wireframe")->trigger();
-        action("boundingBoxes")->trigger();
+        QVERIFY(action("view.grid")->isChecked());
+        QVERIFY(action("view.solid")->isChecked());
+        action("view.grid")->trigger();
+        action("view.wireframe")->trigger();
+        action("view.boundingBoxes")->trigger();
         QVERIFY(!view()->style().grid);
         makeWindow();
-        QVERIFY(!action("grid")->isChecked());
-        QVERIFY(action("axes")->isChecked());
-        QVERIFY(action("wireframe")->isChecked());
+        QVERIFY(!action("view.grid")->isChecked());
+        QVERIFY(action("view.axes")->isChecked());
+        QVERIFY(action("view.wireframe")->isChecked());
         QVERIFY(!view()->style().grid);
         QVERIFY(view()->style().boundingBoxes);
         QCOMPARE(view()->style().surfaces, NxDrawingStyle::WIREFRAME);
-        action("solid")->trigger();
+        action("view.solid")->trigger();
         QCOMPARE(view()->style().surfaces, NxDrawingStyle::SOLID);
     }
 
     void changesTheProjection()
     {
-        action("orthographic")->trigger();
+        action("view.orthographic")->trigger();
         QCOMPARE(view()->viewpoint().projection, NxViewpoint::ORTHOGRAPHIC);
-        action("perspective")->trigger();
+        action("view.perspective")->trigger();
         QCOMPARE(view()->viewpoint().projection, NxViewpoint::PERSPECTIVE);
     }
 
@@ -269,7 +269,7 @@ private Q_SLOTS:
         QVERIFY(m_window->selectPath(QStringLiteral("/right/greenSquare")));
         QCOMPARE(m_session->services().getSelectedNode(), greenSquare());
         cameraAction(QStringLiteral("camera"))->trigger();
-        action("frameSelection")->trigger();
+        action("view.frameSelection")->trigger();
         QVERIFY(!m_window->grab().isNull());
         QVERIFY(m_window->findChild<MessageBar*>()->texts().isEmpty());
     }

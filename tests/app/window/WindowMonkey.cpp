@@ -118,9 +118,9 @@ void WindowMonkey::askForFile()
     default:
         break;
     }
-    static const QStringList dialogs{QStringLiteral("fileSaveAs"), QStringLiteral("fileExport"),
-        QStringLiteral("fileOpen"), QStringLiteral("fileImport"), QStringLiteral("fileCompare"),
-        QStringLiteral("fileReload")};
+    static const QStringList dialogs{QStringLiteral("file.saveAs"), QStringLiteral("file.export"),
+        QStringLiteral("file.open"), QStringLiteral("file.import"), QStringLiteral("file.compare"),
+        QStringLiteral("file.reload")};
     m_window->findChild<QAction*>(dialogs.at(below(static_cast<int>(dialogs.size()))))->trigger();
 }
 

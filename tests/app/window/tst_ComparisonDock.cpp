@@ -120,8 +120,8 @@ private Q_SLOTS:
     void theResultGoesWithItsScene_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("close") << QStringLiteral("fileClose");
-        QTest::newRow("new") << QStringLiteral("fileNew");
+        QTest::newRow("close") << QStringLiteral("file.close");
+        QTest::newRow("new") << QStringLiteral("file.new");
     }
 
     void theResultGoesWithItsScene()
@@ -222,7 +222,7 @@ private:
         return result;
     }
 
-    [[nodiscard]] QAction* action() const { return m_window->findChild<QAction*>(QStringLiteral("fileCompare")); }
+    [[nodiscard]] QAction* action() const { return m_window->findChild<QAction*>(QStringLiteral("file.compare")); }
     [[nodiscard]] ComparisonDock* dock() const { return m_window->findChild<ComparisonDock*>(); }
     [[nodiscard]] DifferenceModel* model() const
     {

@@ -258,7 +258,7 @@ private Q_SLOTS:
         services().undo();
         QVERIFY(text() != before);
         m_window->document().newScene();
-        QVERIFY(!m_window->findChild<QAction*>(QStringLiteral("fileReload"))->isEnabled());
+        QVERIFY(!m_window->findChild<QAction*>(QStringLiteral("file.reload"))->isEnabled());
     }
 
     void aReloadWaitsForAnOpenDialog()

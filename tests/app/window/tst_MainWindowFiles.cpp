@@ -93,8 +93,8 @@ private Q_SLOTS:
     void closingTheSceneDropsTheModelBeingAdded_data()
     {
         QTest::addColumn<QString>("action");
-        QTest::newRow("close") << QStringLiteral("fileClose");
-        QTest::newRow("new") << QStringLiteral("fileNew");
+        QTest::newRow("close") << QStringLiteral("file.close");
+        QTest::newRow("new") << QStringLiteral("file.new");
     }
 
     void closingTheSceneDropsTheModelBeingAdded()
