@@ -30,6 +30,38 @@ function(kal_add_library name)
   endif()
 endfunction()
 
+# kal_add_interface_hash(target libraries…)
+# Gives a library the header orvane/extender/InterfaceHash.h, with a hash over the public headers of these libraries.
+function(kal_add_interface_hash target)
+  set(headers "")
+  foreach(library IN LISTS ARGN)
+    get_target_property(folder ${library} SOURCE_DIR)
+    get_target_property(files ${library} HEADER_SET)
+    foreach(file IN LISTS files)
+      cmake_path(ABSOLUTE_PATH file BASE_DIRECTORY "${folder}")
+      cmake_path(RELATIVE_PATH file BASE_DIRECTORY "${PROJECT_SOURCE_DIR}")
+      list(APPEND headers "${file}")
+    endforeach()
+  endforeach()
+  set(folder "${PROJECT_BINARY_DIR}/generated")
+  set(output "${folder}/orvane/extender/InterfaceHash.h")
+  list(JOIN headers "\n" lines)
+  file(CONFIGURE OUTPUT "${folder}/interface-headers.txt" CONTENT "${lines}\n" @ONLY)
+  list(TRANSFORM headers PREPEND "${PROJECT_SOURCE_DIR}/")
+  add_custom_command(
+    OUTPUT "${folder}/interface-hash"
+    BYPRODUCTS "${output}"
+    COMMAND ${CMAKE_COMMAND} -D "ROOT=${PROJECT_SOURCE_DIR}" -D "HEADERS=${folder}/interface-headers.txt" -D
+            "OUTPUT=${output}" -P "${PROJECT_SOURCE_DIR}/cmake/InterfaceHash.cmake"
+    COMMAND ${CMAKE_COMMAND} -E touch "${folder}/interface-hash"
+    DEPENDS ${headers} "${folder}/interface-headers.txt" "${PROJECT_SOURCE_DIR}/cmake/InterfaceHash.cmake"
+    COMMENT "Hashing the plug-in interface"
+    VERBATIM)
+  add_custom_target(${target}_hash DEPENDS "${folder}/interface-hash")
+  add_dependencies(${target} ${target}_hash)
+  target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${folder}>")
+endfunction()
+
 # kal_add_program(name [QT] SOURCES … [DEPENDS …])
 function(kal_add_program name)
   cmake_parse_arguments(arg "QT" "" "SOURCES;DEPENDS" ${ARGN})

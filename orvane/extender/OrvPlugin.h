@@ -1,12 +1,15 @@
 #pragma once
 
+#include "orvane/extender/PluginStamp.h"
+
 #include "meridane/base/values/VbString.h"
 
 #include <QList>
 
 class OrvExtension;
 
-/// The version of the host's interface. It grows whenever plug-ins have to be built again.
+/// The version of the host's interface. It grows when plug-ins have to be changed; that they have to be built again is
+/// seen by their stamps (PluginStamp.h).
 constexpr int orvaneInterfaceVersion = 4;
 
 /// A plug-in: the owner of extensions. Its library exports `OrvPlugin* loadPlugin()` and `void unloadPlugin()` with C

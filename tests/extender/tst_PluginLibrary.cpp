@@ -2,6 +2,7 @@
 #include "extender/Recording.h"
 
 #include "orvane/extender/OrvExtension.h"
+#include "orvane/extender/OrvPlugin.h"
 #include "orvane/extender/OrvPluginsManager.h"
 #include "orvane/extender/OrvProfile.h"
 
@@ -181,6 +182,63 @@ private Q_SLOTS:
 
         OrvPluginsManager manager;
         QCOMPARE(manager.loadPlugin(fileName), fileName + u": it can't be loaded as a plug-in: the file is cut off"_s);
+    }
+
+    // The code of a library of another interface must not run, since it takes the members of classes to be elsewhere.
+    void aLibraryOfAnotherInterfaceIsRefusedBeforeItsCodeRuns()
+    {
+        const QByteArray hash(ORVANE_INTERFACE_HASH);
+        const QByteArray otherHash = QByteArray(hash.size(), '0');
+        const QTemporaryDir folder;
+        const QString fileName = folder.filePath(u"libother.so"_s);
+        writeFile(fileName, readFile(pathOf(u"Sound"_s)).replace(hash, otherHash));
+
+        OrvPluginsManager manager;
+        const QString stamp = QStringLiteral(ORVANE_PLUGIN_STAMP);
+        QCOMPARE(manager.loadPlugin(fileName),
+            u"%1: it was built against the plug-in interface %2; this is %3; build it again"_s.arg(
+                fileName, QString(stamp).replace(QString::fromLatin1(hash), QString::fromLatin1(otherHash)), stamp));
+        QCOMPARE(takeCalls(), QStringList());
+        QVERIFY(manager.getExtensions().isEmpty());
+    }
+
+    // Some sources were compiled again after a header had changed, and others weren't.
+    void aLibraryOfTwoInterfacesIsRefused()
+    {
+        const QByteArray hash(ORVANE_INTERFACE_HASH);
+        QByteArray bytes = readFile(pathOf(u"Sound"_s));
+        QCOMPARE(bytes.count(hash), 2);
+        bytes.replace(bytes.indexOf(hash), hash.size(), QByteArray(hash.size(), '1'));
+        const QTemporaryDir folder;
+        const QString fileName = folder.filePath(u"libmixed.so"_s);
+        writeFile(fileName, bytes);
+
+        OrvPluginsManager manager;
+        const QString message = manager.loadPlugin(fileName).value();
+        QVERIFY2(message.contains(u"its parts were built against different plug-in interfaces, 1111"_s),
+            qPrintable(message));
+        QCOMPARE(takeCalls(), QStringList());
+    }
+
+    void aDamagedStampIsNone_data()
+    {
+        QTest::addColumn<int>("offset");
+        QTest::newRow("the length of the owner") << -20;
+        QTest::newRow("the length of the text") << -16;
+    }
+    void aDamagedStampIsNone()
+    {
+        QFETCH(const int, offset);
+        QByteArray bytes = readFile(pathOf(u"Sound"_s));
+        const qsizetype stamp = bytes.indexOf(ORVANE_PLUGIN_STAMP);
+        QVERIFY(stamp > 0);
+        bytes.replace(stamp + offset, 4, QByteArray(4, '\xff'));
+        const QTemporaryDir folder;
+        const QString fileName = folder.filePath(u"libdamaged.so"_s);
+        writeFile(fileName, bytes);
+
+        OrvPluginsManager manager;
+        QCOMPARE(manager.loadPlugin(fileName), std::nullopt);
     }
 
     void aMissingSymbolIsNamedWhenTheLibraryIsLoaded()

@@ -2,14 +2,10 @@
 
 #include "orvane/extender/OrvPlugin.h"
 #include "orvane/extender/detail/Guarded.h"
+#include "orvane/extender/detail/PluginFile.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QLibrary>
-
-#include <cstring>
-
-#include <elf.h>
 
 namespace orvane {
 
@@ -31,29 +27,24 @@ std::optional<QString> whyNotReadable(const QFileInfo& file)
     return std::nullopt;
 }
 
-// The system maps the sizes in a library's header without comparing them with the size of the file. Reading beyond the
-// end of a truncated file kills the process.
-bool isCutOff(const QString& fileName)
+// A library of another interface would read and write members at wrong places. One without a stamp wasn't compiled with
+// the header of OrvPlugin, so it has its say when it is loaded.
+std::optional<QString> whyNotFitting(const PluginFile& file)
 {
-    QFile file(fileName);
-    Elf64_Ehdr header;
-    if (!file.open(QIODevice::ReadOnly) || file.read(reinterpret_cast<char*>(&header), sizeof header) != sizeof header)
-        return false;
-    const bool isLibrary = std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0 && header.e_ident[EI_CLASS] == ELFCLASS64
-        && header.e_phentsize == sizeof(Elf64_Phdr);
-    if (!isLibrary)
-        return false;
-    const auto size = static_cast<quint64>(file.size());
-    if (!file.seek(static_cast<qint64>(header.e_phoff)))
-        return true;
-    for (int i = 0; i < header.e_phnum; ++i) {
-        Elf64_Phdr segment;
-        if (file.read(reinterpret_cast<char*>(&segment), sizeof segment) != sizeof segment)
-            return true;
-        if (segment.p_type == PT_LOAD && (segment.p_offset > size || segment.p_filesz > size - segment.p_offset))
-            return true;
+    if (file.isCutOff)
+        return QStringLiteral("it can't be loaded as a plug-in: the file is cut off");
+    if (file.stamps.size() > 1) {
+        return QStringLiteral("its parts were built against different plug-in interfaces, %1; build all of it again")
+            .arg(file.stamps.join(QStringLiteral(" and ")));
     }
-    return false;
+#ifdef ORVANE_PLUGIN_STAMP
+    const QString stamp = QStringLiteral(ORVANE_PLUGIN_STAMP);
+    if (!file.stamps.isEmpty() && file.stamps.first() != stamp) {
+        return QStringLiteral("it was built against the plug-in interface %1; this is %2; build it again")
+            .arg(file.stamps.first(), stamp);
+    }
+#endif
+    return std::nullopt;
 }
 
 // The system's reason in one line and without the file name, with which each message begins already.
@@ -72,8 +63,8 @@ std::optional<QString> open(const QFileInfo& file, PluginLibrary& result)
         return problem;
     result.fileName = file.canonicalFilePath();
 
-    if (isCutOff(result.fileName))
-        return QStringLiteral("it can't be loaded as a plug-in: the file is cut off");
+    if (auto problem = whyNotFitting(readPluginFile(result.fileName)))
+        return problem;
     QLibrary library(result.fileName);
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     if (!library.load())
