@@ -2,6 +2,8 @@
 
 #include "meridane/gl/detail/MeshHit.h"
 #include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/scene/fields/EffectiveField.h"
+#include "meridane/scene/nodes/NxMaterial.h"
 #include "meridane/scene/nodes/NxMesh.h"
 #include "meridane/scene/nodes/NxSwitch.h"
 
@@ -23,6 +25,7 @@ struct Step {
     std::size_t next = 0;
     Matrix4d matrix; // from the children to the ray
     NxNodeVisibility::State state; // of the group
+    MeshHit::Sides sides = MeshHit::Sides::Both; // of the triangles that follow
 };
 
 std::span<NxNode* const> shownChildren(const NxNode& node)
@@ -83,8 +86,8 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
     MeshHit search(m_radius, m_slope, m_nearest, m_farthest);
     std::optional<NxRayHit> hit;
     // Without recursion: a scene may be too deep for the stack.
-    std::vector<Step> steps{
-        {shownChildren(root), 0, multiply(localTransformOf(root), sceneToRay(m_ray)), m_visibility.below({}, root)}};
+    std::vector<Step> steps{{shownChildren(root), 0, multiply(localTransformOf(root), sceneToRay(m_ray)),
+        m_visibility.below({}, root), MeshHit::Sides::Both}};
     for (std::size_t places = 0; !steps.empty() && places < maxPlaces; ++places) {
         Step& step = steps.back();
         if (step.next == step.children.size()) {
@@ -95,15 +98,18 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
         const NxNodeVisibility::State state = m_visibility.below(step.state, node);
         const std::span<NxNode* const> children = shownChildren(node);
         if (const auto* mesh = dynamic_cast<const NxMesh*>(&node)) {
-            if (!m_visibility.shows(state) || !search.meet(*mesh, step.matrix))
+            if (!m_visibility.shows(state) || !search.meet(*mesh, step.matrix, step.sides))
                 continue;
             hit = NxRayHit{{}, VbVec3d(), static_cast<float>(search.distance()), search.primitive()};
             for (const Step& above : steps)
                 hit->path.push_back(above.children[above.next - 1]);
+        } else if (const auto* material = dynamic_cast<const NxMaterial*>(&node)) {
+            const bool areBoth = effectiveField(material->doubleSided).getValue() != 0;
+            step.sides = areBoth ? MeshHit::Sides::Both : MeshHit::Sides::Front;
         } else if (!children.empty() && !state.isHidden) {
             const Matrix4d matrix = multiply(localTransformOf(node), step.matrix);
             if (isFinite(matrix))
-                steps.push_back({children, 0, matrix, state});
+                steps.push_back({children, 0, matrix, state, step.sides});
         }
     }
     if (hit) {

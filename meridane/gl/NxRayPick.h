@@ -20,10 +20,10 @@ struct NxRayHit {
 
 /// Finds the first mesh that a ray hits.
 ///
-/// Surfaces are hit exactly, from either side; lines and points if the ray passes close to them. Switches, transforms
-/// and ignored fields have the same effect as in drawing. Primitives whose positions are missing or aren't finite are
-/// skipped, as are the children of a transform that isn't finite. The search takes time in proportion to the vertices
-/// of the meshes and stores nothing.
+/// Surfaces are hit exactly, from either side unless their material isn't `doubleSided`; lines and points if the ray
+/// passes close to them. Switches, transforms and ignored fields have the same effect as in drawing. Primitives whose
+/// positions are missing or aren't finite are skipped, as are the children of a transform that isn't finite. The search
+/// takes time in proportion to the vertices of the meshes and stores nothing.
 class NxRayPick {
 public:
     explicit NxRayPick(const NxRay& ray);

@@ -1,5 +1,6 @@
 #include "meridane/gl/detail/MeshHit.h"
 
+#include "meridane/gl/geometry/MatrixMath.h"
 #include "meridane/scene/nodes/NxMesh.h"
 
 #include <algorithm>
@@ -25,8 +26,9 @@ MeshHit::MeshHit(float radius, float slope, float nearest, float farthest)
 {
 }
 
-bool MeshHit::meet(const NxMesh& mesh, const Matrix4d& meshToLine)
+bool MeshHit::meet(const NxMesh& mesh, const Matrix4d& meshToLine, Sides sides)
 {
+    m_front = sides == Sides::Both ? 0 : determinant(meshToLine) < 0 ? -1 : 1;
     if (mesh.positions.isIgnored())
         return false;
     place(mesh.positions.getValues(), meshToLine);
@@ -96,7 +98,7 @@ bool MeshHit::meetTriangle(const std::array<const Point*, 3>& corners)
     if (!((u >= 0 && v >= 0 && w >= 0) || (u <= 0 && v <= 0 && w <= 0)))
         return false;
     const double sum = u + v + w;
-    if (sum == 0.0)
+    if (sum == 0.0 || sum * m_front < 0)
         return false;
     const double distance = (u * a.z + v * b.z + w * c.z) / sum;
     return take(distance, distance);

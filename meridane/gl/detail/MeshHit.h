@@ -19,9 +19,11 @@ public:
     /// See `NxRayPick`.
     MeshHit(float radius, float slope, float nearest, float farthest);
 
+    /// Which sides of triangles can be hit.
+    enum class Sides { Both, Front };
     /// Whether the line hits the mesh before all meshes that were tested earlier. The matrix takes the mesh to the
     /// line.
-    [[nodiscard]] bool meet(const NxMesh& mesh, const Matrix4d& meshToLine);
+    [[nodiscard]] bool meet(const NxMesh& mesh, const Matrix4d& meshToLine, Sides sides = Sides::Both);
 
     [[nodiscard]] double distance() const noexcept { return m_distance; }
     [[nodiscard]] int primitive() const noexcept { return m_primitive; }
@@ -48,6 +50,7 @@ private:
     double m_nearest;
     double m_rank; // the distance, reduced for lines and points, so that those on a surface are hit before it
     double m_distance = 0;
+    double m_front = 0; // 1 or -1: the sign of the sides of edges of triangles that are hit; 0 for both
     int m_primitive = 0;
     std::vector<Point> m_points; // of the present mesh
 };

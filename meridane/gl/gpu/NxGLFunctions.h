@@ -77,6 +77,7 @@
     F(PFNGLTEXIMAGE2DPROC, TexImage2D)                                                                                 \
     F(PFNGLTEXPARAMETERIPROC, TexParameteri)                                                                           \
     F(PFNGLUNIFORM1FPROC, Uniform1f)                                                                                   \
+    F(PFNGLUNIFORM1IPROC, Uniform1i)                                                                                   \
     F(PFNGLUNIFORM3FVPROC, Uniform3fv)                                                                                 \
     F(PFNGLUNIFORM4FVPROC, Uniform4fv)                                                                                 \
     F(PFNGLUNIFORMBLOCKBINDINGPROC, UniformBlockBinding)                                                               \

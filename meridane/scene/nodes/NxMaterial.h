@@ -1,10 +1,14 @@
 #pragma once
 
+#include "meridane/scene/fields/single/NxSFBool.h"
 #include "meridane/scene/fields/single/NxSFColor.h"
 #include "meridane/scene/fields/single/NxSFFloat.h"
 #include "meridane/scene/nodes/NxNode.h"
 
 /// The look of the surfaces that follow in the group.
+///
+/// Highlights follow from `specularColor` and `shininess`. If `metalness` or `roughness` hasn't its default, or a
+/// texture with the role `NxTexture::METAL_ROUGHNESS` applies, they follow from these two instead.
 class NxMaterial : public NxNode {
     NX_NODE(NxMaterial)
 
@@ -22,6 +26,23 @@ public:
         {"shininess", "How sharp highlights are, from wide (0) to small and sharp (1).", meridane::range(0, 1)}, 0.2F};
     NxSFFloat transparency{
         this, {"transparency", "How much shines through, from opaque (0) to invisible (1).", meridane::range(0, 1)}, 0};
+    NxSFFloat metalness{this,
+        {"metalness", "How metallic the surface is, from plastic or stone (0) to bare metal (1).",
+            meridane::range(0, 1)},
+        0};
+    NxSFFloat roughness{this,
+        {"roughness",
+            "How rough the surface is, from a mirror (0) to dull (1); below 1, or with some metalness, specularColor "
+            "and "
+            "shininess have no effect.",
+            meridane::range(0, 1)},
+        1};
+    NxSFBool doubleSided{this,
+        {"doubleSided", "Whether triangles are also seen from behind, where their corners are in clockwise order."}, 1};
+    NxSFFloat alphaCutoff{this,
+        {"alphaCutoff", "The opacity below which nothing is drawn, while all else is opaque; 0 draws every opacity.",
+            meridane::range(0, 1)},
+        0};
 
 protected:
     ~NxMaterial() override = default;

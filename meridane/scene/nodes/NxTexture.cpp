@@ -8,3 +8,9 @@ const NxEnumeration& NxTexture::wraps()
     static const NxEnumeration names{{"REPEAT", REPEAT}, {"CLAMP", CLAMP}};
     return names;
 }
+
+const NxEnumeration& NxTexture::roles()
+{
+    static const NxEnumeration names{{"COLOR", COLOR}, {"NORMAL", NORMAL}, {"METAL_ROUGHNESS", METAL_ROUGHNESS}};
+    return names;
+}

@@ -5,6 +5,8 @@
 #include "meridane/scene/fields/single/NxSFImage.h"
 #include "meridane/scene/nodes/NxNode.h"
 
+#include <cstddef>
+
 /// An image on the surfaces that follow in the group, placed by their texture coordinates.
 class NxTexture : public NxNode {
     NX_NODE(NxTexture)
@@ -15,6 +17,14 @@ public:
         REPEAT = 0, ///< the image goes on over and over
         CLAMP = 1, ///< the border goes on
     };
+    /// What the image changes. Of each role, the last texture applies.
+    enum Role {
+        COLOR = 0, ///< the colour and the opacity of the surface
+        NORMAL = 1, ///< red, green and blue from 0 to 1 are a normal from -1 to 1: rightwards and upwards in the image,
+                    ///< outwards
+        METAL_ROUGHNESS = 2, ///< blue is multiplied with the metalness of the material, green with its roughness
+    };
+    static constexpr std::size_t roleCount = 3;
 
     NxSFFilePathString filePath{this,
         {"filePath",
@@ -22,10 +32,14 @@ public:
     NxSFImage image{this, {"image", "The image itself, with the row at the bottom first."}};
     NxSFEnum wrapS{this, {"wrapS", "What lies to the left and right of the image."}, wraps(), REPEAT};
     NxSFEnum wrapT{this, {"wrapT", "What lies below and above the image."}, wraps(), REPEAT};
+    NxSFEnum role{this,
+        {"role", "What the image changes: the colour, the normals, or metalness (blue) and roughness (green)."},
+        roles(), COLOR};
 
 protected:
     ~NxTexture() override = default;
 
 private:
     static const NxEnumeration& wraps();
+    static const NxEnumeration& roles();
 };

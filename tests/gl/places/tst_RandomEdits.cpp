@@ -41,7 +41,8 @@ public:
         }
         add([] { return ball(0.3F, 12); });
         add([] { return meshOf({{-0.5F, 0, 0}, {0.5F, 0, 0}}, NxMesh::LINES); });
-        add([] { return fourPixels(); });
+        for (int i = 0; i < 3; ++i)
+            add([] { return fourPixels(); });
         add([] { return make<NxComplexity>(); });
         add([] { return make<NxDirectionalLight>(); });
     }
@@ -125,6 +126,12 @@ private:
         } else if (auto* material = dynamic_cast<NxMaterial*>(&node)) {
             material->diffuseColor.setValue(VbColor(real(0, 1), real(0, 1), real(0, 1)));
             material->transparency.setValue(pick(2) == 0 ? 0 : real(0, 1));
+            material->metalness.setValue(pick(2) == 0 ? 0 : real(0, 1));
+            material->doubleSided.setValue(pick(2) == 0);
+            material->alphaCutoff.setValue(pick(2) == 0 ? 0 : real(0, 1));
+        } else if (auto* texture = dynamic_cast<NxTexture*>(&node)) {
+            texture->role.setValue(static_cast<int>(pick(NxTexture::roleCount)));
+            texture->role.setIgnored(pick(3) == 0);
         } else if (auto* mesh = dynamic_cast<NxMesh*>(&node)) {
             changeMesh(*mesh);
         } else if (auto* complexity = dynamic_cast<NxComplexity*>(&node)) {
@@ -195,8 +202,9 @@ std::vector<std::vector<double>> contentsOf(PlacedScene& scene, const NxNode* ro
     for (const Id id : scene.itemsBelow(root)) {
         const Item& item = scene.table().item(id);
         const Look& look = scene.looks()[item.look];
-        std::vector<double> values{
-            numberOf(item.mesh->node()), numberOf(look.texture ? look.texture->node() : nullptr)};
+        std::vector<double> values{numberOf(item.mesh->node())};
+        for (const TextureRecord* texture : look.textures)
+            values.push_back(numberOf(texture != nullptr ? texture->node() : nullptr));
         const auto append = [&values](const auto& list) { values.insert(values.end(), list.begin(), list.end()); };
         for (std::size_t row = 0; row < 4; ++row)
             append(scene.table().worldTransformOf(item)[row]);

@@ -45,8 +45,8 @@ private Q_SLOTS:
             "positions = []; normals = []; textureCoordinates = []; colors = []; indices = []; primitive = TRIANGLES");
         row("Material", "Node",
             "ambientColor = 0.2 0.2 0.2; diffuseColor = 0.8 0.8 0.8; specularColor = 0 0 0; emissiveColor = 0 0 0; "
-            "shininess = 0.2; transparency = 0");
-        row("Texture", "Node", "filePath = \"\"; image = 0 0 0; wrapS = REPEAT; wrapT = REPEAT");
+            "shininess = 0.2; transparency = 0; metalness = 0; roughness = 1; doubleSided = true; alphaCutoff = 0");
+        row("Texture", "Node", "filePath = \"\"; image = 0 0 0; wrapS = REPEAT; wrapT = REPEAT; role = COLOR");
         row("DirectionalLight", "Light", light + "direction = 0 0 -1");
         row("PointLight", "Light", light + "location = 0 0 1; attenuation = 1 0 0");
         row("SpotLight", "Light",

@@ -102,8 +102,11 @@ void GLStateScope::restoreBindings()
 {
     m_gl.BindVertexArray(0);
     m_gl.BindBuffer(GL_ARRAY_BUFFER, 0);
-    m_gl.BindTexture(GL_TEXTURE_2D, 0);
-    m_gl.BindSampler(0, 0);
+    for (unsigned int unit = textureUnits; unit-- > 0;) {
+        m_gl.ActiveTexture(GL_TEXTURE0 + unit);
+        m_gl.BindTexture(GL_TEXTURE_2D, 0);
+        m_gl.BindSampler(unit, 0);
+    }
     m_gl.UseProgram(0);
 }
 

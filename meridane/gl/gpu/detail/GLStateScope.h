@@ -35,7 +35,9 @@ public:
     void setScissor(int left, int bottom, int width, int height);
     /// The number of bytes to which the rows of an image are aligned.
     void setUnpackAlignment(int bytes);
-    /// The caller binds a program, vertex arrays, vertex buffers, and textures and samplers of the first unit.
+    /// How many texture units drawing uses. The first one is active, except while another is being bound.
+    static constexpr unsigned int textureUnits = 3;
+    /// The caller binds a program, vertex arrays, vertex buffers, and textures and samplers of the first units.
     void bindObjects() noexcept { m_changed |= Bindings; }
 
 private:

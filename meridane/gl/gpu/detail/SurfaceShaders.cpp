@@ -1,8 +1,10 @@
 #include "meridane/gl/gpu/detail/SurfaceShaders.h"
 
 #include "meridane/gl/places/detail/Lights.h"
+#include "meridane/scene/nodes/NxTexture.h"
 
 #include <string>
+#include <utility>
 
 namespace meridane {
 namespace {
@@ -21,7 +23,7 @@ out vec3 scenePoint;
 #if LIGHT == SMOOTH || LIGHT == LINE
 out vec3 sceneNormal;
 #endif
-#ifdef TEXTURED
+#ifdef MAPPED
 out vec2 texturePlace;
 #endif
 #ifdef COLORED
@@ -35,7 +37,7 @@ void main()
 #if LIGHT == SMOOTH || LIGHT == LINE
     sceneNormal = normalMatrix * normal;
 #endif
-#ifdef TEXTURED
+#ifdef MAPPED
     texturePlace = coordinate;
 #endif
 #ifdef COLORED
@@ -53,20 +55,31 @@ in vec3 scenePoint;
 #if LIGHT == SMOOTH || LIGHT == LINE
 in vec3 sceneNormal;
 #endif
-#ifdef TEXTURED
+#ifdef MAPPED
 in vec2 texturePlace;
+#endif
+#ifdef TEXTURED
 uniform sampler2D image;
+#endif
+#ifdef NORMAL_MAPPED
+uniform sampler2D normalMap;
+#endif
+#ifdef SURFACE_MAPPED
+uniform sampler2D surfaceMap;
 #endif
 #ifdef COLORED
 in vec4 ownColor;
 #endif
 uniform vec4 eye;
-uniform vec4 material[4];
+uniform vec4 material[5];
 #define DIFFUSE material[0]
 #define AMBIENT material[1].rgb
 #define SPECULAR material[2].rgb
 #define EXPONENT material[2].w
 #define EMISSIVE material[3].rgb
+#define METALNESS material[4].x
+#define ROUGHNESS material[4].y
+#define ALPHA_CUTOFF material[4].z
 struct Light {
     vec3 location;
     float kind;
@@ -81,6 +94,14 @@ layout(std140) uniform Lights { float lightCount; Light lights[MAX_LIGHTS]; };
 out vec4 pictureColor;
 
 const float ambientLight = 0.2;
+#ifdef PHYSICAL
+// What surfaces that aren't metals reflect when light comes from straight above.
+const float usualReflectance = 0.04;
+// A highlight that is smaller than a pixel would sparkle.
+const float leastRoughness = 0.1;
+// There is nothing around the scene that a metal could mirror. It mirrors half of the light as if that came from all sides.
+const float surroundings = 0.5;
+#endif
 
 #if LIGHT != UNLIT
 vec3 directionToEye()
@@ -108,6 +129,47 @@ vec3 litNormal(vec3 toEye)
 #endif
 #endif
 }
+
+#ifdef NORMAL_MAPPED
+// Where no tangents are given, the derivatives on the screen make them: Mikkelsen, "Bump Mapping Unparametrized Surfaces
+// on the GPU" (2010).
+vec3 mappedNormal(vec3 normal)
+{
+    vec3 pointX = cross(normal, dFdx(scenePoint));
+    vec3 pointY = cross(dFdy(scenePoint), normal);
+    vec2 placeX = dFdx(texturePlace);
+    vec2 placeY = dFdy(texturePlace);
+    vec3 tangent = pointY * placeX.x + pointX * placeY.x;
+    vec3 bitangent = pointY * placeX.y + pointX * placeY.y;
+    float size = max(dot(tangent, tangent), dot(bitangent, bitangent));
+    vec3 bump = texture(normalMap, texturePlace).xyz * 2.0 - 1.0;
+    vec3 result = normal * bump.z + (tangent * bump.x + bitangent * bump.y) * inversesqrt(max(size, 1e-30));
+    float length2 = dot(result, result);
+    return size > 0.0 && length2 > 0.0 ? result * inversesqrt(length2) : normal;
+}
+#endif
+
+#ifdef PHYSICAL
+// How much light a surface of tiny mirrors reflects to the eye, relative to a dull white one. The distribution of the
+// mirrors is GGX (Walter, Marschner, Li and Torrance, "Microfacet Models for Refraction through Rough Surfaces", 2007),
+// their shadows are Smith's (Heitz, "Understanding the Masking-Shadowing Function in Microfacet-Based BRDFs", 2014), and
+// the Fresnel term is Schlick's ("An Inexpensive BRDF Model for Physically-based Rendering", 1994).
+vec3 microfacets(vec3 normal, vec3 toEye, vec3 toLight, vec3 reflectance, float roughness)
+{
+    vec3 halfway = normalize(toLight + toEye);
+    float slopeOfHalf = clamp(dot(normal, halfway), 0.0, 1.0);
+    float slopeOfLight = clamp(dot(normal, toLight), 1e-4, 1.0);
+    float slopeOfEye = clamp(dot(normal, toEye), 1e-4, 1.0);
+    float width = roughness * roughness;
+    float square = width * width;
+    float spread = slopeOfHalf * slopeOfHalf * (square - 1.0) + 1.0;
+    float distribution = square / (spread * spread);
+    float visibility = 0.5 / (slopeOfLight * sqrt(slopeOfEye * slopeOfEye * (1.0 - square) + square)
+        + slopeOfEye * sqrt(slopeOfLight * slopeOfLight * (1.0 - square) + square));
+    float glancing = pow(1.0 - clamp(dot(toLight, halfway), 0.0, 1.0), 5.0);
+    return (reflectance + (1.0 - reflectance) * glancing) * distribution * visibility;
+}
+#endif
 
 // Returns how much of light number i arrives, and sets the direction that it comes from.
 float arrival(int i, vec3 toEye, out vec3 toLight)
@@ -149,6 +211,18 @@ void main()
     vec3 sum = (EMISSIVE + AMBIENT * ambientLight) * pixel.rgb;
     vec3 toEye = directionToEye();
     vec3 normal = litNormal(toEye);
+#ifdef NORMAL_MAPPED
+    normal = mappedNormal(normal);
+#endif
+#ifdef PHYSICAL
+    vec2 surface = vec2(ROUGHNESS, METALNESS);
+#ifdef SURFACE_MAPPED
+    surface *= texture(surfaceMap, texturePlace).gb;
+#endif
+    float roughness = max(surface.x, leastRoughness);
+    vec3 dull = base.rgb * (1.0 - surface.y);
+    vec3 reflectance = mix(vec3(usualReflectance), base.rgb, surface.y);
+#endif
     int count = int(lightCount);
     for (int i = 0; i < count; ++i) {
         vec3 toLight;
@@ -157,9 +231,19 @@ void main()
         if (share <= 0.0 || slope <= 0.0)
             continue;
         vec3 light = lights[i].color * share;
+#ifdef PHYSICAL
+        vec3 mirrored = microfacets(normal, toEye, toLight, reflectance, roughness) + reflectance * surroundings;
+        sum += light * slope * (dull + mirrored);
+#else
         float highlight = pow(max(dot(normal, normalize(toLight + toEye)), 0.0), EXPONENT);
         sum += light * (base.rgb * slope + SPECULAR * highlight);
+#endif
     }
+#endif
+#ifdef CUT_OUT
+    if (base.a < ALPHA_CUTOFF)
+        discard;
+    base.a = 1.0;
 #endif
     pictureColor = vec4(min(sum, vec3(1.0)), base.a);
 }
@@ -180,6 +264,11 @@ SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant varian
     define("MAX_LIGHTS", LightList::maxLights);
     head += variant.isTextured ? "#define TEXTURED\n" : "";
     head += variant.hasColors ? "#define COLORED\n" : "";
+    head += variant.isPhysical ? "#define PHYSICAL\n" : "";
+    head += variant.hasNormalMap ? "#define NORMAL_MAPPED\n" : "";
+    head += variant.hasSurfaceMap ? "#define SURFACE_MAPPED\n" : "";
+    head += variant.isCutOut ? "#define CUT_OUT\n" : "";
+    head += variant.isTextured || variant.hasNormalMap || variant.hasSurfaceMap ? "#define MAPPED\n" : "";
     SurfaceProgram result{GLProgram(gl, "meshes", head + vertexSource, head + fragmentSource)};
     if (!result.program.isUsable())
         return result;
@@ -190,6 +279,12 @@ SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant varian
     result.eye = result.program.uniform("eye");
     result.material = result.program.uniform("material");
     result.pointSize = result.program.uniform("pointSize");
+    result.program.use();
+    for (const auto& [name, role] :
+        {std::pair("normalMap", NxTexture::NORMAL), std::pair("surfaceMap", NxTexture::METAL_ROUGHNESS)}) {
+        if (const int place = result.program.uniform(name); place >= 0)
+            gl.Uniform1i(place, role);
+    }
     const unsigned int block = gl.GetUniformBlockIndex(result.program.name(), "Lights");
     if (block != GL_INVALID_INDEX)
         gl.UniformBlockBinding(result.program.name(), block, lightsBinding);

@@ -14,15 +14,20 @@ struct SurfaceVariant {
         Flat, ///< surfaces by their own normals
         Line, ///< lines and points by the normals of their corners
     };
-    static constexpr unsigned int count = 16;
+    static constexpr unsigned int count = 256;
 
     Light light = Unlit;
     bool isTextured = false;
     bool hasColors = false;
+    bool isPhysical = false; ///< highlights by metalness and roughness
+    bool hasNormalMap = false;
+    bool hasSurfaceMap = false; ///< a texture of metalness and roughness; physical surfaces only
+    bool isCutOut = false; ///< what is less opaque than the cut-off isn't drawn
 
     [[nodiscard]] unsigned int number() const noexcept
     {
-        return static_cast<unsigned int>(light) * 4 + (isTextured ? 2U : 0U) + (hasColors ? 1U : 0U);
+        return (isCutOut ? 128U : 0U) + (hasSurfaceMap ? 64U : 0U) + (hasNormalMap ? 32U : 0U) + (isPhysical ? 16U : 0U)
+            + static_cast<unsigned int>(light) * 4 + (isTextured ? 2U : 0U) + (hasColors ? 1U : 0U);
     }
 };
 
@@ -34,7 +39,7 @@ struct SurfaceProgram {
     int normalMatrix = -1; ///< mat3
     int eyeToClip = -1; ///< mat4
     int eye = -1; ///< vec4, as in `PictureFrame`
-    int material = -1; ///< vec4[4], as `MaterialValues`
+    int material = -1; ///< vec4[5], as `MaterialValues`
     int pointSize = -1;
 };
 

@@ -142,10 +142,14 @@ void TextureStore::forget()
     m_maxSide = 0;
 }
 
-void TextureStore::bind(const TextureRecord& texture, float quality)
+void TextureStore::bind(const TextureRecord& texture, float quality, unsigned int unit)
 {
+    if (unit != 0)
+        m_gl.ActiveTexture(GL_TEXTURE0 + unit);
     m_gl.BindTexture(GL_TEXTURE_2D, texture.name);
-    m_gl.BindSampler(0, sampler(texture.repeatsS, texture.repeatsT, levelOf(quality)));
+    if (unit != 0)
+        m_gl.ActiveTexture(GL_TEXTURE0);
+    m_gl.BindSampler(unit, sampler(texture.repeatsS, texture.repeatsT, levelOf(quality)));
 }
 
 unsigned int TextureStore::sampler(bool repeatsS, bool repeatsT, std::size_t quality)

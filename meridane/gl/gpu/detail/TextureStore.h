@@ -32,8 +32,8 @@ public:
     /// Releases the image of a texture; the next `update` or `clean` deletes it. Needs no context.
     void release(TextureRecord& texture);
     void clean();
-    /// Binds the texture to the first unit, with a sampler of that quality, from 0 to 1.
-    void bind(const TextureRecord& texture, float quality);
+    /// Binds the texture to a unit, with a sampler of that quality, from 0 to 1.
+    void bind(const TextureRecord& texture, float quality, unsigned int unit);
     /// To be called when the context is lost. All textures must be released before.
     void forget();
 

@@ -2,6 +2,7 @@
 
 #include "meridane/gl/geometry/MatrixMath.h"
 #include "meridane/gl/gpu/detail/GLStateScope.h"
+#include "meridane/gl/painting/detail/ItemVariant.h"
 #include "meridane/gl/painting/detail/NumberColor.h"
 #include "meridane/gl/places/detail/DetailLevel.h"
 
@@ -33,12 +34,6 @@ std::array<float, 9> normalMatrixOf(const Matrix4d& m) noexcept
     return result;
 }
 
-bool isMirror(const Matrix4d& m) noexcept
-{
-    const std::array<VbVec3f, 3> rows = rowsOf(m);
-    return dot(cross(rows[0], rows[1]), rows[2]) < 0;
-}
-
 /// The matrix that takes points relative to `origin` to scene positions relative to the eye.
 Matrix4d relativeTo(const VbVec3d& eye, const VbVec3d& origin, const Matrix4d& worldTransform) noexcept
 {
@@ -64,22 +59,6 @@ GLenum primitiveOf(const MeshRecord& mesh)
     default:
         return GL_TRIANGLES;
     }
-}
-
-bool isBox(const Look& look)
-{
-    return look.complexity != nullptr && look.complexity->values.type == NxComplexity::BOUNDING_BOX;
-}
-
-float textureQuality(const Look& look)
-{
-    return look.complexity == nullptr ? ComplexityValues().textureQuality : look.complexity->values.textureQuality;
-}
-
-const MaterialValues& materialOf(const Look& look)
-{
-    static const MaterialValues usual = materialValues(nullptr);
-    return look.material == nullptr ? usual : look.material->values;
 }
 
 } // namespace
@@ -125,8 +104,10 @@ void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const N
         if (isBox(look))
             continue;
         m_meshes.request(*item.mesh, cellsOf(scene, id));
-        if (look.texture != nullptr)
-            m_textures.update(*look.texture, loader, scene.problems(), counts);
+        for (TextureRecord* texture : look.textures) {
+            if (texture != nullptr)
+                m_textures.update(*texture, loader, scene.problems(), counts);
+        }
     }
     m_meshes.upload(counts);
     m_textures.clean();
@@ -138,7 +119,7 @@ void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const N
 
 void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
 {
-    constexpr unsigned int variantShift = 60;
+    constexpr unsigned int variantShift = 56;
     constexpr unsigned int pageShift = 32;
     m_opaque.clear();
     m_translucent.clear();
@@ -153,10 +134,10 @@ void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
         const MeshRange range = item.mesh->rangeOf(cellsOf(scene, id));
         if (range.page == noId)
             continue;
-        const SurfaceVariant variant = variantOf(item, look);
+        const SurfaceVariant variant = variantOf(item.mesh->shape, look);
         const std::uint64_t order
             = std::uint64_t{variant.number()} << variantShift | std::uint64_t{range.page} << pageShift | item.look;
-        if (isTranslucent(item, look, variant))
+        if (isTranslucent(item.mesh->shape, look, variant))
             m_translucent.push_back({id, order, depthOf(scene, item), variant, range});
         else
             m_opaque.push_back({id, order, 0, variant, range});
@@ -182,31 +163,14 @@ double ItemPainter::depthOf(const PlacedScene& scene, const Item& item) const
     return m_frame.depthOf(transformPoint(item.mesh->shape.bounds.center(), scene.table().worldTransformOf(item)));
 }
 
-SurfaceVariant ItemPainter::variantOf(const Item& item, const Look& look) const
-{
-    const MeshShape& shape = item.mesh->shape;
-    SurfaceVariant variant;
-    if (shape.primitive == NxMesh::TRIANGLES)
-        variant.light = shape.hasNormals ? SurfaceVariant::Smooth : SurfaceVariant::Flat;
-    else
-        variant.light = shape.hasNormals ? SurfaceVariant::Line : SurfaceVariant::Unlit;
-    variant.isTextured
-        = shape.hasCoordinates && look.texture != nullptr && look.texture->name != 0 && textureQuality(look) > 0;
-    variant.hasColors = shape.colors != MeshShape::Colors::None;
-    return variant;
-}
-
-bool ItemPainter::isTranslucent(const Item& item, const Look& look, SurfaceVariant variant)
-{
-    const bool byColor = variant.hasColors ? item.mesh->shape.isTranslucent : materialOf(look).opacity < 1;
-    return byColor || (variant.isTextured && look.texture->isTranslucent);
-}
-
 void ItemPainter::drawOpaque(PlacedScene& scene, NxDrawingCounts& counts)
 {
+    GLStateScope culling(m_gl);
     State state;
-    for (const Drawn& drawn : m_opaque)
+    for (const Drawn& drawn : m_opaque) {
+        cull(scene, drawn, state, culling);
         draw(scene, drawn, state, counts);
+    }
 }
 
 void ItemPainter::drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts)
@@ -225,8 +189,10 @@ void ItemPainter::drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts)
         }
         // On every convex body, surfaces that face away are behind those that face the eye.
         blending.setEnabled(GL_CULL_FACE);
-        blending.setFrontFace(isMirror(scene.table().worldTransformOf(item)) ? GL_CW : GL_CCW);
+        blending.setFrontFace(determinant(scene.table().worldTransformOf(item)) < 0 ? GL_CW : GL_CCW);
         for (const int hidden : {GL_FRONT, GL_BACK}) {
+            if (hidden == GL_FRONT && isSingleSided(scene.looks()[item.look]))
+                continue;
             blending.setCulledFace(static_cast<GLenum>(hidden));
             draw(scene, drawn, state, counts);
         }
@@ -241,8 +207,10 @@ void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxD
     const unsigned int number = drawn.variant.number();
     if (state.variant != number) {
         setVariant(drawn.variant);
+        const GLenum front = state.front;
         state = State();
         state.variant = number;
+        state.front = front;
     }
     const SurfaceProgram& program = m_programs[number];
     if (!program.program.isUsable())
@@ -273,6 +241,23 @@ void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxD
     issue(*item.mesh, drawn.range, counts);
 }
 
+void ItemPainter::cull(const PlacedScene& scene, const Drawn& drawn, State& state, GLStateScope& culling)
+{
+    const Item& item = scene.table().item(drawn.item);
+    const bool isSame = state.variant == drawn.variant.number() && state.look == item.look;
+    if (isSame && state.front == GL_NONE)
+        return;
+    GLenum front = GL_NONE;
+    if (item.mesh->shape.primitive == NxMesh::TRIANGLES && isSingleSided(scene.looks()[item.look]))
+        front = determinant(scene.table().worldTransformOf(item)) < 0 ? GLenum{GL_CW} : GLenum{GL_CCW};
+    if (state.front == front)
+        return;
+    state.front = front;
+    culling.setEnabled(GL_CULL_FACE, front != GL_NONE);
+    if (front != GL_NONE)
+        culling.setFrontFace(front);
+}
+
 void ItemPainter::setVariant(SurfaceVariant variant)
 {
     SurfaceProgram& program = m_programs[variant.number()];
@@ -288,9 +273,13 @@ void ItemPainter::setVariant(SurfaceVariant variant)
 
 void ItemPainter::setLook(const Look& look, SurfaceVariant variant)
 {
-    m_gl.Uniform4fv(m_programs[variant.number()].material, 4, asFloats(materialOf(look)).data());
-    if (variant.isTextured)
-        m_textures.bind(*look.texture, textureQuality(look));
+    m_gl.Uniform4fv(m_programs[variant.number()].material, 5, asFloats(materialOf(look)).data());
+    const std::array<bool, NxTexture::roleCount> isShown{
+        variant.isTextured, variant.hasNormalMap, variant.hasSurfaceMap};
+    for (unsigned int role = 0; role < isShown.size(); ++role) {
+        if (isShown[role])
+            m_textures.bind(*look.textures[role], textureQuality(look), role);
+    }
 }
 
 void ItemPainter::setLights(const PlacedScene& scene, const LightList* lights)

@@ -14,6 +14,8 @@
 
 namespace meridane {
 
+class GLStateScope;
+
 /// Draws the items of a scene that are in view: first opaque ones in batches of the same state, then translucent ones
 /// from back to front.
 class ItemPainter {
@@ -65,14 +67,15 @@ private:
         Id look = noId;
         Id worldTransform = noId;
         VbVec3f origin;
+        GLenum front = GL_NONE; ///< the order of the corners of triangles that are seen; none if all are
     };
 
     void sort(PlacedScene& scene, const std::vector<Id>& found);
     [[nodiscard]] std::uint32_t cellsOf(PlacedScene& scene, Id id) const;
     [[nodiscard]] double depthOf(const PlacedScene& scene, const Item& item) const;
-    [[nodiscard]] SurfaceVariant variantOf(const Item& item, const Look& look) const;
-    [[nodiscard]] static bool isTranslucent(const Item& item, const Look& look, SurfaceVariant variant);
     void draw(PlacedScene& scene, const Drawn& drawn, State& state, NxDrawingCounts& counts);
+    /// Sees to it that triangles are seen from the sides that the item's look says.
+    static void cull(const PlacedScene& scene, const Drawn& drawn, State& state, GLStateScope& culling);
     void setVariant(SurfaceVariant variant);
     void setLook(const Look& look, SurfaceVariant variant);
     void setLights(const PlacedScene& scene, const LightList* lights);

@@ -37,7 +37,18 @@ MaterialValues materialValues(const NxMaterial* material)
     values.specular = usableColor(material->specularColor);
     values.exponent = std::max(fraction(effectiveField(material->shininess).getValue()) * maxExponent, 1.0F);
     values.emissive = usableColor(material->emissiveColor);
+    values.metalness = fraction(effectiveField(material->metalness).getValue());
+    values.roughness = fraction(effectiveField(material->roughness).getValue(), 1);
+    values.alphaCutoff = fraction(effectiveField(material->alphaCutoff).getValue());
+    values.isDoubleSided = effectiveField(material->doubleSided).getValue() != 0 ? 1 : 0;
     return values;
+}
+
+NxTexture::Role roleOf(const NxTexture& texture)
+{
+    const int role = effectiveField(texture.role).getValue();
+    return role == NxTexture::NORMAL || role == NxTexture::METAL_ROUGHNESS ? static_cast<NxTexture::Role>(role)
+                                                                           : NxTexture::COLOR;
 }
 
 ComplexityValues complexityValues(const NxComplexity& complexity)

@@ -12,7 +12,7 @@
 
 namespace meridane {
 
-/// A material as the shaders take it: four vectors of four floats. Colours go from 0 to 1.
+/// A material as the shaders take it: five vectors of four floats. Colours go from 0 to 1.
 struct MaterialValues {
     VbColor diffuse;
     float opacity = 1; ///< from 0 to 1
@@ -22,18 +22,25 @@ struct MaterialValues {
     float exponent = 1; ///< of the highlight, from 1 to 128
     VbColor emissive;
     float unused2 = 0;
+    float metalness = 0; ///< from 0 to 1
+    float roughness = 1; ///< from 0 to 1
+    float alphaCutoff = 0; ///< from 0 to 1; 0 for none
+    float isDoubleSided = 1; ///< 0 or 1; not for the shaders
+
+    /// Whether highlights follow from metalness and roughness.
+    [[nodiscard]] bool isPhysical() const noexcept { return metalness > 0 || roughness < 1; }
 };
-static_assert(sizeof(MaterialValues) == 64);
+static_assert(sizeof(MaterialValues) == 80);
 static_assert(offsetof(MaterialValues, opacity) == 12 && offsetof(MaterialValues, ambient) == 16);
 static_assert(offsetof(MaterialValues, specular) == 32 && offsetof(MaterialValues, exponent) == 44);
-static_assert(offsetof(MaterialValues, emissive) == 48);
+static_assert(offsetof(MaterialValues, emissive) == 48 && offsetof(MaterialValues, metalness) == 64);
 
 /// The values of the effective fields, limited to their ranges. A null pointer gives those of a new material.
 [[nodiscard]] MaterialValues materialValues(const NxMaterial* material);
 /// The values in a row, as OpenGL takes them.
-[[nodiscard]] inline std::array<float, 16> asFloats(const MaterialValues& values) noexcept
+[[nodiscard]] inline std::array<float, 20> asFloats(const MaterialValues& values) noexcept
 {
-    return std::bit_cast<std::array<float, 16>>(values);
+    return std::bit_cast<std::array<float, 20>>(values);
 }
 
 class MaterialRecord : public NodeRecord {
@@ -68,6 +75,9 @@ public:
     ComplexityValues values;
 };
 
+/// The effective role; one that doesn't exist counts as that of a colour.
+[[nodiscard]] NxTexture::Role roleOf(const NxTexture& texture);
+
 /// `TextureStore` uploads the image and keeps these values up to date.
 class TextureRecord : public NodeRecord {
 public:
@@ -79,6 +89,8 @@ public:
 
     /// The OpenGL name of the image; 0 for none.
     unsigned int name = 0;
+    /// The role when the places were filled; another one changes which looks use the texture.
+    NxTexture::Role role = NxTexture::COLOR;
     std::size_t bytes = 0;
     std::uint64_t fingerprint = 0;
     bool isStale = true;

@@ -9,7 +9,7 @@ Id Looks::use(const Look& look)
     const auto [place, isNew] = m_ids.try_emplace(look, noId);
     if (isNew) {
         place->second = m_slots.add({look, 0});
-        for (NodeRecord* record : std::initializer_list<NodeRecord*>{look.material, look.texture, look.complexity}) {
+        for (NodeRecord* record : look.records()) {
             if (record != nullptr)
                 NodeRecords::retain(*record);
         }
@@ -23,7 +23,7 @@ void Looks::release(Id id)
     if (--m_slots[id].uses != 0)
         return;
     const Look look = m_slots[id].look;
-    for (NodeRecord* record : std::initializer_list<NodeRecord*>{look.material, look.texture, look.complexity}) {
+    for (NodeRecord* record : look.records()) {
         if (record != nullptr)
             m_records.release(*record);
     }

@@ -4,6 +4,7 @@
 #include "meridane/gl/places/detail/LookRecords.h"
 #include "meridane/gl/places/detail/SlotTable.h"
 
+#include <array>
 #include <map>
 #include <memory>
 #include <tuple>
@@ -13,15 +14,21 @@ namespace meridane {
 /// The state that applies to a mesh, set by the nodes before it in its group and in the groups above. Null: not set.
 struct Look {
     MaterialRecord* material = nullptr;
-    TextureRecord* texture = nullptr;
+    std::array<TextureRecord*, NxTexture::roleCount> textures{}; ///< by role
     ComplexityRecord* complexity = nullptr;
     std::shared_ptr<const LightList> lights;
 
+    /// The records of the nodes that it uses; some may be null.
+    [[nodiscard]] std::array<NodeRecord*, NxTexture::roleCount + 2> records() const noexcept
+    {
+        return {material, complexity, textures[NxTexture::COLOR], textures[NxTexture::NORMAL],
+            textures[NxTexture::METAL_ROUGHNESS]};
+    }
     friend bool operator==(const Look&, const Look&) noexcept = default;
     friend bool operator<(const Look& a, const Look& b) noexcept
     {
-        return std::tie(a.material, a.texture, a.complexity, a.lights)
-            < std::tie(b.material, b.texture, b.complexity, b.lights);
+        return std::tie(a.material, a.textures, a.complexity, a.lights)
+            < std::tie(b.material, b.textures, b.complexity, b.lights);
     }
 };
 

@@ -9,6 +9,7 @@
 namespace meridane {
 PlacedScene::PlacedScene(Listener listener, std::size_t maxPlaces)
     : m_listener(std::move(listener))
+    , m_hiddenTextures([this] { m_listener.changed(); })
     , m_maxPlaces(maxPlaces)
 {
     setRoot(nullptr);
@@ -32,6 +33,8 @@ void PlacedScene::setRoot(NxNode* root)
     m_visibility = NxNodeVisibility();
     m_isCut = false;
     m_isCutReported = false;
+    m_areRolesChanged = false;
+    m_hiddenTextures.clear();
     m_root = root;
     if (m_table.count() == 0) {
         Place top;
@@ -63,9 +66,10 @@ void PlacedScene::nodeDied(NodeRecord& record)
 
 void PlacedScene::update()
 {
-    if (m_pending.empty())
+    if (m_pending.empty() && !m_hiddenTextures.isChanged())
         return;
     followPending();
+    followRoles();
     fillFreeRoom();
     destroyUnusedRecords();
 }
@@ -103,7 +107,7 @@ void PlacedScene::follow(NodeRecord& record)
         static_cast<ComplexityRecord&>(record).update();
         break;
     case NodeKind::Texture:
-        static_cast<TextureRecord&>(record).isStale = true;
+        followTexture(static_cast<TextureRecord&>(record));
         break;
     case NodeKind::Light:
         ++m_lighting;
@@ -127,6 +131,19 @@ void PlacedScene::followTransform(GroupRecord& group)
         return;
     for (Id id = group.firstPlace; id != noId; id = m_table.place(id).nextOfGroup)
         move(id);
+}
+
+void PlacedScene::followTexture(TextureRecord& texture)
+{
+    texture.isStale = true;
+    m_areRolesChanged = m_areRolesChanged || roleOf(*texture.texture()) != texture.role;
+}
+
+// The role is seldom changed, and which groups have the texture isn't known.
+void PlacedScene::followRoles()
+{
+    if (std::exchange(m_areRolesChanged, false) || m_hiddenTextures.isChanged())
+        refillAll();
 }
 
 void PlacedScene::followMesh(MeshRecord& mesh)

@@ -6,6 +6,7 @@
 #include "meridane/gl/places/detail/NodeRecords.h"
 #include "meridane/gl/places/detail/PlaceTable.h"
 #include "meridane/gl/places/detail/Problems.h"
+#include "meridane/gl/places/detail/TextureWatch.h"
 #include "meridane/scene/fields/NxRef.h"
 
 #include <cstdint>
@@ -98,15 +99,19 @@ private:
     void followChildren(GroupRecord& group);
     void followTransform(GroupRecord& group);
     void followMesh(MeshRecord& mesh);
+    void followTexture(TextureRecord& texture);
+    void followRoles();
 
     /// False when something was left out.
     bool fill(Id top, KeptPlaces* kept = nullptr);
     void refill(Id top);
+    void refillAll();
     bool hasRoom();
     void reportCut();
     void fillFreeRoom();
     void visit(NxNode& node, std::vector<Filling>& stack);
     [[nodiscard]] Id lookOf(Filling& filling);
+    void addTexture(NxTexture& texture, Filling& filling);
     void addLight(NxLight& light, Filling& filling);
     void addGroup(NxGroup& group, std::vector<Filling>& stack);
     void addMesh(NxMesh& mesh, Filling& filling);
@@ -128,6 +133,7 @@ private:
     std::map<std::tuple<const LightList*, const LightRecord*, Id>, std::weak_ptr<const LightList>> m_lightLists;
     std::size_t m_lightListsToSweep
         = LightList::maxLights; // expired entries are removed when there are more entries than this
+    TextureWatch m_hiddenTextures; // replaced by others before a mesh follows
     PlaceTable m_table;
     BoundsTree m_tree;
     NxNodeVisibility m_visibility;
@@ -139,6 +145,7 @@ private:
     std::size_t m_maxPlaces;
     bool m_isCut = false; // something was left out because there was no room
     bool m_isCutReported = false;
+    bool m_areRolesChanged = false; // of textures that looks use
 };
 
 } // namespace meridane

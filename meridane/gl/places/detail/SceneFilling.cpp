@@ -5,6 +5,7 @@
 #include "meridane/gl/places/detail/PlacedScene.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <utility>
 
@@ -16,7 +17,7 @@ struct PlacedScene::Filling {
     std::span<NxNode* const> children;
     std::size_t next = 0;
     NxMaterial* material = nullptr;
-    NxTexture* texture = nullptr;
+    std::array<NxTexture*, NxTexture::roleCount> textures{}; // by role
     NxComplexity* complexity = nullptr;
     std::shared_ptr<const LightList> lights;
     /// Places and items that can be reused instead of created.
@@ -61,7 +62,8 @@ bool PlacedScene::fill(Id top, KeptPlaces* kept)
     first.lights = look.lights;
     const auto nodeOf = [](const NodeRecord* record) { return record == nullptr ? nullptr : record->node(); };
     first.material = static_cast<NxMaterial*>(nodeOf(look.material));
-    first.texture = static_cast<NxTexture*>(nodeOf(look.texture));
+    for (std::size_t role = 0; role < NxTexture::roleCount; ++role)
+        first.textures[role] = static_cast<NxTexture*>(nodeOf(look.textures[role]));
     first.complexity = static_cast<NxComplexity*>(nodeOf(look.complexity));
     m_looks.useAgain(first.look);
     stack.push_back(std::move(first));
@@ -109,7 +111,13 @@ void PlacedScene::fillFreeRoom()
 {
     if (!m_isCut || m_table.count() > m_maxPlaces / 4 * 3)
         return;
+    refillAll();
+}
+
+void PlacedScene::refillAll()
+{
     m_isCut = false;
+    m_hiddenTextures.clear();
     empty(topPlace);
     fill(topPlace);
 }
@@ -133,7 +141,7 @@ void PlacedScene::visit(NxNode& node, std::vector<Filling>& stack)
         changeLook(filling.material, node);
         break;
     case NodeKind::Texture:
-        changeLook(filling.texture, node);
+        addTexture(static_cast<NxTexture&>(node), filling);
         break;
     case NodeKind::Complexity:
         changeLook(filling.complexity, node);
@@ -152,8 +160,12 @@ Id PlacedScene::lookOf(Filling& filling)
         Look look;
         if (filling.material != nullptr)
             look.material = &m_records.of<MaterialRecord>(*filling.material, *this);
-        if (filling.texture != nullptr)
-            look.texture = &m_records.of<TextureRecord>(*filling.texture, *this);
+        for (std::size_t role = 0; role < NxTexture::roleCount; ++role) {
+            if (filling.textures[role] == nullptr)
+                continue;
+            look.textures[role] = &m_records.of<TextureRecord>(*filling.textures[role], *this);
+            look.textures[role]->role = static_cast<NxTexture::Role>(role);
+        }
         if (filling.complexity != nullptr)
             look.complexity = &m_records.of<ComplexityRecord>(*filling.complexity, *this);
         look.lights = filling.lights;
@@ -161,6 +173,17 @@ Id PlacedScene::lookOf(Filling& filling)
     }
     m_looks.useAgain(filling.look);
     return filling.look;
+}
+
+void PlacedScene::addTexture(NxTexture& texture, Filling& filling)
+{
+    NxTexture*& current = filling.textures[roleOf(texture)];
+    // It has no record unless another look uses it, but with another role it would be used again.
+    if (current != nullptr && current != &texture)
+        m_hiddenTextures.watch(*current);
+    current = &texture;
+    if (filling.look != noId)
+        m_looks.release(std::exchange(filling.look, noId));
 }
 
 void PlacedScene::addLight(NxLight& light, Filling& filling)
