@@ -5,12 +5,15 @@
 #include "orvane/app/fields/FieldReferences.h"
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
+#include "orvane/app/fields/editors/CellServices.h"
+#include "orvane/app/fields/editors/ImageReplacement.h"
 #include "orvane/app/fields/values/FieldText.h"
 #include "orvane/app/fields/values/FieldWriter.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/single/NxSFImage.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
 #include <QAction>
@@ -32,10 +35,11 @@ const QMimeData& clipboardData()
 
 } // namespace
 
-FieldActions::FieldActions(OrvServices& services, FieldWriter& writer, FieldTableModel* model, FieldTableView* view)
+FieldActions::FieldActions(OrvServices& services, CellServices& cells, FieldTableModel* model, FieldTableView* view)
     : QObject(view)
     , m_services(services)
-    , m_writer(writer)
+    , m_cells(cells)
+    , m_writer(cells.writer())
     , m_model(model)
     , m_view(view)
     , m_edit(add("field.edit", tr("&Edit"), tr("Opens the editor of the value"), {}, &FieldActions::edit))
@@ -166,7 +170,11 @@ void FieldActions::copyValue()
 
 void FieldActions::pasteValue()
 {
-    const auto result = orvane::pasteValue(m_writer, fields(), clipboardData());
+    const FieldSet set = fields();
+    const bool isImage = !set.isEmpty() && dynamic_cast<const NxSFImage*>(&set.first()) != nullptr;
+    if (isImage && ImageReplacement::isPastable(clipboardData()))
+        return m_cells.images().paste(current(), clipboardData());
+    const auto result = orvane::pasteValue(m_writer, set, clipboardData());
     if (!result)
         Q_EMIT failed(result.error());
 }

@@ -5,6 +5,7 @@
 
 #include <vector>
 
+class CellServices;
 class FieldSet;
 class FieldTableModel;
 class FieldTableView;
@@ -19,7 +20,7 @@ class FieldActions : public QObject {
 
 public:
     /// The view owns it; all others live longer.
-    FieldActions(OrvServices& services, FieldWriter& writer, FieldTableModel* model, FieldTableView* view);
+    FieldActions(OrvServices& services, CellServices& cells, FieldTableModel* model, FieldTableView* view);
 
 Q_SIGNALS:
     /// Something couldn't be done, or not all of it.
@@ -55,6 +56,7 @@ private:
     void copyRows(const QModelIndex& group);
 
     OrvServices& m_services;
+    CellServices& m_cells;
     FieldWriter& m_writer;
     FieldTableModel* m_model;
     FieldTableView* m_view;

@@ -60,11 +60,12 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     m_pages->addWidget(m_hint);
     m_pages->addWidget(page);
     connectView();
-    const auto* const actions = new FieldActions(services, m_writer, m_model, m_view);
+    const auto* const actions = new FieldActions(services, m_values->services(), m_model, m_view);
     connect(actions, &FieldActions::nodesFound, this, &FieldPanel::nodesFound);
     connect(actions, &FieldActions::failed, this, &FieldPanel::showFailure);
     connect(actions, &FieldActions::favoriteToggled, this, &FieldPanel::toggleFavorite);
     connect(actions, &FieldActions::deferralToggled, this, &FieldPanel::setDeferred);
+    connect(&m_values->services(), &CellServices::failed, this, &FieldPanel::showFailure);
     connect(&m_writer, &FieldWriter::failed, this, &FieldPanel::showFailure);
     m_writer.setDeferral([this](const NxField& first) {
         const FieldRow* const row = m_model->row(m_model->indexOf(&first));

@@ -1,6 +1,7 @@
 #include "orvane/app/fields/editors/CellServices.h"
 
 #include "orvane/app/base/AppSettings.h"
+#include "orvane/app/fields/editors/ImageReplacement.h"
 #include "orvane/app/fields/editors/ImageThumbnails.h"
 #include "orvane/app/fields/editors/PathChecks.h"
 
@@ -25,9 +26,16 @@ CellServices::CellServices(FieldWriter& writer, AppSettings* settings, QObject* 
     if (settings != nullptr)
         m_isEulerShown = settings->value(eulerKey(), false).toBool();
     connect(m_paths.get(), &PathChecks::changed, this, &CellServices::changed);
+    setImages(std::make_unique<ImageReplacement>(writer));
 }
 
 CellServices::~CellServices() = default;
+
+void CellServices::setImages(std::unique_ptr<ImageReplacement> images)
+{
+    m_images = std::move(images);
+    connect(m_images.get(), &ImageReplacement::failed, this, &CellServices::failed);
+}
 
 void CellServices::setFolder(std::function<QString()> folder)
 {

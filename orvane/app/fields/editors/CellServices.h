@@ -8,6 +8,7 @@
 
 class AppSettings;
 class FieldWriter;
+class ImageReplacement;
 class ImageThumbnails;
 class PathChecks;
 
@@ -33,10 +34,15 @@ public:
     /// Which files are there.
     [[nodiscard]] PathChecks& paths() const noexcept { return *m_paths; }
     [[nodiscard]] ImageThumbnails& thumbnails() const noexcept { return *m_thumbnails; }
+    [[nodiscard]] ImageReplacement& images() const noexcept { return *m_images; }
+    /// Another one, for tests that run the import helper from elsewhere.
+    void setImages(std::unique_ptr<ImageReplacement> images);
 
 Q_SIGNALS:
     /// Something that cells show has changed, although their fields haven't.
     void changed();
+    /// What the user asked for couldn't be done in the end.
+    void failed(const QString& message);
 
 private:
     FieldWriter& m_writer;
@@ -45,4 +51,5 @@ private:
     bool m_isEulerShown = false;
     std::unique_ptr<PathChecks> m_paths;
     std::unique_ptr<ImageThumbnails> m_thumbnails;
+    std::unique_ptr<ImageReplacement> m_images;
 };

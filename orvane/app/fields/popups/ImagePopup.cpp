@@ -1,10 +1,13 @@
 #include "orvane/app/fields/popups/ImagePopup.h"
 
+#include "orvane/app/base/PlainText.h"
 #include "orvane/app/fields/popups/ImageSample.h"
 #include "orvane/app/look/Look.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -29,7 +32,7 @@ QPixmap shownPixmap(const QImage& image, int side)
 
 } // namespace
 
-ImagePopup::ImagePopup(const NxSFImage& image, QWidget* parent)
+ImagePopup::ImagePopup(const NxSFImage& image, bool canPaste, QWidget* parent)
     : PopupFrame(parent)
 {
     setObjectName(QStringLiteral("imagePopup"));
@@ -54,6 +57,34 @@ ImagePopup::ImagePopup(const NxSFImage& image, QWidget* parent)
     auto* const text = new QLabel(description, this);
     text->setTextFormat(Qt::PlainText);
     layout->addWidget(text);
+    buildButtons(canPaste, !sample.isNull());
+}
+
+void ImagePopup::buildButtons(bool canPaste, bool canClear)
+{
+    auto* const line = new QHBoxLayout;
+    line->setSpacing(orvane::look::unit(fontMetrics()));
+    const auto add = [&](const QString& title, const char* name, Wish wish, const QString& tip, bool isEnabled) {
+        auto* const button = new QPushButton(title, this);
+        button->setObjectName(QLatin1String(name));
+        button->setToolTip(orvane::plainToolTip(tip));
+        button->setEnabled(isEnabled);
+        button->setAutoDefault(true); // Return presses the one with the focus
+        line->addWidget(button);
+        connect(button, &QPushButton::clicked, this, [this, wish] {
+            finish(true);
+            Q_EMIT wished(wish);
+        });
+        return button;
+    };
+    QPushButton* const choose = add(tr("Choose &File…"), "chooseImage", Wish::ChooseFile,
+        tr("Replaces the image by that of a file. A file can also be dropped on the row."), true);
+    add(tr("&Paste"), "pasteImage", Wish::Paste,
+        canPaste ? tr("Replaces the image by the one on the clipboard.") : tr("The clipboard has no image."), canPaste);
+    add(tr("&Clear"), "clearImage", Wish::Clear,
+        canClear ? tr("Empties the image.") : tr("The image is empty already."), canClear);
+    static_cast<QVBoxLayout*>(layout())->addLayout(line);
+    choose->setFocus();
 }
 
 void ImagePopup::mousePressEvent(QMouseEvent* /*event*/)

@@ -3,6 +3,7 @@
 #include "orvane/app/fields/cells/detail/CellPainting.h"
 #include "orvane/app/fields/editors/CellServices.h"
 #include "orvane/app/fields/editors/FieldAt.h"
+#include "orvane/app/fields/editors/ImageReplacement.h"
 #include "orvane/app/fields/editors/ImageThumbnails.h"
 #include "orvane/app/fields/editors/PopupEditor.h"
 #include "orvane/app/fields/popups/ImagePopup.h"
@@ -10,7 +11,53 @@
 
 #include "meridane/scene/fields/single/NxSFImage.h"
 
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QMimeData>
 #include <QPainter>
+#include <QPointer>
+
+namespace {
+
+void chooseFile(const CellEdit& edit, QWidget* window)
+{
+    auto* const dialog = new QFileDialog(window, QCoreApplication::translate("ImageCell", "Choose an Image"));
+    dialog->setObjectName(QStringLiteral("imageDialog"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters(
+        {QCoreApplication::translate("ImageCell", "Images (*.png *.jpg *.jpeg *.bmp *.gif *.tga *.tif *.tiff *.webp)"),
+            QCoreApplication::translate("ImageCell", "All files (*)")});
+    dialog->setDirectory(edit.services->folder());
+    QObject::connect(dialog, &QFileDialog::fileSelected, edit.services, [edit](const QString& fileName) {
+        if (edit.index.isValid())
+            edit.services->images().load(edit.index, fileName);
+    });
+    dialog->open();
+}
+
+void grant(ImagePopup::Wish wish, const CellEdit& edit, QWidget* window)
+{
+    switch (wish) {
+    case ImagePopup::Wish::ChooseFile:
+        return chooseFile(edit, window);
+    case ImagePopup::Wish::Paste:
+        if (const QMimeData* const data = QGuiApplication::clipboard()->mimeData(); data != nullptr)
+            edit.services->images().paste(edit.index, *data);
+        return;
+    case ImagePopup::Wish::Clear:
+        return edit.services->images().clear(edit.index);
+    }
+}
+
+} // namespace
+
+void ImageCell::dropFile(const CellEdit& edit, const QString& fileName) const
+{
+    edit.services->images().load(edit.index, fileName);
+}
 
 void ImageCell::paint(QPainter& painter, const CellPaint& cell, const FieldSet& fields) const
 {
@@ -37,6 +84,14 @@ CellEditor* ImageCell::createEditor(const CellEdit& edit, QWidget* parent) const
     if (field == nullptr)
         return nullptr;
     auto* const editor = new PopupEditor(edit, parent);
-    editor->setPopup(new ImagePopup(*field, editor), [](const NxField& /*shown*/) {});
+    const QMimeData* const clipboard = QGuiApplication::clipboard()->mimeData();
+    auto* const popup
+        = new ImagePopup(*field, clipboard != nullptr && ImageReplacement::isPastable(*clipboard), editor);
+    editor->setPopup(popup, [](const NxField& /*shown*/) {});
+    QObject::connect(popup, &ImagePopup::wished, edit.services,
+        [edit, window = QPointer<QWidget>(parent->window())](ImagePopup::Wish wish) {
+            if (edit.index.isValid() && window != nullptr)
+                grant(wish, edit, window);
+        });
     return editor;
 }

@@ -6,5 +6,7 @@
 class ImageCell final : public ValueCell {
 public:
     void paint(QPainter& painter, const CellPaint& cell, const FieldSet& fields) const override;
+    [[nodiscard]] bool takesFiles() const override { return true; }
+    void dropFile(const CellEdit& edit, const QString& fileName) const override;
     [[nodiscard]] CellEditor* createEditor(const CellEdit& edit, QWidget* parent) const override;
 };
