@@ -3,7 +3,7 @@
 #include "meridane/base/types/NxTypedObject.h"
 #include "meridane/base/values/Unicode.h"
 #include "meridane/base/values/VbName.h"
-#include "meridane/query/detail/CaseFolding.h"
+#include "meridane/query/detail/TextFolding.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/nodes/NxNode.h"
 #include "meridane/scene/nodes/NxUnknownNode.h"
@@ -15,7 +15,7 @@ namespace {
 
 std::string foldedNameOf(NxType type)
 {
-    return foldCase(latin1ToUtf8(type.getName().getString()));
+    return foldText(latin1ToUtf8(type.getName().getString()));
 }
 
 /// Without the letters that say whether a class of fields has one value or many.
@@ -27,7 +27,7 @@ std::string_view withoutKind(std::string_view name)
 } // namespace
 
 ClassPattern::ClassPattern(std::string_view name)
-    : m_name(foldCase(name))
+    : m_name(foldText(name))
 {
     const std::vector<NxType> all = NxType::getAllDerivedFrom(NxTypedObject::getClassTypeId());
     m_isWhole = std::ranges::any_of(all, [this](NxType type) {
@@ -40,7 +40,7 @@ bool ClassPattern::matches(const NxNode& node) const
 {
     // A node whose class isn't known has the name that its file gave.
     return matches(node.getTypeId())
-        || (node.isOfType(NxUnknownNode::getClassTypeId()) && matchesName(foldCase(node.getClassName())));
+        || (node.isOfType(NxUnknownNode::getClassTypeId()) && matchesName(foldText(node.getClassName())));
 }
 
 bool ClassPattern::matches(const NxField& field) const

@@ -1,7 +1,7 @@
 #include "meridane/query/detail/QueryScanner.h"
 
 #include "meridane/query/Expression.h"
-#include "meridane/query/detail/CaseFolding.h"
+#include "meridane/query/detail/TextFolding.h"
 
 #include <algorithm>
 #include <array>
@@ -158,7 +158,7 @@ QueryScanner::Tree QueryScanner::readTerm()
 QueryScanner::Tree QueryScanner::readWord()
 {
     const std::string_view word = wordHere();
-    const std::string folded = foldCase(word);
+    const std::string folded = foldText(word);
     if (m_isScene && (folded.starts_with("t:") || folded.starts_with("f:"))) {
         m_position += 2;
         if (folded[0] == 'f') {
@@ -313,7 +313,7 @@ std::string_view QueryScanner::wordHere() const
 
 bool QueryScanner::isWordHere(std::string_view word) const
 {
-    return foldCase(wordHere()) == word;
+    return foldText(wordHere()) == word;
 }
 
 std::size_t QueryScanner::regularExpressionHere() const

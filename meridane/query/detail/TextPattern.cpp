@@ -1,7 +1,7 @@
 #include "meridane/query/detail/TextPattern.h"
 
 #include "meridane/base/values/MessageText.h"
-#include "meridane/query/detail/CaseFolding.h"
+#include "meridane/query/detail/TextFolding.h"
 
 #include <re2/re2.h>
 
@@ -91,7 +91,7 @@ TextPattern TextPattern::word(std::string_view word)
 TextPattern TextPattern::phrase(std::string_view text)
 {
     TextPattern pattern;
-    pattern.m_text = foldCase(text);
+    pattern.m_text = foldText(text);
     return pattern;
 }
 
@@ -114,7 +114,7 @@ TextPattern TextPattern::regularExpression(std::string_view expression)
 
 std::string_view TextPattern::folded(std::string_view text) const
 {
-    foldCase(text, m_folded);
+    foldText(text, m_folded);
     return m_folded;
 }
 

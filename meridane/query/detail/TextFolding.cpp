@@ -1,4 +1,4 @@
-#include "meridane/query/detail/CaseFolding.h"
+#include "meridane/query/detail/TextFolding.h"
 
 #include <algorithm>
 
@@ -28,7 +28,7 @@ unsigned int foldCodePoint(unsigned int point) noexcept
 
 } // namespace
 
-void foldCase(std::string_view text, std::string& folded)
+void foldText(std::string_view text, std::string& folded)
 {
     folded.resize(text.size());
     std::ranges::transform(text, folded.begin(), foldAscii);
@@ -44,10 +44,10 @@ void foldCase(std::string_view text, std::string& folded)
     }
 }
 
-std::string foldCase(std::string_view text)
+std::string foldText(std::string_view text)
 {
     std::string folded;
-    foldCase(text, folded);
+    foldText(text, folded);
     return folded;
 }
 
