@@ -38,9 +38,14 @@ ClassPattern::ClassPattern(std::string_view name)
 
 bool ClassPattern::matches(const NxNode& node) const
 {
+    return matches(node, node.getTypeId());
+}
+
+bool ClassPattern::matches(const NxNode& node, NxType type) const
+{
     // A node whose class isn't known has the name that its file gave.
-    return matches(node.getTypeId())
-        || (node.isOfType(NxUnknownNode::getClassTypeId()) && matchesName(foldText(node.getClassName())));
+    return matches(type)
+        || (type.isDerivedFrom(NxUnknownNode::getClassTypeId()) && matchesName(foldText(node.getClassName())));
 }
 
 bool ClassPattern::matches(const NxField& field) const
@@ -50,7 +55,7 @@ bool ClassPattern::matches(const NxField& field) const
 
 void ClassPattern::addFound(std::string_view name, FoundParts& parts) const
 {
-    const std::string folded = foldCase(name);
+    const std::string folded = foldText(name);
     const std::size_t start = folded.size() - withoutKind(folded).size();
     if (matchesName(folded))
         parts.push_back({0, m_name.size()});
@@ -60,11 +65,7 @@ void ClassPattern::addFound(std::string_view name, FoundParts& parts) const
 
 bool ClassPattern::matches(NxType type) const
 {
-    const auto known = std::ranges::find(m_known, type, &std::pair<NxType, bool>::first);
-    if (known != m_known.end())
-        return known->second;
-    m_known.emplace_back(type, matchesOneOf(type));
-    return m_known.back().second;
+    return m_known.of(type, [this, type] { return matchesOneOf(type); });
 }
 
 bool ClassPattern::matchesOneOf(NxType type) const

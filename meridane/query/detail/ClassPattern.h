@@ -2,11 +2,10 @@
 
 #include "meridane/base/types/NxType.h"
 #include "meridane/query/FoundParts.h"
+#include "meridane/query/detail/TypeAnswers.h"
 
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 class NxField;
 class NxNode;
@@ -20,6 +19,8 @@ public:
     explicit ClassPattern(std::string_view name);
 
     [[nodiscard]] bool matches(const NxNode& node) const;
+    /// A node of that class, which is known already.
+    [[nodiscard]] bool matches(const NxNode& node, NxType type) const;
     /// A field, by its own class.
     [[nodiscard]] bool matches(const NxField& field) const;
     /// Adds the part of a class's name that is the pattern.
@@ -32,7 +33,7 @@ private:
 
     std::string m_name;
     bool m_isWhole = false;
-    mutable std::vector<std::pair<NxType, bool>> m_known; ///< the results so far
+    mutable TypeAnswers m_known;
 };
 
 } // namespace meridane

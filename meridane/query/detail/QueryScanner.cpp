@@ -1,39 +1,19 @@
 #include "meridane/query/detail/QueryScanner.h"
 
 #include "meridane/query/Expression.h"
+#include "meridane/query/detail/Functions.h"
 #include "meridane/query/detail/TextFolding.h"
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <cmath>
 #include <utility>
 
 namespace meridane {
 namespace {
 
-constexpr std::string_view noBreakSpace = "\u00A0";
 constexpr int mostExpressions = 16;
-
-constexpr std::array<std::pair<std::string_view, ValueTest::Comparison>, 6> comparisons{{
-    {"!=", ValueTest::Comparison::NotEqual},
-    {"<=", ValueTest::Comparison::LessOrEqual},
-    {">=", ValueTest::Comparison::GreaterOrEqual},
-    {"=", ValueTest::Comparison::Equal},
-    {"<", ValueTest::Comparison::Less},
-    {">", ValueTest::Comparison::Greater},
-}};
-
-const auto* comparisonAt(std::string_view text)
-{
-    const auto found
-        = std::ranges::find_if(comparisons, [text](const auto& entry) { return text.starts_with(entry.first); });
-    return found != comparisons.end() ? &*found : nullptr;
-}
-
-bool isBlank(char character) noexcept
-{
-    return character == ' ' || character == '\t' || character == '\n' || character == '\r';
-}
 
 /// Whether a text is meant as a number, so that it must be one.
 bool looksLikeNumber(std::string_view text)
@@ -42,11 +22,31 @@ bool looksLikeNumber(std::string_view text)
     return !text.empty() && signs.find(text.front()) != std::string_view::npos;
 }
 
+/// Whether an expression with an error at that place may become right by typing on.
+bool mayGoOn(std::string_view value, std::size_t errorPosition)
+{
+    static constexpr std::string_view openEnds = "+-*/^(;.,eExX=<>!";
+    if (errorPosition >= value.size() || openEnds.find(value.back()) != std::string_view::npos)
+        return true;
+    if (std::ranges::count(value, '(') > std::ranges::count(value, ')'))
+        return true;
+    // The beginning of a name, such as that of a function.
+    const auto isLetter = [](char character) { return std::isalpha(static_cast<unsigned char>(character)) != 0; };
+    std::size_t start = value.size();
+    while (start > 0 && isLetter(value[start - 1]))
+        --start;
+    const std::string name = foldText(value.substr(start));
+    const auto begins = [&name](std::string_view known) { return known.starts_with(name); };
+    static constexpr std::array<std::string_view, 5> others{"deg", "e", "inf", "nan", "pi"};
+    return !name.empty()
+        && (std::ranges::any_of(expressionFunctions(), begins, &ExpressionFunction::name)
+            || std::ranges::any_of(others, begins));
+}
+
 } // namespace
 
-QueryScanner::QueryScanner(std::string_view text, QuerySubject subject)
-    : m_text(text)
-    , m_isScene(subject == QuerySubject::Scene)
+QueryScanner::QueryScanner(std::string_view text, QuerySubject subject, Mode mode)
+    : QueryCursor(text, subject, mode)
 {
 }
 
@@ -60,7 +60,7 @@ std::optional<QueryTree> QueryScanner::run()
     if (m_position == m_text.size())
         return std::nullopt;
     Tree tree = readAny();
-    if (tree && m_position < m_text.size())
+    if (!m_error && !isAtEnd())
         return fail(
             m_position, "An opening bracket is missing for this closing one. Put brackets to search for in quotes.");
     return tree;
@@ -71,13 +71,16 @@ QueryScanner::Tree QueryScanner::readAny()
     QueryTree::Any any;
     while (true) {
         Tree tree = readAll();
-        if (!tree)
+        if (m_error)
             return std::nullopt;
-        any.conditions.push_back(*std::move(tree));
+        if (tree)
+            any.conditions.push_back(*std::move(tree));
         if (!isWordHere("or"))
             break;
         m_position += 2;
     }
+    if (any.conditions.empty())
+        return std::nullopt;
     if (any.conditions.size() == 1)
         return std::move(any.conditions.front());
     return QueryTree(std::move(any));
@@ -88,15 +91,18 @@ QueryScanner::Tree QueryScanner::readAll()
     QueryTree::All all;
     while (true) {
         Tree tree = readOne();
-        if (!tree)
+        if (m_error)
             return std::nullopt;
-        all.conditions.push_back(*std::move(tree));
+        if (tree)
+            all.conditions.push_back(*std::move(tree));
         skipBlanks();
         if (isWordHere("and"))
             m_position += 3;
-        else if (m_position == m_text.size() || next() == ')' || isWordHere("or"))
+        else if (isAtEnd() || next() == ')' || isWordHere("or"))
             break;
     }
+    if (all.conditions.empty())
+        return std::nullopt;
     if (all.conditions.size() == 1)
         return std::move(all.conditions.front());
     return QueryTree(std::move(all));
@@ -127,30 +133,42 @@ QueryScanner::Tree QueryScanner::readBracket()
     ++m_brackets;
     ++m_position;
     Tree tree = readAny();
-    if (!tree)
+    if (m_error)
         return std::nullopt;
-    if (next() != ')')
-        return fail(start, "A closing bracket is missing for this opening one. Put brackets to search for in quotes.");
-    ++m_position;
+    if (next() == ')')
+        ++m_position;
+    else
+        lack(start, "A closing bracket is missing for this opening one. Put brackets to search for in quotes.");
     --m_brackets;
-    return tree;
+    return m_error ? std::nullopt : std::move(tree);
 }
 
 QueryScanner::Tree QueryScanner::readTerm()
 {
-    if (m_position == m_text.size())
-        return fail(m_position, "A word is missing at the end.");
-    if (next() == ')' || isWordHere("and") || isWordHere("or"))
-        return fail(m_position,
-            "A word is missing before \"" + std::string(next() == ')' ? ")" : wordHere())
-                + "\". Put it in quotes to search for it.");
-    if (m_isScene && comparisonAt(rest()) != nullptr)
+    if (isAtEnd())
+        return lack(m_position, "A word is missing at the end.");
+    if (next() == ')' || isWordHere("and") || isWordHere("or")) {
+        const std::string_view word = next() == ')' ? rest().substr(0, 1) : wordHere();
+        std::string message
+            = "A word is missing before \"" + std::string(word) + "\". Put it in quotes to search for it.";
+        const std::size_t start = m_position;
+        // The word may go on, as in "orange".
+        if (next() == ')' || word.size() < rest().size())
+            return next() == ')' && m_brackets > 0 ? lack(start, std::move(message)) : fail(start, std::move(message));
+        m_position += word.size();
+        return lack(start, std::move(message));
+    }
+    if (m_isScene && signHere() != nullptr)
         return readValue();
     if (m_isScene && next() == '~')
         return readValueText();
-    if (next() == '"' || regularExpressionHere() > 0) {
+    if (m_isScene && m_isDraft && rest() == "!") {
+        ++m_position;
+        return lack(m_position, "A value is missing after !=.");
+    }
+    if (next() == '"' || regularExpressionHere() > 0 || isOpenExpressionHere()) {
         std::optional<TextPattern> pattern = readPattern("A word");
-        return pattern ? Tree(QueryTree(QueryTree::Name{*std::move(pattern)})) : std::nullopt;
+        return pattern ? Tree(QueryTree(QueryTree::Name{*std::move(pattern), {}})) : std::nullopt;
     }
     return readWord();
 }
@@ -158,30 +176,34 @@ QueryScanner::Tree QueryScanner::readTerm()
 QueryScanner::Tree QueryScanner::readWord()
 {
     const std::string_view word = wordHere();
-    const std::string folded = foldText(word);
-    if (m_isScene && (folded.starts_with("t:") || folded.starts_with("f:"))) {
+    const bool isAboutClass = isKeyword(word.substr(0, 2), "t:");
+    if (m_isScene && (isAboutClass || isKeyword(word.substr(0, 2), "f:"))) {
         m_position += 2;
-        if (folded[0] == 'f') {
+        if (!isAboutClass) {
             std::optional<TextPattern> pattern = readPattern("The name of a field is missing after f:");
             return pattern ? Tree(QueryTree(QueryTree::FieldName{*std::move(pattern)})) : std::nullopt;
         }
         std::string_view name = wordHere();
         if (name.empty())
-            return fail(m_position, "The name of a class is missing after t:, such as t:Mesh.");
+            return lack(m_position, "The name of a class is missing after t:, such as t:Mesh.");
         m_position += name.size();
         return QueryTree(QueryTree::Class{ClassPattern(name)});
     }
     m_position += word.size();
-    if (m_isScene && folded == "changed")
+    if (m_isScene && isKeyword(word, "changed"))
         return QueryTree(QueryTree::Changed());
-    if (m_isScene && folded == "ignored")
+    if (m_isScene && isKeyword(word, "ignored"))
         return QueryTree(QueryTree::Ignored());
-    return QueryTree(QueryTree::Name{TextPattern::word(word)});
+    if (m_isScene && isKeyword(word, "missing"))
+        return QueryTree(QueryTree::Missing());
+    if (m_isScene && isKeyword(word, "unused"))
+        return QueryTree(QueryTree::Unused());
+    return QueryTree(QueryTree::Name{TextPattern::word(word), {}});
 }
 
 QueryScanner::Tree QueryScanner::readValue()
 {
-    const auto& [sign, comparison] = *comparisonAt(rest());
+    const auto& [sign, comparison] = *signHere();
     m_position += sign.size();
     skipBlanks();
     const std::size_t start = m_position;
@@ -196,9 +218,19 @@ QueryScanner::Tree QueryScanner::readValue()
     }
     const std::string_view value = valueHere();
     if (value.empty())
-        return fail(start, "A value is missing after " + std::string(sign) + ".");
+        return lack(start, "A value is missing after " + std::string(sign) + ".");
     m_position += value.size();
-    const auto refuse = [&](const QueryError& error) { return fail(start + error.position, error.message); };
+    return readNumber(comparison, start, value);
+}
+
+QueryScanner::Tree QueryScanner::readNumber(ValueTest::Comparison comparison, std::size_t start, std::string_view value)
+{
+    const bool isEquality = comparison == ValueTest::Comparison::Equal || comparison == ValueTest::Comparison::NotEqual;
+    const auto refuse = [&](const QueryError& error) -> Tree {
+        if (isAtEnd() && mayGoOn(value, error.position))
+            return lack(start + error.position, error.message);
+        return fail(start + error.position, error.message);
+    };
     const auto parsed = Expression::parse(value, {.variables = {}, .isAngle = true, .mayBeInfinite = true});
     if (const auto* const error = std::get_if<QueryError>(&parsed)) {
         if (!isEquality || looksLikeNumber(value))
@@ -229,9 +261,11 @@ std::optional<TextPattern> QueryScanner::readPattern(const char* what)
     }
     if (regularExpressionHere() > 0)
         return readRegularExpression();
+    if (isOpenExpressionHere())
+        return readOpenExpression();
     const std::string_view word = wordHere();
     if (word.empty())
-        return fail(m_position, std::string(what) + ".");
+        return lack(m_position, std::string(what) + ".");
     m_position += word.size();
     return TextPattern::word(word);
 }
@@ -241,10 +275,28 @@ std::optional<TextPattern> QueryScanner::readRegularExpression()
     const std::size_t start = m_position;
     const std::size_t length = regularExpressionHere();
     m_position += length;
+    return compile(start, m_text.substr(start + 1, length - 2));
+}
+
+std::optional<TextPattern> QueryScanner::readOpenExpression()
+{
+    const std::size_t start = m_position;
+    m_position = m_text.size();
+    std::optional<TextPattern> pattern
+        = start + 1 < m_text.size() ? compile(start, m_text.substr(start + 1)) : std::nullopt;
+    if (pattern)
+        lack(start, "The closing / of the regular expression is missing.");
+    else
+        lack(start, m_error ? std::exchange(m_error, std::nullopt)->message : "A regular expression is missing.");
+    return pattern;
+}
+
+std::optional<TextPattern> QueryScanner::compile(std::size_t start, std::string_view text)
+{
     if (++m_expressions > mostExpressions)
         return fail(start,
             "The query has more than " + std::to_string(mostExpressions) + " regular expressions, which is the limit.");
-    std::string expression(m_text.substr(start + 1, length - 2));
+    std::string expression(text);
     for (std::size_t slash = expression.find("\\/"); slash != std::string::npos; slash = expression.find("\\/", slash))
         expression.erase(slash, 1);
     TextPattern pattern = TextPattern::regularExpression(expression);
@@ -262,73 +314,21 @@ std::optional<std::string> QueryScanner::readQuoted()
             ++m_position;
         text += next();
     }
-    if (m_position == m_text.size())
-        return fail(start, "The closing quote is missing.");
-    ++m_position;
-    return text;
-}
-
-std::string_view QueryScanner::valueHere() const
-{
-    std::size_t open = 0;
-    std::size_t length = 0;
-    for (const std::string_view text = rest(); length < text.size(); ++length) {
-        const char character = text[length];
-        if (open == 0
-            && (isBlank(character) || character == ')' || character == '~'
-                || comparisonAt(text.substr(length)) != nullptr))
-            break;
-        open += character == '(' ? 1 : 0;
-        open -= character == ')' ? 1 : 0;
+    if (!isAtEnd()) {
+        ++m_position;
+        return text;
     }
-    return rest().substr(0, length);
+    lack(start, "The closing quote is missing.");
+    return m_error || text.empty() ? std::nullopt : std::optional(std::move(text));
 }
 
-void QueryScanner::skipBlanks()
+std::nullopt_t QueryScanner::lack(std::size_t position, std::string message)
 {
-    while (true) {
-        if (isBlank(next()))
-            ++m_position;
-        else if (rest().starts_with(noBreakSpace))
-            m_position += noBreakSpace.size();
-        else
-            break;
-    }
-}
-
-std::string_view QueryScanner::wordHere() const
-{
-    const std::string_view text = rest();
-    std::size_t length = 0;
-    for (; length < text.size(); ++length) {
-        const char character = text[length];
-        if (isBlank(character) || character == '(' || character == ')' || character == '"'
-            || text.substr(length).starts_with(noBreakSpace))
-            break;
-        if (m_isScene && (character == '~' || comparisonAt(text.substr(length)) != nullptr))
-            break;
-    }
-    return text.substr(0, length);
-}
-
-bool QueryScanner::isWordHere(std::string_view word) const
-{
-    return foldText(wordHere()) == word;
-}
-
-std::size_t QueryScanner::regularExpressionHere() const
-{
-    const std::string_view text = rest();
-    if (!text.starts_with('/'))
-        return 0;
-    std::size_t end = 1;
-    while (end < text.size() && text[end] != '/')
-        end += text[end] == '\\' ? 2U : 1U;
-    if (end >= text.size() || end == 1)
-        return 0;
-    // Otherwise it is a path.
-    const bool isComplete = end + 1 == text.size() || isBlank(text[end + 1]) || text[end + 1] == ')';
-    return isComplete ? end + 1 : 0;
+    if (!m_isDraft)
+        return fail(position, std::move(message));
+    if (!m_missing)
+        m_missing = QueryError{std::move(message), position};
+    return std::nullopt;
 }
 
 std::nullopt_t QueryScanner::fail(std::size_t position, std::string message)

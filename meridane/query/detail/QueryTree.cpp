@@ -2,9 +2,11 @@
 
 #include "meridane/base/values/Unicode.h"
 #include "meridane/base/values/VbName.h"
+#include "meridane/query/QueryFacts.h"
 #include "meridane/query/detail/FieldTexts.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/nodes/NxNode.h"
+#include "meridane/scene/nodes/NxUnknownNode.h"
 
 #include <algorithm>
 #include <string>
@@ -26,11 +28,13 @@ std::vector<NxField*> fieldsOf(const NxNode& node)
     return const_cast<NxNode&>(node).getFields(); // NOLINT(cppcoreguidelines-pro-type-const-cast)
 }
 
+/// The first field of a node that passes the test, or null.
 template <typename Test>
-bool anyField(const NxNode& node, Test test)
+NxField* findField(const NxNode& node, Test test)
 {
     const std::vector<NxField*> fields = fieldsOf(node);
-    return std::ranges::any_of(fields, [&](const NxField* field) { return test(*field); });
+    const auto found = std::ranges::find_if(fields, test);
+    return found != fields.end() ? *found : nullptr;
 }
 
 std::string nameOf(const NxField& field)
@@ -39,31 +43,41 @@ std::string nameOf(const NxField& field)
     return container != nullptr ? latin1ToUtf8(container->getFieldName(&field).getString()) : std::string();
 }
 
+const NxNode* nodeOf(const NxField& field)
+{
+    return dynamic_cast<const NxNode*>(field.getContainer());
+}
+
 } // namespace
 
 QueryTree::QueryTree(Condition condition)
     : m_condition(std::move(condition))
 {
-    const auto isAbout = [](const QueryTree& tree) { return tree.m_isAboutFields; };
-    const auto isOnly = [](const QueryTree& tree) { return tree.m_isOnlyAboutFields; };
-    const auto combined = [&](const std::vector<QueryTree>& conditions) {
-        return std::pair(std::ranges::any_of(conditions, isAbout), std::ranges::all_of(conditions, isOnly));
+    const auto combine = [this](const std::vector<QueryTree>& conditions) {
+        m_isAboutFields = std::ranges::any_of(conditions, &QueryTree::m_isAboutFields);
+        m_isOnlyAboutFields = std::ranges::all_of(conditions, &QueryTree::m_isOnlyAboutFields);
+        m_needsFacts = std::ranges::any_of(conditions, &QueryTree::m_needsFacts);
     };
-    std::tie(m_isAboutFields, m_isOnlyAboutFields)
-        = std::visit(Overloaded{
-                         [](const Name&) { return std::pair(false, false); },
-                         [](const Class&) { return std::pair(false, false); },
-                         [&](const All& all) { return combined(all.conditions); },
-                         [&](const Any& any) { return combined(any.conditions); },
-                         [&](const Not& negation) { return combined(negation.condition); },
-                         [](const auto&) { return std::pair(true, true); },
-                     },
-            m_condition);
+    std::visit(Overloaded{
+                   [](const Name&) {},
+                   [](const Class&) {},
+                   [this](const Unused&) { m_needsFacts = true; },
+                   [&](const All& all) { combine(all.conditions); },
+                   [&](const Any& any) { combine(any.conditions); },
+                   [&](const Not& negation) { combine(negation.condition); },
+                   [this](const auto& about) {
+                       m_isAboutFields = true;
+                       m_isOnlyAboutFields = true;
+                       m_needsFacts = std::is_same_v<decltype(about), const Missing&>;
+                   },
+               },
+        m_condition);
 }
 
-bool QueryTree::matches(const NxField& field) const
+bool QueryTree::matches(const Field& subject) const
 {
-    const auto isMatch = [&field](const QueryTree& tree) { return tree.matches(field); };
+    const NxField& field = subject.field;
+    const auto isMatch = [&subject](const QueryTree& tree) { return tree.matches(subject); };
     return std::visit(Overloaded{
                           [&](const Name& name) {
                               return name.pattern.matchesName(nameOf(field))
@@ -71,48 +85,100 @@ bool QueryTree::matches(const NxField& field) const
                                   || name.pattern.matchesText(beginningOfValue(field));
                           },
                           [&](const Class& type) {
-                              const auto* const node = dynamic_cast<const NxNode*>(field.getContainer());
+                              const NxNode* const node = nodeOf(field);
                               return type.pattern.matches(field) || (node != nullptr && type.pattern.matches(*node));
+                          },
+                          [&](const Unused&) {
+                              const NxNode* const node = nodeOf(field);
+                              return subject.facts != nullptr && node != nullptr && subject.facts->isUnused(*node);
                           },
                           [&](const FieldName& name) { return name.pattern.matchesName(nameOf(field)); },
                           [&](const ValueText& text) { return text.pattern.matchesText(beginningOfValue(field)); },
                           [&](const ValueTest& test) { return test.matches(field); },
                           [&](const Changed&) { return field.getContainer() != nullptr && !field.isDefault(); },
                           [&](const Ignored&) { return field.isIgnored(); },
+                          [&](const Missing&) { return subject.facts != nullptr && subject.facts->isMissing(field); },
                           [&](const All& all) { return std::ranges::all_of(all.conditions, isMatch); },
                           [&](const Any& any) { return std::ranges::any_of(any.conditions, isMatch); },
-                          [&](const Not& negation) { return !negation.condition.front().matches(field); },
+                          [&](const Not& negation) { return !negation.condition.front().matches(subject); },
                       },
         m_condition);
 }
 
-bool QueryTree::matches(const NxNode& node) const
+bool QueryTree::matches(const Node& subject) const
 {
-    const auto isMatch = [&node](const QueryTree& tree) { return tree.matches(node); };
+    const auto isMatch = [&subject](const QueryTree& tree) { return tree.matches(subject); };
     return std::visit(
         Overloaded{
-            [&](const Name& name) {
-                return name.pattern.matchesName(node.getName().view()) || name.pattern.matchesText(node.getClassName());
-            },
-            [&](const Class& type) { return type.pattern.matches(node); },
-            [&](const All& all) {
-                const auto isPositive = [](const QueryTree& tree) {
-                    return tree.isOnlyAboutFields() && !std::holds_alternative<Not>(tree.m_condition);
-                };
-                // Then all conditions about fields are about one of them; otherwise no field has what is excluded.
-                const bool isOneField = std::ranges::any_of(all.conditions, isPositive);
-                const bool areOthers = std::ranges::all_of(all.conditions, [&](const QueryTree& tree) {
-                    return (isOneField && tree.isOnlyAboutFields()) || tree.matches(node);
-                });
-                return areOthers && (!isOneField || anyField(node, [&](const NxField& field) {
-                    return std::ranges::all_of(all.conditions,
-                        [&](const QueryTree& tree) { return !tree.isOnlyAboutFields() || tree.matches(field); });
-                }));
-            },
+            [&](const Name& name) { return matchesName(name, subject); },
+            [&](const Class& type) { return type.pattern.matches(subject.node, subject.type); },
+            [&](const Unused&) { return subject.facts != nullptr && subject.facts->isUnused(subject.node); },
+            [&](const All& all) { return matchesAll(all, subject); },
             [&](const Any& any) { return std::ranges::any_of(any.conditions, isMatch); },
-            [&](const Not& negation) { return !negation.condition.front().matches(node); },
-            [&](const auto&) { return anyField(node, [this](const NxField& field) { return matches(field); }); },
+            [&](const Not& negation) { return !negation.condition.front().matches(subject); },
+            [&](const auto&) {
+                return findField(subject.node, [&](const NxField* field) {
+                    return matches(Field{*field, subject.facts});
+                }) != nullptr;
+            },
         },
+        m_condition);
+}
+
+bool QueryTree::matchesName(const Name& name, const Node& subject)
+{
+    if (name.pattern.matchesFoldedName(subject.foldedName, [&] { return subject.node.getName().view(); }))
+        return true;
+    const auto isInClass = [&] { return name.pattern.matchesText(subject.node.getClassName()); };
+    return subject.type == NxUnknownNode::getClassTypeId() ? isInClass() : name.classes.of(subject.type, isInClass);
+}
+
+bool QueryTree::matchesAll(const All& all, const Node& subject) const
+{
+    const auto isPositive = [](const QueryTree& tree) {
+        return tree.isOnlyAboutFields() && !std::holds_alternative<Not>(tree.m_condition);
+    };
+    // Then all conditions about fields are about one of them; otherwise no field has what is excluded.
+    const bool isOneField = m_isAboutFields && std::ranges::any_of(all.conditions, isPositive);
+    const bool areOthers = std::ranges::all_of(all.conditions,
+        [&](const QueryTree& tree) { return (isOneField && tree.isOnlyAboutFields()) || tree.matches(subject); });
+    return areOthers && (!isOneField || oneField(all, subject) != nullptr);
+}
+
+NxField* QueryTree::oneField(const All& all, const Node& subject)
+{
+    return findField(subject.node, [&](const NxField* field) {
+        return std::ranges::all_of(all.conditions, [&](const QueryTree& tree) {
+            return !tree.isOnlyAboutFields() || tree.matches(Field{*field, subject.facts});
+        });
+    });
+}
+
+NxField* QueryTree::firstField(const Node& subject) const
+{
+    const auto first = [&](const std::vector<QueryTree>& conditions) -> NxField* {
+        for (const QueryTree& tree : conditions) {
+            NxField* const field = tree.matches(subject) ? tree.firstField(subject) : nullptr;
+            if (field != nullptr)
+                return field;
+        }
+        return nullptr;
+    };
+    if (!m_isAboutFields)
+        return nullptr;
+    return std::visit(Overloaded{
+                          [&](const All& all) {
+                              const bool hasOwn = std::ranges::any_of(all.conditions, &QueryTree::m_isOnlyAboutFields);
+                              return hasOwn ? oneField(all, subject) : first(all.conditions);
+                          },
+                          [&](const Any& any) { return first(any.conditions); },
+                          [](const Not&) -> NxField* { return nullptr; },
+                          [&](const auto&) {
+                              return findField(subject.node, [&](const NxField* field) {
+                                  return matches(Field{*field, subject.facts});
+                              });
+                          },
+                      },
         m_condition);
 }
 

@@ -1,6 +1,14 @@
 #include "meridane/query/detail/TextFolding.h"
 
+#include "meridane/base/values/Unicode.h"
+#include "meridane/query/detail/Spelling.h"
+
 #include <algorithm>
+
+#include <unicode/bytestream.h>
+#include <unicode/normalizer2.h>
+#include <unicode/stringpiece.h>
+#include <unicode/uchar.h>
 
 namespace meridane {
 namespace {
@@ -10,20 +18,75 @@ char foldAscii(char character) noexcept
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
-/// A code point from U+0080 to U+07FF.
-unsigned int foldCodePoint(unsigned int point) noexcept
+std::string normalized(const icu::Normalizer2& form, std::string_view text, UErrorCode& error)
 {
-    const auto isIn = [point](unsigned int first, unsigned int last) { return point >= first && point <= last; };
-    if ((isIn(0xC0, 0xDE) && point != 0xD7) || (isIn(0x391, 0x3A9) && point != 0x3A2) || isIn(0x410, 0x42F))
-        return point + 0x20;
-    if (isIn(0x400, 0x40F))
-        return point + 0x50;
-    // Pairs of a capital and a small letter.
-    if (isIn(0x100, 0x12F) || isIn(0x132, 0x137) || isIn(0x14A, 0x177) || isIn(0x460, 0x481) || isIn(0x48A, 0x4BF))
-        return point | 1U;
-    if (isIn(0x139, 0x148) || isIn(0x179, 0x17E))
-        return point + (point & 1U);
-    return point;
+    std::string result;
+    icu::StringByteSink<std::string> sink(&result, static_cast<std::int32_t>(text.size()));
+    form.normalizeUTF8(0, icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())), sink, nullptr, error);
+    return result;
+}
+
+/// Whether a character of that many bytes is in one of the blocks of combining diacritical marks.
+bool isAccent(std::string_view text, std::size_t offset, std::size_t& length) noexcept
+{
+    const auto byte
+        = [&](std::size_t i) { return offset + i < text.size() ? static_cast<unsigned char>(text[offset + i]) : 0U; };
+    const unsigned int first = byte(0);
+    if (first < 0x80) {
+        length = 1;
+        return false;
+    }
+    if (first < 0xE0) {
+        length = 2;
+        const unsigned int point = ((first & 0x1FU) << 6U) | (byte(1) & 0x3FU);
+        return (point >= 0x300 && point <= 0x36F) || (point >= 0x483 && point <= 0x487);
+    }
+    if (first >= 0xF0) {
+        length = 4;
+        return false;
+    }
+    length = 3;
+    const unsigned int point = ((first & 0xFU) << 12U) | ((byte(1) & 0x3FU) << 6U) | (byte(2) & 0x3FU);
+    return (point >= 0x1AB0 && point <= 0x1AFF) || (point >= 0x1DC0 && point <= 0x1DFF)
+        || (point >= 0x20D0 && point <= 0x20FF) || (point >= 0xFE20 && point <= 0xFE2F);
+}
+
+/// Whether a character belongs to the letter before it.
+bool isCombining(std::string_view character)
+{
+    if (static_cast<unsigned char>(character[0]) < 0x80)
+        return false;
+    const std::u16string units = utf8ToUtf16(replaceInvalidUtf8(character));
+    return units.size() == 1 && u_getCombiningClass(units[0]) != 0;
+}
+
+void removeAccents(std::string& text)
+{
+    std::size_t end = 0;
+    std::size_t length = 0;
+    for (std::size_t offset = 0; offset < text.size(); offset += length) {
+        const bool isLeftOut = isAccent(text, offset, length);
+        for (std::size_t i = offset; !isLeftOut && i < std::min(offset + length, text.size()); ++i)
+            text[end++] = text[i];
+    }
+    text.resize(end);
+}
+
+void foldUnicode(std::string_view text, std::string& folded)
+{
+    UErrorCode error = U_ZERO_ERROR;
+    const icu::Normalizer2* const caseless = icu::Normalizer2::getNFKCCasefoldInstance(error);
+    const icu::Normalizer2* const decomposed = icu::Normalizer2::getNFDInstance(error);
+    const icu::Normalizer2* const composed = icu::Normalizer2::getNFCInstance(error);
+    const std::string valid = replaceInvalidUtf8(text);
+    if (U_SUCCESS(error) != 0) {
+        folded = normalized(*decomposed, normalized(*caseless, valid, error), error);
+        removeAccents(folded);
+        folded = normalized(*composed, folded, error); // marks that are no accents are parts of letters
+    }
+    // Without memory or the library's data, letters of other scripts are compared as they are.
+    if (U_FAILURE(error) != 0)
+        folded = valid;
 }
 
 } // namespace
@@ -31,17 +94,13 @@ unsigned int foldCodePoint(unsigned int point) noexcept
 void foldText(std::string_view text, std::string& folded)
 {
     folded.resize(text.size());
-    std::ranges::transform(text, folded.begin(), foldAscii);
-    for (std::size_t i = 0; i + 1 < folded.size(); ++i) {
-        const auto first = static_cast<unsigned char>(folded[i]);
-        const auto second = static_cast<unsigned char>(folded[i + 1]);
-        if (first < 0xC2 || first > 0xDF || (second & 0xC0U) != 0x80)
-            continue;
-        const unsigned int point = foldCodePoint(((first & 0x1FU) << 6U) | (second & 0x3FU));
-        folded[i] = static_cast<char>(0xC0U | (point >> 6U));
-        folded[i + 1] = static_cast<char>(0x80U | (point & 0x3FU));
-        ++i;
+    unsigned int bits = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        bits |= static_cast<unsigned char>(text[i]);
+        folded[i] = foldAscii(text[i]);
     }
+    if (bits >= 0x80)
+        foldUnicode(text, folded);
 }
 
 std::string foldText(std::string_view text)
@@ -49,6 +108,27 @@ std::string foldText(std::string_view text)
     std::string folded;
     foldText(text, folded);
     return folded;
+}
+
+FoldedText foldWithSources(std::string_view text)
+{
+    FoldedText result;
+    std::string letter;
+    std::size_t length = 0;
+    for (std::size_t start = 0; start < text.size(); start += length) {
+        length = characterAt(text, start).size();
+        while (start + length < text.size() && isCombining(characterAt(text, start + length)))
+            length += characterAt(text, start + length).size();
+        foldText(text.substr(start, length), letter);
+        result.text += letter;
+        result.sources.insert(result.sources.end(), letter.size(), {start, length});
+    }
+    return result;
+}
+
+bool isKeyword(std::string_view word, std::string_view keyword) noexcept
+{
+    return std::ranges::equal(word, keyword, {}, foldAscii);
 }
 
 } // namespace meridane

@@ -3,6 +3,8 @@
 #include "meridane/base/values/MessageText.h"
 #include "meridane/query/detail/TextFolding.h"
 
+#include <algorithm>
+
 #include <re2/re2.h>
 
 namespace meridane {
@@ -45,16 +47,15 @@ std::string refusalOf(const re2::RE2& expression)
     }
 }
 
-bool hasInOrder(std::string_view text, std::string_view letters)
+/// For letters of one byte, which are no part of any other.
+bool hasBytesInOrder(std::string_view text, std::string_view letters)
 {
-    std::size_t found = 0;
-    for (const char letter : letters) {
-        found = text.find(letter, found);
-        if (found == std::string_view::npos)
-            return false;
-        ++found;
+    std::size_t next = 0;
+    for (const char byte : text) {
+        if (byte == letters[next] && ++next == letters.size())
+            return true;
     }
-    return true;
+    return false;
 }
 
 std::size_t characterSize(std::string_view text, std::size_t start)
@@ -63,6 +64,20 @@ std::size_t characterSize(std::string_view text, std::size_t start)
     while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80)
         ++end;
     return end - start;
+}
+
+bool hasInOrder(std::string_view text, std::string_view letters)
+{
+    std::size_t found = 0;
+    for (std::size_t letter = 0; letter < letters.size();) {
+        const std::string_view character = letters.substr(letter, characterSize(letters, letter));
+        found = text.find(character, found);
+        if (found == std::string_view::npos)
+            return false;
+        found += character.size();
+        letter += character.size();
+    }
+    return true;
 }
 
 void addFoundByExpression(const re2::RE2& expression, std::string_view text, FoundParts& parts)
@@ -79,6 +94,11 @@ void addFoundByExpression(const re2::RE2& expression, std::string_view text, Fou
     }
 }
 
+bool isAscii(std::string_view text)
+{
+    return std::ranges::all_of(text, [](char character) { return static_cast<unsigned char>(character) < 0x80; });
+}
+
 } // namespace
 
 TextPattern TextPattern::word(std::string_view word)
@@ -92,6 +112,7 @@ TextPattern TextPattern::phrase(std::string_view text)
 {
     TextPattern pattern;
     pattern.m_text = foldText(text);
+    pattern.m_isAscii = isAscii(pattern.m_text);
     return pattern;
 }
 
@@ -120,7 +141,14 @@ std::string_view TextPattern::folded(std::string_view text) const
 
 bool TextPattern::matchesName(std::string_view name) const
 {
-    return m_isWord ? hasInOrder(folded(name), m_text) : matchesText(name);
+    return m_expression != nullptr ? matchesText(name) : matchesFolded(folded(name));
+}
+
+bool TextPattern::matchesFolded(std::string_view name) const
+{
+    if (!m_isWord || m_text.empty())
+        return name.find(m_text) != std::string_view::npos;
+    return m_isAscii ? hasBytesInOrder(name, m_text) : hasInOrder(name, m_text);
 }
 
 bool TextPattern::matchesText(std::string_view text) const
@@ -136,13 +164,14 @@ void TextPattern::addFoundInName(std::string_view name, FoundParts& parts) const
     addFoundInText(name, parts);
     if (!m_isWord || parts.size() > before || !matchesName(name))
         return;
+    const FoldedText text = foldWithSources(name);
     std::size_t found = 0;
     for (std::size_t i = 0; i < m_text.size(); i += characterSize(m_text, i)) {
         const std::string_view letter = std::string_view(m_text).substr(i, characterSize(m_text, i));
-        found = m_folded.find(letter, found);
+        found = text.text.find(letter, found);
         if (found == std::string::npos)
             return;
-        parts.push_back({found, letter.size()});
+        parts.push_back(text.source(found, letter.size()));
         found += letter.size();
     }
 }
@@ -153,12 +182,12 @@ void TextPattern::addFoundInText(std::string_view text, FoundParts& parts) const
         addFoundByExpression(*m_expression, text, parts);
         return;
     }
-    const std::string_view searched = folded(text);
     if (m_text.empty())
         return;
-    for (std::size_t at = searched.find(m_text); at != std::string_view::npos;
-         at = searched.find(m_text, at + m_text.size()))
-        parts.push_back({at, m_text.size()});
+    const FoldedText searched = foldWithSources(text);
+    for (std::size_t at = searched.text.find(m_text); at != std::string::npos;
+         at = searched.text.find(m_text, at + m_text.size()))
+        parts.push_back(searched.source(at, m_text.size()));
 }
 
 bool TextPattern::isEqualTo(std::string_view text) const

@@ -13,7 +13,7 @@ class RE2;
 
 namespace meridane {
 
-/// What a text may be searched for, in any case of letters.
+/// What a text may be searched for, in any case of letters and with or without accents (see `foldText`).
 class TextPattern {
 public:
     /// A word: letters that occur in this order, or one after the other.
@@ -28,6 +28,12 @@ public:
 
     /// Whether it matches a name: the letters of a word need only be in order.
     [[nodiscard]] bool matchesName(std::string_view name) const;
+    /// The same for a name that was folded before; `name` calls for the name as it is, if that is needed.
+    template <typename Name>
+    [[nodiscard]] bool matchesFoldedName(std::string_view folded, Name name) const
+    {
+        return m_expression != nullptr ? matchesText(name()) : matchesFolded(folded);
+    }
     /// Whether it matches a longer text, in which the letters of a word must be next to each other.
     [[nodiscard]] bool matchesText(std::string_view text) const;
     /// Adds what `matchesName` finds: the letters of a word, together if they are so anywhere.
@@ -40,8 +46,10 @@ public:
 private:
     TextPattern() = default;
     [[nodiscard]] std::string_view folded(std::string_view text) const;
+    [[nodiscard]] bool matchesFolded(std::string_view name) const;
 
-    std::string m_text; ///< in small letters
+    std::string m_text; ///< folded
+    bool m_isAscii = true;
     bool m_isWord = false;
     std::shared_ptr<const re2::RE2> m_expression;
     std::optional<std::string> m_refusal;

@@ -1,0 +1,95 @@
+#pragma once
+
+#include "meridane/base/types/NxType.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class NxNode;
+
+namespace meridane {
+
+class Journal;
+
+/// The names and classes of all nodes of a scene, in the order of a scene file, so that a search needn't go through
+/// the nodes themselves. About 40 bytes a node.
+///
+/// Each node has one entry, at its first use; further uses are listed apart. An index is made in parts and is valid
+/// until a list of children changes: then discard it. Names that change can be read again. It keeps no node alive.
+class NodeIndex {
+public:
+    using Entry = std::uint32_t;
+    static constexpr Entry none = static_cast<Entry>(-1);
+
+    /// A further use of a node that is in several places.
+    struct Use {
+        Entry node = none;
+        Entry parent = none;
+    };
+
+    /// The journal of the scene, which must outlive the index. Nothing is read yet.
+    explicit NodeIndex(const Journal& journal);
+
+    /// Adds the next `count` nodes or uses. Returns false when there are no more.
+    bool extend(std::size_t count);
+    [[nodiscard]] bool isComplete() const noexcept { return m_levels.empty(); }
+
+    /// The number of entries so far; entries are numbers below it. A parent precedes its children.
+    [[nodiscard]] std::size_t size() const noexcept { return m_size; }
+    [[nodiscard]] const NxNode& node(Entry entry) const { return *item(entry).node; }
+    /// The entry of the group at the first use; `none` for a top node.
+    [[nodiscard]] Entry parent(Entry entry) const { return item(entry).parent; }
+    [[nodiscard]] NxType type(Entry entry) const { return item(entry).type; }
+    /// The name in the form in which names are compared (see `foldText`). Valid until a name changes.
+    [[nodiscard]] std::string_view foldedName(Entry entry) const;
+    /// The nodes from the top one down to that of the entry.
+    [[nodiscard]] std::vector<NxNode*> path(Entry entry) const;
+    /// The entry of a node, which must exist; nothing if there is none (yet).
+    [[nodiscard]] std::optional<Entry> find(const NxNode& node) const;
+    /// The further uses, in the order of the scene.
+    [[nodiscard]] std::span<const Use> uses() const noexcept { return m_uses; }
+
+    /// Reads the name of a node again.
+    void updateName(Entry entry);
+
+private:
+    static constexpr std::size_t chunkSize = 4096;
+
+    struct Item {
+        const NxNode* node = nullptr;
+        Entry parent = none;
+        NxType type;
+        std::size_t nameEnd = 0; // in the names of its chunk
+    };
+    /// Chunks, so that nothing large is ever copied.
+    struct Chunk {
+        std::array<Item, chunkSize> items;
+        std::string names;
+    };
+    struct Level {
+        std::span<NxNode* const> children;
+        std::size_t next = 0;
+        Entry parent = none;
+    };
+
+    [[nodiscard]] const Item& item(Entry entry) const { return m_chunks[entry / chunkSize]->items[entry % chunkSize]; }
+    Entry append(const NxNode& node, Entry parent);
+    [[nodiscard]] static std::size_t nameStart(const Chunk& chunk, std::size_t place);
+
+    const Journal* m_journal;
+    std::vector<std::unique_ptr<Chunk>> m_chunks;
+    std::size_t m_size = 0;
+    std::vector<Entry> m_entries; // by number of the journal
+    std::vector<Use> m_uses;
+    std::vector<Level> m_levels;
+    std::string m_folded;
+};
+
+} // namespace meridane
