@@ -1,5 +1,5 @@
 // Queries: each text is a query or has a message with a place in it. A query matches nodes, fields and rows, and the
-// opposite of it the others.
+// opposite of it the others. A text that is being typed is a query, or has a message; a complete one means the same.
 
 #include "meridane/query/Query.h"
 
@@ -46,6 +46,27 @@ void match(const Query& query, const Query& opposite, const NxGroup& scene)
     }
 }
 
+/// A text that is being typed, and the same as a whole: null if that is wrong.
+void checkDraft(std::string_view text, Query::Subject subject, const Query* whole, const NxGroup& scene)
+{
+    const meridane::QueryDraft draft = Query::parseDraft(text, subject);
+    if (draft.error)
+        checkMessage(*draft.error, text.size());
+    if (draft.missing)
+        checkMessage(*draft.missing, text.size());
+    fuzz::check(!draft.error || draft.query.isEmpty(), "what is wrong is no query");
+    meridane::NodeTraversal nodes(scene);
+    while (const NxNode* const node = nodes.next()) {
+        const bool isMatch = draft.query.matches(*node);
+        const NxField* const field = draft.query.firstField(*node);
+        fuzz::check(field == nullptr || draft.query.isAboutFields(), "only a query about fields finds one");
+        if (whole != nullptr && !draft.missing)
+            fuzz::check(isMatch == whole->matches(*node), "a complete text means the same while it is typed");
+    }
+    fuzz::check(whole == nullptr || !draft.error, "a query isn't wrong while it is typed");
+    fuzz::check(whole != nullptr || draft.error || draft.missing, "what is wrong is wrong or incomplete while typed");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t count)
@@ -54,6 +75,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t cou
     const std::string_view text = fuzz::toText(bytes, count);
     for (const Query::Subject subject : {Query::Subject::Scene, Query::Subject::Rows}) {
         const auto parsed = Query::parse(text, subject);
+        checkDraft(text, subject, std::get_if<Query>(&parsed), *scene);
         if (const auto* const error = std::get_if<QueryError>(&parsed)) {
             checkMessage(*error, count);
             continue;

@@ -161,7 +161,7 @@ Result<> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
         m_output << text.value() << '\n';
     }
     for (const QString& search : m_commandLine.searches) {
-        if (auto found = FoundPlaces(scene.get(), m_output).print(search); !found)
+        if (auto found = FoundPlaces(scene.get(), m_output, orvane::folderOf(m_commandLine.file)).print(search); !found)
             return found;
     }
     if (m_commandLine.list)

@@ -3,10 +3,12 @@
 #include "orvane/app/base/Result.h"
 
 #include "meridane/query/Query.h"
+#include "meridane/query/QueryFacts.h"
 #include "meridane/scene/file/NxScenePathNamer.h"
 
 #include <QString>
 
+#include <utility>
 #include <vector>
 
 class NxGroup;
@@ -16,10 +18,12 @@ class QTextStream;
 /// about fields, one a line, in the order of the scene. A node that is in several places is printed with the first one.
 class FoundPlaces {
 public:
-    /// `scene` must outlive the object and must not change meanwhile.
-    FoundPlaces(NxGroup* scene, QTextStream& output)
+    /// `scene` must outlive the object and must not change meanwhile. The paths of files in it count from `folder`,
+    /// which is empty for a scene without one.
+    FoundPlaces(NxGroup* scene, QTextStream& output, QString folder = {})
         : m_scene(scene)
         , m_output(output)
+        , m_folder(std::move(folder))
     {
     }
 
@@ -29,9 +33,11 @@ public:
     orvane::Result<> print(const QString& text);
 
 private:
+    [[nodiscard]] meridane::QueryFacts facts() const;
     void printPath(const std::vector<int>& places, const NxField* field);
 
     NxGroup* m_scene;
     QTextStream& m_output;
+    QString m_folder;
     NxScenePathNamer m_namer;
 };

@@ -6,6 +6,8 @@
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/file/NxScenePath.h"
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
 
@@ -37,6 +39,23 @@ private:
     }
 
 private Q_SLOTS:
+    void filesAreLookedForInTheFolderOfTheScene()
+    {
+        const QTemporaryDir folder;
+        QFile image(folder.filePath(QStringLiteral("wood.png")));
+        QVERIFY(image.open(QIODevice::WriteOnly) && image.write("image") > 0);
+        image.close();
+        const NxRef<NxGroup> opened = AppScenes::read("#mrd 1.0\n"
+                                                      "Texture \"a\" { filePath = \"wood.png\" }\n"
+                                                      "Texture \"b\" { filePath = \"stone.png\" }\n"
+                                                      "Mesh { }\n");
+        QString text;
+        QTextStream output(&text);
+        FoundPlaces places(opened.get(), output, folder.path());
+        QVERIFY(places.print(QStringLiteral("missing")));
+        QCOMPARE(text, QStringLiteral("/b.filePath\n"));
+    }
+
     void pathsOfWhatMatchesArePrinted_data()
     {
         QTest::addColumn<QString>("query");
@@ -55,6 +74,10 @@ private Q_SLOTS:
         row("ignored", "/robot/Material[1].transparency|");
         row("t:Transform =3", "/robot.translation|");
         row("t:Mesh f:positions", "/robot/arm/hand.positions|/robot/arm/Mesh[1].positions|");
+        row("unused", "/robot/\"red / blue\"|/robot/lamp|");
+        row("t:Light unused", "/robot/lamp|");
+        row("missing", "--find 'missing' matches nothing.");
+        row("l\u00E1mp", "/robot/lamp|");
         row("wheel", "--find 'wheel' matches nothing.");
         row("(wheel",
             "--find '(wheel', character 1: A closing bracket is missing for this opening one. Put brackets to search "
