@@ -1,15 +1,11 @@
 #include "scene/TestNodes.h"
 
 #include "meridane/query/Query.h"
-#include "meridane/query/QueryFacts.h"
-#include "meridane/scene/check/NxSceneProblem.h"
 #include "meridane/scene/fields/list/NxMFVec3f.h"
 #include "meridane/scene/fields/single/NxSFInt32.h"
 #include "meridane/scene/nodes/NxFieldGallery.h"
-#include "meridane/scene/nodes/NxMaterial.h"
 #include "meridane/scene/nodes/NxMesh.h"
 #include "meridane/scene/nodes/NxPointLight.h"
-#include "meridane/scene/nodes/NxTexture.h"
 #include "meridane/scene/nodes/NxTransform.h"
 #include "meridane/scene/nodes/NxUnknownNode.h"
 
@@ -343,120 +339,6 @@ private Q_SLOTS:
             QVERIFY2(parsed(text).isAboutFields(), text);
         for (const char* const text : {"arm", "t:Mesh", "\"changed\"", "/x/ or not y"})
             QVERIFY2(!parsed(text).isAboutFields(), text);
-    }
-
-    void accentsAreFolded_data()
-    {
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QByteArray>("query");
-        QTest::addColumn<bool>("isMatch");
-        const auto row = [](const char* name, const char* query, bool isMatch) {
-            QTest::addRow("%s, %s", name, query) << QByteArray(name) << QByteArray(query) << isMatch;
-        };
-        row("Ca\u0301mara", "\"camara\"", true); // a letter and its accent
-        row("C\u00C1MARA", "\"ca\u0301mara\"", true);
-        row("camera", "\"c\u00E1mera\"", true);
-        row("Stra\u00DFe", "STRASSE", true);
-        row("\u00C5ngstr\u00F6m", "\"angstrom\"", true);
-        row("\u0394\u03AF\u03C3\u03BA\u03BF\u03C2", "\"\u03B4\u03B9\u03C3\u03BA\u03BF\u03C3\"",
-            true); // the final sigma
-        row("\u0419\u043E\u0434", "\"\u0438\u043E\u0434\"", true);
-        row("\uFF21\uFF22\uFF23", "abc", true); // full width
-        row("\uFB01n", "fin", true); // a ligature
-        row("\u0130zmir", "izmir", true);
-        row("\u304C", "\"\u304B\"", false); // other letters, not accents
-        row("\u0915\u093F", "\"\u0915\u0940\"", false);
-        row("\u00F8re", "ore", false);
-        row("\u00E4\u00F6", "\u00F6\u00E4", false);
-        row("x\u03A9y\u0416z", "x\u03C9\u0436", true); // letters in their order
-        row("\u0451\u044A", "\u0449", false); // which has bytes of both
-    }
-
-    void accentsAreFolded()
-    {
-        QFETCH(QByteArray, name);
-        QFETCH(QByteArray, query);
-        const NxRef<NxMesh> mesh(new NxMesh);
-        mesh->setName(name.constData());
-        QTEST(parsed(query.toStdString()).matches(*mesh), "isMatch");
-    }
-
-    void factsComeFromTheCaller()
-    {
-        const NxRef<NxMaterial> material(new NxMaterial);
-        const NxRef<NxTexture> texture(new NxTexture);
-        meridane::QueryFacts facts;
-        NxSceneProblem problem;
-        problem.kind = NxProblemKind::UnusedMaterial;
-        problem.node = material.get();
-        QVERIFY(!facts.add(problem));
-        problem = {};
-        problem.kind = NxProblemKind::MissingFile;
-        problem.node = texture.get();
-        problem.field = texture->getFields().front();
-        QVERIFY(!facts.add(problem));
-        const Query unused = parsed("Unused");
-        QVERIFY(unused.needsFacts() && !unused.isAboutFields());
-        QVERIFY(unused.matches(*material, &facts));
-        QVERIFY(unused.matches(*material->getFields().front(), &facts));
-        QVERIFY(!unused.matches(*texture, &facts));
-        QVERIFY(!unused.matches(*material));
-        const Query missing = parsed("missing");
-        QVERIFY(missing.needsFacts() && missing.isAboutFields());
-        QVERIFY(missing.matches(*texture, &facts));
-        QVERIFY(!missing.matches(*material, &facts));
-        QVERIFY(missing.matches(*problem.field, &facts));
-        QVERIFY(!missing.matches(*texture->getFields().back(), &facts));
-        QVERIFY(!missing.matches(*texture));
-        QVERIFY(parsed("not missing").needsFacts());
-        QVERIFY(!parsed("\"unused\" changed").needsFacts());
-    }
-
-    void manySiblingsAreFactsInParts()
-    {
-        const NxRef<NxGroup> group(new NxGroup);
-        for (int i = 0; i < 10; ++i)
-            group->addChild(new NxMaterial);
-        NxSceneProblem problem;
-        problem.kind = NxProblemKind::UnusedMaterial;
-        problem.group = group.get();
-        problem.places = std::make_shared<const std::vector<int>>(std::vector<int>{1, 3, 5, 20});
-        meridane::QueryFacts facts;
-        QVERIFY(facts.add(problem, 0, 2));
-        QVERIFY(facts.isUnused(*group->getChild(3)));
-        QVERIFY(!facts.isUnused(*group->getChild(5)));
-        QVERIFY(!facts.add(problem, 2, 2));
-        QVERIFY(facts.isUnused(*group->getChild(5)));
-        QVERIFY(!facts.isUnused(*group->getChild(0)));
-    }
-
-    void theFirstFieldThatMatchesIsKnown_data()
-    {
-        // size 1.5, title "My Robot", weights 1 2 3; size is at its default, title is changed.
-        addRows({
-            {"arm", ""},
-            {"f:s", "size"},
-            {"f:weights", "weights"},
-            {"arm changed", "title"},
-            {"t:Probe >2", "weights"},
-            {"f:s >2", "weights"},
-            {"leg or =3", "weights"},
-            {"(arm changed) t:Probe", "title"},
-            {"arm not changed", "size"},
-            {"f:radius", ""},
-            {"not changed", ""},
-        });
-    }
-
-    void theFirstFieldThatMatchesIsKnown()
-    {
-        QFETCH(QByteArray, query);
-        QFETCH(QByteArray, expected);
-        const NxRef<ProbeNode> node(new ProbeNode);
-        node->setName("arm");
-        node->title.setValue("My Robot");
-        const NxField* const field = parsed(query.toStdString()).firstField(*node);
-        QCOMPARE(field != nullptr ? QByteArray(node->getFieldName(field).getString()) : QByteArray(), expected);
     }
 
     void quotesTakeEscapes()
