@@ -1,7 +1,7 @@
 #pragma once
 
+#include "orvane/app/base/LockedFile.h"
 #include "orvane/app/base/Result.h"
-#include "orvane/app/recovery/LockedFile.h"
 
 #include <QString>
 

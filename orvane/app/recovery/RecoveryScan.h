@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/app/recovery/LockedFile.h"
+#include "orvane/app/base/LockedFile.h"
 
 #include "meridane/base/FileHasher.h"
 #include "meridane/base/Files.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/app/recovery/LockedFile.h"
+#include "orvane/app/base/LockedFile.h"
 
 #include <QBasicTimer>
 #include <QObject>

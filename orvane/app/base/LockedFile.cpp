@@ -1,4 +1,4 @@
-#include "orvane/app/recovery/LockedFile.h"
+#include "orvane/app/base/LockedFile.h"
 
 #include "orvane/app/base/TextConversion.h"
 
