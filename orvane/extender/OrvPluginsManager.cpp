@@ -88,8 +88,7 @@ QStringList OrvPluginsManager::findPlugins(const QStringList& folders)
 std::optional<QString> OrvPluginsManager::loadPlugin(const QString& fileName)
 {
     const QString path = QFileInfo(fileName).canonicalFilePath();
-    const auto isSameFile = [&](const LoadedPlugin& plugin) { return plugin.fileName == path; };
-    if (!path.isEmpty() && std::ranges::any_of(m_plugins, isSameFile))
+    if (findPlugin(fileName) != nullptr)
         return QStringLiteral("%1: it is loaded already").arg(fileName);
     const orvane::OpenedLibrary opened = orvane::openPluginLibrary(fileName);
     if (opened.error)
@@ -132,6 +131,14 @@ void OrvPluginsManager::unloadPlugins()
         if (plugin.destroy != nullptr)
             callAndReport(plugin.title, plugin.destroy);
     }
+}
+
+const OrvPlugin* OrvPluginsManager::findPlugin(const QString& fileName) const
+{
+    const QString path = QFileInfo(fileName).canonicalFilePath();
+    const auto isSameFile = [&](const LoadedPlugin& plugin) { return plugin.fileName == path; };
+    const auto found = path.isEmpty() ? m_plugins.end() : std::ranges::find_if(m_plugins, isSameFile);
+    return found != m_plugins.end() ? found->plugin : nullptr;
 }
 
 QList<OrvExtension*> OrvPluginsManager::getExtensions() const

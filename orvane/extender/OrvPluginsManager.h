@@ -43,6 +43,8 @@ public:
     /// extension must not call it.
     void unloadPlugins();
 
+    /// The plug-in that was loaded from this file, under whatever name of it, or null.
+    [[nodiscard]] const OrvPlugin* findPlugin(const QString& fileName) const;
     /// All extensions in the order of registration.
     [[nodiscard]] QList<OrvExtension*> getExtensions() const;
 

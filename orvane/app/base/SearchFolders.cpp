@@ -21,4 +21,13 @@ QStringList profileFolders()
         QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/orvane/profiles")};
 }
 
+QString stateFolder()
+{
+    // As for all of these variables, a path that is not absolute is ignored.
+    QString state = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(state))
+        state = QDir::homePath() + QStringLiteral("/.local/state");
+    return state + QStringLiteral("/orvane");
+}
+
 } // namespace orvane

@@ -11,5 +11,7 @@ namespace orvane {
 /// The folders with profiles: those that ship with the tool, then the user's own `orvane/profiles` in the folder for
 /// configuration.
 [[nodiscard]] QStringList profileFolders();
+/// The user's own folder `orvane` for what programs remember of their runs: in `XDG_STATE_HOME`, or `~/.local/state`.
+[[nodiscard]] QString stateFolder();
 
 } // namespace orvane

@@ -81,10 +81,17 @@ Result<NxRef<NxGroup>> BatchRun::open(const QString& fileName)
 
 Result<> BatchRun::startExtensions(Session& session)
 {
-    QStringList plugins = m_commandLine.plugins;
-    if (m_commandLine.listExtensions)
-        plugins = OrvPluginsManager::findPlugins(orvane::pluginFolders()) + plugins;
-    QStringList failures = session.loadPlugins(plugins);
+    QStringList found;
+    if (m_commandLine.listExtensions && !m_commandLine.noPlugins)
+        found = OrvPluginsManager::findPlugins(orvane::pluginFolders());
+    QStringList failures = session.loadPlugins(found, m_commandLine.plugins);
+    for (const PluginRecord& plugin : session.pluginLoader().records()) {
+        if (plugin.state == PluginRecord::State::Suspect)
+            orvane::printError(
+                QStringLiteral("warning: %1: it is left out, since a program ended while it was loading it; --plugin "
+                               "loads it all the same")
+                    .arg(plugin.fileName));
+    }
     if (!m_commandLine.profile.isEmpty()) {
         // Without a window no extension runs, so it is enough that the profile exists.
         const QStringList unreadable = session.loadProfiles(orvane::profileFolders());

@@ -68,6 +68,8 @@ struct Options {
             "Reload the file by itself when it changes on disk, while the scene has no changes of your own.")};
     QCommandLineOption keepGroups{QStringLiteral("keep-groups"),
         QStringLiteral("Keep the groups of models that have one child and no effect, which are joined otherwise.")};
+    QCommandLineOption noPlugins{QStringLiteral("no-plugins"),
+        QStringLiteral("Load no plug-ins but those that --plugin names, for when one of them does harm.")};
     QCommandLineOption noSettings{QStringLiteral("no-settings"), QStringLiteral("Neither read nor write settings.")};
     QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Print the version.")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this help.")};
@@ -75,7 +77,7 @@ struct Options {
     void addTo(QCommandLineParser& parser) const
     {
         parser.addOptions({plugin, profile, select, set, get, find, list, diff, describe, check, json, listExtensions,
-            exportTo, screenshot, size, watch, keepGroups, noSettings, version, help});
+            exportTo, screenshot, size, watch, keepGroups, noPlugins, noSettings, version, help});
         parser.addPositionalArgument(QStringLiteral("file"),
             QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
         parser.addPositionalArgument(
@@ -257,6 +259,7 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
     result.listExtensions = parser.isSet(options.listExtensions);
     result.watch = parser.isSet(options.watch);
     result.keepGroups = parser.isSet(options.keepGroups);
+    result.noPlugins = parser.isSet(options.noPlugins);
     result.noSettings = parser.isSet(options.noSettings);
     for (const QString& argument : parser.values(options.set)) {
         const auto assignment = parseAssignment(argument);

@@ -43,6 +43,7 @@ struct CommandLine {
     bool listExtensions = false;
     bool watch = false;
     bool keepGroups = false;
+    bool noPlugins = false; // but those that are named
     bool noSettings = false;
     bool version = false;
     bool help = false;

@@ -86,8 +86,9 @@ void WindowRun::showSoon(MainWindow& window)
 void WindowRun::prepare(Session& session, MainWindow& window)
 {
     session.loadPreferences();
-    const QStringList plugins = OrvPluginsManager::findPlugins(orvane::pluginFolders()) + m_commandLine.plugins;
-    QStringList messages = session.loadPlugins(plugins);
+    const QStringList found
+        = m_commandLine.noPlugins ? QStringList() : OrvPluginsManager::findPlugins(orvane::pluginFolders());
+    QStringList messages = session.loadPlugins(found, m_commandLine.plugins);
     messages += session.loadProfiles(orvane::profileFolders());
     if (const auto activated = session.activateProfile(m_commandLine.profile); !activated)
         messages += activated.error();

@@ -1,5 +1,6 @@
 #include "orvane/app/recovery/RecoveryFolder.h"
 
+#include "orvane/app/base/SearchFolders.h"
 #include "orvane/app/base/TextConversion.h"
 
 #include <QDir>
@@ -25,11 +26,7 @@ RecoveryFolder::RecoveryFolder(const QString& path)
 
 QString RecoveryFolder::defaultPath()
 {
-    // As for all of these variables, a path that is not absolute is ignored.
-    QString state = qEnvironmentVariable("XDG_STATE_HOME");
-    if (!QDir::isAbsolutePath(state))
-        state = QDir::homePath() + QStringLiteral("/.local/state");
-    return state + QStringLiteral("/orvane/recovery");
+    return orvane::stateFolder() + QStringLiteral("/recovery");
 }
 
 orvane::Result<std::unique_ptr<LockedFile>> RecoveryFolder::createFile() const

@@ -1,6 +1,7 @@
 #include "orvane/app/scene/Session.h"
 
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/plugins/LoadingMark.h"
 #include "orvane/extender/OrvProfile.h"
 
 #include "meridane/base/NxPreferences.h"
@@ -21,6 +22,8 @@ Session::Session(AppSettings::Mode settings)
 Session::Session(AppSettings::Mode settings, const QString& settingsFileName)
     : m_mode(settings)
     , m_settings(settings, settingsFileName)
+    , m_pluginLoader(
+          m_plugins, m_settings, settings == AppSettings::Mode::File ? LoadingMark::defaultFolder() : QString())
     , m_document(m_services, m_disposal)
 {
 }
@@ -36,14 +39,9 @@ void Session::loadPreferences()
         NxPreferences::setFile(orvane::toStdFileName(AppSettings::preferencesFileName()).c_str());
 }
 
-QStringList Session::loadPlugins(const QStringList& fileNames)
+QStringList Session::loadPlugins(const QStringList& found, const QStringList& askedFor)
 {
-    QStringList messages;
-    for (const QString& fileName : fileNames) {
-        if (const std::optional<QString> message = m_plugins.loadPlugin(fileName))
-            messages.append(*message);
-    }
-    return messages;
+    return m_pluginLoader.load(found, askedFor);
 }
 
 QStringList Session::loadProfiles(const QStringList& folders)

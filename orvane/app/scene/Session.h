@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/AppSettings.h"
 #include "orvane/app/base/Result.h"
+#include "orvane/app/plugins/PluginLoader.h"
 #include "orvane/app/scene/SceneDisposal.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/extender/OrvPluginsManager.h"
@@ -24,8 +25,9 @@ public:
 
     /// Reads the user's file of toolkit preferences; what is wrong with it is posted as toolkit errors.
     void loadPreferences();
-    /// Loads plug-ins in this order. The result has one message for each that failed; the others are there.
-    QStringList loadPlugins(const QStringList& fileNames);
+    /// Loads the plug-ins that were found, unless they are switched off, and those that the user asked for, in this
+    /// order. The result has one message for each that failed; the others are there.
+    QStringList loadPlugins(const QStringList& found, const QStringList& askedFor = {});
     /// Loads the profiles (`*.json`) of these folders, in the order of the folders and, in each, of the file names.
     /// The result has one message for each that is refused.
     QStringList loadProfiles(const QStringList& folders);
@@ -42,6 +44,7 @@ public:
     [[nodiscard]] AppSettings& settings() noexcept { return m_settings; }
     [[nodiscard]] OrvServices& services() noexcept { return m_services; }
     [[nodiscard]] OrvPluginsManager& plugins() noexcept { return m_plugins; }
+    [[nodiscard]] PluginLoader& pluginLoader() noexcept { return m_pluginLoader; }
     [[nodiscard]] SceneDisposal& disposal() noexcept { return m_disposal; }
     [[nodiscard]] SceneDocument& document() noexcept { return m_document; }
 
@@ -51,6 +54,7 @@ private:
     SceneDisposal m_disposal;
     OrvServices m_services;
     OrvPluginsManager m_plugins;
+    PluginLoader m_pluginLoader;
     SceneDocument m_document;
     bool m_down = false;
 };

@@ -61,15 +61,15 @@ QString keyRows(const QMenu* menu)
 HelpMenu::HelpMenu(QMainWindow* window, const WindowShell& shell)
     : QObject(window)
     , m_window(window)
+    , m_menu(window->menuBar()->addMenu(tr("&Help")))
     , m_shell(shell)
 {
-    QMenu* menu = window->menuBar()->addMenu(tr("&Help"));
-    QAction* keys = menu->addAction(tr("&Keys"));
+    QAction* keys = m_menu->addAction(tr("&Keys"));
     keys->setObjectName(QStringLiteral("help.keys"));
     keys->setShortcut(QKeySequence::HelpContents);
     keys->setStatusTip(tr("Shows the keys of all actions"));
     connect(keys, &QAction::triggered, this, &HelpMenu::showKeys);
-    QAction* about = menu->addAction(tr("&About Orvane"));
+    QAction* about = m_menu->addAction(tr("&About Orvane"));
     about->setObjectName(QStringLiteral("help.about"));
     about->setMenuRole(QAction::AboutRole);
     about->setStatusTip(tr("Shows the version of the program and its extensions"));

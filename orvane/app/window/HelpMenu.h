@@ -3,6 +3,7 @@
 #include <QObject>
 
 class QMainWindow;
+class QMenu;
 class WindowShell;
 
 /// The Help menu: a list of keys, and the program's version with its running extensions.
@@ -12,6 +13,8 @@ class HelpMenu : public QObject {
 public:
     HelpMenu(QMainWindow* window, const WindowShell& shell);
 
+    [[nodiscard]] QMenu& menu() const noexcept { return *m_menu; }
+
 private:
     void showKeys();
     void showAbout();
@@ -19,5 +22,6 @@ private:
     [[nodiscard]] QString aboutText() const;
 
     QMainWindow* m_window;
+    QMenu* m_menu;
     const WindowShell& m_shell;
 };

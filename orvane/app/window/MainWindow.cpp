@@ -17,6 +17,7 @@
 #include "orvane/app/manners/EditorManners.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
+#include "orvane/app/plugins/PluginActions.h"
 #include "orvane/app/recovery/RecoveryOffer.h"
 #include "orvane/app/recovery/SceneRecovery.h"
 #include "orvane/app/scene/Session.h"
@@ -226,7 +227,8 @@ void MainWindow::buildMenus()
     auto* cameras = new CameraMenu(m_view, document());
     auto* viewMenu = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), cameras);
     new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodeActions());
-    new HelpMenu(this, *m_shell);
+    const auto* const help = new HelpMenu(this, *m_shell);
+    new PluginActions(m_session.pluginLoader(), *m_messages, help->menu(), this);
     new EditorManners(this, m_session.services(), m_fields);
     connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);
 

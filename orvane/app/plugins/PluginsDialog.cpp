@@ -1,0 +1,97 @@
+#include "orvane/app/plugins/PluginsDialog.h"
+
+#include "orvane/app/look/Look.h"
+#include "orvane/app/plugins/PluginLoader.h"
+#include "orvane/app/plugins/PluginModel.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int widthInLetters = 90;
+constexpr int heightInLines = 24;
+
+} // namespace
+
+PluginsDialog::PluginsDialog(PluginLoader& loader, QWidget* parent)
+    : QDialog(parent)
+    , m_loader(loader)
+    , m_model(new PluginModel(loader, this))
+    , m_view(new QTableView(this))
+    , m_details(new QLabel(this))
+{
+    setObjectName(QStringLiteral("pluginsDialog"));
+    setWindowTitle(tr("Plug-ins"));
+    auto* const hint = new QLabel(
+        tr("A plug-in that is switched off isn't loaded from the next start on. Load Now takes effect at once."), this);
+    hint->setWordWrap(true);
+    m_view->setObjectName(QStringLiteral("plugins"));
+    m_view->setAccessibleName(tr("Plug-ins"));
+    m_view->setModel(m_model);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_view->setTabKeyNavigation(false);
+    m_view->setShowGrid(false);
+    m_view->setWordWrap(false);
+    m_view->verticalHeader()->hide();
+    m_view->horizontalHeader()->setStretchLastSection(true);
+    m_view->horizontalHeader()->setHighlightSections(false);
+    m_view->resizeColumnsToContents();
+    m_details->setObjectName(QStringLiteral("pluginDetails"));
+    m_details->setTextFormat(Qt::PlainText);
+    m_details->setWordWrap(true);
+    m_details->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_details->setAccessibleName(tr("About the selected plug-in"));
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    m_loadNow = buttons->addButton(tr("&Load Now"), QDialogButtonBox::ActionRole);
+    m_loadNow->setObjectName(QStringLiteral("loadNow"));
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(hint);
+    layout->addWidget(m_view, 1);
+    layout->addWidget(m_details);
+    layout->addWidget(buttons);
+
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_loadNow, &QPushButton::clicked, this, &PluginsDialog::loadNow);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &PluginsDialog::showDetails);
+    connect(m_model, &QAbstractItemModel::dataChanged, this, &PluginsDialog::showDetails);
+    m_view->setCurrentIndex(m_model->index(0, 0));
+    showDetails();
+    resize(fontMetrics().averageCharWidth() * widthInLetters, fontMetrics().lineSpacing() * heightInLines);
+}
+
+void PluginsDialog::showDetails()
+{
+    const PluginRecord* const plugin = m_model->record(m_view->currentIndex());
+    const bool canLoad = plugin != nullptr && plugin->state != PluginRecord::State::Loaded;
+    m_loadNow->setEnabled(canLoad);
+    m_loadNow->setToolTip(canLoad ? QString() : tr("It is loaded already."));
+    if (plugin == nullptr) {
+        m_details->setText(tr("No plug-in was found."));
+        return;
+    }
+    QStringList lines;
+    if (!plugin->description.isEmpty())
+        lines.append(plugin->description);
+    if (!plugin->author.isEmpty())
+        lines.append(tr("By %1").arg(plugin->author));
+    if (!plugin->extensions.isEmpty())
+        lines.append(tr("Extensions: %1").arg(plugin->extensions.join(QStringLiteral(", "))));
+    if (plugin->state == PluginRecord::State::Suspect)
+        lines.append(tr("The program ended while it was loading this plug-in. It is left out until you switch it on or "
+                        "load it."));
+    if (!plugin->message.isEmpty())
+        lines.append(plugin->message);
+    m_details->setText((lines + plugin->warnings).join(u'\n'));
+}
+
+void PluginsDialog::loadNow()
+{
+    if (const PluginRecord* const plugin = m_model->record(m_view->currentIndex()))
+        m_loader.loadNow(plugin->fileName);
+}
