@@ -117,28 +117,28 @@ NodePlacement::Fields::Fields(NxNode& node)
     }
 }
 
-bool NodePlacement::can(const NxNode& node, PlaceChange::Kind kind)
+bool NodePlacement::can(const NxNode& node, PlacementChange::Kind kind)
 {
     // Looking at which fields there are changes nothing.
     const Fields fields(const_cast<NxNode&>(node));
     switch (kind) {
-    case PlaceChange::Kind::Move:
+    case PlacementChange::Kind::Move:
         return fields.place != nullptr || fields.matrix != nullptr;
-    case PlaceChange::Kind::Turn:
+    case PlacementChange::Kind::Turn:
         return fields.rotation != nullptr || fields.direction != nullptr || fields.matrix != nullptr;
-    case PlaceChange::Kind::Scale:
+    case PlacementChange::Kind::Scale:
         return fields.scale != nullptr || fields.matrix != nullptr;
     }
     return false;
 }
 
-std::vector<NxField*> NodePlacement::fields(NxNode& node, PlaceChange::Kind kind)
+std::vector<NxField*> NodePlacement::fields(NxNode& node, PlacementChange::Kind kind)
 {
     const Fields fields(node);
     std::vector<NxField*> result{fields.place, fields.matrix};
-    if (kind == PlaceChange::Kind::Turn)
+    if (kind == PlacementChange::Kind::Turn)
         result.insert(result.end(), {fields.rotation, fields.direction});
-    else if (kind == PlaceChange::Kind::Scale)
+    else if (kind == PlacementChange::Kind::Scale)
         result.push_back(fields.scale);
     std::erase(result, nullptr);
     return result;
@@ -186,7 +186,7 @@ std::array<VbVec3d, 3> NodePlacement::parentAxes() const
     return axesOf(m_parentToScene);
 }
 
-NodePlacement::Values NodePlacement::changed(const PlaceChange& change, const Matrix4d& sceneToParent) const
+NodePlacement::Values NodePlacement::changed(const PlacementChange& change, const Matrix4d& sceneToParent) const
 {
     Values values = m_start;
     if (m_fields.matrix != nullptr) {
@@ -206,19 +206,19 @@ NodePlacement::Values NodePlacement::changed(const PlaceChange& change, const Ma
     const VbVec3d from = transformPoint(add(m_fields.center, VbVec3d(m_start.place)), m_parentToScene);
     const VbVec3d way = transformVector(subtract(change.applied(from), from), sceneToParent);
     values.place = narrowed(add(VbVec3d(m_start.place), way));
-    if (change.kind == PlaceChange::Kind::Turn && change.angle != 0) {
+    if (change.kind == PlacementChange::Kind::Turn && change.angle != 0) {
         const VbVec3d axis = normalized(transformVector(change.axis, sceneToParent), change.axis);
         const double angle = determinant(m_parentToScene) < 0 ? -change.angle : change.angle;
         values.rotation = turned(m_start.rotation, axis, angle);
         values.direction = narrowed(transformVector(VbVec3d(m_start.direction), turnMatrix(axis, angle)));
-    } else if (change.kind == PlaceChange::Kind::Scale) {
+    } else if (change.kind == PlacementChange::Kind::Scale) {
         for (std::size_t i = 0; i < 3; ++i)
             values.scale[i] = static_cast<float>(static_cast<double>(m_start.scale[i]) * change.factors[i]);
     }
     return values;
 }
 
-bool NodePlacement::apply(const PlaceChange& change)
+bool NodePlacement::apply(const PlacementChange& change)
 {
     const std::optional<Matrix4d> sceneToParent = inverse(m_parentToScene);
     if (!sceneToParent)

@@ -2,7 +2,7 @@
 
 #include "meridane/base/values/VbMatrix.h"
 #include "meridane/base/values/VbRotation.h"
-#include "meridane/gl/geometry/PlaceChange.h"
+#include "meridane/gl/geometry/PlacementChange.h"
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxNode.h"
 
@@ -26,9 +26,9 @@ namespace meridane {
 class NodePlacement {
 public:
     /// Whether the fields of the node can express that kind of change.
-    [[nodiscard]] static bool can(const NxNode& node, PlaceChange::Kind kind);
+    [[nodiscard]] static bool can(const NxNode& node, PlacementChange::Kind kind);
     /// The fields that such a change writes, none if it can't be.
-    [[nodiscard]] static std::vector<NxField*> fields(NxNode& node, PlaceChange::Kind kind);
+    [[nodiscard]] static std::vector<NxField*> fields(NxNode& node, PlacementChange::Kind kind);
 
     /// `parentToScene` is the transform of the node's parent. Keeps the node alive.
     NodePlacement(NxNode& node, const Matrix4d& parentToScene);
@@ -44,7 +44,7 @@ public:
 
     /// Writes the fields, those that change. Returns false and writes nothing if the result isn't finite, or if the
     /// node's parent makes everything flat, so that no change can be computed.
-    bool apply(const PlaceChange& change);
+    bool apply(const PlacementChange& change);
     /// Writes the values back that the fields had when the object was made.
     void restore();
 
@@ -69,7 +69,7 @@ private:
         VbMatrix matrix;
     };
 
-    [[nodiscard]] Values changed(const PlaceChange& change, const Matrix4d& sceneToParent) const;
+    [[nodiscard]] Values changed(const PlacementChange& change, const Matrix4d& sceneToParent) const;
     void write(const Values& values);
 
     NxRef<NxNode> m_node;

@@ -71,7 +71,7 @@ public:
         node->matrix.setValue(narrowed(affine()));
         return node;
     }
-    PlaceChange turn(const VbVec3d& pivot) { return PlaceChange::turn(pivot, axis(), number(-6, 6)); }
+    PlacementChange turn(const VbVec3d& pivot) { return PlacementChange::turn(pivot, axis(), number(-6, 6)); }
 
 private:
     std::mt19937 m_random{4711};
@@ -90,7 +90,7 @@ double differenceOf(const Matrix4d& matrix, Where where)
 }
 
 /// How far the node is from where the change takes it.
-double errorOf(const NxNode& node, const Matrix4d& before, const Matrix4d& parent, const PlaceChange& change)
+double errorOf(const NxNode& node, const Matrix4d& before, const Matrix4d& parent, const PlacementChange& change)
 {
     return differenceOf(multiply(localTransformOf(node), parent),
         [&](const VbVec3d& point) { return change.applied(transformPoint(transformPoint(point, before), parent)); });
@@ -119,7 +119,7 @@ private Q_SLOTS:
             for (NxNode* node : {static_cast<NxNode*>(transform.get()), static_cast<NxNode*>(matrix.get())}) {
                 const Matrix4d before = localTransformOf(*node);
                 NodePlacement placement(*node, parent);
-                const PlaceChange change = PlaceChange::move(random.vector(4));
+                const PlacementChange change = PlacementChange::move(random.vector(4));
                 QVERIFY(placement.apply(change));
                 QVERIFY(errorOf(*node, before, parent, change) < 1e-4);
             }
@@ -137,7 +137,7 @@ private Q_SLOTS:
             // About its own pivot, and about any other point, as a node of several does.
             const bool isOwn = round % 2 == 0;
             const VbVec3f translation = node->translation.getValue();
-            const PlaceChange change = random.turn(isOwn ? placement.pivot() : random.vector(5));
+            const PlacementChange change = random.turn(isOwn ? placement.pivot() : random.vector(5));
             QVERIFY(placement.apply(change));
             QVERIFY2(errorOf(*node, before, parent, change) < 1e-3, qPrintable(QString::number(round)));
             if (isOwn)
@@ -153,7 +153,7 @@ private Q_SLOTS:
             const NxRef<NxMatrixTransform> node = random.matrixTransform();
             const Matrix4d before = localTransformOf(*node);
             NodePlacement placement(*node, parent);
-            const PlaceChange change = random.turn(random.vector(5));
+            const PlacementChange change = random.turn(random.vector(5));
             QVERIFY(placement.apply(change));
             if (std::abs(determinant(parent)) > 0.05)
                 QVERIFY(errorOf(*node, before, parent, change) < 1e-3);
@@ -168,7 +168,7 @@ private Q_SLOTS:
             const NxRef<NxTransform> node = random.transform();
             const Matrix4d before = localTransformOf(*node);
             NodePlacement placement(*node, parent);
-            const PlaceChange change = random.turn(placement.pivot());
+            const PlacementChange change = random.turn(placement.pivot());
             QVERIFY(placement.apply(change));
             // What is on the axis stays where it is.
             const VbVec3d onAxis = add(change.pivot, scaled(change.axis, 2));
@@ -194,8 +194,8 @@ private Q_SLOTS:
             const NxRef<NxTransform> node = random.transform();
             const Matrix4d before = localTransformOf(*node);
             NodePlacement placement(*node, parent);
-            const PlaceChange change
-                = PlaceChange::scale(placement.pivot(), placement.ownAxes(), VbVec3d(random.scale()));
+            const PlacementChange change
+                = PlacementChange::scale(placement.pivot(), placement.ownAxes(), VbVec3d(random.scale()));
             QVERIFY(placement.apply(change));
             QVERIFY(errorOf(*node, before, parent, change) < 1e-3);
         }
@@ -209,13 +209,13 @@ private Q_SLOTS:
             const NxRef<NxTransform> transform = random.transform();
             const NxRef<NxMatrixTransform> matrix = random.matrixTransform();
             const double factor = random.number(-2, 2);
-            const PlaceChange even = PlaceChange::scale(
+            const PlacementChange even = PlacementChange::scale(
                 random.vector(5), NodePlacement(*transform, parent).parentAxes(), VbVec3d(factor, factor, factor));
             const Matrix4d before = localTransformOf(*transform);
             QVERIFY(NodePlacement(*transform, parent).apply(even));
             QVERIFY(errorOf(*transform, before, parent, even) < 1e-3);
 
-            const PlaceChange uneven = PlaceChange::scale(
+            const PlacementChange uneven = PlacementChange::scale(
                 random.vector(5), NodePlacement(*matrix, parent).parentAxes(), VbVec3d(random.scale()));
             const Matrix4d beforeMatrix = localTransformOf(*matrix);
             QVERIFY(NodePlacement(*matrix, parent).apply(uneven));
@@ -235,9 +235,9 @@ private Q_SLOTS:
         other->rotation.setValue(node->rotation.getValue());
         NodePlacement dragged(*node, parent);
         for (int step = 1; step <= 1000; ++step)
-            QVERIFY(dragged.apply(PlaceChange::turn(dragged.pivot(), VbVec3d(0, 1, 0), step * 0.01)));
+            QVERIFY(dragged.apply(PlacementChange::turn(dragged.pivot(), VbVec3d(0, 1, 0), step * 0.01)));
         NodePlacement once(*other, parent);
-        QVERIFY(once.apply(PlaceChange::turn(once.pivot(), VbVec3d(0, 1, 0), 10)));
+        QVERIFY(once.apply(PlacementChange::turn(once.pivot(), VbVec3d(0, 1, 0), 10)));
         QVERIFY(differenceOf(localTransformOf(*node), [&](const VbVec3d& point) {
             return transformPoint(point, localTransformOf(*other));
         }) < 1e-5);
@@ -254,7 +254,7 @@ private Q_SLOTS:
         NodePlacement placement(*node, parent);
         QVERIFY(placement.apply(random.turn(VbVec3d(9, 9, 9))));
         QVERIFY(!(node->rotation.getValue() == rotation));
-        QVERIFY(placement.apply(PlaceChange::scale(VbVec3d(), placement.ownAxes(), VbVec3d(2, 3, 4))));
+        QVERIFY(placement.apply(PlacementChange::scale(VbVec3d(), placement.ownAxes(), VbVec3d(2, 3, 4))));
         placement.restore();
         QCOMPARE(node->rotation.getValue(), rotation);
         QCOMPARE(node->translation.getValue(), translation);
@@ -266,10 +266,10 @@ private Q_SLOTS:
         const NxRef<NxTransform> node(new NxTransform);
         node->rotation.setValue(VbRotation(VbVec3f(0, 1, 0), 0.5F));
         NodePlacement placement(*node, Matrix4d());
-        QVERIFY(placement.apply(PlaceChange::turn(VbVec3d(), VbVec3d(0, 1, 0), -1.25)));
+        QVERIFY(placement.apply(PlacementChange::turn(VbVec3d(), VbVec3d(0, 1, 0), -1.25)));
         QVERIFY(length(subtract(VbVec3d(node->rotation.getValue().getAxis()), VbVec3d(0, 1, 0))) < 1e-6);
         QVERIFY(std::abs(node->rotation.getValue().getAngle() + 0.75F) < 1e-6F);
-        QVERIFY(placement.apply(PlaceChange::turn(VbVec3d(), VbVec3d(0, 1, 0), -0.5)));
+        QVERIFY(placement.apply(PlacementChange::turn(VbVec3d(), VbVec3d(0, 1, 0), -0.5)));
         QCOMPARE(node->rotation.getValue(), VbRotation(VbVec3f(0, 1, 0), 0));
     }
 
@@ -280,11 +280,11 @@ private Q_SLOTS:
         const NxRef<NxTransform> node(new NxTransform);
         node->translation.setValue(VbVec3f(1, 2, 3));
         NodePlacement placement(*node, parent);
-        QVERIFY(placement.apply(PlaceChange::move(VbVec3d(0.001, 0, -0.002))));
+        QVERIFY(placement.apply(PlacementChange::move(VbVec3d(0.001, 0, -0.002))));
         QVERIFY(length(subtract(VbVec3d(node->translation.getValue()), VbVec3d(1.001, 2, 2.998))) < 1e-6);
         const VbVec3d beside = add(placement.pivot(), VbVec3d(1, 0, 0));
         placement.restore();
-        QVERIFY(placement.apply(PlaceChange::turn(beside, VbVec3d(0, 0, 1), std::numbers::pi)));
+        QVERIFY(placement.apply(PlacementChange::turn(beside, VbVec3d(0, 0, 1), std::numbers::pi)));
         QVERIFY(length(subtract(VbVec3d(node->translation.getValue()), VbVec3d(3.002, 2, 3))) < 1e-5);
     }
 
@@ -300,7 +300,7 @@ private Q_SLOTS:
             camera->orientation.setValue(random.rotation());
             NodePlacement lamp(*spot, parent);
             NodePlacement eye(*camera, parent);
-            const PlaceChange change = random.turn(random.vector(4));
+            const PlacementChange change = random.turn(random.vector(4));
             const VbVec3d from = lamp.pivot();
             const VbVec3d along = direction(spot->direction.getValue(), parent);
             const VbVec3d sight = scaled(eye.ownAxes()[2], -1);
@@ -316,7 +316,7 @@ private Q_SLOTS:
 
     void saysWhatCanBeDone()
     {
-        using Kind = PlaceChange::Kind;
+        using Kind = PlacementChange::Kind;
         const auto abilities = [](NxNode* node) {
             const NxRef<NxNode> held(node);
             return std::vector<bool>{NodePlacement::can(*node, Kind::Move), NodePlacement::can(*node, Kind::Turn),
@@ -342,17 +342,17 @@ private Q_SLOTS:
         const NxRef<NxTransform> node(new NxTransform);
         Matrix4d flat;
         flat[1][1] = 0;
-        QVERIFY(!NodePlacement(*node, flat).apply(PlaceChange::move(VbVec3d(1, 1, 1))));
+        QVERIFY(!NodePlacement(*node, flat).apply(PlacementChange::move(VbVec3d(1, 1, 1))));
         const double nothing = std::numeric_limits<double>::quiet_NaN();
-        QVERIFY(!NodePlacement(*node, Matrix4d()).apply(PlaceChange::move(VbVec3d(nothing, 0, 0))));
-        QVERIFY(!NodePlacement(*node, Matrix4d()).apply(PlaceChange::move(VbVec3d(1e300, 0, 0))));
+        QVERIFY(!NodePlacement(*node, Matrix4d()).apply(PlacementChange::move(VbVec3d(nothing, 0, 0))));
+        QVERIFY(!NodePlacement(*node, Matrix4d()).apply(PlacementChange::move(VbVec3d(1e300, 0, 0))));
         QVERIFY(!NodePlacement(*node, Matrix4d())
-                     .apply(PlaceChange::scale(
+                     .apply(PlacementChange::scale(
                          VbVec3d(), NodePlacement(*node, Matrix4d()).ownAxes(), VbVec3d(1, nothing, 1))));
         QCOMPARE(node->translation.getValue(), VbVec3f());
         QCOMPARE(node->scaleFactor.getValue(), VbVec3f(1, 1, 1));
         const NxRef<NxMatrixTransform> matrix(new NxMatrixTransform);
-        QVERIFY(!NodePlacement(*matrix, Matrix4d()).apply(PlaceChange::move(VbVec3d(0, nothing, 0))));
+        QVERIFY(!NodePlacement(*matrix, Matrix4d()).apply(PlacementChange::move(VbVec3d(0, nothing, 0))));
         QCOMPARE(matrix->matrix.getValue(), VbMatrix());
     }
 };

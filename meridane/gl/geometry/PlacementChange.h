@@ -8,7 +8,7 @@
 namespace meridane {
 
 /// How something is moved, turned or scaled in a scene. All vectors are in the scene's own units and axes.
-struct PlaceChange {
+struct PlacementChange {
     enum class Kind { Move, Turn, Scale };
 
     Kind kind = Kind::Move;
@@ -19,9 +19,9 @@ struct PlaceChange {
     std::array<VbVec3d, 3> axes{VbVec3d(1, 0, 0), VbVec3d(0, 1, 0), VbVec3d(0, 0, 1)}; ///< of a scale, independent
     VbVec3d factors{1, 1, 1}; ///< of a scale, along the three axes
 
-    [[nodiscard]] static PlaceChange move(const VbVec3d& distance);
-    [[nodiscard]] static PlaceChange turn(const VbVec3d& pivot, const VbVec3d& axis, double angle);
-    [[nodiscard]] static PlaceChange scale(
+    [[nodiscard]] static PlacementChange move(const VbVec3d& distance);
+    [[nodiscard]] static PlacementChange turn(const VbVec3d& pivot, const VbVec3d& axis, double angle);
+    [[nodiscard]] static PlacementChange scale(
         const VbVec3d& pivot, const std::array<VbVec3d, 3>& axes, const VbVec3d& factors);
 
     /// What the change does to directions and distances; the translation is 0.

@@ -1,4 +1,4 @@
-#include "meridane/gl/geometry/PlaceChange.h"
+#include "meridane/gl/geometry/PlacementChange.h"
 
 #include "meridane/gl/geometry/MatrixMath.h"
 
@@ -6,16 +6,16 @@
 
 namespace meridane {
 
-PlaceChange PlaceChange::move(const VbVec3d& distance)
+PlacementChange PlacementChange::move(const VbVec3d& distance)
 {
-    PlaceChange change;
+    PlacementChange change;
     change.distance = distance;
     return change;
 }
 
-PlaceChange PlaceChange::turn(const VbVec3d& pivot, const VbVec3d& axis, double angle)
+PlacementChange PlacementChange::turn(const VbVec3d& pivot, const VbVec3d& axis, double angle)
 {
-    PlaceChange change;
+    PlacementChange change;
     change.kind = Kind::Turn;
     change.pivot = pivot;
     change.axis = axis;
@@ -23,9 +23,9 @@ PlaceChange PlaceChange::turn(const VbVec3d& pivot, const VbVec3d& axis, double 
     return change;
 }
 
-PlaceChange PlaceChange::scale(const VbVec3d& pivot, const std::array<VbVec3d, 3>& axes, const VbVec3d& factors)
+PlacementChange PlacementChange::scale(const VbVec3d& pivot, const std::array<VbVec3d, 3>& axes, const VbVec3d& factors)
 {
-    PlaceChange change;
+    PlacementChange change;
     change.kind = Kind::Scale;
     change.pivot = pivot;
     change.axes = axes;
@@ -33,7 +33,7 @@ PlaceChange PlaceChange::scale(const VbVec3d& pivot, const std::array<VbVec3d, 3
     return change;
 }
 
-Matrix4d PlaceChange::linear() const
+Matrix4d PlacementChange::linear() const
 {
     if (kind == Kind::Move)
         return {};
@@ -54,7 +54,7 @@ Matrix4d PlaceChange::linear() const
     return multiply(multiply(inverse(fromAxes).value_or(Matrix4d()), scale), fromAxes);
 }
 
-VbVec3d PlaceChange::applied(const VbVec3d& point) const
+VbVec3d PlacementChange::applied(const VbVec3d& point) const
 {
     if (kind == Kind::Move)
         return add(point, distance);
