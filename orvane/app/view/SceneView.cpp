@@ -45,7 +45,7 @@ SceneView::SceneView(QWidget* parent)
               const std::optional<NxRayHit> hit = hitAt(position);
               return hit ? std::optional(hit->point) : std::nullopt;
           })
-    , m_input(*this, m_navigation, [this] { noteMove(); })
+    , m_input(*this, m_navigation, inputHooks())
 {
     setObjectName(QStringLiteral("sceneView"));
     setAccessibleName(tr("View"));
@@ -62,6 +62,22 @@ SceneView::SceneView(QWidget* parent)
 }
 
 SceneView::~SceneView() = default;
+
+ViewInput::Hooks SceneView::inputHooks()
+{
+    ViewInput::Hooks hooks;
+    hooks.hasScene = [this] { return static_cast<bool>(m_scene); };
+    hooks.hitAt = [this](const QPointF& position) { return hitAt(position); };
+    hooks.moved = [this] { noteMove(); };
+    hooks.picked = [this](const std::optional<NxRayHit>& hit) {
+        if (hit)
+            Q_EMIT picked(hit->path, hit->point);
+        else
+            Q_EMIT pickedNothing();
+    };
+    hooks.menuRequested = [this](const QPoint& place) { Q_EMIT menuRequested(place); };
+    return hooks;
+}
 
 void SceneView::start()
 {

@@ -51,7 +51,7 @@ public:
     void setViewpoint(const NxViewpoint& viewpoint);
     /// Whether the user has left the viewpoint that shows all.
     [[nodiscard]] bool hasMoved() const noexcept { return m_hasMoved; }
-    /// What a click there would pick, or nothing.
+    /// What of the scene is seen there, or nothing.
     [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const;
     void frameAll();
     /// Frames the selected node, or the nearest node above it that has an extent; the whole scene when nothing is
@@ -93,6 +93,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    [[nodiscard]] ViewInput::Hooks inputHooks();
     void redraw(const QSize& deviceSize);
     void showAll();
     void redrawLater();

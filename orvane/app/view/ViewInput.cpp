@@ -1,6 +1,5 @@
 #include "orvane/app/view/ViewInput.h"
 
-#include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/ViewNavigation.h"
 #include "orvane/app/view/ViewTool.h"
 
@@ -10,14 +9,15 @@
 #include <QMouseEvent>
 #include <QStyleHints>
 #include <QWheelEvent>
+#include <QWidget>
 
 #include <algorithm>
 #include <utility>
 
-ViewInput::ViewInput(SceneView& view, ViewNavigation& navigation, std::function<void()> moved)
+ViewInput::ViewInput(QWidget& view, ViewNavigation& navigation, Hooks hooks)
     : m_view(view)
     , m_navigation(navigation)
-    , m_moved(std::move(moved))
+    , m_hooks(std::move(hooks))
 {
 }
 
@@ -64,7 +64,7 @@ void ViewInput::mousePress(const QMouseEvent& event)
         m_taker->mousePress(event);
         return;
     }
-    if (m_view.scene() == nullptr || isDragging())
+    if (!m_hooks.hasScene() || isDragging())
         return;
     m_withoutMenu = false;
     if (giveToTools(event))
@@ -85,7 +85,7 @@ void ViewInput::mousePress(const QMouseEvent& event)
 void ViewInput::mouseMove(const QMouseEvent& event)
 {
     if (!isDragging()) {
-        const auto taker = m_view.scene() == nullptr || event.buttons() != Qt::NoButton
+        const auto taker = !m_hooks.hasScene() || event.buttons() != Qt::NoButton
             ? m_tools.end()
             : std::find_if(m_tools.begin(), m_tools.end(), [&](ViewTool* tool) { return tool->mouseMove(event); });
         leaveTools(taker == m_tools.end() ? nullptr : *taker);
@@ -107,7 +107,7 @@ void ViewInput::mouseMove(const QMouseEvent& event)
         m_view.setCursor(
             m_navigation.dragUnderWay() == ViewNavigation::Drag::Pan ? Qt::SizeAllCursor : Qt::ClosedHandCursor);
     m_navigation.drag(event.position());
-    m_moved();
+    m_hooks.moved();
 }
 
 void ViewInput::mouseRelease(const QMouseEvent& event)
@@ -121,7 +121,7 @@ void ViewInput::mouseRelease(const QMouseEvent& event)
     m_navigation.endDrag();
     m_view.unsetCursor();
     if (!m_isMoving && event.button() == Qt::LeftButton)
-        pick(event.position());
+        m_hooks.picked(hitAt(event.position()));
 }
 
 void ViewInput::leave()
@@ -142,46 +142,46 @@ void ViewInput::wheel(const QWheelEvent& event)
 {
     constexpr float notch = 120;
     const auto turned = static_cast<float>(event.angleDelta().y());
-    if (turned == 0 || m_view.scene() == nullptr || m_taker != nullptr)
+    if (turned == 0 || !m_hooks.hasScene() || m_taker != nullptr)
         return;
     m_navigation.zoom(turned / notch, event.position());
-    m_moved();
+    m_hooks.moved();
 }
 
 bool ViewInput::overridesShortcut(const QKeyEvent& event) const
 {
     if (m_taker != nullptr)
         return m_taker->wantsKey(event);
-    return m_view.scene() != nullptr
+    return m_hooks.hasScene()
         && std::any_of(m_tools.begin(), m_tools.end(), [&](const ViewTool* tool) { return tool->wantsKey(event); });
 }
 
 bool ViewInput::keyPress(const QKeyEvent& event)
 {
-    if (m_view.scene() == nullptr)
+    if (!m_hooks.hasScene())
         return false;
     if (m_taker != nullptr)
         return m_taker->keyPress(event);
     if (std::any_of(m_tools.begin(), m_tools.end(), [&](ViewTool* tool) { return tool->keyPress(event); }))
         return true;
     if (m_navigation.pressKey(event)) {
-        m_moved();
+        m_hooks.moved();
         return true;
     }
     if (event.key() != Qt::Key_Escape)
         return false;
-    Q_EMIT m_view.pickedNothing();
+    m_hooks.picked({});
     return true;
 }
 
 void ViewInput::contextMenu(const QContextMenuEvent& event)
 {
     const bool isByKey = event.reason() == QContextMenuEvent::Keyboard;
-    if (m_view.scene() == nullptr || isDragging() || (!isByKey && m_withoutMenu))
+    if (!m_hooks.hasScene() || isDragging() || (!isByKey && m_withoutMenu))
         return;
     if (!isByKey)
-        pick(event.pos());
-    Q_EMIT m_view.menuRequested(isByKey ? m_view.mapToGlobal(m_view.rect().center()) : event.globalPos());
+        m_hooks.picked(hitAt(event.pos()));
+    m_hooks.menuRequested(isByKey ? m_view.mapToGlobal(m_view.rect().center()) : event.globalPos());
 }
 
 void ViewInput::paint(QPainter& painter) const
@@ -190,10 +190,11 @@ void ViewInput::paint(QPainter& painter) const
         m_tools[tool]->paint(painter);
 }
 
-void ViewInput::pick(const QPointF& position)
+std::optional<NxRayHit> ViewInput::hitAt(const QPointF& position) const
 {
-    if (const std::optional<NxRayHit> hit = m_view.hitAt(position))
-        Q_EMIT m_view.picked(hit->path, hit->point);
-    else
-        Q_EMIT m_view.pickedNothing();
+    for (const ViewTool* tool : m_tools) {
+        if (std::optional<NxRayHit> hit = tool->hitAt(position))
+            return hit;
+    }
+    return m_hooks.hitAt(position);
 }

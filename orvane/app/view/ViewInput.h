@@ -1,9 +1,13 @@
 #pragma once
 
+#include "meridane/gl/NxRayPick.h"
+
+#include <QPoint>
 #include <QPointF>
 #include <QtCore/qnamespace.h>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QContextMenuEvent;
@@ -11,7 +15,7 @@ class QKeyEvent;
 class QMouseEvent;
 class QPainter;
 class QWheelEvent;
-class SceneView;
+class QWidget;
 class ViewNavigation;
 class ViewTool;
 
@@ -19,13 +23,29 @@ class ViewTool;
 /// picks.
 class ViewInput {
 public:
-    /// View and navigation outlive this. `moved` is called when the navigation has changed the viewpoint.
-    ViewInput(SceneView& view, ViewNavigation& navigation, std::function<void()> moved);
+    /// What the view does for its input.
+    struct Hooks {
+        std::function<bool()> hasScene;
+        /// What of the scene is seen at a position.
+        std::function<std::optional<NxRayHit>(const QPointF& position)> hitAt;
+        /// The navigation has changed the viewpoint.
+        std::function<void()> moved;
+        /// The user has clicked on something, or on nothing.
+        std::function<void(const std::optional<NxRayHit>& hit)> picked;
+        /// The user wants a menu at that place of the screen.
+        std::function<void(const QPoint& place)> menuRequested;
+    };
+
+    /// View and navigation outlive this.
+    ViewInput(QWidget& view, ViewNavigation& navigation, Hooks hooks);
 
     /// Adds a tool, which is asked before those that were added earlier. It lives as long as
     /// the view, as a child of it does, or is removed before.
     void addTool(ViewTool* tool);
     void removeTool(ViewTool* tool);
+
+    /// What a click at that position would pick: what a tool shows there, else what is seen of the scene.
+    [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const;
 
     /// Ends the drag under way without a result.
     void cancel();
@@ -45,11 +65,10 @@ private:
     [[nodiscard]] bool isDragging() const;
     [[nodiscard]] bool giveToTools(const QMouseEvent& event);
     void leaveTools(const ViewTool* but);
-    void pick(const QPointF& position);
 
-    SceneView& m_view;
+    QWidget& m_view;
     ViewNavigation& m_navigation;
-    std::function<void()> m_moved;
+    Hooks m_hooks;
     std::vector<ViewTool*> m_tools; // the latest first
     ViewTool* m_taker = nullptr; // has the mouse
     QPointF m_pressed;

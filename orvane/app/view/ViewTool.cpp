@@ -27,3 +27,8 @@ bool ViewTool::keyPress(const QKeyEvent& /*event*/)
 }
 
 void ViewTool::paint(QPainter& /*painter*/) const { }
+
+std::optional<NxRayHit> ViewTool::hitAt(const QPointF& /*position*/) const
+{
+    return {};
+}

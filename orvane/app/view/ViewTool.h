@@ -1,5 +1,9 @@
 #pragma once
 
+#include "meridane/gl/NxRayPick.h"
+
+#include <optional>
+
 class QKeyEvent;
 class QMouseEvent;
 class QPainter;
@@ -33,6 +37,8 @@ public:
     /// False for a key that means nothing to the tool.
     virtual bool keyPress(const QKeyEvent& event);
 
+    /// What the tool shows at a position that a click picks before anything of the scene.
+    [[nodiscard]] virtual std::optional<NxRayHit> hitAt(const QPointF& position) const;
     /// Paints over the picture, in points of the screen. Called with each paint; `QWidget::update` requests one.
     virtual void paint(QPainter& painter) const;
 };

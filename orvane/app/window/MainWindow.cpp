@@ -29,6 +29,7 @@
 #include "orvane/app/view/ViewActions.h"
 #include "orvane/app/view/ViewLink.h"
 #include "orvane/app/view/ViewMenu.h"
+#include "orvane/app/view/handles/ViewHandles.h"
 #include "orvane/app/window/CentralArea.h"
 #include "orvane/app/window/ComparisonDock.h"
 #include "orvane/app/window/DiskChangeBar.h"
@@ -245,6 +246,7 @@ void MainWindow::buildMenus()
     enable();
     connect(m_imageFolders, &ImageFolderQuestion::changed, forget, enable);
     connect(forget, &QAction::triggered, m_imageFolders, &ImageFolderQuestion::forgetFolders);
+    viewMenu->append((new ViewHandles(m_session, m_view, m_tree))->menuActions());
     viewMenu->append(m_inspectors->menuActions());
     viewMenu->append({forget});
     viewMenu->update();

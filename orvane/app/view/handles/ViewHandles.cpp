@@ -1,0 +1,193 @@
+#include "orvane/app/view/handles/ViewHandles.h"
+
+#include "orvane/app/fields/values/FieldText.h"
+#include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/NodeSelection.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
+#include "orvane/app/view/SceneView.h"
+#include "orvane/app/view/handles/HandleNote.h"
+#include "orvane/app/view/handles/HandleTool.h"
+#include "orvane/app/view/handles/TransformAboveCommand.h"
+
+#include "meridane/scene/nodes/NxCamera.h"
+#include "meridane/scene/nodes/NxLight.h"
+#include "meridane/scene/nodes/NxMesh.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMenu>
+
+#include <algorithm>
+
+using namespace meridane;
+
+namespace {
+
+const QString kindKey = QStringLiteral("view/handles");
+const QString axesKey = QStringLiteral("view/handleAxes");
+
+/// Whether a transform above the node would move anything.
+bool hasExtent(const NxNode& node)
+{
+    return dynamic_cast<const NxGroup*>(&node) != nullptr || dynamic_cast<const NxMesh*>(&node) != nullptr;
+}
+
+bool needsTransform(const HandleTargets::Path& path)
+{
+    return hasExtent(*path.back()) && !NodePlacement::can(*path.back(), HandleTargets::Kind::Move);
+}
+
+} // namespace
+
+ViewHandles::ViewHandles(Session& session, SceneView* view, SceneTreePanel* tree)
+    : QObject(view)
+    , m_session(session)
+    , m_view(view)
+    , m_tree(tree)
+    , m_tool(new HandleTool(view, tree, session.services()))
+    , m_note(new HandleNote(view))
+    , m_menu(new QMenu(tr("&Handles"), view))
+    , m_kinds(new QActionGroup(this))
+    , m_axes(new QActionGroup(this))
+{
+    m_menu->setObjectName(QStringLiteral("handlesMenu"));
+    addKind({}, "view.handlesNone", tr("&None"), tr("Shows no handles in the view"), Qt::Key_Q);
+    addKind(Kind::Move, "view.handlesMove", tr("&Move"), tr("Shows handles that move what is selected"), Qt::Key_W);
+    addKind(Kind::Turn, "view.handlesTurn", tr("&Turn"), tr("Shows handles that turn what is selected"), Qt::Key_E);
+    addKind(Kind::Scale, "view.handlesScale", tr("&Scale"), tr("Shows handles that scale what is selected"), Qt::Key_R);
+    m_menu->addSeparator();
+    addAxes(HandleAxes::World, "view.axesWorld", tr("&World Axes"), tr("Handles have the axes of the scene"));
+    addAxes(HandleAxes::Parent, "view.axesParent", tr("&Parent Axes"),
+        tr("Handles have the axes of the group above the node that was selected last"));
+    addAxes(HandleAxes::Own, "view.axesOwn", tr("&Own Axes"),
+        tr("Handles have the axes of the node that was selected last"));
+    connect(m_tool, &HandleTool::changed, this, &ViewHandles::showNote);
+    connect(m_tool, &HandleTool::refused, m_note, [this](const QString& reason) { m_note->showText(reason); });
+    connect(m_note, &HandleNote::accepted, this, &ViewHandles::putTransformsAbove);
+}
+
+QList<QAction*> ViewHandles::menuActions() const
+{
+    return {m_menu->menuAction()};
+}
+
+QAction* ViewHandles::addAction(
+    QActionGroup* group, const char* name, const QString& text, const QString& tip, bool isChosen)
+{
+    QAction* const action = m_menu->addAction(text);
+    action->setObjectName(QLatin1String(name));
+    action->setToolTip(tip);
+    action->setStatusTip(tip);
+    action->setCheckable(true);
+    action->setChecked(isChosen);
+    group->addAction(action);
+    return action;
+}
+
+void ViewHandles::addKind(
+    std::optional<Kind> kind, const char* name, const QString& text, const QString& tip, Qt::Key key)
+{
+    const QString value = QLatin1String(name);
+    const bool isChosen = m_session.settings().value(kindKey, QStringLiteral("view.handlesNone")).toString() == value;
+    QAction* const action = addAction(m_kinds, name, text, tip, isChosen);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    m_view->addAction(action);
+    if (isChosen)
+        m_tool->setKind(kind);
+    connect(action, &QAction::triggered, m_tool, [this, kind, value] {
+        m_session.settings().setValue(kindKey, value);
+        m_tool->setKind(kind);
+    });
+}
+
+void ViewHandles::addAxes(HandleAxes axes, const char* name, const QString& text, const QString& tip)
+{
+    const QString value = QLatin1String(name);
+    const bool isChosen = m_session.settings().value(axesKey, QStringLiteral("view.axesWorld")).toString() == value;
+    if (isChosen)
+        m_tool->setAxes(axes);
+    connect(addAction(m_axes, name, text, tip, isChosen), &QAction::triggered, m_tool, [this, axes, value] {
+        m_session.settings().setValue(axesKey, value);
+        m_tool->setAxes(axes);
+    });
+}
+
+QString ViewHandles::reason(const NxNode& node, Kind kind) const
+{
+    if (dynamic_cast<const NxLight*>(&node) != nullptr || dynamic_cast<const NxCamera*>(&node) != nullptr) {
+        if (kind == Kind::Scale)
+            return tr("\"%1\" has no size that could be scaled.");
+        return kind == Kind::Move ? tr("\"%1\" shines from very far away, so it has no place. Turn it with E.")
+                                  : tr("\"%1\" shines into all directions, so it can't be turned. Move it with W.");
+    }
+    if (!hasExtent(node))
+        return tr("\"%1\" has no place in the scene, so it can't be moved. Select what it applies to.");
+    switch (kind) {
+    case Kind::Move:
+        return tr("\"%1\" has no transform that could move it.");
+    case Kind::Turn:
+        return tr("\"%1\" has no transform that could turn it.");
+    case Kind::Scale:
+        return tr("\"%1\" has no transform that could scale it.");
+    }
+    return {};
+}
+
+void ViewHandles::showNote()
+{
+    const HandleTargets& targets = m_tool->targets();
+    if (!m_tool->kind() || targets.isEmpty()) {
+        m_note->showText({});
+        return;
+    }
+    const Kind kind = *m_tool->kind();
+    const auto cannot = [kind](const HandleTargets::Path& path) { return !NodePlacement::can(*path.back(), kind); };
+    const auto count = std::count_if(targets.paths().begin(), targets.paths().end(), cannot);
+    const bool offers = std::any_of(targets.paths().begin(), targets.paths().end(), needsTransform);
+    if (count == 0) {
+        m_note->showText({});
+        return;
+    }
+    const NxNode& last = *targets.last().back();
+    const QString offer = offers ? tr("Put a Transform above") : QString();
+    if (targets.paths().size() == 1)
+        m_note->showText(reason(last, kind).arg(orvane::nodeName(last)), offer);
+    else
+        m_note->showText(tr("%1 of the %2 selected nodes have nothing that could change like that.")
+                             .arg(count)
+                             .arg(targets.paths().size()),
+            offer);
+}
+
+void ViewHandles::putTransformsAbove()
+{
+    // The nodes are held, so that they are there although the selection changes.
+    const std::vector<HandleTargets::Path> paths = m_tool->targets().paths();
+    std::vector<std::vector<NxNode*>> selected;
+    OrvServices& services = m_session.services();
+    services.beginEdit(tr("Put Transform above"));
+    for (const HandleTargets::Path& path : paths) {
+        std::vector<NxNode*> nodes;
+        for (const NxRef<NxNode>& node : path)
+            nodes.push_back(node.get());
+        auto* const group = path.size() > 1 ? dynamic_cast<NxGroup*>(nodes[nodes.size() - 2]) : m_view->scene();
+        const int index = group != nullptr ? group->findChild(nodes.back()) : -1;
+        if (needsTransform(path) && index >= 0) {
+            auto* const command = new TransformAboveCommand(group, index);
+            nodes.back() = command->transform();
+            services.pushCommand(command);
+        }
+        selected.push_back(std::move(nodes));
+    }
+    services.endEdit();
+    QModelIndexList indexes;
+    for (const std::vector<NxNode*>& nodes : selected)
+        indexes.append(m_tree->model()->indexOfPath(nodes));
+    if (indexes.size() == 1)
+        m_tree->select(indexes.front());
+    else
+        m_tree->selection().selectIndexes(indexes);
+    m_view->setFocus();
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "orvane/app/view/handles/HandleTargets.h"
+
+#include <QKeySequence>
+#include <QList>
+#include <QObject>
+
+#include <optional>
+
+class HandleNote;
+class HandleTool;
+class QAction;
+class QActionGroup;
+class QMenu;
+class SceneTreePanel;
+class SceneView;
+class Session;
+
+/// What the user does in the view beside looking: moves nodes by handles. Actions with their keys, kept in the
+/// settings, and the offer to put a transform above a node that has none.
+class ViewHandles : public QObject {
+    Q_OBJECT
+
+public:
+    /// All live as long as the view, which owns this.
+    ViewHandles(Session& session, SceneView* view, SceneTreePanel* tree);
+
+    /// For the View menu.
+    [[nodiscard]] QList<QAction*> menuActions() const;
+
+private:
+    using Kind = HandleTargets::Kind;
+
+    void addKind(std::optional<Kind> kind, const char* name, const QString& text, const QString& tip, Qt::Key key);
+    void addAxes(HandleAxes axes, const char* name, const QString& text, const QString& tip);
+    QAction* addAction(QActionGroup* group, const char* name, const QString& text, const QString& tip, bool isChosen);
+    void showNote();
+    [[nodiscard]] QString reason(const NxNode& node, Kind kind) const;
+    void putTransformsAbove();
+
+    Session& m_session;
+    SceneView* m_view;
+    SceneTreePanel* m_tree;
+    HandleTool* m_tool;
+    HandleNote* m_note;
+    QMenu* m_menu;
+    QActionGroup* m_kinds;
+    QActionGroup* m_axes;
+};
