@@ -187,11 +187,30 @@ void OrvPluginsManager::changeProfile(OrvProfile* profile)
     deactivateExtensions();
     m_activeProfile = profile;
     if (profile != nullptr)
-        profile->resolve(getExtensions());
+        reportMissing(*profile, profile->resolve(getExtensions()));
     shareSettings();
     activateExtensions();
     if (OrvServices* const services = OrvServices::getInstance(); services != nullptr && profile != nullptr)
         services->announceSelection();
+}
+
+// Once for a profile and what it misses, since a profile is applied again for each plug-in that is loaded later.
+void OrvPluginsManager::reportMissing(const OrvProfile& profile, const QStringList& names)
+{
+    const std::pair report(&profile, names);
+    // Without any plug-in the user knows.
+    if (names.isEmpty() || m_reportedMissing == report || m_plugins.empty())
+        return;
+    m_reportedMissing = report;
+    constexpr qsizetype mostNames = 5;
+    QString list = u'"' + names.mid(0, mostNames).join(QStringLiteral("\", \"")) + u'"';
+    if (names.size() > mostNames)
+        list += QStringLiteral(" and %1 more").arg(names.size() - mostNames);
+    const QString text
+        = QStringLiteral("The profile \"%1\" names extensions that no plug-in has: %2. Load their plug-in, "
+                         "or take them out of the profile.")
+              .arg(orvane::toQString(profile.getName()), list);
+    NxDebugError::post(NxDebugError::Warning, orvane::toVbString(text));
 }
 
 void OrvPluginsManager::deactivateExtensions()

@@ -8,6 +8,7 @@
 #include <list>
 #include <memory>
 #include <optional>
+#include <utility>
 
 class OrvExtension;
 class OrvPlugin;
@@ -60,7 +61,7 @@ public:
     /// Makes a profile of the list the active one: deactivates the running extensions in reverse order and activates
     /// those that the profile runs, in the order of registration; then announces the selection again, so that the new
     /// docks show it. A profile that is active already is applied again. Null only deactivates. A profile that isn't in
-    /// the list is ignored.
+    /// the list is ignored. A warning is posted for extensions that the profile names and no plug-in has.
     ///
     /// An extension may call it from one of its own slots, since nothing is destroyed. A call during a change, for
     /// example by an extension that is being activated, takes effect from the event loop; the last such call counts. A
@@ -80,6 +81,7 @@ private:
 
     [[nodiscard]] std::optional<QString> takeIn(const LoadedPlugin& plugin);
     void changeProfile(OrvProfile* profile);
+    void reportMissing(const OrvProfile& profile, const QStringList& names);
     void deactivateExtensions();
     void shareSettings() const;
     void activateExtensions();
@@ -91,6 +93,7 @@ private:
     /// The extensions that the active profile runs, in the order of activation.
     QList<OrvExtension*> m_running;
     OrvProfile* m_activeProfile = nullptr;
+    std::pair<const OrvProfile*, QStringList> m_reportedMissing; // what was said last
     bool m_isChanging = false;
     bool m_isUnloading = false;
     /// The profile of the last call during a change, which may be null.

@@ -115,6 +115,29 @@ private Q_SLOTS:
                   "FieldDock.activate NodeDock.activate ToolBar.activate"));
     }
 
+    void extensionsThatAProfileNamesAndNobodyHasAreToldOnce()
+    {
+        QStringList errors;
+        const auto keep = [](const NxError* error, void* data) {
+            static_cast<QStringList*>(data)->append(QString::fromUtf8(error->getDebugString().toUtf8()));
+        };
+        NxDebugError::setHandlerCallback(keep, &errors);
+        Tool tool;
+        tool.addProfile(u"Other"_s, {{u"Compass"_s, true, {}}, {u"FieldDock"_s, true, {u"Dial"_s}}});
+        tool.run(u"Other"_s);
+        const QStringList withoutPlugins = taken(errors);
+        tool.loadPlugins();
+        tool.run(u"Other"_s);
+        tool.run(u"All"_s);
+        tool.run(u"Other"_s);
+        NxDebugError::setHandlerCallback(nullptr, nullptr);
+        QCOMPARE(withoutPlugins, QStringList());
+        QCOMPARE(errors.size(), 1);
+        QVERIFY2(errors.front().contains(
+                     u"The profile \"Other\" names extensions that no plug-in has: \"Compass\", \"Dial\"."_s),
+            qPrintable(errors.front()));
+    }
+
     void anExtensionHasTheOldSettingWhileItIsDeactivatedAndTheNewOneWhileActivated()
     {
         Tool tool;
