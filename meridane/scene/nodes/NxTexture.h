@@ -36,6 +36,9 @@ public:
         {"role", "What the image changes: the colour, the normals, or metalness (blue) and roughness (green)."},
         roles(), COLOR};
 
+    /// The effective role; a number without a meaning counts as `COLOR`.
+    [[nodiscard]] Role effectiveRole() const;
+
 protected:
     ~NxTexture() override = default;
 

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <span>
+#include <string_view>
 #include <utility>
 
 #include <assimp/GltfMaterial.h>
@@ -19,8 +21,31 @@ namespace {
 // The exponent of the sharpest highlight that a scene can have.
 constexpr float greatestExponent = 128;
 
-// A scene has one texture for each material. Physically based formats use a kind of their own for it.
-constexpr aiTextureType textureTypes[] = {aiTextureType_DIFFUSE, aiTextureType_BASE_COLOR};
+// In glTF one texture has the metalness and the roughness; the library has no type for it.
+constexpr aiTextureType gltfSurfaceType = aiTextureType_UNKNOWN;
+
+/// Where the library keeps the textures of a role. Physically based formats use kinds of their own.
+std::span<const aiTextureType> typesOf(NxTexture::Role role)
+{
+    static constexpr aiTextureType colors[] = {aiTextureType_DIFFUSE, aiTextureType_BASE_COLOR};
+    static constexpr aiTextureType normals[] = {aiTextureType_NORMALS, aiTextureType_NORMAL_CAMERA};
+    static constexpr aiTextureType surfaces[] = {gltfSurfaceType};
+    switch (role) {
+    case NxTexture::NORMAL:
+        return normals;
+    case NxTexture::METAL_ROUGHNESS:
+        return surfaces;
+    case NxTexture::COLOR:
+        break;
+    }
+    return colors;
+}
+
+bool isGltf(const aiMaterial& material)
+{
+    aiString mode;
+    return material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) == aiReturn_SUCCESS;
+}
 
 bool takeColor(const aiMaterial& material, NxSFColor& field, const char* key, unsigned int type, unsigned int index)
 {
@@ -31,9 +56,11 @@ bool takeColor(const aiMaterial& material, NxSFColor& field, const char* key, un
     return true;
 }
 
-aiTextureType textureTypeOf(const aiMaterial& material)
+aiTextureType textureTypeOf(const aiMaterial& material, NxTexture::Role role)
 {
-    for (const aiTextureType type : textureTypes) {
+    if (role == NxTexture::METAL_ROUGHNESS && !isGltf(material))
+        return aiTextureType_NONE;
+    for (const aiTextureType type : typesOf(role)) {
         if (material.GetTextureCount(type) > 0)
             return type;
     }
@@ -71,10 +98,52 @@ void removeOpacity(Picture& picture)
     --picture.components;
 }
 
+void takeSurface(const aiMaterial& material, NxMaterial& target)
+{
+    float value = 0;
+    // The library also states metalness and roughness, without a meaning, beside the glossiness of an older extension.
+    if (material.Get(AI_MATKEY_GLOSSINESS_FACTOR, value) != aiReturn_SUCCESS) {
+        if (material.Get(AI_MATKEY_METALLIC_FACTOR, value) == aiReturn_SUCCESS)
+            target.metalness.setValue(std::clamp(value, 0.0F, 1.0F));
+        if (material.Get(AI_MATKEY_ROUGHNESS_FACTOR, value) == aiReturn_SUCCESS)
+            target.roughness.setValue(std::clamp(value, 0.0F, 1.0F));
+    }
+    aiString mode;
+    if (material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) != aiReturn_SUCCESS)
+        return;
+    int isDoubleSided = 1;
+    if (material.Get(AI_MATKEY_TWOSIDED, isDoubleSided) == aiReturn_SUCCESS)
+        target.doubleSided.setValue(isDoubleSided);
+    if (viewOf(mode) == "MASK" && material.Get(AI_MATKEY_GLTF_ALPHACUTOFF, value) == aiReturn_SUCCESS)
+        target.alphaCutoff.setValue(std::clamp(value, 0.0F, 1.0F));
+}
+
 aiColor3D toAiColor(const NxSFColor& field)
 {
     const VbColor& color = field.getValue();
     return {color[0], color[1], color[2]};
+}
+
+void setSurface(aiMaterial& target, const NxMaterial& look, bool hasSurfaceMap)
+{
+    // Without metalness and roughness, the library makes them from specular colour and shininess where it needs them.
+    // With a specular colour, it declares that they have no meaning.
+    if (hasSurfaceMap || !look.metalness.isDefault() || !look.roughness.isDefault()) {
+        const float metalness = look.metalness.getValue();
+        const float roughness = look.roughness.getValue();
+        target.AddProperty(&metalness, 1, AI_MATKEY_METALLIC_FACTOR);
+        target.AddProperty(&roughness, 1, AI_MATKEY_ROUGHNESS_FACTOR);
+    } else {
+        const aiColor3D specular = toAiColor(look.specularColor);
+        target.AddProperty(&specular, 1, AI_MATKEY_COLOR_SPECULAR);
+    }
+    const bool isDoubleSided = look.doubleSided.getValue() != 0;
+    target.AddProperty(&isDoubleSided, 1, AI_MATKEY_TWOSIDED);
+    if (const float cutoff = look.alphaCutoff.getValue(); cutoff > 0) {
+        const aiString mode = toAiText(std::string_view("MASK"));
+        target.AddProperty(&mode, AI_MATKEY_GLTF_ALPHAMODE);
+        target.AddProperty(&cutoff, 1, AI_MATKEY_GLTF_ALPHACUTOFF);
+    }
 }
 
 } // namespace
@@ -95,40 +164,39 @@ NxRef<NxMaterial> toMaterial(const aiMaterial& material)
         result->shininess.setValue(std::clamp(value / greatestExponent, 0.0F, 1.0F));
     if (material.Get(AI_MATKEY_OPACITY, value) == aiReturn_SUCCESS)
         result->transparency.setValue(std::clamp(1 - value, 0.0F, 1.0F));
+    takeSurface(material, *result);
     return result;
 }
 
-std::string texturePath(const aiMaterial& material)
+std::string texturePath(const aiMaterial& material, NxTexture::Role role)
 {
     aiString path;
-    if (material.GetTexture(textureTypeOf(material), 0, &path) != aiReturn_SUCCESS)
+    if (material.GetTexture(textureTypeOf(material, role), 0, &path) != aiReturn_SUCCESS)
         return {};
     std::string result(path.data, path.length);
     std::replace(result.begin(), result.end(), '\\', '/');
     return result;
 }
 
-int textureWrap(const aiMaterial& material, int axis)
+int textureWrap(const aiMaterial& material, int axis, NxTexture::Role role)
 {
     const char* key = axis == 0 ? _AI_MATKEY_MAPPINGMODE_U_BASE : _AI_MATKEY_MAPPINGMODE_V_BASE;
     int mode = aiTextureMapMode_Wrap;
-    material.Get(key, static_cast<unsigned int>(textureTypeOf(material)), 0, mode);
+    material.Get(key, static_cast<unsigned int>(textureTypeOf(material, role)), 0, mode);
     return mode == aiTextureMapMode_Clamp || mode == aiTextureMapMode_Decal ? NxTexture::CLAMP : NxTexture::REPEAT;
 }
 
-TextureMapping textureMapping(const aiMaterial& material)
+TextureMapping textureMapping(const aiMaterial& material, NxTexture::Role role)
 {
     TextureMapping mapping;
-    const aiTextureType type = textureTypeOf(material);
+    const aiTextureType type = textureTypeOf(material, role);
     int channel = 0;
     if (material.Get(AI_MATKEY_UVWSRC(type, 0), channel) == aiReturn_SUCCESS && channel > 0
         && channel < AI_MAX_NUMBER_OF_TEXTURECOORDS)
         mapping.channel = static_cast<unsigned int>(channel);
     aiUVTransform given;
-    aiString mode;
     // Of the formats that have one, only glTF defines it well.
-    if (material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) != aiReturn_SUCCESS
-        || material.Get(AI_MATKEY_UVTRANSFORM(type, 0), given) != aiReturn_SUCCESS)
+    if (!isGltf(material) || material.Get(AI_MATKEY_UVTRANSFORM(type, 0), given) != aiReturn_SUCCESS)
         return mapping;
     // The library turns about the middle of the image, with v upwards; here are the numbers of the file.
     const float cosine = std::cos(-given.mRotation);
@@ -142,14 +210,15 @@ TextureMapping textureMapping(const aiMaterial& material)
     return mapping;
 }
 
-NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model)
+NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model, NxTexture::Role role)
 {
-    const std::string path = texturePath(material);
+    const std::string path = texturePath(material, role);
     if (path.empty())
         return {};
     NxRef<NxTexture> result = new NxTexture;
-    result->wrapS.setValue(textureWrap(material, 0));
-    result->wrapT.setValue(textureWrap(material, 1));
+    result->wrapS.setValue(textureWrap(material, 0, role));
+    result->wrapT.setValue(textureWrap(material, 1, role));
+    result->role.setValue(role);
     const aiTexture* embedded = model.GetEmbeddedTexture(path.c_str());
     if (embedded == nullptr) {
         result->filePath.setValue(VbString(std::string_view(path)));
@@ -162,7 +231,7 @@ NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model)
     else
         result->setName(name);
     if (std::optional<Picture> picture = pictureOf(*embedded)) {
-        if (isDeclaredOpaque(material))
+        if (role == NxTexture::COLOR && isDeclaredOpaque(material))
             removeOpacity(*picture);
         const VbVec2s size(static_cast<short>(picture->width), static_cast<short>(picture->height));
         result->image.setValue(size, picture->components, std::move(picture->bytes));
@@ -170,24 +239,23 @@ NxRef<NxTexture> toTexture(const aiMaterial& material, const aiScene& model)
     return result;
 }
 
-void setMaterial(aiMaterial& target, const NxMaterial* material)
+void setMaterial(aiMaterial& target, const NxMaterial* material, bool hasSurfaceMap)
 {
     const NxRef<const NxMaterial> look = material != nullptr ? material : new NxMaterial;
     const aiString name
         = toAiText(look->getName().isEmpty() ? std::string_view(AI_DEFAULT_MATERIAL_NAME) : look->getName().view());
     const aiColor3D ambient = toAiColor(look->ambientColor);
     const aiColor3D diffuse = toAiColor(look->diffuseColor);
-    const aiColor3D specular = toAiColor(look->specularColor);
     const aiColor3D emissive = toAiColor(look->emissiveColor);
     const float exponent = look->shininess.getValue() * greatestExponent;
     const float opacity = 1 - look->transparency.getValue();
     target.AddProperty(&name, AI_MATKEY_NAME);
     target.AddProperty(&ambient, 1, AI_MATKEY_COLOR_AMBIENT);
     target.AddProperty(&diffuse, 1, AI_MATKEY_COLOR_DIFFUSE);
-    target.AddProperty(&specular, 1, AI_MATKEY_COLOR_SPECULAR);
     target.AddProperty(&emissive, 1, AI_MATKEY_COLOR_EMISSIVE);
     target.AddProperty(&exponent, 1, AI_MATKEY_SHININESS);
     target.AddProperty(&opacity, 1, AI_MATKEY_OPACITY);
+    setSurface(target, *look, hasSurfaceMap);
 }
 
 void setTexture(aiMaterial& target, const NxTexture& texture, const std::string& path)
@@ -198,9 +266,10 @@ void setTexture(aiMaterial& target, const NxTexture& texture, const std::string&
     };
     const int across = mode(texture.wrapS);
     const int upwards = mode(texture.wrapT);
-    target.AddProperty(&text, AI_MATKEY_TEXTURE_DIFFUSE(0));
-    target.AddProperty(&across, 1, AI_MATKEY_MAPPINGMODE_U_DIFFUSE(0));
-    target.AddProperty(&upwards, 1, AI_MATKEY_MAPPINGMODE_V_DIFFUSE(0));
+    const aiTextureType type = typesOf(texture.effectiveRole()).front();
+    target.AddProperty(&text, AI_MATKEY_TEXTURE(type, 0));
+    target.AddProperty(&across, 1, AI_MATKEY_MAPPINGMODE_U(type, 0));
+    target.AddProperty(&upwards, 1, AI_MATKEY_MAPPINGMODE_V(type, 0));
 }
 
 } // namespace orvane

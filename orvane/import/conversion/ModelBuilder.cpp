@@ -117,7 +117,7 @@ void ModelBuilder::addChildren(Node& node, const NxGroup& group, Look look)
         if (const auto* material = dynamic_cast<const NxMaterial*>(child))
             look.material = material;
         else if (const auto* texture = dynamic_cast<const NxTexture*>(child))
-            look.texture = texture;
+            look.textures[texture->effectiveRole()] = texture;
         else if (const auto* mesh = dynamic_cast<const NxMesh*>(child))
             addMesh(node, *mesh, look);
         else if (const auto* light = dynamic_cast<const NxLight*>(child))
@@ -214,10 +214,12 @@ unsigned int ModelBuilder::materialIndex(const Look& look)
     const auto [place, isNew] = m_materialIndices.try_emplace(look, static_cast<unsigned int>(m_materials.size()));
     if (isNew) {
         aiMaterial& made = *m_materials.emplace_back(std::make_unique<aiMaterial>());
-        setMaterial(made, look.material);
-        const std::string path = look.texture == nullptr ? std::string() : picturePath(*look.texture);
-        if (!path.empty())
-            setTexture(made, *look.texture, path);
+        setMaterial(made, look.material, look.textures[NxTexture::METAL_ROUGHNESS] != nullptr);
+        for (const NxTexture* texture : look.textures) {
+            const std::string path = texture == nullptr ? std::string() : picturePath(*texture);
+            if (!path.empty())
+                setTexture(made, *texture, path);
+        }
     }
     return place->second;
 }

@@ -7,6 +7,7 @@
 #include "meridane/scene/nodes/NxMesh.h"
 #include "meridane/scene/nodes/NxTexture.h"
 
+#include <array>
 #include <map>
 #include <memory>
 #include <string>
@@ -45,11 +46,11 @@ private:
     /// What applies to the next mesh.
     struct Look {
         const NxMaterial* material = nullptr;
-        const NxTexture* texture = nullptr;
+        std::array<const NxTexture*, NxTexture::roleCount> textures{}; // by role
 
         friend bool operator<(const Look& a, const Look& b)
         {
-            return std::tie(a.material, a.texture) < std::tie(b.material, b.texture);
+            return std::tie(a.material, a.textures) < std::tie(b.material, b.textures);
         }
     };
     /// A node of the model while it is being built.

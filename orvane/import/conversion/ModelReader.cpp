@@ -7,6 +7,7 @@
 #include "orvane/import/mending/ObjMending.h"
 #include "orvane/import/mending/PivotFolding.h"
 #include "orvane/import/mending/RestPose.h"
+#include "orvane/import/mending/SideMending.h"
 #include "orvane/import/mending/SpaceConversion.h"
 #include "orvane/import/sandbox/Sanitizer.h"
 
@@ -155,6 +156,7 @@ bool ModelReader::mend(aiScene& model, std::string& error)
     mendModel(model, m_warnings);
     mendVertexColors(model, m_colorStorage, m_warnings);
     mendMaterials(model, m_warnings);
+    mendSides(model);
     foldPivots(*model.mRootNode);
     m_note = convertSpace(model, m_options.space);
     // Nodes alone may be meant.

@@ -17,6 +17,7 @@
 #include <array>
 #include <cmath>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -45,6 +46,7 @@ SceneBuilder::SceneBuilder(
     , m_meshGroups(model.mNumMeshes)
     , m_materials(model.mNumMaterials)
     , m_isGltf(hasSourceFormat(model, "glTF2"))
+    , m_isCollada(hasSourceFormat(model, "Collada"))
 {
     for (const aiLight* light : listOf(model.mLights, model.mNumLights))
         m_lights[viewOf(light->mName)].push_back(light);
@@ -178,9 +180,7 @@ NxRef<NxGroup> SceneBuilder::meshGroup(unsigned int index)
     TextureMapping mapping;
     if (mesh.mMaterialIndex < m_materials.size()) {
         group->addChild(material(mesh.mMaterialIndex).get());
-        if (const NxRef<NxTexture> picture = texture(mesh.mMaterialIndex))
-            group->addChild(picture.get());
-        mapping = textureMapping(*m_model.mMaterials[mesh.mMaterialIndex]);
+        mapping = addTextures(*group, mesh.mMaterialIndex);
     }
     group->addChild(toMesh(mesh, mapping).get());
     return group;
@@ -194,16 +194,39 @@ NxRef<NxMaterial> SceneBuilder::material(unsigned int index)
     return result;
 }
 
-NxRef<NxTexture> SceneBuilder::texture(unsigned int materialIndex)
+TextureMapping SceneBuilder::addTextures(NxGroup& group, unsigned int materialIndex)
 {
     const aiMaterial& material = *m_model.mMaterials[materialIndex];
-    const std::string path = texturePath(material);
+    std::optional<TextureMapping> mapping;
+    for (const NxTexture::Role role : {NxTexture::COLOR, NxTexture::NORMAL, NxTexture::METAL_ROUGHNESS}) {
+        // What that format has there may as well be heights.
+        const bool isUnclear = role == NxTexture::NORMAL && m_isCollada;
+        const NxRef<NxTexture> picture = isUnclear ? NxRef<NxTexture>() : texture(materialIndex, role);
+        if (!picture)
+            continue;
+        // A mesh has one list of texture coordinates.
+        const TextureMapping own = textureMapping(material, role);
+        if (mapping && !mapping->isLike(own)) {
+            m_warnings.add("left out further textures that are placed in another way in the materials",
+                toName(material.GetName()).view());
+            continue;
+        }
+        mapping = own;
+        group.addChild(picture.get());
+    }
+    return mapping.value_or(TextureMapping());
+}
+
+NxRef<NxTexture> SceneBuilder::texture(unsigned int materialIndex, NxTexture::Role role)
+{
+    const aiMaterial& material = *m_model.mMaterials[materialIndex];
+    const std::string path = texturePath(material, role);
     if (path.empty())
         return {};
-    NxRef<NxTexture>& result
-        = m_textures[{path, textureWrap(material, 0), textureWrap(material, 1), isDeclaredOpaque(material)}];
+    NxRef<NxTexture>& result = m_textures[{
+        path, textureWrap(material, 0, role), textureWrap(material, 1, role), isDeclaredOpaque(material), role}];
     if (!result) {
-        result = toTexture(material, m_model);
+        result = toTexture(material, m_model, role);
         findImage(*result);
     }
     return result;

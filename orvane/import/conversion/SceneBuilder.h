@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orvane/import/conversion/TextureMapping.h"
 #include "orvane/import/conversion/TextureSearch.h"
 #include "orvane/import/mending/ImportOptions.h"
 #include "orvane/import/mending/ImportWarnings.h"
@@ -54,10 +55,12 @@ private:
 
     [[nodiscard]] NxRef<NxGroup> meshGroup(unsigned int index);
     [[nodiscard]] NxRef<NxMaterial> material(unsigned int index);
-    [[nodiscard]] NxRef<NxTexture> texture(unsigned int materialIndex);
+    /// Adds the textures of a material to a group. Returns how they are placed on the surface.
+    TextureMapping addTextures(NxGroup& group, unsigned int materialIndex);
+    [[nodiscard]] NxRef<NxTexture> texture(unsigned int materialIndex, NxTexture::Role role);
     void findImage(NxTexture& texture);
 
-    using TextureKey = std::tuple<std::string, int, int, bool>; // path, wraps, whether it is opaque
+    using TextureKey = std::tuple<std::string, int, int, bool, NxTexture::Role>; // path, wraps, whether it is opaque
 
     const aiScene& m_model;
     ImportOptions m_options;
@@ -70,6 +73,7 @@ private:
     std::vector<NxRef<NxMaterial>> m_materials; // as the model's materials, made when used
     std::map<TextureKey, NxRef<NxTexture>> m_textures;
     bool m_isGltf = false;
+    bool m_isCollada = false;
 };
 
 } // namespace orvane

@@ -10,6 +10,14 @@ struct TextureMapping {
     unsigned int channel = 0;
     aiVector3D across{1, 0, 0};
     aiVector3D upwards{0, 1, 0};
+
+    /// Whether both place a texture alike, but for rounding.
+    [[nodiscard]] bool isLike(const TextureMapping& other) const
+    {
+        constexpr float rounding = 1e-5F;
+        return channel == other.channel && across.Equal(other.across, rounding)
+            && upwards.Equal(other.upwards, rounding);
+    }
 };
 
 } // namespace orvane

@@ -97,6 +97,15 @@ void lightenTextured(aiMaterial& material)
     material.AddProperty(&color, 1, AI_MATKEY_COLOR_DIFFUSE);
 }
 
+// The library makes a roughness from the shininess of that format, which has its own meaning here.
+void removeMadeUpSurfaces(const aiScene& model)
+{
+    for (aiMaterial* material : listOf(model.mMaterials, model.mNumMaterials)) {
+        material->RemoveProperty(AI_MATKEY_METALLIC_FACTOR);
+        material->RemoveProperty(AI_MATKEY_ROUGHNESS_FACTOR);
+    }
+}
+
 // The format has the opacity of an opaque surface without a meaning.
 void makeOpaque(aiScene& model)
 {
@@ -120,7 +129,11 @@ void makeOpaque(aiScene& model)
 bool isDeclaredOpaque(const aiMaterial& material)
 {
     aiString mode;
-    return material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) == aiReturn_SUCCESS && viewOf(mode) == "OPAQUE";
+    if (material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) != aiReturn_SUCCESS)
+        return false;
+    float cutoff = 0;
+    const bool cutsOff = material.Get(AI_MATKEY_GLTF_ALPHACUTOFF, cutoff) == aiReturn_SUCCESS && cutoff > 0;
+    return viewOf(mode) == "OPAQUE" || (viewOf(mode) == "MASK" && !cutsOff);
 }
 
 void mendMaterials(aiScene& model, ImportWarnings& warnings)
@@ -129,6 +142,8 @@ void mendMaterials(aiScene& model, ImportWarnings& warnings)
         dimMadeUpMaterial(*material);
         lightenTextured(*material);
     }
+    if (hasSourceFormat(model, "Autodesk FBX"))
+        removeMadeUpSurfaces(model);
     makeOpaque(model);
     const std::vector<aiMaterial*> used = materialsInUse(model);
     if (hasSourceFormat(model, "Collada"))

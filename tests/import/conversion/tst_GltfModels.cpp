@@ -28,7 +28,7 @@ QByteArray clearImage()
 QByteArray textured(const QByteArray& material)
 {
     QByteArray model = gltf::model(R"({"mesh": 0})",
-        R"("scenes": [{"nodes": [0]}], "extensionsUsed": ["KHR_texture_transform"], "textures": [{"source": 0}],
+        R"("scenes": [{"nodes": [0]}], "extensionsUsed": ["KHR_texture_transform", "KHR_materials_pbrSpecularGlossiness"], "textures": [{"source": 0}],
         "images": [{"uri": )"
             + clearImage() + R"(}], "materials": [)" + material + "],",
         R"(, "material": 0)");
@@ -105,6 +105,141 @@ private Q_SLOTS:
         QCOMPARE(components, isOpaque ? 3 : 4);
         QCOMPARE(int{bytes[0]}, 255);
         QCOMPARE(int{bytes[components]}, 255);
+    }
+
+    void metalnessAndRoughnessComeOver_data()
+    {
+        QTest::addColumn<QByteArray>("members"); // of the material
+        QTest::addColumn<float>("metalness");
+        QTest::addColumn<float>("roughness");
+        QTest::newRow("stated") << QByteArray(
+            R"("pbrMetallicRoughness": {"metallicFactor": 0.25, "roughnessFactor": 0.5})")
+                                << 0.25F << 0.5F;
+        QTest::newRow("not stated") << QByteArray(R"("pbrMetallicRoughness": {})") << 1.0F << 1.0F;
+        QTest::newRow("a dull plastic") << QByteArray(R"("pbrMetallicRoughness": {"metallicFactor": 0})") << 0.0F
+                                        << 1.0F;
+        QTest::newRow("out of range") << QByteArray(
+            R"("pbrMetallicRoughness": {"metallicFactor": 2.5, "roughnessFactor": -1})")
+                                      << 1.0F << 0.0F;
+        QTest::newRow("an older extension") << QByteArray(R"("extensions": {"KHR_materials_pbrSpecularGlossiness":
+            {"specularFactor": [1, 0.5, 0.25], "glossinessFactor": 0.75}})")
+                                            << 0.0F << 1.0F;
+    }
+
+    void metalnessAndRoughnessComeOver()
+    {
+        QFETCH(QByteArray, members);
+        QFETCH(float, metalness);
+        QFETCH(float, roughness);
+        ReadModels models;
+        const NxRef<NxGroup> scene = models.read("model.gltf", textured("{" + members + "}"));
+        QVERIFY2(scene, qPrintable(models.message()));
+        const NxMaterial& material = *ReadModels::all<NxMaterial>(*scene).front();
+        QCOMPARE(material.metalness.getValue(), metalness);
+        QCOMPARE(material.roughness.getValue(), roughness);
+    }
+
+    void theCutOffComesOver_data()
+    {
+        QTest::addColumn<QByteArray>("mode");
+        QTest::addColumn<float>("cutoff");
+        QTest::addColumn<float>("transparency");
+        QTest::newRow("opaque") << QByteArray(R"("alphaCutoff": 0.25)") << 0.0F << 0.0F;
+        QTest::newRow("blended") << QByteArray(R"("alphaMode": "BLEND", "alphaCutoff": 0.25)") << 0.0F << 0.75F;
+        QTest::newRow("masked") << QByteArray(R"("alphaMode": "MASK")") << 0.5F << 0.75F;
+        QTest::newRow("masked at a height")
+            << QByteArray(R"("alphaMode": "MASK", "alphaCutoff": 0.25)") << 0.25F << 0.75F;
+        QTest::newRow("masked nowhere") << QByteArray(R"("alphaMode": "MASK", "alphaCutoff": 0)") << 0.0F << 0.0F;
+    }
+
+    void theCutOffComesOver()
+    {
+        QFETCH(QByteArray, mode);
+        QFETCH(float, cutoff);
+        QFETCH(float, transparency);
+        ReadModels models;
+        const NxRef<NxGroup> scene = models.read(
+            "model.gltf", textured("{" + mode + R"(, "pbrMetallicRoughness": {"baseColorFactor": [1, 0, 0, 0.25]}})"));
+        QVERIFY2(scene, qPrintable(models.message()));
+        const NxMaterial& material = *ReadModels::all<NxMaterial>(*scene).front();
+        QCOMPARE(material.alphaCutoff.getValue(), cutoff);
+        QCOMPARE(material.transparency.getValue(), transparency);
+    }
+
+    // From behind, an open surface with one side would be an empty picture.
+    void oneSideComesOverOnlyWithClosedSurfaces_data()
+    {
+        QTest::addColumn<QByteArray>("sides");
+        QTest::addColumn<bool>("isClosed");
+        QTest::addColumn<bool>("isDoubleSided");
+        QTest::newRow("open, not stated") << QByteArray() << false << true;
+        QTest::newRow("open, one side") << QByteArray(R"("doubleSided": false, )") << false << true;
+        QTest::newRow("open, both sides") << QByteArray(R"("doubleSided": true, )") << false << true;
+        QTest::newRow("closed, one side") << QByteArray(R"("doubleSided": false, )") << true << false;
+        QTest::newRow("closed, both sides") << QByteArray(R"("doubleSided": true, )") << true << true;
+    }
+
+    void oneSideComesOverOnlyWithClosedSurfaces()
+    {
+        QFETCH(QByteArray, sides);
+        QFETCH(bool, isClosed);
+        QFETCH(bool, isDoubleSided);
+        QByteArray model = textured("{" + sides + R"("name": "tin"})");
+        if (isClosed) { // the same triangle once more, facing the other way
+            model.replace(R"("material": 0}])",
+                R"("material": 0}, {"attributes": {"POSITION": 0}, "indices": 3, "material": 0}])");
+            model.replace(R"("type": "VEC2"}])", R"("type": "VEC2"},
+                {"bufferView": 3, "componentType": 5123, "count": 3, "type": "SCALAR"}])");
+            const quint16 indices[] = {0, 2, 1, 0};
+            model.replace(R"("byteStride": 12}])", R"("byteStride": 12}, {"buffer": 1, "byteLength": 6}])");
+            model.insert(model.lastIndexOf("]}"),
+                R"(, {"byteLength": 8, "uri": )"
+                    + gltf::dataUri(
+                        "application/octet-stream", QByteArray(reinterpret_cast<const char*>(indices), sizeof indices))
+                    + "}");
+        }
+        ReadModels models;
+        const NxRef<NxGroup> scene = models.read("model.gltf", model);
+        QVERIFY2(scene, qPrintable(models.message()));
+        QCOMPARE(ReadModels::all<NxMesh>(*scene).size(), isClosed ? 2U : 1U);
+        QCOMPARE(ReadModels::all<NxMaterial>(*scene).front()->doubleSided.getValue(), isDoubleSided ? 1 : 0);
+    }
+
+    void furtherTexturesComeOverInTheirRoles_data()
+    {
+        QTest::addColumn<QByteArray>("transform"); // of the texture of the normals
+        QTest::addColumn<int>("textures");
+        QTest::newRow("placed alike") << QByteArray() << 3;
+        QTest::newRow("placed in another way")
+            << QByteArray(R"(, "extensions": {"KHR_texture_transform": {"scale": [2, 2]}})") << 2;
+    }
+
+    void furtherTexturesComeOverInTheirRoles()
+    {
+        QFETCH(QByteArray, transform);
+        QFETCH(int, textures);
+        ReadModels models;
+        const NxRef<NxGroup> scene
+            = models.read("model.gltf", textured(R"({"name": "bark", "normalTexture": {"index": 0)" + transform + R"(},
+            "pbrMetallicRoughness": {"baseColorTexture": {"index": 0}, "metallicRoughnessTexture": {"index": 0}}})"));
+        QVERIFY2(scene, qPrintable(models.message()));
+        QList<int> roles;
+        for (const NxTexture* texture : ReadModels::all<NxTexture>(*scene)) {
+            roles += texture->role.getValue();
+            VbVec2s size;
+            int components = 0;
+            QVERIFY(texture->image.getValue(size, components) != nullptr);
+            QCOMPARE(size, VbVec2s(2, 2));
+        }
+        if (textures == 3) {
+            QCOMPARE(roles, (QList<int>{NxTexture::COLOR, NxTexture::NORMAL, NxTexture::METAL_ROUGHNESS}));
+            QCOMPARE(models.warnings(), QStringList());
+        } else {
+            QCOMPARE(roles, (QList<int>{NxTexture::COLOR, NxTexture::METAL_ROUGHNESS}));
+            QCOMPARE(models.warnings(),
+                QStringList(QStringLiteral(
+                    "left out further textures that are placed in another way in the materials: \"bark\"")));
+        }
     }
 
     void motionIsOneLine()

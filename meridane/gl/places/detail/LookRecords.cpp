@@ -44,13 +44,6 @@ MaterialValues materialValues(const NxMaterial* material)
     return values;
 }
 
-NxTexture::Role roleOf(const NxTexture& texture)
-{
-    const int role = effectiveField(texture.role).getValue();
-    return role == NxTexture::NORMAL || role == NxTexture::METAL_ROUGHNESS ? static_cast<NxTexture::Role>(role)
-                                                                           : NxTexture::COLOR;
-}
-
 ComplexityValues complexityValues(const NxComplexity& complexity)
 {
     constexpr float usual = 0.5F;

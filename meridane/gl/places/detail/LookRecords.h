@@ -75,9 +75,6 @@ public:
     ComplexityValues values;
 };
 
-/// The effective role; one that doesn't exist counts as that of a colour.
-[[nodiscard]] NxTexture::Role roleOf(const NxTexture& texture);
-
 /// `TextureStore` uploads the image and keeps these values up to date.
 class TextureRecord : public NodeRecord {
 public:

@@ -136,7 +136,7 @@ void PlacedScene::followTransform(GroupRecord& group)
 void PlacedScene::followTexture(TextureRecord& texture)
 {
     texture.isStale = true;
-    m_areRolesChanged = m_areRolesChanged || roleOf(*texture.texture()) != texture.role;
+    m_areRolesChanged = m_areRolesChanged || texture.texture()->effectiveRole() != texture.role;
 }
 
 // The role is seldom changed, and which groups have the texture isn't known.

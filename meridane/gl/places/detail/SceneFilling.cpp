@@ -177,7 +177,7 @@ Id PlacedScene::lookOf(Filling& filling)
 
 void PlacedScene::addTexture(NxTexture& texture, Filling& filling)
 {
-    NxTexture*& current = filling.textures[roleOf(texture)];
+    NxTexture*& current = filling.textures[texture.effectiveRole()];
     // It has no record unless another look uses it, but with another role it would be used again.
     if (current != nullptr && current != &texture)
         m_hiddenTextures.watch(*current);
