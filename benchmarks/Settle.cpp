@@ -35,6 +35,32 @@ private:
     QWidget* m_widget;
 };
 
+/// Notes when a window has painted all that changed.
+class PaintClock final : public QObject {
+public:
+    explicit PaintClock(QWidget* window)
+        : m_window(window)
+    {
+        m_window->installEventFilter(this);
+    }
+    ~PaintClock() override { m_window->removeEventFilter(this); }
+
+    double firstPaint = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::UpdateRequest || firstPaint > 0)
+            return false;
+        watched->event(event);
+        firstPaint = processorTime();
+        return true;
+    }
+
+private:
+    QWidget* m_window;
+};
+
 } // namespace
 
 void settle()
@@ -55,6 +81,18 @@ double secondsToPainted(QWidget* widget, const std::function<void()>& action)
     if (counter.count == 0)
         qFatal("%s wasn't painted", widget->metaObject()->className());
     return time;
+}
+
+double secondsToFirstPaint(QWidget* widget, const std::function<void()>& action)
+{
+    const PaintCounter counter(widget);
+    const PaintClock clock(widget->window());
+    const double start = processorTime();
+    action();
+    settle();
+    if (counter.count == 0 || clock.firstPaint == 0.0)
+        qFatal("%s wasn't painted", widget->metaObject()->className());
+    return clock.firstPaint - start;
 }
 
 } // namespace bench

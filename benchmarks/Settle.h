@@ -13,4 +13,7 @@ void settle();
 /// programs don't change it. Ends the program with a message if the widget wasn't painted.
 double secondsToPainted(QWidget* widget, const std::function<void()>& action);
 
+/// The same until the window of the widget has been painted once, whatever it goes on to do; it settles afterwards.
+double secondsToFirstPaint(QWidget* widget, const std::function<void()>& action);
+
 } // namespace bench

@@ -12,8 +12,12 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <utility>
 
 namespace {
+
+/// When the statistics are begun although no row had to be painted, in milliseconds.
+constexpr int paintPatience = 50;
 
 enum StatisticsColumn { MinimumColumn, MaximumColumn, MeanColumn, NanColumn, StatisticsColumnCount };
 
@@ -58,6 +62,7 @@ ListStatistics::ListStatistics(ListModel& model, ListView& view, JobBar& jobBar,
 
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &ListStatistics::compute);
+    view.viewport()->installEventFilter(this);
     connect(&model, &ListModel::listAboutToBeLeft, this, [this] { m_job.reset(); });
     connect(&model, &ListModel::listChanged, this, &ListStatistics::outdate);
     connect(&model, &QAbstractItemModel::modelReset, this, &ListStatistics::outdate);
@@ -83,12 +88,22 @@ void ListStatistics::outdate()
 {
     m_isFresh = false;
     m_job.reset();
-    if (isVisible())
+    if (!isVisible())
+        return;
+    m_awaitsPaint = true;
+    m_timer.start(paintPatience);
+}
+
+bool ListStatistics::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Paint && std::exchange(m_awaitsPaint, false))
         m_timer.start(0);
+    return QWidget::eventFilter(watched, event);
 }
 
 void ListStatistics::compute()
 {
+    m_awaitsPaint = false;
     const bool isSelection = m_view.selectedCount() > 1;
     const RowRuns rows = isSelection ? m_view.selectedListRows() : m_view.allListRows();
     const int count = orvane::rowCount(rows);

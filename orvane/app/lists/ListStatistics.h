@@ -15,7 +15,8 @@ class QLabel;
 class QTableWidget;
 
 /// The statistics of each column: of the selected rows if they are several, otherwise of all that are shown. They are
-/// computed in slices while they are in sight, and again when the list or the selection changes.
+/// computed in slices while they are in sight, and again when the list or the selection changes. The rows are painted
+/// first.
 class ListStatistics : public QWidget {
     Q_OBJECT
 
@@ -30,6 +31,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void outdate();
@@ -44,4 +46,5 @@ private:
     std::unique_ptr<StatisticsJob> m_job;
     QTimer m_timer;
     bool m_isFresh = false;
+    bool m_awaitsPaint = false; // of the rows
 };

@@ -19,7 +19,7 @@ void ListJob::runAll()
 
 void ListJob::runSlice()
 {
-    const SliceClock slice(m_clock);
+    const meridane::WorkBudget slice(partsLength, m_clock);
     do {
         if (!runPart()) {
             end();

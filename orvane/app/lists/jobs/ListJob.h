@@ -3,6 +3,8 @@
 #include "orvane/app/base/SliceClock.h"
 #include "orvane/app/files/FileJob.h"
 
+#include <chrono>
+
 /// Long work on the rows of a list, done in slices.
 class ListJob : public FileJob {
     Q_OBJECT
@@ -10,6 +12,8 @@ class ListJob : public FileJob {
 public:
     /// How many rows are worked on between two looks at the clock.
     static constexpr int rowsPerPart = 4096;
+    /// After this time no further part is begun, so that a slice with its last part takes less than 8 ms.
+    static constexpr std::chrono::microseconds partsLength{6000};
 
     /// Tests pass a clock of their own.
     explicit ListJob(SliceClock::Clock clock = &std::chrono::steady_clock::now);

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numeric>
 #include <utility>
 
 namespace {
@@ -93,6 +92,7 @@ bool RowsJob::filterPart()
         return m_phase != Phase::Done;
     }
     m_isListed = true;
+    m_rows.reserve(static_cast<std::size_t>(m_range.count));
     std::array<bool, rowsPerPart> passes{};
     const int count = std::min(rowsPerPart, m_end - m_next);
     if (count > 0) {
@@ -133,6 +133,15 @@ void RowsJob::beginSort()
     m_phase = m_order.column >= 0 ? Phase::Keys : Phase::Done;
     m_next = 0;
     m_end = static_cast<int>(m_rows.size());
+    if (m_phase == Phase::Done)
+        return;
+    // A list that grows copies what it has, all in one slice.
+    if (m_columns.isNumeric()) {
+        m_keys.reserve(m_rows.size());
+    } else {
+        m_textKeys.reserve(m_rows.size());
+        m_places.reserve(m_rows.size());
+    }
 }
 
 bool RowsJob::keysPart()
@@ -143,6 +152,7 @@ bool RowsJob::keysPart()
         const int row = m_rows[static_cast<std::size_t>(m_next)];
         if (!isNumeric) {
             m_textKeys.push_back(m_collator.sortKey(m_columns.text(row, m_order.column)));
+            m_places.push_back(m_next);
             continue;
         }
         const double key = m_columns.number(row, m_order.column);
@@ -154,13 +164,10 @@ bool RowsJob::keysPart()
     if (m_next < m_end)
         return true;
     m_phase = Phase::Sort;
-    if (isNumeric) {
+    if (isNumeric)
         m_numberSort = SliceSort<NumberKey>(std::exchange(m_keys, {}));
-    } else {
-        std::vector<int> places(m_rows.size());
-        std::iota(places.begin(), places.end(), 0);
-        m_textSort = SliceSort<int>(std::move(places));
-    }
+    else
+        m_textSort = SliceSort<int>(std::exchange(m_places, {}));
     return true;
 }
 

@@ -69,6 +69,7 @@ private:
     std::vector<NumberKey> m_keys;
     SliceSort<NumberKey> m_numberSort;
     std::vector<QCollatorSortKey> m_textKeys; // by place in `m_rows`
+    std::vector<int> m_places; // of all text keys
     SliceSort<int> m_textSort; // of places
     std::vector<int> m_sorted; // rows, while they are gathered
     QCollator m_collator;

@@ -12,8 +12,8 @@ public:
     SliceSort() = default;
     explicit SliceSort(std::vector<Item> items)
         : m_items(std::move(items))
-        , m_merged(m_items.size())
     {
+        m_merged.reserve(m_items.size());
     }
 
     [[nodiscard]] const std::vector<Item>& items() const noexcept { return m_items; }
@@ -74,6 +74,9 @@ private:
         const std::size_t middle = std::min(pair + m_width, m_items.size());
         const std::size_t end = std::min(pair + 2 * m_width, m_items.size());
         const std::size_t stop = std::min(end, m_next + mergedPerPart);
+        // As a whole this would take longer than a slice.
+        if (m_merged.size() < stop)
+            m_merged.resize(stop);
         for (; m_next < stop; ++m_next) {
             const bool takesRight = m_left == middle || (m_right < end && less(m_items[m_right], m_items[m_left]));
             m_merged[m_next] = m_items[takesRight ? m_right++ : m_left++];
