@@ -100,7 +100,8 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
         if (const auto* mesh = dynamic_cast<const NxMesh*>(&node)) {
             if (!m_visibility.shows(state) || !search.meet(*mesh, step.matrix, step.sides))
                 continue;
-            hit = NxRayHit{{}, VbVec3d(), static_cast<float>(search.distance()), search.primitive()};
+            hit = NxRayHit{{}, VbVec3d(), static_cast<float>(search.distance()), search.primitive(), search.vertex(),
+                search.corner()};
             for (const Step& above : steps)
                 hit->path.push_back(above.children[above.next - 1]);
         } else if (const auto* material = dynamic_cast<const NxMaterial*>(&node)) {

@@ -16,6 +16,8 @@ struct NxRayHit {
     VbVec3d point; ///< in scene units
     float distance = 0; ///< from the origin of the ray, in scene units
     int primitive = 0; ///< the triangle, line or point of the mesh, counted from 0
+    int vertex = 0; ///< the nearest position of the primitive: its row in the positions of the mesh
+    int corner = 0; ///< the row of that vertex in the indices of the mesh; `vertex` for a mesh without indices
 };
 
 /// Finds the first mesh that a ray hits.

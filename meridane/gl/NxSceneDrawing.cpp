@@ -1,10 +1,12 @@
 #include "meridane/gl/NxSceneDrawing.h"
 
+#include "meridane/gl/geometry/MatrixMath.h"
 #include "meridane/gl/geometry/NxViewpoint.h"
 #include "meridane/gl/gpu/detail/GLStateScope.h"
 #include "meridane/gl/painting/detail/Ground.h"
 #include "meridane/gl/painting/detail/ItemPainter.h"
 #include "meridane/gl/painting/detail/LinePainter.h"
+#include "meridane/gl/painting/detail/MarkPainter.h"
 #include "meridane/gl/painting/detail/OutlinePainter.h"
 #include "meridane/gl/painting/detail/ScreenPass.h"
 #include "meridane/gl/painting/detail/SeenItems.h"
@@ -40,6 +42,7 @@ public:
         , lines(functions)
         , outline(functions)
         , seenItems(functions)
+        , marks(functions)
         , background(functions, "the background", backgroundSource)
         , scene({[this] { noteChange(); }, [this](MeshRecord& mesh) { painter.meshes().release(mesh); },
               [this](TextureRecord& texture) { painter.textures().release(texture); }})
@@ -55,6 +58,7 @@ public:
     [[nodiscard]] float lineWidth(float wanted) const;
     void drawBackground(int height);
     void drawMeshesAndLines(const Ground& ground, const PictureFrame& frame);
+    void drawMarks(const PictureFrame& frame);
 
     const NxGLFunctions& gl;
     NxDrawingStyle style;
@@ -77,6 +81,8 @@ public:
     LinePainter lines;
     OutlinePainter outline;
     SeenItems seenItems;
+    MarkPainter marks;
+    std::vector<NxRef<NxNode>> markedPath;
     ScreenPass background;
     PlacedScene scene; // last: its destructor releases objects of the painters
 };
@@ -151,6 +157,16 @@ void NxSceneDrawing::Private::drawMeshesAndLines(const Ground& ground, const Pic
     painter.drawTranslucent(scene, counts);
 }
 
+void NxSceneDrawing::Private::drawMarks(const PictureFrame& frame)
+{
+    if (marks.isEmpty() || scene.root() == nullptr)
+        return;
+    Matrix4d worldTransform = localTransformOf(*scene.root());
+    for (const NxRef<NxNode>& node : markedPath)
+        worldTransform = multiply(localTransformOf(*node), worldTransform);
+    marks.draw(worldTransform, frame, style, counts);
+}
+
 NxSceneDrawing::NxSceneDrawing(const NxGLFunctions& functions)
     : m_private(std::make_unique<Private>(functions))
 {
@@ -165,6 +181,8 @@ void NxSceneDrawing::setScene(NxNode* root)
     m_private->otherSelection.clear();
     m_private->isSelectionStale = true;
     m_private->visibility = NxNodeVisibility();
+    m_private->markedPath.clear();
+    m_private->marks.setPoints({});
     m_private->scene.setRoot(root);
     m_private->noteChange();
 }
@@ -210,6 +228,15 @@ void NxSceneDrawing::setIsolatedNodes(std::span<NxNode* const> nodes)
 {
     m_private->visibility.setIsolated(nodes);
     m_private->scene.setVisibility(m_private->visibility);
+    m_private->noteChange();
+}
+
+void NxSceneDrawing::setMarkedPoints(std::span<NxNode* const> nodes, std::vector<VbVec3f> points)
+{
+    if (points.empty() && m_private->marks.isEmpty())
+        return;
+    m_private->markedPath.assign(nodes.begin(), nodes.end());
+    m_private->marks.setPoints(std::move(points));
     m_private->noteChange();
 }
 
@@ -283,6 +310,7 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
         weaker.outlineWidth /= 2;
         self.outline.draw(self.scene, self.otherItems, self.painter, frame, weaker, self.counts);
         self.outline.draw(self.scene, self.selectedItems, self.painter, frame, self.style, self.counts);
+        self.drawMarks(frame);
     }
     ++self.counts.pictures;
     self.errors.report("Drawing the scene");
@@ -351,6 +379,7 @@ void NxSceneDrawing::contextLost()
     self.lines.forget();
     self.outline.forget();
     self.seenItems.forget();
+    self.marks.forget();
     self.background.forget();
     self.noteChange();
 }

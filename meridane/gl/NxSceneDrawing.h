@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/base/values/VbVec.h"
 #include "meridane/gl/geometry/NxBounds.h"
 #include "meridane/gl/geometry/NxPixelRectangle.h"
 #include "meridane/gl/gpu/NxDrawingCounts.h"
@@ -50,6 +51,11 @@ public:
     void setHiddenNodes(std::span<NxNode* const> nodes);
     /// Draws nothing but these nodes and what is below them; everything if there are none.
     void setIsolatedNodes(std::span<NxNode* const> nodes);
+
+    /// Marks points of one instance of a mesh, given as in `setSelectedPath`; none if there are no points. They are
+    /// drawn over everything, in the units of the mesh's positions. The marks follow the transforms of the path, but
+    /// not the positions. Replaces the marks before; `setScene` removes them.
+    void setMarkedPoints(std::span<NxNode* const> nodes, std::vector<VbVec3f> points);
 
     void setStyle(const NxDrawingStyle& style);
     [[nodiscard]] const NxDrawingStyle& style() const;

@@ -27,7 +27,10 @@ private Q_SLOTS:
                 [](NxDrawingStyle& style) { style.boundingBoxColor = VbColor(1, 0, 0); },
                 [](NxDrawingStyle& style) { style.outlineColor = VbColor(1, 0, 0); },
                 [](NxDrawingStyle& style) { style.outlineWidth = 3; },
-                [](NxDrawingStyle& style) { style.pointSize = 5; }}) {
+                [](NxDrawingStyle& style) { style.pointSize = 5; },
+                [](NxDrawingStyle& style) { style.markColor = VbColor(1, 0, 0); },
+                [](NxDrawingStyle& style) { style.markBorderColor = VbColor(1, 0, 0); },
+                [](NxDrawingStyle& style) { style.markSize = 5; }}) {
             NxDrawingStyle changed;
             change(changed);
             QVERIFY(changed != NxDrawingStyle());

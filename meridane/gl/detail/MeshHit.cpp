@@ -80,10 +80,26 @@ bool MeshHit::meetEach(std::span<const int> indices, Test test)
         }
         if (exists && (this->*test)(corners)) {
             m_primitive = static_cast<int>(primitive);
+            findVertex(corners, primitive * Corners);
             met = true;
         }
     }
     return met;
+}
+
+void MeshHit::findVertex(std::span<const Point* const> corners, std::size_t firstCorner)
+{
+    double nearest = std::numeric_limits<double>::infinity();
+    for (std::size_t corner = 0; corner < corners.size(); ++corner) {
+        const Point& point = *corners[corner];
+        const double depth = point.z - m_distance;
+        const double square = point.x * point.x + point.y * point.y + depth * depth;
+        if (corner > 0 && !(square < nearest))
+            continue;
+        nearest = square;
+        m_corner = static_cast<int>(firstCorner + corner);
+        m_vertex = static_cast<int>(&point - m_points.data());
+    }
 }
 
 bool MeshHit::meetTriangle(const std::array<const Point*, 3>& corners)

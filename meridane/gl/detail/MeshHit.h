@@ -27,6 +27,9 @@ public:
 
     [[nodiscard]] double distance() const noexcept { return m_distance; }
     [[nodiscard]] int primitive() const noexcept { return m_primitive; }
+    /// The position of the primitive that is nearest to the hit, and the place of its index.
+    [[nodiscard]] int vertex() const noexcept { return m_vertex; }
+    [[nodiscard]] int corner() const noexcept { return m_corner; }
 
 private:
     struct Point {
@@ -38,6 +41,7 @@ private:
     void place(std::span<const VbVec3f> positions, const Matrix4d& matrix);
     template <std::size_t Corners, typename Test>
     bool meetEach(std::span<const int> indices, Test test);
+    void findVertex(std::span<const Point* const> corners, std::size_t firstCorner);
     bool meetTriangle(const std::array<const Point*, 3>& corners);
     bool meetLine(const std::array<const Point*, 2>& ends);
     bool meetPoint(const std::array<const Point*, 1>& points);
@@ -52,6 +56,8 @@ private:
     double m_distance = 0;
     double m_front = 0; // 1 or -1: the sign of the sides of edges of triangles that are hit; 0 for both
     int m_primitive = 0;
+    int m_vertex = 0;
+    int m_corner = 0;
     std::vector<Point> m_points; // of the present mesh
 };
 

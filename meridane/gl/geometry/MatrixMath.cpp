@@ -95,6 +95,20 @@ Matrix4d multiply(const Matrix4d& first, const Matrix4d& second) noexcept
     return product;
 }
 
+Matrix4d relativeTo(const VbVec3d& eye, const VbVec3d& origin, const Matrix4d& worldTransform) noexcept
+{
+    Matrix4d result = worldTransform;
+    for (std::size_t column = 0; column < 4; ++column) {
+        for (std::size_t axis = 0; axis < 3; ++axis)
+            result[3][column] += origin[axis] * worldTransform[axis][column];
+    }
+    for (std::size_t row = 0; row < 4; ++row) {
+        for (std::size_t axis = 0; axis < 3; ++axis)
+            result[row][axis] -= eye[axis] * result[row][3];
+    }
+    return result;
+}
+
 VbVec3d transformPoint(const VbVec3d& point, const Matrix4d& matrix) noexcept
 {
     std::array<double, 4> sums = matrix[3];

@@ -24,6 +24,8 @@ namespace meridane {
 
 [[nodiscard]] Matrix4d multiply(const Matrix4d& first, const Matrix4d& second) noexcept;
 [[nodiscard]] Matrix4d translationMatrix(const VbVec3d& distance) noexcept;
+/// The matrix that takes points relative to `origin` to scene positions relative to the eye.
+[[nodiscard]] Matrix4d relativeTo(const VbVec3d& eye, const VbVec3d& origin, const Matrix4d& worldTransform) noexcept;
 /// The transformed point, divided by its fourth coordinate.
 [[nodiscard]] VbVec3d transformPoint(const VbVec3d& point, const Matrix4d& matrix) noexcept;
 [[nodiscard]] VbVec3f transformDirection(const VbVec3f& direction, const Matrix4d& matrix) noexcept;

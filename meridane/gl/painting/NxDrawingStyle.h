@@ -31,6 +31,11 @@ struct NxDrawingStyle {
     float outlineWidth = 2;
     /// The size of points of meshes, in the same unit.
     float pointSize = 4;
+    /// The inside of marked points (see `NxSceneDrawing::setMarkedPoints`), and the border around it.
+    VbColor markColor{1, 1, 1};
+    VbColor markBorderColor{0, 0, 0};
+    /// The size of marked points with their border, in the same unit.
+    float markSize = 8;
 
     friend bool operator==(const NxDrawingStyle&, const NxDrawingStyle&) noexcept = default;
 };

@@ -34,21 +34,6 @@ std::array<float, 9> normalMatrixOf(const Matrix4d& m) noexcept
     return result;
 }
 
-/// The matrix that takes points relative to `origin` to scene positions relative to the eye.
-Matrix4d relativeTo(const VbVec3d& eye, const VbVec3d& origin, const Matrix4d& worldTransform) noexcept
-{
-    Matrix4d result = worldTransform;
-    for (std::size_t column = 0; column < 4; ++column) {
-        for (std::size_t axis = 0; axis < 3; ++axis)
-            result[3][column] += origin[axis] * worldTransform[axis][column];
-    }
-    for (std::size_t row = 0; row < 4; ++row) {
-        for (std::size_t axis = 0; axis < 3; ++axis)
-            result[row][axis] -= eye[axis] * result[row][3];
-    }
-    return result;
-}
-
 GLenum primitiveOf(const MeshRecord& mesh)
 {
     switch (mesh.shape.primitive) {
