@@ -71,7 +71,7 @@ ViewInput::Hooks SceneView::inputHooks()
     hooks.moved = [this] { noteMove(); };
     hooks.picked = [this](const std::optional<NxRayHit>& hit) {
         if (hit)
-            Q_EMIT picked(hit->path, hit->point);
+            Q_EMIT picked(*hit);
         else
             Q_EMIT pickedNothing();
     };

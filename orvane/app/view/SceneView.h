@@ -68,8 +68,8 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// The user clicked on a node, seen at that point; the nodes lead down to it from the scene.
-    void picked(const std::vector<NxNode*>& nodes, const VbVec3d& point);
+    /// The user clicked on a mesh.
+    void picked(const NxRayHit& hit);
     /// The user clicked on nothing.
     void pickedNothing();
     /// The user wants a menu at that place of the screen, about what is selected. A click has picked what it is on.

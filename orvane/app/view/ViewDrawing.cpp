@@ -9,6 +9,20 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
+namespace {
+
+std::vector<NxNode*> pointersTo(const std::vector<NxRef<NxNode>>& nodes)
+{
+    std::vector<NxNode*> pointers;
+    for (const NxRef<NxNode>& node : nodes)
+        pointers.push_back(node.get());
+    return pointers;
+}
+
+} // namespace
+
 ViewDrawing::ViewDrawing()
 {
     QObject::connect(&m_textures, &TextureFiles::changed, &m_textures, [this](const std::string& fileName) {
@@ -43,10 +57,8 @@ bool ViewDrawing::start()
     });
     m_drawing->setStyle(m_style);
     m_drawing->setScene(m_scene.get());
-    std::vector<NxNode*> selected;
-    for (const NxRef<NxNode>& node : m_selected)
-        selected.push_back(node.get());
-    m_drawing->setSelectedPath(selected);
+    m_drawing->setSelectedPath(pointersTo(m_selected));
+    m_drawing->setMarkedPoints(pointersTo(std::exchange(m_markedPath, {})), std::exchange(m_markedPoints, {}));
     m_drawing->setChangeHook(m_hook);
     return true;
 }
@@ -93,6 +105,8 @@ void ViewDrawing::setScene(NxGroup* scene, const QString& folder)
 {
     m_scene = NxRef<NxGroup>(scene);
     m_selected.clear();
+    m_markedPath.clear();
+    m_markedPoints.clear();
     m_textures.clear();
     m_textures.setFolder(folder);
     if (m_drawing != nullptr)
@@ -106,6 +120,16 @@ void ViewDrawing::setSelectedPath(const std::vector<NxNode*>& nodes)
         m_selected.emplace_back(node);
     if (m_drawing != nullptr)
         m_drawing->setSelectedPath(nodes);
+}
+
+void ViewDrawing::setMarkedPoints(const std::vector<NxNode*>& nodes, std::vector<VbVec3f> points)
+{
+    if (m_drawing != nullptr) {
+        m_drawing->setMarkedPoints(nodes, std::move(points));
+        return;
+    }
+    m_markedPath.assign(nodes.begin(), nodes.end());
+    m_markedPoints = std::move(points);
 }
 
 void ViewDrawing::setStyle(const NxDrawingStyle& style)

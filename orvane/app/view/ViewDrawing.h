@@ -47,6 +47,8 @@ public:
     [[nodiscard]] TextureFiles& textures() noexcept { return m_textures; }
     /// Outlines the last of these nodes, each a child of the one before; none for nothing.
     void setSelectedPath(const std::vector<NxNode*>& nodes);
+    /// Marks points of the last of these nodes (see `NxSceneDrawing::setMarkedPoints`).
+    void setMarkedPoints(const std::vector<NxNode*>& nodes, std::vector<VbVec3f> points);
     void setStyle(const NxDrawingStyle& style);
 
     /// A picture of that size in device pixels; a null image when there can't be one.
@@ -67,6 +69,8 @@ private:
     std::function<void()> m_hook;
     NxRef<NxGroup> m_scene;
     std::vector<NxRef<NxNode>> m_selected;
+    std::vector<NxRef<NxNode>> m_markedPath; // until the start
+    std::vector<VbVec3f> m_markedPoints;
     NxDrawingStyle m_style;
     TextureFiles m_textures;
     QString m_problem;

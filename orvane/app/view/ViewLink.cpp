@@ -6,6 +6,8 @@
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/SceneView.h"
 
+#include "meridane/scene/nodes/NxMesh.h"
+
 #include <QGuiApplication>
 #include <QLabel>
 #include <QStatusBar>
@@ -24,7 +26,23 @@ QString coordinate(double value)
     return QString::number(value, 'g', std::clamp(static_cast<int>(size) + 4, least, most));
 }
 
+/// A point, with separators between its coordinates.
+QString coordinates(const VbVec3d& point, const QString& separator)
+{
+    return QStringList{coordinate(point[0]), coordinate(point[1]), coordinate(point[2])}.join(separator);
+}
+
 } // namespace
+
+QString ViewLink::pickedText(const NxRayHit& hit)
+{
+    const QString point = tr("at %1").arg(coordinates(hit.point, QStringLiteral(", ")));
+    const auto* const mesh = hit.path.empty() ? nullptr : dynamic_cast<const NxMesh*>(hit.path.back());
+    if (mesh == nullptr || hit.vertex >= mesh->positions.getNum())
+        return point;
+    return tr("%1 · vertex %2 (%3)")
+        .arg(point, QString::number(hit.vertex), coordinates(mesh->positions[hit.vertex], QStringLiteral(" ")));
+}
 
 ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QStatusBar* bar)
     : QObject(view)
@@ -35,7 +53,8 @@ ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QSta
     , m_cameras(session.settings())
 {
     m_point->setObjectName(QStringLiteral("pickedPoint"));
-    m_point->setToolTip(tr("The point of the scene that was clicked"));
+    m_point->setToolTip(
+        tr("The point of the scene that was clicked, and the nearest vertex of the mesh with its position"));
     m_point->hide();
     bar->addPermanentWidget(m_point);
     const SceneDocument& document = session.document();
@@ -67,14 +86,14 @@ void ViewLink::showSelection()
     m_view->setSelectedPath(m_tree->model()->path(m_tree->selected()));
 }
 
-void ViewLink::choose(const std::vector<NxNode*>& nodes, const VbVec3d& point)
+void ViewLink::choose(const NxRayHit& hit)
 {
-    const QModelIndex index = m_tree->model()->indexOfPath(nodes);
+    const QModelIndex index = m_tree->model()->indexOfPath(hit.path);
     if (QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier))
         m_tree->selection().toggle(index);
     else
         m_tree->select(index);
-    m_point->setText(tr("at %1, %2, %3").arg(coordinate(point[0]), coordinate(point[1]), coordinate(point[2])));
+    m_point->setText(pickedText(hit));
     m_point->show();
 }
 

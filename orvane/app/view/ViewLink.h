@@ -4,15 +4,12 @@
 
 #include <QObject>
 
-#include <vector>
-
-class NxNode;
 class QLabel;
 class QStatusBar;
 class SceneTreePanel;
 class SceneView;
 class Session;
-class VbVec3d;
+struct NxRayHit;
 
 /// Ties the view to the scene that is open, to the selection in the tree, and to the viewpoint kept for each scene.
 class ViewLink : public QObject {
@@ -22,10 +19,11 @@ public:
     ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QStatusBar* bar);
 
 private:
+    [[nodiscard]] static QString pickedText(const NxRayHit& hit);
     void leaveScene();
     void showScene();
     void showSelection();
-    void choose(const std::vector<NxNode*>& nodes, const VbVec3d& point);
+    void choose(const NxRayHit& hit);
     void chooseNothing();
 
     Session& m_session;

@@ -2,7 +2,6 @@
 
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/inspect/Inspectors.h"
-#include "orvane/app/lists/ListPanel.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/window/DockHeights.h"
@@ -81,4 +80,5 @@ void ListDock::fill()
         return;
     m_panel = new ListPanel(m_session.services(), m_session.settings(), this);
     setWidget(m_panel);
+    Q_EMIT panelMade(m_panel);
 }

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "orvane/app/lists/ListPanel.h"
+
 #include <QDockWidget>
 
 class FieldPanel;
 class Inspectors;
-class ListPanel;
 class NxField;
 class NxMField;
 class QMainWindow;
@@ -26,6 +27,10 @@ public:
     /// the window.
     void follow(FieldPanel& fields, const Inspectors& inspectors);
     void setVisible(bool visible) override;
+
+Q_SIGNALS:
+    /// The panel with the rows has been made.
+    void panelMade(ListPanel* panel);
 
 private:
     void fill();

@@ -30,6 +30,7 @@
 #include "orvane/app/view/ViewLink.h"
 #include "orvane/app/view/ViewMenu.h"
 #include "orvane/app/view/handles/ViewHandles.h"
+#include "orvane/app/view/marks/MarkedRows.h"
 #include "orvane/app/window/CentralArea.h"
 #include "orvane/app/window/ComparisonDock.h"
 #include "orvane/app/window/DiskChangeBar.h"
@@ -209,6 +210,7 @@ void MainWindow::buildDocks()
     new ReturnedNodes(m_session.services(), *travel, m_tree);
     new SelectionStatus(m_session, m_tree, statusBar());
     new ViewLink(m_session, m_view, m_tree, statusBar());
+    connect(lists, &ListDock::panelMade, new MarkedRows(m_view, m_tree), &MarkedRows::follow);
     statusBar()->addPermanentWidget(m_jobBar);
     connect(m_tree->model(), &QAbstractItemModel::dataChanged, m_fields, &FieldPanel::updateHeading);
 }

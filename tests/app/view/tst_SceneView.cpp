@@ -33,9 +33,9 @@ private Q_SLOTS:
     {
         std::vector<NxNode*> nodes;
         VbVec3d point;
-        connect(m_view.get(), &SceneView::picked, this, [&](const std::vector<NxNode*>& path, const VbVec3d& place) {
-            nodes = path;
-            point = place;
+        connect(m_view.get(), &SceneView::picked, this, [&](const NxRayHit& hit) {
+            nodes = hit.path;
+            point = hit.point;
         });
         const QSignalSpy nothing(m_view.get(), &SceneView::pickedNothing);
         QTest::mouseClick(m_view.get(), Qt::LeftButton, Qt::NoModifier, at(2, 0));
