@@ -1,21 +1,18 @@
 #include "orvane/app/compare/DifferencePanel.h"
 
 #include "orvane/app/base/PlainText.h"
-#include "orvane/app/base/RowTable.h"
 #include "orvane/app/compare/CopyJob.h"
 #include "orvane/app/compare/DifferenceModel.h"
 #include "orvane/app/compare/DifferenceText.h"
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/input/FilterLine.h"
 
-#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStackedLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <array>
 #include <utility>
 #include <vector>
@@ -102,29 +99,10 @@ void DifferencePanel::buildView()
     m_view->setAccessibleName(tr("Differences"));
     m_view->setModel(m_model);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    auto* copy = new QAction(tr("&Copy"), m_view);
-    copy->setObjectName(QStringLiteral("comparison.copy"));
-    copy->setStatusTip(tr("Copies the selected differences as lines of text"));
-    copy->setShortcut(QKeySequence::Copy);
-    copy->setShortcutContext(Qt::WidgetShortcut);
-    connect(copy, &QAction::triggered, this, &DifferencePanel::copySelected);
-    auto* copyAll = new QAction(tr("Copy &All"), m_view);
-    copyAll->setObjectName(QStringLiteral("comparison.copyAll"));
-    copyAll->setStatusTip(tr("Copies all differences that are shown as lines of text"));
-    connect(copyAll, &QAction::triggered, this, &DifferencePanel::copyAll);
-    m_view->addActions({copy, copyAll});
-    // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.
-    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        const QModelIndexList rows = m_view->selectionModel()->selectedRows();
-        m_choosing = rows.size() == 1;
-        if (m_choosing)
-            choose(rows.front().row());
-    });
-    connect(m_view, &QTableView::clicked, this, [this](const QModelIndex& index) {
-        if (!std::exchange(m_choosing, false) && m_view->selectionModel()->selectedRows().size() == 1)
-            choose(index.row());
-    });
+    m_view->setColumns({{24, 0.36}, {16, 0.2}, {14, 0.22}, {}});
+    m_view->addCopyActions(QStringLiteral("comparison"));
+    connect(m_view, &RowTable::copyRequested, this, &DifferencePanel::copy);
+    connect(m_view, &RowTable::rowChosen, this, &DifferencePanel::choose);
 }
 
 void DifferencePanel::clear()
@@ -148,8 +126,6 @@ void DifferencePanel::showDifferences(NxSceneDifferences differences, const QStr
     clear();
     m_name = name;
     m_model->setDifferences(std::move(differences));
-    if (!std::exchange(m_columnsSized, true))
-        sizeColumns();
     if (m_model->rowCount() == 0)
         showText(tr("No differences: the scene and %1 are equal.").arg(orvane::shortLine(name)));
     else
@@ -157,17 +133,6 @@ void DifferencePanel::showDifferences(NxSceneDifferences differences, const QStr
     m_filter->setEnabled(m_model->rowCount() > 0);
     m_again->setEnabled(true);
     updateHeading();
-}
-
-// The rest is the last column's.
-void DifferencePanel::sizeColumns()
-{
-    constexpr std::array shares{0.36, 0.2, 0.22};
-    constexpr std::array leastCharacters{24, 16, 14};
-    const int character = fontMetrics().averageCharWidth();
-    for (std::size_t column = 0; column < shares.size(); ++column)
-        m_view->setColumnWidth(static_cast<int>(column),
-            std::max(static_cast<int>(shares.at(column) * width()), leastCharacters.at(column) * character));
 }
 
 void DifferencePanel::showText(const QString& text)
@@ -198,25 +163,6 @@ void DifferencePanel::choose(int row)
 {
     m_model->watchRow(row);
     Q_EMIT chosen(m_model->difference(row));
-}
-
-void DifferencePanel::copySelected()
-{
-    std::vector<int> rows;
-    for (const QItemSelectionRange& range : m_view->selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            rows.push_back(row);
-    }
-    std::sort(rows.begin(), rows.end());
-    copy(rows);
-}
-
-void DifferencePanel::copyAll()
-{
-    std::vector<int> rows(static_cast<std::size_t>(m_model->rowCount()));
-    for (std::size_t row = 0; row < rows.size(); ++row)
-        rows[row] = static_cast<int>(row);
-    copy(rows);
 }
 
 void DifferencePanel::copy(const std::vector<int>& rows)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/app/base/RowTable.h"
+
 #include "meridane/scene/compare/NxSceneDifferences.h"
 
 #include <QWidget>
@@ -13,7 +15,6 @@ class FilterLine;
 class JobBar;
 class QLabel;
 class QStackedLayout;
-class QTableView;
 class QToolButton;
 
 /// Shows the differences between the open scene and a file: counts, a line to filter them, and a row for each.
@@ -26,7 +27,7 @@ public:
     ~DifferencePanel() override;
 
     [[nodiscard]] DifferenceModel* model() const noexcept { return m_model; }
-    [[nodiscard]] QTableView* view() const noexcept { return m_view; }
+    [[nodiscard]] RowTable* view() const noexcept { return m_view; }
 
     /// Shows that no file is compared.
     void clear();
@@ -34,10 +35,6 @@ public:
     void showWorking(const QString& name);
     /// Shows the result.
     void showDifferences(NxSceneDifferences differences, const QString& name);
-    /// Puts the selected rows on the clipboard, as lines of text.
-    void copySelected();
-    /// The same for all rows that are shown.
-    void copyAll();
 
 Q_SIGNALS:
     /// The user chose a row.
@@ -47,7 +44,6 @@ Q_SIGNALS:
 private:
     void buildView();
     void buildTopLine(QWidget* page);
-    void sizeColumns();
     void showText(const QString& text);
     void updateHeading();
     void choose(int row);
@@ -55,14 +51,12 @@ private:
 
     JobBar& m_jobBar;
     DifferenceModel* m_model;
-    QTableView* m_view;
+    RowTable* m_view;
     QLabel* m_heading;
     FilterLine* m_filter;
     QToolButton* m_again;
     QLabel* m_text; // in place of rows
     QStackedLayout* m_pages;
     QString m_name; // of the other file
-    bool m_columnsSized = false;
-    bool m_choosing = false; // by the press of a mouse button that isn't released yet
     std::unique_ptr<CopyJob> m_copying;
 };

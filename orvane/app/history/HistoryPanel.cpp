@@ -1,7 +1,6 @@
 #include "orvane/app/history/HistoryPanel.h"
 
 #include "orvane/app/base/PlainText.h"
-#include "orvane/app/base/RowTable.h"
 #include "orvane/app/history/HistoryModel.h"
 #include "orvane/app/history/PutBack.h"
 #include "orvane/app/history/StepTravel.h"
@@ -12,17 +11,12 @@
 
 #include <QAction>
 #include <QHBoxLayout>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
-#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QToolButton>
 
-#include <algorithm>
-#include <array>
 #include <utility>
 
 namespace {
@@ -106,19 +100,17 @@ void HistoryPanel::buildView()
     m_view->setAccessibleName(tr("History"));
     m_view->setModel(m_model);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    constexpr int stateCharacters = 15;
+    constexpr int timeCharacters = 15;
+    m_view->setColumns({{stateCharacters}, {14, 0.44}, {8, 0.28}, {8, 0.28}, {timeCharacters}});
+    m_view->choosesByClick();
     m_goTo->setObjectName(QStringLiteral("history.goTo"));
     m_goTo->setStatusTip(tr("Undoes or redoes the steps up to the selected one"));
     m_putBack->setObjectName(QStringLiteral("history.putBack"));
     m_putBack->setStatusTip(tr("Writes the value from before the selected step, without undoing what came after it"));
     m_view->addActions({m_goTo, m_putBack});
-    m_view->installEventFilter(this);
-    m_view->viewport()->installEventFilter(this);
-    connect(m_view->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
-        m_columnsChosen = m_columnsChosen || (!m_sizingColumns && column != HistoryModel::TimeColumn);
-    });
-    connect(m_view, &QTableView::clicked, this, &HistoryPanel::goToRow);
-    connect(m_goTo, &QAction::triggered, this, [this] { goToRow(m_view->currentIndex()); });
+    connect(m_view, &RowTable::rowChosen, this, &HistoryPanel::goToRow);
+    connect(m_goTo, &QAction::triggered, this, [this] { goToRow(m_view->currentIndex().row()); });
     connect(m_putBack, &QAction::triggered, this, &HistoryPanel::putBack);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &HistoryPanel::updateActions);
     connect(m_model, &QAbstractItemModel::modelReset, this, &HistoryPanel::updateActions);
@@ -137,43 +129,6 @@ void HistoryPanel::buildBottomLine(QWidget* page)
     line->addWidget(m_slider, 1);
     m_place->setObjectName(QStringLiteral("historyPlace"));
     line->addWidget(m_place);
-}
-
-// States and times are of one length; the other columns share what is left.
-void HistoryPanel::sizeColumns()
-{
-    constexpr int stateCharacters = 15;
-    constexpr int timeCharacters = 15;
-    constexpr std::array shares{0.44, 0.28, 0.28};
-    constexpr std::array leastCharacters{14, 8, 8};
-    const QScopedValueRollback sizing(m_sizingColumns, true);
-    const int character = fontMetrics().averageCharWidth();
-    int left = m_view->viewport()->width() - stateCharacters * character;
-    const int shared = left - timeCharacters * character;
-    m_view->setColumnWidth(HistoryModel::StateColumn, stateCharacters * character);
-    for (std::size_t column = 0; column < shares.size(); ++column) {
-        const int width
-            = std::max(static_cast<int>(shares.at(column) * shared), leastCharacters.at(column) * character);
-        m_view->setColumnWidth(HistoryModel::StepColumn + static_cast<int>(column), width);
-        left -= width;
-    }
-    // The header widens it, but doesn't make it narrower.
-    m_view->setColumnWidth(HistoryModel::TimeColumn, left);
-}
-
-bool HistoryPanel::eventFilter(QObject* watched, QEvent* event)
-{
-    // A scroll bar takes of the width, too.
-    if (watched == m_view->viewport() && event->type() == QEvent::Resize && !m_columnsChosen)
-        sizeColumns();
-    if (watched == m_view && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            goToRow(m_view->currentIndex());
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void HistoryPanel::update()
@@ -201,8 +156,8 @@ void HistoryPanel::update()
 
 int HistoryPanel::selectedPosition() const
 {
-    const QModelIndexList rows = m_view->selectionModel()->selectedRows();
-    return rows.isEmpty() ? -1 : m_model->positionOf(rows.front().row());
+    const std::vector<int> rows = m_view->selectedRows();
+    return rows.empty() ? -1 : m_model->positionOf(rows.front());
 }
 
 void HistoryPanel::updateActions()
@@ -216,10 +171,10 @@ void HistoryPanel::updateActions()
             : reason);
 }
 
-void HistoryPanel::goToRow(const QModelIndex& index)
+void HistoryPanel::goToRow(int row)
 {
-    if (index.isValid())
-        m_travel.goTo(m_model->positionOf(index.row()));
+    if (row >= 0)
+        m_travel.goTo(m_model->positionOf(row));
 }
 
 void HistoryPanel::putBack()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/app/base/RowTable.h"
+
 #include <QTimer>
 #include <QWidget>
 
@@ -9,9 +11,7 @@ class MessageBar;
 class OrvServices;
 class QAction;
 class QLabel;
-class QModelIndex;
 class QSlider;
-class QTableView;
 class QToolButton;
 class StepTravel;
 
@@ -25,19 +25,15 @@ public:
     ~HistoryPanel() override;
 
     [[nodiscard]] HistoryModel* model() const noexcept { return m_model; }
-    [[nodiscard]] QTableView* view() const noexcept { return m_view; }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    [[nodiscard]] RowTable* view() const noexcept { return m_view; }
 
 private:
     void buildTopLine(QWidget* page);
     void buildView();
     void buildBottomLine(QWidget* page);
-    void sizeColumns();
     void update();
     void updateActions();
-    void goToRow(const QModelIndex& index);
+    void goToRow(int row);
     void putBack();
     [[nodiscard]] int selectedPosition() const;
 
@@ -45,7 +41,7 @@ private:
     StepTravel& m_travel;
     MessageBar& m_messages;
     HistoryModel* m_model;
-    QTableView* m_view;
+    RowTable* m_view;
     FilterLine* m_filter;
     QAction* m_goTo;
     QAction* m_putBack;
@@ -55,6 +51,4 @@ private:
     QLabel* m_memory;
     QTimer m_update;
     int m_shownPosition = -1;
-    bool m_sizingColumns = false;
-    bool m_columnsChosen = false; // by the user
 };

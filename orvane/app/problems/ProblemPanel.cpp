@@ -1,6 +1,5 @@
 #include "orvane/app/problems/ProblemPanel.h"
 
-#include "orvane/app/base/RowTable.h"
 #include "orvane/app/compare/CopyJob.h"
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/look/Look.h"
@@ -15,11 +14,8 @@
 #include <QAction>
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScopedValueRollback>
 #include <QStackedLayout>
 #include <QStyledItemDelegate>
 #include <QToolButton>
@@ -156,37 +152,13 @@ void ProblemPanel::buildView()
     m_view->setModel(m_model);
     m_view->setItemDelegateForColumn(ProblemModel::SentenceColumn, new SentenceDelegate(m_view));
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_view->installEventFilter(this);
-    m_view->viewport()->installEventFilter(this);
-    auto* copy = new QAction(tr("&Copy"), m_view);
-    copy->setObjectName(QStringLiteral("problems.copy"));
-    copy->setStatusTip(tr("Copies the selected problems as lines of text"));
-    copy->setShortcut(QKeySequence::Copy);
-    copy->setShortcutContext(Qt::WidgetShortcut);
-    connect(copy, &QAction::triggered, this, &ProblemPanel::copySelected);
-    auto* copyAll = new QAction(tr("Copy &All"), m_view);
-    copyAll->setObjectName(QStringLiteral("problems.copyAll"));
-    copyAll->setStatusTip(tr("Copies all problems that are shown as lines of text"));
-    connect(copyAll, &QAction::triggered, this, &ProblemPanel::copyAll);
-    m_view->addActions({m_mend, m_mendKind, copy, copyAll});
-    // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.
-    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        updateActions();
-        m_choosing = false;
-        // A row that is selected because the one before it went away isn't chosen.
-        if (m_view->hasFocus() && m_view->selectionModel()->selectedRows().size() == 1) {
-            m_choosing = true;
-            choose(m_view->selectionModel()->selectedRows().front().row());
-        }
-    });
-    connect(m_view, &QTableView::clicked, this, [this](const QModelIndex& index) {
-        if (!std::exchange(m_choosing, false) && selectedRows().size() == 1)
-            choose(index.row());
-    });
-    connect(m_view->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
-        m_columnsChosen = m_columnsChosen || (!m_sizingColumns && column != ProblemModel::IdentifierColumn);
-    });
+    constexpr int leastCharacters = 16;
+    m_view->setColumns({{leastCharacters, 0.52}, {leastCharacters, 0.3}, {}});
+    m_view->addActions({m_mend, m_mendKind});
+    m_view->addCopyActions(QStringLiteral("problems"));
+    connect(m_view, &RowTable::copyRequested, this, &ProblemPanel::copy);
+    connect(m_view, &RowTable::rowChosen, this, &ProblemPanel::choose);
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ProblemPanel::updateActions);
 }
 
 void ProblemPanel::replaceCheck()
@@ -232,7 +204,7 @@ void ProblemPanel::update()
 
 void ProblemPanel::updateActions()
 {
-    const std::vector<int> rows = selectedRows();
+    const std::vector<int> rows = m_view->selectedRows();
     const NxSceneProblem* const first = rows.empty() ? nullptr : m_model->problem(rows.front());
     const bool canMend = std::any_of(rows.begin(), rows.end(), [this](int row) {
         const NxSceneProblem* const problem = m_model->problem(row);
@@ -272,36 +244,6 @@ void ProblemPanel::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
 }
 
-bool ProblemPanel::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_view->viewport() && event->type() == QEvent::Resize && !m_columnsChosen)
-        sizeColumns();
-    if (watched == m_view && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_view->currentIndex().isValid()) {
-            choose(m_view->currentIndex().row());
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-void ProblemPanel::sizeColumns()
-{
-    constexpr std::array shares{0.52, 0.3};
-    constexpr int leastCharacters = 16;
-    const QScopedValueRollback sizing(m_sizingColumns, true);
-    const int least = leastCharacters * fontMetrics().averageCharWidth();
-    int left = m_view->viewport()->width();
-    for (std::size_t column = 0; column < shares.size(); ++column) {
-        const int width = std::max(least, static_cast<int>(shares.at(column) * m_view->viewport()->width()));
-        m_view->setColumnWidth(static_cast<int>(column), width);
-        left -= width;
-    }
-    // The header widens it, but doesn't make it narrower.
-    m_view->setColumnWidth(ProblemModel::IdentifierColumn, left);
-}
-
 void ProblemPanel::choose(int row)
 {
     if (const NxSceneProblem* const problem = m_model->problem(row)) {
@@ -311,21 +253,10 @@ void ProblemPanel::choose(int row)
     }
 }
 
-std::vector<int> ProblemPanel::selectedRows() const
-{
-    std::vector<int> rows;
-    for (const QItemSelectionRange& range : m_view->selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            rows.push_back(row);
-    }
-    std::sort(rows.begin(), rows.end());
-    return rows;
-}
-
 void ProblemPanel::mendSelected()
 {
     std::vector<NxSceneProblem> problems;
-    for (const int row : selectedRows()) {
+    for (const int row : m_view->selectedRows()) {
         const NxSceneProblem* const problem = m_model->problem(row);
         if (problem != nullptr && problem->isMendable)
             problems.push_back(*problem);
@@ -335,7 +266,7 @@ void ProblemPanel::mendSelected()
 
 void ProblemPanel::mendKind()
 {
-    const std::vector<int> rows = selectedRows();
+    const std::vector<int> rows = m_view->selectedRows();
     const NxSceneProblem* const first = rows.empty() ? nullptr : m_model->problem(rows.front());
     if (first != nullptr)
         mend(m_model->allOfKind(first->kind));
@@ -351,19 +282,6 @@ void ProblemPanel::mend(std::vector<NxSceneProblem> problems)
     const QString label = problems.size() == 1 ? tr("Mend: %1").arg(one) : tr("Mend %1 problems").arg(problems.size());
     const NxSceneMend::Undo undo = m_services.isUndoExact() ? NxSceneMend::Undo::ByJournal : NxSceneMend::Undo::ByMend;
     m_services.pushStep(new MendCommand(std::move(problems), undo), label);
-}
-
-void ProblemPanel::copySelected()
-{
-    copy(selectedRows());
-}
-
-void ProblemPanel::copyAll()
-{
-    std::vector<int> rows(static_cast<std::size_t>(m_model->rowCount()));
-    for (std::size_t row = 0; row < rows.size(); ++row)
-        rows[row] = static_cast<int>(row);
-    copy(rows);
 }
 
 void ProblemPanel::copy(const std::vector<int>& rows)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/app/base/RowTable.h"
+
 #include "meridane/scene/check/NxSceneProblem.h"
 
 #include <QWidget>
@@ -17,7 +19,6 @@ class QAction;
 class QLabel;
 class QLineEdit;
 class QStackedLayout;
-class QTableView;
 class QToolButton;
 
 /// Shows the problems of the open scene: buttons for the severities, a line to filter them, a row for each, and buttons
@@ -31,16 +32,12 @@ public:
     ~ProblemPanel() override;
 
     [[nodiscard]] ProblemModel* model() const noexcept { return m_model; }
-    [[nodiscard]] QTableView* view() const noexcept { return m_view; }
+    [[nodiscard]] RowTable* view() const noexcept { return m_view; }
 
     /// Mends the selected problems that have a mend, as one step.
     void mendSelected();
     /// Mends all problems of the kind of the selected one, as one step.
     void mendKind();
-    /// Puts the selected rows on the clipboard, as lines of text.
-    void copySelected();
-    /// The same for all rows that are shown.
-    void copyAll();
 
 Q_SIGNALS:
     /// The user chose a row.
@@ -50,7 +47,6 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildTopLine(QWidget* page);
@@ -60,18 +56,16 @@ private:
     void update();
     void updateActions();
     void updateIcons();
-    void sizeColumns();
     void choose(int row);
     void mend(std::vector<NxSceneProblem> problems);
     void copy(const std::vector<int>& rows);
-    [[nodiscard]] std::vector<int> selectedRows() const;
     [[nodiscard]] QString stateText() const;
 
     LiveCheck& m_check;
     OrvServices& m_services;
     JobBar& m_jobBar;
     ProblemModel* m_model;
-    QTableView* m_view;
+    RowTable* m_view;
     std::array<QToolButton*, 3> m_severities{};
     QLineEdit* m_filter;
     QAction* m_mend;
@@ -79,8 +73,5 @@ private:
     QAction* m_again;
     QLabel* m_text; // in place of rows
     QStackedLayout* m_pages;
-    bool m_choosing = false; // by the press of a mouse button that isn't released yet
-    bool m_columnsChosen = false; // by the user
-    bool m_sizingColumns = false;
     std::unique_ptr<CopyJob> m_copying;
 };

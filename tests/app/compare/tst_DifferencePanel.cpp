@@ -168,7 +168,7 @@ private Q_SLOTS:
         const QString lines = QStringLiteral("value\t/robot/arm.translation\t1 2 3\t1 2 4\n"
                                              "ignored\t/robot/Material[0].shininess\ttrue\tfalse\n");
         QTRY_COMPARE(QApplication::clipboard()->text(), lines);
-        m_panel->copyAll();
+        m_panel->findChild<QAction*>(QStringLiteral("comparison.copyAll"))->trigger();
         const QString added = QStringLiteral("added\t/robot/\"<b>\\n\"\t\tPointLight\n");
         QTRY_COMPARE(
             QApplication::clipboard()->text(), added + lines + QStringLiteral("removed\t/robot/leg\tMesh\t\n"));
