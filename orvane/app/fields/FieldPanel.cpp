@@ -31,9 +31,9 @@
 #include <initializer_list>
 #include <utility>
 
-FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* parent)
+FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* parent, const QString& name)
     : QWidget(parent)
-    , m_settings(settings)
+    , m_settings(settings, name)
     , m_writer(services)
     , m_model(new FieldTableModel(this))
     , m_view(new FieldTableView(this))
@@ -71,6 +71,7 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
         const FieldRow* const row = m_model->row(m_model->indexOf(&first));
         return row != nullptr && m_settings.isDeferred(orvane::favoriteKey(*row));
     });
+    m_model->setWriter(m_writer);
     setFocusProxy(m_view);
 }
 

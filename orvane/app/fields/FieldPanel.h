@@ -31,8 +31,8 @@ class FieldPanel : public QWidget {
     Q_OBJECT
 
 public:
-    /// The services and the settings live longer.
-    FieldPanel(OrvServices& services, AppSettings& settings, QWidget* parent = nullptr);
+    /// The services and the settings live longer. Panels with different names keep their columns apart.
+    FieldPanel(OrvServices& services, AppSettings& settings, QWidget* parent = nullptr, const QString& name = {});
     ~FieldPanel() override;
 
     /// Shows the fields of a node; null for none.

@@ -19,6 +19,14 @@ QString beginningOfText(const std::string& text)
     return beginning.size() <= length ? beginning : beginning.left(length) + QChar(0x2026);
 }
 
+QString valueText(const NxField& field)
+{
+    QString text = orvane::oneLine(orvane::beginningOf(field, FieldRow::shownCharacters));
+    if (const auto* const list = dynamic_cast<const NxMField*>(&field))
+        text.prepend(orvane::rowCountText(*list) + QStringLiteral("  "));
+    return text;
+}
+
 } // namespace
 
 FieldRow::FieldRow(FieldSet fields, QString name, NxType declaringType)
@@ -52,16 +60,14 @@ QString FieldRow::mixedText()
 
 const QString& FieldRow::text() const
 {
-    if (!m_text.isNull())
-        return m_text;
-    if (isMixed()) {
-        m_text = mixedText();
-        return m_text;
-    }
-    m_text = orvane::oneLine(orvane::beginningOf(m_fields.first(), shownCharacters));
-    if (const auto* const list = dynamic_cast<const NxMField*>(first()))
-        m_text = orvane::rowCountText(*list) + QStringLiteral("  ") + m_text;
+    if (m_text.isNull())
+        m_text = isMixed() ? mixedText() : valueText(m_fields.first());
     return m_text;
+}
+
+QString FieldRow::textOf(const FieldSet& fields)
+{
+    return fields.isMixed() ? mixedText() : valueText(fields.first());
 }
 
 FieldRow::State FieldRow::state() const

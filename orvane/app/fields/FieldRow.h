@@ -33,6 +33,8 @@ public:
 
     /// The value in one line; a dash for several values, and for a list also the number of its rows.
     [[nodiscard]] const QString& text() const;
+    /// The same for a set like that of the row.
+    [[nodiscard]] static QString textOf(const FieldSet& fields);
     [[nodiscard]] bool isMixed() const { return state().isMixed; }
     [[nodiscard]] bool isChanged() const { return state().isChanged; }
     [[nodiscard]] bool isIgnored() const { return state().isIgnored; }

@@ -3,6 +3,7 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldFilter.h"
 #include "orvane/app/fields/FieldToolTip.h"
+#include "orvane/app/fields/values/FieldWriter.h"
 #include "orvane/app/look/Look.h"
 
 #include "meridane/scene/fields/NxField.h"
@@ -11,9 +12,9 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
-#include <QStringList>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -21,23 +22,6 @@ QColor quietColor()
 {
     const QPalette palette = QGuiApplication::palette();
     return orvane::look::quietColor(palette.color(QPalette::Text), palette.color(QPalette::Base));
-}
-
-/// What the marks and a dash say to who can't see them; nothing for what is text already.
-QVariant accessibleText(const FieldRow& row, const FieldGroup& group, int column)
-{
-    if (column == FieldTableModel::ValueColumn && row.isMixed())
-        return FieldTableModel::tr("mixed");
-    if (column != FieldTableModel::MarkColumn)
-        return {};
-    QStringList marks;
-    if (row.isChanged())
-        marks += FieldTableModel::tr("changed");
-    if (row.isIgnored())
-        marks += FieldTableModel::tr("ignored");
-    if (group.kind == FieldGroup::Kind::Favorites)
-        marks += FieldTableModel::tr("favorite");
-    return marks.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -81,6 +65,7 @@ void FieldTableModel::setNodes(const std::shared_ptr<const FieldSet::Nodes>& nod
     m_nodes = nodes != nullptr && nodes->empty() ? nullptr : nodes;
     m_groups.clear();
     m_all.clear();
+    m_pendingRow = nullptr;
     m_rows.clear();
     if (m_nodes) {
         m_rows = orvane::fieldRows(m_nodes);
@@ -110,6 +95,26 @@ void FieldTableModel::setFavorites(const QSet<QString>& favorites)
     m_favorites = favorites;
     rebuild();
     endResetModel();
+}
+
+void FieldTableModel::setWriter(const FieldWriter& writer)
+{
+    m_writer = &writer;
+    connect(&writer, &FieldWriter::pendingChanged, this, &FieldTableModel::showPending);
+}
+
+void FieldTableModel::showPending()
+{
+    const auto show = [this](const FieldRow& row) {
+        if (const QModelIndex index = indexOf(row).siblingAtColumn(ValueColumn); index.isValid())
+            Q_EMIT dataChanged(index, index);
+    };
+    const auto found = std::ranges::find_if(m_rows, [this](const auto& row) { return isPending(*row); });
+    FieldRow* const before = std::exchange(m_pendingRow, found != m_rows.end() ? found->get() : nullptr);
+    if (before != nullptr && before != m_pendingRow)
+        show(*before);
+    if (m_pendingRow != nullptr)
+        show(*m_pendingRow);
 }
 
 void FieldTableModel::rebuild()
@@ -312,7 +317,7 @@ QVariant FieldTableModel::rowData(const FieldRow& row, const FieldGroup& group, 
             return row.name();
         if (column == TypeColumn)
             return row.type();
-        return column == ValueColumn ? row.text() : QString();
+        return column == ValueColumn ? valueText(row) : QString();
     case Qt::FontRole: {
         QFont font;
         font.setStrikeOut(row.isIgnored() && column == NameColumn);
@@ -341,6 +346,28 @@ QVariant FieldTableModel::rowData(const FieldRow& row, const FieldGroup& group, 
     default:
         return {};
     }
+}
+
+bool FieldTableModel::isPending(const FieldRow& row) const
+{
+    return m_writer != nullptr && m_writer->isPending() && m_writer->isPending(row.fields());
+}
+
+QString FieldTableModel::valueText(const FieldRow& row) const
+{
+    return isPending(row) ? FieldRow::textOf(m_writer->pending(row.fields())) : row.text();
+}
+
+// What the marks, a dash and italics say to those who can't see them; nothing for what is text already.
+QVariant FieldTableModel::accessibleText(const FieldRow& row, const FieldGroup& group, int column) const
+{
+    if (column == ValueColumn && isPending(row)) {
+        const QString text = m_writer->pending(row.fields()).isMixed() ? tr("mixed") : valueText(row);
+        return tr("%1, not written yet").arg(text);
+    }
+    if (column == ValueColumn && row.isMixed())
+        return tr("mixed");
+    return column == MarkColumn ? orvane::marksText(row, group) : QVariant();
 }
 
 QVariant FieldTableModel::headerData(int section, Qt::Orientation orientation, int role) const

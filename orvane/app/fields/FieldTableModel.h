@@ -13,6 +13,7 @@
 #include <memory>
 #include <vector>
 
+class FieldWriter;
 class NxField;
 class NxFieldContainer;
 
@@ -41,6 +42,9 @@ public:
     void setFilter(const meridane::Query& query, bool changedOnly);
     /// The keys of the fields that are favourites, see `orvane::favoriteKey`.
     void setFavorites(const QSet<QString>& favorites);
+
+    /// Shows pending values of a deferred edit in place of those of the fields. The writer lives longer.
+    void setWriter(const FieldWriter& writer);
 
     /// The row of an index; null for a group.
     [[nodiscard]] const FieldRow* row(const QModelIndex& index) const;
@@ -81,6 +85,10 @@ private:
     [[nodiscard]] QVariant groupData(const FieldGroup& group, int column, int role) const;
     [[nodiscard]] QVariant rowData(const FieldRow& row, const FieldGroup& group, int column, int role) const;
     [[nodiscard]] QModelIndex indexOf(const FieldRow& row) const;
+    [[nodiscard]] bool isPending(const FieldRow& row) const;
+    [[nodiscard]] QString valueText(const FieldRow& row) const;
+    [[nodiscard]] QVariant accessibleText(const FieldRow& row, const FieldGroup& group, int column) const;
+    void showPending();
 
     std::shared_ptr<const FieldSet::Nodes> m_nodes; // null for none
     std::vector<std::unique_ptr<FieldRow>> m_rows;
@@ -90,6 +98,8 @@ private:
     std::vector<std::unique_ptr<NxNodeSensor>> m_nodeWatches; // of several nodes
     meridane::Query m_filter;
     QSet<QString> m_favorites;
+    const FieldWriter* m_writer = nullptr; // whose pending values are shown
+    FieldRow* m_pendingRow = nullptr; // whose value was shown as pending
     bool m_changedOnly = false;
     bool m_refreshPosted = false;
 };

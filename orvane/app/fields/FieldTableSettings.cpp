@@ -54,22 +54,32 @@ void FieldTableSettings::setFolded(const QString& key, bool folded)
 
 int FieldTableSettings::columnWidth(int column) const
 {
-    return std::clamp(m_settings.value(widthKey(column)).toInt(), 0, widestColumn);
+    return std::clamp(columnValue(widthKey(column)).toInt(), 0, widestColumn);
 }
 
 void FieldTableSettings::setColumnWidth(int column, int width)
 {
-    m_settings.setValue(widthKey(column), width);
+    setColumnValue(widthKey(column), width);
 }
 
 bool FieldTableSettings::isTypeShown() const
 {
-    return m_settings.value(typeShownKey, false).toBool();
+    return columnValue(typeShownKey).toBool();
 }
 
 void FieldTableSettings::setTypeShown(bool shown)
 {
-    m_settings.setValue(typeShownKey, shown);
+    setColumnValue(typeShownKey, shown);
+}
+
+QVariant FieldTableSettings::columnValue(const QString& key) const
+{
+    return m_settings.value(key + m_table, m_table.isEmpty() ? QVariant() : m_settings.value(key));
+}
+
+void FieldTableSettings::setColumnValue(const QString& key, const QVariant& value)
+{
+    m_settings.setValue(key + m_table, value);
 }
 
 void FieldTableSettings::change(const QString& list, const QString& key, bool contained)

@@ -2,15 +2,20 @@
 
 #include <QSet>
 #include <QString>
+#include <QVariant>
+
+#include <utility>
 
 class AppSettings;
 
 /// What the user has chosen for the field table, kept from run to run.
 class FieldTableSettings {
 public:
-    /// The settings live longer.
-    explicit FieldTableSettings(AppSettings& settings)
+    /// The settings live longer. `table` tells the columns of several tables apart; what wasn't chosen for one is as in
+    /// the table with the empty name.
+    explicit FieldTableSettings(AppSettings& settings, QString table = {})
         : m_settings(settings)
+        , m_table(std::move(table))
     {
     }
 
@@ -37,5 +42,9 @@ public:
 private:
     void change(const QString& list, const QString& key, bool contained);
 
+    [[nodiscard]] QVariant columnValue(const QString& key) const;
+    void setColumnValue(const QString& key, const QVariant& value);
+
     AppSettings& m_settings;
+    QString m_table;
 };

@@ -84,4 +84,16 @@ QString groupToolTip(const FieldGroup& group)
     return plainToolTip(fieldToolTipText("The fields that the class %1 declares.").arg(group.title));
 }
 
+QString marksText(const FieldRow& row, const FieldGroup& group)
+{
+    QStringList marks;
+    if (row.isChanged())
+        marks += fieldToolTipText("changed");
+    if (row.isIgnored())
+        marks += fieldToolTipText("ignored");
+    if (group.kind == FieldGroup::Kind::Favorites)
+        marks += fieldToolTipText("favorite");
+    return marks.join(QStringLiteral(", "));
+}
+
 } // namespace orvane

@@ -19,7 +19,7 @@ InspectorDock::InspectorDock(int number, Session& session, SceneTreePanel* tree,
     , m_number(number)
     , m_session(session)
     , m_tree(tree)
-    , m_panel(new FieldPanel(session.services(), session.settings(), this))
+    , m_panel(new FieldPanel(session.services(), session.settings(), this, QStringLiteral("/inspector%1").arg(number)))
     , m_lock(new NodeLock(session, this))
     , m_lockAction(new LockAction(
           *m_lock, [tree] { return tree->model()->path(tree->selected()); }, this))

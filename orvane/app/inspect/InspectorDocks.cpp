@@ -75,7 +75,7 @@ InspectorDock* InspectorDocks::add(int number)
     m_docks.append(dock);
     if (m_flow != nullptr)
         dock->lock().followReloads(*m_flow);
-    connect(dock, &QObject::destroyed, this, &InspectorDocks::forget);
+    connect(dock, &QObject::destroyed, this, [this, number](const QObject* gone) { forget(gone, number); });
     auto* const fields = m_window->findChild<QDockWidget*>(QStringLiteral("fieldsDock"), Qt::FindDirectChildrenOnly);
     m_window->addDockWidget(Qt::RightDockWidgetArea, dock);
     if (fields != nullptr && fields->isVisible() && !fields->isFloating()) {
@@ -89,12 +89,13 @@ InspectorDock* InspectorDocks::add(int number)
     return dock;
 }
 
-void InspectorDocks::forget(QObject* dock)
+void InspectorDocks::forget(const QObject* dock, int number)
 {
     // At this point of its destruction the object is only a QObject.
     m_docks.removeIf([dock](const InspectorDock* other) { return static_cast<const void*>(other) == dock; });
     m_newAction->setEnabled(true);
     store();
+    Q_EMIT removed(number);
 }
 
 void InspectorDocks::store()

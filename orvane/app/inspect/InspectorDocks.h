@@ -35,11 +35,13 @@ public:
 Q_SIGNALS:
     /// A dock was added. It goes by itself.
     void added(InspectorDock* dock);
+    /// The user has closed the dock of that number.
+    void removed(int number);
 
 private:
     void open();
     InspectorDock* add(int number);
-    void forget(QObject* dock);
+    void forget(const QObject* dock, int number);
     void store();
     [[nodiscard]] int freeNumber() const;
 

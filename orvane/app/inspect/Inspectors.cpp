@@ -7,6 +7,7 @@
 #include "orvane/app/inspect/FieldTitleBars.h"
 #include "orvane/app/inspect/InspectorDock.h"
 #include "orvane/app/inspect/InspectorDocks.h"
+#include "orvane/app/inspect/KeptLocks.h"
 #include "orvane/app/inspect/LockAction.h"
 #include "orvane/app/inspect/LockStatus.h"
 #include "orvane/app/inspect/NodeLock.h"
@@ -36,6 +37,7 @@ Inspectors::Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* field
     , m_lockAction(new LockAction(
           *m_lock, [this] { return selectedPath(); }, this))
     , m_docks(new InspectorDocks(session, tree, window))
+    , m_kept(new KeptLocks(session, this))
     , m_favorites(new FavoriteNodes(session, tree)) // its view draws them
     , m_favoriteActions(new FavoriteActions(*m_favorites, tree, window))
 {
@@ -45,7 +47,10 @@ Inspectors::Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* field
     new FieldTitleBars(session, tree, *m_lock, window);
     connect(m_favoriteActions, &FavoriteActions::refused, this, &Inspectors::showMessage);
     connect(m_docks, &InspectorDocks::added, this, &Inspectors::noteDock);
+    connect(m_docks, &InspectorDocks::removed, m_kept, &KeptLocks::remove);
+    connect(m_kept, &KeptLocks::lost, this, &Inspectors::showMessage);
     connect(&session.services(), &OrvServices::selectedNodeChanged, m_lockAction, &LockAction::update);
+    m_kept->add(1, *m_lock);
     connect(m_lock, &NodeLock::lost, this, &Inspectors::showMessage);
     window->statusBar()->addPermanentWidget(new LockStatus(*m_lock, m_lockAction->shortcut(), window));
 }
@@ -97,6 +102,7 @@ void Inspectors::restoreDocks()
 
 void Inspectors::noteDock(InspectorDock* dock)
 {
+    m_kept->add(dock->number(), dock->lock());
     connect(&dock->lock(), &NodeLock::lost, this, &Inspectors::showMessage);
     connect(&dock->panel(), &FieldPanel::editorRequested, this, [this, dock] {
         const FieldPanel& panel = dock->panel();

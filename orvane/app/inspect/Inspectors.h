@@ -11,6 +11,7 @@ class FieldPanel;
 class FileFlow;
 class InspectorDock;
 class InspectorDocks;
+class KeptLocks;
 class LockAction;
 class NodeLock;
 class NxNode;
@@ -64,6 +65,7 @@ private:
     PlaceActions* m_places;
     LockAction* m_lockAction;
     InspectorDocks* m_docks;
+    KeptLocks* m_kept;
     FavoriteNodes* m_favorites;
     FavoriteActions* m_favoriteActions;
 };

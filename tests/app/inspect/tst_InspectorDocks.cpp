@@ -2,6 +2,7 @@
 
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/fields/FieldTableModel.h"
+#include "orvane/app/fields/FieldTableView.h"
 #include "orvane/app/inspect/InspectorDock.h"
 #include "orvane/app/inspect/InspectorDocks.h"
 #include "orvane/app/inspect/LockAction.h"
@@ -10,6 +11,7 @@
 #include "meridane/scene/file/NxScenePath.h"
 
 #include <QAction>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QStatusBar>
@@ -161,6 +163,7 @@ private Q_SLOTS:
         clickNode("/robot/arm");
         openAnother();
         openAnother();
+        QCoreApplication::processEvents();
         QTest::keyClick(m_window.get(), Qt::Key_W, Qt::ControlModifier);
         QTRY_VERIFY(!m_window->document().isOpen());
         for (const InspectorDock* dock : docks()) {
@@ -168,9 +171,10 @@ private Q_SLOTS:
             QVERIFY(!dock->lock().isOn());
             QVERIFY(!dock->lockAction().isEnabled());
         }
+        // They are on again with the same file.
         open(m_robot);
-        clickNode("/sun");
-        QCOMPARE(nodeIn(docks().back()), sun());
+        QTRY_COMPARE(nodeIn(docks().back()), node("/robot/arm"));
+        QVERIFY(docks().back()->lock().isOn());
     }
 
     void closedOnesAreGoneAndTheirNumbersAreUsedAgain()
@@ -213,6 +217,66 @@ private Q_SLOTS:
         open(m_robot);
         clickNode("/sun");
         QCOMPARE(nodeIn(docks().front()), sun());
+    }
+
+    void locksAndColumnsAreKept()
+    {
+        clickNode("/robot/arm");
+        openAnother();
+        QTest::keyClick(m_window.get(), Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);
+        docks().front()->panel().view()->header()->resizeSection(FieldTableModel::NameColumn, 91);
+        mainPanel().view()->header()->resizeSection(FieldTableModel::NameColumn, 133);
+        QCoreApplication::processEvents();
+        m_window->close();
+        makeWindow();
+        QVERIFY(!docks().front()->lock().isOn());
+        open(m_robot);
+        QTRY_COMPARE(nodeIn(docks().front()), node("/robot/arm"));
+        QVERIFY(docks().front()->lock().isOn());
+        QCOMPARE(mainPanel().model()->node(), node("/robot/arm"));
+        QCOMPARE(docks().front()->panel().view()->columnWidth(FieldTableModel::NameColumn), 91);
+        QCOMPARE(mainPanel().view()->columnWidth(FieldTableModel::NameColumn), 133);
+        // What is unlocked stays so.
+        QTest::mouseClick(padlock(docks().front()), Qt::LeftButton);
+        QCoreApplication::processEvents();
+        m_window->close();
+        makeWindow();
+        open(m_robot);
+        QTRY_COMPARE(mainPanel().model()->node(), node("/robot/arm"));
+        QVERIFY(!docks().front()->lock().isOn());
+    }
+
+    void aLockOnANodeThatIsGoneIsOff()
+    {
+        clickNode("/robot/arm");
+        openAnother();
+        QCoreApplication::processEvents();
+        m_window->close();
+        QByteArray text = readFile(m_robot);
+        text.replace("\"arm\"", "\"leg\"");
+        writeFile(m_robot, text);
+        makeWindow();
+        open(m_robot);
+        QTRY_VERIFY(m_window->statusBar()->currentMessage().startsWith(
+            QStringLiteral("Inspector 2 was locked on /robot/arm, which isn't in the file any more.")));
+        QVERIFY(!docks().front()->lock().isOn());
+        clickNode("/sun");
+        QCOMPARE(nodeIn(docks().front()), sun());
+    }
+
+    void aClosedInspectorForgetsItsLock()
+    {
+        clickNode("/robot/arm");
+        openAnother();
+        close(docks().front());
+        clickNode("/sun");
+        openAnother();
+        QCOMPARE(nodeIn(docks().front()), sun());
+        QCoreApplication::processEvents();
+        m_window->close();
+        makeWindow();
+        open(m_robot);
+        QTRY_COMPARE(nodeIn(docks().front()), sun());
     }
 
     void settingsThatMakeNoSenseAddNothing()

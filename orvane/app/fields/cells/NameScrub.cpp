@@ -10,9 +10,7 @@
 #include "orvane/app/fields/editors/FieldNumbers.h"
 #include "orvane/app/fields/popups/StepFactor.h"
 #include "orvane/app/fields/values/FieldWriter.h"
-#include "orvane/app/input/NumberLimits.h"
 
-#include "meridane/scene/components/FieldComponents.h"
 #include "meridane/scene/fields/NxSField.h"
 
 #include <QAbstractItemView>
@@ -55,7 +53,7 @@ std::optional<NameScrub::Target> NameScrub::targetAt(const QPoint& position) con
     const int component = cell.scrubbedComponent(fields.first(), 0, m_delegate->services());
     if (component != 0 || cell.parts(fields.first(), m_delegate->services()) != 1)
         return std::nullopt;
-    return Target{std::move(fields), index, component};
+    return Target{std::move(fields), index, 0};
 }
 
 std::optional<NameScrub::Target> NameScrub::letterAt(const QModelIndex& index, const QPoint& position) const
@@ -76,7 +74,7 @@ std::optional<NameScrub::Target> NameScrub::letterAt(const QModelIndex& index, c
     const int left = cell.partArea(area, field, part, services).left();
     if (letter.isEmpty() || position.x() > left + width + orvane::look::unit(m_view->fontMetrics()) / 2)
         return std::nullopt;
-    return Target{std::move(fields), index, component};
+    return Target{std::move(fields), index, part};
 }
 
 bool NameScrub::eventFilter(QObject* object, QEvent* event)
@@ -163,15 +161,14 @@ bool NameScrub::move(const QMouseEvent& event)
 void NameScrub::begin()
 {
     const NxField& field = m_target.fields.first();
-    const double value = meridane::FieldComponents::of(field)->get(field, 0, m_target.component);
-    const orvane::NumberLimits limits = orvane::NumberLimits::of(field, m_target.component);
-    m_step = limits.stepFrom(value);
-    m_lowest = std::min(0.0, limits.hardMinimum - value);
-    m_highest = std::max(0.0, limits.hardMaximum - value);
+    const ScrubbedNumber number = orvane::cellOf(field).scrubbedNumber(field, m_target.part, m_delegate->services());
+    m_step = number.limits.stepFrom(number.value);
+    m_lowest = std::min(0.0, number.limits.hardMinimum - number.value);
+    m_highest = std::max(0.0, number.limits.hardMaximum - number.value);
     m_change = 0;
     m_state = State::Dragging;
     qApp->installEventFilter(this);
-    m_delegate->services().writer().beginDrag(m_target.fields, m_target.component);
+    m_delegate->services().writer().beginDrag(m_target.fields, number.moverOf);
 }
 
 void NameScrub::end(bool keep)

@@ -45,7 +45,7 @@ private:
     struct Target {
         FieldSet fields;
         QPersistentModelIndex index; // of the name
-        int component = 0;
+        int part = 0;
     };
 
     [[nodiscard]] std::optional<Target> targetAt(const QPoint& position) const;

@@ -1,5 +1,7 @@
 #include "orvane/app/fields/cells/ValueCell.h"
 
+#include "meridane/scene/components/FieldComponents.h"
+
 int ValueCell::parts(const NxField& /*field*/, const CellServices& /*services*/) const
 {
     return 1;
@@ -30,6 +32,13 @@ int ValueCell::partAt(
 int ValueCell::scrubbedComponent(const NxField& /*field*/, int /*part*/, const CellServices& /*services*/) const
 {
     return -1;
+}
+
+ScrubbedNumber ValueCell::scrubbedNumber(const NxField& field, int part, const CellServices& services) const
+{
+    const int component = scrubbedComponent(field, part, services);
+    return {meridane::FieldComponents::of(field)->get(field, 0, component), orvane::NumberLimits::of(field, component),
+        FieldWriter::componentMover(field, component)};
 }
 
 bool ValueCell::click(const CellEdit& /*edit*/, const QRect& /*area*/, const QPoint& /*position*/) const

@@ -2,6 +2,8 @@
 
 #include "orvane/app/fields/editors/CellEdit.h"
 #include "orvane/app/fields/values/FieldSet.h"
+#include "orvane/app/fields/values/FieldWriter.h"
+#include "orvane/app/input/NumberLimits.h"
 
 #include <QColor>
 #include <QFont>
@@ -32,6 +34,13 @@ struct CellPaint {
     const meridane::Query* query = nullptr; ///< whose words are highlighted; null for none
 };
 
+/// A number that a drag changes.
+struct ScrubbedNumber {
+    double value = 0;
+    orvane::NumberLimits limits;
+    FieldWriter::MoverOf moverOf;
+};
+
 /// How the values of some field classes are shown and edited in a cell of a table. There is one object for each kind of
 /// value, see `orvane::cellOf`; it has no state. Thread of the user interface only.
 class ValueCell {
@@ -56,9 +65,12 @@ public:
     [[nodiscard]] int partAt(
         const QRect& area, const NxField& field, const QPoint& position, const CellServices& services) const;
 
-    /// The component of the field that a drag on the name of that part changes; -1 for none. The name of the field
-    /// counts as that of the only part.
+    /// The component whose letter is beside that part, and is dragged to change the number; -1 for none. The name of
+    /// the field counts as that of the only part.
     [[nodiscard]] virtual int scrubbedComponent(const NxField& field, int part, const CellServices& services) const;
+    /// The number that such a drag changes: the component, unless the part shows another one.
+    [[nodiscard]] virtual ScrubbedNumber scrubbedNumber(
+        const NxField& field, int part, const CellServices& services) const;
 
     /// A click on the value. True if it was all that was wanted; otherwise an editor opens.
     virtual bool click(const CellEdit& edit, const QRect& area, const QPoint& position) const;

@@ -255,29 +255,40 @@ const FieldSet& FieldWriter::original(const FieldSet& fields) const
     return isPending(fields) ? m_live : fields;
 }
 
+FieldWriter::MoverOf FieldWriter::componentMover(const NxField& like, int component)
+{
+    const auto* const components = meridane::FieldComponents::of(like);
+    return [components, component](const NxField& field) -> Mover {
+        return [components, component, start = components->get(field, 0, component)](NxField& moved, double delta) {
+            if (!std::isfinite(start))
+                return;
+            const double value = std::clamp(start + delta, components->lowest(), components->highest());
+            components->set(moved, 0, component, components->isWhole() ? std::round(value) : value);
+        };
+    };
+}
+
 void FieldWriter::beginDrag(const FieldSet& fields, int component)
 {
-    const auto* const components = fields.isEmpty() ? nullptr : meridane::FieldComponents::of(fields.first());
-    if (components == nullptr || !begin(fields))
+    if (!fields.isEmpty() && meridane::FieldComponents::of(fields.first()) != nullptr)
+        beginDrag(fields, componentMover(fields.first(), component));
+}
+
+void FieldWriter::beginDrag(const FieldSet& fields, const MoverOf& moverOf)
+{
+    if (fields.isEmpty() || !begin(fields))
         return;
-    m_draggedComponent = component;
     for (const NxField* const field : m_live.fields())
-        m_dragStarts.push_back(components->get(*field, 0, component));
+        m_movers.push_back(moverOf(*field));
 }
 
 void FieldWriter::drag(double delta)
 {
-    if (m_dragStarts.empty())
+    if (m_movers.empty())
         return;
-    const auto& components = *meridane::FieldComponents::of(m_live.first());
     std::size_t number = 0;
-    for (NxField* const field : pending(m_live).fields()) {
-        const double start = m_dragStarts[number++];
-        if (!std::isfinite(start))
-            continue;
-        const double value = std::clamp(start + delta, components.lowest(), components.highest());
-        components.set(*field, 0, m_draggedComponent, components.isWhole() ? std::round(value) : value);
-    }
+    for (NxField* const field : pending(m_live).fields())
+        m_movers[number++](*field, delta);
     announce(m_live);
 }
 
@@ -321,7 +332,7 @@ void FieldWriter::forgetLive()
     if (!isLive())
         return;
     m_before.clear();
-    m_dragStarts.clear();
+    m_movers.clear();
     m_live = FieldSet();
     if (!isPending())
         return m_services.endEdit();

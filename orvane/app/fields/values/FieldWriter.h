@@ -84,8 +84,15 @@ public:
 
     /// Begins a live edit that drags a component of all fields. Does nothing for fields without numbers.
     void beginDrag(const FieldSet& fields, int component);
-    /// Sets the component of each field to its own value from the beginning of the drag plus `delta`, within the range
-    /// of its type; whole numbers are rounded. End the drag with `end` or `cancel`.
+    /// Changes a dragged field by a difference, counted from its value at the beginning of the drag.
+    using Mover = std::function<void(NxField& field, double delta)>;
+    using MoverOf = std::function<Mover(const NxField& start)>;
+    /// The same for a number that isn't a component. `moverOf` is called once for each field.
+    void beginDrag(const FieldSet& fields, const MoverOf& moverOf);
+    /// What moves a component of fields like this one, which has numbers.
+    [[nodiscard]] static MoverOf componentMover(const NxField& like, int component);
+    /// Sets the number of each field to its own value from the beginning of the drag plus `delta`. A component stays
+    /// within the range of its type; whole numbers are rounded. End the drag with `end` or `cancel`.
     void drag(double delta);
 
 Q_SIGNALS:
@@ -116,6 +123,5 @@ private:
     std::vector<std::unique_ptr<meridane::ChangeRecord>> m_before; // its values
     FieldSet m_pending; // the spare fields of a deferred one; empty for none
     std::function<bool(const NxField& first)> m_deferral;
-    int m_draggedComponent = 0;
-    std::vector<double> m_dragStarts; // for each field; empty when none is dragged
+    std::vector<Mover> m_movers; // for each field; empty when none is dragged
 };

@@ -116,7 +116,13 @@ private Q_SLOTS:
         QVERIFY2(m_status.startsWith(u"Not written yet"_s), qPrintable(m_status));
         const std::string shown = pendingText("sfFloat");
         QVERIFY(shown != "0.1");
+        // So it is said to those who don't see it.
+        QCOMPARE(cell("sfFloat").data().toString().toStdString(), shown);
+        QCOMPARE(cell("sfFloat").data(Qt::AccessibleTextRole).toString(),
+            QString::fromStdString(shown) + u", not written yet"_s);
         release();
+        QVERIFY(!cell("sfFloat").data(Qt::AccessibleTextRole).isValid());
+        QCOMPARE(cell("sfFloat").data().toString().toStdString(), shown);
         QCOMPARE(text("sfFloat"), shown);
         QCOMPARE(steps(), before + 1);
         QCOMPARE(m_status, QString());

@@ -1,5 +1,11 @@
 #include "app/fields/cells/CellCase.h"
 
+#include "orvane/app/fields/popups/MatrixParts.h"
+
+#include "meridane/scene/fields/single/NxSFRotation.h"
+
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 /// Dragging on the name of a number.
@@ -133,6 +139,48 @@ private Q_SLOTS:
         QCOMPARE(numbers[1], u"2"_s);
         QVERIFY(numbers[2].toDouble() > 3);
         QVERIFY(editor() == nullptr);
+    }
+
+    void theLettersOfARotationAreDragged_data()
+    {
+        QTest::addColumn<int>("component");
+        for (const int component : {0, 1, 2, 3})
+            QTest::addRow("component %d", component) << component;
+    }
+
+    void theLettersOfARotationAreDragged()
+    {
+        QFETCH(int, component);
+        QVERIFY(field("sfRotation").set("0.5 0.5 0.5 1"));
+        const int before = steps();
+        press(part("sfRotation", component).topLeft() + QPoint(3, 5));
+        move(far() + 20);
+        release();
+        QCOMPARE(steps(), before + 1);
+        const QStringList numbers = QString::fromStdString(text("sfRotation")).split(u' ');
+        const QStringList old{u"0.5"_s, u"0.5"_s, u"0.5"_s, u"1"_s};
+        for (int i = 0; i < 4; ++i)
+            QCOMPARE(numbers.at(i) != old.at(i), i == component);
+    }
+
+    void eulerDegreesAreDragged()
+    {
+        delegate().services().setEulerShown(true);
+        QVERIFY(field("sfRotation").set("1 0 0 0"));
+        const int before = steps();
+        press(part("sfRotation", 1).topLeft() + QPoint(3, 5));
+        move(far());
+        // Beyond the angle at which other axes give the same rotation, and back.
+        move(200 - far());
+        const VbRotation turned = orvane::fromEuler({0, 200, 0});
+        const auto& rotation = dynamic_cast<const NxSFRotation&>(field("sfRotation"));
+        QCOMPARE_LE(std::abs(rotation.getValue().getAngle() - turned.getAngle()), 1e-4F);
+        move(-170);
+        release();
+        QCOMPARE_LE(std::abs(orvane::toEuler(rotation.getValue())[1] - 30), 1e-3);
+        QCOMPARE(steps(), before + 1);
+        undo();
+        QCOMPARE(text("sfRotation"), std::string("1 0 0 0"));
     }
 
     void wholeNumbersStayWhole()

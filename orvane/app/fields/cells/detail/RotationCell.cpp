@@ -95,7 +95,23 @@ QRect RotationCell::partArea(const QRect& area, const NxField& /*field*/, int pa
 
 int RotationCell::scrubbedComponent(const NxField& /*field*/, int part, const CellServices& services) const
 {
-    return !services.isEulerShown() && part < columns(services) ? part : -1;
+    return part < columns(services) ? part : -1;
+}
+
+ScrubbedNumber RotationCell::scrubbedNumber(const NxField& field, int part, const CellServices& services) const
+{
+    if (!services.isEulerShown())
+        return NumberCell::scrubbedNumber(field, part, services);
+    const FieldNumber number = eulerNumber(field, part);
+    // From the angles at the beginning: those of the present rotation may be others for the same rotation.
+    const auto moverOf = [axis = static_cast<std::size_t>(part)](const NxField& first) -> FieldWriter::Mover {
+        return [axis, start = orvane::toEuler(rotationOf(first))](NxField& moved, double delta) {
+            orvane::EulerDegrees degrees = start;
+            degrees[axis] += delta;
+            static_cast<NxSFRotation&>(moved).setValue(orvane::fromEuler(degrees));
+        };
+    };
+    return {number.get(field), number.limits, moverOf};
 }
 
 QString RotationCell::toolTip(const FieldSet& fields, const CellServices& /*services*/) const

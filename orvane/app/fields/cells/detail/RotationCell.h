@@ -12,6 +12,8 @@ public:
     [[nodiscard]] QRect partArea(
         const QRect& area, const NxField& field, int part, const CellServices& services) const override;
     [[nodiscard]] int scrubbedComponent(const NxField& field, int part, const CellServices& services) const override;
+    [[nodiscard]] ScrubbedNumber scrubbedNumber(
+        const NxField& field, int part, const CellServices& services) const override;
     [[nodiscard]] QString toolTip(const FieldSet& fields, const CellServices& services) const override;
     [[nodiscard]] CellEditor* createEditor(const CellEdit& edit, QWidget* parent) const override;
 };
