@@ -2,10 +2,10 @@
 
 #include "meridane/gl/detail/MeshHit.h"
 #include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/gl/places/ShownChildren.h"
 #include "meridane/scene/fields/EffectiveField.h"
 #include "meridane/scene/nodes/NxMaterial.h"
 #include "meridane/scene/nodes/NxMesh.h"
-#include "meridane/scene/nodes/NxSwitch.h"
 
 #include <cmath>
 #include <cstddef>
@@ -27,19 +27,6 @@ struct Step {
     NxNodeVisibility::State state; // of the group
     MeshHit::Sides sides = MeshHit::Sides::Both; // of the triangles that follow
 };
-
-std::span<NxNode* const> shownChildren(const NxNode& node)
-{
-    const std::span<NxNode* const> children = node.getChildren();
-    const auto* group = dynamic_cast<const NxSwitch*>(&node);
-    if (group == nullptr)
-        return children;
-    const int which = group->whichChild.isIgnored() ? int{NxSwitch::NONE} : group->whichChild.getValue();
-    if (which == NxSwitch::ALL)
-        return children;
-    const bool exists = which >= 0 && static_cast<std::size_t>(which) < children.size();
-    return exists ? children.subspan(static_cast<std::size_t>(which), 1) : std::span<NxNode* const>();
-}
 
 bool isFinite(const Matrix4d& matrix)
 {
@@ -86,7 +73,7 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
     MeshHit search(m_radius, m_slope, m_nearest, m_farthest);
     std::optional<NxRayHit> hit;
     // Without recursion: a scene may be too deep for the stack.
-    std::vector<Step> steps{{shownChildren(root), 0, multiply(localTransformOf(root), sceneToRay(m_ray)),
+    std::vector<Step> steps{{shownChildrenOf(root), 0, multiply(localTransformOf(root), sceneToRay(m_ray)),
         m_visibility.below({}, root), MeshHit::Sides::Both}};
     for (std::size_t places = 0; !steps.empty() && places < maxPlaces; ++places) {
         Step& step = steps.back();
@@ -96,7 +83,7 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
         }
         const NxNode& node = *step.children[step.next++];
         const NxNodeVisibility::State state = m_visibility.below(step.state, node);
-        const std::span<NxNode* const> children = shownChildren(node);
+        const std::span<NxNode* const> children = shownChildrenOf(node);
         if (const auto* mesh = dynamic_cast<const NxMesh*>(&node)) {
             if (!m_visibility.shows(state) || !search.meet(*mesh, step.matrix, step.sides))
                 continue;

@@ -367,6 +367,11 @@ NxDrawingCounts NxSceneDrawing::counts() const
     return counts;
 }
 
+std::uint64_t NxSceneDrawing::structure() const
+{
+    return m_private->scene.structure();
+}
+
 void NxSceneDrawing::contextLost()
 {
     Private& self = *m_private;

@@ -7,6 +7,7 @@
 #include "meridane/gl/gpu/NxImage.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <span>
@@ -88,6 +89,9 @@ public:
     [[nodiscard]] NxBounds bounds(std::span<NxNode* const> nodes);
 
     [[nodiscard]] NxDrawingCounts counts() const;
+    /// A number that changes, with the next `draw`, when nodes have come to the scene or gone, but not with their
+    /// fields.
+    [[nodiscard]] std::uint64_t structure() const;
 
     /// To be called when the context is lost with all objects in it. Calls no function of OpenGL. The next `draw`
     /// uploads everything again to the context that is current then, whose functions must be the same.

@@ -119,6 +119,7 @@ void SceneView::setScene(NxGroup* scene, const QString& folder, const std::optio
     m_showsAll = !viewpoint.has_value();
     m_framesAll = m_showsAll;
     redrawLater();
+    Q_EMIT sceneChanged();
 }
 
 void SceneView::setSelectedPath(const std::vector<NxNode*>& nodes)

@@ -74,6 +74,8 @@ Q_SIGNALS:
     void pickedNothing();
     /// The user wants a menu at that place of the screen, about what is selected. A click has picked what it is on.
     void menuRequested(const QPoint& place);
+    /// Another scene is shown, or none.
+    void sceneChanged();
     /// The user moved, not through `setViewpoint`.
     void moved();
 

@@ -163,3 +163,8 @@ NxBounds ViewDrawing::bounds(const std::vector<NxNode*>& nodes) const
 {
     return isStarted() && !nodes.empty() ? m_drawing->bounds(std::span<NxNode* const>(nodes)) : NxBounds();
 }
+
+std::uint64_t ViewDrawing::structure() const
+{
+    return isStarted() ? m_drawing->structure() : 0;
+}

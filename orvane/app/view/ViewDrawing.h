@@ -13,6 +13,7 @@
 #include <QImage>
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <span>
@@ -56,6 +57,8 @@ public:
     /// The box around the scene or the last of these nodes; empty before the start.
     [[nodiscard]] NxBounds bounds() const;
     [[nodiscard]] NxBounds bounds(const std::vector<NxNode*>& nodes) const;
+    /// A number that changes, with the next picture, when nodes have come to the scene or gone; 0 before the start.
+    [[nodiscard]] std::uint64_t structure() const;
     /// How many pictures were drawn.
     [[nodiscard]] int pictures() const noexcept { return m_pictures; }
 

@@ -35,6 +35,7 @@ HandleTool::HandleTool(SceneView* view, SceneTreePanel* tree, OrvServices& servi
     , m_targets(tree)
 {
     connect(tree, &SceneTreePanel::selectionChanged, this, &HandleTool::select);
+    connect(view, &SceneView::sceneChanged, this, [this] { m_targets.clear(); });
     view->input().addTool(this);
 }
 

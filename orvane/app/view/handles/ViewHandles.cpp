@@ -8,6 +8,7 @@
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/handles/HandleNote.h"
 #include "orvane/app/view/handles/HandleTool.h"
+#include "orvane/app/view/handles/SymbolTool.h"
 #include "orvane/app/view/handles/TransformAboveCommand.h"
 
 #include "meridane/scene/nodes/NxCamera.h"
@@ -26,6 +27,7 @@ namespace {
 
 const QString kindKey = QStringLiteral("view/handles");
 const QString axesKey = QStringLiteral("view/handleAxes");
+const QString symbolsKey = QStringLiteral("view/symbols");
 
 /// Whether a transform above the node would move anything.
 bool hasExtent(const NxNode& node)
@@ -45,11 +47,13 @@ ViewHandles::ViewHandles(Session& session, SceneView* view, SceneTreePanel* tree
     , m_session(session)
     , m_view(view)
     , m_tree(tree)
+    , m_symbolTool(new SymbolTool(view, tree))
     , m_tool(new HandleTool(view, tree, session.services()))
     , m_note(new HandleNote(view))
     , m_menu(new QMenu(tr("&Handles"), view))
     , m_kinds(new QActionGroup(this))
     , m_axes(new QActionGroup(this))
+    , m_symbols(new QAction(tr("S&ymbols"), this))
 {
     m_menu->setObjectName(QStringLiteral("handlesMenu"));
     addKind({}, "view.handlesNone", tr("&None"), tr("Shows no handles in the view"), Qt::Key_Q);
@@ -62,6 +66,7 @@ ViewHandles::ViewHandles(Session& session, SceneView* view, SceneTreePanel* tree
         tr("Handles have the axes of the group above the node that was selected last"));
     addAxes(HandleAxes::Own, "view.axesOwn", tr("&Own Axes"),
         tr("Handles have the axes of the node that was selected last"));
+    addSymbols();
     connect(m_tool, &HandleTool::changed, this, &ViewHandles::showNote);
     connect(m_tool, &HandleTool::refused, m_note, [this](const QString& reason) { m_note->showText(reason); });
     connect(m_note, &HandleNote::accepted, this, &ViewHandles::putTransformsAbove);
@@ -69,7 +74,21 @@ ViewHandles::ViewHandles(Session& session, SceneView* view, SceneTreePanel* tree
 
 QList<QAction*> ViewHandles::menuActions() const
 {
-    return {m_menu->menuAction()};
+    return {m_symbols, m_menu->menuAction()};
+}
+
+void ViewHandles::addSymbols()
+{
+    m_symbols->setObjectName(QStringLiteral("view.symbols"));
+    m_symbols->setToolTip(tr("Shows lights and cameras as symbols, which can be clicked"));
+    m_symbols->setStatusTip(m_symbols->toolTip());
+    m_symbols->setCheckable(true);
+    m_symbols->setChecked(m_session.settings().value(symbolsKey, true).toBool());
+    m_symbolTool->setShown(m_symbols->isChecked());
+    connect(m_symbols, &QAction::triggered, m_symbolTool, [this](bool shown) {
+        m_session.settings().setValue(symbolsKey, shown);
+        m_symbolTool->setShown(shown);
+    });
 }
 
 QAction* ViewHandles::addAction(

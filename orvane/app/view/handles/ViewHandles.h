@@ -16,9 +16,10 @@ class QMenu;
 class SceneTreePanel;
 class SceneView;
 class Session;
+class SymbolTool;
 
-/// What the user does in the view beside looking: moves nodes by handles. Actions with their keys, kept in the
-/// settings, and the offer to put a transform above a node that has none.
+/// What the user does in the view beside looking: picks symbols and moves nodes by handles. Actions with their keys,
+/// kept in the settings, and the offer to put a transform above a node that has none.
 class ViewHandles : public QObject {
     Q_OBJECT
 
@@ -35,6 +36,7 @@ private:
     void addKind(std::optional<Kind> kind, const char* name, const QString& text, const QString& tip, Qt::Key key);
     void addAxes(HandleAxes axes, const char* name, const QString& text, const QString& tip);
     QAction* addAction(QActionGroup* group, const char* name, const QString& text, const QString& tip, bool isChosen);
+    void addSymbols();
     void showNote();
     [[nodiscard]] QString reason(const NxNode& node, Kind kind) const;
     void putTransformsAbove();
@@ -42,9 +44,11 @@ private:
     Session& m_session;
     SceneView* m_view;
     SceneTreePanel* m_tree;
+    SymbolTool* m_symbolTool;
     HandleTool* m_tool;
     HandleNote* m_note;
     QMenu* m_menu;
     QActionGroup* m_kinds;
     QActionGroup* m_axes;
+    QAction* m_symbols;
 };
