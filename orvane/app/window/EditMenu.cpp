@@ -51,6 +51,7 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
     , m_tree(tree)
 {
     QMenu* menu = window->menuBar()->addMenu(tr("&Edit"));
+    menu->setObjectName(QStringLiteral("editMenu"));
     const auto add = [menu](const QString& text, const QKeySequence& key, const char* name) {
         QAction* action = menu->addAction(text);
         action->setObjectName(QLatin1String(name));

@@ -9,6 +9,7 @@
 #include "orvane/app/files/FileMenu.h"
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/files/RecentFiles.h"
+#include "orvane/app/find/TreeFinder.h"
 #include "orvane/app/history/StepTravel.h"
 #include "orvane/app/images/ImageFolderQuestion.h"
 #include "orvane/app/inspect/Inspectors.h"
@@ -57,6 +58,7 @@
 #include <QUrl>
 
 #include <chrono>
+#include <functional>
 #include <utility>
 
 namespace {
@@ -227,6 +229,8 @@ void MainWindow::buildMenus()
     m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
     auto* editMenu = new EditMenu(this, m_session, m_tree);
     m_view->addAction(editMenu->deleteAction());
+    new TreeFinder(
+        m_session, *m_imageFolders, m_tree, std::bind_front(&SelectionLink::browse, &m_inspectors->link()), this);
     auto* cameras = new CameraMenu(m_view, document());
     auto* viewMenu = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), cameras);
     new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodeActions());
