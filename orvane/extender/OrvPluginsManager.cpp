@@ -7,6 +7,7 @@
 #include "orvane/extender/VbText.h"
 #include "orvane/extender/detail/Guarded.h"
 #include "orvane/extender/detail/PluginLibrary.h"
+#include "orvane/extender/detail/ThrowSite.h"
 
 #include "meridane/base/errors/NxDebugError.h"
 
@@ -149,6 +150,51 @@ QList<OrvExtension*> OrvPluginsManager::getExtensions() const
     return extensions;
 }
 
+// The extensions of the plug-ins that aren't at rest.
+QList<OrvExtension*> OrvPluginsManager::willingExtensions() const
+{
+    QList<OrvExtension*> extensions;
+    for (const LoadedPlugin& plugin : m_plugins) {
+        if (!plugin.isResting)
+            extensions += plugin.plugin->getExtensions();
+    }
+    return extensions;
+}
+
+// The innermost plug-in that took part in the latest exception.
+OrvPluginsManager::LoadedPlugin* OrvPluginsManager::findThrower()
+{
+    for (const QString& library : orvane::throwingLibraries()) {
+        const QString path = QFileInfo(library).canonicalFilePath();
+        const auto found
+            = std::ranges::find_if(m_plugins, [&](const LoadedPlugin& plugin) { return plugin.fileName == path; });
+        if (found != m_plugins.end() && !path.isEmpty())
+            return &*found;
+    }
+    return nullptr;
+}
+
+bool OrvPluginsManager::handleException(const QString& during)
+{
+    LoadedPlugin* const thrower = findThrower();
+    if (thrower == nullptr)
+        return false;
+    constexpr qsizetype manyExtensions = 8;
+    QString text = QStringLiteral("%1: it threw an exception during %2: %3")
+                       .arg(thrower->title, during, orvane::exceptionText());
+    if (!thrower->isResting && thrower->plugin->getExtensions().size() <= manyExtensions) {
+        text += QStringLiteral("; its extensions don't run any more, until the program is started again");
+        thrower->isResting = true;
+        const auto applyAgain = [this] {
+            if (m_activeProfile != nullptr)
+                setActiveProfile(m_activeProfile);
+        };
+        QMetaObject::invokeMethod(this, applyAgain, Qt::QueuedConnection);
+    }
+    NxDebugError::post(NxDebugError::Error, orvane::toVbString(text));
+    return true;
+}
+
 std::optional<QString> OrvPluginsManager::addProfile(std::unique_ptr<OrvProfile> profile)
 {
     const QString name = orvane::toQString(profile->getName());
@@ -187,7 +233,7 @@ void OrvPluginsManager::changeProfile(OrvProfile* profile)
     deactivateExtensions();
     m_activeProfile = profile;
     if (profile != nullptr)
-        reportMissing(*profile, profile->resolve(getExtensions()));
+        reportMissing(*profile, profile->resolve(willingExtensions()));
     shareSettings();
     activateExtensions();
     if (OrvServices* const services = OrvServices::getInstance(); services != nullptr && profile != nullptr)
@@ -198,8 +244,9 @@ void OrvPluginsManager::changeProfile(OrvProfile* profile)
 void OrvPluginsManager::reportMissing(const OrvProfile& profile, const QStringList& names)
 {
     const std::pair report(&profile, names);
-    // Without any plug-in the user knows.
-    if (names.isEmpty() || m_reportedMissing == report || m_plugins.empty())
+    // Without any plug-in, or with one at rest, the user knows.
+    if (names.isEmpty() || m_reportedMissing == report || m_plugins.empty()
+        || std::ranges::any_of(m_plugins, &LoadedPlugin::isResting))
         return;
     m_reportedMissing = report;
     constexpr qsizetype mostNames = 5;

@@ -49,6 +49,14 @@ public:
     /// All extensions in the order of registration.
     [[nodiscard]] QList<OrvExtension*> getExtensions() const;
 
+    /// Handles an exception of a plug-in: to be called in a handler, with what went on, such as "an event". Returns
+    /// false and does nothing if no plug-in threw it.
+    ///
+    /// Posts an error that names the plug-in, and puts it to rest: from the event loop the active profile is applied
+    /// again without its extensions, which don't run again until the program ends. A plug-in of many extensions goes
+    /// on, since most of it isn't concerned.
+    [[nodiscard]] bool handleException(const QString& during);
+
     /// Appends a profile. A profile without a name, or with one that is taken, is refused with a message.
     [[nodiscard]] std::optional<QString> addProfile(std::unique_ptr<OrvProfile> profile);
     /// The profiles in the order in which a user sees them.
@@ -77,8 +85,12 @@ private:
         QString fileName;
         /// Destroys the plug-in; null if the caller does so.
         void (*destroy)() = nullptr;
+        /// An exception has left it.
+        bool isResting = false;
     };
 
+    [[nodiscard]] LoadedPlugin* findThrower();
+    [[nodiscard]] QList<OrvExtension*> willingExtensions() const;
     [[nodiscard]] std::optional<QString> takeIn(const LoadedPlugin& plugin);
     void changeProfile(OrvProfile* profile);
     void reportMissing(const OrvProfile& profile, const QStringList& names);

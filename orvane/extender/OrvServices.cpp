@@ -3,6 +3,7 @@
 #include "orvane/extender/OrvCommand.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvStepList.h"
+#include "orvane/extender/detail/CallExtensions.h"
 #include "orvane/extender/detail/DelayQueuePump.h"
 #include "orvane/extender/detail/HistoryLimit.h"
 #include "orvane/extender/detail/OrvHistory.h"
@@ -68,8 +69,14 @@ OrvServices::OrvServices()
     , m_userAction(std::make_unique<UserActionTracker>())
     , m_stepEnd(std::make_unique<StepEnd>(*m_userAction, NxDelayQueue::getDefault()))
     , m_selection(std::make_unique<Selection>(
-          Selection::Announcements{[this](NxFieldContainer* node) { Q_EMIT selectedNodeChanged(node); },
-              [this](NxField* field) { Q_EMIT selectedFieldChanged(field); }}))
+          Selection::Announcements{[this](NxFieldContainer* node) {
+                                       orvane::callExtensions(QStringLiteral("the selection of a node"),
+                                           [&] { Q_EMIT selectedNodeChanged(node); });
+                                   },
+              [this](NxField* field) {
+                  orvane::callExtensions(
+                      QStringLiteral("the selection of a field"), [&] { Q_EMIT selectedFieldChanged(field); });
+              }}))
     , m_document(std::make_unique<OrvDocument>())
     , m_history(std::make_unique<OrvHistory>())
     , m_steps(std::make_unique<OrvStepList>(*m_history))

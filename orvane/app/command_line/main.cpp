@@ -4,8 +4,7 @@
 #include "orvane/app/command_line/CommandLine.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/command_line/WindowRun.h"
-
-#include <QApplication>
+#include "orvane/app/plugins/GuardedApplication.h"
 
 #include <csignal>
 #include <cstdio>
@@ -99,7 +98,7 @@ std::unique_ptr<QCoreApplication> makeApplicationWithoutScreen(char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qtMessageHandler = qInstallMessageHandler(&passOnUnlessNoise);
-    return makeApplication<QApplication>(argv);
+    return makeApplication<GuardedApplication>(argv);
 }
 
 // Where the display can't be reached, the library says so in many lines and aborts. Here it is one line.
@@ -116,7 +115,7 @@ std::unique_ptr<QCoreApplication> makeApplicationOnScreen(char** argv)
                                      .arg(problems.value(0, text.trimmed())));
               std::_Exit(statusFailed);
           });
-    auto application = makeApplication<QApplication>(argv);
+    auto application = makeApplication<GuardedApplication>(argv);
     qInstallMessageHandler(&passOnUnlessNoise);
     for (const QString& problem : std::as_const(problems))
         orvane::printError(problem);

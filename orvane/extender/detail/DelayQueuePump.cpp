@@ -1,5 +1,7 @@
 #include "orvane/extender/detail/DelayQueuePump.h"
 
+#include "orvane/extender/detail/CallExtensions.h"
+
 #include "meridane/base/NxDelayQueue.h"
 
 #include <QCoreApplication>
@@ -38,7 +40,13 @@ bool DelayQueuePump::event(QEvent* event)
     // If sensors are left, the queue wakes the pump again, and the new event is handled in the next turn of the event
     // loop.
     Q_EMIT passBegins();
-    m_queue.process(m_slice);
+    bool isWhole = false;
+    orvane::callExtensions(QStringLiteral("a sensor's callback"), [&] {
+        m_queue.process(m_slice);
+        isWhole = true;
+    });
+    if (!isWhole && !m_queue.isEmpty())
+        QCoreApplication::postEvent(this, new QEvent(pumpEventType()));
     Q_EMIT passEnded(m_queue.isEmpty());
     return true;
 }
