@@ -10,6 +10,7 @@
 #include "meridane/gl/painting/detail/OutlinePainter.h"
 #include "meridane/gl/painting/detail/ScreenPass.h"
 #include "meridane/gl/painting/detail/SeenItems.h"
+#include "meridane/gl/painting/detail/WirePainter.h"
 #include "meridane/gl/places/detail/PlacedScene.h"
 
 #include <algorithm>
@@ -43,6 +44,7 @@ public:
         , outline(functions)
         , seenItems(functions)
         , marks(functions)
+        , wires(functions)
         , background(functions, "the background", backgroundSource)
         , scene({[this] { noteChange(); }, [this](MeshRecord& mesh) { painter.meshes().release(mesh); },
               [this](TextureRecord& texture) { painter.textures().release(texture); }})
@@ -82,6 +84,7 @@ public:
     OutlinePainter outline;
     SeenItems seenItems;
     MarkPainter marks;
+    WirePainter wires;
     std::vector<NxRef<NxNode>> markedPath;
     ScreenPass background;
     PlacedScene scene; // last: its destructor releases objects of the painters
@@ -143,8 +146,10 @@ void NxSceneDrawing::Private::drawMeshesAndLines(const Ground& ground, const Pic
     {
         GLStateScope surfaces(gl);
         surfaces.setPolygonMode(polygonMode);
+        surfaces.setEnabled(GL_CLIP_DISTANCE0, style.section.isOn);
         painter.drawOpaque(scene, counts);
     }
+    wires.draw(scene, painter, frame, style, counts);
     {
         GLStateScope blending(gl);
         blending.blend();
@@ -154,6 +159,7 @@ void NxSceneDrawing::Private::drawMeshesAndLines(const Ground& ground, const Pic
     }
     GLStateScope surfaces(gl);
     surfaces.setPolygonMode(polygonMode);
+    surfaces.setEnabled(GL_CLIP_DISTANCE0, style.section.isOn);
     painter.drawTranslucent(scene, counts);
 }
 
@@ -361,6 +367,7 @@ NxBounds NxSceneDrawing::bounds(std::span<NxNode* const> nodes)
 NxDrawingCounts NxSceneDrawing::counts() const
 {
     NxDrawingCounts counts = m_private->counts;
+    counts.nodes = m_private->scene.nodeCount();
     counts.bufferBytes = m_private->painter.meshes().bytes();
     counts.textureBytes = m_private->painter.textures().bytes();
     counts.ownBytes = m_private->scene.bytes() + m_private->painter.bytes();
@@ -385,6 +392,7 @@ void NxSceneDrawing::contextLost()
     self.outline.forget();
     self.seenItems.forget();
     self.marks.forget();
+    self.wires.forget();
     self.background.forget();
     self.noteChange();
 }

@@ -18,6 +18,13 @@ private Q_SLOTS:
         using Change = void (*)(NxDrawingStyle&);
         for (const Change change :
             std::initializer_list<Change>{[](NxDrawingStyle& style) { style.surfaces = NxDrawingStyle::WIREFRAME; },
+                [](NxDrawingStyle& style) { style.shading = NxDrawingStyle::UNLIT; },
+                [](NxDrawingStyle& style) { style.wires = !style.wires; },
+                [](NxDrawingStyle& style) { style.headLight = !style.headLight; },
+                [](NxDrawingStyle& style) { style.section.isOn = !style.section.isOn; },
+                [](NxDrawingStyle& style) { style.section.normal = VbVec3f(0, 1, 0); },
+                [](NxDrawingStyle& style) { style.section.position = 1; },
+                [](NxDrawingStyle& style) { style.wireColor = VbColor(1, 0, 0); },
                 [](NxDrawingStyle& style) { style.grid = !style.grid; },
                 [](NxDrawingStyle& style) { style.axes = !style.axes; },
                 [](NxDrawingStyle& style) { style.boundingBoxes = !style.boundingBoxes; },

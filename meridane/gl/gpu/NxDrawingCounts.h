@@ -12,9 +12,11 @@ struct NxDrawingCounts {
 
     std::uint64_t drawCalls = 0;
     std::uint64_t drawnCorners = 0; ///< of the primitives of meshes
+    std::uint64_t drawnTriangles = 0;
     std::uint64_t drawnItems = 0; ///< instances of meshes in view
     std::uint64_t culledItems = 0; ///< instances of meshes out of view
 
+    std::uint64_t nodes = 0; ///< of the scene, each once wherever it is used
     std::uint64_t bufferBytes = 0; ///< of vertices and indices on the GPU
     std::uint64_t textureBytes = 0; ///< of images on the GPU
     std::uint64_t ownBytes = 0; ///< roughly, of the drawing's own memory for the scene

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meridane/base/values/VbColor.h"
+#include "meridane/gl/painting/NxSection.h"
 
 /// How a scene is shown, apart from what the scene itself defines.
 struct NxDrawingStyle {
@@ -10,7 +11,23 @@ struct NxDrawingStyle {
         WIREFRAME, ///< the sides of the triangles only
     };
 
+    /// What the colours of surfaces, lines and points show.
+    enum Shading {
+        SHADED, ///< materials and textures in the light
+        UNLIT, ///< materials and textures as if light came evenly from everywhere
+        NORMALS, ///< the normals in the scene: x, y and z from -1 to 1 are red, green and blue from none to full
+        CHECKER, ///< the texture coordinates: eight squares from 0 to 1, u in red and v in green
+        VERTEX_COLORS, ///< the colours of the meshes
+    };
+
     Surfaces surfaces = SOLID;
+    Shading shading = SHADED;
+    /// The sides of the triangles over the surfaces.
+    bool wires = false;
+    /// A light at the viewer's eye beside those of the scene.
+    bool headLight = false;
+    /// Cuts away a part of the meshes.
+    NxSection section;
     /// A grid on the ground, the plane of x and z.
     bool grid = true;
     /// The three axes through the origin: x red, y green, z blue.
@@ -23,6 +40,7 @@ struct NxDrawingStyle {
     VbColor backgroundTop{0.16F, 0.17F, 0.19F};
     VbColor gridColor{0.45F, 0.46F, 0.48F};
     VbColor boundingBoxColor{0.9F, 0.75F, 0.2F};
+    VbColor wireColor{0.02F, 0.03F, 0.05F};
     /// The line around the selection.
     VbColor outlineColor{1.0F, 0.6F, 0.1F};
     /// The line around other nodes that are selected, half as wide.

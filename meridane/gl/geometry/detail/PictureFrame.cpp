@@ -72,6 +72,12 @@ PictureFrame::PictureFrame(
     pixelsPerUnit = static_cast<float>(height) / viewpoint.heightAt(1);
 }
 
+std::array<float, 4> PictureFrame::sectionFor(const VbVec3f& normal, double place) const noexcept
+{
+    const auto left = static_cast<float>(place - dot(position, VbVec3d(normal)));
+    return {-normal[0], -normal[1], -normal[2], left};
+}
+
 double PictureFrame::depthOf(const VbVec3d& point) const noexcept
 {
     return dot(subtract(point, position), VbVec3d(direction));

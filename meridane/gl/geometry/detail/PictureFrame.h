@@ -32,6 +32,8 @@ struct PictureFrame {
         const NxViewpoint& viewpoint, const NxBounds& shown, int pictureWidth, int pictureHeight, float pixelsPerPoint);
     PictureFrame() = default;
 
+    /// The section as the shaders take it: see `SurfaceProgram::section`.
+    [[nodiscard]] std::array<float, 4> sectionFor(const VbVec3f& normal, double place) const noexcept;
     /// The distance of a point along the line of sight.
     [[nodiscard]] double depthOf(const VbVec3d& point) const noexcept;
 };

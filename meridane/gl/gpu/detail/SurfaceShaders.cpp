@@ -19,6 +19,10 @@ uniform mat4 modelMatrix;
 uniform mat4 eyeToClip;
 uniform mat3 normalMatrix;
 uniform float pointSize;
+#ifdef SECTION
+uniform vec4 section;
+out float gl_ClipDistance[1];
+#endif
 out vec3 scenePoint;
 #if LIGHT == SMOOTH || LIGHT == LINE
 out vec3 sceneNormal;
@@ -34,6 +38,9 @@ void main()
     // The difference of two numbers that are near each other is exact, however large they are.
     vec4 point = modelMatrix * vec4(position - origin, 1.0);
     scenePoint = point.xyz / point.w;
+#ifdef SECTION
+    gl_ClipDistance[0] = dot(vec4(scenePoint, 1.0), section);
+#endif
 #if LIGHT == SMOOTH || LIGHT == LINE
     sceneNormal = normalMatrix * normal;
 #endif
@@ -249,9 +256,57 @@ void main()
 }
 )";
 
+// Shows what the lists of a mesh contain. What a mesh doesn't have is grey, so that its shape is still seen.
+constexpr const char* inspectionSource = R"(
+in vec3 scenePoint;
+#if LIGHT == SMOOTH || LIGHT == LINE
+in vec3 sceneNormal;
+#endif
+#ifdef MAPPED
+in vec2 texturePlace;
+#endif
+#ifdef COLORED
+in vec4 ownColor;
+#endif
+uniform vec4 eye;
+out vec4 pictureColor;
+const float squares = 8.0;
+void main()
+{
+    vec3 color = vec3(0.5);
+    float facing = 1.0;
+#if LIGHT == SMOOTH || LIGHT == FLAT
+    vec3 toEye = normalize(eye.xyz - scenePoint * eye.w);
+    vec3 face = normalize(cross(dFdx(scenePoint), dFdy(scenePoint)));
+    facing = abs(dot(face, toEye));
+#endif
+#if COLORS == NORMALS
+#if LIGHT == FLAT
+    color = (dot(face, toEye) < 0.0 ? -face : face) * 0.5 + 0.5;
+    facing = 1.0;
+#elif LIGHT != UNLIT
+    float size = length(sceneNormal);
+    if (size > 0.0) {
+        color = sceneNormal / size * 0.5 + 0.5;
+        facing = 1.0;
+    }
+#endif
+#elif COLORS == COORDINATES && defined(MAPPED)
+    vec2 place = floor(texturePlace * squares);
+    float light = mod(place.x + place.y, 2.0) < 0.5 ? 0.6 : 1.0;
+    color = vec3(mix(0.25, 1.0, fract(texturePlace.x)), mix(0.25, 1.0, fract(texturePlace.y)), 0.6) * light;
+#elif COLORS == OWN && defined(COLORED)
+    color = ownColor.rgb;
+    facing = 1.0;
+#endif
+    pictureColor = vec4(color * mix(0.5, 1.0, facing), 1.0);
+}
+)";
+
 } // namespace
 
-SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant variant)
+SurfaceProgram makeSurfaceProgram(
+    const NxGLFunctions& gl, SurfaceVariant variant, SurfaceColors colors, bool hasSection)
 {
     std::string head = "#define UNLIT 0\n#define SMOOTH 1\n#define FLAT 2\n#define LINE 3\n";
     const auto define = [&head](const char* name, int value) {
@@ -269,7 +324,13 @@ SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant varian
     head += variant.hasSurfaceMap ? "#define SURFACE_MAPPED\n" : "";
     head += variant.isCutOut ? "#define CUT_OUT\n" : "";
     head += variant.isTextured || variant.hasNormalMap || variant.hasSurfaceMap ? "#define MAPPED\n" : "";
-    SurfaceProgram result{GLProgram(gl, "meshes", head + vertexSource, head + fragmentSource)};
+    define("NORMALS", static_cast<int>(SurfaceColors::Normals));
+    define("COORDINATES", static_cast<int>(SurfaceColors::Coordinates));
+    define("OWN", static_cast<int>(SurfaceColors::Own));
+    define("COLORS", static_cast<int>(colors));
+    head += hasSection ? "#define SECTION\n" : "";
+    const char* const fragments = colors == SurfaceColors::Material ? fragmentSource : inspectionSource;
+    SurfaceProgram result{GLProgram(gl, "meshes", head + vertexSource, head + fragments)};
     if (!result.program.isUsable())
         return result;
     result.origin = result.program.uniform("origin");
@@ -279,6 +340,7 @@ SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant varian
     result.eye = result.program.uniform("eye");
     result.material = result.program.uniform("material");
     result.pointSize = result.program.uniform("pointSize");
+    result.section = result.program.uniform("section");
     result.program.use();
     for (const auto& [name, role] :
         {std::pair("normalMap", NxTexture::NORMAL), std::pair("surfaceMap", NxTexture::METAL_ROUGHNESS)}) {

@@ -3,6 +3,7 @@
 #include "meridane/gl/gpu/detail/GLProgram.h"
 
 #include <array>
+#include <cstdint>
 
 namespace meridane {
 
@@ -31,6 +32,14 @@ struct SurfaceVariant {
     }
 };
 
+/// What the colours of a mesh show.
+enum class SurfaceColors : std::uint8_t {
+    Material, ///< those of the material, in the light
+    Normals, ///< the normals
+    Coordinates, ///< the texture coordinates; of meshes that are textured by their variant
+    Own, ///< the colours of the mesh
+};
+
 /// The program of a variant, and the locations of its uniform variables.
 struct SurfaceProgram {
     GLProgram program;
@@ -41,6 +50,8 @@ struct SurfaceProgram {
     int eye = -1; ///< vec4, as in `PictureFrame`
     int material = -1; ///< vec4[5], as `MaterialValues`
     int pointSize = -1;
+    int section
+        = -1; ///< vec4, which a point (x, y, z, 1) relative to the eye is multiplied by; nothing below 0 is drawn
 };
 
 /// The locations of the vertex attributes, in the order of the lists of a mesh; the list of indices follows them.
@@ -50,6 +61,8 @@ inline constexpr std::size_t attributes = 4;
 /// The binding point of the uniform block with the lights (`LightsBlock`).
 inline constexpr unsigned int lightsBinding = 0;
 
-[[nodiscard]] SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant variant);
+/// A program with a section clips by the distances that it computes, which some drivers do although it is disabled.
+[[nodiscard]] SurfaceProgram makeSurfaceProgram(const NxGLFunctions& gl, SurfaceVariant variant,
+    SurfaceColors colors = SurfaceColors::Material, bool hasSection = false);
 
 } // namespace meridane

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <tuple>
+#include <utility>
 
 namespace meridane {
 namespace {
@@ -79,6 +80,7 @@ void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const N
     m_pointSize = style.pointSize * frame.scale;
     if (m_lightBuffer != 0)
         m_gl.BindBufferBase(GL_UNIFORM_BUFFER, lightsBinding, m_lightBuffer);
+    setStyle(style);
     m_boxesOfAll = style.boundingBoxes;
     m_boxColor = style.boundingBoxColor;
     m_found.clear();
@@ -98,8 +100,21 @@ void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const N
     m_textures.clean();
     sort(scene, m_found);
     counts.drawnCorners = 0;
+    counts.drawnTriangles = 0;
     counts.drawnItems = m_found.size();
     counts.culledItems = scene.tree().count() - m_found.size();
+}
+
+void ItemPainter::setStyle(const NxDrawingStyle& style)
+{
+    const bool isShadingNew = std::exchange(m_shading, style.shading) != style.shading;
+    if (std::exchange(m_hasSection, style.section.isOn) != style.section.isOn || isShadingNew) {
+        for (SurfaceProgram& program : m_programs)
+            program = SurfaceProgram();
+    }
+    if (std::exchange(m_headLight, style.headLight) != style.headLight)
+        m_hasLights = false;
+    m_section = m_frame.sectionFor(style.section.normal, style.section.position);
 }
 
 void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
@@ -119,10 +134,10 @@ void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
         const MeshRange range = item.mesh->rangeOf(cellsOf(scene, id));
         if (range.page == noId)
             continue;
-        const SurfaceVariant variant = variantOf(item.mesh->shape, look);
+        const SurfaceVariant variant = variantOf(item.mesh->shape, look, m_shading);
         const std::uint64_t order
             = std::uint64_t{variant.number()} << variantShift | std::uint64_t{range.page} << pageShift | item.look;
-        if (isTranslucent(item.mesh->shape, look, variant))
+        if (showsMaterials() && isTranslucent(item.mesh->shape, look, variant))
             m_translucent.push_back({id, order, depthOf(scene, item), variant, range});
         else
             m_opaque.push_back({id, order, 0, variant, range});
@@ -247,18 +262,22 @@ void ItemPainter::setVariant(SurfaceVariant variant)
 {
     SurfaceProgram& program = m_programs[variant.number()];
     if (!program.program.isMade())
-        program = makeSurfaceProgram(m_gl, variant);
+        program = makeSurfaceProgram(m_gl, variant, colorsOf(m_shading), m_hasSection);
     if (!program.program.isUsable())
         return;
     program.program.use();
     m_gl.UniformMatrix4fv(program.eyeToClip, 1, GL_FALSE, m_frame.eyeToClip[0].data());
     m_gl.Uniform4fv(program.eye, 1, m_frame.eye.data());
     m_gl.Uniform1f(program.pointSize, m_pointSize);
+    if (m_hasSection)
+        m_gl.Uniform4fv(program.section, 1, m_section.data());
 }
 
 void ItemPainter::setLook(const Look& look, SurfaceVariant variant)
 {
     m_gl.Uniform4fv(m_programs[variant.number()].material, 5, asFloats(materialOf(look)).data());
+    if (!showsMaterials())
+        return;
     const std::array<bool, NxTexture::roleCount> isShown{
         variant.isTextured, variant.hasNormalMap, variant.hasSurfaceMap};
     for (unsigned int role = 0; role < isShown.size(); ++role) {
@@ -280,7 +299,7 @@ void ItemPainter::setLights(const PlacedScene& scene, const LightList* lights)
     for (const LightList* list = lights; list != nullptr; list = list->above())
         block.lights[count++] = lightValues(
             list->light().light(), scene.table().worldTransforms[list->worldTransform()], m_frame.position);
-    if (lights == nullptr)
+    if (lights == nullptr || (m_headLight && count < block.lights.size()))
         block.lights[count++] = cameraLightValues();
     block.count = static_cast<float>(count);
     if (m_lightBuffer == 0)
@@ -302,7 +321,10 @@ void ItemPainter::place(const PlacedScene& scene, const Item& item, const ModelU
 void ItemPainter::issue(const MeshRecord& mesh, const MeshRange& range, NxDrawingCounts& counts) const
 {
     const GLenum primitive = primitiveOf(mesh);
-    counts.drawnCorners += range.indexCount != 0 ? range.indexCount : range.vertexCount;
+    const std::uint64_t corners = range.indexCount != 0 ? range.indexCount : range.vertexCount;
+    counts.drawnCorners += corners;
+    if (primitive == GL_TRIANGLES)
+        counts.drawnTriangles += corners / 3;
     if (range.indexCount != 0) {
         const auto* const start = reinterpret_cast<const void*>(range.firstIndex * sizeof(std::uint32_t));
         m_gl.DrawElementsBaseVertex(primitive, static_cast<GLsizei>(range.indexCount), GL_UNSIGNED_INT, start,

@@ -6,6 +6,7 @@
 #include "meridane/gl/gpu/detail/SurfaceShaders.h"
 #include "meridane/gl/gpu/detail/TextureStore.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
+#include "meridane/gl/painting/detail/ItemVariant.h"
 #include "meridane/gl/painting/detail/LinePainter.h"
 #include "meridane/gl/places/detail/PlacedScene.h"
 
@@ -70,6 +71,8 @@ private:
         GLenum front = GL_NONE; ///< the order of the corners of triangles that are seen; none if all are
     };
 
+    void setStyle(const NxDrawingStyle& style);
+    [[nodiscard]] bool showsMaterials() const noexcept { return colorsOf(m_shading) == SurfaceColors::Material; }
     void sort(PlacedScene& scene, const std::vector<Id>& found);
     [[nodiscard]] std::uint32_t cellsOf(PlacedScene& scene, Id id) const;
     [[nodiscard]] double depthOf(const PlacedScene& scene, const Item& item) const;
@@ -95,6 +98,10 @@ private:
 
     PictureFrame m_frame;
     float m_pointSize = 1;
+    NxDrawingStyle::Shading m_shading = NxDrawingStyle::SHADED; // of the programs
+    bool m_hasSection = false; // the programs have
+    bool m_headLight = false;
+    std::array<float, 4> m_section{};
     bool m_boxesOfAll = false;
     VbColor m_boxColor;
     std::vector<Drawn> m_opaque;

@@ -49,6 +49,40 @@ SurfaceVariant variantOf(const MeshShape& shape, const Look& look)
     return variant;
 }
 
+SurfaceColors colorsOf(NxDrawingStyle::Shading shading) noexcept
+{
+    switch (shading) {
+    case NxDrawingStyle::NORMALS:
+        return SurfaceColors::Normals;
+    case NxDrawingStyle::CHECKER:
+        return SurfaceColors::Coordinates;
+    case NxDrawingStyle::VERTEX_COLORS:
+        return SurfaceColors::Own;
+    case NxDrawingStyle::SHADED:
+    case NxDrawingStyle::UNLIT:
+        break;
+    }
+    return SurfaceColors::Material;
+}
+
+SurfaceVariant variantOf(const MeshShape& shape, const Look& look, NxDrawingStyle::Shading shading)
+{
+    const SurfaceVariant lit = variantOf(shape, look);
+    if (shading == NxDrawingStyle::SHADED)
+        return lit;
+    SurfaceVariant variant;
+    if (shading == NxDrawingStyle::UNLIT) {
+        variant.isTextured = lit.isTextured;
+        variant.isCutOut = lit.isCutOut;
+    } else {
+        variant.light = lit.light;
+        variant.isTextured = shading == NxDrawingStyle::CHECKER && shape.hasCoordinates;
+    }
+    const bool showsColors = shading == NxDrawingStyle::UNLIT || shading == NxDrawingStyle::VERTEX_COLORS;
+    variant.hasColors = showsColors && lit.hasColors;
+    return variant;
+}
+
 bool isTranslucent(const MeshShape& shape, const Look& look, SurfaceVariant variant)
 {
     if (variant.isCutOut)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meridane/gl/gpu/detail/SurfaceShaders.h"
+#include "meridane/gl/painting/NxDrawingStyle.h"
 #include "meridane/gl/places/detail/Looks.h"
 
 namespace meridane {
@@ -18,6 +19,10 @@ struct MeshShape;
 
 /// The shaders that draw a mesh with a look, whose textures are on the GPU.
 [[nodiscard]] SurfaceVariant variantOf(const MeshShape& shape, const Look& look);
+/// The same for a picture that shows something else than the scene in its light.
+[[nodiscard]] SurfaceVariant variantOf(const MeshShape& shape, const Look& look, NxDrawingStyle::Shading shading);
+/// What the programs of a picture show.
+[[nodiscard]] SurfaceColors colorsOf(NxDrawingStyle::Shading shading) noexcept;
 /// Whether what is behind shines through.
 [[nodiscard]] bool isTranslucent(const MeshShape& shape, const Look& look, SurfaceVariant variant);
 

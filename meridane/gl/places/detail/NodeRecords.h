@@ -61,6 +61,7 @@ public:
         for (auto& [orphan, record] : m_orphans)
             visit(*record);
     }
+    [[nodiscard]] std::size_t count() const noexcept { return m_records.size(); }
     [[nodiscard]] std::size_t bytes() const noexcept { return m_bytes; }
 
 private:

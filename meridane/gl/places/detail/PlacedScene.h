@@ -59,6 +59,8 @@ public:
     [[nodiscard]] const Looks& looks() const noexcept { return m_looks; }
     [[nodiscard]] BoundsTree& tree() noexcept { return m_tree; }
     [[nodiscard]] Problems& problems() noexcept { return m_problems; }
+    /// How many nodes there are, each counted once.
+    [[nodiscard]] std::size_t nodeCount() const noexcept { return m_records.count(); }
     /// A number that changes when places are added, removed, hidden or shown.
     [[nodiscard]] std::uint64_t structure() const noexcept { return m_structure; }
     /// The cost of all updates so far: nodes visited, places moved and keys compared.

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "meridane/gl/painting/detail/ItemPainter.h"
+
+namespace meridane {
+
+/// Draws the sides of the triangles over the surfaces, where the style says so.
+class WirePainter {
+public:
+    explicit WirePainter(const NxGLFunctions& gl)
+        : m_gl(gl)
+    {
+    }
+    WirePainter(const WirePainter&) = delete;
+    WirePainter& operator=(const WirePainter&) = delete;
+    ~WirePainter() = default;
+
+    void draw(PlacedScene& scene, ItemPainter& painter, const PictureFrame& frame, const NxDrawingStyle& style,
+        NxDrawingCounts& counts);
+    /// To be called when the context is lost.
+    void forget() { m_program.forget(); }
+
+private:
+    const NxGLFunctions& m_gl;
+    GLProgram m_program;
+};
+
+} // namespace meridane
