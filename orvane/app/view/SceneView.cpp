@@ -159,10 +159,16 @@ void SceneView::frameAll()
     showAll();
 }
 
+std::vector<NxNode*> SceneView::pointers(const std::vector<NxRef<NxNode>>& nodes)
+{
+    std::vector<NxNode*> pointers(nodes.size());
+    std::transform(nodes.begin(), nodes.end(), pointers.begin(), [](const auto& node) { return node.get(); });
+    return pointers;
+}
+
 void SceneView::frameSelection()
 {
-    std::vector<NxNode*> nodes(m_selected.size());
-    std::transform(m_selected.begin(), m_selected.end(), nodes.begin(), [](const auto& node) { return node.get(); });
+    std::vector<NxNode*> nodes = pointers(m_selected);
     NxBounds bounds = m_drawing.bounds(nodes);
     // A material or a light has no extent; a group around it has.
     while (bounds.isEmpty() && !nodes.empty()) {
@@ -283,14 +289,19 @@ std::optional<NxRayHit> SceneView::hitAt(const QPointF& position) const
 {
     if (!m_scene)
         return {};
-    NxRayPick pick(m_viewpoint.rayAt(m_navigation.place(position), m_navigation.aspect()));
+    const NxRay ray = m_viewpoint.rayAt(m_navigation.place(position), m_navigation.aspect());
+    constexpr float most = std::numeric_limits<float>::max();
+    const bool isOrthographic = m_viewpoint.projection == NxViewpoint::ORTHOGRAPHIC;
+    const auto [nearest, farthest] = m_style.section.limited(ray, {isOrthographic ? -most : 0, most});
+    if (nearest > farthest)
+        return {};
+    NxRayPick pick(ray);
+    pick.setDistances(nearest, farthest);
     const float radii = pickRadius / static_cast<float>(std::max(height(), 1));
-    if (m_viewpoint.projection == NxViewpoint::ORTHOGRAPHIC) {
+    if (isOrthographic)
         pick.setTolerance(radii * m_viewpoint.heightAt(0), 0);
-        pick.setDistances(std::numeric_limits<float>::lowest(), std::numeric_limits<float>::max());
-    } else {
+    else
         pick.setTolerance(0, radii * m_viewpoint.heightAt(1));
-    }
     return pick.pick(*m_scene);
 }
 

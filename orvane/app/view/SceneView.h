@@ -53,6 +53,8 @@ public:
     [[nodiscard]] bool hasMoved() const noexcept { return m_hasMoved; }
     /// What of the scene is seen there, or nothing.
     [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const;
+    /// The box around the selected node; empty if it has no extent.
+    [[nodiscard]] NxBounds selectionBounds() const { return m_drawing.bounds(pointers(m_selected)); }
     void frameAll();
     /// Frames the selected node, or the nearest node above it that has an extent; the whole scene when nothing is
     /// selected.
@@ -96,6 +98,7 @@ protected:
 
 private:
     [[nodiscard]] ViewInput::Hooks inputHooks();
+    [[nodiscard]] static std::vector<NxNode*> pointers(const std::vector<NxRef<NxNode>>& nodes);
     void redraw(const QSize& deviceSize);
     void showAll();
     void redrawLater();

@@ -8,6 +8,7 @@
 #include "meridane/gl/gpu/NxOffscreenContext.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 
 #include <utility>
 
@@ -148,10 +149,20 @@ QImage ViewDrawing::draw(const NxViewpoint& viewpoint, QSize size, float scale)
     const QSize possible = m_buffer->bind(size);
     if (possible.isEmpty())
         return {};
+    QElapsedTimer clock;
+    clock.start();
     m_drawing->draw(viewpoint, possible.width(), possible.height(), scale);
     m_textures.dropResults();
     ++m_pictures;
-    return m_buffer->read();
+    QImage picture = m_buffer->read();
+    constexpr double nanoseconds = 1e-6;
+    m_milliseconds = static_cast<double>(clock.nsecsElapsed()) * nanoseconds;
+    return picture;
+}
+
+NxDrawingCounts ViewDrawing::counts() const
+{
+    return isStarted() ? m_drawing->counts() : NxDrawingCounts();
 }
 
 NxBounds ViewDrawing::bounds() const

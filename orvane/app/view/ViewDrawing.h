@@ -5,6 +5,7 @@
 
 #include "meridane/gl/geometry/NxBounds.h"
 #include "meridane/gl/geometry/NxViewpoint.h"
+#include "meridane/gl/gpu/NxDrawingCounts.h"
 #include "meridane/gl/gpu/NxGLFunctions.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
 #include "meridane/scene/fields/NxRef.h"
@@ -59,6 +60,9 @@ public:
     [[nodiscard]] NxBounds bounds(const std::vector<NxNode*>& nodes) const;
     /// A number that changes, with the next picture, when nodes have come to the scene or gone; 0 before the start.
     [[nodiscard]] std::uint64_t structure() const;
+    /// What the last picture took, with the time in which the GPU drew it.
+    [[nodiscard]] NxDrawingCounts counts() const;
+    [[nodiscard]] double pictureMilliseconds() const noexcept { return m_milliseconds; }
     /// How many pictures were drawn.
     [[nodiscard]] int pictures() const noexcept { return m_pictures; }
 
@@ -78,6 +82,7 @@ private:
     TextureFiles m_textures;
     QString m_problem;
     int m_pictures = 0;
+    double m_milliseconds = 0; // of the last one
 
     std::unique_ptr<NxOffscreenContext> m_context;
     NxGLFunctions m_functions;

@@ -121,7 +121,13 @@ void ViewInput::mouseRelease(const QMouseEvent& event)
     m_navigation.endDrag();
     m_view.unsetCursor();
     if (!m_isMoving && event.button() == Qt::LeftButton)
-        m_hooks.picked(hitAt(event.position()));
+        click(event.position());
+}
+
+void ViewInput::click(const QPointF& position)
+{
+    if (!std::any_of(m_tools.begin(), m_tools.end(), [&](ViewTool* tool) { return tool->click(position); }))
+        m_hooks.picked(hitAt(position));
 }
 
 void ViewInput::leave()

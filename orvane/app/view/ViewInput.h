@@ -64,6 +64,7 @@ public:
 private:
     [[nodiscard]] bool isDragging() const;
     [[nodiscard]] bool giveToTools(const QMouseEvent& event);
+    void click(const QPointF& position);
     void leaveTools(const ViewTool* but);
 
     QWidget& m_view;

@@ -12,6 +12,11 @@ bool ViewTool::mouseMove(const QMouseEvent& /*event*/)
 
 void ViewTool::mouseRelease(const QMouseEvent& /*event*/) { }
 
+bool ViewTool::click(const QPointF& /*position*/)
+{
+    return false;
+}
+
 void ViewTool::cancel() { }
 
 void ViewTool::leave() { }

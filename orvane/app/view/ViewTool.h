@@ -27,6 +27,8 @@ public:
     virtual bool mouseMove(const QMouseEvent& event);
     /// The button that took the mouse was released.
     virtual void mouseRelease(const QMouseEvent& event);
+    /// A click of the left button that isn't a drag, on what the view would pick. Returns true to take it.
+    virtual bool click(const QPointF& position);
     /// The drag ends without its release: the scene is closed, or another widget got the release.
     virtual void cancel();
     /// The pointer, with no button pressed, has left the view, or is on what another tool or the view takes.

@@ -30,8 +30,10 @@
 #include "orvane/app/view/ViewActions.h"
 #include "orvane/app/view/ViewLink.h"
 #include "orvane/app/view/ViewMenu.h"
+#include "orvane/app/view/display/DisplayMenu.h"
 #include "orvane/app/view/handles/ViewHandles.h"
 #include "orvane/app/view/marks/MarkedRows.h"
+#include "orvane/app/view/measure/MeasureTool.h"
 #include "orvane/app/window/CentralArea.h"
 #include "orvane/app/window/ComparisonDock.h"
 #include "orvane/app/window/DiskChangeBar.h"
@@ -254,6 +256,8 @@ void MainWindow::buildMenus()
     connect(forget, &QAction::triggered, m_imageFolders, &ImageFolderQuestion::forgetFolders);
     viewMenu->append((new ViewHandles(m_session, m_view, m_tree))->menuActions());
     viewMenu->append(m_inspectors->menuActions());
+    viewMenu->append(
+        {(new DisplayMenu(m_view, m_session))->menuAction(), (new MeasureTool(m_view, m_session))->action()});
     viewMenu->append({forget});
     viewMenu->update();
 }
