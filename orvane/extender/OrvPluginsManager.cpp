@@ -5,6 +5,7 @@
 #include "orvane/extender/OrvProfile.h"
 #include "orvane/extender/OrvServices.h"
 #include "orvane/extender/VbText.h"
+#include "orvane/extender/detail/CallExtensions.h"
 #include "orvane/extender/detail/Guarded.h"
 #include "orvane/extender/detail/PluginLibrary.h"
 #include "orvane/extender/detail/ThrowSite.h"
@@ -61,11 +62,13 @@ OrvPluginsManager::OrvPluginsManager()
 {
     Q_ASSERT_X(theManager == nullptr, "OrvPluginsManager", "there is one manager at a time");
     theManager = this;
+    orvane::setExceptionHandler([this](const QString& during) { return handleException(during); });
 }
 
 OrvPluginsManager::~OrvPluginsManager()
 {
     unloadPlugins();
+    orvane::setExceptionHandler({});
     theManager = nullptr;
 }
 

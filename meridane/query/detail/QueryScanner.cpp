@@ -18,8 +18,8 @@ constexpr int mostExpressions = 16;
 /// Whether a text is meant as a number, so that it must be one.
 bool looksLikeNumber(std::string_view text)
 {
-    static constexpr std::string_view signs = "0123456789.,+-";
-    return !text.empty() && signs.find(text.front()) != std::string_view::npos;
+    static constexpr std::string_view starts = "0123456789.,+-";
+    return !text.empty() && starts.find(text.front()) != std::string_view::npos;
 }
 
 /// Whether an expression with an error at that place may become right by typing on.

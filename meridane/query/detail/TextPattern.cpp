@@ -13,7 +13,9 @@ namespace {
 std::string refusalOf(const re2::RE2& expression)
 {
     constexpr std::size_t mostPartShown = 40;
-    const std::string part = "\"" + excerpt(expression.error_arg(), mostPartShown) + "\"";
+    std::string part = "\"";
+    part += excerpt(expression.error_arg(), mostPartShown);
+    part += '"';
     switch (expression.error_code()) {
     case re2::RE2::ErrorBadEscape:
         return "The regular expression has " + part + ", which has no meaning.";

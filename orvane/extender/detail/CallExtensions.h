@@ -1,20 +1,30 @@
 #pragma once
 
-#include "orvane/extender/OrvPluginsManager.h"
+#include <QString>
+
+#include <functional>
 
 namespace orvane {
 
-/// Calls code of extensions, such as the slots of a signal. An exception of a plug-in ends with the call, and the
-/// manager puts the plug-in to rest; the profile is applied again then, and the selection announced, so that those are
-/// called too who would have been called after it. Other exceptions are passed on.
+/// Handles the exception that is being handled, which was thrown during something such as "an event". Returns false if
+/// no plug-in threw it.
+using ExceptionHandler = std::function<bool(const QString& during)>;
+
+/// Sets the handler of exceptions that leave extensions; without one they are passed on.
+void setExceptionHandler(ExceptionHandler handler);
+/// Calls the handler, from within a handler of the language.
+[[nodiscard]] bool handleException(const QString& during);
+
+/// Calls code of extensions, such as the slots of a signal. An exception of a plug-in ends with the call. The profile
+/// is applied again then without the plug-in, and the selection announced, so that those are called too who would have
+/// been called after it. Other exceptions are passed on.
 template <typename Call>
 void callExtensions(const QString& during, const Call& call)
 {
     try {
         call();
     } catch (...) {
-        OrvPluginsManager* const plugins = OrvPluginsManager::getInstance();
-        if (plugins == nullptr || !plugins->handleException(during))
+        if (!handleException(during))
             throw;
     }
 }
