@@ -152,6 +152,7 @@ const aiScene* ModelReader::readFile(const std::string& path, ModelFiles& files)
 bool ModelReader::mend(aiScene& model, std::string& error)
 {
     reportMotion(model, m_warnings);
+    applyMorphs(model);
     poseSkins(model);
     mendModel(model, m_warnings);
     mendVertexColors(model, m_colorStorage, m_warnings);

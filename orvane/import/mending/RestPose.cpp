@@ -1,12 +1,14 @@
 #include "orvane/import/mending/RestPose.h"
 
 #include "orvane/import/mending/Lists.h"
+#include "orvane/import/mending/SourceFormat.h"
 #include "orvane/import/mending/Texts.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -82,6 +84,29 @@ void poseMesh(aiMesh& mesh, const aiMatrix4x4& world, const PlacedNodes& placed)
     }
 }
 
+void addOffsets(std::span<aiVector3D> values, const aiVector3D* moved, std::span<const aiVector3D> base, float weight)
+{
+    if (moved == nullptr)
+        return;
+    for (std::size_t index = 0; index < values.size(); ++index)
+        values[index] += (moved[index] - base[index]) * weight;
+}
+
+void morphMesh(aiMesh& mesh)
+{
+    const std::span<aiVector3D> positions = listOf(mesh.mVertices, mesh.mNumVertices);
+    const std::span<aiVector3D> normals = listOf(mesh.mNormals, mesh.mNumVertices);
+    const std::vector<aiVector3D> basePositions(positions.begin(), positions.end());
+    const std::vector<aiVector3D> baseNormals(normals.begin(), normals.end());
+    for (const aiAnimMesh* target : listOf(mesh.mAnimMeshes, mesh.mNumAnimMeshes)) {
+        const bool isUsable = target != nullptr && target->mNumVertices == mesh.mNumVertices;
+        if (!isUsable || !std::isfinite(target->mWeight) || target->mWeight == 0)
+            continue;
+        addOffsets(positions, target->mVertices, basePositions, target->mWeight);
+        addOffsets(normals, target->mNormals, baseNormals, target->mWeight);
+    }
+}
+
 std::string countText(std::size_t count, const char* one, const char* many)
 {
     return std::to_string(count) + ' ' + (count == 1 ? one : many);
@@ -96,6 +121,17 @@ std::size_t meshesWith(const aiScene& model, const Count& count)
 }
 
 } // namespace
+
+void applyMorphs(aiScene& model)
+{
+    // The library's weights of other formats are those of an animation, or made up.
+    if (!hasSourceFormat(model, "glTF2"))
+        return;
+    for (aiMesh* mesh : listOf(model.mMeshes, model.mNumMeshes)) {
+        if (mesh != nullptr && mesh->mNumAnimMeshes > 0)
+            morphMesh(*mesh);
+    }
+}
 
 void poseSkins(aiScene& model)
 {

@@ -12,6 +12,10 @@ namespace orvane {
 /// Precondition: the indices of bones, nodes and meshes are in range, or else they are passed over.
 void poseSkins(aiScene& model);
 
+/// Moves the positions of meshes with morph targets as the weights of the targets say, in a format that states these
+/// weights. To be called before `poseSkins`.
+void applyMorphs(aiScene& model);
+
 /// Adds one warning that says what of the motion of a model a scene has not.
 void reportMotion(const aiScene& model, ImportWarnings& warnings);
 

@@ -242,6 +242,22 @@ private Q_SLOTS:
         }
     }
 
+    void morphTargetsHaveTheirWeights()
+    {
+        QByteArray model
+            = gltf::model(R"({"mesh": 0})", R"("scenes": [{"nodes": [0]}],)", R"(, "targets": [{"POSITION": 0}])");
+        model.replace(R"("name": "triangle")", R"("name": "triangle", "weights": [0.5])");
+        ReadModels models;
+        const NxRef<NxGroup> scene = models.read("model.gltf", model);
+        QVERIFY2(scene, qPrintable(models.message()));
+        // The target moves each corner by its own position.
+        const NxMesh& mesh = *ReadModels::all<NxMesh>(*scene).front();
+        QCOMPARE(mesh.positions[1], VbVec3f(1.5F, 0, 0));
+        QCOMPARE(mesh.positions[2], VbVec3f(0, 1.5F, 0));
+        QCOMPARE(models.warnings(),
+            QStringList(QStringLiteral("the model is shown at rest, without the motion of 1 mesh with morph targets")));
+    }
+
     void motionIsOneLine()
     {
         QByteArray model = gltf::model(R"({"name": "arm", "mesh": 0})",
