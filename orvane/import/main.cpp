@@ -45,8 +45,8 @@ bool writeText(NxGroup& scene, const orvane::ModelReader& reader, std::string& e
 {
     for (const std::string& warning : reader.warnings())
         std::fprintf(stderr, "warning: %s\n", warning.c_str());
-    if (!reader.note().empty())
-        std::fprintf(stderr, "note: %s\n", reader.note().c_str());
+    if (!reader.note().text.empty())
+        std::fprintf(stderr, "note: %s\n", reader.note().text.c_str());
     NxSceneWriter writer(&scene);
     std::string text;
     // In parts, so that the text of a large scene needn't fit in memory as a whole.

@@ -121,9 +121,11 @@ void PackedParts::readTextLine(std::string_view line)
 {
     if (takeStart(line, "warning "))
         return readWarning(line);
-    if (takeStart(line, "note ")) {
-        m_note = line;
-        return;
+    for (const bool isConverted : {false, true}) {
+        if (takeStart(line, isConverted ? "conversion " : "note ")) {
+            m_note = {std::string(line), isConverted};
+            return;
+        }
     }
     const std::optional<std::size_t> size = takeStart(line, "text ") ? takeNumber(line) : std::nullopt;
     if (!size || !line.empty() || *size > m_left)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/transfer/SpaceNote.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -48,8 +50,8 @@ public:
 
     /// The warnings that come with the scene, in order, one line of text each.
     [[nodiscard]] const std::vector<std::string>& warnings() const noexcept { return m_warnings; }
-    /// The note that comes with the scene, one line; empty for none.
-    [[nodiscard]] const std::string& note() const noexcept { return m_note; }
+    /// The note that comes with the scene, one line.
+    [[nodiscard]] const SpaceNote& note() const noexcept { return m_note; }
     /// The blocks so far; the last one may lack bytes.
     [[nodiscard]] const std::vector<PackedBlock>& blocks() const noexcept { return m_blocks; }
     /// The text of the scene file without the blocks, and the blocks in the order of the nodes and fields. To be called
@@ -79,7 +81,7 @@ private:
     std::size_t m_leftOfPart = 0; // the same of the text or the block
     std::string m_line; // that isn't whole yet
     std::vector<std::string> m_warnings;
-    std::string m_note;
+    SpaceNote m_note;
     std::string m_text;
     std::vector<PackedBlock> m_blocks;
 };

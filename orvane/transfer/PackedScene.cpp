@@ -50,7 +50,7 @@ std::string lineOf(const char* word, const std::string& message)
 
 } // namespace
 
-PackedScene::PackedScene(NxGroup& scene, const std::vector<std::string>& warnings, const std::string& note)
+PackedScene::PackedScene(NxGroup& scene, const std::vector<std::string>& warnings, const SpaceNote& note)
 {
     meridane::NodeTraversal nodes(scene);
     std::size_t number = 0;
@@ -59,8 +59,8 @@ PackedScene::PackedScene(NxGroup& scene, const std::vector<std::string>& warning
     std::string lines;
     for (const std::string& warning : std::span(warnings).first(std::min(warnings.size(), mostWarnings)))
         lines += lineOf("warning ", warning);
-    if (!note.empty())
-        lines += lineOf("note ", note);
+    if (!note.text.empty())
+        lines += lineOf(note.isConverted ? "conversion " : "note ", note.text);
     writeText(scene, lines);
 }
 

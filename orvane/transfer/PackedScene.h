@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/transfer/SpaceNote.h"
+
 #include "meridane/scene/nodes/NxGroup.h"
 
 #include <cstddef>
@@ -14,11 +16,12 @@ class NxSFImage;
 /// in memory, everything else as the text of a scene file.
 ///
 /// The text "orvane-scene 2 SIZE" and a line feed, where SIZE is the number of bytes after that line; a line "warning
-/// TEXT" for each warning; a line "note TEXT" if there is a note; a line "text SIZE" and the SIZE bytes of a scene
-/// file, in which those fields are empty; then for each of them a block: a line "list SIZE NODE FIELD" or "image SIZE
-/// NODE WIDTH HEIGHT COMPONENTS FIELD", and its SIZE bytes. NODE counts the nodes in the order of the text from 0 (see
-/// `meridane::NodeTraversal`), FIELD is the name of a field of that node. The blocks are in the order of the nodes, and
-/// of the fields of a node.
+/// TEXT" for each warning; a line "note TEXT" if there is a note, or
+/// "conversion TEXT" if the first node converts the unit or the up axis; a line "text SIZE" and the SIZE bytes of a
+/// scene file, in which those fields are empty; then for each of them a block: a line "list SIZE NODE FIELD" or "image
+/// SIZE NODE WIDTH HEIGHT COMPONENTS FIELD", and its SIZE bytes. NODE counts the nodes in the order of the text from 0
+/// (see `meridane::NodeTraversal`), FIELD is the name of a field of that node. The blocks are in the order of the
+/// nodes, and of the fields of a node.
 namespace orvane {
 
 /// A scene that is ready to be sent.
@@ -35,8 +38,7 @@ public:
 
     /// Moves the long lists and the images out of the scene, and writes the text of the rest. The warnings are what the
     /// user should know of the scene: text in UTF-8, control characters become blanks.
-    /// The note is a sentence for the status line.
-    explicit PackedScene(NxGroup& scene, const std::vector<std::string>& warnings = {}, const std::string& note = {});
+    explicit PackedScene(NxGroup& scene, const std::vector<std::string>& warnings = {}, const SpaceNote& note = {});
 
     /// Why the scene can't be written; empty if it can.
     [[nodiscard]] const std::string& failure() const noexcept { return m_failure; }

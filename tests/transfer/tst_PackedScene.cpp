@@ -205,15 +205,24 @@ private Q_SLOTS:
         QCOMPARE(parts.warnings()[4], std::string(4000, 'y'));
     }
 
+    void aNoteComesWithTheScene_data()
+    {
+        QTest::addColumn<bool>("isConverted");
+        QTest::newRow("of what was kept") << false;
+        QTest::newRow("of what was converted") << true;
+    }
+
     void aNoteComesWithTheScene()
     {
+        QFETCH(bool, isConverted);
         const NxRef<NxGroup> scene = new NxGroup;
         orvane::PackedParts parts;
-        const PackedScene packed(*scene, {"a"}, "turned\nround");
+        const PackedScene packed(*scene, {"a"}, {"turned\nround", isConverted});
         for (const std::string_view portion : packed.portions())
             parts.take(portion);
         QVERIFY2(parts.isComplete(), parts.failure().c_str());
-        QCOMPARE(parts.note(), std::string("turned round"));
+        QCOMPARE(parts.note().text, std::string("turned round"));
+        QCOMPARE(parts.note().isConverted, isConverted);
         QCOMPARE(parts.warnings(), std::vector<std::string>{"a"});
     }
 

@@ -6,6 +6,7 @@
 #include "orvane/app/files/FileJobs.h"
 #include "orvane/app/files/RecentFiles.h"
 #include "orvane/app/files/SaveQuestion.h"
+#include "orvane/app/files/SpaceStep.h"
 #include "orvane/app/scene/NodeCommands.h"
 #include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/Session.h"
@@ -203,8 +204,11 @@ void FileFlow::leave(const Next& next)
 void FileFlow::startOpen(const QString& fileName, const Opened& opened)
 {
     const auto makeJob = [this, fileName] { return m_jobMakers.load(fileName); };
-    const auto show
-        = [this, fileName](const ReadScene& read) { m_session.document().open(read.journal, fileName, read.content); };
+    const auto show = [this, fileName](const ReadScene& read) {
+        const SpaceStep conversion(read);
+        m_session.document().open(read.journal, fileName, read.content);
+        conversion.push(m_session.services());
+    };
     start({fileName, makeJob, show, [this, fileName, opened](const orvane::Result<>& result) {
                if (result)
                    m_recent.add(fileName);

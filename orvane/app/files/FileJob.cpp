@@ -69,14 +69,20 @@ QString SceneJob::warningText() const
 
 void SceneJob::finishAtOnceWith(const NxRef<NxGroup>& scene)
 {
-    m_read = {scene, OrvDocument::makeJournal(*scene), content()};
+    m_read = {scene, OrvDocument::makeJournal(*scene), content(), m_isConverted};
     finish();
 }
 
 void SceneJob::finishWith(const NxRef<NxGroup>& scene)
 {
-    m_numbered = {scene, std::make_shared<meridane::Journal>(*scene), content()};
+    m_numbered = {scene, std::make_shared<meridane::Journal>(*scene), content(), m_isConverted};
     startSlices();
+}
+
+void SceneJob::setNote(const orvane::SpaceNote& note)
+{
+    m_note = orvane::toQString(note.text);
+    m_isConverted = note.isConverted;
 }
 
 void SceneJob::runSlice()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/transfer/SpaceNote.h"
+
 #include "meridane/base/ContentHash.h"
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/file/NxReadFailure.h"
@@ -79,6 +81,7 @@ struct ReadScene {
     NxRef<NxGroup> scene;
     std::shared_ptr<meridane::Journal> journal;
     std::optional<meridane::ContentHash> content = {};
+    bool isConverted = false; ///< see `orvane::SpaceNote`
 };
 
 /// A job that ends with a scene.
@@ -110,7 +113,7 @@ protected:
     /// The same at once, for a small scene.
     void finishAtOnceWith(const NxRef<NxGroup>& scene);
     void setWarnings(const QStringList& warnings) { m_warnings = warnings; }
-    void setNote(const QString& note) { m_note = note; }
+    void setNote(const orvane::SpaceNote& note);
     /// Ends the job with `failed`.
     void failToRead(NxReadFailure failure);
 
@@ -122,4 +125,5 @@ private:
     NxReadFailure m_failure;
     QStringList m_warnings;
     QString m_note;
+    bool m_isConverted = false;
 };

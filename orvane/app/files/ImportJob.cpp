@@ -78,7 +78,7 @@ void ImportJob::startReading()
     for (const std::string& warning : m_parts.warnings())
         warnings += orvane::toQString(warning);
     setWarnings(warnings);
-    setNote(orvane::toQString(m_parts.note()));
+    setNote(m_parts.note());
     m_reader = std::make_unique<orvane::PackedSceneReader>(std::move(m_parts));
     startSlices();
 }

@@ -109,7 +109,7 @@ NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
     m_importer->SetIOHandler(files);
     NxRef<NxGroup> scene;
     if (const aiScene* const model = readMended(path, *files, error))
-        scene = SceneBuilder(*model, path, m_options, m_warnings).build(error);
+        scene = SceneBuilder(*model, path, m_options, m_warnings).build(m_note.isConverted, error);
     if (!scene)
         error = path + ": " + error;
     return scene;
@@ -172,7 +172,7 @@ bool ModelReader::mend(aiScene& model, std::string& error)
 const aiScene* ModelReader::readMended(const std::string& path, ModelFiles& files, std::string& error)
 {
     m_warnings = {};
-    m_note.clear();
+    m_note = {};
     const aiScene* model = readFile(path, files);
     if (model != nullptr && model->mRootNode != nullptr) {
         // The importer's own, which it lets nobody else change; but its steps don't survive every model.

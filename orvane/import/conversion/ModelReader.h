@@ -3,6 +3,7 @@
 #include "orvane/import/mending/ColorMending.h"
 #include "orvane/import/mending/ImportOptions.h"
 #include "orvane/import/mending/ImportWarnings.h"
+#include "orvane/transfer/SpaceNote.h"
 
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxGroup.h"
@@ -33,8 +34,8 @@ public:
     [[nodiscard]] NxRef<NxGroup> read(const std::string& path, std::string& error);
     /// What the user should know of the model that was read last: what was left out or mended.
     [[nodiscard]] std::vector<std::string> warnings() const { return m_warnings.texts(); }
-    /// What became of its unit and up axis, a sentence; empty if that is nothing to speak of.
-    [[nodiscard]] const std::string& note() const noexcept { return m_note; }
+    /// What became of its unit and up axis, which the first node of the scene may convert.
+    [[nodiscard]] const SpaceNote& note() const noexcept { return m_note; }
 
 private:
     [[nodiscard]] const aiScene* readFile(const std::string& path, ModelFiles& files);
@@ -44,7 +45,7 @@ private:
     std::unique_ptr<Assimp::Importer> m_importer;
     ImportOptions m_options;
     ImportWarnings m_warnings;
-    std::string m_note;
+    SpaceNote m_note;
     ColorStorage m_colorStorage = ColorStorage::Usual;
 };
 

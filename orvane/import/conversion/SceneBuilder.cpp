@@ -54,15 +54,32 @@ SceneBuilder::SceneBuilder(
         m_cameras.emplace(viewOf(camera->mName), camera);
 }
 
-NxRef<NxGroup> SceneBuilder::build(std::string& error)
+NxRef<NxGroup> SceneBuilder::build(bool isConverted, std::string& error)
 {
     NxRef<NxGroup> scene = new NxGroup;
     const aiNode& root = *m_model.mRootNode;
-    addLights(*scene, root, aiMatrix4x4());
-    if (isMadeUp(root) ? addContent(*scene, root, 1) : addNode(*scene, root, 1))
-        return scene;
+    if (isConverted) {
+        if (addNode(*scene, root, 1)) {
+            addLightsOf(root, *scene->getChild(0));
+            return scene;
+        }
+    } else {
+        addLights(*scene, root, aiMatrix4x4());
+        if (isMadeUp(root) ? addContent(*scene, root, 1) : addNode(*scene, root, 1))
+            return scene;
+    }
     error = "nodes are nested more than " + std::to_string(NxSceneReader::maxDepth) + " deep";
     return {};
+}
+
+void SceneBuilder::addLightsOf(const aiNode& root, NxNode& top)
+{
+    auto* const group = dynamic_cast<NxGroup*>(&top);
+    const NxRef<NxGroup> lights = new NxGroup;
+    aiMatrix4x4 toRoot = root.mTransformation;
+    addLights(*lights, root, toRoot.Inverse());
+    for (int index = 0; group != nullptr && index < lights->getNumChildren(); ++index)
+        group->insertChild(lights->getChild(index), index);
 }
 
 // Many readers add a node above those of the model.

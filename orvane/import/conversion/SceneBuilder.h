@@ -38,10 +38,13 @@ public:
     /// Model and warnings must outlive the builder. `path` is that of the model's file.
     SceneBuilder(const aiScene& model, const std::string& path, const ImportOptions& options, ImportWarnings& warnings);
 
-    /// The scene, or null; then `error` says what a scene can't contain.
-    [[nodiscard]] NxRef<NxGroup> build(std::string& error);
+    /// The scene, or null; then `error` says what a scene can't contain. If the root node of the model converts its
+    /// unit and its up axis, its transform contains the lights too, so that it converts all of the model.
+    [[nodiscard]] NxRef<NxGroup> build(bool isConverted, std::string& error);
 
 private:
+    /// Adds all lights in front of the children of the node that the root has become.
+    void addLightsOf(const aiNode& root, NxNode& top);
     void addLights(NxGroup& scene, const aiNode& node, const aiMatrix4x4& above);
     bool addNode(NxGroup& parent, const aiNode& node, int depth, const VbString& nameAbove = {});
     [[nodiscard]] bool isEmptyLink(const aiNode& node) const;

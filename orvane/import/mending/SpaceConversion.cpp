@@ -75,7 +75,7 @@ std::string unitText(double metres)
 
 } // namespace
 
-std::string convertSpace(aiScene& model, ImportOptions::Space wanted)
+SpaceNote convertSpace(aiScene& model, ImportOptions::Space wanted)
 {
     const std::optional<SourceSpace> space = spaceOf(model);
     if (!space)
@@ -90,14 +90,14 @@ std::string convertSpace(aiScene& model, ImportOptions::Space wanted)
     const bool scales = isScaled && wanted == ImportOptions::Space::Convert;
     const bool turns = isTurned && wanted != ImportOptions::Space::Keep;
     if (!scales && !turns)
-        return has + "; that was kept.";
+        return {has + "; that was kept.", false};
     aiMatrix4x4 scaling;
     if (scales)
         aiMatrix4x4::Scaling(aiVector3D(static_cast<float>(space->metresPerUnit)), scaling);
     aiMatrix4x4& root = model.mRootNode->mTransformation;
     root = scaling * (turns ? space->toYUp : aiMatrix4x4()) * root;
     const std::string done = turns && scales ? "turned and scaled" : turns ? "turned" : "scaled";
-    return has + "; it was " + done + (scales ? " to metres" : "") + (turns ? ", y upwards." : ".");
+    return {has + "; it was " + done + (scales ? " to metres" : "") + (turns ? ", y upwards." : "."), true};
 }
 
 } // namespace orvane

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "orvane/import/mending/ImportOptions.h"
-
-#include <string>
+#include "orvane/transfer/SpaceNote.h"
 
 struct aiScene;
 
@@ -13,6 +12,6 @@ namespace orvane {
 /// what was kept although the file states it; empty if there was nothing to do.
 ///
 /// The readers of glTF, whose files are in metres with y upwards, and of Collada, which converts, need nothing here.
-[[nodiscard]] std::string convertSpace(aiScene& model, ImportOptions::Space wanted);
+[[nodiscard]] SpaceNote convertSpace(aiScene& model, ImportOptions::Space wanted);
 
 } // namespace orvane

@@ -5,6 +5,8 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/files/FileFlow.h"
 
+#include "meridane/scene/nodes/NxTransform.h"
+
 #include <QFileInfo>
 
 #include <vector>
@@ -27,7 +29,9 @@ public:
         void finish()
         {
             const NxRef<NxGroup> scene(new NxGroup);
-            const NxRef<NxGroup> group(new NxGroup);
+            const NxRef<NxTransform> group(new NxTransform);
+            if (m_jobs.m_note.isConverted)
+                group->scaleFactor.setValue(VbVec3f(0.01F, 0.01F, 0.01F));
             group->setName(orvane::toVbString(QFileInfo(fileName()).completeBaseName()));
             group->addChild(new NxGroup);
             scene->addChild(group.get());
@@ -74,7 +78,7 @@ public:
     [[nodiscard]] QStringList& log() { return m_log; }
     /// The warnings of the files that are read from now on.
     void setWarnings(const QStringList& warnings) { m_warnings = warnings; }
-    void setNote(const QString& note) { m_note = note; }
+    void setNote(const orvane::SpaceNote& note) { m_note = note; }
 
     static void finish(FileJob* job)
     {
@@ -111,5 +115,5 @@ private:
     std::vector<FileJob*> m_running;
     QStringList m_log;
     QStringList m_warnings;
-    QString m_note;
+    orvane::SpaceNote m_note;
 };

@@ -193,7 +193,7 @@ private Q_SLOTS:
     {
         QStringList notes;
         connect(m_flow, &FileFlow::noted, m_flow, [&notes](const QString& text) { notes += text; });
-        m_jobs->setNote(QStringLiteral("it was turned"));
+        m_jobs->setNote({"it was turned", false});
         ask(Kind::Open, "a.mrd");
         finishAll();
         m_jobs->setNote({});
@@ -201,6 +201,28 @@ private Q_SLOTS:
         finishAll();
         QCOMPARE(notes, QStringList(QStringLiteral("it was turned")));
         QCOMPARE(m_messages->texts(), QStringList());
+        QVERIFY(!m_session->services().canUndo());
+    }
+
+    void theConversionOfAModelIsUndone()
+    {
+        m_jobs->setNote({"it was scaled", true});
+        ask(Kind::Open, "a.mrd");
+        finishAll();
+        OrvServices& services = m_session->services();
+        auto& transform = dynamic_cast<NxTransform&>(*document().scene()->getChild(0));
+        const VbVec3f converted(0.01F, 0.01F, 0.01F);
+        QCOMPARE(transform.scaleFactor.getValue(), converted);
+        QVERIFY(!document().isModified());
+        QVERIFY(services.canUndo());
+        QCOMPARE(services.undoText(), QStringLiteral("Convert Unit and Up Axis"));
+        services.undo();
+        QCOMPARE(transform.scaleFactor.getValue(), VbVec3f(1, 1, 1));
+        QVERIFY(document().isModified());
+        QVERIFY(!services.canUndo());
+        services.redo();
+        QCOMPARE(transform.scaleFactor.getValue(), converted);
+        QVERIFY(!document().isModified());
     }
 
     void warningsOfAFileAreOneMessage()
