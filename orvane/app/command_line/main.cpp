@@ -4,6 +4,7 @@
 #include "orvane/app/command_line/CommandLine.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/command_line/WindowRun.h"
+#include "orvane/app/look/ReadablePalette.h"
 #include "orvane/app/plugins/GuardedApplication.h"
 
 #include <csignal>
@@ -116,6 +117,7 @@ std::unique_ptr<QCoreApplication> makeApplicationOnScreen(char** argv)
               std::_Exit(statusFailed);
           });
     auto application = makeApplication<GuardedApplication>(argv);
+    new ReadablePalette(application.get());
     qInstallMessageHandler(&passOnUnlessNoise);
     for (const QString& problem : std::as_const(problems))
         orvane::printError(problem);

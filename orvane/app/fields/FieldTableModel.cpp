@@ -3,28 +3,16 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldFilter.h"
 #include "orvane/app/fields/FieldToolTip.h"
+#include "orvane/app/fields/RowLook.h"
 #include "orvane/app/fields/values/FieldWriter.h"
-#include "orvane/app/look/Look.h"
 
 #include "meridane/scene/fields/NxField.h"
 
-#include <QColor>
-#include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
 
 #include <algorithm>
 #include <utility>
-
-namespace {
-
-QColor quietColor()
-{
-    const QPalette palette = QGuiApplication::palette();
-    return orvane::look::quietColor(palette.color(QPalette::Text), palette.color(QPalette::Base));
-}
-
-} // namespace
 
 struct FieldTableModel::Watch {
     Watch(FieldTableModel* owner, NxField* field, std::size_t row)
@@ -91,6 +79,8 @@ void FieldTableModel::setFilter(const meridane::Query& query, bool changedOnly)
 
 void FieldTableModel::setFavorites(const QSet<QString>& favorites)
 {
+    if (favorites == m_favorites)
+        return;
     beginResetModel();
     m_favorites = favorites;
     rebuild();
@@ -318,16 +308,12 @@ QVariant FieldTableModel::rowData(const FieldRow& row, const FieldGroup& group, 
         if (column == TypeColumn)
             return row.type();
         return column == ValueColumn ? valueText(row) : QString();
-    case Qt::FontRole: {
-        QFont font;
-        font.setStrikeOut(row.isIgnored() && column == NameColumn);
-        font.setBold(row.isChanged() && column != TypeColumn);
-        return font;
-    }
+    case Qt::FontRole:
+        return orvane::rowFont(row.isChanged() && column != TypeColumn, row.isIgnored() && column == NameColumn);
     case Qt::ForegroundRole:
         if (row.isIgnored() || row.fields().isEmpty() || column == TypeColumn
             || (column == ValueColumn && row.isMixed()))
-            return quietColor();
+            return orvane::quietTextColor();
         return {};
     case Qt::ToolTipRole:
         return orvane::fieldToolTip(row);

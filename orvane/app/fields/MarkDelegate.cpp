@@ -6,6 +6,7 @@
 #include "orvane/app/look/Look.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -86,9 +87,10 @@ QRect MarkDelegate::placeOf(Mark mark, const QStyleOptionViewItem& option)
 
 void MarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    QStyledItemDelegate::paint(painter, option, index);
     if (!hasField(index))
-        return;
+        return QStyledItemDelegate::paint(painter, option, index);
+    const QStyle* const style = option.widget != nullptr ? option.widget->style() : QApplication::style();
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, option.widget);
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const bool isActive = isSelected || option.state.testFlag(QStyle::State_MouseOver);
     const QPalette& palette = option.palette;

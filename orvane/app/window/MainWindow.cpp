@@ -202,7 +202,7 @@ void MainWindow::buildDocks()
     fieldsDock->setObjectName(QStringLiteral("fieldsDock"));
     fieldsDock->setWidget(m_fields);
     addDockWidget(Qt::RightDockWidgetArea, fieldsDock);
-    resizeDocks({dock, fieldsDock}, {treeWidth, WindowShell::sideDockWidth}, Qt::Horizontal);
+    resizeDocks({dock, fieldsDock}, {treeWidth, WindowShell::widthAtSide(*this)}, Qt::Horizontal);
     m_inspectors = new Inspectors(m_session, m_tree, m_fields, this);
     auto* travel = new StepTravel(m_session.services(), this);
     new HistoryDock(m_session, *travel, *m_messages, this);

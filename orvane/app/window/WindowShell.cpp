@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QEvent>
 #include <QMainWindow>
+#include <QScreen>
 #include <QToolBar>
 
 #include <algorithm>
@@ -80,6 +81,13 @@ bool WindowShell::eventFilter(QObject* object, QEvent* event)
     return false;
 }
 
+int WindowShell::widthAtSide(const QWidget& window)
+{
+    constexpr int letters = 48;
+    const int wanted = letters * window.fontMetrics().averageCharWidth();
+    return std::max(sideDockWidth, std::min(wanted, window.screen()->availableSize().width() * 2 / 5));
+}
+
 // A dock that joins others gets their width, which the user may have chosen.
 int WindowShell::widthFor(QDockWidget* dock) const
 {
@@ -88,7 +96,7 @@ int WindowShell::widthFor(QDockWidget* dock) const
         if (other != dock && other->isVisible() && !other->isFloating() && m_window->dockWidgetArea(other) == area)
             return other->width();
     }
-    return std::max(sideDockWidth, dock->sizeHint().width());
+    return std::max(widthAtSide(*m_window), dock->sizeHint().width());
 }
 
 void WindowShell::giveSize(QDockWidget* dock, int width)

@@ -19,6 +19,8 @@ class WindowShell : public QObject, public OrvShell {
 public:
     /// The width, in pixels, that a column of docks starts with: enough for the editors of most fields.
     static constexpr int sideDockWidth = 410;
+    /// How wide docks at the sides begin: more with a large font, but at most two fifths of the screen.
+    [[nodiscard]] static int widthAtSide(const QWidget& window);
 
     explicit WindowShell(QMainWindow* window);
     ~WindowShell() override;

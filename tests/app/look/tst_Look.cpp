@@ -1,5 +1,7 @@
 #include "orvane/app/look/Look.h"
+#include "orvane/app/look/ReadablePalette.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QFont>
 #include <QFontMetrics>
@@ -135,6 +137,38 @@ private Q_SLOTS:
         QCOMPARE(rowHeight(large), large.height() + 2 * unit(large));
         font.setPixelSize(1);
         QCOMPARE(unit(QFontMetrics(font)), 2);
+    }
+
+    void textsOfEmptyLinesAreReadable_data()
+    {
+        QTest::addColumn<QColor>("base");
+        QTest::addColumn<QColor>("text");
+        QTest::addColumn<bool>("isKept");
+        QTest::newRow("black on black, as some desktops have it")
+            << QColor(35, 38, 41) << QColor(239, 240, 241) << false;
+        QTest::newRow("light") << QColor(Qt::white) << QColor(Qt::black) << true;
+    }
+
+    void textsOfEmptyLinesAreReadable()
+    {
+        QFETCH(QColor, base);
+        QFETCH(QColor, text);
+        QFETCH(bool, isKept);
+        const QPalette before = QApplication::palette();
+        const QColor placeholder(0, 0, 0, 128);
+        QPalette palette;
+        palette.setColor(QPalette::Base, base);
+        palette.setColor(QPalette::Text, text);
+        palette.setColor(QPalette::PlaceholderText, placeholder);
+        QApplication::setPalette(palette);
+        const ReadablePalette readable(qApp);
+        QCOMPARE(QApplication::palette().color(QPalette::PlaceholderText) == placeholder, isKept);
+        if (!isKept)
+            QVERIFY(contrast(QApplication::palette().color(QPalette::PlaceholderText), base) >= textContrast);
+        // A desktop that changes its palette is followed.
+        QApplication::setPalette(palette);
+        QTRY_COMPARE(QApplication::palette().color(QPalette::PlaceholderText) == placeholder, isKept);
+        QApplication::setPalette(before);
     }
 };
 

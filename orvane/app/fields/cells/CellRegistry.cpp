@@ -16,6 +16,8 @@
 #include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/nodes/NxFieldGallery.h"
 
+#include <algorithm>
+
 const CellRegistry& CellRegistry::instance()
 {
     static const CellRegistry registry;
@@ -39,6 +41,7 @@ CellRegistry::CellRegistry()
     add(std::make_unique<RotationCell>(), {NxSFRotation::getClassTypeId()});
     add(std::make_unique<MatrixCell>(), {NxSFMatrix::getClassTypeId()});
     add(std::make_unique<TextCell>(), {NxSFString::getClassTypeId()});
+    m_textCell = m_entries.back().second;
     add(std::make_unique<ImageCell>(), {NxSFImage::getClassTypeId()});
     add(std::make_unique<PathCell>(), {NxSFFilePathString::getClassTypeId()});
     m_pathCell = m_entries.back().second;
@@ -51,15 +54,22 @@ void CellRegistry::add(std::unique_ptr<const ValueCell> cell, std::initializer_l
     m_cells.push_back(std::move(cell));
 }
 
-const ValueCell& CellRegistry::cellOf(const NxField& field) const
+const ValueCell& CellRegistry::cellOf(NxType type) const
 {
-    const NxType type = field.getTypeId();
+    const auto known = std::ranges::find(m_found, type, &std::pair<NxType, const ValueCell*>::first);
+    if (known != m_found.end())
+        return *known->second;
     const auto* best = &m_entries.front();
     for (const auto& entry : m_entries) {
         if (type.isDerivedFrom(entry.first) && entry.first.isDerivedFrom(best->first))
             best = &entry;
     }
-    if (best->first == NxSFString::getClassTypeId() && meridane::factsOf(field).isFile)
-        return *m_pathCell;
+    m_found.emplace_back(type, best->second);
     return *best->second;
+}
+
+const ValueCell& CellRegistry::cellOf(const NxField& field) const
+{
+    const ValueCell& cell = cellOf(field.getTypeId());
+    return &cell == m_textCell && meridane::factsOf(field).isFile ? *m_pathCell : cell;
 }

@@ -19,11 +19,14 @@ public:
 private:
     CellRegistry();
 
+    [[nodiscard]] const ValueCell& cellOf(NxType type) const;
     void add(std::unique_ptr<const ValueCell> cell, std::initializer_list<NxType> types);
 
     std::vector<std::unique_ptr<const ValueCell>> m_cells;
     std::vector<std::pair<NxType, const ValueCell*>> m_entries;
+    const ValueCell* m_textCell;
     const ValueCell* m_pathCell;
+    mutable std::vector<std::pair<NxType, const ValueCell*>> m_found; // for the classes that were asked for
 };
 
 namespace orvane {

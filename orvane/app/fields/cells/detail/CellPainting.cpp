@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane {
 
@@ -62,12 +63,17 @@ QColor tintOn(look::Tint tint, const QColor& background)
 QFont letterFont(const QFont& font)
 {
     constexpr double size = 0.85; // of a line's
+    // Of the cell that was painted last, which most likely has the same font.
+    static std::pair<QFont, QFont> last;
+    if (last.first == font && last.second != last.first)
+        return last.second;
     QFont small = font;
     if (font.pointSizeF() > 0)
         small.setPointSizeF(font.pointSizeF() * size);
     else
         small.setPixelSize(qRound(font.pixelSize() * size));
     small.setBold(true);
+    last = {font, small};
     return small;
 }
 

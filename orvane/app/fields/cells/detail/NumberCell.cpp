@@ -26,6 +26,8 @@ void orvane::paintNumber(QPainter& painter, const CellPaint& cell, const QRect& 
     if (!number.letter.isEmpty()) {
         const QColor color = tintOn(number.tint, cell.background);
         rest.setLeft(rest.left() + paintText(painter, letterFont(cell.font), rest, number.letter, color) + unit);
+        if (rest.width() < unit)
+            return; // nothing of the number would be seen, and an ellipsis would cover the next letter
     }
     if (number.text.isEmpty())
         return paintMixed(painter, cell, rest);
