@@ -7,6 +7,7 @@
 #include "meridane/scene/journal/JournalListener.h"
 #include "meridane/scene/nodes/NxMaterial.h"
 #include "meridane/scene/nodes/NxMesh.h"
+#include "meridane/scene/nodes/NxTexture.h"
 
 #include <QTest>
 
@@ -111,6 +112,29 @@ private Q_SLOTS:
         material->transparency.setValue(1);
         run.finish();
         check.noteStep(true);
+        check.run();
+        QCOMPARE(ProblemLines::of(check, *scene), QStringList());
+        run.journal().removeListener(follower);
+    }
+
+    void anotherRoleOfATextureIsFollowed()
+    {
+        const NxRef<NxGroup> scene = SceneText::read(
+            SceneText::file("Texture \"a\" { image = 1 1 1 255 }\nTexture \"b\" { image = 1 1 1 255; role = NORMAL }\n"
+                            "Mesh { positions = [0 0 0, 1 0 0, 0 1 0] }"));
+        auto* const texture = static_cast<NxTexture*>(scene->getChild(1));
+        JournalRun run(*scene);
+        NxSceneCheck check(scene);
+        Follower follower(check);
+        run.journal().addListener(follower);
+        check.run();
+        QCOMPARE(ProblemLines::of(check, *scene), QStringList());
+        texture->role.setValue(NxTexture::COLOR);
+        check.run();
+        QCOMPARE(ProblemLines::of(check, *scene), QStringList({QStringLiteral("unused-texture /a")}));
+        run.finish();
+        check.noteStep(true);
+        texture->role.setValue(NxTexture::METAL_ROUGHNESS);
         check.run();
         QCOMPARE(ProblemLines::of(check, *scene), QStringList());
         run.journal().removeListener(follower);

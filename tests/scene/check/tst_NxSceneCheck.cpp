@@ -142,6 +142,16 @@ private Q_SLOTS:
             {});
         row("unused texture", "Group { " + mesh(triangle) + "Texture \"t\" { image = 1 1 1 255 } }",
             {text("unused-texture /Group[0]/t")});
+        row("textures of different roles",
+            "Texture \"a\" { image = 1 1 1 255 }\nTexture \"b\" { image = 1 1 1 255; role = NORMAL }\n"
+            "Texture \"c\" { image = 1 1 1 255; role = METAL_ROUGHNESS }\nGroup { "
+                + mesh(triangle) + "}",
+            {});
+        row("two textures of one role",
+            "Texture \"a\" { image = 1 1 1 255; role = NORMAL }\nTexture \"b\" { image = 1 1 1 255 }\n"
+            "Group { Texture \"c\" { image = 1 1 1 255; role = NORMAL } "
+                + mesh(triangle) + "}",
+            {text("unused-texture /a")});
         row("unused complexity", "Complexity \"c\" {}", {text("unused-complexity /c")});
         row("unused lights", mesh(triangle) + "PointLight \"a\" {}\nSpotLight \"b\" {}",
             {text("unused-light /a"), text("unused-light /b")});

@@ -132,6 +132,9 @@ void CheckWork::apply(const Dirty& dirty)
     }
     if (dirty.node.get() != &m_scene)
         m_values.push_back(dirty.node.get());
+    // With another role it takes the place of other textures.
+    if (m_plans.of(*dirty.node).role == ClassPlan::Role::Texture)
+        queueParents(*dirty.node);
     if (dirty.change != Change::Children || own == NodeTable::none)
         return;
     m_records[own].needsLink = true;

@@ -2,6 +2,7 @@
 
 #include "meridane/base/values/MessageText.h"
 #include "meridane/scene/check/detail/WorkMeter.h"
+#include "meridane/scene/nodes/NxTexture.h"
 
 #include <algorithm>
 #include <functional>
@@ -14,8 +15,22 @@ using Role = ClassPlan::Role;
 
 constexpr std::size_t namesInTable = 1024;
 constexpr std::size_t unitsOfChild = 8; // in numbers checked
-constexpr std::array<NxProblemKind, 3> unusedKinds{
-    NxProblemKind::UnusedMaterial, NxProblemKind::UnusedTexture, NxProblemKind::UnusedComplexity};
+constexpr std::array<NxProblemKind, 5> unusedKinds{NxProblemKind::UnusedMaterial, NxProblemKind::UnusedTexture,
+    NxProblemKind::UnusedComplexity, NxProblemKind::UnusedTexture, NxProblemKind::UnusedTexture};
+
+// Of each role, the last texture applies.
+std::size_t waitingKindOf(const NxTexture& texture)
+{
+    switch (texture.effectiveRole()) {
+    case NxTexture::NORMAL:
+        return 3;
+    case NxTexture::METAL_ROUGHNESS:
+        return 4;
+    case NxTexture::COLOR:
+        break;
+    }
+    return 1;
+}
 
 } // namespace
 
@@ -77,7 +92,7 @@ void SiblingCheck::visit(NxNode& child, Role role, std::uint8_t uses)
         replaceWaiting(0, child);
         break;
     case Role::Texture:
-        replaceWaiting(1, child);
+        replaceWaiting(waitingKindOf(static_cast<const NxTexture&>(child)), child);
         break;
     case Role::Complexity:
         replaceWaiting(2, child);

@@ -15,7 +15,15 @@ namespace meridane {
 class WorkMeter;
 
 /// What the nodes of a group use of what precedes the group: a bit for each kind of node that applies to what follows.
-enum UseBit : std::uint8_t { UsesMaterial = 1, UsesTexture = 2, UsesComplexity = 4, UsesLight = 8, UsesAll = 15 };
+enum UseBit : std::uint8_t {
+    UsesMaterial = 1,
+    UsesTexture = 2,
+    UsesComplexity = 4,
+    UsesNormalMap = 8, ///< a texture with that role; likewise below
+    UsesSurfaceMap = 16,
+    UsesLight = 32,
+    UsesAll = 63,
+};
 
 /// Finds what is wrong among the children of one group, in slices: the same names, and what applies to nothing.
 ///
@@ -89,7 +97,7 @@ private:
     std::size_t m_next = 0;
     std::uint8_t m_uses = 0; // of what precedes the group
     std::uint8_t m_seen = 0; // kinds of which the group has had one
-    std::array<Waiting, 3> m_waiting; // material, texture, complexity
+    std::array<Waiting, 5> m_waiting; // by the number of their bit
     std::vector<Waiting> m_lights;
     /// Several tables for a long list, so that none grows for longer than a slice.
     std::vector<Names> m_names;
