@@ -7,6 +7,7 @@
 #include "meridane/scene/nodes/NxMaterial.h"
 #include "meridane/scene/nodes/NxMesh.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <limits>
@@ -48,6 +49,16 @@ Matrix4d sceneToRay(const NxRay& ray)
     return multiply(translationMatrix(scaled(ray.origin, -1.0)), turned);
 }
 
+// But for the point.
+NxRayHit hitOf(const MeshHit& search, const std::vector<Step>& steps)
+{
+    NxRayHit hit{
+        {}, VbVec3d(), static_cast<float>(search.distance()), search.primitive(), search.vertex(), search.corner()};
+    for (const Step& above : steps)
+        hit.path.push_back(above.children[above.next - 1]);
+    return hit;
+}
+
 } // namespace
 
 NxRayPick::NxRayPick(const NxRay& ray)
@@ -68,10 +79,10 @@ void NxRayPick::setDistances(float nearest, float farthest) noexcept
     m_farthest = farthest;
 }
 
-std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
+// Calls `visit` with each mesh that is shown, the matrix to the ray, its sides, and the steps that lead to it.
+template <typename Visit>
+void NxRayPick::visitMeshes(const NxNode& root, Visit visit) const
 {
-    MeshHit search(m_radius, m_slope, m_nearest, m_farthest);
-    std::optional<NxRayHit> hit;
     // Without recursion: a scene may be too deep for the stack.
     std::vector<Step> steps{{shownChildrenOf(root), 0, multiply(localTransformOf(root), sceneToRay(m_ray)),
         m_visibility.below({}, root), MeshHit::Sides::Both}};
@@ -85,12 +96,8 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
         const NxNodeVisibility::State state = m_visibility.below(step.state, node);
         const std::span<NxNode* const> children = shownChildrenOf(node);
         if (const auto* mesh = dynamic_cast<const NxMesh*>(&node)) {
-            if (!m_visibility.shows(state) || !search.meet(*mesh, step.matrix, step.sides))
-                continue;
-            hit = NxRayHit{{}, VbVec3d(), static_cast<float>(search.distance()), search.primitive(), search.vertex(),
-                search.corner()};
-            for (const Step& above : steps)
-                hit->path.push_back(above.children[above.next - 1]);
+            if (m_visibility.shows(state))
+                visit(*mesh, step.matrix, step.sides, steps);
         } else if (const auto* material = dynamic_cast<const NxMaterial*>(&node)) {
             const bool areBoth = effectiveField(material->doubleSided).getValue() != 0;
             step.sides = areBoth ? MeshHit::Sides::Both : MeshHit::Sides::Front;
@@ -100,9 +107,42 @@ std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
                 steps.push_back({children, 0, matrix, state, step.sides});
         }
     }
-    if (hit) {
-        const VbVec3d ahead = normalized(m_ray.direction, VbVec3f(0, 0, -1));
-        hit->point = add(m_ray.origin, scaled(ahead, search.distance()));
-    }
+}
+
+VbVec3d NxRayPick::pointAt(double distance) const
+{
+    const VbVec3d ahead = normalized(m_ray.direction, VbVec3f(0, 0, -1));
+    return add(m_ray.origin, scaled(ahead, distance));
+}
+
+std::optional<NxRayHit> NxRayPick::pick(const NxNode& root) const
+{
+    MeshHit search(m_radius, m_slope, m_nearest, m_farthest);
+    std::optional<NxRayHit> hit;
+    visitMeshes(root, [&](const NxMesh& mesh, const Matrix4d& matrix, MeshHit::Sides sides, const auto& steps) {
+        if (search.meet(mesh, matrix, sides))
+            hit = hitOf(search, steps);
+    });
+    if (hit)
+        hit->point = pointAt(search.distance());
     return hit;
+}
+
+std::vector<NxRayHit> NxRayPick::pickAll(const NxNode& root, std::size_t most) const
+{
+    std::vector<NxRayHit> hits;
+    visitMeshes(root, [&](const NxMesh& mesh, const Matrix4d& matrix, MeshHit::Sides sides, const auto& steps) {
+        MeshHit search(m_radius, m_slope, m_nearest, m_farthest);
+        if (!search.meet(mesh, matrix, sides))
+            return;
+        const double distance = search.distance();
+        const auto place = std::upper_bound(hits.begin(), hits.end(), static_cast<float>(distance),
+            [](float wanted, const NxRayHit& other) { return wanted < other.distance; });
+        if (place == hits.end() && hits.size() >= most)
+            return;
+        hits.insert(place, hitOf(search, steps))->point = pointAt(distance);
+        if (hits.size() > most)
+            hits.pop_back();
+    });
+    return hits;
 }

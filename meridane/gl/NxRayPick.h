@@ -4,6 +4,7 @@
 #include "meridane/gl/geometry/NxViewpoint.h"
 #include "meridane/gl/places/NxNodeVisibility.h"
 
+#include <cstddef>
 #include <optional>
 #include <vector>
 
@@ -41,8 +42,14 @@ public:
 
     /// The first hit below `root`, or nothing.
     [[nodiscard]] std::optional<NxRayHit> pick(const NxNode& root) const;
+    /// The first hits of the meshes below `root`, one for each instance, from the nearest on; at most `most` of them.
+    [[nodiscard]] std::vector<NxRayHit> pickAll(const NxNode& root, std::size_t most) const;
 
 private:
+    template <typename Visit>
+    void visitMeshes(const NxNode& root, Visit visit) const;
+    [[nodiscard]] VbVec3d pointAt(double distance) const;
+
     NxRay m_ray;
     float m_radius = 0;
     float m_slope = 0;

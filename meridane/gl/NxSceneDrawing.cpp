@@ -11,6 +11,7 @@
 #include "meridane/gl/painting/detail/ScreenPass.h"
 #include "meridane/gl/painting/detail/SeenItems.h"
 #include "meridane/gl/painting/detail/WirePainter.h"
+#include "meridane/gl/places/detail/OutlinedItems.h"
 #include "meridane/gl/places/detail/PlacedScene.h"
 
 #include <algorithm>
@@ -56,7 +57,7 @@ public:
         if (!std::exchange(isChangeReported, true) && changeHook)
             changeHook();
     }
-    void updateSelection();
+    void drawOutlines(const PictureFrame& frame);
     [[nodiscard]] float lineWidth(float wanted) const;
     void drawBackground(int height);
     void drawMeshesAndLines(const Ground& ground, const PictureFrame& frame);
@@ -67,15 +68,10 @@ public:
     NxImageLoader loader;
     std::function<void()> changeHook;
     NxDrawingCounts counts;
-    /// A path, or one node. References, so that no other node can get the address.
-    std::vector<NxRef<NxNode>> selection;
-    bool isSelectionPath = false;
+    OutlinedItems selected;
+    OutlinedItems otherSelected;
+    OutlinedItems hovered;
     bool isChangeReported = false;
-    std::vector<NxRef<NxNode>> otherSelection;
-    std::vector<Id> selectedItems;
-    std::vector<Id> otherItems;
-    std::uint64_t selectedStructure = 0;
-    bool isSelectionStale = false;
     NxNodeVisibility visibility;
 
     GLErrors errors;
@@ -90,28 +86,15 @@ public:
     PlacedScene scene; // last: its destructor releases objects of the painters
 };
 
-void NxSceneDrawing::Private::updateSelection()
+void NxSceneDrawing::Private::drawOutlines(const PictureFrame& frame)
 {
-    if (!isSelectionStale && selectedStructure == scene.structure())
-        return;
-    isSelectionStale = false;
-    selectedStructure = scene.structure();
-    selectedItems.clear();
-    std::vector<const NxNode*> nodes;
-    for (const NxRef<NxNode>& node : selection)
-        nodes.push_back(node.get());
-    if (!nodes.empty())
-        selectedItems = isSelectionPath ? scene.itemsBelow(nodes) : scene.itemsBelow(nodes.front());
-    otherItems.clear();
-    for (const NxRef<NxNode>& node : otherSelection) {
-        const std::vector<Id> items = scene.itemsBelow(node.get());
-        otherItems.insert(otherItems.end(), items.begin(), items.end());
-    }
-    // Nodes may be selected together with what is above them.
-    std::sort(otherItems.begin(), otherItems.end());
-    otherItems.erase(std::unique(otherItems.begin(), otherItems.end()), otherItems.end());
-    for (std::vector<Id>* items : {&selectedItems, &otherItems})
-        std::erase_if(*items, [this](Id item) { return !scene.isShown(item); });
+    NxDrawingStyle weaker = style;
+    weaker.outlineWidth /= 2;
+    weaker.outlineColor = style.otherOutlineColor;
+    outline.draw(scene, otherSelected.update(scene), painter, frame, weaker, counts);
+    weaker.outlineColor = style.hoverOutlineColor;
+    outline.draw(scene, hovered.update(scene), painter, frame, weaker, counts);
+    outline.draw(scene, selected.update(scene), painter, frame, style, counts);
 }
 
 // Limited to what the context supports.
@@ -183,9 +166,8 @@ NxSceneDrawing::~NxSceneDrawing() = default;
 void NxSceneDrawing::setScene(NxNode* root)
 {
     m_private->errors.forget();
-    m_private->selection.clear();
-    m_private->otherSelection.clear();
-    m_private->isSelectionStale = true;
+    for (OutlinedItems* items : {&m_private->selected, &m_private->otherSelected, &m_private->hovered})
+        items->setNodes({});
     m_private->visibility = NxNodeVisibility();
     m_private->markedPath.clear();
     m_private->marks.setPoints({});
@@ -200,26 +182,25 @@ NxNode* NxSceneDrawing::scene() const
 
 void NxSceneDrawing::setSelectedNode(NxNode* node)
 {
-    m_private->selection.clear();
-    if (node != nullptr)
-        m_private->selection.emplace_back(node);
-    m_private->isSelectionPath = false;
-    m_private->isSelectionStale = true;
+    m_private->selected.setNodes(std::span(&node, node != nullptr ? 1 : 0));
     m_private->noteChange();
 }
 
 void NxSceneDrawing::setSelectedPath(std::span<NxNode* const> nodes)
 {
-    m_private->selection.assign(nodes.begin(), nodes.end());
-    m_private->isSelectionPath = true;
-    m_private->isSelectionStale = true;
+    m_private->selected.setPath(nodes);
+    m_private->noteChange();
+}
+
+void NxSceneDrawing::setHoveredPath(std::span<NxNode* const> nodes)
+{
+    m_private->hovered.setPath(nodes);
     m_private->noteChange();
 }
 
 void NxSceneDrawing::setOtherSelectedNodes(std::span<NxNode* const> nodes)
 {
-    m_private->otherSelection.assign(nodes.begin(), nodes.end());
-    m_private->isSelectionStale = true;
+    m_private->otherSelected.setNodes(nodes);
     m_private->noteChange();
 }
 
@@ -295,7 +276,6 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
     self.isChangeReported = false;
     self.counts.drawCalls = 0;
     self.scene.update();
-    self.updateSelection();
     const Ground ground(viewpoint, self.style);
     NxBounds shown = self.scene.tree().bounds();
     shown.include(ground.bounds());
@@ -311,11 +291,7 @@ void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, f
         picture.setEnabled(GL_PROGRAM_POINT_SIZE);
         picture.setLineWidth(self.lineWidth(scale));
         self.drawMeshesAndLines(ground, frame);
-        NxDrawingStyle weaker = self.style;
-        weaker.outlineColor = weaker.otherOutlineColor;
-        weaker.outlineWidth /= 2;
-        self.outline.draw(self.scene, self.otherItems, self.painter, frame, weaker, self.counts);
-        self.outline.draw(self.scene, self.selectedItems, self.painter, frame, self.style, self.counts);
+        self.drawOutlines(frame);
         self.drawMarks(frame);
     }
     ++self.counts.pictures;

@@ -43,7 +43,11 @@ public:
     /// Outlines all instances of a node; null for none. The drawing holds a reference to the node.
     void setSelectedNode(NxNode* node);
     /// Outlines one instance of a node, given as the path of nodes from a child of the root to it; empty for none.
+    ///
+    /// For a material, texture or complexity, the meshes are outlined that it applies to.
     void setSelectedPath(std::span<NxNode* const> nodes);
+    /// Outlines one instance more quietly: what a click would select. Empty for none.
+    void setHoveredPath(std::span<NxNode* const> nodes);
 
     /// Outlines all instances of these nodes too, with the weaker line. Holds references to them.
     void setOtherSelectedNodes(std::span<NxNode* const> nodes);

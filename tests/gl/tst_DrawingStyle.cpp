@@ -34,6 +34,8 @@ private Q_SLOTS:
                 [](NxDrawingStyle& style) { style.boundingBoxColor = VbColor(1, 0, 0); },
                 [](NxDrawingStyle& style) { style.outlineColor = VbColor(1, 0, 0); },
                 [](NxDrawingStyle& style) { style.outlineWidth = 3; },
+                [](NxDrawingStyle& style) { style.hoverOutlineColor = VbColor(1, 0, 0); },
+                [](NxDrawingStyle& style) { style.outlineBorderColor = VbColor(1, 0, 0); },
                 [](NxDrawingStyle& style) { style.pointSize = 5; },
                 [](NxDrawingStyle& style) { style.markColor = VbColor(1, 0, 0); },
                 [](NxDrawingStyle& style) { style.markBorderColor = VbColor(1, 0, 0); },
@@ -127,6 +129,82 @@ private Q_SLOTS:
         }
         m_bench.drawing().setSelectedNode(nullptr);
         COMPARE_PIXEL(m_bench.draw(), 0.54, 0, blue);
+        m_bench.drawing().setScene(nullptr);
+    }
+
+    void anOutlineIsSeenOnItsOwnColor()
+    {
+        const auto front = rectangle(-0.5F, -0.5F, 0.5F, 0.5F);
+        const auto scene = groupOf({plain(1, 0, 0).get(), rectangle(-1, -1, 1, 1, -1).get(), front.get()});
+        m_bench.restyle([](NxDrawingStyle& style) {
+            style.outlineColor = VbColor(1, 0, 0);
+            style.outlineWidth = 4;
+        });
+        m_bench.drawing().setScene(scene.get());
+        const auto darkPixels = [](const QImage& picture) {
+            int dark = 0;
+            for (int x = 0; x < picture.width(); ++x)
+                dark += picture.pixelColor(x, picture.height() / 2).red() < 128 ? 1 : 0;
+            return dark;
+        };
+        QCOMPARE(darkPixels(m_bench.draw()), 0);
+        m_bench.drawing().setSelectedNode(front.get());
+        // The border of the line, to the left and to the right.
+        QVERIFY(darkPixels(m_bench.draw()) >= 2);
+        m_bench.drawing().setScene(nullptr);
+    }
+
+    void whatAClickWouldSelectIsOutlinedMoreQuietly()
+    {
+        const auto mesh = rectangle(-0.5F, -0.5F, 0.5F, 0.5F);
+        const auto scene = groupOf({plain(0, 0, 1).get(), mesh.get()});
+        m_bench.restyle([](NxDrawingStyle& style) {
+            style.hoverOutlineColor = VbColor(0, 1, 0);
+            style.outlineColor = VbColor(1, 0, 0);
+            style.outlineWidth = 8;
+        });
+        m_bench.drawing().setScene(scene.get());
+        const std::vector<NxNode*> path{mesh.get()};
+        m_bench.drawing().setHoveredPath(path);
+        COMPARE_PIXEL(m_bench.draw(), 0.52, 0, green);
+        m_bench.drawing().setSelectedPath(path);
+        COMPARE_PIXEL(m_bench.draw(), 0.52, 0, red);
+        m_bench.drawing().setSelectedPath({});
+        m_bench.drawing().setHoveredPath({});
+        COMPARE_PIXEL(m_bench.draw(), 0.52, 0, black);
+        m_bench.drawing().setScene(nullptr);
+    }
+
+    void aMaterialOutlinesWhatItAppliesTo()
+    {
+        const auto first = plain(0, 0, 1);
+        const auto second = plain(0, 0, 1);
+        const auto left = rectangle(-0.8F, -0.2F, -0.4F, 0.2F);
+        const auto middle = rectangle(-0.2F, -0.2F, 0.2F, 0.2F);
+        const auto right = rectangle(0.4F, -0.2F, 0.8F, 0.2F);
+        const auto inner = groupOf({middle.get(), second.get(), right.get()});
+        const auto scene = groupOf({first.get(), left.get(), inner.get()});
+        m_bench.restyle([](NxDrawingStyle& style) {
+            style.outlineColor = VbColor(1, 0, 0);
+            style.outlineWidth = 4;
+        });
+        m_bench.drawing().setScene(scene.get());
+        const auto outlined = [this] {
+            const QImage picture = m_bench.draw();
+            QString names;
+            for (const double x : {-0.36, 0.24, 0.84})
+                names += pixelAt(picture, x, 0).red() > 200 ? QLatin1Char('#') : QLatin1Char('-');
+            return names;
+        };
+        m_bench.drawing().setSelectedPath(std::vector<NxNode*>{first.get()});
+        QCOMPARE(outlined(), QStringLiteral("##-"));
+        m_bench.drawing().setSelectedPath(std::vector<NxNode*>{inner.get(), second.get()});
+        QCOMPARE(outlined(), QStringLiteral("--#"));
+        m_bench.drawing().setSelectedNode(second.get());
+        QCOMPARE(outlined(), QStringLiteral("--#"));
+        inner->removeChild(1); // now the first one applies to the right one, too
+        m_bench.drawing().setSelectedPath(std::vector<NxNode*>{first.get()});
+        QCOMPARE(outlined(), QStringLiteral("###"));
         m_bench.drawing().setScene(nullptr);
     }
 

@@ -45,6 +45,10 @@ struct NxDrawingStyle {
     VbColor outlineColor{1.0F, 0.6F, 0.1F};
     /// The line around other nodes that are selected, half as wide.
     VbColor otherOutlineColor{0.85F, 0.62F, 0.36F};
+    /// The line around what a click would select, half as wide.
+    VbColor hoverOutlineColor{0.95F, 0.95F, 0.95F};
+    /// The border of these lines, which keeps them apart from surfaces of their own colour.
+    VbColor outlineBorderColor{0.08F, 0.06F, 0.04F};
     /// The width of the line around the selection in points of the screen (see `NxSceneDrawing::draw`).
     float outlineWidth = 2;
     /// The size of points of meshes, in the same unit.

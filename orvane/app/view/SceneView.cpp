@@ -68,6 +68,7 @@ ViewInput::Hooks SceneView::inputHooks()
     ViewInput::Hooks hooks;
     hooks.hasScene = [this] { return static_cast<bool>(m_scene); };
     hooks.hitAt = [this](const QPointF& position) { return hitAt(position); };
+    hooks.hitsAt = [this](const QPointF& position) { return hitsAt(position); };
     hooks.moved = [this] { noteMove(); };
     hooks.picked = [this](const std::optional<NxRayHit>& hit) {
         if (hit)
@@ -285,7 +286,7 @@ void SceneView::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
 }
 
-std::optional<NxRayHit> SceneView::hitAt(const QPointF& position) const
+std::optional<NxRayPick> SceneView::pickAt(const QPointF& position) const
 {
     if (!m_scene)
         return {};
@@ -302,7 +303,25 @@ std::optional<NxRayHit> SceneView::hitAt(const QPointF& position) const
         pick.setTolerance(radii * m_viewpoint.heightAt(0), 0);
     else
         pick.setTolerance(0, radii * m_viewpoint.heightAt(1));
-    return pick.pick(*m_scene);
+    return pick;
+}
+
+std::optional<NxRayHit> SceneView::hitAt(const QPointF& position) const
+{
+    const std::optional<NxRayPick> pick = pickAt(position);
+    return pick ? pick->pick(*m_scene) : std::nullopt;
+}
+
+std::vector<NxRayHit> SceneView::hitsAt(const QPointF& position) const
+{
+    constexpr std::size_t most = 100;
+    const std::optional<NxRayPick> pick = pickAt(position);
+    return pick ? pick->pickAll(*m_scene, most) : std::vector<NxRayHit>();
+}
+
+bool SceneView::focusNextPrevChild(bool next)
+{
+    return m_input.pickBehind(next) || QWidget::focusNextPrevChild(next);
 }
 
 void SceneView::mousePressEvent(QMouseEvent* event)

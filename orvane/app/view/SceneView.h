@@ -55,6 +55,10 @@ public:
     [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const;
     /// The box around the selected node; empty if it has no extent.
     [[nodiscard]] NxBounds selectionBounds() const { return m_drawing.bounds(pointers(m_selected)); }
+    /// The same with what lies behind it, from the front.
+    [[nodiscard]] std::vector<NxRayHit> hitsAt(const QPointF& position) const;
+    /// Outlines more quietly what a click would select; none for nothing.
+    void setHoveredPath(const std::vector<NxNode*>& nodes) { m_drawing.setHoveredPath(nodes); }
     void frameAll();
     /// Frames the selected node, or the nearest node above it that has an extent; the whole scene when nothing is
     /// selected.
@@ -95,10 +99,14 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void leaveEvent(QEvent* event) override;
     bool event(QEvent* event) override;
+    /// Tab picks what lies behind the node that was clicked, as long as the pointer is there.
+    bool focusNextPrevChild(bool next) override;
 
 private:
     [[nodiscard]] ViewInput::Hooks inputHooks();
     [[nodiscard]] static std::vector<NxNode*> pointers(const std::vector<NxRef<NxNode>>& nodes);
+    /// Nothing without a scene, and where the section plane leaves nothing.
+    [[nodiscard]] std::optional<NxRayPick> pickAt(const QPointF& position) const;
     void redraw(const QSize& deviceSize);
     void showAll();
     void redrawLater();

@@ -133,6 +133,12 @@ void ViewDrawing::setMarkedPoints(const std::vector<NxNode*>& nodes, std::vector
     m_markedPoints = std::move(points);
 }
 
+void ViewDrawing::setHoveredPath(const std::vector<NxNode*>& nodes)
+{
+    if (m_drawing != nullptr)
+        m_drawing->setHoveredPath(nodes);
+}
+
 void ViewDrawing::setStyle(const NxDrawingStyle& style)
 {
     m_style = style;

@@ -51,6 +51,8 @@ public:
     void setSelectedPath(const std::vector<NxNode*>& nodes);
     /// Marks points of the last of these nodes (see `NxSceneDrawing::setMarkedPoints`).
     void setMarkedPoints(const std::vector<NxNode*>& nodes, std::vector<VbVec3f> points);
+    /// Outlines more quietly what a click would select; none for nothing.
+    void setHoveredPath(const std::vector<NxNode*>& nodes);
     void setStyle(const NxDrawingStyle& style);
 
     /// A picture of that size in device pixels; a null image when there can't be one.

@@ -44,6 +44,7 @@ void ViewInput::cancel()
         taker->cancel();
     m_navigation.endDrag();
     m_view.unsetCursor();
+    m_depth = -1;
 }
 
 bool ViewInput::giveToTools(const QMouseEvent& event)
@@ -60,6 +61,7 @@ bool ViewInput::giveToTools(const QMouseEvent& event)
 
 void ViewInput::mousePress(const QMouseEvent& event)
 {
+    m_pointer = event.position();
     if (m_taker != nullptr) {
         m_taker->mousePress(event);
         return;
@@ -84,6 +86,7 @@ void ViewInput::mousePress(const QMouseEvent& event)
 
 void ViewInput::mouseMove(const QMouseEvent& event)
 {
+    m_pointer = event.position();
     if (!isDragging()) {
         const auto taker = !m_hooks.hasScene() || event.buttons() != Qt::NoButton
             ? m_tools.end()
@@ -107,6 +110,7 @@ void ViewInput::mouseMove(const QMouseEvent& event)
         m_view.setCursor(
             m_navigation.dragUnderWay() == ViewNavigation::Drag::Pan ? Qt::SizeAllCursor : Qt::ClosedHandCursor);
     m_navigation.drag(event.position());
+    m_depth = -1;
     m_hooks.moved();
 }
 
@@ -121,13 +125,7 @@ void ViewInput::mouseRelease(const QMouseEvent& event)
     m_navigation.endDrag();
     m_view.unsetCursor();
     if (!m_isMoving && event.button() == Qt::LeftButton)
-        click(event.position());
-}
-
-void ViewInput::click(const QPointF& position)
-{
-    if (!std::any_of(m_tools.begin(), m_tools.end(), [&](ViewTool* tool) { return tool->click(position); }))
-        m_hooks.picked(hitAt(position));
+        click(event);
 }
 
 void ViewInput::leave()
@@ -151,6 +149,7 @@ void ViewInput::wheel(const QWheelEvent& event)
     if (turned == 0 || !m_hooks.hasScene() || m_taker != nullptr)
         return;
     m_navigation.zoom(turned / notch, event.position());
+    m_depth = -1;
     m_hooks.moved();
 }
 
@@ -171,6 +170,7 @@ bool ViewInput::keyPress(const QKeyEvent& event)
     if (std::any_of(m_tools.begin(), m_tools.end(), [&](ViewTool* tool) { return tool->keyPress(event); }))
         return true;
     if (m_navigation.pressKey(event)) {
+        m_depth = -1;
         m_hooks.moved();
         return true;
     }
@@ -185,8 +185,9 @@ void ViewInput::contextMenu(const QContextMenuEvent& event)
     const bool isByKey = event.reason() == QContextMenuEvent::Keyboard;
     if (!m_hooks.hasScene() || isDragging() || (!isByKey && m_withoutMenu))
         return;
-    if (!isByKey)
-        m_hooks.picked(hitAt(event.pos()));
+    // What repeated clicks have picked there is what the menu is about.
+    if (!isByKey && !(isClickedPlace(event.pos()) && m_depth > 0))
+        pick(event.pos(), 0);
     m_hooks.menuRequested(isByKey ? m_view.mapToGlobal(m_view.rect().center()) : event.globalPos());
 }
 
@@ -203,4 +204,58 @@ std::optional<NxRayHit> ViewInput::hitAt(const QPointF& position) const
             return hit;
     }
     return m_hooks.hitAt(position);
+}
+
+bool ViewInput::isClickedPlace(const QPointF& position) const
+{
+    constexpr double unsteady = 3;
+    return m_depth >= 0 && (position - m_clicked).manhattanLength() <= unsteady;
+}
+
+std::optional<NxRayHit> ViewInput::hitAt(const QPointF& position, int depth) const
+{
+    if (depth == 0)
+        return hitAt(position);
+    std::vector<NxRayHit> hits = m_hooks.hitsAt(position);
+    for (const ViewTool* tool : m_tools) {
+        if (std::optional<NxRayHit> hit = tool->hitAt(position)) {
+            hits.insert(hits.begin(), *hit);
+            break;
+        }
+    }
+    if (hits.empty())
+        return {};
+    const auto count = static_cast<int>(hits.size());
+    return hits[static_cast<std::size_t>((depth % count + count) % count)];
+}
+
+std::optional<NxRayHit> ViewInput::nextHit(const QPointF& position) const
+{
+    return hitAt(position, isClickedPlace(position) ? m_depth + 1 : 0);
+}
+
+void ViewInput::click(const QMouseEvent& event)
+{
+    if (std::any_of(m_tools.begin(), m_tools.end(), [&](ViewTool* tool) { return tool->click(event.position()); }))
+        return;
+    // A click with a modifier adds to the selection, and one on the same place takes it away again.
+    const bool isAgain = isClickedPlace(event.position()) && event.modifiers() == Qt::NoModifier;
+    pick(event.position(), isAgain ? m_depth + 1 : 0);
+}
+
+void ViewInput::pick(const QPointF& position, int depth)
+{
+    m_clicked = position;
+    m_depth = depth;
+    m_hooks.picked(hitAt(position, depth));
+}
+
+bool ViewInput::pickBehind(bool forwards)
+{
+    if (m_taker != nullptr || !m_hooks.hasScene() || !isClickedPlace(m_pointer))
+        return false;
+    if (m_hooks.hitsAt(m_clicked).size() < 2)
+        return false;
+    pick(m_clicked, m_depth + (forwards ? 1 : -1));
+    return true;
 }

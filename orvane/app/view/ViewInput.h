@@ -28,6 +28,8 @@ public:
         std::function<bool()> hasScene;
         /// What of the scene is seen at a position.
         std::function<std::optional<NxRayHit>(const QPointF& position)> hitAt;
+        /// The same with what lies behind it, from the front.
+        std::function<std::vector<NxRayHit>(const QPointF& position)> hitsAt;
         /// The navigation has changed the viewpoint.
         std::function<void()> moved;
         /// The user has clicked on something, or on nothing.
@@ -44,8 +46,13 @@ public:
     void addTool(ViewTool* tool);
     void removeTool(ViewTool* tool);
 
-    /// What a click at that position would pick: what a tool shows there, else what is seen of the scene.
+    /// What is at that position: what a tool shows there, else what is seen of the scene.
     [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const;
+    /// What a click there would pick: what is there, or, where the latest click was, what lies behind.
+    [[nodiscard]] std::optional<NxRayHit> nextHit(const QPointF& position) const;
+    /// Picks what lies behind the node that the latest click has picked, or before it, as long as the pointer is there.
+    /// Returns false, and does nothing, if nothing else is there.
+    bool pickBehind(bool forwards);
 
     /// Ends the drag under way without a result.
     void cancel();
@@ -64,8 +71,11 @@ public:
 private:
     [[nodiscard]] bool isDragging() const;
     [[nodiscard]] bool giveToTools(const QMouseEvent& event);
-    void click(const QPointF& position);
     void leaveTools(const ViewTool* but);
+    [[nodiscard]] bool isClickedPlace(const QPointF& position) const;
+    [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position, int depth) const;
+    void click(const QMouseEvent& event);
+    void pick(const QPointF& position, int depth);
 
     QWidget& m_view;
     ViewNavigation& m_navigation;
@@ -73,6 +83,9 @@ private:
     std::vector<ViewTool*> m_tools; // the latest first
     ViewTool* m_taker = nullptr; // has the mouse
     QPointF m_pressed;
+    QPointF m_pointer;
+    QPointF m_clicked; // where the latest click was
+    int m_depth = -1; // how many hits that click has left out; -1 before the first click, and after a move
     Qt::MouseButton m_button = Qt::NoButton; // of the drag under way
     bool m_isMoving = false; // rather than clicking
     bool m_withoutMenu = false; // the latest press was for a tool

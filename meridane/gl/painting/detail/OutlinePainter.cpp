@@ -31,31 +31,44 @@ void main()
 }
 )";
 
-// Samples the mask around each pixel outside of the shapes.
+// Samples the mask around each pixel outside of the shapes: near them is the line, and around it its border.
 constexpr const char* borderFragmentSource = R"(
 uniform sampler2D mask;
 uniform vec3 color;
+uniform vec3 borderColor;
 uniform float width;
+uniform float border;
 out vec4 pictureColor;
+float sumAround(ivec2 place, float radius)
+{
+    ivec2 last = textureSize(mask, 0) - 1;
+    float sum = 0.0;
+    for (int i = 0; i < 8; ++i) {
+        float angle = 0.78539816 * float(i);
+        vec2 way = vec2(cos(angle), sin(angle)) * radius;
+        sum += texelFetch(mask, clamp(place + ivec2(round(way)), ivec2(0), last), 0).r;
+    }
+    return sum;
+}
 void main()
 {
     ivec2 place = ivec2(gl_FragCoord.xy);
     if (texelFetch(mask, place, 0).r > 0.5)
         discard;
-    ivec2 last = textureSize(mask, 0) - 1;
-    float sum = 0.0;
-    for (int ring = 1; ring <= 2; ++ring) {
-        for (int i = 0; i < 8; ++i) {
-            float angle = 0.78539816 * float(i);
-            vec2 way = vec2(cos(angle), sin(angle)) * width * float(ring) * 0.5;
-            sum += texelFetch(mask, clamp(place + ivec2(round(way)), ivec2(0), last), 0).r;
-        }
+    float sum = sumAround(place, width * 0.5) + sumAround(place, width);
+    if (sum > 0.5) {
+        pictureColor = vec4(color, min(sum * 0.5, 1.0));
+        return;
     }
-    if (sum < 0.5)
+    float outer = sumAround(place, width + border);
+    if (outer < 0.5)
         discard;
-    pictureColor = vec4(color, min(sum * 0.5, 1.0));
+    pictureColor = vec4(borderColor, 0.85);
 }
 )";
+
+/// How wide the border of an outline is, in points of the screen.
+constexpr float borderWidth = 1.25F;
 
 /// The part of the picture that shows some items, with a margin.
 NxPixelRectangle rectangleOf(PlacedScene& scene, std::span<const Id> items, const PictureFrame& frame, int margin)
@@ -167,7 +180,8 @@ void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPai
     if (!m_shapes.isUsable())
         return;
     const float width = std::max(style.outlineWidth * frame.scale, 1.0F);
-    const NxPixelRectangle part = rectangleOf(scene, items, frame, static_cast<int>(std::ceil(width)) + 2);
+    const float border = borderWidth * frame.scale;
+    const NxPixelRectangle part = rectangleOf(scene, items, frame, static_cast<int>(std::ceil(width + border)) + 2);
     {
         const FramebufferScope framebuffer(m_gl);
         if (!prepareMask(frame.width, frame.height))
@@ -183,11 +197,11 @@ void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPai
         m_gl.Uniform1f(m_pointSize, style.pointSize * frame.scale);
         painter.drawShapes(scene, items, {m_origin, m_modelMatrix}, counts);
     }
-    drawBorder(part, width, style, counts);
+    drawBorder(part, width, border, style, counts);
 }
 
 void OutlinePainter::drawBorder(
-    const NxPixelRectangle& part, float width, const NxDrawingStyle& style, NxDrawingCounts& counts)
+    const NxPixelRectangle& part, float width, float border, const NxDrawingStyle& style, NxDrawingCounts& counts)
 {
     if (!m_border.use())
         return;
@@ -197,7 +211,9 @@ void OutlinePainter::drawBorder(
     m_gl.BindTexture(GL_TEXTURE_2D, m_mask);
     m_gl.BindSampler(0, 0);
     m_gl.Uniform3fv(m_border.uniform("color"), 1, style.outlineColor.getValue());
+    m_gl.Uniform3fv(m_border.uniform("borderColor"), 1, style.outlineBorderColor.getValue());
     m_gl.Uniform1f(m_border.uniform("width"), width);
+    m_gl.Uniform1f(m_border.uniform("border"), border);
     m_border.draw();
     ++counts.drawCalls;
 }

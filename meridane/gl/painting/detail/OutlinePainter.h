@@ -8,8 +8,8 @@
 
 namespace meridane {
 
-/// Draws a line around some items, even where they are hidden: draws their shapes into a mask, and the border of the
-/// mask into the picture.
+/// Draws a line with a dark border around some items, even where they are hidden: draws their shapes into a mask, and
+/// the border of the mask into the picture.
 class OutlinePainter {
 public:
     explicit OutlinePainter(const NxGLFunctions& gl);
@@ -25,7 +25,8 @@ public:
 private:
     void prepareShapes();
     bool prepareMask(int width, int height);
-    void drawBorder(const NxPixelRectangle& part, float width, const NxDrawingStyle& style, NxDrawingCounts& counts);
+    void drawBorder(
+        const NxPixelRectangle& part, float width, float border, const NxDrawingStyle& style, NxDrawingCounts& counts);
     void deleteMask();
 
     const NxGLFunctions& m_gl;

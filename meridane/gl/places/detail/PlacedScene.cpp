@@ -292,6 +292,31 @@ std::vector<Id> PlacedScene::itemsBelow(std::span<const NxNode* const> path) con
     return items;
 }
 
+std::vector<Id> PlacedScene::itemsUsing(const NxNode* node) const
+{
+    const NodeRecord* const record = m_records.find(node);
+    if (record == nullptr || record->kind() == NodeKind::Group || record->kind() == NodeKind::Mesh)
+        return {};
+    std::vector<Id> items;
+    collect(topPlace, items);
+    std::erase_if(items, [&](Id item) {
+        const auto used = m_looks[m_table.item(item).look].records();
+        return std::find(used.begin(), used.end(), record) == used.end();
+    });
+    return items;
+}
+
+std::vector<Id> PlacedScene::itemsUsing(std::span<const NxNode* const> path) const
+{
+    std::vector<Id> items = itemsUsing(path.back());
+    if (path.size() < 2 || items.empty())
+        return items;
+    std::vector<Id> group = itemsBelow(path.first(path.size() - 1));
+    std::sort(group.begin(), group.end());
+    std::erase_if(items, [&group](Id item) { return !std::binary_search(group.begin(), group.end(), item); });
+    return items;
+}
+
 std::vector<NxNode*> PlacedScene::pathOf(Id item) const
 {
     std::vector<NxNode*> path{m_table.item(item).mesh->node()};

@@ -74,6 +74,10 @@ public:
     [[nodiscard]] std::vector<Id> itemsBelow(std::span<const NxNode* const> path) const;
     /// The nodes from a child of the root to the mesh of an item.
     [[nodiscard]] std::vector<NxNode*> pathOf(Id item) const;
+    /// The items that a material, texture or complexity applies to, none for any other node.
+    [[nodiscard]] std::vector<Id> itemsUsing(const NxNode* node) const;
+    /// The same for one instance of the node, given as the path of nodes from a child of the root.
+    [[nodiscard]] std::vector<Id> itemsUsing(std::span<const NxNode* const> path) const;
     /// The box around an item relative to `from`; a point near the item makes the box exact. Empty if the item is
     /// farther away than the largest float.
     [[nodiscard]] NxBounds boundsOf(const Item& item, const VbVec3d& from = VbVec3d()) const;

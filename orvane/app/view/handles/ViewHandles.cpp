@@ -8,6 +8,7 @@
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/handles/HandleNote.h"
 #include "orvane/app/view/handles/HandleTool.h"
+#include "orvane/app/view/handles/HoverTool.h"
 #include "orvane/app/view/handles/SymbolTool.h"
 #include "orvane/app/view/handles/TransformAboveCommand.h"
 
@@ -47,6 +48,7 @@ ViewHandles::ViewHandles(Session& session, SceneView* view, SceneTreePanel* tree
     , m_session(session)
     , m_view(view)
     , m_tree(tree)
+    , m_hoverTool(new HoverTool(view))
     , m_symbolTool(new SymbolTool(view, tree))
     , m_tool(new HandleTool(view, tree, session.services()))
     , m_note(new HandleNote(view))

@@ -10,6 +10,7 @@
 
 class HandleNote;
 class HandleTool;
+class HoverTool;
 class QAction;
 class QActionGroup;
 class QMenu;
@@ -44,6 +45,7 @@ private:
     Session& m_session;
     SceneView* m_view;
     SceneTreePanel* m_tree;
+    HoverTool* m_hoverTool; // the first, so that it is asked last
     SymbolTool* m_symbolTool;
     HandleTool* m_tool;
     HandleNote* m_note;
