@@ -375,30 +375,6 @@ private Q_SLOTS:
         }
     }
 
-    void allHitsAreInOrder()
-    {
-        std::vector<NxRef<NxTransform>> moved;
-        for (const float depth : {-2.F, 1.F, -5.F, 0.F}) {
-            moved.emplace_back(new NxTransform);
-            moved.back()->translation.setValue(VbVec3f(0, 0, depth));
-            moved.back()->addChild(makeTriangle().get());
-            m_scene->addChild(moved.back().get());
-        }
-        const NxRayPick pick({VbVec3d(0.5, 0.5, 10), VbVec3f(0, 0, -1)});
-        const std::vector<NxRayHit> hits = pick.pickAll(*m_scene, 10);
-        QCOMPARE(hits.size(), std::size_t{4});
-        const std::vector<std::size_t> order{1, 3, 0, 2};
-        for (std::size_t i = 0; i < order.size(); ++i) {
-            QCOMPARE(hits[i].path.front(), moved[order[i]].get());
-            QVERIFY(isNear(hits[i].point, VbVec3f(0.5F, 0.5F, moved[order[i]]->translation.getValue()[2])));
-        }
-        QCOMPARE(pick.pick(*m_scene)->path, hits.front().path);
-        const std::vector<NxRayHit> first = pick.pickAll(*m_scene, 2);
-        QCOMPARE(first.size(), std::size_t{2});
-        QCOMPARE(first.back().path.front(), moved[3].get());
-        QVERIFY(NxRayPick({VbVec3d(50, 0, 10), VbVec3f(0, 0, -1)}).pickAll(*m_scene, 10).empty());
-    }
-
 private:
     static NxRef<NxGroup> makeChain(int depth)
     {
