@@ -122,15 +122,15 @@ void FieldActions::showMenu(const QPoint& place)
     update();
     QMenu menu(m_view);
     menu.setObjectName(QStringLiteral("fieldMenu"));
-    menu.addActions({m_edit});
-    menu.addSeparator();
-    menu.addActions({m_copy, m_paste, m_copyPath, m_copyAssignment});
-    menu.addSeparator();
-    menu.addActions({m_copyAll, m_copyGroup, m_pasteAll});
-    menu.addSeparator();
-    menu.addActions({m_reset, m_ignore, m_favorite, m_defer});
-    menu.addSeparator();
-    menu.addActions({m_findSame});
+    const QList<QList<QAction*>> parts{{m_edit}, {m_copy, m_paste, m_copyPath, m_copyAssignment},
+        {m_copyAll, m_copyGroup, m_pasteAll}, {m_reset, m_ignore, m_favorite, m_defer}, {m_findSame}};
+    for (const QList<QAction*>& part : parts) {
+        menu.addSeparator();
+        for (QAction* const action : part) {
+            if (action->isEnabled()) // what doesn't apply to the row isn't in its menu
+                menu.addAction(action);
+        }
+    }
     menu.exec(m_view->viewport()->mapToGlobal(place));
     for (QAction* const action : m_view->actions())
         action->setEnabled(true); // the keys say why they can't

@@ -1,5 +1,6 @@
 #include "orvane/app/files/FileMenu.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/files/RecentFiles.h"
@@ -39,7 +40,7 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     m_saveAs = addAction(tr("Save &As…"), "file.saveAs", tr("Writes the scene to another file, which becomes its own"));
     m_saveAs->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     connect(m_saveAs, &QAction::triggered, &flow, &FileFlow::saveAs);
-    m_reload = addAction(tr("&Reload from Disk"), "file.reload",
+    m_reload = addAction(tr("Re&load from Disk"), "file.reload",
         tr("Makes the scene equal to its file again; undo brings your changes back"));
     m_reload->setShortcut(QKeySequence(Qt::Key_F5));
     connect(m_reload, &QAction::triggered, &flow, [&flow] { flow.reload(); });
@@ -107,6 +108,6 @@ void FileMenu::fillRecentMenu()
 void FileMenu::updateActions()
 {
     for (QAction* action : {m_save, m_saveAs, m_export, m_compare, m_close})
-        action->setEnabled(m_document.isOpen());
-    m_reload->setEnabled(!m_document.fileName().isEmpty());
+        orvane::setReason(*action, m_document.isOpen() ? QString() : tr("No scene is open."));
+    orvane::setReason(*m_reload, m_document.fileName().isEmpty() ? tr("The scene has no file yet.") : QString());
 }

@@ -1,5 +1,6 @@
 #include "orvane/app/history/HistoryPanel.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/history/HistoryModel.h"
 #include "orvane/app/history/PutBack.h"
@@ -163,7 +164,10 @@ int HistoryPanel::selectedPosition() const
 void HistoryPanel::updateActions()
 {
     const int position = selectedPosition();
-    m_goTo->setEnabled(position >= 0 && position != m_services.steps().position());
+    orvane::setReason(*m_goTo,
+        position < 0                                    ? tr("Select a step of the history first.")
+            : position == m_services.steps().position() ? tr("The scene is in this state.")
+                                                        : QString());
     const QString reason = orvane::whyNotPutBack(m_services.steps(), position - 1);
     m_putBack->setEnabled(reason.isEmpty());
     m_putBack->setToolTip(reason.isEmpty()

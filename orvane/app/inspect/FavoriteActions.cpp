@@ -1,5 +1,6 @@
 #include "orvane/app/inspect/FavoriteActions.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/fields/values/FieldText.h"
 #include "orvane/app/inspect/FavoriteDelegate.h"
@@ -58,7 +59,7 @@ void FavoriteActions::toggle()
 
 void FavoriteActions::update()
 {
-    m_toggle->setEnabled(m_tree->selected().isValid());
+    orvane::setReason(*m_toggle, m_tree->selected().isValid() ? QString() : tr("Select a node first."));
     m_toggle->setChecked(m_favorites.contains(m_tree->selectedNode()));
     m_tree->view()->viewport()->update();
 }

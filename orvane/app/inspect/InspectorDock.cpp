@@ -77,7 +77,9 @@ bool InspectorDock::event(QEvent* event)
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return QDockWidget::event(event);
     const auto* const key = static_cast<QKeyEvent*>(event);
-    if (QKeySequence(key->keyCombination()) != LockAction::keys())
+    // The user may have given the lock of the first inspector another key.
+    const auto* const first = parentWidget()->findChild<QAction*>(QStringLiteral("inspector.lock"));
+    if (QKeySequence(key->keyCombination()) != (first != nullptr ? first->shortcut() : LockAction::keys()))
         return QDockWidget::event(event);
     if (event->type() == QEvent::KeyPress && m_lockAction->isEnabled())
         m_lockAction->toggle();

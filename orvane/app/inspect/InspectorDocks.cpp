@@ -1,5 +1,6 @@
 #include "orvane/app/inspect/InspectorDocks.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/inspect/InspectorDock.h"
 #include "orvane/app/inspect/NodeLock.h"
 #include "orvane/app/scene/Session.h"
@@ -84,7 +85,8 @@ InspectorDock* InspectorDocks::add(int number)
         m_window->splitDockWidget(fields, dock, fields->width() >= enough ? Qt::Horizontal : Qt::Vertical);
     }
     dock->show();
-    m_newAction->setEnabled(m_docks.size() < mostDocks);
+    orvane::setReason(*m_newAction,
+        m_docks.size() < mostDocks ? QString() : tr("There are %1 inspectors. Close one first.").arg(mostDocks));
     Q_EMIT added(dock);
     return dock;
 }
@@ -93,7 +95,7 @@ void InspectorDocks::forget(const QObject* dock, int number)
 {
     // At this point of its destruction the object is only a QObject.
     m_docks.removeIf([dock](const InspectorDock* other) { return static_cast<const void*>(other) == dock; });
-    m_newAction->setEnabled(true);
+    orvane::setReason(*m_newAction, {});
     store();
     Q_EMIT removed(number);
 }

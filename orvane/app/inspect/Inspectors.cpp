@@ -52,7 +52,7 @@ Inspectors::Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* field
     connect(&session.services(), &OrvServices::selectedNodeChanged, m_lockAction, &LockAction::update);
     m_kept->add(1, *m_lock);
     connect(m_lock, &NodeLock::lost, this, &Inspectors::showMessage);
-    window->statusBar()->addPermanentWidget(new LockStatus(*m_lock, m_lockAction->shortcut(), window));
+    window->statusBar()->addPermanentWidget(new LockStatus(*m_lock, m_lockAction, window));
 }
 
 Inspectors::~Inspectors() = default;

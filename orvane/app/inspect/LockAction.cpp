@@ -16,7 +16,7 @@ LockAction::LockAction(NodeLock& lock, ShownPath shownPath, QObject* parent)
     , m_shownPath(std::move(shownPath))
 {
     setCheckable(true);
-    setText(tr("&Lock Inspector"));
+    setText(tr("Lock Inspec&tor"));
     setStatusTip(tr("Keeps fields and editors on this node while you browse on"));
     connect(this, &QAction::toggled, this, &LockAction::setLocked);
     connect(&lock, &NodeLock::changed, this, &LockAction::update);
@@ -34,7 +34,8 @@ void LockAction::update()
     setIcon(isOn ? orvane::closedPadlock() : orvane::openPadlock());
     setToolTip(
         orvane::plainToolTip(isOn ? tr("Locked on %1. Click to follow the selection again.").arg(m_lock.pathText())
-                                  : tr("Lock: stay on this node while you browse on.")));
+                : isEnabled()     ? tr("Lock: stay on this node while you browse on.")
+                                  : tr("Select a node first, to lock the inspector on it.")));
 }
 
 void LockAction::addButtonTo(QBoxLayout* tools)

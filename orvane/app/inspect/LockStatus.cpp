@@ -5,12 +5,13 @@
 #include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/inspect/NodeLock.h"
 
+#include <QAction>
 #include <QKeySequence>
 
-LockStatus::LockStatus(NodeLock& lock, const QKeySequence& keys, QWidget* parent)
+LockStatus::LockStatus(NodeLock& lock, const QAction* action, QWidget* parent)
     : QToolButton(parent)
     , m_lock(lock)
-    , m_keys(keys.toString(QKeySequence::NativeText))
+    , m_action(action)
 {
     setObjectName(QStringLiteral("lockStatus"));
     setAutoRaise(true);
@@ -18,6 +19,7 @@ LockStatus::LockStatus(NodeLock& lock, const QKeySequence& keys, QWidget* parent
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(this, &QToolButton::clicked, &lock, &NodeLock::unlock);
     connect(&lock, &NodeLock::changed, this, &LockStatus::update);
+    connect(action, &QAction::changed, this, &LockStatus::update);
     update();
 }
 
@@ -32,7 +34,8 @@ void LockStatus::update()
     const QString text = tr("Locked on %1").arg(name.isEmpty() ? QString::fromUtf8(node.getClassName()) : name);
     setText(orvane::menuText(text));
     setAccessibleName(text);
+    const QString keys = m_action->shortcut().toString(QKeySequence::NativeText);
+    const QString way = keys.isEmpty() ? tr("Click here") : tr("Click here or press %1").arg(keys);
     setToolTip(orvane::plainToolTip(
-        tr("Fields and editors stay on %1. Click here or press %2, and they follow the selection again.")
-            .arg(m_lock.pathText(), m_keys)));
+        tr("Fields and editors stay on %1. %2, and they follow the selection again.").arg(m_lock.pathText(), way)));
 }

@@ -1,5 +1,6 @@
 #include "orvane/app/inspect/NodeMenu.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldClipboard.h"
 #include "orvane/app/fields/values/FieldText.h"
@@ -11,6 +12,7 @@
 #include "orvane/app/view/SceneView.h"
 
 #include "meridane/scene/file/NxScenePath.h"
+#include "meridane/scene/nodes/NxCamera.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -19,6 +21,15 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QTreeView>
+
+namespace {
+
+bool isAboutNodes(const QAction& action)
+{
+    return action.objectName().startsWith(QStringLiteral("node."));
+}
+
+} // namespace
 
 NodeMenu::NodeMenu(Session& session, SceneTreePanel* tree, SceneView* view, Inspectors& inspectors, CameraMenu* cameras,
     const QList<QAction*>& editActions)
@@ -30,15 +41,57 @@ NodeMenu::NodeMenu(Session& session, SceneTreePanel* tree, SceneView* view, Insp
     , m_cameras(cameras)
     , m_editActions(editActions)
     , m_writer(session.services())
+    , m_copyPath(add("node.copyPath", tr("Copy &Path"), tr("Copies the path of the selected node in the scene"),
+          Qt::CTRL | Qt::SHIFT | Qt::Key_C, &NodeMenu::copyPath))
+    , m_copyFields(add("node.copyFields", tr("Copy All F&ields"), tr("Copies the values of all fields of the node"),
+          Qt::CTRL | Qt::ALT | Qt::Key_C, &NodeMenu::copyFields))
+    , m_pasteFields(add("node.pasteFields", tr("Pa&ste All Fields"),
+          tr("Writes the values of the clipboard to the fields of the node"), Qt::CTRL | Qt::ALT | Qt::Key_V,
+          &NodeMenu::pasteFields))
+    , m_lock(add("inspector.lockOnNode", tr("&Lock Inspector on This"),
+          tr("Keeps fields and editors on the node that is selected in the tree"), {}, &NodeMenu::lock))
+    , m_lookThrough(add("node.lookThrough", tr("Loo&k Through Camera"),
+          tr("Shows in the view what the selected camera sees"), {}, &NodeMenu::lookThrough))
 {
     // A click comes to the viewport, a key to the view.
     tree->view()->installEventFilter(this);
     tree->view()->viewport()->installEventFilter(this);
     connect(view, &SceneView::menuRequested, this,
         [this](const QPoint& place) { show(place, m_tree->selected().isValid()); });
+    connect(tree, &SceneTreePanel::selectionChanged, this, &NodeMenu::update);
+    update();
 }
 
 NodeMenu::~NodeMenu() = default;
+
+QAction* NodeMenu::add(
+    const char* name, const QString& text, const QString& statusTip, const QKeySequence& key, void (NodeMenu::*run)())
+{
+    auto* const action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setStatusTip(statusTip);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, &QAction::triggered, this, run);
+    m_tree->view()->addAction(action);
+    m_view->addAction(action);
+    return action;
+}
+
+void NodeMenu::update()
+{
+    const NxNode* const node = m_tree->selectedNode();
+    const QString reason = node == nullptr ? tr("Select a node first.") : QString();
+    for (QAction* const action : {m_copyPath, m_copyFields, m_pasteFields, m_lock})
+        orvane::setReason(*action, reason);
+    const bool isCamera = dynamic_cast<const NxCamera*>(node) != nullptr;
+    orvane::setReason(*m_lookThrough, isCamera ? QString() : tr("Select a camera first."));
+}
+
+QAction* NodeMenu::viewAction(const char* name) const
+{
+    return m_view->findChild<QAction*>(QLatin1String(name));
+}
 
 bool NodeMenu::eventFilter(QObject* object, QEvent* event)
 {
@@ -71,14 +124,14 @@ void NodeMenu::show(const QPoint& globalPlace, bool isOnNode)
     menu->setObjectName(QStringLiteral("nodeMenu"));
     if (isOnNode) {
         addNodeActions(*menu);
-        menu->addAction(tr("Frame &All"), m_view, &SceneView::frameAll);
     }
     if (!isOnNode) {
         menu->addMenu(m_cameras->update());
         // What else the view can do, with its keys.
         menu->addSeparator();
         for (QAction* const action : m_view->actions()) {
-            if (!m_editActions.contains(action))
+            // What is about nodes alone needs one.
+            if (!m_editActions.contains(action) && (action->isEnabled() || !isAboutNodes(*action)))
                 menu->addAction(action);
         }
     }
@@ -90,14 +143,42 @@ void NodeMenu::addNodeActions(QMenu& menu)
     menu.addActions(m_editActions);
     menu.addAction(m_inspectors.favoriteAction());
     menu.addSeparator();
-    menu.addAction(tr("Copy &Path"), this, &NodeMenu::copyPath);
-    menu.addAction(tr("&Copy All Fields"), this, &NodeMenu::copyFields);
-    menu.addAction(tr("Paste All &Fields"), this, &NodeMenu::pasteFields);
+    menu.addActions({m_copyPath, m_copyFields, m_pasteFields});
     menu.addSeparator();
-    menu.addAction(tr("&Lock Inspector on This"), &m_inspectors, &Inspectors::lockOnSelected);
-    menu.addAction(m_inspectors.newAction());
+    menu.addActions({m_lock, m_inspectors.newAction()});
     menu.addSeparator();
-    menu.addAction(tr("Frame &Selection"), m_view, &SceneView::frameSelection);
+    if (m_lookThrough->isEnabled())
+        menu.addAction(m_lookThrough);
+    for (const char* const name : {"view.frameSelection", "view.frameAll"}) {
+        if (QAction* const action = viewAction(name))
+            menu.addAction(action);
+    }
+    addOthers(menu);
+}
+
+/// What other parts of the window can do with the selected nodes.
+void NodeMenu::addOthers(QMenu& menu)
+{
+    const QList<QAction*> present = menu.actions();
+    menu.addSeparator();
+    for (const QWidget* const widget : {static_cast<QWidget*>(m_tree->view()), static_cast<QWidget*>(m_view)}) {
+        for (QAction* const action : widget->actions()) {
+            const bool isThere = present.contains(action) || menu.actions().contains(action);
+            if (!isThere && isAboutNodes(*action) && action->isEnabled() && action->isVisible())
+                menu.addAction(action);
+        }
+    }
+}
+
+void NodeMenu::lock()
+{
+    m_inspectors.lockOnSelected();
+}
+
+void NodeMenu::lookThrough()
+{
+    if (const std::vector<NxNode*> path = m_tree->model()->path(m_tree->selected()); !path.empty())
+        m_cameras->follow(path);
 }
 
 void NodeMenu::copyPath()

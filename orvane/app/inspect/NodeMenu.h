@@ -12,6 +12,7 @@ class CameraMenu;
 class Inspectors;
 class NxNode;
 class QAction;
+class QKeySequence;
 class QMenu;
 class QPoint;
 class SceneTreePanel;
@@ -33,8 +34,15 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    QAction* add(const char* name, const QString& text, const QString& statusTip, const QKeySequence& key,
+        void (NodeMenu::*run)());
+    void update();
     void show(const QPoint& globalPlace, bool isOnNode);
     void addNodeActions(QMenu& menu);
+    void addOthers(QMenu& menu);
+    [[nodiscard]] QAction* viewAction(const char* name) const;
+    void lock();
+    void lookThrough();
     void copyPath();
     void copyFields();
     void pasteFields();
@@ -46,4 +54,9 @@ private:
     CameraMenu* m_cameras;
     QList<QAction*> m_editActions;
     FieldWriter m_writer;
+    QAction* m_copyPath;
+    QAction* m_copyFields;
+    QAction* m_pasteFields;
+    QAction* m_lock;
+    QAction* m_lookThrough;
 };

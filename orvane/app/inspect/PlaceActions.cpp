@@ -1,5 +1,6 @@
 #include "orvane/app/inspect/PlaceActions.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/inspect/InspectIcons.h"
@@ -42,7 +43,7 @@ PlaceActions::PlaceActions(Session& session, SceneTreePanel* tree, SelectionLink
     , m_tree(tree)
     , m_link(link)
     , m_window(window)
-    , m_back(makeWay(Direction::Back, tr("&Back"), tr("Selects the node that was selected before")))
+    , m_back(makeWay(Direction::Back, tr("Bac&k"), tr("Selects the node that was selected before")))
     , m_forward(makeWay(Direction::Forward, tr("&Forward"), tr("Selects the node that Back has left")))
 {
     m_back.action->setObjectName(QStringLiteral("selection.back"));
@@ -114,8 +115,12 @@ void PlaceActions::noteEdit()
 void PlaceActions::update()
 {
     const NxGroup* const scene = m_session.document().scene();
-    for (const Way& way : {m_back, m_forward})
-        way.action->setEnabled(scene != nullptr && !m_history.places(way.direction, *scene, 1).empty());
+    for (const Way& way : {m_back, m_forward}) {
+        const bool hasPlaces = scene != nullptr && !m_history.places(way.direction, *scene, 1).empty();
+        const QString reason
+            = way.direction == Direction::Back ? tr("Nothing else was selected before.") : tr("You haven't gone back.");
+        orvane::setReason(*way.action, hasPlaces ? QString() : reason);
+    }
 }
 
 void PlaceActions::listPlaces(const Way& way)

@@ -1,5 +1,6 @@
 #include "orvane/app/lists/ListActions.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/lists/ListClipboard.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/lists/rows/ListEdits.h"
@@ -90,11 +91,14 @@ void ListActions::update()
 {
     const bool hasList = m_model.list() != nullptr;
     const bool hasRows = m_view->currentIndex().isValid() || m_view->selectionModel()->hasSelection();
+    const QString noList = hasList ? QString() : tr("No list is shown.");
+    const QString noRows = hasRows ? QString() : tr("Select rows of a list first.");
     for (QAction* const action : {m_insert, m_paste, m_resize})
-        action->setEnabled(hasList);
+        orvane::setReason(*action, noList);
     for (QAction* const action : {m_duplicate, m_remove, m_moveUp, m_moveDown, m_cut, m_copy})
-        action->setEnabled(hasRows);
-    m_fillLinear->setEnabled(m_view->selectedCount() > 2 && m_model.columns().kind() == ListColumns::Kind::Number);
+        orvane::setReason(*action, noRows);
+    const bool canFill = m_view->selectedCount() > 2 && m_model.columns().kind() == ListColumns::Kind::Number;
+    orvane::setReason(*m_fillLinear, canFill ? QString() : tr("Select three rows or more of a list of numbers first."));
 }
 
 void ListActions::show(const orvane::Result<>& result)

@@ -1,5 +1,6 @@
 #include "orvane/app/problems/ProblemPanel.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/compare/CopyJob.h"
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/look/Look.h"
@@ -59,6 +60,7 @@ ProblemPanel::ProblemPanel(LiveCheck& check, OrvServices& services, JobBar& jobB
     , m_model(new ProblemModel(this))
     , m_view(new RowTable(this))
     , m_filter(new QLineEdit(this))
+    , m_goTo(new QAction(tr("&Go to Field"), this))
     , m_mend(new QAction(tr("&Mend"), this))
     , m_mendKind(new QAction(tr("Mend All of This &Kind"), this))
     , m_again(new QAction(tr("Check A&gain"), this))
@@ -154,7 +156,13 @@ void ProblemPanel::buildView()
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     constexpr int leastCharacters = 16;
     m_view->setColumns({{leastCharacters, 0.52}, {leastCharacters, 0.3}, {}});
-    m_view->addActions({m_mend, m_mendKind});
+    m_goTo->setObjectName(QStringLiteral("problems.goTo"));
+    m_goTo->setStatusTip(tr("Selects the node and the field of the selected problem"));
+    connect(m_goTo, &QAction::triggered, this, [this] {
+        if (const std::vector<int> rows = m_view->selectedRows(); !rows.empty())
+            choose(rows.front());
+    });
+    m_view->addActions({m_goTo, m_mend, m_mendKind});
     m_view->addCopyActions(QStringLiteral("problems"));
     connect(m_view, &RowTable::copyRequested, this, &ProblemPanel::copy);
     connect(m_view, &RowTable::rowChosen, this, &ProblemPanel::choose);
@@ -198,6 +206,8 @@ void ProblemPanel::update()
         m_text->setText(stateText());
     m_pages->setCurrentIndex(isEmpty ? 0 : 1);
     m_again->setEnabled(check != nullptr);
+    m_again->setToolTip(
+        check != nullptr ? tr("Checks the whole scene again, and looks at its files again") : tr("No scene is open."));
     updateActions();
     Q_EMIT countsChanged();
 }
@@ -214,15 +224,17 @@ void ProblemPanel::updateActions()
         : !canMend                      ? tr("There is no safe mend for this problem.")
         : !m_check.isSettled()          ? tr("The scene is still being checked.")
                                         : QString();
+    orvane::setReason(*m_goTo, rows.empty() ? tr("Select a problem first.") : QString());
     m_mend->setEnabled(reason.isEmpty());
     m_mend->setToolTip(!reason.isEmpty() ? reason
             : rows.size() == 1           ? orvane::mendText(*first)
                                          : tr("Mends the selected problems as one step"));
     const bool hasMend = first != nullptr && !first->about().mend.empty();
     m_mendKind->setEnabled(hasMend && m_check.isSettled());
-    m_mendKind->setToolTip(!hasMend ? reason
-                                    : tr("Mends all problems of the scene with the identifier %1 as one step")
-                                          .arg(orvane::identifierOf(*first)));
+    m_mendKind->setToolTip(!m_mendKind->isEnabled()
+            ? reason
+            : tr("Mends all problems of the scene with the identifier %1 as one step")
+                  .arg(orvane::identifierOf(*first)));
 }
 
 void ProblemPanel::updateIcons()

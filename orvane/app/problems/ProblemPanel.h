@@ -68,6 +68,7 @@ private:
     RowTable* m_view;
     std::array<QToolButton*, 3> m_severities{};
     QLineEdit* m_filter;
+    QAction* m_goTo;
     QAction* m_mend;
     QAction* m_mendKind;
     QAction* m_again;

@@ -56,6 +56,11 @@ QMenu* CameraMenu::update()
     return m_menu;
 }
 
+void CameraMenu::follow(const std::vector<NxNode*>& camera)
+{
+    m_follower.follow(camera);
+}
+
 void CameraMenu::choose(int index)
 {
     // The scene may have changed since the menu was made.

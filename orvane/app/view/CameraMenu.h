@@ -7,6 +7,7 @@
 #include <vector>
 
 class NxGroup;
+class NxNode;
 class QMenu;
 class SceneDocument;
 class SceneView;
@@ -24,6 +25,8 @@ public:
 
     /// The menu, which lists the cameras that there are now.
     [[nodiscard]] QMenu* update();
+    /// Looks through the camera that the path leads to, and follows it.
+    void follow(const std::vector<NxNode*>& camera);
 
 private:
     void choose(int index);

@@ -1,5 +1,6 @@
 #include "orvane/app/window/EditMenu.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/DrawnIcon.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
@@ -135,12 +136,13 @@ void EditMenu::updateActions()
 {
     const OrvServices& services = m_session.services();
     const auto update = [](QAction* action, bool isEnabled, const QString& text, const QString& step) {
-        action->setEnabled(isEnabled);
+        orvane::setReason(*action, isEnabled ? QString() : tr("There is no such step."));
         action->setText(step.isEmpty() ? text : text + u' ' + orvane::menuText(step));
     };
     update(m_undo, services.canUndo(), tr("&Undo"), services.undoText());
     update(m_redo, services.canRedo(), tr("&Redo"), services.redoText());
     const bool node = m_tree->selected().isValid();
-    m_rename->setEnabled(node);
-    m_delete->setEnabled(node);
+    const QString reason = node ? QString() : tr("Select a node first.");
+    orvane::setReason(*m_rename, reason);
+    orvane::setReason(*m_delete, reason);
 }

@@ -41,34 +41,15 @@ QString tableRow(const QString& left, const QString& right)
         .arg(left.toHtmlEscaped(), right.toHtmlEscaped());
 }
 
-/// What the keys of a menu and its submenus do.
-QString keyRows(const QMenu* menu)
-{
-    QString rows;
-    for (const QAction* action : menu->actions()) {
-        if (action->menu() != nullptr)
-            rows += keyRows(action->menu());
-        const QString keys = QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText);
-        QString text = action->text();
-        if (!keys.isEmpty())
-            rows += tableRow(text.remove(u'&').remove(QChar(0x2026)), keys);
-    }
-    return rows;
-}
-
 } // namespace
 
-HelpMenu::HelpMenu(QMainWindow* window, const WindowShell& shell)
+HelpMenu::HelpMenu(QMainWindow* window, const WindowShell& shell, QAction* keysAction)
     : QObject(window)
     , m_window(window)
     , m_menu(window->menuBar()->addMenu(tr("&Help")))
     , m_shell(shell)
 {
-    QAction* keys = m_menu->addAction(tr("&Keys"));
-    keys->setObjectName(QStringLiteral("help.keys"));
-    keys->setShortcut(QKeySequence::HelpContents);
-    keys->setStatusTip(tr("Shows the keys of all actions"));
-    connect(keys, &QAction::triggered, this, &HelpMenu::showKeys);
+    m_menu->addAction(keysAction);
     QAction* about = m_menu->addAction(tr("&About Orvane"));
     about->setObjectName(QStringLiteral("help.about"));
     about->setMenuRole(QAction::AboutRole);
@@ -76,29 +57,9 @@ HelpMenu::HelpMenu(QMainWindow* window, const WindowShell& shell)
     connect(about, &QAction::triggered, this, &HelpMenu::showAbout);
 }
 
-void HelpMenu::showKeys()
-{
-    showText(m_window, tr("Keys"), keysText(), "keysDialog");
-}
-
 void HelpMenu::showAbout()
 {
     showText(m_window, tr("About Orvane"), aboutText(), "aboutDialog");
-}
-
-QString HelpMenu::keysText() const
-{
-    QString rows;
-    for (const QAction* menu : m_window->menuBar()->actions())
-        rows += keyRows(menu->menu());
-    rows += tableRow(tr("Go round the scene in the view"), tr("Arrow keys"));
-    rows += tableRow(tr("Move the picture of the view"), tr("Shift and arrow keys"));
-    rows += tableRow(tr("Come closer in the view, go back"), tr("+, -"));
-    rows += tableRow(tr("Select nothing in the view"), tr("Esc"));
-    rows += tableRow(tr("Unfold and fold a node"), tr("Right, Left"));
-    rows += tableRow(tr("Show the editor of a field"), tr("Return"));
-    rows += tableRow(tr("From one part of the window to the next"), tr("Tab"));
-    return QStringLiteral("<table>%1</table>").arg(rows);
 }
 
 QString HelpMenu::aboutText() const

@@ -2,23 +2,23 @@
 
 #include <QObject>
 
+class QAction;
 class QMainWindow;
 class QMenu;
 class WindowShell;
 
-/// The Help menu: a list of keys, and the program's version with its running extensions.
+/// The Help menu: the page of keys, and the program's version with its running extensions.
 class HelpMenu : public QObject {
     Q_OBJECT
 
 public:
-    HelpMenu(QMainWindow* window, const WindowShell& shell);
+    /// The action shows the page of keys.
+    HelpMenu(QMainWindow* window, const WindowShell& shell, QAction* keysAction);
 
     [[nodiscard]] QMenu& menu() const noexcept { return *m_menu; }
 
 private:
-    void showKeys();
     void showAbout();
-    [[nodiscard]] QString keysText() const;
     [[nodiscard]] QString aboutText() const;
 
     QMainWindow* m_window;

@@ -1,5 +1,7 @@
 #include "orvane/app/window/MainWindow.h"
 
+#include "orvane/app/actions/WindowActions.h"
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/DraggedFile.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
@@ -41,6 +43,7 @@
 #include "orvane/app/window/EditMenu.h"
 #include "orvane/app/window/HelpMenu.h"
 #include "orvane/app/window/HistoryDock.h"
+#include "orvane/app/window/KeptColumns.h"
 #include "orvane/app/window/ListDock.h"
 #include "orvane/app/window/ProblemsDock.h"
 #include "orvane/app/window/ReloadedTree.h"
@@ -236,7 +239,9 @@ void MainWindow::buildMenus()
     auto* cameras = new CameraMenu(m_view, document());
     auto* viewMenu = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), cameras);
     new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodeActions());
-    const auto* const help = new HelpMenu(this, *m_shell);
+    const auto* actions
+        = new WindowActions(this, m_session, {m_tree, m_fields, *m_inspectors, *m_files, *m_recent, *cameras});
+    const auto* const help = new HelpMenu(this, *m_shell, actions->keysAction());
     new PluginActions(m_session.pluginLoader(), *m_messages, help->menu(), this);
     new EditorManners(this, m_session.services(), m_fields);
     connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);
@@ -247,10 +252,13 @@ void MainWindow::buildMenus()
     toolBar->addSeparator();
     toolBar->addActions(editMenu->toolBarActions());
     m_inspectors->addToolBar();
-    auto* forget = new QAction(tr("Forget Allowed &Image Folders"), this);
+    auto* forget = new QAction(tr("Forget Allowed Image Folde&rs"), this);
     forget->setObjectName(QStringLiteral("file.forgetImageFolders"));
     forget->setStatusTip(tr("Takes back that scenes may refer to images in folders outside their own"));
-    const auto enable = [this, forget] { forget->setEnabled(!m_imageFolders->allowedFolders().isEmpty()); };
+    const auto enable = [this, forget] {
+        orvane::setReason(
+            *forget, m_imageFolders->allowedFolders().isEmpty() ? tr("No folder has been allowed.") : QString());
+    };
     enable();
     connect(m_imageFolders, &ImageFolderQuestion::changed, forget, enable);
     connect(forget, &QAction::triggered, m_imageFolders, &ImageFolderQuestion::forgetFolders);
@@ -260,6 +268,7 @@ void MainWindow::buildMenus()
         {(new DisplayMenu(m_view, m_session))->menuAction(), (new MeasureTool(m_view, m_session))->action()});
     viewMenu->append({forget});
     viewMenu->update();
+    new KeptColumns(this, m_session.settings());
 }
 
 void MainWindow::connectDocument()

@@ -290,7 +290,9 @@ private Q_SLOTS:
         QTest::mouseClick(view()->viewport(), Qt::RightButton, {}, place);
         QContextMenuEvent event(QContextMenuEvent::Mouse, place, view()->viewport()->mapToGlobal(place));
         QApplication::sendEvent(view()->viewport(), &event);
-        QVERIFY2(entries.contains(u"Reset to Default (off)"_s), qPrintable(entries.join(u", "_s)));
+        // What doesn't apply, such as a reset of a field that has its default, isn't there.
+        QVERIFY2(entries.filter(u"Reset"_s).isEmpty(), qPrintable(entries.join(u", "_s)));
+        QVERIFY2(entries.filter(u"(off)"_s).isEmpty(), qPrintable(entries.join(u", "_s)));
         QVERIFY(entries.contains(u"Copy as --set Argument"_s));
         QVERIFY(field("intensity").isIgnored());
     }

@@ -174,6 +174,33 @@ private Q_SLOTS:
         QVERIFY(!services().canUndo());
     }
 
+    void aCameraIsLookedThrough()
+    {
+        writeFile(
+            m_robot, QByteArray(AppScenes::robotText) + "PerspectiveCamera \"front\" {\n  position = 1 2 30\n}\n");
+        QCOMPARE(open(m_robot), QString());
+        rightClickTree(placeOf("/sun"));
+        QVERIFY(!texts().contains(QStringLiteral("Look Through Camera")));
+        closeMenu();
+        rightClickTree(placeOf("/front"));
+        choose("Look Through Camera");
+        QTRY_COMPARE(m_window->findChild<SceneView*>()->viewpoint().position[2], 30.0);
+    }
+
+    void theKeysOfTheMenuWorkInTheTree()
+    {
+        clickRow(tree(), tree()->indexAt(placeOf("/robot/hand")));
+        QTest::keyClick(tree(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(copied(), QStringLiteral("/robot/hand"));
+    }
+
+    void shiftF10OpensTheMenu()
+    {
+        clickRow(tree(), tree()->indexAt(placeOf("/sun")));
+        QTest::keyClick(tree(), Qt::Key_F10, Qt::ShiftModifier);
+        QVERIFY(texts().contains(QStringLiteral("Copy Path")));
+    }
+
     void nodesAreDeletedAndRenamed()
     {
         rightClickTree(placeOf("/robot/arm"));

@@ -1,0 +1,122 @@
+#include "orvane/app/actions/WindowActions.h"
+
+#include "orvane/app/actions/KeyTips.h"
+#include "orvane/app/actions/KeysDialog.h"
+#include "orvane/app/actions/PickerPopup.h"
+#include "orvane/app/fields/FieldPanel.h"
+#include "orvane/app/fields/FieldTableView.h"
+#include "orvane/app/files/FileFlow.h"
+#include "orvane/app/inspect/Inspectors.h"
+#include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/scene/Session.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
+#include "orvane/app/view/CameraMenu.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTreeView>
+
+namespace {
+
+/// Shows the dock that a widget is in, which may be closed or behind another.
+void reveal(QWidget* widget)
+{
+    for (QWidget* above = widget; above != nullptr; above = above->parentWidget()) {
+        if (auto* const dock = qobject_cast<QDockWidget*>(above)) {
+            dock->show();
+            dock->raise();
+        }
+    }
+    widget->setFocus();
+}
+
+} // namespace
+
+WindowActions::WindowActions(QMainWindow* window, Session& session, const Parts& parts)
+    : QObject(window)
+    , m_window(window)
+    , m_parts(parts)
+    , m_actions(window, session.settings())
+    , m_places(session.services(), session.document(), parts.recent, session.settings(), window)
+    , m_showKeys(add("help.keys", tr("&Keyboard Shortcuts…"), tr("Shows and changes the keys of all actions"),
+          {QKeySequence(QKeySequence::HelpContents), QKeySequence(Qt::CTRL | Qt::Key_K, Qt::CTRL | Qt::Key_S)}))
+    , m_keys(window, session.settings())
+{
+    QAction* const places = add("go.to", tr("&Go To…"),
+        tr("Goes to a node, field, camera or file by some letters of it"), {QKeySequence(Qt::CTRL | Qt::Key_P)});
+    QAction* const palette = add("go.palette", tr("&Command Palette…"), tr("Runs any action by some letters of it"),
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P)});
+    QMenu* const menu = window->menuBar()->addMenu(tr("&Go"));
+    menu->setObjectName(QStringLiteral("goMenu"));
+    menu->addActions({places, palette});
+    connect(places, &QAction::triggered, this, [this] { open(m_places); });
+    connect(palette, &QAction::triggered, this, [this] { open(m_actions); });
+    connect(m_showKeys, &QAction::triggered, this, &WindowActions::showKeys);
+    connect(&m_places, &GoToSource::wentTo, this, &WindowActions::goTo);
+    connect(&m_places, &GoToSource::lookedThrough, &parts.cameras, &CameraMenu::follow);
+    connect(&m_places, &GoToSource::opened, &parts.files,
+        [this](const QString& fileName) { m_parts.files.open(fileName); });
+    QAction* const menuOfSelection = add("window.contextMenu", tr("Context Menu"),
+        tr("Opens the menu of what is selected in the part of the window with the focus"),
+        {QKeySequence(Qt::SHIFT | Qt::Key_F10)});
+    window->addAction(menuOfSelection);
+    connect(menuOfSelection, &QAction::triggered, this, &WindowActions::openContextMenu);
+    new KeyTips(this);
+}
+
+WindowActions::~WindowActions() = default;
+
+QAction* WindowActions::add(
+    const char* name, const QString& text, const QString& statusTip, const QList<QKeySequence>& keys)
+{
+    auto* const action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setStatusTip(statusTip);
+    action->setShortcuts(keys);
+    return action;
+}
+
+void WindowActions::open(PickerSource& source)
+{
+    if (m_popup == nullptr)
+        m_popup = new PickerPopup(m_window);
+    m_popup->open(source);
+}
+
+void WindowActions::goTo(const std::vector<NxNode*>& path, NxField* field)
+{
+    const QModelIndex index = m_parts.tree->model()->indexOfPath(path);
+    if (!index.isValid())
+        return;
+    m_parts.inspectors.link().browse(index, field);
+    reveal(field != nullptr ? static_cast<QWidget*>(m_parts.fields->view()) : m_parts.tree->view());
+}
+
+/// As the menu key does, which some keyboards don't have.
+void WindowActions::openContextMenu()
+{
+    QWidget* const focus = m_window->focusWidget();
+    if (focus == nullptr)
+        return;
+    QPoint place = focus->rect().center();
+    if (const auto* const view = qobject_cast<QAbstractItemView*>(focus)) {
+        const QRect row = view->visualRect(view->currentIndex());
+        place = (row.isValid() ? row : view->viewport()->rect()).center();
+    }
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, place, focus->mapToGlobal(place));
+    QCoreApplication::sendEvent(focus, &event);
+}
+
+void WindowActions::showKeys()
+{
+    auto* const dialog = new KeysDialog(m_window, m_keys);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
