@@ -5,6 +5,7 @@
 #include "meridane/scene/nodes/NxNode.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace meridane {
 
@@ -23,6 +24,7 @@ bool NodeIndex::extend(std::size_t count)
         if (m_levels.empty())
             return false;
         Level& level = m_levels.back();
+        readAhead(level);
         const NxNode& node = *level.children[level.next++];
         const std::optional<std::size_t> number = m_journal->number(node);
         if (!number)
@@ -41,21 +43,39 @@ bool NodeIndex::extend(std::size_t count)
     return true;
 }
 
+/// Names are anywhere in memory. To ask for several at once takes little longer than to wait for one.
+void NodeIndex::readAhead(const Level& level)
+{
+    constexpr std::size_t atOnce = 16;
+    if (level.next % atOnce != 0)
+        return;
+    for (const NxNode* const node :
+        level.children.subspan(level.next).first(std::min(atOnce, level.children.size() - level.next)))
+        __builtin_prefetch(node->getName().view().data());
+}
+
 NodeIndex::Entry NodeIndex::append(const NxNode& node, Entry parent)
 {
     const std::size_t place = m_size % chunkSize;
-    if (place == 0)
-        m_chunks.push_back(std::make_unique<Chunk>());
+    if (place == 0) {
+        auto made = std::make_unique_for_overwrite<Chunk>();
+        if (!m_chunks.empty()) // names are about as long as those before
+            made->names.reserve(m_chunks.back()->names.size() + chunkSize);
+        m_chunks.push_back(std::move(made));
+    }
     Chunk& chunk = *m_chunks.back();
     foldText(node.getName().view(), m_folded);
     chunk.names += m_folded;
-    chunk.items[place] = {&node, parent, node.getTypeId(), chunk.names.size()};
+    chunk.nodes[place] = &node;
+    chunk.parents[place] = parent;
+    chunk.types[place] = node.getTypeId();
+    chunk.nameEnds[place] = chunk.names.size();
     return static_cast<Entry>(m_size++);
 }
 
 std::size_t NodeIndex::nameStart(const Chunk& chunk, std::size_t place)
 {
-    return place > 0 ? chunk.items[place - 1].nameEnd : 0;
+    return place > 0 ? chunk.nameEnds[place - 1] : 0;
 }
 
 std::string_view NodeIndex::foldedName(Entry entry) const
@@ -63,7 +83,7 @@ std::string_view NodeIndex::foldedName(Entry entry) const
     const Chunk& chunk = *m_chunks[entry / chunkSize];
     const std::size_t place = entry % chunkSize;
     const std::size_t start = nameStart(chunk, place);
-    return std::string_view(chunk.names).substr(start, chunk.items[place].nameEnd - start);
+    return std::string_view(chunk.names).substr(start, chunk.nameEnds[place] - start);
 }
 
 std::vector<NxNode*> NodeIndex::path(Entry entry) const
@@ -90,12 +110,12 @@ void NodeIndex::updateName(Entry entry)
     Chunk& chunk = *m_chunks[entry / chunkSize];
     const std::size_t place = entry % chunkSize;
     const std::size_t start = nameStart(chunk, place);
-    const std::size_t before = chunk.items[place].nameEnd - start;
-    foldText(chunk.items[place].node->getName().view(), m_folded);
+    const std::size_t before = chunk.nameEnds[place] - start;
+    foldText(chunk.nodes[place]->getName().view(), m_folded);
     chunk.names.replace(start, before, m_folded);
     const std::size_t end = std::min(chunkSize, m_size - entry / chunkSize * chunkSize);
     for (std::size_t i = place; i < end; ++i)
-        chunk.items[i].nameEnd = chunk.items[i].nameEnd + m_folded.size() - before;
+        chunk.nameEnds[i] = chunk.nameEnds[i] + m_folded.size() - before;
 }
 
 } // namespace meridane

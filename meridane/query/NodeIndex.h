@@ -43,10 +43,10 @@ public:
 
     /// The number of entries so far; entries are numbers below it. A parent precedes its children.
     [[nodiscard]] std::size_t size() const noexcept { return m_size; }
-    [[nodiscard]] const NxNode& node(Entry entry) const { return *item(entry).node; }
+    [[nodiscard]] const NxNode& node(Entry entry) const { return *chunk(entry).nodes[entry % chunkSize]; }
     /// The entry of the group at the first use; `none` for a top node.
-    [[nodiscard]] Entry parent(Entry entry) const { return item(entry).parent; }
-    [[nodiscard]] NxType type(Entry entry) const { return item(entry).type; }
+    [[nodiscard]] Entry parent(Entry entry) const { return chunk(entry).parents[entry % chunkSize]; }
+    [[nodiscard]] NxType type(Entry entry) const { return chunk(entry).types[entry % chunkSize]; }
     /// The name in the form in which names are compared (see `foldText`). Valid until a name changes.
     [[nodiscard]] std::string_view foldedName(Entry entry) const;
     /// The nodes from the top one down to that of the entry.
@@ -62,15 +62,12 @@ public:
 private:
     static constexpr std::size_t chunkSize = 4096;
 
-    struct Item {
-        const NxNode* node = nullptr;
-        Entry parent = none;
-        NxType type;
-        std::size_t nameEnd = 0; // in the names of its chunk
-    };
-    /// Chunks, so that nothing large is ever copied.
+    /// A part of the entries, so that nothing large is ever copied.
     struct Chunk {
-        std::array<Item, chunkSize> items;
+        std::array<const NxNode*, chunkSize> nodes;
+        std::array<Entry, chunkSize> parents;
+        std::array<NxType, chunkSize> types;
+        std::array<std::size_t, chunkSize> nameEnds; ///< in `names`
         std::string names;
     };
     struct Level {
@@ -79,8 +76,9 @@ private:
         Entry parent = none;
     };
 
-    [[nodiscard]] const Item& item(Entry entry) const { return m_chunks[entry / chunkSize]->items[entry % chunkSize]; }
+    [[nodiscard]] const Chunk& chunk(Entry entry) const { return *m_chunks[entry / chunkSize]; }
     Entry append(const NxNode& node, Entry parent);
+    static void readAhead(const Level& level);
     [[nodiscard]] static std::size_t nameStart(const Chunk& chunk, std::size_t place);
 
     const Journal* m_journal;

@@ -67,6 +67,19 @@ private Q_SLOTS:
         QTEST(parsed(query.toStdString()).matches(*mesh), "isMatch");
     }
 
+    void onlyLettersAreFolded()
+    {
+        std::string all;
+        for (char character = ' '; character <= '~'; ++character)
+            all += character;
+        const NxRef<NxMesh> mesh(new NxMesh);
+        mesh->setName(all.c_str());
+        QVERIFY(parsed("\"?@abcdefghijklmnopqrstuvwxyz[\"").matches(*mesh));
+        QVERIFY(parsed("\"_`ABCDEFGHIJKLMNOPQRSTUVWXYZ{\"").matches(*mesh));
+        QVERIFY(!parsed("\"`abc\" \"xyz[\" not \"@abc\"").matches(*mesh));
+        QVERIFY(!parsed("\"?`\" or \"@[\" or \"z{|}~ \"").matches(*mesh));
+    }
+
     void foundPartsAreThoseOfTheOriginal_data()
     {
         QTest::addColumn<QByteArray>("text");

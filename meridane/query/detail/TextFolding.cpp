@@ -4,6 +4,8 @@
 #include "meridane/query/detail/Spelling.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 #include <unicode/bytestream.h>
 #include <unicode/normalizer2.h>
@@ -16,6 +18,15 @@ namespace {
 char foldAscii(char character) noexcept
 {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+/// Eight bytes of ASCII at once: the highest bit of a sum says whether a byte is a capital letter.
+std::uint64_t foldAscii(std::uint64_t bytes) noexcept
+{
+    constexpr std::uint64_t ones = 0x0101010101010101;
+    const std::uint64_t fromA = bytes + ones * (0x80 - 'A');
+    const std::uint64_t afterZ = bytes + ones * (0x7F - 'Z');
+    return bytes | (((fromA & ~afterZ) & (ones * 0x80)) >> 2U);
 }
 
 std::string normalized(const icu::Normalizer2& form, std::string_view text, UErrorCode& error)
@@ -93,13 +104,21 @@ void foldUnicode(std::string_view text, std::string& folded)
 
 void foldText(std::string_view text, std::string& folded)
 {
+    constexpr std::uint64_t highBits = 0x8080808080808080;
     folded.resize(text.size());
-    unsigned int bits = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        bits |= static_cast<unsigned char>(text[i]);
+    std::uint64_t all = 0;
+    std::size_t i = 0;
+    for (std::uint64_t bytes = 0; i + sizeof bytes <= text.size(); i += sizeof bytes) {
+        std::memcpy(&bytes, text.data() + i, sizeof bytes);
+        all |= bytes;
+        bytes = foldAscii(bytes & ~highBits);
+        std::memcpy(folded.data() + i, &bytes, sizeof bytes);
+    }
+    for (; i < text.size(); ++i) {
+        all |= static_cast<unsigned char>(text[i]);
         folded[i] = foldAscii(text[i]);
     }
-    if (bits >= 0x80)
+    if ((all & highBits) != 0)
         foldUnicode(text, folded);
 }
 
@@ -128,7 +147,7 @@ FoldedText foldWithSources(std::string_view text)
 
 bool isKeyword(std::string_view word, std::string_view keyword) noexcept
 {
-    return std::ranges::equal(word, keyword, {}, foldAscii);
+    return std::ranges::equal(word, keyword, {}, [](char letter) { return foldAscii(letter); });
 }
 
 } // namespace meridane
