@@ -120,9 +120,9 @@ void ImageReplacement::clear(const QModelIndex& index)
 void ImageReplacement::takeImage()
 {
     NxImage image = m_decoder.takeImage();
-    m_decoder.endHelper();
     m_pasted.reset();
     m_isLoading = false;
+    endHelperLater();
     // The row may show another node by now, or be gone.
     const FieldSet fields = std::exchange(m_fields, FieldSet());
     const FieldSet present = orvane::fieldsOf(m_index);
@@ -145,10 +145,21 @@ void ImageReplacement::write(const FieldSet& fields, NxImage&& image)
         Q_EMIT failed(result.error());
 }
 
+// The decoder may still be working on the reply.
+void ImageReplacement::endHelperLater()
+{
+    const auto end = [this] {
+        if (!m_isLoading)
+            m_decoder.endHelper();
+    };
+    QMetaObject::invokeMethod(this, end, Qt::QueuedConnection);
+}
+
 void ImageReplacement::fail(const QString& reason)
 {
     m_pasted.reset();
     m_isLoading = false;
     m_fields = FieldSet();
+    endHelperLater();
     Q_EMIT failed(tr("%1 wasn't taken: %2. The field keeps its image.").arg(m_source, reason));
 }

@@ -42,6 +42,7 @@ private:
     void takeImage();
     void decode(const QModelIndex& index, const QString& fileName, const QString& source);
     void fail(const QString& reason);
+    void endHelperLater();
     void write(const FieldSet& fields, NxImage&& image);
 
     FieldWriter& m_writer;
