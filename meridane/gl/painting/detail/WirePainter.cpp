@@ -51,7 +51,7 @@ void WirePainter::draw(PlacedScene& scene, ItemPainter& painter, const PictureFr
     lines.blend();
     lines.setEnabled(GL_CLIP_DISTANCE0, style.section.isOn);
     m_program.use();
-    constexpr float opacity = 0.7F;
+    constexpr float opacity = 0.5F;
     const std::array<float, 4> color{style.wireColor[0], style.wireColor[1], style.wireColor[2], opacity};
     m_gl.Uniform4fv(m_program.uniform("color"), 1, color.data());
     // Without a section, nothing is on the wrong side of it.

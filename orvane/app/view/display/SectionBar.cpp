@@ -106,7 +106,7 @@ void SectionBar::moveTo(double position)
     m_position->setValue(position);
     const double extent = m_greatest - m_least;
     if (extent > 0 && !m_slider->isSliderDown())
-        m_slider->setValue(static_cast<int>(std::clamp((position - m_least) / extent, 0.0, 1.0) * sliderSteps + 0.5));
+        m_slider->setValue(qRound(std::clamp((position - m_least) / extent, 0.0, 1.0) * sliderSteps));
     apply();
 }
 

@@ -8,6 +8,7 @@
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxMesh.h"
 
+#include <utility>
 #include <vector>
 
 /// Collects the positions that rows of a list of a mesh belong to, each once. The mesh may change meanwhile.

@@ -187,7 +187,7 @@ void MeasureTool::paint(QPainter& painter) const
     }
     const QStringList texts = lines();
     const int margin = 2 * orvane::look::unit(painter.fontMetrics());
-    const int height = static_cast<int>(texts.size()) * painter.fontMetrics().lineSpacing() + 2 * margin;
-    orvane::paintLines(painter, QPoint(margin, m_view->height() - height - margin), texts);
+    const int width = orvane::plateSize(painter.fontMetrics(), texts).width();
+    orvane::paintLines(painter, QPoint(std::max(margin, m_view->width() - width - margin), margin), texts);
     painter.restore();
 }
