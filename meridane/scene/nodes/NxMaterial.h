@@ -38,7 +38,8 @@ public:
             meridane::range(0, 1)},
         1};
     NxSFBool doubleSided{this,
-        {"doubleSided", "Whether triangles are also seen from behind, where their corners are in clockwise order."}, 1};
+        {"doubleSided", "Whether triangles are also seen from behind, where their corners are in clockwise order."},
+        true};
     NxSFFloat alphaCutoff{this,
         {"alphaCutoff", "The opacity below which nothing is drawn, while all else is opaque; 0 draws every opacity.",
             meridane::range(0, 1)},

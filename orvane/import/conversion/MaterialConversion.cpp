@@ -41,7 +41,7 @@ std::span<const aiTextureType> typesOf(NxTexture::Role role)
     return colors;
 }
 
-bool isGltf(const aiMaterial& material)
+bool statesAlphaMode(const aiMaterial& material)
 {
     aiString mode;
     return material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) == aiReturn_SUCCESS;
@@ -58,7 +58,7 @@ bool takeColor(const aiMaterial& material, NxSFColor& field, const char* key, un
 
 aiTextureType textureTypeOf(const aiMaterial& material, NxTexture::Role role)
 {
-    if (role == NxTexture::METAL_ROUGHNESS && !isGltf(material))
+    if (role == NxTexture::METAL_ROUGHNESS && !statesAlphaMode(material))
         return aiTextureType_NONE;
     for (const aiTextureType type : typesOf(role)) {
         if (material.GetTextureCount(type) > 0)
@@ -196,7 +196,7 @@ TextureMapping textureMapping(const aiMaterial& material, NxTexture::Role role)
         mapping.channel = static_cast<unsigned int>(channel);
     aiUVTransform given;
     // Of the formats that have one, only glTF defines it well.
-    if (!isGltf(material) || material.Get(AI_MATKEY_UVTRANSFORM(type, 0), given) != aiReturn_SUCCESS)
+    if (!statesAlphaMode(material) || material.Get(AI_MATKEY_UVTRANSFORM(type, 0), given) != aiReturn_SUCCESS)
         return mapping;
     // The library turns about the middle of the image, with v upwards; here are the numbers of the file.
     const float cosine = std::cos(-given.mRotation);
