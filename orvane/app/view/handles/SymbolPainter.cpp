@@ -85,9 +85,10 @@ std::vector<Segment> viewVolume(const NxCamera& camera, const Matrix4d& parentTo
 /// An arrow along the direction of a light, and around it the circle of a cone with that angle.
 std::vector<Segment> rays(const NodePlacement& placement, double size, double angle)
 {
-    const VbVec3d tip = placement.pivot();
+    const bool isSun = dynamic_cast<const NxDirectionalLight*>(&placement.node()) != nullptr;
     const std::array<VbVec3d, 3> axes = placement.ownAxes();
     const VbVec3d ahead = scaled(axes[2], -size);
+    const VbVec3d tip = isSun ? subtract(placement.pivot(), ahead) : placement.pivot();
     const VbVec3d end = add(tip, ahead);
     const double wide = angle > 0 ? size * std::tan(std::min(angle, 1.4)) : size * 0.12;
     constexpr int steps = 24;
@@ -107,6 +108,14 @@ std::vector<Segment> rays(const NodePlacement& placement, double size, double an
 }
 
 } // namespace
+
+VbVec3d orvane::symbolPoint(const NodePlacement& placement, const PictureProjection& projection)
+{
+    const VbVec3d point = placement.pivot();
+    if (dynamic_cast<const NxDirectionalLight*>(&placement.node()) == nullptr)
+        return point;
+    return add(point, scaled(placement.ownAxes()[2], projection.unitsPerPoint(point) * rayLength));
+}
 
 void orvane::paintSymbol(QPainter& painter, const NxNode& node, const QPointF& place, const QColor& border,
     bool isSelected, const QPalette& palette)

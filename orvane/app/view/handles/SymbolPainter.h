@@ -14,6 +14,11 @@ namespace orvane {
 /// The radius of a symbol, in points of the screen.
 inline constexpr double symbolRadius = 11;
 
+/// Where the symbol of a light or camera is in the scene. That of a light without a place is where its rays come from,
+/// a little away from the origin of its group.
+[[nodiscard]] VbVec3d symbolPoint(
+    const meridane::NodePlacement& placement, const meridane::PictureProjection& projection);
+
 /// Paints the symbol of a light or camera: its icon on a plate with a light and a dark border, seen on any colour. A
 /// light that is off is paler.
 void paintSymbol(QPainter& painter, const NxNode& node, const QPointF& place, const QColor& border, bool isSelected,

@@ -75,7 +75,7 @@ std::vector<SymbolTool::Shown> SymbolTool::layout() const
     const double radius = orvane::symbolRadius;
     const QRectF area = QRectF(m_view->rect()).adjusted(-radius, -radius, radius, radius);
     for (const SceneSymbol& symbol : m_symbols) {
-        const VbVec3d point = symbol.placement().pivot();
+        const VbVec3d point = orvane::symbolPoint(symbol.placement(), picture);
         const auto place = picture.placeOf(point);
         if (!place || !area.contains(QPointF((*place)[0], (*place)[1])))
             continue;
