@@ -72,7 +72,6 @@ public:
     OutlinedItems otherSelected;
     OutlinedItems hovered;
     bool isChangeReported = false;
-    NxNodeVisibility visibility;
 
     GLErrors errors;
     ItemPainter painter;
@@ -168,7 +167,6 @@ void NxSceneDrawing::setScene(NxNode* root)
     m_private->errors.forget();
     for (OutlinedItems* items : {&m_private->selected, &m_private->otherSelected, &m_private->hovered})
         items->setNodes({});
-    m_private->visibility = NxNodeVisibility();
     m_private->markedPath.clear();
     m_private->marks.setPoints({});
     m_private->scene.setRoot(root);
@@ -204,17 +202,9 @@ void NxSceneDrawing::setOtherSelectedNodes(std::span<NxNode* const> nodes)
     m_private->noteChange();
 }
 
-void NxSceneDrawing::setHiddenNodes(std::span<NxNode* const> nodes)
+void NxSceneDrawing::setVisibility(const NxNodeVisibility& visibility)
 {
-    m_private->visibility.setHidden(nodes);
-    m_private->scene.setVisibility(m_private->visibility);
-    m_private->noteChange();
-}
-
-void NxSceneDrawing::setIsolatedNodes(std::span<NxNode* const> nodes)
-{
-    m_private->visibility.setIsolated(nodes);
-    m_private->scene.setVisibility(m_private->visibility);
+    m_private->scene.setVisibility(visibility);
     m_private->noteChange();
 }
 

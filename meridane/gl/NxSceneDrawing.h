@@ -6,6 +6,7 @@
 #include "meridane/gl/gpu/NxDrawingCounts.h"
 #include "meridane/gl/gpu/NxImage.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
+#include "meridane/gl/places/NxNodeVisibility.h"
 
 #include <cstdint>
 #include <functional>
@@ -51,11 +52,8 @@ public:
 
     /// Outlines all instances of these nodes too, with the weaker line. Holds references to them.
     void setOtherSelectedNodes(std::span<NxNode* const> nodes);
-    /// Doesn't draw these nodes and what is below them: see `NxNodeVisibility`. They have no box either. Holds
-    /// references to them. Another scene ends it.
-    void setHiddenNodes(std::span<NxNode* const> nodes);
-    /// Draws nothing but these nodes and what is below them; everything if there are none.
-    void setIsolatedNodes(std::span<NxNode* const> nodes);
+    /// Draws only what is shown: see `NxNodeVisibility`. What isn't has no box either. Another scene ends it.
+    void setVisibility(const NxNodeVisibility& visibility);
 
     /// Marks points of one instance of a mesh, given as in `setSelectedPath`; none if there are no points. They are
     /// drawn over everything, in the units of the mesh's positions. The marks follow the transforms of the path, but

@@ -9,8 +9,16 @@ class TestHiddenNodes : public ScenePairCase {
     Q_OBJECT
 
 private:
-    void hide(std::vector<NxNode*> nodes) { m_bench->drawing().setHiddenNodes(nodes); }
-    void isolate(std::vector<NxNode*> nodes) { m_bench->drawing().setIsolatedNodes(nodes); }
+    void hide(const std::vector<NxNode*>& nodes)
+    {
+        m_visibility.setHidden(nodes);
+        m_bench->drawing().setVisibility(m_visibility);
+    }
+    void isolate(const std::vector<NxNode*>& nodes)
+    {
+        m_visibility.setIsolated(nodes);
+        m_bench->drawing().setVisibility(m_visibility);
+    }
     [[nodiscard]] static bool meets(const ScenePair& pair, const NxNodeVisibility& visibility, float x)
     {
         NxRayPick pick(NxRay{VbVec3f(x, 0, 10), VbVec3f(0, 0, -1)});
@@ -19,7 +27,11 @@ private:
     }
 
 private Q_SLOTS:
-    void init() { drawPair(); }
+    void init()
+    {
+        m_visibility = NxNodeVisibility();
+        drawPair();
+    }
     void cleanup() { endDrawing(); }
 
     void whatIsHiddenIsNotDrawn()
@@ -100,6 +112,9 @@ private Q_SLOTS:
         m_bench->drawing().setScene(scene.get());
         COMPARE_PIXEL(m_bench->draw(), -0.5, 0, red);
     }
+
+private:
+    NxNodeVisibility m_visibility;
 };
 
 QTEST_MAIN(TestHiddenNodes)

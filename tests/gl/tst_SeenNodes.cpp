@@ -47,7 +47,9 @@ private Q_SLOTS:
         const NxRef<NxMesh> front = rectangle(-1, -1, 0, 1, 0.5F);
         m_pair->scene->addChild(front.get());
         QCOMPARE(seenIn(-1, -1, 1, 1), (Paths{rightPath(), {front.get()}}));
-        m_bench->drawing().setHiddenNodes(std::vector<NxNode*>{front.get()});
+        NxNodeVisibility visibility;
+        visibility.setHidden(std::vector<NxNode*>{front.get()});
+        m_bench->drawing().setVisibility(visibility);
         QCOMPARE(seenIn(-1, -1, 1, 1), (Paths{leftPath(), rightPath()}));
     }
 

@@ -33,8 +33,7 @@ FavoriteActions::FavoriteActions(FavoriteNodes& favorites, SceneTreePanel* tree,
     connect(m_menu, &QMenu::aboutToShow, this, &FavoriteActions::list);
     connect(&favorites, &FavoriteNodes::changed, this, &FavoriteActions::update);
     connect(tree, &SceneTreePanel::selectionChanged, this, &FavoriteActions::update);
-    tree->view()->setItemDelegateForColumn(
-        SceneTreeModel::NameColumn, new FavoriteDelegate(favorites, *tree->model(), tree->view()));
+    tree->view()->setItemDelegate(new FavoriteDelegate(favorites, *tree->model(), tree->view()));
     update();
 }
 

@@ -6,39 +6,42 @@
 #include "orvane/app/tree/SceneTreeModel.h"
 
 #include <QPainter>
+#include <QTreeView>
 
-FavoriteDelegate::FavoriteDelegate(const FavoriteNodes& favorites, const SceneTreeModel& model, QObject* parent)
-    : NodeDelegate(parent)
+FavoriteDelegate::FavoriteDelegate(const FavoriteNodes& favorites, const SceneTreeModel& model, QTreeView* view)
+    : NodeDelegate(view)
     , m_favorites(favorites)
     , m_model(model)
 {
 }
 
-bool FavoriteDelegate::isFavorite(const QModelIndex& index) const
+QList<FieldMark> FavoriteDelegate::marks(const QModelIndex& index) const
 {
-    return m_favorites.contains(m_model.node(index));
+    QList<FieldMark> marks;
+    if (m_favorites.contains(m_model.node(index)))
+        marks.append(FieldMark::Favorite);
+    if (index.data(SceneTreeModel::IgnoredRole).toBool())
+        marks.append(FieldMark::Ignore);
+    return marks;
 }
 
-void FavoriteDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+int FavoriteDelegate::marksWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    NodeDelegate::initStyleOption(option, index);
-    if (!isFavorite(index))
-        return;
-    // The text ends before the star.
-    const int star = orvane::look::iconSize(option->fontMetrics);
-    const int margins = 4 * orvane::look::unit(option->fontMetrics);
-    option->text = option->fontMetrics.elidedText(
-        option->text, option->textElideMode, option->rect.width() - option->decorationSize.width() - star - margins);
+    const auto count = static_cast<int>(marks(index).size());
+    return count * (orvane::look::iconSize(option.fontMetrics) + orvane::look::unit(option.fontMetrics));
 }
 
 void FavoriteDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     NodeDelegate::paint(painter, option, index);
-    if (!isFavorite(index))
+    if (index.column() != SceneTreeModel::NameColumn)
         return;
     const int side = orvane::look::iconSize(option.fontMetrics);
-    const QRect place(option.rect.right() - side, option.rect.center().y() - side / 2, side, side);
+    QRect place(option.rect.right() - side, option.rect.center().y() - side / 2, side, side);
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
-    orvane::drawMark(*painter, FieldMark::Favorite, place,
-        option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text), true);
+    for (const FieldMark mark : marks(index)) {
+        orvane::drawMark(
+            *painter, mark, place, option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text), true);
+        place.translate(-side - orvane::look::unit(option.fontMetrics), 0);
+    }
 }

@@ -1,25 +1,29 @@
 #pragma once
 
+#include "orvane/app/fields/FieldMark.h"
 #include "orvane/app/tree/NodeDelegate.h"
+
+#include <QList>
 
 class FavoriteNodes;
 class SceneTreeModel;
 
-/// Draws the names in the scene tree, with a star at the end of the rows of favorites.
+/// Draws the rows of the scene tree, with a star at the end of the names of favorites and a sign at those of nodes with
+/// ignored fields.
 class FavoriteDelegate : public NodeDelegate {
     Q_OBJECT
 
 public:
-    /// Both live as long as the delegate.
-    FavoriteDelegate(const FavoriteNodes& favorites, const SceneTreeModel& model, QObject* parent);
+    /// All live as long as the delegate.
+    FavoriteDelegate(const FavoriteNodes& favorites, const SceneTreeModel& model, QTreeView* view);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+    [[nodiscard]] int marksWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
-    [[nodiscard]] bool isFavorite(const QModelIndex& index) const;
+    [[nodiscard]] QList<FieldMark> marks(const QModelIndex& index) const;
 
     const FavoriteNodes& m_favorites;
     const SceneTreeModel& m_model;

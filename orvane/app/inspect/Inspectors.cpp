@@ -4,6 +4,7 @@
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/inspect/FavoriteActions.h"
 #include "orvane/app/inspect/FavoriteNodes.h"
+#include "orvane/app/inspect/FavoriteStrip.h"
 #include "orvane/app/inspect/FieldTitleBars.h"
 #include "orvane/app/inspect/InspectorDock.h"
 #include "orvane/app/inspect/InspectorDocks.h"
@@ -44,6 +45,7 @@ Inspectors::Inspectors(Session& session, SceneTreePanel* tree, FieldPanel* field
     m_lockAction->setObjectName(QStringLiteral("inspector.lock"));
     m_lockAction->setShortcut(LockAction::keys());
     m_lockAction->addButtonTo(fields->headingTools());
+    new FavoriteStrip(session, *m_favorites, tree);
     new FieldTitleBars(session, tree, *m_lock, window);
     connect(m_favoriteActions, &FavoriteActions::refused, this, &Inspectors::showMessage);
     connect(m_docks, &InspectorDocks::added, this, &Inspectors::noteDock);

@@ -35,6 +35,23 @@ void HiddenNodes::show(std::span<NxNode* const> nodes)
         update();
 }
 
+void HiddenNodes::reveal(std::span<const std::vector<NxNode*>> paths)
+{
+    std::vector<NxNode*> above;
+    for (const std::vector<NxNode*>& path : paths)
+        above.insert(above.end(), path.begin(), path.end());
+    show(above);
+    std::vector<NxNode*> outside;
+    for (const std::vector<NxNode*>& path : paths) {
+        if (!path.empty() && !isShown(path))
+            outside.push_back(path.back());
+    }
+    if (outside.empty())
+        return;
+    m_isolated = withoutDoubles(m_isolated, outside);
+    update();
+}
+
 void HiddenNodes::isolate(std::span<NxNode* const> nodes)
 {
     m_isolated = withoutDoubles(nodes);

@@ -22,6 +22,9 @@ public:
     void hide(std::span<NxNode* const> nodes);
     /// Takes back that these nodes are hidden. Those below a hidden node, or outside isolated ones, stay unseen.
     void show(std::span<NxNode* const> nodes);
+    /// Shows the last node of each path, which leads to it from the scene: takes back that it or one above it is
+    /// hidden, and isolates it too where others are.
+    void reveal(std::span<const std::vector<NxNode*>> paths);
     /// Shows these nodes, with what is below them, and nothing else, instead of those isolated before.
     void isolate(std::span<NxNode* const> nodes);
     /// Shows everything.

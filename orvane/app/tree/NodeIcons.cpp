@@ -4,6 +4,7 @@
 
 #include "meridane/base/values/VbName.h"
 
+#include <QFile>
 #include <QHash>
 #include <QPainter>
 #include <QString>
@@ -49,19 +50,25 @@ constexpr std::array iconFiles{
     IconFile{"UnknownNode", "unknown-node"},
 };
 
+/// The icon that a plug-in has in its resources for a class, if it can be drawn.
+QString fileOfPlugin(const VbName& className)
+{
+    QString fileName = QStringLiteral(":/orvane/node-icons/%1.svg").arg(QString::fromUtf8(className.getString()));
+    return QFile::exists(fileName) && QSvgRenderer(fileName).isValid() ? fileName : QString();
+}
+
 // That of the class, else of the closest base class that has one.
 QString fileOf(NxType type)
 {
-    const char* name = "node";
     for (NxType step = type; !step.isBad(); step = step.getParent()) {
         const VbName className = step.getName();
+        if (const QString fileName = fileOfPlugin(className); !fileName.isEmpty())
+            return fileName;
         const auto isOfClass = [&](const IconFile& file) { return file.className == className.getString(); };
-        if (const auto* const found = std::ranges::find_if(iconFiles, isOfClass); found != iconFiles.end()) {
-            name = found->fileName;
-            break;
-        }
+        if (const auto* const found = std::ranges::find_if(iconFiles, isOfClass); found != iconFiles.end())
+            return QStringLiteral(":/orvane/icons/%1.svg").arg(QLatin1StringView(found->fileName));
     }
-    return QStringLiteral(":/orvane/icons/%1.svg").arg(QLatin1StringView(name));
+    return QStringLiteral(":/orvane/icons/node.svg");
 }
 
 QIcon iconOf(const QString& fileName)

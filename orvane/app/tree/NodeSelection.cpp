@@ -1,5 +1,6 @@
 #include "orvane/app/tree/NodeSelection.h"
 
+#include "orvane/app/tree/RowLookup.h"
 #include "orvane/app/tree/RowOrder.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 
@@ -92,6 +93,7 @@ void NodeSelection::select(std::span<NxNode* const> nodes)
     std::vector<QModelIndexList> indexes; // of each group in which there are any
     std::unordered_map<const NxNode*, std::size_t> groups; // where in `indexes`
     QModelIndex last;
+    RowLookup lookup(*m_model);
     meridane::NodeTraversal traversal(*m_model->scene());
     while (!wanted.empty()) {
         const NxNode* const node = traversal.next();
@@ -104,7 +106,7 @@ void NodeSelection::select(std::span<NxNode* const> nodes)
             = groups.try_emplace(path.size() > 1 ? path[path.size() - 2] : nullptr, indexes.size());
         // Each search for a path goes through all siblings, so there is one for each group.
         if (isNew)
-            indexes.push_back({m_model->indexOfPath(path)});
+            indexes.push_back({lookup.find(path)});
         else
             indexes[group->second] += indexes[group->second].front().siblingAtRow(traversal.indices().back());
         if (node == nodes.front())
@@ -114,6 +116,15 @@ void NodeSelection::select(std::span<NxNode* const> nodes)
     for (const QModelIndexList& group : indexes)
         addRanges(ranges, group);
     setRanges(ranges, last);
+}
+
+qsizetype NodeSelection::rowCount() const
+{
+    qsizetype count = 0;
+    const QItemSelection selection = m_view->selectionModel()->selection();
+    for (const QItemSelectionRange& range : selection)
+        count += range.height();
+    return count;
 }
 
 QModelIndexList NodeSelection::indexes() const

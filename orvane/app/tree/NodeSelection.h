@@ -30,6 +30,8 @@ public:
     /// The nodes; the one selected last is the first of them, and the others are in the order in which they were
     /// selected. Null if none is. The object stays the same until the selection changes.
     [[nodiscard]] std::shared_ptr<const Nodes> nodes() const;
+    /// The number of rows that are selected.
+    [[nodiscard]] qsizetype rowCount() const;
     /// The first cells of all selected rows, in the order of the tree. A node may be in several of them.
     [[nodiscard]] QModelIndexList indexes() const;
     /// The row of the node selected last, its first cell; invalid if none is selected.

@@ -3,10 +3,17 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/scene/NodeSearch.h"
+#include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/tree/NodeIcons.h"
 #include "orvane/app/tree/NodeMarks.h"
 #include "orvane/app/tree/SceneBranch.h"
 #include "orvane/app/tree/ShownNodes.h"
+#include "orvane/app/tree/facts/IgnoredFields.h"
+#include "orvane/app/tree/facts/NodeToolTip.h"
+
+#include "meridane/scene/nodes/NxCamera.h"
+#include "meridane/scene/nodes/NxLight.h"
+#include "meridane/scene/nodes/NxMesh.h"
 
 #include <QFont>
 
@@ -18,6 +25,13 @@ namespace {
 constexpr qsizetype mostCharacters = 200;
 /// What the line of an editor takes, by its default: the rest of a longer name is cut off in it.
 constexpr qsizetype mostInALine = 32767;
+
+bool canBeSeen(const NxNode& node)
+{
+    const NxType type = node.getTypeId();
+    return type.isDerivedFrom(NxGroup::getClassTypeId()) || type.isDerivedFrom(NxMesh::getClassTypeId())
+        || type.isDerivedFrom(NxLight::getClassTypeId()) || type.isDerivedFrom(NxCamera::getClassTypeId());
+}
 
 } // namespace
 
@@ -88,18 +102,23 @@ std::vector<NxNode*> SceneTreeModel::path(const QModelIndex& index) const
 QModelIndex SceneTreeModel::indexOfPath(std::span<NxNode* const> nodes)
 {
     QModelIndex index;
-    for (NxNode* step : nodes) {
-        fetchMore(index);
-        SceneBranch* branch = branchOf(index);
-        if (branch == nullptr)
-            return {};
-        updateBranch(*branch); // its sensor may still wait for its call
-        const int row = branch->findRow(step);
-        if (row < 0)
-            return {};
-        index = this->index(row, NameColumn, index);
+    for (const NxNode* step : nodes) {
+        index = childIndex(index, step);
+        if (!index.isValid())
+            break;
     }
     return index;
+}
+
+QModelIndex SceneTreeModel::childIndex(const QModelIndex& parent, const NxNode* node)
+{
+    fetchMore(parent);
+    SceneBranch* branch = branchOf(parent);
+    if (branch == nullptr)
+        return {};
+    updateBranch(*branch); // its sensor may still wait for its call
+    const int row = branch->findRow(node);
+    return row >= 0 ? index(row, NameColumn, parent) : QModelIndex();
 }
 
 QModelIndex SceneTreeModel::findNode(const NxFieldContainer* node)
@@ -159,12 +178,9 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
     if (shown == nullptr)
         return {};
     m_shown->note(*static_cast<SceneBranch*>(index.internalPointer()), *shown);
-    const bool unnamed = shown->getName().isEmpty();
     switch (role) {
     case Qt::DisplayRole:
-        if (index.column() == NameColumn && !unnamed)
-            return orvane::shortLine(orvane::toQString(shown->getName()), mostCharacters);
-        return QString::fromUtf8(shown->getClassName());
+        return text(index);
     case Qt::EditRole:
         return index.column() == NameColumn ? orvane::toQString(shown->getName())
                                             : QString::fromUtf8(shown->getClassName());
@@ -172,13 +188,40 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
         return index.column() == NameColumn ? QVariant(orvane::nodeIcon(shown->getTypeId())) : QVariant();
     case Qt::FontRole:
         return index.column() == NameColumn ? font(index) : QVariant();
-    case GreyedRole:
-        return m_marks != nullptr && !m_marks->isHit(*shown) && !m_marks->leadsToHit(*shown);
     case Qt::ToolTipRole:
         return toolTip(index);
+    case Qt::AccessibleTextRole:
+        if (index.column() != ShownColumn)
+            return text(index);
+        return !canBeSeen(*shown) ? QString() : isShown(index) ? tr("Shown") : tr("Hidden");
+    case GreyedRole:
+        return m_marks != nullptr && !m_marks->isHit(*shown) && !m_marks->leadsToHit(*shown);
+    case ShownRole:
+        return isShown(index);
+    case HasEyeRole:
+        return canBeSeen(*shown);
+    case ChildCountRole:
+        return static_cast<int>(shown->getChildren().size());
+    case IgnoredRole:
+        return orvane::hasIgnoredField(*shown);
     default:
         return {};
     }
+}
+
+QString SceneTreeModel::text(const QModelIndex& index) const
+{
+    const NxNode* const shown = node(index);
+    if (index.column() == ShownColumn)
+        return {};
+    if (index.column() == NameColumn && !shown->getName().isEmpty())
+        return orvane::shortLine(orvane::toQString(shown->getName()), mostCharacters);
+    return QString::fromUtf8(shown->getClassName());
+}
+
+bool SceneTreeModel::isShown(const QModelIndex& index) const
+{
+    return m_hidden == nullptr || m_hidden->isEmpty() || m_hidden->isShown(path(index));
 }
 
 bool SceneTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
@@ -192,7 +235,11 @@ bool SceneTreeModel::setData(const QModelIndex& index, const QVariant& value, in
 
 QVariant SceneTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (section == ShownColumn) // too narrow for a text
+        return role == Qt::ToolTipRole || role == Qt::AccessibleTextRole ? tr("Shown in the view") : QVariant();
+    if (role != Qt::DisplayRole)
         return {};
     return section == NameColumn ? tr("Name") : tr("Class");
 }
@@ -285,7 +332,7 @@ void SceneTreeModel::updateRows(SceneBranch& branch, NxNode& node, bool unfolds)
 {
     for (int row = branch.findRow(&node); row >= 0; row = branch.findRow(&node, row + 1)) {
         const QModelIndex first = createIndex(row, NameColumn, &branch);
-        Q_EMIT dataChanged(first, createIndex(row, ClassColumn, &branch));
+        Q_EMIT dataChanged(first, createIndex(row, ColumnCount - 1, &branch));
         // Views learn whether an item can be unfolded from its rows, so its first children become rows at once.
         if (unfolds && canFetchMore(first))
             fetchMore(first);
@@ -314,11 +361,9 @@ QVariant SceneTreeModel::font(const QModelIndex& index) const
 
 QString SceneTreeModel::toolTip(const QModelIndex& index) const
 {
-    const NxNode* shown = node(index);
-    QString text = QString::fromUtf8(shown->getClassName());
-    if (!shown->getName().isEmpty())
-        text += QStringLiteral(" \"%1\"").arg(orvane::shortLine(orvane::toQString(shown->getName()), mostCharacters));
-    if (const std::size_t count = shown->getChildren().size(); count > 0)
-        text += count == 1 ? tr(", 1 child node") : tr(", %1 child nodes").arg(count);
-    return orvane::plainToolTip(text);
+    if (index.column() != ShownColumn)
+        return orvane::plainToolTip(orvane::nodeToolTip(*node(index)));
+    if (!canBeSeen(*node(index)))
+        return {};
+    return isShown(index) ? tr("Hides the node in the view") : tr("Shows the node in the view");
 }

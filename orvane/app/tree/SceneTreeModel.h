@@ -8,6 +8,7 @@
 #include <span>
 #include <vector>
 
+class HiddenNodes;
 class NodeMarks;
 class SceneBranch;
 class ShownNodes;
@@ -22,9 +23,18 @@ class SceneTreeModel : public QAbstractItemModel {
     Q_OBJECT
 
 public:
-    enum Column { NameColumn, ClassColumn, ColumnCount };
+    enum Column {
+        NameColumn,
+        ClassColumn,
+        ShownColumn, ///< whether the node is shown in the view
+        ColumnCount
+    };
     enum Role {
         GreyedRole = Qt::UserRole, ///< whether a search has found neither the node nor anything below it
+        ShownRole, ///< whether the node is shown in the view
+        HasEyeRole, ///< whether it can be hidden there: materials, for example, can't
+        ChildCountRole,
+        IgnoredRole, ///< whether a field of the node is ignored
     };
 
     explicit SceneTreeModel(QObject* parent = nullptr);
@@ -36,6 +46,8 @@ public:
     [[nodiscard]] NxGroup* scene() const;
     /// Shows which nodes a search has found; null for none. Views must be repainted by the caller.
     void setMarks(std::shared_ptr<const NodeMarks> marks) { m_marks = std::move(marks); }
+    /// Which nodes are hidden, or null; it lives longer. Views must be repainted by the caller.
+    void setHidden(const HiddenNodes* hidden) { m_hidden = hidden; }
     /// The rows under which there are rows, each before those under it. Others can't be unfolded.
     [[nodiscard]] QModelIndexList fetchedIndexes() const;
 
@@ -47,6 +59,9 @@ public:
     /// The index that these nodes lead to, each a child of the one before. Fetches rows as needed and updates those on
     /// the way, so nodes that were added a moment ago are found before the delay queue has run.
     [[nodiscard]] QModelIndex indexOfPath(std::span<NxNode* const> nodes);
+    /// The first row of a node under another row; of the scene if that is invalid. Fetches and updates like
+    /// `indexOfPath`.
+    [[nodiscard]] QModelIndex childIndex(const QModelIndex& parent, const NxNode* node);
     /// The first place of a node: among the rows that are there, else anywhere in the scene.
     [[nodiscard]] QModelIndex findNode(const NxFieldContainer* node);
 
@@ -78,8 +93,11 @@ private:
     void layoutAgain();
     [[nodiscard]] QString toolTip(const QModelIndex& index) const;
     [[nodiscard]] QVariant font(const QModelIndex& index) const;
+    [[nodiscard]] QString text(const QModelIndex& index) const;
+    [[nodiscard]] bool isShown(const QModelIndex& index) const;
 
     std::unique_ptr<SceneBranch> m_root;
     std::unique_ptr<ShownNodes> m_shown;
     std::shared_ptr<const NodeMarks> m_marks;
+    const HiddenNodes* m_hidden = nullptr;
 };

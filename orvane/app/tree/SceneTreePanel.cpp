@@ -1,10 +1,13 @@
 #include "orvane/app/tree/SceneTreePanel.h"
 
+#include "orvane/app/look/Look.h"
+#include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/tree/NodeDelegate.h"
 #include "orvane/app/tree/NodeMarks.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreeView.h"
+#include "orvane/app/tree/TreeTips.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -22,6 +25,7 @@ constexpr int mostUnfolded = 20;
 SceneTreePanel::SceneTreePanel(QWidget* parent)
     : QWidget(parent)
     , m_model(new SceneTreeModel(this))
+    , m_hidden(new HiddenNodes(this))
     , m_view(new SceneTreeView(this))
     , m_layout(new QVBoxLayout(this))
 {
@@ -40,15 +44,51 @@ SceneTreePanel::SceneTreePanel(QWidget* parent)
     m_view->setEditTriggers(QAbstractItemView::DoubleClicked);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_view->setTextElideMode(Qt::ElideMiddle);
-    m_view->header()->setSectionResizeMode(SceneTreeModel::NameColumn, QHeaderView::Interactive);
-    m_view->header()->setStretchLastSection(true);
-    // Scenes are deep and names of classes short, so names of nodes get most of the width.
+    m_view->setMouseTracking(true); // for the eye under the pointer
     constexpr int indentation = 14;
     m_view->setIndentation(indentation);
-    m_view->header()->resizeSection(SceneTreeModel::NameColumn, fontMetrics().averageCharWidth() * 32);
+    setUpColumns();
+    new TreeTips(m_view, m_model);
+    m_model->setHidden(m_hidden);
+    connect(m_hidden, &HiddenNodes::changed, m_view->viewport(), qOverload<>(&QWidget::update));
+    connect(m_view, &SceneTreeView::eyeClicked, this, &SceneTreePanel::clickEye);
     // Not the current index: a view that gets the focus makes its first row current, and that must select nothing.
     connect(m_selection, &NodeSelection::changed, this, [this] { Q_EMIT selectionChanged(selectedNode()); });
     setFocusProxy(m_view);
+}
+
+void SceneTreePanel::setUpColumns()
+{
+    QHeaderView* const header = m_view->header();
+    const int eye = orvane::look::iconSize(fontMetrics()) + 2 * orvane::look::unit(fontMetrics());
+    header->setStretchLastSection(false);
+    header->setMinimumSectionSize(eye);
+    header->setSectionResizeMode(SceneTreeModel::NameColumn, QHeaderView::Interactive);
+    header->setSectionResizeMode(SceneTreeModel::ClassColumn, QHeaderView::Stretch);
+    header->setSectionResizeMode(SceneTreeModel::ShownColumn, QHeaderView::Fixed);
+    // Scenes are deep and names of classes short, so names of nodes get most of the width.
+    header->resizeSection(SceneTreeModel::NameColumn, fontMetrics().averageCharWidth() * 29);
+    header->resizeSection(SceneTreeModel::ShownColumn, eye);
+}
+
+// For all selected nodes if it is the eye of one of them.
+void SceneTreePanel::clickEye(const QModelIndex& index)
+{
+    const bool isShown = index.data(SceneTreeModel::ShownRole).toBool();
+    QModelIndexList rows{index};
+    if (m_view->selectionModel()->isSelected(index))
+        rows = m_selection->indexes();
+    std::vector<std::vector<NxNode*>> paths;
+    for (const QModelIndex& row : rows)
+        paths.push_back(m_model->path(row));
+    if (!isShown) {
+        m_hidden->reveal(paths);
+        return;
+    }
+    std::vector<NxNode*> nodes;
+    for (const std::vector<NxNode*>& path : paths)
+        nodes.push_back(path.back());
+    m_hidden->hide(nodes);
 }
 
 QModelIndex SceneTreePanel::selected() const
@@ -72,14 +112,21 @@ std::vector<int> SceneTreePanel::selectedRows() const
 
 void SceneTreePanel::select(const QModelIndex& index)
 {
-    if (index == selected())
+    if (index == selected() && m_selection->rowCount() <= 1)
         return;
     if (index.isValid()) {
-        m_view->setCurrentIndex(index);
+        // Not by the view, which would look at the keys that are held.
+        m_view->selectionModel()->setCurrentIndex(
+            index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         m_view->scrollTo(index);
     } else {
         m_view->selectionModel()->clear();
     }
+}
+
+void SceneTreePanel::addTopWidget(QWidget* widget)
+{
+    m_layout->insertWidget(m_layout->indexOf(m_view), widget);
 }
 
 QTreeView* SceneTreePanel::view() const noexcept
@@ -106,13 +153,22 @@ FoldState SceneTreePanel::foldState() const
 void SceneTreePanel::restoreFolds(const FoldState& state)
 {
     QSet<QModelIndex> wanted;
-    for (const QPersistentModelIndex& index : state.unfolded())
+    for (const QPersistentModelIndex& index : state.unfolded()) {
+        m_model->fetchMore(index);
         wanted.insert(index);
+    }
     m_view->layoutLater();
     for (const QModelIndex& index : m_model->fetchedIndexes()) {
         if (const bool isUnfolded = wanted.contains(index); isUnfolded != m_view->isExpanded(index))
             m_view->setExpanded(index, isUnfolded);
     }
+}
+
+// The view puts off fetching rows, which the states of folds are about.
+void SceneTreePanel::unfold(const QModelIndex& index)
+{
+    m_model->fetchMore(index);
+    m_view->expand(index);
 }
 
 void SceneTreePanel::unfoldTo(std::span<NxNode* const> path)
@@ -121,7 +177,12 @@ void SceneTreePanel::unfoldTo(std::span<NxNode* const> path)
         return;
     m_view->layoutLater();
     for (QModelIndex index = m_model->indexOfPath(path.first(path.size() - 1)); index.isValid(); index = index.parent())
-        m_view->expand(index);
+        unfold(index);
+}
+
+void SceneTreePanel::layoutLater()
+{
+    m_view->layoutLater();
 }
 
 void SceneTreePanel::setHeaderWidget(QWidget* widget)
@@ -134,13 +195,19 @@ void SceneTreePanel::setHeaderWidget(QWidget* widget)
 
 void SceneTreePanel::setScene(NxGroup* scene)
 {
+    m_hidden->showAll();
     m_model->setScene(scene);
-    if (m_model->rowCount() > mostUnfolded)
-        return;
+    if (m_model->rowCount() <= mostUnfolded)
+        unfoldFirst();
+    Q_EMIT sceneShown();
+}
+
+void SceneTreePanel::unfoldFirst()
+{
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const QModelIndex index = m_model->index(row, SceneTreeModel::NameColumn);
         if (m_model->node(index)->getChildren().size() <= mostUnfolded)
-            m_view->expand(index);
+            unfold(index);
     }
 }
 

@@ -11,6 +11,7 @@
 #include <span>
 #include <vector>
 
+class HiddenNodes;
 class NodeMarks;
 class NodeSelection;
 class QAction;
@@ -31,14 +32,15 @@ public:
 
     /// All nodes that are selected.
     [[nodiscard]] NodeSelection& selection() const noexcept { return *m_selection; }
+    /// The nodes that are hidden in the view.
+    [[nodiscard]] HiddenNodes& hidden() const noexcept { return *m_hidden; }
     /// The first cell of the row that was selected last, or an invalid index.
     [[nodiscard]] QModelIndex selected() const;
     [[nodiscard]] NxNode* selectedNode() const;
     /// The rows that lead to it, from the top one down; empty if none is selected. They are also the indices of nodes
     /// in their groups, but follow these a moment later.
     [[nodiscard]] std::vector<int> selectedRows() const;
-    /// Selects the row of a node alone and scrolls to it, unless it is the one selected last; an invalid index selects
-    /// nothing.
+    /// Selects the row of a node alone and scrolls to it, unless it already is; an invalid index selects nothing.
     void select(const QModelIndex& index);
 
     /// Draws the names of hits in bold and greys what neither is one nor leads to one; null ends it. To be called again
@@ -51,8 +53,13 @@ public:
     /// Unfolds all that is above the last of these nodes, each a child of the one before. To show many nodes of one
     /// group, call it for one of them: each call looks for the nodes among all their siblings.
     void unfoldTo(std::span<NxNode* const> path);
+    /// Lays the rows out again before they are used next, so that folding any number of them until then takes hardly
+    /// any time.
+    void layoutLater();
     /// Shows a widget above the tree, which the panel owns from now on. Deletes the one before.
     void setHeaderWidget(QWidget* widget);
+    /// Shows a widget directly above the tree, below those that were added before.
+    void addTopWidget(QWidget* widget);
 
     /// Shows a scene with its first nodes unfolded; null for none.
     void setScene(NxGroup* scene);
@@ -62,11 +69,19 @@ public:
     void addNodeAction(QAction* action);
 
 Q_SIGNALS:
+    /// A scene is shown now, or none.
+    void sceneShown();
     /// Other nodes are selected now, or none. The node is the one selected last, which may be the same as before.
     void selectionChanged(NxNode* node);
 
 private:
+    void clickEye(const QModelIndex& index);
+    void setUpColumns();
+    void unfoldFirst();
+    void unfold(const QModelIndex& index);
+
     SceneTreeModel* m_model;
+    HiddenNodes* m_hidden;
     SceneTreeView* m_view;
     NodeSelection* m_selection;
     QVBoxLayout* m_layout;

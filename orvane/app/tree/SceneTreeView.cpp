@@ -1,6 +1,43 @@
 #include "orvane/app/tree/SceneTreeView.h"
 
+#include "orvane/app/tree/SceneTreeModel.h"
+
 #include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+// An eye is a button: a click on it selects nothing.
+bool SceneTreeView::clickEye(const QMouseEvent& event)
+{
+    const QModelIndex index = indexAt(event.position().toPoint());
+    if (event.button() != Qt::LeftButton || index.column() != SceneTreeModel::ShownColumn
+        || !index.data(SceneTreeModel::HasEyeRole).toBool())
+        return false;
+    Q_EMIT eyeClicked(index.siblingAtColumn(SceneTreeModel::NameColumn));
+    return true;
+}
+
+// Qt would unfold any number of rows.
+void SceneTreeView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Asterisk)
+        Q_EMIT unfoldRequested();
+    else
+        QTreeView::keyPressEvent(event);
+}
+
+void SceneTreeView::mousePressEvent(QMouseEvent* event)
+{
+    if (!clickEye(*event))
+        QTreeView::mousePressEvent(event);
+}
+
+// The second press of two quick ones.
+void SceneTreeView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (!clickEye(*event))
+        QTreeView::mouseDoubleClickEvent(event);
+}
 
 // Qt selects another row by itself only where a single one can be selected.
 void SceneTreeView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end)

@@ -14,9 +14,21 @@ public:
     /// hardly any time.
     void layoutLater() { scheduleDelayedItemsLayout(); }
 
+Q_SIGNALS:
+    /// The user has clicked on the eye of a row.
+    void eyeClicked(const QModelIndex& index);
+    /// The user wants everything below the selected rows unfolded.
+    void unfoldRequested();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
 protected Q_SLOTS:
     void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
 private:
+    [[nodiscard]] bool clickEye(const QMouseEvent& event);
     [[nodiscard]] bool isSelectionWithin(const QModelIndex& parent, int start, int end) const;
 };

@@ -1,5 +1,7 @@
 #include "orvane/app/tree/ShownNodes.h"
 
+#include "orvane/app/tree/facts/IgnoredFields.h"
+
 #include <algorithm>
 
 struct ShownNodes::Watch {
@@ -20,11 +22,13 @@ struct ShownNodes::Watch {
     /// True when what a row shows of the node is something else than before.
     bool takeState()
     {
-        const bool parent = !node->getChildren().empty();
-        if (name == node->getName() && parent == hasChildren)
+        const std::size_t count = node->getChildren().size();
+        const bool ignores = orvane::hasIgnoredField(*node);
+        if (name == node->getName() && count == children && ignores == hasIgnored)
             return false;
         name = node->getName();
-        hasChildren = parent;
+        children = count;
+        hasIgnored = ignores;
         return true;
     }
 
@@ -32,7 +36,8 @@ struct ShownNodes::Watch {
     NxNode* node;
     NxNodeSensor sensor;
     VbString name;
-    bool hasChildren = false;
+    std::size_t children = 0;
+    bool hasIgnored = false;
     std::vector<SceneBranch*> branches;
 };
 
@@ -84,10 +89,10 @@ void ShownNodes::clear()
 
 void ShownNodes::report(Watch& watch)
 {
-    const bool hadChildren = watch.hasChildren;
+    const bool hadChildren = watch.children > 0;
     if (!watch.takeState())
         return;
-    const bool unfolds = watch.hasChildren != hadChildren;
+    const bool unfolds = (watch.children > 0) != hadChildren;
     const std::vector<SceneBranch*> branches = watch.branches; // the callback may change the original
     NxNode& node = *watch.node;
     for (SceneBranch* branch : branches)

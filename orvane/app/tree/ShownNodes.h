@@ -12,8 +12,8 @@
 
 class SceneBranch;
 
-/// Watches the nodes that views show at the moment, as far as their own rows go: the name, and whether there are
-/// children to unfold.
+/// Watches the nodes that views show at the moment, as far as their own rows go: the name, the number of
+/// children, and whether fields are ignored.
 ///
 /// A view asks the model for a row's data whenever it paints the row, so the nodes asked for last are those in view.
 /// Only some thousands of them are watched, whatever the size of the scene; a row that was forgotten is

@@ -1,5 +1,6 @@
 #include "orvane/app/tree/TreeState.h"
 
+#include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/extender/OrvServices.h"
@@ -20,6 +21,10 @@ TreeState::TreeState(SceneTreePanel& tree, OrvServices& services)
     }
     if (!m_node)
         return;
+    if (const QModelIndexList rows = tree.selection().indexes(); rows.size() > 1 && rows.size() <= mostSelected) {
+        for (const QModelIndex& index : rows)
+            m_selected.push_back({index, pathOf(index)});
+    }
     m_path = pathOf(tree.selected());
     const NxField* const field = services.getSelectedField();
     if (field != nullptr && field->getContainer() == m_node.get())
@@ -32,19 +37,32 @@ void TreeState::restore()
         if (!row.index.isValid())
             m_tree->view()->expand(find(row.path));
     }
-    if (m_path.empty() || m_tree->selectedNode() == m_node.get())
+    if (m_path.empty())
         return;
-    QModelIndex index = m_tree->model()->findNode(m_node.get());
-    if (!index.isValid())
-        index = find(m_path);
-    if (!index.isValid())
+    const bool isLastThere = m_tree->selectedNode() == m_node.get();
+    const QModelIndex index = isLastThere ? m_tree->selected() : findLast();
+    QModelIndexList rows;
+    for (const Row& row : m_selected) {
+        if (const QModelIndex again = row.index.isValid() ? QModelIndex(row.index) : find(row.path); again.isValid())
+            rows.append(again);
+    }
+    if (rows.size() > 1 && rows != m_tree->selection().indexes())
+        m_tree->selection().selectIndexes(rows, index);
+    else if (!isLastThere && index.isValid())
+        m_tree->select(index);
+    if (isLastThere || !index.isValid())
         return;
-    m_tree->select(index);
     NxNode* const node = m_tree->model()->node(index);
     NxField* const field = m_field.isEmpty() ? nullptr : node->getField(m_field);
     // The selection may be locked on another node.
     if (field != nullptr && m_services->getSelectedNode() == node)
         m_services->selectField(field);
+}
+
+QModelIndex TreeState::findLast() const
+{
+    const QModelIndex index = m_tree->model()->findNode(m_node.get());
+    return index.isValid() ? index : find(m_path);
 }
 
 std::string TreeState::pathOf(const QModelIndex& index) const

@@ -12,10 +12,13 @@
 class OrvServices;
 class SceneTreePanel;
 
-/// Which rows of the scene tree are unfolded, and which node and field are selected, by their paths. So a node that
+/// Which rows of the scene tree are unfolded, and which nodes and field are selected, by their paths. So a node that
 /// takes the place of another one is shown as that was.
 class TreeState {
 public:
+    /// Of more selected rows than this, only the last one is found again.
+    static constexpr qsizetype mostSelected = 1000;
+
     /// Both live longer.
     TreeState(SceneTreePanel& tree, OrvServices& services);
 
@@ -34,7 +37,10 @@ private:
 
     SceneTreePanel* m_tree;
     OrvServices* m_services;
+    [[nodiscard]] QModelIndex findLast() const;
+
     std::vector<Row> m_unfolded; // groups before what is in them
+    std::vector<Row> m_selected; // in the order of the tree
     NxRef<NxFieldContainer> m_node; // that was selected
     std::string m_path; // of its row
     VbName m_field;

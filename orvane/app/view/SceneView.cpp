@@ -298,6 +298,7 @@ std::optional<NxRayPick> SceneView::pickAt(const QPointF& position) const
         return {};
     NxRayPick pick(ray);
     pick.setDistances(nearest, farthest);
+    pick.setVisibility(m_drawing.visibility());
     const float radii = pickRadius / static_cast<float>(std::max(height(), 1));
     if (isOrthographic)
         pick.setTolerance(radii * m_viewpoint.heightAt(0), 0);

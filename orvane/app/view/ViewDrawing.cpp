@@ -59,6 +59,8 @@ bool ViewDrawing::start()
     m_drawing->setStyle(m_style);
     m_drawing->setScene(m_scene.get());
     m_drawing->setSelectedPath(pointersTo(m_selected));
+    m_drawing->setOtherSelectedNodes(pointersTo(m_otherSelected));
+    m_drawing->setVisibility(m_visibility);
     m_drawing->setMarkedPoints(pointersTo(std::exchange(m_markedPath, {})), std::exchange(m_markedPoints, {}));
     m_drawing->setChangeHook(m_hook);
     return true;
@@ -108,6 +110,8 @@ void ViewDrawing::setScene(NxGroup* scene, const QString& folder)
     m_selected.clear();
     m_markedPath.clear();
     m_markedPoints.clear();
+    m_otherSelected.clear();
+    m_visibility = NxNodeVisibility();
     m_textures.clear();
     m_textures.setFolder(folder);
     if (m_drawing != nullptr)
@@ -139,6 +143,20 @@ void ViewDrawing::setHoveredPath(const std::vector<NxNode*>& nodes)
         m_drawing->setHoveredPath(nodes);
 }
 
+void ViewDrawing::setOtherSelectedNodes(const std::vector<NxNode*>& nodes)
+{
+    m_otherSelected.assign(nodes.begin(), nodes.end());
+    if (m_drawing != nullptr)
+        m_drawing->setOtherSelectedNodes(nodes);
+}
+
+void ViewDrawing::setVisibility(const NxNodeVisibility& visibility)
+{
+    m_visibility = visibility;
+    if (m_drawing != nullptr)
+        m_drawing->setVisibility(visibility);
+}
+
 void ViewDrawing::setStyle(const NxDrawingStyle& style)
 {
     m_style = style;
@@ -146,11 +164,25 @@ void ViewDrawing::setStyle(const NxDrawingStyle& style)
         m_drawing->setStyle(style);
 }
 
-QImage ViewDrawing::draw(const NxViewpoint& viewpoint, QSize size, float scale)
+bool ViewDrawing::makeCurrent()
 {
     if (isStarted() && (!m_context->makeCurrent() || NxOffscreenContext::isLost()))
         restart();
-    if (!isStarted())
+    return isStarted();
+}
+
+std::vector<std::vector<NxNode*>> ViewDrawing::seenIn(
+    const QRect& part, const NxViewpoint& viewpoint, QSize size, float scale)
+{
+    if (!makeCurrent())
+        return {};
+    const NxPixelRectangle pixels{part.left(), size.height() - part.top() - part.height(), part.width(), part.height()};
+    return m_drawing->seenIn(pixels, viewpoint, size.width(), size.height(), scale);
+}
+
+QImage ViewDrawing::draw(const NxViewpoint& viewpoint, QSize size, float scale)
+{
+    if (!makeCurrent())
         return {};
     const QSize possible = m_buffer->bind(size);
     if (possible.isEmpty())

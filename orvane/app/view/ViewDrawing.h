@@ -8,6 +8,7 @@
 #include "meridane/gl/gpu/NxDrawingCounts.h"
 #include "meridane/gl/gpu/NxGLFunctions.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
+#include "meridane/gl/places/NxNodeVisibility.h"
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
@@ -53,10 +54,18 @@ public:
     void setMarkedPoints(const std::vector<NxNode*>& nodes, std::vector<VbVec3f> points);
     /// Outlines more quietly what a click would select; none for nothing.
     void setHoveredPath(const std::vector<NxNode*>& nodes);
+    /// Outlines these nodes too, with a weaker line, in all their places.
+    void setOtherSelectedNodes(const std::vector<NxNode*>& nodes);
+    /// Draws only what is shown; until another scene is set.
+    void setVisibility(const NxNodeVisibility& visibility);
+    [[nodiscard]] const NxNodeVisibility& visibility() const noexcept { return m_visibility; }
     void setStyle(const NxDrawingStyle& style);
 
     /// A picture of that size in device pixels; a null image when there can't be one.
     [[nodiscard]] QImage draw(const NxViewpoint& viewpoint, QSize size, float scale);
+    /// The meshes that are seen in a part of such a picture: see `NxSceneDrawing::seenIn`. Nothing before the start.
+    [[nodiscard]] std::vector<std::vector<NxNode*>> seenIn(
+        const QRect& part, const NxViewpoint& viewpoint, QSize size, float scale);
     /// The box around the scene or the last of these nodes; empty before the start.
     [[nodiscard]] NxBounds bounds() const;
     [[nodiscard]] NxBounds bounds(const std::vector<NxNode*>& nodes) const;
@@ -74,12 +83,15 @@ public:
 private:
     [[nodiscard]] bool makeContext();
     void giveUp(const QString& reason);
+    [[nodiscard]] bool makeCurrent();
 
     std::function<void()> m_hook;
     NxRef<NxGroup> m_scene;
     std::vector<NxRef<NxNode>> m_selected;
     std::vector<NxRef<NxNode>> m_markedPath; // until the start
     std::vector<VbVec3f> m_markedPoints;
+    std::vector<NxRef<NxNode>> m_otherSelected;
+    NxNodeVisibility m_visibility;
     NxDrawingStyle m_style;
     TextureFiles m_textures;
     QString m_problem;

@@ -72,7 +72,8 @@ void ViewInput::mousePress(const QMouseEvent& event)
     if (giveToTools(event))
         return;
     if (event.button() == Qt::MiddleButton
-        || (event.button() == Qt::LeftButton && event.modifiers().testFlag(Qt::ShiftModifier)))
+        || (event.button() == Qt::LeftButton
+            && event.modifiers().testAnyFlags(Qt::ShiftModifier | Qt::ControlModifier)))
         m_navigation.startDrag(ViewNavigation::Drag::Pan, event.position());
     else if (event.button() == Qt::LeftButton)
         m_navigation.startDrag(ViewNavigation::Drag::Orbit, event.position());

@@ -5,6 +5,7 @@
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/SceneView.h"
+#include "orvane/app/view/ViewSelection.h"
 
 #include "meridane/scene/nodes/NxMesh.h"
 
@@ -63,6 +64,7 @@ ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QSta
     connect(&document, &SceneDocument::fileNameChanged, this,
         [this] { m_view->drawing().setFolder(m_session.document().pathFolder()); });
     connect(tree, &SceneTreePanel::selectionChanged, this, &ViewLink::showSelection);
+    new ViewSelection(view, tree);
     connect(view, &SceneView::picked, this, &ViewLink::choose);
     connect(view, &SceneView::pickedNothing, this, &ViewLink::chooseNothing);
 }

@@ -27,7 +27,10 @@
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/tree/SelectionStatus.h"
+#include "orvane/app/tree/TreeActions.h"
+#include "orvane/app/tree/TreeMemory.h"
 #include "orvane/app/view/CameraMenu.h"
+#include "orvane/app/view/HidingActions.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/ViewActions.h"
 #include "orvane/app/view/ViewLink.h"
@@ -216,6 +219,7 @@ void MainWindow::buildDocks()
     connect(problems, &ProblemsDock::rowChosen, lists, &ListDock::showRow);
     new ReturnedNodes(m_session.services(), *travel, m_tree);
     new SelectionStatus(m_session, m_tree, statusBar());
+    new TreeMemory(m_session, m_tree);
     new ViewLink(m_session, m_view, m_tree, statusBar());
     connect(lists, &ListDock::panelMade, new MarkedRows(m_view, m_tree), &MarkedRows::follow);
     statusBar()->addPermanentWidget(m_jobBar);
@@ -238,7 +242,8 @@ void MainWindow::buildMenus()
         m_session, *m_imageFolders, m_tree, std::bind_front(&SelectionLink::browse, &m_inspectors->link()), this);
     auto* cameras = new CameraMenu(m_view, document());
     auto* viewMenu = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), cameras);
-    new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodeActions());
+    auto* hiding = new HidingActions(m_view, m_tree, statusBar());
+    new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodeActions() + hiding->nodeActions());
     const auto* actions
         = new WindowActions(this, m_session, {m_tree, m_fields, *m_inspectors, *m_files, *m_recent, *cameras});
     const auto* const help = new HelpMenu(this, *m_shell, actions->keysAction());
@@ -263,6 +268,7 @@ void MainWindow::buildMenus()
     connect(m_imageFolders, &ImageFolderQuestion::changed, forget, enable);
     connect(forget, &QAction::triggered, m_imageFolders, &ImageFolderQuestion::forgetFolders);
     viewMenu->append((new ViewHandles(m_session, m_view, m_tree))->menuActions());
+    viewMenu->append(hiding->actions() + (new TreeActions(m_tree, statusBar()))->menuActions());
     viewMenu->append(m_inspectors->menuActions());
     viewMenu->append(
         {(new DisplayMenu(m_view, m_session))->menuAction(), (new MeasureTool(m_view, m_session))->action()});

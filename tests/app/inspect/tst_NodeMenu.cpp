@@ -90,8 +90,9 @@ private Q_SLOTS:
         rightClickTree(placeOf("/robot/hand"));
         QCOMPARE(services().getSelectedNode(), node("/robot/hand"));
         QCOMPARE(texts(),
-            QStringList({QStringLiteral("Rename Node"), QStringLiteral("Delete Node"), QStringLiteral("Favorite Node"),
-                QStringLiteral("Copy Path"), QStringLiteral("Copy All Fields"), QStringLiteral("Paste All Fields"),
+            QStringList({QStringLiteral("Rename Node"), QStringLiteral("Delete Node"), QStringLiteral("Isolate"),
+                QStringLiteral("Hide"), QStringLiteral("Favorite Node"), QStringLiteral("Copy Path"),
+                QStringLiteral("Copy All Fields"), QStringLiteral("Paste All Fields"),
                 QStringLiteral("Lock Inspector on This"), QStringLiteral("New Inspector"),
                 QStringLiteral("Frame Selection"), QStringLiteral("Frame All")}));
     }

@@ -1,3 +1,5 @@
+#include "Patience.h"
+
 #include "orvane/app/tree/NodeIcons.h"
 
 #include "meridane/base/values/VbName.h"
@@ -16,13 +18,39 @@
 #include "meridane/scene/nodes/NxTransform.h"
 #include "meridane/scene/nodes/NxUnknownNode.h"
 
+#include <QFile>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QProcess>
+#include <QResource>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <array>
 
+/// A class of a plug-in with an icon, one that derives from it, and one whose icon can't be drawn.
+class NxGear : public NxTransform {
+    NX_NODE(NxGear)
+};
+class NxFineGear : public NxGear {
+    NX_NODE(NxFineGear)
+};
+class NxBrokenGear : public NxTransform {
+    NX_NODE(NxBrokenGear)
+};
+NX_NODE_SOURCE(NxGear, NxTransform, "Gear")
+NX_NODE_SOURCE(NxFineGear, NxGear, "FineGear")
+NX_NODE_SOURCE(NxBrokenGear, NxTransform, "BrokenGear")
+
 class TestNodeIcons : public QObject {
     Q_OBJECT
+
+    static void write(const QString& fileName, const QByteArray& content)
+    {
+        QFile file(fileName);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
 
     static QImage picture(NxType type, QIcon::Mode mode = QIcon::Normal)
     {
@@ -58,6 +86,28 @@ private Q_SLOTS:
     {
         QCOMPARE(picture(NxOrthographicCamera::getClassTypeId()), picture(NxPerspectiveCamera::getClassTypeId()));
         QCOMPARE(picture(NxMatrixTransform::getClassTypeId()), picture(NxTransform::getClassTypeId()));
+    }
+
+    void aPluginGivesItsClassesIcons()
+    {
+        const QTemporaryDir folder;
+        write(folder.filePath(QStringLiteral("gear.svg")),
+            "<svg xmlns='http://www.w3.org/2000/svg' width='16' height='16'><rect width='16' height='16' "
+            "fill='#ff0000'/></svg>");
+        write(folder.filePath(QStringLiteral("broken.svg")), "no picture");
+        write(folder.filePath(QStringLiteral("icons.qrc")),
+            "<RCC><qresource prefix='/orvane/node-icons'><file alias='Gear.svg'>gear.svg</file>"
+            "<file alias='BrokenGear.svg'>broken.svg</file></qresource></RCC>");
+        QProcess compiler;
+        compiler.start(QLibraryInfo::path(QLibraryInfo::LibraryExecutablesPath) + QStringLiteral("/rcc"),
+            {QStringLiteral("--binary"), QStringLiteral("-o"), folder.filePath(QStringLiteral("icons.rcc")),
+                folder.filePath(QStringLiteral("icons.qrc"))});
+        QVERIFY(compiler.waitForFinished(testPatience));
+        QVERIFY2(compiler.exitCode() == 0, compiler.readAllStandardError().constData());
+        QVERIFY(QResource::registerResource(folder.filePath(QStringLiteral("icons.rcc"))));
+        QCOMPARE(picture(NxGear::getClassTypeId()).pixelColor(16, 16), QColor(Qt::red));
+        QCOMPARE(picture(NxFineGear::getClassTypeId()), picture(NxGear::getClassTypeId()));
+        QCOMPARE(picture(NxBrokenGear::getClassTypeId()), picture(NxTransform::getClassTypeId()));
     }
 
     void aSelectedIconHasABrightBackground()

@@ -1,12 +1,16 @@
 #include "app/AppScenes.h"
 
+#include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/tree/NodeMarks.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 
+#include "meridane/scene/fields/NxField.h"
+
 #include <QAbstractItemModelTester>
 #include <QLabel>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTreeView>
 
@@ -57,6 +61,17 @@ private:
         return darkest;
     }
 
+    void clickEye(NxNode* node)
+    {
+        const QModelIndex eye = indexOf(node).siblingAtColumn(SceneTreeModel::ShownColumn);
+        QTest::mouseClick(
+            m_panel->view()->viewport(), Qt::LeftButton, Qt::NoModifier, m_panel->view()->visualRect(eye).center());
+    }
+    [[nodiscard]] QString accessibleText(NxNode* node)
+    {
+        return indexOf(node).siblingAtColumn(SceneTreeModel::ShownColumn).data(Qt::AccessibleTextRole).toString();
+    }
+
 private Q_SLOTS:
     void init()
     {
@@ -89,6 +104,59 @@ private Q_SLOTS:
         QVERIFY(!indexOf(robot(1)).data(SceneTreeModel::GreyedRole).toBool());
         QVERIFY(!indexOf(robot(0)).data(Qt::FontRole).value<QFont>().bold());
         QCOMPARE(textColor(robot(1)), usual);
+    }
+
+    void aClickOnAnEyeHidesTheNode()
+    {
+        clickEye(robot(0));
+        QCOMPARE(m_panel->hidden().hidden(), std::vector<NxNode*>{robot(0)});
+        QVERIFY(!m_panel->selected().isValid()); // it selects nothing
+        QCOMPARE(accessibleText(robot(0)), QStringLiteral("Hidden"));
+        clickEye(robot());
+        QCOMPARE(accessibleText(robot(1)), QStringLiteral("Hidden"));
+        clickEye(robot(1)); // below a hidden group: shows it, and so the group
+        QCOMPARE(m_panel->hidden().hidden(), std::vector<NxNode*>{robot(0)});
+        QCOMPARE(accessibleText(robot(1)), QStringLiteral("Shown"));
+        m_panel->hidden().isolate(std::vector<NxNode*>{robot(2)});
+        clickEye(robot(1));
+        QCOMPARE(m_panel->hidden().isolated(), (std::vector<NxNode*>{robot(2), robot(1)}));
+    }
+
+    void anEyeOfTheSelectionHidesAllOfIt()
+    {
+        m_panel->selection().select(std::vector<NxNode*>{robot(0), robot(2)});
+        clickEye(robot(2));
+        QCOMPARE(m_panel->hidden().hidden(), (std::vector<NxNode*>{robot(0), robot(2)}));
+        clickEye(robot(1));
+        QCOMPARE(m_panel->hidden().hidden().size(), std::size_t{3});
+        clickEye(robot(0));
+        QCOMPARE(m_panel->hidden().hidden(), std::vector<NxNode*>{robot(1)});
+    }
+
+    void foldedNodesHaveTheNumberOfTheirChildren()
+    {
+        QTreeView& view = *m_panel->view();
+        const auto rowPicture = [&] { return view.viewport()->grab(view.visualRect(indexOf(robot()))).toImage(); };
+        const QImage unfolded = rowPicture();
+        view.collapseAll();
+        const QImage three = rowPicture();
+        QVERIFY(three != unfolded);
+        dynamic_cast<NxGroup*>(robot())->removeChild(0);
+        AppScenes::runSensors();
+        QVERIFY(rowPicture() != three);
+    }
+
+    void nodesWithIgnoredFieldsAreKnown()
+    {
+        QVERIFY(!indexOf(robot(0)).data(SceneTreeModel::IgnoredRole).toBool());
+        const QSignalSpy changed(&model(), &QAbstractItemModel::dataChanged);
+        QVERIFY(!m_panel->view()->viewport()->grab().isNull()); // asks for the rows
+        robot(0)->getFields().front()->setIgnored(1);
+        AppScenes::runSensors();
+        QVERIFY(indexOf(robot(0)).data(SceneTreeModel::IgnoredRole).toBool());
+        QCOMPARE(changed.size(), 1);
+        const QString tip = indexOf(robot(0)).data(Qt::ToolTipRole).toString();
+        QVERIFY2(tip.contains(QStringLiteral("Ignored fields: ")), qPrintable(tip));
     }
 
     void foldsAreRestored()

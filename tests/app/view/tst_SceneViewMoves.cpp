@@ -52,6 +52,7 @@ private Q_SLOTS:
         QTest::addColumn<Qt::KeyboardModifier>("modifier");
         QTest::newRow("middle button") << Qt::MiddleButton << Qt::NoModifier;
         QTest::newRow("Shift and left button") << Qt::LeftButton << Qt::ShiftModifier;
+        QTest::newRow("Ctrl and left button") << Qt::LeftButton << Qt::ControlModifier;
     }
 
     void pansByADrag()

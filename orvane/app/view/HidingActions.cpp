@@ -1,0 +1,97 @@
+#include "orvane/app/view/HidingActions.h"
+
+#include "orvane/app/tree/HiddenNodes.h"
+#include "orvane/app/tree/NodeSelection.h"
+#include "orvane/app/tree/SceneTreePanel.h"
+#include "orvane/app/tree/facts/ShownIcons.h"
+#include "orvane/app/view/SceneView.h"
+
+#include <QAction>
+#include <QStatusBar>
+#include <QToolButton>
+#include <QTreeView>
+
+namespace {
+
+std::vector<NxNode*> selectedNodes(const SceneTreePanel& tree)
+{
+    std::vector<NxNode*> result;
+    if (const auto nodes = tree.selection().nodes()) {
+        for (const auto& node : *nodes)
+            result.push_back(static_cast<NxNode*>(node.get()));
+    }
+    return result;
+}
+
+} // namespace
+
+HidingActions::HidingActions(SceneView* view, SceneTreePanel* tree, QStatusBar* bar)
+    : QObject(view)
+    , m_tree(tree)
+    , m_view(view)
+    , m_hidden(tree->hidden())
+    , m_isolate(add("node.isolate", tr("Isolat&e"), tr("Shows the selected nodes alone in the view"),
+          Qt::CTRL | Qt::ALT | Qt::Key_H))
+    , m_hide(
+          add("node.hide", tr("Hide"), tr("Hides the selected nodes in the view; the scene stays as it is"), Qt::Key_H))
+    , m_showAll(add("view.showAll", tr("Show All"), tr("Shows all nodes that were hidden or left out by isolating"),
+          Qt::SHIFT | Qt::Key_H))
+    , m_status(new QToolButton(bar))
+{
+    connect(m_isolate, &QAction::triggered, this, &HidingActions::isolate);
+    connect(m_hide, &QAction::triggered, this, &HidingActions::hide);
+    connect(m_showAll, &QAction::triggered, &m_hidden, &HiddenNodes::showAll);
+    m_status->setObjectName(QStringLiteral("hiddenStatus"));
+    m_status->setAutoRaise(true);
+    m_status->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_status->setIcon(orvane::hiddenIcon(bar->palette()));
+    m_status->setToolTip(tr("Shows all nodes again (Shift+H)"));
+    connect(m_status, &QToolButton::clicked, &m_hidden, &HiddenNodes::showAll);
+    bar->addPermanentWidget(m_status);
+    connect(&m_hidden, &HiddenNodes::changed, this, &HidingActions::update);
+    connect(tree, &SceneTreePanel::selectionChanged, this, &HidingActions::update);
+    update();
+}
+
+QAction* HidingActions::add(const char* name, const QString& text, const QString& tip, const QKeySequence& key)
+{
+    auto* const action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setStatusTip(tip);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    m_tree->addNodeAction(action);
+    m_view->addAction(action);
+    return action;
+}
+
+void HidingActions::hide()
+{
+    m_hidden.hide(selectedNodes(*m_tree));
+}
+
+void HidingActions::isolate()
+{
+    m_hidden.isolate(selectedNodes(*m_tree));
+}
+
+void HidingActions::update()
+{
+    const bool isAny = m_tree->selected().isValid();
+    for (QAction* const action : {m_isolate, m_hide}) {
+        action->setEnabled(isAny);
+        action->setToolTip(isAny ? action->statusTip() : tr("No node is selected"));
+    }
+    m_showAll->setEnabled(!m_hidden.isEmpty());
+    m_showAll->setToolTip(m_hidden.isEmpty() ? tr("Nothing is hidden") : m_showAll->statusTip());
+    m_status->setVisible(!m_hidden.isEmpty());
+    const auto hidden = static_cast<int>(m_hidden.hidden().size());
+    const auto isolated = static_cast<int>(m_hidden.isolated().size());
+    QString text = isolated == 1 ? tr("1 node isolated") : tr("%1 nodes isolated").arg(isolated);
+    if (isolated == 0)
+        text.clear();
+    if (hidden > 0)
+        text += (isolated > 0 ? QStringLiteral(", ") : QString())
+            + (hidden == 1 ? tr("1 hidden") : tr("%1 hidden").arg(hidden));
+    m_status->setText(text);
+}
