@@ -47,7 +47,7 @@ void ViewRectangle::mouseRelease(const QMouseEvent& event)
     const bool wasDrawn = m_isDrawn;
     end();
     if (!wasDrawn) {
-        if (const auto hit = m_view->hitAt(m_end))
+        if (const auto hit = m_view->input().hitAt(m_end))
             Q_EMIT clicked(hit->path);
         return;
     }

@@ -1,5 +1,6 @@
 #include "orvane/app/view/handles/SymbolTool.h"
 
+#include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/SceneView.h"
@@ -48,7 +49,7 @@ void SymbolTool::select()
     m_view->update();
 }
 
-// The way through the scene is made when nodes have come or gone, not with each picture.
+// The way through the scene is made when nodes have come, gone, or been hidden, not with each picture.
 void SymbolTool::follow() const
 {
     const NxGroup* const scene = m_view->scene();
@@ -58,6 +59,12 @@ void SymbolTool::follow() const
     m_scene = scene;
     m_structure = structure;
     m_symbols = scene != nullptr ? orvane::symbolsOf(*scene) : std::vector<SceneSymbol>();
+    std::erase_if(m_symbols, [this](const SceneSymbol& symbol) {
+        std::vector<NxNode*> path;
+        for (const NxRef<NxNode>& node : symbol.path)
+            path.push_back(node.get());
+        return !m_tree->hidden().isShown(path);
+    });
 }
 
 PictureProjection SymbolTool::projection() const

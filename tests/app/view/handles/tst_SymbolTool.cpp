@@ -1,5 +1,6 @@
 #include "app/view/handles/HandleCase.h"
 
+#include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/view/handles/SceneSymbols.h"
 
 #include "meridane/scene/nodes/NxCamera.h"
@@ -146,6 +147,18 @@ private Q_SLOTS:
         static_cast<void>(picture());
         click(placeOf(VbVec3d(2, 2, 1)));
         QCOMPARE(tree()->selectedNode(), choice->getChild(1)->getChildren()[0]);
+    }
+
+    void aHiddenLightHasNoSymbol()
+    {
+        tree()->hidden().hide(std::vector<NxNode*>{stand()->getChild(0)});
+        static_cast<void>(picture());
+        click(placeOf(VbVec3d(-1, 1, 1)));
+        QCOMPARE(tree()->selectedNode(), m_window->document().scene()->getChild(0));
+        tree()->hidden().showAll();
+        static_cast<void>(picture());
+        click(placeOf(VbVec3d(-1, 1, 1)));
+        QCOMPARE(tree()->selectedNode(), stand()->getChild(0));
     }
 
 private:
