@@ -53,6 +53,19 @@ private Q_SLOTS:
         QCOMPARE(seenIn(-1, -1, 1, 1), (Paths{leftPath(), rightPath()}));
     }
 
+    void whatASectionCutsOffIsNotSeen()
+    {
+        m_bench->restyle([](NxDrawingStyle& style) {
+            style.section.isOn = true;
+            style.section.normal = VbVec3f(1, 0, 0);
+            style.section.position = 0;
+        });
+        const QImage picture = m_bench->draw();
+        const bool isLeftSeen = isNear(pixelAt(picture, -0.5, 0), red);
+        QVERIFY(isLeftSeen != isNear(pixelAt(picture, 0.5, 0), green));
+        QCOMPARE(seenIn(-1, -1, 1, 1), Paths{isLeftSeen ? leftPath() : rightPath()});
+    }
+
     void aMeshIsFoundInEachPlace()
     {
         m_pair->right->addChild(m_pair->leftMesh.get());
@@ -87,16 +100,17 @@ private Q_SLOTS:
         m_bench->drawing().setOtherSelectedNodes(
             std::vector<NxNode*>{m_pair->right.get(), m_pair->rightMesh.get(), m_pair->rightMaterial.get()});
         const QImage picture = m_bench->draw();
-        const auto count = [&picture](const QColor& wanted) {
+        const auto changed = [&](int from, int to) {
             int pixels = 0;
-            for (int x = 0; x < picture.width(); ++x) {
+            for (int x = from; x < to; ++x) {
                 for (int y = 0; y < picture.height(); ++y)
-                    pixels += isNear(picture.pixelColor(x, y), wanted) ? 1 : 0;
+                    pixels += picture.pixel(x, y) != m_picture.pixel(x, y) ? 1 : 0;
             }
             return pixels;
         };
-        QVERIFY(count(blue) > 50);
-        QVERIFY(count(white) > count(blue));
+        const int weaker = changed(side / 2, side);
+        QVERIFY(weaker > 50);
+        QVERIFY2(changed(0, side / 2) > weaker, qPrintable(QString::number(weaker)));
         m_bench->drawing().setOtherSelectedNodes({});
         m_bench->drawing().setSelectedPath({});
         QCOMPARE(m_bench->draw(), m_picture);

@@ -6,6 +6,7 @@
 #include "meridane/gl/painting/detail/NumberColor.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 namespace meridane {
@@ -17,9 +18,13 @@ uniform vec3 origin;
 uniform mat4 modelMatrix;
 uniform mat4 eyeToClip;
 uniform float pointSize;
+uniform vec4 section;
+out float gl_ClipDistance[1];
 void main()
 {
-    gl_Position = eyeToClip * (modelMatrix * vec4(position - origin, 1.0));
+    vec4 point = modelMatrix * vec4(position - origin, 1.0);
+    gl_ClipDistance[0] = dot(vec4(point.xyz / point.w, 1.0), section);
+    gl_Position = eyeToClip * point;
     gl_PointSize = pointSize;
 }
 )";
@@ -104,9 +109,15 @@ std::vector<Id> SeenItems::find(PlacedScene& scene, ItemPainter& painter, const 
             state.setEnabled(GL_DEPTH_TEST);
             state.setEnabled(GL_PROGRAM_POINT_SIZE);
             state.setDepthFunction(GL_LEQUAL);
+            state.setEnabled(GL_CLIP_DISTANCE0, style.section.isOn);
             m_shapes.use();
             m_gl.UniformMatrix4fv(m_shapes.uniform("eyeToClip"), 1, GL_FALSE, frame.eyeToClip[0].data());
             m_gl.Uniform1f(m_shapes.uniform("pointSize"), style.pointSize * frame.scale);
+            // Without a section, nothing is on the wrong side of it.
+            const std::array<float, 4> section = style.section.isOn
+                ? frame.sectionFor(style.section.normal, style.section.position)
+                : std::array<float, 4>{0, 0, 0, 1};
+            m_gl.Uniform4fv(m_shapes.uniform("section"), 1, section.data());
             painter.drawShapes(scene, painter.found(),
                 {m_shapes.uniform("origin"), m_shapes.uniform("modelMatrix"), m_shapes.uniform("number")}, counts);
             m_gl.PixelStorei(GL_PACK_ALIGNMENT, 4);
