@@ -17,7 +17,7 @@
 namespace {
 
 /// As many are marked at once, in less than a millisecond.
-constexpr int rowsAtOnce = 20'000;
+constexpr int marksAtOnce = 20'000;
 
 } // namespace
 
@@ -129,7 +129,7 @@ void MarkedRows::update()
         if (!m_isFresh)
             m_timer.start(0);
     });
-    if (orvane::rowCount(places) <= rowsAtOnce)
+    if (orvane::rowCount(places) <= marksAtOnce)
         m_job->runAll();
     else
         m_job->start();
