@@ -6,10 +6,10 @@
 #include "orvane/app/files/FileJobs.h"
 #include "orvane/app/files/RecentFiles.h"
 #include "orvane/app/files/SaveQuestion.h"
-#include "orvane/app/files/SpaceStep.h"
 #include "orvane/app/scene/NodeCommands.h"
 #include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/scene/SpaceStep.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
 
@@ -205,7 +205,7 @@ void FileFlow::startOpen(const QString& fileName, const Opened& opened)
 {
     const auto makeJob = [this, fileName] { return m_jobMakers.load(fileName); };
     const auto show = [this, fileName](const ReadScene& read) {
-        const SpaceStep conversion(read);
+        const SpaceStep conversion(read.isConverted ? read.scene.get() : nullptr);
         m_session.document().open(read.journal, fileName, read.content);
         conversion.push(m_session.services());
     };

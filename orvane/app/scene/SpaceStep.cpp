@@ -1,6 +1,5 @@
-#include "orvane/app/files/SpaceStep.h"
+#include "orvane/app/scene/SpaceStep.h"
 
-#include "orvane/app/files/FileJob.h"
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/scene/fields/NxField.h"
@@ -17,11 +16,11 @@ struct SpaceTexts {
 
 } // namespace
 
-SpaceStep::SpaceStep(const ReadScene& read)
+SpaceStep::SpaceStep(NxGroup* scene)
 {
-    if (!read.isConverted || read.scene->getNumChildren() == 0)
+    if (scene == nullptr || scene->getNumChildren() == 0)
         return;
-    NxNode* const top = read.scene->getChild(0);
+    NxNode* const top = scene->getChild(0);
     const NxFieldData& data = *top->getFieldData();
     for (int index = 0; index < data.getNumFields(); ++index) {
         NxField* const field = data.getField(top, index);
