@@ -15,8 +15,6 @@ constexpr double snapAngle = 15;
 constexpr double snapFactor = 0.1;
 /// The least distance of two snapped places, in points of the screen.
 constexpr double snapPoints = 12;
-/// The cosine of the angle to a plane below which a turn follows the pointer along the ring instead.
-constexpr double flattest = 0.15;
 /// A scale along all axes doubles over that distance.
 constexpr double pointsPerDouble = 80;
 
@@ -83,7 +81,7 @@ VbVec3d HandleDrag::onPlane(const PicturePlace& place) const
 double HandleDrag::angleAt(const PicturePlace& place) const
 {
     const PicturePlace center = m_projection.placeOf(m_frame.pivot).value_or(m_start);
-    if (std::abs(dot(m_normal, m_sight)) < flattest) {
+    if (std::abs(dot(m_normal, m_sight)) < HandleShape::flattest) {
         // Seen from its edge: the pointer goes along the ring, whose front moves like this.
         const VbVec3d way = cross(m_normal, scaled(m_sight, -1));
         const double right = dot(way, m_projection.right());
@@ -154,7 +152,7 @@ PlacementChange HandleDrag::turnAt(const PicturePlace& place, bool snaps)
 {
     const double angle = angleAt(place);
     const double step = std::remainder(angle - m_lastAngle, 2 * std::numbers::pi);
-    const bool isFlat = std::abs(dot(m_normal, m_sight)) < flattest;
+    const bool isFlat = std::abs(dot(m_normal, m_sight)) < HandleShape::flattest;
     m_angle += isFlat ? angle - m_lastAngle : step;
     m_lastAngle = angle;
     const double degrees = m_angle / radiansPerDegree;

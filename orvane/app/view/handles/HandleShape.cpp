@@ -20,8 +20,6 @@ constexpr double planeStart = 0.3;
 constexpr double planeSize = 0.22;
 /// An arm that is seen shorter than that points at the viewer.
 constexpr double shortestArm = 14;
-/// The cosine of the angle to a plane below which it is seen from its edge.
-constexpr double flattest = 0.15;
 constexpr int ringSteps = 72;
 
 constexpr std::array lineParts{HandlePart::X, HandlePart::Y, HandlePart::Z};

@@ -31,6 +31,9 @@ public:
 
     /// The length of an arm, and the radius of the rings, in points of the screen.
     static constexpr double armLength = 80;
+    /// The cosine of the angle between the line of sight and the normal of a plane below which the plane is seen from
+    /// its edge.
+    static constexpr double flattest = 0.15;
 
     /// A line or an area of a part.
     struct Piece {
