@@ -4,6 +4,7 @@
 #include "meridane/scene/nodes/ChildrenRecord.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <unordered_set>
 
@@ -23,10 +24,12 @@ void makeRoom(std::vector<NxNode*>& nodes)
         nodes.reserve(2 * nodes.size() + 1);
 }
 
-/// Whether `wanted` is below `top`. Keeps its own stack, since nodes may be nested deeply.
-bool holds(NxNode* top, const NxNode* wanted)
+/// Whether one of these nodes is above `wanted`. Keeps its own stack, since nodes may be nested deeply.
+bool lieAbove(std::span<NxNode* const> nodes, const NxNode* wanted)
 {
-    std::vector<NxNode*> waiting{top};
+    std::vector<NxNode*> waiting;
+    std::ranges::copy_if(
+        nodes, std::back_inserter(waiting), [](const NxNode* node) { return !node->getChildren().empty(); });
     std::unordered_set<const NxNode*> seen; // shared nodes are visited once
     while (!waiting.empty()) {
         NxNode* node = waiting.back();
@@ -99,7 +102,7 @@ bool NxGroup::insertChild(NxNode* node, int index)
     if (node == nullptr || node == this || index < 0 || index > getNumChildren())
         return false;
     // A group without parents closes no cycle, so that scenes can be built from the bottom up without a search.
-    if (m_places > 0 && holds(node, this))
+    if (m_places > 0 && lieAbove(std::span(&node, 1), this))
         return false;
     makeRoom(m_children);
     const auto place = static_cast<std::size_t>(index);
@@ -142,9 +145,8 @@ bool NxGroup::replaceChildren(int index, int count, std::span<NxNode* const> nod
 {
     if (index < 0 || count < 0 || index > getNumChildren() || count > getNumChildren() - index)
         return false;
-    const auto isRefused
-        = [this](NxNode* node) { return node == nullptr || node == this || (m_places > 0 && holds(node, this)); };
-    if (std::ranges::any_of(nodes, isRefused))
+    const auto isRefused = [this](const NxNode* node) { return node == nullptr || node == this; };
+    if (std::ranges::any_of(nodes, isRefused) || (m_places > 0 && lieAbove(nodes, this)))
         return false;
     if (count == 0 && nodes.empty())
         return true;

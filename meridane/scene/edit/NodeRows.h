@@ -1,0 +1,36 @@
+#pragma once
+
+#include "meridane/scene/nodes/NxGroup.h"
+
+#include <vector>
+
+namespace meridane {
+
+/// Some children of a group, in one of the places that the group has in a scene. The nodes must be alive.
+struct NodeRows {
+    std::vector<NxGroup*> path; ///< from the group that holds the top nodes down to the group of the children
+    std::vector<int> places; ///< for each group of the path but the first its index in the group above
+    std::vector<int> rows; ///< the indices of the children, rising, each once
+
+    [[nodiscard]] NxGroup& group() const { return *path.back(); }
+};
+
+/// Children of several groups, such as a selection.
+using NodeSet = std::vector<NodeRows>;
+
+/// A child of one of the groups of a set.
+struct SetMember {
+    const NodeRows* rows;
+    int row;
+
+    [[nodiscard]] NxNode* node() const { return rows->group().getChild(row); }
+};
+
+/// The same without children that are below others of the set, and with each child of a group once, however many places
+/// the group has. The groups are in the order of the scene.
+[[nodiscard]] NodeSet topmost(NodeSet set);
+/// The children in the order in which a tree of the scene shows them. The set must live as long.
+[[nodiscard]] std::vector<SetMember> inTreeOrder(const NodeSet& set);
+[[nodiscard]] std::size_t countOf(const NodeSet& set);
+
+} // namespace meridane
