@@ -1,7 +1,7 @@
 #pragma once
 
-#include "orvane/app/fields/popups/MatrixParts.h"
 #include "orvane/app/fields/popups/PopupFrame.h"
+#include "orvane/app/scene/MatrixParts.h"
 
 #include <array>
 

@@ -1,10 +1,10 @@
 #include "orvane/app/fields/popups/RotationPopup.h"
 
-#include "orvane/app/fields/popups/MatrixParts.h"
 #include "orvane/app/fields/popups/NumberRow.h"
 #include "orvane/app/fields/popups/ShownNumber.h"
 #include "orvane/app/input/NumberLine.h"
 #include "orvane/app/look/Look.h"
+#include "orvane/app/scene/MatrixParts.h"
 
 #include <QCheckBox>
 #include <QFormLayout>

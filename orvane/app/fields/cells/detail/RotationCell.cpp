@@ -6,9 +6,9 @@
 #include "orvane/app/fields/editors/FieldNumbers.h"
 #include "orvane/app/fields/editors/NumberEditor.h"
 #include "orvane/app/fields/editors/PopupEditor.h"
-#include "orvane/app/fields/popups/MatrixParts.h"
 #include "orvane/app/fields/popups/RotationPopup.h"
 #include "orvane/app/fields/popups/ShownNumber.h"
+#include "orvane/app/scene/MatrixParts.h"
 
 #include "meridane/scene/fields/single/NxSFRotation.h"
 

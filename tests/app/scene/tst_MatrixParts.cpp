@@ -1,4 +1,4 @@
-#include "orvane/app/fields/popups/MatrixParts.h"
+#include "orvane/app/scene/MatrixParts.h"
 
 #include <QTest>
 
