@@ -7,8 +7,8 @@
 #include "orvane/app/fields/FieldTableView.h"
 #include "orvane/app/fields/editors/CellServices.h"
 #include "orvane/app/fields/editors/ImageReplacement.h"
-#include "orvane/app/fields/values/FieldText.h"
 #include "orvane/app/fields/values/FieldWriter.h"
+#include "orvane/app/scene/NodeName.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
 

@@ -2,10 +2,10 @@
 
 #include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/PlainText.h"
-#include "orvane/app/fields/values/FieldText.h"
 #include "orvane/app/inspect/FavoriteDelegate.h"
 #include "orvane/app/inspect/FavoriteNodes.h"
 #include "orvane/app/inspect/InspectIcons.h"
+#include "orvane/app/scene/NodeName.h"
 #include "orvane/app/tree/NodeIcons.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"

@@ -1,7 +1,7 @@
 #include "orvane/app/fields/values/FieldSet.h"
 
 #include "orvane/app/base/TextConversion.h"
-#include "orvane/app/fields/values/FieldText.h"
+#include "orvane/app/scene/NodeName.h"
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/components/FieldComponents.h"

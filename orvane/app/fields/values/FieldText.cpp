@@ -5,7 +5,6 @@
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/fields/NxMField.h"
-#include "meridane/scene/nodes/NxNode.h"
 
 #include <QLocale>
 
@@ -34,14 +33,6 @@ QString beginningOf(const NxField& field, qsizetype length)
 QString typeName(const NxField& field)
 {
     return QString::fromLatin1(field.getTypeId().getName().getString());
-}
-
-QString nodeName(const NxFieldContainer& node)
-{
-    if (!node.getName().isEmpty())
-        return shortLine(toQString(node.getName()));
-    const auto* const sceneNode = dynamic_cast<const NxNode*>(&node);
-    return QString::fromUtf8(sceneNode != nullptr ? sceneNode->getClassName() : node.getTypeId().getName().getString());
 }
 
 QString rowCountText(const NxMField& list)

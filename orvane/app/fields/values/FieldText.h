@@ -3,7 +3,6 @@
 #include <QString>
 
 class NxField;
-class NxFieldContainer;
 class NxMField;
 
 namespace orvane {
@@ -14,9 +13,6 @@ namespace orvane {
 
 /// The name of a field's class, as users know it.
 [[nodiscard]] QString typeName(const NxField& field);
-
-/// The name of a node in a short line, or that of its class.
-[[nodiscard]] QString nodeName(const NxFieldContainer& node);
 
 /// How many rows a list has, and of what, such as "1,000,000 × Vec3f".
 [[nodiscard]] QString rowCountText(const NxMField& list);

@@ -6,6 +6,7 @@
 #include "orvane/app/fields/values/FieldWriteCommand.h"
 #include "orvane/app/fields/values/IgnoreCommand.h"
 #include "orvane/app/fields/values/Refusal.h"
+#include "orvane/app/scene/NodeName.h"
 #include "orvane/extender/OrvCommand.h"
 #include "orvane/extender/OrvServices.h"
 
