@@ -2,6 +2,9 @@
 
 #include "meridane/scene/nodes/NxNode.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace meridane {
 
 NodeTraversal::NodeTraversal(const NxNode& top)
@@ -51,6 +54,26 @@ std::vector<int> NodeTraversal::indices() const
     for (const Level& level : m_levels)
         indices.push_back(static_cast<int>(level.next) - 1);
     return indices;
+}
+
+// Keeps its own stack, since nodes may be nested deeply.
+bool isAbove(std::span<NxNode* const> nodes, const NxNode* wanted)
+{
+    std::vector<NxNode*> waiting;
+    std::ranges::copy_if(
+        nodes, std::back_inserter(waiting), [](const NxNode* node) { return !node->getChildren().empty(); });
+    std::unordered_set<const NxNode*> seen; // shared nodes are visited once
+    while (!waiting.empty()) {
+        NxNode* node = waiting.back();
+        waiting.pop_back();
+        for (NxNode* child : node->getChildren()) {
+            if (child == wanted)
+                return true;
+            if (!child->getChildren().empty() && (child->getRefCount() == 1 || seen.insert(child).second))
+                waiting.push_back(child);
+        }
+    }
+    return false;
 }
 
 } // namespace meridane

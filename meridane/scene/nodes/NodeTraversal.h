@@ -54,4 +54,7 @@ private:
     bool m_isFirstUse = false;
 };
 
+/// Whether `wanted` is below one of these nodes, at any depth.
+[[nodiscard]] bool isAbove(std::span<NxNode* const> nodes, const NxNode* wanted);
+
 } // namespace meridane

@@ -2,11 +2,10 @@
 
 #include "meridane/scene/fields/ChangeRecorder.h"
 #include "meridane/scene/nodes/ChildrenRecord.h"
+#include "meridane/scene/nodes/NodeTraversal.h"
 
 #include <algorithm>
-#include <iterator>
 #include <memory>
-#include <unordered_set>
 
 NX_NODE_SOURCE(NxGroup, NxNode, "Group", "A node that holds other nodes, in order.")
 
@@ -22,26 +21,6 @@ void makeRoom(std::vector<NxNode*>& nodes)
 {
     if (nodes.size() == nodes.capacity())
         nodes.reserve(2 * nodes.size() + 1);
-}
-
-/// Whether one of these nodes is above `wanted`. Keeps its own stack, since nodes may be nested deeply.
-bool lieAbove(std::span<NxNode* const> nodes, const NxNode* wanted)
-{
-    std::vector<NxNode*> waiting;
-    std::ranges::copy_if(
-        nodes, std::back_inserter(waiting), [](const NxNode* node) { return !node->getChildren().empty(); });
-    std::unordered_set<const NxNode*> seen; // shared nodes are visited once
-    while (!waiting.empty()) {
-        NxNode* node = waiting.back();
-        waiting.pop_back();
-        for (NxNode* child : node->getChildren()) {
-            if (child == wanted)
-                return true;
-            if (!child->getChildren().empty() && (child->getRefCount() == 1 || seen.insert(child).second))
-                waiting.push_back(child);
-        }
-    }
-    return false;
 }
 
 } // namespace
@@ -102,7 +81,7 @@ bool NxGroup::insertChild(NxNode* node, int index)
     if (node == nullptr || node == this || index < 0 || index > getNumChildren())
         return false;
     // A group without parents closes no cycle, so that scenes can be built from the bottom up without a search.
-    if (m_places > 0 && lieAbove(std::span(&node, 1), this))
+    if (m_places > 0 && meridane::isAbove(std::span(&node, 1), this))
         return false;
     makeRoom(m_children);
     const auto place = static_cast<std::size_t>(index);
@@ -146,7 +125,7 @@ bool NxGroup::replaceChildren(int index, int count, std::span<NxNode* const> nod
     if (index < 0 || count < 0 || index > getNumChildren() || count > getNumChildren() - index)
         return false;
     const auto isRefused = [this](const NxNode* node) { return node == nullptr || node == this; };
-    if (std::ranges::any_of(nodes, isRefused) || (m_places > 0 && lieAbove(nodes, this)))
+    if (std::ranges::any_of(nodes, isRefused) || (m_places > 0 && meridane::isAbove(nodes, this)))
         return false;
     if (count == 0 && nodes.empty())
         return true;
