@@ -6,6 +6,7 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/scene/NodeCommands.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/structure/NodeActions.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 
@@ -18,7 +19,9 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStatusBar>
 
+#include <chrono>
 #include <utility>
 
 namespace {
@@ -50,6 +53,7 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
     : QObject(window)
     , m_session(session)
     , m_tree(tree)
+    , m_nodes(new NodeActions(session, tree))
 {
     QMenu* menu = window->menuBar()->addMenu(tr("&Edit"));
     menu->setObjectName(QStringLiteral("editMenu"));
@@ -72,14 +76,14 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
     m_rename = add(tr("Re&name Node"), Qt::Key_F2, "node.rename");
     m_rename->setStatusTip(tr("Edits the name of the selected node in the tree"));
     connect(m_rename, &QAction::triggered, tree, &SceneTreePanel::renameSelected);
-    m_delete = add(tr("&Delete Node"), QKeySequence::Delete, "node.delete");
-    m_delete->setStatusTip(tr("Removes the selected node from the scene"));
-    connect(m_delete, &QAction::triggered, this, &EditMenu::deleteNode);
-    // These keys act on the selected node only while the tree or the view has the focus.
-    for (QAction* action : {m_rename, m_delete}) {
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        tree->addNodeAction(action);
-    }
+    // Its key acts on the selected node only while the tree or the view has the focus.
+    m_rename->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    tree->addNodeAction(m_rename);
+    menu->addActions(m_nodes->actions());
+    connect(&m_nodes->editor(), &NodeEditor::said, window, [window](const QString& text) {
+        constexpr std::chrono::seconds shown(10);
+        window->statusBar()->showMessage(text, static_cast<int>(std::chrono::milliseconds(shown).count()));
+    });
 
     connect(&session.services(), &OrvServices::historyChanged, this, &EditMenu::updateActions);
     connect(&session.services(), &OrvServices::documentEdited, this, &EditMenu::updateActions);
@@ -97,17 +101,9 @@ void EditMenu::renameNode(NxNode* node, const QString& name)
     m_session.services().pushCommand(new RenameNodeCommand(node, orvane::toVbString(name)));
 }
 
-void EditMenu::deleteNode()
+QList<QAction*> EditMenu::nodeActions() const
 {
-    const QModelIndex index = m_tree->selected();
-    NxGroup* group = m_tree->model()->group(index);
-    // The rows may be a moment behind the scene.
-    const NxNode* node = m_tree->model()->node(index);
-    if (group == nullptr)
-        return;
-    const int place = group->getChild(index.row()) == node ? index.row() : group->findChild(node);
-    if (place >= 0)
-        m_session.services().pushCommand(new RemoveNodeCommand(group, place, m_session.disposal()));
+    return QList<QAction*>{m_rename} + m_nodes->actions();
 }
 
 QList<QAction*> EditMenu::toolBarActions() const
@@ -141,8 +137,5 @@ void EditMenu::updateActions()
     };
     update(m_undo, services.canUndo(), tr("&Undo"), services.undoText());
     update(m_redo, services.canRedo(), tr("&Redo"), services.redoText());
-    const bool node = m_tree->selected().isValid();
-    const QString reason = node ? QString() : tr("Select a node first.");
-    orvane::setReason(*m_rename, reason);
-    orvane::setReason(*m_delete, reason);
+    orvane::setReason(*m_rename, m_tree->selected().isValid() ? QString() : tr("Select a node first."));
 }

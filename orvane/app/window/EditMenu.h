@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+class NodeActions;
 class NxNode;
 class QAction;
 class QMainWindow;
@@ -19,12 +20,11 @@ public:
 
     /// Renames a node as a step of the history.
     void renameNode(NxNode* node, const QString& name);
-    void deleteNode();
     [[nodiscard]] QList<QAction*> toolBarActions() const;
-    /// Deletes the selected node. Its key works in the tree, and in every other widget that the action is added to.
-    [[nodiscard]] QAction* deleteAction() const noexcept { return m_delete; }
-    /// What can be done with the node that is selected in the tree.
-    [[nodiscard]] QList<QAction*> nodeActions() const { return {m_rename, m_delete}; }
+    /// What can be done with the selected nodes. The keys work in the tree, and in every other widget that the actions
+    /// are added to.
+    [[nodiscard]] QList<QAction*> nodeActions() const;
+    [[nodiscard]] NodeActions& nodes() const noexcept { return *m_nodes; }
 
     bool eventFilter(QObject* object, QEvent* event) override;
 
@@ -36,5 +36,5 @@ private:
     QAction* m_undo;
     QAction* m_redo;
     QAction* m_rename;
-    QAction* m_delete;
+    NodeActions* m_nodes;
 };

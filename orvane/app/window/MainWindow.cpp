@@ -24,6 +24,7 @@
 #include "orvane/app/recovery/RecoveryOffer.h"
 #include "orvane/app/recovery/SceneRecovery.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/structure/NodeActions.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/tree/SelectionStatus.h"
@@ -217,7 +218,6 @@ void MainWindow::buildDocks()
     new DockHeights(*m_shell, m_session.services(), m_session.settings(), this);
     auto* problems = new ProblemsDock(m_session, *m_imageFolders, *m_jobBar, m_tree, this);
     connect(problems, &ProblemsDock::rowChosen, lists, &ListDock::showRow);
-    new ReturnedNodes(m_session.services(), *travel, m_tree);
     new SelectionStatus(m_session, m_tree, statusBar());
     new TreeMemory(m_session, m_tree);
     new ViewLink(m_session, m_view, m_tree, statusBar());
@@ -237,9 +237,10 @@ void MainWindow::buildMenus()
     connectReload();
     m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
     auto* editMenu = new EditMenu(this, m_session, m_tree);
-    m_view->addAction(editMenu->deleteAction());
     new TreeFinder(
         m_session, *m_imageFolders, m_tree, std::bind_front(&SelectionLink::browse, &m_inspectors->link()), this);
+    m_view->addActions(editMenu->nodeActions());
+    new ReturnedNodes(m_session.services(), *findChild<StepTravel*>(), m_tree, editMenu->nodes().editor().selections());
     auto* cameras = new CameraMenu(m_view, document());
     auto* viewMenu = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), cameras);
     auto* hiding = new HidingActions(m_view, m_tree, statusBar());

@@ -1,6 +1,7 @@
 #include "orvane/app/window/ReturnedNodes.h"
 
 #include "orvane/app/history/StepTravel.h"
+#include "orvane/app/structure/TreeNodes.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/extender/OrvDocument.h"
@@ -38,16 +39,28 @@ NxNode* returnedBy(const meridane::JournalStep& step)
 
 } // namespace
 
-ReturnedNodes::ReturnedNodes(OrvServices& services, const StepTravel& travel, SceneTreePanel* tree)
+ReturnedNodes::ReturnedNodes(
+    OrvServices& services, const StepTravel& travel, SceneTreePanel* tree, const StepSelections& selections)
     : QObject(tree)
     , m_services(services)
     , m_travel(travel)
     , m_tree(tree)
+    , m_selections(selections)
 {
+    connect(&services, &OrvServices::stepFinished, this, [this] {
+        const OrvStepList& steps = m_services.steps();
+        const meridane::JournalStep* const changes
+            = steps.position() > 0 ? steps.changes(steps.position() - 1) : nullptr;
+        if (changes != nullptr)
+            noteMovedRows(*changes);
+        unfoldMovedRows();
+    });
     connect(&services.steps(), &OrvStepList::movedOver, this, &ReturnedNodes::noteStep);
     connect(&travel, &StepTravel::ended, this, &ReturnedNodes::show);
     connect(&services.document(), &OrvDocument::aboutToClose, this, [this] {
         m_returned = NxRef<NxNode>();
+        m_rows.reset();
+        m_moved.clear();
         m_unfolded.clear();
     });
     connect(tree->view(), &QTreeView::expanded, this, [this](const QModelIndex& index) { noteUnfolded(index, true); });
@@ -60,13 +73,40 @@ void ReturnedNodes::noteStep(int index)
     const OrvStepList& steps = m_services.steps();
     const meridane::JournalStep* const changes = index < steps.count() ? steps.changes(index) : nullptr;
     m_returned = NxRef<NxNode>(changes != nullptr ? returnedBy(*changes) : nullptr);
+    const StepSelections::Rows* const rows = m_selections.afterMove(index);
+    m_rows = rows != nullptr ? std::optional(*rows) : std::nullopt;
+    if (changes != nullptr)
+        noteMovedRows(*changes);
     if (!m_travel.isUnderway())
         show();
 }
 
+void ReturnedNodes::noteMovedRows(const meridane::JournalStep& changes)
+{
+    for (const auto& record : changes.records()) {
+        if (m_unfolded.empty() || record->kind() != meridane::ChangeRecord::Kind::Children)
+            continue;
+        const auto& children = static_cast<const ChildrenRecord&>(*record);
+        const ChildrenRecord::Extent rows = children.extent();
+        if (rows.present > 0)
+            m_moved.push_back({NxRef<NxGroup>(&children.group()), static_cast<int>(rows.start),
+                static_cast<int>(rows.start + rows.present)});
+    }
+}
+
 void ReturnedNodes::show()
 {
+    select();
+    unfoldMovedRows();
+}
+
+void ReturnedNodes::select()
+{
     const NxRef<NxNode> node = std::exchange(m_returned, NxRef<NxNode>());
+    if (const auto rows = std::exchange(m_rows, std::nullopt); rows && m_services.document().root() != nullptr) {
+        orvane::selectNodes(*m_tree, orvane::nodesIn(*m_services.document().root(), *rows));
+        return;
+    }
     if (!node)
         return;
     const QModelIndex index = m_tree->model()->findNode(node.get());
@@ -74,6 +114,25 @@ void ReturnedNodes::show()
         return;
     unfold(index);
     m_tree->select(index);
+}
+
+// The tree has taken them away and shown them again, folded.
+void ReturnedNodes::unfoldMovedRows()
+{
+    const meridane::Journal* const journal = m_services.document().journal();
+    for (const MovedRows& moved : std::exchange(m_moved, {})) {
+        if (journal == nullptr || m_unfolded.empty())
+            return;
+        const bool isTop = moved.group.get() == m_services.document().root();
+        const QModelIndex parent = isTop ? QModelIndex() : m_tree->model()->findNode(moved.group.get());
+        if ((!isTop && !parent.isValid()) || !orvane::updateRows(*m_tree, parent))
+            continue;
+        for (int row = moved.first; row < std::min(moved.end, m_tree->model()->rowCount(parent)); ++row) {
+            const QModelIndex index = m_tree->model()->index(row, SceneTreeModel::NameColumn, parent);
+            if (!m_tree->model()->node(index)->getChildren().empty())
+                unfold(index);
+        }
+    }
 }
 
 void ReturnedNodes::noteUnfolded(const QModelIndex& index, bool isUnfolded)

@@ -1,0 +1,125 @@
+#include "orvane/app/structure/NodeActions.h"
+
+#include "orvane/app/base/PendingEdits.h"
+#include "orvane/app/scene/Session.h"
+#include "orvane/app/structure/GroupEdits.h"
+#include "orvane/app/structure/NodeEdits.h"
+#include "orvane/app/structure/NodeSteps.h"
+#include "orvane/app/tree/SceneTreePanel.h"
+
+#include <QAction>
+#include <QKeySequence>
+
+NodeActions::NodeActions(Session& session, SceneTreePanel* tree)
+    : QObject(tree)
+    , m_session(session)
+    , m_tree(tree)
+    , m_editor(new NodeEditor(session, tree))
+{
+    addEdits();
+    addSeparator();
+    addMoves();
+    addKeepPlace();
+    connect(tree, &SceneTreePanel::selectionChanged, this, &NodeActions::updateActions);
+    connect(&session.document(), &SceneDocument::sceneChanged, this, &NodeActions::updateActions);
+    updateActions();
+}
+
+NodeActions::~NodeActions() = default;
+
+QAction* NodeActions::add(const char* name, const QString& text, const QKeySequence& key, const QString& tip)
+{
+    auto* const action = new QAction(text, this);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcut(key);
+    // Lines and tables elsewhere have the same keys for other things.
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    action->setStatusTip(tip);
+    m_tree->addNodeAction(action);
+    m_actions.append(action);
+    return action;
+}
+
+void NodeActions::addEdit(
+    const char* name, const QString& text, const QKeySequence& key, const QString& tip, const Make& make)
+{
+    QAction* const action = add(name, text, key, tip);
+    connect(action, &QAction::triggered, this, [this, make] { run(make); });
+    m_needSelection.append(action);
+}
+
+void NodeActions::addSeparator()
+{
+    auto* const separator = new QAction(this);
+    separator->setSeparator(true);
+    m_actions.append(separator);
+}
+
+void NodeActions::addEdits()
+{
+    using Set = meridane::NodeSet;
+    const auto edits = [this] { return NodeEdits(*m_editor->scene()); };
+    const auto groups = [this] { return GroupEdits(*m_editor->scene()); };
+    addEdit("node.duplicate", tr("D&uplicate"), Qt::CTRL | Qt::Key_D, tr("Copies the selected nodes behind themselves"),
+        [edits](const Set& set) { return edits().duplicate(set); });
+    addEdit("node.delete", tr("&Delete Node"), QKeySequence::Delete,
+        tr("Removes the selected nodes with everything below them"),
+        [edits](const Set& set) { return edits().remove(set); });
+    addSeparator();
+    addEdit("node.group", tr("&Group"), Qt::CTRL | Qt::Key_G, tr("Puts the selected nodes into a new group"),
+        [this, groups](const Set& set) { return groups().group(set, m_editor->places()); });
+    addEdit("node.ungroup", tr("U&ngroup"), Qt::CTRL | Qt::SHIFT | Qt::Key_G,
+        tr("Replaces the selected groups by what is in them"),
+        [this, groups](const Set& set) { return groups().ungroup(set, m_editor->places()); });
+    addEdit("node.makeOwn", tr("Make &Own Copy"), {},
+        tr("Gives these places a copy of their own of a node that is in other places as well"),
+        [groups](const Set& set) { return groups().makeOwn(set); });
+}
+
+void NodeActions::addMoves()
+{
+    using Set = meridane::NodeSet;
+    const auto key = [](Qt::Key arrow) { return QKeySequence(Qt::ALT | Qt::SHIFT | arrow); };
+    const auto steps = [this] { return NodeSteps(*m_editor->scene()); };
+    addEdit("node.moveUp", tr("Move U&p"), key(Qt::Key_Up), tr("Moves the selected nodes before the node above them"),
+        [steps](const Set& set) { return steps().up(set); });
+    addEdit("node.moveDown", tr("Move Do&wn"), key(Qt::Key_Down),
+        tr("Moves the selected nodes behind the node below them"),
+        [steps](const Set& set) { return steps().down(set); });
+    addEdit("node.moveOut", tr("Move Ou&t of Group"), key(Qt::Key_Left),
+        tr("Moves the selected nodes behind the group that they are in"),
+        [this, steps](const Set& set) { return steps().out(set, m_editor->places()); });
+    addEdit("node.moveIn", tr("Move &into Group Above"), key(Qt::Key_Right),
+        tr("Moves the selected nodes to the end of the group above them"),
+        [this, steps](const Set& set) { return steps().in(set, m_editor->places()); });
+}
+
+void NodeActions::addKeepPlace()
+{
+    const QString settingsKey = QStringLiteral("structure/keepPlace");
+    QAction* const action = add("node.keepPlace", tr("&Keep Place"), {},
+        tr("Nodes stay where they are in the world when they move to other groups"));
+    action->setCheckable(true);
+    action->setChecked(m_session.settings().value(settingsKey, true).toBool());
+    const auto set = [this](bool keeps) { m_editor->setPlaces(keeps ? NodePlaces::Keep : NodePlaces::Change); };
+    set(action->isChecked());
+    connect(action, &QAction::toggled, this, [this, set, settingsKey](bool keeps) {
+        set(keeps);
+        m_session.settings().setValue(settingsKey, keeps);
+    });
+}
+
+void NodeActions::run(const Make& make)
+{
+    orvane::commitPendingEdit();
+    const meridane::NodeSet selected = m_editor->selected();
+    if (!selected.empty())
+        m_editor->apply(make(selected));
+}
+
+void NodeActions::updateActions()
+{
+    const bool hasSelection = m_tree->selected().isValid();
+    for (QAction* const action : m_needSelection)
+        action->setEnabled(hasSelection);
+}

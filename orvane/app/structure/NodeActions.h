@@ -1,0 +1,47 @@
+#pragma once
+
+#include "orvane/app/structure/NodeEditor.h"
+
+#include <QList>
+#include <QObject>
+
+#include <functional>
+
+class QAction;
+class QKeySequence;
+class QMenu;
+class SceneTreePanel;
+class Session;
+
+/// What can be done with the selected nodes: actions for menus, and keys, which work while the tree or another widget
+/// has the focus that the actions are added to.
+class NodeActions : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both live longer.
+    NodeActions(Session& session, SceneTreePanel* tree);
+    ~NodeActions() override;
+
+    [[nodiscard]] NodeEditor& editor() noexcept { return *m_editor; }
+    /// All actions with separators between them.
+    [[nodiscard]] QList<QAction*> actions() const { return m_actions; }
+
+private:
+    using Make = std::function<MadeEdit(const meridane::NodeSet& selected)>;
+
+    QAction* add(const char* name, const QString& text, const QKeySequence& key, const QString& tip);
+    void addEdit(const char* name, const QString& text, const QKeySequence& key, const QString& tip, const Make& make);
+    void addSeparator();
+    void addEdits();
+    void addMoves();
+    void addKeepPlace();
+    void run(const Make& make);
+    void updateActions();
+
+    Session& m_session;
+    SceneTreePanel* m_tree;
+    NodeEditor* m_editor;
+    QList<QAction*> m_actions;
+    QList<QAction*> m_needSelection;
+};

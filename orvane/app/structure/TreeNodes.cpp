@@ -1,0 +1,164 @@
+#include "orvane/app/structure/TreeNodes.h"
+
+#include "orvane/app/tree/NodeSelection.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
+
+#include <QTreeView>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace orvane {
+
+namespace {
+
+using meridane::NodeRows;
+using meridane::NodeSet;
+
+/// Where a node is among the children of a group, which the tree shows in that row; -1 if it isn't there any more.
+int presentPlace(const NxGroup& group, const NxNode* node, int row)
+{
+    return group.getChild(row) == node ? row : group.findChild(node);
+}
+
+/// The group whose children are under a row, without any of them; nothing if it has left the scene.
+std::optional<NodeRows> groupAt(const SceneTreeModel& model, const QModelIndex& index)
+{
+    NodeRows rows{{model.scene()}, {}, {}};
+    if (rows.path.front() == nullptr)
+        return std::nullopt;
+    QModelIndexList steps;
+    for (QModelIndex step = index; step.isValid(); step = step.parent())
+        steps.prepend(step);
+    for (const QModelIndex& step : steps) {
+        auto* const group = dynamic_cast<NxGroup*>(model.node(step));
+        const int place = group != nullptr ? presentPlace(rows.group(), group, step.row()) : -1;
+        if (place < 0)
+            return std::nullopt;
+        rows.path.push_back(group);
+        rows.places.push_back(place);
+    }
+    return rows;
+}
+
+/// The row under which the children of a group are, after it was brought up to date. The group has children.
+QModelIndex updatedRow(SceneTreeModel& model, const NodeRows& rows)
+{
+    std::vector<NxNode*> path(rows.path.begin() + 1, rows.path.end());
+    QModelIndex index;
+    for (std::size_t i = 0; i < path.size(); ++i) {
+        const QModelIndex found = model.indexOfPath(std::span(path).first(i + 1));
+        // Of several places of a node in a group, the one that is meant.
+        const QModelIndex meant = found.siblingAtRow(rows.places[i]);
+        index = meant.isValid() && model.node(meant) == path[i] ? meant : found;
+    }
+    path.push_back(rows.group().getChild(0));
+    static_cast<void>(model.indexOfPath(path)); // which updates the rows on its way
+    return index;
+}
+
+} // namespace
+
+NodeSet selectedNodes(const SceneTreePanel& tree)
+{
+    const SceneTreeModel& model = *tree.model();
+    const QModelIndexList indexes = tree.selection().indexes();
+    NodeSet set;
+    QModelIndex parent;
+    bool isPresent = false;
+    for (const QModelIndex& index : indexes) {
+        if (set.empty() || index.parent() != parent) {
+            parent = index.parent();
+            std::optional<NodeRows> rows = groupAt(model, parent);
+            isPresent = rows.has_value();
+            if (isPresent)
+                set.push_back(std::move(*rows));
+        }
+        const int place = isPresent ? presentPlace(set.back().group(), model.node(index), index.row()) : -1;
+        if (place >= 0)
+            set.back().rows.push_back(place);
+    }
+    for (NodeRows& rows : set)
+        std::ranges::sort(rows.rows);
+    std::erase_if(set, [](const NodeRows& rows) { return rows.rows.empty(); });
+    return set;
+}
+
+std::optional<NodeRows> lastSelectedNode(const SceneTreePanel& tree)
+{
+    return nodeAt(tree, tree.selected());
+}
+
+std::optional<NodeRows> nodeAt(const SceneTreePanel& tree, const QModelIndex& index)
+{
+    if (!index.isValid())
+        return std::nullopt;
+    std::optional<NodeRows> rows = groupAt(*tree.model(), index.parent());
+    const int place = rows ? presentPlace(rows->group(), tree.model()->node(index), index.row()) : -1;
+    if (place < 0)
+        return std::nullopt;
+    rows->rows.push_back(place);
+    return rows;
+}
+
+void selectNodes(SceneTreePanel& tree, const NodeSet& nodes)
+{
+    SceneTreeModel& model = *tree.model();
+    QModelIndexList indexes;
+    for (const NodeRows& rows : nodes) {
+        if (rows.rows.empty() || rows.group().getNumChildren() == 0)
+            continue;
+        const QModelIndex parent = updatedRow(model, rows);
+        if (rows.path.size() > 1 && !parent.isValid())
+            continue;
+        for (QModelIndex above = parent; above.isValid(); above = above.parent())
+            tree.view()->expand(above);
+        for (const int row : rows.rows) {
+            const QModelIndex index = model.index(row, SceneTreeModel::NameColumn, parent);
+            if (index.isValid())
+                indexes.append(index);
+        }
+    }
+    tree.selection().selectIndexes(indexes);
+}
+
+bool updateRows(SceneTreePanel& tree, const QModelIndex& parent)
+{
+    SceneTreeModel& model = *tree.model();
+    const NxNode* const group = parent.isValid() ? model.node(parent) : model.scene();
+    if (group == nullptr || group->getChildren().empty())
+        return false;
+    std::vector<NxNode*> path = model.path(parent);
+    path.push_back(group->getChildren().front());
+    return model.indexOfPath(path).isValid(); // which updates the rows on its way
+}
+
+std::vector<TreeRows> rowsOf(const NodeSet& nodes)
+{
+    std::vector<TreeRows> rows;
+    for (const NodeRows& some : nodes)
+        rows.push_back({some.places, some.rows});
+    return rows;
+}
+
+NodeSet nodesIn(NxGroup& scene, const std::vector<TreeRows>& rows)
+{
+    NodeSet set;
+    for (const TreeRows& some : rows) {
+        NodeRows found{{&scene}, some.places, some.rows};
+        for (const int place : some.places) {
+            auto* const group
+                = found.path.back() != nullptr ? dynamic_cast<NxGroup*>(found.group().getChild(place)) : nullptr;
+            found.path.push_back(group);
+        }
+        if (found.path.back() == nullptr)
+            continue;
+        std::erase_if(found.rows, [&](int row) { return found.group().getChild(row) == nullptr; });
+        set.push_back(std::move(found));
+    }
+    return set;
+}
+
+} // namespace orvane
