@@ -13,6 +13,8 @@ struct NodeRows {
     std::vector<int> rows; ///< the indices of the children, rising, each once
 
     [[nodiscard]] NxGroup& group() const { return *path.back(); }
+    /// The first of the children; there must be one.
+    [[nodiscard]] NxNode& first() const { return *group().getChild(rows.front()); }
 };
 
 /// Children of several groups, such as a selection.

@@ -93,6 +93,13 @@ void FileFlow::import(const QString& fileName)
         Kind::Add, [this, fileName] { startAdd(fileName); }, fileName);
 }
 
+void FileFlow::readToAdd(const QString& fileName, const FileWork::Reader& reader)
+{
+    m_work.push({Kind::Add, fileName, m_session.document().sceneNumber(),
+        [this, fileName, reader] { startReadingToAdd(fileName, reader); },
+        [reader](const QString& reason) { reader.lost(reason, Loss::Stopped); }});
+}
+
 void FileFlow::compareWith(const QString& fileName)
 {
     request(
@@ -235,10 +242,25 @@ void FileFlow::startAdd(const QString& fileName)
         startOpen(fileName, {});
         return;
     }
+    startReadingToAdd(fileName,
+        {[this, fileName](const ReadScene& read) { addToScene(read, fileName); }, [](const QString&, Loss) {}});
+}
+
+void FileFlow::startReadingToAdd(const QString& fileName, const FileWork::Reader& reader)
+{
+    if (!m_session.document().isOpen()) {
+        reader.lost(tr("No scene is open."), Loss::Stopped);
+        return;
+    }
     m_work.read(Kind::Add, m_jobMakers.load(fileName),
-        {[this, fileName](const ReadScene& read) { addToScene(read, fileName); },
-            [this, fileName](const QString& reason, Loss loss) {
+        {[this, fileName, reader](const ReadScene& read) {
+             m_recent.add(fileName);
+             reader.take(read);
+             Q_EMIT ended({});
+         },
+            [this, fileName, reader](const QString& reason, Loss loss) {
                 forgetIfMissing(fileName);
+                reader.lost(reason, loss);
                 loseOpen({}, reason, loss);
             }});
 }
@@ -287,13 +309,11 @@ void FileFlow::takeScene(const ReadScene& read, const Opening& opening)
 
 void FileFlow::addToScene(const ReadScene& read, const QString& fileName)
 {
-    m_recent.add(fileName);
     orvane::rebasePaths(*read.scene, orvane::folderOf(fileName), m_session.document().pathFolder());
     read.scene->setName(orvane::toVbString(QFileInfo(fileName).completeBaseName()));
     m_session.services().document().journal()->adopt(*read.journal);
     m_session.services().pushCommand(
         new AddNodeCommand(m_session.document().scene(), read.scene, m_session.disposal()));
-    Q_EMIT ended({});
 }
 
 void FileFlow::endOpen(const Opened& opened, const orvane::Result<>& result)

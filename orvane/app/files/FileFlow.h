@@ -56,6 +56,9 @@ public:
     /// Adds the content of a file to the open scene, in a group of the file's name, as one step of the history; opens
     /// it when no scene is open.
     void import(const QString& fileName);
+    /// Reads a file as `import` does, but leaves what is done with it to the reader: exactly one of its functions is
+    /// called, unless the window is closed first. Fails if no scene is open.
+    void readToAdd(const QString& fileName, const FileWork::Reader& reader);
     /// Reads a file to compare the open scene with it; `readToCompare` follows. Does nothing when no scene is open.
     void compareWith(const QString& fileName);
     /// Makes the open scene equal to its file again, as a step that can be undone. Does nothing for a scene without a
@@ -116,6 +119,7 @@ private:
     void startOpen(const QString& fileName, const Opened& opened);
     void start(const Opening& opening);
     void startAdd(const QString& fileName);
+    void startReadingToAdd(const QString& fileName, const FileWork::Reader& reader);
     void startCompare(const QString& fileName);
     [[nodiscard]] bool refusesBehindOpen(Kind kind, const QString& fileName);
     void takeScene(const ReadScene& read, const Opening& opening);

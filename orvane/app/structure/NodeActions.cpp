@@ -1,8 +1,11 @@
 #include "orvane/app/structure/NodeActions.h"
 
 #include "orvane/app/base/PendingEdits.h"
+#include "orvane/app/scene/NodeName.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/structure/AddNodeDialog.h"
 #include "orvane/app/structure/GroupEdits.h"
+#include "orvane/app/structure/NodeClipboard.h"
 #include "orvane/app/structure/NodeEdits.h"
 #include "orvane/app/structure/NodeSteps.h"
 #include "orvane/app/tree/SceneTreePanel.h"
@@ -15,7 +18,11 @@ NodeActions::NodeActions(Session& session, SceneTreePanel* tree)
     , m_session(session)
     , m_tree(tree)
     , m_editor(new NodeEditor(session, tree))
+    , m_clipboard(new NodeClipboard(session, *m_editor))
 {
+    addClipboard();
+    addSeparator();
+    addCreation();
     addEdits();
     addSeparator();
     addMoves();
@@ -53,6 +60,60 @@ void NodeActions::addSeparator()
     auto* const separator = new QAction(this);
     separator->setSeparator(true);
     m_actions.append(separator);
+}
+
+void NodeActions::addClipboard()
+{
+    const auto onSelected = [this](void (NodeClipboard::*act)(const meridane::NodeSet&)) {
+        return [this, act] {
+            orvane::commitPendingEdit();
+            if (const meridane::NodeSet selected = m_editor->selected(); !selected.empty())
+                (m_clipboard->*act)(selected);
+        };
+    };
+    QAction* const cut
+        = add("node.cut", tr("Cu&t"), QKeySequence::Cut, tr("Moves the selected nodes to the clipboard"));
+    connect(cut, &QAction::triggered, this, onSelected(&NodeClipboard::cut));
+    QAction* const copy = add(
+        "node.copy", tr("&Copy"), QKeySequence::Copy, tr("Copies the selected nodes to the clipboard, as text too"));
+    connect(copy, &QAction::triggered, this, onSelected(&NodeClipboard::copy));
+    m_needSelection << cut << copy;
+    QAction* const paste = add("node.paste", tr("&Paste"), QKeySequence::Paste,
+        tr("Adds the nodes of the clipboard to the selected group, or behind the selected node"));
+    connect(paste, &QAction::triggered, m_clipboard, &NodeClipboard::paste);
+    QAction* const share = add("node.pasteShared", tr("Paste as S&hared"), Qt::CTRL | Qt::SHIFT | Qt::Key_V,
+        tr("Lets the nodes that were copied be in this place as well, so that a change is seen in both"));
+    connect(share, &QAction::triggered, m_clipboard, &NodeClipboard::pasteShared);
+    m_needScene << paste << share;
+}
+
+void NodeActions::addCreation()
+{
+    QAction* const action = add("node.add", tr("&Add Node…"), {},
+        tr("Adds a node of a class that you choose to the selected group, or behind the selected node"));
+    action->setShortcuts({QKeySequence(Qt::Key_Insert), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)});
+    connect(action, &QAction::triggered, this, &NodeActions::chooseClass);
+    m_needScene << action;
+}
+
+void NodeActions::chooseClass()
+{
+    if (m_editor->scene() == nullptr)
+        return;
+    orvane::commitPendingEdit();
+    const NodeSpot spot = m_editor->spotForAdding();
+    const QString place = spot.path.size() == 1 ? tr("The node comes to the top of the scene.")
+                                                : tr("The node comes into %1.").arg(orvane::nodeName(spot.group()));
+    auto* const dialog = new AddNodeDialog(place, m_tree->window());
+    connect(dialog, &AddNodeDialog::chosen, this, &NodeActions::addNode);
+    dialog->open();
+}
+
+void NodeActions::addNode(NxType type)
+{
+    const NxRef<NxNode> node(static_cast<NxNode*>(static_cast<NxTypedObject*>(type.createInstance(nullptr))));
+    if (node && m_editor->scene() != nullptr)
+        m_editor->apply(NodeEdits::insert(std::span(&node, 1), m_editor->spotForAdding(), NodeEdits::Names::Keep));
 }
 
 void NodeActions::addEdits()
@@ -122,4 +183,6 @@ void NodeActions::updateActions()
     const bool hasSelection = m_tree->selected().isValid();
     for (QAction* const action : m_needSelection)
         action->setEnabled(hasSelection);
+    for (QAction* const action : m_needScene)
+        action->setEnabled(m_editor->scene() != nullptr);
 }

@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class NodeClipboard;
 class QAction;
 class QKeySequence;
 class QMenu;
@@ -24,6 +25,7 @@ public:
     ~NodeActions() override;
 
     [[nodiscard]] NodeEditor& editor() noexcept { return *m_editor; }
+    [[nodiscard]] NodeClipboard& clipboard() noexcept { return *m_clipboard; }
     /// All actions with separators between them.
     [[nodiscard]] QList<QAction*> actions() const { return m_actions; }
 
@@ -33,15 +35,21 @@ private:
     QAction* add(const char* name, const QString& text, const QKeySequence& key, const QString& tip);
     void addEdit(const char* name, const QString& text, const QKeySequence& key, const QString& tip, const Make& make);
     void addSeparator();
+    void addClipboard();
+    void addCreation();
     void addEdits();
     void addMoves();
     void addKeepPlace();
     void run(const Make& make);
+    void chooseClass();
+    void addNode(NxType type);
     void updateActions();
 
     Session& m_session;
     SceneTreePanel* m_tree;
     NodeEditor* m_editor;
+    NodeClipboard* m_clipboard;
     QList<QAction*> m_actions;
     QList<QAction*> m_needSelection;
+    QList<QAction*> m_needScene;
 };

@@ -100,16 +100,26 @@ MadeEdit NodeEdits::move(const Set& set, const NodeSpot& spot, NodePlaces places
         EditTexts::move(top, spot.group(), m_scene), plan, {orvane::rowsAfter(plan, spot, nodes.size())});
 }
 
-MadeEdit NodeEdits::share(const Set& set, const NodeSpot& spot) const
+QString NodeEdits::refusalOfMove(const Set& set, const NxGroup& group)
 {
-    const NodeSet top = meridane::topmost(set);
-    const EditNodes nodes = orvane::nodesOf(top);
-    if (const NxNode* const above = orvane::firstAbove(nodes, spot.group()))
+    const NxNode* const above = orvane::firstAbove(orvane::nodesOf(meridane::topmost(set)), group);
+    return above != nullptr ? EditTexts::intoItself(*above) : QString();
+}
+
+MadeEdit NodeEdits::share(const Set& set, const NodeSpot& spot)
+{
+    const EditNodes nodes = orvane::nodesOf(meridane::topmost(set));
+    return shareNodes(std::vector<NxRef<NxNode>>(nodes.begin(), nodes.end()), spot);
+}
+
+MadeEdit NodeEdits::shareNodes(std::span<const NxRef<NxNode>> nodes, const NodeSpot& spot)
+{
+    const EditNodes shared = orvane::pointersOf(nodes);
+    if (const NxNode* const above = orvane::firstAbove(shared, spot.group()))
         return orvane::Failure{EditTexts::intoItself(*above)};
     ChildrenPlan plan;
-    plan.insert(spot.group(), spot.index, nodes);
-    return NodeEdit{EditTexts::share(top, spot.group(), m_scene), plan.changes(),
-        {orvane::rowsAfter(plan, spot, nodes.size())}, {}};
+    plan.insert(spot.group(), spot.index, shared);
+    return NodeEdit{EditTexts::share(shared, spot), plan.changes(), {orvane::rowsAfter(plan, spot, shared.size())}, {}};
 }
 
 MadeEdit NodeEdits::copy(const Set& set, const NodeSpot& spot) const

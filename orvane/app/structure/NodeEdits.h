@@ -26,8 +26,11 @@ public:
     /// Copies come behind the last of the set in each group.
     [[nodiscard]] MadeEdit duplicate(const Set& set) const;
     [[nodiscard]] MadeEdit move(const Set& set, const NodeSpot& spot, NodePlaces places) const;
+    /// Why nodes can't be moved to a group, or be shared there; empty if they can.
+    [[nodiscard]] static QString refusalOfMove(const Set& set, const NxGroup& group);
     /// Lets the same nodes be in another place as well.
-    [[nodiscard]] MadeEdit share(const Set& set, const NodeSpot& spot) const;
+    [[nodiscard]] static MadeEdit share(const Set& set, const NodeSpot& spot);
+    [[nodiscard]] static MadeEdit shareNodes(std::span<const NxRef<NxNode>> nodes, const NodeSpot& spot);
     /// Copies of the nodes come into another place.
     [[nodiscard]] MadeEdit copy(const Set& set, const NodeSpot& spot) const;
     /// Puts nodes that aren't in the scene into it.

@@ -18,9 +18,18 @@ StepSelections::StepSelections(OrvServices& services, QObject* parent)
     });
 }
 
-void StepSelections::note(Rows before, Rows after)
+void StepSelections::note(const QString& label, Rows before, Rows after)
 {
     m_pending = Entry{std::move(before), std::move(after)};
+    m_pendingLabel = label;
+    takePending(); // if the step has ended already
+}
+
+bool StepSelections::isLatest(const QString& label) const
+{
+    const OrvStepList& steps = m_services.steps();
+    const int latest = steps.position() - 1;
+    return latest >= 0 && steps.label(latest) == label && !m_entries.contains(steps.number(latest));
 }
 
 const StepSelections::Rows* StepSelections::afterMove(int index) const
@@ -36,9 +45,10 @@ const StepSelections::Rows* StepSelections::afterMove(int index) const
 
 void StepSelections::takePending()
 {
+    if (!m_pending || !isLatest(m_pendingLabel))
+        return;
     const OrvStepList& steps = m_services.steps();
-    if (m_pending && steps.position() > 0)
-        m_entries.insert_or_assign(steps.number(steps.position() - 1), std::move(*m_pending));
+    m_entries.insert_or_assign(steps.number(steps.position() - 1), std::move(*m_pending));
     m_pending.reset();
 }
 

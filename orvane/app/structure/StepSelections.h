@@ -3,6 +3,7 @@
 #include "orvane/app/structure/TreeNodes.h"
 
 #include <QObject>
+#include <QString>
 
 #include <cstdint>
 #include <map>
@@ -23,8 +24,8 @@ public:
     /// The services live longer.
     explicit StepSelections(OrvServices& services, QObject* parent = nullptr);
 
-    /// Notes the selections of a step that was pushed just now.
-    void note(Rows before, Rows after);
+    /// Notes the selections of a step that was pushed just now with that label.
+    void note(const QString& label, Rows before, Rows after);
     /// The rows to be selected after the step of that index was undone or redone; null if they aren't known.
     [[nodiscard]] const Rows* afterMove(int index) const;
 
@@ -34,10 +35,13 @@ private:
         Rows after;
     };
 
+    /// Whether the step done last has that label and no entry yet.
+    [[nodiscard]] bool isLatest(const QString& label) const;
     void takePending();
     void forgetDropped();
 
     OrvServices& m_services;
     std::optional<Entry> m_pending; // of the step that hasn't ended yet
+    QString m_pendingLabel;
     std::map<std::uint64_t, Entry> m_entries; // by the number of the step
 };

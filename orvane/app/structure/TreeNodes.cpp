@@ -7,6 +7,7 @@
 #include <QTreeView>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -24,7 +25,7 @@ int presentPlace(const NxGroup& group, const NxNode* node, int row)
 }
 
 /// The group whose children are under a row, without any of them; nothing if it has left the scene.
-std::optional<NodeRows> groupAt(const SceneTreeModel& model, const QModelIndex& index)
+std::optional<NodeRows> groupBelow(const SceneTreeModel& model, const QModelIndex& index)
 {
     NodeRows rows{{model.scene()}, {}, {}};
     if (rows.path.front() == nullptr)
@@ -71,7 +72,7 @@ NodeSet selectedNodes(const SceneTreePanel& tree)
     for (const QModelIndex& index : indexes) {
         if (set.empty() || index.parent() != parent) {
             parent = index.parent();
-            std::optional<NodeRows> rows = groupAt(model, parent);
+            std::optional<NodeRows> rows = groupBelow(model, parent);
             isPresent = rows.has_value();
             if (isPresent)
                 set.push_back(std::move(*rows));
@@ -95,7 +96,7 @@ std::optional<NodeRows> nodeAt(const SceneTreePanel& tree, const QModelIndex& in
 {
     if (!index.isValid())
         return std::nullopt;
-    std::optional<NodeRows> rows = groupAt(*tree.model(), index.parent());
+    std::optional<NodeRows> rows = groupBelow(*tree.model(), index.parent());
     const int place = rows ? presentPlace(rows->group(), tree.model()->node(index), index.row()) : -1;
     if (place < 0)
         return std::nullopt;
@@ -143,20 +144,28 @@ std::vector<TreeRows> rowsOf(const NodeSet& nodes)
     return rows;
 }
 
+std::optional<NodeRows> groupAt(NxGroup& scene, const std::vector<int>& places)
+{
+    NodeRows found{{&scene}, places, {}};
+    for (const int place : places) {
+        auto* const group = dynamic_cast<NxGroup*>(found.group().getChild(place));
+        if (group == nullptr)
+            return std::nullopt;
+        found.path.push_back(group);
+    }
+    return found;
+}
+
 NodeSet nodesIn(NxGroup& scene, const std::vector<TreeRows>& rows)
 {
     NodeSet set;
     for (const TreeRows& some : rows) {
-        NodeRows found{{&scene}, some.places, some.rows};
-        for (const int place : some.places) {
-            auto* const group
-                = found.path.back() != nullptr ? dynamic_cast<NxGroup*>(found.group().getChild(place)) : nullptr;
-            found.path.push_back(group);
-        }
-        if (found.path.back() == nullptr)
+        std::optional<NodeRows> found = groupAt(scene, some.places);
+        if (!found)
             continue;
-        std::erase_if(found.rows, [&](int row) { return found.group().getChild(row) == nullptr; });
-        set.push_back(std::move(found));
+        std::ranges::copy_if(some.rows, std::back_inserter(found->rows),
+            [&](int row) { return found->group().getChild(row) != nullptr; });
+        set.push_back(std::move(*found));
     }
     return set;
 }

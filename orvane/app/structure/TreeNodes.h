@@ -34,6 +34,8 @@ void selectNodes(SceneTreePanel& tree, const meridane::NodeSet& nodes);
 bool updateRows(SceneTreePanel& tree, const QModelIndex& parent);
 
 [[nodiscard]] std::vector<TreeRows> rowsOf(const meridane::NodeSet& nodes);
+/// The group that these indices lead to, without any of its children; nothing if there is none.
+[[nodiscard]] std::optional<meridane::NodeRows> groupAt(NxGroup& scene, const std::vector<int>& places);
 /// The nodes in these rows, without those that aren't there.
 [[nodiscard]] meridane::NodeSet nodesIn(NxGroup& scene, const std::vector<TreeRows>& rows);
 

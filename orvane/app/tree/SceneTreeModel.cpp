@@ -16,6 +16,7 @@
 #include "meridane/scene/nodes/NxMesh.h"
 
 #include <QFont>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -116,7 +117,9 @@ QModelIndex SceneTreeModel::childIndex(const QModelIndex& parent, const NxNode* 
     SceneBranch* branch = branchOf(parent);
     if (branch == nullptr)
         return {};
-    updateBranch(*branch); // its sensor may still wait for its call
+    // Its sensor may still wait for its call. Views look for rows also while others come or go.
+    if (!m_isUpdating)
+        updateBranch(*branch);
     const int row = branch->findRow(node);
     return row >= 0 ? index(row, NameColumn, parent) : QModelIndex();
 }
@@ -246,8 +249,11 @@ QVariant SceneTreeModel::headerData(int section, Qt::Orientation orientation, in
 
 Qt::ItemFlags SceneTreeModel::flags(const QModelIndex& index) const
 {
-    const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
-    return index.isValid() && index.column() == NameColumn ? flags | Qt::ItemIsEditable : flags;
+    Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    if (!index.isValid())
+        return flags;
+    flags |= Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled;
+    return index.column() == NameColumn ? flags | Qt::ItemIsEditable : flags;
 }
 
 SceneBranch* SceneTreeModel::branchOf(const QModelIndex& index) const
@@ -303,6 +309,7 @@ void SceneTreeModel::forgetBelow(SceneBranch& branch, int row, int count)
 
 void SceneTreeModel::updateBranch(SceneBranch& branch)
 {
+    const QScopedValueRollback updating(m_isUpdating, true);
     const std::span<NxNode* const> now = branch.node()->getChildren();
     const int before = branch.count();
     const int after = static_cast<int>(now.size());

@@ -98,6 +98,7 @@ private:
 
     std::unique_ptr<SceneBranch> m_root;
     std::unique_ptr<ShownNodes> m_shown;
+    bool m_isUpdating = false; // rows come or go
     std::shared_ptr<const NodeMarks> m_marks;
     const HiddenNodes* m_hidden = nullptr;
 };

@@ -39,6 +39,11 @@ void SceneTreeView::mouseDoubleClickEvent(QMouseEvent* event)
         QTreeView::mouseDoubleClickEvent(event);
 }
 
+void SceneTreeView::startDrag(Qt::DropActions)
+{
+    Q_EMIT dragStarted();
+}
+
 // Qt selects another row by itself only where a single one can be selected.
 void SceneTreeView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end)
 {

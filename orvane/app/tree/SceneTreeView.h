@@ -19,8 +19,11 @@ Q_SIGNALS:
     void eyeClicked(const QModelIndex& index);
     /// The user wants everything below the selected rows unfolded.
     void unfoldRequested();
+    /// The user drags the selected rows.
+    void dragStarted();
 
 protected:
+    void startDrag(Qt::DropActions actions) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

@@ -52,6 +52,7 @@
 #include "orvane/app/window/ProblemsDock.h"
 #include "orvane/app/window/ReloadedTree.h"
 #include "orvane/app/window/ReturnedNodes.h"
+#include "orvane/app/window/SceneDrops.h"
 #include "orvane/app/window/WindowShell.h"
 
 #include "meridane/base/NxDelayQueue.h"
@@ -240,6 +241,7 @@ void MainWindow::buildMenus()
     new TreeFinder(
         m_session, *m_imageFolders, m_tree, std::bind_front(&SelectionLink::browse, &m_inspectors->link()), this);
     m_view->addActions(editMenu->nodeActions());
+    new SceneDrops(m_session, *m_files, m_tree, m_view, editMenu->nodes(), *m_messages);
     new ReturnedNodes(m_session.services(), *findChild<StepTravel*>(), m_tree, editMenu->nodes().editor().selections());
     auto* cameras = new CameraMenu(m_view, document());
     auto* viewMenu = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), cameras);

@@ -83,6 +83,10 @@ void ReturnedNodes::noteStep(int index)
 
 void ReturnedNodes::noteMovedRows(const meridane::JournalStep& changes)
 {
+    // Each takes a way through the scene. Steps with more come from files, whose folds are kept otherwise.
+    constexpr std::size_t mostRecords = 200;
+    if (changes.records().size() > mostRecords)
+        return;
     for (const auto& record : changes.records()) {
         if (m_unfolded.empty() || record->kind() != meridane::ChangeRecord::Kind::Children)
             continue;

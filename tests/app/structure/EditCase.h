@@ -56,7 +56,7 @@ protected:
         }
         return set;
     }
-    [[nodiscard]] NxNode* node(const char* name) { return inTreeOrder(setOf({name})).front().node(); }
+    [[nodiscard]] NxNode* node(const char* name) { return &setOf({name}).front().first(); }
     /// The end of a group, or of the scene for null.
     [[nodiscard]] NodeSpot endOf(const char* name)
     {

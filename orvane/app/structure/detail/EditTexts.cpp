@@ -4,15 +4,6 @@
 
 namespace orvane {
 
-namespace {
-
-const NxNode& firstOf(const meridane::NodeSet& set)
-{
-    return *set.front().group().getChild(set.front().rows.front());
-}
-
-} // namespace
-
 QString EditTexts::namesOf(std::span<NxNode* const> nodes)
 {
     return nodes.size() == 1 ? nodeName(*nodes.front()) : tr("%1 nodes").arg(nodes.size());
@@ -21,7 +12,7 @@ QString EditTexts::namesOf(std::span<NxNode* const> nodes)
 QString EditTexts::namesOf(const Set& set)
 {
     const std::size_t count = countOf(set);
-    return count == 1 ? nodeName(firstOf(set)) : tr("%1 nodes").arg(count);
+    return count == 1 ? nodeName(set.front().first()) : tr("%1 nodes").arg(count);
 }
 
 QString EditTexts::remove(const Set& set)
@@ -76,11 +67,11 @@ QString EditTexts::moveIn(const Set& set)
     return tr("Move %1 into the group above").arg(namesOf(set));
 }
 
-QString EditTexts::share(const Set& set, const NxGroup& to, const NxGroup& scene)
+QString EditTexts::share(std::span<NxNode* const> nodes, const NodeSpot& spot)
 {
-    if (&to == &scene)
-        return tr("Use %1 at the top").arg(namesOf(set));
-    return tr("Use %1 in %2").arg(namesOf(set), nodeName(to));
+    if (spot.path.size() == 1)
+        return tr("Use %1 at the top").arg(namesOf(nodes));
+    return tr("Use %1 in %2").arg(namesOf(nodes), nodeName(spot.group()));
 }
 
 QString EditTexts::copy(const Set& set, const NxGroup& to, const NxGroup& scene)
@@ -88,6 +79,16 @@ QString EditTexts::copy(const Set& set, const NxGroup& to, const NxGroup& scene)
     if (&to == &scene)
         return tr("Copy %1 to the top").arg(namesOf(set));
     return tr("Copy %1 to %2").arg(namesOf(set), nodeName(to));
+}
+
+QString EditTexts::cut(const Set& set)
+{
+    return tr("Cut %1").arg(namesOf(set));
+}
+
+QString EditTexts::paste(std::span<NxNode* const> nodes)
+{
+    return tr("Paste %1").arg(namesOf(nodes));
 }
 
 QString EditTexts::add(std::span<NxNode* const> nodes)

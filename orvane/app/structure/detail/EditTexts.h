@@ -1,6 +1,6 @@
 #pragma once
 
-#include "meridane/scene/edit/NodeRows.h"
+#include "orvane/app/structure/NodeEdit.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -30,8 +30,10 @@ public:
     [[nodiscard]] static QString move(const Set& set, const NxGroup& to, const NxGroup& scene);
     [[nodiscard]] static QString moveOut(const Set& set);
     [[nodiscard]] static QString moveIn(const Set& set);
-    [[nodiscard]] static QString share(const Set& set, const NxGroup& to, const NxGroup& scene);
+    [[nodiscard]] static QString share(std::span<NxNode* const> nodes, const NodeSpot& spot);
     [[nodiscard]] static QString copy(const Set& set, const NxGroup& to, const NxGroup& scene);
+    [[nodiscard]] static QString cut(const Set& set);
+    [[nodiscard]] static QString paste(std::span<NxNode* const> nodes);
     [[nodiscard]] static QString add(std::span<NxNode* const> nodes);
 
     // Why nothing can be done.
