@@ -53,7 +53,7 @@ void unite(std::vector<int>& rows, const std::vector<int>& others)
 }
 
 /// The order in a tree: by the indices from the top down.
-std::strong_ordering compare(const SetMember& left, const SetMember& right)
+std::strong_ordering compareInTree(const SetMember& left, const SetMember& right)
 {
     const auto step = [](const SetMember& member, std::size_t i) {
         return i < member.rows->places.size() ? member.rows->places[i] : member.row;
@@ -97,7 +97,7 @@ std::vector<SetMember> inTreeOrder(const NodeSet& set)
     }
     if (set.size() > 1)
         std::ranges::stable_sort(
-            members, [](const SetMember& left, const SetMember& right) { return compare(left, right) < 0; });
+            members, [](const SetMember& left, const SetMember& right) { return compareInTree(left, right) < 0; });
     return members;
 }
 

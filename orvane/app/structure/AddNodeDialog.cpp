@@ -23,7 +23,7 @@
 
 namespace {
 
-enum Column { NameColumn, DescriptionColumn };
+enum ClassListColumn { ClassNameColumn, ClassTextColumn };
 
 QString descriptionOf(NxType type)
 {
@@ -71,7 +71,7 @@ AddNodeDialog::AddNodeDialog(const QString& place, QWidget* window)
     filter({});
     const int width = fontMetrics().averageCharWidth();
     resize(width * 100, fontMetrics().height() * 26);
-    m_list->header()->resizeSection(NameColumn, width * 28);
+    m_list->header()->resizeSection(ClassNameColumn, width * 28);
 }
 
 bool AddNodeDialog::eventFilter(QObject* object, QEvent* event)
@@ -93,12 +93,12 @@ void AddNodeDialog::fill()
         [](NxType type) { return !type.canCreateInstance() || type.isDerivedFrom(NxUnknownNode::getClassTypeId()); });
     for (const NxType type : types) {
         auto* const item = new QTreeWidgetItem(m_list);
-        item->setText(NameColumn, QString::fromUtf8(type.getName().getString()));
-        item->setIcon(NameColumn, orvane::nodeIcon(type));
-        item->setText(DescriptionColumn, descriptionOf(type));
-        item->setToolTip(DescriptionColumn, item->text(DescriptionColumn));
+        item->setText(ClassNameColumn, QString::fromUtf8(type.getName().getString()));
+        item->setIcon(ClassNameColumn, orvane::nodeIcon(type));
+        item->setText(ClassTextColumn, descriptionOf(type));
+        item->setToolTip(ClassTextColumn, item->text(ClassTextColumn));
     }
-    m_list->sortItems(NameColumn, Qt::AscendingOrder);
+    m_list->sortItems(ClassNameColumn, Qt::AscendingOrder);
 }
 
 void AddNodeDialog::filter(const QString& text)
@@ -107,15 +107,15 @@ void AddNodeDialog::filter(const QString& text)
     QTreeWidgetItem* first = nullptr;
     for (int row = 0; row < m_list->topLevelItemCount(); ++row) {
         QTreeWidgetItem* const item = m_list->topLevelItem(row);
-        const QString all = item->text(NameColumn) + u' ' + item->text(DescriptionColumn);
+        const QString all = item->text(ClassNameColumn) + u' ' + item->text(ClassTextColumn);
         const bool isFound = std::all_of(words.begin(), words.end(),
             [&all](const QString& word) { return all.contains(word, Qt::CaseInsensitive); });
         item->setHidden(!isFound);
         // A name that begins with the text is what is most likely meant.
-        const bool begins = item->text(NameColumn).startsWith(text.trimmed(), Qt::CaseInsensitive);
+        const bool begins = item->text(ClassNameColumn).startsWith(text.trimmed(), Qt::CaseInsensitive);
         if (isFound
             && (first == nullptr
-                || (begins && !first->text(NameColumn).startsWith(text.trimmed(), Qt::CaseInsensitive))))
+                || (begins && !first->text(ClassNameColumn).startsWith(text.trimmed(), Qt::CaseInsensitive))))
             first = item;
     }
     m_list->setCurrentItem(first);
@@ -127,7 +127,7 @@ void AddNodeDialog::choose()
     const QTreeWidgetItem* const item = m_list->currentItem();
     if (item == nullptr || item->isHidden())
         return;
-    const NxType type = NxType::fromName(VbName(item->text(NameColumn).toUtf8().constData()));
+    const NxType type = NxType::fromName(VbName(item->text(ClassNameColumn).toUtf8().constData()));
     accept();
     Q_EMIT chosen(type);
 }

@@ -26,14 +26,14 @@
 
 namespace {
 
-bool isImage(const QString& suffix)
+bool isImageSuffix(const QString& suffix)
 {
     static constexpr std::array suffixes{
         "png", "jpg", "jpeg", "bmp", "gif", "tga", "tif", "tiff", "webp", "psd", "hdr", "ppm", "pgm"};
     return std::ranges::any_of(suffixes, [&suffix](const char* known) { return suffix == QLatin1String(known); });
 }
 
-bool isModel(const QString& suffix)
+bool isModelSuffix(const QString& suffix)
 {
     return std::ranges::any_of(orvane::modelFormats,
         [&suffix](const orvane::FileFormat& format) { return suffix == orvane::toQString(format.extension); });
@@ -148,9 +148,9 @@ FileDrops::Files FileDrops::sort(const QMimeData& data) const
             refuse(tr("%1 doesn't exist.").arg(shown));
         else if (file.isDir())
             refuse(tr("%1 is a folder. Drop the files in it.").arg(shown));
-        else if (isImage(suffix))
+        else if (isImageSuffix(suffix))
             files.images.append(fileName);
-        else if (isModel(suffix) || SceneDocument::isSceneFileName(fileName))
+        else if (isModelSuffix(suffix) || SceneDocument::isSceneFileName(fileName))
             files.models.append(fileName);
         else
             refuse(tr("%1 is no file that can be added: neither a scene, nor a model or an image that the tool knows "

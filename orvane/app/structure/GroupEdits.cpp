@@ -33,7 +33,7 @@ std::size_t commonLength(const NodeRows& left, const NodeRows& right)
 }
 
 /// The place of a new group that is to hold a set, which isn't empty.
-NodeSpot spotOf(const NodeSet& set)
+NodeSpot spotForGroup(const NodeSet& set)
 {
     const NodeRows& first = set.front();
     std::size_t length = first.path.size();
@@ -72,7 +72,7 @@ std::optional<EditNodes> childrenOf(NxGroup& group, const NodeRows& rows, orvane
 MadeEdit GroupEdits::group(const Set& set, NodePlaces places) const
 {
     const NodeSet top = meridane::topmost(set);
-    const NodeSpot spot = spotOf(top);
+    const NodeSpot spot = spotForGroup(top);
     const NxRef<NxGroup> group(new NxGroup);
     SiblingNames names(spot.group());
     group->setName(names.take(VbString("group")));

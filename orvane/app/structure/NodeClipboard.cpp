@@ -113,7 +113,7 @@ bool NodeClipboard::isOwn(const orvane::NodeOrigin& origin, const NxNode& node) 
     const meridane::Journal* const journal = m_session.services().document().journal();
     const auto number = journal != nullptr ? journal->number(node) : std::nullopt;
     return number && origin.scene == sceneToken()
-        && std::ranges::find(origin.numbers, quint64(*number)) != origin.numbers.end();
+        && std::ranges::find(origin.numbers, static_cast<quint64>(*number)) != origin.numbers.end();
 }
 
 // What was copied comes beside itself, not into itself.

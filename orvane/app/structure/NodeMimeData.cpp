@@ -19,7 +19,7 @@ struct NodeMimeTexts {
     Q_DECLARE_TR_FUNCTIONS(NodeMimeData)
 };
 
-constexpr quint32 formatVersion = 1;
+constexpr quint32 nodeFormatVersion = 1;
 
 QString tooLarge(std::size_t size)
 {
@@ -30,7 +30,7 @@ QString tooLarge(std::size_t size)
             QLocale().formattedDataSize(static_cast<qint64>(mostNodeText)));
 }
 
-Result<std::string> textOf(std::span<const NxRef<NxNode>> nodes)
+Result<std::string> writtenText(std::span<const NxRef<NxNode>> nodes)
 {
     const NxRef<NxGroup> holder(new NxGroup);
     std::vector<NxNode*> children;
@@ -63,13 +63,13 @@ QString nodeMimeType()
 
 Result<std::unique_ptr<QMimeData>> nodeMimeData(std::span<const NxRef<NxNode>> nodes, const NodeOrigin& origin)
 {
-    const Result<std::string> text = textOf(nodes);
+    const Result<std::string> text = writtenText(nodes);
     if (!text)
         return Failure{text.error()};
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_6_4);
-    stream << formatVersion << origin.folder << origin.scene
+    stream << nodeFormatVersion << origin.folder << origin.scene
            << QList<quint64>(origin.numbers.begin(), origin.numbers.end())
            << QByteArray::fromRawData(text.value().data(), static_cast<qsizetype>(text.value().size()));
     auto data = std::make_unique<QMimeData>();
@@ -92,7 +92,7 @@ QByteArray sceneOf(const QMimeData& data)
     QString folder;
     QByteArray scene;
     stream >> version >> folder >> scene;
-    return version == formatVersion && stream.status() == QDataStream::Ok ? scene : QByteArray();
+    return version == nodeFormatVersion && stream.status() == QDataStream::Ok ? scene : QByteArray();
 }
 
 Result<NodeText> nodeText(const QMimeData& data)
@@ -108,7 +108,7 @@ Result<NodeText> nodeText(const QMimeData& data)
         QList<quint64> numbers;
         QByteArray text;
         stream >> version >> result.origin.folder >> result.origin.scene >> numbers >> text;
-        if (version == formatVersion && stream.status() == QDataStream::Ok) {
+        if (version == nodeFormatVersion && stream.status() == QDataStream::Ok) {
             result.origin.numbers.assign(numbers.begin(), numbers.end());
             result.text.assign(text.constData(), static_cast<std::size_t>(text.size()));
             return result;

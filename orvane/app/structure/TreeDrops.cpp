@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int scrollInterval = 40; // milliseconds
+constexpr int dropScrollInterval = 40; // milliseconds
 constexpr int unfoldDelay = 700;
 
 Qt::DropAction actionOf(const QDropEvent& event)
@@ -100,9 +100,9 @@ void TreeDrops::enter(QDropEvent* event)
         m_unfold.start(unfoldDelay, this);
     m_position = position;
     if (!m_scroll.isActive())
-        m_scroll.start(scrollInterval, this);
-    const std::optional<Target> target = targetAt(position);
-    const QString reason = target ? refusal(*event, *target) : tr("Open a scene before you drop nodes.");
+        m_scroll.start(dropScrollInterval, this);
+    const Target target = targetAt(position);
+    const QString reason = refusal(*event, target);
     if (!reason.isEmpty()) {
         m_mark->hide();
         say(reason);
@@ -112,21 +112,17 @@ void TreeDrops::enter(QDropEvent* event)
         return;
     }
     if (event->mimeData()->hasUrls())
-        say(m_files.promise(*event->mimeData(), placeOf(*target)));
+        say(m_files.promise(*event->mimeData(), placeOf(target)));
     event->setDropAction(isOwn(*event) ? actionOf(*event) : Qt::CopyAction);
     event->accept();
 }
 
 void TreeDrops::drop(QDropEvent* event)
 {
-    const std::optional<Target> target = targetAt(event->position().toPoint());
+    const Target target = targetAt(event->position().toPoint());
     end();
-    if (!target) {
-        event->ignore();
-        return;
-    }
     const bool own = isOwn(*event);
-    const QString reason = refusal(*event, *target);
+    const QString reason = refusal(*event, target);
     if (!reason.isEmpty()) {
         say(reason);
         event->ignore();
@@ -136,11 +132,11 @@ void TreeDrops::drop(QDropEvent* event)
     event->setDropAction(action);
     event->accept();
     if (own)
-        m_editor.apply(edit(*target, action));
+        m_editor.apply(edit(target, action));
     else if (event->mimeData()->hasUrls())
-        m_files.take(*event->mimeData(), placeOf(*target));
+        m_files.take(*event->mimeData(), placeOf(target));
     else
-        m_clipboard.insert(*event->mimeData(), target->spot);
+        m_clipboard.insert(*event->mimeData(), target.spot);
 }
 
 void TreeDrops::end()
@@ -152,11 +148,11 @@ void TreeDrops::end()
 }
 
 // The upper and the lower edge of a row mean the place before and behind it, the middle of a group the group.
-std::optional<TreeDrops::Target> TreeDrops::targetAt(const QPoint& position)
+TreeDrops::Target TreeDrops::targetAt(const QPoint& position)
 {
     NxGroup* const scene = m_editor.scene();
     if (scene == nullptr)
-        return std::nullopt;
+        return {{}, std::nullopt, true};
     const QTreeView& view = *m_tree->view();
     const QModelIndex index = view.indexAt(position).siblingAtColumn(SceneTreeModel::NameColumn);
     std::optional<meridane::NodeRows> node = orvane::nodeAt(*m_tree, index);
@@ -215,6 +211,8 @@ MadeEdit TreeDrops::edit(const Target& target, Qt::DropAction action) const
 QString TreeDrops::refusal(const QDropEvent& event, const Target& target) const
 {
     const QMimeData& data = *event.mimeData();
+    if (m_editor.scene() == nullptr && !data.hasUrls())
+        return tr("Open a scene before you drop nodes.");
     if (isOwn(event))
         return actionOf(event) == Qt::CopyAction ? QString()
                                                  : NodeEdits::refusalOfMove(m_editor.selected(), target.spot.group());

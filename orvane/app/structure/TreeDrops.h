@@ -43,7 +43,7 @@ private:
     void enter(QDropEvent* event);
     void drop(QDropEvent* event);
     void end();
-    [[nodiscard]] std::optional<Target> targetAt(const QPoint& position);
+    [[nodiscard]] Target targetAt(const QPoint& position);
     [[nodiscard]] FileDrops::Place placeOf(const Target& target) const;
     [[nodiscard]] bool isOwn(const QDropEvent& event) const;
     [[nodiscard]] MadeEdit edit(const Target& target, Qt::DropAction action) const;

@@ -45,8 +45,10 @@ public:
     {
         for (const NodeRows& rows : set) {
             Nodes& list = m_children[&rows.group()];
-            for (auto row = rows.rows.rbegin(); row != rows.rows.rend(); ++row)
-                list.erase(list.begin() + *row + (&rows.group() == shifted && *row >= from ? 1 : 0));
+            for (std::size_t i = rows.rows.size(); i-- > 0;) {
+                const int row = rows.rows[i];
+                list.erase(list.begin() + row + (&rows.group() == shifted && row >= from ? 1 : 0));
+            }
         }
     }
     void shift(const NodeSet& set, int step)

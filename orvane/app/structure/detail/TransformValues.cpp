@@ -21,7 +21,7 @@ namespace {
 using meridane::Matrix4d;
 
 /// Relative to the size of what is compared.
-constexpr double precision = 2e-6;
+constexpr double transformPrecision = 2e-6;
 
 double sizeOf(const std::array<double, 4>& row)
 {
@@ -31,7 +31,7 @@ double sizeOf(const std::array<double, 4>& row)
 bool isNearRow(const std::array<double, 4>& left, const std::array<double, 4>& right, double size)
 {
     for (std::size_t column = 0; column < 3; ++column) {
-        if (!(std::abs(left[column] - right[column]) <= precision * size))
+        if (!(std::abs(left[column] - right[column]) <= transformPrecision * size))
             return false;
     }
     return true;
@@ -47,7 +47,7 @@ bool isNearLinear(const Matrix4d& left, const Matrix4d& right)
 }
 
 template <typename Field, typename Value>
-void set(Field& field, const Value& value)
+void setUsed(Field& field, const Value& value)
 {
     field.setValue(value);
     field.setIgnored(0);
@@ -58,13 +58,13 @@ VbVec3f pointOf(const NxSFVec3f& field, const Matrix4d& transform)
     return meridane::narrowed(meridane::transformPoint(VbVec3d(meridane::effectiveField(field).getValue()), transform));
 }
 
-void turn(NxSFVec3f& field, const Matrix4d& transform)
+void turnDirection(NxSFVec3f& field, const Matrix4d& transform)
 {
     const VbVec3f& before = meridane::effectiveField(field).getValue();
     const VbVec3f after = meridane::transformDirection(before, transform);
     // Of any length: it keeps the one it has.
     const double size = meridane::length(after);
-    set(field, size > 0 ? meridane::scaled(after, meridane::length(before) / size) : after);
+    setUsed(field, size > 0 ? meridane::scaled(after, meridane::length(before) / size) : after);
 }
 
 /// Gives a transform the translation with which it moves the origin to where the matrix does.
@@ -74,10 +74,10 @@ void setOrigin(NxTransform& node, const Matrix4d& wanted)
     VbVec3d translation(meridane::effectiveField(node.translation).getValue());
     for (std::size_t i = 0; i < 3; ++i)
         translation[i] += wanted[3][i] - present[3][i];
-    set(node.translation, meridane::narrowed(translation));
+    setUsed(node.translation, meridane::narrowed(translation));
 }
 
-bool applyTo(NxTransform& node, const Matrix4d& transform)
+bool applyToNode(NxTransform& node, const Matrix4d& transform)
 {
     const Matrix4d wanted = meridane::multiply(meridane::localTransformOf(node), transform);
     if (!isNearLinear(meridane::localTransformOf(node), wanted)) {
@@ -86,25 +86,25 @@ bool applyTo(NxTransform& node, const Matrix4d& transform)
             return false;
         const auto& scale = parts.parts.scale;
         const VbVec3f factors(static_cast<float>(scale[0]), static_cast<float>(scale[1]), static_cast<float>(scale[2]));
-        set(node.rotation, orvane::fromEuler(parts.parts.rotation));
-        set(node.scaleFactor, factors);
+        setUsed(node.rotation, orvane::fromEuler(parts.parts.rotation));
+        setUsed(node.scaleFactor, factors);
     }
     setOrigin(node, wanted);
     return isNearLinear(meridane::localTransformOf(node), wanted);
 }
 
 /// Cameras don't scale.
-bool applyTo(NxCamera& node, const Matrix4d& transform)
+bool applyToNode(NxCamera& node, const Matrix4d& transform)
 {
     const Matrix4d turned = meridane::multiply(
         Matrix4d(meridane::rotationMatrix(meridane::effectiveField(node.orientation).getValue())), transform);
     const orvane::MatrixDecomposition parts = orvane::decomposed(meridane::narrowed(turned));
-    const auto isOne = [](double factor) { return std::abs(factor - 1) <= precision; };
+    const auto isOne = [](double factor) { return std::abs(factor - 1) <= transformPrecision; };
     if (parts.rest == orvane::MatrixRest::NotFinite || !std::ranges::all_of(parts.parts.scale, isOne))
         return false;
     if (!isNearLinear(transform, Matrix4d()))
-        set(node.orientation, orvane::fromEuler(parts.parts.rotation));
-    set(node.position, pointOf(node.position, transform));
+        setUsed(node.orientation, orvane::fromEuler(parts.parts.rotation));
+    setUsed(node.position, pointOf(node.position, transform));
     return true;
 }
 
@@ -165,24 +165,24 @@ double distanceOf(const Matrix4d& matrix)
 bool applyTransform(NxNode& node, const Matrix4d& transform)
 {
     if (auto* const group = dynamic_cast<NxTransform*>(&node))
-        return applyTo(*group, transform);
+        return applyToNode(*group, transform);
     if (auto* const camera = dynamic_cast<NxCamera*>(&node))
-        return applyTo(*camera, transform);
+        return applyToNode(*camera, transform);
     if (auto* const matrix = dynamic_cast<NxMatrixTransform*>(&node)) {
-        set(matrix->matrix, meridane::narrowed(meridane::multiply(meridane::localTransformOf(node), transform)));
+        setUsed(matrix->matrix, meridane::narrowed(meridane::multiply(meridane::localTransformOf(node), transform)));
         return true;
     }
     if (auto* const point = dynamic_cast<NxPointLight*>(&node)) {
-        set(point->location, pointOf(point->location, transform));
+        setUsed(point->location, pointOf(point->location, transform));
         return true;
     }
     if (auto* const spot = dynamic_cast<NxSpotLight*>(&node)) {
-        set(spot->location, pointOf(spot->location, transform));
-        turn(spot->direction, transform);
+        setUsed(spot->location, pointOf(spot->location, transform));
+        turnDirection(spot->direction, transform);
         return true;
     }
     if (auto* const directional = dynamic_cast<NxDirectionalLight*>(&node)) {
-        turn(directional->direction, transform);
+        turnDirection(directional->direction, transform);
         return true;
     }
     return false;
