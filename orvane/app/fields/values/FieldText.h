@@ -1,5 +1,7 @@
 #pragma once
 
+#include "orvane/app/scene/NodeName.h"
+
 #include <QString>
 
 class NxField;
