@@ -15,7 +15,7 @@ std::pair<float, float> NxSection::limited(const NxRay& ray, std::pair<float, fl
     const double left = position - dot(ray.origin, VbVec3d(normal)); // before the plane, at the origin
     if (slope == 0.0)
         return left >= 0 ? distances : std::pair(1.F, 0.F);
-    constexpr auto most = double{std::numeric_limits<float>::max()};
+    constexpr auto most = static_cast<double>(std::numeric_limits<float>::max());
     const auto end = static_cast<float>(std::clamp(left / slope, -most, most));
     if (slope > 0)
         return {distances.first, std::min(distances.second, end)};

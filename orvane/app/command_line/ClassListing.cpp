@@ -30,11 +30,6 @@ QString nameOf(NxType type)
     return QString::fromUtf8(type.getName().getString());
 }
 
-QString textOf(std::string_view text)
-{
-    return orvane::toQString(text);
-}
-
 /// From the parent up to the class of all nodes.
 QStringList basesOf(NxType type)
 {
@@ -72,14 +67,14 @@ void printClass(NxNode& node, QTextStream& output)
     const NxFieldData& data = *node.getFieldData();
     output << nameOf(node.getTypeId()) << " (" << basesOf(node.getTypeId()).join(QStringLiteral(", ")) << ")\n";
     if (!data.getDescription().empty())
-        output << textOf(data.getDescription()) << '\n';
+        output << orvane::toQString(data.getDescription()) << '\n';
     std::vector<Row> rows;
     for (int i = 0; i < data.getNumFields(); ++i) {
         const NxField& field = *data.getDefault(i);
         const NxFieldFacts& facts = data.getFacts(i);
         rows.push_back({QString::fromUtf8(data.getFieldName(i).getString()), orvane::typeName(field),
             orvane::beginningOf(field, printedValueLength), orvane::unitText(facts.unit),
-            orvane::rangeText(field, facts), textOf(facts.description)});
+            orvane::rangeText(field, facts), orvane::toQString(facts.description)});
     }
     printTable(rows, output);
 }
@@ -99,7 +94,8 @@ QJsonObject jsonField(const NxFieldData& data, int index)
     return {{QStringLiteral("name"), QString::fromUtf8(data.getFieldName(index).getString())},
         {QStringLiteral("type"), orvane::typeName(field)},
         {QStringLiteral("declaredBy"), nameOf(data.getDeclaringType(index))},
-        {QStringLiteral("default"), textOf(value.view())}, {QStringLiteral("description"), textOf(facts.description)},
+        {QStringLiteral("default"), orvane::toQString(value.view())},
+        {QStringLiteral("description"), orvane::toQString(facts.description)},
         {QStringLiteral("unit"), orvane::unitText(facts.unit)},
         {QStringLiteral("range"), orvane::rangeText(field, facts)},
         {QStringLiteral("hardRange"), QJsonArray{limit(facts.hardMinimum), limit(facts.hardMaximum)}},
@@ -117,7 +113,7 @@ QString jsonClass(NxNode& node)
         fields.append(jsonField(data, i));
     const QJsonObject object{{QStringLiteral("name"), nameOf(node.getTypeId())},
         {QStringLiteral("bases"), QJsonArray::fromStringList(basesOf(node.getTypeId()))},
-        {QStringLiteral("description"), textOf(data.getDescription())}, {QStringLiteral("fields"), fields}};
+        {QStringLiteral("description"), orvane::toQString(data.getDescription())}, {QStringLiteral("fields"), fields}};
     return orvane::jsonLine(object);
 }
 

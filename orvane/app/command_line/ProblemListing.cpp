@@ -17,11 +17,6 @@
 
 namespace {
 
-QString textOf(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// Makes the paths of many problems.
 class Paths {
 public:
@@ -45,8 +40,8 @@ QJsonObject jsonObject(const NxSceneProblem& problem, const QString& path)
 {
     const meridane::ProblemClass& about = problem.about();
     QJsonObject object{{QStringLiteral("path"), path},
-        {QStringLiteral("severity"), textOf(meridane::severityText(about.severity))},
-        {QStringLiteral("identifier"), textOf(about.identifier)},
+        {QStringLiteral("severity"), orvane::toQString(meridane::severityText(about.severity))},
+        {QStringLiteral("identifier"), orvane::toQString(about.identifier)},
         {QStringLiteral("text"), orvane::toQString(problem.sentence())},
         {QStringLiteral("class"), QString::fromUtf8(problem.node->getClassName())},
         {QStringLiteral("count"), static_cast<qint64>(problem.count)}};
@@ -56,7 +51,7 @@ QJsonObject jsonObject(const NxSceneProblem& problem, const QString& path)
     if (problem.row >= 0)
         object[QStringLiteral("row")] = problem.row;
     if (problem.isMendable)
-        object[QStringLiteral("mend")] = textOf(about.mend);
+        object[QStringLiteral("mend")] = orvane::toQString(about.mend);
     return object;
 }
 
@@ -67,8 +62,9 @@ void ProblemListing::print() const
     Paths paths(m_scene);
     m_check.reportAll([&](const NxSceneProblem& problem, std::span<const int> places) {
         const meridane::ProblemClass& about = problem.about();
-        m_output << paths.of(places, problem.field) << '\t' << textOf(meridane::severityText(about.severity)) << '\t'
-                 << textOf(about.identifier) << '\t' << orvane::toQString(problem.sentence()) << '\n';
+        m_output << paths.of(places, problem.field) << '\t' << orvane::toQString(meridane::severityText(about.severity))
+                 << '\t' << orvane::toQString(about.identifier) << '\t' << orvane::toQString(problem.sentence())
+                 << '\n';
         return m_output.status() == QTextStream::Ok;
     });
 }

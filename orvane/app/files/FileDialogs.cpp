@@ -11,10 +11,9 @@
 
 namespace {
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("FileDialogs", text);
-}
+struct FileDialogs {
+    Q_DECLARE_TR_FUNCTIONS(FileDialogs)
+};
 
 QFileDialog* makeDialog(
     QWidget* window, const char* name, const QString& title, const QStringList& filters, const SceneDocument& document)
@@ -34,39 +33,39 @@ namespace orvane {
 
 QFileDialog* makeOpenDialog(QWidget* window, const SceneDocument& document)
 {
-    QFileDialog* dialog = makeDialog(window, "openDialog", translated("Open"), openFilters(), document);
+    QFileDialog* dialog = makeDialog(window, "openDialog", FileDialogs::tr("Open"), openFilters(), document);
     dialog->setFileMode(QFileDialog::ExistingFile);
     return dialog;
 }
 
 QFileDialog* makeImportDialog(QWidget* window, const SceneDocument& document)
 {
-    QFileDialog* dialog = makeDialog(window, "importDialog", translated("Import"), importFilters(), document);
+    QFileDialog* dialog = makeDialog(window, "importDialog", FileDialogs::tr("Import"), importFilters(), document);
     dialog->setFileMode(QFileDialog::ExistingFile);
     return dialog;
 }
 
 QFileDialog* makeCompareDialog(QWidget* window, const SceneDocument& document)
 {
-    QFileDialog* dialog = makeDialog(window, "compareDialog", translated("Compare With"), openFilters(), document);
+    QFileDialog* dialog = makeDialog(window, "compareDialog", FileDialogs::tr("Compare With"), openFilters(), document);
     dialog->setFileMode(QFileDialog::ExistingFile);
     return dialog;
 }
 
 QFileDialog* makeSaveDialog(QWidget* window, const SceneDocument& document)
 {
-    QFileDialog* dialog = makeDialog(window, "saveDialog", translated("Save Scene"), saveFilters(), document);
+    QFileDialog* dialog = makeDialog(window, "saveDialog", FileDialogs::tr("Save Scene"), saveFilters(), document);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(toQString(SceneFormat::extension));
-    const QString name
-        = document.fileName().isEmpty() ? translated("Untitled") : QFileInfo(document.fileName()).completeBaseName();
+    const QString name = document.fileName().isEmpty() ? FileDialogs::tr("Untitled")
+                                                       : QFileInfo(document.fileName()).completeBaseName();
     dialog->selectFile(name + u'.' + dialog->defaultSuffix());
     return dialog;
 }
 
 QFileDialog* makeExportDialog(QWidget* window, const SceneDocument& document)
 {
-    QFileDialog* dialog = makeDialog(window, "exportDialog", translated("Export"), exportFilters(), document);
+    QFileDialog* dialog = makeDialog(window, "exportDialog", FileDialogs::tr("Export"), exportFilters(), document);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     const auto setSuffix = [dialog](const QString& filter) { dialog->setDefaultSuffix(exportSuffix(filter)); };
     setSuffix(dialog->selectedNameFilter());

@@ -1,45 +1,35 @@
 #include "orvane/app/files/FileRequests.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <utility>
 
-namespace {
-
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("FileRequests", text);
-}
-
-} // namespace
-
 QString FileRequest::name(Kind kind, const QString& fileName)
 {
-    const QString file = fileName.isEmpty() ? translated("a file") : QFileInfo(fileName).fileName();
+    const QString file = fileName.isEmpty() ? FileRequests::tr("a file") : QFileInfo(fileName).fileName();
     switch (kind) {
     case Kind::New:
-        return translated("making a new scene");
+        return FileRequests::tr("making a new scene");
     case Kind::Open:
-        return translated("opening %1").arg(file);
+        return FileRequests::tr("opening %1").arg(file);
     case Kind::Add:
-        return translated("adding %1").arg(file);
+        return FileRequests::tr("adding %1").arg(file);
     case Kind::Compare:
-        return translated("comparing with %1").arg(file);
+        return FileRequests::tr("comparing with %1").arg(file);
     case Kind::Reload:
-        return translated("reloading %1").arg(file);
+        return FileRequests::tr("reloading %1").arg(file);
     case Kind::Save:
     case Kind::SaveAs:
-        return fileName.isEmpty() ? translated("saving the scene") : translated("saving %1").arg(file);
+        return fileName.isEmpty() ? FileRequests::tr("saving the scene") : FileRequests::tr("saving %1").arg(file);
     case Kind::Export:
-        return translated("exporting to %1").arg(file);
+        return FileRequests::tr("exporting to %1").arg(file);
     case Kind::Close:
-        return translated("closing the scene");
+        return FileRequests::tr("closing the scene");
     case Kind::Quit:
         break;
     }
-    return translated("quitting");
+    return FileRequests::tr("quitting");
 }
 
 void FileRequests::push(FileRequest request)

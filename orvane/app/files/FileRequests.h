@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -26,6 +27,8 @@ struct FileRequest {
 
 /// The requests that wait because another is being carried out, in the order in which they were made.
 class FileRequests {
+    Q_DECLARE_TR_FUNCTIONS(FileRequests)
+
 public:
     /// Appends a request. Ignores one that equals the last, except that a model may be added several times and that a
     /// request with `lost` is always kept, so that one of its functions is called.

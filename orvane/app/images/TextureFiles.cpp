@@ -126,7 +126,8 @@ void TextureFiles::takeImage()
 {
     NxImage image = m_decoder.takeImage();
     if (image.width > largestSide || image.height > largestSide)
-        finish({NxImageState::Failed, {}, "it is larger than " + std::to_string(largestSide) + " pixels a side"});
+        finish({NxImageState::Failed, {},
+            QStringLiteral("it is larger than %1 pixels a side").arg(largestSide).toStdString()});
     else
         finish({NxImageState::Loaded, std::move(image), {}});
 }

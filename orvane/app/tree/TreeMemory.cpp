@@ -17,11 +17,11 @@ const QString treeMemoryKey = QStringLiteral("scene/trees");
 constexpr QChar partEnd(u'\n');
 constexpr QChar rowEnd(u'\t');
 /// Of a name, which is only a check.
-constexpr qsizetype mostCharacters = 40;
+constexpr qsizetype mostOfName = 40;
 
 QString checkOf(const NxNode& node)
 {
-    QString name = orvane::toQString(node.getName()).left(mostCharacters);
+    QString name = orvane::toQString(node.getName()).left(mostOfName);
     name.replace(partEnd, u' ').replace(rowEnd, u' ');
     return name;
 }
