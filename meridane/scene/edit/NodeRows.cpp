@@ -96,8 +96,8 @@ std::vector<SetMember> inTreeOrder(const NodeSet& set)
             members.push_back({&rows, row});
     }
     if (set.size() > 1)
-        std::ranges::stable_sort(
-            members, [](const SetMember& left, const SetMember& right) { return compareInTree(left, right) < 0; });
+        std::ranges::stable_sort(members,
+            [](const SetMember& left, const SetMember& right) { return std::is_lt(compareInTree(left, right)); });
     return members;
 }
 
