@@ -197,6 +197,34 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
                                           : checkFiles(parser.positionalArguments(), parser.isSet(options.diff));
 }
 
+/// Takes over what needs no check.
+void takeValues(const QCommandLineParser& parser, const Options& options, CommandLine& result)
+{
+    result.describe = parser.isSet(options.describe);
+    if (result.describe) {
+        result.classes = parser.positionalArguments();
+    } else {
+        result.file = parser.positionalArguments().value(0);
+        result.secondFile = parser.positionalArguments().value(1);
+    }
+    result.plugins = parser.values(options.plugin);
+    result.profile = parser.value(options.profile);
+    result.select = parser.value(options.select);
+    result.queries = parser.values(options.get);
+    result.searches = parser.values(options.find);
+    result.exportFiles = parser.values(options.exportTo);
+    result.screenshotFile = parser.value(options.screenshot);
+    result.list = parser.isSet(options.list);
+    result.diff = parser.isSet(options.diff);
+    result.check = parser.isSet(options.check);
+    result.json = parser.isSet(options.json);
+    result.listExtensions = parser.isSet(options.listExtensions);
+    result.watch = parser.isSet(options.watch);
+    result.keepGroups = parser.isSet(options.keepGroups);
+    result.noPlugins = parser.isSet(options.noPlugins);
+    result.noSettings = parser.isSet(options.noSettings);
+}
+
 } // namespace
 
 int CommandLine::failureStatus() const noexcept
@@ -238,29 +266,7 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
 
     if (const auto use = checkUse(parser, options); !use)
         return Failure{use.error()};
-    result.describe = parser.isSet(options.describe);
-    if (result.describe) {
-        result.classes = parser.positionalArguments();
-    } else {
-        result.file = parser.positionalArguments().value(0);
-        result.secondFile = parser.positionalArguments().value(1);
-    }
-    result.plugins = parser.values(options.plugin);
-    result.profile = parser.value(options.profile);
-    result.select = parser.value(options.select);
-    result.queries = parser.values(options.get);
-    result.searches = parser.values(options.find);
-    result.exportFiles = parser.values(options.exportTo);
-    result.screenshotFile = parser.value(options.screenshot);
-    result.list = parser.isSet(options.list);
-    result.diff = parser.isSet(options.diff);
-    result.check = parser.isSet(options.check);
-    result.json = parser.isSet(options.json);
-    result.listExtensions = parser.isSet(options.listExtensions);
-    result.watch = parser.isSet(options.watch);
-    result.keepGroups = parser.isSet(options.keepGroups);
-    result.noPlugins = parser.isSet(options.noPlugins);
-    result.noSettings = parser.isSet(options.noSettings);
+    takeValues(parser, options, result);
     for (const QString& argument : parser.values(options.set)) {
         const auto assignment = parseAssignment(argument);
         if (!assignment)

@@ -143,11 +143,12 @@ void FieldActions::update()
     for (QAction* const action : {m_edit, m_copy, m_paste, m_copyPath, m_copyAssignment, m_ignore, m_favorite})
         action->setEnabled(hasField);
     const FieldRow* const row = m_model->row(current());
-    m_edit->setText(row != nullptr && row->isList() ? tr("&Open List") : tr("&Edit"));
+    const bool isList = row != nullptr && row->isList();
+    m_edit->setText(isList ? tr("&Open List") : tr("&Edit"));
     m_reset->setEnabled(hasField && set.isChanged());
     m_findSame->setEnabled(hasField && !set.isMixed());
     m_ignore->setChecked(hasField && set.isIgnored());
-    m_defer->setEnabled(hasField && !row->isList());
+    m_defer->setEnabled(hasField && !isList);
     m_defer->setChecked(isDeferred());
     m_favorite->setChecked(current().data(FieldRoles::FavoriteRole).toBool());
 }
