@@ -60,7 +60,7 @@ QString KeptSearches::refusal(const QString& name) const
 QString KeptSearches::keep(const QString& name, const QString& text)
 {
     const QString trimmed = name.simplified();
-    if (const QString reason = refusal(trimmed); !reason.isEmpty())
+    if (QString reason = refusal(trimmed); !reason.isEmpty())
         return reason;
     if (find(trimmed) >= 0)
         return KeptSearchTexts::tr("There is a search of that name already.");
@@ -74,7 +74,7 @@ QString KeptSearches::keep(const QString& name, const QString& text)
 QString KeptSearches::rename(const QString& name, const QString& newName)
 {
     const QString trimmed = newName.simplified();
-    if (const QString reason = refusal(trimmed); !reason.isEmpty())
+    if (QString reason = refusal(trimmed); !reason.isEmpty())
         return reason;
     const qsizetype other = find(trimmed);
     const qsizetype found = find(name);

@@ -66,6 +66,7 @@ int orvane::paintFound(QPainter& painter, const QFont& font, const QRect& area, 
     line.setLineWidth(area.width());
     layout.endLayout();
     painter.setPen(QPen(color));
-    layout.draw(&painter, QPointF(area.left(), area.top() + (area.height() - metrics.height()) / 2));
+    const int above = (area.height() - metrics.height()) / 2;
+    layout.draw(&painter, QPointF(area.left(), area.top() + above));
     return std::min(metrics.horizontalAdvance(shown), area.width());
 }

@@ -30,7 +30,7 @@ void ReadablePalette::mend()
     const QColor base = present.color(QPalette::Base);
     // The colour of the text with less opacity, in most palettes.
     const QColor placeholder = present.color(QPalette::PlaceholderText);
-    const QColor seen = orvane::look::mixed(base, placeholder, placeholder.alphaF());
+    const QColor seen = orvane::look::mixed(base, placeholder, static_cast<double>(placeholder.alphaF()));
     if (orvane::look::contrast(seen, base) >= orvane::look::markContrast)
         return;
     QPalette mended; // only what is set here
