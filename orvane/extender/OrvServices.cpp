@@ -122,9 +122,13 @@ void OrvServices::pushCommand(OrvCommand* command)
 void OrvServices::pushStep(OrvCommand* command, const QString& label)
 {
     beginStep({});
-    const HistoryChange change(*this);
-    m_stepEnd->lookLater();
-    m_history->push(std::unique_ptr<OrvCommand>(command), {HistoryOrigin::none, nullptr, nullptr, nullptr, label});
+    {
+        const HistoryChange change(*this);
+        m_stepEnd->lookLater();
+        m_history->push(std::unique_ptr<OrvCommand>(command), {HistoryOrigin::none, nullptr, nullptr, nullptr, label});
+    }
+    // Now, since the step ends with the action of the user, before the change is looked for.
+    Q_EMIT documentEdited();
 }
 
 void OrvServices::beginEdit(const QString& label)

@@ -52,7 +52,7 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     m_export->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
     connect(m_export, &QAction::triggered, &flow, &FileFlow::chooseFileToExport);
     m_compare = addAction(tr("Compare &With…"), "file.compare", tr("Shows how the scene differs from a file"));
-    m_compare->setShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_C));
+    m_compare->setShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_D));
     connect(m_compare, &QAction::triggered, &flow, &FileFlow::chooseFileToCompare);
     m_menu->addSeparator();
     m_close = addAction(tr("&Close"), "file.close", tr("Closes the scene"));

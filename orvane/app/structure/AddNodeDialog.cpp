@@ -9,6 +9,7 @@
 #include "meridane/scene/nodes/NxNode.h"
 #include "meridane/scene/nodes/NxUnknownNode.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -80,10 +81,10 @@ bool AddNodeDialog::eventFilter(QObject* object, QEvent* event)
         return QDialog::eventFilter(object, event);
     // The line keeps the focus while the arrow keys choose.
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_Up && key != Qt::Key_Down && key != Qt::Key_PageUp && key != Qt::Key_PageDown)
-        return false;
-    QCoreApplication::sendEvent(m_list, event);
-    return true;
+    const bool isForList = key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+    if (isForList)
+        QCoreApplication::sendEvent(m_list, event);
+    return isForList;
 }
 
 void AddNodeDialog::fill()

@@ -1,5 +1,6 @@
 #include "orvane/app/structure/NodeActions.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/PendingEdits.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/app/scene/Session.h"
@@ -81,7 +82,7 @@ void NodeActions::addClipboard()
     QAction* const paste = add("node.paste", tr("&Paste"), QKeySequence::Paste,
         tr("Adds the nodes of the clipboard to the selected group, or behind the selected node"));
     connect(paste, &QAction::triggered, m_clipboard, &NodeClipboard::paste);
-    QAction* const share = add("node.pasteShared", tr("Paste as S&hared"), Qt::CTRL | Qt::SHIFT | Qt::Key_V,
+    QAction* const share = add("node.pasteShared", tr("Paste a&s Shared"), Qt::CTRL | Qt::SHIFT | Qt::Key_V,
         tr("Lets the nodes that were copied be in this place as well, so that a change is seen in both"));
     connect(share, &QAction::triggered, m_clipboard, &NodeClipboard::pasteShared);
     m_needScene << paste << share;
@@ -121,7 +122,7 @@ void NodeActions::addEdits()
     using Set = meridane::NodeSet;
     const auto edits = [this] { return NodeEdits(*m_editor->scene()); };
     const auto groups = [this] { return GroupEdits(*m_editor->scene()); };
-    addEdit("node.duplicate", tr("D&uplicate"), Qt::CTRL | Qt::Key_D, tr("Copies the selected nodes behind themselves"),
+    addEdit("node.duplicate", tr("Dup&licate"), Qt::CTRL | Qt::Key_D, tr("Copies the selected nodes behind themselves"),
         [edits](const Set& set) { return edits().duplicate(set); });
     addEdit("node.delete", tr("&Delete Node"), QKeySequence::Delete,
         tr("Removes the selected nodes with everything below them"),
@@ -129,10 +130,10 @@ void NodeActions::addEdits()
     addSeparator();
     addEdit("node.group", tr("&Group"), Qt::CTRL | Qt::Key_G, tr("Puts the selected nodes into a new group"),
         [this, groups](const Set& set) { return groups().group(set, m_editor->places()); });
-    addEdit("node.ungroup", tr("U&ngroup"), Qt::CTRL | Qt::SHIFT | Qt::Key_G,
+    addEdit("node.ungroup", tr("Ungr&oup"), Qt::CTRL | Qt::SHIFT | Qt::Key_G,
         tr("Replaces the selected groups by what is in them"),
         [this, groups](const Set& set) { return groups().ungroup(set, m_editor->places()); });
-    addEdit("node.makeOwn", tr("Make &Own Copy"), {},
+    addEdit("node.makeOwn", tr("Make Own Cop&y"), {},
         tr("Gives these places a copy of their own of a node that is in other places as well"),
         [groups](const Set& set) { return groups().makeOwn(set); });
 }
@@ -142,12 +143,12 @@ void NodeActions::addMoves()
     using Set = meridane::NodeSet;
     const auto key = [](Qt::Key arrow) { return QKeySequence(Qt::ALT | Qt::SHIFT | arrow); };
     const auto steps = [this] { return NodeSteps(*m_editor->scene()); };
-    addEdit("node.moveUp", tr("Move U&p"), key(Qt::Key_Up), tr("Moves the selected nodes before the node above them"),
+    addEdit("node.moveUp", tr("&Move Up"), key(Qt::Key_Up), tr("Moves the selected nodes before the node above them"),
         [steps](const Set& set) { return steps().up(set); });
     addEdit("node.moveDown", tr("Move Do&wn"), key(Qt::Key_Down),
         tr("Moves the selected nodes behind the node below them"),
         [steps](const Set& set) { return steps().down(set); });
-    addEdit("node.moveOut", tr("Move Ou&t of Group"), key(Qt::Key_Left),
+    addEdit("node.moveOut", tr("Mov&e Out of Group"), key(Qt::Key_Left),
         tr("Moves the selected nodes behind the group that they are in"),
         [this, steps](const Set& set) { return steps().out(set, m_editor->places()); });
     addEdit("node.moveIn", tr("Move &into Group Above"), key(Qt::Key_Right),
@@ -182,7 +183,7 @@ void NodeActions::updateActions()
 {
     const bool hasSelection = m_tree->selected().isValid();
     for (QAction* const action : m_needSelection)
-        action->setEnabled(hasSelection);
+        orvane::setReason(*action, hasSelection ? QString() : tr("No node is selected."));
     for (QAction* const action : m_needScene)
-        action->setEnabled(m_editor->scene() != nullptr);
+        orvane::setReason(*action, m_editor->scene() != nullptr ? QString() : tr("No scene is open."));
 }

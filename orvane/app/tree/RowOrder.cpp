@@ -46,7 +46,7 @@ QModelIndexList rowsInTreeOrder(const QItemSelection& ranges)
     };
     enter(QModelIndex());
     const QAbstractItemModel* const model = ranges.isEmpty() ? nullptr : ranges.constFirst().model();
-    while (!steps.empty()) {
+    while (model != nullptr && !steps.empty()) {
         Step& step = steps.back();
         if (step.next == step.level->rows.end()) {
             steps.pop_back();

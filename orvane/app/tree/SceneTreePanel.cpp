@@ -79,6 +79,7 @@ void SceneTreePanel::clickEye(const QModelIndex& index)
     if (m_view->selectionModel()->isSelected(index))
         rows = m_selection->indexes();
     std::vector<std::vector<NxNode*>> paths;
+    paths.reserve(static_cast<std::size_t>(rows.size()));
     for (const QModelIndex& row : rows)
         paths.push_back(m_model->path(row));
     if (!isShown) {
@@ -86,6 +87,7 @@ void SceneTreePanel::clickEye(const QModelIndex& index)
         return;
     }
     std::vector<NxNode*> nodes;
+    nodes.reserve(paths.size());
     for (const std::vector<NxNode*>& path : paths)
         nodes.push_back(path.back());
     m_hidden->hide(nodes);

@@ -25,8 +25,8 @@ constexpr int mostLevels = 9;
 TreeActions::TreeActions(SceneTreePanel* tree, QStatusBar* bar)
     : QObject(tree)
     , m_tree(tree)
-    , m_foldMenu(new QMenu(tr("Fo&ld"), tree))
-    , m_selectMenu(new QMenu(tr("Selec&t"), tree))
+    , m_foldMenu(new QMenu(tr("&Unfold and Fold"), tree))
+    , m_selectMenu(new QMenu(tr("Select &Nodes"), tree))
 {
     m_foldMenu->setObjectName(QStringLiteral("foldMenu"));
     m_selectMenu->setObjectName(QStringLiteral("selectMenu"));

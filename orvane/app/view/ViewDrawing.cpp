@@ -17,6 +17,7 @@ namespace {
 std::vector<NxNode*> pointersTo(const std::vector<NxRef<NxNode>>& nodes)
 {
     std::vector<NxNode*> pointers;
+    pointers.reserve(nodes.size());
     for (const NxRef<NxNode>& node : nodes)
         pointers.push_back(node.get());
     return pointers;

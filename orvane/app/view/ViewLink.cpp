@@ -37,7 +37,7 @@ QString coordinates(const VbVec3d& point, const QString& separator)
 
 QString ViewLink::pickedText(const NxRayHit& hit)
 {
-    const QString point = tr("at %1").arg(coordinates(hit.point, QStringLiteral(", ")));
+    QString point = tr("at %1").arg(coordinates(hit.point, QStringLiteral(", ")));
     const auto* const mesh = hit.path.empty() ? nullptr : dynamic_cast<const NxMesh*>(hit.path.back());
     if (mesh == nullptr || hit.vertex >= mesh->positions.getNum())
         return point;

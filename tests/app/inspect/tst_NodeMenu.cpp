@@ -90,11 +90,16 @@ private Q_SLOTS:
         rightClickTree(placeOf("/robot/hand"));
         QCOMPARE(services().getSelectedNode(), node("/robot/hand"));
         QCOMPARE(texts(),
-            QStringList({QStringLiteral("Rename Node"), QStringLiteral("Delete Node"), QStringLiteral("Isolate"),
-                QStringLiteral("Hide"), QStringLiteral("Favorite Node"), QStringLiteral("Copy Path"),
-                QStringLiteral("Copy All Fields"), QStringLiteral("Paste All Fields"),
-                QStringLiteral("Lock Inspector on This"), QStringLiteral("New Inspector"),
-                QStringLiteral("Frame Selection"), QStringLiteral("Frame All")}));
+            QStringList(
+                {QStringLiteral("Rename Node"), QStringLiteral("Cut"), QStringLiteral("Copy"), QStringLiteral("Paste"),
+                    QStringLiteral("Paste as Shared"), QStringLiteral("Add Node…"), QStringLiteral("Duplicate"),
+                    QStringLiteral("Delete Node"), QStringLiteral("Group"), QStringLiteral("Ungroup"),
+                    QStringLiteral("Make Own Copy"), QStringLiteral("Move Up"), QStringLiteral("Move Down"),
+                    QStringLiteral("Move Out of Group"), QStringLiteral("Move into Group Above"),
+                    QStringLiteral("Keep Place"), QStringLiteral("Isolate"), QStringLiteral("Hide"),
+                    QStringLiteral("Favorite Node"), QStringLiteral("Copy Path"), QStringLiteral("Copy All Fields"),
+                    QStringLiteral("Paste All Fields"), QStringLiteral("Lock Inspector on This"),
+                    QStringLiteral("New Inspector"), QStringLiteral("Frame Selection"), QStringLiteral("Frame All")}));
     }
 
     void theGroundHasAMenuOfItsOwn()

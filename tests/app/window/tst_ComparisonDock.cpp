@@ -46,7 +46,7 @@ private Q_SLOTS:
     void aFileIsChosenWithTheKeyboard()
     {
         open(m_robot);
-        QTest::keyClick(m_window.get(), Qt::Key_D, Qt::ControlModifier);
+        QTest::keyClick(m_window.get(), Qt::Key_D, Qt::ControlModifier | Qt::AltModifier);
         auto* const dialog = m_window->findChild<QFileDialog*>(QStringLiteral("compareDialog"));
         QVERIFY(dialog != nullptr);
         QVERIFY(QTest::qWaitForWindowActive(dialog, testPatience));
