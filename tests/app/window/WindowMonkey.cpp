@@ -17,6 +17,7 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeView>
 
 WindowMonkey::WindowMonkey(unsigned seed, QHash<QString, int>& done)
@@ -155,7 +156,10 @@ void WindowMonkey::useWindow()
     for (QWidget* const widget : m_window->findChildren<QWidget*>()) {
         const bool isControl = qobject_cast<QLineEdit*>(widget) != nullptr
             || qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QAbstractItemView*>(widget) != nullptr;
-        if (isControl && widget->isVisible() && widget->isEnabled() && widget->window() == m_window.get())
+        // A menu of a button has an event loop of its own, in which nothing would be noted.
+        const auto* const button = qobject_cast<QToolButton*>(widget);
+        const bool opensMenu = button != nullptr && button->popupMode() == QToolButton::InstantPopup;
+        if (isControl && !opensMenu && widget->isVisible() && widget->isEnabled() && widget->window() == m_window.get())
             widgets.append(widget);
     }
     if (widgets.isEmpty() || QApplication::activePopupWidget() != nullptr) {
