@@ -1,6 +1,7 @@
 #include "app/window/WindowMonkey.h"
 
 #include "Patience.h"
+#include "app/window/UsableControls.h"
 
 #include "orvane/app/base/SearchFolders.h"
 #include "orvane/app/files/FileFlow.h"
@@ -17,7 +18,6 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
-#include <QToolButton>
 #include <QTreeView>
 
 WindowMonkey::WindowMonkey(unsigned seed, QHash<QString, int>& done)
@@ -152,16 +152,7 @@ void WindowMonkey::edit()
 // Keys and mouse on whatever can be seen.
 void WindowMonkey::useWindow()
 {
-    QList<QWidget*> widgets;
-    for (QWidget* const widget : m_window->findChildren<QWidget*>()) {
-        const bool isControl = qobject_cast<QLineEdit*>(widget) != nullptr
-            || qobject_cast<QAbstractButton*>(widget) != nullptr || qobject_cast<QAbstractItemView*>(widget) != nullptr;
-        // A menu of a button has an event loop of its own, in which nothing would be noted.
-        const auto* const button = qobject_cast<QToolButton*>(widget);
-        const bool opensMenu = button != nullptr && button->popupMode() == QToolButton::InstantPopup;
-        if (isControl && !opensMenu && widget->isVisible() && widget->isEnabled() && widget->window() == m_window.get())
-            widgets.append(widget);
-    }
+    const QList<QWidget*> widgets = usableControls(*m_window);
     if (widgets.isEmpty() || QApplication::activePopupWidget() != nullptr) {
         if (QWidget* const popup = QApplication::activePopupWidget())
             popup->close();
