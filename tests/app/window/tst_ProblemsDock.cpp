@@ -202,7 +202,7 @@ private Q_SLOTS:
         QTRY_VERIFY(button("mendKind")->isEnabled());
         click("mendKind");
         QTRY_COMPARE(model()->rowCount(), 3);
-        QCOMPARE(m_session->services().undoText(), QStringLiteral("Mend 2 problems"));
+        QTRY_COMPARE(m_session->services().undoText(), QStringLiteral("Mend 2 problems"));
         m_session->services().undo();
         QCOMPARE(sceneText(), before);
         QTRY_COMPARE(model()->rowCount(), 5);
