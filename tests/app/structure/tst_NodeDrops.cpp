@@ -166,8 +166,8 @@ private Q_SLOTS:
         const std::string before = text();
         QMimeData data;
         setUrls(data,
-            {file("a.mrd", "#mrd 1.0\nMesh \"x\" {}\n"), file("broken.mrd", "#mrd 1.0\nMesh {"),
-                file("b.mrd", "#mrd 1.0\nMesh \"y\" {}\n")});
+            {file("a.mrd", "#mrd 1.0\nGroup \"x\" {}\n"), file("broken.mrd", "#mrd 1.0\nMesh {"),
+                file("b.mrd", "#mrd 1.0\nGroup \"y\" {}\n")});
         QVERIFY(drop(tree()->viewport(), data, pointOf("box", Part::Middle)));
         const auto* const box = static_cast<NxGroup*>(scene().getChild(1));
         QTRY_COMPARE_WITH_TIMEOUT(box->getNumChildren(), 2, testPatience);
