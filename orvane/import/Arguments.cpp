@@ -89,6 +89,32 @@ bool decode(std::string& text)
     return true;
 }
 
+bool* flagOf(std::string_view option, Arguments& arguments)
+{
+    if (option == "--packed")
+        return &arguments.packed;
+    if (option == "--keep-groups")
+        return &arguments.import.keepsGroups;
+    return option == "--encoded" ? &arguments.encoded : nullptr;
+}
+
+// Checks what goes together, and takes the values that depend on another argument.
+bool complete(Arguments& arguments, std::string& error)
+{
+    const bool isRead = arguments.task == Arguments::Task::Read;
+    if (arguments.packed && !isRead)
+        error = "--packed goes with --read only";
+    else if (!parseSpace(arguments.space, arguments.import.space))
+        error = "--space needs convert, axes or keep, not \"" + arguments.space + "\"";
+    else if (arguments.import.keepsGroups && !isRead)
+        error = "--keep-groups goes with --read only";
+    else if (arguments.encoded && !(decode(arguments.subject) && decode(arguments.name)))
+        error = "with --encoded each % needs two hexadecimal digits behind it, other than 00";
+    else
+        return true;
+    return false;
+}
+
 } // namespace
 
 const char* usage() noexcept
@@ -120,7 +146,6 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
 {
     Arguments arguments;
     int tasks = 0;
-    bool encoded = false;
     if (!takeEnvironment(arguments, error))
         return std::nullopt;
     for (std::size_t index = 0; index < texts.size(); ++index) {
@@ -130,16 +155,8 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
             ++tasks;
             continue;
         }
-        if (option == "--packed") {
-            arguments.packed = true;
-            continue;
-        }
-        if (option == "--keep-groups") {
-            arguments.import.keepsGroups = true;
-            continue;
-        }
-        if (option == "--encoded") {
-            encoded = true;
+        if (bool* const flag = flagOf(option, arguments)) {
+            *flag = true;
             continue;
         }
         std::string* const value = valueOf(option, arguments);
@@ -164,22 +181,8 @@ std::optional<Arguments> parseArguments(std::span<const char* const> texts, std:
         error = "one of --read, --write, --pictures, --formats and --locks is needed";
         return std::nullopt;
     }
-    if (arguments.packed && arguments.task != Arguments::Task::Read) {
-        error = "--packed goes with --read only";
+    if (!complete(arguments, error))
         return std::nullopt;
-    }
-    if (!parseSpace(arguments.space, arguments.import.space)) {
-        error = "--space needs convert, axes or keep, not \"" + arguments.space + "\"";
-        return std::nullopt;
-    }
-    if (arguments.import.keepsGroups && arguments.task != Arguments::Task::Read) {
-        error = "--keep-groups goes with --read only";
-        return std::nullopt;
-    }
-    if (encoded && !(decode(arguments.subject) && decode(arguments.name))) {
-        error = "with --encoded each % needs two hexadecimal digits behind it, other than 00";
-        return std::nullopt;
-    }
     return arguments;
 }
 

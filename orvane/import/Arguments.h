@@ -23,6 +23,8 @@ struct Arguments {
     bool packed = false;
     /// Write: the name of the model's files without extension.
     std::string name = "model";
+    /// Whether subject and name were given with %41 for the byte 0x41; they are decoded here.
+    bool encoded = false;
     ProcessLimits limits;
     /// The limit of processor time, 0 for none; without a value it follows from the size of the input.
     std::optional<std::size_t> processorSeconds;

@@ -62,7 +62,7 @@ QString fileOf(NxType type)
 {
     for (NxType step = type; !step.isBad(); step = step.getParent()) {
         const VbName className = step.getName();
-        if (const QString fileName = fileOfPlugin(className); !fileName.isEmpty())
+        if (QString fileName = fileOfPlugin(className); !fileName.isEmpty())
             return fileName;
         const auto isOfClass = [&](const IconFile& file) { return file.className == className.getString(); };
         if (const auto* const found = std::ranges::find_if(iconFiles, isOfClass); found != iconFiles.end())

@@ -37,8 +37,10 @@ bool ModelFiles::Exists(const char* path) const
 
 Assimp::IOStream* ModelFiles::Open(const char* path, const char* mode)
 {
-    if (m_content && path == m_model)
-        return new Assimp::MemoryIOStream(reinterpret_cast<const std::uint8_t*>(m_content->data()), m_content->size());
+    if (m_content && path == m_model) {
+        const std::string& content = *m_content;
+        return new Assimp::MemoryIOStream(reinterpret_cast<const std::uint8_t*>(content.data()), content.size());
+    }
     return isUsable(path) ? DefaultIOSystem::Open(path, mode) : nullptr;
 }
 

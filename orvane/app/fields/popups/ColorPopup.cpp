@@ -115,7 +115,8 @@ void ColorPopup::addNumberLine(
     limits.step = line == Hue ? 1.0 : 0.01;
     if (line >= Hue) {
         limits.hardMinimum = 0;
-        limits.hardMaximum = line == Value ? orvane::NumberLimits::none : limits.softMaximum;
+        if (line != Value)
+            limits.hardMaximum = limits.softMaximum;
     }
     edit->setLimits(limits);
     edit->setMinimumWidth(9 * fontMetrics().averageCharWidth());

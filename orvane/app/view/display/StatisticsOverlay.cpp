@@ -18,11 +18,11 @@ QStringList StatisticsOverlay::lines() const
     const NxDrawingCounts counts = m_view.drawing().counts();
     const QLocale locale(QLocale::English);
     const auto number = [&locale](std::uint64_t value) { return locale.toString(static_cast<qulonglong>(value)); };
-    const auto bytes = static_cast<qint64>(counts.bufferBytes + counts.textureBytes);
+    const std::uint64_t bytes = counts.bufferBytes + counts.textureBytes;
     return {tr("Nodes: %1").arg(number(counts.nodes)),
         tr("Meshes in view: %1 of %2").arg(number(counts.drawnItems), number(counts.drawnItems + counts.culledItems)),
         tr("Triangles: %1").arg(number(counts.drawnTriangles)), tr("Draw calls: %1").arg(number(counts.drawCalls)),
-        tr("GPU memory: %1").arg(QLocale::c().formattedDataSize(bytes, 1)),
+        tr("GPU memory: %1").arg(QLocale::c().formattedDataSize(static_cast<qint64>(bytes), 1)),
         tr("Picture: %1 ms").arg(m_view.drawing().pictureMilliseconds(), 0, 'f', 1)};
 }
 

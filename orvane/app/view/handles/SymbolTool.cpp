@@ -119,9 +119,10 @@ void SymbolTool::paint(QPainter& painter) const
     const VbColor& outline = m_view->style().outlineColor;
     const QColor color = QColor::fromRgbF(outline[0], outline[1], outline[2]);
     const std::vector<Shown> shown = layout();
+    const auto aspect = static_cast<double>(m_view->navigation().aspect());
     for (const SceneSymbol& symbol : m_symbols) {
         if (m_isShown && m_selected.contains(&symbol.node()))
-            orvane::paintReach(painter, symbol.placement(), projection(), m_view->navigation().aspect(), color);
+            orvane::paintReach(painter, symbol.placement(), projection(), aspect, color);
     }
     for (const Shown& one : shown)
         orvane::paintSymbol(
