@@ -21,6 +21,11 @@ class TestPluginLibrary : public QObject {
 private:
     static QString pathOf(const QString& name) { return QStringLiteral(PLUGIN_FOLDER "/lib%1.so").arg(name); }
 
+    static QString brokenPath(const QString& name)
+    {
+        return QStringLiteral(BROKEN_PLUGIN_FOLDER "/lib%1.so").arg(name);
+    }
+
     static QStringList takeCalls()
     {
         const QStringList calls = QCoreApplication::instance()->property("calls").toStringList();
@@ -238,7 +243,54 @@ private Q_SLOTS:
         writeFile(fileName, bytes);
 
         OrvPluginsManager manager;
-        QCOMPARE(manager.loadPlugin(fileName), std::nullopt);
+        QCOMPARE(manager.loadPlugin(fileName),
+            fileName
+                + u": it can't be loaded as a plug-in: it has no stamp of the plug-in interface; build it with the "
+                  u"header "
+                  "OrvPlugin.h of this version"_s);
+        QCOMPARE(takeCalls(), QStringList());
+    }
+
+    // Dynamic loading says of such a file that it isn't there.
+    void aLibraryForAnotherProcessorIsTold()
+    {
+        QByteArray bytes = readFile(pathOf(u"Sound"_s));
+        auto* const header = reinterpret_cast<Elf64_Ehdr*>(bytes.data());
+        header->e_machine = header->e_machine == EM_S390 ? EM_PPC64 : EM_S390;
+        const QTemporaryDir folder;
+        const QString fileName = folder.filePath(u"libforeign.so"_s);
+        writeFile(fileName, bytes);
+        OrvPluginsManager manager;
+        QCOMPARE(manager.loadPlugin(fileName),
+            fileName + u": it can't be loaded as a plug-in: it was built for another processor"_s);
+    }
+
+    // An object of the second class would have no type, and a scene with it couldn't be read again.
+    void aPluginWithAClassOfAnotherOneIsLeftOut_data()
+    {
+        QTest::addColumn<QString>("other");
+        QTest::addColumn<QString>("plugin");
+        QTest::addColumn<QString>("clash");
+        QTest::newRow("node class") << u"Gear"_s << u"SameNodeClass"_s
+                                    << u"\"BrokenGear\" of "_s + brokenPath(u"Gear"_s);
+        QTest::newRow("field class") << u"Angle"_s << u"SameFieldClass"_s
+                                     << u"\"BrokenAngle\" of "_s + brokenPath(u"Angle"_s);
+        QTest::newRow("class of the tool") << u"Gear"_s << u"ClassOfTheTool"_s << u"\"Group\" of the tool itself"_s;
+    }
+    void aPluginWithAClassOfAnotherOneIsLeftOut()
+    {
+        QFETCH(const QString, other);
+        QFETCH(const QString, plugin);
+        QFETCH(const QString, clash);
+        OrvPluginsManager manager;
+        QCOMPARE(manager.loadPlugin(brokenPath(other)), std::nullopt);
+        const QString message = brokenPath(plugin)
+            + u": it was left out, since its classes have the names of others: "_s + clash
+            + u"; rename them, or use only one of the two"_s;
+        QCOMPARE(manager.loadPlugin(brokenPath(plugin)), message);
+        QCOMPARE(manager.getExtensions().size(), 1);
+        // It is in memory now, where its classes still are no classes.
+        QCOMPARE(manager.loadPlugin(brokenPath(plugin)), message);
     }
 
     void aMissingSymbolIsNamedWhenTheLibraryIsLoaded()

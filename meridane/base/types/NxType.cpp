@@ -1,5 +1,6 @@
 #include "meridane/base/types/NxType.h"
 
+#include "meridane/base/types/ClassClash.h"
 #include "meridane/base/values/VbName.h"
 
 #include <array>
@@ -18,6 +19,8 @@ struct ClassRecord {
     // The class's bases from the root to itself: a class derives from another one exactly if that one is in
     // this list at its own depth.
     std::vector<std::uint32_t> lineage;
+    // An address in the code that registered the class, which says whose it is.
+    const void* registrar = nullptr;
 };
 
 // Records are read without a lock, so they never move: they live in chunks that are only ever added.
@@ -37,7 +40,8 @@ public:
     }
 
     // Adds a record and returns its index, or 0 if there is no room.
-    std::uint32_t add(const VbName& name, NxType parent, const ClassRecord* parentRecord, NxType::Factory factory)
+    std::uint32_t add(const VbName& name, NxType parent, const ClassRecord* parentRecord, NxType::Factory factory,
+        const void* registrar)
     {
         const std::uint32_t position = m_count.load(std::memory_order_relaxed);
         if (position == static_cast<std::size_t>(chunkSize) * m_chunks.size())
@@ -56,6 +60,7 @@ public:
         record.parent = parent;
         record.factory = factory;
         record.lineage = std::move(lineage);
+        record.registrar = registrar;
         m_count.store(position + 1, std::memory_order_release);
         return position + 1;
     }
@@ -77,11 +82,14 @@ private:
 
 NxType NxType::registerClass(const VbName& name, NxType parent, Factory factory)
 {
+    const void* const registrar = __builtin_return_address(0);
     Registry& registry = Registry::instance();
     const std::lock_guard lock(registry.mutex);
-    if (registry.byName.contains(name.getString()))
+    if (const auto holder = registry.byName.find(name.getString()); holder != registry.byName.end()) {
+        meridane::noteClassClash({name, registry.find(holder->second)->registrar, registrar});
         return NxType();
-    return NxType(registry.add(name, parent, registry.find(parent.m_index), factory));
+    }
+    return NxType(registry.add(name, parent, registry.find(parent.m_index), factory, registrar));
 }
 
 void NxType::unregisterClass(NxType type)

@@ -27,6 +27,14 @@ bool isLibrary(const Elf64_Ehdr& header)
         && header.e_phentsize == sizeof(Elf64_Phdr);
 }
 
+// The system's own reason for refusing a library of another processor is that there is no such file.
+bool isForeign(const Elf64_Ehdr& header)
+{
+    QFile program(QStringLiteral("/proc/self/exe"));
+    Elf64_Ehdr own;
+    return program.open(QIODevice::ReadOnly) && readHeader(program, own) && own.e_machine != header.e_machine;
+}
+
 qsizetype aligned(quint64 size)
 {
     constexpr quint64 alignment = 4;
@@ -60,6 +68,8 @@ PluginFile readPluginFile(const QString& fileName)
     Elf64_Ehdr header;
     if (!file.open(QIODevice::ReadOnly) || !readHeader(file, header) || !isLibrary(header))
         return result;
+    result.isLibrary = true;
+    result.isForeign = isForeign(header);
     const auto size = static_cast<quint64>(file.size());
     for (quint64 i = 0; i < header.e_phnum; ++i) {
         Elf64_Phdr segment;

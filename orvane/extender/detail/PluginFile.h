@@ -10,6 +10,10 @@ struct PluginFile {
     /// The file is shorter than its own header says. To load it would end the process: the system maps the sizes in
     /// the header without comparing them with that of the file, and reading beyond the end of a file is a fatal error.
     bool isCutOff = false;
+    /// It was built for another processor.
+    bool isForeign = false;
+    /// It is a library of 64 bits, for whatever processor.
+    bool isLibrary = false;
     /// The stamps of its parts, each once (see PluginStamp.h); none for a library that was compiled without them.
     QStringList stamps;
 };

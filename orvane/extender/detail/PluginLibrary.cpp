@@ -1,10 +1,12 @@
 #include "orvane/extender/detail/PluginLibrary.h"
 
 #include "orvane/extender/OrvPlugin.h"
+#include "orvane/extender/detail/ClashText.h"
 #include "orvane/extender/detail/Guarded.h"
 #include "orvane/extender/detail/PluginFile.h"
 
 #include <QFileInfo>
+#include <QHash>
 #include <QLibrary>
 
 namespace orvane {
@@ -27,19 +29,25 @@ std::optional<QString> whyNotReadable(const QFileInfo& file)
     return std::nullopt;
 }
 
-// A library of another interface would read and write members at wrong places. One without a stamp wasn't compiled with
-// the header of OrvPlugin, so it has its say when it is loaded.
+// A library of another interface would read and write members at wrong places.
 std::optional<QString> whyNotFitting(const PluginFile& file)
 {
     if (file.isCutOff)
         return QStringLiteral("it can't be loaded as a plug-in: the file is cut off");
+    if (file.isForeign)
+        return QStringLiteral("it can't be loaded as a plug-in: it was built for another processor");
     if (file.stamps.size() > 1) {
         return QStringLiteral("its parts were built against different plug-in interfaces, %1; build all of it again")
             .arg(file.stamps.join(QStringLiteral(" and ")));
     }
 #ifdef ORVANE_PLUGIN_STAMP
     const QString stamp = QStringLiteral(ORVANE_PLUGIN_STAMP);
-    if (!file.stamps.isEmpty() && file.stamps.first() != stamp) {
+    if (file.isLibrary && file.stamps.isEmpty()) {
+        return QStringLiteral(
+            "it can't be loaded as a plug-in: it has no stamp of the plug-in interface; build it with "
+            "the header OrvPlugin.h of this version");
+    }
+    if (file.isLibrary && file.stamps.first() != stamp) {
         return QStringLiteral("it was built against the plug-in interface %1; this is %2; build it again")
             .arg(file.stamps.first(), stamp);
     }
@@ -57,6 +65,21 @@ QString reason(const QLibrary& library)
     return text;
 }
 
+// Its classes are registered when it is mapped, which happens once.
+std::optional<QString> map(QLibrary& library)
+{
+    static QHash<QString, QString> refused;
+    static_cast<void>(takeClashText()); // of others
+    if (!library.load())
+        return QStringLiteral("it can't be loaded as a plug-in: %1").arg(reason(library));
+    if (const auto clash = takeClashText())
+        refused.insert(library.fileName(), *clash);
+    if (!refused.contains(library.fileName()))
+        return std::nullopt;
+    return QStringLiteral("it was left out, since %1; rename them, or use only one of the two")
+        .arg(refused.value(library.fileName()));
+}
+
 std::optional<QString> open(const QFileInfo& file, PluginLibrary& result)
 {
     if (auto problem = whyNotReadable(file))
@@ -67,8 +90,8 @@ std::optional<QString> open(const QFileInfo& file, PluginLibrary& result)
         return problem;
     QLibrary library(result.fileName);
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
-    if (!library.load())
-        return QStringLiteral("it can't be loaded as a plug-in: %1").arg(reason(library));
+    if (auto problem = map(library))
+        return problem;
     const auto make = reinterpret_cast<OrvPlugin* (*)()>(library.resolve(makeName));
     const QFunctionPointer destroy = library.resolve(destroyName);
     if (make == nullptr || destroy == nullptr) {

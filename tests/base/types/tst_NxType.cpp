@@ -1,3 +1,4 @@
+#include "meridane/base/types/ClassClash.h"
 #include "meridane/base/types/NxType.h"
 #include "meridane/base/types/NxTypedObject.h"
 #include "meridane/base/values/VbName.h"
@@ -134,8 +135,15 @@ private Q_SLOTS:
     void aNameIsGivenOnce()
     {
         QVERIFY(!Circle::getClassTypeId().isBad());
+        static_cast<void>(meridane::takeClassClashes());
         QVERIFY(NxType::registerClass("TestCircle", NxType(), nullptr).isBad());
         QVERIFY(NxType::fromName("TestCircle") == Circle::getClassTypeId());
+        const std::vector<meridane::ClassClash> clashes = meridane::takeClassClashes();
+        QCOMPARE(clashes.size(), std::size_t(1));
+        QCOMPARE(clashes.front().name.getString(), "TestCircle");
+        QVERIFY(clashes.front().holder != nullptr);
+        QVERIFY(clashes.front().refused != nullptr);
+        QVERIFY(meridane::takeClassClashes().empty());
     }
 
     void aFactoryMakesANewInstanceEachTime()
