@@ -7,8 +7,8 @@
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/tree/TreeActions.h"
-#include "orvane/app/tree/facts/NodeFigures.h"
 
+#include "meridane/gl/places/NodeFigures.h"
 #include "meridane/scene/nodes/NxGroup.h"
 #include "meridane/scene/nodes/NxMesh.h"
 

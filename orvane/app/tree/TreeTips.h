@@ -1,6 +1,6 @@
 #pragma once
 
-#include "orvane/app/tree/facts/NodeFigures.h"
+#include "meridane/gl/places/NodeFigures.h"
 
 #include <QBasicTimer>
 #include <QObject>

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "orvane/app/fields/popups/PopupFrame.h"
-#include "orvane/app/scene/MatrixParts.h"
+
+#include "meridane/gl/geometry/MatrixParts.h"
 
 #include <array>
 

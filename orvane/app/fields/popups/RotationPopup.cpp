@@ -4,7 +4,8 @@
 #include "orvane/app/fields/popups/ShownNumber.h"
 #include "orvane/app/input/NumberLine.h"
 #include "orvane/app/look/Look.h"
-#include "orvane/app/scene/MatrixParts.h"
+
+#include "meridane/gl/geometry/MatrixParts.h"
 
 #include <QCheckBox>
 #include <QFormLayout>

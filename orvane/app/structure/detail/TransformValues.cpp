@@ -1,8 +1,7 @@
 #include "orvane/app/structure/detail/TransformValues.h"
 
-#include "orvane/app/scene/MatrixParts.h"
-
 #include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/gl/geometry/MatrixParts.h"
 #include "meridane/scene/fields/EffectiveField.h"
 #include "meridane/scene/nodes/NxCamera.h"
 #include "meridane/scene/nodes/NxDirectionalLight.h"

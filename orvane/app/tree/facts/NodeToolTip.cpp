@@ -2,8 +2,8 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
-#include "orvane/app/tree/facts/NodeFigures.h"
 
+#include "meridane/gl/places/NodeFigures.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldData.h"
 

@@ -1,7 +1,6 @@
 #include "app/fields/cells/CellCase.h"
 
-#include "orvane/app/scene/MatrixParts.h"
-
+#include "meridane/gl/geometry/MatrixParts.h"
 #include "meridane/scene/fields/single/NxSFRotation.h"
 
 #include <cmath>

@@ -2,9 +2,9 @@
 
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
-#include "orvane/app/tree/facts/NodeFigures.h"
 #include "orvane/app/tree/facts/NodeToolTip.h"
 
+#include "meridane/gl/places/NodeFigures.h"
 #include "meridane/scene/nodes/NxMesh.h"
 #include "meridane/scene/nodes/NxTransform.h"
 

@@ -8,8 +8,8 @@
 #include "orvane/app/fields/editors/PopupEditor.h"
 #include "orvane/app/fields/popups/RotationPopup.h"
 #include "orvane/app/fields/popups/ShownNumber.h"
-#include "orvane/app/scene/MatrixParts.h"
 
+#include "meridane/gl/geometry/MatrixParts.h"
 #include "meridane/scene/fields/single/NxSFRotation.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "orvane/app/tree/facts/NodeFigures.h"
+#include "meridane/gl/places/NodeFigures.h"
 
 #include "meridane/gl/geometry/MatrixMath.h"
 #include "meridane/scene/fields/EffectiveField.h"

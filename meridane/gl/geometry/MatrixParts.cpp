@@ -1,4 +1,4 @@
-#include "orvane/app/scene/MatrixParts.h"
+#include "meridane/gl/geometry/MatrixParts.h"
 
 #include <algorithm>
 #include <cmath>
