@@ -84,7 +84,7 @@ void measureWaits()
 {
     Scene scene(allNodes / 10);
     constexpr double bar = 8;
-    NodeFigures figures(std::vector<NxNode*>{scene.root.get()});
+    meridane::NodeFigures figures(std::vector<NxNode*>{scene.root.get()});
     double longest = 0;
     for (bool isDone = false; !isDone;) {
         longest = std::max(

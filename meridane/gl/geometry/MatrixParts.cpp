@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstddef>
 
-namespace orvane {
+namespace meridane {
 
 namespace {
 
@@ -247,4 +247,4 @@ VbMatrix composed(const MatrixParts& parts)
     return matrix;
 }
 
-} // namespace orvane
+} // namespace meridane

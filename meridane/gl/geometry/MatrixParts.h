@@ -6,7 +6,7 @@
 #include <array>
 #include <numbers>
 
-namespace orvane {
+namespace meridane {
 
 inline constexpr double degreesOfRadian = 180 / std::numbers::pi;
 
@@ -47,4 +47,4 @@ struct MatrixDecomposition {
 [[nodiscard]] MatrixDecomposition decomposed(const VbMatrix& matrix);
 [[nodiscard]] VbMatrix composed(const MatrixParts& parts);
 
-} // namespace orvane
+} // namespace meridane

@@ -14,6 +14,8 @@
 
 class NxMesh;
 
+namespace meridane {
+
 /// What is in and below a node in one of its places: meshes, triangles and the box around them in the scene. Computed
 /// in slices, since there may be millions of nodes, and millions of positions in one of them. Starts again when the
 /// structure of a scene changes meanwhile.
@@ -26,7 +28,7 @@ public:
     explicit NodeFigures(std::span<NxNode* const> path);
 
     /// Goes on for one slice. Returns true when all is computed.
-    bool advance(const meridane::WorkBudget& budget);
+    bool advance(const WorkBudget& budget);
 
     [[nodiscard]] std::size_t meshes() const noexcept { return m_meshes; }
     [[nodiscard]] std::uint64_t triangles() const noexcept { return m_triangles; }
@@ -38,7 +40,7 @@ private:
     struct Level {
         std::span<NxNode* const> children;
         std::size_t next = 0;
-        meridane::Matrix4d toScene;
+        Matrix4d toScene;
     };
     struct MeshFigures {
         NxBounds bounds;
@@ -49,13 +51,13 @@ private:
         const NxMesh* mesh = nullptr;
         std::size_t next = 0;
         MeshFigures figures;
-        meridane::Matrix4d toScene;
+        Matrix4d toScene;
     };
 
     void restart();
-    void enter(const NxNode& node, const meridane::Matrix4d& above);
+    void enter(const NxNode& node, const Matrix4d& above);
     void read();
-    void add(const MeshFigures& figures, const meridane::Matrix4d& toScene);
+    void add(const MeshFigures& figures, const Matrix4d& toScene);
 
     std::vector<NxRef<NxNode>> m_path;
     std::uint64_t m_revision = 0;
@@ -67,3 +69,5 @@ private:
     std::uint64_t m_triangles = 0;
     NxBounds m_bounds;
 };
+
+} // namespace meridane

@@ -42,7 +42,7 @@ bool TreeTips::show(const QHelpEvent& event)
     m_text = orvane::nodeToolTip(*m_model->node(index));
     m_place = event.globalPos();
     m_row = m_view->visualRect(index);
-    m_figures = std::make_unique<NodeFigures>(m_model->path(index));
+    m_figures = std::make_unique<meridane::NodeFigures>(m_model->path(index));
     if (m_figures->advance(slice)) {
         showText(orvane::figuresText(*m_figures));
         m_figures.reset();

@@ -32,7 +32,7 @@ private:
 
     QTreeView* m_view;
     SceneTreeModel* m_model;
-    std::unique_ptr<NodeFigures> m_figures; // that are being computed
+    std::unique_ptr<meridane::NodeFigures> m_figures; // that are being computed
     QBasicTimer m_timer;
     QString m_text;
     QPoint m_place; // on the screen

@@ -7,8 +7,8 @@
 #include <numbers>
 #include <random>
 
-using orvane::EulerDegrees;
-using orvane::MatrixRest;
+using meridane::EulerDegrees;
+using meridane::MatrixRest;
 
 namespace {
 
@@ -26,7 +26,7 @@ double distance(const VbMatrix& left, const VbMatrix& right)
 
 VbMatrix rotation(const EulerDegrees& degrees)
 {
-    return orvane::composed({{}, degrees, {1, 1, 1}});
+    return meridane::composed({{}, degrees, {1, 1, 1}});
 }
 
 } // namespace
@@ -47,15 +47,15 @@ private Q_SLOTS:
     void eulerDegreesAndAxisAreTheSameRotation()
     {
         const VbRotation quarter(VbVec3f(0, 1, 0), static_cast<float>(std::numbers::pi / 2));
-        const EulerDegrees degrees = orvane::toEuler(quarter);
+        const EulerDegrees degrees = meridane::toEuler(quarter);
         QVERIFY(std::abs(degrees[1] - 90) < 1e-4);
         std::mt19937 random(1);
         std::uniform_real_distribution<double> angle(-180, 180);
         for (int i = 0; i < 1000; ++i) {
             const EulerDegrees given{angle(random), angle(random), angle(random)};
-            const VbRotation asAxis = orvane::fromEuler(given);
-            QVERIFY(orvane::isNormal(asAxis));
-            QVERIFY(distance(rotation(given), rotation(orvane::toEuler(asAxis))) < 2e-6);
+            const VbRotation asAxis = meridane::fromEuler(given);
+            QVERIFY(meridane::isNormal(asAxis));
+            QVERIFY(distance(rotation(given), rotation(meridane::toEuler(asAxis))) < 2e-6);
         }
     }
 
@@ -63,18 +63,18 @@ private Q_SLOTS:
     {
         for (const double y : {90.0, -90.0}) {
             const EulerDegrees given{30, y, 50};
-            QVERIFY(distance(rotation(given), rotation(orvane::toEuler(orvane::fromEuler(given)))) < 1e-3);
+            QVERIFY(distance(rotation(given), rotation(meridane::toEuler(meridane::fromEuler(given)))) < 1e-3);
         }
     }
 
     void onlyAnAxisOfAnotherLengthIsNormalised()
     {
         const VbRotation twice(VbVec3f(0, 0, 2), 0.5F);
-        QVERIFY(!orvane::isNormal(twice));
-        QCOMPARE(orvane::normalised(twice), VbRotation(VbVec3f(0, 0, 1), 0.5F));
+        QVERIFY(!meridane::isNormal(twice));
+        QCOMPARE(meridane::normalised(twice), VbRotation(VbVec3f(0, 0, 1), 0.5F));
         const VbRotation none(VbVec3f(0, 0, 0), 0.5F);
-        QVERIFY(orvane::isNormal(none));
-        QCOMPARE(orvane::normalised(none), none);
+        QVERIFY(meridane::isNormal(none));
+        QCOMPARE(meridane::normalised(none), none);
     }
 
     void partsAreFoundAgain()
@@ -83,28 +83,28 @@ private Q_SLOTS:
         std::uniform_real_distribution<double> number(-50, 50);
         std::uniform_real_distribution<double> angle(-89, 89);
         for (int i = 0; i < 1000; ++i) {
-            orvane::MatrixParts parts{{number(random), number(random), number(random)},
+            meridane::MatrixParts parts{{number(random), number(random), number(random)},
                 {angle(random), angle(random), angle(random)},
                 {std::abs(number(random)) + 0.1, std::abs(number(random)) + 0.1, std::abs(number(random)) + 0.1}};
-            const VbMatrix matrix = orvane::composed(parts);
-            const auto found = orvane::decomposed(matrix);
+            const VbMatrix matrix = meridane::composed(parts);
+            const auto found = meridane::decomposed(matrix);
             QVERIFY(found.rest == MatrixRest::None);
             for (std::size_t k = 0; k < 3; ++k) {
                 QVERIFY(std::abs(found.parts.translation[k] - parts.translation[k]) < 1e-4);
                 QVERIFY(std::abs(found.parts.rotation[k] - parts.rotation[k]) < 1e-2);
                 QVERIFY(std::abs(found.parts.scale[k] - parts.scale[k]) < 1e-4);
             }
-            QVERIFY(distance(orvane::composed(found.parts), matrix) < 1e-4);
+            QVERIFY(distance(meridane::composed(found.parts), matrix) < 1e-4);
         }
     }
 
     void mirrorsHaveANegativeScale()
     {
         const VbMatrix mirror(1, 0, 0, 0, 0, -3, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1);
-        const auto found = orvane::decomposed(mirror);
+        const auto found = meridane::decomposed(mirror);
         QVERIFY(found.rest == MatrixRest::None);
         QVERIFY(found.parts.scale[0] < 0);
-        QVERIFY(distance(orvane::composed(found.parts), mirror) < 1e-6);
+        QVERIFY(distance(meridane::composed(found.parts), mirror) < 1e-6);
     }
 
     void flatMatricesHaveParts_data()
@@ -122,26 +122,26 @@ private Q_SLOTS:
             for (std::size_t column = 0; column < 3 && (zeros >> row & 1) != 0; ++column)
                 flat[row][column] = 0;
         }
-        const auto found = orvane::decomposed(flat);
+        const auto found = meridane::decomposed(flat);
         QVERIFY(found.rest == MatrixRest::None);
-        QVERIFY(distance(orvane::composed(found.parts), flat) < 1e-6);
+        QVERIFY(distance(meridane::composed(found.parts), flat) < 1e-6);
     }
 
     void whatThePartsLackIsSaid()
     {
         VbMatrix shear;
         shear[1][0] = 0.5F;
-        QVERIFY(orvane::decomposed(shear).rest == MatrixRest::Shear);
+        QVERIFY(meridane::decomposed(shear).rest == MatrixRest::Shear);
         VbMatrix projection;
         projection[2][3] = -1;
-        QVERIFY(orvane::decomposed(projection).rest == MatrixRest::Projection);
+        QVERIFY(meridane::decomposed(projection).rest == MatrixRest::Projection);
         VbMatrix infinite;
         infinite[0][0] = std::numeric_limits<float>::infinity();
-        QVERIFY(orvane::decomposed(infinite).rest == MatrixRest::NotFinite);
-        QVERIFY(orvane::decomposed(VbMatrix()).rest == MatrixRest::None);
+        QVERIFY(meridane::decomposed(infinite).rest == MatrixRest::NotFinite);
+        QVERIFY(meridane::decomposed(VbMatrix()).rest == MatrixRest::None);
         VbMatrix parallel; // two rows in one direction
         parallel[1] = {2, 0, 0, 0};
-        QVERIFY(orvane::decomposed(parallel).rest == MatrixRest::Shear);
+        QVERIFY(meridane::decomposed(parallel).rest == MatrixRest::Shear);
     }
 };
 

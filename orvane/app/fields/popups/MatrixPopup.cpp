@@ -9,7 +9,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-using orvane::MatrixRest;
+using meridane::MatrixRest;
 
 namespace {
 
@@ -84,7 +84,7 @@ MatrixPopup::MatrixPopup(QWidget* parent)
     m_rest->setPalette(colors);
     m_removeRest->setObjectName(QStringLiteral("removeRest"));
     m_removeRest->setAutoDefault(false);
-    connect(m_removeRest, &QPushButton::clicked, this, [this] { take(orvane::composed(m_parts)); });
+    connect(m_removeRest, &QPushButton::clicked, this, [this] { take(meridane::composed(m_parts)); });
     addPart(Translation, tr("Translation"));
     addPart(Rotation, tr("Rotation °"));
     addPart(Scale, tr("Scale"));
@@ -122,10 +122,10 @@ void MatrixPopup::setMatrix(const VbMatrix& matrix)
 
 void MatrixPopup::takePart(Part part, int component, double number)
 {
-    orvane::MatrixParts parts = m_parts;
+    meridane::MatrixParts parts = m_parts;
     auto& numbers = part == Translation ? parts.translation : part == Rotation ? parts.rotation : parts.scale;
     numbers[static_cast<std::size_t>(component)] = number;
-    take(orvane::composed(parts));
+    take(meridane::composed(parts));
     // Another rotation and scale may give the same matrix; what was typed stays.
     m_parts = parts;
     m_partRows[Rotation]->setNumbers(parts.rotation);
@@ -146,7 +146,7 @@ void MatrixPopup::showMatrix()
         std::copy(m_matrix[row].begin(), m_matrix[row].end(), numbers.begin());
         m_rows[row]->setNumbers(numbers);
     }
-    const orvane::MatrixDecomposition decomposition = orvane::decomposed(m_matrix);
+    const meridane::MatrixDecomposition decomposition = meridane::decomposed(m_matrix);
     m_parts = decomposition.parts;
     m_partRows[Translation]->setNumbers(m_parts.translation);
     m_partRows[Rotation]->setNumbers(m_parts.rotation);

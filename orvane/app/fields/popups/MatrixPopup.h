@@ -35,10 +35,10 @@ private:
     void takePart(Part part, int component, double number);
     void take(const VbMatrix& matrix);
     void showMatrix();
-    void showRest(orvane::MatrixRest rest);
+    void showRest(meridane::MatrixRest rest);
 
     VbMatrix m_matrix;
-    orvane::MatrixParts m_parts; // as they were typed, since several give the same matrix
+    meridane::MatrixParts m_parts; // as they were typed, since several give the same matrix
     std::array<NumberRow*, 4> m_rows{};
     std::array<NumberRow*, PartCount> m_partRows{};
     QLabel* m_rest;

@@ -64,15 +64,15 @@ RotationPopup::RotationPopup(QWidget* parent)
         take({axis, m_rotation.getAngle()});
     });
     connect(m_angle, &NumberRow::numberChanged, this, [this](int component, double number) {
-        take({m_rotation.getAxis(), static_cast<float>(component == 0 ? number : number / orvane::degreesOfRadian)});
+        take({m_rotation.getAxis(), static_cast<float>(component == 0 ? number : number / meridane::degreesOfRadian)});
     });
     connect(m_eulerRow, &NumberRow::numberChanged, this, [this](int component, double number) {
         m_euler[static_cast<std::size_t>(component)] = number;
-        m_rotation = orvane::fromEuler(m_euler);
+        m_rotation = meridane::fromEuler(m_euler);
         showRotation(true);
         Q_EMIT rotationChanged(m_rotation);
     });
-    connect(m_normalise, &QPushButton::clicked, this, [this] { take(orvane::normalised(m_rotation)); });
+    connect(m_normalise, &QPushButton::clicked, this, [this] { take(meridane::normalised(m_rotation)); });
     connect(m_showEuler, &QCheckBox::toggled, this, &RotationPopup::eulerShownChanged);
     m_axis->lines().front()->setFocus(Qt::TabFocusReason); // which selects the number
 }
@@ -108,10 +108,10 @@ void RotationPopup::showRotation(bool keepEuler)
     const VbVec3f& axis = m_rotation.getAxis();
     const auto angle = static_cast<double>(m_rotation.getAngle());
     if (!keepEuler)
-        m_euler = orvane::toEuler(m_rotation);
+        m_euler = meridane::toEuler(m_rotation);
     m_axis->setNumbers(std::array<double, 3>{
         static_cast<double>(axis[0]), static_cast<double>(axis[1]), static_cast<double>(axis[2])});
-    m_angle->setNumbers(std::array<double, 2>{angle, angle * orvane::degreesOfRadian});
+    m_angle->setNumbers(std::array<double, 2>{angle, angle * meridane::degreesOfRadian});
     m_eulerRow->setNumbers(m_euler);
-    m_normalise->setEnabled(!orvane::isNormal(m_rotation));
+    m_normalise->setEnabled(!meridane::isNormal(m_rotation));
 }

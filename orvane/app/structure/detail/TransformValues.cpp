@@ -80,12 +80,12 @@ bool applyToNode(NxTransform& node, const Matrix4d& transform)
 {
     const Matrix4d wanted = meridane::multiply(meridane::localTransformOf(node), transform);
     if (!isNearLinear(meridane::localTransformOf(node), wanted)) {
-        const orvane::MatrixDecomposition parts = orvane::decomposed(meridane::narrowed(wanted));
-        if (parts.rest == orvane::MatrixRest::NotFinite)
+        const meridane::MatrixDecomposition parts = meridane::decomposed(meridane::narrowed(wanted));
+        if (parts.rest == meridane::MatrixRest::NotFinite)
             return false;
         const auto& scale = parts.parts.scale;
         const VbVec3f factors(static_cast<float>(scale[0]), static_cast<float>(scale[1]), static_cast<float>(scale[2]));
-        setUsed(node.rotation, orvane::fromEuler(parts.parts.rotation));
+        setUsed(node.rotation, meridane::fromEuler(parts.parts.rotation));
         setUsed(node.scaleFactor, factors);
     }
     setOrigin(node, wanted);
@@ -97,12 +97,12 @@ bool applyToNode(NxCamera& node, const Matrix4d& transform)
 {
     const Matrix4d turned = meridane::multiply(
         Matrix4d(meridane::rotationMatrix(meridane::effectiveField(node.orientation).getValue())), transform);
-    const orvane::MatrixDecomposition parts = orvane::decomposed(meridane::narrowed(turned));
+    const meridane::MatrixDecomposition parts = meridane::decomposed(meridane::narrowed(turned));
     const auto isOne = [](double factor) { return std::abs(factor - 1) <= transformPrecision; };
-    if (parts.rest == orvane::MatrixRest::NotFinite || !std::ranges::all_of(parts.parts.scale, isOne))
+    if (parts.rest == meridane::MatrixRest::NotFinite || !std::ranges::all_of(parts.parts.scale, isOne))
         return false;
     if (!isNearLinear(transform, Matrix4d()))
-        setUsed(node.orientation, orvane::fromEuler(parts.parts.rotation));
+        setUsed(node.orientation, meridane::fromEuler(parts.parts.rotation));
     setUsed(node.position, pointOf(node.position, transform));
     return true;
 }

@@ -56,7 +56,7 @@ QString orvane::nodeToolTip(NxNode& node)
     return lines.join(u'\n');
 }
 
-QString orvane::figuresText(const NodeFigures& figures)
+QString orvane::figuresText(const meridane::NodeFigures& figures)
 {
     if (figures.meshes() == 0)
         return {};

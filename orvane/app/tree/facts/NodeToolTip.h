@@ -2,8 +2,13 @@
 
 #include <QString>
 
-class NodeFigures;
 class NxNode;
+
+namespace meridane {
+
+class NodeFigures;
+
+} // namespace meridane
 
 namespace orvane {
 
@@ -11,6 +16,6 @@ namespace orvane {
 /// fields are ignored. Plain text.
 [[nodiscard]] QString nodeToolTip(NxNode& node);
 /// The lines about what is in and below a node; empty if there is no mesh.
-[[nodiscard]] QString figuresText(const NodeFigures& figures);
+[[nodiscard]] QString figuresText(const meridane::NodeFigures& figures);
 
 } // namespace orvane

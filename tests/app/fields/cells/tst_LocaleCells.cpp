@@ -124,9 +124,9 @@ private Q_SLOTS:
         delegate().services().setEulerShown(true);
         write("sfRotation", 0, "22,5");
         const auto& rotation = dynamic_cast<const NxSFRotation&>(field("sfRotation"));
-        QVERIFY(std::abs(orvane::toEuler(rotation.getValue())[0] - 22.5) < 1e-3);
+        QVERIFY(std::abs(meridane::toEuler(rotation.getValue())[0] - 22.5) < 1e-3);
         write("sfRotation", 0, "x+22.5");
-        QVERIFY(std::abs(orvane::toEuler(rotation.getValue())[0] - 45) < 1e-3);
+        QVERIFY(std::abs(meridane::toEuler(rotation.getValue())[0] - 45) < 1e-3);
     }
 };
 

@@ -171,12 +171,12 @@ private Q_SLOTS:
         move(far());
         // Beyond the angle at which other axes give the same rotation, and back.
         move(200 - far());
-        const VbRotation turned = orvane::fromEuler({0, 200, 0});
+        const VbRotation turned = meridane::fromEuler({0, 200, 0});
         const auto& rotation = dynamic_cast<const NxSFRotation&>(field("sfRotation"));
         QCOMPARE_LE(std::abs(rotation.getValue().getAngle() - turned.getAngle()), 1e-4F);
         move(-170);
         release();
-        QCOMPARE_LE(std::abs(orvane::toEuler(rotation.getValue())[1] - 30), 1e-3);
+        QCOMPARE_LE(std::abs(meridane::toEuler(rotation.getValue())[1] - 30), 1e-3);
         QCOMPARE(steps(), before + 1);
         undo();
         QCOMPARE(text("sfRotation"), std::string("1 0 0 0"));

@@ -13,6 +13,7 @@
 #include <QToolTip>
 #include <QTreeView>
 
+using meridane::NodeFigures;
 using namespace std::chrono_literals;
 
 namespace {

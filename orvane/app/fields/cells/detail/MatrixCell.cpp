@@ -14,7 +14,7 @@
 
 #include <array>
 
-using orvane::MatrixRest;
+using meridane::MatrixRest;
 
 namespace {
 
@@ -42,7 +42,7 @@ QString matrixText(const NxField& field)
     const VbMatrix& matrix = matrixOf(field);
     if (matrix == VbMatrix())
         return matrixWord("identity");
-    const orvane::MatrixDecomposition decomposition = orvane::decomposed(matrix);
+    const meridane::MatrixDecomposition decomposition = meridane::decomposed(matrix);
     if (decomposition.rest != MatrixRest::None) {
         constexpr int shownCharacters = 200;
         QString elements = orvane::beginningOf(field, shownCharacters);
@@ -55,7 +55,7 @@ QString matrixText(const NxField& field)
             return elements;
         }
     }
-    const orvane::MatrixParts& parts = decomposition.parts;
+    const meridane::MatrixParts& parts = decomposition.parts;
     QStringList texts;
     if (parts.translation != std::array<double, 3>{})
         texts.append(matrixWord("moved %1").arg(numbersText(parts.translation)));

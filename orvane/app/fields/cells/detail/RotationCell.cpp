@@ -41,11 +41,11 @@ FieldNumber eulerNumber(const NxField& field, int axis)
 {
     const auto place = static_cast<std::size_t>(axis);
     FieldNumber number;
-    number.get = [place](const NxField& each) { return orvane::toEuler(rotationOf(each))[place]; };
+    number.get = [place](const NxField& each) { return meridane::toEuler(rotationOf(each))[place]; };
     number.set = [place](NxField& each, double degrees) {
-        orvane::EulerDegrees euler = orvane::toEuler(rotationOf(each));
+        meridane::EulerDegrees euler = meridane::toEuler(rotationOf(each));
         euler[place] = degrees;
-        static_cast<NxSFRotation&>(each).setValue(orvane::fromEuler(euler));
+        static_cast<NxSFRotation&>(each).setValue(meridane::fromEuler(euler));
         return true;
     };
     number.text = [get = number.get](const NxField& each) { return orvane::roundedText(get(each), 3); };
@@ -64,7 +64,7 @@ void RotationCell::paint(QPainter& painter, const CellPaint& cell, const FieldSe
     orvane::paintOpenMark(painter, cell);
     const NxField& field = fields.first();
     const bool isEuler = cell.services->isEulerShown();
-    const orvane::EulerDegrees euler = isEuler ? orvane::toEuler(rotationOf(field)) : orvane::EulerDegrees{};
+    const meridane::EulerDegrees euler = isEuler ? meridane::toEuler(rotationOf(field)) : meridane::EulerDegrees{};
     const int count = columns(*cell.services);
     for (int column = 0; column < count; ++column) {
         orvane::PaintedNumber number{orvane::letterOf(field, column), orvane::tintOf(field, column), {}};
@@ -105,10 +105,10 @@ ScrubbedNumber RotationCell::scrubbedNumber(const NxField& field, int part, cons
     const FieldNumber number = eulerNumber(field, part);
     // From the angles at the beginning: those of the present rotation may be others for the same rotation.
     const auto moverOf = [axis = static_cast<std::size_t>(part)](const NxField& first) -> FieldWriter::Mover {
-        return [axis, start = orvane::toEuler(rotationOf(first))](NxField& moved, double delta) {
-            orvane::EulerDegrees degrees = start;
+        return [axis, start = meridane::toEuler(rotationOf(first))](NxField& moved, double delta) {
+            meridane::EulerDegrees degrees = start;
             degrees[axis] += delta;
-            static_cast<NxSFRotation&>(moved).setValue(orvane::fromEuler(degrees));
+            static_cast<NxSFRotation&>(moved).setValue(meridane::fromEuler(degrees));
         };
     };
     return {number.get(field), number.limits, moverOf};
@@ -116,7 +116,7 @@ ScrubbedNumber RotationCell::scrubbedNumber(const NxField& field, int part, cons
 
 QString RotationCell::toolTip(const FieldSet& fields, const CellServices& /*services*/) const
 {
-    return orvane::isNormal(rotationOf(fields.first()))
+    return meridane::isNormal(rotationOf(fields.first()))
         ? QString()
         : QCoreApplication::translate(
             "RotationCell", "The axis doesn't have the length 1, which changes nothing about the rotation.");
