@@ -122,7 +122,8 @@ VbMatrix NxViewpoint::viewRotation() const
 VbMatrix NxViewpoint::projectionMatrix(float aspect, float nearDistance, float farDistance) const
 {
     const NxViewpoint eye = sensible();
-    const float ratio = sensibleLength(aspect, 1);
+    const VbVec2f part = partSize();
+    const float ratio = sensibleLength(aspect, 1) * part[1] / part[0];
     const float depth = farDistance - nearDistance;
     VbMatrix matrix;
     if (projection == ORTHOGRAPHIC) {
@@ -137,7 +138,24 @@ VbMatrix NxViewpoint::projectionMatrix(float aspect, float nearDistance, float f
         matrix[3][3] = 0;
     }
     matrix[0][0] = matrix[1][1] / ratio;
+    if (part == VbVec2f(1, 1))
+        return matrix;
+    // From the place of the part in clip space to all of it; divided by the fourth coordinate, the shift is constant.
+    for (std::size_t i = 0; i < 2; ++i) {
+        const float shift = (1 - partMin[i] - partMax[i]) / part[i];
+        for (std::size_t row = 0; row < 4; ++row)
+            matrix[row][i] = matrix[row][i] / part[i] + shift * matrix[row][3];
+    }
     return matrix;
+}
+
+VbVec2f NxViewpoint::partSize() const
+{
+    const auto size = [this](std::size_t i) {
+        const float share = partMax[i] - partMin[i];
+        return share > 0 && share <= 1 ? share : 1.0F;
+    };
+    return {size(0), size(1)};
 }
 
 VbVec3f NxViewpoint::rightAxis() const
@@ -210,12 +228,8 @@ void NxViewpoint::placeAhead(const VbVec3d& point)
     position = subtract(point, scaled(VbVec3d(viewDirection()), static_cast<double>(focalDistance)));
 }
 
-void NxViewpoint::orbit(float right, float up)
+void NxViewpoint::turnBy(float right, float up)
 {
-    if (!std::isfinite(right) || !std::isfinite(up))
-        return;
-    *this = sensible();
-    const VbVec3d pivot = focalPoint();
     const bool headDown = upAxis()[1] < -0.001F;
     // To move above the focal point, the view turns downwards.
     float pitch = -up;
@@ -230,7 +244,32 @@ void NxViewpoint::orbit(float right, float up)
     const VbVec3f back = normalized(transformDirection(zAxis, turned), zAxis);
     const VbVec3f across = normalized(newRight, xAxis);
     orientation = rotationOf(across, cross(back, across), back);
+}
+
+void NxViewpoint::orbit(float right, float up)
+{
+    if (!std::isfinite(right) || !std::isfinite(up))
+        return;
+    *this = sensible();
+    const VbVec3d pivot = focalPoint();
+    turnBy(right, up);
     placeAhead(pivot);
+}
+
+void NxViewpoint::orbit(float right, float up, const VbVec3d& pivot)
+{
+    if (!std::isfinite(right) || !std::isfinite(up) || !isFinite(pivot))
+        return;
+    *this = sensible();
+    // In the axes of the viewpoint the pivot is where it was.
+    const VbVec3d way = subtract(pivot, position);
+    const double across = dot(way, VbVec3d(rightAxis()));
+    const double upwards = dot(way, VbVec3d(upAxis()));
+    const double ahead = dot(way, VbVec3d(viewDirection()));
+    turnBy(right, up);
+    position = subtract(pivot,
+        add(scaled(VbVec3d(rightAxis()), across),
+            add(scaled(VbVec3d(upAxis()), upwards), scaled(VbVec3d(viewDirection()), ahead))));
 }
 
 void NxViewpoint::pan(const VbVec2f& from, const VbVec2f& to, float aspect, float distance)

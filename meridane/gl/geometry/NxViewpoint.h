@@ -33,6 +33,10 @@ public:
     float heightAngle = 0.7853982F; ///< between lower and upper border in perspective, in radians, above 0, below pi
     float height = 4; ///< of the visible part in an orthographic picture, in scene units, above 0
     float focalDistance = 5; ///< from the position to the focal point, in scene units, above 0
+    /// The part of the picture that is drawn, from its lower left to its upper right corner: for pictures that are put
+    /// together from several. Moves, rays and points are those of the whole picture.
+    VbVec2f partMin{0, 0};
+    VbVec2f partMax{1, 1};
 
     /// The viewpoint of a camera node. The focal distance is the default; the caller may set it.
     [[nodiscard]] static NxViewpoint ofCamera(const NxCamera& camera, const meridane::Matrix4d& cameraToScene);
@@ -42,7 +46,8 @@ public:
     /// The position, or the default if it makes no sense.
     [[nodiscard]] VbVec3d usablePosition() const { return sensible().position; }
     /// From the eye to OpenGL's clip space, a cube from -1 to 1. The distances are along the line of sight; they may be
-    /// negative for an orthographic picture. In memory the rows of the matrix are what OpenGL calls columns.
+    /// negative for an orthographic picture. In memory the rows of the matrix are what OpenGL calls columns. Of a
+    /// part, the aspect is that of the part.
     [[nodiscard]] VbMatrix projectionMatrix(float aspect, float nearDistance, float farDistance) const;
 
     [[nodiscard]] VbVec3f rightAxis() const;
@@ -50,8 +55,10 @@ public:
     /// The line of sight, of length 1.
     [[nodiscard]] VbVec3f viewDirection() const;
     [[nodiscard]] VbVec3d focalPoint() const;
-    /// The height of the visible part at that distance, in scene units.
+    /// The height of the whole picture at that distance, in scene units.
     [[nodiscard]] float heightAt(float distance) const;
+    /// The share of the picture that the drawn part has: of its width and of its height, above 0.
+    [[nodiscard]] VbVec2f partSize() const;
     /// The ray through a point of the picture.
     [[nodiscard]] NxRay rayAt(const VbVec2f& place, float aspect) const;
     /// The scene point under a point of the picture, at that distance along the line of sight.
@@ -61,6 +68,9 @@ public:
 
     /// Moves around the focal point by angles in radians: to the right, and upwards until straight above it.
     void orbit(float right, float up);
+    /// The same around another point, which keeps its position in the picture. Around its own position the viewpoint
+    /// only turns, to the left and downwards.
+    void orbit(float right, float up, const VbVec3d& pivot);
     /// Moves sideways so that a point at that distance moves in the picture from `from` to `to`.
     void pan(const VbVec2f& from, const VbVec2f& to, float aspect, float distance);
     /// Makes the surroundings of a point look larger, by a factor above 1, or smaller. The point keeps its position in
@@ -80,6 +90,7 @@ public:
 
 private:
     void turn(const VbVec3f& direction, const VbVec3f& up);
+    void turnBy(float right, float up);
     void placeAhead(const VbVec3d& point);
     [[nodiscard]] NxViewpoint sensible() const;
 };

@@ -26,6 +26,7 @@ QList<orvane::FixedKey> orvane::fixedKeys()
         {window, tr("Context menu of what is selected"), tr("Menu")},
         {window, tr("Leave an editor or a popup, restoring what was there"), tr("Esc")},
         {view, tr("Go round the scene"), tr("Arrow keys")},
+        {view, tr("Fly, with the right button held: on, back, sideways, down, up"), tr("W, S, A, D, Q, E")},
         {view, tr("Move the picture"), tr("Shift and arrow keys")},
         {view, tr("Come closer, go back"), tr("+, -")},
         {view, tr("Select nothing"), tr("Esc")},

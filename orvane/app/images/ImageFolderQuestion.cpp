@@ -1,9 +1,11 @@
 #include "orvane/app/images/ImageFolderQuestion.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/AppSettings.h"
 #include "orvane/app/images/TextureFiles.h"
 #include "orvane/app/messages/MessageBar.h"
 
+#include <QAction>
 #include <QDir>
 
 namespace {
@@ -43,6 +45,20 @@ QStringList ImageFolderQuestion::allowedFolders() const
 void ImageFolderQuestion::forgetFolders()
 {
     set({});
+}
+
+QAction* ImageFolderQuestion::forgetAction()
+{
+    auto* const forget = new QAction(tr("Forget Allowed Image Folde&rs"), this);
+    forget->setObjectName(QStringLiteral("file.forgetImageFolders"));
+    forget->setStatusTip(tr("Takes back that scenes may refer to images in folders outside their own"));
+    const auto enable = [this, forget] {
+        orvane::setReason(*forget, allowedFolders().isEmpty() ? tr("No folder has been allowed.") : QString());
+    };
+    enable();
+    connect(this, &ImageFolderQuestion::changed, forget, enable);
+    connect(forget, &QAction::triggered, this, &ImageFolderQuestion::forgetFolders);
+    return forget;
 }
 
 void ImageFolderQuestion::reset()

@@ -5,6 +5,7 @@
 
 class AppSettings;
 class MessageBar;
+class QAction;
 class TextureFiles;
 
 /// Asks the user about the folders outside the scene's own that its images are in, one after the other, and remembers
@@ -25,6 +26,8 @@ public:
     void forgetFolders();
     /// Begins with another scene.
     void reset();
+    /// An action that takes every permission back, for a menu; owned by this.
+    [[nodiscard]] QAction* forgetAction();
 
 Q_SIGNALS:
     /// The permissions have changed.

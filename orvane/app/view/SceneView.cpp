@@ -1,35 +1,24 @@
 #include "orvane/app/view/SceneView.h"
 
 #include "orvane/app/view/ViewColors.h"
+#include "orvane/app/view/ViewMessage.h"
+#include "orvane/app/view/ViewPicking.h"
 
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
-#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <chrono>
-#include <limits>
 #include <utility>
 
 namespace {
 
 /// Whatever else the window's first picture has led to goes first: the context takes longer than all of it.
 constexpr std::chrono::milliseconds startDelay(15);
-/// How close to a line or point a click must be, in points of the screen.
-constexpr float pickRadius = 4;
-/// From the right, from above and from the front, the sides that show most of a model.
-const VbVec3f firstDirection(-1, -0.7F, -1.4F);
-const VbVec3f upwards(0, 1, 0);
-
-QColor toColor(const VbColor& color)
-{
-    return QColor::fromRgbF(color[0], color[1], color[2]);
-}
 
 std::vector<NxRef<NxNode>> held(const std::vector<NxNode*>& nodes)
 {
@@ -55,7 +44,7 @@ SceneView::SceneView(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    m_viewpoint.lookAlong(firstDirection, upwards);
+    m_viewpoint = orvane::firstViewpoint();
     orvane::setViewColors(m_style, palette());
     m_drawing.setStyle(m_style);
     m_drawing.setChangeHook([this] { redrawLater(); });
@@ -93,17 +82,7 @@ void SceneView::showProblem()
 {
     if (m_message != nullptr)
         return;
-    m_message = new QLabel(m_drawing.problem(), this);
-    m_message->setTextFormat(Qt::PlainText);
-    m_message->setObjectName(QStringLiteral("viewMessage"));
-    m_message->setWordWrap(true);
-    m_message->setAlignment(Qt::AlignCenter);
-    m_message->setMargin(24);
-    m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_message);
-    m_message->show();
+    m_message = orvane::addViewMessage(this, m_drawing.problem());
 }
 
 void SceneView::setScene(NxGroup* scene, const QString& folder, const std::optional<NxViewpoint>& viewpoint)
@@ -112,10 +91,7 @@ void SceneView::setScene(NxGroup* scene, const QString& folder, const std::optio
     m_selected.clear();
     m_drawing.setScene(scene, folder);
     m_input.cancel();
-    m_viewpoint = NxViewpoint();
-    m_viewpoint.lookAlong(firstDirection, upwards);
-    if (viewpoint)
-        m_viewpoint = *viewpoint;
+    m_viewpoint = viewpoint.value_or(orvane::firstViewpoint());
     m_hasMoved = viewpoint.has_value();
     m_showsAll = !viewpoint.has_value();
     m_framesAll = m_showsAll;
@@ -138,8 +114,29 @@ void SceneView::setViewpoint(const NxViewpoint& viewpoint)
     redrawLater();
 }
 
+void SceneView::navigate(const NxViewpoint& viewpoint)
+{
+    m_viewpoint = viewpoint;
+    noteMove();
+}
+
+void SceneView::goTo(const NxViewpoint& viewpoint)
+{
+    const NxViewpoint before = m_viewpoint;
+    noteMove();
+    m_viewpoint = viewpoint;
+    Q_EMIT jumped(before);
+}
+
+void SceneView::showStep(const NxViewpoint& viewpoint)
+{
+    m_viewpoint = viewpoint;
+    redrawLater();
+}
+
 void SceneView::noteMove()
 {
+    m_input.noteMove();
     m_hasMoved = true;
     m_showsAll = false;
     m_framesAll = false;
@@ -156,8 +153,20 @@ void SceneView::showAll()
 
 void SceneView::frameAll()
 {
+    const NxViewpoint before = m_viewpoint;
     noteMove();
     showAll();
+    frameIfAsked();
+    Q_EMIT jumped(before);
+}
+
+void SceneView::frameIfAsked()
+{
+    const NxBounds bounds = m_framesAll ? m_drawing.bounds() : NxBounds();
+    if (bounds.isEmpty())
+        return;
+    m_viewpoint.frame(bounds.min, bounds.max, m_navigation.aspect());
+    m_framesAll = false;
 }
 
 std::vector<NxNode*> SceneView::pointers(const std::vector<NxRef<NxNode>>& nodes)
@@ -180,17 +189,28 @@ void SceneView::frameSelection()
         frameAll();
         return;
     }
+    const NxViewpoint before = m_viewpoint;
     noteMove();
     m_viewpoint.frame(bounds.min, bounds.max, m_navigation.aspect());
+    Q_EMIT jumped(before);
 }
 
 void SceneView::lookAlong(const VbVec3f& direction, const VbVec3f& up)
 {
+    const NxViewpoint before = m_viewpoint;
     const bool showedAll = m_showsAll;
     noteMove();
     m_viewpoint.lookAlong(direction, up);
     if (showedAll)
         showAll();
+    frameIfAsked();
+    Q_EMIT jumped(before);
+}
+
+void SceneView::lookFromCorner()
+{
+    setProjection(NxViewpoint::PERSPECTIVE);
+    lookAlong(orvane::firstViewpoint().viewDirection(), VbVec3f(0, 1, 0));
 }
 
 void SceneView::setProjection(NxViewpoint::Projection projection)
@@ -230,11 +250,7 @@ void SceneView::redrawLater()
 
 void SceneView::redraw(const QSize& deviceSize)
 {
-    // Not with each picture: an object that is moved would seem not to move.
-    if (const NxBounds bounds = m_framesAll ? m_drawing.bounds() : NxBounds(); !bounds.isEmpty()) {
-        m_viewpoint.frame(bounds.min, bounds.max, m_navigation.aspect());
-        m_framesAll = false;
-    }
+    frameIfAsked(); // not with each picture: an object that is moved would seem not to move
     m_stale = false;
     m_drawnSize = deviceSize;
     m_picture = m_drawing.draw(m_viewpoint, deviceSize, static_cast<float>(devicePixelRatioF()));
@@ -253,10 +269,7 @@ void SceneView::paintEvent(QPaintEvent*)
     } else if (m_message != nullptr) {
         painter.fillRect(rect(), palette().window());
     } else {
-        QLinearGradient background(0, 0, 0, height());
-        background.setColorAt(0, toColor(m_style.backgroundTop));
-        background.setColorAt(1, toColor(m_style.backgroundBottom));
-        painter.fillRect(rect(), background);
+        painter.fillRect(rect(), orvane::viewBackground(m_style, height()));
     }
     if (m_message == nullptr)
         m_input.paint(painter);
@@ -290,21 +303,7 @@ std::optional<NxRayPick> SceneView::pickAt(const QPointF& position) const
 {
     if (!m_scene)
         return {};
-    const NxRay ray = m_viewpoint.rayAt(m_navigation.place(position), m_navigation.aspect());
-    constexpr float most = std::numeric_limits<float>::max();
-    const bool isOrthographic = m_viewpoint.projection == NxViewpoint::ORTHOGRAPHIC;
-    const auto [nearest, farthest] = m_style.section.limited(ray, {isOrthographic ? -most : 0, most});
-    if (nearest > farthest)
-        return {};
-    NxRayPick pick(ray);
-    pick.setDistances(nearest, farthest);
-    pick.setVisibility(m_drawing.visibility());
-    const float radii = pickRadius / static_cast<float>(std::max(height(), 1));
-    if (isOrthographic)
-        pick.setTolerance(radii * m_viewpoint.heightAt(0), 0);
-    else
-        pick.setTolerance(0, radii * m_viewpoint.heightAt(1));
-    return pick;
+    return orvane::pickAt(m_viewpoint, m_navigation.place(position), size(), m_style.section, m_drawing.visibility());
 }
 
 std::optional<NxRayHit> SceneView::hitAt(const QPointF& position) const
@@ -325,35 +324,10 @@ bool SceneView::focusNextPrevChild(bool next)
     return m_input.pickBehind(next) || QWidget::focusNextPrevChild(next);
 }
 
-void SceneView::mousePressEvent(QMouseEvent* event)
-{
-    m_input.mousePress(*event);
-}
-
-void SceneView::mouseMoveEvent(QMouseEvent* event)
-{
-    m_input.mouseMove(*event);
-}
-
-void SceneView::mouseReleaseEvent(QMouseEvent* event)
-{
-    m_input.mouseRelease(*event);
-}
-
-void SceneView::wheelEvent(QWheelEvent* event)
-{
-    m_input.wheel(*event);
-}
-
 void SceneView::keyPressEvent(QKeyEvent* event)
 {
     if (!m_input.keyPress(*event))
         QWidget::keyPressEvent(event);
-}
-
-void SceneView::contextMenuEvent(QContextMenuEvent* event)
-{
-    m_input.contextMenu(*event);
 }
 
 void SceneView::leaveEvent(QEvent*)

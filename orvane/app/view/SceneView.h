@@ -38,6 +38,7 @@ public:
     [[nodiscard]] ViewInput& input() noexcept { return m_input; }
     /// Where positions of the view are in the picture.
     [[nodiscard]] const ViewNavigation& navigation() const noexcept { return m_navigation; }
+    [[nodiscard]] ViewNavigation& navigation() noexcept { return m_navigation; }
 
     /// The scene that is shown, or null.
     [[nodiscard]] NxGroup* scene() const noexcept { return m_scene.get(); }
@@ -49,6 +50,12 @@ public:
     [[nodiscard]] const NxViewpoint& viewpoint() const noexcept { return m_viewpoint; }
     /// Looks from there; as a move by the user.
     void setViewpoint(const NxViewpoint& viewpoint);
+    /// The same as part of a movement that the user makes.
+    void navigate(const NxViewpoint& viewpoint);
+    /// Looks from there as the user has asked for: see `jumped`.
+    void goTo(const NxViewpoint& viewpoint);
+    /// Shows a step on the way to where the view has jumped.
+    void showStep(const NxViewpoint& viewpoint);
     /// Whether the user has left the viewpoint that shows all.
     [[nodiscard]] bool hasMoved() const noexcept { return m_hasMoved; }
     /// What of the scene is seen there, or nothing.
@@ -64,6 +71,8 @@ public:
     /// selected.
     void frameSelection();
     void lookAlong(const VbVec3f& direction, const VbVec3f& up);
+    /// Looks as at first: in perspective, from the right, from above and from the front.
+    void lookFromCorner();
     void setProjection(NxViewpoint::Projection projection);
 
     /// How the scene is shown; the colours are the view's own.
@@ -82,8 +91,10 @@ Q_SIGNALS:
     void menuRequested(const QPoint& place);
     /// Another scene is shown, or none.
     void sceneChanged();
-    /// The user moved, not through `setViewpoint`.
+    /// The user moved, or is about to, not through `setViewpoint`.
     void moved();
+    /// The viewpoint has changed at once from that one, which an animation may hide.
+    void jumped(const NxViewpoint& before);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -91,12 +102,12 @@ protected:
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override { m_input.mousePress(*event); }
+    void mouseMoveEvent(QMouseEvent* event) override { m_input.mouseMove(*event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { m_input.mouseRelease(*event); }
+    void wheelEvent(QWheelEvent* event) override { m_input.wheel(*event); }
     void keyPressEvent(QKeyEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override { m_input.contextMenu(*event); }
     void leaveEvent(QEvent* event) override;
     bool event(QEvent* event) override;
     /// Tab picks what lies behind the node that was clicked, as long as the pointer is there.
@@ -109,6 +120,7 @@ private:
     [[nodiscard]] std::optional<NxRayPick> pickAt(const QPointF& position) const;
     void redraw(const QSize& deviceSize);
     void showAll();
+    void frameIfAsked();
     void redrawLater();
     void noteMove();
     void showProblem();

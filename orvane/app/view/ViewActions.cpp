@@ -37,6 +37,10 @@ ViewActions::ViewActions(SceneView* view, AppSettings& settings)
     addAxis("top", tr("&Top"), Qt::Key_5, VbVec3f(0, -1, 0), VbVec3f(0, 0, -1));
     addAxis("bottom", tr("B&ottom"), Qt::Key_6, VbVec3f(0, 1, 0), VbVec3f(0, 0, 1));
 
+    m_axes.append(addAction("corner", tr("From a &Corner"),
+        tr("Looks in perspective from the right, from above and from the front, as at first"), Qt::Key_7));
+    connect(m_axes.back(), &QAction::triggered, view, &SceneView::lookFromCorner);
+
     addProjection("perspective", tr("&Perspective"), tr("Distant things look smaller"), NxViewpoint::PERSPECTIVE);
     addProjection("orthographic", tr("&Orthographic"), tr("Things look the same size at any distance"),
         NxViewpoint::ORTHOGRAPHIC);

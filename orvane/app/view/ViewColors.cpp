@@ -2,8 +2,10 @@
 
 #include "orvane/app/look/Look.h"
 
+#include "meridane/gl/geometry/NxViewpoint.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
 
+#include <QLinearGradient>
 #include <QPalette>
 
 namespace {
@@ -11,6 +13,11 @@ namespace {
 VbColor toColor(const QColor& color)
 {
     return {color.redF(), color.greenF(), color.blueF()};
+}
+
+QColor toColor(const VbColor& color)
+{
+    return QColor::fromRgbF(color[0], color[1], color[2]);
 }
 
 } // namespace
@@ -29,4 +36,19 @@ void orvane::setViewColors(NxDrawingStyle& style, const QPalette& palette)
     style.boundingBoxColor = toColor(isDark ? QColor(230, 190, 60) : QColor(120, 84, 0));
     style.otherOutlineColor = toColor(isDark ? QColor(214, 160, 96) : QColor(176, 104, 40));
     style.outlineColor = toColor(isDark ? QColor(255, 153, 26) : QColor(235, 110, 0));
+}
+
+QLinearGradient orvane::viewBackground(const NxDrawingStyle& style, int height)
+{
+    QLinearGradient background(0, 0, 0, height);
+    background.setColorAt(0, toColor(style.backgroundTop));
+    background.setColorAt(1, toColor(style.backgroundBottom));
+    return background;
+}
+
+NxViewpoint orvane::firstViewpoint()
+{
+    NxViewpoint viewpoint;
+    viewpoint.lookAlong(VbVec3f(-1, -0.7F, -1.4F), VbVec3f(0, 1, 0));
+    return viewpoint;
 }

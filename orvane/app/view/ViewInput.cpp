@@ -111,7 +111,6 @@ void ViewInput::mouseMove(const QMouseEvent& event)
         m_view.setCursor(
             m_navigation.dragUnderWay() == ViewNavigation::Drag::Pan ? Qt::SizeAllCursor : Qt::ClosedHandCursor);
     m_navigation.drag(event.position());
-    m_depth = -1;
     m_hooks.moved();
 }
 
@@ -150,7 +149,6 @@ void ViewInput::wheel(const QWheelEvent& event)
     if (turned == 0 || !m_hooks.hasScene() || m_taker != nullptr)
         return;
     m_navigation.zoom(turned / notch, event.position());
-    m_depth = -1;
     m_hooks.moved();
 }
 
@@ -171,7 +169,6 @@ bool ViewInput::keyPress(const QKeyEvent& event)
     if (std::any_of(m_tools.begin(), m_tools.end(), [&](ViewTool* tool) { return tool->keyPress(event); }))
         return true;
     if (m_navigation.pressKey(event)) {
-        m_depth = -1;
         m_hooks.moved();
         return true;
     }
@@ -186,10 +183,18 @@ void ViewInput::contextMenu(const QContextMenuEvent& event)
     const bool isByKey = event.reason() == QContextMenuEvent::Keyboard;
     if (!m_hooks.hasScene() || isDragging() || (!isByKey && m_withoutMenu))
         return;
+    if (isByKey)
+        m_hooks.menuRequested(m_view.mapToGlobal(m_view.rect().center()));
+    else
+        openMenu(event.pos(), event.globalPos());
+}
+
+void ViewInput::openMenu(const QPointF& position, const QPoint& place)
+{
     // What repeated clicks have picked there is what the menu is about.
-    if (!isByKey && !(isClickedPlace(event.pos()) && m_depth > 0))
-        pick(event.pos(), 0);
-    m_hooks.menuRequested(isByKey ? m_view.mapToGlobal(m_view.rect().center()) : event.globalPos());
+    if (!(isClickedPlace(position) && m_depth > 0))
+        pick(position, 0);
+    m_hooks.menuRequested(place);
 }
 
 void ViewInput::paint(QPainter& painter) const

@@ -66,6 +66,10 @@ public:
     /// False for a key that means nothing here.
     bool keyPress(const QKeyEvent& event);
     void contextMenu(const QContextMenuEvent& event);
+    /// Picks what is at that position and asks for its menu, at that place of the screen.
+    void openMenu(const QPointF& position, const QPoint& place);
+    /// The viewpoint has changed: what is behind the latest click is something else now.
+    void noteMove() { m_depth = -1; }
     void paint(QPainter& painter) const;
 
 private:

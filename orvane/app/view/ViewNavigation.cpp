@@ -43,17 +43,31 @@ void ViewNavigation::startDrag(Drag drag, const QPointF& position)
 {
     m_drag = drag;
     m_last = position;
+    m_pivot.reset();
     if (drag == Drag::Pan)
         m_panDistance = distanceAt(position);
+}
+
+void ViewNavigation::orbit(const QPointF& way)
+{
+    // Looked for with the first move: a click needs no pivot.
+    if (!m_pivot) {
+        m_pivot = m_orbitsPicked ? m_findPoint(m_last) : std::nullopt;
+        if (m_pivot)
+            m_viewpoint.focus(*m_pivot);
+        else
+            m_pivot = m_viewpoint.focalPoint();
+    }
+    // The scene goes with the pointer, so the viewer goes the other way round.
+    const float perPixel = orbitPerHeight / static_cast<float>(std::max(m_size.height(), 1.0));
+    m_viewpoint.orbit(-static_cast<float>(way.x()) * perPixel, static_cast<float>(way.y()) * perPixel, *m_pivot);
 }
 
 void ViewNavigation::drag(const QPointF& position)
 {
     const QPointF way = position - m_last;
-    const float perPixel = orbitPerHeight / static_cast<float>(std::max(m_size.height(), 1.0));
     if (m_drag == Drag::Orbit)
-        // The scene goes with the pointer, so the viewer goes the other way round.
-        m_viewpoint.orbit(-static_cast<float>(way.x()) * perPixel, static_cast<float>(way.y()) * perPixel);
+        orbit(way);
     else if (m_drag == Drag::Pan)
         m_viewpoint.pan(place(m_last), place(position), aspect(), m_panDistance);
     m_last = position;

@@ -12,7 +12,8 @@ class QKeyEvent;
 
 /// Moves a viewpoint as mouse, wheel and keys ask for it.
 ///
-/// What is under the pointer when a pan or a zoom begins stays there. Positions are those of the widget.
+/// What is under the pointer when a drag or a zoom begins stays there: an orbit is about it, or about the focal point
+/// where nothing is. Positions are those of the widget.
 class ViewNavigation {
 public:
     enum class Drag { None, Orbit, Pan };
@@ -28,6 +29,9 @@ public:
     /// The place in the picture of a position.
     [[nodiscard]] VbVec2f place(const QPointF& position) const;
 
+    /// Whether an orbit is about the point under the pointer, as at first, or always about the focal point.
+    void setOrbitsPicked(bool picked) { m_orbitsPicked = picked; }
+
     void startDrag(Drag drag, const QPointF& position);
     void drag(const QPointF& position);
     void endDrag() { m_drag = Drag::None; }
@@ -40,6 +44,7 @@ public:
 
 private:
     [[nodiscard]] float distanceAt(const QPointF& position) const;
+    void orbit(const QPointF& way);
 
     NxViewpoint& m_viewpoint;
     PointFinder m_findPoint;
@@ -47,6 +52,8 @@ private:
     Drag m_drag = Drag::None;
     QPointF m_last;
     float m_panDistance = 0;
+    bool m_orbitsPicked = true;
+    std::optional<VbVec3d> m_pivot; // of the orbit under way
     std::optional<VbVec3d> m_zoomPoint; // what the latest zoom went to
     QPointF m_zoomPosition; // where it was found
     NxViewpoint m_zoomed; // what the latest zoom led to

@@ -1,7 +1,6 @@
 #include "orvane/app/window/MainWindow.h"
 
 #include "orvane/app/actions/WindowActions.h"
-#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/DraggedFile.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
@@ -40,6 +39,7 @@
 #include "orvane/app/view/handles/ViewHandles.h"
 #include "orvane/app/view/marks/MarkedRows.h"
 #include "orvane/app/view/measure/MeasureTool.h"
+#include "orvane/app/view/navigation/NavigationActions.h"
 #include "orvane/app/window/CentralArea.h"
 #include "orvane/app/window/ComparisonDock.h"
 #include "orvane/app/window/DiskChangeBar.h"
@@ -79,7 +79,6 @@ const QString geometryKey = QStringLiteral("window/geometry");
 const QString recoveryTopic = QStringLiteral("recoveryFailure");
 const QString stateKey = QStringLiteral("window/state");
 
-/// The one local file that is being dragged, or the empty name.
 } // namespace
 
 MainWindow::MainWindow(Session& session)
@@ -260,22 +259,14 @@ void MainWindow::buildMenus()
     toolBar->addSeparator();
     toolBar->addActions(editMenu->toolBarActions());
     m_inspectors->addToolBar();
-    auto* forget = new QAction(tr("Forget Allowed Image Folde&rs"), this);
-    forget->setObjectName(QStringLiteral("file.forgetImageFolders"));
-    forget->setStatusTip(tr("Takes back that scenes may refer to images in folders outside their own"));
-    const auto enable = [this, forget] {
-        orvane::setReason(
-            *forget, m_imageFolders->allowedFolders().isEmpty() ? tr("No folder has been allowed.") : QString());
-    };
-    enable();
-    connect(m_imageFolders, &ImageFolderQuestion::changed, forget, enable);
-    connect(forget, &QAction::triggered, m_imageFolders, &ImageFolderQuestion::forgetFolders);
+    const auto* const navigation = new NavigationActions(m_view, m_session.settings(), statusBar());
     viewMenu->append((new ViewHandles(m_session, m_view, m_tree))->menuActions());
     viewMenu->append(hiding->actions() + (new TreeActions(m_tree, statusBar()))->menuActions());
     viewMenu->append(m_inspectors->menuActions());
     viewMenu->append(
         {(new DisplayMenu(m_view, m_session))->menuAction(), (new MeasureTool(m_view, m_session))->action()});
-    viewMenu->append({forget});
+    viewMenu->append({navigation->menuAction()});
+    viewMenu->append({m_imageFolders->forgetAction()});
     viewMenu->update();
     new KeptColumns(this, m_session.settings());
 }

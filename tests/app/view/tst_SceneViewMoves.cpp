@@ -46,6 +46,57 @@ private Q_SLOTS:
         QVERIFY(m_view->hasMoved());
     }
 
+    void orbitsAboutThePickedPoint_data()
+    {
+        QTest::addColumn<NxViewpoint::Projection>("projection");
+        QTest::newRow("perspective") << NxViewpoint::PERSPECTIVE;
+        QTest::newRow("orthographic") << NxViewpoint::ORTHOGRAPHIC;
+    }
+    void orbitsAboutThePickedPoint()
+    {
+        QFETCH(const NxViewpoint::Projection, projection);
+        m_view->setProjection(projection);
+        static_cast<void>(picture());
+        const QPoint from = at(2.5F, 0.5F);
+        const VbVec3f direction = m_view->viewpoint().viewDirection();
+        drag(Qt::LeftButton, Qt::NoModifier, from, from + QPoint(-70, 40));
+        QVERIFY(length(subtract(m_view->viewpoint().viewDirection(), direction)) > 0.3);
+        QVERIFY2((at(2.5F, 0.5F) - from).manhattanLength() <= 1, "the point that was picked stays where it is");
+        QVERIFY(ViewScenes::isLike(picture().pixelColor(from), Qt::green));
+        // The next one is about what is picked then.
+        const QPoint left = at(-1.5F, -0.5F);
+        drag(Qt::LeftButton, Qt::NoModifier, left, left + QPoint(30, 30));
+        QVERIFY((at(-1.5F, -0.5F) - left).manhattanLength() <= 1);
+    }
+
+    void orbitsAboutTheMiddleIfAskedTo()
+    {
+        m_view->navigation().setOrbitsPicked(false);
+        const NxViewpoint before = m_view->viewpoint();
+        const QPoint from = at(2.5F, 0.5F);
+        drag(Qt::LeftButton, Qt::NoModifier, from, from + QPoint(-70, 40));
+        QVERIFY(length(subtract(m_view->viewpoint().focalPoint(), before.focalPoint())) < 1e-3);
+        QVERIFY((at(2.5F, 0.5F) - from).manhattanLength() > 20);
+    }
+
+    void looksFromTheCornerAsAtFirst()
+    {
+        m_view->setProjection(NxViewpoint::ORTHOGRAPHIC);
+        m_view->lookFromCorner();
+        QCOMPARE(m_view->viewpoint().projection, NxViewpoint::PERSPECTIVE);
+        const VbVec3f direction = m_view->viewpoint().viewDirection();
+        QVERIFY(direction[0] < 0 && direction[1] < 0 && direction[2] < 0);
+    }
+
+    void aClickAfterAMovePicksWhatIsInFront()
+    {
+        const QPoint place = at(2, 0);
+        QTest::mouseClick(m_view.get(), Qt::LeftButton, Qt::NoModifier, place);
+        m_view->navigate(m_view->viewpoint());
+        const std::optional<NxRayHit> next = m_view->input().nextHit(place);
+        QVERIFY(next && next->path.back() == child(2, 1));
+    }
+
     void pansByADrag_data()
     {
         QTest::addColumn<Qt::MouseButton>("button");

@@ -111,6 +111,34 @@ private Q_SLOTS:
         QVERIFY(isNear(viewpoint.upAxis(), VbVec3f(0, 1, 0)));
     }
 
+    void orbitsAboutAPointThatStaysInThePicture_data() { addProjections(); }
+    void orbitsAboutAPointThatStaysInThePicture()
+    {
+        QFETCH(NxViewpoint, viewpoint);
+        const VbVec2f place(0.2F, 0.7F);
+        const VbVec3d pivot = viewpoint.pointAt(place, aspect, 3);
+        const VbVec3f direction = viewpoint.viewDirection();
+        for (int step = 0; step < 20; ++step) {
+            viewpoint.orbit(0.1F, step % 10 < 5 ? 0.2F : -0.1F, pivot);
+            QVERIFY(isNear(placeOf(pivot, viewpoint), place));
+            QVERIFY(std::abs(viewpoint.distanceTo(pivot) - 3) < 1e-3F);
+        }
+        QVERIFY(length(subtract(direction, viewpoint.viewDirection())) > 0.5);
+        const NxViewpoint before = viewpoint;
+        viewpoint.orbit(1, 0, VbVec3d(std::numeric_limits<double>::quiet_NaN(), 0, 0));
+        QCOMPARE(viewpoint, before);
+    }
+
+    void orbitingAboutItselfItTurns()
+    {
+        NxViewpoint viewpoint;
+        viewpoint.orbit(0.3F, 0, viewpoint.position);
+        QVERIFY(isNear(viewpoint.position, VbVec3d(0, 0, 5)));
+        QVERIFY(viewpoint.viewDirection()[0] < -0.2F);
+        viewpoint.orbit(0, 0.3F, viewpoint.position);
+        QVERIFY(viewpoint.viewDirection()[1] < -0.2F);
+    }
+
     void orbitsNoFartherThanStraightAbove()
     {
         NxViewpoint viewpoint;

@@ -69,7 +69,7 @@ PictureFrame::PictureFrame(
         eye = {-direction[0], -direction[1], -direction[2], 0};
     else
         eye = {0, 0, 0, 1};
-    pixelsPerUnit = static_cast<float>(height) / viewpoint.heightAt(1);
+    pixelsPerUnit = static_cast<float>(height) / (viewpoint.heightAt(1) * viewpoint.partSize()[1]);
 }
 
 std::array<float, 4> PictureFrame::sectionFor(const VbVec3f& normal, double place) const noexcept
