@@ -2,6 +2,7 @@
 
 #include "orvane/import/conversion/ModelFiles.h"
 #include "orvane/import/conversion/SceneBuilder.h"
+#include "orvane/import/mending/EmissionMending.h"
 #include "orvane/import/mending/GltfMending.h"
 #include "orvane/import/mending/ModelMending.h"
 #include "orvane/import/mending/ObjMending.h"
@@ -157,6 +158,7 @@ bool ModelReader::mend(aiScene& model, std::string& error)
     mendModel(model, m_warnings);
     mendVertexColors(model, m_colorStorage, m_warnings);
     mendMaterials(model, m_warnings);
+    mendEmission(model, m_warnings);
     mendSides(model);
     foldPivots(*model.mRootNode);
     m_note = convertSpace(model, m_options.space);

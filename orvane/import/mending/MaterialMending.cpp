@@ -21,17 +21,10 @@ std::optional<float> opacityOf(const aiMaterial& material)
     return material.Get(AI_MATKEY_OPACITY, opacity) == aiReturn_SUCCESS ? std::optional(opacity) : std::nullopt;
 }
 
-std::string nameOf(const aiMaterial& material)
-{
-    aiString name;
-    material.Get(AI_MATKEY_NAME, name);
-    return std::string(viewOf(name));
-}
-
 void setOpacity(aiMaterial& material, float opacity, std::string_view warning, ImportWarnings& warnings)
 {
     material.AddProperty(&opacity, 1, AI_MATKEY_OPACITY);
-    warnings.add(warning, nameOf(material));
+    warnings.add(warning, materialName(material));
 }
 
 std::vector<aiMaterial*> materialsInUse(const aiScene& model)
@@ -79,7 +72,7 @@ void dimMadeUpMaterial(aiMaterial& material)
         aiColor3D color;
         return material.Get(key, type, index, color) == aiReturn_SUCCESS && color == aiColor3D(1, 1, 1);
     };
-    if (!nameOf(material).empty() || !isWhite(AI_MATKEY_COLOR_AMBIENT) || !isWhite(AI_MATKEY_COLOR_DIFFUSE)
+    if (!materialName(material).empty() || !isWhite(AI_MATKEY_COLOR_AMBIENT) || !isWhite(AI_MATKEY_COLOR_DIFFUSE)
         || !isWhite(AI_MATKEY_COLOR_SPECULAR))
         return;
     material.RemoveProperty(AI_MATKEY_COLOR_AMBIENT);

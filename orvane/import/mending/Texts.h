@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 #include <string_view>
 
+#include <assimp/material.h>
 #include <assimp/types.h>
 
 /// Texts between a scene and the import library: UTF-8 in both, but the library's hold at most 1023 bytes.
@@ -37,6 +39,14 @@ namespace orvane {
 [[nodiscard]] inline aiString toAiText(const VbString& text)
 {
     return toAiText(text.view());
+}
+
+/// Empty for a material without one.
+[[nodiscard]] inline std::string materialName(const aiMaterial& material)
+{
+    aiString name;
+    material.Get(AI_MATKEY_NAME, name);
+    return std::string(viewOf(name));
 }
 
 } // namespace orvane

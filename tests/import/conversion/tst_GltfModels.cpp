@@ -1,46 +1,17 @@
-#include "import/Gltf.h"
 #include "import/conversion/ReadModels.h"
+#include "import/conversion/TexturedModel.h"
 
 #include "meridane/scene/nodes/NxMaterial.h"
 #include "meridane/scene/nodes/NxMesh.h"
+#include "meridane/scene/nodes/NxOrthographicCamera.h"
+#include "meridane/scene/nodes/NxPerspectiveCamera.h"
+#include "meridane/scene/nodes/NxPointLight.h"
+#include "meridane/scene/nodes/NxSpotLight.h"
 #include "meridane/scene/nodes/NxTexture.h"
 
-#include <QBuffer>
-#include <QImage>
 #include <QTest>
 
 #include <cmath>
-
-namespace {
-
-/// A red image of half opacity.
-QByteArray clearImage()
-{
-    QImage image(2, 2, QImage::Format_RGBA8888);
-    image.fill(QColor(255, 0, 0, 128));
-    QBuffer png;
-    png.open(QIODevice::WriteOnly);
-    image.save(&png, "png");
-    return gltf::dataUri("image/png", png.data());
-}
-
-/// A triangle with the places (0, 0), (1, 0) and (0, 1) in the texture, v downwards,, and that material.
-QByteArray textured(const QByteArray& material)
-{
-    QByteArray model = gltf::model(R"({"mesh": 0})",
-        R"("scenes": [{"nodes": [0]}], "extensionsUsed": ["KHR_texture_transform", "KHR_materials_pbrSpecularGlossiness"], "textures": [{"source": 0}],
-        "images": [{"uri": )"
-            + clearImage() + R"(}], "materials": [)" + material + "],",
-        R"(, "material": 0)");
-    model.replace(R"("POSITION": 0)", R"("POSITION": 0, "TEXCOORD_0": 2)");
-    model.replace(R"("type": "SCALAR"}])", R"("type": "SCALAR"},
-        {"bufferView": 2, "componentType": 5126, "count": 3, "type": "VEC2"}])");
-    model.replace(R"("byteLength": 6}])", R"("byteLength": 6},
-        {"buffer": 0, "byteOffset": 0, "byteLength": 36, "byteStride": 12}])");
-    return model;
-}
-
-} // namespace
 
 /// What comes over from glTF besides meshes.
 class TestGltfModels : public QObject {
@@ -64,7 +35,7 @@ private Q_SLOTS:
         QFETCH(QList<float>, numbers);
         ReadModels models;
         const NxRef<NxGroup> scene = models.read("model.gltf",
-            textured(R"({"pbrMetallicRoughness": {"baseColorTexture": {"index": 0, "extensions":
+            gltf::textured(R"({"pbrMetallicRoughness": {"baseColorTexture": {"index": 0, "extensions":
             {"KHR_texture_transform": {)"
                 + members + "}}}}}"));
         QVERIFY2(scene, qPrintable(models.message()));
@@ -94,7 +65,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, mode);
         QFETCH(bool, isOpaque);
         ReadModels models;
-        const NxRef<NxGroup> scene = models.read("model.gltf", textured("{" + mode + R"("pbrMetallicRoughness":
+        const NxRef<NxGroup> scene = models.read("model.gltf", gltf::textured("{" + mode + R"("pbrMetallicRoughness":
             {"baseColorFactor": [1, 0, 0, 0.25], "baseColorTexture": {"index": 0}}})"));
         QVERIFY2(scene, qPrintable(models.message()));
         QCOMPARE(ReadModels::all<NxMaterial>(*scene).front()->transparency.getValue(), isOpaque ? 0.0F : 0.75F);
@@ -132,7 +103,7 @@ private Q_SLOTS:
         QFETCH(float, metalness);
         QFETCH(float, roughness);
         ReadModels models;
-        const NxRef<NxGroup> scene = models.read("model.gltf", textured("{" + members + "}"));
+        const NxRef<NxGroup> scene = models.read("model.gltf", gltf::textured("{" + members + "}"));
         QVERIFY2(scene, qPrintable(models.message()));
         const NxMaterial& material = *ReadModels::all<NxMaterial>(*scene).front();
         QCOMPARE(material.metalness.getValue(), metalness);
@@ -158,8 +129,8 @@ private Q_SLOTS:
         QFETCH(float, cutoff);
         QFETCH(float, transparency);
         ReadModels models;
-        const NxRef<NxGroup> scene = models.read(
-            "model.gltf", textured("{" + mode + R"(, "pbrMetallicRoughness": {"baseColorFactor": [1, 0, 0, 0.25]}})"));
+        const NxRef<NxGroup> scene = models.read("model.gltf",
+            gltf::textured("{" + mode + R"(, "pbrMetallicRoughness": {"baseColorFactor": [1, 0, 0, 0.25]}})"));
         QVERIFY2(scene, qPrintable(models.message()));
         const NxMaterial& material = *ReadModels::all<NxMaterial>(*scene).front();
         QCOMPARE(material.alphaCutoff.getValue(), cutoff);
@@ -184,7 +155,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, sides);
         QFETCH(bool, isClosed);
         QFETCH(bool, isDoubleSided);
-        QByteArray model = textured("{" + sides + R"("name": "tin"})");
+        QByteArray model = gltf::textured("{" + sides + R"("name": "tin"})");
         if (isClosed) { // the same triangle once more, facing the other way
             model.replace(R"("material": 0}])",
                 R"("material": 0}, {"attributes": {"POSITION": 0}, "indices": 3, "material": 0}])");
@@ -219,8 +190,8 @@ private Q_SLOTS:
         QFETCH(QByteArray, transform);
         QFETCH(int, textures);
         ReadModels models;
-        const NxRef<NxGroup> scene
-            = models.read("model.gltf", textured(R"({"name": "bark", "normalTexture": {"index": 0)" + transform + R"(},
+        const NxRef<NxGroup> scene = models.read(
+            "model.gltf", gltf::textured(R"({"name": "bark", "normalTexture": {"index": 0)" + transform + R"(},
             "pbrMetallicRoughness": {"baseColorTexture": {"index": 0}, "metallicRoughnessTexture": {"index": 0}}})"));
         QVERIFY2(scene, qPrintable(models.message()));
         QList<int> roles;
@@ -240,6 +211,61 @@ private Q_SLOTS:
                 QStringList(QStringLiteral(
                     "left out further textures that are placed in another way in the materials: \"bark\"")));
         }
+    }
+
+    void vertexColorsComeOver()
+    {
+        QByteArray model = gltf::model(R"({"mesh": 0})", R"("scenes": [{"nodes": [0]}],)");
+        model.replace(R"("POSITION": 0)", R"("POSITION": 0, "COLOR_0": 0)");
+        ReadModels models;
+        const NxRef<NxGroup> scene = models.read("model.gltf", model);
+        QVERIFY2(scene, qPrintable(models.message()));
+        const NxMesh& mesh = *ReadModels::all<NxMesh>(*scene).front();
+        QCOMPARE(mesh.colors.getNum(), 3);
+        QCOMPARE(mesh.colors[1], VbColorRGBA(1, 0, 0, 1));
+        QCOMPARE(mesh.colors[2], VbColorRGBA(0, 1, 0, 1));
+    }
+
+    void lightsComeOverWithRangeAndCone()
+    {
+        ReadModels models;
+        const NxRef<NxGroup> scene = models.read("model.gltf",
+            gltf::model(R"({"mesh": 0}, {"translation": [1, 2, 3], "extensions": {"KHR_lights_punctual": {"light": 0}}},
+            {"rotation": [0.70710678, 0, 0, 0.70710678], "extensions": {"KHR_lights_punctual": {"light": 1}}})",
+                R"("scenes": [{"nodes": [0, 1, 2]}], "extensionsUsed": ["KHR_lights_punctual"],
+            "extensions": {"KHR_lights_punctual": {"lights": [
+            {"name": "lamp", "type": "point", "color": [1, 0.5, 0], "intensity": 4, "range": 10},
+            {"name": "cone", "type": "spot", "spot": {"innerConeAngle": 0.25, "outerConeAngle": 0.5}}]}},)"));
+        QVERIFY2(scene, qPrintable(models.message()));
+        const NxPointLight& lamp = *ReadModels::all<NxPointLight>(*scene).front();
+        QCOMPARE(lamp.location.getValue(), VbVec3f(1, 2, 3));
+        QCOMPARE(lamp.color.getValue(), VbColor(1, 0.5F, 0));
+        // It fades with the square of the distance, and four times as bright a lamp by a quarter.
+        QCOMPARE(lamp.attenuation.getValue(), VbVec3f(0, 0, 0.25F));
+        const NxSpotLight& cone = *ReadModels::all<NxSpotLight>(*scene).front();
+        QCOMPARE(cone.cutOffAngle.getValue(), 0.5F);
+        QCOMPARE(cone.dropOffRate.getValue(), 0.5F);
+        // A quarter of a turn about x leads from -z to y.
+        QVERIFY(std::abs(cone.direction.getValue()[1] - 1) < 1e-5F);
+    }
+
+    void camerasComeOver()
+    {
+        ReadModels models;
+        const NxRef<NxGroup> scene = models.read("model.gltf",
+            gltf::model(
+                R"({"mesh": 0}, {"name": "eye", "translation": [0, 0, 5], "camera": 0}, {"name": "plan", "camera": 1})",
+                R"("scenes": [{"nodes": [0, 1, 2]}], "cameras": [
+            {"type": "perspective", "perspective": {"yfov": 0.75, "aspectRatio": 1.5, "znear": 0.5, "zfar": 50}},
+            {"type": "orthographic", "orthographic": {"xmag": 3, "ymag": 3, "znear": 0.25, "zfar": 20}}],)"));
+        QVERIFY2(scene, qPrintable(models.message()));
+        const NxPerspectiveCamera& eye = *ReadModels::all<NxPerspectiveCamera>(*scene).front();
+        QCOMPARE(eye.position.getValue(), VbVec3f(0, 0, 5));
+        QVERIFY(std::abs(eye.heightAngle.getValue() - 0.75F) < 1e-5F);
+        QCOMPARE(eye.nearDistance.getValue(), 0.5F);
+        QCOMPARE(eye.farDistance.getValue(), 50.0F);
+        const NxOrthographicCamera& plan = *ReadModels::all<NxOrthographicCamera>(*scene).front();
+        QCOMPARE(plan.height.getValue(), 6.0F);
     }
 
     void morphTargetsHaveTheirWeights()
