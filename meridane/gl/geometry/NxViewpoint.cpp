@@ -314,11 +314,10 @@ void NxViewpoint::frame(const VbVec3f& min, const VbVec3f& max, float aspect)
         halfHeight = std::max(halfHeight, needed);
         distance = std::max(distance, needed / slope - dot(way, viewDirection()));
     }
-    if (halfHeight > 0) {
-        height = sensibleLength(static_cast<float>(2 * margin * halfHeight), height);
-        // As far away as a perspective would be, so that nothing of the box is behind the viewer.
-        focalDistance = sensibleLength(static_cast<float>(margin * distance), focalDistance);
-    }
+    height = sensibleLength(static_cast<float>(2 * margin * halfHeight), height);
+    // As far away as a perspective would be, so that nothing of the box is behind the viewer, not even a line that is
+    // seen from its end.
+    focalDistance = sensibleLength(static_cast<float>(margin * distance), focalDistance);
     placeAhead(center);
 }
 

@@ -314,6 +314,7 @@ void FileFlow::addToScene(const ReadScene& read, const QString& fileName)
     m_session.services().document().journal()->adopt(*read.journal);
     m_session.services().pushCommand(
         new AddNodeCommand(m_session.document().scene(), read.scene, m_session.disposal()));
+    Q_EMIT added(read.scene.get());
 }
 
 void FileFlow::endOpen(const Opened& opened, const orvane::Result<>& result)

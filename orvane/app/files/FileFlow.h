@@ -90,6 +90,8 @@ Q_SIGNALS:
     void aboutToReload();
     /// It is now. The text says so to the user.
     void reloaded(const QString& text);
+    /// The content of a file has been added to the open scene by `import`.
+    void added(NxNode* node);
     /// Something that the user should know of a file that was read, and that needs nothing to be done.
     void noted(const QString& text);
     /// The file can't be reloaded, or isn't because the scene has changes.

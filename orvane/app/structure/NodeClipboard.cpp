@@ -66,7 +66,13 @@ void NodeClipboard::cut(const meridane::NodeSet& nodes)
 
 void NodeClipboard::paste()
 {
-    if (const QMimeData* const data = QGuiApplication::clipboard()->mimeData(); data != nullptr)
+    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+    if (data == nullptr)
+        return;
+    // File managers copy files as text too.
+    if (data->hasUrls())
+        Q_EMIT filesPasted(*data);
+    else
         read(*data, std::nullopt);
 }
 

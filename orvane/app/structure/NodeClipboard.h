@@ -31,7 +31,7 @@ public:
     [[nodiscard]] orvane::Result<std::unique_ptr<QMimeData>> mimeData(const meridane::NodeSet& nodes) const;
     void copy(const meridane::NodeSet& nodes);
     void cut(const meridane::NodeSet& nodes);
-    /// Pastes copies into the group that is selected, or behind another node that is.
+    /// Pastes copies into the group that is selected, or behind another node that is. Files are left to others.
     void paste();
     /// The same for the nodes themselves, if they are still in the scene.
     void pasteShared();
@@ -41,6 +41,10 @@ public:
     [[nodiscard]] bool isOfThisScene(const QMimeData& data) const;
     /// Whether a text is being read.
     [[nodiscard]] bool isReading() const noexcept { return m_reading.has_value(); }
+
+Q_SIGNALS:
+    /// The clipboard holds files, not nodes.
+    void filesPasted(const QMimeData& data);
 
 protected:
     void timerEvent(QTimerEvent* event) override;

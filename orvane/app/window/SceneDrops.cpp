@@ -5,11 +5,14 @@
 #include "orvane/app/structure/NodeClipboard.h"
 #include "orvane/app/structure/NodeMimeData.h"
 #include "orvane/app/structure/TreeDrops.h"
+#include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/SceneView.h"
 
 #include <QDropEvent>
 #include <QMimeData>
+
+#include <span>
 
 SceneDrops::SceneDrops(
     Session& session, FileFlow& files, SceneTreePanel* tree, SceneView* view, NodeActions& nodes, MessageBar& messages)
@@ -25,6 +28,13 @@ SceneDrops::SceneDrops(
         [&messages](const QString& text) { messages.showMessage(MessageBar::Severity::Warning, text); });
     // The view learns of the nodes a moment later.
     connect(m_files, &FileDrops::added, view, &SceneView::frameSelection, Qt::QueuedConnection);
+    connect(&files, &FileFlow::added, this, [this, tree](NxNode* node) {
+        tree->select(tree->model()->indexOfPath(std::span(&node, 1)));
+        QMetaObject::invokeMethod(m_view, &SceneView::frameSelection, Qt::QueuedConnection);
+    });
+    connect(&nodes.clipboard(), &NodeClipboard::filesPasted, this, [this](const QMimeData& data) {
+        m_files->take(data, {std::nullopt, m_nodes.editor().spotForAdding()});
+    });
 }
 
 SceneDrops::~SceneDrops() = default;

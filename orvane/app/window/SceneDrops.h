@@ -12,7 +12,8 @@ class SceneTreePanel;
 class SceneView;
 class Session;
 
-/// What is dropped on tree and view. Nodes that are added are framed.
+/// What is dropped on tree and view, and files that are imported or pasted. Nodes that are added are selected and
+/// framed.
 class SceneDrops : public QObject {
     Q_OBJECT
 
