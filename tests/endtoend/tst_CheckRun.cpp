@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QtEndian>
 
 namespace {
 
@@ -46,6 +47,55 @@ private Q_SLOTS:
         QCOMPARE(outcome.errors, QByteArray());
         QCOMPARE(outcome.output, QByteArray());
         QCOMPARE(outcome.status, 0);
+    }
+
+    void imageFilesAreJudgedByTheirHeaders_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QByteArray>("line"); // without path and severity
+        const QByteArray png = "\x89PNG\r\n\x1a\n" + QByteArray("\0\0\0\rIHDR", 8);
+        const auto sized = [&png](quint32 width, quint32 height) {
+            QByteArray numbers(8, '\0');
+            qToBigEndian(width, numbers.data());
+            qToBigEndian(height, numbers.data() + 4);
+            return png + numbers + QByteArray(20, '\0');
+        };
+        const QByteArray jpeg = QByteArray("\xff\xd8\xff\xe0\x00\x04\x00\x00\xff\xff\xc2\x00\x11\x08", 14);
+        QTest::newRow("usable") << sized(640, 480) << QByteArray();
+        QTest::newRow("larger than GPUs take")
+            << sized(20000, 10)
+            << QByteArray(
+                   "image-too-large\tIts image of 20000 by 10 pixels is drawn smaller; the GPU takes 16384 a side.");
+        QTest::newRow("larger than is read")
+            << sized(16000, 16000)
+            << QByteArray(
+                   "unreadable-file\tThe file 'wood.png' has 16000 by 16000 pixels; images of more than 67108864 "
+                   "pixels, or 32767 a side, aren't read.");
+        QTest::newRow("without a size")
+            << png
+            << QByteArray("unreadable-file\tThe file 'wood.png' is broken: it doesn't state the size of its image.");
+        QTest::newRow("no image") << QByteArray("just a text")
+                                  << QByteArray("unreadable-file\tThe file 'wood.png' is in none of the image formats "
+                                                "that can be read.");
+        QTest::newRow("another format than its name says")
+            << jpeg + QByteArray("\x00\x10\x4e\x21\x03", 5)
+            << QByteArray(
+                   "image-too-large\tIts image of 20001 by 16 pixels is drawn smaller; the GPU takes 16384 a side.");
+    }
+
+    void imageFilesAreJudgedByTheirHeaders()
+    {
+        QFETCH(const QByteArray, bytes);
+        QFETCH(const QByteArray, line);
+        write(file, "#mrd 1.0\nTexture \"wood\" { filePath = \"wood.png\" }\nMesh \"arm\" { " + triangle + " }\n");
+        write(QStringLiteral("wood.png"), bytes);
+        const Outcome outcome = run({check, file});
+        QCOMPARE(outcome.errors, QByteArray());
+        if (line.isEmpty())
+            QCOMPARE(outcome.output, QByteArray());
+        else
+            QVERIFY2(outcome.output.startsWith("/wood.filePath\t") && outcome.output.endsWith(line + '\n'),
+                outcome.output.constData());
     }
 
     void warningsHaveStatusOne()
@@ -153,9 +203,9 @@ private Q_SLOTS:
     {
         QVERIFY(QDir(folder()).mkdir(QStringLiteral("sub")));
         write(QStringLiteral("sub/robot.mrd"), broken);
-        write(QStringLiteral("wood.png"), "x");
+        write(QStringLiteral("wood.png"), "P5 1 1 255 x");
         QVERIFY(run({check, QStringLiteral("sub/robot.mrd")}).output.contains("missing-file"));
-        write(QStringLiteral("sub/wood.png"), "x");
+        write(QStringLiteral("sub/wood.png"), "P5 1 1 255 x");
         QVERIFY(!run({check, QStringLiteral("sub/robot.mrd")}).output.contains("-file\t"));
         write(QStringLiteral("sub/wood.png"), "");
         QVERIFY(run({check, QStringLiteral("sub/robot.mrd")})

@@ -18,6 +18,9 @@ struct NxFileFinding {
     State state = State::Good;
     /// The end of a sentence that begins with the name of the file, such as "isn't a regular file".
     std::string reason;
+    /// The size in pixels of an image that is good; 0 if the caller doesn't know it.
+    int width = 0;
+    int height = 0;
 };
 
 /// Looks for the file of a path as the scene has it, which may be relative to the folder of the scene. `isImage` if the

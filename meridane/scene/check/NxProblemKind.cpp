@@ -32,6 +32,7 @@ constexpr std::array<ProblemClass, problemKindCount> classes{{
     {"image-too-large", warning, "an image larger than GPUs take", ""},
     {"camera-distances", error, "a camera whose far distance isn't greater than its near distance", ""},
     {"light-without-effect", warning, "a light that is on but dark", ""},
+    {"too-many-lights", warning, "a mesh, or a group with meshes, that more lights shine on than are drawn", ""},
     {"switch-index", warning, "the number of a child that a switch doesn't have", "Show no child"},
     {"duplicate-name", warning, "children of a group that have the same name", "Rename all but the first"},
     {"unused-material", warning, "a material that no mesh follows in its group", "Remove the material"},

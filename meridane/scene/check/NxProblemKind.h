@@ -36,6 +36,7 @@ enum class NxProblemKind : std::uint8_t {
     ImageTooLarge,
     CameraDistances,
     LightWithoutEffect,
+    TooManyLights,
     SwitchIndex,
     DuplicateName,
     UnusedMaterial,

@@ -49,6 +49,15 @@ std::string largeImageText(const ProblemFacts& problem)
         + number(problem.limit) + " a side";
 }
 
+std::string lightsText(const ProblemFacts& problem)
+{
+    const std::string limit = number(problem.limit);
+    if (problem.isShared)
+        return "more than " + limit + " lights shine on this and " + number(problem.count - 1)
+            + " more of its group; those behind the first " + limit + " are left out";
+    return number(problem.count) + " lights shine on it; those behind the first " + limit + " are left out";
+}
+
 std::string switchText(const ProblemFacts& problem)
 {
     return "it has no child of that number, so it shows none; it has " + number(problem.total)
@@ -134,6 +143,8 @@ std::string problemText(NxProblemKind kind, const ProblemFacts& problem)
         return "its far distance isn't greater than its near distance, so it sees nothing";
     case NxProblemKind::LightWithoutEffect:
         return "it is on, but " + std::string(problem.detail) + ", so it lights nothing";
+    case NxProblemKind::TooManyLights:
+        return lightsText(problem);
     case NxProblemKind::SwitchIndex:
         return switchText(problem);
     case NxProblemKind::DuplicateName:

@@ -32,14 +32,6 @@ QString realPathOf(int descriptor)
     return length <= 0 ? QString() : orvane::fromStdFileName({path.data(), static_cast<std::size_t>(length)});
 }
 
-/// Whether the kernel makes the contents of a file up when it is read.
-bool isMadeUp(int descriptor)
-{
-    struct statfs system { };
-    constexpr std::array<decltype(system.f_type), 4> kinds{PROC_SUPER_MAGIC, SYSFS_MAGIC, DEBUGFS_MAGIC, TRACEFS_MAGIC};
-    return ::fstatfs(descriptor, &system) != 0 || std::find(kinds.begin(), kinds.end(), system.f_type) != kinds.end();
-}
-
 } // namespace
 
 ImageFile::ImageFile(const QString& fileName, const ImageFolders& folders)
@@ -51,6 +43,13 @@ ImageFile::ImageFile(const QString& fileName, const ImageFolders& folders)
         refuse(path);
     else
         open(path, folders);
+}
+
+bool ImageFile::isMadeUp(int descriptor)
+{
+    struct statfs system { };
+    constexpr std::array<decltype(system.f_type), 4> kinds{PROC_SUPER_MAGIC, SYSFS_MAGIC, DEBUGFS_MAGIC, TRACEFS_MAGIC};
+    return ::fstatfs(descriptor, &system) != 0 || std::find(kinds.begin(), kinds.end(), system.f_type) != kinds.end();
 }
 
 ImageFile::~ImageFile()

@@ -17,6 +17,9 @@ public:
         Failed, ///< see `problem`
     };
 
+    /// Whether the kernel makes the contents of a file up when it is read.
+    [[nodiscard]] static bool isMadeUp(int descriptor);
+
     /// Opens the file.
     ImageFile(const QString& fileName, const ImageFolders& folders);
     ImageFile(const ImageFile&) = delete;

@@ -35,15 +35,15 @@ NxFileFinding FileSearch::find(const std::string& name, bool isImage)
     if (!m_folders.contain(path))
         return isImage ? NxFileFinding{State::Unreadable, "is in a folder that images aren't loaded from"}
                        : NxFileFinding();
-    const auto [known, isNew] = m_known.try_emplace(name, NxFileFinding{State::Unknown, {}});
+    const auto [known, isNew] = m_known.try_emplace({name, isImage}, NxFileFinding{State::Unknown, {}});
     if (isNew)
-        lookLater(name, path);
+        lookLater({name, path, isImage});
     return known->second;
 }
 
-void FileSearch::lookLater(const std::string& name, const QString& path)
+void FileSearch::lookLater(Question question)
 {
-    m_waiting.emplace_back(name, path);
+    m_waiting.push_back(std::move(question));
     if (!std::exchange(m_isLooking, true))
         QMetaObject::invokeMethod(this, &FileSearch::look, Qt::QueuedConnection);
 }
@@ -53,8 +53,8 @@ void FileSearch::look()
     m_thread.start([this, round = m_round, files = std::exchange(m_waiting, {})] {
         std::vector<Answer> answers;
         answers.reserve(files.size());
-        for (const auto& [name, path] : files)
-            answers.push_back({name, orvane::lookForFile(path)});
+        for (const auto& [name, path, isImage] : files)
+            answers.push_back({{name, isImage}, orvane::lookForFile(path, isImage)});
         // The destructor waits for this.
         QMetaObject::invokeMethod(
             this, [this, round, answers = std::move(answers)] { take(round, answers); }, Qt::QueuedConnection);
@@ -66,7 +66,7 @@ void FileSearch::take(int round, const std::vector<Answer>& answers)
     m_isLooking = false;
     if (round == m_round) {
         for (const Answer& answer : answers)
-            m_known[answer.name] = answer.finding;
+            m_known[answer.file] = answer.finding;
         Q_EMIT found();
     }
     if (!m_waiting.empty() && !std::exchange(m_isLooking, true))

@@ -9,8 +9,8 @@
 #include <QStringList>
 #include <QThreadPool>
 
+#include <map>
 #include <string>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -36,18 +36,25 @@ Q_SIGNALS:
     void found();
 
 private:
-    struct Answer {
+    /// The name in the scene, and whether it must be an image.
+    using File = std::pair<std::string, bool>;
+    struct Question {
         std::string name;
+        QString path;
+        bool isImage = false;
+    };
+    struct Answer {
+        File file;
         NxFileFinding finding;
     };
 
-    void lookLater(const std::string& name, const QString& path);
+    void lookLater(Question question);
     void look();
     void take(int round, const std::vector<Answer>& answers);
 
     ImageFolders m_folders;
-    std::unordered_map<std::string, NxFileFinding> m_known;
-    std::vector<std::pair<std::string, QString>> m_waiting; // names and paths
+    std::map<File, NxFileFinding> m_known;
+    std::vector<Question> m_waiting;
     int m_round = 0; // counts the restarts
     bool m_isLooking = false;
     QThreadPool m_thread;

@@ -120,6 +120,23 @@ private Q_SLOTS:
                 + mesh(triangle),
             {text("light-without-effect /a.intensity"), text("light-without-effect /b.color"),
                 text("light-without-effect /c.attenuation"), text("light-without-effect /d.cutOffAngle")});
+        const auto lamps = [](int count) {
+            std::string lights;
+            for (int i = 0; i < count; ++i)
+                lights += "PointLight {}\n";
+            return lights;
+        };
+        row("as many lights as are drawn", lamps(32) + mesh(triangle), {});
+        row("too many lights", lamps(33) + mesh(triangle), {text("too-many-lights /m (33)")});
+        row("too many lights from several groups",
+            lamps(20) + "Group \"a\" { " + lamps(10) + "Group \"b\" { " + lamps(10) + mesh(triangle) + "} }",
+            {text("too-many-lights /a (40)")});
+        row("too many lights in a group, and more above",
+            lamps(5) + "Group \"a\" { " + lamps(33) + mesh(triangle) + "}", {text("too-many-lights /a/m (33)")});
+        row("lights that shine on other things",
+            "Group \"a\" { " + lamps(20) + mesh(triangle) + "}\nGroup \"b\" { " + lamps(20) + mesh(triangle) + "}", {});
+        row("lights behind a mesh", lamps(20) + mesh(triangle) + lamps(20) + "Mesh \"n\" { " + triangle + "}",
+            {text("too-many-lights /n (40)")});
         row("switch index", "Switch \"s\" { whichChild = 1; " + mesh(triangle) + "}",
             {text("switch-index /s.whichChild")});
         row("switch none", "Switch \"s\" { whichChild = -1; " + mesh(triangle) + "}", {});

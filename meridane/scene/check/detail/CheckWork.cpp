@@ -17,6 +17,7 @@ constexpr std::size_t unitsOfNode = 32;
 CheckWork::CheckWork(NxGroup& scene, const NxCheckOptions& options)
     : m_scene(scene)
     , m_nodeCheck(options, m_plans)
+    , m_siblings(options.maxLights)
 {
     const std::uint32_t record = addRecord(scene);
     m_table.insert(&scene).group = record;
@@ -185,8 +186,7 @@ bool CheckWork::checkGroup(WorkMeter& meter)
         meter.count(1);
         return true;
     }
-    const auto uses = [this](NxNode& child, ClassPlan::Role& role) { return usesOf(child, role); };
-    if (m_siblings.step(meter, uses)) {
+    if (m_siblings.step(meter, [this](NxNode& child) { return factsOf(child); })) {
         m_groups.pop_back();
         finishSiblings(index);
     }
@@ -198,10 +198,12 @@ void CheckWork::finishSiblings(std::uint32_t index)
     GroupRecord& record = m_records[index];
     record.problems = m_lists.set(record.problems, m_siblings.take());
     const std::uint8_t uses = m_siblings.uses();
+    const std::size_t lights = m_siblings.lights();
     const NxNode* const group = record.group.get();
     m_siblings.stop();
     m_siblingRecord = NodeTable::none;
-    if (std::exchange(record.uses, uses) != uses)
+    const bool usesOthers = std::exchange(record.uses, uses) != uses;
+    if (std::exchange(record.lights, lights) != lights || usesOthers)
         queueParents(*group);
 }
 
@@ -284,20 +286,25 @@ void CheckWork::queue(std::uint32_t index)
         m_groups.push_back(index);
 }
 
-std::uint8_t CheckWork::usesOf(NxNode& child, ClassPlan::Role& role)
+SiblingFacts CheckWork::factsOf(NxNode& child)
 {
     using Role = ClassPlan::Role;
-    role = m_plans.of(child).role;
-    switch (role) {
+    SiblingFacts facts;
+    facts.role = m_plans.of(child).role;
+    switch (facts.role) {
     case Role::Mesh:
     case Role::Unknown:
     case Role::UnknownGroup:
-        return UsesAll;
+        facts.uses = UsesAll;
+        break;
     case Role::Group:
-    case Role::Switch: {
-        const NodeTable::Entry* const entry = m_table.find(&child);
-        return entry == nullptr || entry->group == NodeTable::none ? std::uint8_t{0} : m_records[entry->group].uses;
-    }
+    case Role::Switch:
+        if (const NodeTable::Entry* const entry = m_table.find(&child);
+            entry != nullptr && entry->group != NodeTable::none) {
+            facts.uses = m_records[entry->group].uses;
+            facts.lights = m_records[entry->group].lights;
+        }
+        break;
     case Role::Material:
     case Role::Texture:
     case Role::Complexity:
@@ -306,7 +313,7 @@ std::uint8_t CheckWork::usesOf(NxNode& child, ClassPlan::Role& role)
     case Role::Bystander:
         break;
     }
-    return 0;
+    return facts;
 }
 
 CheckWork::NodeLists CheckWork::listsOf(const NxNode& node) const noexcept

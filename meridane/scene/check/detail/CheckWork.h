@@ -59,6 +59,7 @@ private:
         NxRef<NxGroup> group; ///< null for a record that isn't used
         ClassPlan::Role role = ClassPlan::Role::Group;
         std::uint8_t uses = 0; ///< see UseBit
+        std::size_t lights = 0; ///< see SiblingCheck::lights
         bool needsLink = true; ///< it may have children that don't know it
         bool needsCheck = true;
         std::uint32_t problems = ProblemLists::none;
@@ -81,7 +82,7 @@ private:
     std::uint32_t addRecord(NxGroup& group);
     void queueParents(const NxNode& node);
     void queue(std::uint32_t record);
-    [[nodiscard]] std::uint8_t usesOf(NxNode& child, ClassPlan::Role& role);
+    [[nodiscard]] SiblingFacts factsOf(NxNode& child);
 
     NxGroup& m_scene;
     ClassPlans m_plans;

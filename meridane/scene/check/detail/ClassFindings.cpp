@@ -107,11 +107,16 @@ void checkTexture(NxTexture& texture, int maxSide, const Report& report)
     if (hasImage && (size[0] > maxSide || size[1] > maxSide)) {
         NxSceneProblem& problem = report(NxProblemKind::ImageTooLarge, &texture.image);
         problem.limit = static_cast<std::size_t>(maxSide);
-        problem.detail = std::to_string(size[0]) + " by " + std::to_string(size[1]);
+        problem.detail = imageSizeText(size[0], size[1]);
     }
 }
 
 } // namespace
+
+std::string imageSizeText(int width, int height)
+{
+    return std::to_string(width) + " by " + std::to_string(height);
+}
 
 bool hasOwnImage(const NxTexture& texture)
 {

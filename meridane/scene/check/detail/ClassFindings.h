@@ -24,6 +24,9 @@ using Report = std::function<NxSceneProblem&(NxProblemKind kind, NxField* field)
 /// Finds what only nodes of some classes can have: in transforms, cameras, lights, switches and textures.
 void findByClass(NxNode& node, ClassPlan::Role role, const NxCheckOptions& options, const Report& report);
 
+/// The size of an image, such as "640 by 480".
+[[nodiscard]] std::string imageSizeText(int width, int height);
+
 /// Whether the texture has an image of its own, so that its file isn't used.
 [[nodiscard]] bool hasOwnImage(const NxTexture& texture);
 

@@ -170,8 +170,17 @@ void NodeCheck::checkFiles()
         else if (finding.state == NxFileFinding::State::Unreadable)
             report(NxProblemKind::UnreadableFile, &field).detail
                 = std::string("'").append(excerpt(path, maxBytes)).append("' ").append(finding.reason);
+        else if (std::max(finding.width, finding.height) > m_options.maxImageSide)
+            reportLargeImage(field, finding);
         m_awaitsFile = m_awaitsFile || finding.state == NxFileFinding::State::Unknown;
     }
+}
+
+void NodeCheck::reportLargeImage(NxField& field, const NxFileFinding& finding)
+{
+    NxSceneProblem& problem = report(NxProblemKind::ImageTooLarge, &field);
+    problem.limit = static_cast<std::size_t>(m_options.maxImageSide);
+    problem.detail = imageSizeText(finding.width, finding.height);
 }
 
 void NodeCheck::checkByClass()

@@ -47,6 +47,7 @@ private:
     void checkNumber(const ClassPlan::Numbers& numbers, int row, double value);
     void reportNumbers(const ClassPlan::Numbers& numbers, NxField& field);
     void checkFiles();
+    void reportLargeImage(NxField& field, const NxFileFinding& finding);
     void checkByClass();
     NxSceneProblem& report(NxProblemKind kind, NxField* field = nullptr);
 

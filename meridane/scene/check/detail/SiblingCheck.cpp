@@ -51,6 +51,8 @@ void SiblingCheck::stop() noexcept
     m_seen = 0;
     m_waiting = {};
     m_lights.clear();
+    m_lightCount = 0;
+    m_mostLights = 0;
     // To free a million names takes longer than a slice.
     if (m_trash.empty())
         m_trash.swap(m_names);
@@ -83,11 +85,12 @@ bool SiblingCheck::isSpent(WorkMeter& meter)
     return meter.isSpent();
 }
 
-void SiblingCheck::visit(NxNode& child, Role role, std::uint8_t uses)
+void SiblingCheck::visit(NxNode& child, const SiblingFacts& facts)
 {
     noteName(child);
-    use(uses);
-    switch (role) {
+    use(facts.uses);
+    countLights(facts);
+    switch (facts.role) {
     case Role::Material:
         replaceWaiting(0, child);
         break;
@@ -99,10 +102,23 @@ void SiblingCheck::visit(NxNode& child, Role role, std::uint8_t uses)
         break;
     case Role::Light:
         m_lights.push_back({&child, static_cast<int>(m_next)});
+        ++m_lightCount;
         break;
     default:
         break;
     }
+}
+
+// Reported where the lights of the group make it too many, not again in the groups above.
+void SiblingCheck::countLights(const SiblingFacts& facts)
+{
+    const bool isDrawn = facts.role == Role::Mesh || facts.role == Role::Group || facts.role == Role::Switch;
+    if (!isDrawn || (facts.uses & UsesLight) == 0)
+        return;
+    const std::size_t lights = facts.lights + (m_isSwitch ? 0 : m_lightCount);
+    m_mostLights = std::max(m_mostLights, lights);
+    if (lights > m_maxLights && facts.lights <= m_maxLights)
+        report(NxProblemKind::TooManyLights, static_cast<int>(m_next), lights, {});
 }
 
 void SiblingCheck::noteName(NxNode& child)
@@ -164,7 +180,9 @@ void SiblingCheck::report(NxProblemKind kind, int place, std::size_t count, std:
     problem.count = count;
     problem.total = m_group->getChildren().size();
     problem.detail = excerpt(name, maxBytes);
-    problem.isMendable = true;
+    problem.isMendable = kind != NxProblemKind::TooManyLights;
+    if (kind == NxProblemKind::TooManyLights)
+        problem.limit = m_maxLights;
 }
 
 bool SiblingCheck::reportNames(WorkMeter& meter)

@@ -25,6 +25,13 @@ enum UseBit : std::uint8_t {
     UsesAll = 63,
 };
 
+/// What a check of a group needs to know of a child.
+struct SiblingFacts {
+    ClassPlan::Role role = ClassPlan::Role::Bystander;
+    std::uint8_t uses = 0; ///< see UseBit
+    std::size_t lights = 0; ///< of a group: see `SiblingCheck::lights`
+};
+
 /// Finds what is wrong among the children of one group, in slices: the same names, and what applies to nothing.
 ///
 /// The list of children and their names must not change between the slices; `start` again if they did.
@@ -33,15 +40,21 @@ public:
     /// So many children of a group are reported one by one for each kind of problem; the others are one problem.
     static constexpr std::size_t maxReports = 20;
 
+    /// At most `maxLights` lights that shine on a mesh are drawn.
+    explicit SiblingCheck(int maxLights) noexcept
+        : m_maxLights(static_cast<std::size_t>(maxLights))
+    {
+    }
+
     void start(NxGroup& group, ClassPlan::Role role);
     /// Forgets the group.
     void stop() noexcept;
     [[nodiscard]] NxGroup* group() const noexcept { return m_group.get(); }
 
-    /// Goes on with children as long as the meter allows. `usesOf` returns the `UseBit`s of a child, and its role in
-    /// the second argument. True when done; then the problems can be taken.
-    template <typename UsesOf>
-    bool step(WorkMeter& meter, UsesOf usesOf)
+    /// Goes on with children as long as the meter allows. `factsOf` returns the `SiblingFacts` of a child. True when
+    /// done; then the problems can be taken.
+    template <typename FactsOf>
+    bool step(WorkMeter& meter, FactsOf factsOf)
     {
         if (!emptyTrash(meter))
             return false;
@@ -50,14 +63,14 @@ public:
             if (isSpent(meter))
                 return false;
             NxNode& child = *children[m_next];
-            ClassPlan::Role role = ClassPlan::Role::Bystander;
-            const std::uint8_t uses = usesOf(child, role);
-            visit(child, role, uses);
+            visit(child, factsOf(child));
         }
         return reportNames(meter);
     }
     /// What the group uses of what precedes it.
     [[nodiscard]] std::uint8_t uses() const noexcept { return m_uses; }
+    /// The greatest number of lights of the group, and of groups in it, that shine on one of its meshes.
+    [[nodiscard]] std::size_t lights() const noexcept { return m_mostLights; }
     [[nodiscard]] std::vector<NxSceneProblem> take();
 
 private:
@@ -75,7 +88,8 @@ private:
     using Names = std::unordered_map<std::string_view, Namesakes>;
 
     static bool isSpent(WorkMeter& meter);
-    void visit(NxNode& child, ClassPlan::Role role, std::uint8_t uses);
+    void visit(NxNode& child, const SiblingFacts& facts);
+    void countLights(const SiblingFacts& facts);
     void noteName(NxNode& child);
     void use(std::uint8_t uses);
     void replaceWaiting(std::size_t kind, NxNode& child);
@@ -99,6 +113,9 @@ private:
     std::uint8_t m_seen = 0; // kinds of which the group has had one
     std::array<Waiting, 5> m_waiting; // by the number of their bit
     std::vector<Waiting> m_lights;
+    std::size_t m_maxLights;
+    std::size_t m_lightCount = 0; // of the group so far
+    std::size_t m_mostLights = 0;
     /// Several tables for a long list, so that none grows for longer than a slice.
     std::vector<Names> m_names;
     std::size_t m_reportedNames = 0; // tables of them
