@@ -1,6 +1,7 @@
 #include "orvane/extender/OrvProfile.h"
 
 #include "orvane/extender/OrvEditor.h"
+#include "orvane/extender/ReplacedEditors.h"
 #include "orvane/extender/VbText.h"
 #include "orvane/extender/detail/ProfileReader.h"
 
@@ -20,6 +21,31 @@ constexpr qint64 maximumFileSize = 1 << 20;
 bool runsByItself(const OrvExtension* extension)
 {
     return qobject_cast<const OrvEditor*>(extension) == nullptr;
+}
+
+/// Takes those out that others of the set replace.
+void removeReplaced(QSet<OrvExtension*>& controlled, const QList<OrvExtension*>& inOrder)
+{
+    QHash<const OrvExtension*, const OrvExtension*> replacedBy;
+    // An extension that is replaced itself still replaces others, but none that has led to its own replacement.
+    const auto mayReplace = [&](const OrvExtension* by, const OrvExtension* other) {
+        for (; by != nullptr; by = replacedBy.value(by)) {
+            if (by == other)
+                return false;
+        }
+        return true;
+    };
+    for (const OrvExtension* const extension : inOrder) {
+        if (!controlled.contains(const_cast<OrvExtension*>(extension)))
+            continue;
+        const QStringList names = orvane::replacedEditors(*extension);
+        for (OrvExtension* const other : inOrder) {
+            if (names.contains(orvane::toQString(other->getName())) && !replacedBy.contains(other)
+                && mayReplace(extension, other))
+                replacedBy.insert(other, extension);
+        }
+    }
+    controlled.removeIf([&](OrvExtension* extension) { return replacedBy.contains(extension); });
 }
 
 } // namespace
@@ -59,8 +85,11 @@ QStringList OrvProfile::resolve(const QList<OrvExtension*>& extensions)
     // An entry may apply to several extensions, and it may have many names.
     QHash<const Entry*, QSet<OrvExtension*>> controlledBy;
     for (const auto& [extension, entry] : std::as_const(running)) {
-        if (!controlledBy.contains(entry))
-            controlledBy.insert(entry, controlledExtensions(*entry, byName));
+        if (!controlledBy.contains(entry)) {
+            QSet<OrvExtension*> named = controlledExtensions(*entry, byName);
+            removeReplaced(named, extensions);
+            controlledBy.insert(entry, named);
+        }
         const QSet<OrvExtension*> controlled = controlledBy.value(entry);
         for (OrvExtension* const other : extensions) {
             if (other != extension && controlled.contains(other))

@@ -31,8 +31,9 @@ public:
     [[nodiscard]] VbString getName() const;
 
     /// Makes settings for these extensions from the names, and destroys the former settings. Only an extension that is
-    /// no `OrvEditor` runs by itself, and none controls itself. Returns the names in the profile that no extension has,
-    /// each once. For a profile that the manager keeps, only the manager may call it.
+    /// no `OrvEditor` runs by itself, and none controls itself. An extension that another controlled one replaces
+    /// (ReplacedEditors.h) isn't controlled; of two that replace each other, the first one is. Returns the names in the
+    /// profile that no extension has, each once. For a profile that the manager keeps, only the manager may call it.
     QStringList resolve(const QList<OrvExtension*>& extensions);
     /// The setting of an extension that runs by itself, or null if this profile doesn't run it.
     [[nodiscard]] OrvProfileSetting* getSetting(const OrvExtension* extension) const;

@@ -117,15 +117,15 @@ private Q_SLOTS:
     void aNodeClassOfAPluginIsDescribed()
     {
         const QStringList arguments{QStringLiteral("--plugin"), QStringLiteral(SAMPLE_PLUGIN),
-            QStringLiteral("--describe"), QStringLiteral("SampleMarker")};
+            QStringLiteral("--describe"), QStringLiteral("Compass")};
         const Outcome outcome = run(arguments);
         QCOMPARE(outcome.errors, QByteArray());
         QCOMPARE(outcome.status, 0);
-        QVERIFY2(outcome.output.startsWith("SampleMarker (Transform, Group, Node)\nA place that somebody"),
+        QVERIFY2(outcome.output.startsWith("Compass (Transform, Group, Node)\nA needle that points"),
             outcome.output.constData());
-        QVERIFY(outcome.output.contains("metres   at least 0, useful 0.1 to 10  How far from the marker"));
+        QVERIFY2(outcome.output.contains("0 to 360  Where the needle points."), outcome.output.constData());
         // Without the plug-in there is no such class.
-        QCOMPARE(run({QStringLiteral("--describe"), QStringLiteral("SampleMarker")}).status, 1);
+        QCOMPARE(run({QStringLiteral("--describe"), QStringLiteral("Compass")}).status, 1);
     }
 
     void anUnknownClassIsAnError()

@@ -48,8 +48,8 @@ private Q_SLOTS:
         const Outcome outcome = runWithSettings({QStringLiteral("--no-plugins"), QStringLiteral("--list-extensions"),
             QStringLiteral("--plugin"), QStringLiteral(SAMPLE_PLUGIN)});
         QCOMPARE(outcome.status, 0);
-        QCOMPARE(outcome.output.count('\n'), 1);
-        QVERIFY2(outcome.output.contains("Field Text"), outcome.output.constData());
+        QCOMPARE(outcome.output.count('\n'), 3);
+        QVERIFY2(outcome.output.contains("\tCompass Bar\t"), outcome.output.constData());
     }
 };
 

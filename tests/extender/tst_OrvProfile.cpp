@@ -1,6 +1,7 @@
 #include "extender/Recording.h"
 
 #include "orvane/extender/OrvProfile.h"
+#include "orvane/extender/ReplacedEditors.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -37,6 +38,50 @@ private Q_SLOTS:
         OrvProfile profile(u"P"_s, {{u"a"_s, true, {u"b"_s}}, {u"a"_s, false, {}}});
         profile.resolve(m_extensions);
         QCOMPARE(controlledBy(profile, m_a), u"b"_s);
+    }
+
+    void replacedEditorsAreLeftOut_data()
+    {
+        QTest::addColumn<QStringList>("byX");
+        QTest::addColumn<QStringList>("byY");
+        QTest::addColumn<QStringList>("controlled");
+        QTest::addColumn<QString>("a");
+
+        const QStringList x{u"x"_s};
+        const QStringList y{u"y"_s};
+        const QStringList all{u"*"_s};
+        QTest::newRow("one") << QStringList() << x << all << u"by"_s;
+        QTest::newRow("named in the profile") << QStringList() << x << QStringList{u"x"_s, u"y"_s} << u"y"_s;
+        QTest::newRow("by one that isn't controlled") << QStringList() << x << x << u"x"_s;
+        QTest::newRow("each other") << y << x << all << u"bx"_s;
+        QTest::newRow("itself") << x << QStringList() << all << u"bxy"_s;
+        QTest::newRow("one that isn't there") << QStringList{u"z"_s} << QStringList() << all << u"bxy"_s;
+    }
+    void replacedEditorsAreLeftOut()
+    {
+        QFETCH(QStringList, byX);
+        QFETCH(QStringList, byY);
+        QFETCH(QStringList, controlled);
+        QFETCH(QString, a);
+        orvane::setReplacedEditors(m_x, byX);
+        orvane::setReplacedEditors(m_y, byY);
+        OrvProfile profile(u"P"_s, {{u"a"_s, true, controlled}});
+        profile.resolve(m_extensions);
+        QCOMPARE(controlledBy(profile, m_a), a);
+        orvane::setReplacedEditors(m_x, {});
+        orvane::setReplacedEditors(m_y, {});
+    }
+
+    void anEditorThatIsReplacedItselfStillReplaces()
+    {
+        // y replaces x, and x the dock b.
+        orvane::setReplacedEditors(m_x, {u"b"_s});
+        orvane::setReplacedEditors(m_y, {u"x"_s});
+        OrvProfile profile(u"P"_s, {{u"a"_s, true, {u"*"_s}}});
+        profile.resolve(m_extensions);
+        QCOMPARE(controlledBy(profile, m_a), u"y"_s);
+        orvane::setReplacedEditors(m_x, {});
+        orvane::setReplacedEditors(m_y, {});
     }
 
     void aFileThatCannotBeReadIsReported()

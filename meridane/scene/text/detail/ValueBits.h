@@ -15,10 +15,13 @@ namespace meridane {
 template <typename Value>
 bool isSameValue(const Value& left, const Value& right)
 {
-    // None of the value types has padding, so that comparing bytes compares values.
-    static_assert(std::is_trivially_copyable_v<Value>);
-    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): floats are meant to be compared by their bits
-    return std::memcmp(&left, &right, sizeof(Value)) == 0;
+    if constexpr (std::is_trivially_copyable_v<Value>) {
+        // None of the value types has padding, so that comparing bytes compares values.
+        // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): floats are meant to be compared by their bits
+        return std::memcmp(&left, &right, sizeof(Value)) == 0;
+    } else {
+        return left == right; // a type of a plug-in
+    }
 }
 inline bool isSameValue(const VbString& left, const VbString& right)
 {
