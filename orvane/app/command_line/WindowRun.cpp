@@ -3,12 +3,12 @@
 #include "orvane/app/base/SearchFolders.h"
 #include "orvane/app/command_line/BatchRun.h"
 #include "orvane/app/command_line/FieldAccess.h"
-#include "orvane/app/command_line/PictureFile.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/recovery/RecoveryFolder.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/scene/SetFieldCommand.h"
+#include "orvane/app/view/picture/PictureFile.h"
 #include "orvane/app/window/MainWindow.h"
 
 #include "meridane/base/NxDelayQueue.h"

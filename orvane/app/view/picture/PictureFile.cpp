@@ -1,4 +1,4 @@
-#include "orvane/app/command_line/PictureFile.h"
+#include "orvane/app/view/picture/PictureFile.h"
 
 #include "meridane/base/Files.h"
 
