@@ -21,8 +21,9 @@
 
 namespace {
 
-// Without letters: what was used last, then files, then the scene from its beginning.
+// Without letters: what was used last, then bookmarks, then files, then the scene from its beginning.
 constexpr int usedScore = 10'000;
+constexpr int bookmarksScore = 7'000;
 constexpr int filesScore = 5'000;
 /// To look through a camera is less likely than to go to it.
 constexpr int cameraLoss = 4;
@@ -61,7 +62,7 @@ GoToSource::~GoToSource() = default;
 
 PickerSource::Texts GoToSource::texts() const
 {
-    return {tr("Go to"), tr("Letters of a node, camera or file; parent/node, node.field"),
+    return {tr("Go to"), tr("Letters of a node, camera, bookmark or file; parent/node, node.field"),
         m_document.isOpen() ? tr("Nothing in the scene has these letters in this order, and no recent file.")
                             : tr("No scene is open, and no recent file has these letters in this order.")};
 }
@@ -174,6 +175,17 @@ void GoToSource::addFiles()
     }
 }
 
+void GoToSource::addBookmarks()
+{
+    const orvane::LetterMatch letters(m_text);
+    const QStringList names = m_bookmarks ? m_bookmarks() : QStringList();
+    for (int number = 0; number < names.size(); ++number) {
+        if (const auto score = letters.score(names[number]))
+            m_choices.push_back({Kind::Bookmark, letters.isEmpty() ? bookmarksScore - number : *score, {},
+                names[number], 0, static_cast<std::size_t>(number)});
+    }
+}
+
 void GoToSource::addHits()
 {
     for (const PlaceSearch::Hit& hit : m_search.hits()) {
@@ -195,6 +207,7 @@ QList<PickerItem> GoToSource::items()
     if (m_text.isEmpty())
         addUsed();
     addFiles();
+    addBookmarks();
     addHits();
     std::ranges::stable_sort(
         m_choices, [](const Choice& left, const Choice& right) { return left.score > right.score; });
@@ -203,9 +216,14 @@ QList<PickerItem> GoToSource::items()
         const void* const thing = choice.hit.field != nullptr ? static_cast<const void*>(choice.hit.field)
             : !choice.hit.path.empty()                        ? choice.hit.path.back()
                                                               : nullptr;
-        choice.id = thing != nullptr ? idOf(thing, std::hash<const void*>()(choice.hit.path.front()) + choice.hit.order,
-                        static_cast<quint64>(choice.kind))
-                                     : qHash(choice.fileName) * 4 + 4;
+        // Those of places are 1 and 2 more than a multiple of four, those of files multiples.
+        if (choice.kind == Kind::Bookmark)
+            choice.id = quint64{choice.number} * 4 + 3;
+        else
+            choice.id = thing != nullptr
+                ? idOf(thing, std::hash<const void*>()(choice.hit.path.front()) + choice.hit.order,
+                    static_cast<quint64>(choice.kind))
+                : qHash(choice.fileName) * 4 + 4;
         items.append(itemOf(choice));
     }
     return items;
@@ -213,6 +231,9 @@ QList<PickerItem> GoToSource::items()
 
 PickerItem GoToSource::itemOf(const Choice& choice) const
 {
+    if (choice.kind == Kind::Bookmark)
+        return {choice.id, orvane::nodeIcon(NxCamera::getClassTypeId()), choice.fileName,
+            orvane::LetterMatch(m_text).places(choice.fileName), tr("Bookmark of the view"), {}, {}};
     if (choice.kind != Kind::File)
         return placeItem(choice);
     const QFileInfo info(choice.fileName);
@@ -261,6 +282,8 @@ void GoToSource::choose(quint64 id)
     end();
     if (choice.kind == Kind::File)
         Q_EMIT opened(choice.fileName);
+    else if (choice.kind == Kind::Bookmark)
+        Q_EMIT bookmarkChosen(choice.number);
     else if (choice.kind == Kind::Camera)
         Q_EMIT lookedThrough(choice.hit.path);
     else

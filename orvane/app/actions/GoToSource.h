@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 class AppSettings;
@@ -17,8 +18,8 @@ class OrvServices;
 class RecentFiles;
 class SceneDocument;
 
-/// The nodes, fields and cameras of the open scene, and the files that were opened last: the user goes to one by some
-/// letters of it.
+/// The nodes, fields, cameras and bookmarks of the open scene, and the files that were opened last: the user goes to
+/// one by some letters of it.
 class GoToSource : public PickerSource {
     Q_OBJECT
 
@@ -27,6 +28,9 @@ public:
     GoToSource(OrvServices& services, SceneDocument& document, const RecentFiles& recent, AppSettings& settings,
         QObject* parent, meridane::WorkBudget::Clock clock = &std::chrono::steady_clock::now);
     ~GoToSource() override;
+
+    /// Lets the user go to bookmarks of the view, too, whose names the function returns.
+    void setBookmarks(std::function<QStringList()> names) { m_bookmarks = std::move(names); }
 
     [[nodiscard]] Texts texts() const override;
     void search(const QString& text) override;
@@ -41,20 +45,24 @@ Q_SIGNALS:
     void wentTo(const std::vector<NxNode*>& path, NxField* field);
     /// The user looks through a camera.
     void lookedThrough(const std::vector<NxNode*>& camera);
+    /// The user looks from where a bookmark was set.
+    void bookmarkChosen(std::size_t number);
     /// The user opens a file.
     void opened(const QString& fileName);
 
 private:
-    enum class Kind { Place, Camera, File };
+    enum class Kind { Place, Camera, File, Bookmark };
     struct Choice {
         Kind kind = Kind::Place;
         int score = 0;
         PlaceSearch::Hit hit;
-        QString fileName;
+        QString fileName; ///< or the name of a bookmark
         quint64 id = 0;
+        std::size_t number = 0; ///< of a bookmark
     };
 
     void addFiles();
+    void addBookmarks();
     void addUsed();
     void addHits();
     [[nodiscard]] PickerItem itemOf(const Choice& choice) const;
@@ -71,6 +79,7 @@ private:
     const RecentFiles& m_recent;
     UseCounts m_uses;
     PlaceSearch m_search;
+    std::function<QStringList()> m_bookmarks;
     QString m_text;
     QStringList m_unfound; ///< names of places that the user has gone to, not yet looked up
     bool m_isSearching = false;

@@ -12,6 +12,7 @@
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/CameraMenu.h"
+#include "orvane/app/view/navigation/SceneBookmarks.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -49,8 +50,9 @@ WindowActions::WindowActions(QMainWindow* window, Session& session, const Parts&
           {QKeySequence(QKeySequence::HelpContents), QKeySequence(Qt::CTRL | Qt::Key_K, Qt::CTRL | Qt::Key_S)}))
     , m_keys(window, session.settings())
 {
-    QAction* const places = add("go.to", tr("&Go To…"),
-        tr("Goes to a node, field, camera or file by some letters of it"), {QKeySequence(Qt::CTRL | Qt::Key_P)});
+    QAction* const places
+        = add("go.to", tr("&Go To…"), tr("Goes to a node, field, camera, bookmark or file by some letters of it"),
+            {QKeySequence(Qt::CTRL | Qt::Key_P)});
     QAction* const palette = add("go.palette", tr("&Command Palette…"), tr("Runs any action by some letters of it"),
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P)});
     QMenu* const menu = window->menuBar()->addMenu(tr("&Go"));
@@ -61,6 +63,13 @@ WindowActions::WindowActions(QMainWindow* window, Session& session, const Parts&
     connect(m_showKeys, &QAction::triggered, this, &WindowActions::showKeys);
     connect(&m_places, &GoToSource::wentTo, this, &WindowActions::goTo);
     connect(&m_places, &GoToSource::lookedThrough, &parts.cameras, &CameraMenu::follow);
+    m_places.setBookmarks([this] {
+        QStringList names;
+        for (const ViewBookmark& bookmark : m_parts.bookmarks.list())
+            names.append(bookmark.name);
+        return names;
+    });
+    connect(&m_places, &GoToSource::bookmarkChosen, &parts.bookmarks, &SceneBookmarks::goTo);
     connect(&m_places, &GoToSource::opened, &parts.files,
         [this](const QString& fileName) { m_parts.files.open(fileName); });
     QAction* const menuOfSelection = add("window.contextMenu", tr("Context Menu"),

@@ -12,6 +12,7 @@ class FileFlow;
 class Inspectors;
 class PickerPopup;
 class QAction;
+class SceneBookmarks;
 class SceneTreePanel;
 class Session;
 
@@ -28,6 +29,7 @@ public:
         FileFlow& files;
         const RecentFiles& recent;
         CameraMenu& cameras;
+        SceneBookmarks& bookmarks;
     };
 
     /// The window is the parent.

@@ -5,6 +5,7 @@
 #include "orvane/app/command_line/DifferenceListing.h"
 #include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/FoundPlaces.h"
+#include "orvane/app/command_line/PictureRun.h"
 #include "orvane/app/command_line/ProblemListing.h"
 #include "orvane/app/command_line/SceneListing.h"
 #include "orvane/app/command_line/StandardOutput.h"
@@ -129,6 +130,8 @@ Result<> BatchRun::runScene()
         return describeClasses();
     if (m_commandLine.file.isEmpty())
         return {};
+    if (auto usable = orvane::checkPicture(m_commandLine); !usable)
+        return usable;
     const auto opened = open(m_commandLine.file);
     if (!opened)
         return Failure{opened.error()};
@@ -186,7 +189,7 @@ Result<> BatchRun::writeOutput(const NxRef<NxGroup>& scene)
         if (!written)
             return written;
     }
-    return {};
+    return m_commandLine.pictureFile.isEmpty() ? Result<>() : orvane::writePicture(scene.get(), m_commandLine);
 }
 
 Result<> BatchRun::writeDifferences(const NxRef<NxGroup>& scene)

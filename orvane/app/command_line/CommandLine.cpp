@@ -1,7 +1,9 @@
 #include "orvane/app/command_line/CommandLine.h"
 
 #include "orvane/app/command_line/FoundPlaces.h"
+#include "orvane/app/view/picture/ScenePicture.h"
 
+#include <QColor>
 #include <QCommandLineParser>
 #include <QRegularExpression>
 
@@ -61,8 +63,21 @@ struct Options {
     QCommandLineOption screenshot{QStringLiteral("screenshot"),
         QStringLiteral("Write a picture of the window, once it has settled, and quit; needs no display."),
         QStringLiteral("FILE")};
+    QCommandLineOption picture{QStringLiteral("picture"),
+        QStringLiteral("Write a picture of the scene alone; needs no display. 1920x1080 unless --size is given."),
+        QStringLiteral("FILE")};
+    QCommandLineOption camera{QStringLiteral("camera"),
+        QStringLiteral("Where --picture looks from: the path of a camera, such as /camera, or the name of a bookmark; "
+                       "otherwise all of the scene is in view."),
+        QStringLiteral("PATH")};
+    QCommandLineOption background{QStringLiteral("background"),
+        QStringLiteral("The background of --picture: a color, such as white or #203040, or transparent, which it is "
+                       "otherwise where the format allows it; else it is white."),
+        QStringLiteral("COLOR")};
     QCommandLineOption size{QStringLiteral("size"),
-        QStringLiteral("Size of the window in pixels, %1.").arg(sizeLimits()), QStringLiteral("WxH")};
+        QStringLiteral("Size of the window in pixels, %1; or that of --picture, %2.")
+            .arg(sizeLimits(), ScenePicture::sizeLimits()),
+        QStringLiteral("WxH")};
     QCommandLineOption watch{QStringLiteral("watch"),
         QStringLiteral(
             "Reload the file by itself when it changes on disk, while the scene has no changes of your own.")};
@@ -77,7 +92,8 @@ struct Options {
     void addTo(QCommandLineParser& parser) const
     {
         parser.addOptions({plugin, profile, select, set, get, find, list, diff, describe, check, json, listExtensions,
-            exportTo, screenshot, size, watch, keepGroups, noPlugins, noSettings, version, help});
+            exportTo, screenshot, picture, camera, background, size, watch, keepGroups, noPlugins, noSettings, version,
+            help});
         parser.addPositionalArgument(QStringLiteral("file"),
             QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
         parser.addPositionalArgument(
@@ -106,7 +122,7 @@ Result<CommandLine::Assignment> parseAssignment(const QString& argument)
     return Failure{QStringLiteral("--set expects PATH=TEXT, not '%1'.").arg(argument)};
 }
 
-Result<QSize> parseSize(const QString& argument)
+Result<QSize> parseSize(const QString& argument, bool isOfPicture)
 {
     QSize size;
     static const QRegularExpression pattern(QStringLiteral("^([0-9]{1,9})x([0-9]{1,9})$"));
@@ -115,8 +131,9 @@ Result<QSize> parseSize(const QString& argument)
         size = QSize(match.captured(1).toInt(), match.captured(2).toInt());
     if (size.isEmpty())
         return Failure{QStringLiteral("--size expects WxH, such as 1280x800, not '%1'.").arg(argument)};
-    if (!CommandLine::isUsableSize(size))
-        return Failure{QStringLiteral("--size %1 is too large: %2.").arg(argument, sizeLimits())};
+    if (!(isOfPicture ? ScenePicture::isUsableSize(size) : CommandLine::isUsableSize(size)))
+        return Failure{QStringLiteral("--size %1 is too large: %2.")
+                           .arg(argument, isOfPicture ? ScenePicture::sizeLimits() : sizeLimits())};
     return size;
 }
 
@@ -139,9 +156,9 @@ Result<> checkFiles(const QStringList& files, bool diff)
 
 Result<> checkDescribe(const QCommandLineParser& parser, const Options& options)
 {
-    for (const QCommandLineOption& option :
-        {options.select, options.set, options.get, options.find, options.list, options.diff, options.check,
-            options.listExtensions, options.exportTo, options.screenshot, options.size, options.watch}) {
+    for (const QCommandLineOption& option : {options.select, options.set, options.get, options.find, options.list,
+             options.diff, options.check, options.listExtensions, options.exportTo, options.screenshot, options.picture,
+             options.size, options.watch}) {
         if (parser.isSet(option))
             return Failure{
                 QStringLiteral("--describe opens no scene, so it can't be used with %1.").arg(nameOf(option))};
@@ -156,7 +173,7 @@ Result<> checkWatch(const QCommandLineParser& parser, const Options& options)
     if (!parser.isSet(options.watch))
         return {};
     for (const QCommandLineOption& option : {options.get, options.find, options.list, options.diff, options.check,
-             options.listExtensions, options.exportTo, options.screenshot}) {
+             options.listExtensions, options.exportTo, options.screenshot, options.picture}) {
         if (parser.isSet(option))
             return Failure{QStringLiteral("--watch needs a window that stays open, so it can't be used with %1.")
                                .arg(nameOf(option))};
@@ -166,27 +183,50 @@ Result<> checkWatch(const QCommandLineParser& parser, const Options& options)
     return {};
 }
 
+Result<> checkPictureUse(const QCommandLineParser& parser, const Options& options)
+{
+    if (!parser.isSet(options.picture)) {
+        for (const QCommandLineOption& option : {options.camera, options.background}) {
+            if (parser.isSet(option))
+                return Failure{QStringLiteral("%1 is for --picture alone.").arg(nameOf(option))};
+        }
+        return {};
+    }
+    if (parser.isSet(options.screenshot))
+        return Failure{
+            QStringLiteral("--picture and --screenshot can't be used together: --size would mean either of them.")};
+    if (const QString color = parser.value(options.background);
+        parser.isSet(options.background) && !QColor::isValidColor(color))
+        return Failure{QStringLiteral("--background expects a color, such as white, #203040 or transparent, not '%1'.")
+                           .arg(color)};
+    return {};
+}
+
 // Refuses what the parser accepts although it would be ignored, or mistaken for an option that wasn't given.
 Result<> checkUse(const QCommandLineParser& parser, const Options& options)
 {
-    for (const QCommandLineOption& option : {options.plugin, options.profile, options.select, options.set, options.get,
-             options.find, options.exportTo, options.screenshot, options.size}) {
+    for (const QCommandLineOption& option :
+        {options.plugin, options.profile, options.select, options.set, options.get, options.find, options.exportTo,
+            options.screenshot, options.picture, options.camera, options.background, options.size}) {
         if (parser.values(option).contains(QString()))
             return Failure{QStringLiteral("%1 expects %2, not an empty text.").arg(nameOf(option), option.valueName())};
     }
     // Names of files may be any bytes.
     for (const QCommandLineOption& option :
-        {options.plugin, options.profile, options.select, options.set, options.get, options.find}) {
+        {options.plugin, options.profile, options.select, options.set, options.get, options.find, options.camera}) {
         const QStringList values = parser.values(option);
         if (!std::all_of(values.begin(), values.end(), [](const QString& value) { return value.isValidUtf16(); }))
             return Failure{QStringLiteral("%1 expects UTF-8.").arg(nameOf(option))};
     }
-    for (const QCommandLineOption& option : {options.profile, options.select, options.screenshot, options.size}) {
+    for (const QCommandLineOption& option : {options.profile, options.select, options.screenshot, options.picture,
+             options.camera, options.background, options.size}) {
         if (parser.values(option).size() > 1)
             return Failure{QStringLiteral("%1 can be given once only.").arg(nameOf(option))};
     }
     if (auto watch = checkWatch(parser, options); !watch)
         return watch;
+    if (auto picture = checkPictureUse(parser, options); !picture)
+        return picture;
     if (parser.isSet(options.diff) && parser.isSet(options.check))
         return Failure{
             QStringLiteral("--diff and --check can't be used together: each has an exit status of its own.")};
@@ -214,6 +254,9 @@ void takeValues(const QCommandLineParser& parser, const Options& options, Comman
     result.searches = parser.values(options.find);
     result.exportFiles = parser.values(options.exportTo);
     result.screenshotFile = parser.value(options.screenshot);
+    result.pictureFile = parser.value(options.picture);
+    result.camera = parser.value(options.camera);
+    result.background = parser.value(options.background);
     result.list = parser.isSet(options.list);
     result.diff = parser.isSet(options.diff);
     result.check = parser.isSet(options.check);
@@ -235,7 +278,7 @@ int CommandLine::failureStatus() const noexcept
 bool CommandLine::isBatch() const
 {
     const bool asksForOutput = describe || list || diff || check || listExtensions || !queries.isEmpty()
-        || !searches.isEmpty() || !exportFiles.isEmpty();
+        || !searches.isEmpty() || !exportFiles.isEmpty() || !pictureFile.isEmpty();
     return asksForOutput && screenshotFile.isEmpty();
 }
 
@@ -278,17 +321,18 @@ Result<CommandLine> CommandLine::parse(const QStringList& arguments)
             return Failure{query.error()};
     }
     if (parser.isSet(options.size)) {
-        const auto size = parseSize(parser.value(options.size));
+        const auto size = parseSize(parser.value(options.size), !result.pictureFile.isEmpty());
         if (!size)
             return Failure{size.error()};
         result.size = size.value();
     }
 
     const bool needsScene = result.list || result.check || !result.queries.isEmpty() || !result.searches.isEmpty()
-        || !result.assignments.isEmpty() || !result.select.isEmpty() || !result.exportFiles.isEmpty();
+        || !result.assignments.isEmpty() || !result.select.isEmpty() || !result.exportFiles.isEmpty()
+        || !result.pictureFile.isEmpty();
     if (needsScene && result.file.isEmpty())
         return Failure{QStringLiteral(
-            "A file is missing: --get, --set, --find, --list, --check, --select and --export work on one.")};
+            "A file is missing: --get, --set, --find, --list, --check, --select, --export and --picture work on one.")};
     return result;
 }
 

@@ -33,7 +33,10 @@ struct CommandLine {
     QStringList searches;
     QStringList exportFiles;
     QString screenshotFile;
-    QSize size;
+    QString pictureFile;
+    QString camera; // only with `pictureFile`: the path of a camera, or a bookmark
+    QString background; // only with `pictureFile`: the name of a color
+    QSize size; // of the picture or the window
     bool list = false;
     bool diff = false;
     bool check = false;

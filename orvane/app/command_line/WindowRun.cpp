@@ -3,6 +3,7 @@
 #include "orvane/app/base/SearchFolders.h"
 #include "orvane/app/command_line/BatchRun.h"
 #include "orvane/app/command_line/FieldAccess.h"
+#include "orvane/app/command_line/PictureRun.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/recovery/RecoveryFolder.h"
 #include "orvane/app/scene/SceneDocument.h"
@@ -42,12 +43,7 @@ int WindowRun::run()
     if (m_commandLine.size.isValid())
         window.resize(m_commandLine.size);
     if (takesPicture())
-        connect(&window, &MainWindow::imageFolderRefused, this, [](const QString& folder) {
-            orvane::printError(
-                tr("%1: The scene refers to images in this folder, outside its own. They aren't loaded; open the scene "
-                   "in a window to allow it.")
-                    .arg(folder));
-        });
+        connect(&window, &MainWindow::imageFolderRefused, this, &orvane::printRefusedFolder);
     window.setReloadsByItself(m_commandLine.watch);
     showSoon(window);
     QTimer::singleShot(0, &window, [this, &session, &window] { start(session, window); });
@@ -183,5 +179,5 @@ Result<> WindowRun::writeAll(Session& session, MainWindow& window)
         picture = window.grab();
         // The view may have been drawn just now for the first time, and have asked for its images.
     } while (window.isLoadingImages());
-    return orvane::writePicture(picture, m_commandLine.screenshotFile);
+    return orvane::writePicture(picture.toImage(), m_commandLine.screenshotFile);
 }

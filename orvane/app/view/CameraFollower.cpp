@@ -37,10 +37,18 @@ void CameraFollower::changed(void* follower, NxSensor* /*sensor*/)
     static_cast<const CameraFollower*>(follower)->look();
 }
 
-void CameraFollower::look() const
+NxViewpoint CameraFollower::viewpointOf(const std::vector<NxNode*>& nodes)
 {
     meridane::Matrix4d cameraToScene;
-    for (const NxRef<NxNode>& node : m_nodes)
+    for (const NxNode* const node : nodes)
         cameraToScene = meridane::multiply(meridane::localTransformOf(*node), cameraToScene);
-    m_look(NxViewpoint::ofCamera(*camera(), cameraToScene));
+    return NxViewpoint::ofCamera(dynamic_cast<const NxCamera&>(*nodes.back()), cameraToScene);
+}
+
+void CameraFollower::look() const
+{
+    std::vector<NxNode*> nodes;
+    for (const NxRef<NxNode>& node : m_nodes)
+        nodes.push_back(node.get());
+    m_look(viewpointOf(nodes));
 }

@@ -20,6 +20,9 @@ public:
 
     explicit CameraFollower(Look look);
 
+    /// What the camera sees that these nodes lead to, each a child of the one before.
+    [[nodiscard]] static NxViewpoint viewpointOf(const std::vector<NxNode*>& nodes);
+
     /// Looks through the last of these nodes, each a child of the one before; does nothing if it is no camera.
     void follow(const std::vector<NxNode*>& nodes);
     void stop();

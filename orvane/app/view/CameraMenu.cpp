@@ -27,7 +27,10 @@ CameraMenu::CameraMenu(SceneView* view, SceneDocument& document)
 {
     m_menu->setObjectName(QStringLiteral("cameraMenu"));
     connect(view, &SceneView::moved, this, [this] { m_follower.stop(); });
-    connect(&document, &SceneDocument::sceneAboutToChange, this, [this] { m_follower.stop(); });
+    connect(&document, &SceneDocument::sceneAboutToChange, this, [this] {
+        m_follower.stop();
+        m_latest.clear();
+    });
 }
 
 CameraMenu::~CameraMenu() = default;
@@ -59,6 +62,21 @@ QMenu* CameraMenu::update()
 void CameraMenu::follow(const std::vector<NxNode*>& camera)
 {
     m_follower.follow(camera);
+    m_latest.assign(camera.begin(), camera.end());
+    Q_EMIT lookedThrough();
+}
+
+std::vector<NxNode*> CameraMenu::latest() const
+{
+    const NxGroup* group = m_document.isOpen() ? m_document.scene() : nullptr;
+    std::vector<NxNode*> path;
+    for (const NxRef<NxNode>& node : m_latest) {
+        if (group == nullptr || group->findChild(node.get()) < 0) // removed, or moved
+            return {};
+        path.push_back(node.get());
+        group = dynamic_cast<const NxGroup*>(node.get());
+    }
+    return path;
 }
 
 void CameraMenu::choose(int index)
@@ -66,7 +84,7 @@ void CameraMenu::choose(int index)
     // The scene may have changed since the menu was made.
     const auto all = cameras();
     if (index >= 0 && static_cast<std::size_t>(index) < all.size())
-        m_follower.follow(all[static_cast<std::size_t>(index)]);
+        follow(all[static_cast<std::size_t>(index)]);
     else
         m_follower.stop();
 }

@@ -2,12 +2,14 @@
 
 #include "orvane/app/view/CameraFollower.h"
 
+#include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/nodes/NxNode.h"
+
 #include <QObject>
 
 #include <vector>
 
 class NxGroup;
-class NxNode;
 class QMenu;
 class SceneDocument;
 class SceneView;
@@ -27,13 +29,21 @@ public:
     [[nodiscard]] QMenu* update();
     /// Looks through the camera that the path leads to, and follows it.
     void follow(const std::vector<NxNode*>& camera);
+    /// The nodes that lead to the camera that was looked through last; empty if there is none any more.
+    [[nodiscard]] std::vector<NxNode*> latest() const;
+    /// The cameras of the scene, each as the nodes that lead to it; the first ones of many.
+    [[nodiscard]] std::vector<std::vector<NxNode*>> cameras() const;
+
+Q_SIGNALS:
+    /// The view looks through another camera.
+    void lookedThrough();
 
 private:
     void choose(int index);
-    [[nodiscard]] std::vector<std::vector<NxNode*>> cameras() const;
 
     SceneView* m_view;
     SceneDocument& m_document;
     CameraFollower m_follower;
+    std::vector<NxRef<NxNode>> m_latest;
     QMenu* m_menu;
 };

@@ -40,6 +40,7 @@
 #include "orvane/app/view/marks/MarkedRows.h"
 #include "orvane/app/view/measure/MeasureTool.h"
 #include "orvane/app/view/navigation/NavigationActions.h"
+#include "orvane/app/view/picture/PictureExport.h"
 #include "orvane/app/window/CentralArea.h"
 #include "orvane/app/window/ComparisonDock.h"
 #include "orvane/app/window/DiskChangeBar.h"
@@ -244,10 +245,12 @@ void MainWindow::buildMenus()
     new ReturnedNodes(m_session.services(), *findChild<StepTravel*>(), m_tree, editMenu->nodes().editor().selections());
     auto* cameras = new CameraMenu(m_view, document());
     auto* viewMenu = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), cameras);
+    auto* navigation
+        = new NavigationActions(m_view, m_session, m_tree, editMenu->nodes().editor(), *cameras, statusBar());
     auto* hiding = new HidingActions(m_view, m_tree, statusBar());
     new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodeActions() + hiding->nodeActions());
-    const auto* actions
-        = new WindowActions(this, m_session, {m_tree, m_fields, *m_inspectors, *m_files, *m_recent, *cameras});
+    const auto* actions = new WindowActions(
+        this, m_session, {m_tree, m_fields, *m_inspectors, *m_files, *m_recent, *cameras, navigation->bookmarks()});
     const auto* const help = new HelpMenu(this, *m_shell, actions->keysAction());
     new PluginActions(m_session.pluginLoader(), *m_messages, help->menu(), this);
     new EditorManners(this, m_session.services(), m_fields);
@@ -259,13 +262,14 @@ void MainWindow::buildMenus()
     toolBar->addSeparator();
     toolBar->addActions(editMenu->toolBarActions());
     m_inspectors->addToolBar();
-    const auto* const navigation = new NavigationActions(m_view, m_session.settings(), statusBar());
     viewMenu->append((new ViewHandles(m_session, m_view, m_tree))->menuActions());
     viewMenu->append(hiding->actions() + (new TreeActions(m_tree, statusBar()))->menuActions());
     viewMenu->append(m_inspectors->menuActions());
     viewMenu->append(
         {(new DisplayMenu(m_view, m_session))->menuAction(), (new MeasureTool(m_view, m_session))->action()});
-    viewMenu->append({navigation->menuAction()});
+    const auto* const pictures
+        = new PictureExport(m_view, {m_session, *cameras, navigation->bookmarks(), *m_messages, statusBar()});
+    viewMenu->append(navigation->menuActions() + QList{pictures->action()});
     viewMenu->append({m_imageFolders->forgetAction()});
     viewMenu->update();
     new KeptColumns(this, m_session.settings());

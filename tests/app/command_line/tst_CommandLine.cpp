@@ -90,8 +90,8 @@ private Q_SLOTS:
             << QStringList{QStringLiteral("--size=8193x1")} << QStringLiteral("8192");
         QTest::newRow("too many pixels") << QStringList{QStringLiteral("--size=8192x8192")}
                                          << QStringLiteral("33 million");
-        for (const char* const option :
-            {"--plugin", "--profile", "--select", "--set", "--get", "--export", "--screenshot", "--size"}) {
+        for (const char* const option : {"--plugin", "--profile", "--select", "--set", "--get", "--export",
+                 "--screenshot", "--picture", "--camera", "--background", "--size"}) {
             QTest::addRow("empty %s", option) << QStringList{QLatin1String(option), QString(), QStringLiteral("a.mrd")}
                                               << QString::fromLatin1(option);
         }
@@ -104,10 +104,31 @@ private Q_SLOTS:
             QTest::addRow("twice %s", option)
                 << QStringList{text, text, QStringLiteral("a.mrd")} << text.section(u'=', 0, 0) + u' ';
         }
+        for (const char* const option : {"--picture=a.png", "--camera=/a", "--background=red"}) {
+            const QString text = QLatin1String(option);
+            QTest::addRow("twice %s", option) << QStringList{QStringLiteral("--picture=b.png"), text, text,
+                QStringLiteral("a.mrd")} << text.section(u'=', 0, 0) + u' ';
+        }
+        QTest::newRow("picture without file")
+            << QStringList{QStringLiteral("--picture=a.png")} << QStringLiteral("file");
+        QTest::newRow("picture and screenshot") << QStringList{QStringLiteral("--picture=a.png"),
+            QStringLiteral("--screenshot=b.png"), QStringLiteral("a.mrd")}
+                                                << QStringLiteral("together");
+        QTest::newRow("camera without picture")
+            << QStringList{QStringLiteral("--camera=/a"), QStringLiteral("a.mrd")} << QStringLiteral("--picture");
+        QTest::newRow("background without picture")
+            << QStringList{QStringLiteral("--background=red"), QStringLiteral("a.mrd")} << QStringLiteral("--picture");
+        QTest::newRow("no color") << QStringList{QStringLiteral("--picture=a.png"), QStringLiteral("--background=soft"),
+            QStringLiteral("a.mrd")}
+                                  << QStringLiteral("soft");
+        QTest::newRow("picture that is too large")
+            << QStringList{QStringLiteral("--picture=a.png"), QStringLiteral("--size=32768x1"), QStringLiteral("a.mrd")}
+            << QStringLiteral("32767");
         QTest::newRow("json alone") << QStringList{QStringLiteral("--json"), QStringLiteral("a.mrd")}
                                     << QStringLiteral("--diff");
-        for (const char* const option : {"--get=/a.b", "--set=/a.b=1", "--select=/a", "--list", "--list-extensions",
-                 "--export=a.obj", "--screenshot=a.png", "--diff", "--check", "--watch", "--size=640x480"}) {
+        for (const char* const option :
+            {"--get=/a.b", "--set=/a.b=1", "--select=/a", "--list", "--list-extensions", "--export=a.obj",
+                "--screenshot=a.png", "--picture=a.png", "--diff", "--check", "--watch", "--size=640x480"}) {
             const QString text = QLatin1String(option);
             QTest::addRow("describe with %s", option)
                 << QStringList{QStringLiteral("--describe"), text} << text.section(u'=', 0, 0);
@@ -174,6 +195,19 @@ private Q_SLOTS:
         QCOMPARE(commandLine.failureStatus(), 3);
     }
 
+    void aPictureIsBatchWork()
+    {
+        const auto parsed = parse({QStringLiteral("--picture=a.png"), QStringLiteral("--size=16384x16384"),
+            QStringLiteral("--camera=/a"), QStringLiteral("--background=#102030"), QStringLiteral("a.glb")});
+        QCOMPARE(parsed.error(), QString());
+        const CommandLine& commandLine = parsed.value();
+        QVERIFY(commandLine.isBatch() && !commandLine.needsExtensions());
+        QCOMPARE(commandLine.pictureFile, QStringLiteral("a.png"));
+        QCOMPARE(commandLine.size, QSize(16384, 16384));
+        QCOMPARE(commandLine.camera, QStringLiteral("/a"));
+        QCOMPARE(commandLine.background, QStringLiteral("#102030"));
+    }
+
     void theLargestSizesAreTaken()
     {
         QCOMPARE(parse({QStringLiteral("--size=7680x4320")}).error(), QString());
@@ -206,9 +240,10 @@ private Q_SLOTS:
     void helpNamesEveryOption()
     {
         const QString help = CommandLine::helpText();
-        for (const char* const option : {"--plugin", "--profile", "--select", "--set", "--get", "--list",
-                 "--list-extensions", "--diff", "--check", "--json", "--export", "--screenshot", "--size", "--watch",
-                 "--keep-groups", "--no-settings", "--version", "--help"})
+        for (const char* const option :
+            {"--plugin", "--profile", "--select", "--set", "--get", "--list", "--list-extensions", "--diff", "--check",
+                "--json", "--export", "--screenshot", "--picture", "--camera", "--background", "--size", "--watch",
+                "--keep-groups", "--no-settings", "--version", "--help"})
             QVERIFY2(help.contains(QLatin1String(option)), option);
     }
 };

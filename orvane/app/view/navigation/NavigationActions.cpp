@@ -1,8 +1,12 @@
 #include "orvane/app/view/navigation/NavigationActions.h"
 
 #include "orvane/app/base/AppSettings.h"
+#include "orvane/app/scene/Session.h"
 #include "orvane/app/view/SceneView.h"
+#include "orvane/app/view/navigation/BookmarkMenu.h"
+#include "orvane/app/view/navigation/CameraActions.h"
 #include "orvane/app/view/navigation/FlyTool.h"
+#include "orvane/app/view/navigation/SceneBookmarks.h"
 #include "orvane/app/view/navigation/ViewAnimation.h"
 
 #include <QAction>
@@ -13,21 +17,29 @@ namespace {
 
 QString navigationKey(const QAction& action)
 {
-    return QString(action.objectName()).replace(u'.', u'/');
+    QString key = action.objectName();
+    return key.replace(u'.', u'/');
 }
 
 } // namespace
 
-NavigationActions::NavigationActions(SceneView* view, AppSettings& settings, QStatusBar* bar)
+NavigationActions::NavigationActions(SceneView* view, Session& session, SceneTreePanel* tree, NodeEditor& editor,
+    const CameraMenu& cameras, QStatusBar* bar)
     : QObject(view)
     , m_view(view)
-    , m_settings(settings)
+    , m_settings(session.settings())
     , m_menu(new QMenu(tr("Navigation"), view))
     , m_animation(new ViewAnimation(view))
+    , m_bookmarks(new SceneBookmarks(view, session))
+    , m_bookmarkMenu(new BookmarkMenu(*m_bookmarks, view))
 {
     m_menu->setObjectName(QStringLiteral("navigationMenu"));
     auto* const fly = new FlyTool(view);
     connect(fly, &FlyTool::said, bar, [bar](const QString& text) { bar->showMessage(text); });
+    auto* const fromView = new CameraActions(view, session, tree, editor, cameras);
+    connect(fromView, &CameraActions::said, bar, [bar](const QString& text) { bar->showMessage(text); });
+    m_menu->addActions(fromView->actions());
+    m_menu->addSeparator();
 
     QAction* const orbit = addSwitch("view.orbitPicked", tr("&Orbit about the Picked Point"),
         tr("A drag goes round what is under the pointer, rather than round the middle of the picture"), true);
@@ -56,7 +68,7 @@ QAction* NavigationActions::addSwitch(const char* name, const QString& text, con
     return action;
 }
 
-QAction* NavigationActions::menuAction() const
+QList<QAction*> NavigationActions::menuActions() const
 {
-    return m_menu->menuAction();
+    return {m_menu->menuAction(), m_bookmarkMenu->menuAction()};
 }

@@ -4,24 +4,31 @@
 #include <QObject>
 
 class AppSettings;
-class FlyTool;
+class BookmarkMenu;
+class CameraMenu;
+class NodeEditor;
 class QAction;
 class QMenu;
 class QStatusBar;
+class SceneBookmarks;
+class SceneTreePanel;
 class SceneView;
+class Session;
 class ViewAnimation;
 
-/// How the user moves about in the view, beside what every view can do: flying, animation, and what is to be preferred.
-/// Kept in the settings.
+/// How the user moves about in the view, beside what every view can do: flying, animation, bookmarks, cameras from the
+/// view, and what is to be preferred, which is kept in the settings.
 class NavigationActions : public QObject {
     Q_OBJECT
 
 public:
-    /// The view is the parent; the others live as long.
-    NavigationActions(SceneView* view, AppSettings& settings, QStatusBar* bar);
+    /// All live as long as the view, which is the parent.
+    NavigationActions(SceneView* view, Session& session, SceneTreePanel* tree, NodeEditor& editor,
+        const CameraMenu& cameras, QStatusBar* bar);
 
+    [[nodiscard]] SceneBookmarks& bookmarks() noexcept { return *m_bookmarks; }
     /// For the View menu.
-    [[nodiscard]] QAction* menuAction() const;
+    [[nodiscard]] QList<QAction*> menuActions() const;
 
 private:
     QAction* addSwitch(const char* name, const QString& text, const QString& tip, bool isOn);
@@ -30,4 +37,6 @@ private:
     AppSettings& m_settings;
     QMenu* m_menu;
     ViewAnimation* m_animation;
+    SceneBookmarks* m_bookmarks;
+    BookmarkMenu* m_bookmarkMenu;
 };

@@ -4,8 +4,8 @@
 
 #include <QBuffer>
 #include <QFileInfo>
+#include <QImage>
 #include <QImageWriter>
-#include <QPixmap>
 
 namespace orvane {
 
@@ -25,13 +25,19 @@ Result<> checkPictureName(const QString& fileName)
     return Failure{QStringLiteral("%1: the name of a picture ends in .png, .jpg, .bmp or .ppm").arg(fileName)};
 }
 
-Result<> writePicture(const QPixmap& picture, const QString& fileName)
+bool canBeTransparent(const QString& fileName)
+{
+    const QByteArray format = formatOf(fileName);
+    return format == "png" || format == "webp" || format == "tif" || format == "tiff";
+}
+
+Result<> writePicture(const QImage& picture, const QString& fileName)
 {
     if (auto name = checkPictureName(fileName); !name)
         return name;
     QBuffer buffer;
     QImageWriter writer(&buffer, formatOf(fileName));
-    if (!writer.write(picture.toImage()))
+    if (!writer.write(picture))
         return Failure{QStringLiteral("%1: %2").arg(fileName, writer.errorString())};
     meridane::FileReplacer file;
     auto failure = file.open(toStdFileName(fileName));
