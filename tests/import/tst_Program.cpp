@@ -176,6 +176,9 @@ private Q_SLOTS:
         QTest::newRow("empty") << QStringLiteral("empty.obj") << QByteArray("") << broken;
         QTest::newRow("no JSON") << QStringLiteral("a.gltf") << QByteArray("{\"asset\": {\"version\": \"2.0\"")
                                  << broken;
+        QTest::newRow("PLY cut off") << QStringLiteral("a.ply")
+                                     << QByteArray("ply\nformat ascii 1.0\nelement vertex 3\n")
+                                     << broken + QStringLiteral("its header has no end");
         QTest::newRow("GLB cut off") << QStringLiteral("a.glb") << QByteArray("glTF\2\0\0\0\xff\0\0\0", 12) << broken;
         QTest::newRow("no mesh") << QStringLiteral("b.obj") << QByteArray("v 0 0 0\n") << broken;
         QTest::newRow("no XML") << QStringLiteral("a.dae") << QByteArray("<COLLADA") << broken;

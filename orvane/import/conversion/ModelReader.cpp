@@ -4,6 +4,7 @@
 #include "orvane/import/conversion/SceneBuilder.h"
 #include "orvane/import/mending/EmissionMending.h"
 #include "orvane/import/mending/GltfMending.h"
+#include "orvane/import/mending/JoiningScale.h"
 #include "orvane/import/mending/ModelMending.h"
 #include "orvane/import/mending/ObjMending.h"
 #include "orvane/import/mending/PivotFolding.h"
@@ -37,13 +38,25 @@ bool hasModelExtension(const std::string& path)
     return extension.size() > 1 && Assimp::Importer().IsExtensionSupported(extension);
 }
 
+// The library's reader of that format searches for the end of such a header without an end.
+bool isUnendedPly(std::string_view beginning)
+{
+    return (beginning.starts_with("ply\n") || beginning.starts_with("ply\r"))
+        && beginning.find("end_header") == std::string_view::npos;
+}
+
+/// The first bytes of a file: of a PLY file all of its header, unless that is longer than any real one.
 std::string beginningOf(meridane::FileReader& file)
 {
     constexpr std::size_t size = 4096;
+    constexpr std::size_t most = std::size_t{1} << 20;
     std::string beginning;
     bool atEnd = false;
-    // A file that can't be read is reported by the library.
-    static_cast<void>(file.read(beginning, size, atEnd));
+    do {
+        // A file that can't be read is reported by the library.
+        if (file.read(beginning, size, atEnd))
+            break;
+    } while (!atEnd && beginning.size() < most && isUnendedPly(beginning));
     return beginning;
 }
 
@@ -105,7 +118,12 @@ NxRef<NxGroup> ModelReader::read(const std::string& path, std::string& error)
         error = *failure;
         return {};
     }
-    m_colorStorage = colorStorageOf(beginningOf(file));
+    const std::string beginning = beginningOf(file);
+    if (isUnendedPly(beginning)) {
+        error = path + ": the model is broken: its header has no end";
+        return {};
+    }
+    m_colorStorage = colorStorageOf(beginning);
     auto* const files = new ModelFiles(path); // the importer's own
     m_importer->SetIOHandler(files);
     NxRef<NxGroup> scene;
@@ -184,7 +202,12 @@ const aiScene* ModelReader::readMended(const std::string& path, ModelFiles& file
                 error = unknownFormat;
             return nullptr;
         }
+        const float scale = joiningScale(*model);
+        if (scale != 1)
+            scalePositions(*model, scale);
         model = m_importer->ApplyPostProcessing(steps);
+        if (model != nullptr && scale != 1)
+            scalePositions(*model, 1 / scale);
     }
     if (model == nullptr || model->mRootNode == nullptr) {
         error = failureText(path, *m_importer);

@@ -79,6 +79,8 @@ public:
             mendNode(node);
         for (Json& scene : list("scenes"))
             mendList(scene, "nodes", "left out nodes that don't exist in the scenes");
+        if (list("scenes").empty() && !list("nodes").empty())
+            addScene();
         return m_isChanged;
     }
 
@@ -167,6 +169,26 @@ private:
             }
         }
         mendList(node, "children", "left out nodes that don't exist in the nodes");
+    }
+
+    // A library of nodes needn't have a scene, but the reader wants one.
+    void addScene()
+    {
+        std::vector<bool> isChild(list("nodes").size());
+        for (const Json& node : list("nodes")) {
+            if (!node.is_object() || !node.contains("children") || !node["children"].is_array())
+                continue;
+            for (const Json& index : node["children"])
+                isChild[index.get<std::size_t>()] = true; // all exist by now
+        }
+        Json roots = Json::array();
+        for (std::size_t index = 0; index < isChild.size(); ++index) {
+            if (!isChild[index])
+                roots.push_back(index);
+        }
+        m_file["scenes"] = Json::array({Json::object({{"nodes", roots}})});
+        m_file["scene"] = 0;
+        m_isChanged = true;
     }
 
     void mendList(Json& part, const char* member, const char* warning)

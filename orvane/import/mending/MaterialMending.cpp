@@ -55,14 +55,22 @@ void invertOpacities(const std::vector<aiMaterial*>& materials, ImportWarnings& 
     }
 }
 
+bool isInvisible(const aiMaterial& material)
+{
+    const float opacity = opacityOf(material).value_or(1);
+    aiString mode;
+    float cutoff = 0;
+    const bool cutsOff = material.Get(AI_MATKEY_GLTF_ALPHAMODE, mode) == aiReturn_SUCCESS && viewOf(mode) == "MASK"
+        && material.Get(AI_MATKEY_GLTF_ALPHACUTOFF, cutoff) == aiReturn_SUCCESS;
+    return !(opacity > 0) || (cutsOff && opacity < cutoff);
+}
+
 void showInvisible(const std::vector<aiMaterial*>& materials, ImportWarnings& warnings)
 {
-    const bool isInvisible = std::all_of(materials.begin(), materials.end(),
-        [](const aiMaterial* material) { return !(opacityOf(*material).value_or(1) > 0); });
-    for (aiMaterial* material : materials) {
-        if (isInvisible)
-            setOpacity(*material, 1, "made opaque, since nothing would be seen, the materials", warnings);
-    }
+    if (!std::all_of(materials.begin(), materials.end(), [](const aiMaterial* each) { return isInvisible(*each); }))
+        return;
+    for (aiMaterial* material : materials)
+        setOpacity(*material, 1, "made opaque, since nothing would be seen, the materials", warnings);
 }
 
 // The library gives models without a material one that has every colour at its brightest, which would hide all shades.

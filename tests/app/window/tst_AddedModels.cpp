@@ -1,9 +1,11 @@
 #include "app/window/RobotWindowCase.h"
+#include "import/Fbx.h"
 
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/view/SceneView.h"
 
 #include "meridane/gl/geometry/MatrixMath.h"
+#include "meridane/scene/nodes/NxTransform.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -13,7 +15,9 @@
 #include <QStatusBar>
 #include <QUrl>
 
-/// A model that is added to an open scene is selected, and the view shows it.
+#include <cmath>
+
+/// A model that is added to an open scene is selected, and the view shows it. One that is opened comes in metres.
 class TestAddedModels : public RobotWindowCase {
     Q_OBJECT
 
@@ -57,6 +61,26 @@ private Q_SLOTS:
         QVERIFY(view()->viewpoint().focalDistance < 20);
         m_session->services().undo();
         QCOMPARE(m_window->document().scene()->getNumChildren(), before);
+    }
+
+    void theUnitAndTheAxesOfAModelAreTheFirstStep()
+    {
+        const QString file = filePath("plate.fbx");
+        writeFile(file, fbx::model({{"plate", {}}}, fbx::space("2", "1", "-1", "0", "1")));
+        QCOMPARE(open(file), QString());
+        QVERIFY2(m_window->statusBar()->currentMessage().contains(QStringLiteral("1 cm")),
+            qPrintable(m_window->statusBar()->currentMessage()));
+        const auto* const top = dynamic_cast<NxTransform*>(m_window->document().scene()->getChild(0));
+        QVERIFY(top != nullptr);
+        const VbVec3f converted = top->scaleFactor.getValue();
+        QVERIFY(std::abs(converted[0] - 0.01F) < 1e-6F);
+        QVERIFY(!m_window->document().isModified());
+        m_session->services().undo();
+        QCOMPARE(top->scaleFactor.getValue(), VbVec3f(1, 1, 1));
+        QVERIFY(top->rotation.isDefault());
+        m_session->services().redo();
+        QCOMPARE(top->scaleFactor.getValue(), converted);
+        QVERIFY(!top->rotation.isDefault());
     }
 
     void aFileThatIsNoModelIsRefusedWhenPasted()

@@ -1,4 +1,5 @@
 #include "TestFiles.h"
+#include "import/GeneratedModels.h"
 #include "import/HelperRun.h"
 #include "import/JobRecord.h"
 
@@ -116,6 +117,14 @@ private Q_SLOTS:
         add(shared + QStringLiteral("BoxTextured/"), "CesiumLogoFlat.png", "BoxTextured.gltf");
         add(shared + QStringLiteral("cameras/"), "Cameras.gltf", "Cameras.gltf");
         add(shared + QStringLiteral("cameras/"), "simpleSquare.bin", "Cameras.gltf");
+        int number = 0;
+        for (const generated::Model& model : generated::models()) {
+            const QString name = QStringLiteral("model%1%2")
+                                     .arg(++number, 2, 10, QLatin1Char('0'))
+                                     .arg(QString::fromUtf8(model.fileName.mid(1)));
+            writeFile(m_generated.filePath(name), model.bytes);
+            QTest::newRow(model.about.constData()) << m_generated.path() + u'/' << name << name;
+        }
     }
 
     void aDamagedFileIsOpenedOrRefusedWithOneMessage()
@@ -134,7 +143,7 @@ private Q_SLOTS:
         QVERIFY(QFile::setPermissions(damagedFile, QFile::ReadOwner | QFile::WriteOwner));
         bool given = false;
         const int rounds = qEnvironmentVariableIntValue("ORVANE_TEST_DAMAGES", &given);
-        Damages damages(readFile(damagedFile), given ? rounds : 4);
+        Damages damages(readFile(damagedFile), given ? rounds : folder.startsWith(m_generated.path()) ? 1 : 4);
         int scenes = 0;
         int helpersLost = 0; // that crashed or were stopped
         qint64 longest = 0;
@@ -170,6 +179,7 @@ private Q_SLOTS:
     }
 
 private:
+    QTemporaryDir m_generated;
     NxErrorHandler m_oldHandler = nullptr;
     void* m_oldData = nullptr;
 };

@@ -117,7 +117,7 @@ private Q_SLOTS:
         QTest::addColumn<float>("transparency");
         QTest::newRow("opaque") << QByteArray(R"("alphaCutoff": 0.25)") << 0.0F << 0.0F;
         QTest::newRow("blended") << QByteArray(R"("alphaMode": "BLEND", "alphaCutoff": 0.25)") << 0.0F << 0.75F;
-        QTest::newRow("masked") << QByteArray(R"("alphaMode": "MASK")") << 0.5F << 0.75F;
+        QTest::newRow("masked") << QByteArray(R"("alphaMode": "MASK")") << 0.5F << 0.0F; // else unseen
         QTest::newRow("masked at a height")
             << QByteArray(R"("alphaMode": "MASK", "alphaCutoff": 0.25)") << 0.25F << 0.75F;
         QTest::newRow("masked nowhere") << QByteArray(R"("alphaMode": "MASK", "alphaCutoff": 0)") << 0.0F << 0.0F;
@@ -211,6 +211,17 @@ private Q_SLOTS:
                 QStringList(QStringLiteral(
                     "left out further textures that are placed in another way in the materials: \"bark\"")));
         }
+    }
+
+    void aFileWithoutASceneShowsAllItsNodes()
+    {
+        ReadModels models;
+        const NxRef<NxGroup> scene = models.read("model.gltf",
+            gltf::model(
+                R"({"name": "a", "mesh": 0, "children": [2]}, {"name": "b", "mesh": 0}, {"name": "c", "mesh": 0})"));
+        QVERIFY2(scene, qPrintable(models.message()));
+        QCOMPARE(models.warnings(), QStringList());
+        QCOMPARE(ReadModels::all<NxMesh>(*scene).size(), 3U);
     }
 
     void vertexColorsComeOver()
