@@ -11,7 +11,10 @@ QStringList pluginFolders()
     QStringList folders = qEnvironmentVariable("ORVANE_PLUGIN_PATH").split(u':', Qt::SkipEmptyParts);
     folders
         += QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/orvane/plugins");
-    folders += QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib"));
+    // Beside the program, as it was built, and as it was installed.
+    const QDir programs(QCoreApplication::applicationDirPath());
+    folders += QDir::cleanPath(programs.filePath(QStringLiteral("../lib")));
+    folders += QDir::cleanPath(programs.filePath(QStringLiteral(ORVANE_PLUGIN_FOLDER)));
     return folders;
 }
 
