@@ -94,7 +94,7 @@ bool isNear(double left, double right, double size)
     return std::abs(left - right) <= precision * std::max(size, std::abs(left));
 }
 
-bool isFinite(const VbMatrix& matrix)
+bool hasFiniteElements(const VbMatrix& matrix)
 {
     for (std::size_t row = 0; row < 4; ++row) {
         if (!std::all_of(matrix[row].begin(), matrix[row].end(), [](float element) { return std::isfinite(element); }))
@@ -182,7 +182,7 @@ bool isNormal(const VbRotation& rotation)
 {
     const VbVec3f& axis = rotation.getAxis();
     const double size
-        = length({static_cast<double>(axis[0]), static_cast<double>(axis[1]), static_cast<double>(axis[2])});
+        = length(Vector{static_cast<double>(axis[0]), static_cast<double>(axis[1]), static_cast<double>(axis[2])});
     return !(size > 0) || !std::isfinite(size) || std::abs(size - 1) < 3e-7;
 }
 
@@ -200,7 +200,7 @@ VbRotation normalised(const VbRotation& rotation)
 MatrixDecomposition decomposed(const VbMatrix& matrix)
 {
     MatrixDecomposition result;
-    if (!isFinite(matrix)) {
+    if (!hasFiniteElements(matrix)) {
         result.rest = MatrixRest::NotFinite;
         return result;
     }
