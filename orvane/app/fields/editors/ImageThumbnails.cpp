@@ -1,6 +1,6 @@
 #include "orvane/app/fields/editors/ImageThumbnails.h"
 
-#include "orvane/app/fields/popups/ImageSample.h"
+#include "orvane/extender/ImageSample.h"
 
 #include "meridane/scene/fields/single/NxSFImage.h"
 

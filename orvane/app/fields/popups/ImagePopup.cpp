@@ -1,8 +1,8 @@
 #include "orvane/app/fields/popups/ImagePopup.h"
 
 #include "orvane/app/base/PlainText.h"
-#include "orvane/app/fields/popups/ImageSample.h"
 #include "orvane/app/look/Look.h"
+#include "orvane/extender/ImageSample.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

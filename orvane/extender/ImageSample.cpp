@@ -1,4 +1,4 @@
-#include "orvane/app/fields/popups/ImageSample.h"
+#include "orvane/extender/ImageSample.h"
 
 #include "meridane/scene/fields/single/NxSFImage.h"
 
