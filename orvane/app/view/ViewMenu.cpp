@@ -1,5 +1,6 @@
 #include "orvane/app/view/ViewMenu.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/view/CameraMenu.h"
 #include "orvane/app/view/ViewActions.h"
 
@@ -30,7 +31,7 @@ void ViewMenu::update()
         m_menu->addSeparator();
     }
     for (QDockWidget* dock : m_window->findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
-        addSwitch(dock->toggleViewAction(), *dock);
+        addDockSwitch(dock);
     m_menu->addSeparator();
     for (QToolBar* toolBar : m_window->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
         addSwitch(toolBar->toggleViewAction(), *toolBar);
@@ -38,6 +39,23 @@ void ViewMenu::update()
         m_menu->addSeparator();
         m_menu->addActions(actions);
     }
+}
+
+// The docks of extensions may have nothing to show for what is selected. An empty dock would be a bare title bar.
+void ViewMenu::addDockSwitch(QDockWidget* dock)
+{
+    const auto updateSwitch = [dock] {
+        const bool isEmpty = dock->widget() == nullptr;
+        orvane::setReason(
+            *dock->toggleViewAction(), isEmpty ? tr("It has nothing to show for what is selected.") : QString());
+    };
+    updateSwitch();
+    if (!m_watched.contains(dock)) {
+        m_watched.insert(dock);
+        connect(dock, &QDockWidget::visibilityChanged, this, updateSwitch);
+        connect(dock, &QObject::destroyed, this, [this, dock] { m_watched.remove(dock); });
+    }
+    addSwitch(dock->toggleViewAction(), *dock);
 }
 
 // Docks of extensions too, whose actions have no name of their own.

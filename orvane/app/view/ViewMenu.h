@@ -2,9 +2,11 @@
 
 #include <QList>
 #include <QObject>
+#include <QSet>
 
 class CameraMenu;
 class QAction;
+class QDockWidget;
 class QMainWindow;
 class QMenu;
 class QWidget;
@@ -25,6 +27,7 @@ public:
     void update();
 
 private:
+    void addDockSwitch(QDockWidget* dock);
     void addSwitch(QAction* action, const QWidget& part);
 
     QMainWindow* m_window;
@@ -32,4 +35,5 @@ private:
     CameraMenu* m_cameras;
     QMenu* m_menu;
     QList<QList<QAction*>> m_appended;
+    QSet<QObject*> m_watched; // docks
 };
