@@ -58,45 +58,60 @@ QRgb average(const Source& source, std::size_t left, std::size_t right, std::siz
     return qRgba(part(0), part(1), part(2), static_cast<int>(sum[3] / (columns * rows)));
 }
 
+ImageBytes bytesOf(const NxSFImage& field)
+{
+    VbVec2s size;
+    ImageBytes image;
+    image.bytes = field.getValue(size, image.components);
+    image.width = size[0];
+    image.height = size[1];
+    return image;
+}
+
 } // namespace
 
 QImage sampledImage(const NxSFImage& field, const QSize& room)
 {
-    VbVec2s size;
-    int components = 0;
-    const unsigned char* const bytes = field.getValue(size, components);
-    if (bytes == nullptr || room.isEmpty())
+    return sampledImage(bytesOf(field), room);
+}
+
+QString imageDescription(const NxSFImage& field)
+{
+    return imageDescription(bytesOf(field));
+}
+
+QImage sampledImage(const ImageBytes& image, const QSize& room)
+{
+    if (image.bytes == nullptr || room.isEmpty())
         return {};
-    const QSize whole(size[0], size[1]);
+    const QSize whole(image.width, image.height);
     const bool fits = whole.width() <= room.width() && whole.height() <= room.height();
     const QSize shown = fits ? whole : whole.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
-    const Source source{bytes, static_cast<std::size_t>(whole.width()), static_cast<std::size_t>(whole.height()),
-        static_cast<std::size_t>(components)};
+    const Source source{image.bytes, static_cast<std::size_t>(whole.width()), static_cast<std::size_t>(whole.height()),
+        static_cast<std::size_t>(image.components)};
     const auto width = static_cast<std::size_t>(shown.width());
     const auto height = static_cast<std::size_t>(shown.height());
-    QImage image(shown, QImage::Format_ARGB32);
+    QImage sample(shown, QImage::Format_ARGB32);
     for (std::size_t row = 0; row < height; ++row) {
         // The first row of the field is the lowest one.
-        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(static_cast<int>(height - 1 - row)));
+        auto* const line = reinterpret_cast<QRgb*>(sample.scanLine(static_cast<int>(height - 1 - row)));
         for (std::size_t column = 0; column < width; ++column) {
             line[column] = average(source, column * source.width / width, (column + 1) * source.width / width,
                 row * source.height / height, (row + 1) * source.height / height);
         }
     }
-    return image;
+    return sample;
 }
 
-QString imageDescription(const NxSFImage& field)
+QString imageDescription(const ImageBytes& image)
 {
-    VbVec2s size;
-    int components = 0;
-    if (field.getValue(size, components) == nullptr)
+    if (image.bytes == nullptr)
         return QCoreApplication::translate("ImageSample", "no image");
     static constexpr std::array channels{"grey", "grey and opacity", "RGB", "RGBA"};
-    const char* const names = channels[static_cast<std::size_t>(std::clamp(components, 1, 4) - 1)];
+    const char* const names = channels[static_cast<std::size_t>(std::clamp(image.components, 1, 4) - 1)];
     return QStringLiteral("%1 × %2, %3")
-        .arg(size[0])
-        .arg(size[1])
+        .arg(image.width)
+        .arg(image.height)
         .arg(QCoreApplication::translate("ImageSample", names));
 }
 

@@ -14,4 +14,16 @@ namespace orvane {
 /// Such as "640 × 480, RGB"; "no image" for an empty one.
 [[nodiscard]] QString imageDescription(const NxSFImage& field);
 
+/// An image as the toolkit has them: pixel by pixel and row by row, the bottom row first.
+struct ImageBytes {
+    const unsigned char* bytes = nullptr; ///< null for an empty image
+    int width = 0;
+    int height = 0;
+    int components = 0; ///< 1 grey, 2 grey and opacity, 3 red, green and blue, 4 those and opacity
+};
+
+/// The same two for an image that isn't in a field.
+[[nodiscard]] QImage sampledImage(const ImageBytes& image, const QSize& room);
+[[nodiscard]] QString imageDescription(const ImageBytes& image);
+
 } // namespace orvane

@@ -20,6 +20,8 @@ public:
     /// Whether a file may be read. `realPath` is the file behind all symbolic links, `path` the argument of `contain`.
     [[nodiscard]] bool containReal(const QString& realPath, const QString& path) const;
 
+    friend bool operator==(const ImageFolders&, const ImageFolders&) = default;
+
 private:
     QString m_sceneFolder;
     QString m_realSceneFolder; // behind all symbolic links

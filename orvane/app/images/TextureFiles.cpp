@@ -41,6 +41,13 @@ void TextureFiles::setAllowedFolders(const QStringList& folders)
     askAgain();
 }
 
+void TextureFiles::setFolders(const ImageFolders& folders)
+{
+    m_folders = folders;
+    m_results.clear();
+    askAgain();
+}
+
 void TextureFiles::clear()
 {
     m_decoder.cancel();

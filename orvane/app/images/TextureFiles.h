@@ -34,6 +34,9 @@ public:
     void setFolder(const QString& folder);
     /// The folders besides the scene's own that images are loaded from. What was withheld is asked for again.
     void setAllowedFolders(const QStringList& folders);
+    /// Both of these.
+    void setFolders(const ImageFolders& folders);
+    [[nodiscard]] const ImageFolders& folders() const noexcept { return m_folders; }
     /// Forgets everything about the images of a scene that is left.
     void clear();
 

@@ -1,5 +1,6 @@
 #include "orvane/app/view/ViewLink.h"
 
+#include "orvane/app/images/EditorImages.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -65,6 +66,7 @@ ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QSta
         [this] { m_view->drawing().setFolder(m_session.document().pathFolder()); });
     connect(tree, &SceneTreePanel::selectionChanged, this, &ViewLink::showSelection);
     new ViewSelection(view, tree);
+    new EditorImages(view->drawing().textures(), this);
     connect(view, &SceneView::picked, this, &ViewLink::choose);
     connect(view, &SceneView::pickedNothing, this, &ViewLink::chooseNothing);
 }
