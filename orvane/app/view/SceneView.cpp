@@ -40,7 +40,8 @@ SceneView::SceneView(QWidget* parent)
     setAccessibleName(tr("View"));
     setAccessibleDescription(
         tr("The picture of the scene. The arrow keys go round it, with Shift they move it; plus and "
-           "minus zoom, F frames the selection, A frames all, 1 to 6 look along the axes."));
+           "minus zoom, F frames the selection, A frames all, 1 to 6 look along the axes, 7 from a corner. With the "
+           "right button held, W, A, S, D, Q and E fly."));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);

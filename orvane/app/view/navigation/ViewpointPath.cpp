@@ -5,25 +5,26 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 
 using namespace meridane;
 
 namespace {
 
-float between(float from, float to, double part)
+float blended(float from, float to, double part)
 {
     return static_cast<float>(std::lerp(static_cast<double>(from), static_cast<double>(to), part));
 }
 
 /// By equal factors, as zooming does.
-float betweenLengths(float from, float to, double part)
+float blendedLengths(float from, float to, double part)
 {
     return static_cast<float>(
         static_cast<double>(from) * std::pow(static_cast<double>(to) / static_cast<double>(from), part));
 }
 
 /// The shorter way round.
-VbRotation between(const VbRotation& from, const VbRotation& to, double part)
+VbRotation blended(const VbRotation& from, const VbRotation& to, double part)
 {
     const std::array<float, 4> first = from.getQuaternion();
     std::array<float, 4> second = to.getQuaternion();
@@ -58,10 +59,10 @@ NxViewpoint ViewpointPath::at(double part) const
     if (part >= 1)
         return m_to;
     NxViewpoint viewpoint = m_from;
-    viewpoint.orientation = between(m_from.orientation, m_to.orientation, part);
-    viewpoint.heightAngle = between(m_from.heightAngle, m_to.heightAngle, part);
-    viewpoint.height = betweenLengths(m_from.height, m_to.height, part);
-    viewpoint.focalDistance = betweenLengths(m_from.focalDistance, m_to.focalDistance, part);
+    viewpoint.orientation = blended(m_from.orientation, m_to.orientation, part);
+    viewpoint.heightAngle = blended(m_from.heightAngle, m_to.heightAngle, part);
+    viewpoint.height = blendedLengths(m_from.height, m_to.height, part);
+    viewpoint.focalDistance = blendedLengths(m_from.focalDistance, m_to.focalDistance, part);
     const VbVec3d focalPoint = add(scaled(m_from.focalPoint(), 1 - part), scaled(m_to.focalPoint(), part));
     viewpoint.position = subtract(
         focalPoint, scaled(VbVec3d(viewpoint.viewDirection()), static_cast<double>(viewpoint.focalDistance)));

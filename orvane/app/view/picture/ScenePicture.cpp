@@ -25,17 +25,18 @@ constexpr int partSide = 2048;
 constexpr int partMargin = 32;
 /// The height of a picture, in pixels, in which lines and points have the widths that they have on the screen.
 constexpr float usualHeight = 800;
-constexpr int opaque = 255;
+constexpr int fullOpacity = 255;
 
 /// What is left of a colour on black and on white: the same where it is opaque, black and white where nothing is.
 QRgb withOpacity(QRgb onBlack, QRgb onWhite)
 {
     const int difference
         = qRed(onWhite) - qRed(onBlack) + qGreen(onWhite) - qGreen(onBlack) + qBlue(onWhite) - qBlue(onBlack);
-    const int opacity = std::clamp(opaque - (difference + 1) / 3, 0, opaque);
+    const int opacity = std::clamp(fullOpacity - (difference + 1) / 3, 0, fullOpacity);
     if (opacity == 0)
         return qRgba(0, 0, 0, 0);
-    const auto whole = [opacity](int part) { return std::min((part * opaque + opacity / 2) / opacity, opaque); };
+    const auto whole
+        = [opacity](int part) { return std::min((part * fullOpacity + opacity / 2) / opacity, fullOpacity); };
     return qRgba(whole(qRed(onBlack)), whole(qGreen(onBlack)), whole(qBlue(onBlack)), opacity);
 }
 
@@ -144,7 +145,7 @@ QImage ScenePicture::drawPart(const NxViewpoint& viewpoint, const QRect& part, c
 QImage ScenePicture::drawPart(
     const NxViewpoint& viewpoint, const QRect& part, const QSize& size, const QColor& background)
 {
-    if (background.alpha() == opaque) {
+    if (background.alpha() == fullOpacity) {
         setBackground(background);
         return drawPart(viewpoint, part, size);
     }
@@ -163,7 +164,7 @@ Result<QImage> ScenePicture::draw(
     const QString noMemory = ScenePictureText::tr("There is no memory for a picture of %1x%2 pixels.")
                                  .arg(size.width())
                                  .arg(size.height());
-    QImage picture(size, background.alpha() == opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32);
+    QImage picture(size, background.alpha() == fullOpacity ? QImage::Format_RGB32 : QImage::Format_ARGB32);
     if (picture.isNull())
         return Failure{noMemory};
     const QRect whole(QPoint(0, 0), size);
