@@ -41,7 +41,7 @@ class CompassEditor final : public orv::NodeEditor<Compass> {
     void build() override
     {
         addField(&Compass::heading);
-        addText(tr("Carries"), [](const Compass& compass) { return tr("%n node(s)", "", compass.getNumChildren()); });
+        addText(tr("Children"), [](const Compass& compass) { return QString::number(compass.getNumChildren()); });
     }
 };
 

@@ -4,7 +4,6 @@
 #include "orvane/sdk/FieldLink.h"
 #include "orvane/sdk/FieldValue.h"
 
-#include <functional>
 #include <type_traits>
 #include <utility>
 
@@ -59,7 +58,7 @@ public:
         Field* const present = field();
         if (present == nullptr)
             return false;
-        if constexpr (requires { value == value; }) {
+        if constexpr (FieldValue<Field>::isComparable) {
             if (FieldValue<Field>::read(*present) == value)
                 return false;
         }

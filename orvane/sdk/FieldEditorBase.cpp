@@ -99,7 +99,7 @@ void FieldEditorBase::buildOnce()
     auto* const label = new QLabel(QString::fromLatin1(m_handledType.getName().getString()));
     label->setObjectName(QStringLiteral("typeLabel"));
     label->setFrameShape(QFrame::Box);
-    row->addWidget(label);
+    row->addWidget(label, 0, Qt::AlignVCenter);
     m_layout = new QHBoxLayout;
     row->addLayout(m_layout, 1);
     m_buttons = std::make_unique<FieldButtons>(*m_frame);

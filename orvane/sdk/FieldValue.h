@@ -6,7 +6,9 @@
 
 #include <QString>
 
+#include <concepts>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace orv {
@@ -33,6 +35,8 @@ concept ListValued = requires(Field& field, const Field& same)
 template <typename Field>
 struct FieldValue {
     using Type = QString;
+    /// Whether two values can be compared.
+    static constexpr bool isComparable = true;
 
     [[nodiscard]] static Type read(const NxField& field)
     {
@@ -48,6 +52,7 @@ struct FieldValue {
 template <SingleValued Field>
 struct FieldValue<Field> {
     using Type = std::remove_cvref_t<decltype(std::declval<const Field&>().getValue())>;
+    static constexpr bool isComparable = std::equality_comparable<Type>;
 
     [[nodiscard]] static Type read(const Field& field) { return field.getValue(); }
     static bool write(Field& field, const Type& value)
@@ -60,7 +65,9 @@ struct FieldValue<Field> {
 /// The value is a vector of all values of the list.
 template <ListValued Field>
 struct FieldValue<Field> {
-    using Type = std::vector<typename decltype(std::declval<const Field&>().getValues())::value_type>;
+    using Row = typename decltype(std::declval<const Field&>().getValues())::value_type;
+    using Type = std::vector<Row>;
+    static constexpr bool isComparable = std::equality_comparable<Row>;
 
     [[nodiscard]] static Type read(const Field& field)
     {

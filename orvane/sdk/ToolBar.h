@@ -51,7 +51,7 @@ protected:
     QAction& addButton(const QString& text, const QString& tip, std::function<void(Object&)> action)
     {
         const auto run = [action = std::move(action)] {
-            if (Object* const object = selected<Object>())
+            if (auto* const object = selected<Object>())
                 action(*object);
         };
         QAction& button = addButton(text, tip, run);

@@ -81,7 +81,7 @@ private Q_SLOTS:
         tool.post->lit.setValue(true);
         tool.select(tool.post.get());
         QCOMPARE(tool.line("heading").text(), QStringLiteral("90"));
-        QCOMPARE(tool.find<QLabel>("places").text(), QStringLiteral("2 value(s)"));
+        QCOMPARE(tool.find<QLabel>("places").text(), QStringLiteral("2 values"));
         QVERIFY(tool.find<QCheckBox>("lit").isChecked());
         QCOMPARE(tool.line("translation").text(), QStringLiteral("0 0 0"));
         QCOMPARE(tool.find<QLabel>("Children").text(), QStringLiteral("0"));

@@ -40,8 +40,10 @@ QColor shownColor(const VbColor& color)
 
 QString summaryOf(const NxField& field)
 {
-    if (field.isOfType(NxMField::getClassTypeId()))
-        return Texts::tr("%n value(s)", nullptr, static_cast<const NxMField&>(field).getNum());
+    if (field.isOfType(NxMField::getClassTypeId())) {
+        const int count = static_cast<const NxMField&>(field).getNum();
+        return count == 1 ? Texts::tr("1 value") : Texts::tr("%1 values").arg(count);
+    }
     return Texts::tr("%1 bytes").arg(field.valueBytes());
 }
 
