@@ -55,19 +55,40 @@ void SelectionDock::show(NxTypedObject* object)
         return;
     best->setEditedObject(object);
     m_dock->setWidget(best->getWidget());
-    best->activate();
+    try {
+        best->activate();
+    } catch (...) {
+        takeOut(*best);
+        throw;
+    }
     m_currentEditor = best;
     m_extension.show();
+}
+
+void SelectionDock::takeOut(const OrvEditor& editor)
+{
+    m_dock->setWidget(nullptr);
+    editor.getWidget()->setParent(nullptr);
 }
 
 void SelectionDock::release()
 {
     if (m_currentEditor == nullptr)
         return;
-    m_currentEditor->deactivate();
-    m_currentEditor->setEditedObject(nullptr);
-    m_dock->setWidget(nullptr);
-    m_currentEditor->getWidget()->setParent(nullptr);
+    // An editor that throws is given up as well, or the dock would call it again and again.
+    try {
+        m_currentEditor->deactivate();
+        m_currentEditor->setEditedObject(nullptr);
+    } catch (...) {
+        giveUp();
+        throw;
+    }
+    giveUp();
+}
+
+void SelectionDock::giveUp()
+{
+    takeOut(*m_currentEditor);
     m_currentEditor = nullptr;
     m_extension.hide();
 }

@@ -36,6 +36,8 @@ public:
 
 private:
     [[nodiscard]] OrvEditor* bestEditor(const NxTypedObject& object) const;
+    void takeOut(const OrvEditor& editor);
+    void giveUp();
 
     OrvExtension& m_extension;
     QDockWidget*& m_dock;

@@ -5,6 +5,7 @@
 #include "meridane/base/values/VbString.h"
 
 #include <QList>
+#include <QStringList>
 
 class OrvExtension;
 
@@ -34,11 +35,15 @@ protected:
     virtual ~OrvPlugin();
 
 public:
-    /// Registers an extension. The caller owns it, and it must live as long as the plug-in. Null, and an extension that
-    /// is registered already, are ignored.
+    /// Registers an extension. The caller owns it, and it must live until it was unloaded. Null, and an extension that
+    /// is registered already, are ignored. One that is destroyed is registered no more.
     void addExtension(OrvExtension* extension);
 
     [[nodiscard]] const QList<OrvExtension*>& getExtensions() const noexcept { return m_extensions; }
+    /// Whether `load` has been called for all registered extensions, and `unload` for none of them.
+    [[nodiscard]] bool isLoaded() const noexcept { return m_loadedCount == m_extensions.size(); }
+    /// The names of the registered extensions that were destroyed.
+    [[nodiscard]] const QStringList& getLostExtensions() const noexcept { return m_lostExtensions; }
     [[nodiscard]] int getInterfaceVersion() const noexcept { return m_interfaceVersion; }
     [[nodiscard]] const VbString& getName() const noexcept { return m_name; }
     [[nodiscard]] const VbString& getDescription() const noexcept { return m_description; }
@@ -53,8 +58,11 @@ protected:
     VbString m_version;
 
 private:
+    void forget(const OrvExtension* extension, const QString& name);
+
     int m_interfaceVersion;
     QList<OrvExtension*> m_extensions;
     /// The extensions before this position are loaded.
     qsizetype m_loadedCount = 0;
+    QStringList m_lostExtensions;
 };

@@ -7,14 +7,17 @@
 #include "orvane/extender/VbText.h"
 #include "orvane/extender/detail/CallExtensions.h"
 #include "orvane/extender/detail/Guarded.h"
+#include "orvane/extender/detail/LoadedPlugins.h"
+#include "orvane/extender/detail/PluginFaults.h"
 #include "orvane/extender/detail/PluginLibrary.h"
-#include "orvane/extender/detail/ThrowSite.h"
 
 #include "meridane/base/errors/NxDebugError.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 #include <QScopedValueRollback>
+#include <QWidget>
 
 #include <algorithm>
 #include <ranges>
@@ -24,32 +27,7 @@ namespace {
 
 OrvPluginsManager* theManager = nullptr;
 
-// For calls after whose failure the work goes on as usual.
-template <typename Call>
-void callAndReport(const QString& what, const Call& call)
-{
-    if (const auto thrown = orvane::guarded(call)) {
-        const QString text = QStringLiteral("%1 threw an exception: %2").arg(what, *thrown);
-        NxDebugError::post(NxDebugError::Error, orvane::toVbString(text));
-    }
-}
-
-QString titled(const OrvExtension& extension, const char* operation)
-{
-    return QStringLiteral("\"%1\" of the extension \"%2\"")
-        .arg(QLatin1String(operation), orvane::toQString(extension.getName()));
-}
-
-void unload(OrvPlugin& plugin, const QString& title)
-{
-    // A call that throws skips one extension, and the next call continues behind it.
-    for (qsizetype calls = plugin.getExtensions().size() + 1; calls > 0; --calls) {
-        const auto thrown = orvane::guarded([&] { plugin.unload(); });
-        if (!thrown)
-            return;
-        callAndReport(title, [&] { throw std::runtime_error(thrown->toStdString()); });
-    }
-}
+const QString restText = QStringLiteral(", until the program is started again");
 
 } // namespace
 
@@ -59,6 +37,7 @@ OrvPluginsManager* OrvPluginsManager::getInstance()
 }
 
 OrvPluginsManager::OrvPluginsManager()
+    : m_plugins(std::make_unique<orvane::LoadedPlugins>())
 {
     Q_ASSERT_X(theManager == nullptr, "OrvPluginsManager", "there is one manager at a time");
     theManager = this;
@@ -94,10 +73,15 @@ std::optional<QString> OrvPluginsManager::loadPlugin(const QString& fileName)
     const QString path = QFileInfo(fileName).canonicalFilePath();
     if (findPlugin(fileName) != nullptr)
         return QStringLiteral("%1: it is loaded already").arg(fileName);
+    const std::vector<NxType> classesBefore = orvane::nodeClasses();
     const orvane::OpenedLibrary opened = orvane::openPluginLibrary(fileName);
+    const QStringList brokenClasses = orvane::dropBrokenClasses(classesBefore);
     if (opened.error)
         return opened.error;
-    return takeIn({opened.library.plugin, fileName, path, opened.library.unloadPlugin});
+    auto failure = takeIn({opened.library.plugin, fileName, path, opened.library.unloadPlugin});
+    for (const QString& text : brokenClasses)
+        Q_EMIT noticed(fileName, QStringLiteral("%1: %2").arg(fileName, text));
+    return failure;
 }
 
 std::optional<QString> OrvPluginsManager::addPlugin(OrvPlugin* plugin)
@@ -105,18 +89,79 @@ std::optional<QString> OrvPluginsManager::addPlugin(OrvPlugin* plugin)
     return takeIn({plugin, orvane::toQString(plugin->getName()), {}, nullptr});
 }
 
-std::optional<QString> OrvPluginsManager::takeIn(const LoadedPlugin& plugin)
+std::optional<QString> OrvPluginsManager::takeIn(const orvane::LoadedPlugin& plugin)
 {
-    if (const auto thrown = orvane::guarded([&] { plugin.plugin->load(); })) {
-        unload(*plugin.plugin, plugin.title);
-        if (plugin.destroy != nullptr)
-            callAndReport(plugin.title, plugin.destroy);
+    bool hasCalledLoad = true;
+    const auto load = [&] {
+        plugin.plugin->load();
+        hasCalledLoad = plugin.plugin->isLoaded();
+        plugin.plugin->OrvPlugin::load();
+    };
+    if (const auto thrown = orvane::guarded(load)) {
+        unloadAndDestroy(plugin);
         return QStringLiteral("%1: it can't be loaded, for it threw an exception: %2").arg(plugin.title, *thrown);
     }
-    m_plugins.push_back(plugin);
+    m_plugins->list().push_back(plugin);
+    inspect(plugin, hasCalledLoad);
+    watch(*plugin.plugin);
     if (m_activeProfile != nullptr)
         setActiveProfile(m_activeProfile);
     return std::nullopt;
+}
+
+void OrvPluginsManager::inspect(const orvane::LoadedPlugin& plugin, bool hasCalledLoad)
+{
+    orvane::PluginFaults faults = orvane::faultsOf(*plugin.plugin);
+    if (!hasCalledLoad)
+        faults.texts.prepend(
+            QStringLiteral("its \"load\" doesn't call OrvPlugin::load, so the tool has loaded its extensions"));
+    for (OrvExtension* const extension : std::as_const(faults.unusable))
+        m_plugins->putToRest(extension);
+    for (const QString& text : std::as_const(faults.texts))
+        Q_EMIT noticed(plugin.title, QStringLiteral("%1: %2").arg(plugin.title, text));
+}
+
+void OrvPluginsManager::watch(OrvPlugin& plugin)
+{
+    for (OrvExtension* const extension : plugin.getExtensions()) {
+        connect(extension, &QObject::destroyed, this, [this, extension, &plugin] { forget(extension, &plugin); });
+        auto* const editor = qobject_cast<OrvEditor*>(extension);
+        if (QWidget* const widget = editor != nullptr ? editor->getWidget() : nullptr)
+            connect(widget, &QObject::destroyed, this, [this, editor, widget] { noteLostWidget(*editor, widget); });
+    }
+}
+
+// The dock that shows it uses the widget once more.
+void OrvPluginsManager::noteLostWidget(OrvEditor& editor, const QWidget* widget)
+{
+    const orvane::LoadedPlugin* const owner = m_plugins->findOwner(&editor);
+    if (owner == nullptr)
+        return; // unloaded
+    orvane::replaceWidget(editor, widget);
+    m_plugins->putToRest(&editor);
+    applyAgainLater();
+    notice(*owner,
+        QStringLiteral("its editor \"%1\" deleted its widget; it doesn't run any more")
+                .arg(orvane::toQString(editor.getName()))
+            + restText,
+        NxDebugError::Error);
+}
+
+void OrvPluginsManager::forget(const OrvExtension* extension, const OrvPlugin* plugin)
+{
+    m_running.removeIf([&](const OrvExtension* running) { return running == extension; });
+    m_plugins->forget(extension);
+    const auto& plugins = m_plugins->list();
+    const auto owner = std::ranges::find(plugins, plugin, &orvane::LoadedPlugin::plugin);
+    if (owner == plugins.end())
+        return; // unloaded
+    if (m_activeProfile != nullptr)
+        static_cast<void>(m_activeProfile->resolve(m_plugins->willingExtensions()));
+    shareSettings();
+    notice(*owner,
+        QStringLiteral("it deleted its extension \"%1\", which must live until it is unloaded")
+            .arg(plugin->getLostExtensions().value(plugin->getLostExtensions().size() - 1)),
+        NxDebugError::Error);
 }
 
 void OrvPluginsManager::unloadPlugins()
@@ -128,74 +173,71 @@ void OrvPluginsManager::unloadPlugins()
         changeProfile(nullptr);
     for (const auto& profile : m_profiles)
         profile->resolve({});
-    while (!m_plugins.empty()) {
-        const LoadedPlugin plugin = m_plugins.back();
-        m_plugins.pop_back();
-        unload(*plugin.plugin, plugin.title);
-        if (plugin.destroy != nullptr)
-            callAndReport(plugin.title, plugin.destroy);
+    while (!m_plugins->list().empty()) {
+        const orvane::LoadedPlugin plugin = m_plugins->list().back();
+        m_plugins->list().pop_back();
+        unloadAndDestroy(plugin);
     }
 }
 
 const OrvPlugin* OrvPluginsManager::findPlugin(const QString& fileName) const
 {
-    const QString path = QFileInfo(fileName).canonicalFilePath();
-    const auto isSameFile = [&](const LoadedPlugin& plugin) { return plugin.fileName == path; };
-    const auto found = path.isEmpty() ? m_plugins.end() : std::ranges::find_if(m_plugins, isSameFile);
-    return found != m_plugins.end() ? found->plugin : nullptr;
+    const orvane::LoadedPlugin* const found = m_plugins->findFile(fileName);
+    return found != nullptr ? found->plugin : nullptr;
 }
 
 QList<OrvExtension*> OrvPluginsManager::getExtensions() const
 {
-    QList<OrvExtension*> extensions;
-    for (const LoadedPlugin& plugin : m_plugins)
-        extensions += plugin.plugin->getExtensions();
-    return extensions;
-}
-
-// The extensions of the plug-ins that aren't at rest.
-QList<OrvExtension*> OrvPluginsManager::willingExtensions() const
-{
-    QList<OrvExtension*> extensions;
-    for (const LoadedPlugin& plugin : m_plugins) {
-        if (!plugin.isResting)
-            extensions += plugin.plugin->getExtensions();
-    }
-    return extensions;
-}
-
-// The innermost plug-in that took part in the latest exception.
-OrvPluginsManager::LoadedPlugin* OrvPluginsManager::findThrower()
-{
-    for (const QString& library : orvane::throwingLibraries()) {
-        const QString path = QFileInfo(library).canonicalFilePath();
-        const auto found
-            = std::ranges::find_if(m_plugins, [&](const LoadedPlugin& plugin) { return plugin.fileName == path; });
-        if (found != m_plugins.end() && !path.isEmpty())
-            return &*found;
-    }
-    return nullptr;
+    return m_plugins->extensions();
 }
 
 bool OrvPluginsManager::handleException(const QString& during)
 {
-    LoadedPlugin* const thrower = findThrower();
+    return putToRest(during, nullptr);
+}
+
+// Of a plug-in whose extension was running, that extension, else all of them: it isn't known then which one threw.
+bool OrvPluginsManager::putToRest(const QString& during, OrvExtension* running)
+{
+    orvane::LoadedPlugin* const owner = running != nullptr ? m_plugins->findOwner(running) : nullptr;
+    orvane::LoadedPlugin* thrower = m_plugins->findThrower();
+    thrower = thrower != nullptr ? thrower : owner;
     if (thrower == nullptr)
         return false;
     constexpr qsizetype manyExtensions = 8;
-    QString text = QStringLiteral("%1: it threw an exception during %2: %3")
-                       .arg(thrower->title, during, orvane::exceptionText());
-    if (!thrower->isResting && thrower->plugin->getExtensions().size() <= manyExtensions) {
-        text += QStringLiteral("; its extensions don't run any more, until the program is started again");
+    QString text = QStringLiteral("it threw an exception during %1: %2").arg(during, orvane::exceptionText());
+    if (thrower->reported.contains(text))
+        return true;
+    thrower->reported.insert(text);
+    if (thrower == owner && m_plugins->isResting(running)) {
+        // That was said before.
+    } else if (thrower == owner) {
+        text += QStringLiteral("; the extension doesn't run any more") + restText;
+        m_plugins->putToRest(running);
+        applyAgainLater();
+    } else if (!thrower->isResting && thrower->plugin->getExtensions().size() <= manyExtensions) {
+        text += QStringLiteral("; its extensions don't run any more") + restText;
         thrower->isResting = true;
-        const auto applyAgain = [this] {
-            if (m_activeProfile != nullptr)
-                setActiveProfile(m_activeProfile);
-        };
-        QMetaObject::invokeMethod(this, applyAgain, Qt::QueuedConnection);
+        applyAgainLater();
     }
-    NxDebugError::post(NxDebugError::Error, orvane::toVbString(text));
+    notice(*thrower, text, NxDebugError::Error);
     return true;
+}
+
+void OrvPluginsManager::applyAgainLater()
+{
+    const auto applyAgain = [this] {
+        if (m_activeProfile != nullptr)
+            setActiveProfile(m_activeProfile);
+    };
+    QMetaObject::invokeMethod(this, applyAgain, Qt::QueuedConnection);
+}
+
+void OrvPluginsManager::notice(const orvane::LoadedPlugin& plugin, const QString& text, int severity)
+{
+    const QString line = QStringLiteral("%1: %2").arg(plugin.title, text);
+    Q_EMIT noticed(plugin.title, line);
+    NxDebugError::post(severity, orvane::toVbString(line));
 }
 
 std::optional<QString> OrvPluginsManager::addProfile(std::unique_ptr<OrvProfile> profile)
@@ -236,7 +278,7 @@ void OrvPluginsManager::changeProfile(OrvProfile* profile)
     deactivateExtensions();
     m_activeProfile = profile;
     if (profile != nullptr)
-        reportMissing(*profile, profile->resolve(willingExtensions()));
+        reportMissing(*profile, profile->resolve(m_plugins->willingExtensions()));
     shareSettings();
     activateExtensions();
     if (OrvServices* const services = OrvServices::getInstance(); services != nullptr && profile != nullptr)
@@ -248,8 +290,7 @@ void OrvPluginsManager::reportMissing(const OrvProfile& profile, const QStringLi
 {
     const std::pair report(&profile, names);
     // Without any plug-in, or with one at rest, the user knows.
-    if (names.isEmpty() || m_reportedMissing == report || m_plugins.empty()
-        || std::ranges::any_of(m_plugins, &LoadedPlugin::isResting))
+    if (names.isEmpty() || m_reportedMissing == report || m_plugins->list().empty() || m_plugins->areAnyResting())
         return;
     m_reportedMissing = report;
     constexpr qsizetype mostNames = 5;
@@ -263,12 +304,55 @@ void OrvPluginsManager::reportMissing(const OrvProfile& profile, const QStringLi
     NxDebugError::post(NxDebugError::Warning, orvane::toVbString(text));
 }
 
+void OrvPluginsManager::reportMended(const QString& text)
+{
+    if (const orvane::LoadedPlugin* const owner = m_plugins->findOwner(m_called))
+        notice(*owner, text, NxDebugError::Warning);
+}
+
+// An operation that throws doesn't keep the others from being called.
+template <typename Call>
+void OrvPluginsManager::callExtension(OrvExtension& extension, const char* operation, const Call& call)
+{
+    const QScopedValueRollback<const OrvExtension*> called(m_called, &extension);
+    try {
+        call();
+    } catch (...) {
+        const QString during = QStringLiteral("\"%1\" of the extension \"%2\"")
+                                   .arg(QLatin1String(operation), orvane::toQString(extension.getName()));
+        if (!putToRest(during, &extension))
+            throw;
+    }
+}
+
 void OrvPluginsManager::deactivateExtensions()
 {
     while (!m_running.isEmpty()) {
-        OrvExtension& extension = *m_running.takeLast();
-        callAndReport(titled(extension, "deactivate"), [&] { extension.deactivate(); });
+        const QPointer<OrvExtension> extension = m_running.takeLast();
+        callExtension(*extension, "deactivate", [&] { extension->deactivate(); });
+        // A dock may have been stopped half-way by an editor, which it has given up then.
+        if (extension && extension->isActive())
+            static_cast<void>(orvane::guarded([&] { extension->deactivate(); }));
     }
+    // Editors are deactivated by the docks.
+    const QList<OrvExtension*> extensions = getExtensions();
+    for (OrvExtension* const extension : extensions)
+        dropConnections(*extension);
+}
+
+void OrvPluginsManager::dropConnections(OrvExtension& extension)
+{
+    if (!orvane::disconnectFromServices(extension))
+        return;
+    const QString text
+        = QStringLiteral("its extension \"%1\" was still connected to the tool after its \"deactivate\"; "
+                         "the tool has disconnected it")
+              .arg(orvane::toQString(extension.getName()));
+    orvane::LoadedPlugin* const owner = m_plugins->findOwner(&extension);
+    if (owner == nullptr || owner->reported.contains(text))
+        return;
+    owner->reported.insert(text);
+    notice(*owner, text, NxDebugError::Warning);
 }
 
 /// Gives each extension its setting in the active profile.
@@ -280,11 +364,14 @@ void OrvPluginsManager::shareSettings() const
 
 void OrvPluginsManager::activateExtensions()
 {
-    for (OrvExtension* const extension : getExtensions()) {
-        if (extension->getProfileSetting() == nullptr)
+    const QList<OrvExtension*> extensions = getExtensions();
+    // One may delete another one.
+    const QList<QPointer<OrvExtension>> living(extensions.begin(), extensions.end());
+    for (const QPointer<OrvExtension>& extension : living) {
+        if (!extension || extension->getProfileSetting() == nullptr)
             continue;
         m_running.append(extension);
-        callAndReport(titled(*extension, "activate"), [&] { extension->activate(); });
+        callExtension(*extension, "activate", [&] { extension->activate(); });
     }
 }
 

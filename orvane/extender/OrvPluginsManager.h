@@ -10,9 +10,16 @@
 #include <optional>
 #include <utility>
 
+class OrvEditor;
 class OrvExtension;
 class OrvPlugin;
 class OrvProfile;
+class QWidget;
+
+namespace orvane {
+class LoadedPlugins;
+struct LoadedPlugin;
+} // namespace orvane
 
 /// Loads plug-ins and keeps the profiles, of which one is active.
 ///
@@ -36,7 +43,7 @@ public:
     /// Loads the library and the plug-in that it makes, with its extensions. Returns the message of the failure, in one
     /// line that begins with the file name, or nothing. A plug-in that fails to load is unloaded and destroyed again. A
     /// library that was mapped stays mapped until the process ends. If a profile is active, it is applied again, for
-    /// the new extensions.
+    /// the new extensions. What is wrong with a plug-in that was loaded is told by `noticed`.
     [[nodiscard]] std::optional<QString> loadPlugin(const QString& fileName);
     /// Loads a plug-in that the caller made. The caller destroys it after `unloadPlugins`, or at once if this fails.
     [[nodiscard]] std::optional<QString> addPlugin(OrvPlugin* plugin);
@@ -57,6 +64,10 @@ public:
     /// on, since most of it isn't concerned.
     [[nodiscard]] bool handleException(const QString& during);
 
+    /// Reports a fault that the host has mended, such as "a dock of it has no title": a text that goes on after the
+    /// plug-in's name. Does nothing unless an extension is being activated or deactivated, whose plug-in is meant.
+    void reportMended(const QString& text);
+
     /// Appends a profile. A profile without a name, or with one that is taken, is refused with a message.
     [[nodiscard]] std::optional<QString> addProfile(std::unique_ptr<OrvProfile> profile);
     /// The profiles in the order in which a user sees them.
@@ -76,36 +87,38 @@ public:
     /// call during `unloadPlugins` is ignored.
     void setActiveProfile(OrvProfile* profile);
 
-private:
-    struct LoadedPlugin {
-        OrvPlugin* plugin = nullptr;
-        /// Its name in messages: the file name, or the plug-in's name.
-        QString title;
-        /// The library's canonical path; empty for a plug-in that the caller made.
-        QString fileName;
-        /// Destroys the plug-in; null if the caller does so.
-        void (*destroy)() = nullptr;
-        /// An exception has left it.
-        bool isResting = false;
-    };
+Q_SIGNALS:
+    /// Something is wrong with a plug-in that is loaded: its file name, as it was passed to `loadPlugin`, and a text of
+    /// one line that begins with it. What goes wrong once it was loaded is posted as an `NxDebugError` as well.
+    void noticed(const QString& fileName, const QString& text);
 
-    [[nodiscard]] LoadedPlugin* findThrower();
-    [[nodiscard]] QList<OrvExtension*> willingExtensions() const;
-    [[nodiscard]] std::optional<QString> takeIn(const LoadedPlugin& plugin);
+private:
+    [[nodiscard]] bool putToRest(const QString& during, OrvExtension* running);
+    void applyAgainLater();
+    void notice(const orvane::LoadedPlugin& plugin, const QString& text, int severity);
+    void inspect(const orvane::LoadedPlugin& plugin, bool hasCalledLoad);
+    void watch(OrvPlugin& plugin);
+    void noteLostWidget(OrvEditor& editor, const QWidget* widget);
+    void forget(const OrvExtension* extension, const OrvPlugin* plugin);
+    template <typename Call>
+    void callExtension(OrvExtension& extension, const char* operation, const Call& call);
+    [[nodiscard]] std::optional<QString> takeIn(const orvane::LoadedPlugin& plugin);
     void changeProfile(OrvProfile* profile);
     void reportMissing(const OrvProfile& profile, const QStringList& names);
     void deactivateExtensions();
+    void dropConnections(OrvExtension& extension);
     void shareSettings() const;
     void activateExtensions();
     void changeProfileLater(OrvProfile* profile);
 
-    std::list<LoadedPlugin> m_plugins;
+    std::unique_ptr<orvane::LoadedPlugins> m_plugins;
     std::list<std::unique_ptr<OrvProfile>> m_profiles;
     std::list<OrvProfile*> m_profilesList;
     /// The extensions that the active profile runs, in the order of activation.
     QList<OrvExtension*> m_running;
     OrvProfile* m_activeProfile = nullptr;
     std::pair<const OrvProfile*, QStringList> m_reportedMissing; // what was said last
+    const OrvExtension* m_called = nullptr; // that is being activated or deactivated
     bool m_isChanging = false;
     bool m_isUnloading = false;
     /// The profile of the last call during a change, which may be null.

@@ -60,7 +60,15 @@ private:
 };
 
 using RecordingExtension = Recording<OrvExtension>;
-using RecordingEditor = Recording<OrvEditor>;
+
+/// The manager leaves out editors that have no widget.
+class RecordingEditor : public Recording<OrvEditor> {
+public:
+    using Recording::Recording;
+
+    /// The widget lives longer.
+    void setWidget(QWidget* widget) { m_widget = widget; }
+};
 
 /// A plug-in of extensions that a test has made.
 class TestPlugin : public OrvPlugin {

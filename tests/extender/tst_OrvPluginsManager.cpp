@@ -8,8 +8,8 @@
 #include "meridane/scene/nodes/NxPointLight.h"
 
 #include <QComboBox>
-#include <QSignalSpy>
 #include <QTest>
+#include <QWidget>
 
 #include <stdexcept>
 
@@ -20,11 +20,18 @@ using namespace Qt::StringLiterals;
 class TestOrvPluginsManager : public QObject {
     Q_OBJECT
 
+    static void keep(const NxError* error, void* texts)
+    {
+        static_cast<QStringList*>(texts)->append(QString::fromUtf8(error->getDebugString().toUtf8()));
+    }
+
     struct Tool {
         Tool()
             : editors({&text, &number, &console, &fieldDock, &nodeDock})
             , others({&toolBar})
         {
+            text.setWidget(&widget);
+            number.setWidget(&widget);
             addProfile(u"All"_s, {{u"*"_s, true, {u"*"_s}}});
             addProfile(u"Quiet"_s, {{u"*"_s, true, {u"Text"_s}}, {u"Console"_s, false, {}}});
             addProfile(u"None"_s, {});
@@ -42,6 +49,7 @@ class TestOrvPluginsManager : public QObject {
         void run(const QString& profile) { manager.setActiveProfile(manager.findProfile(profile)); }
         [[nodiscard]] OrvProfile* profile(const QString& name) const { return manager.findProfile(name); }
 
+        QWidget widget;
         QStringList calls;
         RecordingEditor text{u"Text"_s, calls};
         RecordingEditor number{u"Number"_s, calls};
@@ -55,6 +63,8 @@ class TestOrvPluginsManager : public QObject {
     };
 
 private Q_SLOTS:
+    void cleanup() { NxDebugError::setHandlerCallback(nullptr, nullptr); }
+
     void theManagerIsTheOneThatLives()
     {
         QVERIFY(OrvPluginsManager::getInstance() == nullptr);
@@ -118,10 +128,7 @@ private Q_SLOTS:
     void extensionsThatAProfileNamesAndNobodyHasAreToldOnce()
     {
         QStringList errors;
-        const auto keep = [](const NxError* error, void* data) {
-            static_cast<QStringList*>(data)->append(QString::fromUtf8(error->getDebugString().toUtf8()));
-        };
-        NxDebugError::setHandlerCallback(keep, &errors);
+        NxDebugError::setHandlerCallback(&keep, &errors);
         Tool tool;
         tool.addProfile(u"Other"_s, {{u"Compass"_s, true, {}}, {u"FieldDock"_s, true, {u"Dial"_s}}});
         tool.run(u"Other"_s);
@@ -130,7 +137,6 @@ private Q_SLOTS:
         tool.run(u"Other"_s);
         tool.run(u"All"_s);
         tool.run(u"Other"_s);
-        NxDebugError::setHandlerCallback(nullptr, nullptr);
         QCOMPARE(withoutPlugins, QStringList());
         QCOMPARE(errors.size(), 1);
         QVERIFY2(errors.front().contains(
@@ -218,26 +224,23 @@ private Q_SLOTS:
     void whatARunningExtensionThrowsIsPostedAndTheOthersGoOn()
     {
         QStringList errors;
-        const auto keep = [](const NxError* error, void* data) {
-            static_cast<QStringList*>(data)->append(QString::fromUtf8(error->getDebugString().toUtf8()));
-        };
-        NxDebugError::setHandlerCallback(keep, &errors);
-        {
-            Tool tool;
-            tool.loadPlugins();
-            tool.fieldDock.whenActivated = [] { throw std::runtime_error("no room"); };
-            tool.nodeDock.whenDeactivated = [] { throw 1; };
-            taken(tool.calls);
-            tool.run(u"Quiet"_s);
-            tool.run(u"None"_s);
-            QCOMPARE(taken(tool.calls),
-                words("FieldDock.activate NodeDock.activate ToolBar.activate "
-                      "ToolBar.deactivate NodeDock.deactivate FieldDock.deactivate"));
-        }
-        NxDebugError::setHandlerCallback(nullptr, nullptr);
+        NxDebugError::setHandlerCallback(&keep, &errors);
+        Tool tool;
+        tool.loadPlugins();
+        tool.fieldDock.whenActivated = [] { throw std::runtime_error("no room"); };
+        tool.nodeDock.whenDeactivated = [] { throw 1; };
+        taken(tool.calls);
+        tool.run(u"Quiet"_s);
+        tool.run(u"None"_s);
+        QCOMPARE(taken(tool.calls),
+            words("FieldDock.activate NodeDock.activate ToolBar.activate "
+                  "ToolBar.deactivate NodeDock.deactivate FieldDock.deactivate"));
         QCOMPARE(errors,
-            (QStringList{u"\"activate\" of the extension \"FieldDock\" threw an exception: no room"_s,
-                u"\"deactivate\" of the extension \"NodeDock\" threw an exception: of unknown kind"_s}));
+            (QStringList{
+                u"Test plug-in: it threw an exception during \"activate\" of the extension \"FieldDock\": no room; "
+                "the extension doesn't run any more, until the program is started again"_s,
+                u"Test plug-in: it threw an exception during \"deactivate\" of the extension \"NodeDock\": of unknown "
+                "kind; the extension doesn't run any more, until the program is started again"_s}));
     }
 
     void profilesAreListedInOrderAndFoundByName()

@@ -17,6 +17,8 @@
 namespace {
 
 const QString offKey = QStringLiteral("plugins/off");
+// An extension may throw at each event.
+constexpr qsizetype mostWarnings = 20;
 const QString suspectsKey = QStringLiteral("plugins/suspects");
 
 // Two names of one file are the same plug-in. One that is gone has no canonical path, but may come back.
@@ -34,6 +36,7 @@ PluginLoader::PluginLoader(OrvPluginsManager& manager, AppSettings& settings, QS
     , m_settings(settings)
     , m_notesFolder(std::move(notesFolder))
 {
+    connect(&m_manager, &OrvPluginsManager::noticed, this, &PluginLoader::addWarning);
 }
 
 QStringList PluginLoader::load(const QStringList& found, const QStringList& askedFor)
@@ -83,7 +86,10 @@ PluginRecord PluginLoader::loaded(const QString& fileName)
     PluginRecord record{fileName, State::Loaded};
     QElapsedTimer timer;
     timer.start();
+    const QMetaObject::Connection listening = connect(&m_manager, &OrvPluginsManager::noticed, this,
+        [&record](const QString&, const QString& text) { record.warnings.append(text); });
     const std::optional<QString> failure = m_manager.loadPlugin(fileName);
+    disconnect(listening);
     constexpr double nanosecondsPerMillisecond = 1e6;
     record.milliseconds = static_cast<double>(timer.nsecsElapsed()) / nanosecondsPerMillisecond;
     if (failure) {
@@ -122,6 +128,17 @@ void PluginLoader::addClashes(PluginRecord& record) const
                                            .arg(record.fileName, name, other.fileName));
             }
         }
+    }
+}
+
+// Of one that is running.
+void PluginLoader::addWarning(const QString& fileName, const QString& text)
+{
+    for (PluginRecord& record : m_records) {
+        if (record.fileName != fileName || record.state != State::Loaded || record.warnings.size() >= mostWarnings)
+            continue;
+        record.warnings.append(text);
+        Q_EMIT changed();
     }
 }
 

@@ -25,7 +25,7 @@ public:
     PluginLoader(OrvPluginsManager& manager, AppSettings& settings, QString notesFolder);
 
     /// Loads the found ones that aren't left out, and then all of those that were asked for. Returns a message for each
-    /// that failed, and one for each name that two extensions have.
+    /// that failed, and one for each thing that is wrong with one that was loaded.
     QStringList load(const QStringList& found, const QStringList& askedFor = {});
 
     [[nodiscard]] const std::vector<PluginRecord>& records() const noexcept { return m_records; }
@@ -48,6 +48,7 @@ private:
     [[nodiscard]] PluginRecord loaded(const QString& fileName);
     void describe(PluginRecord& record) const;
     void addClashes(PluginRecord& record) const;
+    void addWarning(const QString& fileName, const QString& text);
 
     OrvPluginsManager& m_manager;
     AppSettings& m_settings;

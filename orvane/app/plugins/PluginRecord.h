@@ -15,7 +15,7 @@ struct PluginRecord {
     QString fileName; ///< as it was found
     State state = State::Loaded;
     QString message = {}; ///< one line, for a failure
-    QStringList warnings = {}; ///< what was posted while it was loaded
+    QStringList warnings = {}; ///< what is wrong with it though it was loaded, a line each
     double milliseconds = 0; ///< that loading took
     // What a loaded plug-in says of itself.
     QString name = {};

@@ -1,6 +1,7 @@
 #include "orvane/app/window/WindowShell.h"
 
 #include "orvane/app/base/TextGuard.h"
+#include "orvane/extender/OrvPluginsManager.h"
 
 #include <QDockWidget>
 #include <QEvent>
@@ -15,10 +16,15 @@ namespace {
 /// High enough for a column of five buttons.
 constexpr int bottomDockHeight = 250;
 
-void giveName(QWidget* widget, const QString& title)
+// Places are kept by the name.
+void giveName(QWidget* widget, const QString& title, const QString& fault)
 {
-    if (widget->objectName().isEmpty())
-        widget->setObjectName(title);
+    if (!widget->objectName().isEmpty())
+        return;
+    widget->setObjectName(title.isEmpty() ? QStringLiteral("unnamed") : title);
+    OrvPluginsManager* const plugins = OrvPluginsManager::getInstance();
+    if (title.isEmpty() && plugins != nullptr)
+        plugins->reportMended(fault);
 }
 
 /// A widget that was never shown nor hidden shows up with its window.
@@ -41,7 +47,7 @@ void WindowShell::addDockWidget(QDockWidget* dock, int area)
     if (dock == nullptr || m_docks.contains(dock))
         return;
     TextGuard::guard(dock);
-    giveName(dock, dock->windowTitle());
+    giveName(dock, dock->windowTitle(), tr("a dock of it has neither a title nor a name, so its place may get lost"));
     const bool hidden = isHiddenOnPurpose(dock);
     m_docks.append(dock);
     connect(dock, &QObject::destroyed, this, &WindowShell::forget);
@@ -138,7 +144,8 @@ void WindowShell::addToolBar(QToolBar* toolBar, int area)
 {
     if (toolBar == nullptr || m_toolBars.contains(toolBar))
         return;
-    giveName(toolBar, toolBar->windowTitle());
+    giveName(toolBar, toolBar->windowTitle(),
+        tr("a tool bar of it has neither a title nor a name, so its place may get lost"));
     const bool hidden = isHiddenOnPurpose(toolBar);
     m_toolBars.append(toolBar);
     connect(toolBar, &QObject::destroyed, this, &WindowShell::forget);

@@ -1,6 +1,7 @@
 #include "orvane/extender/detail/HistoryStep.h"
 
 #include "orvane/extender/OrvCommand.h"
+#include "orvane/extender/detail/CallExtensions.h"
 
 #include "meridane/scene/fields/NxFieldContainer.h"
 
@@ -28,15 +29,18 @@ void HistoryStep::add(std::unique_ptr<OrvCommand> command, NxFieldContainer* nod
     hold(fieldOwner);
 }
 
+// What one command throws doesn't keep the step from being undone: the journal knows what it has to be.
 void HistoryStep::undoCommands()
 {
-    std::for_each(m_commands.rbegin(), m_commands.rend(), [](const auto& command) { command->undo(); });
+    std::for_each(m_commands.rbegin(), m_commands.rend(), [](const auto& command) {
+        orvane::callExtensions(QStringLiteral("the undo of a command"), [&] { command->undo(); });
+    });
 }
 
 void HistoryStep::redoCommands()
 {
     for (const auto& command : m_commands)
-        command->redo();
+        orvane::callExtensions(QStringLiteral("the redo of a command"), [&] { command->redo(); });
 }
 
 void HistoryStep::updateLabel(const NxGroup& scene)

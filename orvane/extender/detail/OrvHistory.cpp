@@ -2,6 +2,7 @@
 
 #include "orvane/extender/OrvCommand.h"
 #include "orvane/extender/detail/CommandBytes.h"
+#include "orvane/extender/detail/ExecuteCommand.h"
 
 #include "meridane/scene/journal/Journal.h"
 
@@ -54,7 +55,7 @@ void OrvHistory::push(std::unique_ptr<OrvCommand> command, const Context& contex
         return;
     }
     if (m_work == Work::Moving) {
-        command->execute();
+        orvane::executeCommand(*command);
         return;
     }
     const Working working(*this, Work::Executing);
@@ -76,7 +77,7 @@ void OrvHistory::execute(std::unique_ptr<OrvCommand> command, const Context& con
     const CommandBytes estimate(context.field);
     OrvCommand& executed = *command;
     m_open->add(std::move(command), context.node, context.fieldOwner);
-    executed.execute();
+    orvane::executeCommand(executed);
     m_open->addCommandBytes(estimate.afterExecution());
 }
 

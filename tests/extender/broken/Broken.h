@@ -6,6 +6,8 @@
 #include "orvane/extender/OrvEditor.h"
 #include "orvane/extender/OrvServices.h"
 
+#include "meridane/scene/fields/NxField.h"
+
 /// An extension, or editor, that does nothing by itself.
 template <typename Base>
 class Quiet : public Base {

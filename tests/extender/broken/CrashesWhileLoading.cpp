@@ -1,0 +1,11 @@
+#include "extender/broken/Broken.h"
+
+#include <csignal>
+
+OrvPlugin* loadPlugin()
+{
+    std::raise(SIGSEGV);
+    return nullptr;
+}
+
+void unloadPlugin() { }

@@ -1,0 +1,3 @@
+#include "extender/broken/EditorOfFloats.h"
+
+BROKEN_EXTENSION(EditorOfFloats)

@@ -1,0 +1,11 @@
+#include "extender/broken/Broken.h"
+
+#include <unistd.h>
+
+OrvPlugin* loadPlugin()
+{
+    for (;;)
+        ::pause();
+}
+
+void unloadPlugin() { }
