@@ -1,159 +1,16 @@
 #include "meridane/gl/NxSceneDrawing.h"
 
-#include "meridane/gl/geometry/MatrixMath.h"
-#include "meridane/gl/geometry/NxViewpoint.h"
-#include "meridane/gl/gpu/detail/GLStateScope.h"
-#include "meridane/gl/painting/detail/Ground.h"
-#include "meridane/gl/painting/detail/ItemPainter.h"
-#include "meridane/gl/painting/detail/LinePainter.h"
-#include "meridane/gl/painting/detail/MarkPainter.h"
-#include "meridane/gl/painting/detail/OutlinePainter.h"
-#include "meridane/gl/painting/detail/ScreenPass.h"
-#include "meridane/gl/painting/detail/SeenItems.h"
-#include "meridane/gl/painting/detail/WirePainter.h"
-#include "meridane/gl/places/detail/OutlinedItems.h"
-#include "meridane/gl/places/detail/PlacedScene.h"
+#include "meridane/gl/detail/ScenePainter.h"
 
-#include <algorithm>
-#include <array>
+#include <limits>
 #include <utility>
 
 using namespace meridane;
 
-namespace {
-
-constexpr const char* backgroundSource = R"(
-uniform vec3 bottom;
-uniform vec3 top;
-uniform float height;
-out vec4 pictureColor;
-void main()
-{
-    pictureColor = vec4(mix(bottom, top, gl_FragCoord.y / height), 1.0);
-}
-)";
-
-} // namespace
-
-class NxSceneDrawing::Private {
+class NxSceneDrawing::Private : public ScenePainter {
 public:
-    explicit Private(const NxGLFunctions& functions)
-        : gl(functions)
-        , errors(functions)
-        , painter(functions, errors)
-        , lines(functions)
-        , outline(functions)
-        , seenItems(functions)
-        , marks(functions)
-        , wires(functions)
-        , background(functions, "the background", backgroundSource)
-        , scene({[this] { noteChange(); }, [this](MeshRecord& mesh) { painter.meshes().release(mesh); },
-              [this](TextureRecord& texture) { painter.textures().release(texture); }})
-    {
-    }
-
-    void noteChange()
-    {
-        if (!std::exchange(isChangeReported, true) && changeHook)
-            changeHook();
-    }
-    void drawOutlines(const PictureFrame& frame);
-    [[nodiscard]] float lineWidth(float wanted) const;
-    void drawBackground(int height);
-    void drawMeshesAndLines(const Ground& ground, const PictureFrame& frame);
-    void drawMarks(const PictureFrame& frame);
-
-    const NxGLFunctions& gl;
-    NxDrawingStyle style;
-    NxImageLoader loader;
-    std::function<void()> changeHook;
-    NxDrawingCounts counts;
-    OutlinedItems selected;
-    OutlinedItems otherSelected;
-    OutlinedItems hovered;
-    bool isChangeReported = false;
-
-    GLErrors errors;
-    ItemPainter painter;
-    LinePainter lines;
-    OutlinePainter outline;
-    SeenItems seenItems;
-    MarkPainter marks;
-    WirePainter wires;
-    std::vector<NxRef<NxNode>> markedPath;
-    ScreenPass background;
-    PlacedScene scene; // last: its destructor releases objects of the painters
+    using ScenePainter::ScenePainter;
 };
-
-void NxSceneDrawing::Private::drawOutlines(const PictureFrame& frame)
-{
-    NxDrawingStyle weaker = style;
-    weaker.outlineWidth /= 2;
-    weaker.outlineColor = style.otherOutlineColor;
-    outline.draw(scene, otherSelected.update(scene), painter, frame, weaker, counts);
-    weaker.outlineColor = style.hoverOutlineColor;
-    outline.draw(scene, hovered.update(scene), painter, frame, weaker, counts);
-    outline.draw(scene, selected.update(scene), painter, frame, style, counts);
-}
-
-// Limited to what the context supports.
-float NxSceneDrawing::Private::lineWidth(float wanted) const
-{
-    int flags = 0;
-    gl.GetIntegerv(GL_CONTEXT_FLAGS, &flags);
-    if ((flags & GL_CONTEXT_FLAG_FORWARD_COMPATIBLE_BIT) != 0 || !(wanted > 1))
-        return 1;
-    std::array<float, 2> range{1, 1};
-    gl.GetFloatv(GL_ALIASED_LINE_WIDTH_RANGE, range.data());
-    return std::clamp(wanted, range[0], range[1]);
-}
-
-void NxSceneDrawing::Private::drawBackground(int height)
-{
-    gl.Clear(GL_DEPTH_BUFFER_BIT);
-    if (!background.use())
-        return;
-    gl.Uniform3fv(background.uniform("bottom"), 1, style.backgroundBottom.getValue());
-    gl.Uniform3fv(background.uniform("top"), 1, style.backgroundTop.getValue());
-    gl.Uniform1f(background.uniform("height"), static_cast<float>(height));
-    background.draw();
-}
-
-void NxSceneDrawing::Private::drawMeshesAndLines(const Ground& ground, const PictureFrame& frame)
-{
-    const GLenum polygonMode = style.surfaces == NxDrawingStyle::WIREFRAME ? GL_LINE : GL_FILL;
-    GLStateScope depth(gl);
-    depth.setEnabled(GL_DEPTH_TEST);
-    depth.setDepthFunction(GL_LEQUAL);
-    {
-        GLStateScope surfaces(gl);
-        surfaces.setPolygonMode(polygonMode);
-        surfaces.setEnabled(GL_CLIP_DISTANCE0, style.section.isOn);
-        painter.drawOpaque(scene, counts);
-    }
-    wires.draw(scene, painter, frame, style, counts);
-    {
-        GLStateScope blending(gl);
-        blending.blend();
-        ground.addLines(lines);
-        painter.addBoxes(scene, lines);
-        lines.draw(frame.eyeToClip, counts);
-    }
-    GLStateScope surfaces(gl);
-    surfaces.setPolygonMode(polygonMode);
-    surfaces.setEnabled(GL_CLIP_DISTANCE0, style.section.isOn);
-    painter.drawTranslucent(scene, counts);
-}
-
-void NxSceneDrawing::Private::drawMarks(const PictureFrame& frame)
-{
-    if (marks.isEmpty() || scene.root() == nullptr)
-        return;
-    Matrix4d worldTransform = localTransformOf(*scene.root());
-    for (const NxRef<NxNode>& node : markedPath)
-        worldTransform = multiply(localTransformOf(*node), worldTransform);
-    marks.draw(worldTransform, frame, style, counts);
-}
 
 NxSceneDrawing::NxSceneDrawing(const NxGLFunctions& functions)
     : m_private(std::make_unique<Private>(functions))
@@ -257,52 +114,39 @@ void NxSceneDrawing::setChangeHook(std::function<void()> hook)
     m_private->changeHook = std::move(hook);
 }
 
-void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, float scale)
+void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, float scale, float error)
 {
     if (width <= 0 || height <= 0)
         return;
-    Private& self = *m_private;
-    const NxGLFunctions& gl = self.gl;
-    self.isChangeReported = false;
-    self.counts.drawCalls = 0;
-    self.scene.update();
-    const Ground ground(viewpoint, self.style);
-    NxBounds shown = self.scene.tree().bounds();
-    shown.include(ground.bounds());
-    const PictureFrame frame(viewpoint, shown, width, height, scale);
+    m_private->begin(viewpoint, width, height, scale, error);
+    static_cast<void>(m_private->proceed(std::numeric_limits<std::uint64_t>::max()));
+}
 
-    gl.Viewport(0, 0, width, height);
-    gl.ActiveTexture(GL_TEXTURE0);
-    {
-        GLStateScope picture(gl);
-        picture.bindObjects();
-        self.drawBackground(height);
-        self.painter.prepare(self.scene, frame, self.style, self.loader, self.counts);
-        picture.setEnabled(GL_PROGRAM_POINT_SIZE);
-        picture.setLineWidth(self.lineWidth(scale));
-        self.drawMeshesAndLines(ground, frame);
-        self.drawOutlines(frame);
-        self.drawMarks(frame);
-    }
-    ++self.counts.pictures;
-    self.errors.report("Drawing the scene");
+void NxSceneDrawing::begin(const NxViewpoint& viewpoint, int width, int height, float scale)
+{
+    if (width > 0 && height > 0)
+        m_private->begin(viewpoint, width, height, scale, 0);
+}
+
+NxSceneDrawing::PictureState NxSceneDrawing::proceed(std::uint64_t corners)
+{
+    return m_private->proceed(corners);
+}
+
+void NxSceneDrawing::reduceMeshes(const std::function<bool()>& isTimeOver)
+{
+    m_private->reduceMeshes(isTimeOver);
+}
+
+bool NxSceneDrawing::isReducing() const
+{
+    return m_private->isReducing();
 }
 
 std::vector<std::vector<NxNode*>> NxSceneDrawing::seenIn(
     const NxPixelRectangle& part, const NxViewpoint& viewpoint, int width, int height, float scale)
 {
-    Private& self = *m_private;
-    self.scene.update();
-    const PictureFrame frame(viewpoint, self.scene.tree().bounds(), width, height, scale);
-    GLStateScope picture(self.gl);
-    picture.bindObjects();
-    self.gl.ActiveTexture(GL_TEXTURE0);
-    self.painter.prepare(self.scene, frame, self.style, self.loader, self.counts);
-    std::vector<std::vector<NxNode*>> paths;
-    for (const Id item : self.seenItems.find(self.scene, self.painter, frame, self.style, part, self.counts))
-        paths.push_back(self.scene.pathOf(item));
-    self.errors.report("Finding what is seen");
-    return paths;
+    return m_private->seenIn(part, viewpoint, width, height, scale);
 }
 
 NxBounds NxSceneDrawing::bounds()
@@ -347,18 +191,6 @@ std::uint64_t NxSceneDrawing::structure() const
 
 void NxSceneDrawing::contextLost()
 {
-    Private& self = *m_private;
-    self.scene.forEach<MeshRecord>(NodeKind::Mesh, [&](MeshRecord& mesh) { self.painter.meshes().release(mesh); });
-    self.scene.forEach<TextureRecord>(NodeKind::Texture, [&](TextureRecord& texture) {
-        self.painter.textures().release(texture);
-        texture.isStale = true;
-    });
-    self.painter.forget();
-    self.lines.forget();
-    self.outline.forget();
-    self.seenItems.forget();
-    self.marks.forget();
-    self.wires.forget();
-    self.background.forget();
-    self.noteChange();
+    m_private->forget();
+    m_private->noteChange();
 }

@@ -5,53 +5,57 @@
 #include <numbers>
 #include <utility>
 
-namespace {
-
-struct Target {
-    explicit Target(const NxGLFunctions& functions, int width, int height)
-        : gl(functions)
-    {
-        gl.GenFramebuffers(1, &framebuffer);
-        gl.GenRenderbuffers(2, buffers.data());
-        gl.BindFramebuffer(GL_FRAMEBUFFER, framebuffer);
-        add(buffers[0], GL_RGBA8, GL_COLOR_ATTACHMENT0, width, height);
-        add(buffers[1], GL_DEPTH_COMPONENT24, GL_DEPTH_ATTACHMENT, width, height);
-    }
-    ~Target()
-    {
-        gl.DeleteFramebuffers(1, &framebuffer);
-        gl.DeleteRenderbuffers(2, buffers.data());
-    }
-    Target(const Target&) = delete;
-    Target& operator=(const Target&) = delete;
-
-    void add(unsigned int buffer, GLenum format, GLenum place, int width, int height) const
-    {
-        gl.BindRenderbuffer(GL_RENDERBUFFER, buffer);
-        gl.RenderbufferStorage(GL_RENDERBUFFER, format, width, height);
-        gl.FramebufferRenderbuffer(GL_FRAMEBUFFER, place, GL_RENDERBUFFER, buffer);
-    }
-
-    const NxGLFunctions& gl;
-    unsigned int framebuffer = 0;
-    std::array<unsigned int, 2> buffers{};
-};
-
-} // namespace
-
-QImage DrawingBench::draw(const NxViewpoint& viewpoint, int width, int height)
+DrawingTarget::DrawingTarget(const NxGLFunctions& functions, int width, int height)
+    : m_gl(functions)
+    , m_width(width)
+    , m_height(height)
 {
-    NxDelayQueue::getDefault().process();
-    return drawUntold(viewpoint, width, height);
+    m_gl.GenFramebuffers(1, &m_framebuffer);
+    m_gl.GenRenderbuffers(2, m_buffers.data());
+    m_gl.BindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
+    const auto add = [&](unsigned int buffer, GLenum format, GLenum place) {
+        m_gl.BindRenderbuffer(GL_RENDERBUFFER, buffer);
+        m_gl.RenderbufferStorage(GL_RENDERBUFFER, format, width, height);
+        m_gl.FramebufferRenderbuffer(GL_FRAMEBUFFER, place, GL_RENDERBUFFER, buffer);
+    };
+    add(m_buffers[0], GL_RGBA8, GL_COLOR_ATTACHMENT0);
+    add(m_buffers[1], GL_DEPTH_COMPONENT24, GL_DEPTH_ATTACHMENT);
 }
 
-QImage DrawingBench::drawUntold(const NxViewpoint& viewpoint, int width, int height, float scale)
+DrawingTarget::~DrawingTarget()
 {
-    const Target target(m_gl, width, height);
-    m_drawing->draw(viewpoint, width, height, scale);
-    QImage image(width, height, QImage::Format_RGBA8888);
-    m_gl.ReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, image.bits());
+    m_gl.DeleteFramebuffers(1, &m_framebuffer);
+    m_gl.DeleteRenderbuffers(2, m_buffers.data());
+}
+
+QImage DrawingTarget::read() const
+{
+    QImage image(m_width, m_height, QImage::Format_RGBA8888);
+    m_gl.ReadPixels(0, 0, m_width, m_height, GL_RGBA, GL_UNSIGNED_BYTE, image.bits());
     return image.mirrored();
+}
+
+QImage DrawingBench::draw(const NxViewpoint& viewpoint, int width, int height, float error)
+{
+    NxDelayQueue::getDefault().process();
+    return drawUntold(viewpoint, width, height, 1, error);
+}
+
+QImage DrawingBench::drawUntold(const NxViewpoint& viewpoint, int width, int height, float scale, float error)
+{
+    const DrawingTarget target(m_gl, width, height);
+    m_drawing->draw(viewpoint, width, height, scale, error);
+    return target.read();
+}
+
+QImage DrawingBench::drawInParts(const NxViewpoint& viewpoint, int width, int height, std::uint64_t corners, int& parts)
+{
+    const DrawingTarget target(m_gl, width, height);
+    m_drawing->begin(viewpoint, width, height, 1);
+    parts = 1;
+    while (m_drawing->proceed(corners) == NxSceneDrawing::UNFINISHED)
+        ++parts;
+    return target.read();
 }
 
 QImage DrawingBench::pictureOf(std::initializer_list<NxNode*> nodes, const NxViewpoint& viewpoint)

@@ -20,7 +20,28 @@
 #include <QImage>
 #include <QTest>
 
+#include <array>
+#include <cstdint>
 #include <memory>
+
+/// A framebuffer to draw into, bound from the start.
+class DrawingTarget {
+public:
+    DrawingTarget(const NxGLFunctions& functions, int width, int height);
+    DrawingTarget(const DrawingTarget&) = delete;
+    DrawingTarget& operator=(const DrawingTarget&) = delete;
+    ~DrawingTarget();
+
+    /// What was drawn.
+    [[nodiscard]] QImage read() const;
+
+private:
+    const NxGLFunctions& m_gl;
+    int m_width;
+    int m_height;
+    unsigned int m_framebuffer = 0;
+    std::array<unsigned int, 2> m_buffers{};
+};
 
 /// A drawing that draws into memory, and the messages that came meanwhile.
 class DrawingBench {
@@ -63,11 +84,15 @@ public:
         return viewpoint;
     }
 
-    /// Processes the delay queue, then draws.
-    [[nodiscard]] QImage draw(const NxViewpoint& viewpoint = front(), int width = 101, int height = 101);
+    /// Processes the delay queue, then draws. With an error, meshes may be reduced (see `NxSceneDrawing::draw`).
+    [[nodiscard]] QImage draw(
+        const NxViewpoint& viewpoint = front(), int width = 101, int height = 101, float error = 0);
     /// Draws without processing the delay queue.
     [[nodiscard]] QImage drawUntold(
-        const NxViewpoint& viewpoint = front(), int width = 101, int height = 101, float scale = 1);
+        const NxViewpoint& viewpoint = front(), int width = 101, int height = 101, float scale = 1, float error = 0);
+    /// Draws so many corners at once, and counts how often.
+    [[nodiscard]] QImage drawInParts(
+        const NxViewpoint& viewpoint, int width, int height, std::uint64_t corners, int& parts);
     /// The picture of a scene of these nodes, which is gone afterwards.
     [[nodiscard]] QImage pictureOf(std::initializer_list<NxNode*> nodes, const NxViewpoint& viewpoint = front());
     [[nodiscard]] NxDrawingCounts counts() const { return m_drawing->counts(); }

@@ -119,6 +119,28 @@ VbVec3d transformPoint(const VbVec3d& point, const Matrix4d& matrix) noexcept
     return {sums[0] / sums[3], sums[1] / sums[3], sums[2] / sums[3]};
 }
 
+std::array<float, 9> normalMatrixOf(const Matrix4d& matrix) noexcept
+{
+    const auto row = [&](std::size_t i) {
+        i %= 3;
+        return narrowed(VbVec3d(matrix[i][0], matrix[i][1], matrix[i][2]));
+    };
+    std::array<float, 9> result{};
+    for (std::size_t i = 0; i < 3; ++i) {
+        const VbVec3f cofactors = cross(row(i + 1), row(i + 2));
+        std::copy_n(cofactors.getValue(), 3, result.begin() + static_cast<std::ptrdiff_t>(3 * i));
+    }
+    return result;
+}
+
+double greatestScale(const Matrix4d& matrix) noexcept
+{
+    double greatest = 0;
+    for (std::size_t row = 0; row < 3; ++row)
+        greatest = std::max(greatest, length(VbVec3d(matrix[row][0], matrix[row][1], matrix[row][2])));
+    return greatest;
+}
+
 VbMatrix narrowed(const Matrix4d& matrix) noexcept
 {
     VbMatrix result;

@@ -6,6 +6,7 @@
 #include "meridane/base/values/VbVec.h"
 #include "meridane/gl/geometry/Matrix4d.h"
 
+#include <array>
 #include <optional>
 
 class NxNode;
@@ -35,6 +36,11 @@ namespace meridane {
 [[nodiscard]] std::optional<Matrix4d> inverse(const Matrix4d& matrix) noexcept;
 /// The determinant of the upper left 3 by 3 part: negative if the matrix mirrors.
 [[nodiscard]] double determinant(const Matrix4d& matrix) noexcept;
+/// The matrix that transforms normals, as three rows. Their direction is right for any scale, and finite for singular
+/// matrices.
+[[nodiscard]] std::array<float, 9> normalMatrixOf(const Matrix4d& matrix) noexcept;
+/// How many times longer a matrix makes what it transforms at most, along one of the axes.
+[[nodiscard]] double greatestScale(const Matrix4d& matrix) noexcept;
 /// The matrix or vector rounded to floats.
 [[nodiscard]] VbMatrix narrowed(const Matrix4d& matrix) noexcept;
 [[nodiscard]] VbVec3f narrowed(const VbVec3d& vector) noexcept;

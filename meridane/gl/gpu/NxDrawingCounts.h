@@ -13,6 +13,7 @@ struct NxDrawingCounts {
     std::uint64_t drawCalls = 0;
     std::uint64_t drawnCorners = 0; ///< of the primitives of meshes
     std::uint64_t drawnTriangles = 0;
+    std::uint64_t fullCorners = 0; ///< of the primitives of the meshes in view, if none were reduced
     std::uint64_t drawnItems = 0; ///< instances of meshes in view
     std::uint64_t culledItems = 0; ///< instances of meshes out of view
 

@@ -112,4 +112,32 @@ SimplifiedMesh simplified(const NxMesh& mesh, const MeshShape& shape, std::uint3
     return result;
 }
 
+namespace {
+
+template <typename Value>
+std::vector<Value> pick(std::span<const Value> values, std::span<const std::uint32_t> places)
+{
+    std::vector<Value> picked;
+    picked.reserve(places.size());
+    for (const std::uint32_t place : places)
+        picked.push_back(values[place]);
+    return picked;
+}
+
+} // namespace
+
+SimplifiedMesh gathered(const NxMesh& mesh, const MeshShape& shape, const ReducedMesh& reduced)
+{
+    SimplifiedMesh result;
+    result.positions = pick(effectiveField(mesh.positions).getValues(), reduced.positions);
+    if (shape.hasNormals)
+        result.normals = pick(effectiveField(mesh.normals).getValues(), reduced.vertices);
+    if (shape.hasCoordinates)
+        result.coordinates = pick(effectiveField(mesh.textureCoordinates).getValues(), reduced.vertices);
+    if (shape.colors == MeshShape::Colors::Each)
+        result.colors = pick(effectiveField(mesh.colors).getValues(), reduced.vertices);
+    result.indices = reduced.indices;
+    return result;
+}
+
 } // namespace meridane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meridane/base/values/VbVec.h"
+#include "meridane/gl/levels/detail/MeshReduction.h"
 #include "meridane/gl/places/detail/MeshInspection.h"
 
 #include <cstdint>
@@ -22,5 +23,7 @@ struct SimplifiedMesh {
 /// Merges all vertices in the same cell of a grid, and leaves out primitives that collapse. The grid has `cells` cells
 /// along the longest side of the mesh. The time grows with the number of indices.
 [[nodiscard]] SimplifiedMesh simplified(const NxMesh& mesh, const MeshShape& shape, std::uint32_t cells);
+/// The lists of a reduced mesh. `mesh` must have the lists that it was made from.
+[[nodiscard]] SimplifiedMesh gathered(const NxMesh& mesh, const MeshShape& shape, const ReducedMesh& reduced);
 
 } // namespace meridane

@@ -104,6 +104,21 @@ void MeshStore::releaseLevels(MeshRecord& mesh)
     for (MeshLevel& level : mesh.levels)
         releaseRange(level.range);
     mesh.levels.clear();
+    m_levels.release(mesh);
+}
+
+void MeshStore::dropOldLevels(MeshRecord& mesh)
+{
+    if (std::exchange(mesh.areLevelsStale, false))
+        releaseLevels(mesh);
+}
+
+void MeshStore::wantReduced(MeshRecord& mesh)
+{
+    if (!isUpToDate(mesh))
+        return;
+    dropOldLevels(mesh);
+    m_levels.want(mesh);
 }
 
 void MeshStore::release(MeshRecord& mesh)
@@ -114,14 +129,16 @@ void MeshStore::release(MeshRecord& mesh)
     mesh.isStale = true;
 }
 
-MeshStore::Transfer MeshStore::describe(MeshRecord& mesh, std::uint32_t cells)
+MeshStore::Transfer MeshStore::describe(MeshRecord& mesh, MeshDetail detail)
 {
     Transfer transfer;
     transfer.mesh = &mesh;
-    transfer.cells = cells;
+    transfer.detail = detail;
     transfer.layout = layoutOf(mesh.shape);
-    if (cells != 0) {
-        transfer.simplified = std::make_shared<SimplifiedMesh>(simplified(*mesh.mesh(), mesh.shape, cells));
+    if (detail != fullDetail) {
+        transfer.simplified = std::make_shared<SimplifiedMesh>((detail & reducedBit) != 0
+                ? gathered(*mesh.mesh(), mesh.shape, mesh.reduction->levels[detail & ~reducedBit])
+                : simplified(*mesh.mesh(), mesh.shape, detail));
         transfer.layout |= layoutWithIndices;
         transfer.vertexCount = static_cast<std::uint32_t>(transfer.simplified->positions.size());
         transfer.indexCount = static_cast<std::uint32_t>(transfer.simplified->indices.size());
@@ -135,46 +152,45 @@ MeshStore::Transfer MeshStore::describe(MeshRecord& mesh, std::uint32_t cells)
     return transfer;
 }
 
-void MeshStore::request(MeshRecord& mesh, std::uint32_t cells)
+void MeshStore::request(MeshRecord& mesh, MeshDetail detail)
 {
     if (!isUpToDate(mesh))
         return;
-    if (std::exchange(mesh.areLevelsStale, false))
-        releaseLevels(mesh);
-    const bool isThere = cells == 0
-        ? !mesh.isStale
-        : std::any_of(mesh.levels.begin(), mesh.levels.end(), [cells](const MeshLevel& l) { return l.cells == cells; });
+    dropOldLevels(mesh);
+    const auto isIt = [detail](const MeshLevel& level) { return level.detail == detail; };
+    const bool isThere
+        = detail == fullDetail ? !mesh.isStale : std::any_of(mesh.levels.begin(), mesh.levels.end(), isIt);
     if (isThere)
         return;
-    if (cells == 0)
+    if (detail == fullDetail)
         mesh.isStale = false;
     else
-        mesh.levels.push_back({cells, {}});
-    m_requests.emplace_back(&mesh, cells);
+        mesh.levels.push_back({detail, {}});
+    m_requests.emplace_back(&mesh, detail);
 }
 
-void MeshStore::withdraw(MeshRecord& mesh, std::uint32_t cells)
+void MeshStore::withdraw(MeshRecord& mesh, MeshDetail detail)
 {
-    if (cells == 0)
+    if (detail == fullDetail)
         mesh.isStale = true;
     else
-        std::erase_if(mesh.levels, [cells](const MeshLevel& level) { return level.cells == cells; });
+        std::erase_if(mesh.levels, [detail](const MeshLevel& level) { return level.detail == detail; });
 }
 
 void MeshStore::upload(NxDrawingCounts& counts)
 {
     std::vector<Transfer> transfers;
-    for (const auto& [mesh, cells] : std::exchange(m_requests, {})) {
+    for (const auto& [mesh, detail] : std::exchange(m_requests, {})) {
         if (!isUpToDate(*mesh)) {
-            withdraw(*mesh, cells);
+            withdraw(*mesh, detail);
             continue;
         }
-        Transfer transfer = describe(*mesh, cells);
+        Transfer transfer = describe(*mesh, detail);
         if (fitsInRange(transfer)) {
             send(transfer, counts);
             continue;
         }
-        if (cells == 0) {
+        if (detail == fullDetail) {
             releaseRange(mesh->range);
             mesh->fingerprints.fill(0);
         }
@@ -208,7 +224,7 @@ void MeshStore::deleteEmptyPages()
 bool MeshStore::fitsInRange(const Transfer& transfer) const
 {
     const MeshRange& range = transfer.mesh->range;
-    return transfer.cells == 0 && range.page != noId && m_pages[range.page].layout == transfer.layout
+    return transfer.detail == fullDetail && range.page != noId && m_pages[range.page].layout == transfer.layout
         && range.vertexCount == transfer.vertexCount && range.indexCount == transfer.indexCount;
 }
 
@@ -230,10 +246,10 @@ bool MeshStore::takeRange(const Transfer& transfer, Id id)
     const std::uint32_t firstIndex = page.indices.take(transfer.indexCount).value_or(0);
     const MeshRange range{id, *firstVertex, transfer.vertexCount, firstIndex, transfer.indexCount};
     MeshRecord& mesh = *transfer.mesh;
-    if (transfer.cells == 0)
+    if (transfer.detail == fullDetail)
         mesh.range = range;
     for (MeshLevel& level : mesh.levels) {
-        if (level.cells == transfer.cells)
+        if (level.detail == transfer.detail)
             level.range = range;
     }
     ++page.meshes;
@@ -313,12 +329,12 @@ void MeshStore::sendList(
     if (bytes.empty())
         return;
     MeshRecord& mesh = *transfer.mesh;
-    if (transfer.cells == 0) {
+    if (transfer.detail == fullDetail) {
         const std::uint64_t fingerprint = shortHashOf(bytes);
         if (fingerprint == std::exchange(mesh.fingerprints[list], fingerprint))
             return;
     }
-    const MeshRange range = mesh.rangeOf(transfer.cells);
+    const MeshRange range = mesh.rangeOf(transfer.detail);
     const std::uint32_t first = list == indexList ? range.firstIndex : range.firstVertex;
     // Not as an element buffer, which would change the bound vertex array.
     m_gl.BindBuffer(GL_ARRAY_BUFFER, m_pages[range.page].buffers[list]);

@@ -3,6 +3,7 @@
 #include "meridane/gl/gpu/NxDrawingCounts.h"
 #include "meridane/gl/gpu/NxGLFunctions.h"
 #include "meridane/gl/gpu/detail/GLErrors.h"
+#include "meridane/gl/gpu/detail/MeshLevels.h"
 #include "meridane/gl/gpu/detail/MeshSimplification.h"
 #include "meridane/gl/gpu/detail/RangeList.h"
 #include "meridane/gl/gpu/detail/SurfaceShaders.h"
@@ -31,9 +32,13 @@ public:
     /// The context must be current, or `forget` have been called.
     ~MeshStore();
 
-    /// Requests the upload of a mesh with that detail (see `simplified`), 0 for full detail. Its shape must match its
-    /// lists; a mesh that is pending, because it changed after the update of the scene, waits for the next picture.
-    void request(MeshRecord& mesh, std::uint32_t cells);
+    /// Requests the upload of a mesh with that detail. Its shape must match its lists; a mesh that is pending, because
+    /// it changed after the update of the scene, waits for the next picture.
+    void request(MeshRecord& mesh, MeshDetail detail);
+    /// Has a mesh reduced, so that its reduced meshes can be requested later. Drops those of an older state of it.
+    void wantReduced(MeshRecord& mesh);
+    [[nodiscard]] MeshLevels& levels() noexcept { return m_levels; }
+    [[nodiscard]] const MeshLevels& levels() const noexcept { return m_levels; }
     /// Uploads the requested meshes.
     void upload(NxDrawingCounts& counts);
     /// Frees the ranges of a mesh. Needs no context.
@@ -58,18 +63,19 @@ private:
     /// A mesh to be uploaded.
     struct Transfer {
         MeshRecord* mesh = nullptr;
-        std::uint32_t cells = 0;
+        MeshDetail detail = fullDetail;
         std::shared_ptr<const SimplifiedMesh> simplified; // null for full detail
         unsigned int layout = 0;
         std::uint32_t vertexCount = 0;
         std::uint32_t indexCount = 0;
     };
 
-    [[nodiscard]] static Transfer describe(MeshRecord& mesh, std::uint32_t cells);
+    [[nodiscard]] static Transfer describe(MeshRecord& mesh, MeshDetail detail);
     [[nodiscard]] static std::span<const std::byte> bytesOf(const Transfer& transfer, std::size_t list);
-    static void withdraw(MeshRecord& mesh, std::uint32_t cells);
+    static void withdraw(MeshRecord& mesh, MeshDetail detail);
     void releaseRange(MeshRange& range);
     void releaseLevels(MeshRecord& mesh);
+    void dropOldLevels(MeshRecord& mesh);
     [[nodiscard]] bool fitsInRange(const Transfer& transfer) const;
     bool findRange(const Transfer& transfer);
     bool takeRange(const Transfer& transfer, Id page);
@@ -82,7 +88,8 @@ private:
 
     const NxGLFunctions& m_gl;
     GLErrors& m_errors;
-    std::vector<std::pair<MeshRecord*, std::uint32_t>> m_requests;
+    MeshLevels m_levels;
+    std::vector<std::pair<MeshRecord*, MeshDetail>> m_requests;
     SlotTable<Page> m_pages;
     std::vector<Id> m_pageIds;
     std::size_t m_bytes = 0;

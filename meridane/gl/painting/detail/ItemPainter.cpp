@@ -14,27 +14,6 @@
 namespace meridane {
 namespace {
 
-/// The axes transformed by a matrix.
-std::array<VbVec3f, 3> rowsOf(const Matrix4d& m) noexcept
-{
-    std::array<VbVec3f, 3> rows;
-    for (std::size_t row = 0; row < 3; ++row)
-        rows[row] = narrowed(VbVec3d(m[row][0], m[row][1], m[row][2]));
-    return rows;
-}
-
-/// The matrix that transforms normals. Their direction is right for any scale, and finite for singular matrices.
-std::array<float, 9> normalMatrixOf(const Matrix4d& m) noexcept
-{
-    const std::array<VbVec3f, 3> rows = rowsOf(m);
-    std::array<float, 9> result{};
-    for (std::size_t row = 0; row < 3; ++row) {
-        const VbVec3f cofactors = cross(rows[(row + 1) % 3], rows[(row + 2) % 3]);
-        std::copy_n(cofactors.getValue(), 3, result.begin() + static_cast<std::ptrdiff_t>(3 * row));
-    }
-    return result;
-}
-
 GLenum primitiveOf(const MeshRecord& mesh)
 {
     switch (mesh.shape.primitive) {
@@ -53,13 +32,11 @@ ItemPainter::ItemPainter(const NxGLFunctions& gl, GLErrors& errors)
     : m_gl(gl)
     , m_meshes(gl, errors)
     , m_textures(gl, errors)
+    , m_lights(gl)
 {
 }
 
-ItemPainter::~ItemPainter()
-{
-    m_gl.DeleteBuffers(1, &m_lightBuffer);
-}
+ItemPainter::~ItemPainter() = default;
 
 void ItemPainter::forget()
 {
@@ -69,28 +46,29 @@ void ItemPainter::forget()
         program.program.forget();
         program = SurfaceProgram();
     }
-    m_lightBuffer = 0;
-    m_hasLights = false;
+    m_lights.forget();
 }
 
 void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const NxDrawingStyle& style,
-    const NxImageLoader& loader, NxDrawingCounts& counts)
+    const NxImageLoader& loader, float error, NxDrawingCounts& counts)
 {
     m_frame = frame;
+    m_error = error;
     m_pointSize = style.pointSize * frame.scale;
-    if (m_lightBuffer != 0)
-        m_gl.BindBufferBase(GL_UNIFORM_BUFFER, lightsBinding, m_lightBuffer);
+    m_lights.start(style.headLight, frame.position);
     setStyle(style);
     m_boxesOfAll = style.boundingBoxes;
     m_boxColor = style.boundingBoxColor;
     m_found.clear();
+    counts.fullCorners = 0;
     scene.tree().find(Frustum(frame.eyeToClip, frame.position), m_found);
     for (const Id id : m_found) {
         const Item& item = scene.table().item(id);
         const Look& look = scene.looks()[item.look];
         if (isBox(look))
             continue;
-        m_meshes.request(*item.mesh, cellsOf(scene, id));
+        counts.fullCorners += item.mesh->shape.cornerCount;
+        m_meshes.request(*item.mesh, detailOf(scene, id));
         for (TextureRecord* texture : look.textures) {
             if (texture != nullptr)
                 m_textures.update(*texture, loader, scene.problems(), counts);
@@ -112,8 +90,6 @@ void ItemPainter::setStyle(const NxDrawingStyle& style)
         for (SurfaceProgram& program : m_programs)
             program = SurfaceProgram();
     }
-    if (std::exchange(m_headLight, style.headLight) != style.headLight)
-        m_hasLights = false;
     m_section = m_frame.sectionFor(style.section.normal, style.section.position);
 }
 
@@ -131,7 +107,7 @@ void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
             m_boxes.push_back(id);
             continue;
         }
-        const MeshRange range = item.mesh->rangeOf(cellsOf(scene, id));
+        const MeshRange range = item.mesh->rangeOf(detailOf(scene, id));
         if (range.page == noId)
             continue;
         const SurfaceVariant variant = variantOf(item.mesh->shape, look, m_shading);
@@ -149,13 +125,27 @@ void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
     });
 }
 
-std::uint32_t ItemPainter::cellsOf(PlacedScene& scene, Id id) const
+MeshDetail ItemPainter::detailOf(PlacedScene& scene, Id id) const
 {
     const Item& item = scene.table().item(id);
     const ComplexityRecord* const complexity = scene.looks()[item.look].complexity;
-    return complexity == nullptr
-        ? 0
-        : detailCells(complexity->values, item.mesh->shape, scene.boundsOf(item, m_frame.position), m_frame);
+    if (complexity == nullptr && !(m_error > 0))
+        return fullDetail;
+    const NxBounds bounds = scene.boundsOf(item, m_frame.position);
+    MeshDetail detail = fullDetail;
+    if (complexity != nullptr)
+        detail = detailCells(complexity->values, item.mesh->shape, bounds, m_frame);
+    if (detail == fullDetail && m_error > 0)
+        detail = detailWithin(m_error, *item.mesh, scene.table().worldTransformOf(item), bounds, m_frame);
+    return detail;
+}
+
+void ItemPainter::wantReduced(PlacedScene& scene)
+{
+    for (const Id id : m_found) {
+        if (const Item& item = scene.table().item(id); !isBox(scene.looks()[item.look]))
+            m_meshes.wantReduced(*item.mesh);
+    }
 }
 
 double ItemPainter::depthOf(const PlacedScene& scene, const Item& item) const
@@ -163,20 +153,49 @@ double ItemPainter::depthOf(const PlacedScene& scene, const Item& item) const
     return m_frame.depthOf(transformPoint(item.mesh->shape.bounds.center(), scene.table().worldTransformOf(item)));
 }
 
-void ItemPainter::drawOpaque(PlacedScene& scene, NxDrawingCounts& counts)
+bool ItemPainter::drawOpaque(PlacedScene& scene, Progress& progress, NxDrawingCounts& counts)
 {
+    m_lights.bind();
     GLStateScope culling(m_gl);
     State state;
-    for (const Drawn& drawn : m_opaque) {
+    while (progress.item < m_opaque.size()) {
+        if (progress.cornersLeft == 0)
+            return false;
+        Drawn drawn = m_opaque[progress.item];
+        drawn.range = takePart(drawn.range, progress);
         cull(scene, drawn, state, culling);
         draw(scene, drawn, state, counts);
     }
+    return true;
+}
+
+MeshRange ItemPainter::takePart(const MeshRange& range, Progress& progress)
+{
+    constexpr std::uint32_t whole = 6; // corners of whole primitives, whatever their kind
+    const bool isIndexed = range.indexCount != 0;
+    const std::uint32_t all = isIndexed ? range.indexCount : range.vertexCount;
+    const std::uint32_t left = all - progress.corner;
+    MeshRange part = range;
+    std::uint32_t& first = isIndexed ? part.firstIndex : part.firstVertex;
+    std::uint32_t& count = isIndexed ? part.indexCount : part.vertexCount;
+    first += progress.corner;
+    count = left;
+    if (left > progress.cornersLeft)
+        count = std::min(left, std::max(static_cast<std::uint32_t>(progress.cornersLeft) / whole * whole, whole));
+    progress.cornersLeft -= std::min<std::uint64_t>(progress.cornersLeft, count);
+    progress.corner += count;
+    if (progress.corner == all) {
+        ++progress.item;
+        progress.corner = 0;
+    }
+    return part;
 }
 
 void ItemPainter::drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts)
 {
     if (m_translucent.empty())
         return;
+    m_lights.bind();
     GLStateScope blending(m_gl);
     blending.blend();
     blending.setDepthWrites(false);
@@ -218,7 +237,7 @@ void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxD
     if (state.look != item.look) {
         state.look = item.look;
         setLook(look, drawn.variant);
-        setLights(scene, look.lights.get());
+        m_lights.set(scene, look.lights.get());
     }
     if (state.page != drawn.range.page) {
         state.page = drawn.range.page;
@@ -286,30 +305,6 @@ void ItemPainter::setLook(const Look& look, SurfaceVariant variant)
     }
 }
 
-void ItemPainter::setLights(const PlacedScene& scene, const LightList* lights)
-{
-    if (m_hasLights && m_lights == lights && m_lighting == scene.lighting() && m_lightingEye == m_frame.position)
-        return;
-    m_hasLights = true;
-    m_lights = lights;
-    m_lighting = scene.lighting();
-    m_lightingEye = m_frame.position;
-    LightsBlock block;
-    std::size_t count = 0;
-    for (const LightList* list = lights; list != nullptr; list = list->above())
-        block.lights[count++] = lightValues(
-            list->light().light(), scene.table().worldTransforms[list->worldTransform()], m_frame.position);
-    if (lights == nullptr || (m_headLight && count < block.lights.size()))
-        block.lights[count++] = cameraLightValues();
-    block.count = static_cast<float>(count);
-    if (m_lightBuffer == 0)
-        m_gl.GenBuffers(1, &m_lightBuffer);
-    m_gl.BindBufferBase(GL_UNIFORM_BUFFER, lightsBinding, m_lightBuffer);
-    m_gl.BufferData(GL_UNIFORM_BUFFER, sizeof(block), nullptr, GL_DYNAMIC_DRAW);
-    const std::size_t usedBytes = offsetof(LightsBlock, lights) + count * sizeof(LightValues);
-    m_gl.BufferSubData(GL_UNIFORM_BUFFER, 0, static_cast<GLsizeiptr>(usedBytes), &block);
-}
-
 void ItemPainter::place(const PlacedScene& scene, const Item& item, const ModelUniforms& uniforms) const
 {
     const VbVec3f& origin = item.mesh->shape.origin;
@@ -359,7 +354,7 @@ void ItemPainter::drawShapes(
     for (const Id id : items) {
         ++number;
         const Item& item = scene.table().item(id);
-        const MeshRange range = item.mesh->rangeOf(cellsOf(scene, id));
+        const MeshRange range = item.mesh->rangeOf(detailOf(scene, id));
         if (range.page == noId)
             continue;
         if (page != range.page) {

@@ -7,10 +7,12 @@
 #include "meridane/gl/gpu/detail/TextureStore.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
 #include "meridane/gl/painting/detail/ItemVariant.h"
+#include "meridane/gl/painting/detail/LightBuffer.h"
 #include "meridane/gl/painting/detail/LinePainter.h"
 #include "meridane/gl/places/detail/PlacedScene.h"
 
 #include <array>
+#include <limits>
 #include <vector>
 
 namespace meridane {
@@ -27,10 +29,21 @@ public:
     /// The context must be current, or `forget` have been called.
     ~ItemPainter();
 
-    /// Finds the items in view, and uploads those of their meshes and textures that the GPU doesn't have.
+    /// How far the drawing of the opaque items is, and how much may be drawn at once.
+    struct Progress {
+        std::uint64_t cornersLeft = std::numeric_limits<std::uint64_t>::max();
+        std::size_t item = 0;
+        std::uint32_t corner = 0; ///< of that item
+    };
+
+    /// Finds the items in view, and uploads those of their meshes and textures that the GPU doesn't have. Meshes are
+    /// reduced where that moves nothing by more than `error` pixels, and where their reduced meshes are there already.
     void prepare(PlacedScene& scene, const PictureFrame& frame, const NxDrawingStyle& style,
-        const NxImageLoader& loader, NxDrawingCounts& counts);
-    void drawOpaque(PlacedScene& scene, NxDrawingCounts& counts);
+        const NxImageLoader& loader, float error, NxDrawingCounts& counts);
+    /// Has the meshes reduced that are in view, after `prepare`.
+    void wantReduced(PlacedScene& scene);
+    /// Draws the opaque items, or some of them. Returns whether all are drawn.
+    bool drawOpaque(PlacedScene& scene, Progress& progress, NxDrawingCounts& counts);
     void drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts);
     /// Adds the boxes of items that are drawn as boxes, or of all items if the style says so.
     void addBoxes(PlacedScene& scene, LinePainter& lines) const;
@@ -47,6 +60,7 @@ public:
         PlacedScene& scene, std::span<const Id> items, const ModelUniforms& uniforms, NxDrawingCounts& counts);
 
     [[nodiscard]] MeshStore& meshes() noexcept { return m_meshes; }
+    [[nodiscard]] const MeshStore& meshes() const noexcept { return m_meshes; }
     [[nodiscard]] TextureStore& textures() noexcept { return m_textures; }
     [[nodiscard]] std::size_t bytes() const noexcept;
     /// To be called when the context is lost.
@@ -74,14 +88,14 @@ private:
     void setStyle(const NxDrawingStyle& style);
     [[nodiscard]] bool showsMaterials() const noexcept { return colorsOf(m_shading) == SurfaceColors::Material; }
     void sort(PlacedScene& scene, const std::vector<Id>& found);
-    [[nodiscard]] std::uint32_t cellsOf(PlacedScene& scene, Id id) const;
+    [[nodiscard]] MeshDetail detailOf(PlacedScene& scene, Id id) const;
+    static MeshRange takePart(const MeshRange& range, Progress& progress);
     [[nodiscard]] double depthOf(const PlacedScene& scene, const Item& item) const;
     void draw(PlacedScene& scene, const Drawn& drawn, State& state, NxDrawingCounts& counts);
     /// Sees to it that triangles are seen from the sides that the item's look says.
     static void cull(const PlacedScene& scene, const Drawn& drawn, State& state, GLStateScope& culling);
     void setVariant(SurfaceVariant variant);
     void setLook(const Look& look, SurfaceVariant variant);
-    void setLights(const PlacedScene& scene, const LightList* lights);
     void place(const PlacedScene& scene, const Item& item, const ModelUniforms& uniforms) const;
     void issue(const MeshRecord& mesh, const MeshRange& range, NxDrawingCounts& counts) const;
 
@@ -89,18 +103,13 @@ private:
     MeshStore m_meshes;
     TextureStore m_textures;
     std::array<SurfaceProgram, SurfaceVariant::count> m_programs;
-    unsigned int m_lightBuffer = 0;
-    /// The contents of that buffer.
-    const LightList* m_lights = nullptr;
-    std::uint64_t m_lighting = 0;
-    VbVec3d m_lightingEye;
-    bool m_hasLights = false;
+    LightBuffer m_lights;
 
     PictureFrame m_frame;
+    float m_error = 0; // in pixels
     float m_pointSize = 1;
     NxDrawingStyle::Shading m_shading = NxDrawingStyle::SHADED; // of the programs
     bool m_hasSection = false; // the programs have
-    bool m_headLight = false;
     std::array<float, 4> m_section{};
     bool m_boxesOfAll = false;
     VbColor m_boxColor;

@@ -82,6 +82,7 @@ MeshShape inspect(const NxMesh& mesh, NodeRecord& record, Problems& problems)
     shape.origin = originOf(shape.bounds);
     const std::size_t corners = cornersOf(shape.primitive);
     const std::size_t count = indices.empty() ? positions.size() : indices.size();
+    shape.cornerCount = static_cast<std::uint32_t>(count);
     const std::size_t outOfRange = countOutOfRange(indices, positions.size());
     const bool isIncomplete = count % corners != 0;
 

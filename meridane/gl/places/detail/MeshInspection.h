@@ -23,6 +23,8 @@ struct MeshShape {
     /// own origin that floats are too coarse to transform it. Differences from it are exact.
     VbVec3f origin;
     std::uint32_t vertexCount = 0;
+    /// The indices of its primitives, or the vertices where it has none.
+    std::uint32_t cornerCount = 0;
     /// One of NxMesh::Primitive.
     std::uint8_t primitive = 0;
     Colors colors = Colors::None;

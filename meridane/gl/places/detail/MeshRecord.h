@@ -1,10 +1,12 @@
 #pragma once
 
+#include "meridane/gl/levels/detail/MeshReduction.h"
 #include "meridane/gl/places/detail/MeshInspection.h"
 #include "meridane/gl/places/detail/NodeRecord.h"
 #include "meridane/scene/nodes/NxMesh.h"
 
 #include <array>
+#include <memory>
 #include <vector>
 
 namespace meridane {
@@ -18,10 +20,25 @@ struct MeshRange {
     std::uint32_t indexCount = 0;
 };
 
+/// Which copy of a mesh is meant: `fullDetail`, a number of cells (see `simplified`), or what `reducedDetail` returns.
+using MeshDetail = std::uint32_t;
+inline constexpr MeshDetail fullDetail = 0;
+inline constexpr MeshDetail reducedBit = 1U << 31U;
+/// The detail of the reduced mesh of that place in `MeshReduction::levels`.
+[[nodiscard]] constexpr MeshDetail reducedDetail(std::size_t level) noexcept
+{
+    return reducedBit | static_cast<MeshDetail>(level);
+}
+
 /// A copy of a mesh on the GPU with less detail.
 struct MeshLevel {
-    std::uint32_t cells = 0; ///< see `simplified`
+    MeshDetail detail = fullDetail;
     MeshRange range;
+};
+
+/// What a mesh is drawn from while the view moves. Without levels it is being made, or the mesh can't be reduced.
+struct MeshReduction {
+    std::vector<ReducedMesh> levels; ///< the finest first
 };
 
 /// The record of a mesh. It doesn't copy the lists of the mesh.
@@ -36,19 +53,21 @@ public:
     }
     [[nodiscard]] const NxMesh* mesh() const noexcept { return static_cast<const NxMesh*>(node()); }
 
-    /// The location of the mesh with that detail (0: full); its page is `noId` if the GPU doesn't have it.
-    [[nodiscard]] MeshRange rangeOf(std::uint32_t cells) const
+    /// The location of the mesh with that detail; its page is `noId` if the GPU doesn't have it.
+    [[nodiscard]] MeshRange rangeOf(MeshDetail detail) const
     {
         for (const MeshLevel& level : levels) {
-            if (level.cells == cells)
+            if (level.detail == detail)
                 return level.range;
         }
-        return cells == 0 ? range : MeshRange();
+        return detail == fullDetail ? range : MeshRange();
     }
 
     MeshShape shape;
     MeshRange range;
     std::vector<MeshLevel> levels;
+    /// Null until reduced meshes are wanted.
+    std::unique_ptr<MeshReduction> reduction;
     /// The first item of the mesh; its items form a linked list.
     Id firstItem = noId;
     /// Hashes of the lists on the GPU. A list with another hash must be uploaded again.

@@ -25,6 +25,7 @@ PlacedScene::~PlacedScene()
 
 void PlacedScene::setRoot(NxNode* root)
 {
+    ++m_revision;
     if (m_root) {
         m_tree.clear();
         empty(topPlace);
@@ -68,6 +69,7 @@ void PlacedScene::update()
 {
     if (m_pending.empty() && !m_hiddenTextures.isChanged())
         return;
+    ++m_revision;
     followPending();
     followRoles();
     fillFreeRoom();

@@ -63,6 +63,8 @@ public:
     [[nodiscard]] std::size_t nodeCount() const noexcept { return m_records.count(); }
     /// A number that changes when places are added, removed, hidden or shown.
     [[nodiscard]] std::uint64_t structure() const noexcept { return m_structure; }
+    /// A number that changes whenever something is drawn differently, or elsewhere in the tables, than before.
+    [[nodiscard]] std::uint64_t revision() const noexcept { return m_revision; }
     /// The cost of all updates so far: nodes visited, places moved and keys compared.
     [[nodiscard]] std::uint64_t steps() const noexcept { return m_steps; }
     /// A number that changes with the lights and their transforms.
@@ -146,6 +148,7 @@ private:
     Problems m_problems;
     std::vector<NodeRecord*> m_pending; // changed since the latest update
     std::uint64_t m_structure = 0;
+    std::uint64_t m_revision = 0;
     std::uint64_t m_lighting = 0;
     std::uint64_t m_steps = 0;
     std::size_t m_maxPlaces;

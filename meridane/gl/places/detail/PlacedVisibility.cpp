@@ -10,6 +10,7 @@ void PlacedScene::setVisibility(NxNodeVisibility visibility)
 {
     m_visibility = std::move(visibility);
     ++m_structure;
+    ++m_revision;
     struct Step {
         Id place;
         NxNodeVisibility::State state;

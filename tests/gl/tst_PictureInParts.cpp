@@ -1,0 +1,100 @@
+#include "gl/DrawingBench.h"
+
+#include "meridane/scene/nodes/NxTransform.h"
+
+namespace {
+
+constexpr int side = 120;
+constexpr std::uint64_t some = 5'000;
+
+/// Opaque and translucent balls, lines, and something selected.
+NxRef<NxGroup> sceneOfAllKinds(DrawingBench& bench)
+{
+    const NxRef<NxMesh> large = ball(0.7F, 100);
+    const NxRef<NxMesh> second = ball(0.5F, 60);
+    NxRef<NxTransform> place = make<NxTransform>();
+    place->translation.setValue(VbVec3f(0.4F, 0.4F, 0));
+    place->addChild(plain(1, 0, 0, 0.5F).get());
+    place->addChild(second.get());
+    NxRef<NxGroup> scene = groupOf({plain(0.2F, 0.6F, 0.9F).get(), large.get(),
+        meshOf({{-1, -1, 0}, {1, 1, 0}}, NxMesh::LINES).get(), place.get()});
+    bench.drawing().setScene(scene.get());
+    bench.drawing().setSelectedNode(second.get());
+    bench.restyle([](NxDrawingStyle& style) {
+        style.grid = true;
+        style.wires = true;
+        style.boundingBoxes = true;
+    });
+    return scene;
+}
+
+} // namespace
+
+class TestPictureInParts : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void manyPartsMakeTheSamePicture()
+    {
+        DrawingBench bench;
+        const NxRef<NxGroup> scene = sceneOfAllKinds(bench);
+        const QImage atOnce = bench.draw(DrawingBench::front(), side, side);
+        int parts = 0;
+        const QImage inParts = bench.drawInParts(DrawingBench::front(), side, side, some, parts);
+        QVERIFY(parts > 5);
+        QCOMPARE(inParts, atOnce);
+    }
+
+    void aChangedSceneCantBeFinished()
+    {
+        DrawingBench bench;
+        const NxRef<NxGroup> scene = sceneOfAllKinds(bench);
+        static_cast<void>(bench.draw(DrawingBench::front(), side, side));
+        const DrawingTarget target(bench.gl(), side, side);
+        bench.drawing().begin(DrawingBench::front(), side, side, 1);
+        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::UNFINISHED);
+        scene->removeAllChildren();
+        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::OUTDATED);
+        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::OUTDATED);
+    }
+
+    void anotherPictureEndsTheOneBefore()
+    {
+        DrawingBench bench;
+        const NxRef<NxGroup> scene = sceneOfAllKinds(bench);
+        const DrawingTarget target(bench.gl(), side, side);
+        bench.drawing().begin(DrawingBench::front(), side, side, 1);
+        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::UNFINISHED);
+        bench.drawing().draw(DrawingBench::front(), side, side, 1, 4);
+        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::OUTDATED);
+        bench.drawing().begin(DrawingBench::front(), side, side, 1);
+        QVERIFY(!bench.drawing().seenIn({0, 0, side, side}, DrawingBench::front(), side, side, 1).empty());
+        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::OUTDATED);
+    }
+
+    void questionsBetweenPartsChangeNothing()
+    {
+        DrawingBench bench;
+        const NxRef<NxGroup> scene = sceneOfAllKinds(bench);
+        const DrawingTarget target(bench.gl(), side, side);
+        bench.drawing().begin(DrawingBench::front(), side, side, 1);
+        NxSceneDrawing::PictureState state = NxSceneDrawing::UNFINISHED;
+        while (state == NxSceneDrawing::UNFINISHED) {
+            QVERIFY(!bench.drawing().bounds().isEmpty());
+            bench.drawing().reduceMeshes([] { return false; });
+            state = bench.drawing().proceed(some);
+        }
+        QCOMPARE(state, NxSceneDrawing::FINISHED);
+    }
+
+    void anEmptySceneIsFinishedAtOnce()
+    {
+        DrawingBench bench;
+        const DrawingTarget target(bench.gl(), side, side);
+        bench.drawing().begin(DrawingBench::front(), side, side, 1);
+        QCOMPARE(bench.drawing().proceed(1), NxSceneDrawing::FINISHED);
+    }
+};
+
+QTEST_MAIN(TestPictureInParts)
+#include "tst_PictureInParts.moc"
