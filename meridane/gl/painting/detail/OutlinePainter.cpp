@@ -10,19 +10,6 @@
 namespace meridane {
 namespace {
 
-constexpr const char* shapeVertexSource = R"(
-layout(location = 0) in vec3 position;
-uniform vec3 origin;
-uniform mat4 modelMatrix;
-uniform mat4 eyeToClip;
-uniform float pointSize;
-void main()
-{
-    gl_Position = eyeToClip * (modelMatrix * vec4(position - origin, 1.0));
-    gl_PointSize = pointSize;
-}
-)";
-
 constexpr const char* shapeFragmentSource = R"(
 out vec4 mask;
 void main()
@@ -111,6 +98,7 @@ NxPixelRectangle rectangleOf(PlacedScene& scene, std::span<const Id> items, cons
 OutlinePainter::OutlinePainter(const NxGLFunctions& gl)
     : m_gl(gl)
     , m_border(gl, "outlines", borderFragmentSource)
+    , m_shapes(gl, "shapes", shapeFragmentSource)
 {
 }
 
@@ -158,26 +146,10 @@ bool OutlinePainter::prepareMask(int width, int height)
     return false;
 }
 
-void OutlinePainter::prepareShapes()
-{
-    if (m_shapes.isMade())
-        return;
-    m_shapes = GLProgram(m_gl, "shapes", shapeVertexSource, shapeFragmentSource);
-    if (!m_shapes.isUsable())
-        return;
-    m_origin = m_shapes.uniform("origin");
-    m_modelMatrix = m_shapes.uniform("modelMatrix");
-    m_eyeToClip = m_shapes.uniform("eyeToClip");
-    m_pointSize = m_shapes.uniform("pointSize");
-}
-
 void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPainter& painter,
     const PictureFrame& frame, const NxDrawingStyle& style, NxDrawingCounts& counts)
 {
     if (items.empty())
-        return;
-    prepareShapes();
-    if (!m_shapes.isUsable())
         return;
     const float width = std::max(style.outlineWidth * frame.scale, 1.0F);
     const float border = borderWidth * frame.scale;
@@ -192,10 +164,9 @@ void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPai
         m_gl.Clear(GL_COLOR_BUFFER_BIT);
         GLStateScope clipping(m_gl);
         clipping.setScissor(part.left, part.bottom, part.width, part.height);
-        m_shapes.use();
-        m_gl.UniformMatrix4fv(m_eyeToClip, 1, GL_FALSE, frame.eyeToClip[0].data());
-        m_gl.Uniform1f(m_pointSize, style.pointSize * frame.scale);
-        painter.drawShapes(scene, items, {m_origin, m_modelMatrix}, counts);
+        if (!m_shapes.use(frame, style))
+            return;
+        painter.drawShapes(scene, items, m_shapes.modelUniforms(), counts);
     }
     drawBorder(part, width, border, style, counts);
 }

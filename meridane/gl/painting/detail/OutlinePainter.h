@@ -3,6 +3,7 @@
 #include "meridane/gl/geometry/NxPixelRectangle.h"
 #include "meridane/gl/painting/detail/ItemPainter.h"
 #include "meridane/gl/painting/detail/ScreenPass.h"
+#include "meridane/gl/painting/detail/ShapeProgram.h"
 
 #include <span>
 
@@ -23,7 +24,6 @@ public:
     void forget();
 
 private:
-    void prepareShapes();
     bool prepareMask(int width, int height);
     void drawBorder(
         const NxPixelRectangle& part, float width, float border, const NxDrawingStyle& style, NxDrawingCounts& counts);
@@ -31,11 +31,7 @@ private:
 
     const NxGLFunctions& m_gl;
     ScreenPass m_border;
-    GLProgram m_shapes;
-    int m_origin = -1;
-    int m_modelMatrix = -1;
-    int m_eyeToClip = -1;
-    int m_pointSize = -1;
+    ShapeProgram m_shapes;
     unsigned int m_framebuffer = 0;
     unsigned int m_mask = 0;
     int m_width = 0;

@@ -6,28 +6,10 @@
 #include "meridane/gl/painting/detail/NumberColor.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 
 namespace meridane {
 namespace {
-
-constexpr const char* numberVertexSource = R"(
-layout(location = 0) in vec3 position;
-uniform vec3 origin;
-uniform mat4 modelMatrix;
-uniform mat4 eyeToClip;
-uniform float pointSize;
-uniform vec4 section;
-out float gl_ClipDistance[1];
-void main()
-{
-    vec4 point = modelMatrix * vec4(position - origin, 1.0);
-    gl_ClipDistance[0] = dot(vec4(point.xyz / point.w, 1.0), section);
-    gl_Position = eyeToClip * point;
-    gl_PointSize = pointSize;
-}
-)";
 
 constexpr const char* numberFragmentSource = R"(
 uniform vec4 number;
@@ -42,6 +24,7 @@ void main()
 
 SeenItems::SeenItems(const NxGLFunctions& gl)
     : m_gl(gl)
+    , m_shapes(gl, "what is seen", numberFragmentSource)
 {
 }
 
@@ -92,10 +75,6 @@ std::vector<Id> SeenItems::find(PlacedScene& scene, ItemPainter& painter, const 
     const int height = std::clamp(part.bottom + part.height, 0, frame.height) - bottom;
     if (width <= 0 || height <= 0)
         return {};
-    if (!m_shapes.isMade())
-        m_shapes = GLProgram(m_gl, "what is seen", numberVertexSource, numberFragmentSource);
-    if (!m_shapes.isUsable())
-        return {};
 
     std::vector<std::uint8_t> bytes(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4);
     {
@@ -110,16 +89,8 @@ std::vector<Id> SeenItems::find(PlacedScene& scene, ItemPainter& painter, const 
             state.setEnabled(GL_PROGRAM_POINT_SIZE);
             state.setDepthFunction(GL_LEQUAL);
             state.setEnabled(GL_CLIP_DISTANCE0, style.section.isOn);
-            m_shapes.use();
-            m_gl.UniformMatrix4fv(m_shapes.uniform("eyeToClip"), 1, GL_FALSE, frame.eyeToClip[0].data());
-            m_gl.Uniform1f(m_shapes.uniform("pointSize"), style.pointSize * frame.scale);
-            // Without a section, nothing is on the wrong side of it.
-            const std::array<float, 4> section = style.section.isOn
-                ? frame.sectionFor(style.section.normal, style.section.position)
-                : std::array<float, 4>{0, 0, 0, 1};
-            m_gl.Uniform4fv(m_shapes.uniform("section"), 1, section.data());
-            painter.drawShapes(scene, painter.found(),
-                {m_shapes.uniform("origin"), m_shapes.uniform("modelMatrix"), m_shapes.uniform("number")}, counts);
+            if (m_shapes.use(frame, style))
+                painter.drawShapes(scene, painter.found(), m_shapes.modelUniforms(), counts);
             m_gl.PixelStorei(GL_PACK_ALIGNMENT, 4);
             m_gl.ReadPixels(0, 0, width, height, GL_RGBA, GL_UNSIGNED_BYTE, bytes.data());
         }

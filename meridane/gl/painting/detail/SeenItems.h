@@ -2,6 +2,7 @@
 
 #include "meridane/gl/geometry/NxPixelRectangle.h"
 #include "meridane/gl/painting/detail/ItemPainter.h"
+#include "meridane/gl/painting/detail/ShapeProgram.h"
 
 #include <vector>
 
@@ -27,7 +28,7 @@ private:
     void deleteBuffers();
 
     const NxGLFunctions& m_gl;
-    GLProgram m_shapes;
+    ShapeProgram m_shapes;
     unsigned int m_framebuffer = 0;
     unsigned int m_buffers[2] = {0, 0}; // colour and depth
 };

@@ -1,16 +1,13 @@
 #pragma once
 
-#include "meridane/gl/painting/detail/ItemPainter.h"
+#include "meridane/gl/painting/detail/ShapeProgram.h"
 
 namespace meridane {
 
 /// Draws the sides of the triangles over the surfaces, where the style says so.
 class WirePainter {
 public:
-    explicit WirePainter(const NxGLFunctions& gl)
-        : m_gl(gl)
-    {
-    }
+    explicit WirePainter(const NxGLFunctions& gl);
     WirePainter(const WirePainter&) = delete;
     WirePainter& operator=(const WirePainter&) = delete;
     ~WirePainter() = default;
@@ -22,7 +19,7 @@ public:
 
 private:
     const NxGLFunctions& m_gl;
-    GLProgram m_program;
+    ShapeProgram m_program;
 };
 
 } // namespace meridane
