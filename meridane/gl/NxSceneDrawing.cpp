@@ -2,7 +2,6 @@
 
 #include "meridane/gl/detail/ScenePainter.h"
 
-#include <limits>
 #include <utility>
 
 using namespace meridane;
@@ -116,10 +115,8 @@ void NxSceneDrawing::setChangeHook(std::function<void()> hook)
 
 void NxSceneDrawing::draw(const NxViewpoint& viewpoint, int width, int height, float scale, float error)
 {
-    if (width <= 0 || height <= 0)
-        return;
-    m_private->begin(viewpoint, width, height, scale, error);
-    static_cast<void>(m_private->proceed(std::numeric_limits<std::uint64_t>::max()));
+    if (width > 0 && height > 0)
+        m_private->draw(viewpoint, width, height, scale, error);
 }
 
 void NxSceneDrawing::begin(const NxViewpoint& viewpoint, int width, int height, float scale)
@@ -128,7 +125,7 @@ void NxSceneDrawing::begin(const NxViewpoint& viewpoint, int width, int height, 
         m_private->begin(viewpoint, width, height, scale, 0);
 }
 
-NxSceneDrawing::PictureState NxSceneDrawing::proceed(std::uint64_t corners)
+NxPictureState NxSceneDrawing::proceed(std::uint64_t corners)
 {
     return m_private->proceed(corners);
 }
@@ -141,6 +138,11 @@ void NxSceneDrawing::reduceMeshes(const std::function<bool()>& isTimeOver)
 bool NxSceneDrawing::isReducing() const
 {
     return m_private->isReducing();
+}
+
+bool NxSceneDrawing::canReduceMore() const
+{
+    return m_private->canReduceMore();
 }
 
 std::vector<std::vector<NxNode*>> NxSceneDrawing::seenIn(

@@ -6,6 +6,7 @@
 #include "meridane/gl/gpu/NxDrawingCounts.h"
 #include "meridane/gl/gpu/NxImage.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
+#include "meridane/gl/painting/NxPictureState.h"
 #include "meridane/gl/places/NxNodeVisibility.h"
 
 #include <cstdint>
@@ -80,25 +81,20 @@ public:
     /// more than so many pixels. A mesh of very many triangles is reduced in any case, however near it is.
     void draw(const NxViewpoint& viewpoint, int width, int height, float scale, float error = 0);
 
-    /// How far a picture is that is drawn bit by bit.
-    enum PictureState {
-        UNFINISHED, ///< `proceed` should be called again
-        FINISHED, ///< as `draw` would have drawn it
-        OUTDATED, ///< something has changed, or another picture was drawn; it can't be finished
-    };
-    /// Begins such a picture in the bound framebuffer, which must be bound in each `proceed` too, with nothing else
-    /// drawn into it. See `draw`.
+    /// Begins a picture that is drawn bit by bit in the bound framebuffer, which must be bound in each `proceed` too,
+    /// with nothing else drawn into it. See `draw`.
     void begin(const NxViewpoint& viewpoint, int width, int height, float scale);
     /// Draws about so many corners of opaque meshes more, and everything else when they are drawn.
-    PictureState proceed(std::uint64_t corners);
+    NxPictureState proceed(std::uint64_t corners);
 
     /// Works on reduced meshes for those that were in view in the latest picture, until `isTimeOver`, which is asked
     /// about every millisecond. Another thread does most of the work. They take less memory, in the end, than the
     /// meshes themselves do. Doesn't need the context.
     void reduceMeshes(const std::function<bool()>& isTimeOver);
-    /// Whether `reduceMeshes` has more to do, now or when the other thread is ready. Asked between pictures, the answer
-    /// is yes first for each picture that shows something else.
+    /// Whether `reduceMeshes` has more to do, now or when the other thread is ready.
     [[nodiscard]] bool isReducing() const;
+    /// Whether it has something to do now.
+    [[nodiscard]] bool canReduceMore() const;
 
     /// The meshes that are seen in a part of that picture, each as the path of nodes from a child of the root to it.
     /// What is behind other surfaces isn't seen, nor what is hidden or drawn as a box. Needs the context, and takes

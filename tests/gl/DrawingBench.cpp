@@ -53,7 +53,7 @@ QImage DrawingBench::drawInParts(const NxViewpoint& viewpoint, int width, int he
     const DrawingTarget target(m_gl, width, height);
     m_drawing->begin(viewpoint, width, height, 1);
     parts = 1;
-    while (m_drawing->proceed(corners) == NxSceneDrawing::UNFINISHED)
+    while (m_drawing->proceed(corners) == NxPictureState::Unfinished)
         ++parts;
     return target.read();
 }

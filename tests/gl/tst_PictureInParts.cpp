@@ -52,10 +52,10 @@ private Q_SLOTS:
         static_cast<void>(bench.draw(DrawingBench::front(), side, side));
         const DrawingTarget target(bench.gl(), side, side);
         bench.drawing().begin(DrawingBench::front(), side, side, 1);
-        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::UNFINISHED);
+        QCOMPARE(bench.drawing().proceed(some), NxPictureState::Unfinished);
         scene->removeAllChildren();
-        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::OUTDATED);
-        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::OUTDATED);
+        QCOMPARE(bench.drawing().proceed(some), NxPictureState::Outdated);
+        QCOMPARE(bench.drawing().proceed(some), NxPictureState::Outdated);
     }
 
     void anotherPictureEndsTheOneBefore()
@@ -64,12 +64,12 @@ private Q_SLOTS:
         const NxRef<NxGroup> scene = sceneOfAllKinds(bench);
         const DrawingTarget target(bench.gl(), side, side);
         bench.drawing().begin(DrawingBench::front(), side, side, 1);
-        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::UNFINISHED);
+        QCOMPARE(bench.drawing().proceed(some), NxPictureState::Unfinished);
         bench.drawing().draw(DrawingBench::front(), side, side, 1, 4);
-        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::OUTDATED);
+        QCOMPARE(bench.drawing().proceed(some), NxPictureState::Outdated);
         bench.drawing().begin(DrawingBench::front(), side, side, 1);
         QVERIFY(!bench.drawing().seenIn({0, 0, side, side}, DrawingBench::front(), side, side, 1).empty());
-        QCOMPARE(bench.drawing().proceed(some), NxSceneDrawing::OUTDATED);
+        QCOMPARE(bench.drawing().proceed(some), NxPictureState::Outdated);
     }
 
     void questionsBetweenPartsChangeNothing()
@@ -78,13 +78,13 @@ private Q_SLOTS:
         const NxRef<NxGroup> scene = sceneOfAllKinds(bench);
         const DrawingTarget target(bench.gl(), side, side);
         bench.drawing().begin(DrawingBench::front(), side, side, 1);
-        NxSceneDrawing::PictureState state = NxSceneDrawing::UNFINISHED;
-        while (state == NxSceneDrawing::UNFINISHED) {
+        NxPictureState state = NxPictureState::Unfinished;
+        while (state == NxPictureState::Unfinished) {
             QVERIFY(!bench.drawing().bounds().isEmpty());
             bench.drawing().reduceMeshes([] { return false; });
             state = bench.drawing().proceed(some);
         }
-        QCOMPARE(state, NxSceneDrawing::FINISHED);
+        QCOMPARE(state, NxPictureState::Finished);
     }
 
     void anEmptySceneIsFinishedAtOnce()
@@ -92,7 +92,7 @@ private Q_SLOTS:
         DrawingBench bench;
         const DrawingTarget target(bench.gl(), side, side);
         bench.drawing().begin(DrawingBench::front(), side, side, 1);
-        QCOMPARE(bench.drawing().proceed(1), NxSceneDrawing::FINISHED);
+        QCOMPARE(bench.drawing().proceed(1), NxPictureState::Finished);
     }
 };
 

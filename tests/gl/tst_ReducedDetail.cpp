@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr int side = 300;
-constexpr int steps = 200; // of the ball: more vertices than the picture needs
+constexpr int side = 200;
+constexpr int steps = 120; // of the ball: more vertices than the picture needs
 
 /// Works until all meshes in view are reduced.
 void reduceAll(NxSceneDrawing& drawing)
@@ -74,7 +74,7 @@ private Q_SLOTS:
         const std::uint64_t all = bench.counts().drawnTriangles;
         QCOMPARE(bench.counts().fullCorners, all * 3);
         reduceAll(bench.drawing());
-        for (int turn = 0; turn < 4; ++turn) {
+        for (int turn = 0; turn < 3; ++turn) {
             const QImage full = pictureOf(bench, 0, viewpoint);
             const QImage reduced = pictureOf(bench, error, viewpoint);
             QVERIFY(bench.counts().drawnTriangles < all / 10);

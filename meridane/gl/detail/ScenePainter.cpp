@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <utility>
 
 namespace meridane {
@@ -63,13 +64,25 @@ void ScenePainter::begin(const NxViewpoint& viewpoint, int width, int height, fl
     m_foundRevision = scene.revision();
 }
 
-NxSceneDrawing::PictureState ScenePainter::proceed(std::uint64_t corners)
+void ScenePainter::draw(const NxViewpoint& viewpoint, int width, int height, float scale, float error)
+{
+    begin(viewpoint, width, height, scale, error);
+    // What changes from now on, because a report of a problem leads to it, is for the next picture.
+    static_cast<void>(drawMore(std::numeric_limits<std::uint64_t>::max()));
+}
+
+NxPictureState ScenePainter::proceed(std::uint64_t corners)
 {
     scene.update();
     if (!m_underWay || m_underWay->revision != scene.revision()) {
         m_underWay.reset();
-        return NxSceneDrawing::OUTDATED;
+        return NxPictureState::Outdated;
     }
+    return drawMore(corners);
+}
+
+NxPictureState ScenePainter::drawMore(std::uint64_t corners)
+{
     UnderWay& picture = *m_underWay;
     const PictureFrame& frame = picture.frame;
     picture.progress.cornersLeft = corners;
@@ -81,14 +94,14 @@ NxSceneDrawing::PictureState ScenePainter::proceed(std::uint64_t corners)
         state.setEnabled(GL_PROGRAM_POINT_SIZE);
         state.setLineWidth(lineWidth(frame.scale));
         if (!drawSurfaces(picture))
-            return NxSceneDrawing::UNFINISHED;
+            return NxPictureState::Unfinished;
         drawOutlines(frame);
         drawMarks(frame);
     }
     m_underWay.reset();
     ++counts.pictures;
     errors.report("Drawing the scene");
-    return NxSceneDrawing::FINISHED;
+    return NxPictureState::Finished;
 }
 
 bool ScenePainter::drawSurfaces(UnderWay& picture)
@@ -196,6 +209,11 @@ void ScenePainter::reduceMeshes(const std::function<bool()>& isTimeOver)
 bool ScenePainter::isReducing() const
 {
     return m_foundRevision.has_value() || painter.meshes().levels().isBusy();
+}
+
+bool ScenePainter::canReduceMore() const
+{
+    return m_foundRevision.has_value() || !painter.meshes().levels().isWaiting();
 }
 
 void ScenePainter::forget()

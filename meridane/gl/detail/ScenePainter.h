@@ -1,7 +1,11 @@
 #pragma once
 
-#include "meridane/gl/NxSceneDrawing.h"
+#include "meridane/gl/geometry/NxPixelRectangle.h"
+#include "meridane/gl/gpu/NxDrawingCounts.h"
+#include "meridane/gl/gpu/NxImage.h"
 #include "meridane/gl/gpu/detail/GLErrors.h"
+#include "meridane/gl/painting/NxDrawingStyle.h"
+#include "meridane/gl/painting/NxPictureState.h"
 #include "meridane/gl/painting/detail/Ground.h"
 #include "meridane/gl/painting/detail/ItemPainter.h"
 #include "meridane/gl/painting/detail/LinePainter.h"
@@ -13,7 +17,10 @@
 #include "meridane/gl/places/detail/OutlinedItems.h"
 #include "meridane/gl/places/detail/PlacedScene.h"
 
+#include <cstdint>
+#include <functional>
 #include <optional>
+#include <vector>
 
 namespace meridane {
 
@@ -26,16 +33,19 @@ public:
     ~ScenePainter() = default;
 
     void noteChange();
+    /// Draws a picture: see `NxSceneDrawing::draw`.
+    void draw(const NxViewpoint& viewpoint, int width, int height, float scale, float error);
     /// Draws the background, finds what is in view, and uploads it; what else the picture consists of is left to
-    /// `proceed`. See `NxSceneDrawing::draw`.
+    /// `proceed`.
     void begin(const NxViewpoint& viewpoint, int width, int height, float scale, float error);
     /// Draws about that many corners more.
-    NxSceneDrawing::PictureState proceed(std::uint64_t corners);
+    NxPictureState proceed(std::uint64_t corners);
     [[nodiscard]] std::vector<std::vector<NxNode*>> seenIn(
         const NxPixelRectangle& part, const NxViewpoint& viewpoint, int width, int height, float scale);
     /// Works on reduced meshes for those in view: see `NxSceneDrawing::reduceMeshes`.
     void reduceMeshes(const std::function<bool()>& isTimeOver);
     [[nodiscard]] bool isReducing() const;
+    [[nodiscard]] bool canReduceMore() const;
     void forget();
 
     const NxGLFunctions& gl;
@@ -68,6 +78,7 @@ private:
         ItemPainter::Progress progress;
     };
 
+    NxPictureState drawMore(std::uint64_t corners);
     bool drawSurfaces(UnderWay& picture);
     void drawOutlines(const PictureFrame& frame);
     [[nodiscard]] float lineWidth(float wanted) const;

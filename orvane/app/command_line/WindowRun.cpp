@@ -9,6 +9,7 @@
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/scene/SetFieldCommand.h"
+#include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/picture/PictureFile.h"
 #include "orvane/app/window/MainWindow.h"
 
@@ -168,6 +169,8 @@ Result<> WindowRun::writeAll(Session& session, MainWindow& window)
     if (!result || !written)
         return result ? written : result;
     window.startView();
+    if (auto* const view = window.findChild<SceneView*>(); view != nullptr)
+        view->pictures().setAlwaysFull(true);
     QPixmap picture;
     do {
         // Events and the sensors' queue update layouts, editors and the view's messages, and each may cause the other.

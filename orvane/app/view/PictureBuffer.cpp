@@ -13,8 +13,9 @@ constexpr int wantedSamples = 4;
 
 } // namespace
 
-PictureBuffer::PictureBuffer(const NxGLFunctions& functions)
+PictureBuffer::PictureBuffer(const NxGLFunctions& functions, Edges edges)
     : m_gl(functions)
+    , m_edges(edges)
 {
 }
 
@@ -33,7 +34,8 @@ QSize PictureBuffer::bind(QSize size)
     if (possible != m_size || m_drawn == 0) {
         destroy();
         // A picture with rough edges is better than none.
-        if (!make(possible, std::min(samples, wantedSamples)) && !make(possible, 0)) {
+        const int wanted = m_edges == Edges::Smooth ? std::min(samples, wantedSamples) : 0;
+        if (!make(possible, wanted) && !make(possible, 0)) {
             destroy();
             return {};
         }
@@ -41,6 +43,11 @@ QSize PictureBuffer::bind(QSize size)
     }
     m_gl.BindFramebuffer(GL_FRAMEBUFFER, m_drawn);
     return m_size;
+}
+
+void PictureBuffer::bindAgain()
+{
+    m_gl.BindFramebuffer(GL_FRAMEBUFFER, m_drawn);
 }
 
 bool PictureBuffer::make(QSize size, int samples)

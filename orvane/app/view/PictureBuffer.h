@@ -11,8 +11,11 @@ class NxGLFunctions;
 /// The context of the functions must be current in every operation but `contextLost`, and in the destructor.
 class PictureBuffer {
 public:
+    /// How edges are drawn.
+    enum class Edges { Smooth, Rough };
+
     /// The functions outlive the buffer.
-    explicit PictureBuffer(const NxGLFunctions& functions);
+    explicit PictureBuffer(const NxGLFunctions& functions, Edges edges = Edges::Smooth);
     ~PictureBuffer();
     PictureBuffer(const PictureBuffer&) = delete;
     PictureBuffer& operator=(const PictureBuffer&) = delete;
@@ -22,6 +25,8 @@ public:
     [[nodiscard]] QSize bind(QSize size);
     /// The picture that was drawn since `bind`.
     [[nodiscard]] QImage read();
+    /// Binds the framebuffer again, with what was drawn in it; `bind` must have bound one.
+    void bindAgain();
     /// Forgets what was in a context that is gone.
     void contextLost();
 
@@ -30,6 +35,7 @@ private:
     void destroy();
 
     const NxGLFunctions& m_gl;
+    Edges m_edges;
     QSize m_size;
     unsigned m_drawn = 0; // the framebuffer with samples
     unsigned m_resolved = 0;

@@ -49,6 +49,10 @@ SceneView::SceneView(QWidget* parent)
     orvane::setViewColors(m_style, palette());
     m_drawing.setStyle(m_style);
     m_drawing.setChangeHook([this] { redrawLater(); });
+    connect(&m_pictures, &ViewPictures::refined, this, [this](const QImage& picture) {
+        m_picture = picture;
+        update();
+    });
 }
 
 SceneView::~SceneView() = default;
@@ -91,6 +95,7 @@ void SceneView::setScene(NxGroup* scene, const QString& folder, const std::optio
     m_scene = NxRef<NxGroup>(scene);
     m_selected.clear();
     m_drawing.setScene(scene, folder);
+    m_pictures.reset();
     m_input.cancel();
     m_viewpoint = viewpoint.value_or(orvane::firstViewpoint());
     m_hasMoved = viewpoint.has_value();
@@ -254,7 +259,7 @@ void SceneView::redraw(const QSize& deviceSize)
     frameIfAsked(); // not with each picture: an object that is moved would seem not to move
     m_stale = false;
     m_drawnSize = deviceSize;
-    m_picture = m_drawing.draw(m_viewpoint, deviceSize, static_cast<float>(devicePixelRatioF()));
+    m_picture = m_pictures.draw(m_viewpoint, deviceSize, static_cast<float>(devicePixelRatioF()));
     if (!m_drawing.isStarted())
         showProblem();
 }

@@ -3,6 +3,7 @@
 #include "orvane/app/view/ViewDrawing.h"
 #include "orvane/app/view/ViewInput.h"
 #include "orvane/app/view/ViewNavigation.h"
+#include "orvane/app/view/ViewPictures.h"
 
 #include "meridane/gl/NxRayPick.h"
 #include "meridane/gl/geometry/NxViewpoint.h"
@@ -33,6 +34,8 @@ public:
     /// Sets the drawing up now, for a picture that is taken at once.
     void start();
     [[nodiscard]] ViewDrawing& drawing() noexcept { return m_drawing; }
+    /// How its pictures are made, with how much detail.
+    [[nodiscard]] ViewPictures& pictures() noexcept { return m_pictures; }
 
     /// What mouse and keys do here; for tools to be added to.
     [[nodiscard]] ViewInput& input() noexcept { return m_input; }
@@ -130,6 +133,7 @@ private:
     ViewInput m_input;
     NxDrawingStyle m_style;
     ViewDrawing m_drawing;
+    ViewPictures m_pictures{m_drawing};
     NxRef<NxGroup> m_scene;
     std::vector<NxRef<NxNode>> m_selected;
     QImage m_picture;

@@ -10,9 +10,12 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
+
+constexpr double milliseconds = 1e-6; // of nanoseconds
 
 std::vector<NxNode*> pointersTo(const std::vector<NxRef<NxNode>>& nodes)
 {
@@ -39,6 +42,7 @@ ViewDrawing::~ViewDrawing()
         static_cast<void>(m_context->makeCurrent()); // fails if the context was lost; its objects are gone then
     m_drawing.reset();
     m_buffer.reset();
+    m_reducedBuffer.reset();
 }
 
 bool ViewDrawing::start()
@@ -53,6 +57,7 @@ bool ViewDrawing::start()
     if (!makeContext())
         return false;
     m_buffer = std::make_unique<PictureBuffer>(m_functions);
+    m_reducedBuffer = std::make_unique<PictureBuffer>(m_functions, PictureBuffer::Edges::Rough);
     m_drawing = std::make_unique<NxSceneDrawing>(m_functions);
     m_drawing->setImageLoader([this](const std::string& fileName, NxImage& image, std::string& reason) {
         return m_textures.load(fileName, image, reason);
@@ -93,11 +98,13 @@ void ViewDrawing::restart()
 {
     m_drawing->contextLost();
     m_buffer->contextLost();
+    m_reducedBuffer->contextLost();
     m_context.reset();
     if (makeContext())
         return;
     m_drawing.reset();
     m_buffer.reset();
+    m_reducedBuffer.reset();
 }
 
 void ViewDrawing::setChangeHook(std::function<void()> hook)
@@ -194,9 +201,87 @@ QImage ViewDrawing::draw(const NxViewpoint& viewpoint, QSize size, float scale)
     m_textures.dropResults();
     ++m_pictures;
     QImage picture = m_buffer->read();
-    constexpr double nanoseconds = 1e-6;
-    m_milliseconds = static_cast<double>(clock.nsecsElapsed()) * nanoseconds;
+    m_milliseconds = static_cast<double>(clock.nsecsElapsed()) * milliseconds;
     return picture;
+}
+
+double ViewDrawing::drawReduced(
+    const NxViewpoint& viewpoint, QSize size, float scale, const PictureDetail& detail, QImage& picture)
+{
+    if (!makeCurrent())
+        return 0;
+    const QSize possible = m_reducedBuffer->bind(size / detail.divisor);
+    if (possible.isEmpty())
+        return 0;
+    QElapsedTimer clock;
+    clock.start();
+    const auto divisor = static_cast<float>(detail.divisor);
+    m_drawing->draw(viewpoint, possible.width(), possible.height(), scale / divisor, detail.error / divisor);
+    ++m_pictures;
+    picture = m_reducedBuffer->read();
+    return static_cast<double>(clock.nsecsElapsed()) * milliseconds;
+}
+
+bool ViewDrawing::begin(const NxViewpoint& viewpoint, QSize size, float scale)
+{
+    constexpr double firstCorners = 10'000;
+    if (!makeCurrent())
+        return false;
+    const QSize possible = m_buffer->bind(size);
+    if (possible.isEmpty())
+        return false;
+    QElapsedTimer clock;
+    clock.start();
+    m_drawing->begin(viewpoint, possible.width(), possible.height(), scale);
+    m_cornersInMillisecond = firstCorners;
+    m_partMilliseconds = static_cast<double>(clock.nsecsElapsed()) * milliseconds;
+    return true;
+}
+
+NxPictureState ViewDrawing::proceed(double time)
+{
+    if (!makeCurrent())
+        return NxPictureState::Outdated;
+    m_buffer->bindAgain();
+    QElapsedTimer clock;
+    clock.start();
+    const double corners = std::max(m_cornersInMillisecond * time, 1.0);
+    const NxPictureState state = m_drawing->proceed(static_cast<std::uint64_t>(corners));
+    m_functions.Finish(); // OpenGL would only collect the work, and do it all at once in the end
+    const double taken = static_cast<double>(clock.nsecsElapsed()) * milliseconds;
+    m_partMilliseconds += taken;
+    constexpr double mostGrowth = 2;
+    m_cornersInMillisecond = std::min(corners / std::max(taken, time / 10), m_cornersInMillisecond * mostGrowth);
+    if (state == NxPictureState::Finished) {
+        m_textures.dropResults();
+        ++m_pictures;
+        m_milliseconds = m_partMilliseconds;
+    }
+    return state;
+}
+
+QImage ViewDrawing::finishedPicture()
+{
+    return makeCurrent() ? m_buffer->read() : QImage();
+}
+
+void ViewDrawing::reduceMeshes(double time)
+{
+    if (!isStarted())
+        return;
+    QElapsedTimer clock;
+    clock.start();
+    m_drawing->reduceMeshes([&] { return static_cast<double>(clock.nsecsElapsed()) * milliseconds >= time; });
+}
+
+bool ViewDrawing::isReducing() const
+{
+    return isStarted() && m_drawing->isReducing();
+}
+
+bool ViewDrawing::canReduceMore() const
+{
+    return isStarted() && m_drawing->canReduceMore();
 }
 
 NxDrawingCounts ViewDrawing::counts() const

@@ -2,12 +2,14 @@
 
 #include "orvane/app/images/TextureFiles.h"
 #include "orvane/app/view/PictureBuffer.h"
+#include "orvane/app/view/refinement/DetailGovernor.h"
 
 #include "meridane/gl/geometry/NxBounds.h"
 #include "meridane/gl/geometry/NxViewpoint.h"
 #include "meridane/gl/gpu/NxDrawingCounts.h"
 #include "meridane/gl/gpu/NxGLFunctions.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
+#include "meridane/gl/painting/NxPictureState.h"
 #include "meridane/gl/places/NxNodeVisibility.h"
 #include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxGroup.h"
@@ -63,6 +65,21 @@ public:
 
     /// A picture of that size in device pixels; a null image when there can't be one.
     [[nodiscard]] QImage draw(const NxViewpoint& viewpoint, QSize size, float scale);
+    /// Draws a picture with that detail, without smooth edges. Returns how many milliseconds it took.
+    double drawReduced(
+        const NxViewpoint& viewpoint, QSize size, float scale, const PictureDetail& detail, QImage& picture);
+    /// Begins a picture with full detail that is drawn bit by bit; false when there can't be one.
+    [[nodiscard]] bool begin(const NxViewpoint& viewpoint, QSize size, float scale);
+    /// Goes on with it for about so many milliseconds. See `NxSceneDrawing::proceed`.
+    [[nodiscard]] NxPictureState proceed(double milliseconds);
+    /// That picture, when it is finished.
+    [[nodiscard]] QImage finishedPicture();
+    /// Works for so many milliseconds on meshes with less detail: see `NxSceneDrawing::reduceMeshes`.
+    void reduceMeshes(double milliseconds);
+    /// Whether there is more of that to do, or another thread does it.
+    [[nodiscard]] bool isReducing() const;
+    /// Whether there is something to do for this thread.
+    [[nodiscard]] bool canReduceMore() const;
     /// The meshes that are seen in a part of such a picture: see `NxSceneDrawing::seenIn`. Nothing before the start.
     [[nodiscard]] std::vector<std::vector<NxNode*>> seenIn(
         const QRect& part, const NxViewpoint& viewpoint, QSize size, float scale);
@@ -71,7 +88,7 @@ public:
     [[nodiscard]] NxBounds bounds(const std::vector<NxNode*>& nodes) const;
     /// A number that changes, with the next picture, when nodes have come to the scene or gone; 0 before the start.
     [[nodiscard]] std::uint64_t structure() const;
-    /// What the last picture took, with the time in which the GPU drew it.
+    /// What the last picture took, and the time in which the GPU drew the last one with full detail.
     [[nodiscard]] NxDrawingCounts counts() const;
     [[nodiscard]] double pictureMilliseconds() const noexcept { return m_milliseconds; }
     /// How many pictures were drawn.
@@ -96,10 +113,13 @@ private:
     TextureFiles m_textures;
     QString m_problem;
     int m_pictures = 0;
-    double m_milliseconds = 0; // of the last one
+    double m_milliseconds = 0; // of the last one with full detail
+    double m_partMilliseconds = 0; // of the parts so far of the one that is drawn bit by bit
+    double m_cornersInMillisecond = 0; // of its latest part
 
     std::unique_ptr<NxOffscreenContext> m_context;
     NxGLFunctions m_functions;
     std::unique_ptr<PictureBuffer> m_buffer;
+    std::unique_ptr<PictureBuffer> m_reducedBuffer;
     std::unique_ptr<NxSceneDrawing> m_drawing;
 };

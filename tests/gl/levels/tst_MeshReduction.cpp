@@ -163,7 +163,7 @@ private Q_SLOTS:
     // More vertices than are simplified without merging them first.
     void aLargeMeshIsReducedMuchAndStaysClosed()
     {
-        const MeshCopy mesh = ball(420);
+        const MeshCopy mesh = ball(400);
         const std::vector<ReducedMesh> levels = reduced(mesh);
         QVERIFY(levels.size() >= 3);
         QVERIFY(levels.front().indices.size() < mesh.indices.size() / 10);
@@ -180,8 +180,10 @@ private Q_SLOTS:
         for (std::size_t first = 0; first < level.indices.size(); first += 3) {
             const auto position
                 = [&](std::size_t i) { return mesh.positions[level.positions[level.indices[first + i]]]; };
-            const VbVec3f face
-                = normalized(cross(subtract(position(1), position(0)), subtract(position(2), position(0))), VbVec3f());
+            const VbVec3f area = cross(subtract(position(1), position(0)), subtract(position(2), position(0)));
+            if (!(length(area) > 1e-6)) // isn't seen
+                continue;
+            const VbVec3f face = normalized(area, VbVec3f());
             for (std::size_t i = 0; i < 3; ++i)
                 QVERIFY(std::abs(dot(mesh.normals[level.vertices[level.indices[first + i]]], face)) > 0.99);
         }

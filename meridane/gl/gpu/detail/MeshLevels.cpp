@@ -4,6 +4,7 @@
 #include "meridane/scene/fields/EffectiveField.h"
 
 #include <algorithm>
+#include <new>
 #include <span>
 #include <utility>
 
@@ -52,6 +53,16 @@ void MeshLevels::release(MeshRecord& mesh)
 void MeshLevels::proceed(const std::function<bool()>& isTimeOver)
 {
     takeResults();
+    try {
+        copyMeshes(isTimeOver);
+    } catch (const std::bad_alloc&) { // the mesh keeps its detail
+        std::erase(m_wanted, m_copying.mesh);
+        m_copying = Copying();
+    }
+}
+
+void MeshLevels::copyMeshes(const std::function<bool()>& isTimeOver)
+{
     while (!isTimeOver()) {
         if (m_copying.mesh != nullptr && m_copying.mesh->areLevelsStale)
             release(*m_copying.mesh);

@@ -52,6 +52,7 @@ private:
 
     [[nodiscard]] bool hasRoom() const noexcept { return m_waitingBytes < mostWaitingBytes; }
     void takeResults();
+    void copyMeshes(const std::function<bool()>& isTimeOver);
     void start(MeshRecord& mesh);
     /// False when the mesh is copied.
     bool copySome();

@@ -20,7 +20,7 @@ constexpr float cellsOfLarge = 512;
 constexpr float cellsOfSmall = 8192;
 constexpr std::size_t manyVertices = 300'000;
 /// Of the size of a mesh: what the first reduction of a small one may move, and the greatest error that is useful.
-constexpr float firstError = 1.0F / 1024;
+constexpr float firstError = 1.0F / 256;
 constexpr float greatestError = 1.0F / 4;
 /// A mesh with fewer primitives isn't reduced further.
 constexpr std::size_t fewPrimitives = 24;
@@ -161,10 +161,12 @@ std::vector<ReducedMesh> reducedMeshes(const MeshCopy& mesh, const std::atomic<b
         return levels;
     const bool isLarge = mesh.positions.size() > manyVertices;
     Work work = merged(wholeOf(mesh), mesh, size / (isLarge ? cellsOfLarge : cellsOfSmall));
+    // Merging what is merged already would add up the errors.
+    const Work first = mesh.corners == triangle ? Work() : work;
     std::size_t most = mesh.indices.size() / firstShare;
     for (float error = std::max(firstError * size, work.mesh.error * 1.25F);
          error < greatestError * size && !isCancelled; error *= 2) {
-        work = coarser(work, mesh, error, isCancelled);
+        work = coarser(mesh.corners == triangle ? work : first, mesh, error, isCancelled);
         if (isCancelled)
             break;
         if (work.mesh.indices.size() > most)

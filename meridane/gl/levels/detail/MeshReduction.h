@@ -18,7 +18,7 @@ struct MeshCopy {
 
 /// A mesh with less detail. It refers to the vertices of the whole mesh.
 struct ReducedMesh {
-    /// No vertex is farther from its place in the whole mesh than this, nor the surface, in units of the mesh.
+    /// About how far the mesh is from the whole one at most, in units of the mesh.
     float error = 0;
     std::vector<std::uint32_t> positions; ///< where each vertex has its position
     std::vector<std::uint32_t> vertices; ///< where each vertex has its normal, texture coordinates and colour

@@ -1,10 +1,26 @@
 #include "meridane/gl/levels/detail/ReductionThread.h"
 
+#include <new>
 #include <utility>
 
 #include <unistd.h>
 
 namespace meridane {
+namespace {
+
+/// Without memory for it, the mesh keeps its detail.
+void reduce(ReductionJob& job)
+{
+    if (job.isCancelled)
+        return;
+    try {
+        job.levels = reducedMeshes(job.mesh, job.isCancelled);
+    } catch (const std::bad_alloc&) {
+        job.levels.clear();
+    }
+}
+
+} // namespace
 
 ReductionThread::~ReductionThread()
 {
@@ -34,7 +50,7 @@ void ReductionThread::add(std::shared_ptr<ReductionJob> job)
 void ReductionThread::run()
 {
     // Drawing on the processor goes first. On Linux this concerns only the calling thread.
-    constexpr int lowPriority = 10;
+    constexpr int lowPriority = 5;
     static_cast<void>(::nice(lowPriority));
     std::unique_lock lock(m_mutex);
     for (;;) {
@@ -44,8 +60,7 @@ void ReductionThread::run()
         m_present = std::move(m_jobs.front());
         m_jobs.pop_front();
         lock.unlock();
-        if (!m_present->isCancelled)
-            m_present->levels = reducedMeshes(m_present->mesh, m_present->isCancelled);
+        reduce(*m_present);
         m_present->mesh = MeshCopy();
         m_present->isDone = true;
         lock.lock();
