@@ -306,6 +306,58 @@ private Q_SLOTS:
         COMPARE_PIXEL(picture, 0.5, 0, black);
     }
 
+    void pointsAreTwiceAsLargeWherePixelsAreHalfAsLarge()
+    {
+        const auto scene = groupOf({plain(0, 1, 0).get(), meshOf({{0, 0, 0}}, NxMesh::POINTS).get()});
+        m_bench.drawing().setScene(scene.get());
+        const auto widthOf = [](const QImage& picture) {
+            int width = 0;
+            for (int x = 0; x < picture.width(); ++x)
+                width += picture.pixelColor(x, picture.height() / 2) == green ? 1 : 0;
+            return width;
+        };
+        const int size = static_cast<int>(m_bench.drawing().style().pointSize);
+        QCOMPARE(widthOf(m_bench.drawUntold(DrawingBench::front(), 100, 100, 1)), size);
+        QCOMPARE(widthOf(m_bench.drawUntold(DrawingBench::front(), 200, 200, 2)), 2 * size);
+        m_bench.drawing().setScene(nullptr);
+    }
+
+    void selectedLinesAndPointsAreSeenOnAnyGround_data()
+    {
+        QTest::addColumn<QColor>("own");
+        QTest::addColumn<QColor>("ground");
+        const QColor orange(255, 153, 26);
+        for (const QColor& own : {white, black, orange}) {
+            for (const QColor& ground : {white, black, orange})
+                QTest::addRow("%s on %s", qPrintable(own.name()), qPrintable(ground.name())) << own << ground;
+        }
+    }
+    void selectedLinesAndPointsAreSeenOnAnyGround()
+    {
+        QFETCH(const QColor, own);
+        QFETCH(const QColor, ground);
+        const NxDrawingStyle before = m_bench.drawing().style();
+        const VbColor back(ground.redF(), ground.greenF(), ground.blueF());
+        m_bench.restyle([&](NxDrawingStyle& style) { style.backgroundBottom = style.backgroundTop = back; });
+        const auto material = make<NxMaterial>();
+        material->diffuseColor.setValue(VbColor(0, 0, 0));
+        material->emissiveColor.setValue(VbColor(own.redF(), own.greenF(), own.blueF()));
+        for (const int primitive : {int{NxMesh::LINES}, int{NxMesh::POINTS}}) {
+            const auto mesh = meshOf({{0, -0.5F, 0}, {0, 0.5F, 0}}, primitive);
+            const auto scene = groupOf({material.get(), mesh.get()});
+            m_bench.drawing().setScene(scene.get());
+            m_bench.drawing().setSelectedNode(mesh.get());
+            const QImage picture = m_bench.draw();
+            int seen = 0;
+            const int row = primitive == NxMesh::LINES ? picture.height() / 2 : picture.height() / 4;
+            for (int x = 0; x < picture.width(); ++x)
+                seen += std::abs(qGray(picture.pixel(x, row)) - qGray(ground.rgb())) > 60 ? 1 : 0;
+            QVERIFY2(seen >= 2, qPrintable(QString::number(seen)));
+        }
+        m_bench.drawing().setScene(nullptr);
+        m_bench.drawing().setStyle(before);
+    }
+
     void colorsOfCornersReplaceTheMaterial()
     {
         const auto each = rectangle(-1, -1, 0, 1);

@@ -1,6 +1,5 @@
 #include "orvane/app/view/SceneView.h"
 
-#include "orvane/app/view/ViewColors.h"
 #include "orvane/app/view/ViewMessage.h"
 #include "orvane/app/view/ViewPicking.h"
 
@@ -46,7 +45,7 @@ SceneView::SceneView(QWidget* parent)
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_viewpoint = orvane::firstViewpoint();
-    orvane::setViewColors(m_style, palette());
+    orvane::setViewColors(m_style, palette(), m_background);
     m_drawing.setStyle(m_style);
     m_drawing.setChangeHook([this] { redrawLater(); });
     connect(&m_pictures, &ViewPictures::refined, this, [this](const QImage& picture) {
@@ -233,9 +232,15 @@ void SceneView::setProjection(NxViewpoint::Projection projection)
 void SceneView::setStyle(const NxDrawingStyle& style)
 {
     m_style = style;
-    orvane::setViewColors(m_style, palette());
+    orvane::setViewColors(m_style, palette(), m_background);
     m_drawing.setStyle(m_style);
     redrawLater();
+}
+
+void SceneView::setBackground(orvane::ViewBackground background)
+{
+    m_background = background;
+    setStyle(m_style);
 }
 
 QSize SceneView::sizeHint() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orvane/app/view/ViewColors.h"
 #include "orvane/app/view/ViewDrawing.h"
 #include "orvane/app/view/ViewInput.h"
 #include "orvane/app/view/ViewNavigation.h"
@@ -81,6 +82,7 @@ public:
     /// How the scene is shown; the colours are the view's own.
     [[nodiscard]] const NxDrawingStyle& style() const noexcept { return m_style; }
     void setStyle(const NxDrawingStyle& style);
+    void setBackground(orvane::ViewBackground background);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -132,6 +134,7 @@ private:
     ViewNavigation m_navigation;
     ViewInput m_input;
     NxDrawingStyle m_style;
+    orvane::ViewBackground m_background = orvane::ViewBackground::AsWindow;
     ViewDrawing m_drawing;
     ViewPictures m_pictures{m_drawing};
     NxRef<NxGroup> m_scene;

@@ -22,14 +22,18 @@ QColor toColor(const VbColor& color)
 
 } // namespace
 
-void orvane::setViewColors(NxDrawingStyle& style, const QPalette& palette)
+void orvane::setViewColors(NxDrawingStyle& style, const QPalette& palette, ViewBackground background)
 {
-    const QColor window = palette.color(QPalette::Active, QPalette::Window);
-    // Between the window's colour and a blue grey, so that neither white nor black surfaces vanish in it.
-    const bool isDark = orvane::look::isDark(palette);
+    const bool isAsWindow = background == ViewBackground::AsWindow;
+    const bool isDark = isAsWindow ? orvane::look::isDark(palette) : background == ViewBackground::Dark;
+    // Between the window's colour and a blue grey, so that neither white nor black surfaces vanish in it. One that is
+    // chosen is lighter or darker, for lines and points that vanish in the window's.
+    const QColor window = isAsWindow ? palette.color(QPalette::Active, QPalette::Window)
+        : isDark                     ? QColor(Qt::black)
+                                     : QColor(Qt::white);
     const QColor sky(isDark ? QColor(38, 42, 50) : QColor(150, 163, 180));
     const QColor ground(isDark ? QColor(64, 68, 76) : QColor(220, 225, 231));
-    constexpr double share = 0.2;
+    const double share = isAsWindow ? 0.2 : 0.7;
     style.backgroundTop = toColor(orvane::look::mixed(sky, window, share));
     style.backgroundBottom = toColor(orvane::look::mixed(ground, window, share));
     style.gridColor = toColor(isDark ? QColor(104, 108, 116) : QColor(150, 156, 164));

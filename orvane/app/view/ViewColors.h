@@ -7,8 +7,12 @@ struct NxDrawingStyle;
 
 namespace orvane {
 
-/// Gives the style the background, grid and outline that suit the colours of the other widgets, light or dark.
-void setViewColors(NxDrawingStyle& style, const QPalette& palette);
+/// What is behind the scene.
+enum class ViewBackground { AsWindow, Light, Dark };
+
+/// Gives the style the background, and the grid and outlines that are seen on it. As the window, it suits the colours
+/// of the other widgets.
+void setViewColors(NxDrawingStyle& style, const QPalette& palette, ViewBackground background);
 
 /// The background of a view of that height, for while there is no picture.
 [[nodiscard]] QLinearGradient viewBackground(const NxDrawingStyle& style, int height);

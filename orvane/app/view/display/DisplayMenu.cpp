@@ -11,9 +11,12 @@
 #include <QActionGroup>
 #include <QMenu>
 
+#include <array>
+
 namespace {
 
 const QString shadingKey = QStringLiteral("view/shading");
+const QString backgroundKey = QStringLiteral("view/background");
 const QString statisticsKey = QStringLiteral("view/statistics");
 
 } // namespace
@@ -45,6 +48,7 @@ DisplayMenu::DisplayMenu(SceneView* view, Session& session)
         alt(Qt::Key_6), &NxDrawingStyle::wires);
     addSwitch("headLight", tr("&Head Light"), tr("Adds a light at the viewer's eye to those of the scene"),
         alt(Qt::Key_7), &NxDrawingStyle::headLight);
+    addBackground();
     m_menu->addSeparator();
     addSection();
     addStatistics();
@@ -108,6 +112,27 @@ void DisplayMenu::addSwitch(
         m_session.settings().setValue(kept, isOn);
         apply(isOn);
     });
+}
+
+void DisplayMenu::addBackground()
+{
+    QAction* const action = addAction("background", tr("Other &Background"),
+        tr("Shows the scene on light, on dark, or as the window is, so that lines and points of any color are seen"),
+        QKeySequence(Qt::ALT | Qt::Key_0));
+    action->setCheckable(false);
+    setBackground(m_session.settings().value(backgroundKey, 0).toInt());
+    connect(action, &QAction::triggered, m_view, [this] {
+        setBackground(m_background + 1);
+        m_session.settings().setValue(backgroundKey, m_background);
+    });
+}
+
+void DisplayMenu::setBackground(int background)
+{
+    using orvane::ViewBackground;
+    constexpr std::array backgrounds{ViewBackground::AsWindow, ViewBackground::Light, ViewBackground::Dark};
+    m_background = background >= 0 && background < static_cast<int>(backgrounds.size()) ? background : 0;
+    m_view->setBackground(backgrounds[static_cast<std::size_t>(m_background)]);
 }
 
 // In another scene, the plane would cut something else.

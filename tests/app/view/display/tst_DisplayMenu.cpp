@@ -72,6 +72,22 @@ private Q_SLOTS:
         QVERIFY(!view()->style().section.isOn);
     }
 
+    void theBackgroundIsLightDarkOrAsTheWindow()
+    {
+        const auto brightness = [this] { return picture().pixelColor(3, 3).lightness(); };
+        const int asWindow = brightness();
+        press(Qt::Key_0);
+        const int light = brightness();
+        QVERIFY(light > 200);
+        makeWindow();
+        openSquares();
+        QCOMPARE(brightness(), light);
+        press(Qt::Key_0);
+        QVERIFY(brightness() < 30);
+        press(Qt::Key_0);
+        QCOMPARE(brightness(), asWindow);
+    }
+
     void theStatisticsAreSeen()
     {
         const QImage before = picture();
