@@ -7,6 +7,9 @@
 #include "orvane/app/look/ReadablePalette.h"
 #include "orvane/app/plugins/GuardedApplication.h"
 
+#include <QApplication>
+#include <QIcon>
+
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -118,6 +121,8 @@ std::unique_ptr<QCoreApplication> makeApplicationOnScreen(char** argv)
           });
     auto application = makeApplication<GuardedApplication>(argv);
     new ReadablePalette(application.get());
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/orvane/icons/orvane.svg")));
+    QGuiApplication::setDesktopFileName(QStringLiteral("orvane"));
     qInstallMessageHandler(&passOnUnlessNoise);
     for (const QString& problem : std::as_const(problems))
         orvane::printError(problem);
