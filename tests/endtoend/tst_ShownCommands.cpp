@@ -54,7 +54,7 @@ private:
     void runTool(QString command) const
     {
         static const QRegularExpression output(
-            QStringLiteral("--(list|get|find|describe|diff|export|screenshot|help|version)"));
+            QStringLiteral("--(list|get|find|describe|diff|export|picture|screenshot|help|version)"));
         if (!command.contains(output)) // it opens a window, whose picture needs no watching
             command = command.remove(QStringLiteral(" --watch")) + QStringLiteral(" --screenshot shown.png");
         const Outcome outcome = runShell(
