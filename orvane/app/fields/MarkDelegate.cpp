@@ -87,10 +87,13 @@ QRect MarkDelegate::placeOf(Mark mark, const QStyleOptionViewItem& option)
 
 void MarkDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    if (!hasField(index))
-        return QStyledItemDelegate::paint(painter, option, index);
     const QStyle* const style = option.widget != nullptr ? option.widget->style() : QApplication::style();
-    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, option.widget);
+    QStyleOptionViewItem panel = option;
+    if (const QVariant brush = index.data(Qt::BackgroundRole); brush.isValid())
+        panel.backgroundBrush = brush.value<QBrush>();
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &panel, painter, option.widget);
+    if (!hasField(index))
+        return;
     const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const bool isActive = isSelected || option.state.testFlag(QStyle::State_MouseOver);
     const QPalette& palette = option.palette;

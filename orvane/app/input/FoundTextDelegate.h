@@ -19,10 +19,21 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 protected:
+    /// The font and the colours of an item as it is painted.
+    struct ItemLook {
+        QFont font;
+        QPalette::ColorGroup group = QPalette::Normal;
+        QColor background; ///< behind the text
+        QColor text;
+    };
+    [[nodiscard]] static ItemLook lookOf(const QStyleOptionViewItem& option, const QModelIndex& index);
+
     /// Whether the query is about the item; all items are.
     [[nodiscard]] virtual bool isSearched(const QModelIndex& index) const;
 
 private:
+    void paintLine(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
+
     meridane::SearchedText m_kind;
     meridane::Query m_query;
 };

@@ -95,22 +95,18 @@ CellPaint ValueDelegate::cellPaint(const QStyleOptionViewItem& option, const QMo
     const FieldSet& fields = *shownFields(index);
     CellPaint cell;
     cell.area = areaOf(*m_view, option.rect);
-    const QVariant font = index.data(Qt::FontRole);
-    cell.font = font.isValid() ? font.value<QFont>().resolve(option.font) : option.font;
+    const ItemLook look = lookOf(option, index);
+    cell.font = look.font;
     cell.palette = option.palette;
-    const bool isSelected = (option.state & QStyle::State_Selected) != 0;
-    const QPalette::ColorGroup group = orvane::look::groupOf(option);
-    cell.background = option.palette.color(group, isSelected ? QPalette::Highlight : QPalette::Base);
-    cell.text = option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text);
-    if (const QVariant color = index.data(Qt::ForegroundRole); color.isValid() && !isSelected)
-        cell.text = color.value<QBrush>().color();
+    cell.background = look.background;
+    cell.text = look.text;
     cell.isMixed = fields.count() > 1 && index.data(FieldRoles::MixedRole).toBool();
     if (writer.isPending(fields)) {
         cell.font.setItalic(true);
         cell.text = orvane::look::quietColor(cell.text, cell.background);
         cell.isMixed = writer.pending(fields).isMixed();
     }
-    cell.isEnabled = group != QPalette::Disabled;
+    cell.isEnabled = look.group != QPalette::Disabled;
     cell.view = m_view;
     cell.query = query().isEmpty() ? nullptr : &query();
     cell.services = m_services.get();

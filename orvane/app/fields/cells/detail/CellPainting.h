@@ -1,14 +1,12 @@
 #pragma once
 
 #include "orvane/app/fields/cells/ValueCell.h"
+#include "orvane/app/input/PaintedText.h"
 #include "orvane/app/look/Look.h"
 
 /// How the kinds of cells paint texts and marks.
 namespace orvane {
 
-/// One line in the middle of the area, from its left side; what doesn't fit is left out and leaves an ellipsis. Returns
-/// the width that was painted.
-int paintText(QPainter& painter, const QFont& font, const QRect& area, const QString& text, const QColor& color);
 /// A part of the value, with the font and the colour of the cell, and with what the filter has found highlighted.
 int paintText(QPainter& painter, const CellPaint& cell, const QRect& area, const QString& text);
 /// The same in another colour.
