@@ -1,6 +1,7 @@
 #include "orvane/app/compare/DifferencePanel.h"
 
 #include "orvane/app/base/PlainText.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/compare/CopyJob.h"
 #include "orvane/app/compare/DifferenceModel.h"
 #include "orvane/app/compare/DifferenceText.h"
@@ -30,7 +31,7 @@ QString countText(const NxSceneDifferences& differences)
     for (std::size_t kind = 0; kind < kinds; ++kind) {
         if (counts.at(kind) > 0)
             texts += QStringLiteral("%1 %2")
-                         .arg(counts.at(kind))
+                         .arg(orvane::countText(counts.at(kind)))
                          .arg(orvane::kindText(static_cast<NxSceneDifference::Kind>(kind)));
     }
     return texts.join(QStringLiteral(", "));
@@ -151,8 +152,8 @@ void DifferencePanel::updateHeading()
     const QString name = orvane::shortLine(m_name);
     const QString all = count == 0 ? tr("No differences from %1").arg(name)
         : count == 1               ? tr("1 difference from %1").arg(name)
-                                   : tr("%1 differences from %2").arg(count).arg(name);
-    QString text = m_filter->text().isEmpty() ? all : tr("%1 of %2").arg(m_model->rowCount()).arg(all);
+                                   : tr("%1 differences from %2").arg(orvane::countText(count), name);
+    QString text = m_filter->text().isEmpty() ? all : tr("%1 of %2").arg(orvane::countText(m_model->rowCount()), all);
     if (count > 0)
         text += QStringLiteral(": ") + countText(m_model->differences());
     m_heading->setText(text);
@@ -178,6 +179,6 @@ void DifferencePanel::copy(const std::vector<int>& rows)
     m_copying = std::make_unique<CopyJob>(count, [this, copied = std::move(copied)](int number) {
         return orvane::differenceLine(m_model->differences(), copied[static_cast<std::size_t>(number)]);
     });
-    m_jobBar.watch(m_copying.get(), tr("Copying %1 differences").arg(count));
+    m_jobBar.watch(m_copying.get(), tr("Copying %1 differences").arg(orvane::countText(count)));
     m_copying->start();
 }

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/SliceClock.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/tree/NodeIcons.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
@@ -228,8 +229,7 @@ QString HistoryModel::timeText(int position) const
         return {};
     const auto time = std::chrono::floor<std::chrono::milliseconds>(m_services.steps().time(position - 1));
     const QDateTime local = QDateTime::fromMSecsSinceEpoch(time.time_since_epoch().count());
-    const bool isToday = local.date() == QDate::currentDate();
-    return local.toString(isToday ? QStringLiteral("HH:mm:ss") : QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    return orvane::momentText(local, QDate::currentDate());
 }
 
 const StepText& HistoryModel::values(int position) const

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/PlainText.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/history/HistoryModel.h"
 #include "orvane/app/history/PutBack.h"
 #include "orvane/app/history/StepTravel.h"
@@ -13,7 +14,6 @@
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QToolButton>
@@ -24,12 +24,9 @@ namespace {
 
 const QString putBackTopic = QStringLiteral("putBack");
 
-/// Such as "3.4 MiB", without the fraction of whole numbers.
 QString memoryText(std::size_t bytes)
 {
-    return QLocale::c()
-        .formattedDataSize(static_cast<qint64>(bytes), 1)
-        .replace(QLatin1String(".0 "), QLatin1String(" "));
+    return orvane::sizeText(static_cast<qlonglong>(bytes));
 }
 
 } // namespace
@@ -144,8 +141,8 @@ void HistoryPanel::update()
         m_slider->setValue(m_travel.isUnderway() ? m_travel.goal() : position);
     }
     m_slider->setEnabled(steps.count() > 0);
-    m_place->setText(tr("Step %1 of %2").arg(position).arg(steps.count()));
-    const QString count = steps.count() == 1 ? tr("1 step") : tr("%1 steps").arg(steps.count());
+    m_place->setText(tr("Step %1 of %2").arg(orvane::countText(position), orvane::countText(steps.count())));
+    const QString count = steps.count() == 1 ? tr("1 step") : tr("%1 steps").arg(orvane::countText(steps.count()));
     m_memory->setText(tr("%1, %2 of %3").arg(count, memoryText(steps.bytes()), memoryText(steps.limit())));
     if (std::exchange(m_shownPosition, position) != position) {
         const int row = m_model->rowOf(position);

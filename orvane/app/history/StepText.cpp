@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/extender/OrvStepList.h"
 
 #include "meridane/base/values/VbString.h"
@@ -102,7 +103,10 @@ StepText orvane::stepText(const PastState::History& history, int step)
     const Records records = changes->records();
     if (!onlyPlaceOf(*changes)) {
         const auto isOfChildren = [](const auto& record) { return record->kind() == ChangeRecord::Kind::Children; };
-        return {{}, std::ranges::all_of(records, isOfChildren) ? QString() : tr("%1 changes").arg(records.size())};
+        return {{},
+            std::ranges::all_of(records, isOfChildren)
+                ? QString()
+                : tr("%1 changes").arg(orvane::countText(records.size()))};
     }
     ChangeRecord& record = *records.front();
     if (records.size() > 1)

@@ -1,5 +1,6 @@
 #include "orvane/app/lists/ListClipboard.h"
 
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/lists/jobs/CopyCellsJob.h"
@@ -10,7 +11,6 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLocale>
 #include <QMimeData>
 
 #include <algorithm>
@@ -89,8 +89,8 @@ void ListClipboard::finishCopy()
         Q_EMIT failed(result.error());
         return;
     }
-    Q_EMIT done(m_copiedRows == 1 ? tr("1 row was copied.")
-                                  : tr("%1 rows were copied.").arg(QLocale(QLocale::English).toString(m_copiedRows)));
+    Q_EMIT done(
+        m_copiedRows == 1 ? tr("1 row was copied.") : tr("%1 rows were copied.").arg(orvane::countText(m_copiedRows)));
 }
 
 void ListClipboard::paste()
@@ -131,8 +131,7 @@ void ListClipboard::finishPaste()
     if (const auto result = write(cells); !result)
         Q_EMIT failed(result.error());
     else
-        Q_EMIT done(rows == 1 ? tr("1 row was pasted.")
-                              : tr("%1 rows were pasted.").arg(QLocale(QLocale::English).toString(rows)));
+        Q_EMIT done(rows == 1 ? tr("1 row was pasted.") : tr("%1 rows were pasted.").arg(orvane::countText(rows)));
 }
 
 bool ListClipboard::hasSeveralCells() const

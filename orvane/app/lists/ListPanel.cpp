@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/AppSettings.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/lists/ListActions.h"
 #include "orvane/app/lists/ListClipboard.h"
@@ -27,7 +28,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLocale>
 #include <QMenu>
 #include <QSplitter>
 #include <QStackedLayout>
@@ -38,11 +38,6 @@
 namespace {
 
 const QString listStatisticsKey = QStringLiteral("lists/statistics");
-
-QString listCountText(int rows)
-{
-    return QLocale(QLocale::English).toString(rows);
-}
 
 QString listTypeText(const NxMField& list)
 {
@@ -292,11 +287,11 @@ void ListPanel::updateCounts()
         return;
     }
     const int count = m_model->listCount();
-    QString text = tr("%1 × %2").arg(listCountText(count), listTypeText(*list()));
+    QString text = tr("%1 × %2").arg(orvane::countText(count), listTypeText(*list()));
     if (!m_model->showsAll())
-        text += tr(", %1 shown").arg(listCountText(m_model->rowCount()));
+        text += tr(", %1 shown").arg(orvane::countText(m_model->rowCount()));
     if (const int selected = m_view->selectedCount(); selected > 1)
-        text += tr(", %1 selected").arg(listCountText(selected));
+        text += tr(", %1 selected").arg(orvane::countText(selected));
     m_counts->setText(text);
 }
 

@@ -1,5 +1,6 @@
 #include "orvane/app/lists/ListStatistics.h"
 
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/lists/rows/ListModel.h"
@@ -107,12 +108,11 @@ void ListStatistics::compute()
     const bool isSelection = m_view.selectedCount() > 1;
     const RowRuns rows = isSelection ? m_view.selectedListRows() : m_view.allListRows();
     const int count = orvane::rowCount(rows);
-    const QString number = QLocale(QLocale::English).toString(count);
+    const QString number = orvane::countText(count);
     m_heading->setText(m_model.list() == nullptr ? QString()
             : isSelection                        ? tr("%1 selected rows").arg(number)
-            : m_model.showsAll()
-            ? (count == 1 ? tr("1 row") : tr("%1 rows").arg(number))
-            : tr("%1 of %2 rows").arg(number, QLocale(QLocale::English).toString(m_model.listCount())));
+            : m_model.showsAll()                 ? (count == 1 ? tr("1 row") : tr("%1 rows").arg(number))
+                                 : tr("%1 of %2 rows").arg(number, orvane::countText(m_model.listCount())));
     if (m_model.list() == nullptr || m_model.columns().kind() != ListColumns::Kind::Number) {
         m_table->setRowCount(0);
         m_isFresh = true;

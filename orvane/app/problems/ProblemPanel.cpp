@@ -1,6 +1,7 @@
 #include "orvane/app/problems/ProblemPanel.h"
 
 #include "orvane/app/base/ActionState.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/compare/CopyJob.h"
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/look/Look.h"
@@ -34,7 +35,7 @@ QString countText(std::size_t count, NxSeverity severity)
 {
     const QString name = orvane::severityName(severity);
     const bool takesPlural = count != 1 && severity != NxSeverity::Information;
-    return QStringLiteral("%1 %2%3").arg(count).arg(name, takesPlural ? QStringLiteral("s") : QString());
+    return QStringLiteral("%1 %2%3").arg(orvane::countText(count), name, takesPlural ? QStringLiteral("s") : QString());
 }
 
 /// Shortens sentences at their ends, and leaves paths to the view.
@@ -183,7 +184,7 @@ QString ProblemPanel::stateText() const
     if (check == nullptr)
         return tr("No scene is open.");
     if (!m_check.isSettled())
-        return tr("Checking the scene… %1 nodes so far").arg(check->nodeCount());
+        return tr("Checking the scene… %1 nodes so far").arg(orvane::countText(check->nodeCount()));
     const bool hasProblems = std::any_of(
         severities.begin(), severities.end(), [check](NxSeverity severity) { return check->count(severity) > 0; });
     if (hasProblems && m_model->hidesRows())
@@ -291,7 +292,8 @@ void ProblemPanel::mend(std::vector<NxSceneProblem> problems)
     if (problems.empty() || !m_check.isSettled())
         return;
     const QString one = orvane::mendText(problems.front());
-    const QString label = problems.size() == 1 ? tr("Mend: %1").arg(one) : tr("Mend %1 problems").arg(problems.size());
+    const QString label = problems.size() == 1 ? tr("Mend: %1").arg(one)
+                                               : tr("Mend %1 problems").arg(orvane::countText(problems.size()));
     const NxSceneMend::Undo undo = m_services.isUndoExact() ? NxSceneMend::Undo::ByJournal : NxSceneMend::Undo::ByMend;
     m_services.pushStep(new MendCommand(std::move(problems), undo), label);
 }
@@ -310,6 +312,6 @@ void ProblemPanel::copy(const std::vector<int>& rows)
     m_copying = std::make_unique<CopyJob>(count, [this, copied = std::move(copied)](int number) {
         return m_model->line(copied[static_cast<std::size_t>(number)]);
     });
-    m_jobBar.watch(m_copying.get(), tr("Copying %1 problems").arg(count));
+    m_jobBar.watch(m_copying.get(), tr("Copying %1 problems").arg(orvane::countText(count)));
     m_copying->start();
 }

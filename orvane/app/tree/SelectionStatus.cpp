@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/SliceClock.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
@@ -18,7 +19,7 @@ namespace {
 /// "1 node", "2 nodes".
 QString counted(std::size_t count, const QString& one, const QString& many)
 {
-    return count == 1 ? QStringLiteral("1 %1").arg(one) : QStringLiteral("%1 %2").arg(count).arg(many);
+    return count == 1 ? QStringLiteral("1 %1").arg(one) : QStringLiteral("%1 %2").arg(orvane::countText(count), many);
 }
 
 } // namespace

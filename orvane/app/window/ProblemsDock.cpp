@@ -1,5 +1,6 @@
 #include "orvane/app/window/ProblemsDock.h"
 
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/problems/LiveCheck.h"
 #include "orvane/app/problems/ProblemPanel.h"
 #include "orvane/app/scene/SceneDocument.h"
@@ -80,10 +81,11 @@ void ProblemsDock::updateTitle()
     const std::size_t errors = check == nullptr ? 0 : check->count(NxSeverity::Error);
     const std::size_t warnings = check == nullptr ? 0 : check->count(NxSeverity::Warning);
     const QString name = tr("Problems");
-    const QString counts = errors > 0 && warnings > 0 ? tr("%1 errors, %2 warnings").arg(errors).arg(warnings)
-        : errors > 0                                  ? tr("%1 errors").arg(errors)
-        : warnings > 0                                ? tr("%1 warnings").arg(warnings)
-                                                      : QString();
+    const QString counts = errors > 0 && warnings > 0
+        ? tr("%1 errors, %2 warnings").arg(orvane::countText(errors), orvane::countText(warnings))
+        : errors > 0   ? tr("%1 errors").arg(orvane::countText(errors))
+        : warnings > 0 ? tr("%1 warnings").arg(orvane::countText(warnings))
+                       : QString();
     const QString title = counts.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, counts);
     if (title == windowTitle())
         return;

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/base/UserLocale.h"
 
 #include "meridane/base/values/VbName.h"
 #include "meridane/scene/fields/NxMField.h"
@@ -40,9 +41,8 @@ QString rowCountText(const NxMField& list)
     QString type = typeName(list);
     if (type.startsWith(QStringLiteral("MF")))
         type.remove(0, 2);
-    // With commas, which the program's own locale doesn't have.
-    static const QLocale locale(QLocale::English);
-    return locale.toString(list.getNum()) + QStringLiteral(" × ") + type;
+    static const QLocale locale = messageLocale();
+    return countText(list.getNum(), locale) + QStringLiteral(" × ") + type;
 }
 
 } // namespace orvane

@@ -10,17 +10,6 @@
 #include <cmath>
 #include <utility>
 
-namespace {
-
-/// Without a language, numbers within texts couldn't be sorted by their value.
-QLocale sortingLocale()
-{
-    const QLocale locale = orvane::userLocale();
-    return locale.language() == QLocale::C ? QLocale(QLocale::English) : locale;
-}
-
-} // namespace
-
 RowsJob::RowsJob(NxMField& list, RowRange range, Filter filter, Order order, SliceClock::Clock clock)
     : ListJob(clock)
     , m_list(list)
@@ -29,7 +18,7 @@ RowsJob::RowsJob(NxMField& list, RowRange range, Filter filter, Order order, Sli
     , m_filter(std::move(filter))
     , m_order(order)
     , m_count(list.getNum())
-    , m_collator(sortingLocale())
+    , m_collator(orvane::messageLocale())
 {
     // Rows are filtered in the order of the list, whatever that of the range is.
     const int last = m_range.first + (m_range.count - 1) * m_range.step;

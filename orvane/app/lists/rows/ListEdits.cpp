@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/lists/rows/ListCommand.h"
 #include "orvane/app/lists/rows/ListModel.h"
 #include "orvane/app/lists/rows/ListRows.h"
@@ -12,17 +13,10 @@
 #include "meridane/scene/fields/NxMField.h"
 #include "meridane/scene/nodes/NxNode.h"
 
-#include <QLocale>
-
 #include <algorithm>
 #include <numeric>
 
 namespace {
-
-QString rowCountText(int number)
-{
-    return QLocale(QLocale::English).toString(number);
-}
 
 /// The order of the rows that makes them ascend.
 std::vector<std::size_t> orderOfAscendingRows(std::span<const int> rows)
@@ -93,7 +87,7 @@ orvane::Result<> ListEdits::setNumbers(std::span<const int> rows, int column, st
         return orvane::Failure{tr("There is no row %1 any more.").arg(rows.back())};
     const QString what = rows.size() == 1
         ? QStringLiteral("%1[%2]").arg(listName()).arg(rows.front())
-        : tr("%1 rows of %2").arg(rowCountText(static_cast<int>(rows.size())), listName());
+        : tr("%1 rows of %2").arg(orvane::countText(static_cast<int>(rows.size())), listName());
     const bool isSingle = m_model.columns().count() == 1;
     const QString label
         = isSingle ? tr("Set %1").arg(what) : tr("Set %1 of %2").arg(m_model.columns().title(column), what);
@@ -110,7 +104,7 @@ orvane::Result<> ListEdits::setText(std::span<const int> rows, const QString& te
         return orvane::Failure{refusal};
     const QString label = rows.size() == 1
         ? tr("Set %1[%2]").arg(listName()).arg(rows.front())
-        : tr("Set %1 rows of %2").arg(rowCountText(static_cast<int>(rows.size())), listName());
+        : tr("Set %1 rows of %2").arg(orvane::countText(static_cast<int>(rows.size())), listName());
     const QStringList texts(static_cast<qsizetype>(rows.size()), text);
     const bool isText = m_model.columns().kind() == ListColumns::Kind::Text;
     orvane::Result<> result = push(label, [&](NxMField& list) { return orvane::writeTexts(list, rows, texts); });
@@ -122,7 +116,7 @@ orvane::Result<> ListEdits::setText(std::span<const int> rows, const QString& te
 orvane::Result<> ListEdits::checkLength(long long rows) const
 {
     if (rows > NxMField::getMaximumNum())
-        return orvane::Failure{tr("A list has at most %1 rows.").arg(rowCountText(NxMField::getMaximumNum()))};
+        return orvane::Failure{tr("A list has at most %1 rows.").arg(orvane::countText(NxMField::getMaximumNum()))};
     return {};
 }
 
@@ -134,7 +128,7 @@ orvane::Result<> ListEdits::insertRows(int before, int count)
     if (orvane::Result<> result = checkLength(static_cast<long long>(present) + count); !result)
         return result;
     const QString label = count == 1 ? tr("Insert a row into %1").arg(listName())
-                                     : tr("Insert %1 rows into %2").arg(rowCountText(count), listName());
+                                     : tr("Insert %1 rows into %2").arg(orvane::countText(count), listName());
     return push(label, [&](NxMField& list) {
         list.insertSpace(before, count);
         return list.getNum() == present + count;
@@ -149,7 +143,7 @@ orvane::Result<> ListEdits::duplicateRows(const RowRuns& rows)
     if (orvane::Result<> result = checkLength(static_cast<long long>(m_model.list()->getNum()) + count); !result)
         return result;
     const QString label = count == 1 ? tr("Duplicate a row of %1").arg(listName())
-                                     : tr("Duplicate %1 rows of %2").arg(rowCountText(count), listName());
+                                     : tr("Duplicate %1 rows of %2").arg(orvane::countText(count), listName());
     return push(label, [&](NxMField& list) { return orvane::insertCopies(list, rows, rows.back().end()); });
 }
 
@@ -159,7 +153,7 @@ orvane::Result<> ListEdits::removeRows(const RowRuns& rows)
         return {};
     const int count = orvane::rowCount(rows);
     const QString label = count == 1 ? tr("Delete a row of %1").arg(listName())
-                                     : tr("Delete %1 rows of %2").arg(rowCountText(count), listName());
+                                     : tr("Delete %1 rows of %2").arg(orvane::countText(count), listName());
     return push(label, [&](NxMField& list) { return orvane::removeRows(list, rows); });
 }
 
@@ -169,7 +163,7 @@ orvane::Result<> ListEdits::moveRows(const RowRuns& rows, int before)
         return {};
     const int count = orvane::rowCount(rows);
     const QString label = count == 1 ? tr("Move a row of %1").arg(listName())
-                                     : tr("Move %1 rows of %2").arg(rowCountText(count), listName());
+                                     : tr("Move %1 rows of %2").arg(orvane::countText(count), listName());
     return push(label, [&](NxMField& list) { return orvane::moveRows(list, rows, before); });
 }
 
@@ -177,7 +171,7 @@ orvane::Result<> ListEdits::resize(int count)
 {
     if (m_model.list() == nullptr || count < 0 || count == m_model.list()->getNum())
         return {};
-    return push(tr("Resize %1 to %2 rows").arg(listName(), rowCountText(count)), [count](NxMField& list) {
+    return push(tr("Resize %1 to %2 rows").arg(listName(), orvane::countText(count)), [count](NxMField& list) {
         if (count < list.getNum())
             list.deleteValues(count, -1);
         else
@@ -200,9 +194,9 @@ orvane::Result<> ListEdits::setCells(const PastedRows& cells, std::span<const in
     std::iota(places.begin() + static_cast<std::ptrdiff_t>(rows.size()), places.end(), present);
     const std::vector<std::size_t> order = orderOfAscendingRows(places);
     std::ranges::sort(places);
-    const QString label = cause == Cause::Fill ? tr("Fill %1 rows of %2").arg(rowCountText(cells.rows), listName())
+    const QString label = cause == Cause::Fill ? tr("Fill %1 rows of %2").arg(orvane::countText(cells.rows), listName())
         : cells.rows == 1                      ? tr("Paste a row into %1").arg(listName())
-                                               : tr("Paste %1 rows into %2").arg(rowCountText(cells.rows), listName());
+                          : tr("Paste %1 rows into %2").arg(orvane::countText(cells.rows), listName());
     const auto write = [&](NxMField& list) {
         if (!m_model.columns().isNumeric()) {
             QStringList texts;
