@@ -1,9 +1,4 @@
-#include "Patience.h"
-#include "TestFiles.h"
-#include "endtoend/LiveTool.h"
-
-#include <QTemporaryDir>
-#include <QTest>
+#include "endtoend/FileSession.h"
 
 namespace {
 
@@ -17,40 +12,28 @@ const QString scene = QStringLiteral("#mrd 1.0\n"
 
 // The rows of a list in the running tool, on the desktops of several countries and on sharp screens. What counts is the
 // file.
-class TestListSession : public QObject {
+class TestListSession : public FileSession {
     Q_OBJECT
 
-private:
-    [[nodiscard]] QString fileName() const { return m_folder.filePath(QStringLiteral("square.mrd")); }
-
-    [[nodiscard]] QPoint row(const QString& text) { return m_tool->item(m_table, text).center(); }
-    void typeInto(const QString& line, const QString& text)
+public:
+    TestListSession()
+        : FileSession(QStringLiteral("square.mrd"))
     {
-        m_tool->click(m_tool->widget(line).center());
-        QTRY_VERIFY(m_tool->property(line, QStringLiteral("focus")) == QLatin1String("true"));
-        m_tool->key(QStringLiteral("ctrl+a"));
-        m_tool->type(text);
+    }
+
+private:
+    [[nodiscard]] QPoint row(const QString& text) { return m_tool->item(m_table, text).center(); }
+    void enterInto(const QString& line, const QString& text)
+    {
+        typeInto(line, text);
         m_tool->key(QStringLiteral("Return"));
     }
     [[nodiscard]] QString counts() { return m_tool->property(QStringLiteral("listCounts"), QStringLiteral("text")); }
-    [[nodiscard]] QString saved()
-    {
-        m_tool->key(QStringLiteral("ctrl+s"));
-        const bool isSaved = QTest::qWaitFor(
-            [this] {
-                return !m_tool->property(QStringLiteral("mainWindow"), QStringLiteral("windowModified"))
-                            .startsWith(QLatin1String("true"));
-            },
-            testPatience);
-        return isSaved ? QString::fromUtf8(readFile(fileName())) : QString();
-    }
 
     const QString m_table = QStringLiteral("listTable");
-    QTemporaryDir m_folder;
-    std::unique_ptr<LiveTool> m_tool;
 
 private Q_SLOTS:
-    void cleanup() { m_tool.reset(); }
+    void cleanup() { end(); }
 
     void aListIsFoundFilteredAndEdited_data()
     {
@@ -65,12 +48,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, locale);
         QFETCH(const int, scale);
-        writeFile(fileName(), scene.toUtf8());
-        m_tool = std::make_unique<LiveTool>();
-        m_tool->useLocale(locale);
-        m_tool->useScale(scale);
-        QVERIFY(m_tool->start({fileName()}));
-        m_tool->click(m_tool->item(QStringLiteral("sceneTree"), QStringLiteral("square")).center());
+        start(scene, QStringLiteral("square"), scale, locale);
         m_tool->doubleClick(m_tool->item(QStringLiteral("fieldTable"), QStringLiteral("positions")).center());
         QTRY_COMPARE(counts(), QStringLiteral("4 × Vec3f"));
 
@@ -84,12 +62,12 @@ private Q_SLOTS:
         QVERIFY(saved().contains(QStringLiteral("[10 -1 0, 2.5 2 0, 12 3 0, 13 -4 0]")));
 
         // The formula is for the rows that are shown.
-        typeInto(QStringLiteral("listFilter"), QStringLiteral("y > 0,5"));
+        enterInto(QStringLiteral("listFilter"), QStringLiteral("y > 0,5"));
         QTRY_COMPARE(counts(), QStringLiteral("4 × Vec3f, 2 shown"));
         m_tool->click(row(QStringLiteral("2.5")));
         m_tool->key(QStringLiteral("ctrl+a"));
         QTRY_COMPARE(counts(), QStringLiteral("4 × Vec3f, 2 shown, 2 selected"));
-        typeInto(QStringLiteral("listSetFormula"), QStringLiteral("x*0,5+i"));
+        enterInto(QStringLiteral("listSetFormula"), QStringLiteral("x*0,5+i"));
         QVERIFY(!m_tool->item(m_table, QStringLiteral("8")).isEmpty());
         QVERIFY(saved().contains(QStringLiteral("[10 -1 0, 2.25 2 0, 8 3 0, 13 -4 0]")));
 

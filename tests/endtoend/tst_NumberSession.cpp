@@ -1,9 +1,4 @@
-#include "Patience.h"
-#include "TestFiles.h"
-#include "endtoend/LiveTool.h"
-
-#include <QTemporaryDir>
-#include <QTest>
+#include "endtoend/FileSession.h"
 
 namespace {
 
@@ -18,40 +13,17 @@ const QString scene = QStringLiteral("#mrd 1.0\n"
 
 // Numbers typed into the editors of the running tool, on the desktops of several countries and on sharp screens. What
 // counts is the file.
-class TestNumberSession : public QObject {
+class TestNumberSession : public FileSession {
     Q_OBJECT
 
-private:
-    [[nodiscard]] QString fileName() const { return m_folder.filePath(QStringLiteral("gallery.mrd")); }
-
-    void select(const QString& field) { m_tool->click(m_tool->item(QStringLiteral("fieldTable"), field).center()); }
-
-    // Marks what the line shows, and types.
-    void typeInto(const QString& line, const QString& text)
+public:
+    TestNumberSession()
+        : FileSession(QStringLiteral("gallery.mrd"))
     {
-        m_tool->click(m_tool->widget(line).center());
-        QTRY_VERIFY(m_tool->property(line, QStringLiteral("focus")) == QLatin1String("true"));
-        m_tool->key(QStringLiteral("ctrl+a"));
-        m_tool->type(text);
     }
-
-    [[nodiscard]] QString saved()
-    {
-        m_tool->key(QStringLiteral("ctrl+s"));
-        const bool isSaved = QTest::qWaitFor(
-            [this] {
-                return !m_tool->property(QStringLiteral("mainWindow"), QStringLiteral("windowModified"))
-                            .startsWith(QLatin1String("true"));
-            },
-            testPatience);
-        return isSaved ? QString::fromUtf8(readFile(fileName())) : QString();
-    }
-
-    QTemporaryDir m_folder;
-    std::unique_ptr<LiveTool> m_tool;
 
 private Q_SLOTS:
-    void cleanup() { m_tool.reset(); }
+    void cleanup() { end(); }
 
     void numbersOfEveryDesktopReachTheFile_data()
     {
@@ -66,12 +38,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, locale);
         QFETCH(const int, scale);
-        writeFile(fileName(), scene.toUtf8());
-        m_tool = std::make_unique<LiveTool>();
-        m_tool->useLocale(locale);
-        m_tool->useScale(scale);
-        QVERIFY(m_tool->start({fileName()}));
-        m_tool->click(m_tool->item(QStringLiteral("sceneTree"), QStringLiteral("gallery")).center());
+        start(scene, QStringLiteral("gallery"), scale, locale);
 
         const QString line = QStringLiteral("DvSliderFrame/QLineEdit");
         select(QStringLiteral("sfFloat"));

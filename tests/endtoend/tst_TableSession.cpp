@@ -1,9 +1,4 @@
-#include "Patience.h"
-#include "TestFiles.h"
-#include "endtoend/LiveTool.h"
-
-#include <QTemporaryDir>
-#include <QTest>
+#include "endtoend/FileSession.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,13 +15,16 @@ const QString scene = QStringLiteral("#mrd 1.0\n"
 
 // Fields edited in the table of the running tool by real keys and the real mouse, on usual and on sharp screens. What
 // counts is the file.
-class TestTableSession : public QObject {
+class TestTableSession : public FileSession {
     Q_OBJECT
 
-private:
-    [[nodiscard]] QString fileName() const { return m_folder.filePath(u"gallery.mrd"_s); }
+public:
+    TestTableSession()
+        : FileSession(u"gallery.mrd"_s)
+    {
+    }
 
-    void select(const QString& field) { m_tool->click(m_tool->item(u"fieldTable"_s, field).center()); }
+private:
     /// Opens the editor in the selected row by a key, and types in place of what is there.
     void type(const QString& text)
     {
@@ -37,24 +35,7 @@ private:
     }
     /// The line in the table is gone.
     void waitForTheTable() { QTRY_VERIFY(!m_tool->isShown(u"fieldTable/QLineEdit"_s)); }
-    [[nodiscard]] QString saved()
-    {
-        m_tool->key(u"ctrl+s"_s);
-        const bool isSaved = QTest::qWaitFor(
-            [this] {
-                return !m_tool->property(u"mainWindow"_s, u"windowModified"_s).startsWith(QLatin1String("true"));
-            },
-            testPatience);
-        return isSaved ? QString::fromUtf8(readFile(fileName())) : QString();
-    }
-    void start(int scale)
-    {
-        writeFile(fileName(), scene.toUtf8());
-        m_tool = std::make_unique<LiveTool>();
-        m_tool->useScale(scale);
-        QVERIFY(m_tool->start({fileName()}));
-        m_tool->click(m_tool->item(u"sceneTree"_s, u"gallery"_s).center());
-    }
+    void startWith(int scale) { start(scene, u"gallery"_s, scale); }
     static void addScales()
     {
         QTest::addColumn<int>("scale");
@@ -62,17 +43,14 @@ private:
         QTest::newRow("200 per cent") << 2;
     }
 
-    QTemporaryDir m_folder;
-    std::unique_ptr<LiveTool> m_tool;
-
 private Q_SLOTS:
-    void cleanup() { m_tool.reset(); }
+    void cleanup() { end(); }
 
     void keysEditCells_data() { addScales(); }
     void keysEditCells()
     {
         QFETCH(const int, scale);
-        start(scale);
+        startWith(scale);
         select(u"sfFloat"_s);
         type(u"2,5*3"_s);
         m_tool->key(u"Return"_s);
@@ -109,7 +87,7 @@ private Q_SLOTS:
     void theMouseEditsCells()
     {
         QFETCH(const int, scale);
-        start(scale);
+        startWith(scale);
         const QRect name = m_tool->item(u"fieldTable"_s, u"sfFloat"_s);
         // Far enough for a drag, on a sharp screen too.
         m_tool->drag(name.center(), name.center() + QPoint(60 * scale, 0));
@@ -138,7 +116,7 @@ private Q_SLOTS:
     void theFilterIsTyped()
     {
         QFETCH(const int, scale);
-        start(scale);
+        startWith(scale);
         m_tool->click(m_tool->widget(u"fieldFilter"_s).center());
         m_tool->type(u"f:sfFloat"_s);
         m_tool->key(u"Down"_s);

@@ -2,6 +2,7 @@
 
 #include "Patience.h"
 #include "app/AppScenes.h"
+#include "app/ItemClicks.h"
 #include "app/fields/values/ManyNodes.h"
 
 #include "orvane/app/base/AppSettings.h"
@@ -70,8 +71,7 @@ protected:
 
     void click(const QModelIndex& index, Qt::KeyboardModifiers modifiers = {})
     {
-        view()->scrollTo(index);
-        QTest::mouseClick(view()->viewport(), Qt::LeftButton, modifiers, view()->visualRect(index).center());
+        ItemClicks::click(view(), index, modifiers);
         ManyNodes::finish();
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Patience.h"
+#include "app/ItemClicks.h"
 #include "app/history/HistoryScene.h"
 
 #include "orvane/app/base/AppSettings.h"
@@ -91,7 +92,7 @@ protected:
     }
     void clickCell(int row, int column, Qt::KeyboardModifiers keys = Qt::NoModifier)
     {
-        QTest::mouseClick(view()->viewport(), Qt::LeftButton, keys, cellCenter(row, column));
+        ItemClicks::click(view(), model()->index(row, column), keys);
     }
     void doubleClickCell(int row, int column)
     {

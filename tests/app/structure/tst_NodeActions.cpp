@@ -43,11 +43,9 @@ private:
     void clickNode(const char* name, Qt::KeyboardModifiers modifiers = {})
     {
         unfoldAll({});
-        const QModelIndexList found = tree()->model()->match(tree()->model()->index(0, 0), Qt::DisplayRole,
-            QLatin1String(name), 1, Qt::MatchExactly | Qt::MatchRecursive);
-        QVERIFY2(!found.isEmpty(), name);
-        tree()->scrollTo(found.front());
-        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, modifiers, tree()->visualRect(found.front()).center());
+        const QModelIndex found = ItemClicks::find(tree(), QLatin1String(name));
+        QVERIFY2(found.isValid(), name);
+        ItemClicks::click(tree(), found, modifiers);
         settle();
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {})

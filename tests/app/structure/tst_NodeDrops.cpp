@@ -40,9 +40,7 @@ private:
     {
         tree()->expandAll();
         settle();
-        const QModelIndexList found = tree()->model()->match(tree()->model()->index(0, 0), Qt::DisplayRole,
-            QLatin1String(name), 1, Qt::MatchExactly | Qt::MatchRecursive);
-        return found.value(0);
+        return ItemClicks::find(tree(), QLatin1String(name));
     }
     [[nodiscard]] QPoint pointOf(const char* name, Part part)
     {

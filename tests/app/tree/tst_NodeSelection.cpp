@@ -1,4 +1,5 @@
 #include "app/AppScenes.h"
+#include "app/ItemClicks.h"
 
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -33,8 +34,7 @@ private:
     void click(NxNode* node, Qt::KeyboardModifiers modifiers = {})
     {
         const QModelIndex index = m_panel->model()->findNode(node);
-        QTest::mouseClick(
-            m_panel->view()->viewport(), Qt::LeftButton, modifiers, m_panel->view()->visualRect(index).center());
+        ItemClicks::click(m_panel->view(), index, modifiers);
     }
     /// The selected nodes, the last one first.
     [[nodiscard]] std::vector<const NxFieldContainer*> selected()

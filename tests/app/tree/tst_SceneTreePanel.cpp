@@ -1,4 +1,5 @@
 #include "app/AppScenes.h"
+#include "app/ItemClicks.h"
 
 #include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/tree/NodeMarks.h"
@@ -64,8 +65,7 @@ private:
     void clickEye(NxNode* node)
     {
         const QModelIndex eye = indexOf(node).siblingAtColumn(SceneTreeModel::ShownColumn);
-        QTest::mouseClick(
-            m_panel->view()->viewport(), Qt::LeftButton, Qt::NoModifier, m_panel->view()->visualRect(eye).center());
+        ItemClicks::click(m_panel->view(), eye);
     }
     [[nodiscard]] QString accessibleText(NxNode* node)
     {

@@ -2,6 +2,7 @@
 
 #include "TestFiles.h"
 #include "app/AppScenes.h"
+#include "app/ItemClicks.h"
 #include "app/WindowCase.h"
 
 #include "orvane/app/fields/FieldTableModel.h"
@@ -29,11 +30,7 @@ protected:
         AppScenes::runSensors();
     }
 
-    static void clickRow(QAbstractItemView* view, const QModelIndex& index)
-    {
-        view->scrollTo(index);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(index).center());
-    }
+    static void clickRow(QAbstractItemView* view, const QModelIndex& index) { ItemClicks::click(view, index); }
 
     QTreeView* tree() { return m_window->findChild<QTreeView*>(QStringLiteral("sceneTree")); }
     /// The row of a field of the selected node, which may be folded away.

@@ -7,6 +7,7 @@
 #include "orvane/app/fields/editors/CellEditor.h"
 #include "orvane/app/fields/editors/CellServices.h"
 #include "orvane/app/input/InputMessage.h"
+#include "orvane/app/input/NumberLine.h"
 
 #include "meridane/scene/nodes/NxFieldGallery.h"
 
@@ -65,6 +66,21 @@ protected:
     [[nodiscard]] static Popup* popup()
     {
         return dynamic_cast<Popup*>(QApplication::activePopupWidget());
+    }
+    /// The popup of a part, opened by a click.
+    template <typename Popup>
+    [[nodiscard]] Popup* openPopup(const char* name, int number = 0)
+    {
+        clickPart(name, number);
+        return popup<Popup>();
+    }
+    [[nodiscard]] static NumberLine* numberLine(QWidget* parent, const QString& accessibleName)
+    {
+        for (NumberLine* each : parent->findChildren<NumberLine*>()) {
+            if (each->accessibleName() == accessibleName)
+                return each;
+        }
+        qFatal("no such line");
     }
     static void key(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {

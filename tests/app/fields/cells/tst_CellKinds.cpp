@@ -4,7 +4,6 @@
 #include "orvane/app/fields/popups/ColorSquare.h"
 #include "orvane/app/fields/popups/MatrixPopup.h"
 #include "orvane/app/fields/popups/RotationPopup.h"
-#include "orvane/app/input/NumberLine.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -17,21 +16,6 @@ class TestCellKinds : public CellCase {
     Q_OBJECT
 
 private:
-    // The popup of a part, opened by a click.
-    template <typename Popup>
-    Popup* openPopup(const char* name, int number = 0)
-    {
-        clickPart(name, number);
-        return popup<Popup>();
-    }
-    static NumberLine* numberLine(QWidget* parent, const QString& accessibleName)
-    {
-        for (NumberLine* each : parent->findChildren<NumberLine*>()) {
-            if (each->accessibleName() == accessibleName)
-                return each;
-        }
-        qFatal("no such line");
-    }
     NxFieldGallery& gallery(std::size_t node = 0) { return dynamic_cast<NxFieldGallery&>(*(*m_many->nodes())[node]); }
 
 private Q_SLOTS:

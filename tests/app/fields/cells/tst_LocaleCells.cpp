@@ -1,7 +1,10 @@
 #include "app/fields/cells/CellCase.h"
 
+#include "orvane/app/fields/popups/MatrixPopup.h"
+
 #include "meridane/gl/geometry/MatrixParts.h"
 #include "meridane/scene/components/FieldComponents.h"
+#include "meridane/scene/fields/single/NxSFMatrix.h"
 #include "meridane/scene/fields/single/NxSFRotation.h"
 
 #include <QLocale>
@@ -127,6 +130,38 @@ private Q_SLOTS:
         QVERIFY(std::abs(meridane::toEuler(rotation.getValue())[0] - 22.5) < 1e-3);
         write("sfRotation", 0, "x+22.5");
         QVERIFY(std::abs(meridane::toEuler(rotation.getValue())[0] - 45) < 1e-3);
+    }
+
+    void theGridOfAMatrixIsTheSameEverywhere_data() { eulerDegreesAreTheSameEverywhere_data(); }
+
+    void theGridOfAMatrixIsTheSameEverywhere()
+    {
+        QFETCH(QString, locale);
+        QLocale::setDefault(QLocale(locale));
+        openGalleries(1);
+        auto* const grid = openPopup<MatrixPopup>("sfMatrix");
+        QVERIFY(grid != nullptr);
+        const auto& matrix = dynamic_cast<const NxSFMatrix&>(field("sfMatrix"));
+        const auto enter = [this, grid](const QString& element, const char* typed) {
+            NumberLine* const line = numberLine(grid, element);
+            type(line, typed);
+            key(line, Qt::Key_Tab);
+            return line->text();
+        };
+        QCOMPARE(enter(u"Row 3, column 0"_s, "2,5"), u"2.5"_s);
+        QCOMPARE(matrix.getValue()[3][0], 2.5F);
+        QCOMPARE(enter(u"Row 3, column 1"_s, "-1234567"), u"-1234567"_s);
+        QCOMPARE(matrix.getValue()[3][1], -1234567.0F);
+        QCOMPARE(enter(u"Translation z"_s, "1,5*3"), u"4.5"_s);
+        QCOMPARE(matrix.getValue()[3][2], 4.5F);
+        static_cast<void>(enter(u"Rotation ° z"_s, "22,5"));
+        QVERIFY(std::abs(matrix.getValue()[0][1] - std::sin(0.3926991F)) < 1e-5F);
+        // Thousands are refused, and the text stays for mending.
+        NumberLine* const line = numberLine(grid, u"Row 3, column 0"_s);
+        type(line, "1.234,5");
+        key(line, Qt::Key_Return);
+        QCOMPARE(line->text(), u"1.234,5"_s);
+        QCOMPARE(matrix.getValue()[3][0], 2.5F);
     }
 };
 
