@@ -6,6 +6,16 @@
 
 #include <algorithm>
 
+namespace {
+
+/// How important a message is; questions wait for an answer.
+int rankOf(const MessageRow& row)
+{
+    return row.hasButton() ? static_cast<int>(MessageSeverity::Error) + 1 : static_cast<int>(row.severity());
+}
+
+} // namespace
+
 MessageBar::MessageBar(QWidget* parent)
     : QWidget(parent)
     , m_layout(new QVBoxLayout(this))
@@ -48,13 +58,21 @@ bool MessageBar::isShown(const QString& text) const
     return std::any_of(m_rows.begin(), m_rows.end(), [&text](const MessageRow* row) { return row->text() == text; });
 }
 
+void MessageBar::makeRoomFor(const MessageRow& row)
+{
+    while (m_rows.size() >= capacity) {
+        // The first of equal ones, which is the oldest.
+        MessageRow* const least = *std::min_element(m_rows.begin(), m_rows.end(),
+            [](const MessageRow* left, const MessageRow* right) { return rankOf(*left) < rankOf(*right); });
+        if (rankOf(*least) > rankOf(row))
+            return;
+        remove(least);
+    }
+}
+
 void MessageBar::add(MessageRow* row)
 {
-    if (m_rows.size() == capacity) {
-        const auto oldest
-            = std::find_if(m_rows.begin(), m_rows.end(), [](const MessageRow* each) { return !each->hasButton(); });
-        remove(oldest != m_rows.end() ? *oldest : m_rows.front());
-    }
+    makeRoomFor(*row);
     connect(row, &MessageRow::closed, this, [this, row] {
         remove(row);
         Q_EMIT closed(row->topic());

@@ -14,7 +14,8 @@ class QVBoxLayout;
 /// Shows messages inside the window, one below the other, each until the user closes it.
 ///
 /// A message about a topic takes the place of the former one about it. A text that is shown already isn't shown twice.
-/// The oldest goes when there are too many.
+/// When there are too many, the oldest of the least important ones goes. An error never goes for a warning: if all are
+/// more important than the new message, it is shown in addition until the next one comes.
 class MessageBar : public QWidget {
     Q_OBJECT
 
@@ -51,6 +52,7 @@ Q_SIGNALS:
 
 private:
     void add(MessageRow* row);
+    void makeRoomFor(const MessageRow& row);
     [[nodiscard]] bool isShown(const QString& text) const;
     void remove(MessageRow* row);
 

@@ -21,6 +21,7 @@ public:
     /// Adds a button to the right of those that are there, which calls `clicked`.
     void addButton(const QString& text, const QString& name, const std::function<void()>& clicked);
     [[nodiscard]] bool hasButton() const noexcept { return m_buttons > 0; }
+    [[nodiscard]] MessageSeverity severity() const noexcept { return m_severity; }
 
 Q_SIGNALS:
     void closed();

@@ -93,6 +93,34 @@ private Q_SLOTS:
         QCOMPARE(bar.texts().join(u' '), QStringLiteral("May I? c d e"));
     }
 
+    void errorsOutliveWarnings()
+    {
+        MessageBar bar;
+        bar.showMessage(Severity::Information, QStringLiteral("i"));
+        bar.showMessage(Severity::Error, QStringLiteral("E"));
+        for (const char* text : {"a", "b", "c", "d"})
+            bar.showMessage(Severity::Warning, QLatin1String(text));
+        QCOMPARE(bar.texts().join(u' '), QStringLiteral("E b c d"));
+        // What is less important goes first, however new it is.
+        bar.showMessage(Severity::Information, QStringLiteral("j"));
+        QCOMPARE(bar.texts().join(u' '), QStringLiteral("E b c d j"));
+        bar.showMessage(Severity::Error, QStringLiteral("F"));
+        QCOMPARE(bar.texts().join(u' '), QStringLiteral("E c d F"));
+    }
+
+    void theNewestIsSeenAmongErrorsOnly()
+    {
+        MessageBar bar;
+        for (const char* text : {"A", "B", "C", "D"})
+            bar.showMessage(Severity::Error, QLatin1String(text));
+        bar.showMessage(Severity::Warning, QStringLiteral("a"));
+        QCOMPARE(bar.texts().join(u' '), QStringLiteral("A B C D a"));
+        bar.showMessage(Severity::Warning, QStringLiteral("b"));
+        QCOMPARE(bar.texts().join(u' '), QStringLiteral("A B C D b"));
+        bar.showMessage(Severity::Error, QStringLiteral("E"));
+        QCOMPARE(bar.texts().join(u' '), QStringLiteral("B C D E"));
+    }
+
     void closesAMessageByItsButton()
     {
         MessageBar bar;
