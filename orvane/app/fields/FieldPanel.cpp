@@ -2,7 +2,9 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/fields/FieldActions.h"
+#include "orvane/app/fields/FieldColumns.h"
 #include "orvane/app/fields/FieldFilterBar.h"
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableView.h"
@@ -18,12 +20,8 @@
 #include "meridane/scene/fields/NxMField.h"
 #include "meridane/scene/nodes/NxNode.h"
 
-#include <QAction>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
-#include <QLocale>
-#include <QMenu>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStackedLayout>
@@ -47,7 +45,6 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     , m_nothing(new QLabel(this))
     , m_hint(new QWidget(this))
     , m_pages(new QStackedLayout(this))
-    , m_showType(new QAction(tr("Show &Types"), this))
 {
     auto* page = new QWidget(this);
     buildPage(page);
@@ -111,14 +108,6 @@ void FieldPanel::buildPage(QWidget* page)
 void FieldPanel::buildColumns()
 {
     m_view->setModel(m_model);
-    const int letter = fontMetrics().averageCharWidth();
-    const auto width = [this](int column, int usual) {
-        const int chosen = m_settings.columnWidth(column);
-        m_view->setColumnWidth(column, chosen > 0 ? chosen : usual);
-    };
-    width(FieldTableModel::NameColumn, letter * 22);
-    width(FieldTableModel::TypeColumn, letter * 16);
-    m_view->setColumnHidden(FieldTableModel::TypeColumn, !m_settings.isTypeShown());
     auto* const marks = new MarkDelegate(this);
     m_view->setItemDelegateForColumn(FieldTableModel::MarkColumn, marks);
     // Not while the view still works on the click: it may change which rows there are.
@@ -129,28 +118,7 @@ void FieldPanel::buildColumns()
                 useMark(mark, index);
         },
         Qt::QueuedConnection);
-
-    m_showType->setObjectName(QStringLiteral("field.showType"));
-    m_showType->setStatusTip(tr("Shows the column with the types of the fields"));
-    m_showType->setCheckable(true);
-    m_showType->setChecked(m_settings.isTypeShown());
-    connect(m_showType, &QAction::toggled, this, [this](bool shown) {
-        m_settings.setTypeShown(shown);
-        m_view->setColumnHidden(FieldTableModel::TypeColumn, !shown);
-    });
-
-    QHeaderView* const header = m_view->header();
-    header->setStretchLastSection(false);
-    header->setMinimumSectionSize(MarkDelegate::columnWidth(*m_view));
-    header->setSectionResizeMode(FieldTableModel::ValueColumn, QHeaderView::Stretch);
-    header->setSectionResizeMode(FieldTableModel::MarkColumn, QHeaderView::Fixed);
-    header->resizeSection(FieldTableModel::MarkColumn, MarkDelegate::columnWidth(*m_view));
-    header->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(header, &QWidget::customContextMenuRequested, this, &FieldPanel::chooseColumns);
-    connect(header, &QHeaderView::sectionResized, this, [this](int column, int /*before*/, int size) {
-        if (column <= FieldTableModel::TypeColumn && size > 0)
-            m_settings.setColumnWidth(column, size);
-    });
+    new FieldColumns(m_view, *m_model, m_settings);
 }
 
 void FieldPanel::buildHint()
@@ -217,7 +185,7 @@ void FieldPanel::updateHeading()
     const QString name = orvane::shortLine(orvane::toQString(node->getName()));
     QString text = name.isEmpty() ? className : tr("%1 — %2").arg(name, className);
     if (m_model->nodeCount() > 1)
-        text = tr("%1 nodes, the last one: %2").arg(QLocale(QLocale::English).toString(m_model->nodeCount()), text);
+        text = tr("%1 nodes, the last one: %2").arg(orvane::countText(m_model->nodeCount()), text);
     m_heading->setText(text);
 }
 
@@ -305,13 +273,6 @@ void FieldPanel::showFailure(const QString& message)
 {
     const QModelIndex current = m_view->currentIndex().siblingAtColumn(FieldTableModel::ValueColumn);
     InputMessage::showBriefly(m_view->viewport(), m_view->visualRect(current), message);
-}
-
-void FieldPanel::chooseColumns(const QPoint& place)
-{
-    QMenu menu(this);
-    menu.addAction(m_showType);
-    menu.exec(m_view->header()->mapToGlobal(place));
 }
 
 void FieldPanel::setCurrentField(const NxField* field)

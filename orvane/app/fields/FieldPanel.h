@@ -20,7 +20,6 @@ class NxFieldContainer;
 class NxMField;
 class NxNode;
 class OrvServices;
-class QAction;
 class QHBoxLayout;
 class QLabel;
 class QStackedLayout;
@@ -81,7 +80,6 @@ private:
     void unfoldGroups();
     void foldingChanged(const QModelIndex& index, bool folded);
     void useMark(FieldMark mark, const QModelIndex& index);
-    void chooseColumns(const QPoint& place);
     /// Changes which rows there are, and keeps the row of the current field selected.
     template <typename Change>
     void changeRows(Change change);
@@ -100,7 +98,6 @@ private:
     QLabel* m_nothing;
     QWidget* m_hint;
     QStackedLayout* m_pages;
-    QAction* m_showType;
     bool m_settingCurrent = false;
     bool m_folding = false; // by the panel itself
 };

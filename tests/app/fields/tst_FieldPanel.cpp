@@ -1,6 +1,7 @@
 #include "app/fields/FieldPanelCase.h"
 
 #include "meridane/scene/nodes/NxFieldGallery.h"
+#include "meridane/scene/nodes/NxMesh.h"
 #include "meridane/scene/nodes/NxPointLight.h"
 #include "meridane/scene/nodes/NxSpotLight.h"
 
@@ -102,6 +103,41 @@ private Q_SLOTS:
         show();
         QCOMPARE(view()->columnWidth(FieldTableModel::NameColumn), 177);
         QVERIFY(view()->isColumnHidden(FieldTableModel::TypeColumn));
+    }
+
+    void theLongestNameIsPaintedWhole()
+    {
+        open({new NxMesh});
+        field("textureCoordinates").set("[0 0]"); // changed, so in bold
+        m_panel->resize(410, 700);
+        QCoreApplication::processEvents();
+        const int usual = view()->columnWidth(FieldTableModel::NameColumn);
+        QVERIFY(view()->columnWidth(FieldTableModel::ValueColumn) >= usual);
+        const QRect cell = view()->visualRect(row("textureCoordinates"));
+        const QImage painted = view()->viewport()->grab(cell).toImage();
+        view()->header()->resizeSection(FieldTableModel::NameColumn, 300);
+        QCOMPARE(view()->viewport()->grab(cell).toImage(), painted);
+        view()->header()->resizeSection(FieldTableModel::NameColumn, usual * 3 / 4);
+        QVERIFY(view()->viewport()->grab(cell).toImage() != painted);
+    }
+
+    void longNamesLeaveHalfOfTheTableToTheValues()
+    {
+        open({new NxMesh});
+        QFont large = m_panel->font();
+        large.setPointSizeF(18);
+        m_panel->view()->setFont(large);
+        m_panel->resize(500, 700);
+        QCoreApplication::processEvents();
+        QVERIFY(view()->columnWidth(FieldTableModel::ValueColumn)
+            >= view()->columnWidth(FieldTableModel::NameColumn));
+        const int shown = view()->columnWidth(FieldTableModel::NameColumn);
+        // What the user has chosen stays.
+        view()->header()->resizeSection(FieldTableModel::NameColumn, 350);
+        m_panel->resize(520, 700);
+        QCoreApplication::processEvents();
+        QCOMPARE(view()->columnWidth(FieldTableModel::NameColumn), 350);
+        QVERIFY(shown < 350);
     }
 
     void theFilterKeepsTheFieldThatIsChosen()
