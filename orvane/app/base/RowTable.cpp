@@ -1,5 +1,7 @@
 #include "orvane/app/base/RowTable.h"
 
+#include "orvane/app/base/ApplicableMenu.h"
+
 #include <QAction>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -22,7 +24,7 @@ RowTable::RowTable(QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setTextElideMode(Qt::ElideMiddle);
     setHorizontalScrollMode(ScrollPerPixel);
-    setContextMenuPolicy(Qt::ActionsContextMenu);
+    orvane::giveApplicableMenu(this);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + space);

@@ -3,9 +3,12 @@
 #include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/FieldClipboard.h"
+#include "orvane/app/find/FindEdit.h"
 #include "orvane/app/inspect/Inspectors.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/structure/ApplicableEdits.h"
+#include "orvane/app/structure/NodeActions.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/CameraMenu.h"
@@ -24,6 +27,12 @@
 
 namespace {
 
+/// What is rarely used from the menu.
+bool isMove(const QAction& action)
+{
+    return action.objectName().startsWith(QStringLiteral("node.move"));
+}
+
 bool isAboutNodes(const QAction& action)
 {
     return action.objectName().startsWith(QStringLiteral("node."));
@@ -32,25 +41,29 @@ bool isAboutNodes(const QAction& action)
 } // namespace
 
 NodeMenu::NodeMenu(Session& session, SceneTreePanel* tree, SceneView* view, Inspectors& inspectors, CameraMenu* cameras,
-    const QList<QAction*>& editActions)
+    NodeActions& edits, const QList<QAction*>& editActions)
     : QObject(tree)
     , m_session(session)
     , m_tree(tree)
     , m_view(view)
     , m_inspectors(inspectors)
     , m_cameras(cameras)
+    , m_edits(edits)
     , m_editActions(editActions)
     , m_writer(session.services())
-    , m_copyPath(add("node.copyPath", tr("Copy &Path"), tr("Copies the path of the selected node in the scene"),
+    , m_copyPath(add("node.copyPath", tr("Copy Pat&h"), tr("Copies the path of the selected node in the scene"),
           Qt::CTRL | Qt::SHIFT | Qt::Key_C, &NodeMenu::copyPath))
     , m_copyFields(add("node.copyFields", tr("Copy All F&ields"), tr("Copies the values of all fields of the node"),
           Qt::CTRL | Qt::ALT | Qt::Key_C, &NodeMenu::copyFields))
     , m_pasteFields(add("node.pasteFields", tr("Pa&ste All Fields"),
           tr("Writes the values of the clipboard to the fields of the node"), Qt::CTRL | Qt::ALT | Qt::Key_V,
           &NodeMenu::pasteFields))
-    , m_lock(add("inspector.lockOnNode", tr("&Lock Inspector on This"),
+    , m_findClass(add("node.findClass", tr("&Find Nodes of This Class"),
+          tr("Searches the tree for nodes of the class of the selected node"), Qt::CTRL | Qt::SHIFT | Qt::Key_F,
+          &NodeMenu::findClass))
+    , m_lock(add("inspector.lockOnNode", tr("Loc&k Inspector on This"),
           tr("Keeps fields and editors on the node that is selected in the tree"), {}, &NodeMenu::lock))
-    , m_lookThrough(add("node.lookThrough", tr("Loo&k Through Camera"),
+    , m_lookThrough(add("node.lookThrough", tr("Look Thro&ugh Camera"),
           tr("Shows in the view what the selected camera sees"), {}, &NodeMenu::lookThrough))
 {
     // A click comes to the viewport, a key to the view.
@@ -82,7 +95,7 @@ void NodeMenu::update()
 {
     const NxNode* const node = m_tree->selectedNode();
     const QString reason = node == nullptr ? tr("Select a node first.") : QString();
-    for (QAction* const action : {m_copyPath, m_copyFields, m_pasteFields, m_lock})
+    for (QAction* const action : {m_copyPath, m_copyFields, m_pasteFields, m_findClass, m_lock})
         orvane::setReason(*action, reason);
     const bool isCamera = dynamic_cast<const NxCamera*>(node) != nullptr;
     orvane::setReason(*m_lookThrough, isCamera ? QString() : tr("Select a camera first."));
@@ -124,8 +137,7 @@ void NodeMenu::show(const QPoint& globalPlace, bool isOnNode)
     menu->setObjectName(QStringLiteral("nodeMenu"));
     if (isOnNode) {
         addNodeActions(*menu);
-    }
-    if (!isOnNode) {
+    } else {
         menu->addMenu(m_cameras->update());
         // What else the view can do, with its keys.
         menu->addSeparator();
@@ -140,30 +152,65 @@ void NodeMenu::show(const QPoint& globalPlace, bool isOnNode)
 
 void NodeMenu::addNodeActions(QMenu& menu)
 {
-    menu.addActions(m_editActions);
+    addEditActions(menu);
     menu.addAction(m_inspectors.favoriteAction());
     menu.addSeparator();
-    menu.addActions({m_copyPath, m_copyFields, m_pasteFields});
+    menu.addActions({m_findClass, m_copyPath});
+    addFieldActions(menu);
     menu.addSeparator();
     menu.addActions({m_lock, m_inspectors.newAction()});
     menu.addSeparator();
     if (m_lookThrough->isEnabled())
         menu.addAction(m_lookThrough);
-    for (const char* const name : {"view.frameSelection", "view.frameAll"}) {
-        if (QAction* const action = viewAction(name))
-            menu.addAction(action);
-    }
+    if (QAction* const frame = viewAction("view.frameSelection"))
+        menu.addAction(frame);
     addOthers(menu);
+}
+
+/// Those that would change something. The steps within the tree are in a menu of their own.
+void NodeMenu::addEditActions(QMenu& menu)
+{
+    const ApplicableEdits applicable(
+        *m_edits.editor().scene(), m_edits.editor().selected(), QGuiApplication::clipboard()->mimeData());
+    auto* const moves = new QMenu(tr("&Move"), &menu);
+    moves->setObjectName(QStringLiteral("nodeMoveMenu"));
+    for (QAction* const action : m_editActions) {
+        if (!applicable.has(*action))
+            continue;
+        if (isMove(*action)) {
+            if (moves->isEmpty())
+                menu.addMenu(moves);
+            moves->addAction(action);
+        } else if (action->objectName() != QStringLiteral("node.keepPlace")) {
+            menu.addAction(action);
+        } else if (!moves->isEmpty()) {
+            moves->addSeparator();
+            moves->addAction(action);
+        }
+    }
+}
+
+void NodeMenu::addFieldActions(QMenu& menu)
+{
+    NxNode* const node = m_tree->selectedNode();
+    if (node == nullptr || node->getFields().empty())
+        return;
+    QMenu* const fields = menu.addMenu(tr("Fields as Te&xt"));
+    fields->setObjectName(QStringLiteral("nodeFieldsMenu"));
+    fields->addAction(m_copyFields);
+    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+    if (data != nullptr && data->hasText())
+        fields->addAction(m_pasteFields);
 }
 
 /// What other parts of the window can do with the selected nodes.
 void NodeMenu::addOthers(QMenu& menu)
 {
-    const QList<QAction*> present = menu.actions();
+    const QList<QAction*> own = menu.actions() + m_editActions + QList<QAction*>{m_copyFields, m_pasteFields};
     menu.addSeparator();
     for (const QWidget* const widget : {static_cast<QWidget*>(m_tree->view()), static_cast<QWidget*>(m_view)}) {
         for (QAction* const action : widget->actions()) {
-            const bool isThere = present.contains(action) || menu.actions().contains(action);
+            const bool isThere = own.contains(action) || menu.actions().contains(action);
             if (!isThere && isAboutNodes(*action) && action->isEnabled() && action->isVisible())
                 menu.addAction(action);
         }
@@ -213,4 +260,14 @@ void NodeMenu::pasteFields()
     const auto result = orvane::pasteFields(m_writer, rows, *data, orvane::nodeName(*node));
     if (const QString message = result ? result.value() : result.error(); !message.isEmpty())
         m_inspectors.showMessage(message);
+}
+
+void NodeMenu::findClass()
+{
+    const NxNode* const node = m_tree->selectedNode();
+    auto* const edit = m_tree->findChild<FindEdit*>();
+    if (node == nullptr || edit == nullptr)
+        return;
+    edit->setFocus(Qt::ShortcutFocusReason); // which ends an edit elsewhere first
+    edit->setText(QStringLiteral("t:") + QString::fromUtf8(node->getClassName()));
 }

@@ -10,6 +10,7 @@
 
 class CameraMenu;
 class Inspectors;
+class NodeActions;
 class NxNode;
 class QAction;
 class QKeySequence;
@@ -26,9 +27,10 @@ class NodeMenu : public QObject {
     Q_OBJECT
 
 public:
-    /// All live as long as the tree. The edit actions are about the node that is selected in the tree.
+    /// All live as long as the tree. The edit actions, some of which are those of `edits`, are about the node that is
+    /// selected in the tree.
     NodeMenu(Session& session, SceneTreePanel* tree, SceneView* view, Inspectors& inspectors, CameraMenu* cameras,
-        const QList<QAction*>& editActions);
+        NodeActions& edits, const QList<QAction*>& editActions);
     ~NodeMenu() override;
 
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -39,6 +41,8 @@ private:
     void update();
     void show(const QPoint& globalPlace, bool isOnNode);
     void addNodeActions(QMenu& menu);
+    void addEditActions(QMenu& menu);
+    void addFieldActions(QMenu& menu);
     void addOthers(QMenu& menu);
     [[nodiscard]] QAction* viewAction(const char* name) const;
     void lock();
@@ -46,17 +50,20 @@ private:
     void copyPath();
     void copyFields();
     void pasteFields();
+    void findClass();
 
     Session& m_session;
     SceneTreePanel* m_tree;
     SceneView* m_view;
     Inspectors& m_inspectors;
     CameraMenu* m_cameras;
+    NodeActions& m_edits;
     QList<QAction*> m_editActions;
     FieldWriter m_writer;
     QAction* m_copyPath;
     QAction* m_copyFields;
     QAction* m_pasteFields;
+    QAction* m_findClass;
     QAction* m_lock;
     QAction* m_lookThrough;
 };

@@ -1,6 +1,8 @@
 #include "orvane/app/lists/ListActions.h"
 
 #include "orvane/app/base/ActionState.h"
+#include "orvane/app/base/ApplicableMenu.h"
+#include "orvane/app/base/UserLocale.h"
 #include "orvane/app/lists/ListClipboard.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/lists/rows/ListEdits.h"
@@ -13,7 +15,6 @@
 
 #include <QAction>
 #include <QInputDialog>
-#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -57,7 +58,7 @@ ListActions::ListActions(
     m_resize
         = add("list.resize", tr("&Number of Rows…"), {}, &ListActions::resize, tr("Sets how many rows the list has"));
     view->addActions(m_all);
-    view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    orvane::giveApplicableMenu(view);
     connect(view, &ListView::rowsDropped, this, &ListActions::moveTo);
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListActions::update);
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this, &ListActions::update);
@@ -230,7 +231,7 @@ void ListActions::resizeTo(int count)
         show(m_edits.resize(count));
         return;
     }
-    const QString number = QLocale(QLocale::English).toString(count);
+    const QString number = orvane::countText(count);
     m_messages.showQuestion(
         tr("%1 is going to have %2 rows, which need a lot of memory. Go on?").arg(m_edits.listName(), number),
         listResizeTopic, tr("Make %1 Rows").arg(number), [this, count] { show(m_edits.resize(count)); });

@@ -248,7 +248,8 @@ void MainWindow::buildMenus()
     auto* navigation
         = new NavigationActions(m_view, m_session, m_tree, editMenu->nodes().editor(), *cameras, statusBar());
     auto* hiding = new HidingActions(m_view, m_tree, statusBar());
-    new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodeActions() + hiding->nodeActions());
+    new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodes(),
+        editMenu->nodeActions() + hiding->nodeActions());
     const auto* actions = new WindowActions(
         this, m_session, {m_tree, m_fields, *m_inspectors, *m_files, *m_recent, *cameras, navigation->bookmarks()});
     const auto* const help = new HelpMenu(this, *m_shell, actions->keysAction());

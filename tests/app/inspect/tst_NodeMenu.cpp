@@ -45,10 +45,12 @@ private:
         auto* const popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         return popup != nullptr && popup->objectName() == QStringLiteral("nodeMenu") ? popup : nullptr;
     }
-    static QStringList texts()
+    static QMenu* subMenu(const char* name) { return menu()->findChild<QMenu*>(QLatin1String(name)); }
+    static QStringList texts() { return texts(menu()); }
+    static QStringList texts(const QMenu* menu)
     {
         QStringList result;
-        for (const QAction* const action : menu() != nullptr ? menu()->actions() : QList<QAction*>()) {
+        for (const QAction* const action : menu != nullptr ? menu->actions() : QList<QAction*>()) {
             if (!action->isSeparator())
                 result.append(action->text().remove(u'&'));
         }
@@ -60,6 +62,25 @@ private:
         for (QAction* const action : menu()->actions()) {
             if (action->text().remove(u'&') == QLatin1String(text)) {
                 QTest::mouseClick(menu(), Qt::LeftButton, Qt::NoModifier, menu()->actionGeometry(action).center());
+                return;
+            }
+        }
+        QFAIL(text);
+    }
+    /// Opens a menu in the menu by a key, and chooses in it.
+    static void choose(const char* name, const char* text)
+    {
+        QVERIFY(menu() != nullptr);
+        QMenu* const inner = subMenu(name);
+        QVERIFY2(inner != nullptr, name);
+        menu()->setActiveAction(inner->menuAction());
+        if (!inner->isVisible())
+            QTest::keyClick(menu(), Qt::Key_Right);
+        QVERIFY(inner->isVisible());
+        for (const QAction* const action : inner->actions()) {
+            if (action->text().remove(u'&') == QLatin1String(text)) {
+                QTest::mouseClick(inner, Qt::LeftButton, Qt::NoModifier,
+                    inner->actionGeometry(const_cast<QAction*>(action)).center());
                 return;
             }
         }
@@ -87,19 +108,67 @@ private Q_SLOTS:
 
     void aRightClickInTheTreeIsAboutTheNodeUnderIt()
     {
+        QGuiApplication::clipboard()->clear();
         rightClickTree(placeOf("/robot/hand"));
         QCOMPARE(services().getSelectedNode(), node("/robot/hand"));
         QCOMPARE(texts(),
-            QStringList(
-                {QStringLiteral("Rename Node"), QStringLiteral("Cut"), QStringLiteral("Copy"), QStringLiteral("Paste"),
-                    QStringLiteral("Paste as Shared"), QStringLiteral("Add Node…"), QStringLiteral("Duplicate"),
-                    QStringLiteral("Delete Node"), QStringLiteral("Group"), QStringLiteral("Ungroup"),
-                    QStringLiteral("Make Own Copy"), QStringLiteral("Move Up"), QStringLiteral("Move Down"),
-                    QStringLiteral("Move Out of Group"), QStringLiteral("Move into Group Above"),
-                    QStringLiteral("Keep Place"), QStringLiteral("Isolate"), QStringLiteral("Hide"),
-                    QStringLiteral("Favorite Node"), QStringLiteral("Copy Path"), QStringLiteral("Copy All Fields"),
-                    QStringLiteral("Paste All Fields"), QStringLiteral("Lock Inspector on This"),
-                    QStringLiteral("New Inspector"), QStringLiteral("Frame Selection"), QStringLiteral("Frame All")}));
+            QStringList({QStringLiteral("Rename Node"), QStringLiteral("Cut"), QStringLiteral("Copy"),
+                QStringLiteral("Add Node…"), QStringLiteral("Duplicate"), QStringLiteral("Delete Node"),
+                QStringLiteral("Group"), QStringLiteral("Move"), QStringLiteral("Isolate"), QStringLiteral("Hide"),
+                QStringLiteral("Favorite Node"), QStringLiteral("Find Nodes of This Class"),
+                QStringLiteral("Copy Path"), QStringLiteral("Fields as Text"), QStringLiteral("Lock Inspector on This"),
+                QStringLiteral("New Inspector"), QStringLiteral("Frame Selection")}));
+    }
+
+    /// What would change nothing isn't there, and nothing is greyed out.
+    void theMenuHasJustWhatApplies()
+    {
+        writeFile(m_robot,
+            "#mrd 1.0\n"
+            "Group \"one\" { Mesh \"below\" { } }\n"
+            "Group \"two\" { PointLight \"last\" { } }\n"
+            "use \"two\"\n");
+        QCOMPARE(open(m_robot), QString());
+        tree()->expandAll();
+        QGuiApplication::clipboard()->clear();
+        const QString ungroup = QStringLiteral("Ungroup");
+        const QString own = QStringLiteral("Make Own Copy");
+        rightClickTree(placeOf("/one"));
+        QVERIFY(texts().contains(ungroup));
+        QVERIFY(!texts().contains(own));
+        QVERIFY(!texts().contains(QStringLiteral("Paste")));
+        QCOMPARE(
+            texts(subMenu("nodeMoveMenu")), QStringList({QStringLiteral("Move Down"), QStringLiteral("Keep Place")}));
+        for (const QAction* const action : menu()->actions())
+            QVERIFY2(action->isEnabled(), qPrintable(action->text()));
+        closeMenu();
+        rightClickTree(placeOf("/one/below"));
+        QVERIFY(!texts().contains(ungroup));
+        QCOMPARE(texts(subMenu("nodeMoveMenu")),
+            QStringList({QStringLiteral("Move Out of Group"), QStringLiteral("Keep Place")}));
+        closeMenu();
+        rightClickTree(placeOf("/Group[1]"));
+        QVERIFY2(texts().contains(own), qPrintable(texts().join(u',')));
+        QCOMPARE(texts(subMenu("nodeMoveMenu")),
+            QStringList({QStringLiteral("Move Up"), QStringLiteral("Move Down"),
+                QStringLiteral("Move into Group Above"), QStringLiteral("Keep Place")}));
+        choose("Copy");
+        rightClickTree(placeOf("/one"));
+        QVERIFY(texts().contains(QStringLiteral("Paste")));
+        QVERIFY(texts().contains(QStringLiteral("Paste as Shared")));
+    }
+
+    void nodesOfAClassAreFound()
+    {
+        rightClickTree(placeOf("/robot/hand"));
+        choose("Find Nodes of This Class");
+        auto* const line = m_window->findChild<QLineEdit*>(QStringLiteral("findEdit"));
+        QCOMPARE(line->text(), QStringLiteral("t:Mesh"));
+        QVERIFY(line->hasFocus());
+        line->clear();
+        clickRow(tree(), tree()->indexAt(placeOf("/sun")));
+        QTest::keyClick(tree(), Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(line->text(), QStringLiteral("t:PointLight"));
     }
 
     void theGroundHasAMenuOfItsOwn()
@@ -146,7 +215,7 @@ private Q_SLOTS:
         choose("Copy Path");
         QCOMPARE(copied(), QStringLiteral("/robot/hand"));
         rightClickTree(placeOf("/sun"));
-        choose("Copy All Fields");
+        choose("nodeFieldsMenu", "Copy All Fields");
         QVERIFY2(copied().contains(QStringLiteral("intensity = 1\n")), qPrintable(copied()));
     }
 
@@ -156,9 +225,9 @@ private Q_SLOTS:
             m_robot, QByteArray(AppScenes::robotText) + "PointLight \"lamp\" {\n  intensity = 0.25\n  on = false\n}\n");
         QCOMPARE(open(m_robot), QString());
         rightClickTree(placeOf("/lamp"));
-        choose("Copy All Fields");
+        choose("nodeFieldsMenu", "Copy All Fields");
         rightClickTree(placeOf("/sun"));
-        choose("Paste All Fields");
+        choose("nodeFieldsMenu", "Paste All Fields");
         QVERIFY(sun()->getField("intensity")->isSame(*node("/lamp")->getField("intensity")));
         QVERIFY(sun()->getField("on")->isSame(*node("/lamp")->getField("on")));
         services().undo();
@@ -169,12 +238,12 @@ private Q_SLOTS:
 
     void whatCantBeDoneIsSaid()
     {
-        rightClickTree(placeOf("/robot"));
-        choose("Copy All Fields");
+        clickRow(tree(), tree()->indexAt(placeOf("/robot")));
+        QTest::keyClick(tree(), Qt::Key_C, Qt::ControlModifier | Qt::AltModifier);
         QCOMPARE(m_window->statusBar()->currentMessage(), QStringLiteral("robot has no fields to copy."));
         QGuiApplication::clipboard()->setText(QStringLiteral("no fields"));
         rightClickTree(placeOf("/sun"));
-        choose("Paste All Fields");
+        choose("nodeFieldsMenu", "Paste All Fields");
         QVERIFY(m_window->statusBar()->currentMessage() != QStringLiteral("robot has no fields to copy."));
         QVERIFY(!m_window->statusBar()->currentMessage().isEmpty());
         QVERIFY(!services().canUndo());

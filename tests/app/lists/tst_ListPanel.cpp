@@ -6,8 +6,10 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QLabel>
+#include <QMenu>
 #include <QSpinBox>
 
 using namespace Qt::StringLiterals;
@@ -114,6 +116,33 @@ private Q_SLOTS:
         view()->setFocus();
         press(Qt::Key_Down, Qt::AltModifier);
         QCOMPARE(steps().count(), 4);
+    }
+
+    void theMenuOfARowHasWhatApplies()
+    {
+        showNumbers(6);
+        const auto texts = [this](const QPoint& place) {
+            QContextMenuEvent event(QContextMenuEvent::Mouse, place, view()->viewport()->mapToGlobal(place));
+            QApplication::sendEvent(view()->viewport(), &event);
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QStringList result;
+            for (const QAction* const action : menu != nullptr ? menu->actions() : QList<QAction*>()) {
+                if (!action->isSeparator())
+                    result.append(action->objectName());
+            }
+            if (menu != nullptr)
+                menu->close();
+            return result;
+        };
+        view()->clearSelection();
+        view()->setCurrentIndex({});
+        QCOMPARE(texts(cellCenter(2, 0)), QStringList({u"list.insert"_s, u"list.paste"_s, u"list.resize"_s}));
+        clickRow(2);
+        QCOMPARE(texts(cellCenter(2, 0)),
+            QStringList({u"list.insert"_s, u"list.duplicate"_s, u"list.remove"_s, u"list.moveUp"_s, u"list.moveDown"_s,
+                u"list.cut"_s, u"list.copy"_s, u"list.paste"_s, u"list.resize"_s}));
+        clickRow(4, Qt::ShiftModifier);
+        QVERIFY(texts(cellCenter(2, 0)).contains(u"list.fillLinear"_s));
     }
 
     void rowsAreDragged()
