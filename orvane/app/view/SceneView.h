@@ -68,6 +68,8 @@ public:
     [[nodiscard]] NxBounds selectionBounds() const { return m_drawing.bounds(pointers(m_selected)); }
     /// The same with what lies behind it, from the front.
     [[nodiscard]] std::vector<NxRayHit> hitsAt(const QPointF& position) const;
+    /// Lets the next click pick what is in front, even on the place of the latest one.
+    void forgetClick() { m_input.forgetClick(); }
     /// Outlines more quietly what a click would select; none for nothing.
     void setHoveredPath(const std::vector<NxNode*>& nodes) { m_drawing.setHoveredPath(nodes); }
     void frameAll();

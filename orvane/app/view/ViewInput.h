@@ -53,6 +53,9 @@ public:
     /// Picks what lies behind the node that the latest click has picked, or before it, as long as the pointer is there.
     /// Returns false, and does nothing, if nothing else is there.
     bool pickBehind(bool forwards);
+    /// Lets the next click pick what is in front, wherever it is: what the latest click has picked may no longer be
+    /// there or selected.
+    void forgetClick() { m_depth = -1; }
 
     /// Ends the drag under way without a result.
     void cancel();

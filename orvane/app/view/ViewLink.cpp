@@ -12,6 +12,7 @@
 
 #include <QGuiApplication>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QStatusBar>
 
 #include <algorithm>
@@ -64,6 +65,7 @@ ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QSta
     connect(&document, &SceneDocument::sceneChanged, this, &ViewLink::showScene);
     connect(&document, &SceneDocument::fileNameChanged, this,
         [this] { m_view->drawing().setFolder(m_session.document().pathFolder()); });
+    connect(&session.services(), &OrvServices::documentEdited, view, &SceneView::forgetClick);
     connect(tree, &SceneTreePanel::selectionChanged, this, &ViewLink::showSelection);
     new ViewSelection(view, tree);
     new EditorImages(view->drawing().textures(), this);
@@ -87,11 +89,14 @@ void ViewLink::showScene()
 void ViewLink::showSelection()
 {
     m_point->hide();
+    if (!m_isChoosing)
+        m_view->forgetClick();
     m_view->setSelectedPath(m_tree->model()->path(m_tree->selected()));
 }
 
 void ViewLink::choose(const NxRayHit& hit)
 {
+    const QScopedValueRollback guard(m_isChoosing, true);
     const QModelIndex index = m_tree->model()->indexOfPath(hit.path);
     if (QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier))
         m_tree->selection().toggle(index);
@@ -103,6 +108,7 @@ void ViewLink::choose(const NxRayHit& hit)
 
 void ViewLink::chooseNothing()
 {
+    const QScopedValueRollback guard(m_isChoosing, true);
     m_tree->select(QModelIndex());
     m_point->hide();
 }

@@ -31,4 +31,5 @@ private:
     SceneTreePanel* m_tree;
     QLabel* m_point;
     SceneCameras m_cameras;
+    bool m_isChoosing = false; // what was clicked
 };

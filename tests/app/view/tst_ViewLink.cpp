@@ -3,6 +3,7 @@
 #include "app/view/ViewScenes.h"
 
 #include "orvane/app/messages/MessageBar.h"
+#include "orvane/app/scene/SetFieldCommand.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/SceneCameras.h"
@@ -62,6 +63,42 @@ private Q_SLOTS:
         QCOMPARE(m_session->services().getSelectedNode(), nullptr);
         QVERIFY(!tree()->selected().isValid());
         QVERIFY(!point->isVisible());
+    }
+
+    void aClickReachesWhatLiesBehindUntilSomethingChanges_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::newRow("selection") << "selection";
+        QTest::newRow("scene") << "scene";
+    }
+    void aClickReachesWhatLiesBehindUntilSomethingChanges()
+    {
+        QFETCH(const QString, change);
+        writeFile(m_squares,
+            QByteArray(ViewScenes::squaresText)
+                + "Mesh \"behind\" { positions = [1 -1 -2, 3 -1 -2, 3 1 -2, 1 1 -2]; indices = [0, 1, 2, 0, 2, 3] }\n");
+        QCOMPARE(open(m_squares), QString());
+        lookAhead();
+        const QPoint place = clickable(Qt::green);
+        const OrvServices& services = m_session->services();
+        click(place);
+        QCOMPARE(services.getSelectedNode(), greenSquare());
+        click(place);
+        QCOMPARE(services.getSelectedNode(), m_window->document().scene()->getChild(3));
+        click(place); // there is nothing more behind
+        QCOMPARE(services.getSelectedNode(), greenSquare());
+        if (change == QLatin1String("selection")) {
+            QVERIFY(m_window->selectPath(QStringLiteral("/left/redSquare")));
+        } else {
+            auto* const right = static_cast<NxTransform*>(m_window->document().scene()->getChild(2));
+            m_session->services().pushCommand(new SetFieldCommand(&right->translation, "2.01 0 0"));
+            AppScenes::runSensors();
+            QCoreApplication::processEvents(); // the step ends with the action of the user
+        }
+        click(place);
+        QCOMPARE(services.getSelectedNode(), greenSquare());
+        click(place);
+        QCOMPARE(services.getSelectedNode(), m_window->document().scene()->getChild(3));
     }
 
     void selectsWhatWasMovedInTheSceneAMomentAgo()
