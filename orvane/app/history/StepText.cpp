@@ -104,9 +104,8 @@ StepText orvane::stepText(const PastState::History& history, int step)
     if (!onlyPlaceOf(*changes)) {
         const auto isOfChildren = [](const auto& record) { return record->kind() == ChangeRecord::Kind::Children; };
         return {{},
-            std::ranges::all_of(records, isOfChildren)
-                ? QString()
-                : tr("%1 changes").arg(orvane::countText(records.size()))};
+            std::ranges::all_of(records, isOfChildren) ? QString()
+                                                       : tr("%1 changes").arg(orvane::countText(records.size()))};
     }
     ChangeRecord& record = *records.front();
     if (records.size() > 1)

@@ -129,8 +129,7 @@ private Q_SLOTS:
         m_panel->view()->setFont(large);
         m_panel->resize(500, 700);
         QCoreApplication::processEvents();
-        QVERIFY(view()->columnWidth(FieldTableModel::ValueColumn)
-            >= view()->columnWidth(FieldTableModel::NameColumn));
+        QVERIFY(view()->columnWidth(FieldTableModel::ValueColumn) >= view()->columnWidth(FieldTableModel::NameColumn));
         const int shown = view()->columnWidth(FieldTableModel::NameColumn);
         // What the user has chosen stays.
         view()->header()->resizeSection(FieldTableModel::NameColumn, 350);
