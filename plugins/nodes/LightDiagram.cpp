@@ -175,6 +175,7 @@ void LightDiagram::paintCone(QPainter& painter) const
     constexpr int parts = 48;
     const double inner = m_cutOff * (1 - m_dropOff);
     painter.setPen(Qt::NoPen);
+    painter.setRenderHint(QPainter::Antialiasing, false); // it would leave seams between the parts
     for (int part = 0; part < parts; ++part) {
         const auto angleAt = [&](int number) { return m_cutOff * (2.0 * number / parts - 1); };
         const double middle = std::abs((angleAt(part) + angleAt(part + 1)) / 2);
@@ -183,10 +184,12 @@ void LightDiagram::paintCone(QPainter& painter) const
         painter.setBrush(faded(m_color, share));
         painter.drawPolygon(QPolygonF{tip, pointAt(angleAt(part)), pointAt(angleAt(part + 1))});
     }
-    painter.setPen(QPen(writing, 1, Qt::DashLine));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ground, 1, Qt::DashLine));
     painter.drawLine(tip, tip + QPointF(length, 0));
     constexpr double degrees = 180 / std::numbers::pi;
-    painter.drawText(rect().adjusted(4, 0, -4, -2), Qt::AlignRight | Qt::AlignBottom,
+    painter.setPen(writing);
+    painter.drawText(rect().adjusted(4, 0, -4, -2), Qt::AlignLeft | Qt::AlignBottom,
         tr("%1° wide").arg(numberText(std::round(2 * m_cutOff * degrees * 10) / 10)));
 }
 
