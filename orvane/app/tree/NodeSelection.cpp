@@ -1,8 +1,8 @@
 #include "orvane/app/tree/NodeSelection.h"
 
 #include "orvane/app/tree/RowLookup.h"
-#include "orvane/app/tree/RowOrder.h"
 #include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/selection/RowOrder.h"
 
 #include "meridane/scene/nodes/NodeTraversal.h"
 

@@ -1,4 +1,4 @@
-#include "orvane/app/tree/RowOrder.h"
+#include "orvane/app/tree/selection/RowOrder.h"
 
 #include <map>
 
