@@ -212,6 +212,16 @@ std::optional<NxRayHit> ViewInput::hitAt(const QPointF& position) const
     return m_hooks.hitAt(position);
 }
 
+std::vector<std::vector<NxNode*>> ViewInput::nodesOfToolsIn(const QRectF& rectangle) const
+{
+    std::vector<std::vector<NxNode*>> paths;
+    for (const ViewTool* tool : m_tools) {
+        for (std::vector<NxNode*>& path : tool->nodesIn(rectangle))
+            paths.push_back(std::move(path));
+    }
+    return paths;
+}
+
 bool ViewInput::isClickedPlace(const QPointF& position) const
 {
     constexpr double unsteady = 3;

@@ -10,10 +10,12 @@
 #include <optional>
 #include <vector>
 
+class NxNode;
 class QContextMenuEvent;
 class QKeyEvent;
 class QMouseEvent;
 class QPainter;
+class QRectF;
 class QWheelEvent;
 class QWidget;
 class ViewNavigation;
@@ -48,6 +50,8 @@ public:
 
     /// What is at that position: what a tool shows there, else what is seen of the scene.
     [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const;
+    /// What the tools show in a rectangle of the view, each as the path of nodes from the scene to it.
+    [[nodiscard]] std::vector<std::vector<NxNode*>> nodesOfToolsIn(const QRectF& rectangle) const;
     /// What a click there would pick: what is there, or, where the latest click was, what lies behind.
     [[nodiscard]] std::optional<NxRayHit> nextHit(const QPointF& position) const;
     /// Picks what lies behind the node that the latest click has picked, or before it, as long as the pointer is there.

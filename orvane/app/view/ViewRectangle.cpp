@@ -9,6 +9,7 @@
 #include <QStyleHints>
 
 #include <cmath>
+#include <utility>
 
 ViewRectangle::ViewRectangle(SceneView* view)
     : QObject(view)
@@ -59,8 +60,10 @@ void ViewRectangle::mouseRelease(const QMouseEvent& event)
         QPoint(static_cast<int>(std::floor(wanted.left() * scale)), static_cast<int>(std::floor(wanted.top() * scale))),
         QPoint(
             static_cast<int>(std::ceil(wanted.right() * scale)), static_cast<int>(std::ceil(wanted.bottom() * scale))));
-    const auto meshes = m_view->drawing().seenIn(part, m_view->viewpoint(), size, static_cast<float>(scale));
-    Q_EMIT drawn(meshes, event.modifiers().testFlag(Qt::ControlModifier) ? Change::TakeAway : Change::Add);
+    auto nodes = m_view->drawing().seenIn(part, m_view->viewpoint(), size, static_cast<float>(scale));
+    for (std::vector<NxNode*>& path : m_view->input().nodesOfToolsIn(wanted))
+        nodes.push_back(std::move(path));
+    Q_EMIT drawn(nodes, event.modifiers().testFlag(Qt::ControlModifier) ? Change::TakeAway : Change::Add);
 }
 
 void ViewRectangle::cancel()

@@ -32,11 +32,11 @@ public:
     void paint(QPainter& painter) const override;
 
 Q_SIGNALS:
-    /// The user has drawn a rectangle. The meshes are those that are seen in it, none behind others; each is given as
-    /// the path of nodes from the scene to it.
-    void drawn(const std::vector<std::vector<NxNode*>>& meshes, ViewRectangle::Change change);
-    /// The user has clicked on a mesh with Shift held.
-    void clicked(const std::vector<NxNode*>& mesh);
+    /// The user has drawn a rectangle. The nodes are the meshes that are seen in it, none behind others, and the lights
+    /// and cameras whose symbols it touches; each is given as the path of nodes from the scene to it.
+    void drawn(const std::vector<std::vector<NxNode*>>& nodes, ViewRectangle::Change change);
+    /// The user has clicked on a node with Shift held.
+    void clicked(const std::vector<NxNode*>& node);
 
 private:
     [[nodiscard]] QRectF rectangle() const;

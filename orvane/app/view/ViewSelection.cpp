@@ -17,7 +17,7 @@ ViewSelection::ViewSelection(SceneView* view, SceneTreePanel* tree)
     auto* const rectangle = new ViewRectangle(view);
     connect(rectangle, &ViewRectangle::drawn, this, &ViewSelection::change);
     connect(rectangle, &ViewRectangle::clicked, this,
-        [this](const std::vector<NxNode*>& mesh) { m_tree->selection().toggle(m_tree->model()->indexOfPath(mesh)); });
+        [this](const std::vector<NxNode*>& node) { m_tree->selection().toggle(m_tree->model()->indexOfPath(node)); });
     connect(tree, &SceneTreePanel::selectionChanged, this, &ViewSelection::outline);
     connect(&tree->hidden(), &HiddenNodes::changed, this,
         [this] { m_view->drawing().setVisibility(m_tree->hidden().visibility()); });
@@ -34,12 +34,12 @@ void ViewSelection::outline()
     m_view->drawing().setOtherSelectedNodes(others);
 }
 
-void ViewSelection::change(const std::vector<std::vector<NxNode*>>& meshes, ViewRectangle::Change change)
+void ViewSelection::change(const std::vector<std::vector<NxNode*>>& nodes, ViewRectangle::Change change)
 {
     RowLookup lookup(*m_tree->model());
     QSet<QModelIndex> rows;
-    for (const std::vector<NxNode*>& mesh : meshes) {
-        if (const QModelIndex index = lookup.find(mesh); index.isValid())
+    for (const std::vector<NxNode*>& node : nodes) {
+        if (const QModelIndex index = lookup.find(node); index.isValid())
             rows.insert(index);
     }
     if (rows.isEmpty())

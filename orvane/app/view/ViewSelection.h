@@ -21,7 +21,7 @@ public:
 
 private:
     void outline();
-    void change(const std::vector<std::vector<NxNode*>>& meshes, ViewRectangle::Change change);
+    void change(const std::vector<std::vector<NxNode*>>& nodes, ViewRectangle::Change change);
 
     SceneView* m_view;
     SceneTreePanel* m_tree;

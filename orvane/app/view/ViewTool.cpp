@@ -37,3 +37,8 @@ std::optional<NxRayHit> ViewTool::hitAt(const QPointF& /*position*/) const
 {
     return {};
 }
+
+std::vector<std::vector<NxNode*>> ViewTool::nodesIn(const QRectF& /*rectangle*/) const
+{
+    return {};
+}

@@ -3,11 +3,14 @@
 #include "meridane/gl/NxRayPick.h"
 
 #include <optional>
+#include <vector>
 
+class NxNode;
 class QKeyEvent;
 class QMouseEvent;
 class QPainter;
 class QPointF;
+class QRectF;
 
 /// A gesture in the view, such as a rectangle, a handle or a measurement.
 ///
@@ -41,6 +44,8 @@ public:
 
     /// What the tool shows at a position that a click picks before anything of the scene.
     [[nodiscard]] virtual std::optional<NxRayHit> hitAt(const QPointF& position) const;
+    /// What the tool shows in a rectangle, or partly in it, each as the path of nodes from the scene to it.
+    [[nodiscard]] virtual std::vector<std::vector<NxNode*>> nodesIn(const QRectF& rectangle) const;
     /// Paints over the picture, in points of the screen. Called with each paint; `QWidget::update` requests one.
     virtual void paint(QPainter& painter) const;
 };

@@ -114,6 +114,22 @@ std::optional<NxRayHit> SymbolTool::hitAt(const QPointF& position) const
     return {};
 }
 
+std::vector<std::vector<NxNode*>> SymbolTool::nodesIn(const QRectF& rectangle) const
+{
+    std::vector<std::vector<NxNode*>> paths;
+    for (const Shown& one : layout()) {
+        const QPointF nearest(std::clamp(one.place.x(), rectangle.left(), rectangle.right()),
+            std::clamp(one.place.y(), rectangle.top(), rectangle.bottom()));
+        const QPointF way = one.place - nearest;
+        if (std::hypot(way.x(), way.y()) > orvane::symbolRadius)
+            continue;
+        std::vector<NxNode*>& path = paths.emplace_back();
+        for (const NxRef<NxNode>& node : one.symbol->path)
+            path.push_back(node.get());
+    }
+    return paths;
+}
+
 void SymbolTool::paint(QPainter& painter) const
 {
     const VbColor& outline = m_view->style().outlineColor;

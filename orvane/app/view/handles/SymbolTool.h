@@ -30,6 +30,7 @@ public:
     [[nodiscard]] bool isShown() const noexcept { return m_isShown; }
 
     [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const override;
+    [[nodiscard]] std::vector<std::vector<NxNode*>> nodesIn(const QRectF& rectangle) const override;
     void paint(QPainter& painter) const override;
 
 private:

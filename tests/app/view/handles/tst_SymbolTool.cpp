@@ -1,6 +1,7 @@
 #include "app/view/handles/HandleCase.h"
 
 #include "orvane/app/tree/HiddenNodes.h"
+#include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/view/handles/SceneSymbols.h"
 
 #include "meridane/scene/nodes/NxCamera.h"
@@ -8,6 +9,8 @@
 #include "meridane/scene/nodes/NxSwitch.h"
 
 #include <QLabel>
+
+#include <algorithm>
 
 using namespace meridane;
 
@@ -60,6 +63,27 @@ private Q_SLOTS:
         QCOMPARE(tree()->selectedNode(), stand()->getChild(1));
         click(placeOf(VbVec3d(0, 0, 0)));
         QCOMPARE(tree()->selectedNode(), m_window->document().scene()->getChild(0));
+    }
+
+    void aRectangleSelectsTheSymbolsThatItTouches()
+    {
+        const QPoint lamp = placeOf(VbVec3d(-1, 1, 1));
+        const QPoint camera = placeOf(VbVec3d(1, -1, 1));
+        const auto draw = [this](const QPoint& from, const QPoint& to, Qt::KeyboardModifiers modifiers) {
+            press(from, modifiers);
+            move(to, modifiers);
+            QTest::mouseRelease(view(), Qt::LeftButton, modifiers, to);
+        };
+        const auto isSelected = [this](NxNode* node) {
+            const auto nodes = tree()->selection().nodes();
+            return nodes != nullptr && std::ranges::find(*nodes, node, &NxRef<NxFieldContainer>::get) != nodes->end();
+        };
+        draw(lamp - QPoint(30, 30), lamp + QPoint(30, 30), Qt::ShiftModifier);
+        QVERIFY(isSelected(stand()->getChild(0)) && !isSelected(stand()->getChild(1)));
+        draw(camera + QPoint(8, -20), camera + QPoint(40, 20), Qt::ShiftModifier); // a part of it
+        QVERIFY(isSelected(stand()->getChild(0)) && isSelected(stand()->getChild(1)));
+        draw(lamp - QPoint(30, 30), lamp + QPoint(30, 30), Qt::ShiftModifier | Qt::ControlModifier);
+        QVERIFY(!isSelected(stand()->getChild(0)) && isSelected(stand()->getChild(1)));
     }
 
     void areSwitchedOffByTheMenu()
