@@ -16,6 +16,14 @@ NodeIndex::NodeIndex(const Journal& journal)
 {
 }
 
+void NodeIndex::restart()
+{
+    m_entries.assign(m_journal->nodeCount(), none);
+    m_levels.assign(1, {m_journal->scene().getChildren(), 0, none});
+    m_uses.clear();
+    m_size = 0;
+}
+
 bool NodeIndex::extend(std::size_t count)
 {
     for (; count > 0; --count) {
@@ -43,29 +51,36 @@ bool NodeIndex::extend(std::size_t count)
     return true;
 }
 
-/// Names are anywhere in memory. To ask for several at once takes little longer than to wait for one.
+/// Nodes and names are anywhere in memory. To ask for several at once takes little longer than to wait for one.
 void NodeIndex::readAhead(const Level& level)
 {
     constexpr std::size_t atOnce = 16;
     if (level.next % atOnce != 0)
         return;
-    for (const NxNode* const node :
-        level.children.subspan(level.next).first(std::min(atOnce, level.children.size() - level.next)))
+    const auto after = level.children.subspan(level.next);
+    const auto next = after.first(std::min(atOnce, after.size()));
+    const auto later = after.subspan(next.size());
+    for (const NxNode* const node : next)
         __builtin_prefetch(node->getName().view().data());
+    // Earlier, since a name is found only through its node.
+    for (const NxNode* const node : later.first(std::min(atOnce, later.size())))
+        __builtin_prefetch(node);
 }
 
 NodeIndex::Entry NodeIndex::append(const NxNode& node, Entry parent)
 {
     const std::size_t place = m_size % chunkSize;
-    if (place == 0) {
+    const std::size_t number = m_size / chunkSize;
+    if (place == 0 && number < m_chunks.size()) {
+        m_chunks[number]->names.clear();
+    } else if (place == 0) {
         auto made = std::make_unique_for_overwrite<Chunk>();
         if (!m_chunks.empty()) // names are about as long as those before
             made->names.reserve(m_chunks.back()->names.size() + chunkSize);
         m_chunks.push_back(std::move(made));
     }
-    Chunk& chunk = *m_chunks.back();
-    foldText(node.getName().view(), m_folded);
-    chunk.names += m_folded;
+    Chunk& chunk = *m_chunks[number];
+    appendFolded(node.getName().view(), chunk.names);
     chunk.nodes[place] = &node;
     chunk.parents[place] = parent;
     chunk.types[place] = node.getTypeId();
@@ -112,6 +127,8 @@ void NodeIndex::updateName(Entry entry)
     const std::size_t start = nameStart(chunk, place);
     const std::size_t before = chunk.nameEnds[place] - start;
     foldText(chunk.nodes[place]->getName().view(), m_folded);
+    if (std::string_view(chunk.names).substr(start, before) == m_folded)
+        return; // other changes of a node are far more frequent
     chunk.names.replace(start, before, m_folded);
     const std::size_t end = std::min(chunkSize, m_size - entry / chunkSize * chunkSize);
     for (std::size_t i = place; i < end; ++i)

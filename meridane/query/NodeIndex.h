@@ -22,7 +22,8 @@ class Journal;
 /// the nodes themselves. About 40 bytes a node.
 ///
 /// Each node has one entry, at its first use; further uses are listed apart. An index is made in parts and is valid
-/// until a list of children changes: then discard it. Names that change can be read again. It keeps no node alive.
+/// until a list of children changes: then discard or restart it. Names that change can be read again. It keeps no node
+/// alive.
 class NodeIndex {
 public:
     using Entry = std::uint32_t;
@@ -37,6 +38,8 @@ public:
     /// The journal of the scene, which must outlive the index. Nothing is read yet.
     explicit NodeIndex(const Journal& journal);
 
+    /// Begins again, in the memory that it has: after a list of children has changed.
+    void restart();
     /// Adds the next `count` nodes or uses. Returns false when there are no more.
     bool extend(std::size_t count);
     [[nodiscard]] bool isComplete() const noexcept { return m_levels.empty(); }

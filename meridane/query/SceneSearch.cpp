@@ -19,6 +19,12 @@ SceneSearch::SceneSearch(const Journal& journal)
 {
 }
 
+void SceneSearch::restart()
+{
+    m_index.restart();
+    begin({});
+}
+
 void SceneSearch::begin(Query query, std::shared_ptr<const QueryFacts> facts)
 {
     m_query = std::move(query);

@@ -21,8 +21,8 @@ class QueryFacts;
 /// Finds the nodes of a scene that match a query, in slices, and the groups that lead to them.
 ///
 /// The names are read once, by the first search; later ones take a fraction of its time. A search is valid until a list
-/// of children changes: then discard it. Other changes of a node are reported by `update`. It keeps no node alive.
-/// Thread of the user interface only.
+/// of children changes: then discard or restart it. Other changes of a node are reported by `update`. It keeps no node
+/// alive. Thread of the user interface only.
 class SceneSearch {
 public:
     using Entry = NodeIndex::Entry;
@@ -30,6 +30,8 @@ public:
     /// The journal of the scene, which must outlive the search.
     explicit SceneSearch(const Journal& journal);
 
+    /// Forgets everything, as if it were new, but keeps its memory: after a list of children has changed.
+    void restart();
     /// Forgets all hits and begins again. The empty query finds nothing; it only reads the names for the next one.
     /// Without facts, no node is unused and no file missing.
     void begin(Query query, std::shared_ptr<const QueryFacts> facts = nullptr);

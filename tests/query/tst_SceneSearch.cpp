@@ -156,6 +156,32 @@ private Q_SLOTS:
         compare(search, query("arm"), *random.scene);
     }
 
+    void aRestartedSearchKnowsTheSceneAsItIsNow()
+    {
+        RandomScene random(7);
+        SceneSearch search(*random.journal);
+        const Query wanted = query("arm or x");
+        search.begin(wanted);
+        while (search.step(std::chrono::hours(1))) { }
+        random.journal->record();
+        for (int i = 0; i < 4; ++i) {
+            NxGroup& scene = *random.scene;
+            scene.removeChild(0);
+            for (int added = 0; added < i * 3000; ++added) {
+                auto* const node = new NxMaterial;
+                node->setName(added % 2 == 0 ? "arm of a longer name" : "leg");
+                scene.insertChild(node, 0);
+            }
+            if (i == 3) // the memory of many for few
+                scene.removeAllChildren();
+            search.restart();
+            QCOMPARE(search.hits().size(), std::size_t{0});
+            search.begin(wanted);
+            while (search.step(leastBudget())) { }
+            compare(search, wanted, scene);
+        }
+    }
+
     void factsAreUsed()
     {
         const RandomScene random(5);

@@ -104,22 +104,33 @@ void foldUnicode(std::string_view text, std::string& folded)
 
 void foldText(std::string_view text, std::string& folded)
 {
+    folded.clear();
+    appendFolded(text, folded);
+}
+
+void appendFolded(std::string_view text, std::string& to)
+{
     constexpr std::uint64_t highBits = 0x8080808080808080;
-    folded.resize(text.size());
+    const std::size_t start = to.size();
+    to.resize(start + text.size());
+    char* const folded = to.data() + start;
     std::uint64_t all = 0;
     std::size_t i = 0;
     for (std::uint64_t bytes = 0; i + sizeof bytes <= text.size(); i += sizeof bytes) {
         std::memcpy(&bytes, text.data() + i, sizeof bytes);
         all |= bytes;
         bytes = foldAscii(bytes & ~highBits);
-        std::memcpy(folded.data() + i, &bytes, sizeof bytes);
+        std::memcpy(folded + i, &bytes, sizeof bytes);
     }
     for (; i < text.size(); ++i) {
         all |= static_cast<unsigned char>(text[i]);
         folded[i] = foldAscii(text[i]);
     }
-    if ((all & highBits) != 0)
-        foldUnicode(text, folded);
+    if ((all & highBits) == 0)
+        return;
+    std::string unicode;
+    foldUnicode(text, unicode);
+    to.replace(start, text.size(), unicode);
 }
 
 std::string foldText(std::string_view text)

@@ -15,6 +15,8 @@ namespace meridane {
 [[nodiscard]] std::string foldText(std::string_view text);
 /// The same into a text whose memory is used again.
 void foldText(std::string_view text, std::string& folded);
+/// The same at the end of a text.
+void appendFolded(std::string_view text, std::string& to);
 
 /// A folded text, and where its bytes come from.
 struct FoldedText {

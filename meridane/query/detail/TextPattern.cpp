@@ -4,6 +4,9 @@
 #include "meridane/query/detail/TextFolding.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 
 #include <re2/re2.h>
 
@@ -49,16 +52,59 @@ std::string refusalOf(const re2::RE2& expression)
     }
 }
 
-/// For letters of one byte, which are no part of any other.
-bool hasBytesInOrder(std::string_view text, std::string_view letters)
-{
-    std::size_t next = 0;
-    for (const char byte : text) {
-        if (byte == letters[next] && ++next == letters.size())
-            return true;
+/// Looks for letters of one byte, which are no part of any other, in the order that they have.
+class ByteSequence {
+public:
+    explicit ByteSequence(std::string_view letters)
+        : m_letters(letters)
+    {
     }
-    return false;
-}
+
+    bool isIn(std::string_view text)
+    {
+        constexpr std::size_t size = sizeof(std::uint64_t);
+        std::size_t at = 0;
+        if constexpr (std::endian::native == std::endian::little) {
+            for (; at + size <= text.size(); at += size) {
+                if (takeEight(text.data() + at, 0))
+                    return true;
+            }
+            // The last eight bytes again, but for those that were looked at.
+            if (at < text.size() && text.size() >= size)
+                return takeEight(text.data() + text.size() - size, at + size - text.size());
+        }
+        for (; at < text.size(); ++at) {
+            if (text[at] == m_letters[m_next] && ++m_next == m_letters.size())
+                return true;
+        }
+        return false;
+    }
+
+private:
+    /// Looks for letters in eight bytes at once, without the first `passed` ones. Returns whether all are found now.
+    bool takeEight(const char* data, std::size_t passed)
+    {
+        constexpr std::uint64_t ones = 0x0101010101010101;
+        constexpr std::uint64_t lowBits = 0x7F7F7F7F7F7F7F7F;
+        std::uint64_t bytes = 0;
+        std::memcpy(&bytes, data, sizeof bytes);
+        std::uint64_t left = ~std::uint64_t{0} << (8 * passed);
+        for (;;) {
+            const std::uint64_t difference = bytes ^ (ones * static_cast<unsigned char>(m_letters[m_next]));
+            // The highest bit of each byte that is the letter.
+            const std::uint64_t same = ~(((difference & lowBits) + lowBits) | difference | lowBits) & left;
+            if (same == 0)
+                return false;
+            if (++m_next == m_letters.size())
+                return true;
+            const std::uint64_t first = same & (~same + 1);
+            left = ~((first << 1U) - 1);
+        }
+    }
+
+    std::string_view m_letters;
+    std::size_t m_next = 0;
+};
 
 std::size_t characterSize(std::string_view text, std::size_t start)
 {
@@ -150,7 +196,7 @@ bool TextPattern::matchesFolded(std::string_view name) const
 {
     if (!m_isWord || m_text.empty())
         return name.find(m_text) != std::string_view::npos;
-    return m_isAscii ? hasBytesInOrder(name, m_text) : hasInOrder(name, m_text);
+    return m_isAscii ? ByteSequence(m_text).isIn(name) : hasInOrder(name, m_text);
 }
 
 bool TextPattern::matchesText(std::string_view text) const
