@@ -14,8 +14,12 @@
 namespace {
 
 // Leaves time in a slice for the rows that are unfolded and painted.
-constexpr std::chrono::milliseconds sliceOfSearch(4);
+constexpr std::chrono::milliseconds sliceOfSearch(3);
 constexpr std::chrono::milliseconds openStepInterval(200);
+/// Each report has rows and numbers painted.
+constexpr std::chrono::milliseconds reportInterval(30);
+/// Names are read so long after the latest change of the structure.
+constexpr std::chrono::milliseconds idleInterval(1000);
 
 } // namespace
 
@@ -35,27 +39,58 @@ NodeFinder::~NodeFinder()
     forgetScene();
 }
 
-void NodeFinder::search(const meridane::Query& query)
+bool NodeFinder::listen()
 {
-    m_query = query;
-    if (!query.needsFacts())
-        m_facts.reset();
     if (m_journal == nullptr) {
         m_journal = m_services.document().journal();
-        if (m_journal == nullptr)
-            return;
-        m_journal->addListener(*this);
+        if (m_journal != nullptr)
+            m_journal->addListener(*this);
     }
+    return m_journal != nullptr;
+}
+
+void NodeFinder::prepare()
+{
+    m_hasChanged = true;
+    if (!m_idle.isActive())
+        m_idle.start(static_cast<int>(idleInterval.count()), this);
+}
+
+void NodeFinder::readNames()
+{
+    if (std::exchange(m_hasChanged, false))
+        return; // it waits once more
+    m_idle.stop();
+    if (m_query.isEmpty() && (m_shown == nullptr || m_isOutdated) && listen())
+        restart();
+}
+
+/// Begins to search the scene as it is now.
+void NodeFinder::restart()
+{
     if (m_isOutdated && m_coming != nullptr && !m_isComingOutdated)
         m_shown = std::move(m_coming);
-    else if (m_isOutdated || m_shown == nullptr)
-        m_shown = makeSearch();
+    else if (m_shown == nullptr)
+        m_shown = std::make_unique<meridane::SceneSearch>(*m_journal);
+    else if (m_isOutdated)
+        m_shown->restart();
     m_coming.reset();
     m_isOutdated = false;
     m_isComingOutdated = false;
     m_shown->begin(m_query, m_facts);
     m_isReported = false;
     goOn();
+}
+
+void NodeFinder::search(const meridane::Query& query)
+{
+    m_query = query;
+    if (!query.needsFacts())
+        m_facts.reset();
+    if (!listen())
+        return;
+    m_idle.stop();
+    restart();
     runSlice(); // so that the first hits are in the next picture
 }
 
@@ -71,11 +106,15 @@ void NodeFinder::setFacts(Facts facts)
 
 void NodeFinder::end()
 {
-    if (m_journal == nullptr && m_query.isEmpty())
+    if (m_query.isEmpty())
         return;
-    forgetScene();
     m_query = {};
     m_facts.reset();
+    m_coming.reset();
+    if (m_shown != nullptr)
+        m_shown->begin({});
+    if (m_isOutdated)
+        prepare();
     Q_EMIT changed();
 }
 
@@ -83,13 +122,20 @@ void NodeFinder::forgetScene()
 {
     m_slices.stop();
     m_openStep.stop();
+    m_idle.stop();
     if (m_journal != nullptr)
         m_journal->removeListener(*this);
     m_journal = nullptr;
     m_shown.reset();
     m_coming.reset();
+    m_isOutdated = false;
     m_toCompare.clear();
     m_written.clear();
+}
+
+bool NodeFinder::areNamesKnown() const noexcept
+{
+    return m_shown != nullptr && !m_isOutdated && m_shown->index().isComplete();
 }
 
 bool NodeFinder::isComplete() const noexcept
@@ -152,7 +198,14 @@ void NodeFinder::aboutToChange(const meridane::PlaceChange& change) noexcept
     if (change.kind == Kind::Children) {
         m_isOutdated = true;
         m_isComingOutdated = true;
-    } else if (auto* const node = dynamic_cast<NxNode*>(change.node)) {
+    }
+    if (m_query.isEmpty()) { // then only names count
+        if (m_isOutdated)
+            prepare();
+        if (m_isOutdated || change.kind != Kind::Name)
+            return;
+    }
+    if (auto* const node = dynamic_cast<NxNode*>(change.node); node != nullptr && change.kind != Kind::Children) {
         m_toCompare.push_back({NxRef<NxNode>(node), true});
     }
     if (!m_openStep.isActive())
@@ -174,7 +227,8 @@ void NodeFinder::noteStep(bool isOver)
 
 void NodeFinder::goOn()
 {
-    if (!m_slices.isActive() && m_shown != nullptr)
+    const bool isWaiting = m_query.isEmpty() && m_isOutdated;
+    if (!m_slices.isActive() && m_shown != nullptr && !isWaiting)
         m_slices.start(0, this);
 }
 
@@ -184,18 +238,19 @@ void NodeFinder::timerEvent(QTimerEvent* event)
         runSlice();
     else if (event->timerId() == m_openStep.timerId())
         noteStep(false);
-}
-
-std::unique_ptr<meridane::SceneSearch> NodeFinder::makeSearch() const
-{
-    return std::make_unique<meridane::SceneSearch>(*m_journal);
+    else if (event->timerId() == m_idle.timerId())
+        readNames();
 }
 
 void NodeFinder::runSlice()
 {
+    if (m_isOutdated && m_query.isEmpty()) {
+        m_slices.stop(); // the scene is read when it doesn't change any more
+        return;
+    }
     const meridane::WorkBudget budget(sliceOfSearch, m_clock);
     if (m_isOutdated && (m_coming == nullptr || std::exchange(m_isComingOutdated, false))) {
-        m_coming = makeSearch();
+        m_coming = std::make_unique<meridane::SceneSearch>(*m_journal);
         m_coming->begin(m_query, m_facts);
         m_isComingOutdated = false;
     }
@@ -210,9 +265,21 @@ void NodeFinder::runSlice()
     }
     if (!isBusy)
         m_slices.stop();
-    const bool isReported = std::exchange(m_isReported, true);
-    if (std::exchange(m_reportedCount, count()) != count() || !isReported || !isBusy)
-        Q_EMIT changed();
+    report(isBusy);
+}
+
+void NodeFinder::report(bool isBusy)
+{
+    const bool isFirst = !std::exchange(m_isReported, true);
+    const bool hasOthers = m_reportedCount != count();
+    if (isBusy && !isFirst) {
+        // The first hits at once.
+        if (!hasOthers || (m_reportedCount > 0 && m_clock() < m_reported + reportInterval))
+            return;
+    }
+    m_reportedCount = count();
+    m_reported = m_clock();
+    Q_EMIT changed();
 }
 
 /// Returns whether there are more.

@@ -127,8 +127,6 @@ void TreeFinder::leaveKeysToFocus(const QWidget* focus)
         });
     }
     m_find->setShortcutContext(hasOwn ? Qt::WidgetShortcut : Qt::WindowShortcut);
-    if (m_line != nullptr && focus != m_line->edit() && m_finder.query().isEmpty())
-        m_finder.end(); // the names take memory
 }
 
 /// An edit belongs to the field that was selected when it began.
@@ -204,6 +202,7 @@ void TreeFinder::followText(const QString& text)
 void TreeFinder::restart()
 {
     m_folds.reset();
+    m_finder.prepare();
     followText(m_line->edit()->text());
 }
 

@@ -117,6 +117,42 @@ private Q_SLOTS:
         QVERIFY2(turns.mostReadings() <= 6, qPrintable(QString::number(turns.mostReadings())));
     }
 
+    void namesAreReadWhenNothingHappens()
+    {
+        m_session->document().open(AppScenes::wide(20000), {});
+        QVERIFY(!m_finder->areNamesKnown());
+        m_finder->prepare();
+        QTRY_VERIFY(m_finder->areNamesKnown());
+        QCOMPARE(m_finder->count(), std::size_t{0});
+        m_finder->search(query("hand"));
+        QVERIFY(m_finder->areNamesKnown());
+        QTRY_VERIFY(m_finder->isComplete());
+        m_finder->end();
+        dynamic_cast<NxGroup&>(*m_session->document().scene()->getChild(0)).addChild(material("hand"));
+        QVERIFY(!m_finder->areNamesKnown());
+        QTRY_VERIFY(m_finder->areNamesKnown()); // they stay so between searches
+        m_finder->search(query("hand"));
+        QTRY_COMPARE(found(), QByteArray("hand"));
+        m_session->document().close();
+        QVERIFY(!m_finder->areNamesKnown());
+    }
+
+    void namesThatChangeBetweenSearchesAreReadAgain()
+    {
+        NxGroup& scene = open(robot);
+        m_finder->search({});
+        scene.getChild(1)->setName("hand");
+        scene.getChild(1)->setName("foot");
+        m_finder->search(query("foot"));
+        QTRY_VERIFY(m_finder->isComplete());
+        QCOMPARE(found(), QByteArray("foot"));
+        m_finder->end();
+        scene.removeChild(1);
+        m_finder->search(query("arm or foot"));
+        QTRY_VERIFY(m_finder->isComplete());
+        QCOMPARE(found(), QByteArray("arm 1 arm 2"));
+    }
+
     void theFirstHitsAreKnownBeforeTheLast()
     {
         m_session->document().open(AppScenes::wide(30000), {});
