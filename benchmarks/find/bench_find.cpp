@@ -1,6 +1,7 @@
 // Searching a scene of 1,000,000 named nodes, beside a bare loop over the same names, and the window meanwhile.
 
 #include "Figure.h"
+#include "NamedScene.h"
 #include "Settle.h"
 #include "Timing.h"
 
@@ -12,8 +13,6 @@
 
 #include "meridane/query/SceneSearch.h"
 #include "meridane/scene/journal/Journal.h"
-#include "meridane/scene/nodes/NxMaterial.h"
-#include "meridane/scene/nodes/NxTransform.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -28,29 +27,7 @@
 
 namespace {
 
-constexpr int nodes = 1'000'000;
-constexpr int nodesOfGroup = 1000;
 constexpr int rounds = 7;
-
-/// Groups of a thousand materials; each name has a number.
-NxRef<NxGroup> makeScene()
-{
-    NxRef<NxGroup> scene(new NxGroup);
-    NxGroup* group = nullptr;
-    for (int i = 0; i < nodes; ++i) {
-        NxNode* node = nullptr;
-        if (i % nodesOfGroup == 0) {
-            group = new NxTransform;
-            scene->addChild(group);
-            node = group;
-        } else {
-            node = new NxMaterial;
-            group->addChild(node);
-        }
-        node->setName(("Left wheel part " + std::to_string(i)).c_str());
-    }
-    return scene;
-}
 
 char lower(char letter)
 {
@@ -171,7 +148,7 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("ORVANE_VIEW", "0");
     const QApplication application(argc, argv);
-    const NxRef<NxGroup> scene = makeScene();
+    const NxRef<NxGroup> scene = bench::makeNamedScene();
     {
         meridane::Journal journal(*scene);
         while (journal.run(std::chrono::hours(1))) { }

@@ -107,6 +107,7 @@ void PickerPopup::place()
 void PickerPopup::search()
 {
     m_source->search(m_line->text());
+    m_shown.invalidate();
     work();
 }
 
@@ -117,7 +118,10 @@ void PickerPopup::work()
         m_slices.start(0, this);
     if (!isLeft)
         m_slices.stop();
-    if (m_source->hasNews() || !isLeft)
+    // The first rows at once; each time takes about as long as a slice.
+    constexpr qint64 interval = 30;
+    const bool isDue = m_model->rowCount() == 0 || !m_shown.isValid() || m_shown.hasExpired(interval);
+    if (!isLeft || (isDue && m_source->hasNews()))
         showItems();
 }
 
@@ -137,6 +141,7 @@ quint64 PickerPopup::currentId() const
 
 void PickerPopup::showItems()
 {
+    m_shown.start();
     const quint64 wanted = m_hasMoved ? currentId() : 0;
     m_model->setItems(m_source->items());
     const int row = wanted == 0 ? 0 : std::max(0, m_model->rowOf(wanted));

@@ -3,6 +3,7 @@
 #include "orvane/app/fields/popups/PopupFrame.h"
 
 #include <QBasicTimer>
+#include <QElapsedTimer>
 
 #include <optional>
 
@@ -46,6 +47,7 @@ private:
     QListView* m_list;
     QLabel* m_message; // in place of rows, or why a row can't be chosen
     QBasicTimer m_slices;
+    QElapsedTimer m_shown; // since rows were shown; invalid for a new search
     bool m_isChoosing = false;
     bool m_hasMoved = false; // to a row that the user wants, whatever else is found
 };

@@ -56,7 +56,7 @@ bool PlaceSearch::work()
     constexpr int nodesAtOnce = 16;
     bool hasAdded = false;
     // The rest of a slice is for the rows that are shown.
-    constexpr std::chrono::milliseconds length(5);
+    constexpr std::chrono::milliseconds length(3);
     const meridane::WorkBudget slice(length, m_clock);
     while (m_nodes != nullptr && !slice.isSpent()) {
         for (int i = 0; i < nodesAtOnce; ++i) {
