@@ -15,6 +15,7 @@
 #include <QTreeView>
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 namespace {
@@ -53,7 +54,8 @@ ReturnedNodes::ReturnedNodes(
             = steps.position() > 0 ? steps.changes(steps.position() - 1) : nullptr;
         if (changes != nullptr)
             noteMovedRows(*changes);
-        unfoldMovedRows();
+        // A step may end while the tree takes rows away, which selects another node.
+        QMetaObject::invokeMethod(this, &ReturnedNodes::unfoldMovedRows, Qt::QueuedConnection);
     });
     connect(&services.steps(), &OrvStepList::movedOver, this, &ReturnedNodes::noteStep);
     connect(&travel, &StepTravel::ended, this, &ReturnedNodes::show);
@@ -87,14 +89,23 @@ void ReturnedNodes::noteMovedRows(const meridane::JournalStep& changes)
     constexpr std::size_t mostRecords = 200;
     if (changes.records().size() > mostRecords)
         return;
+    std::map<NxGroup*, std::size_t> known; // where in `m_moved`
     for (const auto& record : changes.records()) {
         if (m_unfolded.empty() || record->kind() != meridane::ChangeRecord::Kind::Children)
             continue;
         const auto& children = static_cast<const ChildrenRecord&>(*record);
         const ChildrenRecord::Extent rows = children.extent();
-        if (rows.present > 0)
-            m_moved.push_back({NxRef<NxGroup>(&children.group()), static_cast<int>(rows.start),
-                static_cast<int>(rows.start + rows.present)});
+        const auto first = static_cast<int>(rows.start);
+        const auto end = static_cast<int>(rows.start + std::max(rows.present, rows.recorded));
+        const auto [place, isNew] = known.try_emplace(&children.group(), m_moved.size());
+        if (isNew) {
+            m_moved.push_back({NxRef<NxGroup>(&children.group()), first, end});
+            continue;
+        }
+        // The tree takes away and shows again what is between two changes of a group, too.
+        MovedRows& moved = m_moved[place->second];
+        moved.first = std::min(moved.first, first);
+        moved.end = std::max(moved.end, end);
     }
 }
 

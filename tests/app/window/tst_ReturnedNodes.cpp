@@ -1,6 +1,8 @@
 #include "app/window/RobotWindowCase.h"
 
 #include "orvane/app/history/StepTravel.h"
+#include "orvane/app/tree/NodeSelection.h"
+#include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/extender/OrvStepList.h"
 
 #include <QAction>
@@ -31,6 +33,17 @@ private:
         AppScenes::runSensors();
         QCoreApplication::processEvents();
     }
+    void pressToMove(Qt::Key key)
+    {
+        QTest::keyClick(tree(), key, Qt::AltModifier | Qt::ShiftModifier);
+        AppScenes::runSensors();
+        QCoreApplication::processEvents();
+    }
+    void addToSelection(const QModelIndex& index)
+    {
+        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, Qt::ControlModifier, tree()->visualRect(index).center());
+    }
+    [[nodiscard]] SceneTreePanel* panel() { return m_window->findChild<SceneTreePanel*>(); }
     void pressUndo()
     {
         QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
@@ -79,6 +92,65 @@ private Q_SLOTS:
         QVERIFY(tree()->isExpanded(armRow));
         QVERIFY(tree()->isExpanded(row(0, armRow)));
         QVERIFY(!tree()->isExpanded(row(1, armRow)));
+    }
+
+    void aGroupThatIsMovedByKeysStaysUnfolded()
+    {
+        unfold(row(0, robotRow())); // the arm
+        unfold(row(0, row(0, robotRow()))); // the hand
+        const auto isUnfoldedAsBefore = [this](int place) {
+            const QModelIndex robot = tree()->model()->index(place, 0);
+            const QModelIndex arm = row(0, robot);
+            return tree()->isExpanded(robot) && tree()->isExpanded(arm) && tree()->isExpanded(row(0, arm))
+                && !tree()->isExpanded(row(1, arm));
+        };
+        QVERIFY(isUnfoldedAsBefore(0));
+        const NxNode* const light = sun();
+        clickRow(tree(), robotRow());
+        pressToMove(Qt::Key_Down);
+        QCOMPARE(m_window->document().scene()->getChild(0), light);
+        QVERIFY(isUnfoldedAsBefore(1));
+        pressToMove(Qt::Key_Up);
+        QVERIFY(isUnfoldedAsBefore(0));
+        pressUndo();
+        QVERIFY(isUnfoldedAsBefore(1));
+        // Into a group and out of it.
+        const QModelIndex arm = row(0, tree()->model()->index(1, 0));
+        clickRow(tree(), row(1, arm));
+        pressToMove(Qt::Key_Up);
+        clickRow(tree(), row(1, row(0, tree()->model()->index(1, 0)))); // the hand
+        pressToMove(Qt::Key_Right);
+        const QModelIndex hand = row(1, row(0, row(0, tree()->model()->index(1, 0))));
+        QCOMPARE(hand.data().toString(), QStringLiteral("hand"));
+        QVERIFY(tree()->isExpanded(hand));
+    }
+
+    void anUndoneDeletionOfSeveralNodesSelectsAll()
+    {
+        unfold(row(0, robotRow()));
+        const QModelIndex arm = row(0, robotRow());
+        clickRow(tree(), row(0, arm));
+        addToSelection(row(1, arm));
+        addToSelection(tree()->model()->index(1, 0));
+        const auto selectedNames = [this] {
+            QStringList names;
+            const QModelIndexList rows = panel()->selection().indexes();
+            for (const QModelIndex& index : rows)
+                names.append(index.data().toString());
+            return names;
+        };
+        const QStringList all{QStringLiteral("hand"), QStringLiteral("folded"), QStringLiteral("sun")};
+        QCOMPARE(selectedNames(), all);
+        QTest::keyClick(tree(), Qt::Key_Delete);
+        AppScenes::runSensors();
+        QCoreApplication::processEvents();
+        QCOMPARE(m_window->document().scene()->getNumChildren(), 1);
+        pressUndo();
+        QCOMPARE(selectedNames(), all);
+        pressRedo();
+        clickRow(tree(), robotRow());
+        pressUndo();
+        QCOMPARE(selectedNames(), all);
     }
 
     void aNodeThatWasFoldedStaysFolded()
