@@ -11,8 +11,10 @@ using namespace meridane;
 
 namespace {
 
-/// Positions, and nodes, between two looks at the clock.
-constexpr std::size_t piece = 4096;
+/// Positions between two looks at the clock.
+constexpr std::size_t positionsAtOnce = 4096;
+/// Nodes, whose memory may have to be waited for.
+constexpr std::size_t nodesAtOnce = 128;
 
 bool isFinitePosition(const VbVec3f& position)
 {
@@ -71,11 +73,11 @@ bool NodeFigures::advance(const WorkBudget& budget)
     if (m_revision != NxFieldContainer::getStructureRevision())
         restart();
     for (std::size_t steps = 0; m_reading || !m_levels.empty(); ++steps) {
-        if (steps % piece == piece - 1 && budget.isSpent())
+        if (steps % nodesAtOnce == nodesAtOnce - 1 && budget.isSpent())
             return false;
         if (m_reading) {
-            read();
-            if (budget.isSpent())
+            const std::size_t before = m_reading->next;
+            if (read() - before > nodesAtOnce && budget.isSpent())
                 return false;
             continue;
         }
@@ -91,21 +93,25 @@ bool NodeFigures::advance(const WorkBudget& budget)
     return true;
 }
 
-// The positions may have changed since the last piece.
-void NodeFigures::read()
+/// Returns how many positions have been read. They may have changed since the last piece.
+std::size_t NodeFigures::read()
 {
     Reading& reading = *m_reading;
     const std::span<const VbVec3f> positions = effectiveField(reading.mesh->positions).getValues();
-    const std::size_t end = std::min(reading.next + piece, positions.size());
-    for (; reading.next < end; ++reading.next) {
+    const std::size_t stop = std::min(reading.next + positionsAtOnce, positions.size());
+    for (; reading.next < stop; ++reading.next) {
         if (const VbVec3f& position = positions[reading.next]; isFinitePosition(position))
             reading.figures.bounds.include(position);
     }
-    if (reading.next < positions.size())
-        return;
-    m_known.emplace(reading.mesh, reading.figures);
+    const std::size_t end = std::min(reading.next, positions.size());
+    if (end < positions.size())
+        return end;
+    // Each use holds a reference, so most meshes don't come again.
+    if (reading.mesh->getRefCount() > 1)
+        m_known.emplace(reading.mesh, reading.figures);
     add(reading.figures, reading.toScene);
     m_reading.reset();
+    return end;
 }
 
 void NodeFigures::add(const MeshFigures& figures, const Matrix4d& toScene)

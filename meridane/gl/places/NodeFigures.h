@@ -7,9 +7,9 @@
 #include "meridane/scene/nodes/NxNode.h"
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <span>
-#include <unordered_map>
 #include <vector>
 
 class NxMesh;
@@ -56,14 +56,14 @@ private:
 
     void restart();
     void enter(const NxNode& node, const Matrix4d& above);
-    void read();
+    std::size_t read();
     void add(const MeshFigures& figures, const Matrix4d& toScene);
 
     std::vector<NxRef<NxNode>> m_path;
     std::uint64_t m_revision = 0;
     std::vector<Level> m_levels;
     std::optional<Reading> m_reading;
-    std::unordered_map<const NxMesh*, MeshFigures> m_known;
+    std::map<const NxMesh*, MeshFigures> m_known; // of several uses; never moved as a whole, as a table of hashes is
     std::size_t m_places = 0;
     std::size_t m_meshes = 0;
     std::uint64_t m_triangles = 0;

@@ -1,17 +1,12 @@
 #include "orvane/app/tree/NodeSelection.h"
 
-#include "orvane/app/tree/RowLookup.h"
 #include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreeView.h"
+#include "orvane/app/tree/WantedRows.h"
 #include "orvane/app/tree/selection/RowOrder.h"
-
-#include "meridane/scene/nodes/NodeTraversal.h"
-
-#include <QAbstractItemView>
-#include <QItemSelectionModel>
-#include <QSignalBlocker>
+#include "orvane/app/tree/selection/RowSelection.h"
 
 #include <algorithm>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -32,12 +27,12 @@ void addRanges(QItemSelection& ranges, const QModelIndexList& indexes)
 
 } // namespace
 
-NodeSelection::NodeSelection(QAbstractItemView* view, SceneTreeModel* model)
+NodeSelection::NodeSelection(SceneTreeView* view, SceneTreeModel* model)
     : QObject(view)
     , m_view(view)
     , m_model(model)
 {
-    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &NodeSelection::forget);
+    connect(view->rowSelection(), &RowSelection::changed, this, &NodeSelection::forget);
     connect(model, &QAbstractItemModel::modelReset, this, [this] {
         if (m_hasAny) // the view's selection is empty now, which it doesn't announce
             forget();
@@ -47,25 +42,25 @@ NodeSelection::NodeSelection(QAbstractItemView* view, SceneTreeModel* model)
 void NodeSelection::forget()
 {
     m_nodes.reset();
-    m_hasAny = m_view->selectionModel()->hasSelection();
+    m_hasAny = m_view->rowSelection()->hasAny();
     Q_EMIT changed();
 }
 
 QModelIndex NodeSelection::lastIndex() const
 {
-    const QItemSelectionModel& selection = *m_view->selectionModel();
-    if (!selection.hasSelection())
+    const RowSelection& selection = *m_view->rowSelection();
+    if (!selection.hasAny())
         return {};
     const QModelIndex current = selection.currentIndex();
-    if (current.isValid() && selection.isSelected(current))
+    if (selection.contains(current))
         return current.siblingAtColumn(SceneTreeModel::NameColumn);
-    const QItemSelectionRange range = selection.selection().constLast();
+    const QItemSelectionRange& range = selection.allRanges().constLast();
     return m_model->index(range.bottom(), SceneTreeModel::NameColumn, range.parent());
 }
 
 std::shared_ptr<const NodeSelection::Nodes> NodeSelection::nodes() const
 {
-    if (m_nodes || !m_view->selectionModel()->hasSelection())
+    if (m_nodes || !m_view->rowSelection()->hasAny())
         return m_nodes;
     auto nodes = std::make_shared<Nodes>();
     std::unordered_set<const NxNode*> known;
@@ -75,10 +70,10 @@ std::shared_ptr<const NodeSelection::Nodes> NodeSelection::nodes() const
             nodes->emplace_back(node);
     };
     add(lastIndex());
-    const QItemSelection selection = m_view->selectionModel()->selection();
-    for (const QItemSelectionRange& range : selection) {
+    for (const QItemSelectionRange& range : m_view->rowSelection()->allRanges()) {
+        const QModelIndex first = range.topLeft();
         for (int row = range.top(); row <= range.bottom(); ++row)
-            add(m_model->index(row, SceneTreeModel::NameColumn, range.parent()));
+            add(first.siblingAtRow(row));
     }
     if (!nodes->empty())
         m_nodes = std::move(nodes);
@@ -89,47 +84,21 @@ void NodeSelection::select(std::span<NxNode* const> nodes)
 {
     if (m_model->scene() == nullptr)
         return;
-    std::unordered_set<const NxNode*> wanted(nodes.begin(), nodes.end());
-    std::vector<QModelIndexList> indexes; // of each group in which there are any
-    std::unordered_map<const NxNode*, std::size_t> groups; // where in `indexes`
-    QModelIndex last;
-    RowLookup lookup(*m_model);
-    meridane::NodeTraversal traversal(*m_model->scene());
-    while (!wanted.empty()) {
-        const NxNode* const node = traversal.next();
-        if (node == nullptr)
-            break;
-        if (wanted.erase(node) == 0)
-            continue;
-        const std::vector<NxNode*> path = traversal.path();
-        const auto [group, isNew]
-            = groups.try_emplace(path.size() > 1 ? path[path.size() - 2] : nullptr, indexes.size());
-        // Each search for a path goes through all siblings, so there is one for each group.
-        if (isNew)
-            indexes.push_back({lookup.find(path)});
-        else
-            indexes[group->second] += indexes[group->second].front().siblingAtRow(traversal.indices().back());
-        if (node == nodes.front())
-            last = indexes[group->second].back();
-    }
-    QItemSelection ranges;
-    for (const QModelIndexList& group : indexes)
-        addRanges(ranges, group);
-    setRanges(ranges, last);
+    const WantedRows rows(*m_model, nodes);
+    setRanges(rows.ranges(), rows.firstNode());
 }
 
 qsizetype NodeSelection::rowCount() const
 {
     qsizetype count = 0;
-    const QItemSelection selection = m_view->selectionModel()->selection();
-    for (const QItemSelectionRange& range : selection)
+    for (const QItemSelectionRange& range : m_view->rowSelection()->allRanges())
         count += range.height();
     return count;
 }
 
 QModelIndexList NodeSelection::indexes() const
 {
-    return orvane::rowsInTreeOrder(m_view->selectionModel()->selection());
+    return orvane::rowsInTreeOrder(m_view->rowSelection()->allRanges());
 }
 
 void NodeSelection::selectIndexes(const QModelIndexList& indexes, const QModelIndex& last)
@@ -163,26 +132,19 @@ void NodeSelection::selectIndexes(const QModelIndexList& indexes, const QModelIn
 
 void NodeSelection::setRanges(const QItemSelection& ranges, const QModelIndex& last)
 {
-    QItemSelectionModel& selection = *m_view->selectionModel();
+    RowSelection& selection = *m_view->rowSelection();
     if (last.isValid()) {
         selection.setCurrentIndex(last, QItemSelectionModel::NoUpdate);
         m_view->scrollTo(last);
     }
-    {
-        // The view looks for the place of each range, which takes time in proportion to all rows.
-        const QSignalBlocker blocker(&selection);
-        selection.clearSelection(); // a change of many ranges to many others takes long
-        selection.select(ranges, QItemSelectionModel::Select);
-    }
-    m_view->viewport()->update();
-    forget();
+    selection.setRanges(ranges);
 }
 
 void NodeSelection::toggle(const QModelIndex& index)
 {
     if (!index.isValid())
         return;
-    QItemSelectionModel& selection = *m_view->selectionModel();
+    RowSelection& selection = *m_view->rowSelection();
     selection.setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     m_view->scrollTo(index);
     selection.select(index, QItemSelectionModel::Toggle | QItemSelectionModel::Rows);

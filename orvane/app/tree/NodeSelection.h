@@ -11,9 +11,9 @@
 #include <vector>
 
 class NxNode;
-class QAbstractItemView;
 class QItemSelection;
 class SceneTreeModel;
+class SceneTreeView;
 
 /// The nodes that are selected in the scene tree, each once, however many places it has.
 ///
@@ -25,7 +25,7 @@ public:
     using Nodes = std::vector<NxRef<NxFieldContainer>>;
 
     /// The view shows the model; both live longer.
-    NodeSelection(QAbstractItemView* view, SceneTreeModel* model);
+    NodeSelection(SceneTreeView* view, SceneTreeModel* model);
 
     /// The nodes; the one selected last is the first of them, and the others are in the order in which they were
     /// selected. Null if none is. The object stays the same until the selection changes.
@@ -54,7 +54,7 @@ private:
     void forget();
     void setRanges(const QItemSelection& ranges, const QModelIndex& last);
 
-    QAbstractItemView* m_view;
+    SceneTreeView* m_view;
     SceneTreeModel* m_model;
     bool m_hasAny = false;
     mutable std::shared_ptr<const Nodes> m_nodes; // null if they have to be collected, and if there are none

@@ -39,7 +39,7 @@ bool canBeSeen(const NxNode& node)
 SceneTreeModel::SceneTreeModel(QObject* parent)
     : QAbstractItemModel(parent)
     , m_shown(std::make_unique<ShownNodes>(
-          [this](SceneBranch& branch, NxNode& node, bool unfolds) { updateRows(branch, node, unfolds); }))
+          [this](SceneBranch& branch, NxNode& node, bool unfolds) { updateNode(branch, node, unfolds); }))
 {
 }
 
@@ -111,15 +111,21 @@ QModelIndex SceneTreeModel::indexOfPath(std::span<NxNode* const> nodes)
     return index;
 }
 
-QModelIndex SceneTreeModel::childIndex(const QModelIndex& parent, const NxNode* node)
+void SceneTreeModel::updateRows(const QModelIndex& parent)
 {
     fetchMore(parent);
-    SceneBranch* branch = branchOf(parent);
+    SceneBranch* const branch = branchOf(parent);
+    // Its sensor may still wait for its call. Views look for rows also while others come or go.
+    if (branch != nullptr && !m_isUpdating)
+        updateBranch(*branch);
+}
+
+QModelIndex SceneTreeModel::childIndex(const QModelIndex& parent, const NxNode* node)
+{
+    updateRows(parent);
+    const SceneBranch* const branch = branchOf(parent);
     if (branch == nullptr)
         return {};
-    // Its sensor may still wait for its call. Views look for rows also while others come or go.
-    if (!m_isUpdating)
-        updateBranch(*branch);
     const int row = branch->findRow(node);
     return row >= 0 ? index(row, NameColumn, parent) : QModelIndex();
 }
@@ -335,7 +341,7 @@ void SceneTreeModel::updateBranch(SceneBranch& branch)
     }
 }
 
-void SceneTreeModel::updateRows(SceneBranch& branch, NxNode& node, bool unfolds)
+void SceneTreeModel::updateNode(SceneBranch& branch, NxNode& node, bool unfolds)
 {
     for (int row = branch.findRow(&node); row >= 0; row = branch.findRow(&node, row + 1)) {
         const QModelIndex first = createIndex(row, NameColumn, &branch);

@@ -62,6 +62,9 @@ public:
     /// The first row of a node under another row; of the scene if that is invalid. Fetches and updates like
     /// `indexOfPath`.
     [[nodiscard]] QModelIndex childIndex(const QModelIndex& parent, const NxNode* node);
+    /// Fetches the rows under another row, those of the top nodes for an invalid index, and brings them up to date
+    /// before the delay queue has run.
+    void updateRows(const QModelIndex& parent);
     /// The first place of a node: among the rows that are there, else anywhere in the scene.
     [[nodiscard]] QModelIndex findNode(const NxFieldContainer* node);
 
@@ -89,7 +92,7 @@ private:
     void watch(SceneBranch& branch);
     void forgetBelow(SceneBranch& branch, int row, int count);
     void updateBranch(SceneBranch& branch);
-    void updateRows(SceneBranch& branch, NxNode& node, bool unfolds);
+    void updateNode(SceneBranch& branch, NxNode& node, bool unfolds);
     void layoutAgain();
     [[nodiscard]] QString toolTip(const QModelIndex& index) const;
     [[nodiscard]] QVariant font(const QModelIndex& index) const;

@@ -8,6 +8,7 @@
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreeView.h"
 #include "orvane/app/tree/TreeTips.h"
+#include "orvane/app/tree/selection/RowSelection.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -48,7 +49,7 @@ SceneTreePanel::SceneTreePanel(QWidget* parent)
     constexpr int indentation = 14;
     m_view->setIndentation(indentation);
     setUpColumns();
-    new TreeTips(m_view, m_model);
+    new TreeTips(m_view, m_model, *m_hidden);
     m_model->setHidden(m_hidden);
     connect(m_hidden, &HiddenNodes::changed, m_view->viewport(), qOverload<>(&QWidget::update));
     connect(m_view, &SceneTreeView::eyeClicked, this, &SceneTreePanel::clickEye);
@@ -76,7 +77,7 @@ void SceneTreePanel::clickEye(const QModelIndex& index)
 {
     const bool isShown = index.data(SceneTreeModel::ShownRole).toBool();
     QModelIndexList rows{index};
-    if (m_view->selectionModel()->isSelected(index))
+    if (m_view->rowSelection()->contains(index))
         rows = m_selection->indexes();
     std::vector<std::vector<NxNode*>> paths;
     paths.reserve(static_cast<std::size_t>(rows.size()));

@@ -1,10 +1,23 @@
 #include "orvane/app/tree/SceneTreeView.h"
 
 #include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/selection/RowSelection.h"
 
-#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
+
+void SceneTreeView::setModel(QAbstractItemModel* model)
+{
+    QTreeView::setModel(model);
+    m_rowSelection = new RowSelection(model, this);
+}
+
+// Other rows may have come in sight.
+void SceneTreeView::paintEvent(QPaintEvent* event)
+{
+    m_rowSelection->update();
+    QTreeView::paintEvent(event);
+}
 
 // An eye is a button: a click on it selects nothing.
 bool SceneTreeView::clickEye(const QMouseEvent& event)
@@ -20,6 +33,7 @@ bool SceneTreeView::clickEye(const QMouseEvent& event)
 // Qt would unfold any number of rows.
 void SceneTreeView::keyPressEvent(QKeyEvent* event)
 {
+    m_rowSelection->update();
     if (event->key() == Qt::Key_Asterisk)
         Q_EMIT unfoldRequested();
     else
@@ -28,6 +42,7 @@ void SceneTreeView::keyPressEvent(QKeyEvent* event)
 
 void SceneTreeView::mousePressEvent(QMouseEvent* event)
 {
+    m_rowSelection->update();
     if (!clickEye(*event))
         QTreeView::mousePressEvent(event);
 }
@@ -58,7 +73,7 @@ void SceneTreeView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, i
 // Rows that are selected apart from each other may be removed one after the other: only the last of them counts.
 bool SceneTreeView::isSelectionWithin(const QModelIndex& parent, int start, int end) const
 {
-    const QItemSelection selection = selectionModel()->selection();
+    const QItemSelection& selection = m_rowSelection->allRanges();
     if (selection.size() != 1)
         return false;
     const QItemSelectionRange& range = selection.constFirst();

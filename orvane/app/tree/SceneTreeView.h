@@ -2,6 +2,8 @@
 
 #include <QTreeView>
 
+class RowSelection;
+
 /// The tree of nodes, in which several can be selected. When all that is selected is removed, the row below takes its
 /// place, or the one above.
 class SceneTreeView : public QTreeView {
@@ -9,6 +11,11 @@ class SceneTreeView : public QTreeView {
 
 public:
     using QTreeView::QTreeView;
+
+    /// Shows a model, with a `RowSelection` of its own.
+    void setModel(QAbstractItemModel* model) override;
+    /// All rows that are selected; null before there is a model.
+    [[nodiscard]] RowSelection* rowSelection() const noexcept { return m_rowSelection; }
 
     /// Lays all rows out again before they are used next. Until then, folding and unfolding any number of rows takes
     /// hardly any time.
@@ -23,6 +30,7 @@ Q_SIGNALS:
     void dragStarted();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -34,4 +42,6 @@ protected Q_SLOTS:
 private:
     [[nodiscard]] bool clickEye(const QMouseEvent& event);
     [[nodiscard]] bool isSelectionWithin(const QModelIndex& parent, int start, int end) const;
+
+    RowSelection* m_rowSelection = nullptr;
 };

@@ -1,14 +1,18 @@
 #pragma once
 
+#include "orvane/app/tree/facts/PlaceCount.h"
+
 #include "meridane/gl/places/NodeFigures.h"
 
 #include <QBasicTimer>
 #include <QObject>
+#include <QPersistentModelIndex>
 #include <QPoint>
 #include <QRect>
 
 #include <memory>
 
+class HiddenNodes;
 class QHelpEvent;
 class QTreeView;
 class SceneTreeModel;
@@ -19,8 +23,8 @@ class TreeTips : public QObject {
     Q_OBJECT
 
 public:
-    /// The view shows the model; both live longer.
-    TreeTips(QTreeView* view, SceneTreeModel* model);
+    /// The view shows the model; all live longer.
+    TreeTips(QTreeView* view, SceneTreeModel* model, const HiddenNodes& hidden);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -28,11 +32,18 @@ protected:
 
 private:
     bool show(const QHelpEvent& event);
+    void begin(const QModelIndex& index);
+    void goOn();
+    void end();
+    [[nodiscard]] QString placesText() const;
     void showText(const QString& text);
 
     QTreeView* m_view;
     SceneTreeModel* m_model;
+    const HiddenNodes& m_hidden;
     std::unique_ptr<meridane::NodeFigures> m_figures; // that are being computed
+    std::unique_ptr<PlaceCount> m_places; // that are being counted
+    QPersistentModelIndex m_index;
     QBasicTimer m_timer;
     QString m_text;
     QPoint m_place; // on the screen

@@ -2,14 +2,18 @@
 
 #include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/tree/NodeSelection.h"
+#include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/tree/facts/ShownIcons.h"
 #include "orvane/app/view/SceneView.h"
 
 #include <QAction>
 #include <QStatusBar>
+#include <QTimerEvent>
 #include <QToolButton>
 #include <QTreeView>
+
+#include <chrono>
 
 namespace {
 
@@ -49,6 +53,10 @@ HidingActions::HidingActions(SceneView* view, SceneTreePanel* tree, QStatusBar* 
     connect(m_status, &QToolButton::clicked, &m_hidden, &HiddenNodes::showAll);
     bar->addPermanentWidget(m_status);
     connect(&m_hidden, &HiddenNodes::changed, this, &HidingActions::update);
+    connect(&m_hidden, &HiddenNodes::changed, this, &HidingActions::countPlaces);
+    // A step may share a hidden node, or make it one's own.
+    connect(tree->model(), &QAbstractItemModel::rowsInserted, this, &HidingActions::countPlaces);
+    connect(tree->model(), &QAbstractItemModel::rowsRemoved, this, &HidingActions::countPlaces);
     connect(tree, &SceneTreePanel::selectionChanged, this, &HidingActions::update);
     update();
 }
@@ -85,13 +93,45 @@ void HidingActions::update()
     m_showAll->setEnabled(!m_hidden.isEmpty());
     m_showAll->setToolTip(m_hidden.isEmpty() ? tr("Nothing is hidden") : m_showAll->statusTip());
     m_status->setVisible(!m_hidden.isEmpty());
+}
+
+/// Counts in slices in how many places the hidden nodes are.
+void HidingActions::countPlaces()
+{
+    m_slices.stop();
+    m_places.reset();
+    showStatus(0);
+    NxGroup* const scene = m_tree->model()->scene();
+    if (scene == nullptr || m_hidden.hidden().empty())
+        return;
+    m_places = std::make_unique<PlaceCount>(*scene, m_hidden.hidden());
+    m_slices.start(0, this);
+}
+
+void HidingActions::timerEvent(QTimerEvent* event)
+{
+    constexpr std::chrono::milliseconds slice(4);
+    if (event->timerId() != m_slices.timerId() || !m_places->advance(slice))
+        return;
+    m_slices.stop();
+    const std::size_t places = m_places->count();
+    const bool isShared = places > m_places->nodesFound();
+    m_places.reset();
+    if (isShared)
+        showStatus(places);
+}
+
+/// Without a number of places if that is 0.
+void HidingActions::showStatus(std::size_t places)
+{
     const auto hidden = static_cast<int>(m_hidden.hidden().size());
     const auto isolated = static_cast<int>(m_hidden.isolated().size());
-    QString text = isolated == 1 ? tr("1 node isolated") : tr("%1 nodes isolated").arg(isolated);
-    if (isolated == 0)
-        text.clear();
-    if (hidden > 0)
-        text += (isolated > 0 ? QStringLiteral(", ") : QString())
-            + (hidden == 1 ? tr("1 hidden") : tr("%1 hidden").arg(hidden));
-    m_status->setText(text);
+    QStringList parts;
+    if (isolated > 0)
+        parts.append(isolated == 1 ? tr("1 node isolated") : tr("%1 nodes isolated").arg(isolated));
+    if (hidden > 0 && places > 0)
+        parts.append(tr("%1 hidden in %2 places").arg(hidden).arg(places));
+    else if (hidden > 0)
+        parts.append(hidden == 1 ? tr("1 hidden") : tr("%1 hidden").arg(hidden));
+    m_status->setText(parts.join(QStringLiteral(", ")));
 }

@@ -1,7 +1,12 @@
 #pragma once
 
+#include "orvane/app/tree/facts/PlaceCount.h"
+
+#include <QBasicTimer>
 #include <QList>
 #include <QObject>
+
+#include <memory>
 
 class HiddenNodes;
 class QAction;
@@ -23,11 +28,16 @@ public:
     /// Those about the selected nodes.
     [[nodiscard]] QList<QAction*> nodeActions() const { return {m_isolate, m_hide}; }
 
+protected:
+    void timerEvent(QTimerEvent* event) override;
+
 private:
     QAction* add(const char* name, const QString& text, const QString& tip, const QKeySequence& key);
     void hide();
     void isolate();
     void update();
+    void countPlaces();
+    void showStatus(std::size_t places);
 
     SceneTreePanel* m_tree;
     SceneView* m_view;
@@ -36,4 +46,6 @@ private:
     QAction* m_hide;
     QAction* m_showAll;
     QToolButton* m_status;
+    std::unique_ptr<PlaceCount> m_places; // of the hidden nodes, while they are counted
+    QBasicTimer m_slices;
 };

@@ -158,6 +158,18 @@ private Q_SLOTS:
         QVERIFY(!status()->isVisible());
     }
 
+    void aNodeInTwoPlacesIsHiddenInBoth()
+    {
+        m_scene->addChild(m_left);
+        AppScenes::runSensors();
+        rectangle(-3.2F, 0);
+        action("node.hide")->trigger();
+        QTRY_COMPARE(status()->text(), QStringLiteral("1 hidden in 2 places"));
+        m_scene->removeChild(m_scene->getNumChildren() - 1);
+        AppScenes::runSensors();
+        QTRY_COMPARE(status()->text(), QStringLiteral("1 hidden"));
+    }
+
     void selectedNodesAreIsolated()
     {
         rectangle(0, 3.2F);
