@@ -3,7 +3,7 @@
 namespace {
 
 /// Between two looks at the clock.
-constexpr std::size_t nodesAtOnce = 128;
+constexpr std::size_t placesAtOnce = 128;
 
 } // namespace
 
@@ -40,7 +40,7 @@ bool PlaceCount::advance(const meridane::WorkBudget& budget)
         }
         if (const auto children = node.getChildren(); !children.empty())
             m_levels.push_back({children});
-        if (++m_visited % nodesAtOnce == 0 && budget.isSpent())
+        if (++m_visited % placesAtOnce == 0 && budget.isSpent())
             return m_levels.empty();
     }
     return true;
