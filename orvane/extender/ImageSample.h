@@ -17,8 +17,8 @@ namespace orvane {
 /// An image as the toolkit has them: pixel by pixel and row by row, the bottom row first.
 struct ImageBytes {
     const unsigned char* bytes = nullptr; ///< null for an empty image
-    int width = 0;
-    int height = 0;
+    int width = 0; ///< in pixels
+    int height = 0; ///< in pixels
     int components = 0; ///< 1 grey, 2 grey and opacity, 3 red, green and blue, 4 those and opacity
 };
 

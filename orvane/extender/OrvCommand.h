@@ -8,8 +8,8 @@ class OrvCommand {
 public:
     /// The host calls it once, when the command is pushed.
     virtual void execute() = 0;
-    virtual void undo() = 0;
-    virtual void redo() = 0;
+    virtual void undo() = 0; ///< Takes back what `execute` or `redo` did.
+    virtual void redo() = 0; ///< Does again what `undo` took back.
     virtual ~OrvCommand();
 
     OrvCommand(const OrvCommand&) = delete;

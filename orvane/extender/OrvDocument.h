@@ -36,10 +36,10 @@ public:
     [[nodiscard]] meridane::Journal* journal() const noexcept { return m_journal.get(); }
 
 Q_SIGNALS:
-    void opened();
+    void opened(); ///< A scene has become the open one.
     /// The scene is about to be closed. Slots must release its nodes.
     void aboutToClose();
-    void closed();
+    void closed(); ///< No scene is open any more.
 
 private:
     NxRef<NxGroup> m_root;

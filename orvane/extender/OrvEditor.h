@@ -20,7 +20,7 @@ public:
     [[nodiscard]] virtual NxType getHandledType();
     /// Stores the object, which isn't owned; null clears it.
     virtual void setEditedObject(NxTypedObject* object);
-    [[nodiscard]] virtual NxTypedObject* getEditedObject() const;
+    [[nodiscard]] virtual NxTypedObject* getEditedObject() const; ///< The object that was set last, or null.
     /// The widget to show. The editor owns it while it has no parent.
     [[nodiscard]] virtual QWidget* getWidget() const;
 
@@ -29,7 +29,7 @@ protected:
 
     /// Set by the constructor of the concrete editor.
     NxType m_handledType;
-    NxTypedObject* m_editedObject = nullptr;
+    NxTypedObject* m_editedObject = nullptr; ///< Not owned; null while nothing is edited.
     /// Set by the constructor of the concrete editor.
     QWidget* m_widget = nullptr;
 };

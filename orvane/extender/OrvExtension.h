@@ -34,10 +34,11 @@ public:
     /// The settings of this extension in the active profile; null when the profile doesn't run it. The profile owns it.
     [[nodiscard]] OrvProfileSetting* getProfileSetting() const noexcept { return m_profileSetting; }
 
-    [[nodiscard]] const VbString& getName() const noexcept { return m_name; }
+    [[nodiscard]] const VbString& getName() const noexcept { return m_name; } ///< By which profiles name it.
+    /// One sentence for the user.
     [[nodiscard]] const VbString& getDescription() const noexcept { return m_description; }
-    [[nodiscard]] const VbString& getAuthor() const noexcept { return m_author; }
-    [[nodiscard]] const VbString& getVersion() const noexcept { return m_version; }
+    [[nodiscard]] const VbString& getAuthor() const noexcept { return m_author; } ///< Who wrote it.
+    [[nodiscard]] const VbString& getVersion() const noexcept { return m_version; } ///< Of any form.
     /// True from `activate` to `deactivate`.
     [[nodiscard]] bool isActive() const noexcept { return m_active; }
 
@@ -46,9 +47,9 @@ protected:
 
     /// Set by the constructor of a derived class.
     VbString m_name;
-    VbString m_description;
-    VbString m_author;
-    VbString m_version;
+    VbString m_description; ///< One sentence for the user.
+    VbString m_author; ///< Who wrote it.
+    VbString m_version; ///< Of any form.
 
 private:
     friend class OrvPluginsManager; // which knows the active profile

@@ -15,24 +15,28 @@ class OrvImages : public QObject {
     Q_OBJECT
 
 public:
+    /// What has become of a file.
     enum class State {
         Loaded, ///< the image is there
         Loading, ///< `changed` follows
         Failed, ///< `reason` tells why
     };
+    /// What `load` gives.
     struct Result {
-        State state = State::Failed;
+        State state = State::Failed; ///< the image is there only if it is `Loaded`
         /// The image, upright, and no larger than `largestSide` a side.
         QImage image;
         /// Of the whole image, such as "640 × 480, RGB".
         QString description;
         QString reason; ///< the second half of a sentence
     };
+    /// Begins to load a file, or gives what has become of it.
     using Loader = std::function<Result(const QString& fileName)>;
 
     /// Larger images are made smaller.
     static constexpr int largestSide = 512;
 
+    /// The one object, which lives until the program ends.
     [[nodiscard]] static OrvImages& instance();
 
     /// Begins to load a file, or gives what has become of it. The name is that in the scene, relative to the scene's

@@ -39,23 +39,26 @@ public:
     /// is registered already, are ignored. One that is destroyed is registered no more.
     void addExtension(OrvExtension* extension);
 
+    /// In the order of registration.
     [[nodiscard]] const QList<OrvExtension*>& getExtensions() const noexcept { return m_extensions; }
     /// Whether `load` has been called for all registered extensions, and `unload` for none of them.
     [[nodiscard]] bool isLoaded() const noexcept { return m_loadedCount == m_extensions.size(); }
     /// The names of the registered extensions that were destroyed.
     [[nodiscard]] const QStringList& getLostExtensions() const noexcept { return m_lostExtensions; }
+    /// The one that it was built against.
     [[nodiscard]] int getInterfaceVersion() const noexcept { return m_interfaceVersion; }
-    [[nodiscard]] const VbString& getName() const noexcept { return m_name; }
+    [[nodiscard]] const VbString& getName() const noexcept { return m_name; } ///< For the user.
+    /// One sentence for the user.
     [[nodiscard]] const VbString& getDescription() const noexcept { return m_description; }
-    [[nodiscard]] const VbString& getAuthor() const noexcept { return m_author; }
-    [[nodiscard]] const VbString& getVersion() const noexcept { return m_version; }
+    [[nodiscard]] const VbString& getAuthor() const noexcept { return m_author; } ///< Who wrote it.
+    [[nodiscard]] const VbString& getVersion() const noexcept { return m_version; } ///< Of any form.
 
 protected:
     /// Set by the constructor of a derived class.
     VbString m_name;
-    VbString m_description;
-    VbString m_author;
-    VbString m_version;
+    VbString m_description; ///< One sentence for the user.
+    VbString m_author; ///< Who wrote it.
+    VbString m_version; ///< Of any form.
 
 private:
     void forget(const OrvExtension* extension, const QString& name);

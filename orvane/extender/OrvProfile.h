@@ -23,12 +23,13 @@ class OrvExtension;
 /// It holds names until `resolve` finds the extensions.
 class OrvProfile {
 public:
-    using Entry = OrvProfileEntry;
+    using Entry = OrvProfileEntry; ///< What it says of one extension, or of all others.
 
+    /// Of several entries for an extension the first one counts.
     OrvProfile(const QString& name, QList<Entry> entries);
     ~OrvProfile();
 
-    [[nodiscard]] VbString getName() const;
+    [[nodiscard]] VbString getName() const; ///< As the user sees it.
 
     /// Makes settings for these extensions from the names, and destroys the former settings. Only an extension that is
     /// no `OrvEditor` runs by itself, and none controls itself. An extension that another controlled one replaces
@@ -40,8 +41,8 @@ public:
 
     /// A profile read from JSON, or a message that says what is wrong and where.
     struct ReadResult {
-        std::unique_ptr<OrvProfile> profile;
-        QString error;
+        std::unique_ptr<OrvProfile> profile; ///< Null after a failure.
+        QString error; ///< One line that begins with the file name.
     };
     /// Reads a profile file; docs/profiles.md describes the format. The message of a failure is one line, "file: what
     /// is wrong" or "file:line:column: what is wrong".

@@ -11,7 +11,9 @@ public:
     /// null.
     using ControlledExtensions = std::map<OrvExtension*, OrvProfileSetting*>;
 
+    /// The extensions that the owner of this setting controls, by their addresses, each with its own setting or null.
     [[nodiscard]] const ControlledExtensions& getControlledExtensions() const noexcept { return m_controlled; }
+    /// Neither is owned; the setting may be null.
     void addControlledExtension(OrvExtension* extension, OrvProfileSetting* setting);
 
 private:

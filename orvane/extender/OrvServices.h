@@ -49,7 +49,7 @@ public:
     /// takes, such as in the popup of a colour. If it ends as it began, there is no step. An undo in between undoes
     /// what has been changed so far. A second `beginEdit` ends the edit before.
     void beginEdit(const QString& label = {});
-    void endEdit();
+    void endEdit(); ///< Ends the step that `beginEdit` began; without one it does nothing.
 
     /// The scene that is open. Its journal makes the history exact: see `undo`.
     [[nodiscard]] OrvDocument& document() const noexcept { return *m_document; }
@@ -72,8 +72,8 @@ public:
     void select(NxFieldContainer* node, NxField* field);
     /// Emits both signals again: the node first, then the field.
     void announceSelection();
-    [[nodiscard]] NxFieldContainer* getSelectedNode() const noexcept;
-    [[nodiscard]] NxField* getSelectedField() const noexcept;
+    [[nodiscard]] NxFieldContainer* getSelectedNode() const noexcept; ///< The selected node, or null.
+    [[nodiscard]] NxField* getSelectedField() const noexcept; ///< The selected field, or null.
 
     /// Undoes the last step, its commands in reverse order. Does nothing if there is none, or if a command calls it.
     ///
@@ -86,11 +86,11 @@ public:
     void redo();
     /// Whether a document is open and its steps are undone to the bit, whatever their commands do.
     [[nodiscard]] bool isUndoExact() const;
-    [[nodiscard]] bool canUndo() const;
-    [[nodiscard]] bool canRedo() const;
-    /// What `undo` and `redo` would change, such as "Set arm.rotation"; empty where that isn't known.
+    [[nodiscard]] bool canUndo() const; ///< Whether there is a step to undo.
+    [[nodiscard]] bool canRedo() const; ///< Whether there is a step to redo.
+    /// What `undo` would change, such as "Set arm.rotation"; empty where that isn't known.
     [[nodiscard]] QString undoText() const;
-    [[nodiscard]] QString redoText() const;
+    [[nodiscard]] QString redoText() const; ///< The same for `redo`.
     /// Marks the current state as the saved one.
     void setClean();
     /// Marks no state as the saved one: no file has the scene as it is, or as undo and redo make it.

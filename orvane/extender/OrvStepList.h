@@ -28,16 +28,16 @@ public:
     explicit OrvStepList(const OrvHistory& history);
     ~OrvStepList() override;
 
-    [[nodiscard]] int count() const;
+    [[nodiscard]] int count() const; ///< How many steps there are, undone ones included.
     /// How many of the steps are done.
     [[nodiscard]] int position() const;
     /// Whether the scene was saved in its state after that many steps, from 0 to `count`.
     [[nodiscard]] bool isSavedAt(int position) const;
     /// Whether there were steps before the first one, which were dropped to limit the memory.
     [[nodiscard]] bool hasDropped() const;
-    /// The memory of all steps in bytes, estimated, and its limit.
+    /// The memory of all steps in bytes, estimated.
     [[nodiscard]] std::size_t bytes() const;
-    [[nodiscard]] std::size_t limit() const;
+    [[nodiscard]] std::size_t limit() const; ///< The limit of that memory, in bytes.
 
     // Of one step, by its index.
 

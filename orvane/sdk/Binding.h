@@ -22,7 +22,7 @@ namespace orv {
 template <typename Field>
 class Binding : public FieldLink {
 public:
-    using Value = typename FieldValue<Field>::Type;
+    using Value = typename FieldValue<Field>::Type; ///< What the field holds.
 
     /// Follows this field from now on, instead of the one before; null for none.
     void attach(Field* field) { follow(field); }

@@ -21,7 +21,7 @@ namespace orv {
 template <typename Field>
 class FieldEditor : public FieldEditorBase {
 public:
-    using Value = typename FieldValue<Field>::Type;
+    using Value = typename FieldValue<Field>::Type; ///< What the field holds.
 
 protected:
     /// The extension's name is that of the class of fields, or the given one.
@@ -33,7 +33,7 @@ protected:
 
     /// The field that is shown, or null.
     [[nodiscard]] Field* field() const noexcept { return m_binding.field(); }
-    [[nodiscard]] Binding<Field>& binding() noexcept { return m_binding; }
+    [[nodiscard]] Binding<Field>& binding() noexcept { return m_binding; } ///< Follows the edited field.
 
     /// Shows the field in a widget and writes what the user does there: see `Binding::bind`.
     template <typename... Arguments>

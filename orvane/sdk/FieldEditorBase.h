@@ -33,7 +33,7 @@ public:
     void unload() override;
 
 protected:
-    FieldEditorBase(NxType handled, const char* name);
+    FieldEditorBase(NxType handled, const char* name); ///< The name is the one for profiles.
 
     /// Has this editor replace others, given by the names of the extensions, such as "SFFloat": where a profile lets a
     /// dock use both, the others are left out. To be called in the constructor.

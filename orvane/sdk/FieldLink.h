@@ -36,7 +36,7 @@ public:
 protected:
     /// Follows a field, or none, and shows it at once.
     void follow(NxField* field);
-    [[nodiscard]] NxField* followed() const noexcept { return m_sensor.getAttachedField(); }
+    [[nodiscard]] NxField* followed() const noexcept { return m_sensor.getAttachedField(); } ///< The field, or null.
     /// Adds a widget, which `show` writes with its signals blocked: now if a field is attached, and after each change.
     /// A widget that is destroyed is forgotten.
     void addWidget(QObject& widget, std::function<void()> show);

@@ -34,10 +34,11 @@ concept ListValued = requires(Field& field, const Field& same)
 /// value is its text.
 template <typename Field>
 struct FieldValue {
-    using Type = QString;
+    using Type = QString; ///< The text form.
     /// Whether two values can be compared.
     static constexpr bool isComparable = true;
 
+    /// The value of the field.
     [[nodiscard]] static Type read(const NxField& field)
     {
         VbString text;
@@ -51,10 +52,11 @@ struct FieldValue {
 /// The value is that of the class.
 template <SingleValued Field>
 struct FieldValue<Field> {
-    using Type = std::remove_cvref_t<decltype(std::declval<const Field&>().getValue())>;
-    static constexpr bool isComparable = std::equality_comparable<Type>;
+    using Type = std::remove_cvref_t<decltype(std::declval<const Field&>().getValue())>; ///< As `getValue` returns it.
+    static constexpr bool isComparable = std::equality_comparable<Type>; ///< Whether values can be compared.
 
-    [[nodiscard]] static Type read(const Field& field) { return field.getValue(); }
+    [[nodiscard]] static Type read(const Field& field) { return field.getValue(); } ///< The value of the field.
+    /// Returns false if the field refuses the value.
     static bool write(Field& field, const Type& value)
     {
         field.setValue(value);
@@ -65,10 +67,12 @@ struct FieldValue<Field> {
 /// The value is a vector of all values of the list.
 template <ListValued Field>
 struct FieldValue<Field> {
+    /// A value of the list.
     using Row = typename decltype(std::declval<const Field&>().getValues())::value_type;
-    using Type = std::vector<Row>;
-    static constexpr bool isComparable = std::equality_comparable<Row>;
+    using Type = std::vector<Row>; ///< All values of the list.
+    static constexpr bool isComparable = std::equality_comparable<Row>; ///< Whether values can be compared.
 
+    /// The value of the field.
     [[nodiscard]] static Type read(const Field& field)
     {
         const auto values = field.getValues();

@@ -50,7 +50,7 @@ protected:
         virtual void attach(NxFieldContainer* node) = 0;
     };
 
-    NodeEditorBase(NxType handled, const char* name);
+    NodeEditorBase(NxType handled, const char* name); ///< The name is the one for profiles.
 
     /// Has this editor replace others, given by the names of the extensions, such as "SFFloat": where a profile lets a
     /// dock use both, the others are left out. To be called in the constructor.
@@ -73,11 +73,14 @@ protected:
     /// Calls `refresh` after each change of the open scene, too: for what depends on the nodes below, or on others.
     void followScene();
 
-    [[nodiscard]] NxFieldContainer* shownNode() const noexcept { return m_node.get(); }
+    [[nodiscard]] NxFieldContainer* shownNode() const noexcept { return m_node.get(); } ///< The node, or null.
+    /// A row of a field: its name, which leads to its editor, and its value.
     void addFieldRow(const FieldFinder& find);
+    /// A row of a text that is made again when the node changes.
     void addTextRow(const QString& label, const std::function<QString(NxFieldContainer&)>& text);
+    /// Called when a node is shown and when it changes.
     void addFollower(std::function<void(NxFieldContainer&)> follower);
-    void addLink(std::unique_ptr<Link> link);
+    void addLink(std::unique_ptr<Link> link); ///< A widget that is bound to a field; lives as long as the form.
     /// Destroys the widgets. To be called by the destructor of the class that adds the rows.
     void destroyWidgets();
 

@@ -15,21 +15,24 @@ namespace orv {
 template <typename... Extensions>
 struct ExtensionRow {
     template <typename Visit>
+    /// There is none to call it for.
     void forEach(const Visit& /*visit*/)
     {
     }
 };
 template <typename First, typename... Rest>
+/// The extensions of a plug-in: the first one and the row of the others.
 struct ExtensionRow<First, Rest...> {
     template <typename Visit>
+    /// Calls it for each extension, in their order.
     void forEach(const Visit& visit)
     {
         visit(first);
         rest.forEach(visit);
     }
 
-    First first;
-    ExtensionRow<Rest...> rest;
+    First first; ///< The first one.
+    ExtensionRow<Rest...> rest; ///< The others.
 };
 
 /// The names of classes as they are listed, separated by commas, for people: "orv::LampBar" is "Lamp Bar".

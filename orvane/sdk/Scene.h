@@ -28,10 +28,10 @@ public:
     [[nodiscard]] std::vector<NxNode*> parents(const NxNode& node);
 
 Q_SIGNALS:
-    void opened();
+    void opened(); ///< A scene has become the open one.
     /// The scene is about to be closed. Slots must release its nodes.
     void aboutToClose();
-    void closed();
+    void closed(); ///< No scene is open any more.
     /// Something in the scene has changed; more may follow in the same step of the history.
     void edited();
 
