@@ -54,9 +54,9 @@ private Q_SLOTS:
     }
 
 private:
-    static void checkOutside(const SceneView& view)
+    static void checkOutside(SceneView& view)
     {
-        const NxBounds bounds = const_cast<SceneView&>(view).drawing().bounds();
+        const NxBounds bounds = view.drawing().bounds();
         QVERIFY(!bounds.isEmpty());
         const VbVec3d eye = view.viewpoint().position;
         bool isOutside = false;
