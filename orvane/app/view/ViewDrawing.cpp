@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr double milliseconds = 1e-6; // of nanoseconds
+constexpr double millisecondsPerNanosecond = 1e-6;
 
 std::vector<NxNode*> pointersTo(const std::vector<NxRef<NxNode>>& nodes)
 {
@@ -201,7 +201,7 @@ QImage ViewDrawing::draw(const NxViewpoint& viewpoint, QSize size, float scale)
     m_textures.dropResults();
     ++m_pictures;
     QImage picture = m_buffer->read();
-    m_milliseconds = static_cast<double>(clock.nsecsElapsed()) * milliseconds;
+    m_milliseconds = static_cast<double>(clock.nsecsElapsed()) * millisecondsPerNanosecond;
     return picture;
 }
 
@@ -219,7 +219,7 @@ double ViewDrawing::drawReduced(
     m_drawing->draw(viewpoint, possible.width(), possible.height(), scale / divisor, detail.error / divisor);
     ++m_pictures;
     picture = m_reducedBuffer->read();
-    return static_cast<double>(clock.nsecsElapsed()) * milliseconds;
+    return static_cast<double>(clock.nsecsElapsed()) * millisecondsPerNanosecond;
 }
 
 bool ViewDrawing::begin(const NxViewpoint& viewpoint, QSize size, float scale)
@@ -234,7 +234,7 @@ bool ViewDrawing::begin(const NxViewpoint& viewpoint, QSize size, float scale)
     clock.start();
     m_drawing->begin(viewpoint, possible.width(), possible.height(), scale);
     m_cornersInMillisecond = firstCorners;
-    m_partMilliseconds = static_cast<double>(clock.nsecsElapsed()) * milliseconds;
+    m_partMilliseconds = static_cast<double>(clock.nsecsElapsed()) * millisecondsPerNanosecond;
     return true;
 }
 
@@ -248,7 +248,7 @@ NxPictureState ViewDrawing::proceed(double time)
     const double corners = std::max(m_cornersInMillisecond * time, 1.0);
     const NxPictureState state = m_drawing->proceed(static_cast<std::uint64_t>(corners));
     m_functions.Finish(); // OpenGL would only collect the work, and do it all at once in the end
-    const double taken = static_cast<double>(clock.nsecsElapsed()) * milliseconds;
+    const double taken = static_cast<double>(clock.nsecsElapsed()) * millisecondsPerNanosecond;
     m_partMilliseconds += taken;
     constexpr double mostGrowth = 2;
     m_cornersInMillisecond = std::min(corners / std::max(taken, time / 10), m_cornersInMillisecond * mostGrowth);
@@ -271,7 +271,8 @@ void ViewDrawing::reduceMeshes(double time)
         return;
     QElapsedTimer clock;
     clock.start();
-    m_drawing->reduceMeshes([&] { return static_cast<double>(clock.nsecsElapsed()) * milliseconds >= time; });
+    m_drawing->reduceMeshes(
+        [&] { return static_cast<double>(clock.nsecsElapsed()) * millisecondsPerNanosecond >= time; });
 }
 
 bool ViewDrawing::isReducing() const

@@ -47,14 +47,14 @@ BookmarkDialog::BookmarkDialog(SceneBookmarks& bookmarks, QWidget* parent)
     connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_list, &QListWidget::itemDoubleClicked, this, &BookmarkDialog::goTo);
     connect(m_list, &QListWidget::currentRowChanged, this, &BookmarkDialog::updateButtons);
-    // Not at once: the editor of the list still works on the item.
-    connect(
-        m_list, &QListWidget::itemChanged, this,
-        [this](const QListWidgetItem* item) {
-            m_bookmarks.rename(static_cast<std::size_t>(m_list->row(item)), item->text());
+    connect(m_list, &QListWidget::itemChanged, this, [this](const QListWidgetItem* item) {
+        const auto giveName = [this, number = static_cast<std::size_t>(m_list->row(item)), name = item->text()] {
+            m_bookmarks.rename(number, name);
             fill();
-        },
-        Qt::QueuedConnection);
+        };
+        // Not at once: the editor of the list still works on the item.
+        QMetaObject::invokeMethod(this, giveName, Qt::QueuedConnection);
+    });
     connect(&bookmarks, &SceneBookmarks::changed, this, &BookmarkDialog::fill);
     fill();
     resize(fontMetrics().averageCharWidth() * 60, fontMetrics().height() * 16);

@@ -26,7 +26,6 @@ QString navigationKey(const QAction& action)
 NavigationActions::NavigationActions(SceneView* view, Session& session, SceneTreePanel* tree, NodeEditor& editor,
     const CameraMenu& cameras, QStatusBar* bar)
     : QObject(view)
-    , m_view(view)
     , m_settings(session.settings())
     , m_menu(new QMenu(tr("Navigation"), view))
     , m_animation(new ViewAnimation(view))

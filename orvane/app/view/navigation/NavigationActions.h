@@ -33,7 +33,6 @@ public:
 private:
     QAction* addSwitch(const char* name, const QString& text, const QString& tip, bool isOn);
 
-    SceneView* m_view;
     AppSettings& m_settings;
     QMenu* m_menu;
     ViewAnimation* m_animation;
