@@ -8,7 +8,7 @@ namespace {
 
 /// From the most detail to the least. Together with the pixels that become larger, edges are off by at most four pixels
 /// down to the one of three pixels, which is fast enough for ten million triangles without a GPU.
-constexpr std::array<PictureDetail, 11> steps{
+constexpr std::array<PictureDetail, 11> detailSteps{
     {{1, 1}, {2, 1}, {3, 1}, {2, 2}, {3, 2}, {4, 2}, {6, 2}, {8, 2}, {12, 3}, {16, 3}, {24, 4}}};
 constexpr std::size_t firstStep = 3;
 /// More than this share of the wanted time is very slow, less than this share is fast.
@@ -16,7 +16,7 @@ constexpr double verySlowShare = 1.8;
 constexpr double fastShare = 0.5;
 constexpr int slowPictures = 2;
 constexpr int fastPictures = 10;
-constexpr qint64 patience = 5'000; // milliseconds
+constexpr qint64 retryMilliseconds = 5'000; // milliseconds
 
 } // namespace
 
@@ -28,7 +28,7 @@ DetailGovernor::DetailGovernor(Clock clock)
 
 PictureDetail DetailGovernor::detail() const
 {
-    return steps[m_step];
+    return detailSteps[m_step];
 }
 
 void DetailGovernor::note(double milliseconds)
@@ -37,9 +37,9 @@ void DetailGovernor::note(double milliseconds)
     m_fast = milliseconds < wantedMilliseconds * fastShare ? m_fast + 1 : 0;
     if (m_slow >= slowPictures || milliseconds > wantedMilliseconds * verySlowShare) {
         m_slow = 0;
-        m_step = std::min(m_step + 1, steps.size() - 1);
+        m_step = std::min(m_step + 1, detailSteps.size() - 1);
         m_tooSlow = m_step;
-        m_tooSlowUntil = m_clock() + patience;
+        m_tooSlowUntil = m_clock() + retryMilliseconds;
     } else if (m_fast >= fastPictures) {
         m_fast = 0;
         if (m_step > 0 && (m_step > m_tooSlow || m_clock() >= m_tooSlowUntil))
