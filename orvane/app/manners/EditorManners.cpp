@@ -2,6 +2,7 @@
 
 #include "orvane/app/manners/CellFocus.h"
 #include "orvane/app/manners/GridGuard.h"
+#include "orvane/app/manners/LineHeights.h"
 #include "orvane/app/manners/LineWatch.h"
 #include "orvane/app/manners/NumberTyping.h"
 #include "orvane/app/manners/PaneKeys.h"
@@ -42,6 +43,7 @@ void EditorManners::begin()
     auto* const watch = new LineWatch(this);
     new WheelFocus(this);
     new ShortTips(this);
+    new LineHeights(this);
     new CellFocus(this);
     new GridGuard(this);
     new NumberTyping(m_services, *watch, this);

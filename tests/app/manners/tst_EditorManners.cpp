@@ -7,6 +7,8 @@
 
 #include <QComboBox>
 #include <QHelpEvent>
+#include <QLabel>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSlider>
 #include <QSpinBox>
@@ -89,6 +91,45 @@ private Q_SLOTS:
         turnWheel(slider, -1);
         QVERIFY(cells()->verticalScrollBar()->value() > 0);
         QCOMPARE(value("mfShort"), before);
+    }
+
+    void linesAreAsHighAsALargeFont_data()
+    {
+        QTest::addColumn<QString>("fieldName");
+        for (const char* const name : {"sfVec4f", "sfPlane", "sfVec2i32", "sfVec3f", "sfColor", "sfColorRGBA"})
+            QTest::newRow(name) << name;
+    }
+    void linesAreAsHighAsALargeFont()
+    {
+        QFETCH(const QString, fieldName);
+        const QFont usual = QApplication::font();
+        const auto restore = qScopeGuard([&usual] { QApplication::setFont(usual); });
+        QFont large = usual;
+        large.setPointSizeF(18);
+        QApplication::setFont(large);
+        select(fieldName);
+        QVERIFY(!lines().isEmpty());
+        // The first that is cut, or lies outside of the dock, which has to grow with them.
+        const auto cut = [this] {
+            for (QWidget* const each : dock()->widget()->findChildren<QWidget*>()) {
+                const auto* const label = qobject_cast<QLabel*>(each);
+                const bool isText = label != nullptr
+                    ? !label->text().isEmpty()
+                    : qobject_cast<QLineEdit*>(each) != nullptr || qobject_cast<QSpinBox*>(each) != nullptr;
+                const int bottom = each->mapTo(dock(), QPoint(0, each->height())).y();
+                if (each->isVisible() && isText
+                    && (each->height() < each->fontMetrics().height() || bottom > dock()->height()))
+                    return QStringLiteral("%1 %2: %3 of %4, bottom %5 of %6")
+                        .arg(QLatin1String(each->metaObject()->className()), each->objectName())
+                        .arg(each->height())
+                        .arg(each->fontMetrics().height())
+                        .arg(bottom)
+                        .arg(dock()->height());
+            }
+            return QString();
+        };
+        QTest::qWaitFor([&cut] { return cut().isEmpty(); }, 3000);
+        QCOMPARE(cut(), QString());
     }
 
     void escapeRestoresAnUnfinishedLine_data()
