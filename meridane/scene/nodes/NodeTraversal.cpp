@@ -32,6 +32,10 @@ NxNode* NodeTraversal::nextUse()
     if (m_levels.empty())
         return nullptr;
     ++m_levels.back().next;
+    // Nodes are anywhere in memory: those that come soon are asked for early.
+    constexpr std::size_t ahead = 12;
+    if (const Level& level = m_levels.back(); level.next + ahead < level.children.size())
+        __builtin_prefetch(level.children[level.next + ahead]);
     NxNode* const node = m_levels.back().latest();
     // Each use holds a reference, so most nodes aren't looked up.
     m_isFirstUse = node->getRefCount() == 1 || m_visited.insert(node).second;

@@ -6,6 +6,7 @@
 #include "meridane/scene/nodes/NxGroup.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -34,6 +35,7 @@ void PlaceSearch::start(const NxGroup* scene, const QString& text, const QHash<c
 {
     m_hits.clear();
     m_fieldHits.clear();
+    m_latestHits.reset();
     m_parents.clear();
     m_order = 0;
     m_isSorted = true;
@@ -116,6 +118,8 @@ bool PlaceSearch::visitFields(NxNode& node, int score)
 const PlaceSearch::FieldHits& PlaceSearch::fieldHits(NxNode& node)
 {
     const NxFieldData* const data = node.getFieldData();
+    if (m_latestHits != nullptr && data == m_latestData)
+        return *m_latestHits;
     auto found = m_fieldHits.find(data);
     if (found == m_fieldHits.end()) {
         FieldHits hits;
@@ -123,9 +127,11 @@ const PlaceSearch::FieldHits& PlaceSearch::fieldHits(NxNode& node)
             if (const std::optional<int> score = m_field.score(orvane::toQString(data->getFieldName(i))))
                 hits.fields.push_back({i, *score});
         }
-        found = m_fieldHits.insert(data, hits);
+        found = m_fieldHits.insert(data, std::make_shared<const FieldHits>(std::move(hits)));
     }
-    return *found;
+    m_latestData = data;
+    m_latestHits = *found;
+    return *m_latestHits;
 }
 
 /// Whether the nodes above the latest one have the steps of the text in their order.

@@ -81,7 +81,9 @@ private:
     std::vector<orvane::LetterMatch> m_parents; ///< from the top one down
     bool m_wantsField = false;
     QHash<const void*, int> m_preferred;
-    QHash<const NxFieldData*, FieldHits> m_fieldHits;
+    QHash<const NxFieldData*, std::shared_ptr<const FieldHits>> m_fieldHits;
+    const NxFieldData* m_latestData = nullptr; // neighbours often have the same class
+    std::shared_ptr<const FieldHits> m_latestHits;
     std::vector<Hit> m_hits; ///< a heap with the worst one first, unless it is sorted
     bool m_isSorted = true;
     std::size_t m_order = 0;

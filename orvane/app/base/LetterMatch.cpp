@@ -1,6 +1,9 @@
 #include "orvane/app/base/LetterMatch.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 #include <vector>
 
 namespace orvane {
@@ -38,10 +41,8 @@ bool beginsWord(const QString& name, qsizetype place)
         || (here.isDigit() && !before.isDigit());
 }
 
-char foldedAscii(char character) noexcept
-{
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character + ('a' - 'A')) : character;
-}
+/// In which capital and small letters of ASCII differ, and few other characters.
+constexpr unsigned char caseBit = 0x20;
 
 } // namespace
 
@@ -65,19 +66,42 @@ LetterMatch::LetterMatch(const QString& letters)
     }
     m_isTooLong = m_letters.size() > mostLetters;
     m_letters.truncate(mostLetters);
+    for (const QChar letter : m_letters) {
+        // No byte of ASCII is that of other letters.
+        m_bytes += letter.unicode() < 0x80 ? static_cast<char>(letter.unicode() | caseBit) : '\xFF';
+    }
 }
 
 bool LetterMatch::mayMatch(std::string_view name) const noexcept
 {
-    qsizetype letter = 0;
-    for (const char character : name) {
-        if (static_cast<unsigned char>(character) >= 0x80)
+    constexpr std::uint64_t ones = 0x0101010101010101;
+    constexpr std::uint64_t lowBits = 0x7F * ones;
+    std::size_t letter = 0;
+    std::size_t at = 0;
+    if constexpr (std::endian::native == std::endian::little) {
+        for (std::uint64_t bytes = 0; at + sizeof bytes <= name.size() && letter < m_bytes.size(); at += sizeof bytes) {
+            std::memcpy(&bytes, name.data() + at, sizeof bytes);
+            if ((bytes & ~lowBits) != 0)
+                return true;
+            bytes |= ones * caseBit;
+            for (std::uint64_t left = ~std::uint64_t{0}; letter < m_bytes.size(); ++letter) {
+                const std::uint64_t difference = bytes ^ (ones * static_cast<unsigned char>(m_bytes[letter]));
+                // The highest bit of each byte that is the letter.
+                const std::uint64_t same = ~(((difference & lowBits) + lowBits) | difference | lowBits) & left;
+                if (same == 0)
+                    break;
+                left = ~(((same & (~same + 1)) << 1U) - 1);
+            }
+        }
+    }
+    for (; at < name.size() && letter < m_bytes.size(); ++at) {
+        const auto byte = static_cast<unsigned char>(name[at]);
+        if (byte >= 0x80)
             return true;
-        if (letter < m_letters.size()
-            && m_letters.at(letter).unicode() == static_cast<char16_t>(foldedAscii(character)))
+        if ((byte | caseBit) == static_cast<unsigned char>(m_bytes[letter]))
             ++letter;
     }
-    return letter == m_letters.size();
+    return letter == m_bytes.size();
 }
 
 std::optional<int> LetterMatch::fill(const QString& name, Table& table) const

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace orvane {
@@ -35,6 +36,7 @@ private:
     [[nodiscard]] std::optional<int> fill(const QString& name, Table& table) const;
 
     QString m_letters; ///< folded
+    std::string m_bytes; ///< the letters for `mayMatch`
     bool m_isTooLong = false;
 };
 

@@ -2,6 +2,9 @@
 
 #include <QTest>
 
+#include <random>
+#include <string>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -45,6 +48,29 @@ private Q_SLOTS:
         if (matches)
             QVERIFY(match.mayMatch(name.toStdString()));
         QCOMPARE(match.places(name).isEmpty(), !matches || letters.isEmpty());
+    }
+
+    void randomNamesOfAnyLengthAreExcludedByTheirLetters()
+    {
+        std::mt19937 random(11);
+        const std::string alphabet = "aAbBz9 ";
+        const auto text = [&](std::size_t length) {
+            std::string made;
+            for (std::size_t i = 0; i < length; ++i)
+                made += alphabet[random() % alphabet.size()];
+            return made;
+        };
+        int matches = 0;
+        for (int round = 0; round < 20000; ++round) {
+            const std::string name = text(random() % 40);
+            const std::string letters = text(random() % 8);
+            const orvane::LetterMatch match(QString::fromStdString(letters));
+            const bool isMatch = match.score(QString::fromStdString(name)).has_value();
+            QCOMPARE(match.mayMatch(name), isMatch);
+            QVERIFY(match.mayMatch(name + "\u00C9")); // which has to be looked at more closely
+            matches += isMatch ? 1 : 0;
+        }
+        QVERIFY(matches > 1000 && matches < 19000);
     }
 
     void theBetterNameHasTheHigherScore_data()
