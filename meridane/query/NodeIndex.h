@@ -46,6 +46,8 @@ public:
 
     /// The number of entries so far; entries are numbers below it. A parent precedes its children.
     [[nodiscard]] std::size_t size() const noexcept { return m_size; }
+    /// How many there will be at most, as far as that is known now.
+    [[nodiscard]] std::size_t mostEntries() const noexcept { return m_entries.size(); }
     [[nodiscard]] const NxNode& node(Entry entry) const { return *chunk(entry).nodes[entry % chunkSize]; }
     /// The entry of the group at the first use; `none` for a top node.
     [[nodiscard]] Entry parent(Entry entry) const { return chunk(entry).parents[entry % chunkSize]; }

@@ -31,8 +31,10 @@ void SceneSearch::begin(Query query, std::shared_ptr<const QueryFacts> facts)
     m_facts = std::move(facts);
     m_next = 0;
     m_hits.clear();
-    m_isHit.assign(m_index.size(), 0);
-    m_leads.assign(m_index.size(), 0);
+    for (Flags* const flags : {&m_isHit, &m_leads}) {
+        flags->reserve(m_index.mostEntries()); // so that they aren't moved while names are read
+        flags->assign(m_index.size(), 0);
+    }
     m_coming.reset();
     m_nextUse = 0;
 }

@@ -14,7 +14,9 @@
 namespace {
 
 // Leaves time in a slice for the rows that are unfolded and painted.
-constexpr std::chrono::milliseconds sliceOfSearch(3);
+constexpr std::chrono::milliseconds sliceOfSearch(2);
+/// With a key, whose other work has to be done, too.
+constexpr std::chrono::milliseconds firstSlice(1);
 constexpr std::chrono::milliseconds openStepInterval(200);
 /// Each report has rows and numbers painted.
 constexpr std::chrono::milliseconds reportInterval(30);
@@ -91,7 +93,7 @@ void NodeFinder::search(const meridane::Query& query)
         return;
     m_idle.stop();
     restart();
-    runSlice(); // so that the first hits are in the next picture
+    runSlice(firstSlice); // so that the first hits are in the next picture
 }
 
 void NodeFinder::setFacts(Facts facts)
@@ -235,20 +237,20 @@ void NodeFinder::goOn()
 void NodeFinder::timerEvent(QTimerEvent* event)
 {
     if (event->timerId() == m_slices.timerId())
-        runSlice();
+        runSlice(sliceOfSearch);
     else if (event->timerId() == m_openStep.timerId())
         noteStep(false);
     else if (event->timerId() == m_idle.timerId())
         readNames();
 }
 
-void NodeFinder::runSlice()
+void NodeFinder::runSlice(std::chrono::milliseconds length)
 {
     if (m_isOutdated && m_query.isEmpty()) {
         m_slices.stop(); // the scene is read when it doesn't change any more
         return;
     }
-    const meridane::WorkBudget budget(sliceOfSearch, m_clock);
+    const meridane::WorkBudget budget(length, m_clock);
     if (m_isOutdated && (m_coming == nullptr || std::exchange(m_isComingOutdated, false))) {
         m_coming = std::make_unique<meridane::SceneSearch>(*m_journal);
         m_coming->begin(m_query, m_facts);

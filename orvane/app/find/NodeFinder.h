@@ -87,7 +87,7 @@ private:
     void goOn();
     void readNames();
     void report(bool isBusy);
-    void runSlice();
+    void runSlice(std::chrono::milliseconds length);
     bool compareWritten(meridane::SceneSearch& search, const meridane::WorkBudget& budget);
     void forgetScene();
 

@@ -26,7 +26,7 @@ using Direction = NodeFinder::Direction;
 
 namespace {
 
-constexpr std::chrono::milliseconds sliceOfUnfolding(2);
+constexpr std::chrono::milliseconds sliceOfUnfolding(1);
 
 } // namespace
 
