@@ -17,7 +17,7 @@
 namespace {
 
 /// Of one slice: half of what may pass between two pictures of a window that moves.
-constexpr std::chrono::milliseconds slice(4);
+constexpr std::chrono::milliseconds sliceOfTip(4);
 
 } // namespace
 
@@ -66,7 +66,7 @@ void TreeTips::begin(const QModelIndex& index)
 /// Goes on for one slice.
 void TreeTips::goOn()
 {
-    const bool isDone = m_figures != nullptr ? m_figures->advance(slice) : m_places->advance(slice);
+    const bool isDone = m_figures != nullptr ? m_figures->advance(sliceOfTip) : m_places->advance(sliceOfTip);
     if (!isDone)
         return;
     showText(m_figures != nullptr ? orvane::figuresText(*m_figures) : placesText());

@@ -130,9 +130,9 @@ QItemSelection WantedRows::ranges() const
 {
     QItemSelection ranges;
     for (const Group& group : m_groups) {
-        const QModelIndex first = m_model.index(0, SceneTreeModel::NameColumn, group.parent);
         for (const auto& [top, bottom] : group.rows) {
-            ranges.select(first.siblingAtRow(top), first.sibling(bottom, SceneTreeModel::ColumnCount - 1));
+            ranges.append(QItemSelectionRange(m_model.index(top, SceneTreeModel::NameColumn, group.parent),
+                m_model.index(bottom, SceneTreeModel::ColumnCount - 1, group.parent)));
         }
     }
     return ranges;

@@ -110,8 +110,8 @@ void HidingActions::countPlaces()
 
 void HidingActions::timerEvent(QTimerEvent* event)
 {
-    constexpr std::chrono::milliseconds slice(4);
-    if (event->timerId() != m_slices.timerId() || !m_places->advance(slice))
+    constexpr std::chrono::milliseconds sliceOfCount(4);
+    if (event->timerId() != m_slices.timerId() || !m_places->advance(sliceOfCount))
         return;
     m_slices.stop();
     const std::size_t places = m_places->count();
