@@ -8,13 +8,17 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTableView>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr int widthInLetters = 90;
-constexpr int heightInLines = 24;
+constexpr int widthInLetters = 120;
+constexpr int heightInLines = 30;
+// What the table and the details get of the height.
+constexpr int tableShare = 3;
+constexpr int detailsShare = 2;
 
 } // namespace
 
@@ -39,6 +43,7 @@ PluginsDialog::PluginsDialog(PluginLoader& loader, QWidget* parent)
     m_view->setShowGrid(false);
     m_view->setWordWrap(false);
     m_view->verticalHeader()->hide();
+    m_view->verticalHeader()->setDefaultSectionSize(orvane::look::rowHeight(fontMetrics()));
     m_view->horizontalHeader()->setStretchLastSection(true);
     m_view->horizontalHeader()->setHighlightSections(false);
     m_view->resizeColumnsToContents();
@@ -47,13 +52,19 @@ PluginsDialog::PluginsDialog(PluginLoader& loader, QWidget* parent)
     m_details->setWordWrap(true);
     m_details->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_details->setAccessibleName(tr("About the selected plug-in"));
+    m_details->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    // There may be a message for each fault, which together are higher than a screen.
+    auto* const details = new QScrollArea(this);
+    details->setWidget(m_details);
+    details->setWidgetResizable(true);
+    details->setFrameShape(QFrame::NoFrame);
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     m_loadNow = buttons->addButton(tr("&Load Now"), QDialogButtonBox::ActionRole);
     m_loadNow->setObjectName(QStringLiteral("loadNow"));
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(hint);
-    layout->addWidget(m_view, 1);
-    layout->addWidget(m_details);
+    layout->addWidget(m_view, tableShare);
+    layout->addWidget(details, detailsShare);
     layout->addWidget(buttons);
 
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
