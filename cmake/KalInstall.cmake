@@ -8,6 +8,7 @@ set(libraries kal_meridane_base kal_meridane kal_meridane_query kal_meridane_gl 
 # Those that plug-ins are linked with.
 set(plugin_libraries kal_meridane_base kal_meridane kal_orvane_extender kal_orvane_sdk)
 set(runtime_libraries kal_meridane_query kal_meridane_gl)
+set(plugins kal_orvane_extender_base kal_orvane_extender_nodes)
 set(programs orvane orvane-import orvane-plugin-test)
 set(include_folder "${CMAKE_INSTALL_INCLUDEDIR}/orvane")
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Orvane")
@@ -17,7 +18,7 @@ set(example_folder "${CMAKE_INSTALL_DATADIR}/orvane/examples")
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY "${CMAKE_INSTALL_FULL_BINDIR}" OUTPUT_VARIABLE to_libraries)
 set_target_properties(${programs} PROPERTIES INSTALL_RPATH "$ORIGIN/${to_libraries}")
 set_target_properties(${libraries} PROPERTIES INSTALL_RPATH "$ORIGIN")
-set_target_properties(kal_orvane_extender_base kal_orvane_extender_nodes PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
+set_target_properties(${plugins} PROPERTIES INSTALL_RPATH "$ORIGIN/../..")
 set_target_properties(kal_orvane_sdk PROPERTIES EXPORT_NAME sdk)
 
 install(
@@ -28,8 +29,7 @@ install(
 install(TARGETS ${runtime_libraries} LIBRARY COMPONENT Runtime NAMELINK_SKIP)
 install(TARGETS orvane orvane-import RUNTIME COMPONENT Runtime)
 install(TARGETS orvane-plugin-test RUNTIME COMPONENT Development)
-install(TARGETS kal_orvane_extender_base kal_orvane_extender_nodes LIBRARY DESTINATION "${plugin_folder}"
-                                                                   COMPONENT Runtime)
+install(TARGETS ${plugins} LIBRARY DESTINATION "${plugin_folder}" COMPONENT Runtime)
 
 set(generated "${PROJECT_BINARY_DIR}/generated")
 install(FILES "${generated}/orvane/extender/InterfaceHash.h" DESTINATION "${include_folder}/orvane/extender"

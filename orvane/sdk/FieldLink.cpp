@@ -39,9 +39,8 @@ void FieldLink::refresh()
 {
     if (!isAttached())
         return;
-    // By position, since what is shown may add widgets.
-    for (std::size_t i = 0; i < m_widgets.size(); ++i)
-        show(m_widgets[i]);
+    for (const Shown& shown : m_widgets)
+        show(shown);
 }
 
 void FieldLink::clear()

@@ -8,7 +8,7 @@
 #include <QPointer>
 
 #include <functional>
-#include <vector>
+#include <list>
 
 class NxField;
 
@@ -53,7 +53,7 @@ private:
 
     NxFieldSensor m_sensor;
     NxRef<NxFieldContainer> m_node;
-    std::vector<Shown> m_widgets;
+    std::list<Shown> m_widgets; // what is shown may add widgets
     QObject m_context;
     QMetaObject::Connection m_closing;
 };

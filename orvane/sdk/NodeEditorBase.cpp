@@ -14,12 +14,11 @@
 namespace orv {
 
 NodeEditorBase::NodeEditorBase(NxType handled, const char* name)
-    : m_area(new QScrollArea)
-    , m_sensor([](void* editor, NxSensor* /*sensor*/) { static_cast<NodeEditorBase*>(editor)->refresh(); }, this)
+    : m_sensor([](void* editor, NxSensor* /*sensor*/) { static_cast<NodeEditorBase*>(editor)->refresh(); }, this)
 {
     m_handledType = handled;
     m_name = name != nullptr ? name : handled.getName().getString();
-    load();
+    makeArea();
 }
 
 void NodeEditorBase::replaces(const QStringList& names)
@@ -35,7 +34,12 @@ NodeEditorBase::~NodeEditorBase()
 void NodeEditorBase::load()
 {
     if (m_area.isNull())
-        m_area = new QScrollArea;
+        makeArea();
+}
+
+void NodeEditorBase::makeArea()
+{
+    m_area = new QScrollArea;
     m_widget = m_area;
     m_area->setObjectName(QString::fromLatin1(m_handledType.getName().getString()));
     m_area->setFrameShape(QFrame::NoFrame);
@@ -112,9 +116,8 @@ void NodeEditorBase::refresh()
 {
     if (!m_node)
         return;
-    // By position, since a follower may add another.
-    for (std::size_t i = 0; i < m_followers.size(); ++i)
-        m_followers[i](*m_node);
+    for (const auto& follower : m_followers)
+        follower(*m_node);
 }
 
 void NodeEditorBase::followScene()

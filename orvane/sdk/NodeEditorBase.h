@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <functional>
+#include <list>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -85,6 +86,7 @@ protected:
     void destroyWidgets();
 
 private:
+    void makeArea();
     void addWidget(const QString& label, QWidget& widget);
     void buildOnce();
     void setNode(NxFieldContainer* node);
@@ -92,7 +94,7 @@ private:
     QPointer<QScrollArea> m_area; // m_widget, which a dock may own
     QFormLayout* m_form = nullptr;
     std::vector<std::unique_ptr<Link>> m_links;
-    std::vector<std::function<void(NxFieldContainer&)>> m_followers;
+    std::list<std::function<void(NxFieldContainer&)>> m_followers; // one may add another
     NxRef<NxFieldContainer> m_node;
     NxNodeSensor m_sensor;
     bool m_followsScene = false;

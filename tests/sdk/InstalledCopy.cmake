@@ -37,9 +37,10 @@ function(try_copy prefix)
   expect("\"SFHeading\": edited and undone")
   expect("\"Compass\": edited and undone")
   expect("saved, and read again with and without the plug-in")
-  # The tool finds its own plug-in, and takes the new one.
+  # The tool finds its own plug-ins, and takes the new one.
   run("${prefix}/bin/orvane" --plugin "${plugin}" --list-extensions)
   expect("\tDvSFFloatWidget\tSFFloat\tSFFloat\n")
+  expect("\tMaterial\tMaterial\n")
   expect("\tCompass Bar\t")
 endfunction()
 

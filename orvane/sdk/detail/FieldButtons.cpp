@@ -15,7 +15,7 @@ namespace orv {
 
 namespace {
 
-struct Texts {
+struct ButtonTexts {
     Q_DECLARE_TR_FUNCTIONS(FieldButtons)
 };
 
@@ -35,8 +35,8 @@ QPushButton* makeButton(QWidget& parent, const QString& name, const QString& tip
 } // namespace
 
 FieldButtons::FieldButtons(QWidget& parent)
-    : m_default(makeButton(parent, QStringLiteral("defaultButton"), Texts::tr("Set to default"), set_default_xpm))
-    , m_ignore(makeButton(parent, QStringLiteral("ignoreButton"), Texts::tr("Ignore this field"), ignore_xpm))
+    : m_default(makeButton(parent, QStringLiteral("defaultButton"), ButtonTexts::tr("Set to default"), set_default_xpm))
+    , m_ignore(makeButton(parent, QStringLiteral("ignoreButton"), ButtonTexts::tr("Ignore this field"), ignore_xpm))
 {
     m_ignore->setCheckable(true);
     m_binding.addWidget(*m_ignore, [this] { m_ignore->setChecked(m_binding.field()->isIgnored()); });

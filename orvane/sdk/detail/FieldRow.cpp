@@ -28,7 +28,7 @@ namespace orv {
 
 namespace {
 
-struct Texts {
+struct RowTexts {
     Q_DECLARE_TR_FUNCTIONS(FieldRow)
 };
 
@@ -42,9 +42,9 @@ QString summaryOf(const NxField& field)
 {
     if (field.isOfType(NxMField::getClassTypeId())) {
         const int count = static_cast<const NxMField&>(field).getNum();
-        return count == 1 ? Texts::tr("1 value") : Texts::tr("%1 values").arg(count);
+        return count == 1 ? RowTexts::tr("1 value") : RowTexts::tr("%1 values").arg(count);
     }
-    return Texts::tr("%1 bytes").arg(field.valueBytes());
+    return RowTexts::tr("%1 bytes").arg(field.valueBytes());
 }
 
 } // namespace
@@ -71,7 +71,7 @@ QToolButton* FieldRow::makeLabel(NxField& example)
     QString tip = latin(facts.description);
     if (!tip.isEmpty())
         tip += u'\n';
-    tip += Texts::tr("Click to show the field's own editor.");
+    tip += RowTexts::tr("Click to show the field's own editor.");
     button->setToolTip(tip);
     QObject::connect(button, &QToolButton::clicked, &m_field.context(), [this] {
         if (NxField* const field = m_field.field())
@@ -131,7 +131,7 @@ QWidget* FieldRow::makeColor()
     layout->setContentsMargins(0, 0, 0, 0);
     auto* const button = new QToolButton;
     button->setObjectName(QStringLiteral("colorButton"));
-    button->setToolTip(Texts::tr("Choose a colour"));
+    button->setToolTip(RowTexts::tr("Choose a colour"));
     button->setAccessibleName(button->toolTip());
     m_field.addWidget(*button, [this, button] {
         QPixmap swatch(button->iconSize());
@@ -193,7 +193,7 @@ void FieldRow::writeLine(QLineEdit& line)
     if (!editText(*field, text)) {
         const QString type = toQString(field->getTypeId().getName());
         QToolTip::showText(line.mapToGlobal(QPoint(0, line.height())),
-            Texts::tr("\"%1\" isn't the text of a value of the type %2; the former value stays.").arg(text, type),
+            RowTexts::tr("\"%1\" isn't the text of a value of the type %2; the former value stays.").arg(text, type),
             &line);
     }
     m_field.refresh();
