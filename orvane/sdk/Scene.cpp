@@ -48,12 +48,12 @@ std::vector<NxNode*> Scene::parents(const NxNode& node)
 {
     if (root() != m_readRoot || m_readRevision != NxFieldContainer::getStructureRevision())
         readParents();
-    const auto of = std::ranges::equal_range(
+    const auto first = std::ranges::lower_bound(
         m_parents, &node, {}, [](const std::pair<const NxNode*, NxNode*>& entry) { return entry.first; });
     std::vector<NxNode*> result;
-    for (const auto& [child, parent] : of) {
-        if (std::ranges::find(result, parent) == result.end())
-            result.push_back(parent);
+    for (auto entry = first; entry != m_parents.end() && entry->first == &node; ++entry) {
+        if (std::ranges::find(result, entry->second) == result.end())
+            result.push_back(entry->second);
     }
     return result;
 }
