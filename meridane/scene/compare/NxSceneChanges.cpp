@@ -5,6 +5,7 @@
 #include "meridane/scene/fields/NxFieldData.h"
 
 #include <algorithm>
+#include <iterator>
 #include <new>
 #include <utility>
 
@@ -50,45 +51,98 @@ void exchangeNode(const NxSceneChanges::NodeChange& change)
             keeper ? data.getField(keeper.get(), index) : nullptr);
 }
 
+/// The children of a group that are to be replaced: the first, and how many.
+struct Replaced {
+    explicit Replaced(const NxSceneChanges::ChildrenChange& change)
+    {
+        const int size = change.group->getNumChildren();
+        first = std::min(change.before, size);
+        count = size - first - std::min(change.after, size - first);
+    }
+
+    int first;
+    int count;
+};
+
+std::vector<NxRef<NxNode>> childrenOf(const NxGroup& group, const Replaced& replaced)
+{
+    const auto children = group.getChildren().subspan(
+        static_cast<std::size_t>(replaced.first), static_cast<std::size_t>(replaced.count));
+    return {children.begin(), children.end()};
+}
+
+std::vector<NxNode*> pointersOf(const std::vector<NxRef<NxNode>>& nodes)
+{
+    std::vector<NxNode*> pointers;
+    pointers.reserve(nodes.size());
+    for (const NxRef<NxNode>& node : nodes)
+        pointers.push_back(node.get());
+    return pointers;
+}
+
 /// Takes the children that are to be replaced out of the group.
 std::vector<NxRef<NxNode>> takeChildren(const NxSceneChanges::ChildrenChange& change)
 {
-    const auto present = change.group->getChildren();
-    const int size = static_cast<int>(present.size());
-    const int first = std::min(change.before, size);
-    const int count = size - first - std::min(change.after, size - first);
-    const auto taken = present.subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(count));
-    std::vector<NxRef<NxNode>> children(taken.begin(), taken.end());
-    change.group->replaceChildren(first, count, {});
+    const Replaced replaced(change);
+    std::vector<NxRef<NxNode>> children = childrenOf(*change.group, replaced);
+    change.group->replaceChildren(replaced.first, replaced.count, {});
     return children;
 }
 
 void putChildren(const NxSceneChanges::ChildrenChange& change)
 {
-    std::vector<NxNode*> children;
-    children.reserve(change.children.size());
-    for (const NxRef<NxNode>& child : change.children)
-        children.push_back(child.get());
-    const int size = change.group->getNumChildren();
-    change.group->replaceChildren(std::min(change.before, size), 0, children);
+    change.group->replaceChildren(
+        std::min(change.before, change.group->getNumChildren()), 0, pointersOf(change.children));
 }
 
 } // namespace
 
-void NxSceneChanges::exchange()
+std::vector<std::vector<NxRef<NxNode>>> NxSceneChanges::change()
 {
     for (const NodeChange& change : m_nodes)
         exchangeNode(change);
-    // No group gets a child before all others have lost theirs: a group that is moved into one of those below it would
-    // contain itself for a moment.
     std::vector<std::vector<NxRef<NxNode>>> taken;
     taken.reserve(m_children.size());
+    if (m_children.size() == 1) {
+        const ChildrenChange& only = m_children.front();
+        const Replaced replaced(only);
+        taken.push_back(childrenOf(*only.group, replaced));
+        only.group->replaceChildren(replaced.first, replaced.count, pointersOf(only.children));
+        return taken;
+    }
+    // No group gets a child before all others have lost theirs: a group that is moved into one of those below it would
+    // contain itself for a moment.
     for (const ChildrenChange& change : m_children)
         taken.push_back(takeChildren(change));
-    for (std::size_t i = 0; i < m_children.size(); ++i) {
-        putChildren(m_children[i]);
+    for (const ChildrenChange& change : m_children)
+        putChildren(change);
+    return taken;
+}
+
+void NxSceneChanges::exchange()
+{
+    std::vector<std::vector<NxRef<NxNode>>> taken = change();
+    for (std::size_t i = 0; i < m_children.size(); ++i)
         m_children[i].children = std::move(taken[i]);
+}
+
+std::vector<NxRef<NxNode>> NxSceneChanges::apply()
+{
+    std::vector<std::vector<NxRef<NxNode>>> taken = change();
+    // They are moved, since it takes time to count the references of a hundred thousand nodes.
+    std::vector<NxRef<NxNode>> nodes;
+    const auto append = [&nodes](std::vector<NxRef<NxNode>>& some) {
+        if (nodes.empty())
+            nodes = std::move(some);
+        else
+            nodes.insert(nodes.end(), std::make_move_iterator(some.begin()), std::make_move_iterator(some.end()));
+    };
+    for (std::size_t i = 0; i < m_children.size(); ++i) {
+        append(taken[i]);
+        append(m_children[i].children);
     }
+    *this = {};
+    return nodes;
 }
 
 NxNode* NxSceneChanges::replacementOf(const NxFieldContainer* node) const

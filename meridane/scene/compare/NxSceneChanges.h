@@ -39,6 +39,10 @@ public:
     /// takes them back, and so on. Throws `std::bad_alloc` for want of memory, with some of them made.
     void exchange();
 
+    /// Makes the changes once and for all, which takes less time, and empties the object. Returns the top ones of the
+    /// nodes that came and went. Throws like `exchange`.
+    [[nodiscard]] std::vector<NxRef<NxNode>> apply();
+
     /// The node that takes the place of a node of the scene, or null.
     [[nodiscard]] NxNode* replacementOf(const NxFieldContainer* node) const;
     /// The top ones of the nodes that come and go.
@@ -50,6 +54,9 @@ public:
     void add(Replacement replacement) { m_replacements.push_back(std::move(replacement)); }
 
 private:
+    /// The nodes that left, for each change of children.
+    [[nodiscard]] std::vector<std::vector<NxRef<NxNode>>> change();
+
     std::vector<NodeChange> m_nodes;
     std::vector<ChildrenChange> m_children;
     std::vector<Replacement> m_replacements;

@@ -46,8 +46,8 @@ NxRef<NxNode> NodeCopier::copyAlone(NxNode& node)
     NxRef<NxNode> copy(static_cast<NxNode*>(static_cast<NxTypedObject*>(node.getTypeId().createInstance(nullptr))));
     if (!copy)
         return copy;
-    if (auto* const unknown = dynamic_cast<NxUnknownNode*>(copy.get()))
-        unknown->setClassName(node.getClassName());
+    if (copy->isOfType(NxUnknownNode::getClassTypeId()))
+        static_cast<NxUnknownNode&>(*copy).setClassName(node.getClassName());
     if (!node.getName().isEmpty())
         copy->setName(node.getName());
     return copyFields(node, *copy) ? copy : NxRef<NxNode>();

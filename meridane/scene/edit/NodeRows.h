@@ -28,6 +28,8 @@ struct SetMember {
     [[nodiscard]] NxNode* node() const { return rows->group().getChild(row); }
 };
 
+/// Whether a tree of the scene shows one child before another one.
+[[nodiscard]] bool isBefore(const SetMember& left, const SetMember& right);
 /// The same without children that are below others of the set, and with each child of a group once, however many places
 /// the group has. The groups are in the order of the scene.
 [[nodiscard]] NodeSet topmost(NodeSet set);

@@ -258,9 +258,10 @@ void Journal::noteRow(const NxField& list, int row)
 
 void Journal::follow(std::span<NxNode* const> nodes)
 {
-    for (NxNode* top : nodes) {
+    std::vector<NxNode*> waiting;
+    for (NxNode* const top : nodes) {
         // The nodes below a node that is followed are followed, too.
-        std::vector<NxNode*> waiting{top};
+        waiting.push_back(top);
         while (!waiting.empty()) {
             NxNode* const node = waiting.back();
             waiting.pop_back();

@@ -5,7 +5,9 @@
 #include "meridane/scene/nodes/NodeTraversal.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
+#include <unordered_set>
 
 NX_NODE_SOURCE(NxGroup, NxNode, "Group", "A node that holds other nodes, in order.")
 
@@ -21,6 +23,21 @@ void makeRoom(std::vector<NxNode*>& nodes)
 {
     if (nodes.size() == nodes.capacity())
         nodes.reserve(2 * nodes.size() + 1);
+}
+
+/// Of the nodes that are to become children of a group, those that may contain it: they have children, and aren't in
+/// the group already.
+std::vector<NxNode*> nodesToSearch(std::span<NxNode* const> nodes, std::span<NxNode* const> present)
+{
+    const auto hasChildren = [](const NxNode* node) { return !node->getChildren().empty(); };
+    std::vector<NxNode*> result;
+    std::ranges::copy_if(nodes, std::back_inserter(result), hasChildren);
+    if (result.empty() || present.empty())
+        return result;
+    std::unordered_set<const NxNode*> known;
+    std::ranges::copy_if(present, std::inserter(known, known.end()), hasChildren);
+    std::erase_if(result, [&known](const NxNode* node) { return known.contains(node); });
+    return result;
 }
 
 } // namespace
@@ -124,14 +141,15 @@ bool NxGroup::replaceChildren(int index, int count, std::span<NxNode* const> nod
 {
     if (index < 0 || count < 0 || index > getNumChildren() || count > getNumChildren() - index)
         return false;
-    const auto isRefused = [this](const NxNode* node) { return node == nullptr || node == this; };
-    if (std::ranges::any_of(nodes, isRefused) || (m_places > 0 && meridane::isAbove(nodes, this)))
-        return false;
-    if (count == 0 && nodes.empty())
-        return true;
     const auto first = static_cast<std::size_t>(index);
     const std::size_t end = first + static_cast<std::size_t>(count);
     const std::span<NxNode* const> present = m_children;
+    const auto isRefused = [this](const NxNode* node) { return node == nullptr || node == this; };
+    if (std::ranges::any_of(nodes, isRefused)
+        || (m_places > 0 && meridane::isAbove(nodesToSearch(nodes, present.subspan(first, end - first)), this)))
+        return false;
+    if (count == 0 && nodes.empty())
+        return true;
     std::vector<NxNode*> children;
     children.reserve(present.size() - (end - first) + nodes.size());
     children.assign(present.begin(), present.begin() + index);

@@ -17,7 +17,8 @@ void SceneDisposal::dispose(NxRef<NxNode> node)
     if (!node)
         return;
     m_nodes.push_back(std::move(node));
-    m_timer.start(0, this);
+    if (!m_timer.isActive())
+        m_timer.start(0, this);
 }
 
 void SceneDisposal::finish()

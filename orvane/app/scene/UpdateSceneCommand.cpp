@@ -8,7 +8,7 @@
 UpdateSceneCommand::UpdateSceneCommand(
     NxSceneChanges changes, Undo undo, SceneDisposal& disposal, const std::shared_ptr<bool>& isComplete)
     : m_changes(std::move(changes))
-    , m_nodes(m_changes.nodes())
+    , m_nodes(undo == Undo::ByCommand ? m_changes.nodes() : std::vector<NxRef<NxNode>>())
     , m_undo(undo)
     , m_disposal(disposal)
     , m_isComplete(isComplete)
@@ -24,9 +24,15 @@ UpdateSceneCommand::~UpdateSceneCommand()
 
 void UpdateSceneCommand::execute()
 {
-    exchange();
-    if (m_undo == Undo::ByHistory)
-        m_changes = {};
+    if (m_undo == Undo::ByCommand) {
+        exchange();
+        return;
+    }
+    try {
+        m_nodes = m_changes.apply();
+    } catch (const std::bad_alloc&) {
+        *m_isComplete = false;
+    }
 }
 
 void UpdateSceneCommand::exchange()

@@ -77,12 +77,9 @@ MadeEdit GroupEdits::group(const Set& set, NodePlaces places) const
     SiblingNames names(spot.group());
     group->setName(names.take(VbString("group")));
     orvane::Moving moving(m_scene, places);
-    EditNodes nodes;
-    for (const SetMember& member : meridane::inTreeOrder(top)) {
-        nodes.push_back(moving.node(*member.node(), member.rows->path, spot.path));
-        if (nodes.back() == nullptr)
-            return orvane::Failure{moving.failure()};
-    }
+    EditNodes nodes = orvane::nodesOf(top);
+    if (!moving.keepPlaces(top, nodes, spot.path))
+        return orvane::Failure{moving.failure()};
     group->replaceChildren(0, 0, nodes);
     NxNode* const node = group.get();
     ChildrenPlan plan;

@@ -74,7 +74,7 @@ bool NodeEditor::apply(MadeEdit edit)
         return false;
     }
     orvane::selectNodes(*m_tree, made.selection);
-    m_selections->note(made.label, std::move(before), orvane::rowsOf(selected()));
+    m_selections->note(made.label, std::move(before), orvane::rowsOf(made.selection));
     if (!made.note.isEmpty())
         Q_EMIT said(made.note);
     return true;

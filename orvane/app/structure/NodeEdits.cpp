@@ -6,9 +6,9 @@
 #include "orvane/app/structure/detail/Moving.h"
 
 #include "meridane/scene/edit/ChildrenPlan.h"
+#include "meridane/scene/edit/NodeCopier.h"
 
 #include <algorithm>
-#include <unordered_map>
 #include <utility>
 
 namespace {
@@ -16,7 +16,6 @@ namespace {
 using meridane::ChildrenPlan;
 using meridane::NodeRows;
 using meridane::NodeSet;
-using meridane::SetMember;
 using orvane::EditNodes;
 using orvane::EditTexts;
 
@@ -59,19 +58,15 @@ MadeEdit NodeEdits::remove(const Set& set) const
 MadeEdit NodeEdits::duplicate(const Set& set) const
 {
     const NodeSet top = meridane::topmost(set);
-    auto copies = orvane::copiesOf(orvane::nodesOf(top));
-    if (!copies)
-        return orvane::Failure{copies.error()};
-    // The copies are in the order of the tree, in which a group may lie between two nodes of another one.
-    std::unordered_map<const NxGroup*, EditNodes> byGroup;
-    std::size_t next = 0;
-    for (const SetMember& member : meridane::inTreeOrder(top))
-        byGroup[&member.rows->group()].push_back(copies.value()[next++].get());
+    meridane::NodeCopier copier(meridane::countOf(top));
     ChildrenPlan plan;
     NodeSet selection;
     for (const NodeRows& rows : top) {
+        const auto copies = orvane::copiesOf(orvane::nodesOf({rows}), copier);
+        if (!copies)
+            return orvane::Failure{copies.error()};
         SiblingNames names(rows.group());
-        const EditNodes& nodes = byGroup[&rows.group()];
+        const EditNodes nodes = orvane::pointersOf(copies.value());
         for (NxNode* const node : nodes)
             node->setName(names.take(node->getName()));
         const NodeSpot spot{rows.path, rows.places, rows.rows.back() + 1};
@@ -84,15 +79,12 @@ MadeEdit NodeEdits::duplicate(const Set& set) const
 MadeEdit NodeEdits::move(const Set& set, const NodeSpot& spot, NodePlaces places) const
 {
     const NodeSet top = meridane::topmost(set);
-    if (const NxNode* const above = orvane::firstAbove(orvane::nodesOf(top), spot.group()))
+    EditNodes nodes = orvane::nodesOf(top);
+    if (const NxNode* const above = orvane::firstAbove(nodes, spot.group()))
         return orvane::Failure{EditTexts::intoItself(*above)};
     orvane::Moving moving(m_scene, places);
-    EditNodes nodes;
-    for (const SetMember& member : meridane::inTreeOrder(top)) {
-        nodes.push_back(moving.node(*member.node(), member.rows->path, spot.path));
-        if (nodes.back() == nullptr)
-            return orvane::Failure{moving.failure()};
-    }
+    if (!moving.keepPlaces(top, nodes, spot.path))
+        return orvane::Failure{moving.failure()};
     ChildrenPlan plan;
     plan.remove(top);
     plan.insert(spot.group(), spot.index, nodes);
@@ -125,7 +117,8 @@ MadeEdit NodeEdits::shareNodes(std::span<const NxRef<NxNode>> nodes, const NodeS
 MadeEdit NodeEdits::copy(const Set& set, const NodeSpot& spot) const
 {
     const NodeSet top = meridane::topmost(set);
-    const auto copies = orvane::copiesOf(orvane::nodesOf(top));
+    meridane::NodeCopier copier(meridane::countOf(top));
+    const auto copies = orvane::copiesOf(orvane::nodesOf(top), copier);
     if (!copies)
         return orvane::Failure{copies.error()};
     NodeEdit edit = insert(copies.value(), spot, Names::Number);

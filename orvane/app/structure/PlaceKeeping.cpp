@@ -66,10 +66,15 @@ std::vector<int> differentFields(NxNode& node, NxNode& other)
 
 } // namespace
 
-orvane::Result<NxRef<NxNode>> PlaceKeeping::keep(NxNode& node, const Path& from, const Path& to, bool staysElsewhere)
+bool PlaceKeeping::isSamePlace(const Path& from, const Path& to)
 {
     compare(from, to);
-    if (m_isSame || !hasPlace(node))
+    return m_isSame;
+}
+
+orvane::Result<NxRef<NxNode>> PlaceKeeping::keep(NxNode& node, const Path& from, const Path& to, bool staysElsewhere)
+{
+    if (isSamePlace(from, to) || !hasPlace(node))
         return NxRef<NxNode>(&node);
     if (!m_isPossible)
         return orvane::Failure{

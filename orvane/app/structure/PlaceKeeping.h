@@ -25,6 +25,9 @@ public:
     {
     }
 
+    /// Whether both groups, the last ones of their paths, are in the same place of the world, so that nodes keep theirs
+    /// without any change.
+    [[nodiscard]] bool isSamePlace(const Path& from, const Path& to);
     /// What is to come into the last group of `to` in place of a node that leaves the last group of `from`: the node
     /// itself, or a new transform that holds it. `staysElsewhere` says whether the node will still be in other places.
     /// Fails if no transform can keep the place.

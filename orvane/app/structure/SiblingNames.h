@@ -3,8 +3,10 @@
 #include "meridane/base/values/VbString.h"
 
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 class NxGroup;
 
@@ -18,6 +20,29 @@ public:
     [[nodiscard]] VbString take(const VbString& name);
 
 private:
-    std::unordered_set<std::string> m_taken;
-    std::unordered_map<std::string, int> m_next; // the number to try, by the name without one
+    /// The numbers behind a name that are taken. Siblings of one kind mostly have numbers from 1 on, so they are bits.
+    class Numbers {
+    public:
+        /// Returns false if the number was taken already.
+        bool take(int number);
+        [[nodiscard]] int takeNext();
+
+    private:
+        std::vector<bool> m_low;
+        std::unordered_set<int> m_high;
+        int m_next = 2; // to be tried
+    };
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view text) const noexcept { return std::hash<std::string_view>()(text); }
+    };
+
+    Numbers& numbersOf(std::string_view base);
+    /// Returns false if the name was taken already.
+    bool takeAsIs(std::string_view name);
+
+    std::unordered_set<std::string> m_plain; // names without a number
+    std::unordered_map<std::string, Numbers, Hash, std::equal_to<>> m_numbers; // by the name before the number
+    std::string m_latestBase;
+    Numbers* m_latest = nullptr; // of that base
 };

@@ -1,14 +1,17 @@
 #include "orvane/app/structure/TreeNodes.h"
 
 #include "orvane/app/tree/NodeSelection.h"
+#include "orvane/app/tree/RowGroups.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 
+#include <QItemSelectionModel>
 #include <QTreeView>
 
 #include <algorithm>
 #include <iterator>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 
 namespace orvane {
@@ -22,6 +25,33 @@ using meridane::NodeSet;
 int presentPlace(const NxGroup& group, const NxNode* node, int row)
 {
     return group.getChild(row) == node ? row : group.findChild(node);
+}
+
+/// The rows as indices of the group's children, without those that have left it. The tree shows `shown`, and follows
+/// the group a moment later.
+std::vector<int> presentPlaces(const NxGroup& group, std::span<const NxRef<NxNode>> shown, std::vector<int> rows)
+{
+    const std::span<NxNode* const> now = group.getChildren();
+    const auto isThere = [&](int row) {
+        const auto place = static_cast<std::size_t>(row);
+        return place < now.size() && now[place] == shown[place].get();
+    };
+    if (std::ranges::all_of(rows, isThere))
+        return rows;
+    std::unordered_map<const NxNode*, int> places;
+    for (std::size_t i = 0; i < now.size(); ++i)
+        places.try_emplace(now[i], static_cast<int>(i));
+    std::vector<int> present;
+    for (const int row : rows) {
+        if (isThere(row))
+            present.push_back(row);
+        else if (const auto place = places.find(shown[static_cast<std::size_t>(row)].get()); place != places.end())
+            present.push_back(place->second);
+    }
+    std::ranges::sort(present);
+    const auto rest = std::ranges::unique(present);
+    present.erase(rest.begin(), rest.end());
+    return present;
 }
 
 /// The group whose children are under a row, without any of them; nothing if it has left the scene.
@@ -65,25 +95,18 @@ QModelIndex updatedRow(SceneTreeModel& model, const NodeRows& rows)
 NodeSet selectedNodes(const SceneTreePanel& tree)
 {
     const SceneTreeModel& model = *tree.model();
-    const QModelIndexList indexes = tree.selection().indexes();
     NodeSet set;
-    QModelIndex parent;
-    bool isPresent = false;
-    for (const QModelIndex& index : indexes) {
-        if (set.empty() || index.parent() != parent) {
-            parent = index.parent();
-            std::optional<NodeRows> rows = groupBelow(model, parent);
-            isPresent = rows.has_value();
-            if (isPresent)
-                set.push_back(std::move(*rows));
-        }
-        const int place = isPresent ? presentPlace(set.back().group(), model.node(index), index.row()) : -1;
-        if (place >= 0)
-            set.back().rows.push_back(place);
+    for (RowGroups::Group& group : RowGroups(tree.view()->selectionModel()->selection()).take()) {
+        std::optional<NodeRows> rows = groupBelow(model, group.parent);
+        if (!rows)
+            continue;
+        rows->rows = presentPlaces(rows->group(), model.nodesBelow(group.parent), std::move(group.rows));
+        if (!rows->rows.empty())
+            set.push_back(std::move(*rows));
     }
-    for (NodeRows& rows : set)
-        std::ranges::sort(rows.rows);
-    std::erase_if(set, [](const NodeRows& rows) { return rows.rows.empty(); });
+    std::ranges::sort(set, [](const NodeRows& left, const NodeRows& right) {
+        return meridane::isBefore({&left, left.rows.front()}, {&right, right.rows.front()});
+    });
     return set;
 }
 
@@ -107,7 +130,8 @@ std::optional<NodeRows> nodeAt(const SceneTreePanel& tree, const QModelIndex& in
 void selectNodes(SceneTreePanel& tree, const NodeSet& nodes)
 {
     SceneTreeModel& model = *tree.model();
-    QModelIndexList indexes;
+    RowGroups groups;
+    QModelIndex last;
     for (const NodeRows& rows : nodes) {
         if (rows.rows.empty() || rows.group().getNumChildren() == 0)
             continue;
@@ -116,13 +140,11 @@ void selectNodes(SceneTreePanel& tree, const NodeSet& nodes)
             continue;
         for (QModelIndex above = parent; above.isValid(); above = above.parent())
             tree.view()->expand(above);
-        for (const int row : rows.rows) {
-            const QModelIndex index = model.index(row, SceneTreeModel::NameColumn, parent);
-            if (index.isValid())
-                indexes.append(index);
-        }
+        groups.add(parent, rows.rows);
+        if (!last.isValid())
+            last = model.index(rows.rows.front(), SceneTreeModel::NameColumn, parent);
     }
-    tree.selection().selectIndexes(indexes);
+    tree.selection().selectRanges(rangesOf(model, groups.take()), last);
 }
 
 bool updateRows(SceneTreePanel& tree, const QModelIndex& parent)

@@ -20,7 +20,7 @@ struct TreeRows {
     friend bool operator==(const TreeRows&, const TreeRows&) = default;
 };
 
-/// The selected nodes, in the order of the tree.
+/// The selected nodes, each group once. The groups are in the order in which the tree shows the first of their nodes.
 [[nodiscard]] meridane::NodeSet selectedNodes(const SceneTreePanel& tree);
 /// The node that was selected last, as the only row; nothing if none is.
 [[nodiscard]] std::optional<meridane::NodeRows> lastSelectedNode(const SceneTreePanel& tree);

@@ -1,31 +1,14 @@
 #include "orvane/app/tree/NodeSelection.h"
 
+#include "orvane/app/tree/RowGroups.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreeView.h"
 #include "orvane/app/tree/WantedRows.h"
 #include "orvane/app/tree/selection/RowOrder.h"
 #include "orvane/app/tree/selection/RowSelection.h"
 
-#include <algorithm>
 #include <unordered_set>
 #include <utility>
-
-namespace {
-
-/// Adds rows of one group, from the top down. Rows that follow each other are one range, since each range costs time
-/// whenever one is looked for.
-void addRanges(QItemSelection& ranges, const QModelIndexList& indexes)
-{
-    for (qsizetype first = 0; first < indexes.size();) {
-        qsizetype last = first;
-        while (last + 1 < indexes.size() && indexes[last + 1].row() == indexes[last].row() + 1)
-            ++last;
-        ranges.select(indexes[first], indexes[last].siblingAtColumn(SceneTreeModel::ColumnCount - 1));
-        first = last + 1;
-    }
-}
-
-} // namespace
 
 NodeSelection::NodeSelection(SceneTreeView* view, SceneTreeModel* model)
     : QObject(view)
@@ -85,7 +68,7 @@ void NodeSelection::select(std::span<NxNode* const> nodes)
     if (m_model->scene() == nullptr)
         return;
     const WantedRows rows(*m_model, nodes);
-    setRanges(rows.ranges(), rows.firstNode());
+    selectRanges(rows.ranges(), rows.firstNode());
 }
 
 qsizetype NodeSelection::rowCount() const
@@ -96,6 +79,11 @@ qsizetype NodeSelection::rowCount() const
     return count;
 }
 
+const QItemSelection& NodeSelection::ranges() const
+{
+    return m_view->rowSelection()->allRanges();
+}
+
 QModelIndexList NodeSelection::indexes() const
 {
     return orvane::rowsInTreeOrder(m_view->rowSelection()->allRanges());
@@ -103,34 +91,20 @@ QModelIndexList NodeSelection::indexes() const
 
 void NodeSelection::selectIndexes(const QModelIndexList& indexes, const QModelIndex& last)
 {
-    QHash<QModelIndex, std::size_t> groups; // where in `rows`
-    std::vector<QModelIndexList> rows; // of each group
+    RowGroups rows;
     QModelIndex current;
     for (const QModelIndex& index : indexes) {
         if (index.model() != m_model)
             continue;
         const QModelIndex row = index.siblingAtColumn(SceneTreeModel::NameColumn);
-        const QModelIndex parent = row.parent();
-        const auto known = groups.constFind(parent);
-        const std::size_t group = known != groups.constEnd() ? *known : rows.size();
-        if (group == rows.size()) {
-            groups.insert(parent, group);
-            rows.emplace_back();
-        }
-        rows[group].append(row);
+        rows.add(row.parent(), row.row());
         if (!current.isValid() || row == last)
             current = row;
     }
-    QItemSelection ranges;
-    for (QModelIndexList& group : rows) {
-        std::sort(group.begin(), group.end()); // siblings, so by their rows
-        group.erase(std::unique(group.begin(), group.end()), group.end());
-        addRanges(ranges, group);
-    }
-    setRanges(ranges, current);
+    selectRanges(orvane::rangesOf(*m_model, rows.take()), current);
 }
 
-void NodeSelection::setRanges(const QItemSelection& ranges, const QModelIndex& last)
+void NodeSelection::selectRanges(const QItemSelection& ranges, const QModelIndex& last)
 {
     RowSelection& selection = *m_view->rowSelection();
     if (last.isValid()) {

@@ -32,6 +32,8 @@ public:
     [[nodiscard]] std::shared_ptr<const Nodes> nodes() const;
     /// The number of rows that are selected.
     [[nodiscard]] qsizetype rowCount() const;
+    /// The ranges of all selected rows. Valid until others are selected, or rows come or go.
+    [[nodiscard]] const QItemSelection& ranges() const;
     /// The first cells of all selected rows, in the order of the tree. A node may be in several of them.
     [[nodiscard]] QModelIndexList indexes() const;
     /// The row of the node selected last, its first cell; invalid if none is selected.
@@ -43,6 +45,9 @@ public:
     /// Selects these rows and no others. `last` becomes the one selected last if it is one of them, else the first is.
     /// Takes time in proportion to them.
     void selectIndexes(const QModelIndexList& indexes, const QModelIndex& last = {});
+    /// The same for ranges of whole rows: takes time in proportion to the ranges, however many rows they have. The view
+    /// scrolls to `last` unless it is invalid.
+    void selectRanges(const QItemSelection& ranges, const QModelIndex& last);
     /// Adds the node of a row, or takes it away if it is selected.
     void toggle(const QModelIndex& index);
 
@@ -52,7 +57,6 @@ Q_SIGNALS:
 
 private:
     void forget();
-    void setRanges(const QItemSelection& ranges, const QModelIndex& last);
 
     SceneTreeView* m_view;
     SceneTreeModel* m_model;

@@ -26,6 +26,7 @@ public:
 
     [[nodiscard]] int count() const noexcept { return static_cast<int>(m_children.size()); }
     [[nodiscard]] NxNode* child(int row) const { return m_children[static_cast<std::size_t>(row)].get(); }
+    [[nodiscard]] std::span<const NxRef<NxNode>> children() const noexcept { return m_children; }
     /// The first row of that node from `start` on, or -1.
     [[nodiscard]] int findRow(const NxNode* node, int start = 0) const;
 

@@ -85,6 +85,12 @@ NxNode* SceneTreeModel::node(const QModelIndex& index) const
     return index.isValid() ? static_cast<SceneBranch*>(index.internalPointer())->child(index.row()) : nullptr;
 }
 
+std::span<const NxRef<NxNode>> SceneTreeModel::nodesBelow(const QModelIndex& parent) const
+{
+    const SceneBranch* const branch = branchOf(parent);
+    return branch != nullptr ? branch->children() : std::span<const NxRef<NxNode>>();
+}
+
 NxGroup* SceneTreeModel::group(const QModelIndex& index) const
 {
     return index.isValid() ? dynamic_cast<NxGroup*>(static_cast<SceneBranch*>(index.internalPointer())->node())

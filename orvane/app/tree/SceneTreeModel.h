@@ -1,5 +1,6 @@
 #pragma once
 
+#include "meridane/scene/fields/NxRef.h"
 #include "meridane/scene/nodes/NxGroup.h"
 
 #include <QAbstractItemModel>
@@ -52,6 +53,9 @@ public:
     [[nodiscard]] QModelIndexList fetchedIndexes() const;
 
     [[nodiscard]] NxNode* node(const QModelIndex& index) const;
+    /// The nodes in the rows under an index, those of the top nodes for an invalid one. None if no view has asked for
+    /// these rows yet. Valid until rows come or go.
+    [[nodiscard]] std::span<const NxRef<NxNode>> nodesBelow(const QModelIndex& parent) const;
     /// The group that the index's node is a child of.
     [[nodiscard]] NxGroup* group(const QModelIndex& index) const;
     /// The nodes from the top one down to that of the index.

@@ -15,6 +15,7 @@ namespace orvane {
 EditNodes nodesOf(const meridane::NodeSet& set)
 {
     EditNodes nodes;
+    nodes.reserve(meridane::countOf(set));
     for (const meridane::SetMember& member : meridane::inTreeOrder(set))
         nodes.push_back(member.node());
     return nodes;
@@ -27,9 +28,8 @@ meridane::NodeRows rowsAfter(const meridane::ChildrenPlan& plan, const NodeSpot&
     return rows;
 }
 
-Result<std::vector<NxRef<NxNode>>> copiesOf(const EditNodes& nodes)
+Result<std::vector<NxRef<NxNode>>> copiesOf(const EditNodes& nodes, meridane::NodeCopier& copier)
 {
-    meridane::NodeCopier copier;
     std::vector<NxRef<NxNode>> copies;
     copies.reserve(nodes.size());
     for (NxNode* const node : nodes) {

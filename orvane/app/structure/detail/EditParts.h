@@ -6,7 +6,8 @@
 
 namespace meridane {
 class ChildrenPlan;
-}
+class NodeCopier;
+} // namespace meridane
 
 namespace orvane {
 
@@ -17,8 +18,8 @@ using EditNodes = std::vector<NxNode*>;
 [[nodiscard]] EditNodes pointersOf(std::span<const NxRef<NxNode>> nodes);
 /// The rows that nodes have in a group after a plan, if they were planned for one place.
 [[nodiscard]] meridane::NodeRows rowsAfter(const meridane::ChildrenPlan& plan, const NodeSpot& spot, std::size_t count);
-/// Copies of the nodes, which share what these share.
-[[nodiscard]] Result<std::vector<NxRef<NxNode>>> copiesOf(const EditNodes& nodes);
+/// Copies of the nodes, which share what these share, and what the copier has copied before.
+[[nodiscard]] Result<std::vector<NxRef<NxNode>>> copiesOf(const EditNodes& nodes, meridane::NodeCopier& copier);
 /// The first of the nodes that is the group, or above it; null if there is none.
 [[nodiscard]] const NxNode* firstAbove(const EditNodes& nodes, const NxGroup& group);
 /// The place behind the group of some rows.

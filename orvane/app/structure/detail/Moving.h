@@ -22,6 +22,9 @@ public:
     /// Null if the place can't be kept; `failure` says why.
     [[nodiscard]] NxNode* node(
         NxNode& node, const std::vector<NxGroup*>& from, const std::vector<NxGroup*>& to, bool staysElsewhere = false);
+    /// The same for all nodes of a set, which are in the order of the tree. Returns false if a place can't be kept.
+    [[nodiscard]] bool keepPlaces(
+        const meridane::NodeSet& set, std::vector<NxNode*>& nodes, const std::vector<NxGroup*>& to);
     [[nodiscard]] const QString& failure() const noexcept { return m_failure; }
 
     /// The edit that the plan makes, with what changes in the nodes. To be called once, at the end.
