@@ -26,35 +26,30 @@ void RenameNodeCommand::redo()
     execute();
 }
 
-ChildCommand::ChildCommand(NxGroup* group, NxRef<NxNode> node, int index, SceneDisposal& disposal)
+AddNodeCommand::AddNodeCommand(NxGroup* group, NxRef<NxNode> node, SceneDisposal& disposal)
     : m_group(group)
     , m_node(std::move(node))
-    , m_index(index)
+    , m_index(group->getNumChildren())
     , m_disposal(disposal)
 {
 }
 
-ChildCommand::~ChildCommand()
+AddNodeCommand::~AddNodeCommand()
 {
     m_disposal.dispose(std::move(m_node));
 }
 
-void ChildCommand::insertNode()
+void AddNodeCommand::execute()
 {
     m_group->insertChild(m_node.get(), m_index);
 }
 
-void ChildCommand::removeNode()
+void AddNodeCommand::undo()
 {
     m_group->removeChild(m_index);
 }
 
-RemoveNodeCommand::RemoveNodeCommand(NxGroup* group, int index, SceneDisposal& disposal)
-    : ChildCommand(group, NxRef<NxNode>(group->getChild(index)), index, disposal)
+void AddNodeCommand::redo()
 {
-}
-
-AddNodeCommand::AddNodeCommand(NxGroup* group, NxRef<NxNode> node, SceneDisposal& disposal)
-    : ChildCommand(group, std::move(node), group->getNumChildren(), disposal)
-{
+    execute();
 }

@@ -23,40 +23,20 @@ private:
     VbString m_newName;
 };
 
-/// Base of the commands that put a node into a group or take it out. The command keeps the node alive while it is in
-/// the history, and passes it to the disposal in its destructor.
-class ChildCommand : public OrvCommand {
-protected:
-    /// `index` is the node's place among the children of `group`, while it is one of them.
-    ChildCommand(NxGroup* group, NxRef<NxNode> node, int index, SceneDisposal& disposal);
-    ~ChildCommand() override;
+/// Appends a node to a group. The command keeps the node alive while it is in the history, and passes it to the
+/// disposal in its destructor.
+class AddNodeCommand final : public OrvCommand {
+public:
+    AddNodeCommand(NxGroup* group, NxRef<NxNode> node, SceneDisposal& disposal);
+    ~AddNodeCommand() override;
 
-    void insertNode();
-    void removeNode();
+    void execute() override;
+    void undo() override;
+    void redo() override;
 
 private:
     NxRef<NxGroup> m_group;
     NxRef<NxNode> m_node;
-    int m_index;
+    int m_index; // of the node in the group
     SceneDisposal& m_disposal;
-};
-
-/// Removes a child from a group.
-class RemoveNodeCommand final : public ChildCommand {
-public:
-    RemoveNodeCommand(NxGroup* group, int index, SceneDisposal& disposal);
-
-    void execute() override { removeNode(); }
-    void undo() override { insertNode(); }
-    void redo() override { removeNode(); }
-};
-
-/// Appends a node to a group.
-class AddNodeCommand final : public ChildCommand {
-public:
-    AddNodeCommand(NxGroup* group, NxRef<NxNode> node, SceneDisposal& disposal);
-
-    void execute() override { insertNode(); }
-    void undo() override { removeNode(); }
-    void redo() override { insertNode(); }
 };

@@ -1,14 +1,16 @@
-// Changes a scene at random until it is killed, for tst_RecoveryKills: FILE RECOVERY_FOLDER SEED. Prints a line for
-// each state of the scene before anything else can happen, "state TIME HASH", with the time in milliseconds; and "kept"
-// when the recovery file has the last of them.
+// Changes the values and the structure of a scene at random until it is killed, for tst_RecoveryKills: FILE
+// RECOVERY_FOLDER SEED. Prints a line for each state of the scene before anything else can happen, "state TIME HASH",
+// with the time in milliseconds; and "kept" when the recovery file has the last of them.
 
 #include "app/AppScenes.h"
+#include "app/structure/RandomStructure.h"
 #include "scene/journal/RandomChanges.h"
 
 #include "orvane/app/files/LoadJob.h"
 #include "orvane/app/recovery/SceneRecovery.h"
 #include "orvane/app/scene/SceneDisposal.h"
 #include "orvane/app/scene/SceneDocument.h"
+#include "orvane/app/scene/UpdateSceneCommand.h"
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/base/ContentHash.h"
@@ -53,6 +55,18 @@ private:
     std::string m_hash;
 };
 
+/// Groups, moves, copies, pastes or removes nodes, as the actions of the tree do.
+void changeStructure(RandomStructure& random, NxGroup& scene, OrvServices& services, SceneDisposal& disposal)
+{
+    RandomStructure::Change change = random.change(scene);
+    if (!change.edit || change.edit.value().changes.isEmpty())
+        return;
+    NodeEdit made = std::move(change.edit).value();
+    services.pushStep(new UpdateSceneCommand(std::move(made.changes), UpdateSceneCommand::Undo::ByHistory, disposal,
+                          std::make_shared<bool>(true)),
+        made.label);
+}
+
 ReadScene read(const QString& fileName)
 {
     LoadJob job(fileName);
@@ -82,6 +96,7 @@ int main(int argc, char** argv)
     states.look();
     QObject::connect(&recovery, &SceneRecovery::kept, &recovery, [] { print("kept"); });
     RandomChanges changes(*document.scene(), seed);
+    RandomStructure structure(seed);
     std::mt19937 random(seed);
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
@@ -90,6 +105,8 @@ int main(int argc, char** argv)
             services.undo();
         else if (choice == 1)
             services.redo();
+        else if (choice < 5 && document.scene()->getNumChildren() > 0)
+            changeStructure(structure, *document.scene(), services, disposal);
         else
             changes.makeSome();
         states.look();

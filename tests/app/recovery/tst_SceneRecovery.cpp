@@ -1,7 +1,9 @@
 #include "app/recovery/RecoveryCase.h"
+#include "app/structure/RandomStructure.h"
 #include "base/FileSizeLimit.h"
 
 #include "orvane/app/files/SaveJob.h"
+#include "orvane/app/scene/UpdateSceneCommand.h"
 
 #include "meridane/scene/nodes/NxMesh.h"
 
@@ -100,7 +102,7 @@ private Q_SLOTS:
     {
         openFile(robot, AppScenes::robotText);
         NxGroup* const scene = m_document->scene();
-        m_services->pushCommand(new RemoveNodeCommand(scene, 0, *m_disposal));
+        pushStep(NodeEdits(*scene).remove({{{scene}, {}, {0}}}));
         m_services->pushCommand(new AddNodeCommand(scene, NxRef<NxNode>(new NxMesh), *m_disposal));
         save(robot);
         rename(scene->getChild(1), "last");
@@ -137,6 +139,32 @@ private Q_SLOTS:
         rename("/robot/leg", "wheel");
         TRY_CRASH(text());
         QCOMPARE(files().size(), 1);
+    }
+
+    void changesOfTheStructureAreThere()
+    {
+        for (unsigned int seed = 0; seed < 6; ++seed) {
+            RandomStructure random(seed);
+            openFile(robot, ("#mrd 1.0\n" + random.statements()).c_str());
+            const std::string opened = text();
+            for (int i = 0; i < 12 && m_document->scene()->getNumChildren() > 0; ++i) {
+                const int what = random.number(10);
+                if (what == 0) {
+                    m_services->undo();
+                } else if (what == 1) {
+                    m_services->redo();
+                } else {
+                    RandomStructure::Change change = random.change(*m_document->scene());
+                    if (!change.edit || change.edit.value().changes.isEmpty())
+                        continue;
+                    pushStep(std::move(change.edit));
+                }
+                AppScenes::runSensors();
+                TRY_CRASH(text() == opened ? std::string("none") : text());
+            }
+            m_document->close();
+            QTRY_COMPARE_WITH_TIMEOUT(files(), QStringList(), testPatience);
+        }
     }
 
     void aStepThatGoesOnIsThere()
@@ -254,6 +282,16 @@ private Q_SLOTS:
     }
 
 private:
+    /// Makes a change of the structure, as the actions of the tree do.
+    void pushStep(MadeEdit edit)
+    {
+        QVERIFY2(edit, qPrintable(edit.error()));
+        NodeEdit made = std::move(edit).value();
+        m_services->pushStep(new UpdateSceneCommand(std::move(made.changes), UpdateSceneCommand::Undo::ByHistory,
+                                 *m_disposal, std::make_shared<bool>(true)),
+            made.label);
+    }
+
     /// Writes the scene to that file, as File > Save does.
     void save(const QString& name)
     {

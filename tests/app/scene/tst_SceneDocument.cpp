@@ -4,8 +4,10 @@
 #include "orvane/app/scene/NodeCommands.h"
 #include "orvane/app/scene/SceneDisposal.h"
 #include "orvane/app/scene/SceneDocument.h"
+#include "orvane/app/scene/UpdateSceneCommand.h"
 #include "orvane/extender/OrvServices.h"
 
+#include "meridane/scene/edit/ChildrenPlan.h"
 #include "meridane/scene/fields/NxField.h"
 
 #include <QSignalSpy>
@@ -126,7 +128,10 @@ private Q_SLOTS:
         m_document->open(AppScenes::robot(), QStringLiteral("/x/robot.mrd"));
         NxGroup* scene = m_document->scene();
         const std::string before = NxSceneWriter::toText(scene);
-        m_services->pushCommand(new RemoveNodeCommand(scene, 0, *m_disposal));
+        meridane::ChildrenPlan plan;
+        plan.remove(*scene, std::vector{0});
+        m_services->pushCommand(new UpdateSceneCommand(
+            plan.changes(), UpdateSceneCommand::Undo::ByCommand, *m_disposal, std::make_shared<bool>(true)));
         QCOMPARE(scene->getNumChildren(), 1);
         m_services->pushCommand(new AddNodeCommand(scene, NxRef<NxNode>(new NxGroup), *m_disposal));
         QCOMPARE(scene->getNumChildren(), 2);

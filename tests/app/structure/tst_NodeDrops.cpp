@@ -103,6 +103,17 @@ private Q_SLOTS:
     }
     void cleanup() { endTool(); }
 
+    void nodesAreDraggedToAnotherGroup()
+    {
+        const std::string before = text();
+        clickRow(tree(), indexOf("hand"));
+        drag(pointOf("box", Part::Middle));
+        QCOMPARE(services().undoText(), u"Move hand to box"_s);
+        QCOMPARE(scene().getChild(1)->getChildren().front()->getName(), VbString("hand"));
+        services().undo();
+        QCOMPARE(text(), before);
+    }
+
     void aPressAndAMoveStartADrag()
     {
         clickRow(tree(), indexOf("hand"));
