@@ -109,6 +109,18 @@ bool LiveTool::start(const QStringList& arguments)
         qWarning("Xvfb or openbox doesn't start.");
         return false;
     }
+    return startTool(arguments);
+}
+
+bool LiveTool::startBeside(const LiveTool& other, const QStringList& arguments)
+{
+    m_scale = other.m_scale;
+    m_environment = other.m_environment;
+    return startTool(arguments);
+}
+
+bool LiveTool::startTool(const QStringList& arguments)
+{
     const QByteArray path = m_folder.filePath(QStringLiteral("probe")).toLocal8Bit();
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -142,9 +154,14 @@ bool LiveTool::start(const QStringList& arguments)
     }
     if (widget(QStringLiteral("sceneTree")).isEmpty())
         return false;
-    xdotool(
-        {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
-            QStringLiteral("Orvane"), QStringLiteral("windowactivate"), QStringLiteral("--sync")});
+    return activate();
+}
+
+bool LiveTool::activate()
+{
+    xdotool({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
+        QStringLiteral("--all"), QStringLiteral("--pid"), QString::number(m_tool.processId()), QStringLiteral("--name"),
+        QStringLiteral("Orvane"), QStringLiteral("windowactivate"), QStringLiteral("--sync")});
     // By then it knows where the window manager put it, so its coordinates are right.
     return becomes(QStringLiteral("mainWindow"), QStringLiteral("isActiveWindow"));
 }

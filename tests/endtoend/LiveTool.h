@@ -27,6 +27,11 @@ public:
     void useScale(int scale) { m_scale = scale; }
     /// Starts server and tool and waits until the window has its place.
     [[nodiscard]] bool start(const QStringList& arguments);
+    /// The same on the screen of another one, which lives longer. They share mouse, keyboard and clipboard; the window
+    /// that was activated last has the focus.
+    [[nodiscard]] bool startBeside(const LiveTool& other, const QStringList& arguments);
+    /// Brings the window to the front and waits until it has the focus.
+    [[nodiscard]] bool activate();
     /// Closes the window as Ctrl+Q does and gives the exit status, or -1.
     [[nodiscard]] int quit();
     /// Kills the tool, which can do nothing about it.
@@ -69,6 +74,7 @@ private:
     [[nodiscard]] QString await(const QString& request);
     void xdotool(const QStringList& arguments);
     [[nodiscard]] bool startServer();
+    [[nodiscard]] bool startTool(const QStringList& arguments);
     [[nodiscard]] bool startWindowManager();
     [[nodiscard]] bool windowManagerAnswers() const;
     [[nodiscard]] bool acceptProbe(int listener);
