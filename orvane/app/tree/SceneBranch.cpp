@@ -1,6 +1,8 @@
 #include "orvane/app/tree/SceneBranch.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 SceneBranch::SceneBranch(NxNode* node, SceneBranch* parent, int row)
     : m_node(node)
@@ -29,10 +31,14 @@ SceneBranch& SceneBranch::addBranch(int row)
     return *m_branches.insert_or_assign(row, std::move(made)).first->second;
 }
 
-void SceneBranch::insertRows(int row, std::span<NxNode* const> nodes)
+void SceneBranch::insertRows(int row, std::vector<NxRef<NxNode>> nodes)
 {
     shiftBranches(row, static_cast<int>(nodes.size()));
-    m_children.insert(m_children.begin() + row, nodes.begin(), nodes.end());
+    if (m_children.empty())
+        m_children = std::move(nodes);
+    else
+        m_children.insert(
+            m_children.begin() + row, std::make_move_iterator(nodes.begin()), std::make_move_iterator(nodes.end()));
 }
 
 void SceneBranch::removeRows(int row, int count)

@@ -35,7 +35,7 @@ public:
     SceneBranch& addBranch(int row);
     [[nodiscard]] const std::map<int, std::unique_ptr<SceneBranch>>& branches() const noexcept { return m_branches; }
 
-    void insertRows(int row, std::span<NxNode* const> nodes);
+    void insertRows(int row, std::vector<NxRef<NxNode>> nodes);
     void removeRows(int row, int count);
 
     /// `changed` is called from the delay queue after changes of the node.

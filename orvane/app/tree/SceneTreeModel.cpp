@@ -19,6 +19,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -52,7 +53,8 @@ void SceneTreeModel::setScene(NxGroup* scene)
     m_root.reset();
     if (scene != nullptr) {
         m_root = std::make_unique<SceneBranch>(scene, nullptr, 0);
-        m_root->insertRows(0, scene->getChildren());
+        const auto children = scene->getChildren();
+        m_root->insertRows(0, {children.begin(), children.end()});
         watch(*m_root);
     }
     endResetModel();
@@ -334,15 +336,18 @@ void SceneTreeModel::updateBranch(SceneBranch& branch)
         ++tail;
 
     const QModelIndex parent = indexOfBranch(branch);
+    // Views that learn of removed rows may lead to a look at the former state of the scene, which moves its lists.
+    const auto added = now.subspan(static_cast<std::size_t>(same), static_cast<std::size_t>(after - same - tail));
+    std::vector<NxRef<NxNode>> coming(added.begin(), added.end());
     if (const int gone = before - same - tail; gone > 0) {
         beginRemoveRows(parent, same, same + gone - 1);
         forgetBelow(branch, same, gone);
         branch.removeRows(same, gone);
         endRemoveRows();
     }
-    if (const int come = after - same - tail; come > 0) {
-        beginInsertRows(parent, same, same + come - 1);
-        branch.insertRows(same, now.subspan(static_cast<std::size_t>(same), static_cast<std::size_t>(come)));
+    if (!coming.empty()) {
+        beginInsertRows(parent, same, same + static_cast<int>(coming.size()) - 1);
+        branch.insertRows(same, std::move(coming));
         endInsertRows();
     }
 }

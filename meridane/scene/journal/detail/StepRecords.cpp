@@ -79,6 +79,8 @@ bool isChanged(const Sequence& sequence)
 {
     if (sequence.growth != 0 && !sequence.isReplaced)
         return true;
+    if (sequence.records.size() == 1)
+        return !sequence.records.front()->isSameAsNow();
     PlaceSnapshots present;
     present.add(*sequence.records.front());
     std::for_each(sequence.records.rbegin(), sequence.records.rend(), [](ChangeRecord* record) { record->exchange(); });
