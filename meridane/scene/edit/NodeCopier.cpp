@@ -37,6 +37,7 @@ struct Level {
     NxRef<NxGroup> copy;
     std::vector<NxNode*> copies; // of the children so far
     std::vector<NxRef<NxNode>> held;
+    bool isShared; // it, or a group above it, may be in several places
 };
 
 } // namespace
@@ -59,7 +60,9 @@ NxRef<NxNode> NodeCopier::copy(NxNode& top)
     std::vector<Level> levels;
     NxRef<NxNode> result;
     const auto add = [&](NxNode& node, const NxRef<NxNode>& copied) {
-        if (node.getRefCount() > 1)
+        // One without other references is in several places as well if a group above it is. The top one may be below
+        // another one that is copied.
+        if (levels.empty() || levels.back().isShared || node.getRefCount() > 1)
             m_copies.try_emplace(&node, copied);
         if (levels.empty()) {
             result = copied;
@@ -74,10 +77,12 @@ NxRef<NxNode> NodeCopier::copy(NxNode& top)
         const NxRef<NxNode> copied = known != m_copies.end() ? known->second : copyAlone(*next);
         if (!copied)
             return {};
-        if (known == m_copies.end() && !next->getChildren().empty())
-            levels.push_back({next->getChildren(), static_cast<NxGroup*>(copied.get()), {}, {}});
-        else
+        if (known == m_copies.end() && !next->getChildren().empty()) {
+            const bool isShared = next->getRefCount() > 1 || (!levels.empty() && levels.back().isShared);
+            levels.push_back({next->getChildren(), static_cast<NxGroup*>(copied.get()), {}, {}, isShared});
+        } else {
             add(*next, copied);
+        }
         next = nullptr;
         while (!levels.empty() && next == nullptr) {
             Level& level = levels.back();

@@ -26,7 +26,7 @@ public:
     [[nodiscard]] static NxRef<NxNode> copyAlone(NxNode& node);
 
 private:
-    std::unordered_map<const NxNode*, NxRef<NxNode>> m_copies; // of the nodes with several references
+    std::unordered_map<const NxNode*, NxRef<NxNode>> m_copies; // of the nodes that may be in several places
 };
 
 } // namespace meridane

@@ -20,6 +20,7 @@ public:
 
     explicit ReferenceScene(NxGroup& scene) { read(scene); }
 
+    [[nodiscard]] const Nodes& childrenOf(const NxNode& node) const { return m_children.at(&node); }
     [[nodiscard]] bool isSameAs(NxGroup& scene) const
     {
         const ReferenceScene now(scene);
@@ -179,11 +180,12 @@ private:
     std::map<const NxNode*, Nodes> m_children;
 };
 
-/// Whether nodes are copies of others: of the same classes, with the same values, and sharing what these share. Copies
-/// of the top ones may have other names.
+/// Whether nodes are copies of others as these were before: of the same classes, with the same values, and sharing what
+/// these shared. Copies of the top ones may have other names.
 class CopyCheck {
 public:
-    explicit CopyCheck(const ReferenceScene::Set& originals)
+    CopyCheck(const ReferenceScene::Set& originals, const ReferenceScene& before)
+        : m_before(before)
     {
         for (const NxNode* const node : ReferenceScene::nodesOf(originals))
             m_top.insert(node);
@@ -213,12 +215,13 @@ private:
             if (!field.isSame(copied) || field.isIgnored() != copied.isIgnored())
                 return false;
         }
-        const auto children = node.getChildren();
+        const ReferenceScene::Nodes& children = m_before.childrenOf(node);
         const auto copies = copy.getChildren();
         return std::equal(children.begin(), children.end(), copies.begin(), copies.end(),
             [this](NxNode* child, NxNode* copied) { return isCopy(*child, *copied); });
     }
 
+    ReferenceScene m_before;
     std::set<const NxNode*> m_top;
     std::map<const NxNode*, const NxNode*> m_copies;
     std::set<const NxNode*> m_seen;

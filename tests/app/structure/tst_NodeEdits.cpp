@@ -71,6 +71,14 @@ private Q_SLOTS:
             "Mesh \"m\" {}");
     }
 
+    void copiesShareWhatIsBelowASharedGroup()
+    {
+        open("Group \"g\" { Group \"p\" { Mesh \"m\" {} } } Group \"a\" { use \"p\" }");
+        check(edits().duplicate(setOf({"m", "a"})),
+            "Group \"g\" { Group \"p\" { Mesh \"m\" {} Mesh \"m 2\" {} } } Group \"a\" { use \"p\" }"
+            "Group \"a 2\" { Group \"p\" { use \"m 2\" } }");
+    }
+
     void movesNodesInTheOrderOfTheTree()
     {
         check(edits().move(setOf({"m", "y"}), endOf("b"), change),

@@ -98,7 +98,7 @@ private:
         std::vector<ReferenceScene::Nodes> originalsOfGroups;
         for (const meridane::NodeRows& rows : change.set)
             originalsOfGroups.push_back(ReferenceScene::nodesOf({rows}));
-        CopyCheck copies(change.set);
+        CopyCheck copies(change.set, reference);
         const std::string before = text();
         const std::string places = expanded();
         foresee(reference, change);
