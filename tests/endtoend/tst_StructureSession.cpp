@@ -81,7 +81,9 @@ private Q_SLOTS:
         clickNode(tool, "door");
         const QRect door = tool.item(QStringLiteral("sceneTree"), QStringLiteral("door"));
         const QRect cellar = tool.item(QStringLiteral("sceneTree"), QStringLiteral("cellar"));
-        tool.drag(door.center(), cellar.center());
+        tool.dragAndHold(door.center(), cellar.center());
+        QVERIFY(!tool.widget(QStringLiteral("dropMark")).isEmpty());
+        tool.release();
         waitForChange(tool);
         const QString text = saved(tool, path("house.mrd"));
         QVERIFY2(text.contains(QStringLiteral("Group \"cellar\" {\n        Mesh \"door\"")), qPrintable(text));

@@ -117,7 +117,11 @@ Result<NodeText> nodeText(const QMimeData& data)
     }
     if (!data.hasText())
         return Failure{NodeMimeTexts::tr("The clipboard holds no nodes and no text.")};
-    const QByteArray text = data.text().toUtf8();
+    const QString plain = data.text();
+    // Each character is a byte at least, so what is far too long needn't be converted.
+    if (static_cast<std::size_t>(plain.size()) > mostNodeText)
+        return Failure{tooLarge(static_cast<std::size_t>(plain.size()))};
+    const QByteArray text = plain.toUtf8();
     if (static_cast<std::size_t>(text.size()) > mostNodeText)
         return Failure{tooLarge(static_cast<std::size_t>(text.size()))};
     if (text.trimmed().isEmpty())

@@ -108,7 +108,7 @@ private Q_SLOTS:
         const std::string before = text();
         clickRow(tree(), indexOf("hand"));
         drag(pointOf("box", Part::Middle));
-        QCOMPARE(services().undoText(), u"Move hand to box"_s);
+        QTRY_COMPARE(services().undoText(), u"Move hand to box"_s);
         QCOMPARE(scene().getChild(1)->getChildren().front()->getName(), VbString("hand"));
         services().undo();
         QCOMPARE(text(), before);
