@@ -64,7 +64,7 @@ struct Replaced {
     int count;
 };
 
-std::vector<NxRef<NxNode>> childrenOf(const NxGroup& group, const Replaced& replaced)
+std::vector<NxRef<NxNode>> replacedChildren(const NxGroup& group, const Replaced& replaced)
 {
     const auto children = group.getChildren().subspan(
         static_cast<std::size_t>(replaced.first), static_cast<std::size_t>(replaced.count));
@@ -84,7 +84,7 @@ std::vector<NxNode*> pointersOf(const std::vector<NxRef<NxNode>>& nodes)
 std::vector<NxRef<NxNode>> takeChildren(const NxSceneChanges::ChildrenChange& change)
 {
     const Replaced replaced(change);
-    std::vector<NxRef<NxNode>> children = childrenOf(*change.group, replaced);
+    std::vector<NxRef<NxNode>> children = replacedChildren(*change.group, replaced);
     change.group->replaceChildren(replaced.first, replaced.count, {});
     return children;
 }
@@ -106,7 +106,7 @@ std::vector<std::vector<NxRef<NxNode>>> NxSceneChanges::change()
     if (m_children.size() == 1) {
         const ChildrenChange& only = m_children.front();
         const Replaced replaced(only);
-        taken.push_back(childrenOf(*only.group, replaced));
+        taken.push_back(replacedChildren(*only.group, replaced));
         only.group->replaceChildren(replaced.first, replaced.count, pointersOf(only.children));
         return taken;
     }
