@@ -5,7 +5,6 @@
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 
-#include <QItemSelectionModel>
 #include <QTreeView>
 
 #include <algorithm>
@@ -96,7 +95,7 @@ NodeSet selectedNodes(const SceneTreePanel& tree)
 {
     const SceneTreeModel& model = *tree.model();
     NodeSet set;
-    for (RowGroups::Group& group : RowGroups(tree.view()->selectionModel()->selection()).take()) {
+    for (RowGroups::Group& group : RowGroups(tree.selection().ranges()).take()) {
         std::optional<NodeRows> rows = groupBelow(model, group.parent);
         if (!rows)
             continue;
