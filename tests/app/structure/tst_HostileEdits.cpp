@@ -4,7 +4,6 @@
 #include "orvane/app/tree/NodeSelection.h"
 
 #include "meridane/scene/file/NxSceneWriter.h"
-#include "meridane/scene/nodes/NxPointLight.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -64,16 +63,6 @@ private:
     void pressUndo()
     {
         QTest::keyClick(m_window.get(), Qt::Key_Z, Qt::ControlModifier);
-        settle();
-    }
-    /// Clicks an entry of the Edit menu, which leaves the focus where it is.
-    void clickInEditMenu(const char* name)
-    {
-        auto* const menu = m_window->findChild<QMenu*>(u"editMenu"_s);
-        QVERIFY(menu->actions().contains(action(name)));
-        menu->popup(m_window->mapToGlobal(QPoint(0, 0)));
-        QTRY_VERIFY(menu->isVisible());
-        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action(name)).center());
         settle();
     }
     /// Drops data in the middle of the row of a node.
@@ -147,32 +136,6 @@ private Q_SLOTS:
         press(Qt::Key_H, Qt::ShiftModifier);
         QVERIFY(panel()->hidden().isEmpty());
         QVERIFY(panel()->hidden().isShown(panel()->model()->path(indexOf("sun"))));
-    }
-
-    void aNodeIsDeletedWhileItsFieldIsEdited()
-    {
-        const std::string before = text();
-        clickNode("sun");
-        auto* const sun = dynamic_cast<NxPointLight*>(scene().getChild(2));
-        QVERIFY(sun != nullptr);
-        const QModelIndex row = fieldRow(&sun->intensity);
-        clickRow(table(), row.siblingAtColumn(1));
-        QLineEdit* line = nullptr;
-        for (auto* const shown : table()->findChildren<QLineEdit*>()) {
-            if (shown->isVisible())
-                line = shown;
-        }
-        QVERIFY(line != nullptr);
-        line->selectAll();
-        QTest::keyClicks(line, u"0.125"_s);
-        clickInEditMenu("node.delete");
-        QCOMPARE(scene().getNumChildren(), 2);
-        // What was typed isn't lost with the node.
-        pressUndo();
-        QCOMPARE(scene().getNumChildren(), 3);
-        QCOMPARE(sun->intensity.getValue(), 0.125F);
-        pressUndo();
-        QCOMPARE(text(), before);
     }
 
     void theCameraOfTheViewIsDeleted()
