@@ -12,7 +12,7 @@ namespace nodes {
 
 namespace {
 
-constexpr auto slice = 2ms;
+constexpr auto sliceOfFigures = 2ms;
 
 QString sizeText(const VbVec3f& vector, const QString& between)
 {
@@ -47,7 +47,7 @@ void BelowFacts::timerEvent(QTimerEvent* /*event*/)
 void BelowFacts::advance()
 {
     // A hidden editor shows nothing, and is given its node again before it is shown.
-    if (m_figures == nullptr || !m_figures->advance(slice)) {
+    if (m_figures == nullptr || !m_figures->advance(sliceOfFigures)) {
         if (m_figures != nullptr)
             m_timer.start(0, this);
         return;

@@ -17,7 +17,7 @@ namespace nodes {
 
 namespace {
 
-constexpr int linesHigh = 6;
+constexpr int linesOfCamera = 6;
 
 double valueOf(const NxSFFloat& field)
 {
@@ -51,7 +51,7 @@ void CameraDiagram::setCamera(const NxOrthographicCamera& camera)
 
 QSize CameraDiagram::sizeHint() const
 {
-    const int height = linesHigh * fontMetrics().height();
+    const int height = linesOfCamera * fontMetrics().height();
     return {2 * height, height};
 }
 

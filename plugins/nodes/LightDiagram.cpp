@@ -21,7 +21,7 @@ namespace nodes {
 
 namespace {
 
-constexpr int linesHigh = 6;
+constexpr int linesOfLight = 6;
 const QColor ground(0x20, 0x22, 0x25);
 const QColor writing(0xd0, 0xd0, 0xd0);
 
@@ -109,7 +109,7 @@ void LightDiagram::setLight(const NxSpotLight& light)
 
 QSize LightDiagram::sizeHint() const
 {
-    const int height = linesHigh * fontMetrics().height();
+    const int height = linesOfLight * fontMetrics().height();
     return {2 * height, height};
 }
 

@@ -11,11 +11,11 @@ namespace nodes {
 
 namespace {
 
-constexpr int linesHigh = 7;
-constexpr int leastLinesHigh = 4;
+constexpr int linesOfSphere = 7;
+constexpr int leastLinesOfSphere = 4;
 /// From the upper left, towards the viewer.
-const VbVec3d toLamp(-0.4082482904638630, 0.4082482904638630, 0.8164965809277260);
-const VbVec3d toEye(0, 0, 1);
+const VbVec3d lampDirection(-0.4082482904638630, 0.4082482904638630, 0.8164965809277260);
+const VbVec3d eyeDirection(0, 0, 1);
 
 } // namespace
 
@@ -33,13 +33,13 @@ void MaterialSphere::setMaterial(const NxMaterial& material)
 
 QSize MaterialSphere::sizeHint() const
 {
-    const int side = linesHigh * fontMetrics().height();
+    const int side = linesOfSphere * fontMetrics().height();
     return {side, side};
 }
 
 QSize MaterialSphere::minimumSizeHint() const
 {
-    const int side = leastLinesHigh * fontMetrics().height();
+    const int side = leastLinesOfSphere * fontMetrics().height();
     return {side, side};
 }
 
@@ -62,7 +62,7 @@ QImage MaterialSphere::picture(int side) const
                 continue;
             const double inside = std::min(distance, 1.0) / std::max(distance, 1e-30);
             const VbVec3d normal(x * inside, y * inside, std::sqrt(std::max(1 - distance * distance, 0.0)));
-            const VbColor color = m_look->colorAt(normal, toEye, toLamp);
+            const VbColor color = m_look->colorAt(normal, eyeDirection, lampDirection);
             const auto opacity = static_cast<float>(m_look->opacity() * cover);
             pixels[column] = QColor::fromRgbF(color[0], color[1], color[2], opacity).rgba();
         }

@@ -9,7 +9,7 @@ namespace nodes {
 
 namespace {
 
-constexpr std::size_t columns = 4;
+constexpr std::size_t matrixColumns = 4;
 
 } // namespace
 
@@ -22,16 +22,16 @@ MatrixGrid::MatrixGrid()
         m_elements[i] = new QLabel;
         m_elements[i]->setAlignment(Qt::AlignRight);
         m_elements[i]->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        m_elements[i]->setObjectName(QStringLiteral("element%1%2").arg(i / columns).arg(i % columns));
-        grid->addWidget(m_elements[i], static_cast<int>(i / columns), static_cast<int>(i % columns));
+        m_elements[i]->setObjectName(QStringLiteral("element%1%2").arg(i / matrixColumns).arg(i % matrixColumns));
+        grid->addWidget(m_elements[i], static_cast<int>(i / matrixColumns), static_cast<int>(i % matrixColumns));
     }
-    grid->setColumnStretch(static_cast<int>(columns), 1);
+    grid->setColumnStretch(static_cast<int>(matrixColumns), 1);
 }
 
 void MatrixGrid::setMatrix(const VbMatrix& matrix)
 {
     for (std::size_t i = 0; i < m_elements.size(); ++i)
-        m_elements[i]->setText(numberText(static_cast<double>(matrix[i / columns][i % columns])));
+        m_elements[i]->setText(numberText(static_cast<double>(matrix[i / matrixColumns][i % matrixColumns])));
 }
 
 } // namespace nodes

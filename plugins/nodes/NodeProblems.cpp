@@ -12,7 +12,7 @@ namespace nodes {
 
 namespace {
 
-constexpr auto slice = 2ms;
+constexpr auto sliceOfCheck = 2ms;
 
 } // namespace
 
@@ -44,7 +44,7 @@ void NodeProblems::advance()
 {
     if (m_check == nullptr)
         return;
-    if (m_check->step(slice) != NxSceneCheck::State::Done) {
+    if (m_check->step(sliceOfCheck) != NxSceneCheck::State::Done) {
         m_timer.start(0, this);
         return;
     }

@@ -16,7 +16,7 @@ namespace nodes {
 
 namespace {
 
-constexpr std::size_t angle = 3; // behind x, y and z
+constexpr std::size_t angleLine = 3; // behind x, y and z
 
 /// Angles within this are those of rounding.
 double rounded(double degrees)
@@ -48,7 +48,7 @@ RotationRow::RotationRow()
         grid->addWidget(m_lines[i], 1, static_cast<int>(2 * i + 1));
         connect(m_lines[i], &QLineEdit::editingFinished, this, &RotationRow::take);
     }
-    m_lines[angle]->setAccessibleName(tr("angle in degrees"));
+    m_lines[angleLine]->setAccessibleName(tr("angle in degrees"));
     connect(m_form, &QComboBox::activated, this, &RotationRow::showNumbers);
     showNumbers();
 }
@@ -77,13 +77,13 @@ void RotationRow::setRotation(const VbRotation& rotation)
 
 void RotationRow::showNumbers()
 {
-    m_names[angle]->setVisible(!isEuler());
-    m_lines[angle]->setVisible(!isEuler());
+    m_names[angleLine]->setVisible(!isEuler());
+    m_lines[angleLine]->setVisible(!isEuler());
     const meridane::EulerDegrees turns = meridane::toEuler(m_rotation);
     const VbVec3f axis = m_rotation.getAxis();
-    for (std::size_t i = 0; i < angle; ++i)
+    for (std::size_t i = 0; i < angleLine; ++i)
         m_lines[i]->setText(numberText(isEuler() ? rounded(turns[i]) : static_cast<double>(axis[i])));
-    m_lines[angle]->setText(
+    m_lines[angleLine]->setText(
         numberText(rounded(static_cast<double>(m_rotation.getAngle()) * meridane::degreesOfRadian)));
     for (QLineEdit* const line : m_lines)
         line->setCursorPosition(0);
@@ -112,7 +112,7 @@ void RotationRow::take()
     } else {
         const auto part = [&](std::size_t i) { return static_cast<float>(numbers[i]); };
         m_rotation = VbRotation(
-            VbVec3f(part(0), part(1), part(2)), static_cast<float>(numbers[angle] / meridane::degreesOfRadian));
+            VbVec3f(part(0), part(1), part(2)), static_cast<float>(numbers[angleLine] / meridane::degreesOfRadian));
     }
     Q_EMIT rotationEdited();
 }

@@ -8,8 +8,8 @@ namespace nodes {
 
 namespace {
 
-constexpr int linesHigh = 8;
-constexpr int leastLinesHigh = 3;
+constexpr int linesOfPicture = 8;
+constexpr int leastLinesOfPicture = 3;
 
 } // namespace
 
@@ -29,13 +29,13 @@ void TexturePicture::setPicture(const QImage& image, const QString& otherwise)
 QSize TexturePicture::sizeHint() const
 {
     const int line = fontMetrics().height();
-    return {linesHigh * line, (m_image.isNull() ? leastLinesHigh : linesHigh) * line};
+    return {linesOfPicture * line, (m_image.isNull() ? leastLinesOfPicture : linesOfPicture) * line};
 }
 
 QSize TexturePicture::minimumSizeHint() const
 {
     const int line = fontMetrics().height();
-    return {leastLinesHigh * line, leastLinesHigh * line};
+    return {leastLinesOfPicture * line, leastLinesOfPicture * line};
 }
 
 void TexturePicture::paintEvent(QPaintEvent* /*event*/)

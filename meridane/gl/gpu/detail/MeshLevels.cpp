@@ -27,7 +27,7 @@ void MeshLevels::want(MeshRecord& mesh)
     if (mesh.reduction != nullptr || mesh.mesh() == nullptr || mesh.shape.vertexCount < leastVertices)
         return;
     mesh.reduction = std::make_unique<MeshReduction>();
-    const std::size_t corners = static_cast<std::size_t>(effectiveField(mesh.mesh()->indices).getNum());
+    const auto corners = static_cast<std::size_t>(effectiveField(mesh.mesh()->indices).getNum());
     const std::size_t bytes = mesh.shape.vertexCount * 2 * sizeof(VbVec3f) + corners * sizeof(std::uint32_t);
     if (bytes > mostBytesOfMesh)
         return;
@@ -101,7 +101,7 @@ void MeshLevels::takeResults()
 void MeshLevels::start(MeshRecord& mesh)
 {
     m_copying.mesh = &mesh;
-    const std::size_t indices = static_cast<std::size_t>(effectiveField(mesh.mesh()->indices).getNum());
+    const auto indices = static_cast<std::size_t>(effectiveField(mesh.mesh()->indices).getNum());
     m_copying.copy.corners = cornersOf(mesh.shape.primitive);
     m_copying.copy.positions.reserve(mesh.shape.vertexCount);
     if (mesh.shape.hasNormals)
