@@ -128,8 +128,7 @@ private Q_SLOTS:
             }
             return QString();
         };
-        QTest::qWaitFor([&cut] { return cut().isEmpty(); }, 3000);
-        QCOMPARE(cut(), QString());
+        QTRY_COMPARE(cut(), QString());
     }
 
     void escapeRestoresAnUnfinishedLine_data()
