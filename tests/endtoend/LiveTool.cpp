@@ -279,6 +279,11 @@ void LiveTool::dragAndHold(const QPoint& from, const QPoint& to)
     xdotool(commands);
 }
 
+void LiveTool::moveTo(const QPoint& position)
+{
+    xdotool({QStringLiteral("mousemove"), QString::number(position.x()), QString::number(position.y())});
+}
+
 void LiveTool::release()
 {
     xdotool({QStringLiteral("mouseup"), QStringLiteral("1")});

@@ -53,6 +53,7 @@ public:
     void drag(const QPoint& from, const QPoint& to);
     /// The same without the release.
     void dragAndHold(const QPoint& from, const QPoint& to);
+    void moveTo(const QPoint& position);
     void release();
     /// Turns the wheel by so many notches at that point, upwards for more than 0.
     void turnWheel(const QPoint& position, int notches);

@@ -28,7 +28,16 @@ private:
         typeInto(line, text);
         m_tool->key(QStringLiteral("Return"));
     }
-    [[nodiscard]] QString counts() { return m_tool->property(QStringLiteral("listCounts"), QStringLiteral("text")); }
+    /// With the digits of the desktop as those of this test.
+    [[nodiscard]] QString counts()
+    {
+        QString text = m_tool->property(QStringLiteral("listCounts"), QStringLiteral("text"));
+        for (QChar& character : text) {
+            if (character.digitValue() >= 0)
+                character = QChar(u'0' + character.digitValue());
+        }
+        return text;
+    }
 
     const QString m_table = QStringLiteral("listTable");
 

@@ -95,6 +95,31 @@ std::string unusedText(NxProblemKind kind, const ProblemFacts& problem)
     return "no mesh follows this " + what + " in its group, so it applies to nothing";
 }
 
+// Of the kinds that say the same of every node.
+const char* fixedText(NxProblemKind kind)
+{
+    switch (kind) {
+    case NxProblemKind::ZeroScale:
+        return "a scale factor is 0; what it places is flat or can't be drawn";
+    case NxProblemKind::ZeroAxis:
+        return "its axis has length 0, so it has no direction";
+    case NxProblemKind::SingularMatrix:
+        return "its matrix can't be inverted; what it places is flat or can't be drawn";
+    case NxProblemKind::NoPositions:
+        return "it has no positions to draw";
+    case NxProblemKind::NoImage:
+        return "it has neither an image nor an image file; surfaces are drawn without it";
+    case NxProblemKind::CameraDistances:
+        return "its far distance isn't greater than its near distance, so it sees nothing";
+    case NxProblemKind::EmptyGroup:
+        return "it has no children";
+    case NxProblemKind::UnknownClass:
+        return "its class isn't known here; it is kept as it is";
+    default:
+        return "";
+    }
+}
+
 } // namespace
 
 // One long switch, so that the compiler finds a kind without a text.
@@ -105,14 +130,6 @@ std::string problemText(NxProblemKind kind, const ProblemFacts& problem)
         return valuesText(problem, "isn't a finite number", "aren't finite numbers");
     case NxProblemKind::OutOfRange:
         return valuesText(problem, "is out of range", "are out of range") + ", " + std::string(problem.detail);
-    case NxProblemKind::ZeroScale:
-        return "a scale factor is 0; what it places is flat or can't be drawn";
-    case NxProblemKind::ZeroAxis:
-        return "its axis has length 0, so it has no direction";
-    case NxProblemKind::SingularMatrix:
-        return "its matrix can't be inverted; what it places is flat or can't be drawn";
-    case NxProblemKind::NoPositions:
-        return "it has no positions to draw";
     case NxProblemKind::PositionNotFinite:
         return partText(problem, "positions are no finite numbers");
     case NxProblemKind::IndexOutOfRange:
@@ -135,12 +152,8 @@ std::string problemText(NxProblemKind kind, const ProblemFacts& problem)
         return "the file '" + std::string(problem.detail) + "' doesn't exist";
     case NxProblemKind::UnreadableFile:
         return "the file " + std::string(problem.detail);
-    case NxProblemKind::NoImage:
-        return "it has neither an image nor an image file; surfaces are drawn without it";
     case NxProblemKind::ImageTooLarge:
         return largeImageText(problem);
-    case NxProblemKind::CameraDistances:
-        return "its far distance isn't greater than its near distance, so it sees nothing";
     case NxProblemKind::LightWithoutEffect:
         return "it is on, but " + std::string(problem.detail) + ", so it lights nothing";
     case NxProblemKind::TooManyLights:
@@ -154,10 +167,15 @@ std::string problemText(NxProblemKind kind, const ProblemFacts& problem)
     case NxProblemKind::UnusedLight:
     case NxProblemKind::UnusedComplexity:
         return unusedText(kind, problem);
+    case NxProblemKind::ZeroScale:
+    case NxProblemKind::ZeroAxis:
+    case NxProblemKind::SingularMatrix:
+    case NxProblemKind::NoPositions:
+    case NxProblemKind::NoImage:
+    case NxProblemKind::CameraDistances:
     case NxProblemKind::EmptyGroup:
-        return "it has no children";
     case NxProblemKind::UnknownClass:
-        return "its class isn't known here; it is kept as it is";
+        return fixedText(kind);
     }
     return {};
 }

@@ -11,6 +11,12 @@
 #include <QMenuBar>
 #include <QToolBar>
 
+namespace {
+
+constexpr const char* mayBeEmpty = "mayBeEmpty";
+
+} // namespace
+
 ViewMenu::ViewMenu(QMainWindow* window, ViewActions* actions, CameraMenu* cameras)
     : QObject(window)
     , m_window(window)
@@ -41,9 +47,17 @@ void ViewMenu::update()
     }
 }
 
-// The docks of extensions may have nothing to show for what is selected. An empty dock would be a bare title bar.
+void ViewMenu::setMayBeEmpty(QDockWidget& dock)
+{
+    dock.setProperty(mayBeEmpty, true);
+}
+
+// An empty dock would be a bare title bar.
 void ViewMenu::addDockSwitch(QDockWidget* dock)
 {
+    addSwitch(dock->toggleViewAction(), *dock);
+    if (!dock->property(mayBeEmpty).toBool())
+        return;
     const auto updateSwitch = [dock] {
         const bool isEmpty = dock->widget() == nullptr;
         orvane::setReason(
@@ -55,7 +69,6 @@ void ViewMenu::addDockSwitch(QDockWidget* dock)
         connect(dock, &QDockWidget::visibilityChanged, this, updateSwitch);
         connect(dock, &QObject::destroyed, this, [this, dock] { m_watched.remove(dock); });
     }
-    addSwitch(dock->toggleViewAction(), *dock);
 }
 
 // Docks of extensions too, whose actions have no name of their own.

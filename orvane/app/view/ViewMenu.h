@@ -25,6 +25,8 @@ public:
     void append(const QList<QAction*>& actions) { m_appended.append(actions); }
     /// Lists what there is now.
     void update();
+    /// To be called for a dock whose widget comes and goes with the selection. While it has none, it can't be shown.
+    static void setMayBeEmpty(QDockWidget& dock);
 
 private:
     void addDockSwitch(QDockWidget* dock);
@@ -35,5 +37,5 @@ private:
     CameraMenu* m_cameras;
     QMenu* m_menu;
     QList<QList<QAction*>> m_appended;
-    QSet<QObject*> m_watched; // docks
+    QSet<QObject*> m_watched; // docks that may be empty
 };

@@ -1,6 +1,7 @@
 #include "orvane/app/window/WindowShell.h"
 
 #include "orvane/app/base/TextGuard.h"
+#include "orvane/app/view/ViewMenu.h"
 #include "orvane/extender/OrvPluginsManager.h"
 
 #include <QDockWidget>
@@ -47,6 +48,7 @@ void WindowShell::addDockWidget(QDockWidget* dock, int area)
     if (dock == nullptr || m_docks.contains(dock))
         return;
     TextGuard::guard(dock);
+    ViewMenu::setMayBeEmpty(*dock);
     giveName(dock, dock->windowTitle(), tr("a dock of it has neither a title nor a name, so its place may get lost"));
     const bool hidden = isHiddenOnPurpose(dock);
     m_docks.append(dock);

@@ -1,3 +1,4 @@
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/view/ViewMenu.h"
 #include "orvane/app/window/WindowShell.h"
 
@@ -121,6 +122,28 @@ private Q_SLOTS:
         QVERIFY(menu->actions().contains(m_dock->toggleViewAction()));
         m_shell->removeDockWidget(m_dock.get());
         QVERIFY(!menu->actions().contains(m_dock->toggleViewAction()));
+    }
+
+    void anEmptyDockOfAnExtensionCantBeShown()
+    {
+        ViewMenu view(m_window.get());
+        connect(m_shell.get(), &WindowShell::contentChanged, &view, &ViewMenu::update);
+        QDockWidget own(m_window.get());
+        m_window->addDockWidget(Qt::LeftDockWidgetArea, &own);
+        m_dock->hide();
+        m_shell->addDockWidget(m_dock.get(), Qt::RightDockWidgetArea);
+        const QAction* const action = m_dock->toggleViewAction();
+        QVERIFY(!action->isEnabled());
+        QCOMPARE(orvane::reasonOf(*action), QStringLiteral("It has nothing to show for what is selected."));
+        QVERIFY(own.toggleViewAction()->isEnabled());
+        m_window->show();
+        m_dock->setWidget(new QLineEdit);
+        m_dock->show();
+        QVERIFY(action->isEnabled());
+        QCOMPARE(orvane::reasonOf(*action), QString());
+        m_dock->setWidget(nullptr);
+        m_dock->hide();
+        QVERIFY(!action->isEnabled());
     }
 
 private:
