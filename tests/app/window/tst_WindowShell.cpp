@@ -130,7 +130,7 @@ private Q_SLOTS:
         connect(m_shell.get(), &WindowShell::contentChanged, &view, &ViewMenu::update);
         QDockWidget own(m_window.get());
         m_window->addDockWidget(Qt::LeftDockWidgetArea, &own);
-        m_dock->hide();
+        delete m_dock->widget();
         m_shell->addDockWidget(m_dock.get(), Qt::RightDockWidgetArea);
         const QAction* const action = m_dock->toggleViewAction();
         QVERIFY(!action->isEnabled());
