@@ -15,7 +15,7 @@ namespace {
 // The plug-in that an address is part of, by its file name, or the tool.
 QString ownerOf(const void* address)
 {
-    const QString tool = QStringLiteral("the tool itself");
+    QString tool = QStringLiteral("the tool itself");
     Dl_info info;
     if (::dladdr(address, &info) == 0 || info.dli_fname == nullptr)
         return tool;

@@ -17,15 +17,21 @@ public:
     /// For a window without a scene.
     void clear() { m_current = 0; }
 
-    /// Marks a scene, in place of the mark that it has from a file.
+    /// Gives a scene a mark of its own.
     void mark(NxGroup* scene)
+    {
+        static int last = 0;
+        m_current = ++last;
+        renew(scene);
+    }
+
+    /// Puts its mark in place of the one that it has from a file.
+    void renew(NxGroup* scene) const
     {
         for (int index = scene->getNumChildren() - 1; index >= 0; --index) {
             if (orvane::toQString(scene->getChild(index)->getName()).startsWith(prefix()))
                 scene->removeChild(index);
         }
-        static int last = 0;
-        m_current = ++last;
         const NxRef<NxGroup> node(new NxGroup);
         // Twice, since a random edit of the name could make it that of another scene.
         node->setName(orvane::toVbString(prefix() + QStringLiteral("%1-%1z").arg(m_current)));

@@ -44,6 +44,10 @@ void WindowMonkey::makeWindow()
     m_session = std::make_unique<Session>(AppSettings::Mode::File, m_files.path("orvane.ini"));
     m_window = std::make_unique<MainWindow>(*m_session);
     connect(&m_session->document(), &SceneDocument::sceneChanged, this, &WindowMonkey::takeNewScene);
+    connect(flow(), &FileFlow::reloaded, this, [this] {
+        m_marks.renew(scene());
+        m_session->services().clearHistory();
+    });
     m_session->loadPlugins(OrvPluginsManager::findPlugins(orvane::pluginFolders()));
     m_session->loadProfiles({QStringLiteral(ORVANE_PROFILES)});
     QVERIFY(m_session->activateProfile({}));
