@@ -48,8 +48,7 @@ std::vector<int> presentPlaces(const NxGroup& group, std::span<const NxRef<NxNod
             present.push_back(place->second);
     }
     std::ranges::sort(present);
-    const auto rest = std::ranges::unique(present);
-    present.erase(rest.begin(), rest.end());
+    present.erase(std::unique(present.begin(), present.end()), present.end());
     return present;
 }
 

@@ -32,8 +32,7 @@ std::vector<RowGroups::Group> RowGroups::take()
     for (Group& group : groups) {
         if (!std::ranges::is_sorted(group.rows))
             std::ranges::sort(group.rows);
-        const auto rest = std::ranges::unique(group.rows);
-        group.rows.erase(rest.begin(), rest.end());
+        group.rows.erase(std::unique(group.rows.begin(), group.rows.end()), group.rows.end());
     }
     return groups;
 }
