@@ -170,6 +170,26 @@ private Q_SLOTS:
         QTRY_COMPARE(QApplication::palette().color(QPalette::PlaceholderText) == placeholder, isKept);
         QApplication::setPalette(before);
     }
+
+    void everyOtherRowIsReadable()
+    {
+        const QPalette before = QApplication::palette();
+        QPalette palette;
+        palette.setColor(QPalette::Base, QColor(27, 30, 32));
+        palette.setColor(QPalette::Text, QColor(239, 240, 241));
+        palette.setColor(QPalette::AlternateBase, Qt::white);
+        QApplication::setPalette(palette);
+        const ReadablePalette readable(qApp);
+        const QColor alternate = QApplication::palette().color(QPalette::AlternateBase);
+        QVERIFY(contrast(QColor(239, 240, 241), alternate) >= textContrast);
+        QVERIFY(alternate != QColor(27, 30, 32));
+        const QColor own(40, 44, 52);
+        palette.setColor(QPalette::AlternateBase, own);
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        QCOMPARE(QApplication::palette().color(QPalette::AlternateBase), own);
+        QApplication::setPalette(before);
+    }
 };
 
 QTEST_MAIN(TestLook)
