@@ -222,8 +222,11 @@ void FieldPanel::unfoldGroups()
         m_view->setExpanded(group, isFiltered || !m_settings.isFolded(m_model->group(group)->key));
     }
     const bool isEmpty = m_model->node() != nullptr && m_model->rowCount() == 0;
-    if (isEmpty)
-        m_nothing->setText(isFiltered ? tr("No field fits the filter.") : tr("These nodes have no field in common."));
+    if (isEmpty) {
+        const QString reason = m_model->nodeCount() > 1 ? tr("These nodes have no field in common.")
+                                                        : tr("Nodes of this class have no fields.");
+        m_nothing->setText(isFiltered ? tr("No field fits the filter.") : reason);
+    }
     m_nothing->setVisible(isEmpty);
 }
 

@@ -45,6 +45,16 @@ private Q_SLOTS:
         QCOMPARE(m_many->services().undoDepth(), steps + 1);
     }
 
+    void aNodeWithoutFieldsSaysSo()
+    {
+        openLights();
+        const NxRef<NxGroup> group(new NxGroup);
+        m_panel->setNode(group.get());
+        const auto* const label = m_panel->findChild<QLabel*>(u"noFieldFound"_s);
+        QVERIFY(label->isVisible());
+        QCOMPARE(label->text(), u"Nodes of this class have no fields."_s);
+    }
+
     void aClickOnTheSignIgnoresTheFieldAndUsesItAgain()
     {
         openLights();
