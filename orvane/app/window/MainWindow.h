@@ -28,6 +28,7 @@ class SceneRecovery;
 class SceneTreePanel;
 class SceneView;
 class Session;
+class WindowLayout;
 class WindowShell;
 
 /// The tool's window: the view of the scene, the scene tree, the fields of the selected node, and what extensions add.
@@ -86,8 +87,6 @@ private:
     void showDocument();
     void connectReload();
     void reportSettled(const orvane::Result<>& result);
-    void saveLayout();
-    void restoreLayout();
 
     Session& m_session;
     std::unique_ptr<ErrorRelay> m_errorRelay;
@@ -100,13 +99,13 @@ private:
     FieldPanel* m_fields;
     SceneTreePanel* m_tree;
     Inspectors* m_inspectors = nullptr;
+    WindowLayout* m_layout = nullptr;
     JobBar* m_jobBar;
     ComparisonDock* m_comparison = nullptr; // made for the first comparison
     FileFlow* m_files = nullptr;
     FileMenu* m_fileMenu = nullptr;
     DiskChangeBar* m_diskChange = nullptr;
     std::unique_ptr<SceneRecovery> m_recovery; // once it is started
-    bool m_layoutRestored = false;
     bool m_mayClose = false;
     bool m_insideClose = false;
 };

@@ -1,0 +1,152 @@
+// What the main window consists of, and how the parts are connected.
+#include "orvane/app/actions/WindowActions.h"
+#include "orvane/app/fields/FieldPanel.h"
+#include "orvane/app/files/FileFlow.h"
+#include "orvane/app/files/FileMenu.h"
+#include "orvane/app/files/JobBar.h"
+#include "orvane/app/files/RecentFiles.h"
+#include "orvane/app/find/TreeFinder.h"
+#include "orvane/app/history/StepTravel.h"
+#include "orvane/app/images/ImageFolderQuestion.h"
+#include "orvane/app/inspect/Inspectors.h"
+#include "orvane/app/inspect/NodeMenu.h"
+#include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/manners/EditorManners.h"
+#include "orvane/app/messages/MessageBar.h"
+#include "orvane/app/plugins/PluginActions.h"
+#include "orvane/app/scene/Session.h"
+#include "orvane/app/structure/NodeActions.h"
+#include "orvane/app/tree/SceneTreeModel.h"
+#include "orvane/app/tree/SceneTreePanel.h"
+#include "orvane/app/tree/SelectionStatus.h"
+#include "orvane/app/tree/TreeActions.h"
+#include "orvane/app/tree/TreeMemory.h"
+#include "orvane/app/view/CameraMenu.h"
+#include "orvane/app/view/HidingActions.h"
+#include "orvane/app/view/SceneView.h"
+#include "orvane/app/view/ViewActions.h"
+#include "orvane/app/view/ViewLink.h"
+#include "orvane/app/view/ViewMenu.h"
+#include "orvane/app/view/display/DisplayMenu.h"
+#include "orvane/app/view/handles/ViewHandles.h"
+#include "orvane/app/view/marks/MarkedRows.h"
+#include "orvane/app/view/measure/MeasureTool.h"
+#include "orvane/app/view/navigation/NavigationActions.h"
+#include "orvane/app/view/picture/PictureExport.h"
+#include "orvane/app/window/CentralArea.h"
+#include "orvane/app/window/DiskChangeBar.h"
+#include "orvane/app/window/DockHeights.h"
+#include "orvane/app/window/EditMenu.h"
+#include "orvane/app/window/HelpMenu.h"
+#include "orvane/app/window/HistoryDock.h"
+#include "orvane/app/window/KeptColumns.h"
+#include "orvane/app/window/ListDock.h"
+#include "orvane/app/window/MainWindow.h"
+#include "orvane/app/window/ProblemsDock.h"
+#include "orvane/app/window/ReloadedTree.h"
+#include "orvane/app/window/ReturnedNodes.h"
+#include "orvane/app/window/SceneDrops.h"
+#include "orvane/app/window/WindowShell.h"
+
+#include <QDockWidget>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include <chrono>
+#include <functional>
+
+namespace {
+
+constexpr int treeWidth = 330;
+
+} // namespace
+
+void MainWindow::buildDocks()
+{
+    auto* dock = new QDockWidget(tr("Scene"), this);
+    dock->setObjectName(QStringLiteral("sceneDock"));
+    dock->setWidget(m_tree);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    // Above the docks of extensions that edit the field that is chosen here.
+    auto* fieldsDock = new QDockWidget(tr("Fields"), this);
+    fieldsDock->setObjectName(QStringLiteral("fieldsDock"));
+    fieldsDock->setWidget(m_fields);
+    addDockWidget(Qt::RightDockWidgetArea, fieldsDock);
+    resizeDocks({dock, fieldsDock}, {treeWidth, WindowShell::widthAtSide(*this)}, Qt::Horizontal);
+    m_inspectors = new Inspectors(m_session, m_tree, m_fields, this);
+    auto* travel = new StepTravel(m_session.services(), this);
+    new HistoryDock(m_session, *travel, *m_messages, this);
+    auto* lists = new ListDock(m_session, this);
+    lists->follow(*m_fields, *m_inspectors);
+    new DockHeights(*m_shell, m_session.services(), m_session.settings(), this);
+    auto* problems = new ProblemsDock(m_session, *m_imageFolders, *m_jobBar, m_tree, this);
+    connect(problems, &ProblemsDock::rowChosen, lists, &ListDock::showRow);
+    new SelectionStatus(m_session, m_tree, statusBar());
+    new TreeMemory(m_session, m_tree);
+    new ViewLink(m_session, m_view, m_tree, statusBar());
+    connect(lists, &ListDock::panelMade, new MarkedRows(m_view, m_tree), &MarkedRows::follow);
+    statusBar()->addPermanentWidget(m_jobBar);
+    connect(m_tree->model(), &QAbstractItemModel::dataChanged, m_fields, &FieldPanel::updateHeading);
+}
+
+void MainWindow::buildMenus()
+{
+    m_files = new FileFlow(m_session, *m_recent, *m_messages, *m_jobBar, this);
+    connect(m_files, &FileFlow::ended, this, &MainWindow::reportSettled, Qt::QueuedConnection);
+    connect(m_files, &FileFlow::readToCompare, this, &MainWindow::compareWith);
+    connect(m_central, &CentralArea::openRequested, m_files, &FileFlow::chooseFileToOpen);
+    connect(m_central, &CentralArea::newRequested, m_files, &FileFlow::newScene);
+    connect(m_central, &CentralArea::fileChosen, this, [this](const QString& fileName) { openFile(fileName); });
+    connectReload();
+    m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
+    auto* editMenu = new EditMenu(this, m_session, m_tree);
+    new TreeFinder(
+        m_session, *m_imageFolders, m_tree, std::bind_front(&SelectionLink::browse, &m_inspectors->link()), this);
+    m_view->addActions(editMenu->nodeActions());
+    new SceneDrops(m_session, *m_files, m_tree, m_view, editMenu->nodes(), *m_messages);
+    new ReturnedNodes(m_session.services(), *findChild<StepTravel*>(), m_tree, editMenu->nodes().editor().selections());
+    auto* cameras = new CameraMenu(m_view, document());
+    auto* viewMenu = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), cameras);
+    auto* navigation
+        = new NavigationActions(m_view, m_session, m_tree, editMenu->nodes().editor(), *cameras, statusBar());
+    auto* hiding = new HidingActions(m_view, m_tree, statusBar());
+    new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodes(),
+        editMenu->nodeActions() + hiding->nodeActions());
+    const auto* actions = new WindowActions(
+        this, m_session, {m_tree, m_fields, *m_inspectors, *m_files, *m_recent, *cameras, navigation->bookmarks()});
+    const auto* const help = new HelpMenu(this, *m_shell, actions->keysAction());
+    new PluginActions(m_session.pluginLoader(), *m_messages, help->menu(), this);
+    new EditorManners(this, m_session.services(), m_fields);
+    connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);
+
+    QToolBar* toolBar = addToolBar(tr("File and Edit"));
+    toolBar->setObjectName(QStringLiteral("mainToolBar"));
+    toolBar->addActions(m_fileMenu->toolBarActions());
+    toolBar->addSeparator();
+    toolBar->addActions(editMenu->toolBarActions());
+    m_inspectors->addToolBar();
+    viewMenu->append((new ViewHandles(m_session, m_view, m_tree))->menuActions());
+    viewMenu->append(hiding->actions() + (new TreeActions(m_tree, statusBar()))->menuActions());
+    viewMenu->append(m_inspectors->menuActions());
+    viewMenu->append(
+        {(new DisplayMenu(m_view, m_session))->menuAction(), (new MeasureTool(m_view, m_session))->action()});
+    const auto* const pictures
+        = new PictureExport(m_view, {m_session, *cameras, navigation->bookmarks(), *m_messages, statusBar()});
+    viewMenu->append(navigation->menuActions() + QList{pictures->action()});
+    viewMenu->append({m_imageFolders->forgetAction()});
+    viewMenu->update();
+    new KeptColumns(this, m_session.settings());
+}
+
+void MainWindow::connectReload()
+{
+    m_diskChange = new DiskChangeBar(document(), *m_files, *m_messages, this);
+    m_inspectors->followReloads(*m_files);
+    new ReloadedTree(*m_files, document(), m_session.services(), m_tree, this);
+    const auto say = [this](const QString& text) {
+        constexpr std::chrono::seconds shown(10);
+        statusBar()->showMessage(text, static_cast<int>(std::chrono::milliseconds(shown).count()));
+    };
+    connect(m_files, &FileFlow::reloaded, this, say);
+    connect(m_files, &FileFlow::noted, this, say);
+}
