@@ -5,6 +5,7 @@
 #include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/PictureRun.h"
 #include "orvane/app/command_line/StandardOutput.h"
+#include "orvane/app/language/Language.h"
 #include "orvane/app/recovery/RecoveryFolder.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
@@ -37,6 +38,9 @@ int WindowRun::run()
         return m_commandLine.failureStatus();
     }
     Session session(m_commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
+    // Before the first widget, so that no text is set twice.
+    orvane::Language::use(
+        session.settings().value(QStringLiteral("look/language"), QString(orvane::Language::system)).toString());
     MainWindow window(session);
     prepare(session, window);
     if (!takesPicture())
