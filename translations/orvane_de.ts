@@ -5,5182 +5,5183 @@
     <name>ActionKeys</name>
     <message>
         <source>Press a key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Taste drücken.</translation>
     </message>
     <message>
         <source>%1 is needed to move in the window and its tables.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird gebraucht, um sich im Fenster und in seinen Tabellen zu bewegen.</translation>
     </message>
     <message>
         <source>%1 opens a menu.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 öffnet ein Menü.</translation>
     </message>
     <message>
         <source>%1 is needed for typing. Add Ctrl or Alt.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird zum Schreiben gebraucht. Strg oder Alt dazunehmen.</translation>
     </message>
 </context>
 <context>
     <name>ActionList</name>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 anzeigen</translation>
     </message>
 </context>
 <context>
     <name>ActionSource</name>
     <message>
         <source>Command palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Befehlspalette</translation>
     </message>
     <message>
         <source>Letters of a command</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstaben eines Befehls</translation>
     </message>
     <message>
         <source>No command has these letters in this order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Befehl enthält diese Buchstaben in dieser Reihenfolge.</translation>
     </message>
     <message>
         <source>%1 (on)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (ein)</translation>
     </message>
     <message>
         <source>%1 (off)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (aus)</translation>
     </message>
     <message>
         <source>This can&apos;t be done now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist gerade nicht möglich.</translation>
     </message>
 </context>
 <context>
     <name>AddNodeDialog</name>
     <message>
         <source>Add Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten hinzufügen</translation>
     </message>
     <message>
         <source>Words of the class or its description</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter der Klasse oder ihrer Beschreibung</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtern</translation>
     </message>
     <message>
         <source>Classes</source>
-        <translation type="unfinished"></translation>
+        <translation>Klassen</translation>
     </message>
     <message>
         <source>Class</source>
-        <translation type="unfinished"></translation>
+        <translation>Klasse</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>BookmarkDialog</name>
     <message>
         <source>&amp;Go To</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Springen</translation>
     </message>
     <message>
         <source>Looks from where the bookmark was set</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Szene von dort, wo das Lesezeichen gesetzt wurde</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen</translation>
     </message>
     <message>
         <source>Gives the bookmark another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt dem Lesezeichen einen anderen Namen</translation>
     </message>
     <message>
         <source>Set to the &amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf die &amp;Ansicht setzen</translation>
     </message>
     <message>
         <source>The bookmark becomes what the view shows now</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesezeichen wird zu dem, was die Ansicht jetzt zeigt</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>Removes the bookmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt das Lesezeichen</translation>
     </message>
     <message>
         <source>Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesezeichen</translation>
     </message>
 </context>
 <context>
     <name>BookmarkMenu</name>
     <message>
         <source>Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesezeichen</translation>
     </message>
     <message>
         <source>&amp;Add Bookmark…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesezeichen &amp;hinzufügen…</translation>
     </message>
     <message>
         <source>Keeps from where the view looks now</source>
-        <translation type="unfinished"></translation>
+        <translation>Merkt sich, von wo die Ansicht jetzt blickt</translation>
     </message>
     <message>
         <source>&amp;Edit Bookmarks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesezeichen &amp;bearbeiten…</translation>
     </message>
     <message>
         <source>Renames, changes and removes the bookmarks of the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Benennt Lesezeichen der Szene um, ändert und entfernt sie</translation>
     </message>
     <message>
         <source>Looks from where this bookmark was set</source>
-        <translation type="unfinished"></translation>
+        <translation>Blickt von dort, wo dieses Lesezeichen gesetzt wurde</translation>
     </message>
     <message>
         <source>&amp;%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;%1 %2</translation>
     </message>
     <message>
         <source>The scene has no bookmarks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene hat keine Lesezeichen.</translation>
     </message>
     <message>
         <source>A scene has %1 bookmarks at most. Remove one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Szene hat höchstens %1 Lesezeichen. Zuerst eines entfernen.</translation>
     </message>
     <message>
         <source>No scene is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet.</translation>
     </message>
     <message>
         <source>Add Bookmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesezeichen hinzufügen</translation>
     </message>
     <message>
         <source>Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
 </context>
 <context>
     <name>CameraActions</name>
     <message>
         <source>New &amp;Camera from the View</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue &amp;Kamera aus der Ansicht</translation>
     </message>
     <message>
         <source>Adds a camera to the scene that looks as the view does now</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt der Szene eine Kamera hinzu, die so blickt wie jetzt die Ansicht</translation>
     </message>
     <message>
         <source>&amp;Set Camera to the View</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera auf die Ansicht &amp;setzen</translation>
     </message>
     <message>
         <source>Lets the selected camera, or the one that was looked through last, look as the view does now</source>
-        <translation type="unfinished"></translation>
+        <translation>Lässt die ausgewählte Kamera oder die, durch die zuletzt geblickt wurde, so blicken wie jetzt die Ansicht</translation>
     </message>
     <message>
         <source>No scene is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet.</translation>
     </message>
     <message>
         <source>Select a camera, or look through one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst eine Kamera auswählen oder durch eine blicken.</translation>
     </message>
     <message>
         <source>%1 of &quot;%2&quot; is ignored, so the camera can&apos;t be set. Clear its mark &quot;ignored&quot; in the field table first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von „%2“ wird ignoriert, deshalb lässt sich die Kamera nicht setzen. Zuerst in der Feldtabelle die Markierung „ignoriert“ entfernen.</translation>
     </message>
     <message>
         <source>Set %1 to the view</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 auf die Ansicht setzen</translation>
     </message>
     <message>
         <source>The camera and the view have different projections, so the camera got the place and the direction of the view alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera und Ansicht haben verschiedene Projektionen, deshalb hat die Kamera nur den Ort und die Richtung der Ansicht erhalten.</translation>
     </message>
     <message>
         <source>A group above &quot;%1&quot; makes everything flat, so the camera can&apos;t be set to the view.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Gruppe über „%1“ macht alles flach, deshalb lässt sich die Kamera nicht auf die Ansicht setzen.</translation>
     </message>
 </context>
 <context>
     <name>CameraMenu</name>
     <message>
         <source>&amp;Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kameras</translation>
     </message>
     <message>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>Frei</translation>
     </message>
 </context>
 <context>
     <name>ChoicePopup</name>
     <message>
         <source>Choices</source>
-        <translation type="unfinished"></translation>
+        <translation>Möglichkeiten</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtern</translation>
     </message>
     <message>
         <source>Filter the choices</source>
-        <translation type="unfinished"></translation>
+        <translation>Möglichkeiten filtern</translation>
     </message>
 </context>
 <context>
     <name>ColorBar</name>
     <message>
         <source>Hue</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
 </context>
 <context>
     <name>ColorPopup</name>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>Colour before and now</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe vorher und jetzt</translation>
     </message>
     <message>
         <source>R</source>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot</translation>
     </message>
     <message>
         <source>G</source>
-        <translation type="unfinished"></translation>
+        <translation>G</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün</translation>
     </message>
     <message>
         <source>B</source>
-        <translation type="unfinished"></translation>
+        <translation>B</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blau</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>H°</source>
-        <translation type="unfinished"></translation>
+        <translation>H°</translation>
     </message>
     <message>
         <source>Hue in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbton in Grad</translation>
     </message>
     <message>
         <source>S</source>
-        <translation type="unfinished"></translation>
+        <translation>S</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Sättigung</translation>
     </message>
     <message>
         <source>V</source>
-        <translation type="unfinished"></translation>
+        <translation>V</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Hellwert</translation>
     </message>
     <message>
         <source>Hexadecimal colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Hexadezimale Farbe</translation>
     </message>
     <message>
         <source>Hex</source>
-        <translation type="unfinished"></translation>
+        <translation>Hex</translation>
     </message>
     <message>
         <source>Pick from the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Bildschirm aufnehmen</translation>
     </message>
     <message>
         <source>Takes the colour of the pixel that is clicked next. Escape ends it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt die Farbe des Pixels, auf das als Nächstes geklickt wird. Esc bricht ab.</translation>
     </message>
     <message>
         <source>The colours of the screen can&apos;t be read here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farben des Bildschirms lassen sich hier nicht lesen.</translation>
     </message>
     <message>
         <source>“%1” isn&apos;t a hexadecimal colour. Needed are six digits such as #ff8000, or three.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine hexadezimale Farbe. Gebraucht werden sechs Ziffern wie #ff8000, oder drei.</translation>
     </message>
 </context>
 <context>
     <name>ColorSquare</name>
     <message>
         <source>Saturation and value</source>
-        <translation type="unfinished"></translation>
+        <translation>Sättigung und Hellwert</translation>
     </message>
 </context>
 <context>
     <name>ComparisonDock</name>
     <message>
         <source>Comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich</translation>
     </message>
 </context>
 <context>
     <name>ComparisonJob</name>
     <message>
         <source>The comparison with %1 doesn&apos;t fit in memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Vergleich mit %1 passt nicht in den Speicher.</translation>
     </message>
 </context>
 <context>
     <name>DifferenceModel</name>
     <message>
         <source>%1, ignored</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, ignoriert</translation>
     </message>
     <message>
         <source>Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten</translation>
     </message>
     <message>
         <source>Field or Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld oder Änderung</translation>
     </message>
     <message>
         <source>This Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Szene</translation>
     </message>
     <message>
         <source>Other File</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Datei</translation>
     </message>
 </context>
 <context>
     <name>DifferencePanel</name>
     <message>
         <source>Shows the rows that contain these words. not, or, brackets, &quot;texts with blanks&quot; and /regular expressions/ may be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Zeilen, die diese Wörter enthalten. not, or, Klammern, &quot;Texte mit Leerzeichen&quot; und /reguläre Ausdrücke/ sind möglich.</translation>
     </message>
     <message>
         <source>Compare Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut vergleichen</translation>
     </message>
     <message>
         <source>Compares the scene as it is now</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleicht die Szene, wie sie jetzt ist</translation>
     </message>
     <message>
         <source>Differences</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede</translation>
     </message>
     <message>
         <source>File &gt; Compare With compares the open scene with a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei &gt; Vergleichen mit vergleicht die geöffnete Szene mit einer Datei.</translation>
     </message>
     <message>
         <source>Comparing with %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich mit %1…</translation>
     </message>
     <message>
         <source>No differences: the scene and %1 are equal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Unterschiede: Die Szene und %1 sind gleich.</translation>
     </message>
     <message>
         <source>No differences from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Unterschiede zu %1</translation>
     </message>
     <message>
         <source>1 difference from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Unterschied zu %1</translation>
     </message>
     <message>
         <source>%1 differences from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Unterschiede zu %2</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>Copying %1 differences</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Unterschiede werden kopiert</translation>
     </message>
 </context>
 <context>
     <name>DiskChangeBar</name>
     <message>
         <source>%1 has changed on disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde auf dem Datenträger geändert.</translation>
     </message>
     <message>
         <source>Reload</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu laden</translation>
     </message>
     <message>
         <source>Keep Mine</source>
-        <translation type="unfinished"></translation>
+        <translation>Meine behalten</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen</translation>
     </message>
     <message>
         <source>%1 was deleted or moved. The scene is still here: save it to keep it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde gelöscht oder verschoben. Die Szene ist noch hier: Speichern Sie sie, um sie zu behalten.</translation>
     </message>
     <message>
         <source>%1 was deleted or moved. The scene is still here, and saving writes the file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde gelöscht oder verschoben. Die Szene ist noch hier, und Speichern schreibt die Datei erneut.</translation>
     </message>
     <message>
         <source>%1 was replaced by something that is no file. The scene is still here: save it under another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde durch etwas ersetzt, das keine Datei ist. Die Szene ist noch hier: Speichern Sie sie unter einem anderen Namen.</translation>
     </message>
     <message>
         <source>It can&apos;t be seen whether %1 has changed on disk, because it can&apos;t be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob %1 auf dem Datenträger geändert wurde, ist nicht zu erkennen, weil die Datei nicht lesbar ist: %2</translation>
     </message>
 </context>
 <context>
     <name>DisplayMenu</name>
     <message>
         <source>Disp&amp;lay</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Darstellung</translation>
     </message>
     <message>
         <source>&amp;Shaded</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Schattiert</translation>
     </message>
     <message>
         <source>Shows materials and textures in the light of the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt Materialien und Texturen im Licht der Szene</translation>
     </message>
     <message>
         <source>&amp;Unlit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unbeleuchtet</translation>
     </message>
     <message>
         <source>Shows materials and textures without light and shade</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt Materialien und Texturen ohne Licht und Schatten</translation>
     </message>
     <message>
         <source>&amp;Normals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Normalen</translation>
     </message>
     <message>
         <source>Shows the normals: x red, y green, z blue, from -1 dark to 1 bright</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Normalen: x rot, y grün, z blau, von -1 dunkel bis 1 hell</translation>
     </message>
     <message>
         <source>&amp;Texture Coordinates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Texturkoordinaten</translation>
     </message>
     <message>
         <source>Shows the texture coordinates as a checker, u in red and v in green</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Texturkoordinaten als Schachbrett, u in Rot und v in Grün</translation>
     </message>
     <message>
         <source>&amp;Vertex Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eckpunktfarben</translation>
     </message>
     <message>
         <source>Shows the colors of the meshes alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt nur die Farben der Netze</translation>
     </message>
     <message>
         <source>&amp;Wireframe over Surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drahtgitter über Flächen</translation>
     </message>
     <message>
         <source>Shows the sides of the triangles over the surfaces</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Seiten der Dreiecke über den Flächen</translation>
     </message>
     <message>
         <source>&amp;Head Light</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopflicht</translation>
     </message>
     <message>
         <source>Adds a light at the viewer&apos;s eye to those of the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergänzt die Lichter der Szene um eines am Auge des Betrachters</translation>
     </message>
     <message>
         <source>Other &amp;Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderer &amp;Hintergrund</translation>
     </message>
     <message>
         <source>Shows the scene on light, on dark, or as the window is, so that lines and points of any color are seen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Szene auf Hell, auf Dunkel oder wie das Fenster, sodass Linien und Punkte jeder Farbe zu sehen sind</translation>
     </message>
     <message>
         <source>Se&amp;ction Plane</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chnittebene</translation>
     </message>
     <message>
         <source>Cuts the scene open along a plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneidet die Szene an einer Ebene auf</translation>
     </message>
     <message>
         <source>St&amp;atistics</source>
-        <translation type="unfinished"></translation>
+        <translation>St&amp;atistik</translation>
     </message>
     <message>
         <source>Shows nodes, triangles, draw calls, memory and time of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt Knoten, Dreiecke, Zeichenaufrufe, Speicher und Zeit des Bildes</translation>
     </message>
 </context>
 <context>
     <name>EditMenu</name>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>Takes back the last step</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt den letzten Schritt zurück</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>Makes the step again that was taken back last</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellt den zuletzt zurückgenommenen Schritt wieder her</translation>
     </message>
     <message>
         <source>Re&amp;name Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten um&amp;benennen</translation>
     </message>
     <message>
         <source>Edits the name of the selected node in the tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeitet den Namen des ausgewählten Knotens im Baum</translation>
     </message>
     <message>
         <source>There is no such step.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen solchen Schritt.</translation>
     </message>
     <message>
         <source>Select a node first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst einen Knoten auswählen.</translation>
     </message>
 </context>
 <context>
     <name>EditTexts</name>
     <message>
         <source>%1 nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Knoten</translation>
     </message>
     <message>
         <source>Remove %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 entfernen</translation>
     </message>
     <message>
         <source>Duplicate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 duplizieren</translation>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gruppieren</translation>
     </message>
     <message>
         <source>Ungroup %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe %1 auflösen</translation>
     </message>
     <message>
         <source>Ungroup %1 groups</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Gruppen auflösen</translation>
     </message>
     <message>
         <source>Make own copy of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Kopie von %1 anlegen</translation>
     </message>
     <message>
         <source>Reorder %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 umordnen</translation>
     </message>
     <message>
         <source>Move %1 to the top</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach oben verschieben</translation>
     </message>
     <message>
         <source>Move %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach %2 verschieben</translation>
     </message>
     <message>
         <source>Move %1 out of their groups</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aus ihren Gruppen herausnehmen</translation>
     </message>
     <message>
         <source>Move %1 out of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aus %2 herausnehmen</translation>
     </message>
     <message>
         <source>Move %1 into the group above</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in die Gruppe darüber verschieben</translation>
     </message>
     <message>
         <source>Use %1 at the top</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ganz oben verwenden</translation>
     </message>
     <message>
         <source>Use %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in %2 verwenden</translation>
     </message>
     <message>
         <source>Copy %1 to the top</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach oben kopieren</translation>
     </message>
     <message>
         <source>Copy %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach %2 kopieren</translation>
     </message>
     <message>
         <source>Cut %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ausschneiden</translation>
     </message>
     <message>
         <source>Paste %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 einfügen</translation>
     </message>
     <message>
         <source>Add %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hinzufügen</translation>
     </message>
     <message>
         <source>%1 can&apos;t be copied: its class makes no nodes, or the memory isn&apos;t enough.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht kopieren: Die Klasse erzeugt keine Knoten, oder der Speicher reicht nicht.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be put into itself or into a node below it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht in sich selbst oder einen Knoten darunter verschieben.</translation>
     </message>
     <message>
         <source>%1 is the first node in its group.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist der erste Knoten seiner Gruppe.</translation>
     </message>
     <message>
         <source>The selected nodes are the first ones in their groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Knoten sind die ersten ihrer Gruppen.</translation>
     </message>
     <message>
         <source>%1 is the last node in its group.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist der letzte Knoten seiner Gruppe.</translation>
     </message>
     <message>
         <source>The selected nodes are the last ones in their groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Knoten sind die letzten ihrer Gruppen.</translation>
     </message>
     <message>
         <source>%1 is in no group that it could leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist in keiner Gruppe, die der Knoten verlassen könnte.</translation>
     </message>
     <message>
         <source>The selected nodes are in no groups that they could leave.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Knoten sind in keinen Gruppen, die sie verlassen könnten.</translation>
     </message>
     <message>
         <source>There is no group directly above %1 that could take it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkt über %1 gibt es keine Gruppe, die den Knoten aufnehmen könnte.</translation>
     </message>
     <message>
         <source>There is no group directly above the selected nodes that could take them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkt über den ausgewählten Knoten gibt es keine Gruppe, die sie aufnehmen könnte.</translation>
     </message>
     <message>
         <source>%1 is no group that can be dissolved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine Gruppe, die sich auflösen lässt.</translation>
     </message>
     <message>
         <source>None of the selected nodes is a group that can be dissolved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner der ausgewählten Knoten ist eine Gruppe, die sich auflösen lässt.</translation>
     </message>
     <message>
         <source>%1 is in one place only, so it needs no copy of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nur an einer Stelle, braucht also keine eigene Kopie.</translation>
     </message>
     <message>
         <source>The selected nodes are in one place each, so they need no copies of their own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Knoten sind nur an je einer Stelle, brauchen also keine eigenen Kopien.</translation>
     </message>
     <message>
         <source>A transform was added above the node, so that it keeps its place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Über dem Knoten wurde eine Transformation ergänzt, damit er seinen Ort behält.</translation>
     </message>
     <message>
         <source>%1 transforms were added above nodes, so that these keep their places.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Transformationen wurden über Knoten ergänzt, damit diese ihren Ort behalten.</translation>
     </message>
 </context>
 <context>
     <name>EditorImages</name>
     <message>
         <source>images of its folder aren&apos;t allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder seines Ordners sind nicht erlaubt</translation>
     </message>
 </context>
 <context>
     <name>ExportJob</name>
     <message>
         <source>%1: This file exists already and would be overwritten by one that belongs to %2. Choose another name for the model, or move the file away.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Diese Datei gibt es schon, und eine zu %2 gehörende würde sie überschreiben. Wählen Sie einen anderen Namen für das Modell, oder verschieben Sie die Datei.</translation>
     </message>
 </context>
 <context>
     <name>FavoriteActions</name>
     <message>
         <source>Fa&amp;vorite Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Fa&amp;voritenknoten</translation>
     </message>
     <message>
         <source>Marks the selected node with a star, and adds it to the list of favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Markiert den ausgewählten Knoten mit einem Stern und fügt ihn der Liste der Favoriten hinzu</translation>
     </message>
     <message>
         <source>A scene has %1 favorites at most. Take the star from another one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Szene hat höchstens %1 Favoriten. Zuerst einem anderen den Stern nehmen.</translation>
     </message>
     <message>
         <source>Select a node first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst einen Knoten auswählen.</translation>
     </message>
     <message>
         <source>No favorites in this scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Favoriten in dieser Szene</translation>
     </message>
 </context>
 <context>
     <name>FavoriteModel</name>
     <message>
         <source>Favorite: %1 &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Favorit: %1 „%2“</translation>
     </message>
 </context>
 <context>
     <name>FavoriteStrip</name>
     <message>
         <source>Favorite Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoritenknoten</translation>
     </message>
 </context>
 <context>
     <name>FieldActions</name>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>Opens the editor of the value</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet den Editor des Wertes</translation>
     </message>
     <message>
         <source>&amp;Copy Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert &amp;kopieren</translation>
     </message>
     <message>
         <source>Copies the value as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert den Wert als Text</translation>
     </message>
     <message>
         <source>&amp;Paste Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert &amp;einfügen</translation>
     </message>
     <message>
         <source>Writes the value of the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Wert aus der Zwischenablage</translation>
     </message>
     <message>
         <source>Copy P&amp;ath</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pfad kopieren</translation>
     </message>
     <message>
         <source>Copies the path of the field in the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert den Pfad des Feldes in der Szene</translation>
     </message>
     <message>
         <source>Copy as --&amp;set Argument</source>
-        <translation type="unfinished"></translation>
+        <translation>Als --&amp;set-Argument kopieren</translation>
     </message>
     <message>
         <source>Copies path and value as an argument of the command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert Pfad und Wert als Argument der Befehlszeile</translation>
     </message>
     <message>
         <source>Copy A&amp;ll Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Felder kopieren</translation>
     </message>
     <message>
         <source>Copies all values of the node</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert alle Werte des Knotens</translation>
     </message>
     <message>
         <source>Copy Fields of This &amp;Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder dieser &amp;Gruppe kopieren</translation>
     </message>
     <message>
         <source>Copies the values of this group of fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert die Werte dieser Gruppe von Feldern</translation>
     </message>
     <message>
         <source>Paste All F&amp;ields</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Felder einfügen</translation>
     </message>
     <message>
         <source>Writes all values of the clipboard to fields of the same name</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt alle Werte der Zwischenablage in Felder gleichen Namens</translation>
     </message>
     <message>
         <source>&amp;Reset to Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf &amp;Vorgabe zurücksetzen</translation>
     </message>
     <message>
         <source>Gives the field its default value</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt dem Feld seinen Vorgabewert</translation>
     </message>
     <message>
         <source>I&amp;gnore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ignorieren</translation>
     </message>
     <message>
         <source>Makes the scene behave as if the field had its default</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene verhält sich, als hätte das Feld seinen Vorgabewert</translation>
     </message>
     <message>
         <source>&amp;Favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Fav&amp;orit</translation>
     </message>
     <message>
         <source>Keeps the field on top for all nodes of this class</source>
-        <translation type="unfinished"></translation>
+        <translation>Hält das Feld bei allen Knoten dieser Klasse oben</translation>
     </message>
     <message>
         <source>&amp;Write When Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Erst am Ende sch&amp;reiben</translation>
     </message>
     <message>
         <source>While you drag, step or use a popup, the value is only shown; it is written when you are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Ziehen, beim schrittweisen Ändern und im Popup wird der Wert nur angezeigt und erst am Ende geschrieben.</translation>
     </message>
     <message>
         <source>Select &amp;Nodes with This Value</source>
-        <translation type="unfinished"></translation>
+        <translation>K&amp;noten mit diesem Wert auswählen</translation>
     </message>
     <message>
         <source>Selects all nodes whose field has this value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt alle Knoten aus, deren Feld diesen Wert hat</translation>
     </message>
     <message>
         <source>%1 nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Knoten</translation>
     </message>
     <message>
         <source>&amp;Open List</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Liste öffnen</translation>
     </message>
     <message>
         <source>The %1 nodes have different values. Select one of them to copy its value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die %1 Knoten haben verschiedene Werte. Wählen Sie einen davon aus, um seinen Wert zu kopieren.</translation>
     </message>
     <message>
         <source>There is no field to copy that has one value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Feld mit einem einheitlichen Wert lässt sich kopieren.</translation>
     </message>
     <message>
         <source>The %1 nodes have different values. Select one of them first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die %1 Knoten haben verschiedene Werte. Zuerst einen davon auswählen.</translation>
     </message>
     <message>
         <source>No other node has this value of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein anderer Knoten hat diesen Wert von %1.</translation>
     </message>
 </context>
 <context>
     <name>FieldButtons</name>
     <message>
         <source>Set to default</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Vorgabewert setzen</translation>
     </message>
     <message>
         <source>Ignore this field</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Feld ignorieren</translation>
     </message>
 </context>
 <context>
     <name>FieldColumns</name>
     <message>
         <source>Show &amp;Types</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Typen anzeigen</translation>
     </message>
     <message>
         <source>Shows the column with the types of the fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Spalte mit den Typen der Felder</translation>
     </message>
 </context>
 <context>
     <name>FieldFilterBar</name>
     <message>
         <source>Filter the fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder filtern</translation>
     </message>
     <message>
         <source>Filter by name, type or value</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Name, Typ oder Wert filtern</translation>
     </message>
     <message>
         <source>Letters of the name or the type in their order, words of the value, or a query: f:radius, t:Vec3f, &gt;0.5, =true, ~text, changed, ignored, not, or, brackets, /regular expressions/.</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstaben des Namens oder Typs in ihrer Reihenfolge, Wörter des Wertes oder eine Abfrage: f:radius, t:Vec3f, &gt;0.5, =true, ~text, changed, ignored, not, or, Klammern, /reguläre Ausdrücke/.</translation>
     </message>
     <message>
         <source>Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert</translation>
     </message>
     <message>
         <source>Show only fields that differ from their defaults.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Felder anzeigen, die von ihren Vorgabewerten abweichen.</translation>
     </message>
     <message>
         <source>Show only changed fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur geänderte Felder anzeigen</translation>
     </message>
 </context>
 <context>
     <name>FieldPanel</name>
     <message>
         <source>Select a node in the view or the scene tree to see its fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen Knoten in der Ansicht oder im Szenenbaum aus, um seine Felder zu sehen.</translation>
     </message>
     <message>
         <source>%1 — %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 — %2</translation>
     </message>
     <message>
         <source>%1 nodes, the last one: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Knoten, der letzte: %2</translation>
     </message>
     <message>
         <source>These nodes have no field in common.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Knoten haben kein gemeinsames Feld.</translation>
     </message>
     <message>
         <source>Nodes of this class have no fields.</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten dieser Klasse haben keine Felder.</translation>
     </message>
     <message>
         <source>No field fits the filter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Feld passt zum Filter.</translation>
     </message>
 </context>
 <context>
     <name>FieldRow</name>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source>1 value</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Wert</translation>
     </message>
     <message>
         <source>%1 values</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Werte</translation>
     </message>
     <message>
         <source>%1 bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bytes</translation>
     </message>
     <message>
         <source>Click to show the field&apos;s own editor.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken, um den eigenen Editor des Feldes zu zeigen.</translation>
     </message>
     <message>
         <source>Choose a colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe wählen</translation>
     </message>
     <message>
         <source>&quot;%1&quot; isn&apos;t the text of a value of the type %2; the former value stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht der Text eines Wertes vom Typ %2; der bisherige Wert bleibt.</translation>
     </message>
 </context>
 <context>
     <name>FieldSet</name>
     <message>
         <source>%1 of %L2 nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %L2 Knoten</translation>
     </message>
 </context>
 <context>
     <name>FieldTableModel</name>
     <message>
         <source>%1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geändert</translation>
     </message>
     <message>
         <source>mixed</source>
-        <translation type="unfinished"></translation>
+        <translation>gemischt</translation>
     </message>
     <message>
         <source>%1, not written yet</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, noch nicht geschrieben</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
     <name>FieldTableView</name>
     <message>
         <source>Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder</translation>
     </message>
 </context>
 <context>
     <name>FieldTitleBar</name>
     <message>
         <source>Float or dock</source>
-        <translation type="unfinished"></translation>
+        <translation>Lösen oder andocken</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1
 The lock is on: it stays on this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
     <name>FieldWriter</name>
     <message>
         <source>There is no field to set.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Feld zum Setzen.</translation>
     </message>
     <message>
         <source>%1 doesn&apos;t consist of numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 besteht nicht aus Zahlen.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be taken. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird nicht angenommen. %2</translation>
     </message>
     <message>
         <source>%1 is a field of type %2; a value of type %3 can&apos;t be copied to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ein Feld vom Typ %2; ein Wert vom Typ %3 lässt sich nicht dorthin kopieren.</translation>
     </message>
     <message>
         <source>Reset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zurücksetzen</translation>
     </message>
     <message>
         <source>The fields can&apos;t be changed: the values don&apos;t fit in memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Felder lassen sich nicht ändern: Die Werte passen nicht in den Speicher.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be changed: the values don&apos;t fit in memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht ändern: Die Werte passen nicht in den Speicher.</translation>
     </message>
 </context>
 <context>
     <name>FileDialogs</name>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>Compare With</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen mit</translation>
     </message>
     <message>
         <source>Save Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene speichern</translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren</translation>
     </message>
 </context>
 <context>
     <name>FileDrops</name>
     <message>
         <source>Only files can be dropped here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier lassen sich nur Dateien ablegen.</translation>
     </message>
     <message>
         <source>Open a scene before you drop an image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen Sie eine Szene, bevor Sie ein Bild ablegen.</translation>
     </message>
     <message>
         <source>Drop an image onto a mesh or a material, whose texture it is to be.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie ein Bild auf einem Netz oder Material ab, um es als Textur zu verwenden.</translation>
     </message>
     <message>
         <source>Drop a single image: a mesh has one texture at a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie ein einzelnes Bild ab: Ein Netz hat nur eine Textur zugleich.</translation>
     </message>
     <message>
         <source>Makes the image a texture of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Macht das Bild zu einer Textur von %1</translation>
     </message>
     <message>
         <source>%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Dateien</translation>
     </message>
     <message>
         <source>Opens %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet %1</translation>
     </message>
     <message>
         <source>Adds %1 to the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt der Szene %1 hinzu</translation>
     </message>
     <message>
         <source>Adds %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt %1 zu %2 hinzu</translation>
     </message>
     <message>
         <source>Other files are still being added; drop these when that is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Dateien werden noch hinzugefügt; legen Sie diese danach ab.</translation>
     </message>
     <message>
         <source>%1 is an address on the net. Download the file and drop that.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist eine Netzadresse. Laden Sie die Datei herunter und legen Sie diese ab.</translation>
     </message>
     <message>
         <source>%1 doesn&apos;t exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gibt es nicht.</translation>
     </message>
     <message>
         <source>%1 is a folder. Drop the files in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ein Ordner. Legen Sie die Dateien darin ab.</translation>
     </message>
     <message>
         <source>%1 is no file that can be added: neither a scene, nor a model or an image that the tool knows by its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine Datei, die sich hinzufügen lässt: weder eine Szene noch ein Modell oder ein Bild mit bekannter Namensendung.</translation>
     </message>
     <message>
         <source>Add texture to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Textur zu %1 hinzufügen</translation>
     </message>
     <message>
         <source>Add %1 files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Dateien hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>FileFlow</name>
     <message>
         <source>A new scene was made instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stattdessen wurde eine neue Szene angelegt.</translation>
     </message>
     <message>
         <source>The scene was closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene wurde geschlossen.</translation>
     </message>
     <message>
         <source>No scene is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet.</translation>
     </message>
     <message>
         <source>%1 is being opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geöffnet.</translation>
     </message>
     <message>
         <source>Opening %1 was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Öffnen von %1 wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
     <name>FileMenu</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu</translation>
     </message>
     <message>
         <source>Starts an empty scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginnt eine leere Szene</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Öffnen…</translation>
     </message>
     <message>
         <source>Opens a scene or a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet eine Szene oder ein Modell</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Writes the scene to its file</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Szene in ihre Datei</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter…</translation>
     </message>
     <message>
         <source>Writes the scene to another file, which becomes its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Szene in eine andere Datei, die dann die ihre wird</translation>
     </message>
     <message>
         <source>Re&amp;load from Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu vom Datenträger &amp;laden</translation>
     </message>
     <message>
         <source>Makes the scene equal to its file again; undo brings your changes back</source>
-        <translation type="unfinished"></translation>
+        <translation>Macht die Szene wieder gleich ihrer Datei; Rückgängig bringt Ihre Änderungen zurück</translation>
     </message>
     <message>
         <source>&amp;Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importieren…</translation>
     </message>
     <message>
         <source>Adds the content of a file to the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt der Szene den Inhalt einer Datei hinzu</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportieren…</translation>
     </message>
     <message>
         <source>Writes the scene to a file of another format</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Szene in eine Datei eines anderen Formats</translation>
     </message>
     <message>
         <source>Compare &amp;With…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vergleichen mit…</translation>
     </message>
     <message>
         <source>Shows how the scene differs from a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt, wie sich die Szene von einer Datei unterscheidet</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;chließen</translation>
     </message>
     <message>
         <source>Closes the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließt die Szene</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>Closes the window and ends the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließt das Fenster und beendet das Programm</translation>
     </message>
     <message>
         <source>&amp;Clear List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste &amp;leeren</translation>
     </message>
     <message>
         <source>Forgets which files were opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergisst, welche Dateien geöffnet wurden</translation>
     </message>
     <message>
         <source>No scene is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet.</translation>
     </message>
     <message>
         <source>The scene has no file yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene hat noch keine Datei.</translation>
     </message>
 </context>
 <context>
     <name>FileRequests</name>
     <message>
         <source>a file</source>
-        <translation type="unfinished"></translation>
+        <translation>einer Datei</translation>
     </message>
     <message>
         <source>making a new scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlegen einer neuen Szene</translation>
     </message>
     <message>
         <source>opening %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen von %1</translation>
     </message>
     <message>
         <source>adding %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen von %1</translation>
     </message>
     <message>
         <source>comparing with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleichen mit %1</translation>
     </message>
     <message>
         <source>reloading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuladen von %1</translation>
     </message>
     <message>
         <source>saving the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern der Szene</translation>
     </message>
     <message>
         <source>saving %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern von %1</translation>
     </message>
     <message>
         <source>exporting to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren nach %1</translation>
     </message>
     <message>
         <source>closing the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen der Szene</translation>
     </message>
     <message>
         <source>quitting</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
 </context>
 <context>
     <name>FileWork</name>
     <message>
         <source>Adding %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird hinzugefügt</translation>
     </message>
     <message>
         <source>Reading %1 to compare it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird zum Vergleichen gelesen</translation>
     </message>
     <message>
         <source>Reloading %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird neu geladen</translation>
     </message>
     <message>
         <source>Opening %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird geöffnet</translation>
     </message>
     <message>
         <source>%1 is compared instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stattdessen wird %1 verglichen.</translation>
     </message>
     <message>
         <source>%1 is opened instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stattdessen wird %1 geöffnet.</translation>
     </message>
     <message>
         <source>Opening %1 was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Öffnen von %1 wurde abgebrochen.</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2</translation>
     </message>
     <message>
         <source>%1 wasn&apos;t written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht geschrieben.</translation>
     </message>
     <message>
         <source>The scene was closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene wurde geschlossen.</translation>
     </message>
     <message>
         <source>Not done: %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht ausgeführt: %1. %2</translation>
     </message>
 </context>
 <context>
     <name>FilterLine</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtern</translation>
     </message>
 </context>
 <context>
     <name>FindLine</name>
     <message>
         <source>Find nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten suchen</translation>
     </message>
     <message>
         <source>Words of the name or the class, or a query: t:Light, f:radius &gt;1, changed, unused, missing, not, or, brackets, /regular expressions/. Return goes to the next hit, Shift+Return to the previous one, Alt+Return selects all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter des Namens oder der Klasse oder eine Abfrage: t:Light, f:radius &gt;1, changed, unused, missing, not, or, Klammern, /reguläre Ausdrücke/. Return springt zum nächsten Treffer, Umschalt+Return zum vorigen, Alt+Return wählt alle aus.</translation>
     </message>
     <message>
         <source>Searches that are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Suchen</translation>
     </message>
 </context>
 <context>
     <name>FindMenu</name>
     <message>
         <source>Searches for this again</source>
-        <translation type="unfinished"></translation>
+        <translation>Sucht erneut danach</translation>
     </message>
     <message>
         <source>&amp;Keep This Search…</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Suche &amp;speichern…</translation>
     </message>
     <message>
         <source>Nothing is searched for</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nichts gesucht</translation>
     </message>
     <message>
         <source>Keeps the search by a name of your own</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert die Suche unter einem eigenen Namen</translation>
     </message>
     <message>
         <source>This search is kept already</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Suche ist schon gespeichert</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen…</translation>
     </message>
     <message>
         <source>&amp;Rename “%1”…</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ &amp;umbenennen…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>&amp;Delete “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ &amp;löschen</translation>
     </message>
     <message>
         <source>Choose a kept search first</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst eine gespeicherte Suche auswählen</translation>
     </message>
     <message>
         <source>Stores the search with the settings, by a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert die Suche unter einem Namen in den Einstellungen</translation>
     </message>
     <message>
         <source>Gives the kept search another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt der gespeicherten Suche einen anderen Namen</translation>
     </message>
     <message>
         <source>Deletes the kept search</source>
-        <translation type="unfinished"></translation>
+        <translation>Löscht die gespeicherte Suche</translation>
     </message>
     <message>
         <source>Keep Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche speichern</translation>
     </message>
     <message>
         <source>Name of the search:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der Suche:</translation>
     </message>
     <message>
         <source>Rename Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche umbenennen</translation>
     </message>
     <message>
         <source>Another name of the search:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderer Name der Suche:</translation>
     </message>
 </context>
 <context>
     <name>FlyTool</name>
     <message>
         <source>Flying at %1 units per second: W A S D, Q and E for down and up, Shift for faster. The wheel changes the speed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug mit %1 Einheiten pro Sekunde: W A S D, Q und E für ab und auf, Umschalt für schneller. Das Mausrad ändert die Geschwindigkeit.</translation>
     </message>
 </context>
 <context>
     <name>GoToSource</name>
     <message>
         <source>Go to</source>
-        <translation type="unfinished"></translation>
+        <translation>Springen zu</translation>
     </message>
     <message>
         <source>Letters of a node, camera, bookmark or file; parent/node, node.field</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstaben von Knoten, Kamera, Lesezeichen oder Datei; Gruppe/Knoten, Knoten.Feld</translation>
     </message>
     <message>
         <source>Nothing in the scene has these letters in this order, and no recent file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts in der Szene und keine zuletzt geöffnete Datei enthält diese Buchstaben in dieser Reihenfolge.</translation>
     </message>
     <message>
         <source>No scene is open, and no recent file has these letters in this order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet, und keine zuletzt geöffnete Datei enthält diese Buchstaben in dieser Reihenfolge.</translation>
     </message>
     <message>
         <source>Bookmark of the view</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesezeichen der Ansicht</translation>
     </message>
     <message>
         <source>Open from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen aus %1</translation>
     </message>
     <message>
         <source>Look through this camera, in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch diese Kamera blicken, in %1</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in %2</translation>
     </message>
 </context>
 <context>
     <name>HandleTool</name>
     <message>
         <source>%1 of &quot;%2&quot; is ignored, so a change of it would not be seen. Clear its mark &quot;ignored&quot; in the field table first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von „%2“ wird ignoriert, eine Änderung wäre deshalb nicht zu sehen. Zuerst in der Feldtabelle die Markierung „ignoriert“ entfernen.</translation>
     </message>
     <message numerus="yes">
         <source>%n nodes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Knoten</numerusform>
+            <numerusform>%n Knoten</numerusform>
         </translation>
     </message>
     <message>
         <source>Move %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verschieben</translation>
     </message>
     <message>
         <source>Turn %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 drehen</translation>
     </message>
     <message>
         <source>Scale %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 skalieren</translation>
     </message>
     <message>
         <source>%1°</source>
         <comment>angle in degrees</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1°</translation>
     </message>
     <message>
         <source>× %1</source>
         <comment>factor</comment>
-        <translation type="unfinished"></translation>
+        <translation>× %1</translation>
     </message>
 </context>
 <context>
     <name>HelpMenu</name>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;About Orvane</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Über Orvane</translation>
     </message>
     <message>
         <source>Shows the version of the program and its extensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Version des Programms und seine Erweiterungen</translation>
     </message>
     <message>
         <source>About Orvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Orvane</translation>
     </message>
     <message>
         <source>Inspects and edits the scene graph of 3D scenes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Untersucht und bearbeitet den Szenengraphen von 3D-Szenen.</translation>
     </message>
     <message>
         <source>No extension is active.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Erweiterung ist aktiv.</translation>
     </message>
     <message>
         <source>Active extensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktive Erweiterungen</translation>
     </message>
 </context>
 <context>
     <name>HidingActions</name>
     <message>
         <source>Isolat&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Isolieren</translation>
     </message>
     <message>
         <source>Shows the selected nodes alone in the view</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt nur die ausgewählten Knoten in der Ansicht</translation>
     </message>
     <message>
         <source>Hide</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblenden</translation>
     </message>
     <message>
         <source>Hides the selected nodes in the view; the scene stays as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Blendet die ausgewählten Knoten in der Ansicht aus; die Szene bleibt, wie sie ist</translation>
     </message>
     <message>
         <source>Show All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle einblenden</translation>
     </message>
     <message>
         <source>Shows all nodes that were hidden or left out by isolating</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt alle Knoten, die ausgeblendet oder beim Isolieren weggelassen wurden</translation>
     </message>
     <message>
         <source>Shows all nodes again (Shift+H)</source>
-        <translation type="unfinished"></translation>
+        <translation>Blendet alle Knoten wieder ein (Umschalt+H)</translation>
     </message>
     <message>
         <source>No node is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Knoten ist ausgewählt</translation>
     </message>
     <message>
         <source>Nothing is hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ist ausgeblendet</translation>
     </message>
     <message>
         <source>1 node isolated</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Knoten isoliert</translation>
     </message>
     <message>
         <source>%1 nodes isolated</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Knoten isoliert</translation>
     </message>
     <message>
         <source>%1 hidden in %2 places</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 an %2 Stellen ausgeblendet</translation>
     </message>
     <message>
         <source>1 hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ausgeblendet</translation>
     </message>
     <message>
         <source>%1 hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ausgeblendet</translation>
     </message>
 </context>
 <context>
     <name>HistoryDock</name>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>No scene is open</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet</translation>
     </message>
     <message>
         <source>New scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Szene</translation>
     </message>
     <message>
         <source>Opened %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geöffnet</translation>
     </message>
 </context>
 <context>
     <name>HistoryModel</name>
     <message>
         <source>Now, saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt, gespeichert</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt</translation>
     </message>
     <message>
         <source>Undone</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückgenommen</translation>
     </message>
     <message>
         <source>The oldest state that is kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Der älteste erhaltene Zustand</translation>
     </message>
     <message>
         <source>Nothing changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts geändert</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorher</translation>
     </message>
     <message>
         <source>After</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachher</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
 </context>
 <context>
     <name>HistoryPanel</name>
     <message>
         <source>&amp;Go to This State</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zu diesem Zustand gehen</translation>
     </message>
     <message>
         <source>&amp;Put This Value Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Wert zurück&amp;holen</translation>
     </message>
     <message>
         <source>Shows the steps that contain these words: in their name, or in a value. not, or, brackets, &quot;texts with blanks&quot; and /regular expressions/ may be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Schritte, die diese Wörter enthalten, im Namen oder in einem Wert. not, or, Klammern, &quot;Texte mit Leerzeichen&quot; und /reguläre Ausdrücke/ sind möglich.</translation>
     </message>
     <message>
         <source>Beyond this limit the oldest steps are dropped. The preference ORVANE_HISTORY sets it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Über dieser Grenze fallen die ältesten Schritte weg. Die Einstellung ORVANE_HISTORY legt sie fest.</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Undoes or redoes the steps up to the selected one</source>
-        <translation type="unfinished"></translation>
+        <translation>Macht die Schritte bis zum ausgewählten rückgängig oder stellt sie wieder her</translation>
     </message>
     <message>
         <source>Writes the value from before the selected step, without undoing what came after it</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt den Wert vor dem ausgewählten Schritt, ohne das Spätere rückgängig zu machen</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Goes through all states of the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Geht durch alle Zustände der Szene</translation>
     </message>
     <message>
         <source>Step %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritt %1 von %2</translation>
     </message>
     <message>
         <source>1 step</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Schritt</translation>
     </message>
     <message>
         <source>%1 steps</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Schritte</translation>
     </message>
     <message>
         <source>%1, %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 von %3</translation>
     </message>
     <message>
         <source>Select a step of the history first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst einen Schritt des Verlaufs auswählen.</translation>
     </message>
     <message>
         <source>The scene is in this state.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene ist in diesem Zustand.</translation>
     </message>
 </context>
 <context>
     <name>ImageCell</name>
     <message>
         <source>Choose an Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild wählen</translation>
     </message>
     <message>
         <source>Images (*.png *.jpg *.jpeg *.bmp *.gif *.tga *.tif *.tiff *.webp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder (*.png *.jpg *.jpeg *.bmp *.gif *.tga *.tif *.tiff *.webp)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
     <name>ImageFolderQuestion</name>
     <message>
         <source>Forget Allowed Image Folde&amp;rs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erlaubte Bildordner vergessen</translation>
     </message>
     <message>
         <source>Takes back that scenes may refer to images in folders outside their own</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt zurück, dass Szenen auf Bilder in fremden Ordnern verweisen dürfen</translation>
     </message>
     <message>
         <source>No folder has been allowed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Ordner wurde erlaubt.</translation>
     </message>
     <message>
         <source>The scene refers to images in %1, outside its own folder. They aren&apos;t loaded unless you allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene verweist auf Bilder in %1, außerhalb ihres eigenen Ordners. Sie werden nur geladen, wenn Sie es erlauben.</translation>
     </message>
     <message>
         <source>Allow Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner erlauben</translation>
     </message>
 </context>
 <context>
     <name>ImagePopup</name>
     <message>
         <source>Choose &amp;File…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei wählen…</translation>
     </message>
     <message>
         <source>Replaces the image by that of a file. A file can also be dropped on the row.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzt das Bild durch das einer Datei. Eine Datei lässt sich auch auf der Zeile ablegen.</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>Replaces the image by the one on the clipboard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzt das Bild durch das der Zwischenablage.</translation>
     </message>
     <message>
         <source>The clipboard has no image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage enthält kein Bild.</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leeren</translation>
     </message>
     <message>
         <source>Empties the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leert das Bild.</translation>
     </message>
     <message>
         <source>The image is empty already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild ist schon leer.</translation>
     </message>
 </context>
 <context>
     <name>ImageReplacement</name>
     <message>
         <source>The image on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild der Zwischenablage</translation>
     </message>
     <message>
         <source>The empty image</source>
-        <translation type="unfinished"></translation>
+        <translation>Das leere Bild</translation>
     </message>
     <message>
         <source>another node is shown by now</source>
-        <translation type="unfinished"></translation>
+        <translation>inzwischen wird ein anderer Knoten angezeigt</translation>
     </message>
     <message>
         <source>it is larger than %1 pixels a side</source>
-        <translation type="unfinished"></translation>
+        <translation>es hat mehr als %1 Pixel je Seite</translation>
     </message>
     <message>
         <source>%1 wasn&apos;t taken: %2. The field keeps its image.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht übernommen: %2. Das Feld behält sein Bild.</translation>
     </message>
 </context>
 <context>
     <name>ImageSample</name>
     <message>
         <source>no image</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Bild</translation>
     </message>
 </context>
 <context>
     <name>InspectorDock</name>
     <message>
         <source>Inspector %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspektor %1</translation>
     </message>
 </context>
 <context>
     <name>InspectorDocks</name>
     <message>
         <source>New &amp;Inspector</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer &amp;Inspektor</translation>
     </message>
     <message>
         <source>Opens a further table of fields, which stays on this node; %1 at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet eine weitere Feldtabelle, die bei diesem Knoten bleibt; höchstens %1</translation>
     </message>
     <message>
         <source>There are %1 inspectors. Close one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt schon %1 Inspektoren. Zuerst einen schließen.</translation>
     </message>
 </context>
 <context>
     <name>Inspectors</name>
     <message>
         <source>Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
 </context>
 <context>
     <name>JobBar</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>KeptLocks</name>
     <message>
         <source>Inspector %1 was locked on %2, which isn&apos;t in the file any more. It follows the selection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspektor %1 war auf %2 fixiert, das nicht mehr in der Datei ist. Er folgt der Auswahl.</translation>
     </message>
 </context>
 <context>
     <name>KeptSearches</name>
     <message>
         <source>A search needs a name to be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Speichern braucht eine Suche einen Namen.</translation>
     </message>
     <message>
         <source>The name is longer than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name ist länger als %1 Zeichen.</translation>
     </message>
     <message>
         <source>There is a search of that name already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Suche dieses Namens gibt es schon.</translation>
     </message>
     <message>
         <source>%1 searches are kept already. Delete one first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Suchen sind schon gespeichert. Zuerst eine löschen.</translation>
     </message>
 </context>
 <context>
     <name>KeyLine</name>
     <message>
         <source>Press the new key</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Taste drücken</translation>
     </message>
     <message>
         <source>New key</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Taste</translation>
     </message>
 </context>
 <context>
     <name>KeyTips</name>
     <message>
         <source>%1&lt;br&gt;%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&lt;br&gt;%2</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
         <comment>tool tip (keys)</comment>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>KeysDialog</name>
     <message>
         <source>&amp;No Key</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine Taste</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zurücksetzen</translation>
     </message>
     <message>
         <source>Reset &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lle zurücksetzen</translation>
     </message>
     <message>
         <source>&amp;Take Over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Übernehmen</translation>
     </message>
     <message>
         <source>Keyboard Shortcuts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastenkürzel</translation>
     </message>
     <message>
         <source>Letters of an action, or a key such as Ctrl+O</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstaben einer Aktion oder eine Taste wie Strg+O</translation>
     </message>
     <message>
         <source>Search the keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten durchsuchen</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten</translation>
     </message>
     <message>
         <source>No action and no key has these letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Aktion und keine Taste enthält diese Buchstaben.</translation>
     </message>
     <message>
         <source>Select an action first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst eine Aktion auswählen.</translation>
     </message>
     <message>
         <source>This key can&apos;t be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Taste ist nicht änderbar.</translation>
     </message>
     <message>
         <source>The next key that is pressed here becomes the key of the action</source>
-        <translation type="unfinished"></translation>
+        <translation>Die nächste hier gedrückte Taste wird zur Taste der Aktion</translation>
     </message>
     <message>
         <source>Takes the keys from the action</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt der Aktion die Tasten</translation>
     </message>
     <message>
         <source>Gives the action the keys that it came with</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt der Aktion ihre ursprünglichen Tasten</translation>
     </message>
     <message>
         <source>Gives all actions the keys that they came with</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt allen Aktionen ihre ursprünglichen Tasten</translation>
     </message>
     <message>
         <source>%1 is the key of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist die Taste von %2.</translation>
     </message>
     <message>
         <source>%1 has the key %2 now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat jetzt die Taste %2.</translation>
     </message>
     <message>
         <source>%1 is the key of %2 now. Reset that one first, or all.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist jetzt die Taste von %2. Zuerst jene zurücksetzen, oder alle.</translation>
     </message>
 </context>
 <context>
     <name>KeysModel</name>
     <message>
         <source>fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>fest</translation>
     </message>
     <message>
         <source>changed</source>
-        <translation type="unfinished"></translation>
+        <translation>geändert</translation>
     </message>
     <message>
         <source>This key can&apos;t be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Taste ist nicht änderbar.</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasten</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
 </context>
 <context>
     <name>LineCover</name>
     <message>
         <source>Number or formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl oder Formel</translation>
     </message>
     <message>
         <source>Takes %1, or a formula in which x is the present value. Up and Down step, with Shift ten times as far, with Ctrl a tenth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt %1 an oder eine Formel, in der x der jetzige Wert ist. Auf und Ab ändern schrittweise, mit Umschalt zehnmal so weit, mit Strg ein Zehntel.</translation>
     </message>
     <message>
         <source>The editor doesn&apos;t take %1. Enter %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Editor nimmt %1 nicht an. Geben Sie %2 ein.</translation>
     </message>
     <message>
         <source>Another field has been selected meanwhile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inzwischen wurde ein anderes Feld ausgewählt.</translation>
     </message>
     <message>
         <source>The editor has set %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Editor hat %1 statt %2 gesetzt.</translation>
     </message>
 </context>
 <context>
     <name>ListActions</name>
     <message>
         <source>&amp;Insert Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen &amp;einfügen</translation>
     </message>
     <message>
         <source>Adds rows with default values before the selected ones</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt vor den ausgewählten Zeilen solche mit Vorgabewerten ein</translation>
     </message>
     <message>
         <source>D&amp;uplicate Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen &amp;duplizieren</translation>
     </message>
     <message>
         <source>Adds copies of the selected rows behind them</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt Kopien der ausgewählten Zeilen dahinter ein</translation>
     </message>
     <message>
         <source>&amp;Delete Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen &amp;löschen</translation>
     </message>
     <message>
         <source>Removes the selected rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt die ausgewählten Zeilen</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>Moves the selected rows one place up</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebt die ausgewählten Zeilen eine Stelle nach oben</translation>
     </message>
     <message>
         <source>Move D&amp;own</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;unten</translation>
     </message>
     <message>
         <source>Moves the selected rows one place down</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebt die ausgewählten Zeilen eine Stelle nach unten</translation>
     </message>
     <message>
         <source>Cu&amp;t Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen &amp;ausschneiden</translation>
     </message>
     <message>
         <source>Copies the selected rows and removes them</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert die ausgewählten Zeilen und entfernt sie</translation>
     </message>
     <message>
         <source>&amp;Copy Cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen &amp;kopieren</translation>
     </message>
     <message>
         <source>Copies the selected cells as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert die ausgewählten Zellen als Text</translation>
     </message>
     <message>
         <source>&amp;Paste Cells</source>
-        <translation type="unfinished"></translation>
+        <translation>Zellen e&amp;infügen</translation>
     </message>
     <message>
         <source>Writes the cells of the clipboard from the current cell on</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Zellen der Zwischenablage ab der aktuellen Zelle</translation>
     </message>
     <message>
         <source>Fill &amp;Evenly from First to Last</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gleichmäßig füllen</translation>
     </message>
     <message>
         <source>Gives the selected cells of a column values with equal steps between the first and the last of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt den ausgewählten Zellen einer Spalte Werte in gleichen Abständen vom ersten bis zum letzten</translation>
     </message>
     <message>
         <source>&amp;Number of Rows…</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nzahl der Zeilen…</translation>
     </message>
     <message>
         <source>Sets how many rows the list has</source>
-        <translation type="unfinished"></translation>
+        <translation>Legt fest, wie viele Zeilen die Liste hat</translation>
     </message>
     <message>
         <source>No list is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Liste wird angezeigt.</translation>
     </message>
     <message>
         <source>Select rows of a list first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst Zeilen einer Liste auswählen.</translation>
     </message>
     <message>
         <source>Select three rows or more of a list of numbers first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst drei oder mehr Zeilen einer Liste von Zahlen auswählen.</translation>
     </message>
     <message>
         <source>Rows can be moved only while all of them are shown in their order. Clear range, filter and sorting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen lassen sich nur verschieben, wenn alle in ihrer Reihenfolge angezeigt werden. Zeilenbereich, Filter und Sortierung aufheben.</translation>
     </message>
     <message>
         <source>Number of Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Zeilen</translation>
     </message>
     <message>
         <source>Number of rows of %1:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Zeilen von %1:</translation>
     </message>
     <message>
         <source>Another list is shown now. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt wird eine andere Liste angezeigt. Nichts wurde geändert.</translation>
     </message>
     <message>
         <source>%1 is going to have %2 rows, which need a lot of memory. Go on?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bekommt %2 Zeilen, die viel Speicher brauchen. Fortfahren?</translation>
     </message>
     <message>
         <source>Make %1 Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen anlegen</translation>
     </message>
 </context>
 <context>
     <name>ListClipboard</name>
     <message>
         <source>Copying rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen werden kopiert</translation>
     </message>
     <message>
         <source>The list changed while it was being copied. Copy it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste hat sich beim Kopieren geändert. Kopieren Sie sie erneut.</translation>
     </message>
     <message>
         <source>1 row was copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Zeile wurde kopiert.</translation>
     </message>
     <message>
         <source>%1 rows were copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen wurden kopiert.</translation>
     </message>
     <message>
         <source>The clipboard has HTML without plain text, which can&apos;t be pasted. Copy the cells in a program that copies them as text, such as a spreadsheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage enthält HTML ohne reinen Text, das sich nicht einfügen lässt. Kopieren Sie die Zellen in einem Programm, das sie als Text kopiert, etwa einer Tabellenkalkulation.</translation>
     </message>
     <message>
         <source>There is nothing to paste: the clipboard has no text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts einzufügen: Die Zwischenablage enthält keinen Text.</translation>
     </message>
     <message>
         <source>Reading the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenablage wird gelesen</translation>
     </message>
     <message>
         <source>The list changed while the clipboard was being read. Nothing was pasted; paste again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste hat sich beim Lesen der Zwischenablage geändert. Nichts wurde eingefügt; fügen Sie erneut ein.</translation>
     </message>
     <message>
         <source>1 row was pasted.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Zeile wurde eingefügt.</translation>
     </message>
     <message>
         <source>%1 rows were pasted.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen wurden eingefügt.</translation>
     </message>
     <message>
         <source>The clipboard has %1 rows, but only %2 are shown from here on. Nothing was pasted. Show all rows first, or copy fewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage hat %1 Zeilen, aber ab hier werden nur %2 angezeigt. Nichts wurde eingefügt. Zeigen Sie zuerst alle Zeilen an, oder kopieren Sie weniger.</translation>
     </message>
 </context>
 <context>
     <name>ListColumns</name>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>A text can&apos;t have a NUL character.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Text kann kein NUL-Zeichen enthalten.</translation>
     </message>
     <message>
         <source>A name can&apos;t have the character &quot;%1&quot;, only those of Latin-1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Name kann das Zeichen „%1“ nicht enthalten, nur solche aus Latin-1.</translation>
     </message>
 </context>
 <context>
     <name>ListDelegate</name>
     <message>
         <source>&quot;%1&quot; wasn&apos;t written.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde nicht geschrieben.</translation>
     </message>
 </context>
 <context>
     <name>ListDock</name>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
 </context>
 <context>
     <name>ListEdits</name>
     <message>
         <source>The list isn&apos;t there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste gibt es nicht mehr.</translation>
     </message>
     <message>
         <source>There isn&apos;t enough memory for this. The list is as it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dafür reicht der Speicher nicht. Die Liste ist, wie sie war.</translation>
     </message>
     <message>
         <source>The rows of this list aren&apos;t numbers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeilen dieser Liste sind keine Zahlen.</translation>
     </message>
     <message>
         <source>Row %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
     <message>
         <source>There is no row %1 any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 gibt es nicht mehr.</translation>
     </message>
     <message>
         <source>%1 rows of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen von %2</translation>
     </message>
     <message>
         <source>Set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 setzen</translation>
     </message>
     <message>
         <source>Set %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 setzen</translation>
     </message>
     <message>
         <source>Set %1[%2]</source>
-        <translation type="unfinished"></translation>
+        <translation>%1[%2] setzen</translation>
     </message>
     <message>
         <source>Set %1 rows of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen von %2 setzen</translation>
     </message>
     <message>
         <source>&quot;%1&quot; isn&apos;t the text of a value of this list.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht der Text eines Wertes dieser Liste.</translation>
     </message>
     <message>
         <source>A list has at most %1 rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Liste hat höchstens %1 Zeilen.</translation>
     </message>
     <message>
         <source>Insert a row into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Zeile in %1 einfügen</translation>
     </message>
     <message>
         <source>Insert %1 rows into %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 neue Zeilen in %2 einfügen</translation>
     </message>
     <message>
         <source>Duplicate a row of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile von %1 duplizieren</translation>
     </message>
     <message>
         <source>Duplicate %1 rows of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen von %2 duplizieren</translation>
     </message>
     <message>
         <source>Delete a row of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile von %1 löschen</translation>
     </message>
     <message>
         <source>Delete %1 rows of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen von %2 löschen</translation>
     </message>
     <message>
         <source>Move a row of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile von %1 verschieben</translation>
     </message>
     <message>
         <source>Move %1 rows of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen von %2 verschieben</translation>
     </message>
     <message>
         <source>Resize %1 to %2 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 auf %2 Zeilen bringen</translation>
     </message>
     <message>
         <source>Fill %1 rows of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen von %2 füllen</translation>
     </message>
     <message>
         <source>Paste a row into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile in %1 einfügen</translation>
     </message>
     <message>
         <source>Paste %1 rows into %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen in %2 einfügen</translation>
     </message>
 </context>
 <context>
     <name>ListFindLine</name>
     <message>
         <source>Go to row</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Zeile springen</translation>
     </message>
     <message>
         <source>The number of a row, counted from 0; from the end of the list if it is negative. Several are selected by a range such as 10:20.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Nummer einer Zeile, gezählt ab 0; vom Ende der Liste, wenn sie negativ ist. Mehrere wählt ein Bereich wie 10:20 aus.</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenbereich</translation>
     </message>
     <message>
         <source>Shows the rows of a range: 0:5000, 10:, -5: for the last five, ::2 for every other one, ::-1 backwards</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Zeilen eines Bereichs: 0:5000, 10:, -5: für die letzten fünf, ::2 für jede zweite, ::-1 rückwärts</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtern</translation>
     </message>
     <message>
         <source>Shows the rows whose text has these words</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Zeilen, deren Text diese Wörter enthält</translation>
     </message>
     <message>
         <source>Shows the rows for which a formula is true, such as %1 &gt; 0 and i &lt; 100. It knows %2, and i, the number of the row.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Zeilen, für die eine Formel wahr ist, etwa %1 &gt; 0 and i &lt; 100. Sie kennt %2 und i, die Nummer der Zeile.</translation>
     </message>
     <message>
         <source>The list is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste ist leer.</translation>
     </message>
     <message>
         <source>There is no such row; the list has rows 0 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine solche Zeile gibt es nicht; die Liste hat die Zeilen 0 bis %1.</translation>
     </message>
     <message>
         <source>Rows with gaps can&apos;t be selected. Show them alone with the line Range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen mit Lücken lassen sich nicht auswählen. Zeigen Sie sie mit der Eingabe Zeilenbereich allein an.</translation>
     </message>
     <message>
         <source>Row %1 isn&apos;t among those that are shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 ist nicht unter den angezeigten.</translation>
     </message>
 </context>
 <context>
     <name>ListPanel</name>
     <message>
         <source>Select a list field, such as the positions of a mesh, to see its rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie ein Listenfeld aus, etwa die Positionen eines Netzes, um seine Zeilen zu sehen.</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>&amp;Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Statistik</translation>
     </message>
     <message>
         <source>Shows smallest, largest and mean values beside the rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt kleinste, größte und mittlere Werte neben den Zeilen</translation>
     </message>
     <message>
         <source>Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Go to Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Zeile springen</translation>
     </message>
     <message>
         <source>Types the number of a row to go to</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer einer Zeile eingeben, zu der gesprungen wird</translation>
     </message>
     <message>
         <source>Filter Rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen filtern</translation>
     </message>
     <message>
         <source>Types what the shown rows contain</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingeben, was die angezeigten Zeilen enthalten</translation>
     </message>
     <message>
         <source>Set Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte setzen</translation>
     </message>
     <message>
         <source>Types a formula for the values of a column</source>
-        <translation type="unfinished"></translation>
+        <translation>Formel für die Werte einer Spalte eingeben</translation>
     </message>
     <message>
         <source>&quot;%1&quot; wasn&apos;t written: %2 isn&apos;t shown any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde nicht geschrieben: %2 wird nicht mehr angezeigt.</translation>
     </message>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message>
         <source>, %1 shown</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 angezeigt</translation>
     </message>
     <message>
         <source>, %1 selected</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 ausgewählt</translation>
     </message>
 </context>
 <context>
     <name>ListSetLine</name>
     <message>
         <source>&amp;Set</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Setzen</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>to</source>
-        <translation type="unfinished"></translation>
+        <translation>auf</translation>
     </message>
     <message>
         <source>Formula for the selected rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Formel für die ausgewählten Zeilen</translation>
     </message>
     <message>
         <source>Formula</source>
-        <translation type="unfinished"></translation>
+        <translation>Formel</translation>
     </message>
     <message>
         <source>A number or a formula for the selected rows, such as x * 2 or i * 0.1. It knows the components by their names, and the number of the row as i.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zahl oder eine Formel für die ausgewählten Zeilen, etwa x * 2 oder i * 0.1. Sie kennt die Komponenten bei ihren Namen und die Nummer der Zeile als i.</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Sets the column in the selected rows; in all that are shown if none is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt die Spalte in den ausgewählten Zeilen; in allen angezeigten, wenn keine ausgewählt ist</translation>
     </message>
     <message>
         <source>%1 Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Nichts wurde geändert.</translation>
     </message>
     <message>
         <source>Computing rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen werden berechnet</translation>
     </message>
     <message>
         <source>The list changed while the rows were being computed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Liste hat sich beim Berechnen der Zeilen geändert.</translation>
     </message>
 </context>
 <context>
     <name>ListStatistics</name>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistik</translation>
     </message>
     <message>
         <source>Minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittelwert</translation>
     </message>
     <message>
         <source>NaN</source>
-        <translation type="unfinished"></translation>
+        <translation>NaN</translation>
     </message>
     <message>
         <source>%1 selected rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ausgewählte Zeilen</translation>
     </message>
     <message>
         <source>1 row</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Zeile</translation>
     </message>
     <message>
         <source>%1 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zeilen</translation>
     </message>
     <message>
         <source>%1 of %2 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Zeilen</translation>
     </message>
 </context>
 <context>
     <name>ListView</name>
     <message>
         <source>Rows of the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen der Liste</translation>
     </message>
 </context>
 <context>
     <name>LockAction</name>
     <message>
         <source>Lock Inspec&amp;tor</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspektor &amp;fixieren</translation>
     </message>
     <message>
         <source>Keeps fields and editors on this node while you browse on</source>
-        <translation type="unfinished"></translation>
+        <translation>Hält Felder und Editoren auf diesem Knoten, während Sie weiterblättern</translation>
     </message>
     <message>
         <source>Locked on %1. Click to follow the selection again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixiert auf %1. Klicken, um wieder der Auswahl zu folgen.</translation>
     </message>
     <message>
         <source>Lock: stay on this node while you browse on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixieren: auf diesem Knoten bleiben, während Sie weiterblättern.</translation>
     </message>
     <message>
         <source>Select a node first, to lock the inspector on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst einen Knoten auswählen, um den Inspektor darauf zu fixieren.</translation>
     </message>
 </context>
 <context>
     <name>LockStatus</name>
     <message>
         <source>Locked on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixiert auf %1</translation>
     </message>
     <message>
         <source>Click here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier klicken</translation>
     </message>
     <message>
         <source>Click here or press %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier klicken oder %1 drücken</translation>
     </message>
     <message>
         <source>Fields and editors stay on %1. %2, and they follow the selection again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder und Editoren bleiben auf %1. %2, und sie folgen wieder der Auswahl.</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>No scene is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet.</translation>
     </message>
     <message>
         <source>Unsaved changes can&apos;t be kept for recovery after a crash: %1. It is tried again every minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungespeicherte Änderungen lassen sich nicht für die Wiederherstellung nach einem Absturz sichern: %1. Jede Minute folgt ein neuer Versuch.</translation>
     </message>
     <message>
         <source>%1[*] — Orvane</source>
-        <translation type="unfinished"></translation>
+        <translation>%1[*] — Orvane</translation>
     </message>
     <message>
         <source>Orvane</source>
-        <translation type="unfinished"></translation>
+        <translation>Orvane</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene</translation>
     </message>
     <message>
         <source>Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder</translation>
     </message>
     <message>
         <source>File and Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei und Bearbeiten</translation>
     </message>
 </context>
 <context>
     <name>MarkDelegate</name>
     <message>
         <source>Ignored: click to use the value again (Ctrl+Alt+I)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignoriert: klicken, um den Wert wieder zu verwenden (Strg+Alt+I)</translation>
     </message>
     <message>
         <source>Let the scene ignore this value (Ctrl+Alt+I)</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Wert in der Szene ignorieren (Strg+Alt+I)</translation>
     </message>
     <message>
         <source>A favorite of this class: click to put it back (Ctrl+B)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Favorit dieser Klasse: klicken, um ihn zurückzulegen (Strg+B)</translation>
     </message>
     <message>
         <source>Put this field of the class to the top (Ctrl+B)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Feld der Klasse nach oben legen (Strg+B)</translation>
     </message>
     <message>
         <source>Reset to the default (Ctrl+Backspace)</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf den Vorgabewert zurücksetzen (Strg+Rücktaste)</translation>
     </message>
 </context>
 <context>
     <name>MaskPopup</name>
     <message>
         <source>Bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Bits</translation>
     </message>
     <message>
         <source>bits 0x%1, without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Bits 0x%1, ohne Namen</translation>
     </message>
 </context>
 <context>
     <name>MatrixPopup</name>
     <message>
         <source>The matrix has shear: its axes aren&apos;t at right angles. Translation, rotation and scale don&apos;t give it exactly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Matrix hat eine Scherung: Ihre Achsen stehen nicht rechtwinklig. Verschiebung, Drehung und Skalierung ergeben sie nicht genau.</translation>
     </message>
     <message>
         <source>The last column isn&apos;t 0, 0, 0, 1. Translation, rotation and scale don&apos;t give such a projection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die letzte Spalte ist nicht 0, 0, 0, 1. Verschiebung, Drehung und Skalierung ergeben keine solche Projektion.</translation>
     </message>
     <message>
         <source>The matrix has elements that aren&apos;t finite, so it has no parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Matrix hat Elemente, die nicht endlich sind, lässt sich also nicht zerlegen.</translation>
     </message>
     <message>
         <source>Remove the shear</source>
-        <translation type="unfinished"></translation>
+        <translation>Scherung entfernen</translation>
     </message>
     <message>
         <source>Remove the projection</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektion entfernen</translation>
     </message>
     <message>
         <source>Make it the identity</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Einheitsmatrix machen</translation>
     </message>
     <message>
         <source>Matrix</source>
-        <translation type="unfinished"></translation>
+        <translation>Matrix</translation>
     </message>
     <message>
         <source>Row %1, column %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1, Spalte %2</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1</translation>
     </message>
     <message>
         <source>Translation</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebung</translation>
     </message>
     <message>
         <source>Rotation °</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung °</translation>
     </message>
     <message>
         <source>Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Skalierung</translation>
     </message>
     <message>
         <source>Euler degrees: turns about the fixed axes, x first, then y, then z.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eulerwinkel in Grad: Drehungen um die festen Achsen, erst x, dann y, dann z.</translation>
     </message>
 </context>
 <context>
     <name>MeasureTool</name>
     <message>
         <source>&amp;Measure</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Messen</translation>
     </message>
     <message>
         <source>Measures distances and angles between points that are clicked, and the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Misst Abstände und Winkel zwischen angeklickten Punkten sowie die Auswahl</translation>
     </message>
     <message>
         <source>Selection: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl: %1</translation>
     </message>
     <message>
         <source>from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>von %1 bis %2</translation>
     </message>
     <message>
         <source>Click on two points to measure their distance, on a third one for an angle. Escape ends it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf zwei Punkte klicken, um ihren Abstand zu messen, auf einen dritten für einen Winkel. Esc beendet das Messen.</translation>
     </message>
     <message>
         <source>From %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Von %1</translation>
     </message>
     <message>
         <source>Distance: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand: %1 (%2)</translation>
     </message>
     <message>
         <source>Angle: %1°</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkel: %1°</translation>
     </message>
 </context>
 <context>
     <name>MessageRow</name>
     <message>
         <source>Close this message</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Meldung schließen</translation>
     </message>
 </context>
 <context>
     <name>NameScrub</name>
     <message>
         <source>Drag to change the number; with Shift ten times as fast, with Ctrl ten times as slow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen, um die Zahl zu ändern; mit Umschalt zehnmal so schnell, mit Strg zehnmal so langsam.</translation>
     </message>
 </context>
 <context>
     <name>NavigationActions</name>
     <message>
         <source>Navigation</source>
-        <translation type="unfinished"></translation>
+        <translation>Navigation</translation>
     </message>
     <message>
         <source>&amp;Orbit about the Picked Point</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Angeklickten Punkt umkreisen</translation>
     </message>
     <message>
         <source>A drag goes round what is under the pointer, rather than round the middle of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziehen umkreist, was unter dem Mauszeiger ist, statt die Mitte des Bildes</translation>
     </message>
     <message>
         <source>&amp;Animate the View</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nsicht animieren</translation>
     </message>
     <message>
         <source>Views from the sides, framing and bookmarks are reached by a short movement, where the desktop allows it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansichten von den Seiten, Einpassen und Lesezeichen folgen einer kurzen Bewegung, wo der Desktop es erlaubt</translation>
     </message>
 </context>
 <context>
     <name>NodeActions</name>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus&amp;schneiden</translation>
     </message>
     <message>
         <source>Moves the selected nodes to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebt die ausgewählten Knoten in die Zwischenablage</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>Copies the selected nodes to the clipboard, as text too</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert die ausgewählten Knoten in die Zwischenablage, auch als Text</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>Adds the nodes of the clipboard to the selected group, or behind the selected node</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt die Knoten der Zwischenablage in die ausgewählte Gruppe oder hinter dem ausgewählten Knoten ein</translation>
     </message>
     <message>
         <source>Paste a&amp;s Shared</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gemeinsam einfügen</translation>
     </message>
     <message>
         <source>Lets the nodes that were copied be in this place as well, so that a change is seen in both</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt die kopierten Knoten auch an diese Stelle, sodass eine Änderung an beiden zu sehen ist</translation>
     </message>
     <message>
         <source>&amp;Add Node…</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten &amp;hinzufügen…</translation>
     </message>
     <message>
         <source>Adds a node of a class that you choose to the selected group, or behind the selected node</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt einen Knoten einer wählbaren Klasse in die ausgewählte Gruppe oder hinter dem ausgewählten Knoten ein</translation>
     </message>
     <message>
         <source>The node comes to the top of the scene.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Knoten kommt ganz oben in die Szene.</translation>
     </message>
     <message>
         <source>The node comes into %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Knoten kommt in %1.</translation>
     </message>
     <message>
         <source>Dup&amp;licate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Duplizieren</translation>
     </message>
     <message>
         <source>Copies the selected nodes behind themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert die ausgewählten Knoten hinter sich selbst</translation>
     </message>
     <message>
         <source>&amp;Delete Node</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten &amp;löschen</translation>
     </message>
     <message>
         <source>Removes the selected nodes with everything below them</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt die ausgewählten Knoten mit allem darunter</translation>
     </message>
     <message>
         <source>&amp;Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Gru&amp;ppieren</translation>
     </message>
     <message>
         <source>Puts the selected nodes into a new group</source>
-        <translation type="unfinished"></translation>
+        <translation>Legt die ausgewählten Knoten in eine neue Gruppe</translation>
     </message>
     <message>
         <source>Ungr&amp;oup</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe &amp;auflösen</translation>
     </message>
     <message>
         <source>Replaces the selected groups by what is in them</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzt die ausgewählten Gruppen durch ihren Inhalt</translation>
     </message>
     <message>
         <source>Make Own Cop&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eigene Kopie anlegen</translation>
     </message>
     <message>
         <source>Gives these places a copy of their own of a node that is in other places as well</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt diesen Stellen eine eigene Kopie eines Knotens, der auch an anderen Stellen ist</translation>
     </message>
     <message>
         <source>&amp;Move Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>Moves the selected nodes before the node above them</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebt die ausgewählten Knoten vor den Knoten darüber</translation>
     </message>
     <message>
         <source>Move Do&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;unten</translation>
     </message>
     <message>
         <source>Moves the selected nodes behind the node below them</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebt die ausgewählten Knoten hinter den Knoten darunter</translation>
     </message>
     <message>
         <source>Mov&amp;e Out of Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Gruppe herausneh&amp;men</translation>
     </message>
     <message>
         <source>Moves the selected nodes behind the group that they are in</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebt die ausgewählten Knoten hinter die Gruppe, in der sie sind</translation>
     </message>
     <message>
         <source>Move &amp;into Group Above</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;In Gruppe darüber verschieben</translation>
     </message>
     <message>
         <source>Moves the selected nodes to the end of the group above them</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebt die ausgewählten Knoten ans Ende der Gruppe darüber</translation>
     </message>
     <message>
         <source>&amp;Keep Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Or&amp;t beibehalten</translation>
     </message>
     <message>
         <source>Nodes stay where they are in the world when they move to other groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten bleiben an ihrem Ort in der Welt, wenn sie in andere Gruppen kommen</translation>
     </message>
     <message>
         <source>No node is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Knoten ist ausgewählt.</translation>
     </message>
     <message>
         <source>No scene is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet.</translation>
     </message>
 </context>
 <context>
     <name>NodeClipboard</name>
     <message>
         <source>Only nodes that were copied from this scene can be shared in it. Paste them as copies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur aus dieser Szene kopierte Knoten lassen sich gemeinsam einfügen. Fügen Sie sie als Kopien ein.</translation>
     </message>
     <message>
         <source>Clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenablage</translation>
     </message>
     <message>
         <source>Reading what is pasted…</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingefügtes wird gelesen…</translation>
     </message>
     <message>
         <source>Nothing was pasted. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wurde eingefügt. %1</translation>
     </message>
     <message>
         <source>Nothing was pasted, since another scene was opened meanwhile.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wurde eingefügt, weil inzwischen eine andere Szene geöffnet wurde.</translation>
     </message>
     <message>
         <source>The clipboard holds no nodes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage enthält keine Knoten.</translation>
     </message>
 </context>
 <context>
     <name>NodeEditor</name>
     <message>
         <source>There isn&apos;t enough memory for that; nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dafür reicht der Speicher nicht; nichts wurde geändert.</translation>
     </message>
 </context>
 <context>
     <name>NodeLock</name>
     <message>
         <source>the scene was closed</source>
-        <translation type="unfinished"></translation>
+        <translation>die Szene wurde geschlossen</translation>
     </message>
     <message>
         <source>The lock on %1 is off, since %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Fixierung auf %1 ist aufgehoben: %2.</translation>
     </message>
     <message>
         <source>%1 was replaced by the reload; the lock is on the node in its place.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde beim Neuladen ersetzt; die Fixierung ist auf dem Knoten an seiner Stelle.</translation>
     </message>
     <message>
         <source>the node isn&apos;t in the scene any more</source>
-        <translation type="unfinished"></translation>
+        <translation>der Knoten ist nicht mehr in der Szene</translation>
     </message>
 </context>
 <context>
     <name>NodeMenu</name>
     <message>
         <source>Copy Pat&amp;h</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pfad kopieren</translation>
     </message>
     <message>
         <source>Copies the path of the selected node in the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert den Pfad des ausgewählten Knotens in der Szene</translation>
     </message>
     <message>
         <source>Copy All F&amp;ields</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Felder kopieren</translation>
     </message>
     <message>
         <source>Copies the values of all fields of the node</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert die Werte aller Felder des Knotens</translation>
     </message>
     <message>
         <source>Pa&amp;ste All Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Felder ein&amp;fügen</translation>
     </message>
     <message>
         <source>Writes the values of the clipboard to the fields of the node</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt die Werte der Zwischenablage in die Felder des Knotens</translation>
     </message>
     <message>
         <source>&amp;Find Nodes of This Class</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten dieser Klasse &amp;suchen</translation>
     </message>
     <message>
         <source>Searches the tree for nodes of the class of the selected node</source>
-        <translation type="unfinished"></translation>
+        <translation>Sucht im Baum nach Knoten der Klasse des ausgewählten Knotens</translation>
     </message>
     <message>
         <source>Loc&amp;k Inspector on This</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspektor hier fi&amp;xieren</translation>
     </message>
     <message>
         <source>Keeps fields and editors on the node that is selected in the tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Hält Felder und Editoren auf dem im Baum ausgewählten Knoten</translation>
     </message>
     <message>
         <source>Look Thro&amp;ugh Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch Kamera &amp;blicken</translation>
     </message>
     <message>
         <source>Shows in the view what the selected camera sees</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt in der Ansicht, was die ausgewählte Kamera sieht</translation>
     </message>
     <message>
         <source>Select a node first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst einen Knoten auswählen.</translation>
     </message>
     <message>
         <source>Select a camera first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst eine Kamera auswählen.</translation>
     </message>
     <message>
         <source>&amp;Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verschieben</translation>
     </message>
     <message>
         <source>Fields as Te&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder als &amp;Text</translation>
     </message>
     <message>
         <source>%1 has no fields to copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat keine Felder zum Kopieren.</translation>
     </message>
 </context>
 <context>
     <name>NodeMimeData</name>
     <message>
         <source>The clipboard holds %1 of text, but at most %2 can be pasted. Save the text as a scene file and import that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage enthält %1 Text, aber höchstens %2 lassen sich einfügen. Speichern Sie den Text als Szenendatei, und importieren Sie diese.</translation>
     </message>
     <message>
         <source>The selected nodes are more than %1 of text, too much for the clipboard. Duplicate them instead, or import their file into the other scene.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Knoten sind mehr als %1 Text, zu viel für die Zwischenablage. Duplizieren Sie sie stattdessen, oder importieren Sie ihre Datei in die andere Szene.</translation>
     </message>
     <message>
         <source>The clipboard holds no nodes and no text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage enthält weder Knoten noch Text.</translation>
     </message>
 </context>
 <context>
     <name>NodeToolTip</name>
     <message>
         <source>Ignored fields: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorierte Felder: %1</translation>
     </message>
     <message>
         <source>, 1 child node</source>
-        <translation type="unfinished"></translation>
+        <translation>, 1 Kindknoten</translation>
     </message>
     <message>
         <source>, %1 child nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 Kindknoten</translation>
     </message>
     <message>
         <source>1 mesh</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Netz</translation>
     </message>
     <message>
         <source>%1 meshes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Netze</translation>
     </message>
     <message>
         <source>1 triangle</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Dreieck</translation>
     </message>
     <message>
         <source>%1 triangles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Dreiecke</translation>
     </message>
     <message>
         <source>At least %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestens %1</translation>
     </message>
     <message>
         <source>Bounds in the scene: %1 × %2 × %3 around %4, %5, %6</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausdehnung in der Szene: %1 × %2 × %3 um %4, %5, %6</translation>
     </message>
 </context>
 <context>
     <name>NumberEditor</name>
     <message>
         <source>several values</source>
-        <translation type="unfinished"></translation>
+        <translation>mehrere Werte</translation>
     </message>
 </context>
 <context>
     <name>NumberLimits</name>
     <message>
         <source>%1 isn&apos;t a number that fits here. Enter %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist keine Zahl, die hier passt. Geben Sie %2 ein.</translation>
     </message>
     <message>
         <source>%1 has a fraction. Enter %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat Nachkommastellen. Geben Sie %2 ein.</translation>
     </message>
     <message>
         <source>%1 is too small.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist zu klein.</translation>
     </message>
     <message>
         <source>The least is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die kleinste ist %1.</translation>
     </message>
     <message>
         <source>%1 is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist zu groß.</translation>
     </message>
     <message>
         <source>The greatest is %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die größte ist %1.</translation>
     </message>
     <message>
         <source>%1 Enter %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Geben Sie %2 ein.</translation>
     </message>
     <message>
         <source>a whole number</source>
-        <translation type="unfinished"></translation>
+        <translation>eine ganze Zahl</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Zahl</translation>
     </message>
     <message>
         <source>%1 from %2 to %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 bis %3</translation>
     </message>
     <message>
         <source>%1 of at least %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ab %2</translation>
     </message>
     <message>
         <source>%1 of at most %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
 </context>
 <context>
     <name>NumberLine</name>
     <message>
         <source>“%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: %2</translation>
     </message>
     <message>
         <source>%1 Enter %2 or a formula.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Geben Sie %2 oder eine Formel ein.</translation>
     </message>
     <message>
         <source>The text is longer than the %1 characters of the longest formula, so it wasn&apos;t inserted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text ist länger als die %1 Zeichen der längsten Formel, deshalb wurde er nicht eingefügt.</translation>
     </message>
 </context>
 <context>
     <name>NumberRow</name>
     <message>
         <source>x</source>
-        <translation type="unfinished"></translation>
+        <translation>x</translation>
     </message>
     <message>
         <source>%1 x</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x</translation>
     </message>
     <message>
         <source>y</source>
-        <translation type="unfinished"></translation>
+        <translation>y</translation>
     </message>
     <message>
         <source>%1 y</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y</translation>
     </message>
     <message>
         <source>z</source>
-        <translation type="unfinished"></translation>
+        <translation>z</translation>
     </message>
     <message>
         <source>%1 z</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z</translation>
     </message>
 </context>
 <context>
     <name>NumberTyping</name>
     <message>
         <source>The text is longer than the %1 characters of the longest formula, so it wasn&apos;t inserted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text ist länger als die %1 Zeichen der längsten Formel, deshalb wurde er nicht eingefügt.</translation>
     </message>
     <message>
         <source>This isn&apos;t a number. Enter %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine Zahl. Geben Sie %1 ein.</translation>
     </message>
     <message>
         <source>The editor doesn&apos;t take it. Enter %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Editor nimmt sie nicht an. Geben Sie %1 ein.</translation>
     </message>
     <message>
         <source>“%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: %2</translation>
     </message>
     <message>
         <source>Not written yet: these numbers are written together, at Return.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht geschrieben: Diese Zahlen werden zusammen mit Return geschrieben.</translation>
     </message>
 </context>
 <context>
     <name>OrvImages</name>
     <message>
         <source>nothing loads images here</source>
-        <translation type="unfinished"></translation>
+        <translation>hier lädt nichts Bilder</translation>
     </message>
 </context>
 <context>
     <name>OverwriteQuestion</name>
     <message>
         <source>File Changed on Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Geänderte Datei</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has changed on disk since it was opened or saved here. Save anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde auf dem Datenträger geändert, seit die Datei hier geöffnet oder gespeichert wurde. Trotzdem speichern?</translation>
     </message>
     <message>
         <source>What has changed in the file is lost if you save over it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was in der Datei geändert wurde, geht beim Überschreiben verloren.</translation>
     </message>
     <message>
         <source>Save &amp;Over It</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Überschreiben</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter…</translation>
     </message>
     <message>
         <source>&amp;Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vergleichen</translation>
     </message>
 </context>
 <context>
     <name>PasteJob</name>
     <message>
         <source>There is nothing to paste: the clipboard has no text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts einzufügen: Die Zwischenablage enthält keinen Text.</translation>
     </message>
     <message>
         <source>1 cell</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Zelle</translation>
     </message>
     <message>
         <source>%1 cells</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zellen</translation>
     </message>
     <message>
         <source>Line %1 of the clipboard has %2, but the lines before it have %3. Nothing was pasted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 der Zwischenablage hat %2, die Zeilen davor haben aber %3. Nichts wurde eingefügt.</translation>
     </message>
     <message>
         <source>Line %1: %2 Nothing was pasted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2 Nichts wurde eingefügt.</translation>
     </message>
     <message>
         <source>The clipboard has %1 columns, and the list has one. Nothing was pasted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage hat %1 Spalten, die Liste hat eine. Nichts wurde eingefügt.</translation>
     </message>
     <message>
         <source>The clipboard has %1 columns, but from column %2 on the list has %3. Nothing was pasted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zwischenablage hat %1 Spalten, ab Spalte %2 hat die Liste aber %3. Nichts wurde eingefügt.</translation>
     </message>
     <message>
         <source>Line %1, column %2: %3 can&apos;t be pasted. %4 Nothing was pasted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1, Spalte %2: %3 lässt sich nicht einfügen. %4 Nichts wurde eingefügt.</translation>
     </message>
     <message>
         <source>A cell of this list is true or false.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zelle dieser Liste ist wahr oder falsch.</translation>
     </message>
     <message>
         <source>The enumeration has no such name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufzählung hat keinen solchen Namen.</translation>
     </message>
     <message>
         <source>The cell is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zelle ist leer.</translation>
     </message>
 </context>
 <context>
     <name>PathCell</name>
     <message>
         <source>There is no file %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 gibt es nicht.</translation>
     </message>
 </context>
 <context>
     <name>PathEdit</name>
     <message>
         <source>File path</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateipfad</translation>
     </message>
     <message>
         <source>Choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei wählen</translation>
     </message>
     <message>
         <source>Chooses a file in a dialog.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt eine Datei in einem Dialog.</translation>
     </message>
     <message>
         <source>Choose a File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei wählen</translation>
     </message>
 </context>
 <context>
     <name>PendingText</name>
     <message>
         <source>Not written yet. It is written when you release the button, press Return or close the popup; Escape drops it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht geschrieben. Geschrieben wird beim Loslassen der Maustaste, mit Return oder beim Schließen des Popups; Esc verwirft den Wert.</translation>
     </message>
 </context>
 <context>
     <name>PickerPopup</name>
     <message>
         <source>Searching…</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche läuft…</translation>
     </message>
 </context>
 <context>
     <name>PictureDialog</name>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>&amp;Grid and axes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Raster und Achsen</translation>
     </message>
     <message>
         <source>Export Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild exportieren</translation>
     </message>
     <message>
         <source>Seen from</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesehen von</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparent</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiß</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarz</translation>
     </message>
     <message>
         <source> pixels</source>
-        <translation type="unfinished"></translation>
+        <translation> Pixel</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Breite:</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Höhe:</translation>
     </message>
     <message>
         <source>&amp;Seen from:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gesehen von:</translation>
     </message>
     <message>
         <source>&amp;Background:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinter&amp;grund:</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportieren…</translation>
     </message>
     <message>
         <source>%1 million pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Millionen Pixel</translation>
     </message>
     <message>
         <source>Too large: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu groß: %1.</translation>
     </message>
 </context>
 <context>
     <name>PictureExport</name>
     <message>
         <source>Export Picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild exportieren…</translation>
     </message>
     <message>
         <source>Writes a picture of the scene of any size, with a transparent background if wanted</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibt ein Bild der Szene in beliebiger Größe, auf Wunsch mit transparentem Hintergrund</translation>
     </message>
     <message>
         <source>No scene is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet.</translation>
     </message>
     <message>
         <source>The view as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ansicht, wie sie ist</translation>
     </message>
     <message>
         <source>All of the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ganze Szene</translation>
     </message>
     <message>
         <source>Camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera %1</translation>
     </message>
     <message>
         <source>Bookmark %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesezeichen %1</translation>
     </message>
     <message>
         <source>Export Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild exportieren</translation>
     </message>
     <message>
         <source>PNG images (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG-Bilder (*.png)</translation>
     </message>
     <message>
         <source>JPEG images (*.jpg *.jpeg)</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG-Bilder (*.jpg *.jpeg)</translation>
     </message>
     <message>
         <source>BMP images (*.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>BMP-Bilder (*.bmp)</translation>
     </message>
     <message>
         <source>PPM images (*.ppm)</source>
-        <translation type="unfinished"></translation>
+        <translation>PPM-Bilder (*.ppm)</translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <source>Drawing the picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild wird gezeichnet…</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Writing the picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild wird geschrieben…</translation>
     </message>
     <message>
         <source>Wrote %1, %2 by %3 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geschrieben, %2 mal %3 Pixel</translation>
     </message>
 </context>
 <context>
     <name>PictureRun</name>
     <message>
         <source>%1: this is no camera. --find &apos;t:Camera&apos; lists the cameras.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Das ist keine Kamera. --find &apos;t:Camera&apos; listet die Kameras auf.</translation>
     </message>
     <message>
         <source>--camera %1: %2 has no bookmarks. The path of a camera begins with a slash.</source>
-        <translation type="unfinished"></translation>
+        <translation>--camera %1: %2 hat keine Lesezeichen. Der Pfad einer Kamera beginnt mit einem Schrägstrich.</translation>
     </message>
     <message>
         <source>--camera %1: %2 has no bookmark of that name, but %3. The path of a camera begins with a slash.</source>
-        <translation type="unfinished"></translation>
+        <translation>--camera %1: %2 hat kein Lesezeichen dieses Namens, aber %3. Der Pfad einer Kamera beginnt mit einem Schrägstrich.</translation>
     </message>
     <message>
         <source>%1: a picture of this format can&apos;t be transparent. Give another color with --background, or write a .png.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Ein Bild dieses Formats kann nicht transparent sein. Geben Sie mit --background eine andere Farbe an, oder schreiben Sie ein .png.</translation>
     </message>
     <message>
         <source>%1: The scene refers to images in this folder, outside its own. They aren&apos;t loaded; open the scene in a window to allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Die Szene verweist auf Bilder in diesem Ordner, außerhalb ihres eigenen. Sie werden nicht geladen; öffnen Sie die Szene in einem Fenster, um es zu erlauben.</translation>
     </message>
 </context>
 <context>
     <name>PlaceActions</name>
     <message>
         <source>%1 — %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 — %2</translation>
     </message>
     <message>
         <source>Bac&amp;k</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zurück</translation>
     </message>
     <message>
         <source>Selects the node that was selected before</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt den zuvor ausgewählten Knoten aus</translation>
     </message>
     <message>
         <source>&amp;Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorwärts</translation>
     </message>
     <message>
         <source>Selects the node that Back has left</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt den Knoten aus, den Zurück verlassen hat</translation>
     </message>
     <message>
         <source>Nothing else was selected before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuvor war nichts anderes ausgewählt.</translation>
     </message>
     <message>
         <source>You haven&apos;t gone back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie sind nicht zurückgegangen.</translation>
     </message>
 </context>
 <context>
     <name>PlaceKeeping</name>
     <message>
         <source>%1 can&apos;t keep its place in %2, which is scaled to nothing or has a matrix that can&apos;t be reversed. Turn off Keep Place in the Edit menu to move it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kann den Ort in %2 nicht behalten, denn diese Gruppe ist auf nichts skaliert oder hat eine nicht umkehrbare Matrix. Schalten Sie im Menü Bearbeiten „Ort beibehalten“ aus, um den Knoten zu verschieben.</translation>
     </message>
 </context>
 <context>
     <name>PluginActions</name>
     <message>
         <source>&amp;Plug-ins...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plug-ins...</translation>
     </message>
     <message>
         <source>Shows the plug-ins, what is wrong with them, and a switch for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Plug-ins, ihre Fehler und je einen Schalter</translation>
     </message>
     <message>
         <source>The plug-in %1 did not come through loading: the program ended meanwhile. It was left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Plug-in %1 hat das Laden nicht überstanden: Das Programm endete dabei. Es wurde ausgelassen.</translation>
     </message>
     <message>
         <source>Leave It Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Auslassen</translation>
     </message>
     <message>
         <source>Load It Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt laden</translation>
     </message>
 </context>
 <context>
     <name>PluginLoader</name>
     <message>
         <source>%1: its extension &quot;%2&quot; has the name of one of %3, so that profiles take both for the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Die Erweiterung „%2“ hat den Namen einer von %3, deshalb halten Profile beide für dieselbe.</translation>
     </message>
 </context>
 <context>
     <name>PluginModel</name>
     <message>
         <source>Loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Geladen</translation>
     </message>
     <message>
         <source>Loaded, with warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Geladen, mit Warnungen</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagen</translation>
     </message>
     <message>
         <source>Not loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht geladen</translation>
     </message>
     <message>
         <source>Left out: it ended the program</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassen: hat das Programm beendet</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>Plug-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Plug-in</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand</translation>
     </message>
     <message>
         <source>Load time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ladezeit</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
 </context>
 <context>
     <name>PluginsDialog</name>
     <message>
         <source>Plug-ins</source>
-        <translation type="unfinished"></translation>
+        <translation>Plug-ins</translation>
     </message>
     <message>
         <source>A plug-in that is switched off isn&apos;t loaded from the next start on. Load Now takes effect at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein ausgeschaltetes Plug-in wird ab dem nächsten Start nicht geladen. „Jetzt laden“ wirkt sofort.</translation>
     </message>
     <message>
         <source>About the selected plug-in</source>
-        <translation type="unfinished"></translation>
+        <translation>Über das ausgewählte Plug-in</translation>
     </message>
     <message>
         <source>&amp;Load Now</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jetzt laden</translation>
     </message>
     <message>
         <source>It is loaded already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist schon geladen.</translation>
     </message>
     <message>
         <source>No plug-in was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Plug-in wurde gefunden.</translation>
     </message>
     <message>
         <source>By %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Von %1</translation>
     </message>
     <message>
         <source>Extensions: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterungen: %1</translation>
     </message>
     <message>
         <source>The program ended while it was loading this plug-in. It is left out until you switch it on or load it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm endete beim Laden dieses Plug-ins. Es wird ausgelassen, bis Sie es einschalten oder laden.</translation>
     </message>
 </context>
 <context>
     <name>ProblemModel</name>
     <message>
         <source>Mend: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Beheben: %1</translation>
     </message>
     <message>
         <source>Problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problem</translation>
     </message>
     <message>
         <source>Node or Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten oder Feld</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennung</translation>
     </message>
 </context>
 <context>
     <name>ProblemPanel</name>
     <message>
         <source>&amp;Go to Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Feld &amp;springen</translation>
     </message>
     <message>
         <source>&amp;Mend</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beheben</translation>
     </message>
     <message>
         <source>Mend All of This &amp;Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle dieser &amp;Art beheben</translation>
     </message>
     <message>
         <source>Check A&amp;gain</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erneut prüfen</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtern</translation>
     </message>
     <message>
         <source>Shows the problems that contain all of these words: in the sentence, the names on the way to the node, its class, or the identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Probleme, die alle diese Wörter enthalten: im Satz, in den Namen auf dem Weg zum Knoten, in seiner Klasse oder der Kennung</translation>
     </message>
     <message>
         <source>Mends the selected problems as one step</source>
-        <translation type="unfinished"></translation>
+        <translation>Behebt die ausgewählten Probleme in einem Schritt</translation>
     </message>
     <message>
         <source>Mends all problems of the kind of the selected one as one step</source>
-        <translation type="unfinished"></translation>
+        <translation>Behebt alle Probleme von der Art des ausgewählten in einem Schritt</translation>
     </message>
     <message>
         <source>Checks the whole scene again, and looks at its files again</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüft die ganze Szene und ihre Dateien erneut</translation>
     </message>
     <message>
         <source>Problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Probleme</translation>
     </message>
     <message>
         <source>Selects the node and the field of the selected problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt den Knoten und das Feld des ausgewählten Problems aus</translation>
     </message>
     <message>
         <source>No scene is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet.</translation>
     </message>
     <message>
         <source>Checking the scene… %1 nodes so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene wird geprüft… bisher %1 Knoten</translation>
     </message>
     <message>
         <source>The filter hides all problems.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Filter blendet alle Probleme aus.</translation>
     </message>
     <message>
         <source>No problems were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Probleme gefunden.</translation>
     </message>
     <message>
         <source>%1, shown or hidden by this button</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, mit dieser Schaltfläche ein- oder auszublenden</translation>
     </message>
     <message>
         <source>Select a problem to mend it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie ein Problem aus, um es zu beheben.</translation>
     </message>
     <message>
         <source>There is no safe mend for this problem.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Problem lässt sich nicht sicher beheben.</translation>
     </message>
     <message>
         <source>The scene is still being checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene wird noch geprüft.</translation>
     </message>
     <message>
         <source>Select a problem first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuerst ein Problem auswählen.</translation>
     </message>
     <message>
         <source>Mends all problems of the scene with the identifier %1 as one step</source>
-        <translation type="unfinished"></translation>
+        <translation>Behebt alle Probleme der Szene mit der Kennung %1 in einem Schritt</translation>
     </message>
     <message>
         <source>Mend: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Beheben: %1</translation>
     </message>
     <message>
         <source>Mend %1 problems</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Probleme beheben</translation>
     </message>
     <message>
         <source>Copying %1 problems</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Probleme werden kopiert</translation>
     </message>
 </context>
 <context>
     <name>ProblemsDock</name>
     <message>
         <source>Problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Probleme</translation>
     </message>
     <message>
         <source>%1 errors, %2 warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fehler, %2 Warnungen</translation>
     </message>
     <message>
         <source>%1 errors</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fehler</translation>
     </message>
     <message>
         <source>%1 warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Warnungen</translation>
     </message>
 </context>
 <context>
     <name>RecoverJob</name>
     <message>
         <source>its file has changed since then</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei hat sich seitdem geändert</translation>
     </message>
     <message>
         <source>%1 can&apos;t be recovered: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lässt sich nicht wiederherstellen: %2</translation>
     </message>
 </context>
 <context>
     <name>RecoveryLog</name>
     <message>
         <source>There isn&apos;t enough memory to keep changes for recovery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicher reicht nicht, um Änderungen für die Wiederherstellung zu sichern.</translation>
     </message>
 </context>
 <context>
     <name>RecoveryOffer</name>
     <message>
         <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerfen</translation>
     </message>
     <message>
         <source>A scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Szene</translation>
     </message>
     <message>
         <source>%1 was open when Orvane ended unexpectedly. Its unsaved changes can&apos;t be recovered: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 war geöffnet, als Orvane unerwartet endete. Die ungespeicherten Änderungen lassen sich nicht wiederherstellen: %2.</translation>
     </message>
     <message>
         <source>1 unsaved change</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ungespeicherte Änderung</translation>
     </message>
     <message>
         <source>%1 unsaved changes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ungespeicherte Änderungen</translation>
     </message>
     <message>
         <source>%1 was open when Orvane ended unexpectedly. %2 can be recovered, up to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 war geöffnet, als Orvane unerwartet endete. Wiederherstellbar: %2, bis %3.</translation>
     </message>
 </context>
 <context>
     <name>RecoveryScan</name>
     <message>
         <source>its file has changed since then</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei hat sich seitdem geändert</translation>
     </message>
 </context>
 <context>
     <name>RotationCell</name>
     <message>
         <source>%1, degrees about %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Grad um %2</translation>
     </message>
     <message>
         <source>The axis doesn&apos;t have the length 1, which changes nothing about the rotation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Achse hat nicht die Länge 1, was an der Drehung nichts ändert.</translation>
     </message>
 </context>
 <context>
     <name>RotationPopup</name>
     <message>
         <source>Axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Achse</translation>
     </message>
     <message>
         <source>rad</source>
-        <translation type="unfinished"></translation>
+        <translation>rad</translation>
     </message>
     <message>
         <source>Angle in radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkel in Radiant</translation>
     </message>
     <message>
         <source>deg</source>
-        <translation type="unfinished"></translation>
+        <translation>Grad</translation>
     </message>
     <message>
         <source>Angle in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkel in Grad</translation>
     </message>
     <message>
         <source>Euler degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Eulerwinkel</translation>
     </message>
     <message>
         <source>Normalise the axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Achse normieren</translation>
     </message>
     <message>
         <source>Show Euler degrees in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Eulerwinkel in der Tabelle zeigen</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Winkel</translation>
     </message>
     <message>
         <source>Turns about the fixed axes: x first, then y, then z.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehungen um die festen Achsen: erst x, dann y, dann z.</translation>
     </message>
 </context>
 <context>
     <name>RowExpression</name>
     <message>
         <source>Row %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
     <message>
         <source>This is NaN, which is neither true nor false. To find rows with NaN, compare a component with itself, such as not x = x.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist NaN, also weder wahr noch falsch. Um Zeilen mit NaN zu finden, vergleichen Sie eine Komponente mit sich selbst, etwa not x = x.</translation>
     </message>
 </context>
 <context>
     <name>RowRange</name>
     <message>
         <source>&quot;%1&quot; isn&apos;t the number of a row. Write a range such as 0:5000, 10:, -5: or ::-1.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht die Nummer einer Zeile. Schreiben Sie einen Bereich wie 0:5000, 10:, -5: oder ::-1.</translation>
     </message>
     <message>
         <source>A range has at most three parts: first:end:step.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bereich hat höchstens drei Teile: Anfang:Ende:Schritt.</translation>
     </message>
     <message>
         <source>The step of a range can&apos;t be 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Schritt eines Bereichs kann nicht 0 sein.</translation>
     </message>
 </context>
 <context>
     <name>RowTable</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>Copies the selected rows as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert die ausgewählten Zeilen als Text</translation>
     </message>
     <message>
         <source>Copy &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle kopieren</translation>
     </message>
     <message>
         <source>Copies all rows that are shown as text</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert alle angezeigten Zeilen als Text</translation>
     </message>
 </context>
 <context>
     <name>SaveQuestion</name>
     <message>
         <source>Unsaved Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungespeicherte Änderungen</translation>
     </message>
     <message>
         <source>Save the changes to &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen an „%1“ speichern?</translation>
     </message>
     <message>
         <source>They are lost if you don&apos;t save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie gehen verloren, wenn Sie nicht speichern.</translation>
     </message>
 </context>
 <context>
     <name>SceneBookmarks</name>
     <message>
         <source>View %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht %1</translation>
     </message>
 </context>
 <context>
     <name>SceneComparer</name>
     <message>
         <source>Comparing with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich mit %1</translation>
     </message>
     <message>
         <source>Not done: %1. The scene was closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht ausgeführt: %1. Die Szene wurde geschlossen.</translation>
     </message>
 </context>
 <context>
     <name>SceneDocument</name>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenannt</translation>
     </message>
 </context>
 <context>
     <name>SceneDrops</name>
     <message>
         <source>Drop nodes in the scene tree, which shows where they come.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie Knoten im Szenenbaum ab; er zeigt, wohin sie kommen.</translation>
     </message>
 </context>
 <context>
     <name>ScenePicture</name>
     <message>
         <source>at most %1 pixels a side and %2 million in all</source>
-        <translation type="unfinished"></translation>
+        <translation>höchstens %1 Pixel je Seite und insgesamt %2 Millionen</translation>
     </message>
     <message>
         <source>There is no memory for a picture of %1x%2 pixels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für ein Bild von %1x%2 Pixeln reicht der Speicher nicht.</translation>
     </message>
 </context>
 <context>
     <name>SceneReload</name>
     <message>
         <source>%1: the reloaded scene doesn&apos;t fit in memory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Die neu geladene Szene passt nicht in den Speicher</translation>
     </message>
     <message>
         <source>Reload %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 neu laden</translation>
     </message>
     <message>
         <source>The scene is the same as in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene ist dieselbe wie in %1.</translation>
     </message>
     <message>
         <source>Reloaded %1. Undo brings your changes back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 neu geladen. Rückgängig bringt Ihre Änderungen zurück.</translation>
     </message>
     <message>
         <source>Reloaded %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 neu geladen.</translation>
     </message>
 </context>
 <context>
     <name>SceneSaving</name>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>The scene was saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene wurde gespeichert.</translation>
     </message>
     <message>
         <source>Exporting</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren</translation>
     </message>
     <message>
         <source>Exported to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach %1 exportiert.</translation>
     </message>
     <message>
         <source>Nothing was saved: a mouse button is held down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wurde gespeichert: Eine Maustaste ist gedrückt.</translation>
     </message>
 </context>
 <context>
     <name>SceneTreeModel</name>
     <message>
         <source>Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigt</translation>
     </message>
     <message>
         <source>Hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeblendet</translation>
     </message>
     <message>
         <source>Shown in the view</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Ansicht angezeigt</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Class</source>
-        <translation type="unfinished"></translation>
+        <translation>Klasse</translation>
     </message>
     <message>
         <source>Hides the node in the view</source>
-        <translation type="unfinished"></translation>
+        <translation>Blendet den Knoten in der Ansicht aus</translation>
     </message>
     <message>
         <source>Shows the node in the view</source>
-        <translation type="unfinished"></translation>
+        <translation>Blendet den Knoten in der Ansicht ein</translation>
     </message>
 </context>
 <context>
     <name>SceneTreePanel</name>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene</translation>
     </message>
 </context>
 <context>
     <name>SceneView</name>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht</translation>
     </message>
     <message>
         <source>The picture of the scene. The arrow keys go round it, with Shift they move it; plus and minus zoom, F frames the selection, A frames all, 1 to 6 look along the axes, 7 from a corner. With the right button held, W, A, S, D, Q and E fly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild der Szene. Die Pfeiltasten umkreisen sie, mit Umschalt verschieben sie das Bild; Plus und Minus zoomen, F passt die Auswahl ein, A alles, 1 bis 6 blicken entlang der Achsen, 7 von einer Ecke. Mit gedrückter rechter Maustaste fliegen W, A, S, D, Q und E.</translation>
     </message>
 </context>
 <context>
     <name>SectionBar</name>
     <message>
         <source>Section plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnittebene</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnitt</translation>
     </message>
     <message>
         <source>Axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Achse</translation>
     </message>
     <message>
         <source>x</source>
-        <translation type="unfinished"></translation>
+        <translation>x</translation>
     </message>
     <message>
         <source>y</source>
-        <translation type="unfinished"></translation>
+        <translation>y</translation>
     </message>
     <message>
         <source>z</source>
-        <translation type="unfinished"></translation>
+        <translation>z</translation>
     </message>
     <message>
         <source>Position of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Position des Schnitts</translation>
     </message>
     <message>
         <source>The place of the plane on its axis, in scene units</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Stelle der Ebene auf ihrer Achse, in Einheiten der Szene</translation>
     </message>
     <message>
         <source>Flip</source>
-        <translation type="unfinished"></translation>
+        <translation>Umdrehen</translation>
     </message>
     <message>
         <source>Shows the other side of the plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die andere Seite der Ebene</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Shows all of the scene again</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt wieder die ganze Szene</translation>
     </message>
 </context>
 <context>
     <name>SelectionLink</name>
     <message>
         <source>another node was selected</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderer Knoten wurde ausgewählt</translation>
     </message>
     <message>
         <source>nothing is selected any more</source>
-        <translation type="unfinished"></translation>
+        <translation>nichts ist mehr ausgewählt</translation>
     </message>
 </context>
 <context>
     <name>SelectionStatus</name>
     <message>
         <source>top node</source>
-        <translation type="unfinished"></translation>
+        <translation>oberster Knoten</translation>
     </message>
     <message>
         <source>top nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>oberste Knoten</translation>
     </message>
     <message>
         <source>field</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld</translation>
     </message>
     <message>
         <source>fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder</translation>
     </message>
     <message>
         <source>child node</source>
-        <translation type="unfinished"></translation>
+        <translation>Kindknoten</translation>
     </message>
     <message>
         <source>child nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kindknoten</translation>
     </message>
 </context>
 <context>
     <name>ShownRows</name>
     <message>
         <source>Finding the rows was cancelled, so they are neither filtered nor sorted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Suchen der Zeilen wurde abgebrochen, sie sind also weder gefiltert noch sortiert.</translation>
     </message>
     <message>
         <source>Finding rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen werden gesucht</translation>
     </message>
 </context>
 <context>
     <name>SpaceStep</name>
     <message>
         <source>Convert Unit and Up Axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Einheit und Hochachse umrechnen</translation>
     </message>
 </context>
 <context>
     <name>StartPage</name>
     <message>
         <source>No scene is open</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet</translation>
     </message>
     <message>
         <source>Open a scene or a 3D model, or drop its file on this window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen Sie eine Szene oder ein 3D-Modell, oder legen Sie die Datei in diesem Fenster ab.</translation>
     </message>
     <message>
         <source>Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen…</translation>
     </message>
     <message>
         <source>New Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Szene</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiele</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geöffnet</translation>
     </message>
 </context>
 <context>
     <name>StatisticsOverlay</name>
     <message>
         <source>Nodes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten: %1</translation>
     </message>
     <message>
         <source>Meshes in view: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Netze im Bild: %1 von %2</translation>
     </message>
     <message>
         <source>Triangles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dreiecke: %1</translation>
     </message>
     <message>
         <source>Draw calls: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichenaufrufe: %1</translation>
     </message>
     <message>
         <source>GPU memory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>GPU-Speicher: %1</translation>
     </message>
     <message>
         <source>Picture: %1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild: %1 ms</translation>
     </message>
 </context>
 <context>
     <name>TextLineEditor</name>
     <message>
         <source>several values</source>
-        <translation type="unfinished"></translation>
+        <translation>mehrere Werte</translation>
     </message>
 </context>
 <context>
     <name>TextPopup</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Ctrl+Return writes the text, Esc restores it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg+Return schreibt den Text, Esc stellt ihn wieder her.</translation>
     </message>
     <message>
         <source>Ctrl+Return writes the text, Esc restores it. Long lines are broken here for the screen; the text keeps them whole.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg+Return schreibt den Text, Esc stellt ihn wieder her. Lange Zeilen sind hier für den Bildschirm umbrochen; der Text behält sie ganz.</translation>
     </message>
 </context>
 <context>
     <name>TreeActions</name>
     <message>
         <source>&amp;Unfold and Fold</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;us- und Einklappen</translation>
     </message>
     <message>
         <source>Select &amp;Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten aus&amp;wählen</translation>
     </message>
     <message>
         <source>&amp;Unfold All Below</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles darunter ausklappen</translation>
     </message>
     <message>
         <source>Unfolds the selected nodes and everything below them</source>
-        <translation type="unfinished"></translation>
+        <translation>Klappt die ausgewählten Knoten und alles darunter aus</translation>
     </message>
     <message>
         <source>&amp;Fold</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einklappen</translation>
     </message>
     <message>
         <source>Folds the selected nodes and everything below them</source>
-        <translation type="unfinished"></translation>
+        <translation>Klappt die ausgewählten Knoten und alles darunter ein</translation>
     </message>
     <message>
         <source>Fold to Level &amp;1</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Ebene &amp;1 einklappen</translation>
     </message>
     <message>
         <source>Unfold to Level &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Ebene &amp;%1 ausklappen</translation>
     </message>
     <message>
         <source>Shows the top nodes alone in the tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt im Baum nur die obersten Knoten</translation>
     </message>
     <message>
         <source>Shows %1 levels of the tree, and folds what is below</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt %1 Ebenen des Baums und klappt ein, was darunter ist</translation>
     </message>
     <message>
         <source>All &amp;Children</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Kindknoten</translation>
     </message>
     <message>
         <source>Selects all children of the selected nodes in their place</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt alle Kindknoten der ausgewählten Knoten an ihrer Stelle aus</translation>
     </message>
     <message>
         <source>All of the Same C&amp;lass</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle der &amp;gleichen Klasse</translation>
     </message>
     <message>
         <source>Selects all nodes of the scene that have the class of the node selected last</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt alle Knoten der Szene aus, die die Klasse des zuletzt ausgewählten Knotens haben</translation>
     </message>
     <message>
         <source>&amp;Inverse</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl &amp;umkehren</translation>
     </message>
     <message>
         <source>Selects the unfolded rows of the tree that aren&apos;t selected, and no others</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt die ausgeklappten Zeilen des Baums aus, die nicht ausgewählt sind, und keine anderen</translation>
     </message>
     <message>
         <source>No node is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Knoten ist ausgewählt</translation>
     </message>
     <message>
         <source>No scene is open</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Szene ist geöffnet</translation>
     </message>
     <message>
         <source>The tree shows %1 more levels only: with the next one there would be more than %2 rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Baum zeigt nur %1 weitere Ebenen: Mit der nächsten wären es mehr als %2 Zeilen.</translation>
     </message>
     <message>
         <source>The selected nodes have no children.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Knoten haben keine Kindknoten.</translation>
     </message>
 </context>
 <context>
     <name>TreeDrops</name>
     <message>
         <source>Open a scene before you drop nodes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen Sie eine Szene, bevor Sie Knoten ablegen.</translation>
     </message>
     <message>
         <source>Only nodes, text and files can be dropped here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier lassen sich nur Knoten, Text und Dateien ablegen.</translation>
     </message>
 </context>
 <context>
     <name>TreeFinder</name>
     <message>
         <source>&amp;Find Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Knoten &amp;suchen</translation>
     </message>
     <message>
         <source>Searches the scene for nodes by name, class or value</source>
-        <translation type="unfinished"></translation>
+        <translation>Sucht in der Szene Knoten nach Name, Klasse oder Wert</translation>
     </message>
     <message>
         <source>Find Ne&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weitersuchen</translation>
     </message>
     <message>
         <source>Selects the next hit of the search</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt den nächsten Treffer der Suche aus</translation>
     </message>
     <message>
         <source>Find Pre&amp;vious</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückwä&amp;rts suchen</translation>
     </message>
     <message>
         <source>Selects the previous hit of the search</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt den vorigen Treffer der Suche aus</translation>
     </message>
     <message>
         <source>Select All &amp;Hits</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Treffer auswählen</translation>
     </message>
     <message>
         <source>Selects all nodes that the search has found</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählt alle Knoten aus, die die Suche gefunden hat</translation>
     </message>
     <message>
         <source>Character %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeichen %1: %2</translation>
     </message>
     <message>
         <source>%1…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1…</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>No hits</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Treffer</translation>
     </message>
     <message>
         <source>Searching…</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche läuft…</translation>
     </message>
     <message>
         <source>1 hit</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Treffer</translation>
     </message>
     <message>
         <source>%1 hits</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Treffer</translation>
     </message>
     <message>
         <source>Nothing is searched for</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wird nichts gesucht</translation>
     </message>
     <message>
         <source>The scene is being checked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene wird geprüft.</translation>
     </message>
     <message>
         <source>Went on at the other end</source>
-        <translation type="unfinished"></translation>
+        <translation>Am anderen Ende fortgesetzt</translation>
     </message>
     <message>
         <source>Some hits are folded, since there are many; going to one unfolds it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche Treffer sind eingeklappt, da es viele sind; hinspringen klappt sie aus.</translation>
     </message>
 </context>
 <context>
     <name>TreeTips</name>
     <message>
         <source>Hidden in %1 places</source>
-        <translation type="unfinished"></translation>
+        <translation>An %1 Stellen ausgeblendet</translation>
     </message>
     <message>
         <source>It is in %1 places of the scene and would be hidden in all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Knoten ist an %1 Stellen der Szene und würde an allen ausgeblendet.</translation>
     </message>
 </context>
 <context>
     <name>UpdateJob</name>
     <message>
         <source>%1: the comparison with the open scene doesn&apos;t fit in memory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Der Vergleich mit der geöffneten Szene passt nicht in den Speicher</translation>
     </message>
 </context>
 <context>
     <name>ViewActions</name>
     <message>
         <source>Frame &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles einpassen</translation>
     </message>
     <message>
         <source>Brings all of the scene into view</source>
-        <translation type="unfinished"></translation>
+        <translation>Bringt die ganze Szene ins Bild</translation>
     </message>
     <message>
         <source>Frame &amp;Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus&amp;wahl einpassen</translation>
     </message>
     <message>
         <source>Brings what is selected into view</source>
-        <translation type="unfinished"></translation>
+        <translation>Bringt die Auswahl ins Bild</translation>
     </message>
     <message>
         <source>&amp;Front</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorn</translation>
     </message>
     <message>
         <source>&amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hinten</translation>
     </message>
     <message>
         <source>&amp;Right</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rechts</translation>
     </message>
     <message>
         <source>&amp;Left</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Links</translation>
     </message>
     <message>
         <source>&amp;Top</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oben</translation>
     </message>
     <message>
         <source>B&amp;ottom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unten</translation>
     </message>
     <message>
         <source>From a &amp;Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Von einer &amp;Ecke</translation>
     </message>
     <message>
         <source>Looks in perspective from the right, from above and from the front, as at first</source>
-        <translation type="unfinished"></translation>
+        <translation>Blickt perspektivisch von rechts, oben und vorn, wie zu Beginn</translation>
     </message>
     <message>
         <source>&amp;Perspective</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Perspektivisch</translation>
     </message>
     <message>
         <source>Distant things look smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Fernes sieht kleiner aus</translation>
     </message>
     <message>
         <source>&amp;Orthographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Or&amp;thografisch</translation>
     </message>
     <message>
         <source>Things look the same size at any distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles sieht in jeder Entfernung gleich groß aus</translation>
     </message>
     <message>
         <source>Soli&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Flächen</translation>
     </message>
     <message>
         <source>Surfaces are filled</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen sind gefüllt</translation>
     </message>
     <message>
         <source>&amp;Wireframe</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drahtgitter</translation>
     </message>
     <message>
         <source>Surfaces show their edges alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Flächen zeigen nur ihre Kanten</translation>
     </message>
     <message>
         <source>&amp;Ground Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bodenraster</translation>
     </message>
     <message>
         <source>Shows a grid on the plane of x and z</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt ein Raster auf der Ebene von x und z</translation>
     </message>
     <message>
         <source>&amp;Bounding Boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Hüll&amp;quader</translation>
     </message>
     <message>
         <source>Shows a box around each mesh</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt einen Quader um jedes Netz</translation>
     </message>
     <message>
         <source>A&amp;xes</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;chsen</translation>
     </message>
     <message>
         <source>Shows the axes: x red, y green, z blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Achsen: x rot, y grün, z blau</translation>
     </message>
     <message>
         <source>Looks along an axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Blickt entlang einer Achse</translation>
     </message>
     <message>
         <source>Look Along</source>
-        <translation type="unfinished"></translation>
+        <translation>Blickrichtung</translation>
     </message>
 </context>
 <context>
     <name>ViewDrawing</name>
     <message>
         <source>The view is turned off by the preference ORVANE_VIEW. Remove it, or set it to 1, and start Orvane again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ansicht ist durch die Einstellung ORVANE_VIEW ausgeschaltet. Entfernen Sie diese, oder setzen Sie sie auf 1, und starten Sie Orvane erneut.</translation>
     </message>
     <message>
         <source>The scene can&apos;t be drawn here: %1. Install a driver with OpenGL 3.3, such as the packages libegl-mesa0 and libgl1-mesa-dri, and start Orvane again. Everything else works without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene lässt sich hier nicht zeichnen: %1. Installieren Sie einen Treiber mit OpenGL 3.3, etwa die Pakete libegl-mesa0 und libgl1-mesa-dri, und starten Sie Orvane erneut. Alles andere geht auch ohne.</translation>
     </message>
 </context>
 <context>
     <name>ViewHandles</name>
     <message>
         <source>&amp;Handles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Griffe</translation>
     </message>
     <message>
         <source>S&amp;ymbols</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ymbole</translation>
     </message>
     <message>
         <source>&amp;None</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine</translation>
     </message>
     <message>
         <source>Shows no handles in the view</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt keine Griffe in der Ansicht</translation>
     </message>
     <message>
         <source>&amp;Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verschieben</translation>
     </message>
     <message>
         <source>Shows handles that move what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt Griffe zum Verschieben der Auswahl</translation>
     </message>
     <message>
         <source>&amp;Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drehen</translation>
     </message>
     <message>
         <source>Shows handles that turn what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt Griffe zum Drehen der Auswahl</translation>
     </message>
     <message>
         <source>&amp;Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Skalieren</translation>
     </message>
     <message>
         <source>Shows handles that scale what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt Griffe zum Skalieren der Auswahl</translation>
     </message>
     <message>
         <source>&amp;World Axes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weltachsen</translation>
     </message>
     <message>
         <source>Handles have the axes of the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Griffe haben die Achsen der Szene</translation>
     </message>
     <message>
         <source>&amp;Parent Axes</source>
-        <translation type="unfinished"></translation>
+        <translation>Achsen der &amp;Gruppe</translation>
     </message>
     <message>
         <source>Handles have the axes of the group above the node that was selected last</source>
-        <translation type="unfinished"></translation>
+        <translation>Griffe haben die Achsen der Gruppe über dem zuletzt ausgewählten Knoten</translation>
     </message>
     <message>
         <source>&amp;Own Axes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eigene Achsen</translation>
     </message>
     <message>
         <source>Handles have the axes of the node that was selected last</source>
-        <translation type="unfinished"></translation>
+        <translation>Griffe haben die Achsen des zuletzt ausgewählten Knotens</translation>
     </message>
     <message>
         <source>Shows lights and cameras as symbols, which can be clicked</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt Lichter und Kameras als anklickbare Symbole</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no size that could be scaled.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keine Größe, die sich skalieren ließe.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; shines from very far away, so it has no place. Turn it with E.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ leuchtet aus weiter Ferne, hat also keinen Ort. Drehen Sie das Licht mit E.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; shines into all directions, so it can&apos;t be turned. Move it with W.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ leuchtet in alle Richtungen, lässt sich also nicht drehen. Verschieben Sie das Licht mit W.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no place in the scene, so it can&apos;t be moved. Select what it applies to.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keinen Ort in der Szene, lässt sich also nicht verschieben. Wählen Sie aus, worauf es wirkt.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no transform that could move it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keine Transformation zum Verschieben.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no transform that could turn it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keine Transformation zum Drehen.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no transform that could scale it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keine Transformation zum Skalieren.</translation>
     </message>
     <message>
         <source>Put a Transform above</source>
-        <translation type="unfinished"></translation>
+        <translation>Transformation ergänzen</translation>
     </message>
     <message>
         <source>%1 of the %2 selected nodes have nothing that could change like that.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 der %2 ausgewählten Knoten haben nichts, was sich so ändern ließe.</translation>
     </message>
     <message>
         <source>Put Transform above</source>
-        <translation type="unfinished"></translation>
+        <translation>Transformation ergänzen</translation>
     </message>
 </context>
 <context>
     <name>ViewLink</name>
     <message>
         <source>at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>bei %1</translation>
     </message>
     <message>
         <source>%1 · vertex %2 (%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · Eckpunkt %2 (%3)</translation>
     </message>
     <message>
         <source>The point of the scene that was clicked, and the nearest vertex of the mesh with its position</source>
-        <translation type="unfinished"></translation>
+        <translation>Der angeklickte Punkt der Szene und der nächste Eckpunkt des Netzes mit seiner Position</translation>
     </message>
 </context>
 <context>
     <name>ViewMenu</name>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>It has nothing to show for what is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur Auswahl gibt es hier nichts zu zeigen.</translation>
     </message>
     <message>
         <source>Shows or hides this part of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Blendet diesen Teil des Fensters ein oder aus</translation>
     </message>
 </context>
 <context>
     <name>WindowActions</name>
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tastenkürzel…</translation>
     </message>
     <message>
         <source>Shows and changes the keys of all actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt und ändert die Tasten aller Aktionen</translation>
     </message>
     <message>
         <source>&amp;Go To…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Springen zu…</translation>
     </message>
     <message>
         <source>Goes to a node, field, camera, bookmark or file by some letters of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Springt zu Knoten, Feld, Kamera, Lesezeichen oder Datei nach einigen Buchstaben</translation>
     </message>
     <message>
         <source>&amp;Command Palette…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Befehlspalette…</translation>
     </message>
     <message>
         <source>Runs any action by some letters of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Führt eine beliebige Aktion nach einigen Buchstaben aus</translation>
     </message>
     <message>
         <source>&amp;Go</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gehe zu</translation>
     </message>
     <message>
         <source>Context Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontextmenü</translation>
     </message>
     <message>
         <source>Opens the menu of what is selected in the part of the window with the focus</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet das Menü der Auswahl im Fensterteil mit dem Fokus</translation>
     </message>
 </context>
 <context>
     <name>WindowRun</name>
     <message>
         <source>%1 wasn&apos;t opened, so what the command line sets and selects is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde nicht geöffnet, deshalb entfällt, was die Befehlszeile setzt und auswählt.</translation>
     </message>
 </context>
 <context>
     <name>WindowShell</name>
     <message>
         <source>a dock of it has neither a title nor a name, so its place may get lost</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Andockfenster davon hat weder Titel noch Namen, sein Platz kann also verloren gehen</translation>
     </message>
     <message>
         <source>a tool bar of it has neither a title nor a name, so its place may get lost</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Werkzeugleiste davon hat weder Titel noch Namen, ihr Platz kann also verloren gehen</translation>
     </message>
 </context>
 <context>
     <name>orv::ToolBar</name>
     <message>
         <source>Nothing of the class %1 is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts von der Klasse %1 ist ausgewählt.</translation>
     </message>
 </context>
 <context>
     <name>orvane</name>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht</translation>
     </message>
     <message>
         <source>Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Szene</translation>
     </message>
     <message>
         <source>Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste</translation>
     </message>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabellen</translation>
     </message>
     <message>
         <source>Go on to the next part of the window, or back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum nächsten Fensterteil oder zurück</translation>
     </message>
     <message>
         <source>F6, Shift+F6</source>
-        <translation type="unfinished"></translation>
+        <translation>F6, Umschalt+F6</translation>
     </message>
     <message>
         <source>From one control to the next, or back</source>
-        <translation type="unfinished"></translation>
+        <translation>Von einem Bedienelement zum nächsten oder zurück</translation>
     </message>
     <message>
         <source>Tab, Shift+Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab, Umschalt+Tab</translation>
     </message>
     <message>
         <source>Menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Menüs</translation>
     </message>
     <message>
         <source>Alt and the underlined letter, F10</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt und der unterstrichene Buchstabe, F10</translation>
     </message>
     <message>
         <source>Context menu of what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontextmenü der Auswahl</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menü</translation>
     </message>
     <message>
         <source>Leave an editor or a popup, restoring what was there</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor oder Popup verlassen, der vorige Wert kommt zurück</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Go round the scene</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Szene umkreisen</translation>
     </message>
     <message>
         <source>Arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfeiltasten</translation>
     </message>
     <message>
         <source>Fly, with the right button held: on, back, sideways, down, up</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit gedrückter rechter Maustaste fliegen: vor, zurück, seitwärts, ab, auf</translation>
     </message>
     <message>
         <source>W, S, A, D, Q, E</source>
-        <translation type="unfinished"></translation>
+        <translation>W, S, A, D, Q, E</translation>
     </message>
     <message>
         <source>Move the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild verschieben</translation>
     </message>
     <message>
         <source>Shift and arrow keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalt und Pfeiltasten</translation>
     </message>
     <message>
         <source>Come closer, go back</source>
-        <translation type="unfinished"></translation>
+        <translation>Näher, weiter weg</translation>
     </message>
     <message>
         <source>+, -</source>
-        <translation type="unfinished"></translation>
+        <translation>+, -</translation>
     </message>
     <message>
         <source>Select nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts auswählen</translation>
     </message>
     <message>
         <source>Unfold and fold a node</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Knoten aus- und einklappen</translation>
     </message>
     <message>
         <source>Right, Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts, Links</translation>
     </message>
     <message>
         <source>Unfold a node with all below it</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Knoten mit allem darunter ausklappen</translation>
     </message>
     <message>
         <source>*</source>
-        <translation type="unfinished"></translation>
+        <translation>*</translation>
     </message>
     <message>
         <source>Go to the next node whose name begins with letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum nächsten Knoten, dessen Name mit Buchstaben beginnt</translation>
     </message>
     <message>
         <source>Letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchstaben</translation>
     </message>
     <message>
         <source>Select several nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Knoten auswählen</translation>
     </message>
     <message>
         <source>Shift and arrow keys, Ctrl+Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Umschalt und Pfeiltasten, Strg+Leertaste</translation>
     </message>
     <message>
         <source>Edit the value</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Wert bearbeiten</translation>
     </message>
     <message>
         <source>Return, F2</source>
-        <translation type="unfinished"></translation>
+        <translation>Return, F2</translation>
     </message>
     <message>
         <source>Go on in the editor of the field</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Editor des Feldes weiterarbeiten</translation>
     </message>
     <message>
         <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Strg+Return</translation>
     </message>
     <message>
         <source>Fold and unfold a group</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Gruppe ein- und ausklappen</translation>
     </message>
     <message>
         <source>Left, Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Links, Rechts</translation>
     </message>
     <message>
         <source>Step a number while it is edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zahl beim Bearbeiten schrittweise ändern</translation>
     </message>
     <message>
         <source>Up, Down; Ctrl and Shift make it coarser and finer</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf, Ab; Strg und Umschalt ändern die Schrittweite</translation>
     </message>
     <message>
         <source>Edit the cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zelle bearbeiten</translation>
     </message>
     <message>
         <source>Next cell while one is edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Zelle beim Bearbeiten</translation>
     </message>
     <message>
         <source>Go to what the row is about</source>
-        <translation type="unfinished"></translation>
+        <translation>Dorthin springen, worum es in der Zeile geht</translation>
     </message>
     <message>
         <source>Return</source>
-        <translation type="unfinished"></translation>
+        <translation>Return</translation>
     </message>
     <message>
         <source>The node has this name already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Knoten hat schon diesen Namen.</translation>
     </message>
     <message>
         <source>This value can&apos;t be read any more: the rows that the later steps changed aren&apos;t there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Wert ist nicht mehr lesbar: Die von späteren Schritten geänderten Zeilen fehlen.</translation>
     </message>
     <message>
         <source>The older value doesn&apos;t fit in memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der ältere Wert passt nicht in den Speicher.</translation>
     </message>
     <message>
         <source>The field has this value already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Feld hat schon diesen Wert.</translation>
     </message>
     <message>
         <source>Choose a step that changed the value of a field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen Schritt, der den Wert eines Feldes geändert hat.</translation>
     </message>
     <message>
         <source>This step changed nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Schritt hat nichts geändert.</translation>
     </message>
     <message>
         <source>This step changed which nodes are in the scene, not one value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Schritt hat geändert, welche Knoten in der Szene sind, nicht einen Wert.</translation>
     </message>
     <message>
         <source>This step changed whether a field is ignored, not its value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Schritt hat geändert, ob ein Feld ignoriert wird, nicht seinen Wert.</translation>
     </message>
     <message>
         <source>This step changed several values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Schritt hat mehrere Werte geändert.</translation>
     </message>
     <message>
         <source>The node of this value, &quot;%1&quot;, isn&apos;t in the scene any more. Go to a state in which it is, or undo its removal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Knoten dieses Wertes, „%1“, ist nicht mehr in der Szene. Gehen Sie zu einem Zustand, in dem er da ist, oder machen Sie sein Entfernen rückgängig.</translation>
     </message>
     <message>
         <source>%1 changes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Änderungen</translation>
     </message>
     <message>
         <source>Change %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ändern</translation>
     </message>
     <message>
         <source>Rename %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 umbenennen</translation>
     </message>
     <message>
         <source>Ignore %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ignorieren</translation>
     </message>
     <message>
         <source>Use %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verwenden</translation>
     </message>
     <message>
         <source>Set %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 setzen</translation>
     </message>
 </context>
 </TS>
