@@ -132,10 +132,10 @@ void ViewActions::addTo(QMenu* menu)
     for (QAction* action : m_projections->actions())
         action->setChecked(action->data().toInt() == m_view->viewpoint().projection);
     menu->addActions(m_framing);
-    menu->addMenu(m_axesMenu);
     menu->addSeparator();
     menu->addActions(m_projections->actions());
     menu->addSeparator();
     menu->addActions(m_surfaces->actions());
-    menu->addActions(m_switches);
+    menu->addSeparator();
+    menu->addMenu(m_axesMenu);
 }

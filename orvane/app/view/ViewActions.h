@@ -3,6 +3,7 @@
 #include "meridane/gl/geometry/NxViewpoint.h"
 
 #include <QKeySequence>
+#include <QList>
 #include <QObject>
 
 class AppSettings;
@@ -22,8 +23,10 @@ public:
     /// Both outlive this.
     ViewActions(SceneView* view, AppSettings& settings);
 
-    /// Appends the actions. Their check marks show the present state of the view.
+    /// Appends the actions but the switches. Their check marks show the present state of the view.
     void addTo(QMenu* menu);
+    /// What the view shows beside the scene: grid, boxes, axes.
+    [[nodiscard]] const QList<QAction*>& switches() const { return m_switches; }
 
 private:
     QAction* addAction(const char* name, const QString& text, const QString& toolTip, const QKeySequence& key = {});

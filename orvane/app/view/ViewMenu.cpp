@@ -23,9 +23,21 @@ ViewMenu::ViewMenu(QMainWindow* window, ViewActions* actions, CameraMenu* camera
     , m_actions(actions)
     , m_cameras(cameras)
     , m_menu(window->menuBar()->addMenu(tr("&View")))
+    , m_docks(new QMenu(tr("Doc&ks"), m_menu))
+    , m_toolBars(new QMenu(tr("&Tool Bars"), m_menu))
 {
     m_menu->setObjectName(QStringLiteral("viewMenu"));
+    m_docks->setObjectName(QStringLiteral("docksMenu"));
+    m_toolBars->setObjectName(QStringLiteral("toolBarsMenu"));
     connect(m_menu, &QMenu::aboutToShow, this, &ViewMenu::update);
+}
+
+QAction* ViewMenu::submenu(const char* name, const QString& title, const QList<QAction*>& actions)
+{
+    auto* const menu = new QMenu(title, m_menu);
+    menu->setObjectName(QLatin1String(name));
+    menu->addActions(actions);
+    return menu->menuAction();
 }
 
 void ViewMenu::update()
@@ -34,17 +46,32 @@ void ViewMenu::update()
     if (m_actions != nullptr) {
         m_actions->addTo(m_menu);
         m_menu->addMenu(m_cameras->update());
-        m_menu->addSeparator();
     }
-    for (QDockWidget* dock : m_window->findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
-        addDockSwitch(dock);
-    m_menu->addSeparator();
-    for (QToolBar* toolBar : m_window->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
-        addSwitch(toolBar->toggleViewAction(), *toolBar);
     for (const QList<QAction*>& actions : m_appended) {
         m_menu->addSeparator();
         m_menu->addActions(actions);
     }
+    updateDocks();
+    updateToolBars();
+    m_menu->addSeparator();
+    m_menu->addMenu(m_docks);
+    m_menu->addMenu(m_toolBars);
+}
+
+void ViewMenu::updateDocks()
+{
+    m_docks->clear();
+    for (QDockWidget* dock : m_window->findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        addDockSwitch(dock);
+    m_docks->menuAction()->setVisible(!m_docks->isEmpty());
+}
+
+void ViewMenu::updateToolBars()
+{
+    m_toolBars->clear();
+    for (QToolBar* toolBar : m_window->findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly))
+        addSwitch(*m_toolBars, toolBar->toggleViewAction(), *toolBar);
+    m_toolBars->menuAction()->setVisible(!m_toolBars->isEmpty());
 }
 
 void ViewMenu::setMayBeEmpty(QDockWidget& dock)
@@ -55,7 +82,7 @@ void ViewMenu::setMayBeEmpty(QDockWidget& dock)
 // An empty dock would be a bare title bar.
 void ViewMenu::addDockSwitch(QDockWidget* dock)
 {
-    addSwitch(dock->toggleViewAction(), *dock);
+    addSwitch(*m_docks, dock->toggleViewAction(), *dock);
     if (!dock->property(mayBeEmpty).toBool())
         return;
     const auto updateSwitch = [dock] {
@@ -72,11 +99,11 @@ void ViewMenu::addDockSwitch(QDockWidget* dock)
 }
 
 // Docks of extensions too, whose actions have no name of their own.
-void ViewMenu::addSwitch(QAction* action, const QWidget& part)
+void ViewMenu::addSwitch(QMenu& menu, QAction* action, const QWidget& part)
 {
     if (action->objectName().isEmpty() && !part.objectName().isEmpty())
         action->setObjectName(QStringLiteral("show.") + part.objectName());
     if (action->statusTip().isEmpty())
         action->setStatusTip(tr("Shows or hides this part of the window"));
-    m_menu->addAction(action);
+    menu.addAction(action);
 }

@@ -12,8 +12,8 @@ class QMenu;
 class QWidget;
 class ViewActions;
 
-/// The View menu: what the user can do with the view, and every dock and tool bar that the window has at the moment, to
-/// be shown and hidden.
+/// The View menu: what the user can do with the view, and in submenus every dock and tool bar that the window has at
+/// the moment, to be shown and hidden.
 class ViewMenu : public QObject {
     Q_OBJECT
 
@@ -21,21 +21,27 @@ public:
     /// For a window without a view, actions and cameras are null.
     explicit ViewMenu(QMainWindow* window, ViewActions* actions = nullptr, CameraMenu* cameras = nullptr);
 
-    /// Lists these actions together at the end, from the next `update` on.
+    /// Lists these actions together behind those of the view, from the next `update` on.
     void append(const QList<QAction*>& actions) { m_appended.append(actions); }
+    /// A submenu with these actions, which the menu owns, to be appended.
+    [[nodiscard]] QAction* submenu(const char* name, const QString& title, const QList<QAction*>& actions);
     /// Lists what there is now.
     void update();
     /// To be called for a dock whose widget comes and goes with the selection. While it has none, it can't be shown.
     static void setMayBeEmpty(QDockWidget& dock);
 
 private:
+    void updateDocks();
+    void updateToolBars();
     void addDockSwitch(QDockWidget* dock);
-    void addSwitch(QAction* action, const QWidget& part);
+    static void addSwitch(QMenu& menu, QAction* action, const QWidget& part);
 
     QMainWindow* m_window;
     ViewActions* m_actions;
     CameraMenu* m_cameras;
     QMenu* m_menu;
+    QMenu* m_docks;
+    QMenu* m_toolBars;
     QList<QList<QAction*>> m_appended;
     QSet<QObject*> m_watched; // docks that may be empty
 };

@@ -106,7 +106,8 @@ void MainWindow::buildMenus()
     new SceneDrops(m_session, *m_files, m_tree, m_view, editMenu->nodes(), *m_messages);
     new ReturnedNodes(m_session.services(), *findChild<StepTravel*>(), m_tree, editMenu->nodes().editor().selections());
     auto* cameras = new CameraMenu(m_view, document());
-    auto* viewMenu = new ViewMenu(this, new ViewActions(m_view, m_session.settings()), cameras);
+    auto* const viewActions = new ViewActions(m_view, m_session.settings());
+    auto* viewMenu = new ViewMenu(this, viewActions, cameras);
     auto* navigation
         = new NavigationActions(m_view, m_session, m_tree, editMenu->nodes().editor(), *cameras, statusBar());
     auto* hiding = new HidingActions(m_view, m_tree, statusBar());
@@ -125,14 +126,17 @@ void MainWindow::buildMenus()
     toolBar->addSeparator();
     toolBar->addActions(editMenu->toolBarActions());
     m_inspectors->addToolBar();
-    viewMenu->append((new ViewHandles(m_session, m_view, m_tree))->menuActions());
-    viewMenu->append(hiding->actions() + (new TreeActions(m_tree, statusBar()))->menuActions());
-    viewMenu->append(m_inspectors->menuActions());
-    viewMenu->append(
-        {(new DisplayMenu(m_view, m_session))->menuAction(), (new MeasureTool(m_view, m_session))->action()});
     const auto* const pictures
         = new PictureExport(m_view, {m_session, *cameras, navigation->bookmarks(), *m_messages, statusBar()});
-    viewMenu->append(navigation->menuActions() + QList{pictures->action()});
+    const ViewHandles& handles = *new ViewHandles(m_session, m_view, m_tree);
+    viewMenu->append(navigation->menuActions());
+    viewMenu->append(
+        {viewMenu->submenu("guidesMenu", tr("&Guides"), viewActions->switches() + QList{handles.symbolsAction()}),
+            (new DisplayMenu(m_view, m_session))->menuAction(), handles.menuAction(),
+            (new MeasureTool(m_view, m_session))->action(), pictures->action()});
+    viewMenu->append(hiding->actions());
+    viewMenu->append((new TreeActions(m_tree, statusBar()))->menuActions()
+        << viewMenu->submenu("inspectorsMenu", tr("&Inspectors"), m_inspectors->menuActions()));
     viewMenu->append({m_imageFolders->forgetAction()});
     viewMenu->update();
     new KeptColumns(this, m_session.settings());

@@ -347,7 +347,7 @@ private Q_SLOTS:
 
     void theMenuOpensOne()
     {
-        auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("viewMenu"));
+        auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("inspectorsMenu"));
         auto* const action = m_window->findChild<QAction*>(QStringLiteral("inspector.new"));
         QVERIFY(menu->actions().contains(action));
         menu->popup(m_window->mapToGlobal(QPoint(20, 20)));

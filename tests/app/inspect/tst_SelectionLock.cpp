@@ -323,7 +323,7 @@ private Q_SLOTS:
 
     void theMenuHasItAll()
     {
-        auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("viewMenu"));
+        auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("inspectorsMenu"));
         for (const char* const name : {"selection.back", "selection.forward", "inspector.lock"})
             QVERIFY2(menu->actions().contains(action(name)), name);
     }

@@ -41,8 +41,8 @@ private Q_SLOTS:
 
     void theViewMenuListsIt()
     {
-        auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("viewMenu"));
-        Q_EMIT menu->aboutToShow();
+        Q_EMIT m_window->findChild<QMenu*>(QStringLiteral("viewMenu"))->aboutToShow();
+        const auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("docksMenu"));
         QVERIFY(menu->actions().contains(dock()->toggleViewAction()));
         dock()->toggleViewAction()->trigger();
         QVERIFY(dock()->isVisible());

@@ -55,8 +55,8 @@ private Q_SLOTS:
 
     void theViewMenuListsIt()
     {
-        auto* const menu = m_window->findChild<QMenu*>(u"viewMenu"_s);
-        Q_EMIT menu->aboutToShow();
+        Q_EMIT m_window->findChild<QMenu*>(u"viewMenu"_s)->aboutToShow();
+        const auto* const menu = m_window->findChild<QMenu*>(u"docksMenu"_s);
         QVERIFY(menu->actions().contains(dock()->toggleViewAction()));
     }
 

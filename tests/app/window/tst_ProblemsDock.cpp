@@ -96,8 +96,8 @@ private Q_SLOTS:
     void theViewMenuListsItByItsName()
     {
         openBroken();
-        auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("viewMenu"));
-        Q_EMIT menu->aboutToShow();
+        Q_EMIT m_window->findChild<QMenu*>(QStringLiteral("viewMenu"))->aboutToShow();
+        const auto* const menu = m_window->findChild<QMenu*>(QStringLiteral("docksMenu"));
         QVERIFY(menu->actions().contains(dock()->toggleViewAction()));
         QCOMPARE(dock()->toggleViewAction()->text(), QStringLiteral("Problems"));
         QTRY_COMPARE(dock()->windowTitle(), QStringLiteral("Problems (2 errors, 3 warnings)"));

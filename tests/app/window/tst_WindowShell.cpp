@@ -117,11 +117,24 @@ private Q_SLOTS:
     {
         ViewMenu view(m_window.get());
         connect(m_shell.get(), &WindowShell::contentChanged, &view, &ViewMenu::update);
-        const QMenu* menu = m_window->menuBar()->actions().front()->menu();
+        view.update();
+        const QMenu& menu = *m_window->menuBar()->actions().front()->menu();
+        const QMenu& docks = *menu.findChild<QMenu*>(QStringLiteral("docksMenu"));
+        const QMenu& toolBars = *menu.findChild<QMenu*>(QStringLiteral("toolBarsMenu"));
+        QVERIFY(!docks.menuAction()->isVisible());
+        QVERIFY(!toolBars.menuAction()->isVisible());
         m_shell->addDockWidget(m_dock.get(), Qt::RightDockWidgetArea);
-        QVERIFY(menu->actions().contains(m_dock->toggleViewAction()));
+        QVERIFY(docks.actions().contains(m_dock->toggleViewAction()));
+        QVERIFY(menu.actions().contains(docks.menuAction()));
+        QVERIFY(docks.menuAction()->isVisible());
+        QToolBar toolBar;
+        m_shell->addToolBar(&toolBar, Qt::TopToolBarArea);
+        QVERIFY(toolBars.actions().contains(toolBar.toggleViewAction()));
+        QVERIFY(menu.actions().contains(toolBars.menuAction()));
+        m_shell->removeToolBar(&toolBar);
+        QVERIFY(toolBars.isEmpty());
         m_shell->removeDockWidget(m_dock.get());
-        QVERIFY(!menu->actions().contains(m_dock->toggleViewAction()));
+        QVERIFY(docks.isEmpty());
     }
 
     void anEmptyDockOfAnExtensionCantBeShown()

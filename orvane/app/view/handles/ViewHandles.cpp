@@ -74,9 +74,9 @@ ViewHandles::ViewHandles(Session& session, SceneView* view, SceneTreePanel* tree
     connect(m_note, &HandleNote::accepted, this, &ViewHandles::putTransformsAbove);
 }
 
-QList<QAction*> ViewHandles::menuActions() const
+QAction* ViewHandles::menuAction() const
 {
-    return {m_symbols, m_menu->menuAction()};
+    return m_menu->menuAction();
 }
 
 void ViewHandles::addSymbols()

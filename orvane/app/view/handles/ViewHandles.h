@@ -28,8 +28,9 @@ public:
     /// All live as long as the view, which owns this.
     ViewHandles(Session& session, SceneView* view, SceneTreePanel* tree);
 
-    /// For the View menu.
-    [[nodiscard]] QList<QAction*> menuActions() const;
+    /// For the View menu: the kinds of handles, and whether lights and cameras are shown as symbols.
+    [[nodiscard]] QAction* menuAction() const;
+    [[nodiscard]] QAction* symbolsAction() const { return m_symbols; }
 
 private:
     using Kind = HandleTargets::Kind;

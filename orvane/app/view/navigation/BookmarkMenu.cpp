@@ -13,7 +13,7 @@ BookmarkMenu::BookmarkMenu(SceneBookmarks& bookmarks, QWidget* parent)
     : QObject(parent)
     , m_bookmarks(bookmarks)
     , m_parent(parent)
-    , m_menu(new QMenu(tr("Bookmarks"), parent))
+    , m_menu(new QMenu(tr("&Bookmarks"), parent))
     , m_add(add(QStringLiteral("view.addBookmark"), tr("&Add Bookmark…"), tr("Keeps from where the view looks now")))
     , m_edit(add(QStringLiteral("view.editBookmarks"), tr("&Edit Bookmarks…"),
           tr("Renames, changes and removes the bookmarks of the scene")))

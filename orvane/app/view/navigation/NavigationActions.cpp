@@ -27,7 +27,7 @@ NavigationActions::NavigationActions(SceneView* view, Session& session, SceneTre
     const CameraMenu& cameras, QStatusBar* bar)
     : QObject(view)
     , m_settings(session.settings())
-    , m_menu(new QMenu(tr("Navigation"), view))
+    , m_menu(new QMenu(tr("Na&vigation"), view))
     , m_animation(new ViewAnimation(view))
     , m_bookmarks(new SceneBookmarks(view, session))
     , m_bookmarkMenu(new BookmarkMenu(*m_bookmarks, view))
