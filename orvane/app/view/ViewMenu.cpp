@@ -1,6 +1,7 @@
 #include "orvane/app/view/ViewMenu.h"
 
 #include "orvane/app/base/ActionState.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/view/CameraMenu.h"
 #include "orvane/app/view/ViewActions.h"
 
@@ -22,19 +23,24 @@ ViewMenu::ViewMenu(QMainWindow* window, ViewActions* actions, CameraMenu* camera
     , m_window(window)
     , m_actions(actions)
     , m_cameras(cameras)
-    , m_menu(window->menuBar()->addMenu(tr("&View")))
-    , m_docks(new QMenu(tr("Doc&ks"), m_menu))
-    , m_toolBars(new QMenu(tr("&Tool Bars"), m_menu))
+    , m_menu(window->menuBar()->addMenu(QString()))
+    , m_docks(new QMenu(m_menu))
+    , m_toolBars(new QMenu(m_menu))
 {
     m_menu->setObjectName(QStringLiteral("viewMenu"));
     m_docks->setObjectName(QStringLiteral("docksMenu"));
     m_toolBars->setObjectName(QStringLiteral("toolBarsMenu"));
+    orvane::followLanguage(this, [this] {
+        m_menu->setTitle(tr("&View"));
+        m_docks->setTitle(tr("Doc&ks"));
+        m_toolBars->setTitle(tr("&Tool Bars"));
+    });
     connect(m_menu, &QMenu::aboutToShow, this, &ViewMenu::update);
 }
 
-QAction* ViewMenu::submenu(const char* name, const QString& title, const QList<QAction*>& actions)
+QAction* ViewMenu::submenu(const char* name, const QList<QAction*>& actions)
 {
-    auto* const menu = new QMenu(title, m_menu);
+    auto* const menu = new QMenu(m_menu);
     menu->setObjectName(QLatin1String(name));
     menu->addActions(actions);
     return menu->menuAction();

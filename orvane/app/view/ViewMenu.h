@@ -23,8 +23,8 @@ public:
 
     /// Lists these actions together behind those of the view, from the next `update` on.
     void append(const QList<QAction*>& actions) { m_appended.append(actions); }
-    /// A submenu with these actions, which the menu owns, to be appended.
-    [[nodiscard]] QAction* submenu(const char* name, const QString& title, const QList<QAction*>& actions);
+    /// A submenu with these actions and without a title yet, to be appended. The menu owns it.
+    [[nodiscard]] QAction* submenu(const char* name, const QList<QAction*>& actions);
     /// Lists what there is now.
     void update();
     /// To be called for a dock whose widget comes and goes with the selection. While it has none, it can't be shown.

@@ -11,6 +11,7 @@
 #include "orvane/app/inspect/Inspectors.h"
 #include "orvane/app/inspect/NodeMenu.h"
 #include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/manners/EditorManners.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/plugins/PluginActions.h"
@@ -129,14 +130,17 @@ void MainWindow::buildMenus()
     const auto* const pictures
         = new PictureExport(m_view, {m_session, *cameras, navigation->bookmarks(), *m_messages, statusBar()});
     const ViewHandles& handles = *new ViewHandles(m_session, m_view, m_tree);
+    QAction* const guides = viewMenu->submenu("guidesMenu", viewActions->switches() + QList{handles.symbolsAction()});
+    QAction* const inspectors = viewMenu->submenu("inspectorsMenu", m_inspectors->menuActions());
+    orvane::followLanguage(this, [guides, inspectors] {
+        guides->setText(tr("&Guides"));
+        inspectors->setText(tr("&Inspectors"));
+    });
     viewMenu->append(navigation->menuActions());
-    viewMenu->append(
-        {viewMenu->submenu("guidesMenu", tr("&Guides"), viewActions->switches() + QList{handles.symbolsAction()}),
-            (new DisplayMenu(m_view, m_session))->menuAction(), handles.menuAction(),
-            (new MeasureTool(m_view, m_session))->action(), pictures->action()});
+    viewMenu->append({guides, (new DisplayMenu(m_view, m_session))->menuAction(), handles.menuAction(),
+        (new MeasureTool(m_view, m_session))->action(), pictures->action()});
     viewMenu->append(hiding->actions());
-    viewMenu->append((new TreeActions(m_tree, statusBar()))->menuActions()
-        << viewMenu->submenu("inspectorsMenu", tr("&Inspectors"), m_inspectors->menuActions()));
+    viewMenu->append((new TreeActions(m_tree, statusBar()))->menuActions() << inspectors);
     viewMenu->append({m_imageFolders->forgetAction()});
     viewMenu->update();
     new KeptColumns(this, m_session.settings());
