@@ -488,7 +488,7 @@
     <name>DisplayMenu</name>
     <message>
         <source>Disp&amp;lay</source>
-        <translation>&amp;Darstellung</translation>
+        <translation>Darste&amp;llung</translation>
     </message>
     <message>
         <source>&amp;Shaded</source>
@@ -775,7 +775,7 @@
     <name>FavoriteActions</name>
     <message>
         <source>Fa&amp;vorite Node</source>
-        <translation>Fa&amp;voritenknoten</translation>
+        <translation>&amp;Favoritenknoten</translation>
     </message>
     <message>
         <source>Marks the selected node with a star, and adds it to the list of favorites</source>
@@ -1965,7 +1965,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <name>InspectorDocks</name>
     <message>
         <source>New &amp;Inspector</source>
-        <translation>Neuer &amp;Inspektor</translation>
+        <translation>Ne&amp;uer Inspektor</translation>
     </message>
     <message>
         <source>Opens a further table of fields, which stays on this node; %1 at most</source>
@@ -2673,7 +2673,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <name>LockAction</name>
     <message>
         <source>Lock Inspec&amp;tor</source>
-        <translation>Inspektor &amp;fixieren</translation>
+        <translation>Inspektor fi&amp;xieren</translation>
     </message>
     <message>
         <source>Keeps fields and editors on this node while you browse on</source>
@@ -2939,7 +2939,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>&amp;Add Node…</source>
-        <translation>Knoten &amp;hinzufügen…</translation>
+        <translation>Knoten hin&amp;zufügen…</translation>
     </message>
     <message>
         <source>Adds a node of a class that you choose to the selected group, or behind the selected node</source>
@@ -2987,7 +2987,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Make Own Cop&amp;y</source>
-        <translation>&amp;Eigene Kopie anlegen</translation>
+        <translation>Eige&amp;ne Kopie anlegen</translation>
     </message>
     <message>
         <source>Gives these places a copy of their own of a node that is in other places as well</source>
@@ -3003,7 +3003,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Move Do&amp;wn</source>
-        <translation>Nach &amp;unten</translation>
+        <translation>Nac&amp;h unten</translation>
     </message>
     <message>
         <source>Moves the selected nodes behind the node below them</source>
@@ -3019,7 +3019,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Move &amp;into Group Above</source>
-        <translation>&amp;In Gruppe darüber verschieben</translation>
+        <translation>In Gruppe darüber &amp;verschieben</translation>
     </message>
     <message>
         <source>Moves the selected nodes to the end of the group above them</source>
@@ -3099,7 +3099,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <name>NodeMenu</name>
     <message>
         <source>Copy Pat&amp;h</source>
-        <translation>&amp;Pfad kopieren</translation>
+        <translation>Pfad k&amp;opieren</translation>
     </message>
     <message>
         <source>Copies the path of the selected node in the scene</source>
@@ -3115,7 +3115,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Pa&amp;ste All Fields</source>
-        <translation>Alle Felder ein&amp;fügen</translation>
+        <translation>Alle Felder &amp;einfügen</translation>
     </message>
     <message>
         <source>Writes the values of the clipboard to the fields of the node</source>
@@ -3123,7 +3123,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>&amp;Find Nodes of This Class</source>
-        <translation>Knoten dieser Klasse &amp;suchen</translation>
+        <translation>Knoten dieser Klasse su&amp;chen</translation>
     </message>
     <message>
         <source>Searches the tree for nodes of the class of the selected node</source>
@@ -3139,7 +3139,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Look Thro&amp;ugh Camera</source>
-        <translation>Durch Kamera &amp;blicken</translation>
+        <translation>Durch Ka&amp;mera blicken</translation>
     </message>
     <message>
         <source>Shows in the view what the selected camera sees</source>
@@ -3520,7 +3520,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>&amp;Background:</source>
-        <translation>Hinter&amp;grund:</translation>
+        <translation>Hintergr&amp;und:</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
@@ -3814,7 +3814,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Mend All of This &amp;Kind</source>
-        <translation>Alle dieser &amp;Art beheben</translation>
+        <translation>Alle &amp;dieser Art beheben</translation>
     </message>
     <message>
         <source>Check A&amp;gain</source>
@@ -4423,7 +4423,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Select &amp;Nodes</source>
-        <translation>Knoten aus&amp;wählen</translation>
+        <translation>K&amp;noten auswählen</translation>
     </message>
     <message>
         <source>&amp;Unfold All Below</source>
@@ -4513,7 +4513,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <name>TreeFinder</name>
     <message>
         <source>&amp;Find Nodes</source>
-        <translation>Knoten &amp;suchen</translation>
+        <translation>Knoten s&amp;uchen</translation>
     </message>
     <message>
         <source>Searches the scene for nodes by name, class or value</source>
@@ -4521,7 +4521,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Find Ne&amp;xt</source>
-        <translation>&amp;Weitersuchen</translation>
+        <translation>We&amp;itersuchen</translation>
     </message>
     <message>
         <source>Selects the next hit of the search</source>
@@ -4529,7 +4529,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Find Pre&amp;vious</source>
-        <translation>Rückwä&amp;rts suchen</translation>
+        <translation>Rü&amp;ckwärts suchen</translation>
     </message>
     <message>
         <source>Selects the previous hit of the search</source>
@@ -4537,7 +4537,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Select All &amp;Hits</source>
-        <translation>Alle &amp;Treffer auswählen</translation>
+        <translation>Alle Tre&amp;ffer auswählen</translation>
     </message>
     <message>
         <source>Selects all nodes that the search has found</source>
@@ -4666,7 +4666,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>&amp;Orthographic</source>
-        <translation>Or&amp;thografisch</translation>
+        <translation>O&amp;rthografisch</translation>
     </message>
     <message>
         <source>Things look the same size at any distance</source>
