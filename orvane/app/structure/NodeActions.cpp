@@ -4,6 +4,7 @@
 #include "orvane/app/base/PendingEdits.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/structure/AddNodeDialog.h"
 #include "orvane/app/structure/GroupEdits.h"
 #include "orvane/app/structure/NodeClipboard.h"
@@ -162,13 +163,12 @@ void NodeActions::addKeepPlace()
     QAction* const action = add("node.keepPlace", tr("&Keep Place"), {},
         tr("Nodes stay where they are in the world when they move to other groups"));
     action->setCheckable(true);
-    action->setChecked(m_session.settings().value(settingsKey, true).toBool());
-    const auto set = [this](bool keeps) { m_editor->setPlaces(keeps ? NodePlaces::Keep : NodePlaces::Change); };
-    set(action->isChecked());
-    connect(action, &QAction::toggled, this, [this, set, settingsKey](bool keeps) {
-        set(keeps);
-        m_session.settings().setValue(settingsKey, keeps);
+    SettingsStore& store = SettingsStore::of(m_session.settings());
+    store.follow(settingsKey, action, [this, &store, action, settingsKey] {
+        action->setChecked(store.isOn(settingsKey));
+        m_editor->setPlaces(action->isChecked() ? NodePlaces::Keep : NodePlaces::Change);
     });
+    connect(action, &QAction::toggled, &store, [&store, settingsKey](bool keeps) { store.set(settingsKey, keeps); });
 }
 
 void NodeActions::run(const Make& make)

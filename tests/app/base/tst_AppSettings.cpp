@@ -4,6 +4,7 @@
 #include "orvane/app/base/AppSettings.h"
 #include "orvane/app/files/RecentFiles.h"
 
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -46,6 +47,10 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("no assignment") << QByteArray("this is no settings file\n");
         QTest::newRow("open section") << QByteArray("[window\nstate=1\n");
+        QTest::newRow("half a line") << QByteArray("[window]\nstate=1\nwid");
+        QTest::newRow("half a value") << QByteArray("[settings]\nversion=2\n[window]\nwidth=10");
+        QTest::newRow("nulls") << QByteArray(4096, '\0');
+        QTest::newRow("later version") << QByteArray("[settings]\nversion=3\n");
     }
 
     void leavesABrokenFileAsItIs()
@@ -61,6 +66,100 @@ private Q_SLOTS:
             QCOMPARE(settings.value(QStringLiteral("a/b")).toInt(), 7);
         }
         QCOMPARE(readFile(m_fileName), bytes);
+    }
+
+    void usesWhatIsReadable()
+    {
+        QVERIFY(QDir().mkpath(m_folder->filePath(QStringLiteral("tool"))));
+        writeFile(m_fileName, "[settings]\nversion=3\n[a]\nb=7\n");
+        AppSettings settings(AppSettings::Mode::File, m_fileName);
+        QCOMPARE(settings.value(QStringLiteral("a/b")).toInt(), 7);
+        QVERIFY(settings.problem().contains(QStringLiteral("later version")));
+        const QSignalSpy failed(&settings, &AppSettings::failed);
+        settings.setValue(QStringLiteral("a/b"), 8);
+        settings.sync();
+        QCOMPARE(failed.size(), 0); // it was known from the start
+    }
+
+    void convertsAnOlderVersion()
+    {
+        QVERIFY(QDir().mkpath(m_folder->filePath(QStringLiteral("tool"))));
+        writeFile(m_fileName, "[view]\nhandles=view.handlesTurn\nhandleAxes=view.axesOwn\nbackground=2\ngrid=false\n");
+        {
+            const AppSettings settings(AppSettings::Mode::File, m_fileName);
+            QCOMPARE(settings.problem(), QString());
+            QCOMPARE(settings.value(QStringLiteral("view/handles")).toString(), QStringLiteral("turn"));
+            QCOMPARE(settings.value(QStringLiteral("view/handleAxes")).toString(), QStringLiteral("own"));
+            QCOMPARE(settings.value(QStringLiteral("view/background")).toString(), QStringLiteral("dark"));
+        }
+        QVERIFY(readFile(m_fileName).contains("version=2"));
+        QVERIFY(readFile(m_fileName).contains("grid=false"));
+        QVERIFY(readFile(m_fileName).contains("handles=turn"));
+    }
+
+    void keepsWhatAnotherProgramSets()
+    {
+        AppSettings one(AppSettings::Mode::File, m_fileName);
+        AppSettings other(AppSettings::Mode::File, m_fileName);
+        one.setValue(QStringLiteral("a/one"), 1);
+        other.setValue(QStringLiteral("a/other"), 2);
+        one.sync();
+        const QSignalSpy changed(&other, &AppSettings::changed);
+        other.sync();
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(changed[0][0].toString(), QStringLiteral("a/one"));
+        one.sync();
+        for (const AppSettings* const settings : {&one, &other}) {
+            QCOMPARE(settings->value(QStringLiteral("a/one")).toInt(), 1);
+            QCOMPARE(settings->value(QStringLiteral("a/other")).toInt(), 2);
+        }
+        one.remove(QStringLiteral("a/one"));
+        one.sync();
+        other.setValue(QStringLiteral("a/third"), 3);
+        other.sync();
+        QVERIFY(!other.contains(QStringLiteral("a/one")));
+        const AppSettings read(AppSettings::Mode::File, m_fileName);
+        QVERIFY(!read.contains(QStringLiteral("a/one")));
+        QCOMPARE(read.value(QStringLiteral("a/other")).toInt(), 2);
+    }
+
+    void leavesAFileThatBreaksWhileItRuns()
+    {
+        AppSettings settings(AppSettings::Mode::File, m_fileName);
+        settings.setValue(QStringLiteral("a/b"), 1);
+        settings.sync();
+        const QByteArray later = "[settings]\nversion=3\n[a]\nb=9\n";
+        writeFile(m_fileName, later);
+        const QSignalSpy failed(&settings, &AppSettings::failed);
+        settings.setValue(QStringLiteral("a/b"), 2);
+        settings.sync();
+        settings.setValue(QStringLiteral("a/b"), 3);
+        settings.sync();
+        QCOMPARE(failed.size(), 1);
+        QCOMPARE(readFile(m_fileName), later);
+    }
+
+    void savesLaterWhatCannotBeSaved()
+    {
+        const QString folder = m_folder->filePath(QStringLiteral("tool"));
+        // A file in place of the folder: nobody can write there, not even root.
+        writeFile(folder, "");
+        AppSettings settings(AppSettings::Mode::File, m_fileName);
+        QCOMPARE(settings.problem(), QString());
+        const QSignalSpy failed(&settings, &AppSettings::failed);
+        settings.setValue(QStringLiteral("a/b"), 1);
+        settings.sync();
+        settings.setValue(QStringLiteral("a/c"), 2);
+        settings.sync();
+        QCOMPARE(failed.size(), 1);
+        QVERIFY(settings.problem().startsWith(m_fileName));
+        QCOMPARE(settings.value(QStringLiteral("a/b")).toInt(), 1);
+        QVERIFY(QFile::remove(folder));
+        settings.sync();
+        QCOMPARE(settings.problem(), QString());
+        const AppSettings read(AppSettings::Mode::File, m_fileName);
+        QCOMPARE(read.value(QStringLiteral("a/b")).toInt(), 1);
+        QCOMPARE(read.value(QStringLiteral("a/c")).toInt(), 2);
     }
 
     void reportsAFolderInPlaceOfTheFile()

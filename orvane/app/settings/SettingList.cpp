@@ -1,0 +1,50 @@
+#include "orvane/app/settings/SettingList.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+namespace {
+
+using Kind = Setting::Kind;
+using Settings = std::vector<Setting>;
+
+Settings editingSettings()
+{
+    return {
+        {.key = QStringLiteral("structure/keepPlace"),
+            .page = SettingPage::Editing,
+            .kind = Kind::Switch,
+            .defaultValue = true,
+            .title = QT_TRANSLATE_NOOP("Settings", "Keep places"),
+            .description
+            = QT_TRANSLATE_NOOP("Settings", "Nodes stay where they are in the world when they move to other groups.")},
+    };
+}
+
+Settings allSettings()
+{
+    Settings all;
+    for (Settings& settings : std::array{editingSettings()})
+        std::move(settings.begin(), settings.end(), std::back_inserter(all));
+    return all;
+}
+
+} // namespace
+
+const std::vector<Setting>& orvane::settingList()
+{
+    static const Settings list = allSettings();
+    return list;
+}
+
+const Setting* orvane::findSetting(QStringView key)
+{
+    const Settings& list = settingList();
+    const auto found
+        = std::find_if(list.begin(), list.end(), [key](const Setting& setting) { return setting.key == key; });
+    return found == list.end() ? nullptr : &*found;
+}
