@@ -135,10 +135,6 @@
 <context>
     <name>BookmarkMenu</name>
     <message>
-        <source>Bookmarks</source>
-        <translation>Lesezeichen</translation>
-    </message>
-    <message>
         <source>&amp;Add Bookmark…</source>
         <translation>Lesezeichen &amp;hinzufügen…</translation>
     </message>
@@ -181,6 +177,10 @@
     <message>
         <source>Name:</source>
         <translation>Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Bookmarks</source>
+        <translation>&amp;Lesezeichen</translation>
     </message>
 </context>
 <context>
@@ -2741,6 +2741,14 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>File and Edit</source>
         <translation>Datei und Bearbeiten</translation>
     </message>
+    <message>
+        <source>&amp;Guides</source>
+        <translation>&amp;Hilfselemente</translation>
+    </message>
+    <message>
+        <source>&amp;Inspectors</source>
+        <translation>Inspekt&amp;oren</translation>
+    </message>
 </context>
 <context>
     <name>MarkDelegate</name>
@@ -2883,10 +2891,6 @@ Fixiert: bleibt auf diesem Feld.</translation>
 <context>
     <name>NavigationActions</name>
     <message>
-        <source>Navigation</source>
-        <translation>Navigation</translation>
-    </message>
-    <message>
         <source>&amp;Orbit about the Picked Point</source>
         <translation>&amp;Angeklickten Punkt umkreisen</translation>
     </message>
@@ -2901,6 +2905,10 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>Views from the sides, framing and bookmarks are reached by a short movement, where the desktop allows it</source>
         <translation>Ansichten von den Seiten, Einpassen und Lesezeichen folgen einer kurzen Bewegung, wo der Desktop es erlaubt</translation>
+    </message>
+    <message>
+        <source>Na&amp;vigation</source>
+        <translation>Na&amp;vigation</translation>
     </message>
 </context>
 <context>
@@ -3900,6 +3908,26 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>Copying %1 problems</source>
         <translation>%1 Probleme werden kopiert</translation>
     </message>
+    <message>
+        <source>1 error</source>
+        <translation>1 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 errors</source>
+        <translation>%1 Fehler</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 Warnung</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 Warnungen</translation>
+    </message>
+    <message>
+        <source>%1 information</source>
+        <translation>%1 Information</translation>
+    </message>
 </context>
 <context>
     <name>ProblemsDock</name>
@@ -4416,6 +4444,645 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>ToolkitText</name>
+    <message>
+        <source>It isn&apos;t a finite number.</source>
+        <translation>Das ist keine endliche Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 numbers isn&apos;t a finite number.</source>
+        <translation>%1 von %2 Zahlen ist nicht endlich.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 numbers aren&apos;t finite numbers.</source>
+        <translation>%1 von %2 Zahlen sind nicht endlich.</translation>
+    </message>
+    <message>
+        <source>It is out of range, %1.</source>
+        <translation>Der Wert liegt außerhalb des Bereichs, %1.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 numbers is out of range, %3.</source>
+        <translation>%1 von %2 Zahlen liegt außerhalb des Bereichs, %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 numbers are out of range, %3.</source>
+        <translation>%1 von %2 Zahlen liegen außerhalb des Bereichs, %3.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 positions are no finite numbers; what they belong to isn&apos;t drawn.</source>
+        <translation>%1 von %2 Positionen sind keine endlichen Zahlen; was dazu gehört, wird nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 indices are out of range, from 0 to %3; what they belong to isn&apos;t drawn.</source>
+        <translation>%1 von %2 Indizes liegen außerhalb des Bereichs, von 0 bis %3; was dazu gehört, wird nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>The number of its positions, %1, isn&apos;t a multiple of %2; the last ones aren&apos;t drawn.</source>
+        <translation>Die Anzahl der Positionen, %1, ist kein Vielfaches von %2; die letzten werden nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>The number of its indices, %1, isn&apos;t a multiple of %2; the last ones aren&apos;t drawn.</source>
+        <translation>Die Anzahl der Indizes, %1, ist kein Vielfaches von %2; die letzten werden nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>%1 normals for %2 positions; drawn as if it had none.</source>
+        <translation>%1 Normalen für %2 Positionen; gezeichnet wie ohne Normalen.</translation>
+    </message>
+    <message>
+        <source>%1 colours for %2 positions; drawn as if it had none.</source>
+        <translation>%1 Farben für %2 Positionen; gezeichnet wie ohne Farben.</translation>
+    </message>
+    <message>
+        <source>%1 texture coordinates for %2 positions; drawn as if it had none.</source>
+        <translation>%1 Texturkoordinaten für %2 Positionen; gezeichnet wie ohne Texturkoordinaten.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 normals has length 0.</source>
+        <translation>%1 von %2 Normalen hat die Länge 0.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 normals have length 0.</source>
+        <translation>%1 von %2 Normalen haben die Länge 0.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 normals doesn&apos;t have length 1.</source>
+        <translation>%1 von %2 Normalen hat nicht die Länge 1.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 normals don&apos;t have length 1.</source>
+        <translation>%1 von %2 Normalen haben nicht die Länge 1.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 triangles has no size and can&apos;t be seen.</source>
+        <translation>%1 von %2 Dreiecken hat keine Größe und ist nicht zu sehen.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 triangles have no size and can&apos;t be seen.</source>
+        <translation>%1 von %2 Dreiecken haben keine Größe und sind nicht zu sehen.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines has no size and can&apos;t be seen.</source>
+        <translation>%1 von %2 Linien hat keine Größe und ist nicht zu sehen.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines have no size and can&apos;t be seen.</source>
+        <translation>%1 von %2 Linien haben keine Größe und sind nicht zu sehen.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; doesn&apos;t exist.</source>
+        <translation>Die Datei „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; can&apos;t be read: %2.</source>
+        <translation>Die Datei „%1“ ist nicht lesbar: %2.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is in none of the image formats that can be read.</source>
+        <translation>Die Datei „%1“ hat keines der lesbaren Bildformate.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is broken: it doesn&apos;t state the size of its image.</source>
+        <translation>Die Datei „%1“ ist beschädigt: Die Größe ihres Bildes fehlt.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; has %2 by %3 pixels; images of more than %4 pixels, or %5 a side, aren&apos;t read.</source>
+        <translation>Die Datei „%1“ hat %2 mal %3 Pixel; Bilder mit mehr als %4 Pixeln oder %5 je Seite werden nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; isn&apos;t a regular file.</source>
+        <translation>„%1“ ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is empty.</source>
+        <translation>Die Datei „%1“ ist leer.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is larger than %2 MiB.</source>
+        <translation>Die Datei „%1“ ist größer als %2 MiB.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is in no folder, since the scene isn&apos;t saved yet.</source>
+        <translation>Die Datei „%1“ ist in keinem Ordner, weil die Szene noch nicht gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>Its image of %1 by %2 pixels is drawn smaller; the GPU takes %3 a side.</source>
+        <translation>Das Bild mit %1 mal %2 Pixeln wird kleiner gezeichnet; die GPU nimmt %3 je Seite.</translation>
+    </message>
+    <message>
+        <source>It is on, but its intensity is 0, so it lights nothing.</source>
+        <translation>Das Licht ist an, aber seine Stärke ist 0, es beleuchtet also nichts.</translation>
+    </message>
+    <message>
+        <source>It is on, but its colour is black, so it lights nothing.</source>
+        <translation>Das Licht ist an, aber seine Farbe ist Schwarz, es beleuchtet also nichts.</translation>
+    </message>
+    <message>
+        <source>It is on, but all parts of its attenuation are 0, so it lights nothing.</source>
+        <translation>Das Licht ist an, aber alle Teile seiner Abschwächung sind 0, es beleuchtet also nichts.</translation>
+    </message>
+    <message>
+        <source>It is on, but the angle of its cone is 0, so it lights nothing.</source>
+        <translation>Das Licht ist an, aber der Winkel seines Kegels ist 0, es beleuchtet also nichts.</translation>
+    </message>
+    <message>
+        <source>More than %1 lights shine on this and %2 more of its group; those behind the first %3 are left out.</source>
+        <translation>Auf dies und %2 weitere der Gruppe scheinen mehr als %1 Lichter; die hinter den ersten %3 entfallen.</translation>
+    </message>
+    <message>
+        <source>%1 lights shine on it; those behind the first %2 are left out.</source>
+        <translation>Darauf scheinen %1 Lichter; die hinter den ersten %2 entfallen.</translation>
+    </message>
+    <message>
+        <source>It has no child of that number, so it shows none; it has %1 child.</source>
+        <translation>Einen Kindknoten dieser Nummer gibt es nicht, es wird also keiner gezeigt; es gibt %1 Kindknoten.</translation>
+    </message>
+    <message>
+        <source>It has no child of that number, so it shows none; it has %1 children.</source>
+        <translation>Einen Kindknoten dieser Nummer gibt es nicht, es wird also keiner gezeigt; es gibt %1 Kindknoten.</translation>
+    </message>
+    <message>
+        <source>%1 more names of this group are those of several children, such as &apos;%2&apos;.</source>
+        <translation>%1 weitere Namen dieser Gruppe haben mehrere Kindknoten, etwa „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 children of the same group are called &apos;%2&apos;.</source>
+        <translation>%1 Kindknoten derselben Gruppe heißen „%2“.</translation>
+    </message>
+    <message>
+        <source>This material and %1 more of its group apply to nothing, since no mesh follows them.</source>
+        <translation>Dieses Material und %1 weitere der Gruppe wirken auf nichts, weil kein Netz darauf folgt.</translation>
+    </message>
+    <message>
+        <source>This texture and %1 more of its group apply to nothing, since no mesh follows them.</source>
+        <translation>Diese Textur und %1 weitere der Gruppe wirken auf nichts, weil kein Netz darauf folgt.</translation>
+    </message>
+    <message>
+        <source>This light and %1 more of its group apply to nothing, since no mesh follows them.</source>
+        <translation>Dieses Licht und %1 weitere der Gruppe wirken auf nichts, weil kein Netz darauf folgt.</translation>
+    </message>
+    <message>
+        <source>This complexity and %1 more of its group apply to nothing, since no mesh follows them.</source>
+        <translation>Diese Komplexität und %1 weitere der Gruppe wirken auf nichts, weil kein Netz darauf folgt.</translation>
+    </message>
+    <message>
+        <source>No mesh follows this material in its group, so it applies to nothing.</source>
+        <translation>In der Gruppe folgt kein Netz auf dieses Material, es wirkt also auf nichts.</translation>
+    </message>
+    <message>
+        <source>No mesh follows this texture in its group, so it applies to nothing.</source>
+        <translation>In der Gruppe folgt kein Netz auf diese Textur, sie wirkt also auf nichts.</translation>
+    </message>
+    <message>
+        <source>No mesh follows this light in its group, so it applies to nothing.</source>
+        <translation>In der Gruppe folgt kein Netz auf dieses Licht, es wirkt also auf nichts.</translation>
+    </message>
+    <message>
+        <source>No mesh follows this complexity in its group, so it applies to nothing.</source>
+        <translation>In der Gruppe folgt kein Netz auf diese Komplexität, sie wirkt also auf nichts.</translation>
+    </message>
+    <message>
+        <source>A scale factor is 0; what it places is flat or can&apos;t be drawn.</source>
+        <translation>Ein Skalierungsfaktor ist 0; was er platziert, ist flach oder nicht zeichenbar.</translation>
+    </message>
+    <message>
+        <source>Its axis has length 0, so it has no direction.</source>
+        <translation>Die Achse hat die Länge 0, also keine Richtung.</translation>
+    </message>
+    <message>
+        <source>Its matrix can&apos;t be inverted; what it places is flat or can&apos;t be drawn.</source>
+        <translation>Die Matrix ist nicht umkehrbar; was sie platziert, ist flach oder nicht zeichenbar.</translation>
+    </message>
+    <message>
+        <source>It has no positions to draw.</source>
+        <translation>Es gibt keine Positionen zum Zeichnen.</translation>
+    </message>
+    <message>
+        <source>It has neither an image nor an image file; surfaces are drawn without it.</source>
+        <translation>Weder ein Bild noch eine Bilddatei ist angegeben; Flächen werden ohne gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Its far distance isn&apos;t greater than its near distance, so it sees nothing.</source>
+        <translation>Die ferne Entfernung ist nicht größer als die nahe, die Kamera sieht also nichts.</translation>
+    </message>
+    <message>
+        <source>It has no children.</source>
+        <translation>Es gibt keine Kindknoten.</translation>
+    </message>
+    <message>
+        <source>Its class isn&apos;t known here; it is kept as it is.</source>
+        <translation>Die Klasse ist hier nicht bekannt; der Knoten bleibt, wie er ist.</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>above %1 and below %2</source>
+        <translation>über %1 und unter %2</translation>
+    </message>
+    <message>
+        <source>above %1 and at most %2</source>
+        <translation>über %1 und höchstens %2</translation>
+    </message>
+    <message>
+        <source>at least %1 and below %2</source>
+        <translation>mindestens %1 und unter %2</translation>
+    </message>
+    <message>
+        <source>at least %1 and at most %2</source>
+        <translation>mindestens %1 und höchstens %2</translation>
+    </message>
+    <message>
+        <source>above %1</source>
+        <translation>über %1</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>unter %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>höchstens %1</translation>
+    </message>
+    <message>
+        <source>Replace by the default</source>
+        <translation>Durch den Vorgabewert ersetzen</translation>
+    </message>
+    <message>
+        <source>Limit to the range</source>
+        <translation>Auf den Bereich begrenzen</translation>
+    </message>
+    <message>
+        <source>Set to the default</source>
+        <translation>Auf den Vorgabewert setzen</translation>
+    </message>
+    <message>
+        <source>Remove what they belong to, and set them to 0</source>
+        <translation>Entfernen, was dazu gehört, und auf 0 setzen</translation>
+    </message>
+    <message>
+        <source>Remove what they belong to</source>
+        <translation>Entfernen, was dazu gehört</translation>
+    </message>
+    <message>
+        <source>Remove the incomplete primitive</source>
+        <translation>Unvollständiges Primitiv entfernen</translation>
+    </message>
+    <message>
+        <source>Compute them from the triangles</source>
+        <translation>Aus den Dreiecken berechnen</translation>
+    </message>
+    <message>
+        <source>Normalise them</source>
+        <translation>Normieren</translation>
+    </message>
+    <message>
+        <source>Remove them</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Show no child</source>
+        <translation>Keinen Kindknoten zeigen</translation>
+    </message>
+    <message>
+        <source>Rename all but the first</source>
+        <translation>Alle außer dem ersten umbenennen</translation>
+    </message>
+    <message>
+        <source>Remove the material</source>
+        <translation>Material entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the texture</source>
+        <translation>Textur entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the light</source>
+        <translation>Licht entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the complexity</source>
+        <translation>Komplexität entfernen</translation>
+    </message>
+    <message>
+        <source>information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>The text is longer than %1 characters, which is the limit of a query.</source>
+        <translation>Der Text ist länger als %1 Zeichen, die Grenze einer Abfrage.</translation>
+    </message>
+    <message>
+        <source>An opening bracket is missing for this closing one. Put brackets to search for in quotes.</source>
+        <translation>Zu dieser schließenden Klammer fehlt die öffnende. Gesuchte Klammern gehören in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>A closing bracket is missing for this opening one. Put brackets to search for in quotes.</source>
+        <translation>Zu dieser öffnenden Klammer fehlt die schließende. Gesuchte Klammern gehören in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>More than %1 brackets are within each other, which is the limit of a query.</source>
+        <translation>Mehr als %1 Klammern sind ineinander, die Grenze einer Abfrage.</translation>
+    </message>
+    <message>
+        <source>A word is missing at the end.</source>
+        <translation>Am Ende fehlt ein Wort.</translation>
+    </message>
+    <message>
+        <source>A word is missing before &quot;%1&quot;. Put it in quotes to search for it.</source>
+        <translation>Vor „%1“ fehlt ein Wort. Wird es selbst gesucht, gehört es in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>A value is missing after %1.</source>
+        <translation>Nach %1 fehlt ein Wert.</translation>
+    </message>
+    <message>
+        <source>A word.</source>
+        <translation>Ein Wort.</translation>
+    </message>
+    <message>
+        <source>The name of a field is missing after f:.</source>
+        <translation>Nach f: fehlt der Name eines Feldes.</translation>
+    </message>
+    <message>
+        <source>The name of a class is missing after t:, such as t:Mesh.</source>
+        <translation>Nach t: fehlt der Name einer Klasse, etwa t:Mesh.</translation>
+    </message>
+    <message>
+        <source>Only numbers are greater or less. Texts are compared by = and !=.</source>
+        <translation>Nur Zahlen sind größer oder kleiner. Texte werden mit = und != verglichen.</translation>
+    </message>
+    <message>
+        <source>Nothing is greater or less than nan. Write =nan to find it.</source>
+        <translation>Nichts ist größer oder kleiner als nan. =nan findet es.</translation>
+    </message>
+    <message>
+        <source>A text is missing after ~.</source>
+        <translation>Nach ~ fehlt ein Text.</translation>
+    </message>
+    <message>
+        <source>The closing / of the regular expression is missing.</source>
+        <translation>Das schließende / des regulären Ausdrucks fehlt.</translation>
+    </message>
+    <message>
+        <source>A regular expression is missing.</source>
+        <translation>Ein regulärer Ausdruck fehlt.</translation>
+    </message>
+    <message>
+        <source>The query has more than %1 regular expressions, which is the limit.</source>
+        <translation>Die Abfrage hat mehr als %1 reguläre Ausdrücke, das ist die Grenze.</translation>
+    </message>
+    <message>
+        <source>The closing quote is missing.</source>
+        <translation>Das schließende Anführungszeichen fehlt.</translation>
+    </message>
+    <message>
+        <source>The regular expression has a [ without ].</source>
+        <translation>Der reguläre Ausdruck hat ein [ ohne ].</translation>
+    </message>
+    <message>
+        <source>The regular expression has a ( without ).</source>
+        <translation>Der reguläre Ausdruck hat ein ( ohne ).</translation>
+    </message>
+    <message>
+        <source>The regular expression has a ) without (.</source>
+        <translation>Der reguläre Ausdruck hat ein ) ohne (.</translation>
+    </message>
+    <message>
+        <source>The regular expression has bytes that are no text.</source>
+        <translation>Der reguläre Ausdruck hat Bytes, die kein Text sind.</translation>
+    </message>
+    <message>
+        <source>The regular expression has a wrong name in %1.</source>
+        <translation>Der reguläre Ausdruck hat einen falschen Namen in %1.</translation>
+    </message>
+    <message>
+        <source>The regular expression has two repetitions in a row: %1.</source>
+        <translation>Der reguläre Ausdruck hat zwei Wiederholungen hintereinander: %1.</translation>
+    </message>
+    <message>
+        <source>The regular expression has %1, which has no meaning.</source>
+        <translation>Der reguläre Ausdruck hat %1, das nichts bedeutet.</translation>
+    </message>
+    <message>
+        <source>The regular expression has %1, which is no range or class of characters.</source>
+        <translation>Der reguläre Ausdruck hat %1, weder Bereich noch Klasse von Zeichen.</translation>
+    </message>
+    <message>
+        <source>The regular expression has %1, but nothing before it to repeat.</source>
+        <translation>Der reguläre Ausdruck hat %1, aber davor nichts zu wiederholen.</translation>
+    </message>
+    <message>
+        <source>The regular expression has %1, which isn&apos;t supported.</source>
+        <translation>Der reguläre Ausdruck hat %1, das nicht unterstützt wird.</translation>
+    </message>
+    <message>
+        <source>The regular expression ends in a backslash. Write \\ to find one.</source>
+        <translation>Der reguläre Ausdruck endet mit einem Backslash. \\ findet einen.</translation>
+    </message>
+    <message>
+        <source>The regular expression repeats too often or the wrong way round: %1.</source>
+        <translation>Der reguläre Ausdruck wiederholt zu oft oder verkehrt herum: %1.</translation>
+    </message>
+    <message>
+        <source>The regular expression is too large.</source>
+        <translation>Der reguläre Ausdruck ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The regular expression is wrong: %1.</source>
+        <translation>Der reguläre Ausdruck ist falsch: %1.</translation>
+    </message>
+    <message>
+        <source>%1 A comma is a decimal sign: separate arguments with a semicolon.</source>
+        <translation>%1 Ein Komma ist ein Dezimalzeichen: Argumente durch Semikolon trennen.</translation>
+    </message>
+    <message>
+        <source>The text is longer than %1 characters, which is the limit of a formula.</source>
+        <translation>Der Text ist länger als %1 Zeichen, die Grenze einer Formel.</translation>
+    </message>
+    <message>
+        <source>A comma is a decimal sign and needs digits after it; arguments are separated by a semicolon.</source>
+        <translation>Ein Komma ist ein Dezimalzeichen und braucht Ziffern danach; Argumente werden durch Semikolon getrennt.</translation>
+    </message>
+    <message>
+        <source>%1 has no meaning in a formula.</source>
+        <translation>%1 bedeutet in einer Formel nichts.</translation>
+    </message>
+    <message>
+        <source>A number is missing before %1.</source>
+        <translation>Vor %1 fehlt eine Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be used here: a finite number is needed.</source>
+        <translation>%1 geht hier nicht: Eine endliche Zahl ist nötig.</translation>
+    </message>
+    <message>
+        <source>Write %1 and what follows it in brackets.</source>
+        <translation>%1 und was folgt gehören in Klammern.</translation>
+    </message>
+    <message>
+        <source>&quot;log&quot; has several meanings: write ln, log2 or log10.</source>
+        <translation>&quot;log&quot; ist mehrdeutig: Schreiben Sie ln, log2 oder log10.</translation>
+    </message>
+    <message>
+        <source>There is no function %1. There are: %2.</source>
+        <translation>Die Funktion %1 gibt es nicht. Es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t known here. There are no variables.</source>
+        <translation>%1 ist hier nicht bekannt. Es gibt keine Variablen.</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t known here. The variables are: %2.</source>
+        <translation>%1 ist hier nicht bekannt. Die Variablen sind: %2.</translation>
+    </message>
+    <message>
+        <source>The function %1 needs its argument in brackets: %2.</source>
+        <translation>Die Funktion %1 braucht ihr Argument in Klammern: %2.</translation>
+    </message>
+    <message>
+        <source>A sign such as + or * is missing before %1.</source>
+        <translation>Vor %1 fehlt ein Zeichen wie + oder *.</translation>
+    </message>
+    <message>
+        <source>A multiplication needs its sign: write * before the bracket.</source>
+        <translation>Eine Multiplikation braucht ihr Zeichen: Schreiben Sie * vor die Klammer.</translation>
+    </message>
+    <message>
+        <source>A multiplication needs its sign: write * before %1.</source>
+        <translation>Eine Multiplikation braucht ihr Zeichen: Schreiben Sie * vor %1.</translation>
+    </message>
+    <message>
+        <source>Write if(condition; then; otherwise) instead of %1.</source>
+        <translation>Schreiben Sie if(Bedingung; dann; sonst) statt %1.</translation>
+    </message>
+    <message>
+        <source>&quot;rad&quot; is for angles, and this isn&apos;t an angle.</source>
+        <translation>&quot;rad&quot; ist für Winkel, und dies ist kein Winkel.</translation>
+    </message>
+    <message>
+        <source>%1 is for angles, and this isn&apos;t an angle.</source>
+        <translation>%1 ist für Winkel, und dies ist kein Winkel.</translation>
+    </message>
+    <message>
+        <source>Two comparisons in a row: write them apart, such as 0 &lt; x and x &lt; 1.</source>
+        <translation>Zwei Vergleiche hintereinander: einzeln schreiben, etwa 0 &lt; x and x &lt; 1.</translation>
+    </message>
+    <message>
+        <source>More than %1 brackets are within each other, which is the limit of a formula.</source>
+        <translation>Mehr als %1 Klammern sind ineinander, die Grenze einer Formel.</translation>
+    </message>
+    <message>
+        <source>An opening bracket is missing for this closing one.</source>
+        <translation>Zu dieser schließenden Klammer fehlt die öffnende.</translation>
+    </message>
+    <message>
+        <source>A closing bracket is missing for this opening one.</source>
+        <translation>Zu dieser öffnenden Klammer fehlt die schließende.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2 or more arguments, not %3.</source>
+        <translation>%1 braucht mindestens %2 Argumente, nicht %3.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2 or more argument, not %3.</source>
+        <translation>%1 braucht mindestens %2 Argument, nicht %3.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2 arguments, not %3.</source>
+        <translation>%1 braucht %2 Argumente, nicht %3.</translation>
+    </message>
+    <message>
+        <source>%1 takes %2 argument, not %3.</source>
+        <translation>%1 braucht %2 Argument, nicht %3.</translation>
+    </message>
+    <message>
+        <source>A semicolon separates the arguments of a function, and there is no function here.</source>
+        <translation>Ein Semikolon trennt die Argumente einer Funktion, und hier ist keine Funktion.</translation>
+    </message>
+    <message>
+        <source>Two units in a row: write brackets before %1.</source>
+        <translation>Zwei Einheiten hintereinander: Schreiben Sie Klammern vor %1.</translation>
+    </message>
+    <message>
+        <source>A number or a formula is missing.</source>
+        <translation>Eine Zahl oder eine Formel fehlt.</translation>
+    </message>
+    <message>
+        <source>A number is missing at the end.</source>
+        <translation>Am Ende fehlt eine Zahl.</translation>
+    </message>
+    <message>
+        <source>The formula is too long.</source>
+        <translation>Die Formel ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The formula can&apos;t be evaluated: %1</source>
+        <translation>Die Formel lässt sich nicht auswerten: %1</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a whole number.</source>
+        <translation>%1 ist keine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 is %2, which isn&apos;t a number to calculate with.</source>
+        <translation>%1 ist %2, und damit lässt sich nicht rechnen.</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: the field takes whole numbers from %2 to %3.</source>
+        <translation>%1 liegt außerhalb des Bereichs: Das Feld nimmt ganze Zahlen von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: the field takes numbers from %2 to %3.</source>
+        <translation>%1 liegt außerhalb des Bereichs: Das Feld nimmt Zahlen von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>A division by 0 has no result.</source>
+        <translation>Eine Division durch 0 hat kein Ergebnis.</translation>
+    </message>
+    <message>
+        <source>The result is infinite, such as the logarithm of 0 or a negative power of 0.</source>
+        <translation>Das Ergebnis ist unendlich, etwa der Logarithmus von 0 oder eine negative Potenz von 0.</translation>
+    </message>
+    <message>
+        <source>The result is too large for a number.</source>
+        <translation>Das Ergebnis ist zu groß für eine Zahl.</translation>
+    </message>
+    <message>
+        <source>The result isn&apos;t defined, such as 0 divided by 0 or the square root of a negative number.</source>
+        <translation>Das Ergebnis ist nicht definiert, etwa 0 durch 0 oder die Wurzel einer negativen Zahl.</translation>
+    </message>
+    <message>
+        <source>Digits from 0 to 9 and from a to f are missing after 0x.</source>
+        <translation>Nach 0x fehlen Ziffern von 0 bis 9 und von a bis f.</translation>
+    </message>
+    <message>
+        <source>The number %1 is too large.</source>
+        <translation>Die Zahl %1 ist zu groß.</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t a number: it may have one decimal sign and no other signs.</source>
+        <translation>%1 ist keine Zahl: Möglich ist ein Dezimalzeichen, sonst keine Zeichen.</translation>
+    </message>
+    <message>
+        <source>Signs between thousands can&apos;t be read: write %1 for %2.</source>
+        <translation>Tausenderzeichen sind nicht lesbar: Schreiben Sie %1 für %2.</translation>
+    </message>
+</context>
+<context>
     <name>TreeActions</name>
     <message>
         <source>&amp;Unfold and Fold</source>
@@ -4871,6 +5538,14 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>Shows or hides this part of the window</source>
         <translation>Blendet diesen Teil des Fensters ein oder aus</translation>
+    </message>
+    <message>
+        <source>Doc&amp;ks</source>
+        <translation>Ando&amp;ckfenster</translation>
+    </message>
+    <message>
+        <source>&amp;Tool Bars</source>
+        <translation>Werk&amp;zeugleisten</translation>
     </message>
 </context>
 <context>

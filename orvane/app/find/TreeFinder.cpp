@@ -6,6 +6,7 @@
 #include "orvane/app/find/FindLine.h"
 #include "orvane/app/find/FindMenu.h"
 #include "orvane/app/find/FoundNodes.h"
+#include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -170,12 +171,12 @@ void TreeFinder::followText(const QString& text)
     if (draft.error) {
         m_line->setNote(tr("Character %1: %2")
                             .arg(orvane::toQString(text.toStdString().substr(0, draft.error->position)).size() + 1)
-                            .arg(orvane::toQString(draft.error->message)),
+                            .arg(orvane::toolkitText(orvane::toQString(draft.error->message))),
             FindLine::Tone::Error);
         return; // the last query that made sense stays
     }
     if (draft.missing)
-        m_line->setNote(orvane::toQString(draft.missing->message), FindLine::Tone::Quiet);
+        m_line->setNote(orvane::toolkitText(orvane::toQString(draft.missing->message)), FindLine::Tone::Quiet);
     if (draft.query.isEmpty()) {
         end();
         if (m_line->edit()->hasFocus())

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/input/InputMessage.h"
+#include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/look/Look.h"
 
 #include <QEvent>
@@ -75,7 +76,7 @@ void FilterLine::showError()
 {
     m_pause.stop();
     if (m_error)
-        InputMessage::showFor(this, orvane::toQString(m_error->message));
+        InputMessage::showFor(this, orvane::toolkitText(orvane::toQString(m_error->message)));
 }
 
 void FilterLine::keyPressEvent(QKeyEvent* event)

@@ -5,6 +5,7 @@
 #include "orvane/app/input/InputMessage.h"
 #include "orvane/app/input/PassingFocus.h"
 #include "orvane/app/input/PlainReturn.h"
+#include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/look/Look.h"
 
 #include <QApplication>
@@ -126,7 +127,7 @@ Result<Expression> NumberLine::readText() const
     context.isWhole = m_limits.isWhole;
     auto parsed = Expression::parse(text().toStdString(), context);
     if (const auto* const error = std::get_if<meridane::QueryError>(&parsed))
-        return Failure{orvane::toQString(error->message)};
+        return Failure{orvane::toolkitText(orvane::toQString(error->message))};
     return std::get<Expression>(std::move(parsed));
 }
 
@@ -137,7 +138,7 @@ Result<std::optional<double>> NumberLine::evaluate(const Expression& expression)
         return std::optional<double>();
     const auto number = expression.evaluate(m_value.value_or(0));
     if (const auto* const error = std::get_if<meridane::QueryError>(&number))
-        return Failure{orvane::toQString(error->message)};
+        return Failure{orvane::toolkitText(orvane::toQString(error->message))};
     return std::optional(std::get<double>(number));
 }
 

@@ -3,6 +3,7 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/input/InputMessage.h"
 #include "orvane/app/input/NumberLine.h"
+#include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/lists/rows/ListEdits.h"
 #include "orvane/app/lists/rows/ListModel.h"
 #include "orvane/app/look/Look.h"
@@ -185,7 +186,7 @@ void ListDelegate::writeNumber(NumberLine& line, const QModelIndex& index) const
     const double present = m_model.columns().number(row, index.column());
     const auto value = line.expression().evaluate(present);
     if (const auto* const error = std::get_if<meridane::QueryError>(&value)) {
-        line.refuse(orvane::toQString(error->message));
+        line.refuse(orvane::toolkitText(orvane::toQString(error->message)));
         return;
     }
     if (const auto result = m_edits.setNumber(row, index.column(), std::get<double>(value)); !result)

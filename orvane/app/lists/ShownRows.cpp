@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/files/JobBar.h"
+#include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/lists/rows/ListModel.h"
 #include "orvane/app/lists/rows/RowExpression.h"
 
@@ -62,7 +63,7 @@ orvane::Result<RowsJob::Filter> ShownRows::makeFilter(const QString& text) const
     }
     auto query = meridane::Query::parse(text.toStdString(), meridane::Query::Subject::Rows);
     if (const auto* const error = std::get_if<meridane::QueryError>(&query))
-        return orvane::Failure{orvane::toQString(error->message)};
+        return orvane::Failure{orvane::toolkitText(orvane::toQString(error->message))};
     return textFilter(columns, std::get<meridane::Query>(std::move(query)));
 }
 

@@ -3,6 +3,7 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/SliceClock.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/problems/ProblemText.h"
 #include "orvane/app/problems/SeverityIcons.h"
 
@@ -259,9 +260,10 @@ QVariant ProblemModel::data(const QModelIndex& index, int role) const
     case Qt::DecorationRole:
         return index.column() == SentenceColumn ? QVariant(m_icons[indexOf(shown->about().severity)]) : QVariant();
     case Qt::AccessibleTextRole:
-        return index.column() == SentenceColumn ? QVariant(
-                   orvane::severityName(shown->about().severity) + QStringLiteral(": ") + orvane::sentenceOf(*shown))
-                                                : QVariant();
+        return index.column() == SentenceColumn
+            ? QVariant(orvane::toolkitText(orvane::severityName(shown->about().severity)) + QStringLiteral(": ")
+                + orvane::sentenceOf(*shown))
+            : QVariant();
     default:
         return {};
     }

@@ -33,9 +33,12 @@ constexpr std::array severities{NxSeverity::Error, NxSeverity::Warning, NxSeveri
 /// Such as "1 error" or "3 warnings".
 QString countText(std::size_t count, NxSeverity severity)
 {
-    const QString name = orvane::severityName(severity);
-    const bool takesPlural = count != 1 && severity != NxSeverity::Information;
-    return QStringLiteral("%1 %2%3").arg(orvane::countText(count), name, takesPlural ? QStringLiteral("s") : QString());
+    const QString number = orvane::countText(count);
+    if (severity == NxSeverity::Error)
+        return count == 1 ? ProblemPanel::tr("1 error") : ProblemPanel::tr("%1 errors").arg(number);
+    if (severity == NxSeverity::Warning)
+        return count == 1 ? ProblemPanel::tr("1 warning") : ProblemPanel::tr("%1 warnings").arg(number);
+    return ProblemPanel::tr("%1 information").arg(number);
 }
 
 /// Shortens sentences at their ends, and leaves paths to the view.

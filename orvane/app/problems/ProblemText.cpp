@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/language/ToolkitText.h"
 
 #include "meridane/base/values/VbName.h"
 
@@ -24,12 +25,12 @@ QString severityName(NxSeverity severity)
 
 QString sentenceOf(const NxSceneProblem& problem)
 {
-    return oneLine(toQString(problem.sentence()));
+    return oneLine(toolkitText(toQString(problem.sentence())));
 }
 
 QString mendText(const NxSceneProblem& problem)
 {
-    return problem.isMendable ? textOf(problem.about().mend) : QString();
+    return problem.isMendable ? toolkitText(textOf(problem.about().mend)) : QString();
 }
 
 QString identifierOf(const NxSceneProblem& problem)

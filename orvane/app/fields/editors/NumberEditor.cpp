@@ -7,6 +7,7 @@
 #include "orvane/app/input/InputMessage.h"
 #include "orvane/app/input/NumberLine.h"
 #include "orvane/app/input/PassingFocus.h"
+#include "orvane/app/language/ToolkitText.h"
 
 #include "meridane/scene/components/FieldComponents.h"
 #include "meridane/scene/fields/NxField.h"
@@ -133,7 +134,7 @@ void NumberEditor::accept()
     const auto write = [&](NxField& field) {
         const auto result = expression.evaluate(m_number.get(field));
         if (const auto* const error = std::get_if<meridane::QueryError>(&result); error != nullptr)
-            why = orvane::toQString(error->message);
+            why = orvane::toolkitText(orvane::toQString(error->message));
         else
             why = m_number.limits.refusal(std::get<double>(result));
         return why.isEmpty() && m_number.set(field, std::get<double>(result));

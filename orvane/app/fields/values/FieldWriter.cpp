@@ -6,6 +6,7 @@
 #include "orvane/app/fields/values/FieldWriteCommand.h"
 #include "orvane/app/fields/values/IgnoreCommand.h"
 #include "orvane/app/fields/values/Refusal.h"
+#include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/extender/OrvCommand.h"
 #include "orvane/extender/OrvServices.h"
@@ -68,7 +69,7 @@ orvane::Result<> FieldWriter::setNumber(const FieldSet& fields, int component, c
         const auto* const number = std::get_if<double>(&value);
         const std::optional<std::string> refusal
             = number == nullptr ? std::get<meridane::QueryError>(value).message : components->refusal(*number);
-        QString reason = orvane::toQString(refusal.value_or(std::string()));
+        QString reason = orvane::toolkitText(orvane::toQString(refusal.value_or(std::string())));
         if (!reason.isEmpty() && fields.count() > 1)
             reason = tr("%1: %2").arg(orvane::nodeName(*named[values.size()]->getContainer()), reason);
         if (!reason.isEmpty())

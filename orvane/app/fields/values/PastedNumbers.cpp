@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/language/ToolkitText.h"
 
 #include "meridane/query/Expression.h"
 #include "meridane/scene/components/FieldComponents.h"
@@ -104,11 +105,12 @@ Result<double> numberOf(std::string_view text, const FieldComponents& components
             ? std::get<meridane::Expression>(expression).evaluate()
             : std::variant<double, meridane::QueryError>(std::get<meridane::QueryError>(expression));
         if (const auto* const failure = std::get_if<meridane::QueryError>(&value))
-            return Failure{QStringLiteral("\"%1\": %2").arg(shortLine(toQString(text)), toQString(failure->message))};
+            return Failure{
+                QStringLiteral("\"%1\": %2").arg(shortLine(toQString(text)), toolkitText(toQString(failure->message)))};
         number = std::get<double>(value);
     }
     if (const auto refusal = components.refusal(number))
-        return Failure{QStringLiteral("\"%1\": %2").arg(shortLine(toQString(text)), toQString(*refusal))};
+        return Failure{QStringLiteral("\"%1\": %2").arg(shortLine(toQString(text)), toolkitText(toQString(*refusal)))};
     return number;
 }
 

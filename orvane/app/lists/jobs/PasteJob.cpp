@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/language/ToolkitText.h"
 
 #include "meridane/query/Expression.h"
 #include "meridane/scene/components/FieldComponents.h"
@@ -144,7 +145,7 @@ orvane::Result<> PasteJob::addNumber(std::size_t cell)
     QString reason = number.error();
     if (number) {
         if (const auto refusal = m_columns.components()->refusal(number.value()))
-            reason = orvane::toQString(*refusal);
+            reason = orvane::toolkitText(orvane::toQString(*refusal));
     }
     if (reason.isEmpty()) {
         m_rows.numbers[cell].push_back(number.value());
@@ -181,9 +182,9 @@ orvane::Result<double> PasteJob::numberOf(std::string_view text, int column) con
     context.mayBeInfinite = !m_columns.components()->isWhole();
     const auto parsed = meridane::Expression::parse(text, context);
     if (const auto* const error = std::get_if<meridane::QueryError>(&parsed))
-        return orvane::Failure{orvane::toQString(error->message)};
+        return orvane::Failure{orvane::toolkitText(orvane::toQString(error->message))};
     const auto value = std::get<meridane::Expression>(parsed).evaluate();
     if (const auto* const error = std::get_if<meridane::QueryError>(&value))
-        return orvane::Failure{orvane::toQString(error->message)};
+        return orvane::Failure{orvane::toolkitText(orvane::toQString(error->message))};
     return std::get<double>(value);
 }

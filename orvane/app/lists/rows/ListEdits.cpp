@@ -3,6 +3,7 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/base/UserLocale.h"
+#include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/lists/rows/ListCommand.h"
 #include "orvane/app/lists/rows/ListModel.h"
 #include "orvane/app/lists/rows/ListRows.h"
@@ -70,7 +71,7 @@ orvane::Result<> ListEdits::checkNumbers(std::span<const int> rows, std::span<co
         return orvane::Failure{tr("The rows of this list aren't numbers.")};
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (const auto refusal = components->refusal(values[i])) {
-            const QString reason = orvane::toQString(*refusal);
+            const QString reason = orvane::toolkitText(orvane::toQString(*refusal));
             return orvane::Failure{rows.size() == 1 ? reason : tr("Row %1: %2").arg(rows[i]).arg(reason)};
         }
     }

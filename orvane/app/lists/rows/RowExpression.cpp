@@ -1,6 +1,7 @@
 #include "orvane/app/lists/rows/RowExpression.h"
 
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/lists/rows/ListColumns.h"
 
 #include "meridane/scene/components/FieldComponents.h"
@@ -17,7 +18,7 @@ constexpr std::size_t rowsPerEvaluation = 256;
 
 orvane::Failure failureOfRow(int row, const meridane::QueryError& error)
 {
-    return {RowExpression::tr("Row %1: %2").arg(row).arg(orvane::toQString(error.message))};
+    return {RowExpression::tr("Row %1: %2").arg(row).arg(orvane::toolkitText(orvane::toQString(error.message)))};
 }
 
 } // namespace
@@ -38,7 +39,7 @@ orvane::Result<RowExpression> RowExpression::parse(const QString& text, const Li
     context.isAngle = use == Use::Column && columns.components()->name(column) == "angle";
     auto parsed = meridane::Expression::parse(text.toStdString(), context);
     if (const auto* const error = std::get_if<meridane::QueryError>(&parsed))
-        return orvane::Failure{orvane::toQString(error->message)};
+        return orvane::Failure{orvane::toolkitText(orvane::toQString(error->message))};
     RowExpression result(std::get<meridane::Expression>(std::move(parsed)));
     if (use == Use::Filter && !result.m_expression.usesVariables()) {
         const auto value = result.m_expression.evaluate(std::vector<double>(sources.size()));
