@@ -94,6 +94,41 @@
     </message>
 </context>
 <context>
+    <name>AppSettings</name>
+    <message>
+        <source>it isn&apos;t a file of settings</source>
+        <translation>es ist keine Datei mit Einstellungen</translation>
+    </message>
+    <message>
+        <source>line %1: expected a setting as in &quot;name=value&quot;</source>
+        <translation>Zeile %1: erwartet wird eine Einstellung wie „name=wert“</translation>
+    </message>
+    <message>
+        <source>line %1 isn&apos;t complete; the file may be half written</source>
+        <translation>Zeile %1 ist unvollständig; die Datei ist vielleicht nur halb geschrieben</translation>
+    </message>
+    <message>
+        <source>a later version of Orvane has written it (settings %1, this version writes %2)</source>
+        <translation>eine spätere Version von Orvane hat sie geschrieben (Einstellungen %1, diese Version schreibt %2)</translation>
+    </message>
+    <message>
+        <source>the file or its folder can&apos;t be written, or the disk is full</source>
+        <translation>die Datei oder ihr Ordner ist nicht beschreibbar, oder der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>%1: The settings are used as far as this version knows them: %2. The file is left as it is, and changes hold for this run only.</source>
+        <translation>%1: Die Einstellungen gelten, soweit diese Version sie kennt: %2. Die Datei bleibt, wie sie ist, und Änderungen gelten nur bis zum Beenden.</translation>
+    </message>
+    <message>
+        <source>%1: The settings can&apos;t be saved: %2. Changes hold for this run, and are saved as soon as that is possible.</source>
+        <translation>%1: Die Einstellungen lassen sich nicht speichern: %2. Änderungen gelten bis zum Beenden und werden gespeichert, sobald es möglich ist.</translation>
+    </message>
+    <message>
+        <source>%1: The settings can&apos;t be read, or in part only: %2. The file is left as it is, and changes hold for this run only.</source>
+        <translation>%1: Die Einstellungen sind nicht oder nur zum Teil lesbar: %2. Die Datei bleibt, wie sie ist, und Änderungen gelten nur bis zum Beenden.</translation>
+    </message>
+</context>
+<context>
     <name>BookmarkDialog</name>
     <message>
         <source>&amp;Go To</source>
@@ -488,7 +523,7 @@
     <name>DisplayMenu</name>
     <message>
         <source>Disp&amp;lay</source>
-        <translation>Darste&amp;llung</translation>
+        <translation>Dars&amp;tellung</translation>
     </message>
     <message>
         <source>&amp;Shaded</source>
@@ -3078,6 +3113,441 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>NodeDescriptions</name>
+    <message>
+        <source>The detail with which the surfaces and textures that follow in the group are drawn.</source>
+        <translation>Wie detailliert die in der Gruppe folgenden Flächen und Texturen gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>What value is measured against: the object at any distance, the picture, or neither, and then only boxes are drawn.</source>
+        <translation>Woran value gemessen wird: am Objekt in jeder Entfernung, am Bild oder an keinem, dann werden nur Quader gezeichnet.</translation>
+    </message>
+    <message>
+        <source>The detail of surfaces, from coarse and fast (0) to fine and slow (1).</source>
+        <translation>Das Detail der Flächen, von grob und schnell (0) bis fein und langsam (1).</translation>
+    </message>
+    <message>
+        <source>The quality of textures, from none drawn (0) to all kinds of smoothing (1).</source>
+        <translation>Die Qualität der Texturen, von gar keinen (0) bis zu allen Arten der Glättung (1).</translation>
+    </message>
+    <message>
+        <source>Light from very far away, the same everywhere, such as that of the sun.</source>
+        <translation>Licht aus weiter Ferne, überall gleich, etwa das der Sonne.</translation>
+    </message>
+    <message>
+        <source>Whether the light shines.</source>
+        <translation>Ob das Licht leuchtet.</translation>
+    </message>
+    <message>
+        <source>How bright the light is, from dark (0) to full (1).</source>
+        <translation>Wie hell das Licht ist, von dunkel (0) bis voll (1).</translation>
+    </message>
+    <message>
+        <source>The colour of the light.</source>
+        <translation>Die Farbe des Lichts.</translation>
+    </message>
+    <message>
+        <source>Where the rays go, as a vector of any length but 0.</source>
+        <translation>Wohin die Strahlen gehen, als Vektor beliebiger Länge außer 0.</translation>
+    </message>
+    <message>
+        <source>Has one field of every field class to try editors with, and draws nothing.</source>
+        <translation>Hat ein Feld jeder Feldklasse, um Editoren zu erproben, und zeichnet nichts.</translation>
+    </message>
+    <message>
+        <source>A set of bits with names.</source>
+        <translation>Eine Menge benannter Bits.</translation>
+    </message>
+    <message>
+        <source>A boolean.</source>
+        <translation>Ein Wahrheitswert.</translation>
+    </message>
+    <message>
+        <source>A rectangle.</source>
+        <translation>Ein Rechteck.</translation>
+    </message>
+    <message>
+        <source>A box of 16-bit integers.</source>
+        <translation>Ein Quader aus 16-Bit-Ganzzahlen.</translation>
+    </message>
+    <message>
+        <source>A colour.</source>
+        <translation>Eine Farbe.</translation>
+    </message>
+    <message>
+        <source>A colour with opacity.</source>
+        <translation>Eine Farbe mit Deckkraft.</translation>
+    </message>
+    <message>
+        <source>A 64-bit number.</source>
+        <translation>Eine 64-Bit-Zahl.</translation>
+    </message>
+    <message>
+        <source>One of four names.</source>
+        <translation>Einer von vier Namen.</translation>
+    </message>
+    <message>
+        <source>The path of a file.</source>
+        <translation>Der Pfad einer Datei.</translation>
+    </message>
+    <message>
+        <source>A 32-bit number.</source>
+        <translation>Eine 32-Bit-Zahl.</translation>
+    </message>
+    <message>
+        <source>A small or large image.</source>
+        <translation>Ein kleines oder großes Bild.</translation>
+    </message>
+    <message>
+        <source>A 32-bit integer.</source>
+        <translation>Eine 32-Bit-Ganzzahl.</translation>
+    </message>
+    <message>
+        <source>A 4 by 4 matrix.</source>
+        <translation>Eine 4×4-Matrix.</translation>
+    </message>
+    <message>
+        <source>A name.</source>
+        <translation>Ein Name.</translation>
+    </message>
+    <message>
+        <source>A plane.</source>
+        <translation>Eine Ebene.</translation>
+    </message>
+    <message>
+        <source>A turn about an axis.</source>
+        <translation>Eine Drehung um eine Achse.</translation>
+    </message>
+    <message>
+        <source>A 16-bit integer.</source>
+        <translation>Eine 16-Bit-Ganzzahl.</translation>
+    </message>
+    <message>
+        <source>A text.</source>
+        <translation>Ein Text.</translation>
+    </message>
+    <message>
+        <source>A time.</source>
+        <translation>Eine Zeit.</translation>
+    </message>
+    <message>
+        <source>A 32-bit integer that is never negative.</source>
+        <translation>Eine 32-Bit-Ganzzahl, die nie negativ ist.</translation>
+    </message>
+    <message>
+        <source>A 16-bit integer that is never negative.</source>
+        <translation>Eine 16-Bit-Ganzzahl, die nie negativ ist.</translation>
+    </message>
+    <message>
+        <source>Two numbers.</source>
+        <translation>Zwei Zahlen.</translation>
+    </message>
+    <message>
+        <source>Two 32-bit integers.</source>
+        <translation>Zwei 32-Bit-Ganzzahlen.</translation>
+    </message>
+    <message>
+        <source>Two 16-bit integers.</source>
+        <translation>Zwei 16-Bit-Ganzzahlen.</translation>
+    </message>
+    <message>
+        <source>Three numbers.</source>
+        <translation>Drei Zahlen.</translation>
+    </message>
+    <message>
+        <source>Three 16-bit integers.</source>
+        <translation>Drei 16-Bit-Ganzzahlen.</translation>
+    </message>
+    <message>
+        <source>Four numbers.</source>
+        <translation>Vier Zahlen.</translation>
+    </message>
+    <message>
+        <source>Booleans.</source>
+        <translation>Wahrheitswerte.</translation>
+    </message>
+    <message>
+        <source>Colours.</source>
+        <translation>Farben.</translation>
+    </message>
+    <message>
+        <source>Colours with opacity.</source>
+        <translation>Farben mit Deckkraft.</translation>
+    </message>
+    <message>
+        <source>64-bit numbers.</source>
+        <translation>64-Bit-Zahlen.</translation>
+    </message>
+    <message>
+        <source>Some of four names.</source>
+        <translation>Einige von vier Namen.</translation>
+    </message>
+    <message>
+        <source>32-bit numbers.</source>
+        <translation>32-Bit-Zahlen.</translation>
+    </message>
+    <message>
+        <source>32-bit integers.</source>
+        <translation>32-Bit-Ganzzahlen.</translation>
+    </message>
+    <message>
+        <source>4 by 4 matrices.</source>
+        <translation>4×4-Matrizen.</translation>
+    </message>
+    <message>
+        <source>Names.</source>
+        <translation>Namen.</translation>
+    </message>
+    <message>
+        <source>Planes.</source>
+        <translation>Ebenen.</translation>
+    </message>
+    <message>
+        <source>Turns, each about an axis.</source>
+        <translation>Drehungen, jede um eine Achse.</translation>
+    </message>
+    <message>
+        <source>16-bit integers.</source>
+        <translation>16-Bit-Ganzzahlen.</translation>
+    </message>
+    <message>
+        <source>Texts.</source>
+        <translation>Texte.</translation>
+    </message>
+    <message>
+        <source>32-bit integers that are never negative.</source>
+        <translation>32-Bit-Ganzzahlen, die nie negativ sind.</translation>
+    </message>
+    <message>
+        <source>16-bit integers that are never negative.</source>
+        <translation>16-Bit-Ganzzahlen, die nie negativ sind.</translation>
+    </message>
+    <message>
+        <source>Vectors of two numbers.</source>
+        <translation>Vektoren aus zwei Zahlen.</translation>
+    </message>
+    <message>
+        <source>Vectors of two 32-bit integers.</source>
+        <translation>Vektoren aus zwei 32-Bit-Ganzzahlen.</translation>
+    </message>
+    <message>
+        <source>Vectors of two 16-bit integers.</source>
+        <translation>Vektoren aus zwei 16-Bit-Ganzzahlen.</translation>
+    </message>
+    <message>
+        <source>Vectors of three numbers.</source>
+        <translation>Vektoren aus drei Zahlen.</translation>
+    </message>
+    <message>
+        <source>Vectors of four numbers.</source>
+        <translation>Vektoren aus vier Zahlen.</translation>
+    </message>
+    <message>
+        <source>A node that holds other nodes, in order.</source>
+        <translation>Ein Knoten, der andere Knoten in ihrer Reihenfolge enthält.</translation>
+    </message>
+    <message>
+        <source>The look of the surfaces that follow in the group.</source>
+        <translation>Das Aussehen der in der Gruppe folgenden Flächen.</translation>
+    </message>
+    <message>
+        <source>The part of the ambient light that is reflected.</source>
+        <translation>Der reflektierte Anteil des Umgebungslichts.</translation>
+    </message>
+    <message>
+        <source>The colour of the surface in direct light.</source>
+        <translation>Die Farbe der Fläche in direktem Licht.</translation>
+    </message>
+    <message>
+        <source>The colour of highlights.</source>
+        <translation>Die Farbe der Glanzlichter.</translation>
+    </message>
+    <message>
+        <source>The light that the surface gives off by itself.</source>
+        <translation>Das Licht, das die Fläche selbst abgibt.</translation>
+    </message>
+    <message>
+        <source>How sharp highlights are, from wide (0) to small and sharp (1).</source>
+        <translation>Wie scharf Glanzlichter sind, von breit (0) bis klein und scharf (1).</translation>
+    </message>
+    <message>
+        <source>How much shines through, from opaque (0) to invisible (1).</source>
+        <translation>Wie viel durchscheint, von deckend (0) bis unsichtbar (1).</translation>
+    </message>
+    <message>
+        <source>How metallic the surface is, from plastic or stone (0) to bare metal (1).</source>
+        <translation>Wie metallisch die Fläche ist, von Kunststoff oder Stein (0) bis zu blankem Metall (1).</translation>
+    </message>
+    <message>
+        <source>How rough the surface is, from a mirror (0) to dull (1); below 1, or with some metalness, specularColor and shininess have no effect.</source>
+        <translation>Wie rau die Fläche ist, vom Spiegel (0) bis stumpf (1); unter 1 oder mit metalness wirken specularColor und shininess nicht.</translation>
+    </message>
+    <message>
+        <source>Whether triangles are also seen from behind, where their corners are in clockwise order.</source>
+        <translation>Ob Dreiecke auch von hinten zu sehen sind, wo ihre Ecken im Uhrzeigersinn liegen.</translation>
+    </message>
+    <message>
+        <source>The opacity below which nothing is drawn, while all else is opaque; 0 draws every opacity.</source>
+        <translation>Die Deckkraft, unter der nichts gezeichnet wird, während alles andere deckend ist; 0 zeichnet jede Deckkraft.</translation>
+    </message>
+    <message>
+        <source>A group whose children are transformed by a matrix.</source>
+        <translation>Eine Gruppe, deren Kindknoten durch eine Matrix transformiert werden.</translation>
+    </message>
+    <message>
+        <source>The matrix from the children to the group above, with the translation in the last row.</source>
+        <translation>Die Matrix von den Kindknoten zur Gruppe darüber, mit der Verschiebung in der letzten Zeile.</translation>
+    </message>
+    <message>
+        <source>Triangles, lines or points with shared corners.</source>
+        <translation>Dreiecke, Linien oder Punkte mit gemeinsamen Ecken.</translation>
+    </message>
+    <message>
+        <source>The corners.</source>
+        <translation>Die Ecken.</translation>
+    </message>
+    <message>
+        <source>The direction of unit length that the surface faces at each corner: one for each position, or none for flat triangles that are lit by their own normals.</source>
+        <translation>Die Richtung der Länge 1, in die die Fläche an jeder Ecke zeigt: eine je Position, oder keine für flache Dreiecke mit ihren eigenen Normalen.</translation>
+    </message>
+    <message>
+        <source>The place in the texture for each corner, from 0 to 1 across it with (0, 0) at the lower left: one for each position, or none.</source>
+        <translation>Die Stelle in der Textur für jede Ecke, von 0 bis 1 mit (0, 0) links unten: eine je Position, oder keine.</translation>
+    </message>
+    <message>
+        <source>Colours that replace the diffuse colour and the transparency of the material: one for each position, one for all, or none.</source>
+        <translation>Farben statt der diffusen Farbe und der Transparenz des Materials: eine je Position, eine für alle oder keine.</translation>
+    </message>
+    <message>
+        <source>The positions in the order of drawing, counted from 0: three for each triangle (counter-clockwise as seen from outside), two for each line, one for each point, or none at all for all positions in order.</source>
+        <translation>Die Positionen in der Reihenfolge des Zeichnens, gezählt ab 0: drei je Dreieck (von außen gegen den Uhrzeigersinn), zwei je Linie, eine je Punkt, oder gar keine für alle Positionen der Reihe nach.</translation>
+    </message>
+    <message>
+        <source>What the indices make.</source>
+        <translation>Was die Indizes bilden.</translation>
+    </message>
+    <message>
+        <source>A camera that sees things of the same size at any distance.</source>
+        <translation>Eine Kamera, die alles in jeder Entfernung gleich groß sieht.</translation>
+    </message>
+    <message>
+        <source>Where the camera is.</source>
+        <translation>Wo die Kamera ist.</translation>
+    </message>
+    <message>
+        <source>How the camera is turned from looking along negative z with y upwards.</source>
+        <translation>Wie die Kamera gedreht ist, ausgehend vom Blick entlang der negativen z-Achse mit y nach oben.</translation>
+    </message>
+    <message>
+        <source>How close to the camera a thing may be and still be seen.</source>
+        <translation>Wie nah etwas der Kamera sein darf, um noch gesehen zu werden.</translation>
+    </message>
+    <message>
+        <source>How far from the camera a thing may be and still be seen, more than nearDistance.</source>
+        <translation>Wie weit etwas von der Kamera sein darf, um noch gesehen zu werden, mehr als nearDistance.</translation>
+    </message>
+    <message>
+        <source>The height of what is seen.</source>
+        <translation>Die Höhe dessen, was zu sehen ist.</translation>
+    </message>
+    <message>
+        <source>A camera that sees distant things smaller.</source>
+        <translation>Eine Kamera, die Fernes kleiner sieht.</translation>
+    </message>
+    <message>
+        <source>The angle between the lower and the upper border of the picture.</source>
+        <translation>Der Winkel zwischen dem unteren und dem oberen Rand des Bildes.</translation>
+    </message>
+    <message>
+        <source>A lamp that shines into all directions.</source>
+        <translation>Eine Lampe, die in alle Richtungen leuchtet.</translation>
+    </message>
+    <message>
+        <source>Where the lamp is.</source>
+        <translation>Wo die Lampe ist.</translation>
+    </message>
+    <message>
+        <source>How the light fades with the distance d: it is divided by x + y d + z d².</source>
+        <translation>Wie das Licht mit der Entfernung d abnimmt: geteilt durch x + y d + z d².</translation>
+    </message>
+    <message>
+        <source>A lamp that shines into a cone.</source>
+        <translation>Eine Lampe, die in einen Kegel leuchtet.</translation>
+    </message>
+    <message>
+        <source>Where the lamp is, the tip of the cone.</source>
+        <translation>Wo die Lampe ist, die Spitze des Kegels.</translation>
+    </message>
+    <message>
+        <source>The axis of the cone, as a vector of any length but 0.</source>
+        <translation>Die Achse des Kegels, als Vektor beliebiger Länge außer 0.</translation>
+    </message>
+    <message>
+        <source>The angle between the axis and the side of the cone.</source>
+        <translation>Der Winkel zwischen der Achse und der Seite des Kegels.</translation>
+    </message>
+    <message>
+        <source>How the light fades from the axis to the side, from not at all (0) to most (1).</source>
+        <translation>Wie das Licht von der Achse zur Seite abnimmt, von gar nicht (0) bis am meisten (1).</translation>
+    </message>
+    <message>
+        <source>A group that shows one of its children, none or all.</source>
+        <translation>Eine Gruppe, die einen ihrer Kindknoten zeigt, keinen oder alle.</translation>
+    </message>
+    <message>
+        <source>The index of the shown child, counted from 0; -1 or an index without a child shows none, -3 shows all.</source>
+        <translation>Der Index des angezeigten Kindknotens, gezählt ab 0; -1 oder ein Index ohne Kindknoten zeigt keinen, -3 alle.</translation>
+    </message>
+    <message>
+        <source>An image on the surfaces that follow in the group, placed by their texture coordinates.</source>
+        <translation>Ein Bild auf den in der Gruppe folgenden Flächen, platziert durch ihre Texturkoordinaten.</translation>
+    </message>
+    <message>
+        <source>The file of the image, relative to the folder of the scene file; it is used when image is empty.</source>
+        <translation>Die Datei des Bildes, relativ zum Ordner der Szenendatei; sie gilt, wenn image leer ist.</translation>
+    </message>
+    <message>
+        <source>The image itself, with the row at the bottom first.</source>
+        <translation>Das Bild selbst, mit der untersten Zeile zuerst.</translation>
+    </message>
+    <message>
+        <source>What lies to the left and right of the image.</source>
+        <translation>Was links und rechts vom Bild liegt.</translation>
+    </message>
+    <message>
+        <source>What lies below and above the image.</source>
+        <translation>Was unter und über dem Bild liegt.</translation>
+    </message>
+    <message>
+        <source>What the image changes: the colour, the normals, or metalness (blue) and roughness (green).</source>
+        <translation>Was das Bild ändert: die Farbe, die Normalen oder metalness (Blau) und roughness (Grün).</translation>
+    </message>
+    <message>
+        <source>A group whose children are scaled and turned about a point, then moved.</source>
+        <translation>Eine Gruppe, deren Kindknoten um einen Punkt skaliert und gedreht, dann verschoben werden.</translation>
+    </message>
+    <message>
+        <source>How far the children are moved along x, y and z.</source>
+        <translation>Wie weit die Kindknoten entlang x, y und z verschoben werden.</translation>
+    </message>
+    <message>
+        <source>How the children are turned: about an axis of any length but 0, counter-clockwise when it points at the viewer.</source>
+        <translation>Wie die Kindknoten gedreht werden: um eine Achse beliebiger Länge außer 0, gegen den Uhrzeigersinn, wenn sie zum Betrachter zeigt.</translation>
+    </message>
+    <message>
+        <source>The factors along x, y and z, of which a negative one mirrors.</source>
+        <translation>Die Faktoren entlang x, y und z; ein negativer spiegelt.</translation>
+    </message>
+    <message>
+        <source>The point about which the children are scaled and turned, in their own units.</source>
+        <translation>Der Punkt, um den die Kindknoten skaliert und gedreht werden, in ihren eigenen Einheiten.</translation>
+    </message>
+    <message>
+        <source>Stands for a node whose class isn&apos;t known here, and keeps all of it.</source>
+        <translation>Steht für einen Knoten, dessen Klasse hier nicht bekannt ist, und behält alles von ihm.</translation>
+    </message>
+</context>
+<context>
     <name>NodeEditor</name>
     <message>
         <source>There isn&apos;t enough memory for that; nothing was changed.</source>
@@ -4347,6 +4817,80 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>child nodes</source>
         <translation>Kindknoten</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>no folder</source>
+        <translation>kein Ordner</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a path from the root</source>
+        <translation>ein Pfad ab der Wurzel</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Recovery and History</source>
+        <translation>Wiederherstellung und Verlauf</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>Keep places</source>
+        <translation>Orte beibehalten</translation>
+    </message>
+    <message>
+        <source>Nodes stay where they are in the world when they move to other groups.</source>
+        <translation>Knoten bleiben an ihrem Ort in der Welt, wenn sie in andere Gruppen kommen.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The setting %1 has a value that can&apos;t be used, &quot;%2&quot;; allowed is: %3. It counts as %4.</source>
+        <translation>Die Einstellung %1 hat einen unbrauchbaren Wert, „%2“; erlaubt ist: %3. Sie gilt als %4.</translation>
     </message>
 </context>
 <context>

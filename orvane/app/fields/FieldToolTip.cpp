@@ -5,6 +5,7 @@
 #include "orvane/app/fields/FieldGroup.h"
 #include "orvane/app/fields/values/FactsText.h"
 #include "orvane/app/fields/values/FieldText.h"
+#include "orvane/app/language/ToolkitText.h"
 
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldData.h"
@@ -61,7 +62,7 @@ QString fieldToolTip(const FieldRow& row)
         return fieldToolTipText("The class of this node has no such field. It is kept and written back as it was.");
     QStringList lines;
     if (const auto description = meridane::factsOf(*row.first()).description; !description.empty())
-        lines += toQString(description);
+        lines += nodeDescription(description);
     lines += fieldToolTipText("Type: %1").arg(row.type());
     lines += factLines(*row.first());
     lines += valueLines(row);

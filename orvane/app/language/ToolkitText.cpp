@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace orvane {
@@ -96,6 +97,11 @@ QString toolkitText(const QString& english)
         return filled(translated(message.pattern().text), *parts);
     }
     return english;
+}
+
+QString nodeDescription(std::string_view english)
+{
+    return english.empty() ? QString() : QCoreApplication::translate("NodeDescriptions", std::string(english).c_str());
 }
 
 } // namespace orvane

@@ -1,6 +1,7 @@
 #include "orvane/app/structure/AddNodeDialog.h"
 
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/tree/NodeIcons.h"
 
 #include "meridane/base/values/VbName.h"
@@ -29,7 +30,7 @@ enum ClassListColumn { ClassNameColumn, ClassTextColumn };
 QString descriptionOf(NxType type)
 {
     const NxRef<NxNode> node(static_cast<NxNode*>(static_cast<NxTypedObject*>(type.createInstance(nullptr))));
-    return node ? orvane::toQString(node->getFieldData()->getDescription()) : QString();
+    return node ? orvane::nodeDescription(node->getFieldData()->getDescription()) : QString();
 }
 
 } // namespace

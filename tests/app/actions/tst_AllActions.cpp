@@ -3,13 +3,17 @@
 #include "orvane/app/actions/ActionKeys.h"
 #include "orvane/app/actions/ActionList.h"
 #include "orvane/app/base/ActionState.h"
+#include "orvane/app/language/Language.h"
 #include "orvane/app/view/SceneView.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScopeGuard>
 #include <QSet>
 #include <QSignalSpy>
+
+using orvane::Language;
 
 /// All actions of the window: each has what it needs to be found, and can be reached by keys alone.
 class TestAllActions : public PickerCase {
@@ -138,8 +142,19 @@ private Q_SLOTS:
         }
     }
 
+    void mnemonicsAreUniqueInEachMenu_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const QString& code : Language::codes())
+            QTest::addRow("%s", qPrintable(code)) << code;
+    }
     void mnemonicsAreUniqueInEachMenu()
     {
+        QFETCH(const QString, language);
+        Language::use(language);
+        const auto restore = qScopeGuard([] { Language::use(QStringLiteral("en")); });
+        makeWindow();
+        open(m_robot);
         clickRow(tree(), tree()->model()->index(0, 0));
         checkMnemonics(m_window->menuBar()->actions(), QStringLiteral("menu bar"));
     }

@@ -5,9 +5,14 @@
 #include "meridane/query/Expression.h"
 #include "meridane/query/Query.h"
 #include "meridane/scene/check/NxSceneProblem.h"
+#include "meridane/scene/fields/NxField.h"
+#include "meridane/scene/fields/NxFieldData.h"
+#include "meridane/scene/nodes/NxNode.h"
 
+#include <QSet>
 #include <QTest>
 
+#include <memory>
 #include <string>
 
 using orvane::Language;
@@ -175,6 +180,26 @@ private Q_SLOTS:
         }
         QVERIFY(!message.empty());
         QVERIFY2(german(message) != orvane::toQString(message), message.c_str());
+    }
+
+    /// Those of all classes that come with the tool, and no others.
+    void descriptionsOfNodesAreTranslated()
+    {
+        QSet<QString> declared;
+        for (const NxType type : NxType::getAllDerivedFrom(NxNode::getClassTypeId())) {
+            if (!type.canCreateInstance())
+                continue;
+            const NxRef<NxNode> node(static_cast<NxNode*>(static_cast<NxTypedObject*>(type.createInstance(nullptr))));
+            declared.insert(orvane::toQString(node->getFieldData()->getDescription()));
+            for (const NxField* const field : node->getFields())
+                declared.insert(orvane::toQString(meridane::factsOf(*field).description));
+        }
+        declared.remove(QString());
+        QVERIFY(declared.size() > 50);
+        for (const QString& english : declared)
+            QVERIFY2(orvane::nodeDescription(english.toStdString()) != english, qPrintable(english));
+        for (const char* const known : orvane::nodeDescriptions())
+            QVERIFY2(declared.contains(QString::fromUtf8(known)), known);
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/language/ToolkitText.h"
 
 #include "meridane/gl/places/NodeFigures.h"
 #include "meridane/scene/fields/NxField.h"
@@ -49,7 +50,7 @@ QString orvane::nodeToolTip(NxNode& node)
     if (const std::size_t count = node.getChildren().size(); count > 0)
         head += count == 1 ? Tips::tr(", 1 child node") : Tips::tr(", %1 child nodes").arg(count);
     QStringList lines{head};
-    if (const QString description = toQString(node.getFieldData()->getDescription()); !description.isEmpty())
+    if (const QString description = nodeDescription(node.getFieldData()->getDescription()); !description.isEmpty())
         lines.append(description);
     if (const QString ignored = ignoredText(node); !ignored.isEmpty())
         lines.append(ignored);
