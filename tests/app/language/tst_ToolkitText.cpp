@@ -141,7 +141,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         for (const char* const text : {"(", "arm )", "and arm", "arm or", "not", "t:", "f:", ">", "=", "~", ">\"a\"",
-                 "<nan", "/a", "/[/", "/(a/", "/a)/", "/*a/", "/a**/", "/\\q/", "/a{9999}/", "/(?P<>a)/", "\"a"})
+                 "<nan", "/[/", "/(a/", "/a)/", "/*a/", "/a**/", "/\\q/", "/a{9999}/", "/(?P<>a)/", "\"a"})
             QTest::addRow("%s", text) << QString::fromUtf8(text);
         QTest::addRow("long") << QString(10'000, u'a');
         QTest::addRow("brackets") << QString(200, u'(');
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         for (const char* const text : {"", "1 +", "1 2", "2 (3)", "sin", "sin 1", "sin(1; 2)", "sin(1, 2)", "max(1)",
                  "foo(1)", "y", "(1", "1)", "1; 2", "0 < x < 1", "inf", "log(1)", "1 ? 2", "§", "1,", "1 deg", "1 rad",
-                 "0x", "0xfffffffffffffffffffff", "1.2.3", "1e999", "not 1 + 1", "5 and", "1 / 0", "ln(0)", "sqrt(-1)",
+                 "0x", "0xfffffffffffffffffffff", "1.2.3", "1e999", "1 + not 1", "5 and", "1 / 0", "ln(0)", "sqrt(-1)",
                  "9^9999"})
             QTest::addRow("%s", text) << QString::fromUtf8(text);
         QTest::addRow("long") << QString(10'000, u'1');
