@@ -2188,7 +2188,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Takes %1, or a formula in which x is the present value. Up and Down step, with Shift ten times as far, with Ctrl a tenth.</source>
-        <translation>Nimmt %1 an oder eine Formel, in der x der jetzige Wert ist. Auf und Ab ändern schrittweise, mit Umschalt zehnmal so weit, mit Strg ein Zehntel.</translation>
+        <translation>Nimmt %1 an oder eine Formel, in der x der jetzige Wert ist. Hoch und Herunter ändern schrittweise, mit Umschalt zehnmal so weit, mit Strg ein Zehntel.</translation>
     </message>
     <message>
         <source>The editor doesn&apos;t take %1. Enter %2.</source>
@@ -5625,6 +5625,10 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>Signs between thousands can&apos;t be read: write %1 for %2.</source>
         <translation>Tausenderzeichen sind nicht lesbar: Schreiben Sie %1 für %2.</translation>
     </message>
+    <message>
+        <source>The file &apos;%1&apos; %2.</source>
+        <translation>Die Datei „%1“ %2.</translation>
+    </message>
 </context>
 <context>
     <name>TreeActions</name>
@@ -6320,7 +6324,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>Up, Down; Ctrl and Shift make it coarser and finer</source>
-        <translation>Auf, Ab; Strg und Umschalt ändern die Schrittweite</translation>
+        <translation>Hoch, Herunter; Strg und Umschalt ändern die Schrittweite</translation>
     </message>
     <message>
         <source>Edit the cell</source>

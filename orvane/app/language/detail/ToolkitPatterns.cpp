@@ -46,6 +46,7 @@ constexpr std::array patterns{
     ToolkitPattern{QT_TRANSLATE_NOOP("ToolkitText", "The file '%1' is empty.")},
     ToolkitPattern{QT_TRANSLATE_NOOP("ToolkitText", "The file '%1' is larger than %2 MiB.")},
     ToolkitPattern{QT_TRANSLATE_NOOP("ToolkitText", "The file '%1' is in no folder, since the scene isn't saved yet.")},
+    ToolkitPattern{QT_TRANSLATE_NOOP("ToolkitText", "The file '%1' %2.")},
     ToolkitPattern{
         QT_TRANSLATE_NOOP("ToolkitText", "Its image of %1 by %2 pixels is drawn smaller; the GPU takes %3 a side.")},
     ToolkitPattern{QT_TRANSLATE_NOOP("ToolkitText", "It is on, but its intensity is 0, so it lights nothing.")},
