@@ -12,7 +12,7 @@
 namespace orvane {
 namespace {
 
-QString translated(const char* text)
+QString inLanguage(const char* text)
 {
     return QCoreApplication::translate("ToolkitText", text);
 }
@@ -61,7 +61,7 @@ private:
     QStringList m_fixed; // the texts between the parts, and at both ends
 };
 
-const std::vector<MessageParts>& allMessages()
+const std::vector<MessageParts>& toolkitMessages()
 {
     static const std::vector<MessageParts> all = [] {
         const auto patterns = toolkitPatterns();
@@ -70,7 +70,7 @@ const std::vector<MessageParts>& allMessages()
     return all;
 }
 
-QString filled(const QString& text, const QStringList& parts)
+QString withParts(const QString& text, const QStringList& parts)
 {
     QString result;
     for (qsizetype i = 0; i < text.size(); ++i) {
@@ -86,15 +86,15 @@ QString filled(const QString& text, const QStringList& parts)
 QString toolkitText(const QString& english)
 {
     const char* const first = toolkitPatterns().front().text;
-    if (translated(first) == QLatin1String(first)) // the language is English
+    if (inLanguage(first) == QLatin1String(first)) // the language is English
         return english;
-    for (const MessageParts& message : allMessages()) {
+    for (const MessageParts& message : toolkitMessages()) {
         std::optional<QStringList> parts = message.in(english);
         if (!parts)
             continue;
         if (const int phrase = message.pattern().phrase; phrase > 0)
             (*parts)[phrase - 1] = toolkitText(parts->at(phrase - 1));
-        return filled(translated(message.pattern().text), *parts);
+        return withParts(inLanguage(message.pattern().text), *parts);
     }
     return english;
 }

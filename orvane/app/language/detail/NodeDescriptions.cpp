@@ -8,7 +8,7 @@ namespace orvane {
 namespace {
 
 // Sentences of docs/nodes.md.
-constexpr std::array descriptions{
+constexpr std::array nodeSentences{
     QT_TRANSLATE_NOOP(
         "NodeDescriptions", "The detail with which the surfaces and textures that follow in the group are drawn."),
     QT_TRANSLATE_NOOP("NodeDescriptions",
@@ -149,7 +149,7 @@ constexpr std::array descriptions{
 
 std::span<const char* const> nodeDescriptions() noexcept
 {
-    return descriptions;
+    return nodeSentences;
 }
 
 } // namespace orvane

@@ -7,7 +7,7 @@
 namespace orvane {
 namespace {
 
-constexpr std::array patterns{
+constexpr std::array toolkitSentences{
     // Problems of a scene.
     ToolkitPattern{QT_TRANSLATE_NOOP("ToolkitText", "It isn't a finite number.")},
     ToolkitPattern{QT_TRANSLATE_NOOP("ToolkitText", "%1 of %2 numbers isn't a finite number.")},
@@ -222,7 +222,7 @@ constexpr std::array patterns{
 
 std::span<const ToolkitPattern> toolkitPatterns() noexcept
 {
-    return patterns;
+    return toolkitSentences;
 }
 
 } // namespace orvane
