@@ -26,6 +26,24 @@ OrvPluginsManager* theManager = nullptr;
 
 } // namespace
 
+/// Announces a call of an extension or a plug-in while it lives.
+class OrvPluginsManager::AnnouncedCall {
+public:
+    AnnouncedCall(OrvPluginsManager& manager, const void* callee, const QString& name)
+        : m_manager(manager)
+        , m_callee(callee)
+    {
+        Q_EMIT manager.aboutToCall(callee, name);
+    }
+    AnnouncedCall(const AnnouncedCall&) = delete;
+    AnnouncedCall& operator=(const AnnouncedCall&) = delete;
+    ~AnnouncedCall() { Q_EMIT m_manager.called(m_callee); }
+
+private:
+    OrvPluginsManager& m_manager;
+    const void* m_callee;
+};
+
 OrvPluginsManager* OrvPluginsManager::getInstance()
 {
     return theManager;
@@ -88,12 +106,13 @@ std::optional<QString> OrvPluginsManager::takeIn(const orvane::LoadedPlugin& plu
 {
     bool hasCalledLoad = true;
     const auto load = [&] {
+        const AnnouncedCall call(*this, plugin.plugin, plugin.title);
         plugin.plugin->load();
         hasCalledLoad = plugin.plugin->isLoaded();
         plugin.plugin->OrvPlugin::load();
     };
     if (const auto thrown = orvane::guarded(load)) {
-        unloadAndDestroy(plugin);
+        destroy(plugin);
         return QStringLiteral("%1: it can't be loaded, for it threw an exception: %2").arg(plugin.title, *thrown);
     }
     m_plugins->list().push_back(plugin);
@@ -116,8 +135,14 @@ void OrvPluginsManager::unloadPlugins()
     while (!m_plugins->list().empty()) {
         const orvane::LoadedPlugin plugin = m_plugins->list().back();
         m_plugins->list().pop_back();
-        unloadAndDestroy(plugin);
+        destroy(plugin);
     }
+}
+
+void OrvPluginsManager::destroy(const orvane::LoadedPlugin& plugin)
+{
+    const AnnouncedCall call(*this, plugin.plugin, plugin.title);
+    unloadAndDestroy(plugin);
 }
 
 const OrvPlugin* OrvPluginsManager::findPlugin(const QString& fileName) const
@@ -181,6 +206,7 @@ template <typename Call>
 void OrvPluginsManager::callExtension(OrvExtension& extension, const char* operation, const Call& call)
 {
     const QScopedValueRollback<const OrvExtension*> called(m_called, &extension);
+    const AnnouncedCall announced(*this, &extension, orvane::toQString(extension.getName()));
     try {
         call();
     } catch (...) {
@@ -197,8 +223,10 @@ void OrvPluginsManager::deactivateExtensions()
         const QPointer<OrvExtension> extension = m_running.takeLast();
         callExtension(*extension, "deactivate", [&] { extension->deactivate(); });
         // A dock may have been stopped half-way by an editor, which it has given up then.
-        if (extension && extension->isActive())
+        if (extension && extension->isActive()) {
+            const AnnouncedCall again(*this, extension, orvane::toQString(extension->getName()));
             static_cast<void>(orvane::guarded([&] { extension->deactivate(); }));
+        }
     }
     // Editors are deactivated by the docks.
     const QList<OrvExtension*> extensions = getExtensions();

@@ -91,8 +91,16 @@ Q_SIGNALS:
     /// Something is wrong with a plug-in that is loaded: its file name, as it was passed to `loadPlugin`, and a text of
     /// one line that begins with it. What goes wrong once it was loaded is posted as an `NxDebugError` as well.
     void noticed(const QString& fileName, const QString& text);
+    /// An extension is about to be activated or deactivated, or a plug-in is about to be loaded or unloaded with its
+    /// extensions. Who has put something on top of what the callee has taken over, such as a standard stream, takes it
+    /// away now. `callee` identifies the extension or plug-in and must not be used otherwise; `name` is its name.
+    void aboutToCall(const void* callee, const QString& name);
+    /// That call has returned. The callee may be destroyed.
+    void called(const void* callee);
 
 private:
+    class AnnouncedCall;
+
     [[nodiscard]] bool putToRest(const QString& during, OrvExtension* running);
     void applyAgainLater();
     void notice(const orvane::LoadedPlugin& plugin, const QString& text, int severity);
@@ -103,6 +111,7 @@ private:
     template <typename Call>
     void callExtension(OrvExtension& extension, const char* operation, const Call& call);
     [[nodiscard]] std::optional<QString> takeIn(const orvane::LoadedPlugin& plugin);
+    void destroy(const orvane::LoadedPlugin& plugin);
     void changeProfile(OrvProfile* profile);
     void reportMissing(const OrvProfile& profile, const QStringList& names);
     void deactivateExtensions();
