@@ -4,6 +4,7 @@
 #include "orvane/app/command_line/CommandLine.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/command_line/WindowRun.h"
+#include "orvane/app/log/QtNoise.h"
 #include "orvane/app/look/ReadablePalette.h"
 #include "orvane/app/plugins/GuardedApplication.h"
 
@@ -81,19 +82,11 @@ std::unique_ptr<QCoreApplication> makeApplication(char** argv)
     return std::make_unique<Application>(count, argv);
 }
 
-// Warnings of Qt that don't help a user. The image editor causes the last one when it sets a colour of an image without
-// a colour table.
-bool isNoise(const QString& text)
-{
-    return text.contains(QLatin1String("propagateSizeHints")) || text.startsWith(QLatin1String("QStandardPaths:"))
-        || text == QLatin1String("QImage::setColor: Index out of bound 0");
-}
-
 QtMessageHandler qtMessageHandler = nullptr; // Qt's own
 
 void passOnUnlessNoise(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    if (!isNoise(text) || type == QtFatalMsg)
+    if (!orvane::isQtNoise(text) || type == QtFatalMsg)
         qtMessageHandler(type, context, text);
 }
 
@@ -111,7 +104,7 @@ std::unique_ptr<QCoreApplication> makeApplicationOnScreen(char** argv)
     static QStringList problems;
     qtMessageHandler
         = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-              if (!isNoise(text))
+              if (!orvane::isQtNoise(text))
                   problems.append(text.trimmed());
               if (type != QtFatalMsg)
                   return;

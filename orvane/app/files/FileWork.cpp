@@ -175,7 +175,7 @@ void FileWork::stopReloading(const QString& reason)
 // In the window, and as an error of the toolkit for extensions that list them, such as the console.
 void FileWork::reportFailure(const SceneJob& job, const QString& message)
 {
-    showReadingError(message);
+    m_messages.showLogged(MessageBar::Severity::Error, message, readingTopic); // the error of the toolkit is logged
     const NxReadFailure& failure = job.failure();
     NxReadError::post(VbString(meridane::withoutMarkup(failure.file)), failure.line, failure.column,
         VbString(meridane::withoutMarkup(failure.message)));

@@ -31,6 +31,15 @@ orvane::FoundFormats within(const orvane::FoundFormats& formats, qsizetype lengt
 
 } // namespace
 
+QTextLayout::FormatRange orvane::foundFormat(int start, int length, const QColor& background)
+{
+    QTextLayout::FormatRange range{start, length, {}};
+    range.format.setBackground(look::washColor(look::Tint::Warning, background));
+    range.format.setUnderlineStyle(QTextCharFormat::SingleUnderline);
+    range.format.setUnderlineColor(look::markColor(look::Tint::Warning, background));
+    return range;
+}
+
 orvane::FoundFormats orvane::foundFormats(
     const meridane::Query& query, const QString& text, meridane::SearchedText kind, const QColor& background)
 {
@@ -39,13 +48,9 @@ orvane::FoundFormats orvane::foundFormats(
         return formats;
     const std::string bytes = text.toStdString();
     for (const meridane::FoundPart& part : query.foundIn(bytes, kind)) {
-        QTextLayout::FormatRange range;
-        range.start = static_cast<int>(lengthOf(bytes, 0, part.start));
-        range.length = static_cast<int>(lengthOf(bytes, part.start, part.length));
-        range.format.setBackground(look::washColor(look::Tint::Warning, background));
-        range.format.setUnderlineStyle(QTextCharFormat::SingleUnderline);
-        range.format.setUnderlineColor(look::markColor(look::Tint::Warning, background));
-        formats.append(range);
+        const qsizetype start = lengthOf(bytes, 0, part.start);
+        const qsizetype length = lengthOf(bytes, part.start, part.length);
+        formats.append(foundFormat(static_cast<int>(start), static_cast<int>(length), background));
     }
     return formats;
 }

@@ -15,6 +15,8 @@ namespace orvane {
 
 using FoundFormats = QList<QTextLayout::FormatRange>;
 
+/// How a part of a text is highlighted on that background.
+[[nodiscard]] QTextLayout::FormatRange foundFormat(int start, int length, const QColor& background);
 /// How the parts of a text are highlighted on that background; none if nothing is found.
 [[nodiscard]] FoundFormats foundFormats(
     const meridane::Query& query, const QString& text, meridane::SearchedText kind, const QColor& background);

@@ -27,6 +27,12 @@ MessageBar::MessageBar(QWidget* parent)
 
 void MessageBar::showMessage(Severity severity, const QString& text, const QString& topic)
 {
+    showLogged(severity, text, topic);
+    Q_EMIT messageAdded(severity, text);
+}
+
+void MessageBar::showLogged(Severity severity, const QString& text, const QString& topic)
+{
     clearTopic(topic);
     if (!isShown(text))
         add(new MessageRow(severity, text, topic, this));
@@ -40,6 +46,7 @@ void MessageBar::showQuestion(
 
 void MessageBar::showQuestion(const QString& text, const QString& topic, const std::vector<Answer>& answers)
 {
+    Q_EMIT messageAdded(Severity::Warning, text);
     clearTopic(topic);
     if (isShown(text))
         return;

@@ -26,6 +26,8 @@ public:
     explicit MessageBar(QWidget* parent = nullptr);
 
     void showMessage(Severity severity, const QString& text, const QString& topic = {});
+    /// The same for a message that the log has already: `messageAdded` isn't emitted.
+    void showLogged(Severity severity, const QString& text, const QString& topic = {});
     /// Asks for the user's consent: a message with a button that calls `accept` and closes it. Other messages don't
     /// displace it.
     void showQuestion(
@@ -47,6 +49,8 @@ public:
     [[nodiscard]] QStringList texts() const;
 
 Q_SIGNALS:
+    /// A message or a question was passed to the bar, be it shown already or not.
+    void messageAdded(MessageBar::Severity severity, const QString& text);
     /// The user closed the message about that topic, without an answer if it is a question.
     void closed(const QString& topic);
 

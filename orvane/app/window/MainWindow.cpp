@@ -12,6 +12,7 @@
 #include "orvane/app/images/ImageFolderQuestion.h"
 #include "orvane/app/inspect/Inspectors.h"
 #include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/log/LogTap.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/recovery/RecoveryOffer.h"
@@ -156,7 +157,7 @@ void MainWindow::buildCentralWidget()
     setCentralWidget(m_central);
     connect(&m_view->drawing().textures(), &TextureFiles::folderRefused, this, &MainWindow::imageFolderRefused);
     connect(m_errorRelay.get(), &ErrorRelay::reported, this,
-        [this](MessageBar::Severity severity, const QString& text) { m_messages->showMessage(severity, text); });
+        [this](MessageBar::Severity severity, const QString& text) { m_messages->showLogged(severity, text); });
 }
 
 void MainWindow::connectDocument()

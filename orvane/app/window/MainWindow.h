@@ -19,6 +19,7 @@ class FileFlow;
 class FileMenu;
 class ImageFolderQuestion;
 class JobBar;
+class LogTap;
 class Inspectors;
 class MessageBar;
 class RecoveryFolder;
@@ -90,6 +91,7 @@ private:
 
     Session& m_session;
     std::unique_ptr<ErrorRelay> m_errorRelay;
+    std::unique_ptr<LogTap> m_logTap; // which passes errors on to the relay
     std::unique_ptr<WindowShell> m_shell;
     RecentFiles* m_recent;
     MessageBar* m_messages;

@@ -12,6 +12,7 @@
 #include "orvane/app/inspect/NodeMenu.h"
 #include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/language/FollowLanguage.h"
+#include "orvane/app/log/LogTap.h"
 #include "orvane/app/manners/EditorManners.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/plugins/PluginActions.h"
@@ -42,6 +43,7 @@
 #include "orvane/app/window/HistoryDock.h"
 #include "orvane/app/window/KeptColumns.h"
 #include "orvane/app/window/ListDock.h"
+#include "orvane/app/window/LogDock.h"
 #include "orvane/app/window/MainWindow.h"
 #include "orvane/app/window/ProblemsDock.h"
 #include "orvane/app/window/ReloadedTree.h"
@@ -82,6 +84,12 @@ void MainWindow::buildDocks()
     new DockHeights(*m_shell, m_session.services(), m_session.settings(), this);
     auto* problems = new ProblemsDock(m_session, *m_imageFolders, *m_jobBar, m_tree, this);
     connect(problems, &ProblemsDock::rowChosen, lists, &ListDock::showRow);
+    auto* log = new LogDock(m_session, *m_messages, this);
+    m_logTap = std::make_unique<LogTap>(log->book(), m_session.plugins());
+    connect(log, &LogDock::nodeChosen, this, [this](const QString& path) {
+        if (const auto selected = selectPath(path); !selected)
+            showWarning(selected.error());
+    });
     new SelectionStatus(m_session, m_tree, statusBar());
     new TreeMemory(m_session, m_tree);
     new ViewLink(m_session, m_view, m_tree, statusBar());

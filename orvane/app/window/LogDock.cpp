@@ -1,0 +1,67 @@
+#include "orvane/app/window/LogDock.h"
+
+#include "orvane/app/language/FollowLanguage.h"
+#include "orvane/app/log/LogBook.h"
+#include "orvane/app/log/LogPanel.h"
+#include "orvane/app/messages/MessageBar.h"
+#include "orvane/app/scene/Session.h"
+#include "orvane/app/window/DockPlace.h"
+
+#include <QAction>
+#include <QMainWindow>
+
+namespace {
+
+NxSeverity severityOf(MessageBar::Severity severity)
+{
+    switch (severity) {
+    case MessageBar::Severity::Information:
+        return NxSeverity::Information;
+    case MessageBar::Severity::Warning:
+        return NxSeverity::Warning;
+    case MessageBar::Severity::Error:
+        break;
+    }
+    return NxSeverity::Error;
+}
+
+} // namespace
+
+LogDock::LogDock(Session& session, MessageBar& messages, QMainWindow* window)
+    : QDockWidget(window)
+    , m_session(session)
+    , m_messages(messages)
+    , m_window(window)
+    , m_book(new LogBook(this))
+{
+    setObjectName(QStringLiteral("logDock"));
+    toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
+    connect(&messages, &MessageBar::messageAdded, this, [this](MessageBar::Severity severity, const QString& text) {
+        m_book->add(severityOf(severity), tr("Window"), text);
+    });
+    orvane::followLanguage(this, [this] { setWindowTitle(tr("Log")); });
+    hide();
+}
+
+void LogDock::setVisible(bool visible)
+{
+    if (visible) {
+        fill();
+        if (!isFloating() && m_window->dockWidgetArea(this) == Qt::NoDockWidgetArea)
+            orvane::placeAtBottom(m_window, this);
+    }
+    QDockWidget::setVisible(visible);
+    // Behind the tab of another dock it would seem that nothing happened.
+    if (visible && m_window->isVisible())
+        raise();
+}
+
+void LogDock::fill()
+{
+    if (m_panel != nullptr)
+        return;
+    m_panel = new LogPanel({*m_book, m_session.document(), m_session.settings(), m_messages}, this);
+    setWidget(m_panel);
+    connect(m_panel, &LogPanel::nodeChosen, this, &LogDock::nodeChosen);
+    connect(&m_session.services(), &OrvServices::stepFinished, &m_panel->links(), &LogLinks::forget);
+}
