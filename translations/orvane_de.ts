@@ -2747,6 +2747,251 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>LogDock</name>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+</context>
+<context>
+    <name>LogFile</name>
+    <message>
+        <source>%1 doesn&apos;t exist any more.</source>
+        <translation>%1 gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The desktop has no program that opens %1.</source>
+        <translation>Der Desktop hat kein Programm, das %1 öffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>LogFindLine</name>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Marks the rows that contain this text; the rows around them stay</source>
+        <translation>Markiert die Zeilen, die diesen Text enthalten; die Zeilen darum bleiben</translation>
+    </message>
+    <message>
+        <source>Previous hit</source>
+        <translation>Voriger Treffer</translation>
+    </message>
+    <message>
+        <source>Next hit</source>
+        <translation>Nächster Treffer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>No hits</source>
+        <translation>Keine Treffer</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 hits</source>
+        <translation>%1 Treffer</translation>
+    </message>
+</context>
+<context>
+    <name>LogModel</name>
+    <message>
+        <source>%1 times</source>
+        <translation>%1-mal</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Anzahl</translation>
+    </message>
+</context>
+<context>
+    <name>LogPanel</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Öffnen</translation>
+    </message>
+    <message>
+        <source>Selects the node or opens the file that the row is about</source>
+        <translation>Wählt den Knoten aus oder öffnet die Datei, um die es in der Zeile geht</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder</source>
+        <translation>Or&amp;dner öffnen</translation>
+    </message>
+    <message>
+        <source>Opens the folder of the file that the row is about</source>
+        <translation>Öffnet den Ordner der Datei, um die es in der Zeile geht</translation>
+    </message>
+    <message>
+        <source>&amp;Group Equal Lines</source>
+        <translation>Gleiche Zeilen &amp;gruppieren</translation>
+    </message>
+    <message>
+        <source>Shows equal lines that follow each other as one row with their number</source>
+        <translation>Zeigt gleiche aufeinanderfolgende Zeilen als eine Zeile mit ihrer Anzahl</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>Forgets all lines of the log</source>
+        <translation>Vergisst alle Zeilen des Protokolls</translation>
+    </message>
+    <message>
+        <source>&amp;Save…</source>
+        <translation>&amp;Speichern…</translation>
+    </message>
+    <message>
+        <source>Writes the rows that are shown to a text file</source>
+        <translation>Schreibt die angezeigten Zeilen in eine Textdatei</translation>
+    </message>
+    <message>
+        <source>F&amp;ind</source>
+        <translation>S&amp;uchen</translation>
+    </message>
+    <message>
+        <source>Searches the rows of the log, and keeps the rows around the hits</source>
+        <translation>Durchsucht die Zeilen des Protokolls; die Zeilen um die Treffer bleiben</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Goes to the next hit in the log</source>
+        <translation>Springt zum nächsten Treffer im Protokoll</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>&amp;Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Goes to the previous hit in the log</source>
+        <translation>Springt zum vorigen Treffer im Protokoll</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtern</translation>
+    </message>
+    <message>
+        <source>Shows the rows that contain all of these words, in the text or the source; the others are hidden, not lost</source>
+        <translation>Zeigt die Zeilen, die alle diese Wörter im Text oder in der Quelle enthalten; die anderen sind ausgeblendet, nicht verloren</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, shown or hidden by this button</source>
+        <translation>%1, mit dieser Schaltfläche ein- oder auszublenden</translation>
+    </message>
+    <message>
+        <source>the last %1 lines or %2 are kept</source>
+        <translation>die letzten %1 Zeilen oder %2 bleiben erhalten</translation>
+    </message>
+    <message>
+        <source>%1 lines; %2</source>
+        <translation>%1 Zeilen; %2</translation>
+    </message>
+    <message>
+        <source>; %1 older ones were dropped</source>
+        <translation>; %1 ältere sind weggefallen</translation>
+    </message>
+    <message>
+        <source>The filter hides all lines. </source>
+        <translation>Der Filter blendet alle Zeilen aus. </translation>
+    </message>
+    <message>
+        <source>The log is empty.</source>
+        <translation>Das Protokoll ist leer.</translation>
+    </message>
+    <message>
+        <source>No lines are shown.</source>
+        <translation>Keine Zeilen werden angezeigt.</translation>
+    </message>
+    <message>
+        <source>The row names no node and no file that exists.</source>
+        <translation>Die Zeile nennt keinen Knoten und keine vorhandene Datei.</translation>
+    </message>
+    <message>
+        <source>Save the Log</source>
+        <translation>Protokoll speichern</translation>
+    </message>
+    <message>
+        <source>Text files (*.txt *.log)</source>
+        <translation>Textdateien (*.txt *.log)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The log wasn&apos;t written: %1</source>
+        <translation>Das Protokoll wurde nicht geschrieben: %1</translation>
+    </message>
+</context>
+<context>
+    <name>LogTap</name>
+    <message>
+        <source>Standard error</source>
+        <translation>Fehlerausgabe</translation>
+    </message>
+    <message>
+        <source>Standard output</source>
+        <translation>Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Standard log</source>
+        <translation>Protokollausgabe</translation>
+    </message>
+    <message>
+        <source>Reading</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>OpenGL</source>
+        <translation>OpenGL</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>Toolkit</source>
+        <translation>Toolkit</translation>
+    </message>
+</context>
+<context>
+    <name>LogView</name>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>No scene is open.</source>
