@@ -3,7 +3,7 @@
 #include "orvane/app/files/RecentFiles.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/view/SceneView.h"
-#include "orvane/app/window/StartPage.h"
+#include "orvane/app/welcome/StartPage.h"
 
 #include <QStackedWidget>
 #include <QVBoxLayout>

@@ -1,4 +1,4 @@
-#include "orvane/app/window/StartPage.h"
+#include "orvane/app/welcome/StartPage.h"
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
