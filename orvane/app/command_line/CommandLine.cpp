@@ -85,6 +85,11 @@ struct Options {
         QStringLiteral("Keep the groups of models that have one child and no effect, which are joined otherwise.")};
     QCommandLineOption noPlugins{QStringLiteral("no-plugins"),
         QStringLiteral("Load no plug-ins but those that --plugin names, for when one of them does harm.")};
+    QCommandLineOption reuse{QStringLiteral("reuse"),
+        QStringLiteral("Open the file in the window that was used last, if there is one; without a file, bring that "
+                       "window to the front.")};
+    QCommandLineOption newWindow{QStringLiteral("new-window"),
+        QStringLiteral("Open a window of its own even if the settings let running windows take files.")};
     QCommandLineOption noSettings{QStringLiteral("no-settings"), QStringLiteral("Neither read nor write settings.")};
     QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Print the version.")};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this help.")};
@@ -92,8 +97,8 @@ struct Options {
     void addTo(QCommandLineParser& parser) const
     {
         parser.addOptions({plugin, profile, select, set, get, find, list, diff, describe, check, json, listExtensions,
-            exportTo, screenshot, picture, camera, background, size, watch, keepGroups, noPlugins, noSettings, version,
-            help});
+            exportTo, screenshot, picture, camera, background, size, watch, reuse, newWindow, keepGroups, noPlugins,
+            noSettings, version, help});
         parser.addPositionalArgument(QStringLiteral("file"),
             QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
         parser.addPositionalArgument(
@@ -183,6 +188,22 @@ Result<> checkWatch(const QCommandLineParser& parser, const Options& options)
     return {};
 }
 
+/// A running window keeps its own plug-ins and settings, and takes a file to be looked at, not changes from outside.
+Result<> checkReuse(const QCommandLineParser& parser, const Options& options)
+{
+    if (!parser.isSet(options.reuse))
+        return {};
+    for (const QCommandLineOption& option :
+        {options.plugin, options.profile, options.set, options.get, options.find, options.list, options.diff,
+            options.describe, options.check, options.listExtensions, options.exportTo, options.screenshot,
+            options.picture, options.size, options.watch, options.newWindow, options.keepGroups, options.noPlugins}) {
+        if (parser.isSet(option))
+            return Failure{
+                QStringLiteral("--reuse can't be used with %1, which is for a run of its own.").arg(nameOf(option))};
+    }
+    return {};
+}
+
 Result<> checkPictureUse(const QCommandLineParser& parser, const Options& options)
 {
     if (!parser.isSet(options.picture)) {
@@ -225,6 +246,8 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
     }
     if (auto watch = checkWatch(parser, options); !watch)
         return watch;
+    if (auto reuse = checkReuse(parser, options); !reuse)
+        return reuse;
     if (auto picture = checkPictureUse(parser, options); !picture)
         return picture;
     if (parser.isSet(options.diff) && parser.isSet(options.check))
@@ -237,6 +260,12 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
                                           : checkFiles(parser.positionalArguments(), parser.isSet(options.diff));
 }
 
+/// Desktops and other programs may name a file by its URL.
+QString fileOf(const QString& argument)
+{
+    return argument.startsWith(QStringLiteral("file:///")) ? orvane::fromFileUrl(argument.toUtf8()) : argument;
+}
+
 /// Takes over what needs no check.
 void takeValues(const QCommandLineParser& parser, const Options& options, CommandLine& result)
 {
@@ -244,8 +273,8 @@ void takeValues(const QCommandLineParser& parser, const Options& options, Comman
     if (result.describe) {
         result.classes = parser.positionalArguments();
     } else {
-        result.file = parser.positionalArguments().value(0);
-        result.secondFile = parser.positionalArguments().value(1);
+        result.file = fileOf(parser.positionalArguments().value(0));
+        result.secondFile = fileOf(parser.positionalArguments().value(1));
     }
     result.plugins = parser.values(options.plugin);
     result.profile = parser.value(options.profile);
@@ -263,6 +292,8 @@ void takeValues(const QCommandLineParser& parser, const Options& options, Comman
     result.json = parser.isSet(options.json);
     result.listExtensions = parser.isSet(options.listExtensions);
     result.watch = parser.isSet(options.watch);
+    result.reuse = parser.isSet(options.reuse);
+    result.newWindow = parser.isSet(options.newWindow);
     result.keepGroups = parser.isSet(options.keepGroups);
     result.noPlugins = parser.isSet(options.noPlugins);
     result.noSettings = parser.isSet(options.noSettings);
@@ -285,6 +316,24 @@ bool CommandLine::isBatch() const
 bool CommandLine::needsExtensions() const
 {
     return !isBatch() || listExtensions || !plugins.isEmpty() || !profile.isEmpty();
+}
+
+bool CommandLine::needsOwnWindow() const
+{
+    return newWindow || watch || keepGroups || noPlugins || noSettings || size.isValid() || !plugins.isEmpty()
+        || !profile.isEmpty() || !assignments.isEmpty();
+}
+
+QStringList CommandLine::windowOptions() const
+{
+    QStringList result;
+    if (noPlugins)
+        result.append(QStringLiteral("--no-plugins"));
+    if (noSettings)
+        result.append(QStringLiteral("--no-settings"));
+    for (const QString& plugin : plugins)
+        result << QStringLiteral("--plugin") << orvane::absoluteFileName(plugin);
+    return result;
 }
 
 bool CommandLine::isUsableSize(const QSize& size)

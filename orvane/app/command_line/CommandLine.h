@@ -45,6 +45,8 @@ struct CommandLine {
     QStringList classes; // only with `describe`
     bool listExtensions = false;
     bool watch = false;
+    bool reuse = false; // of a running window
+    bool newWindow = false;
     bool keepGroups = false;
     bool noPlugins = false; // but those that are named
     bool noSettings = false;
@@ -57,6 +59,10 @@ struct CommandLine {
     [[nodiscard]] bool isBatch() const;
     /// True when plug-ins or profiles have to be loaded, even without a window.
     [[nodiscard]] bool needsExtensions() const;
+    /// True when the window is to be one that another process doesn't have.
+    [[nodiscard]] bool needsOwnWindow() const;
+    /// The options that hold for further windows, too, as arguments.
+    [[nodiscard]] QStringList windowOptions() const;
     /// True when a window of this size, in pixels, is within the limits.
     [[nodiscard]] static bool isUsableSize(const QSize& size);
 

@@ -5,6 +5,8 @@
 #include "orvane/app/command_line/FieldAccess.h"
 #include "orvane/app/command_line/PictureRun.h"
 #include "orvane/app/command_line/StandardOutput.h"
+#include "orvane/app/instance/NewWindow.h"
+#include "orvane/app/instance/SocketFolder.h"
 #include "orvane/app/language/Language.h"
 #include "orvane/app/recovery/RecoveryFolder.h"
 #include "orvane/app/scene/SceneDocument.h"
@@ -12,6 +14,7 @@
 #include "orvane/app/scene/SetFieldCommand.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/picture/PictureFile.h"
+#include "orvane/app/window/HandedFiles.h"
 #include "orvane/app/window/MainWindow.h"
 
 #include "meridane/base/NxDelayQueue.h"
@@ -50,6 +53,8 @@ int WindowRun::run()
     if (takesPicture())
         connect(&window, &MainWindow::imageFolderRefused, this, &orvane::printRefusedFolder);
     window.setReloadsByItself(m_commandLine.watch);
+    if (!takesPicture())
+        joinOthers(window);
     showSoon(window);
     QTimer::singleShot(0, &window, [this, &session, &window] { start(session, window); });
     const int status = QApplication::exec();
@@ -70,6 +75,19 @@ Result<> WindowRun::checkPicture() const
                            .arg(pixels.width())
                            .arg(pixels.height())};
     return {};
+}
+
+void WindowRun::joinOthers(MainWindow& window)
+{
+    NewWindow::setOptions(m_commandLine.windowOptions());
+    auto* const handedFiles = new HandedFiles(QCoreApplication::applicationVersion(), &window);
+    // The window doesn't wait for it.
+    QTimer::singleShot(0, handedFiles, [handedFiles] {
+        const auto folder = SocketFolder::open();
+        const auto started = folder ? handedFiles->start(folder.value()) : Failure{folder.error()};
+        if (!started)
+            qInfo("orvane: Other processes can't hand files to this window: %s", qUtf8Printable(started.error()));
+    });
 }
 
 void WindowRun::showSoon(MainWindow& window)

@@ -25,6 +25,8 @@ private:
     /// Refuses what can't work whatever becomes of the window.
     [[nodiscard]] orvane::Result<> checkPicture() const;
     void prepare(Session& session, MainWindow& window);
+    /// Lets other processes find the window, and the window start others.
+    void joinOthers(MainWindow& window);
     void showSoon(MainWindow& window);
     /// Opens the file of the command line, and applies to it what is asked for.
     void start(Session& session, MainWindow& window);

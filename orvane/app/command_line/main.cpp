@@ -2,6 +2,7 @@
 #include "orvane/app/base/UserLocale.h"
 #include "orvane/app/command_line/BatchRun.h"
 #include "orvane/app/command_line/CommandLine.h"
+#include "orvane/app/command_line/HandOver.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/command_line/WindowRun.h"
 #include "orvane/app/log/QtNoise.h"
@@ -143,6 +144,8 @@ int runWindow(const CommandLine& commandLine, char** argv)
     if (!takesPicture && !hasDisplay())
         return fail(
             QStringLiteral("There is no display to open a window on; --screenshot works without one."), statusFailed);
+    if (const auto status = orvane::handOver(commandLine, argv))
+        return *status;
     const auto application = takesPicture ? makeApplicationWithoutScreen(argv) : makeApplicationOnScreen(argv);
     return WindowRun(commandLine).run();
 }

@@ -26,6 +26,10 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     m_new->setShortcut(QKeySequence::New);
     m_new->setIcon(style->standardIcon(QStyle::SP_FileIcon));
     connect(m_new, &QAction::triggered, &flow, &FileFlow::newScene);
+    QAction* const newWindow
+        = addAction(tr("New Win&dow"), "file.newWindow", tr("Opens another window, with a program of its own"));
+    newWindow->setShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_N));
+    connect(newWindow, &QAction::triggered, this, [this] { Q_EMIT windowRequested({}); });
     m_open = addAction(tr("&Open…"), "file.open", tr("Opens a scene or a model"));
     m_open->setShortcut(QKeySequence::Open);
     m_open->setIcon(style->standardIcon(QStyle::SP_DialogOpenButton));

@@ -19,6 +19,10 @@ public:
     /// The actions that belong on a tool bar.
     [[nodiscard]] QList<QAction*> toolBarActions() const;
 
+Q_SIGNALS:
+    /// Another window is wanted, with that file or, if it is empty, without one.
+    void windowRequested(const QString& fileName);
+
 private:
     QAction* addAction(const QString& text, const char* name, const QString& statusTip);
     void fillRecentMenu();

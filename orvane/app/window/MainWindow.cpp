@@ -12,6 +12,7 @@
 #include "orvane/app/images/ImageFolderQuestion.h"
 #include "orvane/app/inspect/Inspectors.h"
 #include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/instance/NewWindow.h"
 #include "orvane/app/log/LogTap.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
@@ -89,6 +90,12 @@ SceneDocument& MainWindow::document() const
 void MainWindow::openFile(const QString& fileName, const FileFlow::Opened& opened)
 {
     m_files->open(fileName, opened);
+}
+
+void MainWindow::openWindow(const QString& fileName)
+{
+    if (const auto opened = NewWindow::open(fileName); !opened)
+        showError(opened.error());
 }
 
 orvane::Result<> MainWindow::selectPath(const QString& path)

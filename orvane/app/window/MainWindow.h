@@ -49,6 +49,8 @@ public:
     /// once, unless the window is closed first: with success when the scene of the file has just become the open one,
     /// else with the reason why it hasn't. `settled` follows.
     void openFile(const QString& fileName, const std::function<void(const orvane::Result<>&)>& opened = {});
+    /// Opens another window, a process of its own, with that file or, if it is empty, without one.
+    void openWindow(const QString& fileName);
     /// Selects what a path such as `/robot/arm.rotation` leads to, in tree and table. Fails when it leads nowhere.
     orvane::Result<> selectPath(const QString& path);
     /// Compares the open scene with another, which the user knows as the file of that name, and shows the differences

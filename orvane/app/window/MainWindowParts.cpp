@@ -108,6 +108,7 @@ void MainWindow::buildMenus()
     connect(m_central, &CentralArea::fileChosen, this, [this](const QString& fileName) { openFile(fileName); });
     connectReload();
     m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
+    connect(m_fileMenu, &FileMenu::windowRequested, this, &MainWindow::openWindow);
     auto* editMenu = new EditMenu(this, m_session, m_tree);
     new TreeFinder(
         m_session, *m_imageFolders, m_tree, std::bind_front(&SelectionLink::browse, &m_inspectors->link()), this);
