@@ -3,6 +3,7 @@
 #include "orvane/app/instance/SocketFolder.h"
 #include "orvane/app/instance/SocketPeer.h"
 
+#include <QLocalServer>
 #include <QLocalSocket>
 #include <QTimer>
 
@@ -11,10 +12,11 @@
 InstanceServer::InstanceServer(QString programVersion, QObject* parent)
     : QObject(parent)
     , m_programVersion(std::move(programVersion))
+    , m_server(std::make_unique<QLocalServer>())
 {
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    m_server.setMaxPendingConnections(mostConnections);
-    connect(&m_server, &QLocalServer::newConnection, this, &InstanceServer::takeConnections);
+    m_server->setSocketOptions(QLocalServer::UserAccessOption);
+    m_server->setMaxPendingConnections(mostConnections);
+    connect(m_server.get(), &QLocalServer::newConnection, this, &InstanceServer::takeConnections);
 }
 
 InstanceServer::~InstanceServer() = default;
@@ -22,20 +24,20 @@ InstanceServer::~InstanceServer() = default;
 orvane::Result<> InstanceServer::listen(const QString& socket)
 {
     QLocalServer::removeServer(socket);
-    if (!m_server.listen(socket))
-        return orvane::Failure{m_server.errorString()};
+    if (!m_server->listen(socket))
+        return orvane::Failure{m_server->errorString()};
     return {};
 }
 
 void InstanceServer::noteUse() const
 {
-    if (m_server.isListening())
-        SocketFolder::touch(m_server.fullServerName());
+    if (m_server->isListening())
+        SocketFolder::touch(m_server->fullServerName());
 }
 
 void InstanceServer::takeConnections()
 {
-    while (QLocalSocket* const socket = m_server.nextPendingConnection()) {
+    while (QLocalSocket* const socket = m_server->nextPendingConnection()) {
         if (m_connections >= mostConnections || !orvane::isPeerOfUser(*socket)) {
             socket->abort();
             socket->deleteLater();

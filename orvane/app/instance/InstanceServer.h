@@ -2,12 +2,13 @@
 
 #include "orvane/app/instance/HandedFile.h"
 
-#include <QLocalServer>
 #include <QObject>
 
 #include <chrono>
 #include <functional>
+#include <memory>
 
+class QLocalServer;
 class QLocalSocket;
 
 /// Takes files that other processes of the same user hand to this one.
@@ -43,7 +44,7 @@ private:
     void answer(QLocalSocket* socket, const QByteArray& content);
 
     QString m_programVersion;
-    QLocalServer m_server;
+    std::unique_ptr<QLocalServer> m_server;
     std::chrono::milliseconds m_patience{5000};
     std::function<QString()> m_refusal;
     int m_connections = 0;
