@@ -55,6 +55,8 @@ int WindowRun::run()
     window.setReloadsByItself(m_commandLine.watch);
     if (!takesPicture())
         joinOthers(window);
+    if (!takesPicture() && !m_commandLine.noSettings)
+        window.keepPictures();
     showSoon(window);
     QTimer::singleShot(0, &window, [this, &session, &window] { start(session, window); });
     const int status = QApplication::exec();

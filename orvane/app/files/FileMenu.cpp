@@ -91,7 +91,7 @@ void FileMenu::fillRecentMenu()
 {
     m_recentMenu->clear();
     int number = 0;
-    for (const QString& fileName : m_recent.fileNames()) {
+    for (const QString& fileName : m_recent.fileNames().mid(0, RecentFiles::menuCapacity)) {
         const QString shown = orvane::menuText(QDir::toNativeSeparators(fileName));
         QAction* action = m_recentMenu->addAction(
             ++number < 10 ? QStringLiteral("&%1  %2").arg(number).arg(shown) : QStringLiteral("    %1").arg(shown));

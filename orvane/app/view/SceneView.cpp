@@ -91,6 +91,8 @@ void SceneView::showProblem()
 
 void SceneView::setScene(NxGroup* scene, const QString& folder, const std::optional<NxViewpoint>& viewpoint)
 {
+    Q_EMIT sceneAboutToChange();
+    m_isSceneDrawn = false;
     m_scene = NxRef<NxGroup>(scene);
     m_selected.clear();
     m_drawing.setScene(scene, folder);
@@ -265,6 +267,7 @@ void SceneView::redraw(const QSize& deviceSize)
     m_stale = false;
     m_drawnSize = deviceSize;
     m_picture = m_pictures.draw(m_viewpoint, deviceSize, static_cast<float>(devicePixelRatioF()));
+    m_isSceneDrawn = static_cast<bool>(m_scene);
     if (!m_drawing.isStarted())
         showProblem();
 }

@@ -38,6 +38,9 @@ public:
     /// How its pictures are made, with how much detail.
     [[nodiscard]] ViewPictures& pictures() noexcept { return m_pictures; }
 
+    /// What is seen now, as it was drawn last; null before the scene was drawn.
+    [[nodiscard]] QImage picture() const { return m_isSceneDrawn ? m_picture : QImage(); }
+
     /// What mouse and keys do here; for tools to be added to.
     [[nodiscard]] ViewInput& input() noexcept { return m_input; }
     /// Where positions of the view are in the picture.
@@ -96,6 +99,8 @@ Q_SIGNALS:
     void pickedNothing();
     /// The user wants a menu at that place of the screen, about what is selected. A click has picked what it is on.
     void menuRequested(const QPoint& place);
+    /// Another scene is about to be shown, or none.
+    void sceneAboutToChange();
     /// Another scene is shown, or none.
     void sceneChanged();
     /// The user moved, or is about to, not through `setViewpoint`.
@@ -145,6 +150,7 @@ private:
     QSize m_drawnSize; // in device pixels
     QLabel* m_message = nullptr;
     bool m_stale = true;
+    bool m_isSceneDrawn = false; // in the picture
     bool m_startQueued = false;
     bool m_hasMoved = false;
     bool m_showsAll = true; // whatever the size, until the user moves

@@ -2,20 +2,27 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/files/RecentFiles.h"
+#include "orvane/app/language/FollowLanguage.h"
+#include "orvane/app/look/Look.h"
 #include "orvane/app/scene/SceneDocument.h"
+#include "orvane/app/welcome/RecentModel.h"
+#include "orvane/app/welcome/RecentView.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr int shownFiles = 5;
 /// Of a file's name, so that it fits in a narrow window.
 constexpr qsizetype mostCharacters = 60;
+constexpr qsizetype mostExamples = 5;
 
 /// The scenes that come with the tool: beside an installed program, or in the source tree that it was built in.
 QStringList exampleFiles()
@@ -28,7 +35,7 @@ QStringList exampleFiles()
             dir.entryInfoList({u'*' + SceneDocument::fileExtension()}, QDir::Files, QDir::Name))
             names.append(QDir::cleanPath(file.absoluteFilePath()));
         if (!names.isEmpty())
-            return names;
+            return names.mid(0, mostExamples);
     }
     return {};
 }
@@ -37,75 +44,186 @@ QString linksTo(const QString& title, const QStringList& fileNames)
 {
     if (fileNames.isEmpty())
         return {};
-    QString text = QStringLiteral("<p><b>%1</b></p>").arg(title.toHtmlEscaped());
-    for (const QString& fileName : fileNames.mid(0, shownFiles)) {
-        const QFileInfo file(fileName);
-        text += QStringLiteral("<p><a href=\"%1\">%2</a></p>")
-                    .arg(QString::fromLatin1(orvane::toFileUrl(fileName)),
-                        orvane::shortLine(file.fileName(), mostCharacters).toHtmlEscaped());
+    QStringList links;
+    for (const QString& fileName : fileNames) {
+        links += QStringLiteral("<a href=\"%1\">%2</a>")
+                     .arg(QString::fromLatin1(orvane::toFileUrl(fileName)),
+                         orvane::shortLine(QFileInfo(fileName).fileName(), mostCharacters).toHtmlEscaped());
     }
-    return text;
+    return QStringLiteral("<b>%1</b>&ensp; %2").arg(title.toHtmlEscaped(), links.join(QStringLiteral("&ensp; ")));
+}
+
+template <typename Widget>
+Widget* named(Widget* widget, const char* name)
+{
+    widget->setObjectName(QLatin1String(name));
+    return widget;
 }
 
 } // namespace
 
-StartPage::StartPage(QWidget* parent)
-    : QWidget(parent)
+StartPage::StartPage(RecentFiles& recent, QWidget* parent)
+    : StartPage(recent, Thumbnails(), &FileLookup::look, std::chrono::seconds(2), parent)
 {
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(24, 24, 24, 24);
-    layout->setSpacing(12);
-    layout->addStretch(2);
-    auto* title = new QLabel(tr("No scene is open"), this);
-    QFont font = title->font();
-    font.setPointSizeF(font.pointSizeF() * 1.6);
-    title->setFont(font);
-    title->setAlignment(Qt::AlignCenter);
-    layout->addWidget(title);
-    auto* hint = new QLabel(tr("Open a scene or a 3D model, or drop its file on this window."), this);
-    hint->setAlignment(Qt::AlignCenter);
-    hint->setWordWrap(true);
-    layout->addWidget(hint);
+}
 
-    auto* buttons = new QHBoxLayout;
-    auto* openButton = new QPushButton(tr("Open…"), this);
-    openButton->setObjectName(QStringLiteral("startOpen"));
-    openButton->setDefault(true);
-    connect(openButton, &QPushButton::clicked, this, &StartPage::openRequested);
-    auto* newButton = new QPushButton(tr("New Scene"), this);
-    newButton->setObjectName(QStringLiteral("startNew"));
-    connect(newButton, &QPushButton::clicked, this, &StartPage::newRequested);
-    buttons->addStretch();
-    buttons->addWidget(openButton);
-    buttons->addWidget(newButton);
-    buttons->addStretch();
-    layout->addLayout(buttons);
+StartPage::StartPage(RecentFiles& recent, const Thumbnails& thumbnails, const FileLookup::Look& look,
+    std::chrono::milliseconds patience, QWidget* parent)
+    : QWidget(parent)
+    , m_recent(recent)
+    , m_model(new RecentModel(thumbnails, look, patience, this))
+    , m_title(new QLabel(this))
+    , m_hint(new QLabel(this))
+    , m_open(named(new QPushButton(this), "startOpen"))
+    , m_new(named(new QPushButton(this), "startNew"))
+    , m_heading(new QLabel(this))
+    , m_search(named(new QLineEdit(this), "recentSearch"))
+    , m_files(named(new RecentView(*m_model, this), "recentFiles"))
+    , m_missing(named(new QLabel(this), "missingFiles"))
+    , m_removeMissing(named(new QPushButton(this), "removeMissing"))
+    , m_examples(named(new QLabel(this), "exampleLinks"))
+    , m_layout(new QVBoxLayout(this))
+{
+    m_layout->addStretch(1);
+    m_layout->addLayout(makeTop());
+    m_layout->addLayout(makeHeading());
+    m_layout->addWidget(m_files, 4);
+    m_layout->addLayout(makeMissing());
+    m_examples->setTextFormat(Qt::RichText);
+    m_examples->setAlignment(Qt::AlignCenter);
+    m_examples->setWordWrap(true);
+    m_examples->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    connect(m_examples, &QLabel::linkActivated, this,
+        [this](const QString& link) { Q_EMIT fileChosen(orvane::fromFileUrl(link.toLatin1())); });
+    m_layout->addWidget(m_examples);
+    m_layout->addStretch(1);
 
-    m_recent = addLinks(layout, "recentLinks");
-    m_examples = addLinks(layout, "exampleLinks");
+    connect(m_files, &RecentView::openRequested, this, &StartPage::fileChosen);
+    connect(m_files, &RecentView::openInNewWindowRequested, this, &StartPage::windowRequested);
+    connect(m_files, &RecentView::removeRequested, &recent, qOverload<const QString&>(&RecentFiles::remove));
+    connect(m_files, &RecentView::pinRequested, &recent, &RecentFiles::setPinned);
+    connect(m_files, &RecentView::failed, this, &StartPage::failed);
+    connect(m_model, &RecentModel::missingChanged, this, &StartPage::showMissing);
+    connect(&recent, &RecentFiles::changed, this, &StartPage::listFiles);
+    orvane::followLanguage(this, [this] { setTexts(); });
+    setFonts();
+    listFiles();
+}
+
+StartPage::~StartPage() = default;
+
+QBoxLayout* StartPage::makeTop()
+{
+    auto* const top = new QVBoxLayout;
+    m_title->setAlignment(Qt::AlignCenter);
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setWordWrap(true);
+    m_open->setDefault(true);
+    connect(m_open, &QPushButton::clicked, this, &StartPage::openRequested);
+    connect(m_new, &QPushButton::clicked, this, &StartPage::newRequested);
+    auto* const buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_open);
+    buttons->addWidget(m_new);
+    buttons->addStretch();
+    top->addWidget(m_title);
+    top->addWidget(m_hint);
+    top->addLayout(buttons);
+    return top;
+}
+
+QBoxLayout* StartPage::makeHeading()
+{
+    auto* const heading = new QHBoxLayout;
+    QFont bold = font();
+    bold.setBold(true);
+    m_heading->setFont(bold);
+    m_heading->setBuddy(m_files);
+    m_search->setClearButtonEnabled(true);
+    connect(m_search, &QLineEdit::textChanged, m_files, &RecentView::search);
+    heading->addWidget(m_heading);
+    heading->addStretch(1);
+    heading->addWidget(m_search, 1);
+    return heading;
+}
+
+QBoxLayout* StartPage::makeMissing()
+{
+    auto* const row = new QHBoxLayout;
+    connect(m_removeMissing, &QPushButton::clicked, this, &StartPage::removeMissing);
+    row->addWidget(m_missing);
+    row->addWidget(m_removeMissing);
+    row->addStretch();
+    return row;
+}
+
+void StartPage::setTexts()
+{
+    m_title->setText(tr("No scene is open"));
+    m_hint->setText(tr("Open a scene or a 3D model, or drop its file on this window."));
+    m_open->setText(tr("Open…"));
+    m_new->setText(tr("New Scene"));
+    m_heading->setText(tr("Recent files"));
+    m_search->setPlaceholderText(tr("Search name or folder"));
+    m_search->setAccessibleName(tr("Search recent files"));
+    m_removeMissing->setText(tr("Remove Them from List"));
+    showExamples();
+    showMissing();
+}
+
+void StartPage::setFonts()
+{
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * 1.6);
+    m_title->setFont(large);
+    const int unit = orvane::look::unit(fontMetrics());
+    m_layout->setContentsMargins(6 * unit, 3 * unit, 6 * unit, 3 * unit);
+    m_layout->setSpacing(3 * unit);
+}
+
+void StartPage::listFiles()
+{
+    const QStringList pinned = m_recent.pinned();
+    const QStringList files = m_recent.fileNames();
+    m_model->setFiles(pinned, files);
+    const int count = m_model->rowCount();
+    for (QWidget* const widget : {static_cast<QWidget*>(m_heading), static_cast<QWidget*>(m_files)})
+        widget->setVisible(count > 0);
+    m_search->setVisible(count > manyFiles);
+    if (count <= manyFiles)
+        m_search->clear();
+}
+
+void StartPage::showMissing()
+{
+    const auto count = static_cast<int>(m_model->missing().size());
+    m_missing->setText(tr("%n of the files are missing.", nullptr, count));
+    m_missing->setVisible(count > 0);
+    m_removeMissing->setVisible(count > 0);
+}
+
+void StartPage::showExamples()
+{
     const QString examples = linksTo(tr("Examples"), exampleFiles());
     m_examples->setText(examples);
     m_examples->setHidden(examples.isEmpty());
-    layout->addStretch(3);
-    setRecentFiles({});
 }
 
-void StartPage::setRecentFiles(const QStringList& fileNames)
+void StartPage::removeMissing()
 {
-    const QString text = linksTo(tr("Recent files"), fileNames);
-    m_recent->setText(text);
-    m_recent->setHidden(text.isEmpty());
+    m_recent.remove(m_model->missing());
 }
 
-QLabel* StartPage::addLinks(QVBoxLayout* layout, const char* name)
+// Files and their pictures may have changed while a scene was open.
+void StartPage::showEvent(QShowEvent* event)
 {
-    auto* label = new QLabel(this);
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::RichText);
-    label->setAlignment(Qt::AlignCenter);
-    label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    connect(label, &QLabel::linkActivated, this,
-        [this](const QString& link) { Q_EMIT fileChosen(orvane::fromFileUrl(link.toLatin1())); });
-    layout->addWidget(label);
-    return label;
+    m_model->forget();
+    QWidget::showEvent(event);
+}
+
+void StartPage::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        setFonts();
 }

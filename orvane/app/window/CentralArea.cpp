@@ -1,6 +1,5 @@
 #include "orvane/app/window/CentralArea.h"
 
-#include "orvane/app/files/RecentFiles.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/welcome/StartPage.h"
@@ -36,12 +35,11 @@ void CentralArea::showStartPage()
 
 void CentralArea::makeStartPage()
 {
-    m_startPage = new StartPage(this);
+    m_startPage = new StartPage(m_recent, this);
     m_pages->addWidget(m_startPage);
     connect(m_startPage, &StartPage::openRequested, this, &CentralArea::openRequested);
     connect(m_startPage, &StartPage::newRequested, this, &CentralArea::newRequested);
     connect(m_startPage, &StartPage::fileChosen, this, &CentralArea::fileChosen);
-    const auto listRecent = [this] { m_startPage->setRecentFiles(m_recent.fileNames()); };
-    connect(&m_recent, &RecentFiles::changed, m_startPage, listRecent);
-    listRecent();
+    connect(m_startPage, &StartPage::windowRequested, this, &CentralArea::windowRequested);
+    connect(m_startPage, &StartPage::failed, this, &CentralArea::failed);
 }

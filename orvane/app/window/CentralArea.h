@@ -25,6 +25,8 @@ Q_SIGNALS:
     void openRequested();
     void newRequested();
     void fileChosen(const QString& fileName);
+    void windowRequested(const QString& fileName);
+    void failed(const QString& message);
 
 private:
     void makeStartPage();

@@ -22,6 +22,7 @@
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/SceneView.h"
+#include "orvane/app/welcome/PictureKeeper.h"
 #include "orvane/app/window/CentralArea.h"
 #include "orvane/app/window/ComparisonDock.h"
 #include "orvane/app/window/DiskChangeBar.h"
@@ -131,6 +132,11 @@ void MainWindow::startRecovery(const RecoveryFolder& folder)
             m_recovery->leaveFile();
     });
     (new RecoveryOffer(*m_files, *m_recovery, *m_messages, this))->start(folder);
+}
+
+void MainWindow::keepPictures()
+{
+    new PictureKeeper(document(), m_view, Thumbnails(), this);
 }
 
 void MainWindow::startView()

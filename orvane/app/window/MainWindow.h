@@ -59,6 +59,8 @@ public:
     /// Keeps unsaved changes in recovery files of that folder from now on, and offers what programs have left there
     /// that didn't end properly.
     void startRecovery(const RecoveryFolder& folder);
+    /// Keeps pictures of the files for the start page and file managers from now on.
+    void keepPictures();
     /// Starts the view's drawing now instead of after the first paint, for a picture of the window.
     void startView();
     /// Whether a file that changes on disk is reloaded without a question while the scene has no changes of the user.

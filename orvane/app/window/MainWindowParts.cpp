@@ -106,6 +106,8 @@ void MainWindow::buildMenus()
     connect(m_central, &CentralArea::openRequested, m_files, &FileFlow::chooseFileToOpen);
     connect(m_central, &CentralArea::newRequested, m_files, &FileFlow::newScene);
     connect(m_central, &CentralArea::fileChosen, this, [this](const QString& fileName) { openFile(fileName); });
+    connect(m_central, &CentralArea::windowRequested, this, &MainWindow::openWindow);
+    connect(m_central, &CentralArea::failed, this, &MainWindow::showWarning);
     connectReload();
     m_fileMenu = new FileMenu(this, *m_files, *m_recent, document());
     connect(m_fileMenu, &FileMenu::windowRequested, this, &MainWindow::openWindow);

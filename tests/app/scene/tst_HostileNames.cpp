@@ -10,6 +10,7 @@
 #include "orvane/app/scene/NodeCommands.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
+#include "orvane/app/welcome/RecentView.h"
 #include "orvane/extender/OrvShell.h"
 
 #include "meridane/base/Files.h"
@@ -239,10 +240,13 @@ private Q_SLOTS:
         checkTexts(name);
         m_window->grab();
         QCOMPARE(opened.take(), 0);
-        const auto* links = m_window->findChild<QLabel*>(QStringLiteral("recentLinks"));
-        QVERIFY(links->isVisible());
-        QVERIFY(readable(links->text(), links->textFormat()).contains(orvane::shortLine(displayName, 60)));
-        QVERIFY(links->sizeHint().width() < 1000);
+        const auto* files = m_window->findChild<RecentView*>();
+        QVERIFY(files->isVisible());
+        const QModelIndex tile = files->model()->index(0, 0);
+        QCOMPARE(tile.data().toString(), orvane::shortLine(displayName));
+        hover(files->viewport(), files->visualRect(tile).center(), name);
+        QVERIFY(m_window->width() < 2000);
+        QCOMPARE(opened.take(), 0);
     }
 
     void camerasAreListedByTheirNamesAsTheyAre_data() { addNames(); }
@@ -293,11 +297,10 @@ private Q_SLOTS:
         QCOMPARE(tree()->model()->index(0, 0).data().toString(), QStringLiteral("one"));
 
         makeWindow();
-        auto* links = m_window->findChild<QLabel*>(QStringLiteral("recentLinks"));
+        auto* files = m_window->findChild<RecentView*>();
         QSignalSpy opened(m_window.get(), &MainWindow::settled);
-        links->setFocus();
-        QTest::keyClick(links, Qt::Key_Tab);
-        QTest::keyClick(links, Qt::Key_Return);
+        files->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(files, Qt::Key_Return);
         QVERIFY(opened.wait(testPatience));
         QCOMPARE(opened.front().front().value<orvane::Result<>>().error(), QString());
         QCOMPARE(m_window->document().fileName(), orvane::fromStdFileName(bytes));
