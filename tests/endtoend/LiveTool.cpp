@@ -138,13 +138,27 @@ bool LiveTool::startTool(const QStringList& arguments)
         m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_settingsFolder);
     m_environment.insert(QStringLiteral("XDG_STATE_HOME"),
         m_stateFolder.isEmpty() ? m_folder.filePath(QStringLiteral("state")) : m_stateFolder);
+    for (auto variable = m_variables.constBegin(); variable != m_variables.constEnd(); ++variable) {
+        if (variable->isNull())
+            m_environment.remove(variable.key());
+        else
+            m_environment.insert(variable.key(), *variable);
+    }
     m_tool.setProcessEnvironment(m_environment);
     m_tool.setProcessChannelMode(QProcess::ForwardedChannels);
-    m_tool.setProgram(QStringLiteral(ORVANE_PROGRAM));
-    m_tool.setArguments(settingsArguments()
+    const QStringList all = settingsArguments()
         + QStringList{QStringLiteral("--plugin"), QStringLiteral(PROBE_PLUGIN), QStringLiteral("--size"),
             QStringLiteral("1200x760")}
-        + arguments);
+        + arguments;
+    if (m_preparation.isEmpty()) {
+        m_tool.setProgram(QStringLiteral(ORVANE_PROGRAM));
+        m_tool.setArguments(all);
+    } else {
+        m_tool.setProgram(QStringLiteral("/bin/sh"));
+        m_tool.setArguments(QStringList{QStringLiteral("-c"), m_preparation + QStringLiteral(" exec \"$0\" \"$@\""),
+                                QStringLiteral(ORVANE_PROGRAM)}
+            + all);
+    }
     m_tool.start();
     const bool connected = m_tool.waitForStarted(testPatience) && acceptProbe(listener);
     ::close(listener);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QImage>
 #include <QPoint>
 #include <QProcess>
@@ -25,6 +26,10 @@ public:
     void useLocale(const QString& locale) { m_locale = locale; }
     /// How many pixels of the screen are one of the tool's. The screen has as many more.
     void useScale(int scale) { m_scale = scale; }
+    /// A variable of the tool's environment; taken away if the value is null. To be set before the start.
+    void setVariable(const QString& name, const QString& value) { m_variables.insert(name, value); }
+    /// What a shell does before it becomes the tool, such as "ulimit -f 0;".
+    void prepareBy(const QString& command) { m_preparation = command; }
     /// Starts server and tool and waits until the window has its place.
     [[nodiscard]] bool start(const QStringList& arguments);
     /// The same on the screen of another one, which lives longer. They share mouse, keyboard and clipboard; the window
@@ -34,6 +39,9 @@ public:
     [[nodiscard]] bool activate();
     /// Closes the window as Ctrl+Q does and gives the exit status, or -1.
     [[nodiscard]] int quit();
+    /// What the tool was started with, for another program on its screen.
+    [[nodiscard]] const QProcessEnvironment& environment() const noexcept { return m_environment; }
+    [[nodiscard]] qint64 processId() const { return m_tool.processId(); }
     /// Kills the tool, which can do nothing about it.
     void kill();
 
@@ -84,6 +92,8 @@ private:
     QString m_settingsFolder;
     QString m_stateFolder;
     QString m_locale;
+    QHash<QString, QString> m_variables;
+    QString m_preparation;
     int m_scale = 1;
     QProcess m_server;
     QProcess m_windowManager;

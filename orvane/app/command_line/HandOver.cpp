@@ -3,6 +3,7 @@
 #include "orvane/app/base/AppSettings.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/instance/InstanceClient.h"
+#include "orvane/app/settings/SettingsStore.h"
 
 #include <QCoreApplication>
 
@@ -18,7 +19,8 @@ bool isAskedFor(const CommandLine& commandLine)
         return true;
     if (commandLine.noSettings || commandLine.needsOwnWindow() || commandLine.file.isEmpty())
         return false;
-    return AppSettings(AppSettings::Mode::File).value(orvane::oneWindowKey(), false).toBool();
+    AppSettings settings(AppSettings::Mode::File);
+    return SettingsStore::of(settings).isOn(QStringLiteral("files/oneWindow"));
 }
 
 HandedFile handedFile(const CommandLine& commandLine)
@@ -29,11 +31,6 @@ HandedFile handedFile(const CommandLine& commandLine)
 }
 
 } // namespace
-
-QString orvane::oneWindowKey()
-{
-    return QStringLiteral("files/oneWindow");
-}
 
 std::optional<int> orvane::handOver(const CommandLine& commandLine, char** argv)
 {

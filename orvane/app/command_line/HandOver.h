@@ -2,15 +2,9 @@
 
 #include "orvane/app/command_line/CommandLine.h"
 
-#include <QString>
-
 #include <optional>
 
 namespace orvane {
-
-/// The setting that lets running windows take the files that are opened from outside. It is a boolean, false unless
-/// the user has set it.
-[[nodiscard]] QString oneWindowKey();
 
 /// Hands the file of the command line to a running window, if that is asked for there or in the settings. Returns the
 /// exit status of this process, or nothing where it must open a window of its own; messages are printed.

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -21,6 +22,7 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <pwd.h>
 #include <unistd.h>
 
 namespace {
@@ -73,6 +75,18 @@ void openStandardStreams()
         descriptor = ::open("/dev/null", O_RDONLY);
     } while (descriptor >= 0 && descriptor <= STDERR_FILENO);
     ::close(descriptor);
+}
+
+// Some services start programs without it, but everything that is kept for the user has its place below it.
+void provideHome()
+{
+    if (isSet("HOME"))
+        return;
+    std::array<char, 4096> texts{};
+    passwd user{};
+    passwd* found = nullptr;
+    if (::getpwuid_r(::getuid(), &user, texts.data(), texts.size(), &found) == 0 && found != nullptr)
+        qputenv("HOME", found->pw_dir);
 }
 
 // The library would take options such as --plugin for its own, so it gets the program's name alone.
@@ -186,6 +200,7 @@ int main(int argc, char* argv[])
 {
     std::set_terminate(endByException);
     openStandardStreams();
+    provideHome();
     // A file that outgrows the user's limit is a write error with a message, not the end of the process.
     std::signal(SIGXFSZ, SIG_IGN);
     orvane::useProgramLocale();

@@ -25,10 +25,24 @@ Settings editingSettings()
     };
 }
 
+Settings fileSettings()
+{
+    return {
+        {.key = QStringLiteral("files/oneWindow"),
+            .page = SettingPage::Files,
+            .kind = Kind::Switch,
+            .defaultValue = false,
+            .title = QT_TRANSLATE_NOOP("Settings", "Open files in a running window"),
+            .description = QT_TRANSLATE_NOOP("Settings",
+                "A file that is opened from a file manager or a terminal comes to the window that was used last, which "
+                "asks about unsaved changes. Otherwise each has a window of its own.")},
+    };
+}
+
 Settings allSettings()
 {
     Settings all;
-    for (Settings& settings : std::array{editingSettings()})
+    for (Settings& settings : std::array{editingSettings(), fileSettings()})
         std::move(settings.begin(), settings.end(), std::back_inserter(all));
     return all;
 }

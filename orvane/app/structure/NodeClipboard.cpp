@@ -1,5 +1,7 @@
 #include "orvane/app/structure/NodeClipboard.h"
 
+#include "orvane/app/base/TextConversion.h"
+#include "orvane/app/scene/NodeName.h"
 #include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/structure/NodeEdits.h"
@@ -7,6 +9,7 @@
 #include "orvane/app/structure/detail/EditTexts.h"
 #include "orvane/extender/OrvDocument.h"
 
+#include "meridane/scene/file/NxScenePath.h"
 #include "meridane/scene/file/NxSceneReader.h"
 #include "meridane/scene/journal/Journal.h"
 
@@ -30,6 +33,12 @@ NodeClipboard::~NodeClipboard() = default;
 
 orvane::Result<std::unique_ptr<QMimeData>> NodeClipboard::mimeData(const meridane::NodeSet& nodes) const
 {
+    const DraggedNodes::Content content = draggedNodes(nodes);
+    return orvane::nodeMimeData(content.nodes, content.origin);
+}
+
+DraggedNodes::Content NodeClipboard::draggedNodes(const meridane::NodeSet& nodes) const
+{
     const meridane::NodeSet top = meridane::topmost(nodes);
     const orvane::EditNodes pointers = orvane::nodesOf(top);
     orvane::NodeOrigin origin{m_session.document().pathFolder(), sceneToken(), {}};
@@ -39,7 +48,17 @@ orvane::Result<std::unique_ptr<QMimeData>> NodeClipboard::mimeData(const meridan
         if (number)
             origin.numbers.push_back(*number);
     }
-    return orvane::nodeMimeData(std::vector<NxRef<NxNode>>(pointers.begin(), pointers.end()), origin);
+    QStringList paths;
+    constexpr qsizetype mostPaths = 100; // each takes a while in a wide scene
+    for (const meridane::SetMember& member : meridane::inTreeOrder(top)) {
+        if (paths.size() == mostPaths)
+            break;
+        std::vector<NxNode*> path(member.rows->path.begin() + 1, member.rows->path.end());
+        path.push_back(member.node());
+        paths.append(orvane::toQString(NxScenePath::toText(m_session.document().scene(), path)));
+    }
+    return {std::vector<NxRef<NxNode>>(pointers.begin(), pointers.end()), std::move(origin), paths,
+        pointers.empty() ? QString() : orvane::nodeName(*pointers.front())};
 }
 
 void NodeClipboard::copy(const meridane::NodeSet& nodes)
@@ -70,7 +89,7 @@ void NodeClipboard::paste()
     if (data == nullptr)
         return;
     // File managers copy files as text too.
-    if (data->hasUrls())
+    if (orvane::hasFiles(*data))
         Q_EMIT filesPasted(*data);
     else
         read(*data, std::nullopt);

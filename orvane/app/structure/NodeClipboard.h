@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orvane/app/base/SliceClock.h"
+#include "orvane/app/structure/DraggedNodes.h"
 #include "orvane/app/structure/NodeEditor.h"
 #include "orvane/app/structure/NodeMimeData.h"
 #include "orvane/app/structure/TreeNodes.h"
@@ -26,9 +27,11 @@ public:
     NodeClipboard(Session& session, NodeEditor& editor);
     ~NodeClipboard() override;
 
-    /// The nodes of a set for the clipboard or a drag, which aren't those below others of it. Fails if they can't be
+    /// The nodes of a set for the clipboard, which aren't those below others of it. Fails if they can't be
     /// copied.
     [[nodiscard]] orvane::Result<std::unique_ptr<QMimeData>> mimeData(const meridane::NodeSet& nodes) const;
+    /// The same for a drag, which writes them when another program asks for them.
+    [[nodiscard]] DraggedNodes::Content draggedNodes(const meridane::NodeSet& nodes) const;
     void copy(const meridane::NodeSet& nodes);
     void cut(const meridane::NodeSet& nodes);
     /// Pastes copies into the group that is selected, or behind another node that is. Files are left to others.

@@ -1,5 +1,7 @@
 #include "orvane/app/structure/NodeMimeData.h"
 
+#include "orvane/app/scene/ScenePaths.h"
+
 #include "meridane/scene/file/NxSceneWriter.h"
 
 #include <QCoreApplication>
@@ -30,7 +32,7 @@ QString tooLarge(std::size_t size)
             QLocale().formattedDataSize(static_cast<qint64>(mostNodeText)));
 }
 
-Result<std::string> writtenText(std::span<const NxRef<NxNode>> nodes)
+Result<std::string> writtenText(std::span<const NxRef<NxNode>> nodes, const NxSceneWriter::PathMap& paths = {})
 {
     const NxRef<NxGroup> holder(new NxGroup);
     std::vector<NxNode*> children;
@@ -39,6 +41,7 @@ Result<std::string> writtenText(std::span<const NxRef<NxNode>> nodes)
         children.push_back(node.get());
     holder->replaceChildren(0, 0, children);
     NxSceneWriter writer(holder.get());
+    writer.setPathMap(paths);
     std::string text;
     constexpr std::chrono::milliseconds slice(50);
     while (writer.step(text, slice)) {
@@ -56,11 +59,6 @@ Result<std::string> writtenText(std::span<const NxRef<NxNode>> nodes)
 
 } // namespace
 
-QString nodeMimeType()
-{
-    return QStringLiteral("application/x-orvane-nodes");
-}
-
 Result<std::unique_ptr<QMimeData>> nodeMimeData(std::span<const NxRef<NxNode>> nodes, const NodeOrigin& origin)
 {
     const Result<std::string> text = writtenText(nodes);
@@ -76,6 +74,11 @@ Result<std::unique_ptr<QMimeData>> nodeMimeData(std::span<const NxRef<NxNode>> n
     data->setText(toQString(text.value()));
     data->setData(nodeMimeType(), bytes);
     return data;
+}
+
+Result<std::string> nodeFileText(std::span<const NxRef<NxNode>> nodes, const QString& folder)
+{
+    return writtenText(nodes, pathMap(folder, {}));
 }
 
 bool hasNodes(const QMimeData& data)

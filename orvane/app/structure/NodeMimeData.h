@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orvane/app/base/DraggedFile.h"
 #include "orvane/app/base/Result.h"
 
 #include "meridane/scene/fields/NxRef.h"
@@ -23,8 +24,6 @@ namespace orvane {
 /// The most text in bytes that is put on the clipboard or read from it.
 inline constexpr std::size_t mostNodeText = std::size_t(64) << 20U;
 
-[[nodiscard]] QString nodeMimeType();
-
 /// Where nodes are from.
 struct NodeOrigin {
     QString folder; ///< from which relative file paths in them count; empty for a scene without one
@@ -35,6 +34,10 @@ struct NodeOrigin {
 /// Fails if the nodes are too large, or can't be written.
 [[nodiscard]] Result<std::unique_ptr<QMimeData>> nodeMimeData(
     std::span<const NxRef<NxNode>> nodes, const NodeOrigin& origin);
+
+/// The nodes as the text of a scene file. Relative paths, which count from that folder, become absolute ones. Fails as
+/// `nodeMimeData` does.
+[[nodiscard]] Result<std::string> nodeFileText(std::span<const NxRef<NxNode>> nodes, const QString& folder);
 
 /// What there is to be pasted.
 struct NodeText {

@@ -1,5 +1,6 @@
 #include "orvane/app/structure/TreeDrops.h"
 
+#include "orvane/app/structure/DraggedNodes.h"
 #include "orvane/app/structure/DropMark.h"
 #include "orvane/app/structure/NodeClipboard.h"
 #include "orvane/app/structure/NodeEditor.h"
@@ -11,6 +12,7 @@
 #include <QDrag>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPointer>
 #include <QScrollBar>
 
 #include <utility>
@@ -83,10 +85,13 @@ void TreeDrops::timerEvent(QTimerEvent* event)
 
 void TreeDrops::startDrag()
 {
-    auto data = m_clipboard.mimeData(m_editor.selected());
     auto* const drag = new QDrag(m_tree->view());
-    // Nodes that are too large for another window can still be dragged in this one.
-    drag->setMimeData(data ? std::move(data).value().release() : new QMimeData);
+    // Another program may ask for the nodes later than the drag ends.
+    drag->setMimeData(new DraggedNodes(
+        m_clipboard.draggedNodes(m_editor.selected()), [editor = QPointer(&m_editor)](const QString& reason) {
+            if (editor != nullptr)
+                Q_EMIT editor->said(reason);
+        }));
     m_isDragging = true;
     drag->exec(Qt::MoveAction | Qt::CopyAction | Qt::LinkAction, Qt::MoveAction);
     m_isDragging = false;
@@ -111,7 +116,7 @@ void TreeDrops::enter(QDropEvent* event)
         event->setAccepted(event->type() == QEvent::DragEnter);
         return;
     }
-    if (event->mimeData()->hasUrls())
+    if (orvane::hasFiles(*event->mimeData()))
         say(m_files.promise(*event->mimeData(), placeOf(target)));
     event->setDropAction(isOwn(*event) ? actionOf(*event) : Qt::CopyAction);
     event->accept();
@@ -133,7 +138,7 @@ void TreeDrops::drop(QDropEvent* event)
     event->accept();
     if (own)
         m_editor.apply(edit(target, action));
-    else if (event->mimeData()->hasUrls())
+    else if (orvane::hasFiles(*event->mimeData()))
         m_files.take(*event->mimeData(), placeOf(target));
     else
         m_clipboard.insert(*event->mimeData(), target.spot);
@@ -211,12 +216,12 @@ MadeEdit TreeDrops::edit(const Target& target, Qt::DropAction action) const
 QString TreeDrops::refusal(const QDropEvent& event, const Target& target) const
 {
     const QMimeData& data = *event.mimeData();
-    if (m_editor.scene() == nullptr && !data.hasUrls())
+    if (m_editor.scene() == nullptr && !orvane::hasFiles(data))
         return tr("Open a scene before you drop nodes.");
     if (isOwn(event))
         return actionOf(event) == Qt::CopyAction ? QString()
                                                  : NodeEdits::refusalOfMove(m_editor.selected(), target.spot.group());
-    if (data.hasUrls())
+    if (orvane::hasFiles(data))
         return m_files.refusal(data, placeOf(target));
     return orvane::hasNodes(data) ? QString() : tr("Only nodes, text and files can be dropped here.");
 }

@@ -1,5 +1,6 @@
 #include "orvane/app/window/SceneDrops.h"
 
+#include "orvane/app/base/DraggedFile.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/structure/NodeActions.h"
 #include "orvane/app/structure/NodeClipboard.h"
@@ -55,7 +56,7 @@ void SceneDrops::handle(QDropEvent& event)
     const QMimeData& data = *event.mimeData();
     const FileDrops::Place place = placeAt(event.position());
     QString said;
-    bool takes = data.hasUrls();
+    bool takes = orvane::hasFiles(data);
     if (takes) {
         said = m_files->refusal(data, place);
         takes = said.isEmpty();

@@ -82,7 +82,8 @@ private:
         for (int i = 1; i <= count; ++i)
             m_recent->add(makeFile(u"scene%1.mrd"_s.arg(i)));
     }
-    void show(const FileLookup::Look& look = &FileLookup::look, std::chrono::milliseconds patience = 1min)
+    void show(
+        const FileLookup::Look& look = &FileLookup::look, std::chrono::milliseconds patience = std::chrono::minutes(1))
     {
         m_page = std::make_unique<StartPage>(*m_recent, thumbnails(), look, patience);
         m_page->resize(900, 700);

@@ -72,6 +72,17 @@ private Q_SLOTS:
         QCOMPARE(m_window->document().fileName(), m_robot);
     }
 
+    void recentFilesAreForgotten()
+    {
+        open(m_robot);
+        const QMenu* recent = m_window->findChild<QMenu*>(QStringLiteral("recentMenu"));
+        QVERIFY(recent->isEnabled());
+        m_window->findChild<QAction*>(QStringLiteral("file.clearRecent"))->trigger();
+        QVERIFY(!recent->isEnabled());
+        makeWindow();
+        QVERIFY(!m_window->findChild<QMenu*>(QStringLiteral("recentMenu"))->isEnabled());
+    }
+
     void reportsABrokenSettingsFileAndLeavesIt()
     {
         m_window.reset();
