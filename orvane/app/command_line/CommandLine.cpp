@@ -261,7 +261,7 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
 }
 
 /// Desktops and other programs may name a file by its URL.
-QString fileOf(const QString& argument)
+QString fileArgument(const QString& argument)
 {
     return argument.startsWith(QStringLiteral("file:///")) ? orvane::fromFileUrl(argument.toUtf8()) : argument;
 }
@@ -273,8 +273,8 @@ void takeValues(const QCommandLineParser& parser, const Options& options, Comman
     if (result.describe) {
         result.classes = parser.positionalArguments();
     } else {
-        result.file = fileOf(parser.positionalArguments().value(0));
-        result.secondFile = fileOf(parser.positionalArguments().value(1));
+        result.file = fileArgument(parser.positionalArguments().value(0));
+        result.secondFile = fileArgument(parser.positionalArguments().value(1));
     }
     result.plugins = parser.values(options.plugin);
     result.profile = parser.value(options.profile);

@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr mode_t onlyForTheUser = 0700;
+constexpr mode_t socketFolderMode = 0700;
 constexpr mode_t forOthers = 0077;
 
 orvane::Failure folderFailure(const QString& path, const QString& reason)
@@ -72,7 +72,7 @@ orvane::Result<SocketFolder> SocketFolder::open()
 orvane::Result<SocketFolder> SocketFolder::open(const QString& path, const QString& display)
 {
     const std::string name = orvane::toStdFileName(path);
-    if (::mkdir(name.c_str(), onlyForTheUser) != 0 && errno != EEXIST)
+    if (::mkdir(name.c_str(), socketFolderMode) != 0 && errno != EEXIST)
         return folderFailure(path, QString::fromLocal8Bit(std::strerror(errno)));
     // Not what a link leads to: in a folder that all share, anyone could have made it.
     struct stat status { };

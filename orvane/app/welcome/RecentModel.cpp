@@ -15,7 +15,7 @@
 
 namespace {
 
-QString nameOf(const QString& fileName)
+QString recentName(const QString& fileName)
 {
     return fileName.section(u'/', -1);
 }
@@ -109,7 +109,7 @@ QVariant RecentModel::data(const QModelIndex& index, int role) const
     const Entry& entry = m_entries[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-        return orvane::shortLine(nameOf(entry.fileName));
+        return orvane::shortLine(recentName(entry.fileName));
     case Qt::DecorationRole:
         return entry.picture.isNull() ? QVariant() : QVariant(entry.picture);
     case Qt::ToolTipRole:
@@ -199,7 +199,7 @@ QString RecentModel::stateText(const FileState& state)
 
 QString RecentModel::describe(const Entry& entry)
 {
-    QStringList parts{orvane::shortLine(nameOf(entry.fileName)), orvane::shortLine(folderText(entry.fileName))};
+    QStringList parts{orvane::shortLine(recentName(entry.fileName)), orvane::shortLine(folderText(entry.fileName))};
     if (entry.isPinned)
         parts.append(tr("pinned"));
     if (entry.state.kind != FileState::Kind::Unknown)

@@ -21,7 +21,7 @@
 namespace {
 
 /// Of a file's name, so that it fits in a narrow window.
-constexpr qsizetype mostCharacters = 60;
+constexpr qsizetype mostLinkCharacters = 60;
 constexpr qsizetype mostExamples = 5;
 
 /// The scenes that come with the tool: beside an installed program, or in the source tree that it was built in.
@@ -48,7 +48,7 @@ QString linksTo(const QString& title, const QStringList& fileNames)
     for (const QString& fileName : fileNames) {
         links += QStringLiteral("<a href=\"%1\">%2</a>")
                      .arg(QString::fromLatin1(orvane::toFileUrl(fileName)),
-                         orvane::shortLine(QFileInfo(fileName).fileName(), mostCharacters).toHtmlEscaped());
+                         orvane::shortLine(QFileInfo(fileName).fileName(), mostLinkCharacters).toHtmlEscaped());
     }
     return QStringLiteral("<b>%1</b>&ensp; %2").arg(title.toHtmlEscaped(), links.join(QStringLiteral("&ensp; ")));
 }
