@@ -4,6 +4,7 @@
 #include "editor_icons/set_default.xpm"
 
 #include "orvane/sdk/Edit.h"
+#include "orvane/sdk/detail/WidgetTexts.h"
 
 #include "meridane/scene/fields/NxField.h"
 
@@ -19,12 +20,14 @@ struct ButtonTexts {
     Q_DECLARE_TR_FUNCTIONS(FieldButtons)
 };
 
-QPushButton* makeButton(QWidget& parent, const QString& name, const QString& tip, const char* const* icon)
+QPushButton* makeButton(QWidget& parent, const QString& name, const char* tip, const char* const* icon)
 {
     auto* const button = new QPushButton(&parent);
     button->setObjectName(name);
-    button->setToolTip(tip);
-    button->setAccessibleName(tip);
+    setWidgetTexts(*button, [button, tip] {
+        button->setToolTip(ButtonTexts::tr(tip));
+        button->setAccessibleName(ButtonTexts::tr(tip));
+    });
     button->setIcon(QPixmap(icon));
     button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     // A click must not take the focus from a line that is being edited.
@@ -35,8 +38,10 @@ QPushButton* makeButton(QWidget& parent, const QString& name, const QString& tip
 } // namespace
 
 FieldButtons::FieldButtons(QWidget& parent)
-    : m_default(makeButton(parent, QStringLiteral("defaultButton"), ButtonTexts::tr("Set to default"), set_default_xpm))
-    , m_ignore(makeButton(parent, QStringLiteral("ignoreButton"), ButtonTexts::tr("Ignore this field"), ignore_xpm))
+    : m_default(makeButton(
+        parent, QStringLiteral("defaultButton"), QT_TRANSLATE_NOOP("FieldButtons", "Set to default"), set_default_xpm))
+    , m_ignore(makeButton(
+          parent, QStringLiteral("ignoreButton"), QT_TRANSLATE_NOOP("FieldButtons", "Ignore this field"), ignore_xpm))
 {
     m_ignore->setCheckable(true);
     m_binding.addWidget(*m_ignore, [this] { m_ignore->setChecked(m_binding.field()->isIgnored()); });

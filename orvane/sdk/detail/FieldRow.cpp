@@ -2,6 +2,7 @@
 
 #include "orvane/sdk/Edit.h"
 #include "orvane/sdk/Selected.h"
+#include "orvane/sdk/detail/WidgetTexts.h"
 
 #include "meridane/scene/fields/NxFieldContainer.h"
 #include "meridane/scene/fields/NxFieldData.h"
@@ -68,11 +69,10 @@ QToolButton* FieldRow::makeLabel(NxField& example)
     button->setObjectName(m_name + QStringLiteral("Label"));
     button->setAutoRaise(true);
     button->setText(symbol.isEmpty() ? m_name : QStringLiteral("%1 (%2)").arg(m_name, symbol));
-    QString tip = latin(facts.description);
-    if (!tip.isEmpty())
-        tip += u'\n';
-    tip += RowTexts::tr("Click to show the field's own editor.");
-    button->setToolTip(tip);
+    setWidgetTexts(*button, [button, description = latin(facts.description)] {
+        const QString hint = RowTexts::tr("Click to show the field's own editor.");
+        button->setToolTip(description.isEmpty() ? hint : description + u'\n' + hint);
+    });
     QObject::connect(button, &QToolButton::clicked, &m_field.context(), [this] {
         if (NxField* const field = m_field.field())
             select(*field);
@@ -131,8 +131,10 @@ QWidget* FieldRow::makeColor()
     layout->setContentsMargins(0, 0, 0, 0);
     auto* const button = new QToolButton;
     button->setObjectName(QStringLiteral("colorButton"));
-    button->setToolTip(RowTexts::tr("Choose a colour"));
-    button->setAccessibleName(button->toolTip());
+    setWidgetTexts(*button, [button] {
+        button->setToolTip(RowTexts::tr("Choose a colour"));
+        button->setAccessibleName(button->toolTip());
+    });
     m_field.addWidget(*button, [this, button] {
         QPixmap swatch(button->iconSize());
         swatch.fill(shownColor(static_cast<NxSFColor*>(m_field.field())->getValue()));
