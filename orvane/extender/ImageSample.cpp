@@ -107,7 +107,9 @@ QString imageDescription(const ImageBytes& image)
 {
     if (image.bytes == nullptr)
         return QCoreApplication::translate("ImageSample", "no image");
-    static constexpr std::array channels{"grey", "grey and opacity", "RGB", "RGBA"};
+    static constexpr std::array channels{QT_TRANSLATE_NOOP("ImageSample", "grey"),
+        QT_TRANSLATE_NOOP("ImageSample", "grey and opacity"), QT_TRANSLATE_NOOP("ImageSample", "RGB"),
+        QT_TRANSLATE_NOOP("ImageSample", "RGBA")};
     const char* const names = channels[static_cast<std::size_t>(std::clamp(image.components, 1, 4) - 1)];
     return QStringLiteral("%1 × %2, %3")
         .arg(image.width)

@@ -66,6 +66,8 @@ bool LiveTool::startServer()
         m_environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(m_scale));
     if (!m_locale.isEmpty())
         m_environment.insert(QStringLiteral("LC_ALL"), m_locale);
+    // The texts that tests look for, whatever the numbers of the desktop look like.
+    m_environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("en"));
     return startWindowManager();
 }
 

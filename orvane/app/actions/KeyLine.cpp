@@ -1,5 +1,7 @@
 #include "orvane/app/actions/KeyLine.h"
 
+#include "orvane/app/language/FollowLanguage.h"
+
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -21,8 +23,10 @@ KeyLine::KeyLine(QWidget* parent)
 {
     setReadOnly(true);
     setContextMenuPolicy(Qt::NoContextMenu);
-    setPlaceholderText(tr("Press the new key"));
-    setAccessibleName(tr("New key"));
+    orvane::followLanguage(this, [this] {
+        setPlaceholderText(tr("Press the new key"));
+        setAccessibleName(tr("New key"));
+    });
 }
 
 bool KeyLine::event(QEvent* event)

@@ -4,6 +4,7 @@
 #include "orvane/app/actions/KeyLine.h"
 #include "orvane/app/actions/KeysModel.h"
 #include "orvane/app/base/RowTable.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 
 #include <QDialogButtonBox>
@@ -25,21 +26,29 @@ KeysDialog::KeysDialog(QMainWindow* window, ActionKeys& keys)
     , m_filter(new QLineEdit(this))
     , m_view(new RowTable(this))
     , m_line(new KeyLine(this))
-    , m_remove(new QPushButton(tr("&No Key"), this))
-    , m_reset(new QPushButton(tr("&Reset"), this))
-    , m_resetAll(new QPushButton(tr("Reset &All"), this))
-    , m_takeOver(new QPushButton(tr("&Take Over"), this))
+    , m_remove(new QPushButton(this))
+    , m_reset(new QPushButton(this))
+    , m_resetAll(new QPushButton(this))
+    , m_takeOver(new QPushButton(this))
     , m_message(new QLabel(this))
 {
+    orvane::followLanguage(this, [this] {
+        m_remove->setText(tr("&No Key"));
+        m_reset->setText(tr("&Reset"));
+        m_resetAll->setText(tr("Reset &All"));
+        m_takeOver->setText(tr("&Take Over"));
+        setWindowTitle(tr("Keyboard Shortcuts"));
+    });
     setObjectName(QStringLiteral("keysDialog"));
-    setWindowTitle(tr("Keyboard Shortcuts"));
     const int unit = orvane::look::unit(fontMetrics());
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(2 * unit, 2 * unit, 2 * unit, 2 * unit);
     layout->setSpacing(2 * unit);
     m_filter->setObjectName(QStringLiteral("keysFilter"));
-    m_filter->setPlaceholderText(tr("Letters of an action, or a key such as Ctrl+O"));
-    m_filter->setAccessibleName(tr("Search the keys"));
+    orvane::followLanguage(this, [this] {
+        m_filter->setPlaceholderText(tr("Letters of an action, or a key such as Ctrl+O"));
+        m_filter->setAccessibleName(tr("Search the keys"));
+    });
     m_filter->setClearButtonEnabled(true);
     m_filter->installEventFilter(this);
     layout->addWidget(m_filter);
@@ -61,7 +70,7 @@ KeysDialog::~KeysDialog() = default;
 void KeysDialog::buildView()
 {
     m_view->setObjectName(QStringLiteral("keysTable"));
-    m_view->setAccessibleName(tr("Keys"));
+    orvane::followLanguage(this, [this] { m_view->setAccessibleName(tr("Keys")); });
     m_view->setModel(m_model);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     m_view->setTabKeyNavigation(false);

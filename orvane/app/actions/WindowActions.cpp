@@ -8,6 +8,7 @@
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/inspect/Inspectors.h"
 #include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
@@ -46,16 +47,18 @@ WindowActions::WindowActions(QMainWindow* window, Session& session, const Parts&
     , m_parts(parts)
     , m_actions(window, session.settings())
     , m_places(session.services(), session.document(), parts.recent, session.settings(), window)
-    , m_showKeys(add("help.keys", tr("&Keyboard Shortcuts…"), tr("Shows and changes the keys of all actions"),
-          {QKeySequence(QKeySequence::HelpContents), QKeySequence(Qt::CTRL | Qt::Key_K, Qt::CTRL | Qt::Key_S)}))
+    , m_showKeys(
+          add("help.keys", QT_TR_NOOP("&Keyboard Shortcuts…"), QT_TR_NOOP("Shows and changes the keys of all actions"),
+              {QKeySequence(QKeySequence::HelpContents), QKeySequence(Qt::CTRL | Qt::Key_K, Qt::CTRL | Qt::Key_S)}))
     , m_keys(window, session.settings())
 {
-    QAction* const places
-        = add("go.to", tr("&Go To…"), tr("Goes to a node, field, camera, bookmark or file by some letters of it"),
-            {QKeySequence(Qt::CTRL | Qt::Key_P)});
-    QAction* const palette = add("go.palette", tr("&Command Palette…"), tr("Runs any action by some letters of it"),
-        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P)});
-    QMenu* const menu = window->menuBar()->addMenu(tr("&Go"));
+    QAction* const places = add("go.to", QT_TR_NOOP("&Go To…"),
+        QT_TR_NOOP("Goes to a node, field, camera, bookmark or file by some letters of it"),
+        {QKeySequence(Qt::CTRL | Qt::Key_P)});
+    QAction* const palette = add("go.palette", QT_TR_NOOP("&Command Palette…"),
+        QT_TR_NOOP("Runs any action by some letters of it"), {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P)});
+    QMenu* const menu = window->menuBar()->addMenu(QString());
+    orvane::followLanguage(menu, [menu] { menu->setTitle(tr("&Go")); });
     menu->setObjectName(QStringLiteral("goMenu"));
     menu->addActions({places, palette});
     connect(places, &QAction::triggered, this, [this] { open(m_places); });
@@ -72,8 +75,8 @@ WindowActions::WindowActions(QMainWindow* window, Session& session, const Parts&
     connect(&m_places, &GoToSource::bookmarkChosen, &parts.bookmarks, &SceneBookmarks::goTo);
     connect(&m_places, &GoToSource::opened, &parts.files,
         [this](const QString& fileName) { m_parts.files.open(fileName); });
-    QAction* const menuOfSelection = add("window.contextMenu", tr("Context Menu"),
-        tr("Opens the menu of what is selected in the part of the window with the focus"),
+    QAction* const menuOfSelection = add("window.contextMenu", QT_TR_NOOP("Context Menu"),
+        QT_TR_NOOP("Opens the menu of what is selected in the part of the window with the focus"),
         {QKeySequence(Qt::SHIFT | Qt::Key_F10)});
     window->addAction(menuOfSelection);
     connect(menuOfSelection, &QAction::triggered, this, &WindowActions::openContextMenu);
@@ -82,12 +85,14 @@ WindowActions::WindowActions(QMainWindow* window, Session& session, const Parts&
 
 WindowActions::~WindowActions() = default;
 
-QAction* WindowActions::add(
-    const char* name, const QString& text, const QString& statusTip, const QList<QKeySequence>& keys)
+QAction* WindowActions::add(const char* name, const char* text, const char* statusTip, const QList<QKeySequence>& keys)
 {
-    auto* const action = new QAction(text, this);
+    auto* const action = new QAction(this);
+    orvane::followLanguage(action, [action, text, statusTip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(statusTip));
+    });
     action->setObjectName(QLatin1String(name));
-    action->setStatusTip(statusTip);
     action->setShortcuts(keys);
     return action;
 }

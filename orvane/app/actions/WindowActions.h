@@ -40,7 +40,7 @@ public:
     [[nodiscard]] QAction* keysAction() const noexcept { return m_showKeys; }
 
 private:
-    QAction* add(const char* name, const QString& text, const QString& statusTip, const QList<QKeySequence>& keys);
+    QAction* add(const char* name, const char* text, const char* statusTip, const QList<QKeySequence>& keys);
     void open(PickerSource& source);
     void goTo(const std::vector<NxNode*>& path, NxField* field);
     void openContextMenu();

@@ -84,12 +84,10 @@ HelperProcess::HelperProcess(const HelperOptions& options, const QStringList& ar
         m_patience.start();
         Q_EMIT inputTaken();
     });
-    connect(&m_patience, &QTimer::timeout, this, [this] {
-        fail(QStringLiteral("the import helper did nothing for %1 s and was stopped").arg(inSeconds(m_patience)));
-    });
-    connect(&m_deadline, &QTimer::timeout, this, [this] {
-        fail(QStringLiteral("the import helper wasn't ready after %1 s and was stopped").arg(inSeconds(m_deadline)));
-    });
+    connect(&m_patience, &QTimer::timeout, this,
+        [this] { fail(tr("the import helper did nothing for %1 s and was stopped").arg(inSeconds(m_patience))); });
+    connect(&m_deadline, &QTimer::timeout, this,
+        [this] { fail(tr("the import helper wasn't ready after %1 s and was stopped").arg(inSeconds(m_deadline))); });
 }
 
 HelperProcess::~HelperProcess()
@@ -167,12 +165,11 @@ void HelperProcess::takeOutputOfProcess()
             m_outputSize += m_output.size() - size;
         }
     } catch (const std::exception&) { // for want of memory, or of length
-        fail(QStringLiteral("what the import helper wrote doesn't fit in memory"));
+        fail(tr("what the import helper wrote doesn't fit in memory"));
         return;
     }
     if (m_outputSize > m_options.outputLimit)
-        fail(QStringLiteral("the import helper wrote more than %1 MiB and was stopped")
-                 .arg(m_options.outputLimit >> 20));
+        fail(tr("the import helper wrote more than %1 MiB and was stopped").arg(m_options.outputLimit >> 20));
     else if (m_outputSize > before)
         Q_EMIT outputGrew();
 }
@@ -195,7 +192,7 @@ void HelperProcess::takeEnd(int exitCode, QProcess::ExitStatus status)
     } else if (exitCode != 0 && !message.isEmpty()) {
         fail(message, true);
     } else if (exitCode != 0) {
-        fail(QStringLiteral("the import helper ended with status %1 and didn't say why").arg(exitCode));
+        fail(tr("the import helper ended with status %1 and didn't say why").arg(exitCode));
     } else {
         m_ended = true;
         m_patience.stop();
@@ -208,8 +205,7 @@ void HelperProcess::takeError(QProcess::ProcessError error)
 {
     // The other errors are reported when the process has ended.
     if (error == QProcess::FailedToStart && !m_ended)
-        fail(QStringLiteral("the import helper %1 can't be started: %2")
-                 .arg(m_options.program, m_process.errorString()));
+        fail(tr("the import helper %1 can't be started: %2").arg(m_options.program, m_process.errorString()));
 }
 
 void HelperProcess::fail(const QString& reason, bool byHelper)
@@ -223,8 +219,8 @@ QString HelperProcess::crashReason(int signal) const
 {
     // When memory is short, the kernel kills a process without a message.
     if (signal == SIGXCPU)
-        return QStringLiteral("the import helper needed too much processor time and was stopped");
+        return tr("the import helper needed too much processor time and was stopped");
     if (signal == SIGKILL)
-        return QStringLiteral("the import helper was killed, maybe for want of memory");
-    return QStringLiteral("the import helper crashed with signal %1").arg(signal);
+        return tr("the import helper was killed, maybe for want of memory");
+    return tr("the import helper crashed with signal %1").arg(signal);
 }

@@ -1,6 +1,7 @@
 #include "orvane/app/base/RowTable.h"
 
 #include "orvane/app/base/ApplicableMenu.h"
+#include "orvane/app/language/FollowLanguage.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -52,15 +53,21 @@ void RowTable::setColumns(std::vector<Column> columns)
 
 void RowTable::addCopyActions(const QString& area)
 {
-    auto* const copy = new QAction(tr("&Copy"), this);
+    auto* const copy = new QAction(this);
     copy->setObjectName(area + QStringLiteral(".copy"));
-    copy->setStatusTip(tr("Copies the selected rows as text"));
+    orvane::followLanguage(copy, [copy] {
+        copy->setText(tr("&Copy"));
+        copy->setStatusTip(tr("Copies the selected rows as text"));
+    });
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetShortcut);
     connect(copy, &QAction::triggered, this, [this] { Q_EMIT copyRequested(selectedRows()); });
-    auto* const copyAll = new QAction(tr("Copy &All"), this);
+    auto* const copyAll = new QAction(this);
     copyAll->setObjectName(area + QStringLiteral(".copyAll"));
-    copyAll->setStatusTip(tr("Copies all rows that are shown as text"));
+    orvane::followLanguage(copyAll, [copyAll] {
+        copyAll->setText(tr("Copy &All"));
+        copyAll->setStatusTip(tr("Copies all rows that are shown as text"));
+    });
     connect(copyAll, &QAction::triggered, this, [this] {
         std::vector<int> rows(static_cast<std::size_t>(model()->rowCount()));
         std::iota(rows.begin(), rows.end(), 0);

@@ -12,6 +12,7 @@
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/scene/SetFieldCommand.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/picture/PictureFile.h"
 #include "orvane/app/window/HandedFiles.h"
@@ -42,8 +43,9 @@ int WindowRun::run()
     }
     Session session(m_commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
     // Before the first widget, so that no text is set twice.
-    orvane::Language::use(
-        session.settings().value(QStringLiteral("look/language"), QString(orvane::Language::system)).toString());
+    SettingsStore& settings = SettingsStore::of(session.settings());
+    const QString language = QStringLiteral("look/language");
+    settings.follow(language, this, [&settings, language] { orvane::Language::use(settings.text(language)); });
     MainWindow window(session);
     prepare(session, window);
     if (!takesPicture())

@@ -104,6 +104,11 @@ void DifferenceModel::watchRow(int row)
         m_sensor.attach(field);
 }
 
+void DifferenceModel::forgetTexts()
+{
+    m_texts.clear();
+}
+
 void DifferenceModel::updateWatchedRow()
 {
     m_texts.clear();

@@ -31,6 +31,8 @@ public:
 
     /// Shows the rows that match a query for rows. They come in slices; `filtered` follows when all are there.
     void setFilter(const meridane::Query& query);
+    /// To be called when the language has changed.
+    void forgetTexts();
     /// Updates the row when the field of this scene changes; an invalid row ends that. One row at a time.
     void watchRow(int row);
 

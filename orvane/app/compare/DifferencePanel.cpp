@@ -7,6 +7,7 @@
 #include "orvane/app/compare/DifferenceText.h"
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/input/FilterLine.h"
+#include "orvane/app/language/FollowLanguage.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -65,6 +66,12 @@ DifferencePanel::DifferencePanel(JobBar& jobBar, QWidget* parent)
     m_pages->addWidget(m_text);
     m_pages->addWidget(m_view);
     layout->addLayout(m_pages, 1);
+    orvane::followLanguage(this, [this] {
+        m_model->forgetTexts();
+        if (m_shownText)
+            m_text->setText(m_shownText());
+        updateHeading();
+    });
     connect(m_filter, &FilterLine::queryChanged, m_model, &DifferenceModel::setFilter);
     connect(m_filter, &FilterLine::left, m_view, [this] { m_view->setFocus(); });
     connect(m_model, &DifferenceModel::filtered, this, &DifferencePanel::updateHeading);
@@ -83,21 +90,25 @@ void DifferencePanel::buildTopLine(QWidget* page)
     m_heading->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     line->addWidget(m_heading, 3);
     m_filter->setObjectName(QStringLiteral("comparisonFilter"));
-    m_filter->setToolTip(tr("Shows the rows that contain these words. not, or, brackets, \"texts with blanks\" and "
-                            "/regular expressions/ may be used."));
+    orvane::followLanguage(this, [this] {
+        m_filter->setToolTip(tr("Shows the rows that contain these words. not, or, brackets, \"texts with blanks\" and "
+                                "/regular expressions/ may be used."));
+    });
     m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
     m_filter->setMaximumWidth(fontMetrics().averageCharWidth() * 40);
     line->addWidget(m_filter, 1);
     m_again->setObjectName(QStringLiteral("compareAgain"));
-    m_again->setText(tr("Compare Again"));
-    m_again->setToolTip(tr("Compares the scene as it is now"));
+    orvane::followLanguage(this, [this] {
+        m_again->setText(tr("Compare Again"));
+        m_again->setToolTip(tr("Compares the scene as it is now"));
+    });
     line->addWidget(m_again);
 }
 
 void DifferencePanel::buildView()
 {
     m_view->setObjectName(QStringLiteral("differenceTable"));
-    m_view->setAccessibleName(tr("Differences"));
+    orvane::followLanguage(this, [this] { m_view->setAccessibleName(tr("Differences")); });
     m_view->setModel(m_model);
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->setColumns({{24, 0.36}, {16, 0.2}, {14, 0.22}, {}});
@@ -111,7 +122,7 @@ void DifferencePanel::clear()
     m_name.clear();
     m_copying.reset();
     m_model->setDifferences({});
-    showText(tr("File > Compare With compares the open scene with a file."));
+    showText([] { return tr("File > Compare With compares the open scene with a file."); });
     m_heading->clear();
     m_again->setEnabled(false);
 }
@@ -119,7 +130,7 @@ void DifferencePanel::clear()
 void DifferencePanel::showWorking(const QString& name)
 {
     clear();
-    showText(tr("Comparing with %1…").arg(orvane::shortLine(name)));
+    showText([name] { return tr("Comparing with %1…").arg(orvane::shortLine(name)); });
 }
 
 void DifferencePanel::showDifferences(NxSceneDifferences differences, const QString& name)
@@ -128,7 +139,7 @@ void DifferencePanel::showDifferences(NxSceneDifferences differences, const QStr
     m_name = name;
     m_model->setDifferences(std::move(differences));
     if (m_model->rowCount() == 0)
-        showText(tr("No differences: the scene and %1 are equal.").arg(orvane::shortLine(name)));
+        showText([name] { return tr("No differences: the scene and %1 are equal.").arg(orvane::shortLine(name)); });
     else
         m_pages->setCurrentWidget(m_view);
     m_filter->setEnabled(m_model->rowCount() > 0);
@@ -136,11 +147,12 @@ void DifferencePanel::showDifferences(NxSceneDifferences differences, const QStr
     updateHeading();
 }
 
-void DifferencePanel::showText(const QString& text)
+void DifferencePanel::showText(std::function<QString()> text)
 {
     m_filter->reset();
     m_filter->setEnabled(false);
-    m_text->setText(text);
+    m_shownText = std::move(text);
+    m_text->setText(m_shownText());
     m_pages->setCurrentWidget(m_text);
 }
 

@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -44,7 +45,7 @@ Q_SIGNALS:
 private:
     void buildView();
     void buildTopLine(QWidget* page);
-    void showText(const QString& text);
+    void showText(std::function<QString()> text);
     void updateHeading();
     void choose(int row);
     void copy(const std::vector<int>& rows);
@@ -56,6 +57,7 @@ private:
     FilterLine* m_filter;
     QToolButton* m_again;
     QLabel* m_text; // in place of rows
+    std::function<QString()> m_shownText; // of this label, in the language of the moment
     QStackedLayout* m_pages;
     QString m_name; // of the other file
     std::unique_ptr<CopyJob> m_copying;

@@ -8,6 +8,7 @@
 #include "orvane/app/fields/editors/CellServices.h"
 #include "orvane/app/fields/editors/ImageReplacement.h"
 #include "orvane/app/fields/values/FieldWriter.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
@@ -42,34 +43,38 @@ FieldActions::FieldActions(OrvServices& services, CellServices& cells, FieldTabl
     , m_writer(cells.writer())
     , m_model(model)
     , m_view(view)
-    , m_edit(add("field.edit", tr("&Edit"), tr("Opens the editor of the value"), {}, &FieldActions::edit))
-    , m_copy(add("field.copyValue", tr("&Copy Value"), tr("Copies the value as text"), {QKeySequence::Copy},
-          &FieldActions::copyValue))
-    , m_paste(add("field.pasteValue", tr("&Paste Value"), tr("Writes the value of the clipboard"),
+    , m_edit(
+          add("field.edit", QT_TR_NOOP("&Edit"), QT_TR_NOOP("Opens the editor of the value"), {}, &FieldActions::edit))
+    , m_copy(add("field.copyValue", QT_TR_NOOP("&Copy Value"), QT_TR_NOOP("Copies the value as text"),
+          {QKeySequence::Copy}, &FieldActions::copyValue))
+    , m_paste(add("field.pasteValue", QT_TR_NOOP("&Paste Value"), QT_TR_NOOP("Writes the value of the clipboard"),
           {QKeySequence::Paste}, &FieldActions::pasteValue))
-    , m_copyPath(add("field.copyPath", tr("Copy P&ath"), tr("Copies the path of the field in the scene"),
-          {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, &FieldActions::copyPath))
-    , m_copyAssignment(add("field.copyAssignment", tr("Copy as --&set Argument"),
-          tr("Copies path and value as an argument of the command line"), {Qt::CTRL | Qt::ALT | Qt::Key_S},
+    , m_copyPath(
+          add("field.copyPath", QT_TR_NOOP("Copy P&ath"), QT_TR_NOOP("Copies the path of the field in the scene"),
+              {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, &FieldActions::copyPath))
+    , m_copyAssignment(add("field.copyAssignment", QT_TR_NOOP("Copy as --&set Argument"),
+          QT_TR_NOOP("Copies path and value as an argument of the command line"), {Qt::CTRL | Qt::ALT | Qt::Key_S},
           &FieldActions::copyAssignment))
-    , m_copyAll(add("field.copyAll", tr("Copy A&ll Fields"), tr("Copies all values of the node"),
+    , m_copyAll(add("field.copyAll", QT_TR_NOOP("Copy A&ll Fields"), QT_TR_NOOP("Copies all values of the node"),
           {Qt::CTRL | Qt::ALT | Qt::Key_C}, &FieldActions::copyAll))
-    , m_copyGroup(add("field.copyGroup", tr("Copy Fields of This &Group"),
-          tr("Copies the values of this group of fields"), {Qt::CTRL | Qt::ALT | Qt::Key_G}, &FieldActions::copyGroup))
-    , m_pasteAll(add("field.pasteAll", tr("Paste All F&ields"),
-          tr("Writes all values of the clipboard to fields of the same name"), {Qt::CTRL | Qt::ALT | Qt::Key_V},
+    , m_copyGroup(add("field.copyGroup", QT_TR_NOOP("Copy Fields of This &Group"),
+          QT_TR_NOOP("Copies the values of this group of fields"), {Qt::CTRL | Qt::ALT | Qt::Key_G},
+          &FieldActions::copyGroup))
+    , m_pasteAll(add("field.pasteAll", QT_TR_NOOP("Paste All F&ields"),
+          QT_TR_NOOP("Writes all values of the clipboard to fields of the same name"), {Qt::CTRL | Qt::ALT | Qt::Key_V},
           &FieldActions::pasteAll))
-    , m_reset(add("field.reset", tr("&Reset to Default"), tr("Gives the field its default value"),
+    , m_reset(add("field.reset", QT_TR_NOOP("&Reset to Default"), QT_TR_NOOP("Gives the field its default value"),
           {Qt::CTRL | Qt::Key_Backspace}, &FieldActions::reset))
-    , m_ignore(add("field.ignore", tr("I&gnore"), tr("Makes the scene behave as if the field had its default"),
-          {Qt::CTRL | Qt::ALT | Qt::Key_I}, &FieldActions::toggleIgnored))
-    , m_favorite(add("field.favorite", tr("&Favorite"), tr("Keeps the field on top for all nodes of this class"),
-          {Qt::CTRL | Qt::Key_B}, nullptr))
-    , m_defer(add("field.writeWhenDone", tr("&Write When Done"),
-          tr("While you drag, step or use a popup, the value is only shown; it is written when you are done."),
+    , m_ignore(add("field.ignore", QT_TR_NOOP("I&gnore"),
+          QT_TR_NOOP("Makes the scene behave as if the field had its default"), {Qt::CTRL | Qt::ALT | Qt::Key_I},
+          &FieldActions::toggleIgnored))
+    , m_favorite(add("field.favorite", QT_TR_NOOP("&Favorite"),
+          QT_TR_NOOP("Keeps the field on top for all nodes of this class"), {Qt::CTRL | Qt::Key_B}, nullptr))
+    , m_defer(add("field.writeWhenDone", QT_TR_NOOP("&Write When Done"),
+          QT_TR_NOOP("While you drag, step or use a popup, the value is only shown; it is written when you are done."),
           {Qt::CTRL | Qt::ALT | Qt::Key_W}, nullptr))
-    , m_findSame(add("field.selectSameValue", tr("Select &Nodes with This Value"),
-          tr("Selects all nodes whose field has this value"), {Qt::CTRL | Qt::ALT | Qt::Key_F},
+    , m_findSame(add("field.selectSameValue", QT_TR_NOOP("Select &Nodes with This Value"),
+          QT_TR_NOOP("Selects all nodes whose field has this value"), {Qt::CTRL | Qt::ALT | Qt::Key_F},
           &FieldActions::findSameValue))
 {
     m_ignore->setCheckable(true);
@@ -81,12 +86,15 @@ FieldActions::FieldActions(OrvServices& services, CellServices& cells, FieldTabl
     connect(view, &QWidget::customContextMenuRequested, this, &FieldActions::showMenu);
 }
 
-QAction* FieldActions::add(const char* name, const QString& text, const QString& statusTip,
-    const QList<QKeySequence>& keys, void (FieldActions::*slot)())
+QAction* FieldActions::add(const char* name, const char* text, const char* statusTip, const QList<QKeySequence>& keys,
+    void (FieldActions::*slot)())
 {
-    auto* const action = new QAction(text, this);
+    auto* const action = new QAction(this);
+    orvane::followLanguage(action, [action, text, statusTip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(statusTip));
+    });
     action->setObjectName(QLatin1String(name));
-    action->setStatusTip(statusTip);
     action->setShortcuts(keys);
     action->setShortcutContext(Qt::WidgetShortcut); // not in the editors of its cells
     if (slot != nullptr)

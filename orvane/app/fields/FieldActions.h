@@ -33,7 +33,7 @@ Q_SIGNALS:
     void nodesFound(const std::vector<NxNode*>& nodes);
 
 private:
-    QAction* add(const char* name, const QString& text, const QString& statusTip, const QList<QKeySequence>& keys,
+    QAction* add(const char* name, const char* text, const char* statusTip, const QList<QKeySequence>& keys,
         void (FieldActions::*slot)());
     void showMenu(const QPoint& place);
     void update();

@@ -28,10 +28,9 @@ namespace {
 constexpr quint32 formatVersion = 1;
 const QString ignoredWord = QStringLiteral("ignored ");
 
-QString fieldClipboardText(const char* text)
-{
-    return QCoreApplication::translate("FieldClipboard", text);
-}
+struct FieldClipboardTexts {
+    Q_DECLARE_TR_FUNCTIONS(FieldClipboard)
+};
 
 ClipboardField clipboardField(const NxField& field)
 {
@@ -139,11 +138,11 @@ std::vector<ClipboardField> clipboardFields(const QMimeData& data)
 Result<> pasteValue(FieldWriter& writer, const FieldSet& fields, const QMimeData& data)
 {
     if (fields.isEmpty())
-        return Failure{fieldClipboardText("Choose the field to paste to.")};
+        return Failure{FieldClipboardTexts::tr("Choose the field to paste to.")};
     const std::vector<ClipboardField> own
         = data.hasFormat(fieldMimeType()) ? ownFields(data.data(fieldMimeType())) : std::vector<ClipboardField>();
     if (own.size() > 1) {
-        return Failure{fieldClipboardText(
+        return Failure{FieldClipboardTexts::tr(
             "The clipboard has %1 fields, not one value. Paste All Fields sets those that the node has.")
                            .arg(own.size())};
     }
@@ -151,13 +150,13 @@ Result<> pasteValue(FieldWriter& writer, const FieldSet& fields, const QMimeData
         return writer.setText(fields, toQString(own.front().text));
     const QString text = plainText(data);
     if (text.isEmpty() && own.empty())
-        return Failure{fieldClipboardText("The clipboard has no text.")};
+        return Failure{FieldClipboardTexts::tr("The clipboard has no text.")};
     const auto value = pastedValue(fields.first(), text);
     if (value)
         return writer.setText(fields, toQString(value.value()));
     if (own.empty())
         return Failure{value.error()};
-    return Failure{fieldClipboardText("The clipboard has the value of %1, a field of type %2. %3")
+    return Failure{FieldClipboardTexts::tr("The clipboard has the value of %1, a field of type %2. %3")
                        .arg(own.front().name, own.front().type, value.error())};
 }
 
@@ -166,7 +165,7 @@ Result<QString> pasteFields(
 {
     const std::vector<ClipboardField> copied = clipboardFields(data);
     if (copied.empty())
-        return Failure{fieldClipboardText("The clipboard has no fields. Copy All Fields copies those of a node.")};
+        return Failure{FieldClipboardTexts::tr("The clipboard has no fields. Copy All Fields copies those of a node.")};
     std::vector<FieldWriter::Item> items;
     QStringList missing;
     for (const ClipboardField& field : copied) {
@@ -178,14 +177,14 @@ Result<QString> pasteFields(
             missing += field.name;
     }
     if (items.empty())
-        return Failure{fieldClipboardText("None of the fields on the clipboard is a field of %1.").arg(nodes)};
+        return Failure{FieldClipboardTexts::tr("None of the fields on the clipboard is a field of %1.").arg(nodes)};
     if (const auto result
-        = writer.setAll(items, fieldClipboardText("Paste %1 fields to %2").arg(items.size()).arg(nodes));
+        = writer.setAll(items, FieldClipboardTexts::tr("Paste %1 fields to %2").arg(items.size()).arg(nodes));
         !result)
         return Failure{result.error()};
     if (missing.isEmpty())
         return QString();
-    return fieldClipboardText("%1 fields were pasted. %2 has no field %3.")
+    return FieldClipboardTexts::tr("%1 fields were pasted. %2 has no field %3.")
         .arg(items.size())
         .arg(nodes, shortLine(missing.join(QStringLiteral(", "))));
 }

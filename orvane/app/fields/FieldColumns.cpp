@@ -3,6 +3,7 @@
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/fields/FieldTableSettings.h"
 #include "orvane/app/fields/MarkDelegate.h"
+#include "orvane/app/language/FollowLanguage.h"
 
 #include <QAction>
 #include <QEvent>
@@ -27,14 +28,16 @@ FieldColumns::FieldColumns(QTreeView* view, const FieldTableModel& model, FieldT
     , m_view(view)
     , m_model(model)
     , m_settings(settings)
-    , m_showType(new QAction(tr("Show &Types"), this))
+    , m_showType(new QAction(this))
 {
+    orvane::followLanguage(this, [this] { m_showType->setText(tr("Show &Types")); });
     const int chosenType = settings.columnWidth(FieldTableModel::TypeColumn);
     const int usualType = usualTypeLetters * view->fontMetrics().averageCharWidth();
     view->setColumnWidth(FieldTableModel::TypeColumn, chosenType > 0 ? chosenType : usualType);
     view->setColumnHidden(FieldTableModel::TypeColumn, !settings.isTypeShown());
     m_showType->setObjectName(QStringLiteral("field.showType"));
-    m_showType->setStatusTip(tr("Shows the column with the types of the fields"));
+    orvane::followLanguage(
+        this, [this] { m_showType->setStatusTip(tr("Shows the column with the types of the fields")); });
     m_showType->setCheckable(true);
     m_showType->setChecked(settings.isTypeShown());
     connect(m_showType, &QAction::toggled, this, [this](bool shown) {

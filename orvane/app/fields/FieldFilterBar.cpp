@@ -1,6 +1,7 @@
 #include "orvane/app/fields/FieldFilterBar.h"
 
 #include "orvane/app/input/FilterLine.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 
 #include <QHBoxLayout>
@@ -19,14 +20,17 @@ FieldFilterBar::FieldFilterBar(QWidget* parent)
     layout->addWidget(m_changedOnly);
 
     m_line->setObjectName(QStringLiteral("fieldFilter"));
-    m_line->setAccessibleName(tr("Filter the fields"));
-    m_line->setPlaceholderText(tr("Filter by name, type or value"));
-    m_line->setToolTip(tr("Letters of the name or the type in their order, words of the value, or a query: f:radius, "
-                          "t:Vec3f, >0.5, =true, ~text, changed, ignored, not, or, brackets, /regular expressions/."));
+    orvane::followLanguage(this, [this] {
+        m_line->setAccessibleName(tr("Filter the fields"));
+        m_line->setPlaceholderText(tr("Filter by name, type or value"));
+        m_line->setToolTip(
+            tr("Letters of the name or the type in their order, words of the value, or a query: f:radius, "
+               "t:Vec3f, >0.5, =true, ~text, changed, ignored, not, or, brackets, /regular expressions/."));
+        m_changedOnly->setText(tr("Changed"));
+        m_changedOnly->setToolTip(tr("Show only fields that differ from their defaults."));
+        m_changedOnly->setAccessibleName(tr("Show only changed fields"));
+    });
     m_changedOnly->setObjectName(QStringLiteral("changedFieldsOnly"));
-    m_changedOnly->setText(tr("Changed"));
-    m_changedOnly->setToolTip(tr("Show only fields that differ from their defaults."));
-    m_changedOnly->setAccessibleName(tr("Show only changed fields"));
     m_changedOnly->setCheckable(true);
     QFont bold = font();
     bold.setBold(true); // as the rows that it shows

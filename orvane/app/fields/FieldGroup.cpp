@@ -11,10 +11,9 @@
 
 namespace {
 
-QString fieldGroupText(const char* text)
-{
-    return QCoreApplication::translate("FieldGroup", text);
-}
+struct FieldGroupTexts {
+    Q_DECLARE_TR_FUNCTIONS(FieldGroup)
+};
 
 QString className(const NxType& type)
 {
@@ -31,6 +30,19 @@ int depthOf(NxType type)
 }
 
 } // namespace
+
+QString FieldGroup::title() const
+{
+    switch (kind) {
+    case Kind::Favorites:
+        return FieldGroupTexts::tr("Favorites");
+    case Kind::Unknown:
+        return FieldGroupTexts::tr("Unknown fields");
+    case Kind::Class:
+        break;
+    }
+    return key;
+}
 
 int FieldGroup::changedCount() const
 {
@@ -67,28 +79,25 @@ std::vector<std::unique_ptr<FieldGroup>> fieldGroups(
     const std::vector<std::unique_ptr<FieldRow>>& rows, const QSet<QString>& favorites)
 {
     std::vector<std::unique_ptr<FieldGroup>> groups;
-    const auto group = [&groups](FieldGroup::Kind kind, const QString& title, const QString& key) -> FieldGroup& {
+    const auto group = [&groups](FieldGroup::Kind kind, const QString& key) -> FieldGroup& {
         const auto found = std::ranges::find_if(
             groups, [&](const auto& candidate) { return candidate->kind == kind && candidate->key == key; });
         if (found != groups.end())
             return **found;
-        groups.push_back(std::make_unique<FieldGroup>(FieldGroup{kind, title, key, {}, {}}));
+        groups.push_back(std::make_unique<FieldGroup>(FieldGroup{kind, key, {}, {}}));
         return *groups.back();
     };
     FieldGroup* latest = nullptr; // neighbours are mostly of one class
     NxType latestType;
     for (const auto& row : rows) {
         if (row->fields().isEmpty()) {
-            group(FieldGroup::Kind::Unknown, fieldGroupText("Unknown fields"), QStringLiteral("?"))
-                .rows.push_back(row.get());
+            group(FieldGroup::Kind::Unknown, QStringLiteral("?")).rows.push_back(row.get());
         } else if (!favorites.isEmpty() && favorites.contains(favoriteKey(*row))) {
-            group(FieldGroup::Kind::Favorites, fieldGroupText("Favorites"), QStringLiteral("*"))
-                .rows.push_back(row.get());
+            group(FieldGroup::Kind::Favorites, QStringLiteral("*")).rows.push_back(row.get());
         } else {
             if (latest == nullptr || row->declaringType() != latestType) {
                 latestType = row->declaringType();
-                const QString name = className(latestType);
-                latest = &group(FieldGroup::Kind::Class, name, name);
+                latest = &group(FieldGroup::Kind::Class, className(latestType));
             }
             latest->rows.push_back(row.get());
         }

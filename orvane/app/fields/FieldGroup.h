@@ -13,11 +13,12 @@ struct FieldGroup {
     enum class Kind { Favorites, Class, Unknown };
 
     Kind kind = Kind::Class;
-    QString title;
-    QString key; ///< by which the group is remembered; doesn't depend on the language
+    QString key; ///< by which the group is remembered: the name of the class, or a mark that is none
     std::vector<FieldRow*> rows;
     std::vector<FieldRow*> shown; ///< those of them that pass the filter
 
+    /// In the language of the moment.
+    [[nodiscard]] QString title() const;
     /// How many of the rows have a value that isn't the default.
     [[nodiscard]] int changedCount() const;
 };

@@ -14,6 +14,7 @@
 #include "orvane/app/fields/cells/ValueDelegate.h"
 #include "orvane/app/fields/editors/CellServices.h"
 #include "orvane/app/input/InputMessage.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/tree/NodeIcons.h"
 
@@ -70,6 +71,10 @@ FieldPanel::FieldPanel(OrvServices& services, AppSettings& settings, QWidget* pa
     });
     m_model->setWriter(m_writer);
     setFocusProxy(m_view);
+    orvane::followLanguage(this, [this] {
+        updateTexts();
+        updateHeading();
+    });
 }
 
 // An editor that is still open in the view ends its edit through the writer.
@@ -124,7 +129,9 @@ void FieldPanel::buildColumns()
 void FieldPanel::buildHint()
 {
     auto* hintLayout = new QVBoxLayout(m_hint);
-    auto* hint = new QLabel(tr("Select a node in the view or the scene tree to see its fields."), m_hint);
+    auto* hint = new QLabel(m_hint);
+    orvane::followLanguage(
+        hint, [hint] { hint->setText(tr("Select a node in the view or the scene tree to see its fields.")); });
     hint->setAlignment(Qt::AlignCenter);
     hint->setWordWrap(true);
     hint->setForegroundRole(QPalette::PlaceholderText);
@@ -221,13 +228,15 @@ void FieldPanel::unfoldGroups()
         const QModelIndex group = m_model->index(row, 0);
         m_view->setExpanded(group, isFiltered || !m_settings.isFolded(m_model->group(group)->key));
     }
-    const bool isEmpty = m_model->node() != nullptr && m_model->rowCount() == 0;
-    if (isEmpty) {
-        const QString reason = m_model->nodeCount() > 1 ? tr("These nodes have no field in common.")
-                                                        : tr("Nodes of this class have no fields.");
-        m_nothing->setText(isFiltered ? tr("No field fits the filter.") : reason);
-    }
-    m_nothing->setVisible(isEmpty);
+    m_nothing->setVisible(m_model->node() != nullptr && m_model->rowCount() == 0);
+    updateTexts();
+}
+
+void FieldPanel::updateTexts()
+{
+    const QString reason = m_model->nodeCount() > 1 ? tr("These nodes have no field in common.")
+                                                    : tr("Nodes of this class have no fields.");
+    m_nothing->setText(m_filter->isOn() ? tr("No field fits the filter.") : reason);
 }
 
 void FieldPanel::foldingChanged(const QModelIndex& index, bool folded)

@@ -78,6 +78,7 @@ private:
     void connectView();
     void applyFilter();
     void unfoldGroups();
+    void updateTexts();
     void foldingChanged(const QModelIndex& index, bool folded);
     void useMark(FieldMark mark, const QModelIndex& index);
     /// Changes which rows there are, and keeps the row of the current field selected.

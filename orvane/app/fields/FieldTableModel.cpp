@@ -285,7 +285,7 @@ QVariant FieldTableModel::data(const QModelIndex& index, int role) const
 QVariant FieldTableModel::groupData(const FieldGroup& group, int column, int role) const
 {
     if (role == Qt::DisplayRole && column == NameColumn)
-        return group.title;
+        return group.title();
     if (role == Qt::BackgroundRole)
         return QGuiApplication::palette().color(QPalette::Window);
     if (role == FieldRoles::ChangedRole)

@@ -1,6 +1,7 @@
 #include "orvane/app/fields/FieldTableView.h"
 
 #include "orvane/app/fields/FieldTableModel.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 
 #include <QHeaderView>
@@ -12,7 +13,7 @@ FieldTableView::FieldTableView(QWidget* parent)
     : QTreeView(parent)
 {
     setObjectName(QStringLiteral("fieldTable"));
-    setAccessibleName(tr("Fields"));
+    orvane::followLanguage(this, [this] { setAccessibleName(tr("Fields")); });
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(EditKeyPressed); // a click or a typed character edits by the delegate of the values

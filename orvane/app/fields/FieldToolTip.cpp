@@ -19,19 +19,18 @@ namespace {
 
 constexpr qsizetype valueCharacters = 200;
 
-QString fieldToolTipText(const char* text)
-{
-    return QCoreApplication::translate("FieldToolTip", text);
-}
+struct FieldToolTipTexts {
+    Q_DECLARE_TR_FUNCTIONS(FieldToolTip)
+};
 
 QStringList factLines(const NxField& field)
 {
     const NxFieldFacts& facts = meridane::factsOf(field);
     QStringList lines;
     if (const QString unit = unitText(facts.unit); !unit.isEmpty())
-        lines += fieldToolTipText("Unit: %1").arg(unit);
+        lines += FieldToolTipTexts::tr("Unit: %1").arg(unit);
     if (const QString range = rangeText(field, facts); !range.isEmpty())
-        lines += fieldToolTipText("Range: %1").arg(range);
+        lines += FieldToolTipTexts::tr("Range: %1").arg(range);
     return lines;
 }
 
@@ -44,13 +43,13 @@ QStringList valueLines(const FieldRow& row)
     const NxField* const original = data->getDefault(data->getIndex(node, &field));
     QStringList lines;
     if (row.isMixed())
-        lines += fieldToolTipText("The %1 nodes have different values.").arg(row.fields().count());
+        lines += FieldToolTipTexts::tr("The %1 nodes have different values.").arg(row.fields().count());
     else
-        lines += fieldToolTipText("Value: %1").arg(beginningOf(field, valueCharacters));
+        lines += FieldToolTipTexts::tr("Value: %1").arg(beginningOf(field, valueCharacters));
     if (!row.isChanged())
-        lines += fieldToolTipText("This is the default.");
+        lines += FieldToolTipTexts::tr("This is the default.");
     else if (original != nullptr)
-        lines += fieldToolTipText("Default: %1").arg(beginningOf(*original, valueCharacters));
+        lines += FieldToolTipTexts::tr("Default: %1").arg(beginningOf(*original, valueCharacters));
     return lines;
 }
 
@@ -59,15 +58,16 @@ QStringList valueLines(const FieldRow& row)
 QString fieldToolTip(const FieldRow& row)
 {
     if (row.first() == nullptr)
-        return fieldToolTipText("The class of this node has no such field. It is kept and written back as it was.");
+        return FieldToolTipTexts::tr(
+            "The class of this node has no such field. It is kept and written back as it was.");
     QStringList lines;
     if (const auto description = meridane::factsOf(*row.first()).description; !description.empty())
         lines += nodeDescription(description);
-    lines += fieldToolTipText("Type: %1").arg(row.type());
+    lines += FieldToolTipTexts::tr("Type: %1").arg(row.type());
     lines += factLines(*row.first());
     lines += valueLines(row);
     if (row.isIgnored())
-        lines += fieldToolTipText("Ignored: the scene takes no notice of this value.");
+        lines += FieldToolTipTexts::tr("Ignored: the scene takes no notice of this value.");
     return plainToolTip(lines.join(u'\n'));
 }
 
@@ -75,25 +75,25 @@ QString groupToolTip(const FieldGroup& group)
 {
     switch (group.kind) {
     case FieldGroup::Kind::Favorites:
-        return fieldToolTipText("The fields of this class that have a star.");
+        return FieldToolTipTexts::tr("The fields of this class that have a star.");
     case FieldGroup::Kind::Unknown:
-        return fieldToolTipText(
+        return FieldToolTipTexts::tr(
             "The class of this node has no such fields. They are kept and written back as they were.");
     case FieldGroup::Kind::Class:
         break;
     }
-    return plainToolTip(fieldToolTipText("The fields that the class %1 declares.").arg(group.title));
+    return plainToolTip(FieldToolTipTexts::tr("The fields that the class %1 declares.").arg(group.title()));
 }
 
 QString marksText(const FieldRow& row, const FieldGroup& group)
 {
     QStringList marks;
     if (row.isChanged())
-        marks += fieldToolTipText("changed");
+        marks += FieldToolTipTexts::tr("changed");
     if (row.isIgnored())
-        marks += fieldToolTipText("ignored");
+        marks += FieldToolTipTexts::tr("ignored");
     if (group.kind == FieldGroup::Kind::Favorites)
-        marks += fieldToolTipText("favorite");
+        marks += FieldToolTipTexts::tr("favorite");
     return marks.join(QStringLiteral(", "));
 }
 

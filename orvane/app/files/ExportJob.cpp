@@ -62,8 +62,8 @@ void ExportJob::start()
     const QFileInfo file(fileName());
     if (file.suffix().isEmpty() || file.completeBaseName().isEmpty()) {
         const QString message
-            = QStringLiteral("%1: the name of a model needs a format behind its dot and something before it, as in "
-                             "model.glb")
+            = tr("%1: the name of a model needs a format behind its dot and something before it, as in "
+                 "model.glb")
                   .arg(fileName());
         QMetaObject::invokeMethod(
             this, [this, message] { fail(message); }, Qt::QueuedConnection);
@@ -119,7 +119,7 @@ void ExportJob::takeFiles()
         && std::all_of(files->begin(), files->end(),
             [&](const auto& file) { return file.name.starts_with(base + '.') || file.name.starts_with(base + '_'); });
     if (!usable) {
-        fail(QStringLiteral("%1: the import helper sent something that isn't a model").arg(fileName()));
+        fail(tr("%1: the import helper sent something that isn't a model").arg(fileName()));
         return;
     }
     m_files = std::move(*files);

@@ -9,10 +9,9 @@ namespace orvane {
 
 namespace {
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("FileFilters", text);
-}
+struct FileFiltersTexts {
+    Q_DECLARE_TR_FUNCTIONS(FileFilters)
+};
 
 QString pattern(std::string_view extension)
 {
@@ -43,18 +42,18 @@ QString exportFilter(const FileFormat& format)
 QStringList openFilters()
 {
     const QString scenes = pattern(SceneFormat::extension);
-    return {filter(translated("Scenes and models"), QStringList(scenes) + modelPatterns()),
-        filter(translated("Scenes"), {scenes}), translated("All files (*)")};
+    return {filter(FileFiltersTexts::tr("Scenes and models"), QStringList(scenes) + modelPatterns()),
+        filter(FileFiltersTexts::tr("Scenes"), {scenes}), FileFiltersTexts::tr("All files (*)")};
 }
 
 QStringList importFilters()
 {
-    return {filter(translated("Models"), modelPatterns()), translated("All files (*)")};
+    return {filter(FileFiltersTexts::tr("Models"), modelPatterns()), FileFiltersTexts::tr("All files (*)")};
 }
 
 QStringList saveFilters()
 {
-    return {filter(translated("Scenes"), {pattern(SceneFormat::extension)})};
+    return {filter(FileFiltersTexts::tr("Scenes"), {pattern(SceneFormat::extension)})};
 }
 
 QStringList exportFilters()

@@ -4,6 +4,7 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/files/RecentFiles.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/SceneDocument.h"
 
 #include <QAction>
@@ -19,50 +20,56 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     , m_flow(flow)
     , m_recent(recent)
     , m_document(document)
-    , m_menu(window->menuBar()->addMenu(tr("&File")))
+    , m_menu(window->menuBar()->addMenu(QString()))
 {
+    orvane::followLanguage(this, [this] { m_menu->setTitle(tr("&File")); });
     const QStyle* style = window->style();
-    m_new = addAction(tr("&New"), "file.new", tr("Starts an empty scene"));
+    m_new = addAction(QT_TR_NOOP("&New"), "file.new", QT_TR_NOOP("Starts an empty scene"));
     m_new->setShortcut(QKeySequence::New);
     m_new->setIcon(style->standardIcon(QStyle::SP_FileIcon));
     connect(m_new, &QAction::triggered, &flow, &FileFlow::newScene);
-    QAction* const newWindow
-        = addAction(tr("New Win&dow"), "file.newWindow", tr("Opens another window, with a program of its own"));
+    QAction* const newWindow = addAction(
+        QT_TR_NOOP("New Win&dow"), "file.newWindow", QT_TR_NOOP("Opens another window, with a program of its own"));
     newWindow->setShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_N));
     connect(newWindow, &QAction::triggered, this, [this] { Q_EMIT windowRequested({}); });
-    m_open = addAction(tr("&Open…"), "file.open", tr("Opens a scene or a model"));
+    m_open = addAction(QT_TR_NOOP("&Open…"), "file.open", QT_TR_NOOP("Opens a scene or a model"));
     m_open->setShortcut(QKeySequence::Open);
     m_open->setIcon(style->standardIcon(QStyle::SP_DialogOpenButton));
     connect(m_open, &QAction::triggered, &flow, &FileFlow::chooseFileToOpen);
-    m_recentMenu = m_menu->addMenu(tr("Open &Recent"));
+    m_recentMenu = m_menu->addMenu(QString());
+    orvane::followLanguage(this, [this] { m_recentMenu->setTitle(tr("Open &Recent")); });
     m_recentMenu->setObjectName(QStringLiteral("recentMenu"));
     m_menu->addSeparator();
-    m_save = addAction(tr("&Save"), "file.save", tr("Writes the scene to its file"));
+    m_save = addAction(QT_TR_NOOP("&Save"), "file.save", QT_TR_NOOP("Writes the scene to its file"));
     m_save->setShortcut(QKeySequence::Save);
     m_save->setIcon(style->standardIcon(QStyle::SP_DialogSaveButton));
     connect(m_save, &QAction::triggered, &flow, &FileFlow::save);
-    m_saveAs = addAction(tr("Save &As…"), "file.saveAs", tr("Writes the scene to another file, which becomes its own"));
+    m_saveAs = addAction(
+        QT_TR_NOOP("Save &As…"), "file.saveAs", QT_TR_NOOP("Writes the scene to another file, which becomes its own"));
     m_saveAs->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     connect(m_saveAs, &QAction::triggered, &flow, &FileFlow::saveAs);
-    m_reload = addAction(tr("Re&load from Disk"), "file.reload",
-        tr("Makes the scene equal to its file again; undo brings your changes back"));
+    m_reload = addAction(QT_TR_NOOP("Re&load from Disk"), "file.reload",
+        QT_TR_NOOP("Makes the scene equal to its file again; undo brings your changes back"));
     m_reload->setShortcut(QKeySequence(Qt::Key_F5));
     connect(m_reload, &QAction::triggered, &flow, [&flow] { flow.reload(); });
     m_menu->addSeparator();
-    QAction* import = addAction(tr("&Import…"), "file.import", tr("Adds the content of a file to the scene"));
+    QAction* import
+        = addAction(QT_TR_NOOP("&Import…"), "file.import", QT_TR_NOOP("Adds the content of a file to the scene"));
     import->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
     connect(import, &QAction::triggered, &flow, &FileFlow::chooseFileToImport);
-    m_export = addAction(tr("&Export…"), "file.export", tr("Writes the scene to a file of another format"));
+    m_export
+        = addAction(QT_TR_NOOP("&Export…"), "file.export", QT_TR_NOOP("Writes the scene to a file of another format"));
     m_export->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
     connect(m_export, &QAction::triggered, &flow, &FileFlow::chooseFileToExport);
-    m_compare = addAction(tr("Compare &With…"), "file.compare", tr("Shows how the scene differs from a file"));
+    m_compare = addAction(
+        QT_TR_NOOP("Compare &With…"), "file.compare", QT_TR_NOOP("Shows how the scene differs from a file"));
     m_compare->setShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_D));
     connect(m_compare, &QAction::triggered, &flow, &FileFlow::chooseFileToCompare);
     m_menu->addSeparator();
-    m_close = addAction(tr("&Close"), "file.close", tr("Closes the scene"));
+    m_close = addAction(QT_TR_NOOP("&Close"), "file.close", QT_TR_NOOP("Closes the scene"));
     m_close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
     connect(m_close, &QAction::triggered, &flow, &FileFlow::closeScene);
-    QAction* quit = addAction(tr("&Quit"), "file.quit", tr("Closes the window and ends the program"));
+    QAction* quit = addAction(QT_TR_NOOP("&Quit"), "file.quit", QT_TR_NOOP("Closes the window and ends the program"));
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     quit->setMenuRole(QAction::QuitRole);
     connect(quit, &QAction::triggered, window, &QWidget::close);
@@ -70,14 +77,17 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     connect(&recent, &RecentFiles::changed, this, &FileMenu::fillRecentMenu);
     connect(&document, &SceneDocument::sceneChanged, this, &FileMenu::updateActions);
     connect(&document, &SceneDocument::fileNameChanged, this, &FileMenu::updateActions);
-    fillRecentMenu();
-    updateActions();
+    orvane::followLanguage(this, [this] { fillRecentMenu(); });
+    orvane::followLanguage(this, [this] { updateActions(); });
 }
 
-QAction* FileMenu::addAction(const QString& text, const char* name, const QString& statusTip)
+QAction* FileMenu::addAction(const char* text, const char* name, const char* statusTip)
 {
-    QAction* action = m_menu->addAction(text);
-    action->setStatusTip(statusTip);
+    QAction* action = m_menu->addAction(QString());
+    orvane::followLanguage(action, [action, text, statusTip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(statusTip));
+    });
     action->setObjectName(QLatin1String(name));
     return action;
 }

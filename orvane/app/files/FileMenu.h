@@ -24,7 +24,7 @@ Q_SIGNALS:
     void windowRequested(const QString& fileName);
 
 private:
-    QAction* addAction(const QString& text, const char* name, const QString& statusTip);
+    QAction* addAction(const char* text, const char* name, const char* statusTip);
     void fillRecentMenu();
     void updateActions();
 

@@ -63,7 +63,7 @@ void ImportJob::takeOutput()
 {
     const std::string bytes = m_helper.takeOutput();
     if (m_reader) {
-        failForNoScene(QStringLiteral("there are bytes behind its end"));
+        failForNoScene(tr("there are bytes behind its end"));
         return;
     }
     m_parts.take(bytes);
@@ -112,7 +112,7 @@ void ImportJob::finishWhenAllIsDone()
 
 void ImportJob::failForNoScene(const QString& reason)
 {
-    failToImport(QStringLiteral("%1: the import helper sent something that isn't a scene: %2").arg(fileName(), reason));
+    failToImport(tr("%1: the import helper sent something that isn't a scene: %2").arg(fileName(), reason));
 }
 
 void ImportJob::failToImport(const QString& message)

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/files/FileJob.h"
+#include "orvane/app/language/FollowLanguage.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -29,7 +30,7 @@ JobBar::JobBar(QWidget* parent)
     m_progress->setMaximumHeight(fontMetrics().height() + 4);
     layout->addWidget(m_progress);
     m_cancel->setObjectName(QStringLiteral("cancelJob"));
-    m_cancel->setText(tr("Cancel"));
+    orvane::followLanguage(this, [this] { m_cancel->setText(tr("Cancel")); });
     layout->addWidget(m_cancel);
     connect(m_cancel, &QToolButton::clicked, this, &JobBar::cancel);
     m_timer.setSingleShot(true);

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/find/FindEdit.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 
 #include <QAction>
@@ -42,15 +43,20 @@ FindLine::FindLine(QWidget* parent)
     rows->addWidget(m_status);
 
     m_edit->setObjectName(QStringLiteral("findEdit"));
-    m_edit->setAccessibleName(tr("Find nodes"));
-    m_edit->setPlaceholderText(tr("Find nodes"));
+    orvane::followLanguage(this, [this] {
+        m_edit->setAccessibleName(tr("Find nodes"));
+        m_edit->setPlaceholderText(tr("Find nodes"));
+        m_edit->setToolTip(
+            tr("Words of the name or the class, or a query: t:Light, f:radius >1, changed, unused, missing, "
+               "not, or, brackets, /regular expressions/. Return goes to the next hit, Shift+Return to the "
+               "previous one, Alt+Return selects all."));
+    });
     m_edit->setClearButtonEnabled(true);
-    m_edit->setToolTip(tr("Words of the name or the class, or a query: t:Light, f:radius >1, changed, unused, missing, "
-                          "not, or, brackets, /regular expressions/. Return goes to the next hit, Shift+Return to the "
-                          "previous one, Alt+Return selects all."));
     m_menuButton->setText(QStringLiteral("\u22EF"));
-    m_menuButton->setToolTip(tr("Searches that are kept"));
-    m_menuButton->setAccessibleName(tr("Searches that are kept"));
+    orvane::followLanguage(this, [this] {
+        m_menuButton->setToolTip(tr("Searches that are kept"));
+        m_menuButton->setAccessibleName(tr("Searches that are kept"));
+    });
     m_menuButton->setPopupMode(QToolButton::InstantPopup);
     m_menuButton->setMenu(m_menu);
     m_menuButton->setFocusPolicy(Qt::TabFocus);

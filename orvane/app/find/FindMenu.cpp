@@ -4,6 +4,7 @@
 #include "orvane/app/find/FindEdit.h"
 #include "orvane/app/find/FindLine.h"
 #include "orvane/app/find/KeptSearches.h"
+#include "orvane/app/language/FollowLanguage.h"
 
 #include <QAction>
 #include <QInputDialog>
@@ -47,7 +48,7 @@ FindMenu::FindMenu(KeptSearches& kept, FindLine& line)
     , m_line(line)
 {
     connect(line.menu(), &QMenu::aboutToShow, this, &FindMenu::fill);
-    fill(); // so that the menu isn't empty, which has no shape
+    orvane::followLanguage(this, [this] { fill(); }); // so that the menu isn't empty, which has no shape
 }
 
 void FindMenu::fill()

@@ -6,6 +6,7 @@
 #include "orvane/app/find/FindLine.h"
 #include "orvane/app/find/FindMenu.h"
 #include "orvane/app/find/FoundNodes.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/NodeSelection.h"
@@ -55,7 +56,7 @@ TreeFinder::TreeFinder(
     connect(tree, &SceneTreePanel::selectionChanged, this, &TreeFinder::showState);
     // After the tree has the scene.
     connect(&session.document(), &SceneDocument::sceneChanged, this, &TreeFinder::restart, Qt::QueuedConnection);
-    showState();
+    orvane::followLanguage(this, [this] { showState(); });
 }
 
 TreeFinder::~TreeFinder()
@@ -64,24 +65,28 @@ TreeFinder::~TreeFinder()
     m_finder.disconnect(this);
 }
 
-QAction* TreeFinder::addAction(const char* name, const QString& text, const QString& tip, const QKeySequence& key)
+QAction* TreeFinder::addAction(const char* name, const char* text, const char* tip, const QKeySequence& key)
 {
-    auto* const action = new QAction(text, this);
+    auto* const action = new QAction(this);
+    orvane::followLanguage(action, [action, text, tip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(tip));
+    });
     action->setObjectName(QLatin1String(name));
-    action->setStatusTip(tip);
     action->setShortcut(key);
     return action;
 }
 
 void TreeFinder::addActions(QMainWindow* window)
 {
-    m_find = addAction("find.begin", tr("&Find Nodes"), tr("Searches the scene for nodes by name, class or value"),
-        QKeySequence::Find);
-    m_next = addAction("find.next", tr("Find Ne&xt"), tr("Selects the next hit of the search"), Qt::Key_F3);
-    m_previous = addAction(
-        "find.previous", tr("Find Pre&vious"), tr("Selects the previous hit of the search"), Qt::SHIFT | Qt::Key_F3);
-    m_all = addAction("find.selectAll", tr("Select All &Hits"), tr("Selects all nodes that the search has found"),
-        Qt::ALT | Qt::Key_Return);
+    m_find = addAction("find.begin", QT_TR_NOOP("&Find Nodes"),
+        QT_TR_NOOP("Searches the scene for nodes by name, class or value"), QKeySequence::Find);
+    m_next = addAction(
+        "find.next", QT_TR_NOOP("Find Ne&xt"), QT_TR_NOOP("Selects the next hit of the search"), Qt::Key_F3);
+    m_previous = addAction("find.previous", QT_TR_NOOP("Find Pre&vious"),
+        QT_TR_NOOP("Selects the previous hit of the search"), Qt::SHIFT | Qt::Key_F3);
+    m_all = addAction("find.selectAll", QT_TR_NOOP("Select All &Hits"),
+        QT_TR_NOOP("Selects all nodes that the search has found"), Qt::ALT | Qt::Key_Return);
     m_all->setShortcutContext(Qt::WidgetWithChildrenShortcut); // in the tree and the line
     m_tree->addAction(m_all);
     window->addActions({m_find, m_next, m_previous});

@@ -46,7 +46,7 @@ public:
     [[nodiscard]] QList<QAction*> actions() const { return {m_find, m_next, m_previous, m_all}; }
 
 private:
-    QAction* addAction(const char* name, const QString& text, const QString& tip, const QKeySequence& key);
+    QAction* addAction(const char* name, const char* text, const char* tip, const QKeySequence& key);
     void addActions(QMainWindow* window);
     void connectLine();
     void commitEdit();

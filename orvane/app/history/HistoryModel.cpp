@@ -3,6 +3,7 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/SliceClock.h"
 #include "orvane/app/base/UserLocale.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/tree/NodeIcons.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
@@ -36,6 +37,7 @@ HistoryModel::HistoryModel(OrvServices& services, QObject* parent)
     connect(&services.steps(), &OrvStepList::changed, this, &HistoryModel::follow);
     connect(&services.steps(), &OrvStepList::updated, this, &HistoryModel::updateRows);
     m_work.start(0, this);
+    orvane::followLanguage(this, [this] { m_texts.clear(); });
 }
 
 HistoryModel::~HistoryModel() = default;

@@ -7,6 +7,7 @@
 #include "orvane/app/history/PutBack.h"
 #include "orvane/app/history/StepTravel.h"
 #include "orvane/app/input/FilterLine.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/extender/OrvServices.h"
 #include "orvane/extender/OrvStepList.h"
@@ -39,13 +40,17 @@ HistoryPanel::HistoryPanel(OrvServices& services, StepTravel& travel, MessageBar
     , m_model(new HistoryModel(services, this))
     , m_view(new RowTable(this))
     , m_filter(new FilterLine(meridane::Query::Subject::Rows, this))
-    , m_goTo(new QAction(tr("&Go to This State"), this))
-    , m_putBack(new QAction(tr("&Put This Value Back"), this))
+    , m_goTo(new QAction(this))
+    , m_putBack(new QAction(this))
     , m_putBackButton(new QToolButton(this))
     , m_slider(new QSlider(Qt::Horizontal, this))
     , m_place(new QLabel(this))
     , m_memory(new QLabel(this))
 {
+    orvane::followLanguage(this, [this] {
+        m_goTo->setText(tr("&Go to This State"));
+        m_putBack->setText(tr("&Put This Value Back"));
+    });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -66,7 +71,7 @@ HistoryPanel::HistoryPanel(OrvServices& services, StepTravel& travel, MessageBar
     connect(&services.steps(), &OrvStepList::updated, this, updateSoon);
     connect(&travel, &StepTravel::ended, this, updateSoon);
     connect(m_model, &HistoryModel::filtered, this, updateSoon);
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
 HistoryPanel::~HistoryPanel() = default;
@@ -76,16 +81,21 @@ void HistoryPanel::buildTopLine(QWidget* page)
     auto* line = new QHBoxLayout(page);
     line->setContentsMargins(8, 4, 8, 4);
     m_filter->setObjectName(QStringLiteral("historyFilter"));
-    m_filter->setToolTip(
-        tr("Shows the steps that contain these words: in their name, or in a value. not, or, brackets, "
-           "\"texts with blanks\" and /regular expressions/ may be used."));
+    orvane::followLanguage(this, [this] {
+        m_filter->setToolTip(
+            tr("Shows the steps that contain these words: in their name, or in a value. not, or, brackets, "
+               "\"texts with blanks\" and /regular expressions/ may be used."));
+    });
     m_filter->setMaximumWidth(fontMetrics().averageCharWidth() * 50);
     connect(m_filter, &FilterLine::queryChanged, m_model, &HistoryModel::setFilter);
     connect(m_filter, &FilterLine::left, m_view, [this] { m_view->setFocus(); });
     line->addWidget(m_filter, 1);
     line->addStretch();
     m_memory->setObjectName(QStringLiteral("historyMemory"));
-    m_memory->setToolTip(tr("Beyond this limit the oldest steps are dropped. The preference ORVANE_HISTORY sets it."));
+    orvane::followLanguage(this, [this] {
+        m_memory->setToolTip(
+            tr("Beyond this limit the oldest steps are dropped. The preference ORVANE_HISTORY sets it."));
+    });
     line->addWidget(m_memory);
     m_putBackButton->setObjectName(QStringLiteral("putValueBack"));
     m_putBackButton->setDefaultAction(m_putBack);
@@ -95,7 +105,7 @@ void HistoryPanel::buildTopLine(QWidget* page)
 void HistoryPanel::buildView()
 {
     m_view->setObjectName(QStringLiteral("historyTable"));
-    m_view->setAccessibleName(tr("History"));
+    orvane::followLanguage(this, [this] { m_view->setAccessibleName(tr("History")); });
     m_view->setModel(m_model);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
     constexpr int stateCharacters = 15;
@@ -103,9 +113,12 @@ void HistoryPanel::buildView()
     m_view->setColumns({{stateCharacters}, {14, 0.44}, {8, 0.28}, {8, 0.28}, {timeCharacters}});
     m_view->choosesByClick();
     m_goTo->setObjectName(QStringLiteral("history.goTo"));
-    m_goTo->setStatusTip(tr("Undoes or redoes the steps up to the selected one"));
+    orvane::followLanguage(this, [this] {
+        m_goTo->setStatusTip(tr("Undoes or redoes the steps up to the selected one"));
+        m_putBack->setStatusTip(
+            tr("Writes the value from before the selected step, without undoing what came after it"));
+    });
     m_putBack->setObjectName(QStringLiteral("history.putBack"));
-    m_putBack->setStatusTip(tr("Writes the value from before the selected step, without undoing what came after it"));
     m_view->addActions({m_goTo, m_putBack});
     connect(m_view, &RowTable::rowChosen, this, &HistoryPanel::goToRow);
     connect(m_goTo, &QAction::triggered, this, [this] { goToRow(m_view->currentIndex().row()); });
@@ -119,8 +132,10 @@ void HistoryPanel::buildBottomLine(QWidget* page)
     auto* line = new QHBoxLayout(page);
     line->setContentsMargins(8, 4, 8, 4);
     m_slider->setObjectName(QStringLiteral("historySlider"));
-    m_slider->setAccessibleName(tr("Time"));
-    m_slider->setToolTip(tr("Goes through all states of the scene"));
+    orvane::followLanguage(this, [this] {
+        m_slider->setAccessibleName(tr("Time"));
+        m_slider->setToolTip(tr("Goes through all states of the scene"));
+    });
     connect(m_slider, &QSlider::valueChanged, &m_travel, &StepTravel::goTo);
     // The end of the travel may be behind the pointer.
     connect(m_slider, &QSlider::sliderReleased, this, &HistoryPanel::update);

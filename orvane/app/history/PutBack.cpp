@@ -28,10 +28,9 @@ using Kind = ChangeRecord::Kind;
 
 constexpr std::size_t noLimit = std::numeric_limits<std::size_t>::max();
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("PutBack", text);
-}
+struct PutBackTexts {
+    Q_DECLARE_TR_FUNCTIONS(PutBack)
+};
 
 /// The record of the value or the name that the step changed. An ignored flag that changed with the value stays.
 const ChangeRecord* recordOf(const OrvStepList& steps, int step)
@@ -66,7 +65,7 @@ Result<> putNameBack(OrvServices& services, const PastState::History& history, i
         name = node->getName();
     }
     if (name == node->getName())
-        return Failure{tr("The node has this name already.")};
+        return Failure{PutBackTexts::tr("The node has this name already.")};
     services.pushCommand(new RenameNodeCommand(node, name));
     return {};
 }
@@ -77,17 +76,17 @@ Result<> putValueBack(OrvServices& services, const PastState::History& history, 
     {
         const PastState past(history, *StepPlace::of(record), step, noLimit);
         if (!past.isReached())
-            return Failure{
-                tr("This value can't be read any more: the rows that the later steps changed aren't there.")};
+            return Failure{PutBackTexts::tr(
+                "This value can't be read any more: the rows that the later steps changed aren't there.")};
         const bool fits = meridane::withinMemory(record.field()->valueBytes(), [&] {
             older = record.field()->recordOfValue();
             return true;
         });
         if (!fits)
-            return Failure{tr("The older value doesn't fit in memory.")};
+            return Failure{PutBackTexts::tr("The older value doesn't fit in memory.")};
     }
     if (older->isSameAsNow())
-        return Failure{tr("The field has this value already.")};
+        return Failure{PutBackTexts::tr("The field has this value already.")};
     services.pushCommand(new ValueCommand(std::move(older)));
     return {};
 }
@@ -97,9 +96,9 @@ Result<> putValueBack(OrvServices& services, const PastState::History& history, 
 QString whyNotPutBack(const OrvStepList& steps, int step)
 {
     if (step < 0)
-        return tr("Choose a step that changed the value of a field.");
+        return PutBackTexts::tr("Choose a step that changed the value of a field.");
     if (steps.changes(step) == nullptr)
-        return tr("This step changed nothing.");
+        return PutBackTexts::tr("This step changed nothing.");
     if (recordOf(steps, step) != nullptr)
         return {};
     bool hasChildren = false;
@@ -109,9 +108,9 @@ QString whyNotPutBack(const OrvStepList& steps, int step)
         isFlagOnly = isFlagOnly && record->kind() == Kind::Ignored;
     }
     if (hasChildren)
-        return tr("This step changed which nodes are in the scene, not one value.");
-    return isFlagOnly ? tr("This step changed whether a field is ignored, not its value.")
-                      : tr("This step changed several values.");
+        return PutBackTexts::tr("This step changed which nodes are in the scene, not one value.");
+    return isFlagOnly ? PutBackTexts::tr("This step changed whether a field is ignored, not its value.")
+                      : PutBackTexts::tr("This step changed several values.");
 }
 
 Result<> putBack(OrvServices& services, const PastState::History& history, int step)
@@ -121,10 +120,10 @@ Result<> putBack(OrvServices& services, const PastState::History& history, int s
     const ChangeRecord& record = *recordOf(history.steps, step);
     if (!isInScene(record.node(), history.journal.scene())) {
         const QString name = shortLine(toQString(record.node().getName()));
-        return Failure{
-            tr("The node of this value, \"%1\", isn't in the scene any more. Go to a state in which it is, or "
-               "undo its removal.")
-                .arg(name)};
+        return Failure{PutBackTexts::tr(
+            "The node of this value, \"%1\", isn't in the scene any more. Go to a state in which it is, or "
+            "undo its removal.")
+                           .arg(name)};
     }
     return record.kind() == Kind::Name ? putNameBack(services, history, step, record)
                                        : putValueBack(services, history, step, record);

@@ -26,10 +26,9 @@ constexpr std::size_t mostRowsShown = 16;
 /// fraction of a millisecond.
 constexpr std::size_t mostRecords = 500;
 
-QString tr(const char* text, int count = -1)
-{
-    return QCoreApplication::translate("StepText", text, nullptr, count);
-}
+struct StepTextTexts {
+    Q_DECLARE_TR_FUNCTIONS(StepText)
+};
 
 /// Such as "3: 1 0 0": rows of a list, with the number that the first one has.
 QString rowsText(const NxMField& list, int row, std::size_t count, std::size_t number)
@@ -56,7 +55,7 @@ QString presentText(const ChangeRecord& record)
     case ChangeRecord::Kind::Name:
         return orvane::toQString(record.node().getName());
     case ChangeRecord::Kind::Ignored:
-        return record.field()->isIgnored() ? tr("ignored") : tr("used");
+        return record.field()->isIgnored() ? StepTextTexts::tr("ignored") : StepTextTexts::tr("used");
     default:
         return orvane::toQString(meridane::shortValue(*record.field(), nullptr, shownLength));
     }
@@ -104,8 +103,9 @@ StepText orvane::stepText(const PastState::History& history, int step)
     if (!onlyPlaceOf(*changes)) {
         const auto isOfChildren = [](const auto& record) { return record->kind() == ChangeRecord::Kind::Children; };
         return {{},
-            std::ranges::all_of(records, isOfChildren) ? QString()
-                                                       : tr("%1 changes").arg(orvane::countText(records.size()))};
+            std::ranges::all_of(records, isOfChildren)
+                ? QString()
+                : StepTextTexts::tr("%1 changes").arg(orvane::countText(records.size()))};
     }
     ChangeRecord& record = *records.front();
     if (records.size() > 1)

@@ -4,6 +4,7 @@
 #include "orvane/app/images/ImageFolders.h"
 #include "orvane/transfer/Picture.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -18,6 +19,10 @@
 #include <unistd.h>
 
 namespace {
+
+struct ImageFileTexts {
+    Q_DECLARE_TR_FUNCTIONS(ImageFile)
+};
 
 QString linkOf(int descriptor)
 {
@@ -38,7 +43,7 @@ ImageFile::ImageFile(const QString& fileName, const ImageFolders& folders)
 {
     const QString path = folders.pathOf(fileName);
     if (path.isEmpty())
-        fail(QStringLiteral("the scene has no folder that it could be in; save the scene first"));
+        fail(ImageFileTexts::tr("the scene has no folder that it could be in; save the scene first"));
     else if (!folders.contain(path))
         refuse(path);
     else
@@ -84,11 +89,11 @@ bool ImageFile::isUsable(int descriptor)
 {
     struct stat status { };
     if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || isMadeUp(descriptor))
-        fail(QStringLiteral("it isn't a regular file"));
+        fail(ImageFileTexts::tr("it isn't a regular file"));
     else if (status.st_size == 0)
-        fail(QStringLiteral("it is empty"));
+        fail(ImageFileTexts::tr("it is empty"));
     else if (static_cast<std::size_t>(status.st_size) > orvane::maxPictureFileSize)
-        fail(QStringLiteral("it is larger than %1 MiB").arg(orvane::maxPictureFileSize >> 20));
+        fail(ImageFileTexts::tr("it is larger than %1 MiB").arg(orvane::maxPictureFileSize >> 20));
     m_size = static_cast<std::size_t>(status.st_size);
     return m_problem.isEmpty();
 }

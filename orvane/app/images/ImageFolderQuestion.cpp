@@ -3,6 +3,7 @@
 #include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/AppSettings.h"
 #include "orvane/app/images/TextureFiles.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/messages/MessageBar.h"
 
 #include <QAction>
@@ -49,13 +50,16 @@ void ImageFolderQuestion::forgetFolders()
 
 QAction* ImageFolderQuestion::forgetAction()
 {
-    auto* const forget = new QAction(tr("Forget Allowed Image Folde&rs"), this);
+    auto* const forget = new QAction(this);
     forget->setObjectName(QStringLiteral("file.forgetImageFolders"));
-    forget->setStatusTip(tr("Takes back that scenes may refer to images in folders outside their own"));
     const auto enable = [this, forget] {
         orvane::setReason(*forget, allowedFolders().isEmpty() ? tr("No folder has been allowed.") : QString());
     };
-    enable();
+    orvane::followLanguage(forget, [forget, enable] {
+        forget->setText(tr("Forget Allowed Image Folde&rs"));
+        forget->setStatusTip(tr("Takes back that scenes may refer to images in folders outside their own"));
+        enable();
+    });
     connect(this, &ImageFolderQuestion::changed, forget, enable);
     connect(forget, &QAction::triggered, this, &ImageFolderQuestion::forgetFolders);
     return forget;

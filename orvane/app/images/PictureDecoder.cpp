@@ -59,7 +59,7 @@ void PictureDecoder::startHelper()
     connect(m_helper.get(), &HelperProcess::outputGrew, this, &PictureDecoder::takeReply);
     connect(m_helper.get(), &HelperProcess::failed, this, &PictureDecoder::takeFailure);
     connect(m_helper.get(), &HelperProcess::ended, this,
-        [this] { takeFailure(QStringLiteral("the import helper ended without a picture")); });
+        [this] { takeFailure(tr("the import helper ended without a picture")); });
     m_helper->start();
 }
 
@@ -85,7 +85,7 @@ void PictureDecoder::send()
     while (m_file != nullptr && m_file->position() < m_file->size() && m_helper->pendingInput() < enoughPending) {
         if (!m_file->read(bytes, portionSize)) {
             dropHelper(); // it waits for the rest
-            fail(QStringLiteral("it can't be read to its end"));
+            fail(tr("it can't be read to its end"));
             return;
         }
         m_helper->write(bytes);
@@ -102,12 +102,12 @@ void PictureDecoder::takeReply()
             state = m_reply.take(bytes);
     } catch (const std::bad_alloc&) {
         dropHelper();
-        fail(QStringLiteral("it doesn't fit in memory"));
+        fail(tr("it doesn't fit in memory"));
         return;
     }
     if (state == State::Broken) {
         dropHelper();
-        fail(QStringLiteral("the import helper sent something that isn't a picture"));
+        fail(tr("the import helper sent something that isn't a picture"));
     } else if (state == State::Refused) {
         ++m_served;
         fail(orvane::toQString(m_reply.reason()));

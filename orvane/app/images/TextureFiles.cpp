@@ -133,8 +133,7 @@ void TextureFiles::takeImage()
 {
     NxImage image = m_decoder.takeImage();
     if (image.width > largestSide || image.height > largestSide)
-        finish({NxImageState::Failed, {},
-            QStringLiteral("it is larger than %1 pixels a side").arg(largestSide).toStdString()});
+        finish({NxImageState::Failed, {}, tr("it is larger than %1 pixels a side").arg(largestSide).toStdString()});
     else
         finish({NxImageState::Loaded, std::move(image), {}});
 }

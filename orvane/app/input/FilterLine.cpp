@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/input/InputMessage.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/language/ToolkitText.h"
 #include "orvane/app/look/Look.h"
 
@@ -25,8 +26,10 @@ FilterLine::FilterLine(meridane::Query::Subject subject, QWidget* parent)
     : QLineEdit(parent)
     , m_subject(subject)
 {
-    setPlaceholderText(tr("Filter"));
-    setAccessibleName(tr("Filter"));
+    orvane::followLanguage(this, [this] {
+        setPlaceholderText(tr("Filter"));
+        setAccessibleName(tr("Filter"));
+    });
     setClearButtonEnabled(true);
     connect(this, &QLineEdit::textChanged, this, &FilterLine::follow);
 }

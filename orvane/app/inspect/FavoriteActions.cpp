@@ -5,6 +5,7 @@
 #include "orvane/app/inspect/FavoriteDelegate.h"
 #include "orvane/app/inspect/FavoriteNodes.h"
 #include "orvane/app/inspect/InspectIcons.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/app/tree/NodeIcons.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -20,21 +21,24 @@ FavoriteActions::FavoriteActions(FavoriteNodes& favorites, SceneTreePanel* tree,
     : QObject(window)
     , m_favorites(favorites)
     , m_tree(tree)
-    , m_toggle(new QAction(tr("Fa&vorite Node"), this))
+    , m_toggle(new QAction(this))
     , m_menu(new QMenu(window))
 {
+    orvane::followLanguage(this, [this] {
+        m_toggle->setText(tr("Fa&vorite Node"));
+        m_toggle->setStatusTip(tr("Marks the selected node with a star, and adds it to the list of favorites"));
+    });
     m_toggle->setObjectName(QStringLiteral("node.favorite"));
     m_toggle->setCheckable(true);
     m_toggle->setIcon(orvane::starIcon());
     m_toggle->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_B));
-    m_toggle->setStatusTip(tr("Marks the selected node with a star, and adds it to the list of favorites"));
     m_menu->setObjectName(QStringLiteral("favoriteNodes"));
     connect(m_toggle, &QAction::triggered, this, &FavoriteActions::toggle);
     connect(m_menu, &QMenu::aboutToShow, this, &FavoriteActions::list);
     connect(&favorites, &FavoriteNodes::changed, this, &FavoriteActions::update);
     connect(tree, &SceneTreePanel::selectionChanged, this, &FavoriteActions::update);
     tree->view()->setItemDelegate(new FavoriteDelegate(favorites, *tree->model(), tree->view()));
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
 void FavoriteActions::addTo(QToolBar* toolBar)

@@ -2,6 +2,7 @@
 
 #include "orvane/app/inspect/FavoriteModel.h"
 #include "orvane/app/inspect/FavoriteNodes.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
@@ -16,7 +17,7 @@ FavoriteStrip::FavoriteStrip(Session& session, const FavoriteNodes& favorites, S
     , m_tree(tree)
 {
     setObjectName(QStringLiteral("favoriteStrip"));
-    setAccessibleName(tr("Favorite Nodes"));
+    orvane::followLanguage(this, [this] { setAccessibleName(tr("Favorite Nodes")); });
     setModel(m_model);
     setFrameShape(QFrame::NoFrame);
     setEditTriggers(NoEditTriggers);

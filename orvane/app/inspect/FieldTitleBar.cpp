@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/inspect/InspectIcons.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 
 #include <QDockWidget>
@@ -16,8 +17,8 @@
 FieldTitleBar::FieldTitleBar(QDockWidget* dock)
     : QWidget(dock)
     , m_dock(dock)
-    , m_floatButton(addButton("dockFloatButton", tr("Float or dock")))
-    , m_closeButton(addButton("dockCloseButton", tr("Close")))
+    , m_floatButton(addButton("dockFloatButton", QT_TR_NOOP("Float or dock")))
+    , m_closeButton(addButton("dockCloseButton", QT_TR_NOOP("Close")))
     , m_padlock(orvane::closedPadlock())
 {
     setObjectName(QStringLiteral("fieldTitleBar"));
@@ -32,17 +33,19 @@ FieldTitleBar::FieldTitleBar(QDockWidget* dock)
     connect(dock, &QDockWidget::featuresChanged, this, &FieldTitleBar::updateButtons);
     connect(dock, &QWidget::windowTitleChanged, this, &FieldTitleBar::updateTexts);
     updateButtons();
-    updateTexts();
+    orvane::followLanguage(this, [this] { updateTexts(); });
 }
 
-QToolButton* FieldTitleBar::addButton(const char* name, const QString& text)
+QToolButton* FieldTitleBar::addButton(const char* name, const char* text)
 {
     auto* const button = new QToolButton(this);
     button->setObjectName(QLatin1String(name));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
-    button->setToolTip(text);
-    button->setAccessibleName(text);
+    orvane::followLanguage(button, [button, text] {
+        button->setToolTip(tr(text));
+        button->setAccessibleName(tr(text));
+    });
     return button;
 }
 

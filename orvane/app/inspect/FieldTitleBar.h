@@ -27,7 +27,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QToolButton* addButton(const char* name, const QString& text);
+    QToolButton* addButton(const char* name, const char* text);
     void updateButtons();
     void updateTexts();
     [[nodiscard]] int barHeight() const;

@@ -4,6 +4,7 @@
 #include "orvane/app/fields/FieldTableModel.h"
 #include "orvane/app/inspect/LockAction.h"
 #include "orvane/app/inspect/NodeLock.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -15,7 +16,7 @@
 #include <QKeyEvent>
 
 InspectorDock::InspectorDock(int number, Session& session, SceneTreePanel* tree, QWidget* parent)
-    : QDockWidget(tr("Inspector %1").arg(number), parent)
+    : QDockWidget(parent)
     , m_number(number)
     , m_session(session)
     , m_tree(tree)
@@ -24,6 +25,7 @@ InspectorDock::InspectorDock(int number, Session& session, SceneTreePanel* tree,
     , m_lockAction(new LockAction(
           *m_lock, [tree] { return tree->model()->path(tree->selected()); }, this))
 {
+    orvane::followLanguage(this, [this] { setWindowTitle(tr("Inspector %1").arg(m_number)); });
     setObjectName(QStringLiteral("inspectorDock%1").arg(number));
     m_lockAction->setObjectName(QStringLiteral("inspector.lock%1").arg(number));
     setAttribute(Qt::WA_DeleteOnClose);

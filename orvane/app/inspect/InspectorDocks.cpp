@@ -3,6 +3,7 @@
 #include "orvane/app/base/ActionState.h"
 #include "orvane/app/inspect/InspectorDock.h"
 #include "orvane/app/inspect/NodeLock.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
@@ -24,12 +25,16 @@ InspectorDocks::InspectorDocks(Session& session, SceneTreePanel* tree, QMainWind
     , m_session(session)
     , m_tree(tree)
     , m_window(window)
-    , m_newAction(new QAction(tr("New &Inspector"), this))
+    , m_newAction(new QAction(this))
 {
     m_newAction->setObjectName(QStringLiteral("inspector.new"));
     m_newAction->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_I));
-    m_newAction->setStatusTip(
-        tr("Opens a further table of fields, which stays on this node; %1 at most").arg(mostDocks));
+    orvane::followLanguage(this, [this] {
+        m_newAction->setText(tr("New &Inspector"));
+        m_newAction->setStatusTip(
+            tr("Opens a further table of fields, which stays on this node; %1 at most").arg(mostDocks));
+        update();
+    });
     connect(m_newAction, &QAction::triggered, this, &InspectorDocks::open);
 }
 
@@ -85,8 +90,7 @@ InspectorDock* InspectorDocks::add(int number)
         m_window->splitDockWidget(fields, dock, fields->width() >= enough ? Qt::Horizontal : Qt::Vertical);
     }
     dock->show();
-    orvane::setReason(*m_newAction,
-        m_docks.size() < mostDocks ? QString() : tr("There are %1 inspectors. Close one first.").arg(mostDocks));
+    update();
     Q_EMIT added(dock);
     return dock;
 }
@@ -95,9 +99,15 @@ void InspectorDocks::forget(const QObject* dock, int number)
 {
     // At this point of its destruction the object is only a QObject.
     m_docks.removeIf([dock](const InspectorDock* other) { return static_cast<const void*>(other) == dock; });
-    orvane::setReason(*m_newAction, {});
+    update();
     store();
     Q_EMIT removed(number);
+}
+
+void InspectorDocks::update()
+{
+    orvane::setReason(*m_newAction,
+        m_docks.size() < mostDocks ? QString() : tr("There are %1 inspectors. Close one first.").arg(mostDocks));
 }
 
 void InspectorDocks::store()

@@ -42,6 +42,7 @@ private:
     void open();
     InspectorDock* add(int number);
     void forget(const QObject* dock, int number);
+    void update();
     void store();
     [[nodiscard]] int freeNumber() const;
 

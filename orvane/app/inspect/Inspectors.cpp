@@ -14,6 +14,7 @@
 #include "orvane/app/inspect/NodeLock.h"
 #include "orvane/app/inspect/PlaceActions.h"
 #include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/Session.h"
@@ -61,7 +62,8 @@ Inspectors::~Inspectors() = default;
 
 void Inspectors::addToolBar()
 {
-    QToolBar* const toolBar = m_window->addToolBar(tr("Selection"));
+    QToolBar* const toolBar = m_window->addToolBar(QString());
+    orvane::followLanguage(toolBar, [toolBar] { toolBar->setWindowTitle(tr("Selection")); });
     toolBar->setObjectName(QStringLiteral("selectionToolBar"));
     m_places->addTo(toolBar);
     m_favoriteActions->addTo(toolBar);

@@ -3,6 +3,7 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/inspect/NodeLock.h"
+#include "orvane/app/language/FollowLanguage.h"
 
 #include <QBoxLayout>
 #include <QSignalBlocker>
@@ -16,11 +17,13 @@ LockAction::LockAction(NodeLock& lock, ShownPath shownPath, QObject* parent)
     , m_shownPath(std::move(shownPath))
 {
     setCheckable(true);
-    setText(tr("Lock Inspec&tor"));
-    setStatusTip(tr("Keeps fields and editors on this node while you browse on"));
+    orvane::followLanguage(this, [this] {
+        setText(tr("Lock Inspec&tor"));
+        setStatusTip(tr("Keeps fields and editors on this node while you browse on"));
+    });
     connect(this, &QAction::toggled, this, &LockAction::setLocked);
     connect(&lock, &NodeLock::changed, this, &LockAction::update);
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
 void LockAction::update()

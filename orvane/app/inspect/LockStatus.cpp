@@ -4,6 +4,7 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/inspect/NodeLock.h"
+#include "orvane/app/language/FollowLanguage.h"
 
 #include <QAction>
 #include <QKeySequence>
@@ -20,7 +21,7 @@ LockStatus::LockStatus(NodeLock& lock, const QAction* action, QWidget* parent)
     connect(this, &QToolButton::clicked, &lock, &NodeLock::unlock);
     connect(&lock, &NodeLock::changed, this, &LockStatus::update);
     connect(action, &QAction::changed, this, &LockStatus::update);
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
 void LockStatus::update()

@@ -5,6 +5,7 @@
 #include "orvane/app/fields/FieldClipboard.h"
 #include "orvane/app/find/FindEdit.h"
 #include "orvane/app/inspect/Inspectors.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/structure/ApplicableEdits.h"
@@ -51,20 +52,22 @@ NodeMenu::NodeMenu(Session& session, SceneTreePanel* tree, SceneView* view, Insp
     , m_edits(edits)
     , m_editActions(editActions)
     , m_writer(session.services())
-    , m_copyPath(add("node.copyPath", tr("Copy Pat&h"), tr("Copies the path of the selected node in the scene"),
-          Qt::CTRL | Qt::SHIFT | Qt::Key_C, &NodeMenu::copyPath))
-    , m_copyFields(add("node.copyFields", tr("Copy All F&ields"), tr("Copies the values of all fields of the node"),
-          Qt::CTRL | Qt::ALT | Qt::Key_C, &NodeMenu::copyFields))
-    , m_pasteFields(add("node.pasteFields", tr("Pa&ste All Fields"),
-          tr("Writes the values of the clipboard to the fields of the node"), Qt::CTRL | Qt::ALT | Qt::Key_V,
+    , m_copyPath(add("node.copyPath", QT_TR_NOOP("Copy Pat&h"),
+          QT_TR_NOOP("Copies the path of the selected node in the scene"), Qt::CTRL | Qt::SHIFT | Qt::Key_C,
+          &NodeMenu::copyPath))
+    , m_copyFields(add("node.copyFields", QT_TR_NOOP("Copy All F&ields"),
+          QT_TR_NOOP("Copies the values of all fields of the node"), Qt::CTRL | Qt::ALT | Qt::Key_C,
+          &NodeMenu::copyFields))
+    , m_pasteFields(add("node.pasteFields", QT_TR_NOOP("Pa&ste All Fields"),
+          QT_TR_NOOP("Writes the values of the clipboard to the fields of the node"), Qt::CTRL | Qt::ALT | Qt::Key_V,
           &NodeMenu::pasteFields))
-    , m_findClass(add("node.findClass", tr("&Find Nodes of This Class"),
-          tr("Searches the tree for nodes of the class of the selected node"), Qt::CTRL | Qt::SHIFT | Qt::Key_F,
+    , m_findClass(add("node.findClass", QT_TR_NOOP("&Find Nodes of This Class"),
+          QT_TR_NOOP("Searches the tree for nodes of the class of the selected node"), Qt::CTRL | Qt::SHIFT | Qt::Key_F,
           &NodeMenu::findClass))
-    , m_lock(add("inspector.lockOnNode", tr("Loc&k Inspector on This"),
-          tr("Keeps fields and editors on the node that is selected in the tree"), {}, &NodeMenu::lock))
-    , m_lookThrough(add("node.lookThrough", tr("Look Thro&ugh Camera"),
-          tr("Shows in the view what the selected camera sees"), {}, &NodeMenu::lookThrough))
+    , m_lock(add("inspector.lockOnNode", QT_TR_NOOP("Loc&k Inspector on This"),
+          QT_TR_NOOP("Keeps fields and editors on the node that is selected in the tree"), {}, &NodeMenu::lock))
+    , m_lookThrough(add("node.lookThrough", QT_TR_NOOP("Look Thro&ugh Camera"),
+          QT_TR_NOOP("Shows in the view what the selected camera sees"), {}, &NodeMenu::lookThrough))
 {
     // A click comes to the viewport, a key to the view.
     tree->view()->installEventFilter(this);
@@ -72,17 +75,20 @@ NodeMenu::NodeMenu(Session& session, SceneTreePanel* tree, SceneView* view, Insp
     connect(view, &SceneView::menuRequested, this,
         [this](const QPoint& place) { show(place, m_tree->selected().isValid()); });
     connect(tree, &SceneTreePanel::selectionChanged, this, &NodeMenu::update);
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
 NodeMenu::~NodeMenu() = default;
 
 QAction* NodeMenu::add(
-    const char* name, const QString& text, const QString& statusTip, const QKeySequence& key, void (NodeMenu::*run)())
+    const char* name, const char* text, const char* statusTip, const QKeySequence& key, void (NodeMenu::*run)())
 {
-    auto* const action = new QAction(text, this);
+    auto* const action = new QAction(this);
+    orvane::followLanguage(action, [action, text, statusTip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(statusTip));
+    });
     action->setObjectName(QLatin1String(name));
-    action->setStatusTip(statusTip);
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetShortcut);
     connect(action, &QAction::triggered, this, run);

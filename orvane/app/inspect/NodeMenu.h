@@ -36,8 +36,8 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    QAction* add(const char* name, const QString& text, const QString& statusTip, const QKeySequence& key,
-        void (NodeMenu::*run)());
+    QAction* add(
+        const char* name, const char* text, const char* statusTip, const QKeySequence& key, void (NodeMenu::*run)());
     void update();
     void show(const QPoint& globalPlace, bool isOnNode);
     void addNodeActions(QMenu& menu);

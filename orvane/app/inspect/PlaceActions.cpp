@@ -5,6 +5,7 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/NodeIcons.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -43,8 +44,8 @@ PlaceActions::PlaceActions(Session& session, SceneTreePanel* tree, SelectionLink
     , m_tree(tree)
     , m_link(link)
     , m_window(window)
-    , m_back(makeWay(Direction::Back, tr("Bac&k"), tr("Selects the node that was selected before")))
-    , m_forward(makeWay(Direction::Forward, tr("&Forward"), tr("Selects the node that Back has left")))
+    , m_back(makeWay(Direction::Back, QT_TR_NOOP("Bac&k"), QT_TR_NOOP("Selects the node that was selected before")))
+    , m_forward(makeWay(Direction::Forward, QT_TR_NOOP("&Forward"), QT_TR_NOOP("Selects the node that Back has left")))
 {
     m_back.action->setObjectName(QStringLiteral("selection.back"));
     m_back.action->setIcon(orvane::backArrow());
@@ -60,15 +61,18 @@ PlaceActions::PlaceActions(Session& session, SceneTreePanel* tree, SelectionLink
         update();
     });
     QCoreApplication::instance()->installEventFilter(this);
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
 PlaceActions::~PlaceActions() = default;
 
-PlaceActions::Way PlaceActions::makeWay(Direction direction, const QString& text, const QString& statusTip)
+PlaceActions::Way PlaceActions::makeWay(Direction direction, const char* text, const char* statusTip)
 {
-    const Way way{direction, new QAction(text, this), new QMenu(m_window)};
-    way.action->setStatusTip(statusTip);
+    const Way way{direction, new QAction(this), new QMenu(m_window)};
+    orvane::followLanguage(way.action, [action = way.action, text, statusTip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(statusTip));
+    });
     way.places->setToolTipsVisible(true);
     connect(way.action, &QAction::triggered, this, [this, direction] { go(direction); });
     connect(way.places, &QMenu::aboutToShow, this, [this, way] { listPlaces(way); });

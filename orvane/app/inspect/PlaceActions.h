@@ -39,7 +39,7 @@ private:
         QMenu* places;
     };
 
-    [[nodiscard]] Way makeWay(PlaceHistory::Direction direction, const QString& text, const QString& statusTip);
+    [[nodiscard]] Way makeWay(PlaceHistory::Direction direction, const char* text, const char* statusTip);
     void noteNode(NxNode* node);
     void noteField(NxField* field);
     void noteEdit();

@@ -5,9 +5,11 @@
 #include <QEvent>
 #include <QLocale>
 #include <QPointer>
+#include <QReadWriteLock>
 #include <QTranslator>
 
 #include <memory>
+#include <utility>
 
 // The application's library is linked into the program, which finds resources of such a library when it is told of
 // them.
@@ -30,14 +32,17 @@ public:
 
     void load(const QString& code)
     {
+        auto own = std::make_unique<QTranslator>();
+        auto ofQt = std::make_unique<QTranslator>();
+        if (code != english) {
+            static_cast<void>(own->load(QStringLiteral("orvane_") + code, folder));
+            // Not every language has them.
+            static_cast<void>(ofQt->load(QStringLiteral("qtbase_") + code, folder));
+        }
+        const QWriteLocker locker(&m_lock);
         m_code = code;
-        m_own = std::make_unique<QTranslator>();
-        m_qt = std::make_unique<QTranslator>();
-        if (code == english)
-            return;
-        static_cast<void>(m_own->load(QStringLiteral("orvane_") + code, folder));
-        // Not every language has them.
-        static_cast<void>(m_qt->load(QStringLiteral("qtbase_") + code, folder));
+        m_own = std::move(own);
+        m_qt = std::move(ofQt);
     }
 
     [[nodiscard]] QString code() const { return m_code; }
@@ -45,13 +50,19 @@ public:
     [[nodiscard]] QString translate(
         const char* context, const char* source, const char* disambiguation, int count) const override
     {
+        const QReadLocker locker(&m_lock);
         const QString text = m_own->translate(context, source, disambiguation, count);
         return text.isEmpty() ? m_qt->translate(context, source, disambiguation, count) : text;
     }
 
-    [[nodiscard]] bool isEmpty() const override { return m_own->isEmpty() && m_qt->isEmpty(); }
+    [[nodiscard]] bool isEmpty() const override
+    {
+        const QReadLocker locker(&m_lock);
+        return m_own->isEmpty() && m_qt->isEmpty();
+    }
 
 private:
+    mutable QReadWriteLock m_lock; // threads ask for texts of messages meanwhile
     QString m_code = english;
     std::unique_ptr<QTranslator> m_own = std::make_unique<QTranslator>();
     std::unique_ptr<QTranslator> m_qt = std::make_unique<QTranslator>();

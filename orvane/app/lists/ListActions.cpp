@@ -3,6 +3,7 @@
 #include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/ApplicableMenu.h"
 #include "orvane/app/base/UserLocale.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/lists/ListClipboard.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/lists/rows/ListEdits.h"
@@ -34,29 +35,30 @@ ListActions::ListActions(
     , m_edits(edits)
     , m_clipboard(clipboard)
     , m_messages(messages)
-    , m_insert(add("list.insert", tr("&Insert Rows"), Qt::Key_Insert, &ListActions::insert,
-          tr("Adds rows with default values before the selected ones")))
-    , m_duplicate(add("list.duplicate", tr("D&uplicate Rows"), Qt::CTRL | Qt::SHIFT | Qt::Key_D,
-          &ListActions::duplicate, tr("Adds copies of the selected rows behind them")))
-    , m_remove(add("list.remove", tr("&Delete Rows"), QKeySequence::Delete, &ListActions::remove,
-          tr("Removes the selected rows")))
-    , m_moveUp(add("list.moveUp", tr("Move &Up"), Qt::ALT | Qt::Key_Up, &ListActions::moveUp,
-          tr("Moves the selected rows one place up")))
-    , m_moveDown(add("list.moveDown", tr("Move D&own"), Qt::ALT | Qt::Key_Down, &ListActions::moveDown,
-          tr("Moves the selected rows one place down")))
+    , m_insert(add("list.insert", QT_TR_NOOP("&Insert Rows"), Qt::Key_Insert, &ListActions::insert,
+          QT_TR_NOOP("Adds rows with default values before the selected ones")))
+    , m_duplicate(add("list.duplicate", QT_TR_NOOP("D&uplicate Rows"), Qt::CTRL | Qt::SHIFT | Qt::Key_D,
+          &ListActions::duplicate, QT_TR_NOOP("Adds copies of the selected rows behind them")))
+    , m_remove(add("list.remove", QT_TR_NOOP("&Delete Rows"), QKeySequence::Delete, &ListActions::remove,
+          QT_TR_NOOP("Removes the selected rows")))
+    , m_moveUp(add("list.moveUp", QT_TR_NOOP("Move &Up"), Qt::ALT | Qt::Key_Up, &ListActions::moveUp,
+          QT_TR_NOOP("Moves the selected rows one place up")))
+    , m_moveDown(add("list.moveDown", QT_TR_NOOP("Move D&own"), Qt::ALT | Qt::Key_Down, &ListActions::moveDown,
+          QT_TR_NOOP("Moves the selected rows one place down")))
 {
     addSeparator();
-    m_cut = add("list.cut", tr("Cu&t Rows"), QKeySequence::Cut, &ListActions::cut,
-        tr("Copies the selected rows and removes them"));
-    m_copy = add("list.copy", tr("&Copy Cells"), QKeySequence::Copy, &ListActions::copy,
-        tr("Copies the selected cells as text"));
-    m_paste = add("list.paste", tr("&Paste Cells"), QKeySequence::Paste, &ListActions::paste,
-        tr("Writes the cells of the clipboard from the current cell on"));
+    m_cut = add("list.cut", QT_TR_NOOP("Cu&t Rows"), QKeySequence::Cut, &ListActions::cut,
+        QT_TR_NOOP("Copies the selected rows and removes them"));
+    m_copy = add("list.copy", QT_TR_NOOP("&Copy Cells"), QKeySequence::Copy, &ListActions::copy,
+        QT_TR_NOOP("Copies the selected cells as text"));
+    m_paste = add("list.paste", QT_TR_NOOP("&Paste Cells"), QKeySequence::Paste, &ListActions::paste,
+        QT_TR_NOOP("Writes the cells of the clipboard from the current cell on"));
     addSeparator();
-    m_fillLinear = add("list.fillLinear", tr("Fill &Evenly from First to Last"), {}, &ListActions::fillLinear,
-        tr("Gives the selected cells of a column values with equal steps between the first and the last of them"));
-    m_resize
-        = add("list.resize", tr("&Number of Rows…"), {}, &ListActions::resize, tr("Sets how many rows the list has"));
+    m_fillLinear = add("list.fillLinear", QT_TR_NOOP("Fill &Evenly from First to Last"), {}, &ListActions::fillLinear,
+        QT_TR_NOOP(
+            "Gives the selected cells of a column values with equal steps between the first and the last of them"));
+    m_resize = add("list.resize", QT_TR_NOOP("&Number of Rows…"), {}, &ListActions::resize,
+        QT_TR_NOOP("Sets how many rows the list has"));
     view->addActions(m_all);
     orvane::giveApplicableMenu(view);
     connect(view, &ListView::rowsDropped, this, &ListActions::moveTo);
@@ -65,15 +67,18 @@ ListActions::ListActions(
     connect(&model, &ListModel::listChanged, this, &ListActions::update);
     connect(&model, &ListModel::modelReset, this, &ListActions::update);
     connect(&model, &ListModel::listAboutToBeLeft, this, [this] { m_messages.clear(); });
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
-QAction* ListActions::add(const char* name, const QString& text, const QKeySequence& key, void (ListActions::*run)(),
-    const QString& statusTip)
+QAction* ListActions::add(
+    const char* name, const char* text, const QKeySequence& key, void (ListActions::*run)(), const char* statusTip)
 {
-    auto* const action = new QAction(text, this);
+    auto* const action = new QAction(this);
+    orvane::followLanguage(action, [action, text, statusTip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(statusTip));
+    });
     action->setObjectName(QLatin1String(name));
-    action->setStatusTip(statusTip);
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetShortcut);
     connect(action, &QAction::triggered, this, run);

@@ -30,8 +30,8 @@ public:
     [[nodiscard]] const QList<QAction*>& all() const noexcept { return m_all; }
 
 private:
-    QAction* add(const char* name, const QString& text, const QKeySequence& key, void (ListActions::*run)(),
-        const QString& statusTip);
+    QAction* add(
+        const char* name, const char* text, const QKeySequence& key, void (ListActions::*run)(), const char* statusTip);
     void addSeparator();
     void update();
     void insert();

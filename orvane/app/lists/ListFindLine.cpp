@@ -1,6 +1,7 @@
 #include "orvane/app/lists/ListFindLine.h"
 
 #include "orvane/app/input/InputMessage.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/lists/ShownRows.h"
 #include "orvane/app/lists/rows/ListModel.h"
@@ -21,14 +22,15 @@ ListFindLine::ListFindLine(ListModel& model, ListView& view, ShownRows& shown, Q
     line->setSpacing(2 * orvane::look::unit(fontMetrics()));
     constexpr int numberCharacters = 9;
     constexpr int rangeCharacters = 9;
-    m_goTo = addLine("listGoTo", tr("Go to row"),
-        tr("The number of a row, counted from 0; from the end of the list if it is negative. Several are selected by a "
-           "range such as 10:20."),
+    m_goTo = addLine("listGoTo", QT_TR_NOOP("Go to row"),
+        QT_TR_NOOP("The number of a row, counted from 0; from the end of the list if it is negative. Several are "
+                   "selected by a range such as 10:20."),
         numberCharacters);
-    m_range = addLine("listRange", tr("Range"),
-        tr("Shows the rows of a range: 0:5000, 10:, -5: for the last five, ::2 for every other one, ::-1 backwards"),
+    m_range = addLine("listRange", QT_TR_NOOP("Range"),
+        QT_TR_NOOP(
+            "Shows the rows of a range: 0:5000, 10:, -5: for the last five, ::2 for every other one, ::-1 backwards"),
         rangeCharacters);
-    m_filter = addLine("listFilter", tr("Filter"), QString(), 0);
+    m_filter = addLine("listFilter", QT_TR_NOOP("Filter"), nullptr, 0);
     connect(m_goTo, &QLineEdit::returnPressed, this, &ListFindLine::goToRow);
     connect(m_range, &QLineEdit::editingFinished, this, &ListFindLine::setRange);
     connect(m_filter, &QLineEdit::editingFinished, this, &ListFindLine::setFilter);
@@ -42,16 +44,19 @@ ListFindLine::ListFindLine(ListModel& model, ListView& view, ShownRows& shown, Q
         &shown, &ShownRows::failed, this, [this](const QString& message) { InputMessage::showFor(m_filter, message); });
     connect(&model, &ListModel::listAboutToBeLeft, this, &ListFindLine::clear);
     connect(&model, &ListModel::modelReset, this, &ListFindLine::nameColumns);
-    nameColumns();
+    orvane::followLanguage(this, [this] { nameColumns(); });
 }
 
-QLineEdit* ListFindLine::addLine(const char* name, const QString& title, const QString& toolTip, int characters)
+QLineEdit* ListFindLine::addLine(const char* name, const char* title, const char* toolTip, int characters)
 {
     auto* const edit = new QLineEdit(this);
     edit->setObjectName(QLatin1String(name));
-    edit->setPlaceholderText(title);
-    edit->setAccessibleName(title);
-    edit->setToolTip(toolTip);
+    orvane::followLanguage(edit, [edit, title, toolTip] {
+        edit->setPlaceholderText(tr(title));
+        edit->setAccessibleName(tr(title));
+        if (toolTip != nullptr)
+            edit->setToolTip(tr(toolTip));
+    });
     edit->setClearButtonEnabled(true);
     if (characters > 0)
         edit->setFixedWidth(characters * fontMetrics().averageCharWidth() + fontMetrics().height());

@@ -21,7 +21,7 @@ public:
     void beginFilter();
 
 private:
-    QLineEdit* addLine(const char* name, const QString& title, const QString& toolTip, int characters);
+    QLineEdit* addLine(const char* name, const char* title, const char* toolTip, int characters);
     void goToRow();
     void setRange();
     void setFilter();

@@ -4,6 +4,7 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/base/UserLocale.h"
 #include "orvane/app/files/JobBar.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/lists/ListActions.h"
 #include "orvane/app/lists/ListClipboard.h"
 #include "orvane/app/lists/ListDelegate.h"
@@ -69,7 +70,9 @@ ListPanel::ListPanel(OrvServices& services, AppSettings& settings, QWidget* pare
     setObjectName(QStringLiteral("listPanel"));
     m_view->setItemDelegate(m_delegate);
     new ListSelection(*m_model, m_view);
-    auto* const hint = new QLabel(tr("Select a list field, such as the positions of a mesh, to see its rows."), this);
+    auto* const hint = new QLabel(this);
+    orvane::followLanguage(
+        hint, [hint] { hint->setText(tr("Select a list field, such as the positions of a mesh, to see its rows.")); });
     hint->setAlignment(Qt::AlignCenter);
     hint->setWordWrap(true);
     hint->setForegroundRole(QPalette::PlaceholderText);
@@ -86,6 +89,7 @@ ListPanel::ListPanel(OrvServices& services, AppSettings& settings, QWidget* pare
     setFocusProxy(m_view);
     connectParts();
     followSelection();
+    orvane::followLanguage(this, [this] { updateCounts(); });
 }
 
 ListPanel::~ListPanel() = default;
@@ -103,7 +107,7 @@ QWidget* ListPanel::buildTop()
     line->setContentsMargins(2 * unit, unit, 2 * unit, unit);
     line->setSpacing(2 * unit);
     m_chooser->setObjectName(QStringLiteral("listChooser"));
-    m_chooser->setAccessibleName(tr("List"));
+    orvane::followLanguage(this, [this] { m_chooser->setAccessibleName(tr("List")); });
     m_chooser->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     line->addWidget(m_chooser);
     line->addWidget(m_find, 1);
@@ -112,15 +116,18 @@ QWidget* ListPanel::buildTop()
     addButton(line, actions->removeAction(), QString(QChar(0x2212)));
     addButton(line, actions->moveUpAction(), QString(QChar(0x2191)));
     addButton(line, actions->moveDownAction(), QString(QChar(0x2193)));
-    auto* const statistics = new QAction(tr("&Statistics"), this);
+    auto* const statistics = new QAction(this);
     statistics->setObjectName(QStringLiteral("list.showStatistics"));
-    statistics->setStatusTip(tr("Shows smallest, largest and mean values beside the rows"));
+    orvane::followLanguage(statistics, [statistics] {
+        statistics->setText(tr("&Statistics"));
+        statistics->setStatusTip(tr("Shows smallest, largest and mean values beside the rows"));
+    });
     statistics->setCheckable(true);
     statistics->setChecked(m_settings.value(listStatisticsKey, true).toBool());
     connect(statistics, &QAction::toggled, this, &ListPanel::showStatistics);
     auto* const menuButton = new QToolButton(top);
     menuButton->setObjectName(QStringLiteral("listMenuButton"));
-    menuButton->setText(tr("Rows"));
+    orvane::followLanguage(menuButton, [menuButton] { menuButton->setText(tr("Rows")); });
     menuButton->setPopupMode(QToolButton::InstantPopup);
     auto* const menu = new QMenu(menuButton);
     menu->addActions(actions->all());
@@ -135,13 +142,15 @@ QWidget* ListPanel::buildTop()
 void ListPanel::addButton(QHBoxLayout* line, QAction* action, const QString& text)
 {
     auto* const button = new QToolButton(this);
-    action->setIconText(text);
     button->setDefaultAction(action);
     button->setAutoRaise(true);
-    button->setAccessibleName(action->text().remove(u'&'));
-    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-    button->setToolTip(
-        keys.isEmpty() ? action->text().remove(u'&') : tr("%1 (%2)").arg(action->text().remove(u'&'), keys));
+    orvane::followLanguage(button, [button, action, text] {
+        action->setIconText(text);
+        button->setAccessibleName(action->text().remove(u'&'));
+        const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+        button->setToolTip(
+            keys.isEmpty() ? action->text().remove(u'&') : tr("%1 (%2)").arg(action->text().remove(u'&'), keys));
+    });
     line->addWidget(button);
 }
 
@@ -173,21 +182,24 @@ QWidget* ListPanel::buildBottom()
 
 void ListPanel::connectParts()
 {
-    const auto addKey = [this](const char* name, const QString& text, const QString& statusTip, const QKeySequence& key,
-                            const auto& run) {
-        auto* const action = new QAction(text, this);
-        action->setStatusTip(statusTip);
-        action->setObjectName(QLatin1String(name));
-        action->setShortcut(key);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, this, run);
-        addAction(action);
-    };
-    addKey("list.beginGoTo", tr("Go to Row"), tr("Types the number of a row to go to"), Qt::CTRL | Qt::Key_G,
-        [this] { m_find->beginGoTo(); });
-    addKey("list.beginFilter", tr("Filter Rows"), tr("Types what the shown rows contain"), QKeySequence::Find,
-        [this] { m_find->beginFilter(); });
-    addKey("list.beginSet", tr("Set Column"), tr("Types a formula for the values of a column"),
+    const auto addKey
+        = [this](const char* name, const char* text, const char* statusTip, const QKeySequence& key, const auto& run) {
+              auto* const action = new QAction(this);
+              orvane::followLanguage(action, [action, text, statusTip] {
+                  action->setText(tr(text));
+                  action->setStatusTip(tr(statusTip));
+              });
+              action->setObjectName(QLatin1String(name));
+              action->setShortcut(key);
+              action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+              connect(action, &QAction::triggered, this, run);
+              addAction(action);
+          };
+    addKey("list.beginGoTo", QT_TR_NOOP("Go to Row"), QT_TR_NOOP("Types the number of a row to go to"),
+        Qt::CTRL | Qt::Key_G, [this] { m_find->beginGoTo(); });
+    addKey("list.beginFilter", QT_TR_NOOP("Filter Rows"), QT_TR_NOOP("Types what the shown rows contain"),
+        QKeySequence::Find, [this] { m_find->beginFilter(); });
+    addKey("list.beginSet", QT_TR_NOOP("Set Column"), QT_TR_NOOP("Types a formula for the values of a column"),
         Qt::CTRL | Qt::Key_Equal, [this] { m_set->begin(); });
     connect(m_view->horizontalHeader(), &QHeaderView::sectionClicked, this, &ListPanel::sortBy);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ListPanel::updateCounts);

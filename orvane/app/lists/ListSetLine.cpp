@@ -2,6 +2,7 @@
 
 #include "orvane/app/files/JobBar.h"
 #include "orvane/app/input/InputMessage.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/lists/jobs/ApplyJob.h"
 #include "orvane/app/lists/rows/ListEdits.h"
@@ -27,22 +28,29 @@ ListSetLine::ListSetLine(ListModel& model, ListView& view, ListEdits& edits, Job
     auto* const line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(2 * orvane::look::unit(fontMetrics()));
-    auto* const label = new QLabel(tr("&Set"), this);
+    auto* const label = new QLabel(this);
+    orvane::followLanguage(label, [label] { label->setText(tr("&Set")); });
     label->setBuddy(m_formula);
     line->addWidget(label);
     m_column->setObjectName(QStringLiteral("listSetColumn"));
-    m_column->setAccessibleName(tr("Column"));
+    orvane::followLanguage(this, [this] { m_column->setAccessibleName(tr("Column")); });
     line->addWidget(m_column);
-    line->addWidget(new QLabel(tr("to"), this));
+    auto* const to = new QLabel(this);
+    orvane::followLanguage(to, [to] { to->setText(tr("to")); });
+    line->addWidget(to);
     m_formula->setObjectName(QStringLiteral("listSetFormula"));
-    m_formula->setAccessibleName(tr("Formula for the selected rows"));
-    m_formula->setPlaceholderText(tr("Formula"));
-    m_formula->setToolTip(tr("A number or a formula for the selected rows, such as x * 2 or i * 0.1. It knows the "
-                             "components by their names, and the number of the row as i."));
+    orvane::followLanguage(this, [this] {
+        m_formula->setAccessibleName(tr("Formula for the selected rows"));
+        m_formula->setPlaceholderText(tr("Formula"));
+        m_formula->setToolTip(tr("A number or a formula for the selected rows, such as x * 2 or i * 0.1. It knows the "
+                                 "components by their names, and the number of the row as i."));
+    });
     line->addWidget(m_formula, 1);
     m_button->setObjectName(QStringLiteral("listSetApply"));
-    m_button->setText(tr("Apply"));
-    m_button->setToolTip(tr("Sets the column in the selected rows; in all that are shown if none is selected"));
+    orvane::followLanguage(this, [this] {
+        m_button->setText(tr("Apply"));
+        m_button->setToolTip(tr("Sets the column in the selected rows; in all that are shown if none is selected"));
+    });
     line->addWidget(m_button);
     connect(m_button, &QToolButton::clicked, this, &ListSetLine::apply);
     connect(m_formula, &QLineEdit::returnPressed, this, &ListSetLine::apply);

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/UserLocale.h"
 #include "orvane/app/files/JobBar.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/lists/rows/ListModel.h"
 #include "orvane/app/look/Look.h"
@@ -48,8 +49,10 @@ ListStatistics::ListStatistics(ListModel& model, ListView& view, JobBar& jobBar,
     m_heading->setContentsMargins(2 * unit, unit, 2 * unit, unit);
     layout->addWidget(m_heading);
     m_table->setObjectName(QStringLiteral("listStatisticsTable"));
-    m_table->setAccessibleName(tr("Statistics"));
-    m_table->setHorizontalHeaderLabels({tr("Minimum"), tr("Maximum"), tr("Mean"), tr("NaN")});
+    orvane::followLanguage(this, [this] {
+        m_table->setAccessibleName(tr("Statistics"));
+        m_table->setHorizontalHeaderLabels({tr("Minimum"), tr("Maximum"), tr("Mean"), tr("NaN")});
+    });
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setFrameShape(QFrame::NoFrame);
     m_table->setShowGrid(false);

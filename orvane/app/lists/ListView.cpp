@@ -1,5 +1,6 @@
 #include "orvane/app/lists/ListView.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/lists/rows/ListModel.h"
 #include "orvane/app/look/Look.h"
 
@@ -28,7 +29,7 @@ ListView::ListView(ListModel& model, QWidget* parent)
     , m_model(model)
 {
     setObjectName(QStringLiteral("listTable"));
-    setAccessibleName(tr("Rows of the list"));
+    orvane::followLanguage(this, [this] { setAccessibleName(tr("Rows of the list")); });
     setModel(&model);
     setFrameShape(QFrame::NoFrame);
     setAlternatingRowColors(true);

@@ -1,5 +1,6 @@
 #include "orvane/app/log/LogView.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/log/LogDelegate.h"
 #include "orvane/app/look/Look.h"
 
@@ -19,7 +20,7 @@ LogView::LogView(LogModel& model, LogDelegate& delegate, LogLinks& links, QWidge
     , m_links(links)
 {
     setObjectName(QStringLiteral("logTable"));
-    setAccessibleName(tr("Log"));
+    orvane::followLanguage(this, [this] { setAccessibleName(tr("Log")); });
     setModel(&model);
     setItemDelegateForColumn(LogModel::TextColumn, &delegate);
     setSelectionMode(ExtendedSelection);

@@ -2,6 +2,7 @@
 
 #include "orvane/app/input/InputMessage.h"
 #include "orvane/app/input/NumberLine.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/manners/EditorDocks.h"
 #include "orvane/app/manners/LineWatch.h"
 
@@ -20,7 +21,7 @@ LineCover::LineCover(const EditorLine& target, OrvServices& services, const QStr
     , m_input(new NumberLine(target.line()))
 {
     m_input->setObjectName(QStringLiteral("numberCover"));
-    m_input->setAccessibleName(tr("Number or formula"));
+    orvane::followLanguage(this, [this] { m_input->setAccessibleName(tr("Number or formula")); });
     m_input->setToolTip(
         tr("Takes %1, or a formula in which x is the present value. Up and Down step, with Shift ten times "
            "as far, with Ctrl a tenth.")

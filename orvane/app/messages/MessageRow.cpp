@@ -1,5 +1,6 @@
 #include "orvane/app/messages/MessageRow.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/messages/MessageText.h"
 
@@ -60,8 +61,10 @@ MessageRow::MessageRow(MessageSeverity severity, const QString& text, const QStr
     button->setObjectName(QStringLiteral("closeMessage"));
     button->setAutoRaise(true);
     button->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    button->setToolTip(tr("Close this message"));
-    button->setAccessibleName(button->toolTip());
+    orvane::followLanguage(button, [button] {
+        button->setToolTip(tr("Close this message"));
+        button->setAccessibleName(button->toolTip());
+    });
     connect(button, &QToolButton::clicked, this, &MessageRow::closed);
     m_layout->addWidget(button, 0, Qt::AlignTop);
 }

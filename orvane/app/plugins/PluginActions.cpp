@@ -1,5 +1,6 @@
 #include "orvane/app/plugins/PluginActions.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/plugins/PluginLoader.h"
 #include "orvane/app/plugins/PluginsDialog.h"
@@ -14,9 +15,12 @@ PluginActions::PluginActions(PluginLoader& loader, MessageBar& messages, QMenu& 
     , m_messages(messages)
     , m_window(window)
 {
-    auto* const page = new QAction(tr("&Plug-ins..."), this);
+    auto* const page = new QAction(this);
     page->setObjectName(QStringLiteral("help.plugins"));
-    page->setStatusTip(tr("Shows the plug-ins, what is wrong with them, and a switch for each"));
+    orvane::followLanguage(page, [page] {
+        page->setText(tr("&Plug-ins..."));
+        page->setStatusTip(tr("Shows the plug-ins, what is wrong with them, and a switch for each"));
+    });
     connect(page, &QAction::triggered, this, &PluginActions::showPage);
     menu.insertAction(menu.actions().value(menu.actions().size() - 1), page); // "About" stays the last one
     connect(&loader, &PluginLoader::changed, this, &PluginActions::ask);

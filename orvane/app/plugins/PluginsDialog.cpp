@@ -1,5 +1,6 @@
 #include "orvane/app/plugins/PluginsDialog.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/plugins/PluginLoader.h"
 #include "orvane/app/plugins/PluginModel.h"
@@ -30,12 +31,12 @@ PluginsDialog::PluginsDialog(PluginLoader& loader, QWidget* parent)
     , m_details(new QLabel(this))
 {
     setObjectName(QStringLiteral("pluginsDialog"));
-    setWindowTitle(tr("Plug-ins"));
+    orvane::followLanguage(this, [this] { setWindowTitle(tr("Plug-ins")); });
     auto* const hint = new QLabel(
         tr("A plug-in that is switched off isn't loaded from the next start on. Load Now takes effect at once."), this);
     hint->setWordWrap(true);
     m_view->setObjectName(QStringLiteral("plugins"));
-    m_view->setAccessibleName(tr("Plug-ins"));
+    orvane::followLanguage(this, [this] { m_view->setAccessibleName(tr("Plug-ins")); });
     m_view->setModel(m_model);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -51,7 +52,7 @@ PluginsDialog::PluginsDialog(PluginLoader& loader, QWidget* parent)
     m_details->setTextFormat(Qt::PlainText);
     m_details->setWordWrap(true);
     m_details->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_details->setAccessibleName(tr("About the selected plug-in"));
+    orvane::followLanguage(this, [this] { m_details->setAccessibleName(tr("About the selected plug-in")); });
     m_details->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     // There may be a message for each fault, which together are higher than a screen.
     auto* const details = new QScrollArea(this);

@@ -5,6 +5,7 @@
 #include "orvane/app/images/ImageHeader.h"
 #include "orvane/transfer/Picture.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 #include <algorithm>
@@ -21,6 +22,10 @@
 namespace orvane {
 namespace {
 
+struct FileLookTexts {
+    Q_DECLARE_TR_FUNCTIONS(FileLook)
+};
+
 using State = NxFileFinding::State;
 
 NxFileFinding unreadable(const QString& reason)
@@ -30,7 +35,7 @@ NxFileFinding unreadable(const QString& reason)
 
 NxFileFinding unreadable()
 {
-    return unreadable(QStringLiteral("can't be read: %1").arg(qt_error_string(errno)));
+    return unreadable(FileLookTexts::tr("can't be read: %1").arg(qt_error_string(errno)));
 }
 
 /// A descriptor that is closed at the end.
@@ -63,12 +68,12 @@ NxFileFinding lookAtImage(int descriptor)
         return bytes;
     });
     if (!size)
-        return unreadable(QStringLiteral("is in none of the image formats that can be read"));
+        return unreadable(FileLookTexts::tr("is in none of the image formats that can be read"));
     if (size->width == 0 || size->height == 0)
-        return unreadable(QStringLiteral("is broken: it doesn't state the size of its image"));
+        return unreadable(FileLookTexts::tr("is broken: it doesn't state the size of its image"));
     if (!isUsablePictureSize(size->width, size->height))
         return unreadable(
-            QStringLiteral("has %1 by %2 pixels; images of more than %3 pixels, or %4 a side, aren't read")
+            FileLookTexts::tr("has %1 by %2 pixels; images of more than %3 pixels, or %4 a side, aren't read")
                 .arg(size->width)
                 .arg(size->height)
                 .arg(maxPicturePixels)
@@ -91,15 +96,15 @@ NxFileFinding lookForFile(const QString& path, bool isImage)
     struct stat status { };
     const bool isRegular = ::fstat(looked.get(), &status) == 0 && S_ISREG(status.st_mode);
     if (!isRegular || (isImage && ImageFile::isMadeUp(looked.get())))
-        return unreadable(QStringLiteral("isn't a regular file"));
+        return unreadable(FileLookTexts::tr("isn't a regular file"));
     if (status.st_size == 0)
-        return unreadable(QStringLiteral("is empty"));
+        return unreadable(FileLookTexts::tr("is empty"));
     if (::access(name.c_str(), R_OK) != 0)
         return unreadable();
     if (!isImage)
         return {};
     if (static_cast<std::size_t>(status.st_size) > maxPictureFileSize)
-        return unreadable(QStringLiteral("is larger than %1 MiB").arg(maxPictureFileSize >> 20));
+        return unreadable(FileLookTexts::tr("is larger than %1 MiB").arg(maxPictureFileSize >> 20));
     // The file that was looked at, not another one that has got its name meanwhile.
     const std::string link = "/proc/self/fd/" + std::to_string(looked.get());
     const Descriptor opened(::open(link.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
@@ -115,7 +120,7 @@ NxFileFinder fileFinder(const QString& folder)
         if (isNew) {
             const QString name = toQString(path);
             if (folder.isEmpty() && QDir::isRelativePath(name))
-                found->second = unreadable(QStringLiteral("is in no folder, since the scene isn't saved yet"));
+                found->second = unreadable(FileLookTexts::tr("is in no folder, since the scene isn't saved yet"));
             else
                 found->second = lookForFile(QDir(folder).filePath(name), isImage);
         }

@@ -4,6 +4,7 @@
 #include "orvane/app/base/UserLocale.h"
 #include "orvane/app/compare/CopyJob.h"
 #include "orvane/app/files/JobBar.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/problems/LiveCheck.h"
 #include "orvane/app/problems/MendCommand.h"
@@ -64,13 +65,19 @@ ProblemPanel::ProblemPanel(LiveCheck& check, OrvServices& services, JobBar& jobB
     , m_model(new ProblemModel(this))
     , m_view(new RowTable(this))
     , m_filter(new QLineEdit(this))
-    , m_goTo(new QAction(tr("&Go to Field"), this))
-    , m_mend(new QAction(tr("&Mend"), this))
-    , m_mendKind(new QAction(tr("Mend All of This &Kind"), this))
-    , m_again(new QAction(tr("Check A&gain"), this))
+    , m_goTo(new QAction(this))
+    , m_mend(new QAction(this))
+    , m_mendKind(new QAction(this))
+    , m_again(new QAction(this))
     , m_text(new QLabel(this))
     , m_pages(new QStackedLayout)
 {
+    orvane::followLanguage(this, [this] {
+        m_goTo->setText(tr("&Go to Field"));
+        m_mend->setText(tr("&Mend"));
+        m_mendKind->setText(tr("Mend All of This &Kind"));
+        m_again->setText(tr("Check A&gain"));
+    });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -95,6 +102,7 @@ ProblemPanel::ProblemPanel(LiveCheck& check, OrvServices& services, JobBar& jobB
         connect(m_model, signal, this, &ProblemPanel::update);
     connect(m_model, &QAbstractItemModel::modelReset, this, &ProblemPanel::update);
     replaceCheck();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
 ProblemPanel::~ProblemPanel() = default;
@@ -108,10 +116,13 @@ void ProblemPanel::buildTopLine(QWidget* page)
     for (const NxSeverity severity : severities)
         addSeverity(page, severity);
     m_filter->setObjectName(QStringLiteral("problemFilter"));
-    m_filter->setPlaceholderText(tr("Filter"));
-    m_filter->setAccessibleName(tr("Filter"));
-    m_filter->setToolTip(tr("Shows the problems that contain all of these words: in the sentence, the names on the way "
-                            "to the node, its class, or the identifier"));
+    orvane::followLanguage(this, [this] {
+        m_filter->setPlaceholderText(tr("Filter"));
+        m_filter->setAccessibleName(tr("Filter"));
+        m_filter->setToolTip(
+            tr("Shows the problems that contain all of these words: in the sentence, the names on the way "
+               "to the node, its class, or the identifier"));
+    });
     m_filter->setClearButtonEnabled(true);
     m_filter->setMinimumWidth(fontMetrics().averageCharWidth() * 12);
     connect(m_filter, &QLineEdit::textChanged, m_model, &ProblemModel::setFilter);
@@ -123,15 +134,18 @@ void ProblemPanel::buildTopLine(QWidget* page)
         line->addWidget(button);
     };
     m_mend->setObjectName(QStringLiteral("problems.mend"));
-    m_mend->setStatusTip(tr("Mends the selected problems as one step"));
+    orvane::followLanguage(this, [this] {
+        m_mend->setStatusTip(tr("Mends the selected problems as one step"));
+        m_mendKind->setStatusTip(tr("Mends all problems of the kind of the selected one as one step"));
+        m_again->setStatusTip(tr("Checks the whole scene again, and looks at its files again"));
+    });
     m_mendKind->setObjectName(QStringLiteral("problems.mendKind"));
-    m_mendKind->setStatusTip(tr("Mends all problems of the kind of the selected one as one step"));
     m_again->setObjectName(QStringLiteral("problems.checkAgain"));
-    m_again->setStatusTip(tr("Checks the whole scene again, and looks at its files again"));
     addButton(m_mend, "mendProblem");
     addButton(m_mendKind, "mendKind");
     addButton(m_again, "checkAgain");
-    m_again->setToolTip(tr("Checks the whole scene again, and looks at its files again"));
+    orvane::followLanguage(
+        this, [this] { m_again->setToolTip(tr("Checks the whole scene again, and looks at its files again")); });
     connect(m_mend, &QAction::triggered, this, &ProblemPanel::mendSelected);
     connect(m_mendKind, &QAction::triggered, this, &ProblemPanel::mendKind);
     connect(m_again, &QAction::triggered, &m_check, &LiveCheck::restart);
@@ -154,14 +168,15 @@ void ProblemPanel::addSeverity(QWidget* page, NxSeverity severity)
 void ProblemPanel::buildView()
 {
     m_view->setObjectName(QStringLiteral("problemTable"));
-    m_view->setAccessibleName(tr("Problems"));
+    orvane::followLanguage(this, [this] { m_view->setAccessibleName(tr("Problems")); });
     m_view->setModel(m_model);
     m_view->setItemDelegateForColumn(ProblemModel::SentenceColumn, new SentenceDelegate(m_view));
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     constexpr int leastCharacters = 16;
     m_view->setColumns({{leastCharacters, 0.52}, {leastCharacters, 0.3}, {}});
+    orvane::followLanguage(
+        this, [this] { m_goTo->setStatusTip(tr("Selects the node and the field of the selected problem")); });
     m_goTo->setObjectName(QStringLiteral("problems.goTo"));
-    m_goTo->setStatusTip(tr("Selects the node and the field of the selected problem"));
     connect(m_goTo, &QAction::triggered, this, [this] {
         if (const std::vector<int> rows = m_view->selectedRows(); !rows.empty())
             choose(rows.front());
@@ -206,8 +221,7 @@ void ProblemPanel::update()
         button->setToolTip(tr("%1, shown or hidden by this button").arg(countText(count, severity)));
     }
     const bool isEmpty = m_model->rowCount() == 0;
-    if (isEmpty)
-        m_text->setText(stateText());
+    m_text->setText(stateText());
     m_pages->setCurrentIndex(isEmpty ? 0 : 1);
     m_again->setEnabled(check != nullptr);
     m_again->setToolTip(

@@ -6,9 +6,14 @@
 
 #include "meridane/base/NxPreferences.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 namespace {
+
+struct SessionTexts {
+    Q_DECLARE_TR_FUNCTIONS(Session)
+};
 
 const QString profileKey = QStringLiteral("profile");
 
@@ -69,13 +74,13 @@ orvane::Result<> Session::checkProfile(const QString& name) const
     for (const OrvProfile* profile : m_plugins.getProfilesList())
         names.append(u'"' + orvane::toQString(profile->getName()) + u'"');
     return orvane::Failure{
-        QStringLiteral("There is no profile \"%1\", only %2.").arg(name, names.join(QStringLiteral(", ")))};
+        SessionTexts::tr("There is no profile \"%1\", only %2.").arg(name, names.join(QStringLiteral(", ")))};
 }
 
 orvane::Result<> Session::activateProfile(const QString& name)
 {
     if (m_plugins.getProfilesList().empty())
-        return orvane::Failure{QStringLiteral("No profile was found, so no extension runs.")};
+        return orvane::Failure{SessionTexts::tr("No profile was found, so no extension runs.")};
     OrvProfile* profile = m_plugins.findProfile(name);
     if (profile == nullptr)
         profile = m_plugins.findProfile(m_settings.value(profileKey).toString());

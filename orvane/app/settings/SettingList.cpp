@@ -12,6 +12,22 @@ namespace {
 using Kind = Setting::Kind;
 using Settings = std::vector<Setting>;
 
+Settings generalSettings()
+{
+    return {
+        {.key = QStringLiteral("look/language"),
+            .page = SettingPage::General,
+            .kind = Kind::Choice,
+            .defaultValue = QStringLiteral("system"),
+            .title = QT_TRANSLATE_NOOP("Settings", "Language"),
+            .description = QT_TRANSLATE_NOOP("Settings",
+                "The language of the texts. Numbers and dates are written as the desktop has them in any language."),
+            // Each in its own language, so that everybody finds it.
+            .choices
+            = {{"system", QT_TRANSLATE_NOOP("Settings", "As the desktop")}, {"en", "English"}, {"de", "Deutsch"}}},
+    };
+}
+
 Settings editingSettings()
 {
     return {
@@ -42,7 +58,7 @@ Settings fileSettings()
 Settings allSettings()
 {
     Settings all;
-    for (Settings& settings : std::array{editingSettings(), fileSettings()})
+    for (Settings& settings : std::array{generalSettings(), editingSettings(), fileSettings()})
         std::move(settings.begin(), settings.end(), std::back_inserter(all));
     return all;
 }

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/PendingEdits.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/settings/SettingsStore.h"
@@ -31,26 +32,29 @@ NodeActions::NodeActions(Session& session, SceneTreePanel* tree)
     addKeepPlace();
     connect(tree, &SceneTreePanel::selectionChanged, this, &NodeActions::updateActions);
     connect(&session.document(), &SceneDocument::sceneChanged, this, &NodeActions::updateActions);
-    updateActions();
+    orvane::followLanguage(this, [this] { updateActions(); });
 }
 
 NodeActions::~NodeActions() = default;
 
-QAction* NodeActions::add(const char* name, const QString& text, const QKeySequence& key, const QString& tip)
+QAction* NodeActions::add(const char* name, const char* text, const QKeySequence& key, const char* tip)
 {
-    auto* const action = new QAction(text, this);
+    auto* const action = new QAction(this);
+    orvane::followLanguage(action, [action, text, tip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(tip));
+    });
     action->setObjectName(QLatin1String(name));
     action->setShortcut(key);
     // Lines and tables elsewhere have the same keys for other things.
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    action->setStatusTip(tip);
     m_tree->addNodeAction(action);
     m_actions.append(action);
     return action;
 }
 
 void NodeActions::addEdit(
-    const char* name, const QString& text, const QKeySequence& key, const QString& tip, const Make& make)
+    const char* name, const char* text, const QKeySequence& key, const char* tip, const Make& make)
 {
     QAction* const action = add(name, text, key, tip);
     connect(action, &QAction::triggered, this, [this, make] { run(make); });
@@ -73,26 +77,26 @@ void NodeActions::addClipboard()
                 (m_clipboard->*act)(selected);
         };
     };
-    QAction* const cut
-        = add("node.cut", tr("Cu&t"), QKeySequence::Cut, tr("Moves the selected nodes to the clipboard"));
+    QAction* const cut = add(
+        "node.cut", QT_TR_NOOP("Cu&t"), QKeySequence::Cut, QT_TR_NOOP("Moves the selected nodes to the clipboard"));
     connect(cut, &QAction::triggered, this, onSelected(&NodeClipboard::cut));
-    QAction* const copy = add(
-        "node.copy", tr("&Copy"), QKeySequence::Copy, tr("Copies the selected nodes to the clipboard, as text too"));
+    QAction* const copy = add("node.copy", QT_TR_NOOP("&Copy"), QKeySequence::Copy,
+        QT_TR_NOOP("Copies the selected nodes to the clipboard, as text too"));
     connect(copy, &QAction::triggered, this, onSelected(&NodeClipboard::copy));
     m_needSelection << cut << copy;
-    QAction* const paste = add("node.paste", tr("&Paste"), QKeySequence::Paste,
-        tr("Adds the nodes of the clipboard to the selected group, or behind the selected node"));
+    QAction* const paste = add("node.paste", QT_TR_NOOP("&Paste"), QKeySequence::Paste,
+        QT_TR_NOOP("Adds the nodes of the clipboard to the selected group, or behind the selected node"));
     connect(paste, &QAction::triggered, m_clipboard, &NodeClipboard::paste);
-    QAction* const share = add("node.pasteShared", tr("Paste a&s Shared"), Qt::CTRL | Qt::SHIFT | Qt::Key_V,
-        tr("Lets the nodes that were copied be in this place as well, so that a change is seen in both"));
+    QAction* const share = add("node.pasteShared", QT_TR_NOOP("Paste a&s Shared"), Qt::CTRL | Qt::SHIFT | Qt::Key_V,
+        QT_TR_NOOP("Lets the nodes that were copied be in this place as well, so that a change is seen in both"));
     connect(share, &QAction::triggered, m_clipboard, &NodeClipboard::pasteShared);
     m_needScene << paste << share;
 }
 
 void NodeActions::addCreation()
 {
-    QAction* const action = add("node.add", tr("&Add Node…"), {},
-        tr("Adds a node of a class that you choose to the selected group, or behind the selected node"));
+    QAction* const action = add("node.add", QT_TR_NOOP("&Add Node…"), {},
+        QT_TR_NOOP("Adds a node of a class that you choose to the selected group, or behind the selected node"));
     action->setShortcuts({QKeySequence(Qt::Key_Insert), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)});
     connect(action, &QAction::triggered, this, &NodeActions::chooseClass);
     m_needScene << action;
@@ -123,19 +127,21 @@ void NodeActions::addEdits()
     using Set = meridane::NodeSet;
     const auto edits = [this] { return NodeEdits(*m_editor->scene()); };
     const auto groups = [this] { return GroupEdits(*m_editor->scene()); };
-    addEdit("node.duplicate", tr("Dup&licate"), Qt::CTRL | Qt::Key_D, tr("Copies the selected nodes behind themselves"),
+    addEdit("node.duplicate", QT_TR_NOOP("Dup&licate"), Qt::CTRL | Qt::Key_D,
+        QT_TR_NOOP("Copies the selected nodes behind themselves"),
         [edits](const Set& set) { return edits().duplicate(set); });
-    addEdit("node.delete", tr("&Delete Node"), QKeySequence::Delete,
-        tr("Removes the selected nodes with everything below them"),
+    addEdit("node.delete", QT_TR_NOOP("&Delete Node"), QKeySequence::Delete,
+        QT_TR_NOOP("Removes the selected nodes with everything below them"),
         [edits](const Set& set) { return edits().remove(set); });
     addSeparator();
-    addEdit("node.group", tr("&Group"), Qt::CTRL | Qt::Key_G, tr("Puts the selected nodes into a new group"),
+    addEdit("node.group", QT_TR_NOOP("&Group"), Qt::CTRL | Qt::Key_G,
+        QT_TR_NOOP("Puts the selected nodes into a new group"),
         [this, groups](const Set& set) { return groups().group(set, m_editor->places()); });
-    addEdit("node.ungroup", tr("Ungr&oup"), Qt::CTRL | Qt::SHIFT | Qt::Key_G,
-        tr("Replaces the selected groups by what is in them"),
+    addEdit("node.ungroup", QT_TR_NOOP("Ungr&oup"), Qt::CTRL | Qt::SHIFT | Qt::Key_G,
+        QT_TR_NOOP("Replaces the selected groups by what is in them"),
         [this, groups](const Set& set) { return groups().ungroup(set, m_editor->places()); });
-    addEdit("node.makeOwn", tr("Make Own Cop&y"), {},
-        tr("Gives these places a copy of their own of a node that is in other places as well"),
+    addEdit("node.makeOwn", QT_TR_NOOP("Make Own Cop&y"), {},
+        QT_TR_NOOP("Gives these places a copy of their own of a node that is in other places as well"),
         [groups](const Set& set) { return groups().makeOwn(set); });
 }
 
@@ -144,24 +150,25 @@ void NodeActions::addMoves()
     using Set = meridane::NodeSet;
     const auto key = [](Qt::Key arrow) { return QKeySequence(Qt::ALT | Qt::SHIFT | arrow); };
     const auto steps = [this] { return NodeSteps(*m_editor->scene()); };
-    addEdit("node.moveUp", tr("&Move Up"), key(Qt::Key_Up), tr("Moves the selected nodes before the node above them"),
+    addEdit("node.moveUp", QT_TR_NOOP("&Move Up"), key(Qt::Key_Up),
+        QT_TR_NOOP("Moves the selected nodes before the node above them"),
         [steps](const Set& set) { return steps().up(set); });
-    addEdit("node.moveDown", tr("Move Do&wn"), key(Qt::Key_Down),
-        tr("Moves the selected nodes behind the node below them"),
+    addEdit("node.moveDown", QT_TR_NOOP("Move Do&wn"), key(Qt::Key_Down),
+        QT_TR_NOOP("Moves the selected nodes behind the node below them"),
         [steps](const Set& set) { return steps().down(set); });
-    addEdit("node.moveOut", tr("Mov&e Out of Group"), key(Qt::Key_Left),
-        tr("Moves the selected nodes behind the group that they are in"),
+    addEdit("node.moveOut", QT_TR_NOOP("Mov&e Out of Group"), key(Qt::Key_Left),
+        QT_TR_NOOP("Moves the selected nodes behind the group that they are in"),
         [this, steps](const Set& set) { return steps().out(set, m_editor->places()); });
-    addEdit("node.moveIn", tr("Move &into Group Above"), key(Qt::Key_Right),
-        tr("Moves the selected nodes to the end of the group above them"),
+    addEdit("node.moveIn", QT_TR_NOOP("Move &into Group Above"), key(Qt::Key_Right),
+        QT_TR_NOOP("Moves the selected nodes to the end of the group above them"),
         [this, steps](const Set& set) { return steps().in(set, m_editor->places()); });
 }
 
 void NodeActions::addKeepPlace()
 {
     const QString settingsKey = QStringLiteral("structure/keepPlace");
-    QAction* const action = add("node.keepPlace", tr("&Keep Place"), {},
-        tr("Nodes stay where they are in the world when they move to other groups"));
+    QAction* const action = add("node.keepPlace", QT_TR_NOOP("&Keep Place"), {},
+        QT_TR_NOOP("Nodes stay where they are in the world when they move to other groups"));
     action->setCheckable(true);
     SettingsStore& store = SettingsStore::of(m_session.settings());
     store.follow(settingsKey, action, [this, &store, action, settingsKey] {

@@ -32,8 +32,8 @@ public:
 private:
     using Make = std::function<MadeEdit(const meridane::NodeSet& selected)>;
 
-    QAction* add(const char* name, const QString& text, const QKeySequence& key, const QString& tip);
-    void addEdit(const char* name, const QString& text, const QKeySequence& key, const QString& tip, const Make& make);
+    QAction* add(const char* name, const char* text, const QKeySequence& key, const char* tip);
+    void addEdit(const char* name, const char* text, const QKeySequence& key, const char* tip, const Make& make);
     void addSeparator();
     void addClipboard();
     void addCreation();

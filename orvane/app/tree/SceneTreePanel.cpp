@@ -1,5 +1,6 @@
 #include "orvane/app/tree/SceneTreePanel.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/tree/NodeDelegate.h"
@@ -34,7 +35,7 @@ SceneTreePanel::SceneTreePanel(QWidget* parent)
     m_layout->setSpacing(0);
     m_layout->addWidget(m_view);
     m_view->setObjectName(QStringLiteral("sceneTree"));
-    m_view->setAccessibleName(tr("Scene"));
+    orvane::followLanguage(this, [this] { m_view->setAccessibleName(tr("Scene")); });
     m_view->setModel(m_model);
     m_view->setItemDelegate(new NodeDelegate(m_view));
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);

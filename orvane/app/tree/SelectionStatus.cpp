@@ -3,6 +3,7 @@
 #include "orvane/app/base/SliceClock.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/base/UserLocale.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
@@ -43,6 +44,7 @@ SelectionStatus::SelectionStatus(Session& session, SceneTreePanel* tree, QStatus
     connect(model, &QAbstractItemModel::dataChanged, this, &SelectionStatus::updateSoon);
     connect(model, &QAbstractItemModel::rowsInserted, this, &SelectionStatus::updateSoon);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &SelectionStatus::updateSoon);
+    orvane::followLanguage(this, [this] { updateSoon(); });
 }
 
 void SelectionStatus::updateSoon()

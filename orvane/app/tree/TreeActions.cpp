@@ -1,5 +1,6 @@
 #include "orvane/app/tree/TreeActions.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
@@ -25,9 +26,13 @@ constexpr int mostLevels = 9;
 TreeActions::TreeActions(SceneTreePanel* tree, QStatusBar* bar)
     : QObject(tree)
     , m_tree(tree)
-    , m_foldMenu(new QMenu(tr("&Unfold and Fold"), tree))
-    , m_selectMenu(new QMenu(tr("Select &Nodes"), tree))
+    , m_foldMenu(new QMenu(tree))
+    , m_selectMenu(new QMenu(tree))
 {
+    orvane::followLanguage(this, [this] {
+        m_foldMenu->setTitle(tr("&Unfold and Fold"));
+        m_selectMenu->setTitle(tr("Select &Nodes"));
+    });
     m_foldMenu->setObjectName(QStringLiteral("foldMenu"));
     m_selectMenu->setObjectName(QStringLiteral("selectMenu"));
     addFolding();
@@ -40,15 +45,18 @@ TreeActions::TreeActions(SceneTreePanel* tree, QStatusBar* bar)
         connect(view, &SceneTreeView::unfoldRequested, this, &TreeActions::unfoldSelected);
     connect(tree, &SceneTreePanel::selectionChanged, this, &TreeActions::update);
     connect(tree->model(), &QAbstractItemModel::modelReset, this, &TreeActions::update);
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
-QAction* TreeActions::add(QMenu* menu, const char* name, const QString& text, const QString& tip,
-    const QKeySequence& key, const std::function<void()>& run)
+QAction* TreeActions::add(QMenu* menu, const char* name, const char* text, const char* tip, const QKeySequence& key,
+    const std::function<void()>& run)
 {
-    QAction* const action = menu->addAction(text);
+    QAction* const action = menu->addAction(QString());
+    orvane::followLanguage(action, [action, text, tip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(tip));
+    });
     action->setObjectName(QLatin1String(name));
-    action->setStatusTip(tip);
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     m_tree->addAction(action);
@@ -63,35 +71,43 @@ QList<QAction*> TreeActions::menuActions() const
 
 void TreeActions::addFolding()
 {
-    m_ofSelection.append(add(m_foldMenu, "tree.unfoldSelected", tr("&Unfold All Below"),
-        tr("Unfolds the selected nodes and everything below them"), Qt::CTRL | Qt::Key_Plus,
+    m_ofSelection.append(add(m_foldMenu, "tree.unfoldSelected", QT_TR_NOOP("&Unfold All Below"),
+        QT_TR_NOOP("Unfolds the selected nodes and everything below them"), Qt::CTRL | Qt::Key_Plus,
         [this] { unfoldSelected(); }));
-    m_ofSelection.append(
-        add(m_foldMenu, "tree.foldSelected", tr("&Fold"), tr("Folds the selected nodes and everything below them"),
-            Qt::CTRL | Qt::Key_Minus, [this] { foldSelected(); }));
+    m_ofSelection.append(add(m_foldMenu, "tree.foldSelected", QT_TR_NOOP("&Fold"),
+        QT_TR_NOOP("Folds the selected nodes and everything below them"), Qt::CTRL | Qt::Key_Minus,
+        [this] { foldSelected(); }));
     m_foldMenu->addSeparator();
     for (int level = 1; level <= mostLevels; ++level) {
-        const QString text = level == 1 ? tr("Fold to Level &1") : tr("Unfold to Level &%1").arg(level);
-        const QString tip = level == 1 ? tr("Shows the top nodes alone in the tree")
-                                       : tr("Shows %1 levels of the tree, and folds what is below").arg(level);
         const QByteArray name = "tree.unfoldTo" + QByteArray::number(level);
-        m_ofScene.append(add(m_foldMenu, name.constData(), text, tip,
+        // Only the texts of the first level have no number.
+        const char* const text = level == 1 ? QT_TR_NOOP("Fold to Level &1") : QT_TR_NOOP("Unfold to Level &%1");
+        const char* const tip = level == 1 ? QT_TR_NOOP("Shows the top nodes alone in the tree")
+                                           : QT_TR_NOOP("Shows %1 levels of the tree, and folds what is below");
+        QAction* const action = add(m_foldMenu, name.constData(), text, tip,
             QKeyCombination(Qt::CTRL | Qt::SHIFT, static_cast<Qt::Key>(Qt::Key_0 + level)),
-            [this, level] { unfoldTo(level); }));
+            [this, level] { unfoldTo(level); });
+        if (level > 1) {
+            orvane::followLanguage(action, [action, text, tip, level] {
+                action->setText(tr(text).arg(level));
+                action->setStatusTip(tr(tip).arg(level));
+            });
+        }
+        m_ofScene.append(action);
     }
 }
 
 void TreeActions::addSelecting()
 {
-    m_ofSelection.append(add(m_selectMenu, "tree.selectChildren", tr("All &Children"),
-        tr("Selects all children of the selected nodes in their place"), Qt::CTRL | Qt::SHIFT | Qt::Key_A,
+    m_ofSelection.append(add(m_selectMenu, "tree.selectChildren", QT_TR_NOOP("All &Children"),
+        QT_TR_NOOP("Selects all children of the selected nodes in their place"), Qt::CTRL | Qt::SHIFT | Qt::Key_A,
         [this] { selectChildren(); }));
-    m_ofSelection.append(add(m_selectMenu, "tree.selectSameClass", tr("All of the Same C&lass"),
-        tr("Selects all nodes of the scene that have the class of the node selected last"), {},
+    m_ofSelection.append(add(m_selectMenu, "tree.selectSameClass", QT_TR_NOOP("All of the Same C&lass"),
+        QT_TR_NOOP("Selects all nodes of the scene that have the class of the node selected last"), {},
         [this] { selectSameClass(); }));
-    m_ofScene.append(add(m_selectMenu, "tree.invertSelection", tr("&Inverse"),
-        tr("Selects the unfolded rows of the tree that aren't selected, and no others"), Qt::CTRL | Qt::ALT | Qt::Key_A,
-        [this] { invert(); }));
+    m_ofScene.append(add(m_selectMenu, "tree.invertSelection", QT_TR_NOOP("&Inverse"),
+        QT_TR_NOOP("Selects the unfolded rows of the tree that aren't selected, and no others"),
+        Qt::CTRL | Qt::ALT | Qt::Key_A, [this] { invert(); }));
 }
 
 void TreeActions::update()

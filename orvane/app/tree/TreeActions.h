@@ -26,7 +26,7 @@ Q_SIGNALS:
     void noted(const QString& message);
 
 private:
-    QAction* add(QMenu* menu, const char* name, const QString& text, const QString& tip, const QKeySequence& key,
+    QAction* add(QMenu* menu, const char* name, const char* text, const char* tip, const QKeySequence& key,
         const std::function<void()>& run);
     void addFolding();
     void addSelecting();

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/view/SceneView.h"
 
@@ -23,8 +24,12 @@ CameraMenu::CameraMenu(SceneView* view, SceneDocument& document)
             viewpoint.focus(bounds.center());
         view->setViewpoint(viewpoint);
     })
-    , m_menu(new QMenu(tr("&Cameras"), view))
+    , m_menu(new QMenu(view))
 {
+    orvane::followLanguage(this, [this] {
+        m_menu->setTitle(tr("&Cameras"));
+        update();
+    });
     m_menu->setObjectName(QStringLiteral("cameraMenu"));
     connect(view, &SceneView::moved, this, [this] { m_follower.stop(); });
     connect(&document, &SceneDocument::sceneAboutToChange, this, [this] {

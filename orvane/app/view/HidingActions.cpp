@@ -1,5 +1,6 @@
 #include "orvane/app/view/HidingActions.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -34,12 +35,12 @@ HidingActions::HidingActions(SceneView* view, SceneTreePanel* tree, QStatusBar* 
     , m_tree(tree)
     , m_view(view)
     , m_hidden(tree->hidden())
-    , m_isolate(add("node.isolate", tr("Isolat&e"), tr("Shows the selected nodes alone in the view"),
+    , m_isolate(add("node.isolate", QT_TR_NOOP("Isolat&e"), QT_TR_NOOP("Shows the selected nodes alone in the view"),
           Qt::CTRL | Qt::ALT | Qt::Key_H))
-    , m_hide(
-          add("node.hide", tr("Hide"), tr("Hides the selected nodes in the view; the scene stays as it is"), Qt::Key_H))
-    , m_showAll(add("view.showAll", tr("Show All"), tr("Shows all nodes that were hidden or left out by isolating"),
-          Qt::SHIFT | Qt::Key_H))
+    , m_hide(add("node.hide", QT_TR_NOOP("Hide"),
+          QT_TR_NOOP("Hides the selected nodes in the view; the scene stays as it is"), Qt::Key_H))
+    , m_showAll(add("view.showAll", QT_TR_NOOP("Show All"),
+          QT_TR_NOOP("Shows all nodes that were hidden or left out by isolating"), Qt::SHIFT | Qt::Key_H))
     , m_status(new QToolButton(bar))
 {
     connect(m_isolate, &QAction::triggered, this, &HidingActions::isolate);
@@ -49,7 +50,7 @@ HidingActions::HidingActions(SceneView* view, SceneTreePanel* tree, QStatusBar* 
     m_status->setAutoRaise(true);
     m_status->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_status->setIcon(orvane::hiddenIcon(bar->palette()));
-    m_status->setToolTip(tr("Shows all nodes again (Shift+H)"));
+    orvane::followLanguage(this, [this] { m_status->setToolTip(tr("Shows all nodes again (Shift+H)")); });
     connect(m_status, &QToolButton::clicked, &m_hidden, &HiddenNodes::showAll);
     bar->addPermanentWidget(m_status);
     connect(&m_hidden, &HiddenNodes::changed, this, &HidingActions::update);
@@ -58,14 +59,17 @@ HidingActions::HidingActions(SceneView* view, SceneTreePanel* tree, QStatusBar* 
     connect(tree->model(), &QAbstractItemModel::rowsInserted, this, &HidingActions::countPlaces);
     connect(tree->model(), &QAbstractItemModel::rowsRemoved, this, &HidingActions::countPlaces);
     connect(tree, &SceneTreePanel::selectionChanged, this, &HidingActions::update);
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
-QAction* HidingActions::add(const char* name, const QString& text, const QString& tip, const QKeySequence& key)
+QAction* HidingActions::add(const char* name, const char* text, const char* tip, const QKeySequence& key)
 {
-    auto* const action = new QAction(text, this);
+    auto* const action = new QAction(this);
+    orvane::followLanguage(action, [action, text, tip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(tip));
+    });
     action->setObjectName(QLatin1String(name));
-    action->setStatusTip(tip);
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetShortcut);
     m_tree->addNodeAction(action);

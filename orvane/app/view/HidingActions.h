@@ -32,7 +32,7 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    QAction* add(const char* name, const QString& text, const QString& tip, const QKeySequence& key);
+    QAction* add(const char* name, const char* text, const char* tip, const QKeySequence& key);
     void hide();
     void isolate();
     void update();

@@ -1,5 +1,6 @@
 #include "orvane/app/view/SceneView.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/view/ViewMessage.h"
 #include "orvane/app/view/ViewPicking.h"
 
@@ -36,11 +37,13 @@ SceneView::SceneView(QWidget* parent)
     , m_input(*this, m_navigation, inputHooks())
 {
     setObjectName(QStringLiteral("sceneView"));
-    setAccessibleName(tr("View"));
-    setAccessibleDescription(
-        tr("The picture of the scene. The arrow keys go round it, with Shift they move it; plus and "
-           "minus zoom, F frames the selection, A frames all, 1 to 6 look along the axes, 7 from a corner. With the "
-           "right button held, W, A, S, D, Q and E fly."));
+    orvane::followLanguage(this, [this] {
+        setAccessibleName(tr("View"));
+        setAccessibleDescription(tr(
+            "The picture of the scene. The arrow keys go round it, with Shift they move it; plus and "
+            "minus zoom, F frames the selection, A frames all, 1 to 6 look along the axes, 7 from a corner. With the "
+            "right button held, W, A, S, D, Q and E fly."));
+    });
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -1,6 +1,7 @@
 #include "orvane/app/view/ViewActions.h"
 
 #include "orvane/app/base/AppSettings.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/view/SceneView.h"
 
 #include <QAction>
@@ -23,41 +24,47 @@ ViewActions::ViewActions(SceneView* view, AppSettings& settings)
     , m_projections(new QActionGroup(this))
     , m_surfaces(new QActionGroup(this))
 {
-    m_framing.append(addAction("frameAll", tr("Frame &All"), tr("Brings all of the scene into view"), Qt::Key_A));
-    connect(m_framing.back(), &QAction::triggered, view, &SceneView::frameAll);
     m_framing.append(
-        addAction("frameSelection", tr("Frame &Selection"), tr("Brings what is selected into view"), Qt::Key_F));
+        addAction("frameAll", QT_TR_NOOP("Frame &All"), QT_TR_NOOP("Brings all of the scene into view"), Qt::Key_A));
+    connect(m_framing.back(), &QAction::triggered, view, &SceneView::frameAll);
+    m_framing.append(addAction(
+        "frameSelection", QT_TR_NOOP("Frame &Selection"), QT_TR_NOOP("Brings what is selected into view"), Qt::Key_F));
     connect(m_framing.back(), &QAction::triggered, view, &SceneView::frameSelection);
 
     const VbVec3f up(0, 1, 0);
-    addAxis("front", tr("&Front"), Qt::Key_1, VbVec3f(0, 0, -1), up);
-    addAxis("back", tr("&Back"), Qt::Key_2, VbVec3f(0, 0, 1), up);
-    addAxis("right", tr("&Right"), Qt::Key_3, VbVec3f(-1, 0, 0), up);
-    addAxis("left", tr("&Left"), Qt::Key_4, VbVec3f(1, 0, 0), up);
-    addAxis("top", tr("&Top"), Qt::Key_5, VbVec3f(0, -1, 0), VbVec3f(0, 0, -1));
-    addAxis("bottom", tr("B&ottom"), Qt::Key_6, VbVec3f(0, 1, 0), VbVec3f(0, 0, 1));
+    addAxis("front", QT_TR_NOOP("&Front"), Qt::Key_1, VbVec3f(0, 0, -1), up);
+    addAxis("back", QT_TR_NOOP("&Back"), Qt::Key_2, VbVec3f(0, 0, 1), up);
+    addAxis("right", QT_TR_NOOP("&Right"), Qt::Key_3, VbVec3f(-1, 0, 0), up);
+    addAxis("left", QT_TR_NOOP("&Left"), Qt::Key_4, VbVec3f(1, 0, 0), up);
+    addAxis("top", QT_TR_NOOP("&Top"), Qt::Key_5, VbVec3f(0, -1, 0), VbVec3f(0, 0, -1));
+    addAxis("bottom", QT_TR_NOOP("B&ottom"), Qt::Key_6, VbVec3f(0, 1, 0), VbVec3f(0, 0, 1));
 
-    m_axes.append(addAction("corner", tr("From a &Corner"),
-        tr("Looks in perspective from the right, from above and from the front, as at first"), Qt::Key_7));
+    m_axes.append(addAction("corner", QT_TR_NOOP("From a &Corner"),
+        QT_TR_NOOP("Looks in perspective from the right, from above and from the front, as at first"), Qt::Key_7));
     connect(m_axes.back(), &QAction::triggered, view, &SceneView::lookFromCorner);
 
-    addProjection("perspective", tr("&Perspective"), tr("Distant things look smaller"), NxViewpoint::PERSPECTIVE);
-    addProjection("orthographic", tr("&Orthographic"), tr("Things look the same size at any distance"),
+    addProjection(
+        "perspective", QT_TR_NOOP("&Perspective"), QT_TR_NOOP("Distant things look smaller"), NxViewpoint::PERSPECTIVE);
+    addProjection("orthographic", QT_TR_NOOP("&Orthographic"), QT_TR_NOOP("Things look the same size at any distance"),
         NxViewpoint::ORTHOGRAPHIC);
-    addSurfaces("solid", tr("Soli&d"), tr("Surfaces are filled"), false);
-    addSurfaces("wireframe", tr("&Wireframe"), tr("Surfaces show their edges alone"), true);
-    addSwitch("grid", tr("&Ground Grid"), tr("Shows a grid on the plane of x and z"), &NxDrawingStyle::grid);
+    addSurfaces("solid", QT_TR_NOOP("Soli&d"), QT_TR_NOOP("Surfaces are filled"), false);
+    addSurfaces("wireframe", QT_TR_NOOP("&Wireframe"), QT_TR_NOOP("Surfaces show their edges alone"), true);
     addSwitch(
-        "boundingBoxes", tr("&Bounding Boxes"), tr("Shows a box around each mesh"), &NxDrawingStyle::boundingBoxes);
-    addSwitch("axes", tr("A&xes"), tr("Shows the axes: x red, y green, z blue"), &NxDrawingStyle::axes);
+        "grid", QT_TR_NOOP("&Ground Grid"), QT_TR_NOOP("Shows a grid on the plane of x and z"), &NxDrawingStyle::grid);
+    addSwitch("boundingBoxes", QT_TR_NOOP("&Bounding Boxes"), QT_TR_NOOP("Shows a box around each mesh"),
+        &NxDrawingStyle::boundingBoxes);
+    addSwitch("axes", QT_TR_NOOP("A&xes"), QT_TR_NOOP("Shows the axes: x red, y green, z blue"), &NxDrawingStyle::axes);
 }
 
-QAction* ViewActions::addAction(const char* name, const QString& text, const QString& toolTip, const QKeySequence& key)
+QAction* ViewActions::addAction(const char* name, const char* text, const char* toolTip, const QKeySequence& key)
 {
-    auto* action = new QAction(text, this);
+    auto* action = new QAction(this);
+    orvane::followLanguage(action, [action, text, toolTip] {
+        action->setText(tr(text));
+        action->setToolTip(tr(toolTip));
+        action->setStatusTip(tr(toolTip));
+    });
     action->setObjectName(QStringLiteral("view.") + QLatin1String(name));
-    action->setToolTip(toolTip);
-    action->setStatusTip(toolTip);
     if (!key.isEmpty()) {
         action->setShortcut(key);
         action->setShortcutContext(Qt::WidgetShortcut);
@@ -66,15 +73,14 @@ QAction* ViewActions::addAction(const char* name, const QString& text, const QSt
     return action;
 }
 
-void ViewActions::addAxis(
-    const char* name, const QString& text, Qt::Key key, const VbVec3f& direction, const VbVec3f& up)
+void ViewActions::addAxis(const char* name, const char* text, Qt::Key key, const VbVec3f& direction, const VbVec3f& up)
 {
-    m_axes.append(addAction(name, text, tr("Looks along an axis"), key));
+    m_axes.append(addAction(name, text, QT_TR_NOOP("Looks along an axis"), key));
     connect(m_axes.back(), &QAction::triggered, m_view, [this, direction, up] { m_view->lookAlong(direction, up); });
 }
 
 void ViewActions::addProjection(
-    const char* name, const QString& text, const QString& toolTip, NxViewpoint::Projection projection)
+    const char* name, const char* text, const char* toolTip, NxViewpoint::Projection projection)
 {
     QAction* action = addAction(name, text, toolTip);
     action->setCheckable(true);
@@ -83,7 +89,7 @@ void ViewActions::addProjection(
     connect(action, &QAction::triggered, m_view, [this, projection] { m_view->setProjection(projection); });
 }
 
-void ViewActions::addSurfaces(const char* name, const QString& text, const QString& toolTip, bool wireframe)
+void ViewActions::addSurfaces(const char* name, const char* text, const char* toolTip, bool wireframe)
 {
     QAction* action = addAction(name, text, toolTip);
     action->setCheckable(true);
@@ -103,7 +109,7 @@ void ViewActions::addSurfaces(const char* name, const QString& text, const QStri
     });
 }
 
-void ViewActions::addSwitch(const char* name, const QString& text, const QString& toolTip, bool NxDrawingStyle::*part)
+void ViewActions::addSwitch(const char* name, const char* text, const char* toolTip, bool NxDrawingStyle::*part)
 {
     QAction* action = addAction(name, text, toolTip);
     action->setCheckable(true);
@@ -125,7 +131,8 @@ void ViewActions::addSwitch(const char* name, const QString& text, const QString
 void ViewActions::addTo(QMenu* menu)
 {
     if (m_axesMenu == nullptr) {
-        m_axesMenu = new QMenu(tr("Look Along"), m_view);
+        m_axesMenu = new QMenu(m_view);
+        orvane::followLanguage(m_axesMenu, [this] { m_axesMenu->setTitle(tr("Look Along")); });
         m_axesMenu->setObjectName(QStringLiteral("axesMenu"));
         m_axesMenu->addActions(m_axes);
     }

@@ -29,12 +29,11 @@ public:
     [[nodiscard]] const QList<QAction*>& switches() const { return m_switches; }
 
 private:
-    QAction* addAction(const char* name, const QString& text, const QString& toolTip, const QKeySequence& key = {});
-    void addAxis(const char* name, const QString& text, Qt::Key key, const VbVec3f& direction, const VbVec3f& up);
-    void addSwitch(const char* name, const QString& text, const QString& toolTip, bool NxDrawingStyle::*part);
-    void addProjection(
-        const char* name, const QString& text, const QString& toolTip, NxViewpoint::Projection projection);
-    void addSurfaces(const char* name, const QString& text, const QString& toolTip, bool wireframe);
+    QAction* addAction(const char* name, const char* text, const char* toolTip, const QKeySequence& key = {});
+    void addAxis(const char* name, const char* text, Qt::Key key, const VbVec3f& direction, const VbVec3f& up);
+    void addSwitch(const char* name, const char* text, const char* toolTip, bool NxDrawingStyle::*part);
+    void addProjection(const char* name, const char* text, const char* toolTip, NxViewpoint::Projection projection);
+    void addSurfaces(const char* name, const char* text, const char* toolTip, bool wireframe);
 
     SceneView* m_view;
     AppSettings& m_settings;

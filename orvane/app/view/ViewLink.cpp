@@ -1,6 +1,7 @@
 #include "orvane/app/view/ViewLink.h"
 
 #include "orvane/app/images/EditorImages.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -56,8 +57,10 @@ ViewLink::ViewLink(Session& session, SceneView* view, SceneTreePanel* tree, QSta
     , m_cameras(session.settings())
 {
     m_point->setObjectName(QStringLiteral("pickedPoint"));
-    m_point->setToolTip(
-        tr("The point of the scene that was clicked, and the nearest vertex of the mesh with its position"));
+    orvane::followLanguage(this, [this] {
+        m_point->setToolTip(
+            tr("The point of the scene that was clicked, and the nearest vertex of the mesh with its position"));
+    });
     m_point->hide();
     bar->addPermanentWidget(m_point);
     const SceneDocument& document = session.document();

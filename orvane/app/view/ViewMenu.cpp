@@ -110,6 +110,7 @@ void ViewMenu::addSwitch(QMenu& menu, QAction* action, const QWidget& part)
     if (action->objectName().isEmpty() && !part.objectName().isEmpty())
         action->setObjectName(QStringLiteral("show.") + part.objectName());
     if (action->statusTip().isEmpty())
-        action->setStatusTip(tr("Shows or hides this part of the window"));
+        orvane::followLanguage(
+            action, [action] { action->setStatusTip(tr("Shows or hides this part of the window")); });
     menu.addAction(action);
 }

@@ -4,6 +4,7 @@
 #include "orvane/app/compare/DifferencePanel.h"
 #include "orvane/app/compare/SceneComparer.h"
 #include "orvane/app/inspect/SelectionLink.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -18,7 +19,7 @@
 
 ComparisonDock::ComparisonDock(Session& session, MessageBar& messages, JobBar& jobBar, SceneTreePanel* tree,
     SelectionLink& link, QMainWindow* window)
-    : QDockWidget(tr("Comparison"), window)
+    : QDockWidget(window)
     , m_session(session)
     , m_tree(tree)
     , m_link(link)
@@ -26,6 +27,7 @@ ComparisonDock::ComparisonDock(Session& session, MessageBar& messages, JobBar& j
     , m_panel(new DifferencePanel(jobBar, this))
     , m_comparer(new SceneComparer(session, messages, jobBar, m_panel, this))
 {
+    orvane::followLanguage(this, [this] { setWindowTitle(tr("Comparison")); });
     setObjectName(QStringLiteral("comparisonDock"));
     setWidget(m_panel);
     connect(m_comparer, &SceneComparer::started, this, &ComparisonDock::reveal);

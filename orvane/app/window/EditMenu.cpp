@@ -4,6 +4,7 @@
 #include "orvane/app/base/DrawnIcon.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/NodeCommands.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/structure/NodeActions.h"
@@ -55,26 +56,29 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
     , m_tree(tree)
     , m_nodes(new NodeActions(session, tree))
 {
-    QMenu* menu = window->menuBar()->addMenu(tr("&Edit"));
+    QMenu* menu = window->menuBar()->addMenu(QString());
+    orvane::followLanguage(menu, [menu] { menu->setTitle(tr("&Edit")); });
     menu->setObjectName(QStringLiteral("editMenu"));
-    const auto add = [menu](const QString& text, const QKeySequence& key, const char* name) {
-        QAction* action = menu->addAction(text);
+    const auto add = [menu](const char* text, const QKeySequence& key, const char* name) {
+        QAction* action = menu->addAction(QString());
+        orvane::followLanguage(action, [action, text] { action->setText(tr(text)); });
         action->setObjectName(QLatin1String(name));
         action->setShortcut(key);
         return action;
     };
-    m_undo = add(tr("&Undo"), QKeySequence::Undo, "edit.undo");
+    m_undo = add(QT_TR_NOOP("&Undo"), QKeySequence::Undo, "edit.undo");
     m_undo->setIcon(turningArrow(window->palette(), false));
-    m_undo->setStatusTip(tr("Takes back the last step"));
+    orvane::followLanguage(this, [this] { m_undo->setStatusTip(tr("Takes back the last step")); });
     connect(m_undo, &QAction::triggered, &session.services(), &OrvServices::undo);
-    m_redo = add(tr("&Redo"), {}, "edit.redo");
+    m_redo = add(QT_TR_NOOP("&Redo"), {}, "edit.redo");
     m_redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    orvane::followLanguage(this, [this] { m_redo->setStatusTip(tr("Makes the step again that was taken back last")); });
     m_redo->setIcon(turningArrow(window->palette(), true));
-    m_redo->setStatusTip(tr("Makes the step again that was taken back last"));
     connect(m_redo, &QAction::triggered, &session.services(), &OrvServices::redo);
     menu->addSeparator();
-    m_rename = add(tr("Re&name Node"), Qt::Key_F2, "node.rename");
-    m_rename->setStatusTip(tr("Edits the name of the selected node in the tree"));
+    m_rename = add(QT_TR_NOOP("Re&name Node"), Qt::Key_F2, "node.rename");
+    orvane::followLanguage(
+        this, [this] { m_rename->setStatusTip(tr("Edits the name of the selected node in the tree")); });
     connect(m_rename, &QAction::triggered, tree, &SceneTreePanel::renameSelected);
     // Its key acts on the selected node only while the tree or the view has the focus.
     m_rename->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -91,7 +95,7 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
     connect(tree, &SceneTreePanel::selectionChanged, this, &EditMenu::updateActions);
     connect(tree->model(), &SceneTreeModel::renameRequested, this, &EditMenu::renameNode);
     QCoreApplication::instance()->installEventFilter(this);
-    updateActions();
+    orvane::followLanguage(this, [this] { updateActions(); });
 }
 
 EditMenu::~EditMenu() = default;

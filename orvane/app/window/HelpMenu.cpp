@@ -1,6 +1,7 @@
 #include "orvane/app/window/HelpMenu.h"
 
 #include "orvane/app/base/TextConversion.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/window/WindowShell.h"
 #include "orvane/extender/OrvExtension.h"
 
@@ -46,14 +47,18 @@ QString tableRow(const QString& left, const QString& right)
 HelpMenu::HelpMenu(QMainWindow* window, const WindowShell& shell, QAction* keysAction)
     : QObject(window)
     , m_window(window)
-    , m_menu(window->menuBar()->addMenu(tr("&Help")))
+    , m_menu(window->menuBar()->addMenu(QString()))
     , m_shell(shell)
 {
+    orvane::followLanguage(this, [this] { m_menu->setTitle(tr("&Help")); });
     m_menu->addAction(keysAction);
-    QAction* about = m_menu->addAction(tr("&About Orvane"));
+    QAction* about = m_menu->addAction(QString());
     about->setObjectName(QStringLiteral("help.about"));
     about->setMenuRole(QAction::AboutRole);
-    about->setStatusTip(tr("Shows the version of the program and its extensions"));
+    orvane::followLanguage(about, [about] {
+        about->setText(tr("&About Orvane"));
+        about->setStatusTip(tr("Shows the version of the program and its extensions"));
+    });
     connect(about, &QAction::triggered, this, &HelpMenu::showAbout);
 }
 

@@ -3,6 +3,7 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/history/HistoryModel.h"
 #include "orvane/app/history/HistoryPanel.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/window/DockPlace.h"
@@ -11,12 +12,13 @@
 #include <QMainWindow>
 
 HistoryDock::HistoryDock(Session& session, StepTravel& travel, MessageBar& messages, QMainWindow* window)
-    : QDockWidget(tr("History"), window)
+    : QDockWidget(window)
     , m_session(session)
     , m_travel(travel)
     , m_messages(messages)
     , m_window(window)
 {
+    orvane::followLanguage(this, [this] { setWindowTitle(tr("History")); });
     setObjectName(QStringLiteral("historyDock"));
     toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H));
     connect(&session.document(), &SceneDocument::sceneChanged, this, &HistoryDock::nameOrigin);
@@ -42,7 +44,7 @@ void HistoryDock::fill()
         return;
     m_panel = new HistoryPanel(m_session.services(), m_travel, m_messages, this);
     setWidget(m_panel);
-    nameOrigin();
+    orvane::followLanguage(this, [this] { nameOrigin(); });
 }
 
 void HistoryDock::nameOrigin()

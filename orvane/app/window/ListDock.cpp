@@ -2,6 +2,7 @@
 
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/inspect/Inspectors.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/lists/ListView.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/window/DockHeights.h"
@@ -15,10 +16,11 @@
 #include <utility>
 
 ListDock::ListDock(Session& session, QMainWindow* window)
-    : QDockWidget(tr("List"), window)
+    : QDockWidget(window)
     , m_session(session)
     , m_window(window)
 {
+    orvane::followLanguage(this, [this] { setWindowTitle(tr("List")); });
     setObjectName(QStringLiteral("listDock"));
     toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_R));
     hide();

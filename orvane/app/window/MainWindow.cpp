@@ -13,6 +13,7 @@
 #include "orvane/app/inspect/Inspectors.h"
 #include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/instance/NewWindow.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/log/LogTap.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
@@ -182,7 +183,7 @@ void MainWindow::connectDocument()
     connect(&scene, &SceneDocument::fileNameChanged, this, &MainWindow::updateTitle);
     connect(&scene, &SceneDocument::modifiedChanged, this, &QWidget::setWindowModified);
     showDocument();
-    updateTitle();
+    orvane::followLanguage(this, [this] { updateTitle(); });
 }
 
 void MainWindow::updateTitle()

@@ -17,6 +17,7 @@
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/plugins/PluginActions.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/structure/NodeActions.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
@@ -42,6 +43,7 @@
 #include "orvane/app/window/HelpMenu.h"
 #include "orvane/app/window/HistoryDock.h"
 #include "orvane/app/window/KeptColumns.h"
+#include "orvane/app/window/LanguageMenu.h"
 #include "orvane/app/window/ListDock.h"
 #include "orvane/app/window/LogDock.h"
 #include "orvane/app/window/MainWindow.h"
@@ -66,12 +68,14 @@ constexpr int treeWidth = 330;
 
 void MainWindow::buildDocks()
 {
-    auto* dock = new QDockWidget(tr("Scene"), this);
+    auto* dock = new QDockWidget(this);
+    orvane::followLanguage(dock, [dock] { dock->setWindowTitle(tr("Scene")); });
     dock->setObjectName(QStringLiteral("sceneDock"));
     dock->setWidget(m_tree);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
     // Above the docks of extensions that edit the field that is chosen here.
-    auto* fieldsDock = new QDockWidget(tr("Fields"), this);
+    auto* fieldsDock = new QDockWidget(this);
+    orvane::followLanguage(fieldsDock, [fieldsDock] { fieldsDock->setWindowTitle(tr("Fields")); });
     fieldsDock->setObjectName(QStringLiteral("fieldsDock"));
     fieldsDock->setWidget(m_fields);
     addDockWidget(Qt::RightDockWidgetArea, fieldsDock);
@@ -132,7 +136,8 @@ void MainWindow::buildMenus()
     new EditorManners(this, m_session.services(), m_fields);
     connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);
 
-    QToolBar* toolBar = addToolBar(tr("File and Edit"));
+    QToolBar* toolBar = addToolBar(QString());
+    orvane::followLanguage(toolBar, [toolBar] { toolBar->setWindowTitle(tr("File and Edit")); });
     toolBar->setObjectName(QStringLiteral("mainToolBar"));
     toolBar->addActions(m_fileMenu->toolBarActions());
     toolBar->addSeparator();
@@ -152,7 +157,8 @@ void MainWindow::buildMenus()
         (new MeasureTool(m_view, m_session))->action(), pictures->action()});
     viewMenu->append(hiding->actions());
     viewMenu->append((new TreeActions(m_tree, statusBar()))->menuActions() << inspectors);
-    viewMenu->append({m_imageFolders->forgetAction()});
+    viewMenu->append({m_imageFolders->forgetAction(),
+        (new LanguageMenu(SettingsStore::of(m_session.settings()), this))->menuAction()});
     viewMenu->update();
     new KeptColumns(this, m_session.settings());
 }

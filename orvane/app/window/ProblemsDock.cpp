@@ -1,6 +1,7 @@
 #include "orvane/app/window/ProblemsDock.h"
 
 #include "orvane/app/base/UserLocale.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/problems/LiveCheck.h"
 #include "orvane/app/problems/ProblemPanel.h"
 #include "orvane/app/scene/SceneDocument.h"
@@ -17,13 +18,14 @@
 
 ProblemsDock::ProblemsDock(
     Session& session, ImageFolderQuestion& folders, JobBar& jobBar, SceneTreePanel* tree, QMainWindow* window)
-    : QDockWidget(tr("Problems"), window)
+    : QDockWidget(window)
     , m_session(session)
     , m_jobBar(jobBar)
     , m_tree(tree)
     , m_window(window)
     , m_check(new LiveCheck(session, folders))
 {
+    orvane::followLanguage(this, [this] { updateTitle(); });
     m_check->setParent(this);
     setObjectName(QStringLiteral("problemsDock"));
     toggleViewAction()->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M));

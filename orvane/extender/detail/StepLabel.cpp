@@ -20,10 +20,9 @@ using meridane::ChildrenRecord;
 using orvane::StepLabel;
 using Records = std::span<const std::unique_ptr<ChangeRecord>>;
 
-QString tr(const char* text, int count = -1)
-{
-    return QCoreApplication::translate("StepLabel", text, nullptr, count);
-}
+struct StepLabelTexts {
+    Q_DECLARE_TR_FUNCTIONS(StepLabel)
+};
 
 /// The name of the node, or that of its class.
 QString nameOf(const NxFieldContainer& node)
@@ -88,10 +87,10 @@ StepLabel labelOfMove(const Move& move, const NxGroup& scene)
     const NxType type = move.node->getTypeId();
     const QString name = nameOf(*move.node);
     if (move.from == move.to)
-        return {tr("Reorder %1").arg(name), type};
+        return {StepLabelTexts::tr("Reorder %1").arg(name), type};
     if (move.to == &scene)
-        return {tr("Move %1 to the top").arg(name), type};
-    return {tr("Move %1 to %2").arg(name, nameOf(*move.to)), type};
+        return {StepLabelTexts::tr("Move %1 to the top").arg(name), type};
+    return {StepLabelTexts::tr("Move %1 to %2").arg(name, nameOf(*move.to)), type};
 }
 
 StepLabel labelOfChildren(Records records, const NxGroup& scene)
@@ -100,9 +99,9 @@ StepLabel labelOfChildren(Records records, const NxGroup& scene)
     if (records.size() == 1) {
         const auto present = first.presentChildren();
         if (const NxNode* const added = onlyNode(present); added != nullptr && first.otherChildren().empty())
-            return {tr("Add %1").arg(nameOf(*added)), added->getTypeId()};
+            return {StepLabelTexts::tr("Add %1").arg(nameOf(*added)), added->getTypeId()};
         if (const NxNode* const removed = onlyRemoved(first))
-            return {tr("Remove %1").arg(nameOf(*removed)), removed->getTypeId()};
+            return {StepLabelTexts::tr("Remove %1").arg(nameOf(*removed)), removed->getTypeId()};
     } else if (records.size() == 2) {
         const Move move = findMove(first, static_cast<const ChildrenRecord&>(*records.back()));
         if (move.node != nullptr)
@@ -110,8 +109,8 @@ StepLabel labelOfChildren(Records records, const NxGroup& scene)
     }
     const NxGroup& group = first.group();
     if (&group == &scene || std::ranges::any_of(records, [&](const auto& record) { return &record->node() != &group; }))
-        return {tr("Change the structure"), {}};
-    return {tr("Change the children of %1").arg(nameOf(group)), group.getTypeId()};
+        return {StepLabelTexts::tr("Change the structure"), {}};
+    return {StepLabelTexts::tr("Change the children of %1").arg(nameOf(group)), group.getTypeId()};
 }
 
 /// The name of the field that all records are of, in whichever node; empty if they are of several.
@@ -144,14 +143,14 @@ StepLabel labelOfSeveralNodes(Records records)
 {
     const VbName field = commonField(records);
     if (field.isEmpty())
-        return {tr("Change several nodes"), {}};
+        return {StepLabelTexts::tr("Change several nodes"), {}};
     const ChangeRecord& first = *records.front();
     const bool isIgnored = first.kind() != ChangeRecord::Kind::Value && first.field()->isIgnored();
     const auto isLikeFirst = [&](const auto& record) { return record->field()->isIgnored() == isIgnored; };
     const bool isFlag = areAll(records, ChangeRecord::Kind::Ignored) && std::ranges::all_of(records, isLikeFirst);
-    const QString text = !isFlag ? tr("Set %1 of %2 nodes")
-        : isIgnored              ? tr("Ignore %1 of %2 nodes")
-                                 : tr("Use %1 of %2 nodes");
+    const QString text = !isFlag ? StepLabelTexts::tr("Set %1 of %2 nodes")
+        : isIgnored              ? StepLabelTexts::tr("Ignore %1 of %2 nodes")
+                                 : StepLabelTexts::tr("Use %1 of %2 nodes");
     return {text.arg(orvane::toQString(field)).arg(countNodes(records)), {}};
 }
 
@@ -169,12 +168,13 @@ orvane::StepLabel orvane::labelOf(const meridane::JournalStep& step, const NxGro
         return labelOfSeveralNodes(records);
     const auto label = [&node](const QString& text) { return StepLabel{text, node.getTypeId()}; };
     if (!all([&first](const auto& record) { return record->field() == first.field(); }))
-        return label(tr("Change %1").arg(nameOf(node)));
+        return label(StepLabelTexts::tr("Change %1").arg(nameOf(node)));
     if (first.kind() == ChangeRecord::Kind::Name && records.size() == 1)
-        return label(tr("Rename %1").arg(nameOf(node)));
+        return label(StepLabelTexts::tr("Rename %1").arg(nameOf(node)));
     if (first.kind() == ChangeRecord::Kind::Ignored && records.size() == 1)
-        return label((first.field()->isIgnored() ? tr("Ignore %1") : tr("Use %1")).arg(nameOf(*first.field())));
+        return label((first.field()->isIgnored() ? StepLabelTexts::tr("Ignore %1") : StepLabelTexts::tr("Use %1"))
+                         .arg(nameOf(*first.field())));
     if (first.field() != nullptr)
-        return label(tr("Set %1").arg(nameOf(*first.field())));
-    return label(tr("Change %1").arg(nameOf(node)));
+        return label(StepLabelTexts::tr("Set %1").arg(nameOf(*first.field())));
+    return label(StepLabelTexts::tr("Change %1").arg(nameOf(node)));
 }

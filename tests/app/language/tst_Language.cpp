@@ -1,5 +1,6 @@
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/language/Language.h"
+#include "orvane/app/settings/SettingList.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -31,6 +32,17 @@ private Q_SLOTS:
         QVERIFY(codes.contains(QStringLiteral("de")));
         QCOMPARE(Language::name(QStringLiteral("en")), QStringLiteral("English"));
         QCOMPARE(Language::name(QStringLiteral("de")), QStringLiteral("Deutsch"));
+    }
+
+    void theSettingOffersAllOfThem()
+    {
+        const Setting* const setting = orvane::findSetting(u"look/language");
+        QVERIFY(setting != nullptr);
+        QStringList offered;
+        for (const Setting::Choice& choice : setting->choices)
+            offered.append(QLatin1String(choice.value));
+        QCOMPARE(offered, QStringList(Language::system) + Language::codes());
+        QCOMPARE(setting->defaultValue.toString(), QString(Language::system));
     }
 
     void theChoiceIsResolved_data()

@@ -12,10 +12,9 @@
 namespace orvane {
 namespace {
 
-QString factText(const char* text)
-{
-    return QCoreApplication::translate("FactsText", text);
-}
+struct FactsTextTexts {
+    Q_DECLARE_TR_FUNCTIONS(FactsText)
+};
 
 QString limitText(double limit)
 {
@@ -27,12 +26,14 @@ QString limitsText(double minimum, bool excludesMinimum, double maximum, bool ex
 {
     const bool hasMinimum = std::isfinite(minimum);
     const bool hasMaximum = std::isfinite(maximum);
-    const QString least = (excludesMinimum ? factText("above %1") : factText("at least %1")).arg(limitText(minimum));
-    const QString greatest = (excludesMaximum ? factText("below %1") : factText("at most %1")).arg(limitText(maximum));
+    const QString least = (excludesMinimum ? FactsTextTexts::tr("above %1") : FactsTextTexts::tr("at least %1"))
+                              .arg(limitText(minimum));
+    const QString greatest
+        = (excludesMaximum ? FactsTextTexts::tr("below %1") : FactsTextTexts::tr("at most %1")).arg(limitText(maximum));
     if (hasMinimum && hasMaximum && !excludesMinimum && !excludesMaximum)
-        return factText("%1 to %2").arg(limitText(minimum), limitText(maximum));
+        return FactsTextTexts::tr("%1 to %2").arg(limitText(minimum), limitText(maximum));
     if (hasMinimum && hasMaximum)
-        return factText("%1 and %2").arg(least, greatest);
+        return FactsTextTexts::tr("%1 and %2").arg(least, greatest);
     return hasMinimum ? least : hasMaximum ? greatest : QString();
 }
 
@@ -69,7 +70,7 @@ QString rangeText(const NxField& field, const NxFieldFacts& facts)
     QStringList parts{choicesText(field), hard};
     if (isNarrower) {
         parts.append(
-            factText("useful %1")
+            FactsTextTexts::tr("useful %1")
                 .arg(limitsText(facts.softMinimum, facts.excludesMinimum && facts.softMinimum == facts.hardMinimum,
                     facts.softMaximum, facts.excludesMaximum && facts.softMaximum == facts.hardMaximum)));
     }
@@ -81,13 +82,13 @@ QString unitText(NxUnit unit)
 {
     switch (unit) {
     case NxUnit::Radians:
-        return factText("radians");
+        return FactsTextTexts::tr("radians");
     case NxUnit::Metres:
-        return factText("metres");
+        return FactsTextTexts::tr("metres");
     case NxUnit::Percent:
-        return factText("per cent");
+        return FactsTextTexts::tr("per cent");
     case NxUnit::Seconds:
-        return factText("seconds");
+        return FactsTextTexts::tr("seconds");
     case NxUnit::None:
         break;
     }

@@ -29,10 +29,9 @@ using Parts = std::vector<std::string_view>;
 constexpr std::string_view blanks = " \t\r\n\f\v";
 constexpr std::string_view brackets = "()[]{}<>";
 
-QString pastedNumbersText(const char* text)
-{
-    return QCoreApplication::translate("PastedNumbers", text);
-}
+struct PastedNumbersTexts {
+    Q_DECLARE_TR_FUNCTIONS(PastedNumbers)
+};
 
 std::string_view trimmed(std::string_view text)
 {
@@ -91,7 +90,7 @@ Result<double> numberOf(std::string_view text, const FieldComponents& components
     if (components.number() == FieldComponents::Number::Flag) {
         if (const auto flag = flagOf(text))
             return *flag;
-        return Failure{pastedNumbersText("\"%1\" is neither yes nor no.").arg(shortLine(toQString(text)))};
+        return Failure{PastedNumbersTexts::tr("\"%1\" is neither yes nor no.").arg(shortLine(toQString(text)))};
     }
     double number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -177,7 +176,7 @@ public:
             return failure;
         const auto found
             = static_cast<int>(split(row, row.find(';') != std::string_view::npos ? ";" : " ,\t\r\n").size());
-        return Failure{pastedNumbersText("A value has %1 numbers, and here are %2.").arg(m_count).arg(found)};
+        return Failure{PastedNumbersTexts::tr("A value has %1 numbers, and here are %2.").arg(m_count).arg(found)};
     }
 
 private:
@@ -274,7 +273,7 @@ Result<std::vector<double>> pastedNumbers(const FieldComponents& components, std
     for (std::size_t row = 0; row < rows.size(); ++row) {
         const auto numbers = reader.read(rows[row], false);
         if (!numbers)
-            return Failure{pastedNumbersText("Row %1: %2").arg(row + 1).arg(numbers.error())};
+            return Failure{PastedNumbersTexts::tr("Row %1: %2").arg(row + 1).arg(numbers.error())};
         all.insert(all.end(), numbers.value().begin(), numbers.value().end());
     }
     return all;

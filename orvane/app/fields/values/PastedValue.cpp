@@ -25,10 +25,9 @@ namespace {
 
 using meridane::FieldComponents;
 
-QString pastedValueText(const char* text)
-{
-    return QCoreApplication::translate("PastedValue", text);
-}
+struct PastedValueTexts {
+    Q_DECLARE_TR_FUNCTIONS(PastedValue)
+};
 
 std::string textOf(const NxField& field)
 {
@@ -107,7 +106,8 @@ Result<std::string> pastedValue(const NxField& field, const QString& text)
         return Failure{refusedText(field, text) + u' ' + numbers.error()};
     std::string rows = rowsText(numbers.value(), *components, isList);
     if (!spare->set(VbString(rows)))
-        return Failure{refusedText(field, text) + u' ' + pastedValueText("A number is out of the range of its type.")};
+        return Failure{
+            refusedText(field, text) + u' ' + PastedValueTexts::tr("A number is out of the range of its type.")};
     return rows;
 }
 

@@ -16,10 +16,9 @@ namespace {
 
 constexpr int exampleCharacters = 40;
 
-QString refusalText(const char* text)
-{
-    return QCoreApplication::translate("Refusal", text);
-}
+struct RefusalTexts {
+    Q_DECLARE_TR_FUNCTIONS(Refusal)
+};
 
 /// The text form of the default, as an example of a value.
 QString exampleOf(const NxField& field)
@@ -35,9 +34,9 @@ QString exampleOf(const NxField& field)
 QString orvane::refusedText(const NxField& field, const QString& text)
 {
     const QString name = toQString(field.getContainer()->getFieldName(&field));
-    const QString refused = refusalText("\"%1\" isn't a value for %2, a field of type %3.")
+    const QString refused = RefusalTexts::tr("\"%1\" isn't a value for %2, a field of type %3.")
                                 .arg(shortLine(text, exampleCharacters), name, typeName(field));
     if (const QString range = rangeText(field, meridane::factsOf(field)); !range.isEmpty())
-        return refused + u' ' + refusalText("It takes: %1.").arg(range);
-    return refused + u' ' + refusalText("The default is an example of one: %1").arg(exampleOf(field));
+        return refused + u' ' + RefusalTexts::tr("It takes: %1.").arg(range);
+    return refused + u' ' + RefusalTexts::tr("The default is an example of one: %1").arg(exampleOf(field));
 }

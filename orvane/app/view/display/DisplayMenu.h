@@ -29,11 +29,11 @@ public:
     [[nodiscard]] QAction* menuAction() const;
 
 private:
-    QAction* addAction(const char* name, const QString& text, const QString& tip, const QKeySequence& key);
-    void addShading(const char* name, const QString& text, const QString& tip, const QKeySequence& key,
-        NxDrawingStyle::Shading shading);
+    QAction* addAction(const char* name, const char* text, const char* tip, const QKeySequence& key);
+    void addShading(
+        const char* name, const char* text, const char* tip, const QKeySequence& key, NxDrawingStyle::Shading shading);
     void addSwitch(
-        const char* name, const QString& text, const QString& tip, const QKeySequence& key, bool NxDrawingStyle::*part);
+        const char* name, const char* text, const char* tip, const QKeySequence& key, bool NxDrawingStyle::*part);
     void addBackground();
     void setBackground(int background);
     void addSection();

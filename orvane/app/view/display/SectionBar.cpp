@@ -1,5 +1,6 @@
 #include "orvane/app/view/display/SectionBar.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/view/SceneView.h"
 
@@ -31,38 +32,48 @@ SectionBar::SectionBar(SceneView* view)
     , m_flip(new QToolButton(this))
 {
     setObjectName(QStringLiteral("sectionBar"));
-    setAccessibleName(tr("Section plane"));
+    orvane::followLanguage(this, [this] { setAccessibleName(tr("Section plane")); });
     setAutoFillBackground(true);
     setFrameShape(QFrame::StyledPanel);
     auto* const line = new QHBoxLayout(this);
     const int unit = orvane::look::unit(fontMetrics());
     line->setContentsMargins(2 * unit, unit, 2 * unit, unit);
     line->setSpacing(2 * unit);
-    line->addWidget(new QLabel(tr("Section"), this));
+    auto* const title = new QLabel(this);
+    line->addWidget(title);
     m_axis->setObjectName(QStringLiteral("sectionAxis"));
-    m_axis->setAccessibleName(tr("Axis"));
-    m_axis->addItems({tr("x"), tr("y"), tr("z")});
+    orvane::followLanguage(this, [this, title] {
+        title->setText(tr("Section"));
+        m_axis->setAccessibleName(tr("Axis"));
+    });
+    m_axis->addItems({QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z")});
     line->addWidget(m_axis);
     m_slider->setObjectName(QStringLiteral("sectionSlider"));
-    m_slider->setAccessibleName(tr("Position of the section"));
+    orvane::followLanguage(this, [this] { m_slider->setAccessibleName(tr("Position of the section")); });
     m_slider->setRange(0, sliderSteps);
     line->addWidget(m_slider, 1);
     m_position->setObjectName(QStringLiteral("sectionPosition"));
-    m_position->setAccessibleName(tr("Position of the section"));
-    m_position->setToolTip(tr("The place of the plane on its axis, in scene units"));
+    orvane::followLanguage(this, [this] {
+        m_position->setAccessibleName(tr("Position of the section"));
+        m_position->setToolTip(tr("The place of the plane on its axis, in scene units"));
+    });
     constexpr double most = 1e12;
     m_position->setRange(-most, most);
     m_position->setKeyboardTracking(false);
     line->addWidget(m_position);
     m_flip->setObjectName(QStringLiteral("sectionFlip"));
-    m_flip->setText(tr("Flip"));
-    m_flip->setToolTip(tr("Shows the other side of the plane"));
+    orvane::followLanguage(this, [this] {
+        m_flip->setText(tr("Flip"));
+        m_flip->setToolTip(tr("Shows the other side of the plane"));
+    });
     m_flip->setCheckable(true);
     line->addWidget(m_flip);
     auto* const close = new QToolButton(this);
     close->setObjectName(QStringLiteral("sectionClose"));
-    close->setText(tr("Close"));
-    close->setToolTip(tr("Shows all of the scene again"));
+    orvane::followLanguage(close, [close] {
+        close->setText(tr("Close"));
+        close->setToolTip(tr("Shows all of the scene again"));
+    });
     line->addWidget(close);
     connect(m_axis, &QComboBox::currentIndexChanged, this, &SectionBar::takeRange);
     connect(m_slider, &QSlider::valueChanged, this,

@@ -1,6 +1,7 @@
 #include "orvane/app/view/handles/ViewHandles.h"
 
 #include "orvane/app/fields/values/FieldText.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -52,22 +53,30 @@ ViewHandles::ViewHandles(Session& session, SceneView* view, SceneTreePanel* tree
     , m_symbolTool(new SymbolTool(view, tree))
     , m_tool(new HandleTool(view, tree, session.services()))
     , m_note(new HandleNote(view))
-    , m_menu(new QMenu(tr("&Handles"), view))
+    , m_menu(new QMenu(view))
     , m_kinds(new QActionGroup(this))
     , m_axes(new QActionGroup(this))
-    , m_symbols(new QAction(tr("S&ymbols"), this))
+    , m_symbols(new QAction(this))
 {
+    orvane::followLanguage(this, [this] {
+        m_menu->setTitle(tr("&Handles"));
+        m_symbols->setText(tr("S&ymbols"));
+    });
     m_menu->setObjectName(QStringLiteral("handlesMenu"));
-    addKind({}, "view.handlesNone", tr("&None"), tr("Shows no handles in the view"), Qt::Key_Q);
-    addKind(Kind::Move, "view.handlesMove", tr("&Move"), tr("Shows handles that move what is selected"), Qt::Key_W);
-    addKind(Kind::Turn, "view.handlesTurn", tr("&Turn"), tr("Shows handles that turn what is selected"), Qt::Key_E);
-    addKind(Kind::Scale, "view.handlesScale", tr("&Scale"), tr("Shows handles that scale what is selected"), Qt::Key_R);
+    addKind({}, "view.handlesNone", QT_TR_NOOP("&None"), QT_TR_NOOP("Shows no handles in the view"), Qt::Key_Q);
+    addKind(Kind::Move, "view.handlesMove", QT_TR_NOOP("&Move"), QT_TR_NOOP("Shows handles that move what is selected"),
+        Qt::Key_W);
+    addKind(Kind::Turn, "view.handlesTurn", QT_TR_NOOP("&Turn"), QT_TR_NOOP("Shows handles that turn what is selected"),
+        Qt::Key_E);
+    addKind(Kind::Scale, "view.handlesScale", QT_TR_NOOP("&Scale"),
+        QT_TR_NOOP("Shows handles that scale what is selected"), Qt::Key_R);
     m_menu->addSeparator();
-    addAxes(HandleAxes::World, "view.axesWorld", tr("&World Axes"), tr("Handles have the axes of the scene"));
-    addAxes(HandleAxes::Parent, "view.axesParent", tr("&Parent Axes"),
-        tr("Handles have the axes of the group above the node that was selected last"));
-    addAxes(HandleAxes::Own, "view.axesOwn", tr("&Own Axes"),
-        tr("Handles have the axes of the node that was selected last"));
+    addAxes(HandleAxes::World, "view.axesWorld", QT_TR_NOOP("&World Axes"),
+        QT_TR_NOOP("Handles have the axes of the scene"));
+    addAxes(HandleAxes::Parent, "view.axesParent", QT_TR_NOOP("&Parent Axes"),
+        QT_TR_NOOP("Handles have the axes of the group above the node that was selected last"));
+    addAxes(HandleAxes::Own, "view.axesOwn", QT_TR_NOOP("&Own Axes"),
+        QT_TR_NOOP("Handles have the axes of the node that was selected last"));
     addSymbols();
     connect(m_tool, &HandleTool::changed, this, &ViewHandles::showNote);
     connect(m_tool, &HandleTool::refused, m_note, [this](const QString& reason) { m_note->showText(reason); });
@@ -82,8 +91,10 @@ QAction* ViewHandles::menuAction() const
 void ViewHandles::addSymbols()
 {
     m_symbols->setObjectName(QStringLiteral("view.symbols"));
-    m_symbols->setToolTip(tr("Shows lights and cameras as symbols, which can be clicked"));
-    m_symbols->setStatusTip(m_symbols->toolTip());
+    orvane::followLanguage(this, [this] {
+        m_symbols->setToolTip(tr("Shows lights and cameras as symbols, which can be clicked"));
+        m_symbols->setStatusTip(m_symbols->toolTip());
+    });
     m_symbols->setCheckable(true);
     m_symbols->setChecked(m_session.settings().value(symbolsKey, true).toBool());
     m_symbolTool->setShown(m_symbols->isChecked());
@@ -93,21 +104,22 @@ void ViewHandles::addSymbols()
     });
 }
 
-QAction* ViewHandles::addAction(
-    QActionGroup* group, const char* name, const QString& text, const QString& tip, bool isChosen)
+QAction* ViewHandles::addAction(QActionGroup* group, const char* name, const char* text, const char* tip, bool isChosen)
 {
-    QAction* const action = m_menu->addAction(text);
+    QAction* const action = m_menu->addAction(QString());
+    orvane::followLanguage(action, [action, text, tip] {
+        action->setText(tr(text));
+        action->setToolTip(tr(tip));
+        action->setStatusTip(tr(tip));
+    });
     action->setObjectName(QLatin1String(name));
-    action->setToolTip(tip);
-    action->setStatusTip(tip);
     action->setCheckable(true);
     action->setChecked(isChosen);
     group->addAction(action);
     return action;
 }
 
-void ViewHandles::addKind(
-    std::optional<Kind> kind, const char* name, const QString& text, const QString& tip, Qt::Key key)
+void ViewHandles::addKind(std::optional<Kind> kind, const char* name, const char* text, const char* tip, Qt::Key key)
 {
     const QString value = QLatin1String(name);
     const bool isChosen = m_session.settings().value(kindKey, QStringLiteral("view.handlesNone")).toString() == value;
@@ -123,7 +135,7 @@ void ViewHandles::addKind(
     });
 }
 
-void ViewHandles::addAxes(HandleAxes axes, const char* name, const QString& text, const QString& tip)
+void ViewHandles::addAxes(HandleAxes axes, const char* name, const char* text, const char* tip)
 {
     const QString value = QLatin1String(name);
     const bool isChosen = m_session.settings().value(axesKey, QStringLiteral("view.axesWorld")).toString() == value;

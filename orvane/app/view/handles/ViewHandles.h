@@ -35,9 +35,9 @@ public:
 private:
     using Kind = HandleTargets::Kind;
 
-    void addKind(std::optional<Kind> kind, const char* name, const QString& text, const QString& tip, Qt::Key key);
-    void addAxes(HandleAxes axes, const char* name, const QString& text, const QString& tip);
-    QAction* addAction(QActionGroup* group, const char* name, const QString& text, const QString& tip, bool isChosen);
+    void addKind(std::optional<Kind> kind, const char* name, const char* text, const char* tip, Qt::Key key);
+    void addAxes(HandleAxes axes, const char* name, const char* text, const char* tip);
+    QAction* addAction(QActionGroup* group, const char* name, const char* text, const char* tip, bool isChosen);
     void addSymbols();
     void showNote();
     [[nodiscard]] QString reason(const NxNode& node, Kind kind) const;

@@ -1,5 +1,6 @@
 #include "orvane/app/view/measure/MeasureTool.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
@@ -67,15 +68,17 @@ std::optional<double> angleAt(const VbVec3d& middle, const VbVec3d& first, const
 MeasureTool::MeasureTool(SceneView* view, Session& session)
     : QObject(view)
     , m_view(view)
-    , m_action(new QAction(tr("&Measure"), this))
+    , m_action(new QAction(this))
 {
     m_action->setObjectName(QStringLiteral("view.measure"));
     m_action->setCheckable(true);
     m_action->setShortcut(Qt::Key_M);
     m_action->setShortcutContext(Qt::WidgetShortcut);
-    const QString tip = tr("Measures distances and angles between points that are clicked, and the selection");
-    m_action->setToolTip(tip);
-    m_action->setStatusTip(tip);
+    orvane::followLanguage(this, [this] {
+        m_action->setText(tr("&Measure"));
+        m_action->setToolTip(tr("Measures distances and angles between points that are clicked, and the selection"));
+        m_action->setStatusTip(m_action->toolTip());
+    });
     view->addAction(m_action);
     view->input().addTool(this);
     connect(m_action, &QAction::toggled, this, [this](bool isOn) {

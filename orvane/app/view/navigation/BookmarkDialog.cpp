@@ -1,5 +1,6 @@
 #include "orvane/app/view/navigation/BookmarkDialog.h"
 
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/view/navigation/SceneBookmarks.h"
 
@@ -16,20 +17,23 @@ BookmarkDialog::BookmarkDialog(SceneBookmarks& bookmarks, QWidget* parent)
     : QDialog(parent)
     , m_bookmarks(bookmarks)
     , m_list(new QListWidget(this))
-    , m_goTo(
-          addButton("bookmarkGoTo", tr("&Go To"), tr("Looks from where the bookmark was set"), &BookmarkDialog::goTo))
-    , m_rename(
-          addButton("bookmarkRename", tr("&Rename"), tr("Gives the bookmark another name"), &BookmarkDialog::rename))
-    , m_set(addButton("bookmarkSet", tr("Set to the &View"), tr("The bookmark becomes what the view shows now"),
-          &BookmarkDialog::setToView))
-    , m_remove(addButton("bookmarkRemove", tr("Re&move"), tr("Removes the bookmark"), &BookmarkDialog::remove))
+    , m_goTo(addButton("bookmarkGoTo", QT_TR_NOOP("&Go To"), QT_TR_NOOP("Looks from where the bookmark was set"),
+          &BookmarkDialog::goTo))
+    , m_rename(addButton("bookmarkRename", QT_TR_NOOP("&Rename"), QT_TR_NOOP("Gives the bookmark another name"),
+          &BookmarkDialog::rename))
+    , m_set(addButton("bookmarkSet", QT_TR_NOOP("Set to the &View"),
+          QT_TR_NOOP("The bookmark becomes what the view shows now"), &BookmarkDialog::setToView))
+    , m_remove(addButton(
+          "bookmarkRemove", QT_TR_NOOP("Re&move"), QT_TR_NOOP("Removes the bookmark"), &BookmarkDialog::remove))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(QStringLiteral("bookmarkDialog"));
-    setWindowTitle(tr("Bookmarks"));
+    orvane::followLanguage(this, [this] {
+        setWindowTitle(tr("Bookmarks"));
+        m_list->setAccessibleName(tr("Bookmarks"));
+    });
     const int unit = orvane::look::unit(fontMetrics());
     m_list->setObjectName(QStringLiteral("bookmarkList"));
-    m_list->setAccessibleName(tr("Bookmarks"));
     m_list->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
     m_list->installEventFilter(this);
     auto* const buttons = new QVBoxLayout;
@@ -61,11 +65,14 @@ BookmarkDialog::BookmarkDialog(SceneBookmarks& bookmarks, QWidget* parent)
 }
 
 QPushButton* BookmarkDialog::addButton(
-    const char* name, const QString& text, const QString& tip, void (BookmarkDialog::*run)())
+    const char* name, const char* text, const char* tip, void (BookmarkDialog::*run)())
 {
-    auto* const button = new QPushButton(text, this);
+    auto* const button = new QPushButton(this);
     button->setObjectName(QLatin1String(name));
-    button->setToolTip(tip);
+    orvane::followLanguage(button, [button, text, tip] {
+        button->setText(tr(text));
+        button->setToolTip(tr(tip));
+    });
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, run);
     return button;

@@ -18,7 +18,7 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    QPushButton* addButton(const char* name, const QString& text, const QString& tip, void (BookmarkDialog::*run)());
+    QPushButton* addButton(const char* name, const char* text, const char* tip, void (BookmarkDialog::*run)());
     void fill();
     void updateButtons();
     void goTo();

@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/PlainText.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/view/navigation/BookmarkDialog.h"
 #include "orvane/app/view/navigation/SceneBookmarks.h"
 
@@ -13,11 +14,13 @@ BookmarkMenu::BookmarkMenu(SceneBookmarks& bookmarks, QWidget* parent)
     : QObject(parent)
     , m_bookmarks(bookmarks)
     , m_parent(parent)
-    , m_menu(new QMenu(tr("&Bookmarks"), parent))
-    , m_add(add(QStringLiteral("view.addBookmark"), tr("&Add Bookmark…"), tr("Keeps from where the view looks now")))
-    , m_edit(add(QStringLiteral("view.editBookmarks"), tr("&Edit Bookmarks…"),
-          tr("Renames, changes and removes the bookmarks of the scene")))
+    , m_menu(new QMenu(parent))
+    , m_add(add(QStringLiteral("view.addBookmark"), QT_TR_NOOP("&Add Bookmark…"),
+          QT_TR_NOOP("Keeps from where the view looks now")))
+    , m_edit(add(QStringLiteral("view.editBookmarks"), QT_TR_NOOP("&Edit Bookmarks…"),
+          QT_TR_NOOP("Renames, changes and removes the bookmarks of the scene")))
 {
+    orvane::followLanguage(this, [this] { m_menu->setTitle(tr("&Bookmarks")); });
     m_menu->setObjectName(QStringLiteral("bookmarkMenu"));
     m_add->setShortcut(Qt::CTRL | Qt::ALT | Qt::Key_B);
     m_menu->addActions({m_add, m_edit});
@@ -27,7 +30,7 @@ BookmarkMenu::BookmarkMenu(SceneBookmarks& bookmarks, QWidget* parent)
     connect(m_add, &QAction::triggered, this, &BookmarkMenu::askForName);
     connect(m_edit, &QAction::triggered, this, &BookmarkMenu::edit);
     connect(&bookmarks, &SceneBookmarks::changed, this, &BookmarkMenu::update);
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
 QAction* BookmarkMenu::menuAction() const
@@ -35,19 +38,23 @@ QAction* BookmarkMenu::menuAction() const
     return m_menu->menuAction();
 }
 
-QAction* BookmarkMenu::add(const QString& name, const QString& text, const QString& tip)
+QAction* BookmarkMenu::add(const QString& name, const char* text, const char* tip)
 {
-    auto* const action = new QAction(text, this);
+    auto* const action = new QAction(this);
+    orvane::followLanguage(action, [action, text, tip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(tip));
+    });
     action->setObjectName(name);
-    action->setStatusTip(tip);
     return action;
 }
 
 void BookmarkMenu::addNumber()
 {
     const auto number = static_cast<int>(m_numbers.size());
-    QAction* const action = add(
-        QStringLiteral("view.bookmark%1").arg(number + 1), QString(), tr("Looks from where this bookmark was set"));
+    auto* const action = new QAction(this);
+    action->setObjectName(QStringLiteral("view.bookmark%1").arg(number + 1));
+    orvane::followLanguage(action, [action] { action->setStatusTip(tr("Looks from where this bookmark was set")); });
     if (number < keyCount)
         action->setShortcut(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + number));
     connect(action, &QAction::triggered, this, [this, number] { m_bookmarks.goTo(static_cast<std::size_t>(number)); });

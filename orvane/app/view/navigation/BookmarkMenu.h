@@ -21,7 +21,7 @@ public:
     [[nodiscard]] QAction* menuAction() const;
 
 private:
-    QAction* add(const QString& name, const QString& text, const QString& tip);
+    QAction* add(const QString& name, const char* text, const char* tip);
     void addNumber();
     void update();
     void askForName();

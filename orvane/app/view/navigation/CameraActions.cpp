@@ -4,6 +4,7 @@
 #include "orvane/app/base/PendingEdits.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/fields/values/FieldWriteCommand.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
@@ -34,23 +35,26 @@ CameraActions::CameraActions(
     , m_tree(tree)
     , m_editor(editor)
     , m_cameras(cameras)
-    , m_new(add("view.newCamera", tr("New &Camera from the View"),
-          tr("Adds a camera to the scene that looks as the view does now"), &CameraActions::addCamera))
-    , m_set(add("view.setCamera", tr("&Set Camera to the View"),
-          tr("Lets the selected camera, or the one that was looked through last, look as the view does now"),
+    , m_new(add("view.newCamera", QT_TR_NOOP("New &Camera from the View"),
+          QT_TR_NOOP("Adds a camera to the scene that looks as the view does now"), &CameraActions::addCamera))
+    , m_set(add("view.setCamera", QT_TR_NOOP("&Set Camera to the View"),
+          QT_TR_NOOP("Lets the selected camera, or the one that was looked through last, look as the view does now"),
           &CameraActions::setCamera))
 {
     connect(tree, &SceneTreePanel::selectionChanged, this, &CameraActions::update);
     connect(&cameras, &CameraMenu::lookedThrough, this, &CameraActions::update);
     connect(&session.document(), &SceneDocument::sceneChanged, this, &CameraActions::update);
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
-QAction* CameraActions::add(const char* name, const QString& text, const QString& tip, void (CameraActions::*run)())
+QAction* CameraActions::add(const char* name, const char* text, const char* tip, void (CameraActions::*run)())
 {
-    auto* const action = new QAction(text, this);
+    auto* const action = new QAction(this);
+    orvane::followLanguage(action, [action, text, tip] {
+        action->setText(tr(text));
+        action->setStatusTip(tr(tip));
+    });
     action->setObjectName(QLatin1String(name));
-    action->setStatusTip(tip);
     connect(action, &QAction::triggered, this, run);
     return action;
 }

@@ -29,7 +29,7 @@ Q_SIGNALS:
     void said(const QString& text);
 
 private:
-    QAction* add(const char* name, const QString& text, const QString& tip, void (CameraActions::*run)());
+    QAction* add(const char* name, const char* text, const char* tip, void (CameraActions::*run)());
     void update();
     void addCamera();
     void setCamera();

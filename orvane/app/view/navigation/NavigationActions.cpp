@@ -1,6 +1,7 @@
 #include "orvane/app/view/navigation/NavigationActions.h"
 
 #include "orvane/app/base/AppSettings.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/navigation/BookmarkMenu.h"
@@ -27,11 +28,12 @@ NavigationActions::NavigationActions(SceneView* view, Session& session, SceneTre
     const CameraMenu& cameras, QStatusBar* bar)
     : QObject(view)
     , m_settings(session.settings())
-    , m_menu(new QMenu(tr("Na&vigation"), view))
+    , m_menu(new QMenu(view))
     , m_animation(new ViewAnimation(view))
     , m_bookmarks(new SceneBookmarks(view, session))
     , m_bookmarkMenu(new BookmarkMenu(*m_bookmarks, view))
 {
+    orvane::followLanguage(this, [this] { m_menu->setTitle(tr("Na&vigation")); });
     m_menu->setObjectName(QStringLiteral("navigationMenu"));
     auto* const fly = new FlyTool(view);
     connect(fly, &FlyTool::said, bar, [bar](const QString& text) { bar->showMessage(text); });
@@ -40,26 +42,30 @@ NavigationActions::NavigationActions(SceneView* view, Session& session, SceneTre
     m_menu->addActions(fromView->actions());
     m_menu->addSeparator();
 
-    QAction* const orbit = addSwitch("view.orbitPicked", tr("&Orbit about the Picked Point"),
-        tr("A drag goes round what is under the pointer, rather than round the middle of the picture"), true);
+    QAction* const orbit = addSwitch("view.orbitPicked", QT_TR_NOOP("&Orbit about the Picked Point"),
+        QT_TR_NOOP("A drag goes round what is under the pointer, rather than round the middle of the picture"), true);
     const auto setOrbit = [view](bool isOn) { view->navigation().setOrbitsPicked(isOn); };
     connect(orbit, &QAction::toggled, view, setOrbit);
     setOrbit(orbit->isChecked());
 
-    QAction* const animate = addSwitch("view.animate", tr("&Animate the View"),
-        tr("Views from the sides, framing and bookmarks are reached by a short movement, where the desktop allows it"),
+    QAction* const animate = addSwitch("view.animate", QT_TR_NOOP("&Animate the View"),
+        QT_TR_NOOP(
+            "Views from the sides, framing and bookmarks are reached by a short movement, where the desktop allows it"),
         true);
     const auto setAnimation = [this](bool isOn) { m_animation->setOn(isOn && ViewAnimation::isWanted()); };
     connect(animate, &QAction::toggled, m_animation, setAnimation);
     setAnimation(animate->isChecked());
 }
 
-QAction* NavigationActions::addSwitch(const char* name, const QString& text, const QString& tip, bool isOn)
+QAction* NavigationActions::addSwitch(const char* name, const char* text, const char* tip, bool isOn)
 {
-    QAction* const action = m_menu->addAction(text);
+    QAction* const action = m_menu->addAction(QString());
+    orvane::followLanguage(action, [action, text, tip] {
+        action->setText(tr(text));
+        action->setToolTip(tr(tip));
+        action->setStatusTip(tr(tip));
+    });
     action->setObjectName(QLatin1String(name));
-    action->setToolTip(tip);
-    action->setStatusTip(tip);
     action->setCheckable(true);
     action->setChecked(m_settings.value(navigationKey(*action), isOn).toBool());
     connect(action, &QAction::triggered, this,

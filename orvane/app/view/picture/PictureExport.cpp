@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/ActionState.h"
 #include "orvane/app/images/ImageFolderQuestion.h"
+#include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/app/scene/SceneDocument.h"
@@ -26,14 +27,18 @@ PictureExport::PictureExport(SceneView* view, const Parts& parts)
     : QObject(view)
     , m_view(view)
     , m_parts(parts)
-    , m_action(new QAction(tr("Export Picture…"), this))
+    , m_action(new QAction(this))
 {
+    orvane::followLanguage(this, [this] {
+        m_action->setText(tr("Export Picture…"));
+        m_action->setStatusTip(
+            tr("Writes a picture of the scene of any size, with a transparent background if wanted"));
+    });
     m_action->setObjectName(QStringLiteral("view.exportPicture"));
-    m_action->setStatusTip(tr("Writes a picture of the scene of any size, with a transparent background if wanted"));
     m_action->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_E);
     connect(m_action, &QAction::triggered, this, &PictureExport::ask);
     connect(&parts.session.document(), &SceneDocument::sceneChanged, this, &PictureExport::update);
-    update();
+    orvane::followLanguage(this, [this] { update(); });
 }
 
 void PictureExport::update()

@@ -3,6 +3,7 @@
 #include "meridane/base/Files.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
 #include <QImageWriter>
@@ -10,6 +11,10 @@
 namespace orvane {
 
 namespace {
+
+struct PictureFileTexts {
+    Q_DECLARE_TR_FUNCTIONS(PictureFile)
+};
 
 QByteArray formatOf(const QString& fileName)
 {
@@ -22,7 +27,7 @@ Result<> checkPictureName(const QString& fileName)
 {
     if (QImageWriter::supportedImageFormats().contains(formatOf(fileName)))
         return {};
-    return Failure{QStringLiteral("%1: the name of a picture ends in .png, .jpg, .bmp or .ppm").arg(fileName)};
+    return Failure{PictureFileTexts::tr("%1: the name of a picture ends in .png, .jpg, .bmp or .ppm").arg(fileName)};
 }
 
 bool canBeTransparent(const QString& fileName)

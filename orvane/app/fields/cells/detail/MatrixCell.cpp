@@ -23,10 +23,9 @@ const VbMatrix& matrixOf(const NxField& field)
     return static_cast<const NxSFMatrix&>(field).getValue();
 }
 
-QString matrixWord(const char* text)
-{
-    return QCoreApplication::translate("MatrixCell", text);
-}
+struct MatrixCellTexts {
+    Q_DECLARE_TR_FUNCTIONS(MatrixCell)
+};
 
 QString numbersText(const std::array<double, 3>& three)
 {
@@ -41,16 +40,16 @@ QString matrixText(const NxField& field)
 {
     const VbMatrix& matrix = matrixOf(field);
     if (matrix == VbMatrix())
-        return matrixWord("identity");
+        return MatrixCellTexts::tr("identity");
     const meridane::MatrixDecomposition decomposition = meridane::decomposed(matrix);
     if (decomposition.rest != MatrixRest::None) {
         constexpr int shownCharacters = 200;
         QString elements = orvane::beginningOf(field, shownCharacters);
         switch (decomposition.rest) {
         case MatrixRest::Shear:
-            return matrixWord("with shear: %1").arg(elements);
+            return MatrixCellTexts::tr("with shear: %1").arg(elements);
         case MatrixRest::Projection:
-            return matrixWord("projection: %1").arg(elements);
+            return MatrixCellTexts::tr("projection: %1").arg(elements);
         default:
             return elements;
         }
@@ -58,11 +57,11 @@ QString matrixText(const NxField& field)
     const meridane::MatrixParts& parts = decomposition.parts;
     QStringList texts;
     if (parts.translation != std::array<double, 3>{})
-        texts.append(matrixWord("moved %1").arg(numbersText(parts.translation)));
+        texts.append(MatrixCellTexts::tr("moved %1").arg(numbersText(parts.translation)));
     if (parts.rotation != std::array<double, 3>{})
-        texts.append(matrixWord("turned %1°").arg(numbersText(parts.rotation)));
+        texts.append(MatrixCellTexts::tr("turned %1°").arg(numbersText(parts.rotation)));
     if (parts.scale != std::array<double, 3>{1, 1, 1})
-        texts.append(matrixWord("scaled %1").arg(numbersText(parts.scale)));
+        texts.append(MatrixCellTexts::tr("scaled %1").arg(numbersText(parts.scale)));
     return texts.join(QStringLiteral(", "));
 }
 
