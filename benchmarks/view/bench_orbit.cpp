@@ -4,6 +4,7 @@
 #include "Figure.h"
 #include "Timing.h"
 #include "view/BallScenes.h"
+#include "view/Silhouettes.h"
 
 #include "orvane/app/view/ViewDrawing.h"
 #include "orvane/app/view/ViewPictures.h"
@@ -34,43 +35,17 @@ NxDrawingStyle style()
     return style;
 }
 
-QImage silhouetteOf(const QImage& picture)
+/// By how many pixels the silhouette of a picture is off.
+int silhouetteError(const QImage& picture, ViewDrawing& drawing, const NxViewpoint& viewpoint)
 {
-    const QImage scaled = picture.scaled(size).convertToFormat(QImage::Format_RGB32);
-    QImage mask(size, QImage::Format_Grayscale8);
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x)
-            mask.scanLine(y)[x] = scaled.pixel(x, y) == qRgb(255, 0, 255) ? 0 : 255;
-    }
-    return mask;
-}
-
-/// Whether the masks have the same value somewhere within `radius` pixels.
-bool agreeNear(const QImage& mask, const QImage& other, const QPoint& place, int radius)
-{
-    const uchar wanted = mask.constScanLine(place.y())[place.x()];
-    const QRect near = QRect(place - QPoint(radius, radius), place + QPoint(radius, radius)).intersected(mask.rect());
-    for (int y = near.top(); y <= near.bottom(); ++y) {
-        for (int x = near.left(); x <= near.right(); ++x) {
-            if (other.constScanLine(y)[x] == wanted)
-                return true;
-        }
-    }
-    return false;
-}
-
-/// The greatest distance of a pixel of one silhouette from those of the other, either way.
-int distanceOf(const QImage& mask, const QImage& other)
-{
-    int radius = 0;
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x) {
-            while (radius < size.height()
-                && !(agreeNear(mask, other, {x, y}, radius) && agreeNear(other, mask, {x, y}, radius)))
-                ++radius;
-        }
-    }
-    return radius;
+    constexpr QRgb background = qRgb(255, 0, 255);
+    NxDrawingStyle even = style();
+    even.shading = NxDrawingStyle::UNLIT;
+    drawing.setStyle(even);
+    const QImage full = drawing.draw(viewpoint, size, 1);
+    drawing.setStyle(style());
+    return bench::differenceOf(
+        bench::silhouetteOf(picture.scaled(size), background), bench::smoothSilhouetteOf(full, background));
 }
 
 void orbit(const std::string& name, NxGroup* scene)
@@ -104,9 +79,9 @@ void orbit(const std::string& name, NxGroup* scene)
         if (i >= 0)
             times.push_back(time);
     }
-    const int distance = distanceOf(silhouetteOf(moving), silhouetteOf(drawing.draw(viewpoint, size, 1)));
+    const int difference = silhouetteError(moving, drawing, viewpoint);
     bench::report({name + ": picture while orbiting", "ms", bench::median(times), 0, most});
-    bench::report({name + ": distance of the silhouette", "pixels", static_cast<double>(distance), 0, 4});
+    bench::report({name + ": difference of the silhouette", "pixels", static_cast<double>(difference), 0, 4});
     bench::report({name + ": picture with full detail", "ms", full, 0, 0});
     bench::report({name + ": until the meshes are reduced", "ms", reduction, 0, 0});
 }

@@ -3,6 +3,8 @@
 #include "meridane/scene/nodes/NxTransform.h"
 
 #include <algorithm>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -20,6 +22,16 @@ void reduceAll(NxSceneDrawing& drawing)
 QImage pictureOf(DrawingBench& bench, float error, const NxViewpoint& viewpoint = DrawingBench::front())
 {
     return bench.draw(viewpoint, side, side, error);
+}
+
+/// Turns all triangles around.
+void turn(NxMesh& mesh)
+{
+    const std::span<const int> all = mesh.indices.getValues();
+    std::vector<int> indices(all.begin(), all.end());
+    for (std::size_t first = 0; first + 2 < indices.size(); first += 3)
+        std::swap(indices[first], indices[first + 1]);
+    mesh.indices.setValues(std::move(indices));
 }
 
 bool isCovered(const QImage& picture, int x, int y)
@@ -82,6 +94,102 @@ private Q_SLOTS:
             QVERIFY(isNearOf(reduced, full, static_cast<int>(error)));
             viewpoint.orbit(0.7F, 0.3F);
         }
+    }
+
+    void manyMeshesKeepTheirSilhouettesAndLoseTriangles()
+    {
+        constexpr int across = 4;
+        constexpr float error = 2;
+        DrawingBench bench;
+        const NxRef<NxGroup> scene = make<NxGroup>();
+        const NxRef<NxMesh> shared = ball(0.15F, steps / 2);
+        for (int i = 0; i < across * across; ++i) {
+            NxRef<NxTransform> place = make<NxTransform>();
+            place->translation.setValue(VbVec3f(
+                -0.75F + 0.5F * static_cast<float>(i % across), -0.75F + 0.5F * static_cast<float>(i / across), 0));
+            place->addChild(i % 2 == 0 ? shared.get() : ball(0.2F, steps / 2).get());
+            scene->addChild(place.get());
+        }
+        bench.drawing().setScene(scene.get());
+        NxViewpoint viewpoint = DrawingBench::front();
+        static_cast<void>(pictureOf(bench, 0, viewpoint));
+        reduceAll(bench.drawing());
+        for (int turn = 0; turn < 3; ++turn) {
+            const QImage full = pictureOf(bench, 0, viewpoint);
+            const QImage reduced = pictureOf(bench, error, viewpoint);
+            QVERIFY(bench.counts().drawnTriangles * 10 < bench.counts().fullCorners / 3);
+            QVERIFY(isNearOf(reduced, full, static_cast<int>(error)));
+            viewpoint.orbit(0.2F, 0.1F);
+        }
+    }
+
+    void theSideThatIsSeenIsTheSame_data()
+    {
+        QTest::addColumn<float>("mirror");
+        QTest::addColumn<bool>("isTurned");
+        QTest::newRow("a ball") << 1.0F << false;
+        QTest::newRow("a ball inside out") << 1.0F << true;
+        QTest::newRow("a mirrored ball") << -1.0F << false;
+        QTest::newRow("a mirrored ball inside out") << -1.0F << true;
+    }
+
+    // The hidden side of a closed mesh isn't drawn; it is darker, since it is farther away from the light.
+    void theSideThatIsSeenIsTheSame()
+    {
+        QFETCH(const float, mirror);
+        QFETCH(const bool, isTurned);
+        DrawingBench bench;
+        const NxRef<NxMesh> mesh = ball(0.9F, steps);
+        if (isTurned)
+            turn(*mesh);
+        NxRef<NxTransform> transform = make<NxTransform>();
+        transform->scaleFactor.setValue(VbVec3f(mirror, 1, 1));
+        transform->addChild(mesh.get());
+        bench.drawing().setScene(transform.get());
+        bench.restyle([](NxDrawingStyle& style) { style.shading = NxDrawingStyle::NORMALS; });
+        const QImage full = pictureOf(bench, 0);
+        reduceAll(bench.drawing());
+        const QImage reduced = pictureOf(bench, 2);
+        QVERIFY(bench.counts().drawnTriangles * 10 < bench.counts().fullCorners / 3);
+        for (const double x : {-0.5, 0.0, 0.4})
+            QVERIFY2(isNear(pixelAt(reduced, x, 0.3), pixelAt(full, x, 0.3), 25),
+                text(pixelAt(reduced, x, 0.3)).constData());
+    }
+
+    void theInsideIsSeenThroughASectionAndFromInside()
+    {
+        DrawingBench bench;
+        const NxRef<NxMesh> mesh = ball(0.9F, 230); // of so many triangles that it is reduced however near it is
+        bench.drawing().setScene(mesh.get());
+        static_cast<void>(pictureOf(bench, 0));
+        reduceAll(bench.drawing());
+        bench.restyle([](NxDrawingStyle& style) {
+            style.section.isOn = true;
+            style.section.normal = VbVec3f(0, 0, 1);
+        });
+        QVERIFY(isNearOf(pictureOf(bench, 2), pictureOf(bench, 0), 2));
+        QVERIFY(isCovered(pictureOf(bench, 2), side / 2, side / 2));
+        bench.restyle([](NxDrawingStyle& style) { style.section.isOn = false; });
+        NxViewpoint inside = DrawingBench::front();
+        inside.projection = NxViewpoint::PERSPECTIVE;
+        inside.position = VbVec3d(0, 0, 0);
+        QVERIFY(isCovered(pictureOf(bench, 2, inside), side / 2, side / 2));
+        QVERIFY(bench.counts().drawnTriangles * 2 < bench.counts().fullCorners / 3);
+    }
+
+    void coarserMeshesAreUploadedWithAReducedOne()
+    {
+        DrawingBench bench;
+        const NxRef<NxMesh> mesh = ball(0.9F, steps);
+        bench.drawing().setScene(mesh.get());
+        static_cast<void>(pictureOf(bench, 0));
+        reduceAll(bench.drawing());
+        static_cast<void>(pictureOf(bench, 1));
+        const std::uint64_t uploads = bench.counts().meshUploads;
+        const std::uint64_t triangles = bench.counts().drawnTriangles;
+        static_cast<void>(pictureOf(bench, 8));
+        QVERIFY(bench.counts().drawnTriangles < triangles);
+        QCOMPARE(bench.counts().meshUploads, uploads);
     }
 
     void fullDetailIsTheSameBeforeAndAfter()

@@ -16,6 +16,7 @@ struct NxDrawingCounts {
     std::uint64_t fullCorners = 0; ///< of the primitives of the meshes in view, if none were reduced
     std::uint64_t drawnItems = 0; ///< instances of meshes in view
     std::uint64_t culledItems = 0; ///< instances of meshes out of view
+    double uploadMilliseconds = 0; ///< that uploads of meshes took, which the next pictures don't need again
 
     std::uint64_t nodes = 0; ///< of the scene, each once wherever it is used
     std::uint64_t bufferBytes = 0; ///< of vertices and indices on the GPU

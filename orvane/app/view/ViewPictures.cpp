@@ -66,11 +66,11 @@ QImage ViewPictures::draw(const NxViewpoint& viewpoint, QSize size, float scale)
         picture = m_drawing.draw(viewpoint, size, scale);
     } else {
         const bool isSettled = !m_drawing.isReducing();
-        const std::uint64_t uploads = m_drawing.counts().meshUploads;
         const double milliseconds = m_drawing.drawReduced(viewpoint, size, scale, m_governor.detail(), picture);
-        // Times say nothing about the detail while meshes are still being reduced or uploaded.
-        if (isSettled && m_drawing.counts().meshUploads == uploads)
-            m_governor.note(milliseconds);
+        // Times say nothing about the detail while meshes are still being reduced, nor do those of uploads. Of many
+        // meshes, a few need another reduced mesh in nearly every picture.
+        if (isSettled)
+            m_governor.note(milliseconds - m_drawing.counts().uploadMilliseconds);
         m_rest.start();
     }
     if (!m_isAlwaysFull && isLarge() && !m_work.isActive())

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <map>
 #include <numbers>
 #include <set>
@@ -82,6 +83,52 @@ MeshCopy cube(int steps)
     return mesh;
 }
 
+/// The same with all triangles turned around.
+MeshCopy turned(MeshCopy mesh)
+{
+    for (std::size_t first = 0; first < mesh.indices.size(); first += 3)
+        std::swap(mesh.indices[first], mesh.indices[first + 1]);
+    return mesh;
+}
+
+/// Both meshes in one, the second with half of its size.
+MeshCopy oneInTheOther(MeshCopy mesh, const MeshCopy& inner)
+{
+    const auto first = static_cast<std::uint32_t>(mesh.positions.size());
+    for (const VbVec3f& position : inner.positions)
+        mesh.positions.push_back(scaled(position, 0.5));
+    mesh.normals.insert(mesh.normals.end(), inner.normals.begin(), inner.normals.end());
+    for (const std::uint32_t index : inner.indices)
+        mesh.indices.push_back(first + index);
+    return mesh;
+}
+
+/// The distance of a point from a triangle.
+double distanceTo(const VbVec3f& point, const VbVec3f& a, const VbVec3f& b, const VbVec3f& c)
+{
+    const auto toEdge = [&](const VbVec3f& from, const VbVec3f& to) {
+        const VbVec3f way = subtract(to, from);
+        const double share = std::clamp(dot(subtract(point, from), way) / std::max(dot(way, way), 1e-30), 0.0, 1.0);
+        return length(subtract(point, add(from, scaled(way, share))));
+    };
+    const double nearest = std::min({toEdge(a, b), toEdge(b, c), toEdge(c, a)});
+    const VbVec3f normal = normalized(cross(subtract(b, a), subtract(c, a)), VbVec3f());
+    const auto isInside = [&](const VbVec3f& from, const VbVec3f& to) {
+        return dot(cross(subtract(to, from), subtract(point, from)), normal) >= 0;
+    };
+    const bool isAbove = isInside(a, b) && isInside(b, c) && isInside(c, a);
+    return isAbove && length(normal) > 0 ? std::abs(dot(subtract(point, a), normal)) : nearest;
+}
+
+double distanceTo(const VbVec3f& point, const MeshCopy& mesh, const ReducedMesh& level)
+{
+    double nearest = std::numeric_limits<double>::max();
+    const auto corner = [&](std::size_t i) { return mesh.positions[level.positions[level.indices[i]]]; };
+    for (std::size_t first = 0; first < level.indices.size(); first += 3)
+        nearest = std::min(nearest, distanceTo(point, corner(first), corner(first + 1), corner(first + 2)));
+    return nearest;
+}
+
 std::vector<ReducedMesh> reduced(const MeshCopy& mesh)
 {
     const std::atomic<bool> isCancelled = false;
@@ -150,6 +197,51 @@ private Q_SLOTS:
             QVERIFY2(difference <= level.error * 1.5F,
                 qPrintable(QStringLiteral("%1, error %2").arg(difference).arg(level.error)));
         }
+    }
+
+    // The error is that of an average over the surroundings of each vertex.
+    void noVertexIsMuchFartherFromTheReducedMeshThanItsError()
+    {
+        constexpr double most = 2;
+        const MeshCopy mesh = ball(40);
+        for (const ReducedMesh& level : reduced(mesh)) {
+            for (std::size_t i = 0; i < mesh.positions.size(); i += 29) {
+                const double distance = distanceTo(mesh.positions[i], mesh, level);
+                QVERIFY2(distance <= most * static_cast<double>(level.error),
+                    qPrintable(QStringLiteral("%1, error %2").arg(distance).arg(level.error)));
+            }
+        }
+    }
+
+    void aClosedMeshHidesOneOfItsSides()
+    {
+        const std::vector<ReducedMesh> levels = reduced(ball(60));
+        const std::vector<ReducedMesh> others = reduced(turned(ball(60)));
+        QVERIFY(!levels.empty());
+        QVERIFY(!others.empty());
+        for (const ReducedMesh& level : levels)
+            QCOMPARE(level.hiddenSides, HiddenSides::Back);
+        for (const ReducedMesh& level : others)
+            QCOMPARE(level.hiddenSides, HiddenSides::Front);
+    }
+
+    void aMeshWithAHoleHidesNone()
+    {
+        MeshCopy mesh = ball(60);
+        mesh.indices.resize(mesh.indices.size() - 30 * mesh.corners);
+        const std::vector<ReducedMesh> levels = reduced(mesh);
+        QVERIFY(!levels.empty());
+        QCOMPARE(levels.front().hiddenSides, HiddenSides::None);
+    }
+
+    void partsThatTurnDifferentSidesOutwardsHideNone()
+    {
+        const std::vector<ReducedMesh> levels = reduced(oneInTheOther(ball(60), turned(ball(60))));
+        QVERIFY(!levels.empty());
+        QCOMPARE(levels.front().hiddenSides, HiddenSides::None);
+        const std::vector<ReducedMesh> same = reduced(oneInTheOther(ball(60), ball(60)));
+        QVERIFY(!same.empty());
+        QCOMPARE(same.front().hiddenSides, HiddenSides::Back);
     }
 
     void aClosedMeshStaysClosed()

@@ -18,19 +18,29 @@ Frustum::Frustum(const VbMatrix& eyeToClip, const VbVec3d& eye) noexcept
     }
 }
 
+Frustum::Range Frustum::rangeOf(const NxBounds& box, const Plane& plane) noexcept
+{
+    Range range{plane[3], plane[3]};
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const double a = plane[axis] * static_cast<double>(box.min[axis]);
+        const double b = plane[axis] * static_cast<double>(box.max[axis]);
+        const double rounding = NxBounds::rounding * (std::abs(a) + std::abs(b));
+        range.least += (a < b ? a : b) - rounding;
+        range.greatest += (a < b ? b : a) + rounding;
+    }
+    return range;
+}
+
+bool Frustum::isAllInFront(const NxBounds& box) const noexcept
+{
+    return rangeOf(box, m_planes[nearest]).least >= 0;
+}
+
 Frustum::Overlap Frustum::overlap(const NxBounds& box) const noexcept
 {
     Overlap result = Overlap::All;
     for (const Plane& plane : m_planes) {
-        double least = plane[3];
-        double greatest = plane[3];
-        for (std::size_t axis = 0; axis < 3; ++axis) {
-            const double a = plane[axis] * static_cast<double>(box.min[axis]);
-            const double b = plane[axis] * static_cast<double>(box.max[axis]);
-            const double rounding = NxBounds::rounding * (std::abs(a) + std::abs(b));
-            least += (a < b ? a : b) - rounding;
-            greatest += (a < b ? b : a) + rounding;
-        }
+        const auto [least, greatest] = rangeOf(box, plane);
         if (greatest < 0)
             return Overlap::None;
         if (!(least >= 0))

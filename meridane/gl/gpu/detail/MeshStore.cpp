@@ -167,6 +167,9 @@ void MeshStore::request(MeshRecord& mesh, MeshDetail detail)
     else
         mesh.levels.push_back({detail, {}});
     m_requests.emplace_back(&mesh, detail);
+    // The coarser ones take less together, and are wanted as soon as the mesh is farther away.
+    if ((detail & reducedBit) != 0 && (detail & ~reducedBit) + 1 < mesh.reduction->levels.size())
+        request(mesh, detail + 1);
 }
 
 void MeshStore::withdraw(MeshRecord& mesh, MeshDetail detail)

@@ -33,7 +33,8 @@ public:
     ~MeshStore();
 
     /// Requests the upload of a mesh with that detail. Its shape must match its lists; a mesh that is pending, because
-    /// it changed after the update of the scene, waits for the next picture.
+    /// it changed after the update of the scene, waits for the next picture. With a reduced mesh, those that are still
+    /// coarser are requested too.
     void request(MeshRecord& mesh, MeshDetail detail);
     /// Has a mesh reduced, so that its reduced meshes can be requested later. Drops those of an older state of it.
     void wantReduced(MeshRecord& mesh);

@@ -172,6 +172,8 @@ std::vector<ReducedMesh> reducedMeshes(const MeshCopy& mesh, const std::atomic<b
         if (work.mesh.indices.size() > most)
             continue;
         levels.push_back(work.mesh);
+        if (mesh.corners == triangle)
+            levels.back().hiddenSides = hiddenSidesOf(work.places, work.mesh.positions, work.mesh.indices);
         most = work.mesh.indices.size() / 2;
         if (work.mesh.indices.size() <= fewPrimitives * mesh.corners)
             break;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "meridane/base/values/VbVec.h"
+#include "meridane/gl/levels/detail/ClosedSurface.h"
 
 #include <atomic>
 #include <cstdint>
@@ -23,6 +24,7 @@ struct ReducedMesh {
     std::vector<std::uint32_t> positions; ///< where each vertex has its position
     std::vector<std::uint32_t> vertices; ///< where each vertex has its normal, texture coordinates and colour
     std::vector<std::uint32_t> indices;
+    HiddenSides hiddenSides = HiddenSides::None; ///< of triangles
 };
 
 /// Reduces a mesh again and again, from the least reduction that is worth it to a handful of primitives; the error

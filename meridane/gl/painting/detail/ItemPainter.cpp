@@ -7,6 +7,7 @@
 #include "meridane/gl/places/detail/DetailLevel.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <tuple>
 #include <utility>
@@ -33,6 +34,7 @@ ItemPainter::ItemPainter(const NxGLFunctions& gl, GLErrors& errors)
     , m_meshes(gl, errors)
     , m_textures(gl, errors)
     , m_lights(gl)
+    , m_frustum(m_frame.eyeToClip)
 {
 }
 
@@ -59,24 +61,31 @@ void ItemPainter::prepare(PlacedScene& scene, const PictureFrame& frame, const N
     setStyle(style);
     m_boxesOfAll = style.boundingBoxes;
     m_boxColor = style.boundingBoxColor;
+    m_showsInsides = style.section.isOn || style.surfaces != NxDrawingStyle::SOLID;
     m_found.clear();
     counts.fullCorners = 0;
-    scene.tree().find(Frustum(frame.eyeToClip, frame.position), m_found);
-    for (const Id id : m_found) {
-        const Item& item = scene.table().item(id);
+    m_frustum = Frustum(frame.eyeToClip, frame.position);
+    scene.tree().find(m_frustum, m_found);
+    m_details.assign(m_found.size(), fullDetail);
+    for (std::size_t i = 0; i < m_found.size(); ++i) {
+        const Item& item = scene.table().item(m_found[i]);
         const Look& look = scene.looks()[item.look];
         if (isBox(look))
             continue;
         counts.fullCorners += item.mesh->shape.cornerCount;
-        m_meshes.request(*item.mesh, detailOf(scene, id));
+        m_details[i] = detailOf(scene, m_found[i]);
+        m_meshes.request(*item.mesh, m_details[i]);
         for (TextureRecord* texture : look.textures) {
             if (texture != nullptr)
                 m_textures.update(*texture, loader, scene.problems(), counts);
         }
     }
+    const auto before = std::chrono::steady_clock::now();
     m_meshes.upload(counts);
+    const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - before;
+    counts.uploadMilliseconds = taken.count();
     m_textures.clean();
-    sort(scene, m_found);
+    sort(scene);
     counts.drawnCorners = 0;
     counts.drawnTriangles = 0;
     counts.drawnItems = m_found.size();
@@ -93,36 +102,57 @@ void ItemPainter::setStyle(const NxDrawingStyle& style)
     m_section = m_frame.sectionFor(style.section.normal, style.section.position);
 }
 
-void ItemPainter::sort(PlacedScene& scene, const std::vector<Id>& found)
+void ItemPainter::sort(PlacedScene& scene)
 {
     constexpr unsigned int variantShift = 56;
     constexpr unsigned int pageShift = 32;
     m_opaque.clear();
     m_translucent.clear();
     m_boxes.clear();
-    for (const Id id : found) {
+    for (std::size_t i = 0; i < m_found.size(); ++i) {
+        const Id id = m_found[i];
         const Item& item = scene.table().item(id);
         const Look& look = scene.looks()[item.look];
         if (isBox(look)) {
             m_boxes.push_back(id);
             continue;
         }
-        const MeshRange range = item.mesh->rangeOf(detailOf(scene, id));
+        const MeshRange range = item.mesh->rangeOf(m_details[i]);
         if (range.page == noId)
             continue;
         const SurfaceVariant variant = variantOf(item.mesh->shape, look, m_shading);
-        const std::uint64_t order
-            = std::uint64_t{variant.number()} << variantShift | std::uint64_t{range.page} << pageShift | item.look;
-        if (showsMaterials() && isTranslucent(item.mesh->shape, look, variant))
-            m_translucent.push_back({id, order, depthOf(scene, item), variant, range});
-        else
-            m_opaque.push_back({id, order, 0, variant, range});
+        const bool isSeenThrough = showsMaterials() && isTranslucent(item.mesh->shape, look, variant);
+        // Without a GPU, a pixel that isn't seen in the end costs far more than another page.
+        const bool isByDepth = m_error > 0 && !isSeenThrough;
+        const std::uint64_t order = std::uint64_t{variant.number()} << variantShift
+            | std::uint64_t{isByDepth ? 0 : range.page} << pageShift | item.look;
+        const double depth = isByDepth || isSeenThrough ? depthOf(scene, item) : 0;
+        (isSeenThrough ? m_translucent : m_opaque)
+            .push_back({id, order, depth, variant, range, frontOf(scene, id, m_details[i])});
     }
-    std::sort(m_opaque.begin(), m_opaque.end(),
-        [](const Drawn& a, const Drawn& b) { return std::tie(a.order, a.item) < std::tie(b.order, b.item); });
+    std::sort(m_opaque.begin(), m_opaque.end(), [](const Drawn& a, const Drawn& b) {
+        return std::tie(a.order, a.depth, a.item) < std::tie(b.order, b.depth, b.item);
+    });
     std::sort(m_translucent.begin(), m_translucent.end(), [](const Drawn& a, const Drawn& b) {
         return std::tie(b.depth, a.order, a.item) < std::tie(a.depth, b.order, b.item);
     });
+}
+
+GLenum ItemPainter::frontOf(PlacedScene& scene, Id id, MeshDetail detail) const
+{
+    const Item& item = scene.table().item(id);
+    if (item.mesh->shape.primitive != NxMesh::TRIANGLES)
+        return GL_NONE;
+    const Look& look = scene.looks()[item.look];
+    HiddenSides hidden = isSingleSided(look) ? HiddenSides::Back : HiddenSides::None;
+    const bool hidesInside = !m_showsInsides && !(materialOf(look).alphaCutoff > 0);
+    if (hidden == HiddenSides::None && (detail & reducedBit) != 0 && hidesInside
+        && m_frustum.isAllInFront(scene.tree().boundsOf(id)))
+        hidden = item.mesh->reduction->levels[detail & ~reducedBit].hiddenSides;
+    if (hidden == HiddenSides::None)
+        return GL_NONE;
+    const bool isMirrored = determinant(scene.table().worldTransformOf(item)) < 0;
+    return isMirrored == (hidden == HiddenSides::Back) ? GL_CW : GL_CCW;
 }
 
 MeshDetail ItemPainter::detailOf(PlacedScene& scene, Id id) const
@@ -163,7 +193,12 @@ bool ItemPainter::drawOpaque(PlacedScene& scene, Progress& progress, NxDrawingCo
             return false;
         Drawn drawn = m_opaque[progress.item];
         drawn.range = takePart(drawn.range, progress);
-        cull(scene, drawn, state, culling);
+        if (state.front != drawn.front) {
+            state.front = drawn.front;
+            culling.setEnabled(GL_CULL_FACE, drawn.front != GL_NONE);
+            if (drawn.front != GL_NONE)
+                culling.setFrontFace(drawn.front);
+        }
         draw(scene, drawn, state, counts);
     }
     return true;
@@ -260,23 +295,6 @@ void ItemPainter::draw(PlacedScene& scene, const Drawn& drawn, State& state, NxD
     issue(*item.mesh, drawn.range, counts);
 }
 
-void ItemPainter::cull(const PlacedScene& scene, const Drawn& drawn, State& state, GLStateScope& culling)
-{
-    const Item& item = scene.table().item(drawn.item);
-    const bool isSame = state.variant == drawn.variant.number() && state.look == item.look;
-    if (isSame && state.front == GL_NONE)
-        return;
-    GLenum front = GL_NONE;
-    if (item.mesh->shape.primitive == NxMesh::TRIANGLES && isSingleSided(scene.looks()[item.look]))
-        front = determinant(scene.table().worldTransformOf(item)) < 0 ? GLenum{GL_CW} : GLenum{GL_CCW};
-    if (state.front == front)
-        return;
-    state.front = front;
-    culling.setEnabled(GL_CULL_FACE, front != GL_NONE);
-    if (front != GL_NONE)
-        culling.setFrontFace(front);
-}
-
 void ItemPainter::setVariant(SurfaceVariant variant)
 {
     SurfaceProgram& program = m_programs[variant.number()];
@@ -371,7 +389,7 @@ void ItemPainter::drawShapes(
 std::size_t ItemPainter::bytes() const noexcept
 {
     return (m_opaque.capacity() + m_translucent.capacity()) * sizeof(Drawn)
-        + (m_boxes.capacity() + m_found.capacity()) * sizeof(Id);
+        + (m_boxes.capacity() + m_found.capacity()) * sizeof(Id) + m_details.capacity() * sizeof(MeshDetail);
 }
 
 } // namespace meridane

@@ -74,6 +74,7 @@ private:
         double depth;
         SurfaceVariant variant;
         MeshRange range;
+        GLenum front; ///< the order of the corners of triangles that are drawn; none if all are
     };
     /// The present state of the context while items are drawn.
     struct State {
@@ -82,18 +83,18 @@ private:
         Id look = noId;
         Id worldTransform = noId;
         VbVec3f origin;
-        GLenum front = GL_NONE; ///< the order of the corners of triangles that are seen; none if all are
+        GLenum front = GL_NONE; ///< see `Drawn::front`
     };
 
     void setStyle(const NxDrawingStyle& style);
     [[nodiscard]] bool showsMaterials() const noexcept { return colorsOf(m_shading) == SurfaceColors::Material; }
-    void sort(PlacedScene& scene, const std::vector<Id>& found);
+    void sort(PlacedScene& scene);
+    /// The value of `Drawn::front`.
+    [[nodiscard]] GLenum frontOf(PlacedScene& scene, Id id, MeshDetail detail) const;
     [[nodiscard]] MeshDetail detailOf(PlacedScene& scene, Id id) const;
     static MeshRange takePart(const MeshRange& range, Progress& progress);
     [[nodiscard]] double depthOf(const PlacedScene& scene, const Item& item) const;
     void draw(PlacedScene& scene, const Drawn& drawn, State& state, NxDrawingCounts& counts);
-    /// Sees to it that triangles are seen from the sides that the item's look says.
-    static void cull(const PlacedScene& scene, const Drawn& drawn, State& state, GLStateScope& culling);
     void setVariant(SurfaceVariant variant);
     void setLook(const Look& look, SurfaceVariant variant);
     void place(const PlacedScene& scene, const Item& item, const ModelUniforms& uniforms) const;
@@ -108,6 +109,7 @@ private:
     PictureFrame m_frame;
     float m_error = 0; // in pixels
     float m_pointSize = 1;
+    bool m_showsInsides = false; // of closed surfaces
     NxDrawingStyle::Shading m_shading = NxDrawingStyle::SHADED; // of the programs
     bool m_hasSection = false; // the programs have
     std::array<float, 4> m_section{};
@@ -117,6 +119,8 @@ private:
     std::vector<Drawn> m_translucent;
     std::vector<Id> m_boxes;
     std::vector<Id> m_found;
+    std::vector<MeshDetail> m_details; // of those
+    Frustum m_frustum;
 };
 
 } // namespace meridane

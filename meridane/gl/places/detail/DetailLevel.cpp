@@ -61,7 +61,7 @@ MeshDetail detailWithin(float pixels, const MeshRecord& mesh, const Matrix4d& wo
     const PictureFrame& frame)
 {
     constexpr std::uint32_t veryMany = 50'000;
-    if (mesh.reduction == nullptr || mesh.reduction->levels.empty() || bounds.isEmpty())
+    if (mesh.reduction == nullptr || mesh.areLevelsStale || mesh.reduction->levels.empty() || bounds.isEmpty())
         return fullDetail;
     const std::vector<ReducedMesh>& levels = mesh.reduction->levels;
     const double factor = greatestScale(worldTransform) * greatestPixelsPerUnit(bounds, frame);

@@ -13,7 +13,7 @@ constexpr std::array<PictureDetail, 11> detailSteps{
 constexpr std::size_t firstStep = 3;
 /// More than this share of the wanted time is very slow, less than this share is fast.
 constexpr double verySlowShare = 1.8;
-constexpr double fastShare = 0.5;
+constexpr double fastShare = 0.6;
 constexpr int slowPictures = 2;
 constexpr int fastPictures = 10;
 constexpr qint64 retryMilliseconds = 5'000; // milliseconds

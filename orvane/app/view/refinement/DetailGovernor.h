@@ -16,8 +16,8 @@ struct PictureDetail {
 /// Chooses the detail of the pictures of a view that moves, from the times that they take, so that there are 30 of them
 /// a second.
 ///
-/// Less detail follows at once when pictures take too long, more only after some that took less than half of the time;
-/// and what was too slow isn't tried again for some seconds.
+/// Less detail follows at once when pictures take too long, more only after some that took much less; and what was too
+/// slow isn't tried again for some seconds.
 class DetailGovernor {
 public:
     /// The time in milliseconds since any moment.
@@ -36,7 +36,7 @@ private:
     Clock m_clock;
     std::size_t m_step;
     int m_slow = 0; // pictures in succession that took too long
-    int m_fast = 0; // and those that took less than half of the time
+    int m_fast = 0; // and those that took much less than wanted
     std::size_t m_tooSlow = 0; // the steps before this one were too slow
     qint64 m_tooSlowUntil = 0;
 };
