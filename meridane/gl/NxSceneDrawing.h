@@ -84,7 +84,7 @@ public:
     /// Begins a picture that is drawn bit by bit in the bound framebuffer, which must be bound in each `proceed` too,
     /// with nothing else drawn into it. See `draw`.
     void begin(const NxViewpoint& viewpoint, int width, int height, float scale);
-    /// Draws about so many corners of opaque meshes more, and everything else when they are drawn.
+    /// Draws about so many corners of opaque meshes and outlined shapes more, and everything else when they are drawn.
     NxPictureState proceed(std::uint64_t corners);
 
     /// Works on reduced meshes for those that were in view in the latest picture, until `isTimeOver`, which is asked

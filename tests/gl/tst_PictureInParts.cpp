@@ -45,6 +45,29 @@ private Q_SLOTS:
         QCOMPARE(inParts, atOnce);
     }
 
+    void outlinesAreDrawnInPartsToo()
+    {
+        DrawingBench bench;
+        const NxRef<NxMesh> mesh = ball(0.7F, 100);
+        bench.drawing().setScene(mesh.get());
+        int plainParts = 0;
+        const QImage plainPicture = bench.drawInParts(DrawingBench::front(), side, side, some, plainParts);
+        bench.drawing().setSelectedNode(mesh.get());
+        const QImage atOnce = bench.draw(DrawingBench::front(), side, side);
+        int parts = 0;
+        const QImage inParts = bench.drawInParts(DrawingBench::front(), side, side, some, parts);
+        QVERIFY(plainParts > 5);
+        QVERIFY(parts >= 2 * plainParts - 1);
+        QVERIFY(atOnce != plainPicture);
+        QCOMPARE(inParts, atOnce);
+        bench.drawing().setOtherSelectedNodes(std::vector<NxNode*>{mesh.get()});
+        bench.drawing().setHoveredPath({});
+        int moreParts = 0;
+        QCOMPARE(bench.drawInParts(DrawingBench::front(), side, side, some, moreParts),
+            bench.draw(DrawingBench::front(), side, side));
+        QVERIFY(moreParts > parts);
+    }
+
     void aChangedSceneCantBeFinished()
     {
         DrawingBench bench;

@@ -93,9 +93,10 @@ NxPictureState ScenePainter::drawMore(std::uint64_t corners)
         state.bindObjects();
         state.setEnabled(GL_PROGRAM_POINT_SIZE);
         state.setLineWidth(lineWidth(frame.scale));
-        if (!drawSurfaces(picture))
+        if (!picture.areSurfacesDrawn && !drawSurfaces(picture))
             return NxPictureState::Unfinished;
-        drawOutlines(frame);
+        if (!drawOutlines(picture))
+            return NxPictureState::Unfinished;
         drawMarks(frame);
     }
     m_underWay.reset();
@@ -117,6 +118,8 @@ bool ScenePainter::drawSurfaces(UnderWay& picture)
             return false;
     }
     drawLinesAndTranslucent(picture);
+    picture.areSurfacesDrawn = true;
+    picture.progress.item = 0;
     return true;
 }
 
@@ -136,15 +139,23 @@ void ScenePainter::drawLinesAndTranslucent(const UnderWay& picture)
     painter.drawTranslucent(scene, counts);
 }
 
-void ScenePainter::drawOutlines(const PictureFrame& frame)
+bool ScenePainter::drawOutlines(UnderWay& picture)
 {
     NxDrawingStyle weaker = style;
     weaker.outlineWidth /= 2;
     weaker.outlineColor = style.otherOutlineColor;
-    outline.draw(scene, otherSelected.update(scene), painter, frame, weaker, counts);
-    weaker.outlineColor = style.hoverOutlineColor;
-    outline.draw(scene, hovered.update(scene), painter, frame, weaker, counts);
-    outline.draw(scene, selected.update(scene), painter, frame, style, counts);
+    NxDrawingStyle hover = weaker;
+    hover.outlineColor = style.hoverOutlineColor;
+    const std::array<std::pair<OutlinedItems*, const NxDrawingStyle*>, 3> outlines{
+        {{&otherSelected, &weaker}, {&hovered, &hover}, {&selected, &style}}};
+    for (; picture.outline < outlines.size(); ++picture.outline) {
+        const auto [items, itemStyle] = outlines[picture.outline];
+        if (!outline.draw(scene, items->update(scene), painter, picture.frame, *itemStyle, picture.progress, counts))
+            return false;
+        picture.progress.item = 0;
+        picture.progress.corner = 0;
+    }
+    return true;
 }
 
 // Limited to what the context supports.

@@ -75,12 +75,14 @@ private:
         Ground ground;
         PictureFrame frame;
         std::uint64_t revision; // of the scene
-        ItemPainter::Progress progress;
+        DrawingProgress progress;
+        bool areSurfacesDrawn = false;
+        std::size_t outline = 0; // that is drawn next
     };
 
     NxPictureState drawMore(std::uint64_t corners);
     bool drawSurfaces(UnderWay& picture);
-    void drawOutlines(const PictureFrame& frame);
+    bool drawOutlines(UnderWay& picture);
     [[nodiscard]] float lineWidth(float wanted) const;
     void drawBackground(int height);
     void drawLinesAndTranslucent(const UnderWay& picture);

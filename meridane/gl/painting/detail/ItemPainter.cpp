@@ -183,7 +183,7 @@ double ItemPainter::depthOf(const PlacedScene& scene, const Item& item) const
     return m_frame.depthOf(transformPoint(item.mesh->shape.bounds.center(), scene.table().worldTransformOf(item)));
 }
 
-bool ItemPainter::drawOpaque(PlacedScene& scene, Progress& progress, NxDrawingCounts& counts)
+bool ItemPainter::drawOpaque(PlacedScene& scene, DrawingProgress& progress, NxDrawingCounts& counts)
 {
     m_lights.bind();
     GLStateScope culling(m_gl);
@@ -192,7 +192,7 @@ bool ItemPainter::drawOpaque(PlacedScene& scene, Progress& progress, NxDrawingCo
         if (progress.cornersLeft == 0)
             return false;
         Drawn drawn = m_opaque[progress.item];
-        drawn.range = takePart(drawn.range, progress);
+        drawn.range = progress.take(drawn.range);
         if (state.front != drawn.front) {
             state.front = drawn.front;
             culling.setEnabled(GL_CULL_FACE, drawn.front != GL_NONE);
@@ -202,28 +202,6 @@ bool ItemPainter::drawOpaque(PlacedScene& scene, Progress& progress, NxDrawingCo
         draw(scene, drawn, state, counts);
     }
     return true;
-}
-
-MeshRange ItemPainter::takePart(const MeshRange& range, Progress& progress)
-{
-    constexpr std::uint32_t whole = 6; // corners of whole primitives, whatever their kind
-    const bool isIndexed = range.indexCount != 0;
-    const std::uint32_t all = isIndexed ? range.indexCount : range.vertexCount;
-    const std::uint32_t left = all - progress.corner;
-    MeshRange part = range;
-    std::uint32_t& first = isIndexed ? part.firstIndex : part.firstVertex;
-    std::uint32_t& count = isIndexed ? part.indexCount : part.vertexCount;
-    first += progress.corner;
-    count = left;
-    if (left > progress.cornersLeft)
-        count = std::min(left, std::max(static_cast<std::uint32_t>(progress.cornersLeft) / whole * whole, whole));
-    progress.cornersLeft -= std::min<std::uint64_t>(progress.cornersLeft, count);
-    progress.corner += count;
-    if (progress.corner == all) {
-        ++progress.item;
-        progress.corner = 0;
-    }
-    return part;
 }
 
 void ItemPainter::drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts)
@@ -367,23 +345,34 @@ void ItemPainter::addBoxes(PlacedScene& scene, LinePainter& lines) const
 void ItemPainter::drawShapes(
     PlacedScene& scene, std::span<const Id> items, const ModelUniforms& uniforms, NxDrawingCounts& counts)
 {
+    DrawingProgress progress;
+    static_cast<void>(drawShapes(scene, items, uniforms, progress, counts));
+}
+
+bool ItemPainter::drawShapes(PlacedScene& scene, std::span<const Id> items, const ModelUniforms& uniforms,
+    DrawingProgress& progress, NxDrawingCounts& counts)
+{
     Id page = noId;
-    std::uint32_t number = 0;
-    for (const Id id : items) {
-        ++number;
+    while (progress.item < items.size()) {
+        if (progress.cornersLeft == 0)
+            return false;
+        const Id id = items[progress.item];
         const Item& item = scene.table().item(id);
         const MeshRange range = item.mesh->rangeOf(detailOf(scene, id));
-        if (range.page == noId)
+        if (range.page == noId) {
+            ++progress.item;
             continue;
+        }
         if (page != range.page) {
             page = range.page;
             m_meshes.bind(page);
         }
         place(scene, item, uniforms);
         if (uniforms.number >= 0)
-            m_gl.Uniform4fv(uniforms.number, 1, colorOfNumber(number).data());
-        issue(*item.mesh, range, counts);
+            m_gl.Uniform4fv(uniforms.number, 1, colorOfNumber(static_cast<std::uint32_t>(progress.item) + 1).data());
+        issue(*item.mesh, progress.take(range), counts);
     }
+    return true;
 }
 
 std::size_t ItemPainter::bytes() const noexcept

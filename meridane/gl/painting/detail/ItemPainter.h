@@ -6,13 +6,13 @@
 #include "meridane/gl/gpu/detail/SurfaceShaders.h"
 #include "meridane/gl/gpu/detail/TextureStore.h"
 #include "meridane/gl/painting/NxDrawingStyle.h"
+#include "meridane/gl/painting/detail/DrawingProgress.h"
 #include "meridane/gl/painting/detail/ItemVariant.h"
 #include "meridane/gl/painting/detail/LightBuffer.h"
 #include "meridane/gl/painting/detail/LinePainter.h"
 #include "meridane/gl/places/detail/PlacedScene.h"
 
 #include <array>
-#include <limits>
 #include <vector>
 
 namespace meridane {
@@ -29,13 +29,6 @@ public:
     /// The context must be current, or `forget` have been called.
     ~ItemPainter();
 
-    /// How far the drawing of the opaque items is, and how much may be drawn at once.
-    struct Progress {
-        std::uint64_t cornersLeft = std::numeric_limits<std::uint64_t>::max();
-        std::size_t item = 0;
-        std::uint32_t corner = 0; ///< of that item
-    };
-
     /// Finds the items in view, and uploads those of their meshes and textures that the GPU doesn't have. Meshes are
     /// reduced where that moves nothing by more than `error` pixels, and where their reduced meshes are there already.
     void prepare(PlacedScene& scene, const PictureFrame& frame, const NxDrawingStyle& style,
@@ -43,7 +36,7 @@ public:
     /// Has the meshes reduced that are in view, after `prepare`.
     void wantReduced(PlacedScene& scene);
     /// Draws the opaque items, or some of them. Returns whether all are drawn.
-    bool drawOpaque(PlacedScene& scene, Progress& progress, NxDrawingCounts& counts);
+    bool drawOpaque(PlacedScene& scene, DrawingProgress& progress, NxDrawingCounts& counts);
     void drawTranslucent(PlacedScene& scene, NxDrawingCounts& counts);
     /// Adds the boxes of items that are drawn as boxes, or of all items if the style says so.
     void addBoxes(PlacedScene& scene, LinePainter& lines) const;
@@ -58,6 +51,9 @@ public:
     /// Draws the shapes of some items, in view or not, with the bound program.
     void drawShapes(
         PlacedScene& scene, std::span<const Id> items, const ModelUniforms& uniforms, NxDrawingCounts& counts);
+    /// The same, or a part of it. Returns whether all are drawn.
+    bool drawShapes(PlacedScene& scene, std::span<const Id> items, const ModelUniforms& uniforms,
+        DrawingProgress& progress, NxDrawingCounts& counts);
 
     [[nodiscard]] MeshStore& meshes() noexcept { return m_meshes; }
     [[nodiscard]] const MeshStore& meshes() const noexcept { return m_meshes; }
@@ -92,7 +88,6 @@ private:
     /// The value of `Drawn::front`.
     [[nodiscard]] GLenum frontOf(PlacedScene& scene, Id id, MeshDetail detail) const;
     [[nodiscard]] MeshDetail detailOf(PlacedScene& scene, Id id) const;
-    static MeshRange takePart(const MeshRange& range, Progress& progress);
     [[nodiscard]] double depthOf(const PlacedScene& scene, const Item& item) const;
     void draw(PlacedScene& scene, const Drawn& drawn, State& state, NxDrawingCounts& counts);
     void setVariant(SurfaceVariant variant);

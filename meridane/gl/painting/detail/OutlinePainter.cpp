@@ -146,29 +146,33 @@ bool OutlinePainter::prepareMask(int width, int height)
     return false;
 }
 
-void OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPainter& painter,
-    const PictureFrame& frame, const NxDrawingStyle& style, NxDrawingCounts& counts)
+bool OutlinePainter::draw(PlacedScene& scene, std::span<const Id> items, ItemPainter& painter,
+    const PictureFrame& frame, const NxDrawingStyle& style, DrawingProgress& progress, NxDrawingCounts& counts)
 {
     if (items.empty())
-        return;
+        return true;
     const float width = std::max(style.outlineWidth * frame.scale, 1.0F);
     const float border = borderWidth * frame.scale;
     const NxPixelRectangle part = rectangleOf(scene, items, frame, static_cast<int>(std::ceil(width + border)) + 2);
     {
         const FramebufferScope framebuffer(m_gl);
         if (!prepareMask(frame.width, frame.height))
-            return;
+            return true;
         m_gl.BindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
-        // The whole mask: at the edge of the part, the border samples pixels beyond it.
-        m_gl.ClearColor(0, 0, 0, 0);
-        m_gl.Clear(GL_COLOR_BUFFER_BIT);
+        if (progress.item == 0 && progress.corner == 0) {
+            // The whole mask: at the edge of the part, the border samples pixels beyond it.
+            m_gl.ClearColor(0, 0, 0, 0);
+            m_gl.Clear(GL_COLOR_BUFFER_BIT);
+        }
         GLStateScope clipping(m_gl);
         clipping.setScissor(part.left, part.bottom, part.width, part.height);
         if (!m_shapes.use(frame, style))
-            return;
-        painter.drawShapes(scene, items, m_shapes.modelUniforms(), counts);
+            return true;
+        if (!painter.drawShapes(scene, items, m_shapes.modelUniforms(), progress, counts))
+            return false;
     }
     drawBorder(part, width, border, style, counts);
+    return true;
 }
 
 void OutlinePainter::drawBorder(

@@ -19,8 +19,9 @@ public:
     /// The context must be current, or `forget` have been called.
     ~OutlinePainter();
 
-    void draw(PlacedScene& scene, std::span<const Id> items, ItemPainter& painter, const PictureFrame& frame,
-        const NxDrawingStyle& style, NxDrawingCounts& counts);
+    /// Draws the line, or a part of the shapes that it needs. Returns whether it is drawn.
+    bool draw(PlacedScene& scene, std::span<const Id> items, ItemPainter& painter, const PictureFrame& frame,
+        const NxDrawingStyle& style, DrawingProgress& progress, NxDrawingCounts& counts);
     void forget();
 
 private:
