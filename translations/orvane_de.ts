@@ -607,6 +607,13 @@
     </message>
 </context>
 <context>
+    <name>DraggedNodes</name>
+    <message>
+        <source>The nodes can&apos;t be dragged to other programs: %1</source>
+        <translation>Die Knoten lassen sich nicht in andere Programme ziehen: %1</translation>
+    </message>
+</context>
+<context>
     <name>EditMenu</name>
     <message>
         <source>&amp;Edit</source>
@@ -805,6 +812,61 @@
         <source>%1: This file exists already and would be overwritten by one that belongs to %2. Choose another name for the model, or move the file away.</source>
         <translation>%1: Diese Datei gibt es schon, und eine zu %2 gehörende würde sie überschreiben. Wählen Sie einen anderen Namen für das Modell, oder verschieben Sie die Datei.</translation>
     </message>
+    <message>
+        <source>%1: the name of a model needs a format behind its dot and something before it, as in model.glb</source>
+        <translation>%1: Der Name eines Modells braucht ein Format hinter dem Punkt und etwas davor, etwa modell.glb</translation>
+    </message>
+    <message>
+        <source>%1: the import helper sent something that isn&apos;t a model</source>
+        <translation>%1: Das Importprogramm lieferte etwas, das kein Modell ist</translation>
+    </message>
+</context>
+<context>
+    <name>FactsText</name>
+    <message>
+        <source>above %1</source>
+        <translation>über %1</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>below %1</source>
+        <translation>unter %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>höchstens %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>useful %1</source>
+        <translation>sinnvoll %1</translation>
+    </message>
+    <message>
+        <source>radians</source>
+        <translation>Radiant</translation>
+    </message>
+    <message>
+        <source>metres</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
+        <source>per cent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
 </context>
 <context>
     <name>FavoriteActions</name>
@@ -986,6 +1048,41 @@
     </message>
 </context>
 <context>
+    <name>FieldClipboard</name>
+    <message>
+        <source>Choose the field to paste to.</source>
+        <translation>Wählen Sie das Feld, in das eingefügt werden soll.</translation>
+    </message>
+    <message>
+        <source>The clipboard has %1 fields, not one value. Paste All Fields sets those that the node has.</source>
+        <translation>Die Zwischenablage enthält %1 Felder, nicht einen Wert. „Alle Felder einfügen“ setzt die, die der Knoten hat.</translation>
+    </message>
+    <message>
+        <source>The clipboard has no text.</source>
+        <translation>Die Zwischenablage enthält keinen Text.</translation>
+    </message>
+    <message>
+        <source>The clipboard has the value of %1, a field of type %2. %3</source>
+        <translation>Die Zwischenablage enthält den Wert von %1, einem Feld vom Typ %2. %3</translation>
+    </message>
+    <message>
+        <source>The clipboard has no fields. Copy All Fields copies those of a node.</source>
+        <translation>Die Zwischenablage enthält keine Felder. „Alle Felder kopieren“ kopiert die eines Knotens.</translation>
+    </message>
+    <message>
+        <source>None of the fields on the clipboard is a field of %1.</source>
+        <translation>Keines der Felder der Zwischenablage ist ein Feld von %1.</translation>
+    </message>
+    <message>
+        <source>Paste %1 fields to %2</source>
+        <translation>%1 Felder in %2 einfügen</translation>
+    </message>
+    <message>
+        <source>%1 fields were pasted. %2 has no field %3.</source>
+        <translation>%1 Felder wurden eingefügt. %2 hat kein Feld %3.</translation>
+    </message>
+</context>
+<context>
     <name>FieldColumns</name>
     <message>
         <source>Show &amp;Types</source>
@@ -1021,6 +1118,17 @@
     <message>
         <source>Show only changed fields</source>
         <translation>Nur geänderte Felder anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>FieldGroup</name>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Unknown fields</source>
+        <translation>Unbekannte Felder</translation>
     </message>
 </context>
 <context>
@@ -1141,6 +1249,69 @@
 The lock is on: it stays on this field.</source>
         <translation>%1
 Fixiert: bleibt auf diesem Feld.</translation>
+    </message>
+</context>
+<context>
+    <name>FieldToolTip</name>
+    <message>
+        <source>Unit: %1</source>
+        <translation>Einheit: %1</translation>
+    </message>
+    <message>
+        <source>Range: %1</source>
+        <translation>Bereich: %1</translation>
+    </message>
+    <message>
+        <source>The %1 nodes have different values.</source>
+        <translation>Die %1 Knoten haben verschiedene Werte.</translation>
+    </message>
+    <message>
+        <source>Value: %1</source>
+        <translation>Wert: %1</translation>
+    </message>
+    <message>
+        <source>This is the default.</source>
+        <translation>Das ist der Vorgabewert.</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Vorgabe: %1</translation>
+    </message>
+    <message>
+        <source>The class of this node has no such field. It is kept and written back as it was.</source>
+        <translation>Die Klasse dieses Knotens hat kein solches Feld. Es bleibt erhalten und wird unverändert gespeichert.</translation>
+    </message>
+    <message>
+        <source>Type: %1</source>
+        <translation>Typ: %1</translation>
+    </message>
+    <message>
+        <source>Ignored: the scene takes no notice of this value.</source>
+        <translation>Ignoriert: Die Szene beachtet diesen Wert nicht.</translation>
+    </message>
+    <message>
+        <source>The fields of this class that have a star.</source>
+        <translation>Die Felder dieser Klasse, die einen Stern haben.</translation>
+    </message>
+    <message>
+        <source>The class of this node has no such fields. They are kept and written back as they were.</source>
+        <translation>Die Klasse dieses Knotens hat keine solchen Felder. Sie bleiben erhalten und werden unverändert gespeichert.</translation>
+    </message>
+    <message>
+        <source>The fields that the class %1 declares.</source>
+        <translation>Die Felder, die die Klasse %1 deklariert.</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>ignored</source>
+        <translation>ignoriert</translation>
+    </message>
+    <message>
+        <source>favorite</source>
+        <translation>Favorit</translation>
     </message>
 </context>
 <context>
@@ -1273,6 +1444,25 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>FileFilters</name>
+    <message>
+        <source>Scenes and models</source>
+        <translation>Szenen und Modelle</translation>
+    </message>
+    <message>
+        <source>Scenes</source>
+        <translation>Szenen</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Models</source>
+        <translation>Modelle</translation>
+    </message>
+</context>
+<context>
     <name>FileFlow</name>
     <message>
         <source>A new scene was made instead.</source>
@@ -1293,6 +1483,41 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>Opening %1 was cancelled.</source>
         <translation>Das Öffnen von %1 wurde abgebrochen.</translation>
+    </message>
+</context>
+<context>
+    <name>FileLook</name>
+    <message>
+        <source>can&apos;t be read: %1</source>
+        <translation>ist nicht lesbar: %1</translation>
+    </message>
+    <message>
+        <source>is in none of the image formats that can be read</source>
+        <translation>hat keines der lesbaren Bildformate</translation>
+    </message>
+    <message>
+        <source>is broken: it doesn&apos;t state the size of its image</source>
+        <translation>ist beschädigt: die Größe des Bildes fehlt</translation>
+    </message>
+    <message>
+        <source>has %1 by %2 pixels; images of more than %3 pixels, or %4 a side, aren&apos;t read</source>
+        <translation>hat %1 mal %2 Pixel; Bilder mit mehr als %3 Pixeln oder %4 je Seite werden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>isn&apos;t a regular file</source>
+        <translation>ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>ist leer</translation>
+    </message>
+    <message>
+        <source>is larger than %1 MiB</source>
+        <translation>ist größer als %1 MiB</translation>
+    </message>
+    <message>
+        <source>is in no folder, since the scene isn&apos;t saved yet</source>
+        <translation>ist in keinem Ordner, weil die Szene noch nicht gespeichert ist</translation>
     </message>
 </context>
 <context>
@@ -1400,6 +1625,14 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>The scene has no file yet.</source>
         <translation>Die Szene hat noch keine Datei.</translation>
+    </message>
+    <message>
+        <source>New Win&amp;dow</source>
+        <translation>Neues &amp;Fenster</translation>
+    </message>
+    <message>
+        <source>Opens another window, with a program of its own</source>
+        <translation>Öffnet ein weiteres Fenster mit eigenem Programm</translation>
     </message>
 </context>
 <context>
@@ -1590,6 +1823,189 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>FixedKeys</name>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>Szene</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Felder</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Tables</source>
+        <translation>Tabellen</translation>
+    </message>
+    <message>
+        <source>Go on to the next part of the window, or back</source>
+        <translation>Zum nächsten Fensterteil oder zurück</translation>
+    </message>
+    <message>
+        <source>F6, Shift+F6</source>
+        <translation>F6, Umschalt+F6</translation>
+    </message>
+    <message>
+        <source>From one control to the next, or back</source>
+        <translation>Von einem Bedienelement zum nächsten oder zurück</translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation>Tab, Umschalt+Tab</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>Menüs</translation>
+    </message>
+    <message>
+        <source>Alt and the underlined letter, F10</source>
+        <translation>Alt und der unterstrichene Buchstabe, F10</translation>
+    </message>
+    <message>
+        <source>Context menu of what is selected</source>
+        <translation>Kontextmenü der Auswahl</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Leave an editor or a popup, restoring what was there</source>
+        <translation>Editor oder Popup verlassen, der vorige Wert kommt zurück</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Go round the scene</source>
+        <translation>Die Szene umkreisen</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>Fly, with the right button held: on, back, sideways, down, up</source>
+        <translation>Mit gedrückter rechter Maustaste fliegen: vor, zurück, seitwärts, ab, auf</translation>
+    </message>
+    <message>
+        <source>W, S, A, D, Q, E</source>
+        <translation>W, S, A, D, Q, E</translation>
+    </message>
+    <message>
+        <source>Move the picture</source>
+        <translation>Das Bild verschieben</translation>
+    </message>
+    <message>
+        <source>Shift and arrow keys</source>
+        <translation>Umschalt und Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>Come closer, go back</source>
+        <translation>Näher, weiter weg</translation>
+    </message>
+    <message>
+        <source>+, -</source>
+        <translation>+, -</translation>
+    </message>
+    <message>
+        <source>Select nothing</source>
+        <translation>Nichts auswählen</translation>
+    </message>
+    <message>
+        <source>Unfold and fold a node</source>
+        <translation>Einen Knoten aus- und einklappen</translation>
+    </message>
+    <message>
+        <source>Right, Left</source>
+        <translation>Rechts, Links</translation>
+    </message>
+    <message>
+        <source>Unfold a node with all below it</source>
+        <translation>Einen Knoten mit allem darunter ausklappen</translation>
+    </message>
+    <message>
+        <source>*</source>
+        <translation>*</translation>
+    </message>
+    <message>
+        <source>Go to the next node whose name begins with letters</source>
+        <translation>Zum nächsten Knoten, dessen Name mit Buchstaben beginnt</translation>
+    </message>
+    <message>
+        <source>Letters</source>
+        <translation>Buchstaben</translation>
+    </message>
+    <message>
+        <source>Select several nodes</source>
+        <translation>Mehrere Knoten auswählen</translation>
+    </message>
+    <message>
+        <source>Shift and arrow keys, Ctrl+Space</source>
+        <translation>Umschalt und Pfeiltasten, Strg+Leertaste</translation>
+    </message>
+    <message>
+        <source>Edit the value</source>
+        <translation>Den Wert bearbeiten</translation>
+    </message>
+    <message>
+        <source>Return, F2</source>
+        <translation>Return, F2</translation>
+    </message>
+    <message>
+        <source>Go on in the editor of the field</source>
+        <translation>Im Editor des Feldes weiterarbeiten</translation>
+    </message>
+    <message>
+        <source>Ctrl+Return</source>
+        <translation>Strg+Return</translation>
+    </message>
+    <message>
+        <source>Fold and unfold a group</source>
+        <translation>Eine Gruppe ein- und ausklappen</translation>
+    </message>
+    <message>
+        <source>Left, Right</source>
+        <translation>Links, Rechts</translation>
+    </message>
+    <message>
+        <source>Step a number while it is edited</source>
+        <translation>Eine Zahl beim Bearbeiten schrittweise ändern</translation>
+    </message>
+    <message>
+        <source>Up, Down; Ctrl and Shift make it coarser and finer</source>
+        <translation>Hoch, Herunter; Strg und Umschalt ändern die Schrittweite</translation>
+    </message>
+    <message>
+        <source>Edit the cell</source>
+        <translation>Die Zelle bearbeiten</translation>
+    </message>
+    <message>
+        <source>Next cell while one is edited</source>
+        <translation>Nächste Zelle beim Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Go to what the row is about</source>
+        <translation>Dorthin springen, worum es in der Zeile geht</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Return</translation>
+    </message>
+</context>
+<context>
     <name>FlyTool</name>
     <message>
         <source>Flying at %1 units per second: W A S D, Q and E for down and up, Shift for faster. The wheel changes the speed.</source>
@@ -1629,6 +2045,36 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>%1 in %2</source>
         <translation>%1 in %2</translation>
+    </message>
+</context>
+<context>
+    <name>HandOver</name>
+    <message>
+        <source>No running window can be found, so a new one is opened. %1</source>
+        <translation>Kein laufendes Fenster wurde gefunden, deshalb wird ein neues geöffnet. %1</translation>
+    </message>
+    <message>
+        <source>The running window was brought to the front.
+</source>
+        <translation>Das laufende Fenster wurde nach vorn geholt.
+</translation>
+    </message>
+    <message>
+        <source>%1: handed to the running window.
+</source>
+        <translation>%1: an das laufende Fenster übergeben.
+</translation>
+    </message>
+    <message>
+        <source>%1 A new window is opened.</source>
+        <translation>%1 Ein neues Fenster wird geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>HandedFiles</name>
+    <message>
+        <source>The running window is being closed.</source>
+        <translation>Das laufende Fenster wird gerade geschlossen.</translation>
     </message>
 </context>
 <context>
@@ -1696,6 +2142,45 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>Active extensions</source>
         <translation>Aktive Erweiterungen</translation>
+    </message>
+</context>
+<context>
+    <name>HelperProcess</name>
+    <message>
+        <source>the import helper did nothing for %1 s and was stopped</source>
+        <translation>das Importprogramm tat %1 s lang nichts und wurde beendet</translation>
+    </message>
+    <message>
+        <source>the import helper wasn&apos;t ready after %1 s and was stopped</source>
+        <translation>das Importprogramm war nach %1 s nicht fertig und wurde beendet</translation>
+    </message>
+    <message>
+        <source>what the import helper wrote doesn&apos;t fit in memory</source>
+        <translation>was das Importprogramm schrieb, passt nicht in den Speicher</translation>
+    </message>
+    <message>
+        <source>the import helper wrote more than %1 MiB and was stopped</source>
+        <translation>das Importprogramm schrieb mehr als %1 MiB und wurde beendet</translation>
+    </message>
+    <message>
+        <source>the import helper ended with status %1 and didn&apos;t say why</source>
+        <translation>das Importprogramm endete mit dem Status %1, ohne einen Grund zu nennen</translation>
+    </message>
+    <message>
+        <source>the import helper %1 can&apos;t be started: %2</source>
+        <translation>das Importprogramm %1 startet nicht: %2</translation>
+    </message>
+    <message>
+        <source>the import helper needed too much processor time and was stopped</source>
+        <translation>das Importprogramm brauchte zu viel Rechenzeit und wurde beendet</translation>
+    </message>
+    <message>
+        <source>the import helper was killed, maybe for want of memory</source>
+        <translation>das Importprogramm wurde beendet, vielleicht aus Mangel an Speicher</translation>
+    </message>
+    <message>
+        <source>the import helper crashed with signal %1</source>
+        <translation>das Importprogramm stürzte mit dem Signal %1 ab</translation>
     </message>
 </context>
 <context>
@@ -1902,6 +2387,25 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>ImageFile</name>
+    <message>
+        <source>the scene has no folder that it could be in; save the scene first</source>
+        <translation>die Szene hat keinen Ordner, in dem sie sein könnte; zuerst die Szene speichern</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t a regular file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>sie ist leer</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>sie ist größer als %1 MiB</translation>
+    </message>
+</context>
+<context>
     <name>ImageFolderQuestion</name>
     <message>
         <source>Forget Allowed Image Folde&amp;rs</source>
@@ -1987,6 +2491,68 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>no image</source>
         <translation>kein Bild</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>grey and opacity</source>
+        <translation>Grau und Deckkraft</translation>
+    </message>
+    <message>
+        <source>RGB</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>RGBA</source>
+        <translation>RGBA</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Import Settings</source>
+        <translation>Einstellungen importieren</translation>
+    </message>
+    <message>
+        <source>These settings change. What isn&apos;t checked stays as it is.</source>
+        <translation>Diese Einstellungen ändern sich. Was nicht angekreuzt ist, bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Settings that change</source>
+        <translation>Einstellungen, die sich ändern</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>In the File</source>
+        <translation>In der Datei</translation>
+    </message>
+    <message>
+        <source>Check a setting first.</source>
+        <translation>Zuerst eine Einstellung ankreuzen.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportJob</name>
+    <message>
+        <source>there are bytes behind its end</source>
+        <translation>hinter dem Ende sind noch Bytes</translation>
+    </message>
+    <message>
+        <source>%1: the import helper sent something that isn&apos;t a scene: %2</source>
+        <translation>%1: Das Importprogramm lieferte etwas, das keine Szene ist: %2</translation>
     </message>
 </context>
 <context>
@@ -2178,6 +2744,25 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>State</source>
         <translation>Zustand</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Wie der &amp;Desktop</translation>
+    </message>
+    <message>
+        <source>Shows all texts in the language of the desktop</source>
+        <translation>Zeigt alle Texte in der Sprache des Desktops</translation>
+    </message>
+    <message>
+        <source>Shows all texts in this language: %1</source>
+        <translation>Zeigt alle Texte in dieser Sprache: %1</translation>
     </message>
 </context>
 <context>
@@ -3065,6 +3650,33 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>MatrixCell</name>
+    <message>
+        <source>identity</source>
+        <translation>Einheitsmatrix</translation>
+    </message>
+    <message>
+        <source>with shear: %1</source>
+        <translation>mit Scherung: %1</translation>
+    </message>
+    <message>
+        <source>projection: %1</source>
+        <translation>Projektion: %1</translation>
+    </message>
+    <message>
+        <source>moved %1</source>
+        <translation>verschoben %1</translation>
+    </message>
+    <message>
+        <source>turned %1°</source>
+        <translation>gedreht %1°</translation>
+    </message>
+    <message>
+        <source>scaled %1</source>
+        <translation>skaliert %1</translation>
+    </message>
+</context>
+<context>
     <name>MatrixPopup</name>
     <message>
         <source>The matrix has shear: its axes aren&apos;t at right angles. Translation, rotation and scale don&apos;t give it exactly.</source>
@@ -3192,6 +3804,13 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>NewWindow</name>
+    <message>
+        <source>Another window can&apos;t be opened: the program %1 can&apos;t be started.</source>
+        <translation>Ein weiteres Fenster lässt sich nicht öffnen: Das Programm %1 startet nicht.</translation>
+    </message>
+</context>
+<context>
     <name>NodeActions</name>
     <message>
         <source>Cu&amp;t</source>
@@ -3251,7 +3870,7 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
     <message>
         <source>&amp;Delete Node</source>
-        <translation>Knoten &amp;löschen</translation>
+        <translation>Knoten l&amp;öschen</translation>
     </message>
     <message>
         <source>Removes the selected nodes with everything below them</source>
@@ -3298,16 +3917,8 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <translation>Verschiebt die ausgewählten Knoten hinter den Knoten darunter</translation>
     </message>
     <message>
-        <source>Mov&amp;e Out of Group</source>
-        <translation>Aus Gruppe herausneh&amp;men</translation>
-    </message>
-    <message>
         <source>Moves the selected nodes behind the group that they are in</source>
         <translation>Verschiebt die ausgewählten Knoten hinter die Gruppe, in der sie sind</translation>
-    </message>
-    <message>
-        <source>Move &amp;into Group Above</source>
-        <translation>In Gruppe darüber &amp;verschieben</translation>
     </message>
     <message>
         <source>Moves the selected nodes to the end of the group above them</source>
@@ -3328,6 +3939,14 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>No scene is open.</source>
         <translation>Keine Szene ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>Mov&amp;e Out of Group</source>
+        <translation>Aus Gruppe herausneh&amp;men</translation>
+    </message>
+    <message>
+        <source>Move into Group A&amp;bove</source>
+        <translation>In Gruppe darüber &amp;verschieben</translation>
     </message>
 </context>
 <context>
@@ -4148,6 +4767,28 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>PastedNumbers</name>
+    <message>
+        <source>&quot;%1&quot; is neither yes nor no.</source>
+        <translation>„%1“ ist weder Ja noch Nein.</translation>
+    </message>
+    <message>
+        <source>A value has %1 numbers, and here are %2.</source>
+        <translation>Ein Wert hat %1 Zahlen, hier sind %2.</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PastedValue</name>
+    <message>
+        <source>A number is out of the range of its type.</source>
+        <translation>Eine Zahl liegt außerhalb des Wertebereichs ihres Typs.</translation>
+    </message>
+</context>
+<context>
     <name>PathCell</name>
     <message>
         <source>There is no file %1.</source>
@@ -4185,6 +4826,25 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>Searching…</source>
         <translation>Suche läuft…</translation>
+    </message>
+</context>
+<context>
+    <name>PictureDecoder</name>
+    <message>
+        <source>the import helper ended without a picture</source>
+        <translation>das Importprogramm endete ohne ein Bild</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be read to its end</source>
+        <translation>sie ist nicht bis zum Ende lesbar</translation>
+    </message>
+    <message>
+        <source>it doesn&apos;t fit in memory</source>
+        <translation>sie passt nicht in den Speicher</translation>
+    </message>
+    <message>
+        <source>the import helper sent something that isn&apos;t a picture</source>
+        <translation>das Importprogramm lieferte etwas, das kein Bild ist</translation>
     </message>
 </context>
 <context>
@@ -4327,6 +4987,13 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>Wrote %1, %2 by %3 pixels</source>
         <translation>%1 geschrieben, %2 mal %3 Pixel</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFile</name>
+    <message>
+        <source>%1: the name of a picture ends in .png, .jpg, .bmp or .ppm</source>
+        <translation>%1: Der Name eines Bildes endet auf .png, .jpg, .bmp oder .ppm</translation>
     </message>
 </context>
 <context>
@@ -4664,6 +5331,127 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>PutBack</name>
+    <message>
+        <source>The node has this name already.</source>
+        <translation>Der Knoten hat schon diesen Namen.</translation>
+    </message>
+    <message>
+        <source>This value can&apos;t be read any more: the rows that the later steps changed aren&apos;t there.</source>
+        <translation>Dieser Wert ist nicht mehr lesbar: Die von späteren Schritten geänderten Zeilen fehlen.</translation>
+    </message>
+    <message>
+        <source>The older value doesn&apos;t fit in memory.</source>
+        <translation>Der ältere Wert passt nicht in den Speicher.</translation>
+    </message>
+    <message>
+        <source>The field has this value already.</source>
+        <translation>Das Feld hat schon diesen Wert.</translation>
+    </message>
+    <message>
+        <source>Choose a step that changed the value of a field.</source>
+        <translation>Wählen Sie einen Schritt, der den Wert eines Feldes geändert hat.</translation>
+    </message>
+    <message>
+        <source>This step changed nothing.</source>
+        <translation>Dieser Schritt hat nichts geändert.</translation>
+    </message>
+    <message>
+        <source>This step changed which nodes are in the scene, not one value.</source>
+        <translation>Dieser Schritt hat geändert, welche Knoten in der Szene sind, nicht einen Wert.</translation>
+    </message>
+    <message>
+        <source>This step changed whether a field is ignored, not its value.</source>
+        <translation>Dieser Schritt hat geändert, ob ein Feld ignoriert wird, nicht seinen Wert.</translation>
+    </message>
+    <message>
+        <source>This step changed several values.</source>
+        <translation>Dieser Schritt hat mehrere Werte geändert.</translation>
+    </message>
+    <message>
+        <source>The node of this value, &quot;%1&quot;, isn&apos;t in the scene any more. Go to a state in which it is, or undo its removal.</source>
+        <translation>Der Knoten dieses Wertes, „%1“, ist nicht mehr in der Szene. Gehen Sie zu einem Zustand, in dem er da ist, oder machen Sie sein Entfernen rückgängig.</translation>
+    </message>
+</context>
+<context>
+    <name>RecentModel</name>
+    <message>
+        <source>Missing</source>
+        <translation>Fehlt</translation>
+    </message>
+    <message>
+        <source>The drive doesn&apos;t answer</source>
+        <translation>Das Laufwerk antwortet nicht</translation>
+    </message>
+    <message>
+        <source>pinned</source>
+        <translation>angeheftet</translation>
+    </message>
+</context>
+<context>
+    <name>RecentView</name>
+    <message>
+        <source>Recent files</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Open Recent File</source>
+        <translation>Datei der Liste ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Opens the marked file of the start page</source>
+        <translation>Öffnet die markierte Datei der Startseite</translation>
+    </message>
+    <message>
+        <source>Open in &amp;New Window</source>
+        <translation>In &amp;neuem Fenster öffnen</translation>
+    </message>
+    <message>
+        <source>Opens the marked file of the start page in another window</source>
+        <translation>Öffnet die markierte Datei der Startseite in einem weiteren Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>Im Ordner &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Opens the folder of the marked file in the file manager</source>
+        <translation>Öffnet den Ordner der markierten Datei im Dateimanager</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <translation>Aus der &amp;Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Takes the marked file off the recent files; the file itself stays</source>
+        <translation>Nimmt die markierte Datei aus den zuletzt geöffneten; die Datei selbst bleibt</translation>
+    </message>
+    <message>
+        <source>Mark a recent file on the start page first.</source>
+        <translation>Zuerst auf der Startseite eine Datei markieren.</translation>
+    </message>
+    <message>
+        <source>Un&amp;pin</source>
+        <translation>&amp;Lösen</translation>
+    </message>
+    <message>
+        <source>&amp;Pin</source>
+        <translation>An&amp;heften</translation>
+    </message>
+    <message>
+        <source>Lets the marked file take its place among the recent ones again</source>
+        <translation>Reiht die markierte Datei wieder unter den zuletzt geöffneten ein</translation>
+    </message>
+    <message>
+        <source>Keeps the marked file first in the list</source>
+        <translation>Hält die markierte Datei oben in der Liste</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be shown: no file manager can be started.</source>
+        <translation>%1 lässt sich nicht anzeigen: Kein Dateimanager startet.</translation>
+    </message>
+</context>
+<context>
     <name>RecoverJob</name>
     <message>
         <source>its file has changed since then</source>
@@ -4717,6 +5505,21 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>its file has changed since then</source>
         <translation>die Datei hat sich seitdem geändert</translation>
+    </message>
+</context>
+<context>
+    <name>Refusal</name>
+    <message>
+        <source>&quot;%1&quot; isn&apos;t a value for %2, a field of type %3.</source>
+        <translation>„%1“ ist kein Wert für %2, ein Feld vom Typ %3.</translation>
+    </message>
+    <message>
+        <source>It takes: %1.</source>
+        <translation>Möglich ist: %1.</translation>
+    </message>
+    <message>
+        <source>The default is an example of one: %1</source>
+        <translation>Der Vorgabewert ist ein Beispiel dafür: %1</translation>
     </message>
 </context>
 <context>
@@ -4990,18 +5793,6 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <translation>Achse</translation>
     </message>
     <message>
-        <source>x</source>
-        <translation>x</translation>
-    </message>
-    <message>
-        <source>y</source>
-        <translation>y</translation>
-    </message>
-    <message>
-        <source>z</source>
-        <translation>z</translation>
-    </message>
-    <message>
         <source>Position of the section</source>
         <translation>Position des Schnitts</translation>
     </message>
@@ -5062,6 +5853,63 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>child nodes</source>
         <translation>Kindknoten</translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>There is no profile &quot;%1&quot;, only %2.</source>
+        <translation>Das Profil „%1“ gibt es nicht, nur %2.</translation>
+    </message>
+    <message>
+        <source>No profile was found, so no extension runs.</source>
+        <translation>Kein Profil wurde gefunden, deshalb läuft keine Erweiterung.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingControl</name>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>Choose: %1</source>
+        <translation>Wählen: %1</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be used; allowed is: %1.</source>
+        <translation>Das ist unbrauchbar; erlaubt ist: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingRow</name>
+    <message>
+        <source>Default: %1 · %2</source>
+        <translation>Vorgabe: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Back to the default: %1</source>
+        <translation>Zurück zur Vorgabe: %1</translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>%1 zurücksetzen</translation>
+    </message>
+    <message>
+        <source>%1 has a value that can&apos;t be used; allowed is: %2.</source>
+        <translation>%1 hat einen unbrauchbaren Wert; erlaubt ist: %2.</translation>
+    </message>
+    <message>
+        <source>%1 sets &quot;%2&quot; for this run, whatever is chosen here.</source>
+        <translation>%1 setzt bis zum Beenden „%2“, was auch immer hier gewählt ist.</translation>
+    </message>
+    <message>
+        <source>The file has the value &quot;%1&quot;, which can&apos;t be used; allowed is: %2. The default counts.</source>
+        <translation>Die Datei hat den unbrauchbaren Wert „%1“; erlaubt ist: %2. Es gilt die Vorgabe.</translation>
+    </message>
+    <message>
+        <source>The file preferences.conf sets this, until something is chosen here.</source>
+        <translation>Die Datei preferences.conf legt dies fest, bis hier etwas gewählt wird.</translation>
     </message>
 </context>
 <context>
@@ -5130,12 +5978,493 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>Nodes stay where they are in the world when they move to other groups.</source>
         <translation>Knoten bleiben an ihrem Ort in der Welt, wenn sie in andere Gruppen kommen.</translation>
     </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Shading</source>
+        <translation>Schattierung</translation>
+    </message>
+    <message>
+        <source>How surfaces are colored.</source>
+        <translation>Wie Flächen gefärbt sind.</translation>
+    </message>
+    <message>
+        <source>Shaded</source>
+        <translation>Schattiert</translation>
+    </message>
+    <message>
+        <source>Unlit</source>
+        <translation>Unbeleuchtet</translation>
+    </message>
+    <message>
+        <source>Normals</source>
+        <translation>Normalen</translation>
+    </message>
+    <message>
+        <source>Texture coordinates</source>
+        <translation>Texturkoordinaten</translation>
+    </message>
+    <message>
+        <source>Vertex colors</source>
+        <translation>Eckpunktfarben</translation>
+    </message>
+    <message>
+        <source>Wireframe</source>
+        <translation>Drahtgitter</translation>
+    </message>
+    <message>
+        <source>Surfaces show their edges alone.</source>
+        <translation>Flächen zeigen nur ihre Kanten.</translation>
+    </message>
+    <message>
+        <source>Wireframe over surfaces</source>
+        <translation>Drahtgitter über Flächen</translation>
+    </message>
+    <message>
+        <source>Shows the sides of the triangles over the surfaces.</source>
+        <translation>Zeigt die Seiten der Dreiecke über den Flächen.</translation>
+    </message>
+    <message>
+        <source>Head light</source>
+        <translation>Kopflicht</translation>
+    </message>
+    <message>
+        <source>Adds a light at the viewer&apos;s eye to those of the scene.</source>
+        <translation>Ergänzt die Lichter der Szene um eines am Auge des Betrachters.</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>What is behind the scene, so that lines and points of any color are seen.</source>
+        <translation>Was hinter der Szene ist, sodass Linien und Punkte jeder Farbe zu sehen sind.</translation>
+    </message>
+    <message>
+        <source>As the window</source>
+        <translation>Wie das Fenster</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Ground grid</source>
+        <translation>Bodenraster</translation>
+    </message>
+    <message>
+        <source>Shows a grid on the plane of x and z.</source>
+        <translation>Zeigt ein Raster auf der Ebene von x und z.</translation>
+    </message>
+    <message>
+        <source>Axes</source>
+        <translation>Achsen</translation>
+    </message>
+    <message>
+        <source>Shows the axes: x red, y green, z blue.</source>
+        <translation>Zeigt die Achsen: x rot, y grün, z blau.</translation>
+    </message>
+    <message>
+        <source>Bounding boxes</source>
+        <translation>Hüllquader</translation>
+    </message>
+    <message>
+        <source>Shows a box around each mesh.</source>
+        <translation>Zeigt einen Quader um jedes Netz.</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>Shows lights and cameras as symbols, which can be clicked.</source>
+        <translation>Zeigt Lichter und Kameras als anklickbare Symbole.</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>Shows nodes, triangles, draw calls, memory and time of the picture.</source>
+        <translation>Zeigt Knoten, Dreiecke, Zeichenaufrufe, Speicher und Zeit des Bildes.</translation>
+    </message>
+    <message>
+        <source>Handles</source>
+        <translation>Griffe</translation>
+    </message>
+    <message>
+        <source>Which handles the selected nodes have in the view.</source>
+        <translation>Welche Griffe die ausgewählten Knoten in der Ansicht haben.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Axes of handles</source>
+        <translation>Achsen der Griffe</translation>
+    </message>
+    <message>
+        <source>The axes along which handles move, turn and scale.</source>
+        <translation>Die Achsen, entlang derer Griffe verschieben, drehen und skalieren.</translation>
+    </message>
+    <message>
+        <source>Those of the scene</source>
+        <translation>Die der Szene</translation>
+    </message>
+    <message>
+        <source>Those of the group above</source>
+        <translation>Die der Gruppe darüber</translation>
+    </message>
+    <message>
+        <source>Those of the node</source>
+        <translation>Die des Knotens</translation>
+    </message>
+    <message>
+        <source>Smooth edges</source>
+        <translation>Kanten glätten</translation>
+    </message>
+    <message>
+        <source>How many samples each pixel has. More are smoother and need more of the GPU.</source>
+        <translation>Wie viele Abtastungen jedes Pixel hat. Mehr sind glatter und fordern die GPU mehr.</translation>
+    </message>
+    <message>
+        <source>2 samples</source>
+        <translation>2 Abtastungen</translation>
+    </message>
+    <message>
+        <source>4 samples</source>
+        <translation>4 Abtastungen</translation>
+    </message>
+    <message>
+        <source>8 samples</source>
+        <translation>8 Abtastungen</translation>
+    </message>
+    <message>
+        <source>Orbit about the picked point</source>
+        <translation>Angeklickten Punkt umkreisen</translation>
+    </message>
+    <message>
+        <source>A drag goes round what is under the pointer, rather than round the middle of the picture.</source>
+        <translation>Ziehen umkreist, was unter dem Mauszeiger ist, statt die Mitte des Bildes.</translation>
+    </message>
+    <message>
+        <source>Animate the view</source>
+        <translation>Ansicht animieren</translation>
+    </message>
+    <message>
+        <source>Views from the sides, framing and bookmarks are reached by a short movement, where the desktop allows it.</source>
+        <translation>Ansichten von den Seiten, Einpassen und Lesezeichen folgen einer kurzen Bewegung, wo der Desktop es erlaubt.</translation>
+    </message>
+    <message>
+        <source>Fly speed</source>
+        <translation>Fluggeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>How often as fast as usual flights through the scene are. The wheel changes it during a flight.</source>
+        <translation>Wie viel Mal so schnell wie üblich Flüge durch die Szene sind. Das Mausrad ändert es im Flug.</translation>
+    </message>
+    <message>
+        <source>Show the view</source>
+        <translation>Ansicht zeigen</translation>
+    </message>
+    <message>
+        <source>Without it, everything but the view works, on machines where drawing fails. From the next start on.</source>
+        <translation>Ohne sie geht alles außer der Ansicht, auf Rechnern, die nicht zeichnen können. Ab dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Rotations in degrees</source>
+        <translation>Drehungen in Grad</translation>
+    </message>
+    <message>
+        <source>Rotations are shown as three angles in degrees, rather than as an axis and an angle.</source>
+        <translation>Drehungen werden als drei Winkel in Grad gezeigt statt als Achse und Winkel.</translation>
+    </message>
+    <message>
+        <source>Statistics of lists</source>
+        <translation>Statistik von Listen</translation>
+    </message>
+    <message>
+        <source>Shows smallest, largest and mean values beside the rows of a list.</source>
+        <translation>Zeigt kleinste, größte und mittlere Werte neben den Zeilen einer Liste.</translation>
+    </message>
+    <message>
+        <source>Help in the editors of plug-ins</source>
+        <translation>Hilfen in Editoren von Plug-ins</translation>
+    </message>
+    <message>
+        <source>Adds keys, formulas and messages to the lines in the docks of plug-ins. From the next start on.</source>
+        <translation>Ergänzt Tasten, Formeln und Meldungen in den Eingaben der Andockfenster von Plug-ins. Ab dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Reload changed files</source>
+        <translation>Geänderte Dateien neu laden</translation>
+    </message>
+    <message>
+        <source>A file that changes on disk is reloaded without a question while the scene has no changes of your own.</source>
+        <translation>Eine auf dem Datenträger geänderte Datei wird ohne Frage neu geladen, solange die Szene keine eigenen Änderungen hat.</translation>
+    </message>
+    <message>
+        <source>Keep groups of models</source>
+        <translation>Gruppen von Modellen behalten</translation>
+    </message>
+    <message>
+        <source>Imports keep groups that neither hold anything nor move anything, which are left out else.</source>
+        <translation>Importe behalten Gruppen, die weder etwas enthalten noch verschieben und sonst entfallen.</translation>
+    </message>
+    <message>
+        <source>Axes and units of models</source>
+        <translation>Achsen und Einheiten von Modellen</translation>
+    </message>
+    <message>
+        <source>What imports do with models whose axes or units differ from those of scenes.</source>
+        <translation>Was Importe mit Modellen tun, deren Achsen oder Einheiten von denen der Szenen abweichen.</translation>
+    </message>
+    <message>
+        <source>Convert axes and units</source>
+        <translation>Achsen und Einheiten umrechnen</translation>
+    </message>
+    <message>
+        <source>Convert axes only</source>
+        <translation>Nur Achsen umrechnen</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Beide behalten</translation>
+    </message>
+    <message>
+        <source>Memory of an import</source>
+        <translation>Speicher für einen Import</translation>
+    </message>
+    <message>
+        <source>An import that needs more ends with a message. The tool itself goes on in any case.</source>
+        <translation>Ein Import, der mehr braucht, endet mit einer Meldung. Das Programm selbst läuft auf jeden Fall weiter.</translation>
+    </message>
+    <message>
+        <source>MiB</source>
+        <translation>MiB</translation>
+    </message>
+    <message>
+        <source>Keep unsaved changes</source>
+        <translation>Änderungen sichern</translation>
+    </message>
+    <message>
+        <source>Unsaved changes are kept on disk, and offered after a crash. From the next start on.</source>
+        <translation>Ungespeicherte Änderungen werden auf dem Datenträger gesichert und nach einem Absturz angeboten. Ab dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Memory of the history</source>
+        <translation>Speicher für den Verlauf</translation>
+    </message>
+    <message>
+        <source>Beyond it, the oldest steps of undo are dropped.</source>
+        <translation>Darüber fallen die ältesten Schritte von Rückgängig weg.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>What a step takes back: all that changed, or what the commands of plug-ins take back by themselves. From the next scene on.</source>
+        <translation>Was ein Schritt zurücknimmt: alles Geänderte oder das, was die Befehle von Plug-ins selbst zurücknehmen. Ab der nächsten Szene.</translation>
+    </message>
+    <message>
+        <source>All that changed</source>
+        <translation>Alles Geänderte</translation>
+    </message>
+    <message>
+        <source>By the commands</source>
+        <translation>Durch die Befehle</translation>
+    </message>
+    <message>
+        <source>Capture the output</source>
+        <translation>Ausgabe mitlesen</translation>
+    </message>
+    <message>
+        <source>The console shows what the program and its plug-ins print. When the console is activated the next time.</source>
+        <translation>Die Konsole zeigt, was das Programm und seine Plug-ins ausgeben. Sobald sie das nächste Mal aktiviert wird.</translation>
+    </message>
+    <message>
+        <source>Folder of plug-ins</source>
+        <translation>Ordner der Plug-ins</translation>
+    </message>
+    <message>
+        <source>Plug-ins of this folder are loaded too. From the next start on.</source>
+        <translation>Plug-ins dieses Ordners werden auch geladen. Ab dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>The language of the texts. Numbers and dates are written as the desktop has them in any language.</source>
+        <translation>Die Sprache der Texte. Zahlen und Daten sind in jeder Sprache wie beim Desktop.</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Wie der Desktop</translation>
+    </message>
+    <message>
+        <source>Open files in a running window</source>
+        <translation>Dateien im laufenden Fenster öffnen</translation>
+    </message>
+    <message>
+        <source>A file that is opened from a file manager or a terminal comes to the window that was used last, which asks about unsaved changes. Otherwise each has a window of its own.</source>
+        <translation>Eine Datei aus einem Dateimanager oder Terminal kommt in das zuletzt benutzte Fenster, das nach ungespeicherten Änderungen fragt. Sonst hat jede ein eigenes Fenster.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsActions</name>
+    <message>
+        <source>Shows and changes the settings of the tool</source>
+        <translation>Zeigt und ändert die Einstellungen des Programms</translation>
+    </message>
+    <message>
+        <source>Sett&amp;ings…</source>
+        <translation>Einste&amp;llungen…</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsFiles</name>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t a file of settings</source>
+        <translation>es ist keine Datei mit Einstellungen</translation>
+    </message>
+    <message>
+        <source>it isn&apos;t text</source>
+        <translation>es ist kein Text</translation>
+    </message>
+    <message>
+        <source>expected a setting as in &quot;name=value&quot;</source>
+        <translation>erwartet wird eine Einstellung wie „name=wert“</translation>
+    </message>
+    <message>
+        <source>there is no room for temporary files</source>
+        <translation>für temporäre Dateien ist kein Platz</translation>
+    </message>
+    <message>
+        <source>a later version of Orvane has written it (settings %1, this version reads up to %2)</source>
+        <translation>eine spätere Version von Orvane hat sie geschrieben (Einstellungen %1, diese Version liest bis %2)</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t have this value; allowed is: %2</source>
+        <translation>%1 kann diesen Wert nicht haben; erlaubt ist: %2</translation>
+    </message>
+    <message>
+        <source>there are no settings in it</source>
+        <translation>sie enthält keine Einstellungen</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStore</name>
     <message>
         <source>The setting %1 has a value that can&apos;t be used, &quot;%2&quot;; allowed is: %3. It counts as %4.</source>
         <translation>Die Einstellung %1 hat einen unbrauchbaren Wert, „%2“; erlaubt ist: %3. Sie gilt als %4.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Search the settings</source>
+        <translation>Einstellungen durchsuchen</translation>
+    </message>
+    <message>
+        <source>Pages of settings</source>
+        <translation>Seiten der Einstellungen</translation>
+    </message>
+    <message>
+        <source>No setting has these words in its title, its description or its name.</source>
+        <translation>Keine Einstellung hat diese Wörter in Titel, Beschreibung oder Name.</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All…</source>
+        <translation>A&amp;lle zurücksetzen…</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importieren…</translation>
+    </message>
+    <message>
+        <source>Takes over settings from a file, after showing what changes</source>
+        <translation>Übernimmt Einstellungen aus einer Datei und zeigt vorher, was sich ändert</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren…</translation>
+    </message>
+    <message>
+        <source>Writes all settings to a file</source>
+        <translation>Schreibt alle Einstellungen in eine Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Sets all settings to their defaults</source>
+        <translation>Setzt alle Einstellungen auf ihre Vorgaben</translation>
+    </message>
+    <message>
+        <source>All settings have their defaults.</source>
+        <translation>Alle Einstellungen haben ihre Vorgaben.</translation>
+    </message>
+    <message>
+        <source>One setting differs from its default. Reset it?</source>
+        <translation>Eine Einstellung weicht von ihrer Vorgabe ab. Zurücksetzen?</translation>
+    </message>
+    <message>
+        <source>%1 settings differ from their defaults. Reset them?</source>
+        <translation>%1 Einstellungen weichen von ihrer Vorgabe ab. Zurücksetzen?</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Import Settings</source>
+        <translation>Einstellungen importieren</translation>
+    </message>
+    <message>
+        <source>Settings (*.ini)</source>
+        <translation>Einstellungen (*.ini)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>All settings have the values of the file already.</source>
+        <translation>Alle Einstellungen haben schon die Werte der Datei.</translation>
+    </message>
+    <message>
+        <source>Export Settings</source>
+        <translation>Einstellungen exportieren</translation>
     </message>
 </context>
 <context>
@@ -5182,6 +6511,25 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>Recent files</source>
         <translation>Zuletzt geöffnet</translation>
     </message>
+    <message>
+        <source>Search name or folder</source>
+        <translation>Name oder Ordner suchen</translation>
+    </message>
+    <message>
+        <source>Search recent files</source>
+        <translation>Zuletzt geöffnete suchen</translation>
+    </message>
+    <message>
+        <source>Remove Them from List</source>
+        <translation>Aus der Liste entfernen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the files are missing.</source>
+        <translation>
+            <numerusform>%n der Dateien fehlt.</numerusform>
+            <numerusform>%n der Dateien fehlen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>StatisticsOverlay</name>
@@ -5211,6 +6559,88 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>StepLabel</name>
+    <message>
+        <source>Reorder %1</source>
+        <translation>%1 umordnen</translation>
+    </message>
+    <message>
+        <source>Move %1 to the top</source>
+        <translation>%1 nach oben verschieben</translation>
+    </message>
+    <message>
+        <source>Move %1 to %2</source>
+        <translation>%1 nach %2 verschieben</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <source>Change the structure</source>
+        <translation>Struktur ändern</translation>
+    </message>
+    <message>
+        <source>Change the children of %1</source>
+        <translation>Kindknoten von %1 ändern</translation>
+    </message>
+    <message>
+        <source>Change several nodes</source>
+        <translation>Mehrere Knoten ändern</translation>
+    </message>
+    <message>
+        <source>Set %1 of %2 nodes</source>
+        <translation>%1 von %2 Knoten setzen</translation>
+    </message>
+    <message>
+        <source>Ignore %1 of %2 nodes</source>
+        <translation>%1 von %2 Knoten ignorieren</translation>
+    </message>
+    <message>
+        <source>Use %1 of %2 nodes</source>
+        <translation>%1 von %2 Knoten verwenden</translation>
+    </message>
+    <message>
+        <source>Change %1</source>
+        <translation>%1 ändern</translation>
+    </message>
+    <message>
+        <source>Rename %1</source>
+        <translation>%1 umbenennen</translation>
+    </message>
+    <message>
+        <source>Ignore %1</source>
+        <translation>%1 ignorieren</translation>
+    </message>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 verwenden</translation>
+    </message>
+    <message>
+        <source>Set %1</source>
+        <translation>%1 setzen</translation>
+    </message>
+</context>
+<context>
+    <name>StepText</name>
+    <message>
+        <source>ignored</source>
+        <translation>ignoriert</translation>
+    </message>
+    <message>
+        <source>used</source>
+        <translation>verwendet</translation>
+    </message>
+    <message>
+        <source>%1 changes</source>
+        <translation>%1 Änderungen</translation>
+    </message>
+</context>
+<context>
     <name>TextLineEditor</name>
     <message>
         <source>several values</source>
@@ -5230,6 +6660,13 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>Ctrl+Return writes the text, Esc restores it. Long lines are broken here for the screen; the text keeps them whole.</source>
         <translation>Strg+Return schreibt den Text, Esc stellt ihn wieder her. Lange Zeilen sind hier für den Bildschirm umbrochen; der Text behält sie ganz.</translation>
+    </message>
+</context>
+<context>
+    <name>TextureFiles</name>
+    <message>
+        <source>it is larger than %1 pixels a side</source>
+        <translation>es hat mehr als %1 Pixel je Seite</translation>
     </message>
 </context>
 <context>
@@ -6403,253 +7840,6 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>Nothing of the class %1 is selected.</source>
         <translation>Nichts von der Klasse %1 ist ausgewählt.</translation>
-    </message>
-</context>
-<context>
-    <name>orvane</name>
-    <message>
-        <source>Window</source>
-        <translation>Fenster</translation>
-    </message>
-    <message>
-        <source>View</source>
-        <translation>Ansicht</translation>
-    </message>
-    <message>
-        <source>Scene</source>
-        <translation>Szene</translation>
-    </message>
-    <message>
-        <source>Fields</source>
-        <translation>Felder</translation>
-    </message>
-    <message>
-        <source>List</source>
-        <translation>Liste</translation>
-    </message>
-    <message>
-        <source>Tables</source>
-        <translation>Tabellen</translation>
-    </message>
-    <message>
-        <source>Go on to the next part of the window, or back</source>
-        <translation>Zum nächsten Fensterteil oder zurück</translation>
-    </message>
-    <message>
-        <source>F6, Shift+F6</source>
-        <translation>F6, Umschalt+F6</translation>
-    </message>
-    <message>
-        <source>From one control to the next, or back</source>
-        <translation>Von einem Bedienelement zum nächsten oder zurück</translation>
-    </message>
-    <message>
-        <source>Tab, Shift+Tab</source>
-        <translation>Tab, Umschalt+Tab</translation>
-    </message>
-    <message>
-        <source>Menus</source>
-        <translation>Menüs</translation>
-    </message>
-    <message>
-        <source>Alt and the underlined letter, F10</source>
-        <translation>Alt und der unterstrichene Buchstabe, F10</translation>
-    </message>
-    <message>
-        <source>Context menu of what is selected</source>
-        <translation>Kontextmenü der Auswahl</translation>
-    </message>
-    <message>
-        <source>Menu</source>
-        <translation>Menü</translation>
-    </message>
-    <message>
-        <source>Leave an editor or a popup, restoring what was there</source>
-        <translation>Editor oder Popup verlassen, der vorige Wert kommt zurück</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Esc</translation>
-    </message>
-    <message>
-        <source>Go round the scene</source>
-        <translation>Die Szene umkreisen</translation>
-    </message>
-    <message>
-        <source>Arrow keys</source>
-        <translation>Pfeiltasten</translation>
-    </message>
-    <message>
-        <source>Fly, with the right button held: on, back, sideways, down, up</source>
-        <translation>Mit gedrückter rechter Maustaste fliegen: vor, zurück, seitwärts, ab, auf</translation>
-    </message>
-    <message>
-        <source>W, S, A, D, Q, E</source>
-        <translation>W, S, A, D, Q, E</translation>
-    </message>
-    <message>
-        <source>Move the picture</source>
-        <translation>Das Bild verschieben</translation>
-    </message>
-    <message>
-        <source>Shift and arrow keys</source>
-        <translation>Umschalt und Pfeiltasten</translation>
-    </message>
-    <message>
-        <source>Come closer, go back</source>
-        <translation>Näher, weiter weg</translation>
-    </message>
-    <message>
-        <source>+, -</source>
-        <translation>+, -</translation>
-    </message>
-    <message>
-        <source>Select nothing</source>
-        <translation>Nichts auswählen</translation>
-    </message>
-    <message>
-        <source>Unfold and fold a node</source>
-        <translation>Einen Knoten aus- und einklappen</translation>
-    </message>
-    <message>
-        <source>Right, Left</source>
-        <translation>Rechts, Links</translation>
-    </message>
-    <message>
-        <source>Unfold a node with all below it</source>
-        <translation>Einen Knoten mit allem darunter ausklappen</translation>
-    </message>
-    <message>
-        <source>*</source>
-        <translation>*</translation>
-    </message>
-    <message>
-        <source>Go to the next node whose name begins with letters</source>
-        <translation>Zum nächsten Knoten, dessen Name mit Buchstaben beginnt</translation>
-    </message>
-    <message>
-        <source>Letters</source>
-        <translation>Buchstaben</translation>
-    </message>
-    <message>
-        <source>Select several nodes</source>
-        <translation>Mehrere Knoten auswählen</translation>
-    </message>
-    <message>
-        <source>Shift and arrow keys, Ctrl+Space</source>
-        <translation>Umschalt und Pfeiltasten, Strg+Leertaste</translation>
-    </message>
-    <message>
-        <source>Edit the value</source>
-        <translation>Den Wert bearbeiten</translation>
-    </message>
-    <message>
-        <source>Return, F2</source>
-        <translation>Return, F2</translation>
-    </message>
-    <message>
-        <source>Go on in the editor of the field</source>
-        <translation>Im Editor des Feldes weiterarbeiten</translation>
-    </message>
-    <message>
-        <source>Ctrl+Return</source>
-        <translation>Strg+Return</translation>
-    </message>
-    <message>
-        <source>Fold and unfold a group</source>
-        <translation>Eine Gruppe ein- und ausklappen</translation>
-    </message>
-    <message>
-        <source>Left, Right</source>
-        <translation>Links, Rechts</translation>
-    </message>
-    <message>
-        <source>Step a number while it is edited</source>
-        <translation>Eine Zahl beim Bearbeiten schrittweise ändern</translation>
-    </message>
-    <message>
-        <source>Up, Down; Ctrl and Shift make it coarser and finer</source>
-        <translation>Hoch, Herunter; Strg und Umschalt ändern die Schrittweite</translation>
-    </message>
-    <message>
-        <source>Edit the cell</source>
-        <translation>Die Zelle bearbeiten</translation>
-    </message>
-    <message>
-        <source>Next cell while one is edited</source>
-        <translation>Nächste Zelle beim Bearbeiten</translation>
-    </message>
-    <message>
-        <source>Go to what the row is about</source>
-        <translation>Dorthin springen, worum es in der Zeile geht</translation>
-    </message>
-    <message>
-        <source>Return</source>
-        <translation>Return</translation>
-    </message>
-    <message>
-        <source>The node has this name already.</source>
-        <translation>Der Knoten hat schon diesen Namen.</translation>
-    </message>
-    <message>
-        <source>This value can&apos;t be read any more: the rows that the later steps changed aren&apos;t there.</source>
-        <translation>Dieser Wert ist nicht mehr lesbar: Die von späteren Schritten geänderten Zeilen fehlen.</translation>
-    </message>
-    <message>
-        <source>The older value doesn&apos;t fit in memory.</source>
-        <translation>Der ältere Wert passt nicht in den Speicher.</translation>
-    </message>
-    <message>
-        <source>The field has this value already.</source>
-        <translation>Das Feld hat schon diesen Wert.</translation>
-    </message>
-    <message>
-        <source>Choose a step that changed the value of a field.</source>
-        <translation>Wählen Sie einen Schritt, der den Wert eines Feldes geändert hat.</translation>
-    </message>
-    <message>
-        <source>This step changed nothing.</source>
-        <translation>Dieser Schritt hat nichts geändert.</translation>
-    </message>
-    <message>
-        <source>This step changed which nodes are in the scene, not one value.</source>
-        <translation>Dieser Schritt hat geändert, welche Knoten in der Szene sind, nicht einen Wert.</translation>
-    </message>
-    <message>
-        <source>This step changed whether a field is ignored, not its value.</source>
-        <translation>Dieser Schritt hat geändert, ob ein Feld ignoriert wird, nicht seinen Wert.</translation>
-    </message>
-    <message>
-        <source>This step changed several values.</source>
-        <translation>Dieser Schritt hat mehrere Werte geändert.</translation>
-    </message>
-    <message>
-        <source>The node of this value, &quot;%1&quot;, isn&apos;t in the scene any more. Go to a state in which it is, or undo its removal.</source>
-        <translation>Der Knoten dieses Wertes, „%1“, ist nicht mehr in der Szene. Gehen Sie zu einem Zustand, in dem er da ist, oder machen Sie sein Entfernen rückgängig.</translation>
-    </message>
-    <message>
-        <source>%1 changes</source>
-        <translation>%1 Änderungen</translation>
-    </message>
-    <message>
-        <source>Change %1</source>
-        <translation>%1 ändern</translation>
-    </message>
-    <message>
-        <source>Rename %1</source>
-        <translation>%1 umbenennen</translation>
-    </message>
-    <message>
-        <source>Ignore %1</source>
-        <translation>%1 ignorieren</translation>
-    </message>
-    <message>
-        <source>Use %1</source>
-        <translation>%1 verwenden</translation>
-    </message>
-    <message>
-        <source>Set %1</source>
-        <translation>%1 setzen</translation>
     </message>
 </context>
 </TS>

@@ -3,15 +3,18 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <algorithm>
+#include <cstdio>
 #include <utility>
 
 namespace {
 
-const QString versionKey = QStringLiteral("settings/version");
 constexpr qint64 mostBytes = qint64{16} << 20;
+constexpr int longestWait = 2000; // milliseconds, for other programs
 
 QString configFolder()
 {
@@ -24,19 +27,6 @@ bool isSettingsLine(const QByteArray& line)
         || (line.startsWith('[') && line.endsWith(']'));
 }
 
-QVariantMap valuesOf(const QSettings& file)
-{
-    QVariantMap values;
-    for (const QString& key : file.allKeys())
-        values.insert(key, file.value(key));
-    return values;
-}
-
-int versionOf(const QVariantMap& values)
-{
-    return values.value(versionKey, 1).toInt();
-}
-
 /// Whether a file holds both alike: numbers, switches, and lists of one text are texts there, an empty list is nothing.
 bool isSame(const QVariant& left, const QVariant& right)
 {
@@ -46,6 +36,14 @@ bool isSame(const QVariant& left, const QVariant& right)
         return value.typeId() == QMetaType::QStringList ? value.toStringList().join(u'\n') : value.toString();
     };
     return text(left) == text(right);
+}
+
+bool isSame(const QVariantMap& left, const QVariantMap& right)
+{
+    return std::equal(left.constKeyValueBegin(), left.constKeyValueEnd(), right.constKeyValueBegin(),
+        right.constKeyValueEnd(), [](const auto& one, const auto& other) {
+            return one.first == other.first && isSame(one.second, other.second);
+        });
 }
 
 } // namespace
@@ -76,14 +74,16 @@ void AppSettings::read()
     m_trouble = check();
     if (m_trouble == Trouble::NoFile || m_trouble == Trouble::Unreadable)
         return;
-    m_values = valuesOf(QSettings(m_fileName, QSettings::IniFormat));
+    m_values = valuesOf(m_fileName);
     if (m_trouble != Trouble::None)
         return;
     if (const int version = versionOf(m_values); version > currentVersion || version < 1) {
         m_trouble = Trouble::LaterVersion;
         m_number = version;
     } else if (version < currentVersion && !m_values.isEmpty()) {
-        convert();
+        const QVariantMap values = converted(m_values);
+        for (auto one = values.constBegin(); one != values.constEnd(); ++one)
+            put(one.key(), *one);
     }
 }
 
@@ -120,13 +120,34 @@ AppSettings::Trouble AppSettings::checkLines(QIODevice& file)
     return ended ? Trouble::None : Trouble::NoEnd;
 }
 
-/// Version 1 kept the choices of the handles by the names of their actions, and the background by its index.
-void AppSettings::convert()
+QVariantMap AppSettings::valuesOf(const QString& fileName)
 {
-    const auto replace = [this](const QString& key, const QMap<QString, QString>& replacements) {
-        const auto found = replacements.constFind(m_values.value(key).toString());
+    const QSettings file(fileName, QSettings::IniFormat);
+    QVariantMap values;
+    for (const QString& key : file.allKeys())
+        values.insert(key, file.value(key));
+    return values;
+}
+
+int AppSettings::versionOf(const QVariantMap& values)
+{
+    return values.value(versionKey(), 1).toInt();
+}
+
+QString AppSettings::versionKey()
+{
+    return QStringLiteral("settings/version");
+}
+
+/// Version 1 kept the choices of the handles by the names of their actions, and the background by its index.
+QVariantMap AppSettings::converted(QVariantMap values)
+{
+    if (versionOf(values) >= currentVersion)
+        return values;
+    const auto replace = [&values](const QString& key, const QMap<QString, QString>& replacements) {
+        const auto found = replacements.constFind(values.value(key).toString());
         if (found != replacements.constEnd())
-            setValue(key, *found);
+            values.insert(key, *found);
     };
     replace(QStringLiteral("view/handles"),
         {{QStringLiteral("view.handlesNone"), QStringLiteral("none")},
@@ -140,7 +161,8 @@ void AppSettings::convert()
     replace(QStringLiteral("view/background"),
         {{QStringLiteral("0"), QStringLiteral("window")}, {QStringLiteral("1"), QStringLiteral("light")},
             {QStringLiteral("2"), QStringLiteral("dark")}});
-    setValue(versionKey, currentVersion);
+    values.insert(versionKey(), currentVersion);
+    return values;
 }
 
 QVariant AppSettings::value(const QString& key, const QVariant& defaultValue) const
@@ -151,7 +173,7 @@ QVariant AppSettings::value(const QString& key, const QVariant& defaultValue) co
 void AppSettings::setValue(const QString& key, const QVariant& value)
 {
     if (m_mode == Mode::File && m_values.isEmpty())
-        put(versionKey, currentVersion);
+        put(versionKey(), currentVersion);
     put(key, value);
 }
 
@@ -182,31 +204,66 @@ void AppSettings::sync()
     m_willSync = false;
     if (m_mode == Mode::None || (m_trouble != Trouble::None && m_trouble != Trouble::Unwritable))
         return;
+    QDir().mkpath(QFileInfo(m_fileName).path());
+    QLockFile lock(m_fileName + QStringLiteral(".lock"));
+    if (!m_unwritten.isEmpty() && !lock.tryLock(longestWait)) {
+        fail(Trouble::Unwritable);
+        return;
+    }
     // Another program, or the user, may have written what must not be written over.
     if (const Trouble trouble = check(); trouble != Trouble::None) {
         fail(trouble);
         return;
     }
-    QSettings file(m_fileName, QSettings::IniFormat);
-    if (const int version = versionOf(valuesOf(file)); version > currentVersion) {
+    QVariantMap values = valuesOf(m_fileName);
+    if (const int version = versionOf(values); version > currentVersion) {
         m_number = version;
         fail(Trouble::LaterVersion);
         return;
     }
+    values = converted(std::move(values));
     for (auto one = m_unwritten.constBegin(); one != m_unwritten.constEnd(); ++one) {
         if (one->isValid())
-            file.setValue(one.key(), *one);
+            values.insert(one.key(), *one);
         else
-            file.remove(one.key());
+            values.remove(one.key());
     }
-    file.sync();
-    if (file.status() != QSettings::NoError) {
+    if (!m_unwritten.isEmpty() && !write(values)) {
         fail(Trouble::Unwritable);
         return;
     }
     m_trouble = Trouble::None;
     m_unwritten.clear();
-    takeOver(valuesOf(file));
+    takeOver(values);
+}
+
+/// QSettings takes a file for written of which only a part has fitted on the disk. So it writes another one, which
+/// takes the place of the file when all of it has been read back.
+bool AppSettings::write(const QVariantMap& values) const
+{
+    const QFileInfo info(m_fileName);
+    const QString target = info.exists() ? info.canonicalFilePath() : m_fileName; // the file behind a link
+    const QString written = target + QStringLiteral(".new");
+    const QString checked = target + QStringLiteral(".tmp"); // QSettings remembers what a file of the other name has
+    QFile::remove(written);
+    {
+        QSettings file(written, QSettings::IniFormat);
+        for (auto one = values.constBegin(); one != values.constEnd(); ++one)
+            file.setValue(one.key(), *one);
+        file.sync();
+        if (file.status() != QSettings::NoError)
+            return false;
+    }
+    QFile::remove(checked);
+    if (!QFile::rename(written, checked))
+        return false;
+    if (info.exists())
+        QFile::setPermissions(checked, info.permissions());
+    const bool isWhole = isSame(valuesOf(checked), values)
+        && std::rename(QFile::encodeName(checked).constData(), QFile::encodeName(target).constData()) == 0;
+    if (!isWhole)
+        QFile::remove(checked);
+    return isWhole;
 }
 
 void AppSettings::takeOver(const QVariantMap& values)

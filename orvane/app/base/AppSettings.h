@@ -41,6 +41,13 @@ public:
     /// Why the file isn't read or written, in the present language, or empty.
     [[nodiscard]] QString problem() const;
     [[nodiscard]] const QString& fileName() const noexcept { return m_fileName; }
+    /// All values of a settings file that can be read, as they are in it. Nothing is written.
+    [[nodiscard]] static QVariantMap valuesOf(const QString& fileName);
+    /// The version of the file with these values.
+    [[nodiscard]] static int versionOf(const QVariantMap& values);
+    /// The values as the present version has them.
+    [[nodiscard]] static QVariantMap converted(QVariantMap values);
+    [[nodiscard]] static QString versionKey();
     /// The user's settings file.
     [[nodiscard]] static QString defaultFileName();
     /// The user's file of toolkit preferences, in the same folder.
@@ -66,9 +73,9 @@ private:
     void read();
     [[nodiscard]] Trouble check();
     [[nodiscard]] Trouble checkLines(QIODevice& file);
-    void convert();
     void put(const QString& key, const QVariant& value);
     void takeOver(const QVariantMap& values);
+    [[nodiscard]] bool write(const QVariantMap& values) const;
     void fail(Trouble trouble);
     [[nodiscard]] QString reason() const;
 

@@ -3,6 +3,8 @@
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/transfer/WorkTime.h"
 
+#include "meridane/base/NxPreferences.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcessEnvironment>
@@ -31,6 +33,9 @@ QProcessEnvironment helperEnvironment()
     const QString others = environment.value(name);
     const QString own = QStringLiteral("glibc.malloc.tcache_count=8192");
     environment.insert(name, others.isEmpty() ? own : own + QLatin1Char(':') + others);
+    const QString limit = orvane::toQString(NxPreferences::getString("ORVANE_IMPORT_MEMORY", VbString()));
+    if (!limit.isEmpty())
+        environment.insert(QStringLiteral("ORVANE_IMPORT_MEMORY"), limit);
     return environment;
 }
 

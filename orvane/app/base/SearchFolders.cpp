@@ -6,9 +6,11 @@
 
 namespace orvane {
 
-QStringList pluginFolders()
+QStringList pluginFolders(const QString& chosen)
 {
     QStringList folders = qEnvironmentVariable("ORVANE_PLUGIN_PATH").split(u':', Qt::SkipEmptyParts);
+    if (!chosen.isEmpty())
+        folders += chosen;
     folders
         += QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/orvane/plugins");
     // Beside the program, as it was built, and as it was installed.

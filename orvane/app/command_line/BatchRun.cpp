@@ -13,6 +13,7 @@
 #include "orvane/app/problems/FileLook.h"
 #include "orvane/app/scene/ScenePaths.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/extender/OrvEditor.h"
 
 #include "meridane/base/values/VbName.h"
@@ -84,7 +85,8 @@ Result<> BatchRun::startExtensions(Session& session)
 {
     QStringList found;
     if (m_commandLine.listExtensions && !m_commandLine.noPlugins)
-        found = OrvPluginsManager::findPlugins(orvane::pluginFolders());
+        found = OrvPluginsManager::findPlugins(
+            orvane::pluginFolders(SettingsStore::of(session.settings()).text(QStringLiteral("plugins/folder"))));
     QStringList failures = session.loadPlugins(found, m_commandLine.plugins);
     for (const PluginRecord& plugin : session.pluginLoader().records()) {
         if (plugin.state == PluginRecord::State::Suspect)
@@ -119,7 +121,7 @@ Result<> BatchRun::run()
     if (!m_commandLine.needsExtensions())
         return runScene();
     // Outlives the scene, whose nodes may be of classes of the plug-ins.
-    Session session(m_commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
+    Session session(m_commandLine.settingsMode(), m_commandLine.settingsFileName());
     const auto started = startExtensions(session);
     return started ? runScene() : started;
 }

@@ -1,10 +1,12 @@
 #include "orvane/app/command_line/CommandLine.h"
 
+#include "orvane/app/command_line/CommandOptions.h"
 #include "orvane/app/command_line/FoundPlaces.h"
 #include "orvane/app/view/picture/ScenePicture.h"
 
 #include <QColor>
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -14,99 +16,14 @@ using orvane::Result;
 
 namespace {
 
+using Options = orvane::CommandOptions;
+
 QString sizeLimits()
 {
     return QStringLiteral("at most %1 a side and %2 million in all")
         .arg(CommandLine::longestSide)
         .arg(CommandLine::mostPixels / 1000000);
 }
-
-// The options in the order in which the help shows them.
-struct Options {
-    QCommandLineOption plugin{
-        QStringLiteral("plugin"), QStringLiteral("Load this plug-in as well; repeatable."), QStringLiteral("FILE")};
-    QCommandLineOption profile{
-        QStringLiteral("profile"), QStringLiteral("Start with this profile."), QStringLiteral("NAME")};
-    QCommandLineOption select{QStringLiteral("select"),
-        QStringLiteral("Select a node or field, such as /robot/arm.rotation."), QStringLiteral("PATH")};
-    QCommandLineOption set{QStringLiteral("set"),
-        QStringLiteral("Set a field from its text form, in the order given; repeatable."), QStringLiteral("PATH=TEXT")};
-    QCommandLineOption get{
-        QStringLiteral("get"), QStringLiteral("Print a field's value; repeatable."), QStringLiteral("PATH")};
-    QCommandLineOption find{QStringLiteral("find"),
-        QStringLiteral("Print the path of each node that matches, or of each field, such as 't:Mesh hand' or 'f:radius "
-                       ">1'; repeatable. docs/query.md describes the words."),
-        QStringLiteral("QUERY")};
-    QCommandLineOption list{QStringLiteral("list"),
-        QStringLiteral("Print each node with its class and each field with its type and value. A node that is "
-                       "in several places is printed in full once, then with the path of the first place.")};
-    QCommandLineOption diff{QStringLiteral("diff"),
-        QStringLiteral(
-            "Compare the file with a second one and print each difference: its kind, the path, what the first "
-            "file has and what the second one has. The status is 0 if there are none, 1 if there are "
-            "some and 2 for an error.")};
-    QCommandLineOption describe{QStringLiteral("describe"),
-        QStringLiteral("Print what these node classes are, or all: each field's type, default, unit, range and "
-                       "description.")};
-    QCommandLineOption check{QStringLiteral("check"),
-        QStringLiteral(
-            "Look for everything that is wrong with the scene and print each problem: the path, error, warning or "
-            "information, its identifier and a sentence. The status is 0 if there are no errors and warnings, 1 if "
-            "there are warnings, 2 if there are errors and 3 if the file can't be checked.")};
-    QCommandLineOption json{QStringLiteral("json"),
-        QStringLiteral("Print the differences, the description or the problems as one JSON object.")};
-    QCommandLineOption listExtensions{QStringLiteral("list-extensions"),
-        QStringLiteral("Print each extension's order, class, name and handled type.")};
-    QCommandLineOption exportTo{QStringLiteral("export"),
-        QStringLiteral("Write the scene to a file, in the format that its extension names; repeatable."),
-        QStringLiteral("FILE")};
-    QCommandLineOption screenshot{QStringLiteral("screenshot"),
-        QStringLiteral("Write a picture of the window, once it has settled, and quit; needs no display."),
-        QStringLiteral("FILE")};
-    QCommandLineOption picture{QStringLiteral("picture"),
-        QStringLiteral("Write a picture of the scene alone; needs no display. 1920x1080 unless --size is given."),
-        QStringLiteral("FILE")};
-    QCommandLineOption camera{QStringLiteral("camera"),
-        QStringLiteral("Where --picture looks from: the path of a camera, such as /camera, or the name of a bookmark; "
-                       "otherwise all of the scene is in view."),
-        QStringLiteral("PATH")};
-    QCommandLineOption background{QStringLiteral("background"),
-        QStringLiteral("The background of --picture: a color, such as white or #203040, or transparent, which it is "
-                       "otherwise where the format allows it; else it is white."),
-        QStringLiteral("COLOR")};
-    QCommandLineOption size{QStringLiteral("size"),
-        QStringLiteral("Size of the window in pixels, %1; or that of --picture, %2.")
-            .arg(sizeLimits(), ScenePicture::sizeLimits()),
-        QStringLiteral("WxH")};
-    QCommandLineOption watch{QStringLiteral("watch"),
-        QStringLiteral(
-            "Reload the file by itself when it changes on disk, while the scene has no changes of your own.")};
-    QCommandLineOption keepGroups{QStringLiteral("keep-groups"),
-        QStringLiteral("Keep the groups of models that have one child and no effect, which are joined otherwise.")};
-    QCommandLineOption noPlugins{QStringLiteral("no-plugins"),
-        QStringLiteral("Load no plug-ins but those that --plugin names, for when one of them does harm.")};
-    QCommandLineOption reuse{QStringLiteral("reuse"),
-        QStringLiteral("Open the file in the window that was used last, if there is one; without a file, bring that "
-                       "window to the front.")};
-    QCommandLineOption newWindow{QStringLiteral("new-window"),
-        QStringLiteral("Open a window of its own even if the settings let running windows take files.")};
-    QCommandLineOption noSettings{QStringLiteral("no-settings"), QStringLiteral("Neither read nor write settings.")};
-    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Print the version.")};
-    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Print this help.")};
-
-    void addTo(QCommandLineParser& parser) const
-    {
-        parser.addOptions({plugin, profile, select, set, get, find, list, diff, describe, check, json, listExtensions,
-            exportTo, screenshot, picture, camera, background, size, watch, reuse, newWindow, keepGroups, noPlugins,
-            noSettings, version, help});
-        parser.addPositionalArgument(QStringLiteral("file"),
-            QStringLiteral("The scene (.mrd) or any model that the import library reads."), QStringLiteral("[file]"));
-        parser.addPositionalArgument(
-            QStringLiteral("second file"), QStringLiteral("With --diff."), QStringLiteral("[second file]"));
-        parser.addPositionalArgument(QStringLiteral("classes"), QStringLiteral("With --describe, instead of files."),
-            QStringLiteral("[classes]"));
-    }
-};
 
 // Splits "PATH=TEXT"; the path may contain an equals sign in double quotes only.
 Result<CommandLine::Assignment> parseAssignment(const QString& argument)
@@ -188,15 +105,31 @@ Result<> checkWatch(const QCommandLineParser& parser, const Options& options)
     return {};
 }
 
+Result<> checkSettings(const QCommandLineParser& parser, const Options& options)
+{
+    if (parser.isSet(options.settings) && parser.isSet(options.noSettings))
+        return Failure{QStringLiteral("--settings and --no-settings can't be used together.")};
+    if (!parser.isSet(options.resetSettings))
+        return {};
+    const QStringList used = parser.optionNames() + parser.positionalArguments();
+    for (const QString& name : used) {
+        if (name != options.resetSettings.names().constFirst() && name != options.settings.names().constFirst()
+            && name != parser.value(options.settings))
+            return Failure{
+                QStringLiteral("--reset-settings does nothing else, so it can't be used with '%1'.").arg(name)};
+    }
+    return {};
+}
+
 /// A running window keeps its own plug-ins and settings, and takes a file to be looked at, not changes from outside.
 Result<> checkReuse(const QCommandLineParser& parser, const Options& options)
 {
     if (!parser.isSet(options.reuse))
         return {};
-    for (const QCommandLineOption& option :
-        {options.plugin, options.profile, options.set, options.get, options.find, options.list, options.diff,
-            options.describe, options.check, options.listExtensions, options.exportTo, options.screenshot,
-            options.picture, options.size, options.watch, options.newWindow, options.keepGroups, options.noPlugins}) {
+    for (const QCommandLineOption& option : {options.plugin, options.profile, options.set, options.get, options.find,
+             options.list, options.diff, options.describe, options.check, options.listExtensions, options.exportTo,
+             options.screenshot, options.picture, options.size, options.watch, options.newWindow, options.keepGroups,
+             options.noPlugins, options.settings}) {
         if (parser.isSet(option))
             return Failure{
                 QStringLiteral("--reuse can't be used with %1, which is for a run of its own.").arg(nameOf(option))};
@@ -228,7 +161,7 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
 {
     for (const QCommandLineOption& option :
         {options.plugin, options.profile, options.select, options.set, options.get, options.find, options.exportTo,
-            options.screenshot, options.picture, options.camera, options.background, options.size}) {
+            options.screenshot, options.picture, options.camera, options.background, options.size, options.settings}) {
         if (parser.values(option).contains(QString()))
             return Failure{QStringLiteral("%1 expects %2, not an empty text.").arg(nameOf(option), option.valueName())};
     }
@@ -240,10 +173,12 @@ Result<> checkUse(const QCommandLineParser& parser, const Options& options)
             return Failure{QStringLiteral("%1 expects UTF-8.").arg(nameOf(option))};
     }
     for (const QCommandLineOption& option : {options.profile, options.select, options.screenshot, options.picture,
-             options.camera, options.background, options.size}) {
+             options.camera, options.background, options.size, options.settings}) {
         if (parser.values(option).size() > 1)
             return Failure{QStringLiteral("%1 can be given once only.").arg(nameOf(option))};
     }
+    if (auto settings = checkSettings(parser, options); !settings)
+        return settings;
     if (auto watch = checkWatch(parser, options); !watch)
         return watch;
     if (auto reuse = checkReuse(parser, options); !reuse)
@@ -297,6 +232,8 @@ void takeValues(const QCommandLineParser& parser, const Options& options, Comman
     result.keepGroups = parser.isSet(options.keepGroups);
     result.noPlugins = parser.isSet(options.noPlugins);
     result.noSettings = parser.isSet(options.noSettings);
+    result.resetSettings = parser.isSet(options.resetSettings);
+    result.settingsFile = parser.value(options.settings);
 }
 
 } // namespace
@@ -311,6 +248,16 @@ bool CommandLine::isBatch() const
     const bool asksForOutput = describe || list || diff || check || listExtensions || !queries.isEmpty()
         || !searches.isEmpty() || !exportFiles.isEmpty() || !pictureFile.isEmpty();
     return asksForOutput && screenshotFile.isEmpty();
+}
+
+AppSettings::Mode CommandLine::settingsMode() const noexcept
+{
+    return noSettings ? AppSettings::Mode::None : AppSettings::Mode::File;
+}
+
+QString CommandLine::settingsFileName() const
+{
+    return settingsFile.isEmpty() ? AppSettings::defaultFileName() : QFileInfo(settingsFile).absoluteFilePath();
 }
 
 bool CommandLine::needsExtensions() const
@@ -344,7 +291,7 @@ bool CommandLine::isUsableSize(const QSize& size)
 
 Result<CommandLine> CommandLine::parse(const QStringList& arguments)
 {
-    const Options options;
+    const Options options{.windowSizes = sizeLimits()};
     QCommandLineParser parser;
     options.addTo(parser);
     if (!parser.parse(arguments))
@@ -389,7 +336,7 @@ QString CommandLine::helpText()
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Inspects and edits a 3D scene graph."));
-    Options().addTo(parser);
+    Options{.windowSizes = sizeLimits()}.addTo(parser);
     // Before there is an application object the parser doesn't know the program's name.
     return parser.helpText().replace(QLatin1String("<executable_name>"), QLatin1String("orvane"));
 }

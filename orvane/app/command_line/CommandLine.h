@@ -1,5 +1,6 @@
 #pragma once
 
+#include "orvane/app/base/AppSettings.h"
 #include "orvane/app/base/Result.h"
 
 #include <QList>
@@ -50,6 +51,8 @@ struct CommandLine {
     bool keepGroups = false;
     bool noPlugins = false; // but those that are named
     bool noSettings = false;
+    bool resetSettings = false; // and nothing else, but for `settingsFile`
+    QString settingsFile; // in place of the user's own
     bool version = false;
     bool help = false;
 
@@ -57,6 +60,9 @@ struct CommandLine {
     [[nodiscard]] int failureStatus() const noexcept;
     /// True when all that is asked for can be done without a window.
     [[nodiscard]] bool isBatch() const;
+    /// Where settings are read from and written to.
+    [[nodiscard]] AppSettings::Mode settingsMode() const noexcept;
+    [[nodiscard]] QString settingsFileName() const;
     /// True when plug-ins or profiles have to be loaded, even without a window.
     [[nodiscard]] bool needsExtensions() const;
     /// True when the window is to be one that another process doesn't have.

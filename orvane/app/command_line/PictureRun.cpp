@@ -83,7 +83,7 @@ Result<> orvane::checkPicture(const CommandLine& commandLine)
 
 Result<> orvane::writePicture(NxGroup* scene, const CommandLine& commandLine)
 {
-    AppSettings settings(commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
+    AppSettings settings(commandLine.settingsMode(), commandLine.settingsFileName());
     const QSize size = commandLine.size.isValid() ? commandLine.size : usualSize;
     ScenePicture picture(
         scene, orvane::folderOf(commandLine.file), settings.value(ImageFolderQuestion::key()).toStringList());

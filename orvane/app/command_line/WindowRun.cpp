@@ -41,20 +41,21 @@ int WindowRun::run()
         orvane::printError(usable.error());
         return m_commandLine.failureStatus();
     }
-    Session session(m_commandLine.noSettings ? AppSettings::Mode::None : AppSettings::Mode::File);
+    Session session(m_commandLine.settingsMode(), m_commandLine.settingsFileName());
     // Before the first widget, so that no text is set twice.
     SettingsStore& settings = SettingsStore::of(session.settings());
     const QString language = QStringLiteral("look/language");
     settings.follow(language, this, [&settings, language] { orvane::Language::use(settings.text(language)); });
     MainWindow window(session);
     prepare(session, window);
-    if (!takesPicture())
+    if (!takesPicture() && settings.isOn(QStringLiteral("recovery/isOn")))
         window.startRecovery(RecoveryFolder());
     if (m_commandLine.size.isValid())
         window.resize(m_commandLine.size);
     if (takesPicture())
         connect(&window, &MainWindow::imageFolderRefused, this, &orvane::printRefusedFolder);
-    window.setReloadsByItself(m_commandLine.watch);
+    if (m_commandLine.watch)
+        settings.overrule(QStringLiteral("files/reloadsByItself"), true, QStringLiteral("--watch"));
     if (!takesPicture())
         joinOthers(window);
     if (!takesPicture() && !m_commandLine.noSettings)
@@ -109,8 +110,9 @@ void WindowRun::showSoon(MainWindow& window)
 void WindowRun::prepare(Session& session, MainWindow& window)
 {
     session.loadPreferences();
+    const QString chosenFolder = SettingsStore::of(session.settings()).text(QStringLiteral("plugins/folder"));
     const QStringList found
-        = m_commandLine.noPlugins ? QStringList() : OrvPluginsManager::findPlugins(orvane::pluginFolders());
+        = m_commandLine.noPlugins ? QStringList() : OrvPluginsManager::findPlugins(orvane::pluginFolders(chosenFolder));
     QStringList messages = session.loadPlugins(found, m_commandLine.plugins);
     messages += session.loadProfiles(orvane::profileFolders());
     if (const auto activated = session.activateProfile(m_commandLine.profile); !activated)

@@ -8,6 +8,7 @@
 #include "orvane/app/log/QtNoise.h"
 #include "orvane/app/look/ReadablePalette.h"
 #include "orvane/app/plugins/GuardedApplication.h"
+#include "orvane/app/settings/SettingsFile.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -172,6 +173,16 @@ int print(const QString& text)
     return written ? 0 : fail(written.error(), statusFailed);
 }
 
+int resetSettings(const QString& fileName)
+{
+    const auto kept = orvane::putSettingsAway(fileName);
+    if (!kept)
+        return fail(kept.error(), statusFailed);
+    return print(kept.value().isEmpty()
+            ? QStringLiteral("There are no settings yet: %1 doesn't exist.\n").arg(fileName)
+            : QStringLiteral("The settings are reset. The former ones are in %1.\n").arg(kept.value()));
+}
+
 int run(int argc, char** argv)
 {
     QStringList arguments;
@@ -188,6 +199,8 @@ int run(int argc, char** argv)
         return print(CommandLine::helpText());
     if (commandLine.version)
         return print(QStringLiteral("orvane " ORVANE_VERSION "\n"));
+    if (commandLine.resetSettings)
+        return resetSettings(commandLine.settingsFileName());
     // Before any thread reads it: the option counts more than the user's own setting.
     if (commandLine.keepGroups)
         qputenv("ORVANE_KEEP_GROUPS", "1");

@@ -1,6 +1,5 @@
 #include "orvane/app/lists/ListPanel.h"
 
-#include "orvane/app/base/AppSettings.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/base/UserLocale.h"
 #include "orvane/app/files/JobBar.h"
@@ -18,6 +17,8 @@
 #include "orvane/app/lists/rows/ListModel.h"
 #include "orvane/app/look/Look.h"
 #include "orvane/app/messages/MessageBar.h"
+#include "orvane/app/settings/SettingActions.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
 
@@ -123,7 +124,7 @@ QWidget* ListPanel::buildTop()
         statistics->setStatusTip(tr("Shows smallest, largest and mean values beside the rows"));
     });
     statistics->setCheckable(true);
-    statistics->setChecked(m_settings.value(listStatisticsKey, true).toBool());
+    orvane::followSwitch(SettingsStore::of(m_settings), listStatisticsKey, statistics);
     connect(statistics, &QAction::toggled, this, &ListPanel::showStatistics);
     auto* const menuButton = new QToolButton(top);
     menuButton->setObjectName(QStringLiteral("listMenuButton"));
@@ -314,7 +315,6 @@ void ListPanel::showMessage(const QString& message)
 
 void ListPanel::showStatistics(bool shows)
 {
-    m_settings.setValue(listStatisticsKey, shows);
     m_statistics->setVisible(shows);
 }
 

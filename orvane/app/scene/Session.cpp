@@ -2,6 +2,7 @@
 
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/plugins/LoadingMark.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/extender/OrvProfile.h"
 
 #include "meridane/base/NxPreferences.h"
@@ -16,6 +17,7 @@ struct SessionTexts {
 };
 
 const QString profileKey = QStringLiteral("profile");
+const QString historyKey = QStringLiteral("history/limit");
 
 } // namespace
 
@@ -31,6 +33,9 @@ Session::Session(AppSettings::Mode settings, const QString& settingsFileName)
           m_plugins, m_settings, settings == AppSettings::Mode::File ? LoadingMark::defaultFolder() : QString())
     , m_document(m_services, m_disposal)
 {
+    SettingsStore& store = SettingsStore::of(m_settings);
+    store.follow(historyKey, &m_services,
+        [this, &store] { m_services.setHistoryLimit(static_cast<std::size_t>(store.number(historyKey)) << 20U); });
 }
 
 Session::~Session()
@@ -42,6 +47,7 @@ void Session::loadPreferences()
 {
     if (m_mode == AppSettings::Mode::File)
         NxPreferences::setFile(orvane::toStdFileName(AppSettings::preferencesFileName()).c_str());
+    SettingsStore::of(m_settings).announcePreferences();
 }
 
 QStringList Session::loadPlugins(const QStringList& found, const QStringList& askedFor)

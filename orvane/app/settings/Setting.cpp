@@ -63,13 +63,18 @@ QString Setting::descriptionText() const
     return translated(description);
 }
 
+QString Setting::unitText() const
+{
+    return translated(range.unit);
+}
+
 QString Setting::valueText(const QVariant& value) const
 {
     switch (kind) {
     case Kind::Switch:
         return value.toBool() ? Texts::tr("On") : Texts::tr("Off");
     case Kind::Number: {
-        const QString unit = translated(range.unit);
+        const QString unit = unitText();
         const QString number = numberText(value.toDouble());
         return unit.isEmpty() ? number : number + u' ' + unit;
     }
@@ -149,6 +154,8 @@ QString orvane::pageTitle(SettingPage page)
         return Texts::tr("Log");
     case SettingPage::Plugins:
         return Texts::tr("Plug-ins");
+    case SettingPage::Keys:
+        return Texts::tr("Keys");
     }
     return {};
 }
@@ -170,6 +177,8 @@ QString orvane::pageName(SettingPage page)
         return QStringLiteral("Log");
     case SettingPage::Plugins:
         return QStringLiteral("Plug-ins");
+    case SettingPage::Keys:
+        return QStringLiteral("Keys");
     }
     return {};
 }

@@ -4,10 +4,14 @@
 #include <QString>
 #include <QVariant>
 
+#include <array>
 #include <optional>
 
 /// The pages of the Settings window, in their order.
-enum class SettingPage { General, View, Editing, Files, Recovery, Log, Plugins };
+enum class SettingPage { General, View, Editing, Files, Recovery, Log, Plugins, Keys };
+
+inline constexpr std::array allSettingPages{SettingPage::General, SettingPage::View, SettingPage::Editing,
+    SettingPage::Files, SettingPage::Recovery, SettingPage::Log, SettingPage::Plugins, SettingPage::Keys};
 
 /// A setting of the user: what it is called, which values it may have, and which one it has by default.
 ///
@@ -39,6 +43,7 @@ struct Setting {
 
     [[nodiscard]] QString titleText() const;
     [[nodiscard]] QString descriptionText() const;
+    [[nodiscard]] QString unitText() const;
     /// The value as a user reads it: "On", "64 MiB", the title of a choice.
     [[nodiscard]] QString valueText(const QVariant& value) const;
     /// The values that are allowed, such as "from 1 to 64 MiB"; empty where all are.

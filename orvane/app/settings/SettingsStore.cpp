@@ -1,5 +1,6 @@
 #include "orvane/app/settings/SettingsStore.h"
 
+#include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/settings/SettingList.h"
 
@@ -38,6 +39,12 @@ SettingsStore::SettingsStore(AppSettings& settings)
     connect(&settings, &AppSettings::changed, this, &SettingsStore::announce);
 }
 
+SettingsStore::~SettingsStore()
+{
+    for (const char* const preference : m_preferences)
+        NxPreferences::unset(preference);
+}
+
 void SettingsStore::announce(const QString& key)
 {
     if (const Setting* const setting = orvane::findSetting(key)) {
@@ -46,14 +53,16 @@ void SettingsStore::announce(const QString& key)
     }
 }
 
-void SettingsStore::applyPreference(const Setting& setting) const
+void SettingsStore::applyPreference(const Setting& setting)
 {
     if (setting.preference == nullptr)
         return;
-    if (const std::optional<QVariant> value = stored(setting))
+    if (const std::optional<QVariant> value = stored(setting)) {
         NxPreferences::set(setting.preference, preferenceText(*value));
-    else
+        m_preferences.insert(setting.preference);
+    } else if (m_preferences.erase(setting.preference) > 0) {
         NxPreferences::unset(setting.preference);
+    }
 }
 
 std::optional<QVariant> SettingsStore::stored(const Setting& setting) const
@@ -80,7 +89,9 @@ QVariant SettingsStore::value(const QString& key) const
 
 bool SettingsStore::isChanged(const Setting& setting) const
 {
-    return m_settings.contains(setting.key) && ownValue(setting) != setting.defaultValue;
+    // The default itself is kept only where it replaces a toolkit preference.
+    const std::optional<QVariant> own = stored(setting);
+    return own && (*own != setting.defaultValue || setting.preference != nullptr);
 }
 
 void SettingsStore::set(const QString& key, const QVariant& value)
@@ -111,6 +122,14 @@ void SettingsStore::overrule(const QString& key, const QVariant& value, const QS
     Q_EMIT changed(key);
 }
 
+void SettingsStore::announcePreferences()
+{
+    for (const Setting& setting : orvane::settingList()) {
+        if (setting.preference != nullptr)
+            Q_EMIT changed(setting.key);
+    }
+}
+
 std::optional<SettingsStore::Overruling> SettingsStore::overruling(const Setting& setting) const
 {
     if (const auto found = m_overruled.find(setting.key); found != m_overruled.end())
@@ -129,18 +148,25 @@ QVariant SettingsStore::preferred(const Setting& setting) const
     return text.isEmpty() ? QVariant() : setting.usable(text).value_or(QVariant());
 }
 
+QString SettingsStore::unusableValue(const Setting& setting) const
+{
+    if (!m_settings.contains(setting.key) || stored(setting))
+        return {};
+    const QVariant value = m_settings.value(setting.key);
+    const QString text
+        = value.typeId() == QMetaType::QStringList ? value.toStringList().join(QStringLiteral(", ")) : value.toString();
+    constexpr int mostShown = 60;
+    return text.isEmpty() ? QStringLiteral("?") : orvane::shortLine(text, mostShown);
+}
+
 QStringList SettingsStore::unusableValues() const
 {
     QStringList sentences;
     for (const Setting& setting : orvane::settingList()) {
-        if (!m_settings.contains(setting.key) || stored(setting))
-            continue;
-        constexpr int mostShown = 60;
-        QString value = m_settings.value(setting.key).toString();
-        if (value.size() > mostShown)
-            value = value.left(mostShown) + QChar(0x2026);
-        sentences.append(tr("The setting %1 has a value that can't be used, \"%2\"; allowed is: %3. It counts as %4.")
-                             .arg(setting.key, value, setting.allowedText(), setting.valueText(setting.defaultValue)));
+        if (const QString value = unusableValue(setting); !value.isEmpty())
+            sentences.append(
+                tr("The setting %1 has a value that can't be used, \"%2\"; allowed is: %3. It counts as %4.")
+                    .arg(setting.key, value, setting.allowedText(), setting.valueText(setting.defaultValue)));
     }
     return sentences;
 }

@@ -10,6 +10,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 
 /// The values of the settings that are listed in `orvane::settingList`, with their types.
@@ -25,6 +26,8 @@ public:
         QVariant value; ///< invalid if it can't be used
         QString source; ///< such as "ORVANE_HISTORY"
     };
+
+    ~SettingsStore() override;
 
     /// The one store of these settings. It lives as long as they do.
     [[nodiscard]] static SettingsStore& of(AppSettings& settings);
@@ -49,8 +52,10 @@ public:
 
     /// What the user has set, or the default, whatever counts more in this run.
     [[nodiscard]] QVariant ownValue(const Setting& setting) const;
-    /// Whether the user has set something else than the default.
+    /// Whether the user has set something else than what would count without.
     [[nodiscard]] bool isChanged(const Setting& setting) const;
+    /// The value of the file that can't be used, which counts as the default; empty for none.
+    [[nodiscard]] QString unusableValue(const Setting& setting) const;
     /// Sets a value, which must be usable. The default is the same as `reset`.
     void set(const QString& key, const QVariant& value);
     void reset(const QString& key);
@@ -59,6 +64,8 @@ public:
     /// Lets a value count more than the setting in this run; `source` is what the user has to take away, such as the
     /// option of a command line.
     void overrule(const QString& key, const QVariant& value, const QString& source);
+    /// To be called when the file of toolkit preferences has been read: values may follow it.
+    void announcePreferences();
     [[nodiscard]] std::optional<Overruling> overruling(const Setting& setting) const;
     /// The value of the file of toolkit preferences, which counts where the setting isn't changed; invalid for none.
     [[nodiscard]] QVariant preferred(const Setting& setting) const;
@@ -75,9 +82,10 @@ private:
     explicit SettingsStore(AppSettings& settings);
 
     [[nodiscard]] std::optional<QVariant> stored(const Setting& setting) const;
-    void applyPreference(const Setting& setting) const;
+    void applyPreference(const Setting& setting);
     void announce(const QString& key);
 
     AppSettings& m_settings;
     std::map<QString, Overruling> m_overruled;
+    std::set<const char*> m_preferences; // that this store has set
 };

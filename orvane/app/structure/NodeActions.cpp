@@ -159,7 +159,7 @@ void NodeActions::addMoves()
     addEdit("node.moveOut", QT_TR_NOOP("Mov&e Out of Group"), key(Qt::Key_Left),
         QT_TR_NOOP("Moves the selected nodes behind the group that they are in"),
         [this, steps](const Set& set) { return steps().out(set, m_editor->places()); });
-    addEdit("node.moveIn", QT_TR_NOOP("Move &into Group Above"), key(Qt::Key_Right),
+    addEdit("node.moveIn", QT_TR_NOOP("Move into Group A&bove"), key(Qt::Key_Right),
         QT_TR_NOOP("Moves the selected nodes to the end of the group above them"),
         [this, steps](const Set& set) { return steps().in(set, m_editor->places()); });
 }

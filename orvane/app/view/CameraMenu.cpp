@@ -28,7 +28,7 @@ CameraMenu::CameraMenu(SceneView* view, SceneDocument& document)
 {
     orvane::followLanguage(this, [this] {
         m_menu->setTitle(tr("&Cameras"));
-        update();
+        static_cast<void>(update());
     });
     m_menu->setObjectName(QStringLiteral("cameraMenu"));
     connect(view, &SceneView::moved, this, [this] { m_follower.stop(); });

@@ -6,13 +6,6 @@
 #include <iterator>
 #include <utility>
 
-namespace {
-
-/// Edges are smooth enough with these, and a processor that draws without a graphics card still keeps up.
-constexpr int wantedSamples = 4;
-
-} // namespace
-
 PictureBuffer::PictureBuffer(const NxGLFunctions& functions, Edges edges)
     : m_gl(functions)
     , m_edges(edges)
@@ -24,6 +17,14 @@ PictureBuffer::~PictureBuffer()
     destroy();
 }
 
+void PictureBuffer::setSamples(int samples)
+{
+    if (samples == m_samples)
+        return;
+    m_samples = samples;
+    m_isStale = true;
+}
+
 QSize PictureBuffer::bind(QSize size)
 {
     GLint most = 0;
@@ -31,10 +32,10 @@ QSize PictureBuffer::bind(QSize size)
     GLint samples = 0;
     m_gl.GetIntegerv(GL_MAX_SAMPLES, &samples);
     const QSize possible = size.boundedTo(QSize(most, most)).expandedTo(QSize(1, 1));
-    if (possible != m_size || m_drawn == 0) {
+    if (possible != m_size || m_drawn == 0 || std::exchange(m_isStale, false)) {
         destroy();
         // A picture with rough edges is better than none.
-        const int wanted = m_edges == Edges::Smooth ? std::min(samples, wantedSamples) : 0;
+        const int wanted = m_edges == Edges::Smooth ? std::min(samples, m_samples) : 0;
         if (!make(possible, wanted) && !make(possible, 0)) {
             destroy();
             return {};

@@ -20,6 +20,9 @@ public:
     PictureBuffer(const PictureBuffer&) = delete;
     PictureBuffer& operator=(const PictureBuffer&) = delete;
 
+    /// How many samples a pixel has where edges are smooth, 4 by default; 0 for rough edges. Fewer where the graphics
+    /// system has fewer. From the next `bind` on.
+    void setSamples(int samples);
     /// Binds a framebuffer of that size in pixels, or, where the graphics system takes no picture of that size, of a
     /// smaller one. The result is its size, or an empty one when there is no memory for it.
     [[nodiscard]] QSize bind(QSize size);
@@ -36,6 +39,8 @@ private:
 
     const NxGLFunctions& m_gl;
     Edges m_edges;
+    int m_samples = 4; // edges are smooth enough with these, and a processor that draws by itself still keeps up
+    bool m_isStale = false; // made for another number of samples
     QSize m_size;
     unsigned m_drawn = 0; // the framebuffer with samples
     unsigned m_resolved = 0;

@@ -1,7 +1,8 @@
 #include "orvane/app/view/ViewActions.h"
 
-#include "orvane/app/base/AppSettings.h"
 #include "orvane/app/language/FollowLanguage.h"
+#include "orvane/app/settings/SettingActions.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/view/SceneView.h"
 
 #include <QAction>
@@ -99,33 +100,29 @@ void ViewActions::addSurfaces(const char* name, const char* text, const char* to
         style.surfaces = wireframe ? NxDrawingStyle::WIREFRAME : NxDrawingStyle::SOLID;
         m_view->setStyle(style);
     };
-    if (m_settings.value(keyOf("wireframe"), false).toBool() == wireframe) {
+    const QString key = keyOf("wireframe");
+    SettingsStore& store = SettingsStore::of(m_settings);
+    store.follow(key, action, [&store, key, action, wireframe, apply] {
+        if (store.isOn(key) != wireframe)
+            return;
         action->setChecked(true);
         apply();
-    }
-    connect(action, &QAction::triggered, m_view, [this, wireframe, apply] {
-        m_settings.setValue(keyOf("wireframe"), wireframe);
-        apply();
     });
+    connect(action, &QAction::triggered, &store, [&store, key, wireframe] { store.set(key, wireframe); });
 }
 
 void ViewActions::addSwitch(const char* name, const char* text, const char* toolTip, bool NxDrawingStyle::*part)
 {
     QAction* action = addAction(name, text, toolTip);
-    action->setCheckable(true);
     m_switches.append(action);
     const auto apply = [this, part](bool on) {
         NxDrawingStyle style = m_view->style();
         style.*part = on;
         m_view->setStyle(style);
     };
-    const QString key = keyOf(name);
-    action->setChecked(m_settings.value(key, m_view->style().*part).toBool());
+    orvane::followSwitch(SettingsStore::of(m_settings), keyOf(name), action);
     apply(action->isChecked());
-    connect(action, &QAction::triggered, m_view, [this, key, apply](bool on) {
-        m_settings.setValue(key, on);
-        apply(on);
-    });
+    connect(action, &QAction::toggled, m_view, apply);
 }
 
 void ViewActions::addTo(QMenu* menu)

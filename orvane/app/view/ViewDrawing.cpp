@@ -45,6 +45,13 @@ ViewDrawing::~ViewDrawing()
     m_reducedBuffer.reset();
 }
 
+void ViewDrawing::setSamples(int samples)
+{
+    m_samples = samples;
+    if (m_buffer != nullptr)
+        m_buffer->setSamples(samples);
+}
+
 bool ViewDrawing::start()
 {
     if (isStarted() || !m_problem.isEmpty())
@@ -57,6 +64,7 @@ bool ViewDrawing::start()
     if (!makeContext())
         return false;
     m_buffer = std::make_unique<PictureBuffer>(m_functions);
+    m_buffer->setSamples(m_samples);
     m_reducedBuffer = std::make_unique<PictureBuffer>(m_functions, PictureBuffer::Edges::Rough);
     m_drawing = std::make_unique<NxSceneDrawing>(m_functions);
     m_drawing->setImageLoader([this](const std::string& fileName, NxImage& image, std::string& reason) {

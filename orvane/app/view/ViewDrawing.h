@@ -43,6 +43,8 @@ public:
     /// Why there are no pictures, as sentences for the user; empty as long as nothing went wrong.
     [[nodiscard]] const QString& problem() const noexcept { return m_problem; }
 
+    /// How many samples a pixel of a whole picture has; 0 for rough edges. From the next picture on.
+    void setSamples(int samples);
     /// Called once when the next picture would differ from the latest one.
     void setChangeHook(std::function<void()> hook);
     /// Draws that scene from now on; null for none. Names of texture files are relative to the folder.
@@ -119,6 +121,7 @@ private:
 
     std::unique_ptr<NxOffscreenContext> m_context;
     NxGLFunctions m_functions;
+    int m_samples = 4;
     std::unique_ptr<PictureBuffer> m_buffer;
     std::unique_ptr<PictureBuffer> m_reducedBuffer;
     std::unique_ptr<NxSceneDrawing> m_drawing;

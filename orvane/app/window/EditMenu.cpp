@@ -53,10 +53,11 @@ QIcon turningArrow(const QPalette& palette, bool mirrored)
 EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
     : QObject(window)
     , m_session(session)
+    , m_menu(window->menuBar()->addMenu(QString()))
     , m_tree(tree)
     , m_nodes(new NodeActions(session, tree))
 {
-    QMenu* menu = window->menuBar()->addMenu(QString());
+    QMenu* const menu = m_menu;
     orvane::followLanguage(menu, [menu] { menu->setTitle(tr("&Edit")); });
     menu->setObjectName(QStringLiteral("editMenu"));
     const auto add = [menu](const char* text, const QKeySequence& key, const char* name) {
@@ -99,6 +100,12 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
 }
 
 EditMenu::~EditMenu() = default;
+
+void EditMenu::addSettings(QAction* action)
+{
+    m_menu->addSeparator();
+    m_menu->addAction(action);
+}
 
 void EditMenu::renameNode(NxNode* node, const QString& name)
 {

@@ -26,12 +26,16 @@ public:
     [[nodiscard]] QList<QAction*> nodeActions() const;
     [[nodiscard]] NodeActions& nodes() const noexcept { return *m_nodes; }
 
+    /// Appends the action of the Settings window.
+    void addSettings(QAction* action);
+
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void updateActions();
 
     Session& m_session;
+    QMenu* m_menu;
     SceneTreePanel* m_tree;
     QAction* m_undo;
     QAction* m_redo;

@@ -73,8 +73,6 @@ MainWindow::MainWindow(Session& session)
 
     m_fields->setSceneFolder([this] { return document().pathFolder(); });
     m_layout = new WindowLayout(this, *m_shell, session.settings());
-    if (!session.settings().problem().isEmpty())
-        showWarning(session.settings().problem());
 }
 
 MainWindow::~MainWindow()
@@ -144,11 +142,6 @@ void MainWindow::startView()
 {
     if (m_view->isVisible())
         m_view->start();
-}
-
-void MainWindow::setReloadsByItself(bool reloads)
-{
-    m_diskChange->setReloadsByItself(reloads);
 }
 
 bool MainWindow::isLoadingImages() const

@@ -63,8 +63,6 @@ public:
     void keepPictures();
     /// Starts the view's drawing now instead of after the first paint, for a picture of the window.
     void startView();
-    /// Whether a file that changes on disk is reloaded without a question while the scene has no changes of the user.
-    void setReloadsByItself(bool reloads);
     /// Whether images of textures are still being loaded for the view.
     [[nodiscard]] bool isLoadingImages() const;
     /// Shows a message to the user.

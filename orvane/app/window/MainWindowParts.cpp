@@ -18,6 +18,7 @@
 #include "orvane/app/plugins/PluginActions.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/settings/SettingsStore.h"
+#include "orvane/app/settings/window/SettingsActions.h"
 #include "orvane/app/structure/NodeActions.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
@@ -62,6 +63,7 @@
 
 namespace {
 
+const QString reloadKey = QStringLiteral("files/reloadsByItself");
 constexpr int treeWidth = 330;
 
 } // namespace
@@ -129,6 +131,7 @@ void MainWindow::buildMenus()
     auto* hiding = new HidingActions(m_view, m_tree, statusBar());
     new NodeMenu(m_session, m_tree, m_view, *m_inspectors, cameras, editMenu->nodes(),
         editMenu->nodeActions() + hiding->nodeActions());
+    editMenu->addSettings((new SettingsActions(m_session.settings(), *m_messages, this))->action());
     const auto* actions = new WindowActions(
         this, m_session, {m_tree, m_fields, *m_inspectors, *m_files, *m_recent, *cameras, navigation->bookmarks()});
     const auto* const help = new HelpMenu(this, *m_shell, actions->keysAction());
@@ -166,6 +169,8 @@ void MainWindow::buildMenus()
 void MainWindow::connectReload()
 {
     m_diskChange = new DiskChangeBar(document(), *m_files, *m_messages, this);
+    SettingsStore& store = SettingsStore::of(m_session.settings());
+    store.follow(reloadKey, m_diskChange, [this, &store] { m_diskChange->setReloadsByItself(store.isOn(reloadKey)); });
     m_inspectors->followReloads(*m_files);
     new ReloadedTree(*m_files, document(), m_session.services(), m_tree, this);
     const auto say = [this](const QString& text) {

@@ -1,12 +1,41 @@
+#include "Patience.h"
 #include "TestFiles.h"
 #include "app/AppScenes.h"
 
 #include "orvane/app/base/AppSettings.h"
 #include "orvane/app/files/RecentFiles.h"
 
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <array>
+#include <csignal>
+
+#include <sys/resource.h>
+
+namespace {
+
+constexpr int writtenAtOnce = 20;
+
+QString keyOf(int program, int value)
+{
+    return QStringLiteral("program%1/value%2").arg(program).arg(value);
+}
+
+/// What another program does at the same time.
+int writeValues(const QString& fileName, int program)
+{
+    AppSettings settings(AppSettings::Mode::File, fileName);
+    for (int value = 0; value < writtenAtOnce; ++value) {
+        settings.setValue(keyOf(program, value), value);
+        settings.sync();
+    }
+    return settings.problem().isEmpty() ? 0 : 1;
+}
+
+} // namespace
 
 class TestAppSettings : public QObject {
     Q_OBJECT
@@ -162,6 +191,52 @@ private Q_SLOTS:
         QCOMPARE(read.value(QStringLiteral("a/c")).toInt(), 2);
     }
 
+    void keepsTheFileWhenTheDiskIsFull()
+    {
+        constexpr int large = 8192;
+        {
+            AppSettings settings(AppSettings::Mode::File, m_fileName);
+            settings.setValue(QStringLiteral("a/text"), QString(large, u'x'));
+        }
+        const QByteArray before = readFile(m_fileName);
+        QVERIFY(before.size() > large);
+        // A file that can't grow beyond the limit is what a full disk is to a program.
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit former{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &former), 0);
+        rlimit small = former;
+        small.rlim_cur = large / 2;
+        AppSettings settings(AppSettings::Mode::File, m_fileName);
+        const QSignalSpy failed(&settings, &AppSettings::failed);
+        settings.setValue(QStringLiteral("a/b"), 1);
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+        settings.sync();
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &former), 0);
+        QCOMPARE(failed.size(), 1);
+        QCOMPARE(readFile(m_fileName), before);
+        settings.sync();
+        QCOMPARE(settings.problem(), QString());
+        QVERIFY(readFile(m_fileName).contains("b=1"));
+    }
+
+    void programsAtOnceLoseNothing()
+    {
+        std::array<QProcess, 3> programs;
+        for (std::size_t i = 0; i < programs.size(); ++i)
+            programs[i].start(
+                QCoreApplication::applicationFilePath(), {QStringLiteral("--write"), m_fileName, QString::number(i)});
+        for (QProcess& program : programs) {
+            QVERIFY(program.waitForFinished(testPatience));
+            QCOMPARE(program.exitCode(), 0);
+        }
+        const AppSettings settings(AppSettings::Mode::File, m_fileName);
+        QCOMPARE(settings.problem(), QString());
+        for (std::size_t i = 0; i < programs.size(); ++i) {
+            for (int value = 0; value < writtenAtOnce; ++value)
+                QCOMPARE(settings.value(keyOf(static_cast<int>(i), value)).toInt(), value);
+        }
+    }
+
     void reportsAFolderInPlaceOfTheFile()
     {
         QVERIFY(QDir().mkpath(m_fileName));
@@ -190,5 +265,14 @@ private:
     QString m_fileName;
 };
 
-QTEST_GUILESS_MAIN(TestAppSettings)
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() == 4 && arguments[1] == QStringLiteral("--write"))
+        return writeValues(arguments[2], arguments[3].toInt());
+    TestAppSettings test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_AppSettings.moc"

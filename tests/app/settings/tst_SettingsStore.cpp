@@ -1,10 +1,12 @@
 #include "TestFiles.h"
 
+#include "orvane/app/base/TextConversion.h"
 #include "orvane/app/settings/SettingList.h"
 #include "orvane/app/settings/SettingsStore.h"
 
 #include "meridane/base/NxPreferences.h"
 
+#include <QScopeGuard>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -173,6 +175,51 @@ private Q_SLOTS:
         QVERIFY(!store.isOn(keepPlace));
         QCOMPARE(store.ownValue(setting), QVariant(true));
         QCOMPARE(store.overruling(setting)->source, QStringLiteral("--option"));
+    }
+
+    void setsToolkitPreferences()
+    {
+        const QString history = QStringLiteral("history/limit");
+        const auto preference
+            = [] { return orvane::toQString(NxPreferences::getString("ORVANE_HISTORY", VbString())); };
+        const Setting& setting = *orvane::findSetting(history);
+        {
+            AppSettings settings(AppSettings::Mode::None, m_fileName);
+            SettingsStore& store = SettingsStore::of(settings);
+            QCOMPARE(preference(), QString());
+            store.set(history, 1048576);
+            QCOMPARE(preference(), QStringLiteral("1048576"));
+            // The environment counts more.
+            qputenv("ORVANE_HISTORY", "5");
+            QCOMPARE(store.number(history), 5.0);
+            QCOMPARE(store.overruling(setting)->source, QStringLiteral("ORVANE_HISTORY"));
+            qputenv("ORVANE_HISTORY", "many");
+            QVERIFY(!store.overruling(setting)->value.isValid());
+            QCOMPARE(store.number(history), 1048576.0);
+            qunsetenv("ORVANE_HISTORY");
+        }
+        QCOMPARE(preference(), QString());
+    }
+
+    void followsTheFileOfPreferencesWhereNothingIsSet()
+    {
+        const QString history = QStringLiteral("history/limit");
+        const Setting& setting = *orvane::findSetting(history);
+        const QString preferences = m_folder->filePath(QStringLiteral("preferences.conf"));
+        writeFile(preferences, "ORVANE_HISTORY = 12\n");
+        QVERIFY(NxPreferences::setFile(preferences.toUtf8().constData()));
+        const auto forget = qScopeGuard([] { NxPreferences::setFile(nullptr); });
+        AppSettings settings(AppSettings::Mode::None, m_fileName);
+        SettingsStore& store = SettingsStore::of(settings);
+        QCOMPARE(store.number(history), 12.0);
+        QCOMPARE(store.preferred(setting), QVariant(12.0));
+        QVERIFY(!store.isChanged(setting));
+        // The default itself can be chosen.
+        store.set(history, setting.defaultValue);
+        QCOMPARE(store.number(history), 256.0);
+        QVERIFY(store.isChanged(setting));
+        store.reset(history);
+        QCOMPARE(store.number(history), 12.0);
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/extender/OrvServices.h"
 
@@ -265,7 +266,7 @@ private Q_SLOTS:
     {
         QTest::keyClick(m_window.get(), Qt::Key_O, Qt::ControlModifier);
         QTRY_VERIFY(m_window->findChild<QFileDialog*>() != nullptr);
-        m_window->setReloadsByItself(true);
+        SettingsStore::of(m_session->settings()).set(QStringLiteral("files/reloadsByItself"), true);
         writeFile(m_robot, changed);
         const auto& disk = m_window->findChild<FileFlow*>()->disk();
         QTRY_COMPARE(disk.state(), DiskWatch::State::Changed);
@@ -278,7 +279,7 @@ private Q_SLOTS:
 
     void itReloadsByItselfWithoutChangesOfTheUser()
     {
-        m_window->setReloadsByItself(true);
+        SettingsStore::of(m_session->settings()).set(QStringLiteral("files/reloadsByItself"), true);
         writeFile(m_robot, changed);
         QTRY_COMPARE(text(), textOf(changed));
         QTRY_VERIFY(fileMessages().isEmpty());
@@ -294,7 +295,7 @@ private Q_SLOTS:
 
     void anEditDuringAReloadByItselfStopsIt()
     {
-        m_window->setReloadsByItself(true);
+        SettingsStore::of(m_session->settings()).set(QStringLiteral("files/reloadsByItself"), true);
         std::string mine;
         // The file is read from now on.
         const QObject guard;

@@ -1,9 +1,9 @@
 #include "orvane/app/fields/editors/CellServices.h"
 
-#include "orvane/app/base/AppSettings.h"
 #include "orvane/app/fields/editors/ImageReplacement.h"
 #include "orvane/app/fields/editors/ImageThumbnails.h"
 #include "orvane/app/fields/editors/PathChecks.h"
+#include "orvane/app/settings/SettingsStore.h"
 
 #include <utility>
 
@@ -23,8 +23,10 @@ CellServices::CellServices(FieldWriter& writer, AppSettings* settings, QObject* 
     , m_paths(std::make_unique<PathChecks>())
     , m_thumbnails(std::make_unique<ImageThumbnails>())
 {
-    if (settings != nullptr)
-        m_isEulerShown = settings->value(eulerKey(), false).toBool();
+    if (settings != nullptr) {
+        SettingsStore& store = SettingsStore::of(*settings);
+        store.follow(eulerKey(), this, [this, &store] { showEuler(store.isOn(eulerKey())); });
+    }
     connect(m_paths.get(), &PathChecks::changed, this, &CellServices::changed);
     setImages(std::make_unique<ImageReplacement>(writer));
 }
@@ -44,10 +46,16 @@ void CellServices::setFolder(std::function<QString()> folder)
 
 void CellServices::setEulerShown(bool shown)
 {
+    if (m_settings != nullptr)
+        SettingsStore::of(*m_settings).set(eulerKey(), shown);
+    else
+        showEuler(shown);
+}
+
+void CellServices::showEuler(bool shown)
+{
     if (shown == m_isEulerShown)
         return;
     m_isEulerShown = shown;
-    if (m_settings != nullptr)
-        m_settings->setValue(eulerKey(), shown);
     Q_EMIT changed();
 }

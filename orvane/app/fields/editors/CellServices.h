@@ -45,6 +45,8 @@ Q_SIGNALS:
     void failed(const QString& message);
 
 private:
+    void showEuler(bool shown);
+
     FieldWriter& m_writer;
     AppSettings* m_settings;
     std::function<QString()> m_folder;

@@ -1,9 +1,10 @@
 #include "orvane/app/view/display/DisplayMenu.h"
 
-#include "orvane/app/base/AppSettings.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/settings/SettingActions.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/ViewInput.h"
 #include "orvane/app/view/display/SectionBar.h"
@@ -12,13 +13,30 @@
 #include <QActionGroup>
 #include <QMenu>
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace {
 
 const QString shadingKey = QStringLiteral("view/shading");
 const QString backgroundKey = QStringLiteral("view/background");
+const QString samplesKey = QStringLiteral("view/samples");
 const QString statisticsKey = QStringLiteral("view/statistics");
+
+struct Background {
+    const char* value; // of the setting
+    orvane::ViewBackground background;
+};
+constexpr std::array backgrounds{Background{"window", orvane::ViewBackground::AsWindow},
+    Background{"light", orvane::ViewBackground::Light}, Background{"dark", orvane::ViewBackground::Dark}};
+
+std::size_t backgroundIndex(const QString& value)
+{
+    const auto* const found = std::find_if(backgrounds.begin(), backgrounds.end(),
+        [&value](const Background& one) { return value == QLatin1String(one.value); });
+    return found == backgrounds.end() ? 0 : static_cast<std::size_t>(found - backgrounds.begin());
+}
 
 } // namespace
 
@@ -56,6 +74,11 @@ DisplayMenu::DisplayMenu(SceneView* view, Session& session)
     m_menu->addSeparator();
     addSection();
     addStatistics();
+    SettingsStore& store = SettingsStore::of(session.settings());
+    store.follow(samplesKey, this, [this, &store] {
+        m_view->drawing().setSamples(store.text(samplesKey).toInt());
+        m_view->setStyle(m_view->style()); // draws it again
+    });
 }
 
 DisplayMenu::~DisplayMenu() = default;
@@ -92,14 +115,12 @@ void DisplayMenu::addShading(
         style.shading = shading;
         m_view->setStyle(style);
     };
-    const QString kept = QLatin1String(name);
-    if (m_session.settings().value(shadingKey, QStringLiteral("shaded")).toString() == kept) {
-        action->setChecked(true);
+    orvane::followChoice(SettingsStore::of(m_session.settings()), shadingKey, QLatin1String(name), action);
+    if (action->isChecked())
         apply();
-    }
-    connect(action, &QAction::triggered, m_view, [this, kept, apply] {
-        m_session.settings().setValue(shadingKey, kept);
-        apply();
+    connect(action, &QAction::toggled, m_view, [apply](bool isChosen) {
+        if (isChosen)
+            apply();
     });
 }
 
@@ -112,13 +133,10 @@ void DisplayMenu::addSwitch(
         style.*part = isOn;
         m_view->setStyle(style);
     };
-    const QString kept = QStringLiteral("view/") + QLatin1String(name);
-    action->setChecked(m_session.settings().value(kept, false).toBool());
+    orvane::followSwitch(
+        SettingsStore::of(m_session.settings()), QStringLiteral("view/") + QLatin1String(name), action);
     apply(action->isChecked());
-    connect(action, &QAction::triggered, m_view, [this, kept, apply](bool isOn) {
-        m_session.settings().setValue(kept, isOn);
-        apply(isOn);
-    });
+    connect(action, &QAction::toggled, m_view, apply);
 }
 
 void DisplayMenu::addBackground()
@@ -128,19 +146,13 @@ void DisplayMenu::addBackground()
             "Shows the scene on light, on dark, or as the window is, so that lines and points of any color are seen"),
         QKeySequence(Qt::ALT | Qt::Key_0));
     action->setCheckable(false);
-    setBackground(m_session.settings().value(backgroundKey, 0).toInt());
-    connect(action, &QAction::triggered, m_view, [this] {
-        setBackground(m_background + 1);
-        m_session.settings().setValue(backgroundKey, m_background);
+    SettingsStore& store = SettingsStore::of(m_session.settings());
+    store.follow(backgroundKey, action,
+        [this, &store] { m_view->setBackground(backgrounds[backgroundIndex(store.text(backgroundKey))].background); });
+    connect(action, &QAction::triggered, &store, [&store] {
+        const std::size_t next = (backgroundIndex(store.text(backgroundKey)) + 1) % backgrounds.size();
+        store.set(backgroundKey, QLatin1String(backgrounds[next].value));
     });
-}
-
-void DisplayMenu::setBackground(int background)
-{
-    using orvane::ViewBackground;
-    constexpr std::array backgrounds{ViewBackground::AsWindow, ViewBackground::Light, ViewBackground::Dark};
-    m_background = background >= 0 && background < static_cast<int>(backgrounds.size()) ? background : 0;
-    m_view->setBackground(backgrounds[static_cast<std::size_t>(m_background)]);
 }
 
 // In another scene, the plane would cut something else.
@@ -163,10 +175,7 @@ void DisplayMenu::addStatistics()
         QT_TR_NOOP("Shows nodes, triangles, draw calls, memory and time of the picture"),
         QKeySequence(Qt::ALT | Qt::Key_9));
     m_view->input().addTool(&m_statistics);
-    action->setChecked(m_session.settings().value(statisticsKey, false).toBool());
+    orvane::followSwitch(SettingsStore::of(m_session.settings()), statisticsKey, action);
     m_statistics.setShown(action->isChecked());
-    connect(action, &QAction::triggered, m_view, [this](bool isOn) {
-        m_session.settings().setValue(statisticsKey, isOn);
-        m_statistics.setShown(isOn);
-    });
+    connect(action, &QAction::toggled, m_view, [this](bool isOn) { m_statistics.setShown(isOn); });
 }

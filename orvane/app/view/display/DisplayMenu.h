@@ -35,14 +35,12 @@ private:
     void addSwitch(
         const char* name, const char* text, const char* tip, const QKeySequence& key, bool NxDrawingStyle::*part);
     void addBackground();
-    void setBackground(int background);
     void addSection();
     void addStatistics();
 
     SceneView* m_view;
     Session& m_session;
     QMenu* m_menu;
-    int m_background = 0; // an orvane::ViewBackground
     QActionGroup* m_shadings;
     SectionBar* m_section;
     StatisticsOverlay m_statistics;

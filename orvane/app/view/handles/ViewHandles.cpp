@@ -3,6 +3,8 @@
 #include "orvane/app/fields/values/FieldText.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/settings/SettingActions.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
@@ -30,6 +32,12 @@ namespace {
 const QString kindKey = QStringLiteral("view/handles");
 const QString axesKey = QStringLiteral("view/handleAxes");
 const QString symbolsKey = QStringLiteral("view/symbols");
+
+/// The value of the setting that an action chooses: "move" for "view.handlesMove".
+QString wordBehind(const char* prefix, const char* name)
+{
+    return QLatin1String(name).mid(QLatin1String(prefix).size()).toString().toLower();
+}
 
 /// Whether a transform above the node would move anything.
 bool hasExtent(const NxNode& node)
@@ -95,16 +103,12 @@ void ViewHandles::addSymbols()
         m_symbols->setToolTip(tr("Shows lights and cameras as symbols, which can be clicked"));
         m_symbols->setStatusTip(m_symbols->toolTip());
     });
-    m_symbols->setCheckable(true);
-    m_symbols->setChecked(m_session.settings().value(symbolsKey, true).toBool());
+    orvane::followSwitch(SettingsStore::of(m_session.settings()), symbolsKey, m_symbols);
     m_symbolTool->setShown(m_symbols->isChecked());
-    connect(m_symbols, &QAction::triggered, m_symbolTool, [this](bool shown) {
-        m_session.settings().setValue(symbolsKey, shown);
-        m_symbolTool->setShown(shown);
-    });
+    connect(m_symbols, &QAction::toggled, m_symbolTool, [this](bool shown) { m_symbolTool->setShown(shown); });
 }
 
-QAction* ViewHandles::addAction(QActionGroup* group, const char* name, const char* text, const char* tip, bool isChosen)
+QAction* ViewHandles::addAction(QActionGroup* group, const char* name, const char* text, const char* tip)
 {
     QAction* const action = m_menu->addAction(QString());
     orvane::followLanguage(action, [action, text, tip] {
@@ -114,37 +118,35 @@ QAction* ViewHandles::addAction(QActionGroup* group, const char* name, const cha
     });
     action->setObjectName(QLatin1String(name));
     action->setCheckable(true);
-    action->setChecked(isChosen);
     group->addAction(action);
     return action;
 }
 
 void ViewHandles::addKind(std::optional<Kind> kind, const char* name, const char* text, const char* tip, Qt::Key key)
 {
-    const QString value = QLatin1String(name);
-    const bool isChosen = m_session.settings().value(kindKey, QStringLiteral("view.handlesNone")).toString() == value;
-    QAction* const action = addAction(m_kinds, name, text, tip, isChosen);
+    QAction* const action = addAction(m_kinds, name, text, tip);
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetShortcut);
     m_view->addAction(action);
-    if (isChosen)
-        m_tool->setKind(kind);
-    connect(action, &QAction::triggered, m_tool, [this, kind, value] {
-        m_session.settings().setValue(kindKey, value);
-        m_tool->setKind(kind);
-    });
+    const auto apply = [this, kind](bool isChosen) {
+        if (isChosen)
+            m_tool->setKind(kind);
+    };
+    orvane::followChoice(SettingsStore::of(m_session.settings()), kindKey, wordBehind("view.handles", name), action);
+    apply(action->isChecked());
+    connect(action, &QAction::toggled, m_tool, apply);
 }
 
 void ViewHandles::addAxes(HandleAxes axes, const char* name, const char* text, const char* tip)
 {
-    const QString value = QLatin1String(name);
-    const bool isChosen = m_session.settings().value(axesKey, QStringLiteral("view.axesWorld")).toString() == value;
-    if (isChosen)
-        m_tool->setAxes(axes);
-    connect(addAction(m_axes, name, text, tip, isChosen), &QAction::triggered, m_tool, [this, axes, value] {
-        m_session.settings().setValue(axesKey, value);
-        m_tool->setAxes(axes);
-    });
+    QAction* const action = addAction(m_axes, name, text, tip);
+    const auto apply = [this, axes](bool isChosen) {
+        if (isChosen)
+            m_tool->setAxes(axes);
+    };
+    orvane::followChoice(SettingsStore::of(m_session.settings()), axesKey, wordBehind("view.axes", name), action);
+    apply(action->isChecked());
+    connect(action, &QAction::toggled, m_tool, apply);
 }
 
 QString ViewHandles::reason(const NxNode& node, Kind kind) const

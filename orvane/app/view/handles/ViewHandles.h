@@ -37,7 +37,7 @@ private:
 
     void addKind(std::optional<Kind> kind, const char* name, const char* text, const char* tip, Qt::Key key);
     void addAxes(HandleAxes axes, const char* name, const char* text, const char* tip);
-    QAction* addAction(QActionGroup* group, const char* name, const char* text, const char* tip, bool isChosen);
+    QAction* addAction(QActionGroup* group, const char* name, const char* text, const char* tip);
     void addSymbols();
     void showNote();
     [[nodiscard]] QString reason(const NxNode& node, Kind kind) const;

@@ -31,6 +31,8 @@ public:
     explicit FlyTool(SceneView* view, Clock clock = &std::chrono::steady_clock::now);
 
     [[nodiscard]] bool isFlying() const noexcept { return m_isFlying; }
+    /// How often as fast as usual flights are, more than 0; the wheel changes it from there.
+    void setSpeedFactor(double factor) { m_factor = factor; }
     /// In scene units per second, without Shift.
     [[nodiscard]] double speed() const;
 

@@ -1,8 +1,9 @@
 #include "orvane/app/view/navigation/NavigationActions.h"
 
-#include "orvane/app/base/AppSettings.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/settings/SettingActions.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/navigation/BookmarkMenu.h"
 #include "orvane/app/view/navigation/CameraActions.h"
@@ -15,6 +16,8 @@
 #include <QStatusBar>
 
 namespace {
+
+const QString flySpeedKey = QStringLiteral("view/flySpeed");
 
 QString navigationKey(const QAction& action)
 {
@@ -36,6 +39,8 @@ NavigationActions::NavigationActions(SceneView* view, Session& session, SceneTre
     orvane::followLanguage(this, [this] { m_menu->setTitle(tr("Na&vigation")); });
     m_menu->setObjectName(QStringLiteral("navigationMenu"));
     auto* const fly = new FlyTool(view);
+    SettingsStore& store = SettingsStore::of(m_settings);
+    store.follow(flySpeedKey, fly, [&store, fly] { fly->setSpeedFactor(store.number(flySpeedKey)); });
     connect(fly, &FlyTool::said, bar, [bar](const QString& text) { bar->showMessage(text); });
     auto* const fromView = new CameraActions(view, session, tree, editor, cameras);
     connect(fromView, &CameraActions::said, bar, [bar](const QString& text) { bar->showMessage(text); });
@@ -43,21 +48,20 @@ NavigationActions::NavigationActions(SceneView* view, Session& session, SceneTre
     m_menu->addSeparator();
 
     QAction* const orbit = addSwitch("view.orbitPicked", QT_TR_NOOP("&Orbit about the Picked Point"),
-        QT_TR_NOOP("A drag goes round what is under the pointer, rather than round the middle of the picture"), true);
+        QT_TR_NOOP("A drag goes round what is under the pointer, rather than round the middle of the picture"));
     const auto setOrbit = [view](bool isOn) { view->navigation().setOrbitsPicked(isOn); };
     connect(orbit, &QAction::toggled, view, setOrbit);
     setOrbit(orbit->isChecked());
 
     QAction* const animate = addSwitch("view.animate", QT_TR_NOOP("&Animate the View"),
-        QT_TR_NOOP(
-            "Views from the sides, framing and bookmarks are reached by a short movement, where the desktop allows it"),
-        true);
+        QT_TR_NOOP("Views from the sides, framing and bookmarks are reached by a short movement, where the desktop "
+                   "allows it"));
     const auto setAnimation = [this](bool isOn) { m_animation->setOn(isOn && ViewAnimation::isWanted()); };
     connect(animate, &QAction::toggled, m_animation, setAnimation);
     setAnimation(animate->isChecked());
 }
 
-QAction* NavigationActions::addSwitch(const char* name, const char* text, const char* tip, bool isOn)
+QAction* NavigationActions::addSwitch(const char* name, const char* text, const char* tip)
 {
     QAction* const action = m_menu->addAction(QString());
     orvane::followLanguage(action, [action, text, tip] {
@@ -66,10 +70,7 @@ QAction* NavigationActions::addSwitch(const char* name, const char* text, const 
         action->setStatusTip(tr(tip));
     });
     action->setObjectName(QLatin1String(name));
-    action->setCheckable(true);
-    action->setChecked(m_settings.value(navigationKey(*action), isOn).toBool());
-    connect(action, &QAction::triggered, this,
-        [this, action](bool isNowOn) { m_settings.setValue(navigationKey(*action), isNowOn); });
+    orvane::followSwitch(SettingsStore::of(m_settings), navigationKey(*action), action);
     return action;
 }
 

@@ -31,7 +31,7 @@ public:
     [[nodiscard]] QList<QAction*> menuActions() const;
 
 private:
-    QAction* addSwitch(const char* name, const char* text, const char* tip, bool isOn);
+    QAction* addSwitch(const char* name, const char* text, const char* tip);
 
     AppSettings& m_settings;
     QMenu* m_menu;
