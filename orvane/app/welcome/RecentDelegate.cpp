@@ -12,8 +12,8 @@ namespace {
 namespace look = orvane::look;
 
 // In units of the look.
-constexpr int pictureWidth = 44;
-constexpr int pictureHeight = 26;
+constexpr int pictureWidth = 34; // so that three fit beside each other in a window of the usual size
+constexpr int pictureHeight = 20;
 constexpr double missingOpacity = 0.35;
 
 bool isSelected(const QStyleOptionViewItem& option)

@@ -40,15 +40,16 @@ QStringList exampleFiles()
     return {};
 }
 
-QString linksTo(const QString& title, const QStringList& fileNames)
+QString linksTo(const QString& title, const QStringList& fileNames, const QColor& color)
 {
     if (fileNames.isEmpty())
         return {};
     QStringList links;
     for (const QString& fileName : fileNames) {
-        links += QStringLiteral("<a href=\"%1\">%2</a>")
+        links += QStringLiteral("<a href=\"%1\" style=\"color: %3\">%2</a>")
                      .arg(QString::fromLatin1(orvane::toFileUrl(fileName)),
-                         orvane::shortLine(QFileInfo(fileName).fileName(), mostLinkCharacters).toHtmlEscaped());
+                         orvane::shortLine(QFileInfo(fileName).fileName(), mostLinkCharacters).toHtmlEscaped(),
+                         color.name());
     }
     return QStringLiteral("<b>%1</b>&ensp; %2").arg(title.toHtmlEscaped(), links.join(QStringLiteral("&ensp; ")));
 }
@@ -189,6 +190,9 @@ void StartPage::listFiles()
     const int count = m_model->rowCount();
     for (QWidget* const widget : {static_cast<QWidget*>(m_heading), static_cast<QWidget*>(m_files)})
         widget->setVisible(count > 0);
+    // The files get all of the room; without them the rest is in the middle.
+    m_layout->setStretch(0, count > 0 ? 0 : 1);
+    m_layout->setStretch(m_layout->count() - 1, count > 0 ? 0 : 1);
     m_search->setVisible(count > manyFiles);
     if (count <= manyFiles)
         m_search->clear();
@@ -204,7 +208,8 @@ void StartPage::showMissing()
 
 void StartPage::showExamples()
 {
-    const QString examples = linksTo(tr("Examples"), exampleFiles());
+    const QString examples = linksTo(tr("Examples"), exampleFiles(),
+        orvane::look::textColor(orvane::look::Tint::Information, palette().color(QPalette::Window)));
     m_examples->setText(examples);
     m_examples->setHidden(examples.isEmpty());
 }
@@ -226,4 +231,6 @@ void StartPage::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
         setFonts();
+    else if (event->type() == QEvent::PaletteChange)
+        showExamples();
 }
