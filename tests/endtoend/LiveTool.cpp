@@ -240,6 +240,11 @@ QRect LiveTool::item(const QString& view, const QString& text)
     return onScreen(await(QStringLiteral("item %1 %2").arg(view, text)));
 }
 
+QString LiveTool::properties(const QString& name, const QString& key)
+{
+    return ask(QStringLiteral("properties %1 %2").arg(name, key));
+}
+
 QString LiveTool::property(const QString& name, const QString& key)
 {
     return ask(QStringLiteral("property %1 %2").arg(name, key));

@@ -49,6 +49,8 @@ public:
     [[nodiscard]] QRect widget(const QString& name);
     [[nodiscard]] QRect item(const QString& view, const QString& text);
     [[nodiscard]] QString property(const QString& name, const QString& key);
+    /// A property of all visible widgets of that name, with bars between them; empty if there is none.
+    [[nodiscard]] QString properties(const QString& name, const QString& key);
     /// Waits until a property is true.
     [[nodiscard]] bool becomes(const QString& name, const QString& key);
     /// Whether a widget of that name is seen now.

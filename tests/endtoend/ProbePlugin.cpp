@@ -5,6 +5,7 @@
 //   widget NAME           x y width height of the visible widget of that object name, in pixels of the screen
 //   item VIEW TEXT        the same for the row of an item view whose first column shows that text
 //   property NAME KEY     a property of the visible widget of that object name, as text
+//   properties NAME KEY   the same of all visible widgets of that name, with bars between them
 //   action TEXT           "enabled" or "disabled" for the menu entry of that text
 // NAME is an object name, or "name/Class" for the first widget of that class inside the one of that name. A thing that
 // isn't there is answered with an empty line. Blanks in NAME are written %20, line ends in an answer come as blanks.
@@ -90,6 +91,17 @@ QString answerAction(const QString& text)
     return {};
 }
 
+QString answerProperties(const QString& name, const QByteArray& key)
+{
+    QStringList values;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (const QWidget* const widget : widgets) {
+        if (widget->objectName() == name && widget->isVisible())
+            values.append(widget->property(key.constData()).toString().replace(u'\n', u' '));
+    }
+    return values.join(QStringLiteral(" | "));
+}
+
 QString answer(const QString& request)
 {
     const QString verb = request.section(u' ', 0, 0);
@@ -99,6 +111,8 @@ QString answer(const QString& request)
         return answerAction(request.section(u' ', 1));
     if (verb == QLatin1String("item"))
         return answerItem(name, rest);
+    if (verb == QLatin1String("properties"))
+        return answerProperties(name, rest.toLatin1());
     const QWidget* const widget = findWidget(name);
     if (widget == nullptr)
         return {};
