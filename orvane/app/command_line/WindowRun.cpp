@@ -3,6 +3,7 @@
 #include "orvane/app/base/SearchFolders.h"
 #include "orvane/app/command_line/BatchRun.h"
 #include "orvane/app/command_line/FieldAccess.h"
+#include "orvane/app/command_line/HandedFiles.h"
 #include "orvane/app/command_line/PictureRun.h"
 #include "orvane/app/command_line/StandardOutput.h"
 #include "orvane/app/instance/NewWindow.h"
@@ -15,7 +16,6 @@
 #include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/view/SceneView.h"
 #include "orvane/app/view/picture/PictureFile.h"
-#include "orvane/app/window/HandedFiles.h"
 #include "orvane/app/window/MainWindow.h"
 
 #include "meridane/base/NxDelayQueue.h"

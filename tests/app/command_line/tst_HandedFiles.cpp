@@ -1,8 +1,8 @@
 #include "app/window/RobotWindowCase.h"
 
+#include "orvane/app/command_line/HandedFiles.h"
 #include "orvane/app/instance/InstanceClient.h"
 #include "orvane/app/instance/NewWindow.h"
-#include "orvane/app/window/HandedFiles.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>

@@ -1,4 +1,4 @@
-#include "orvane/app/window/HandedFiles.h"
+#include "orvane/app/command_line/HandedFiles.h"
 
 #include "orvane/app/instance/SocketFolder.h"
 #include "orvane/app/window/MainWindow.h"
