@@ -237,13 +237,28 @@ private Q_SLOTS:
         QVERIFY(!parse({QStringLiteral("--list"), QStringLiteral("--screenshot=p.png"), file}).value().isBatch());
     }
 
+    void settingsAreOfAnotherFileOrReset()
+    {
+        const auto other = parse({QStringLiteral("--settings=/tmp/other.ini"), QStringLiteral("a.mrd")});
+        QVERIFY(other);
+        QCOMPARE(other.value().settingsFileName(), QStringLiteral("/tmp/other.ini"));
+        QCOMPARE(other.value().settingsMode(), AppSettings::Mode::File);
+        QCOMPARE(parse({}).value().settingsFileName(), AppSettings::defaultFileName());
+        QVERIFY(!parse({QStringLiteral("--settings=/tmp/other.ini"), QStringLiteral("--no-settings")}));
+        QVERIFY(!parse({QStringLiteral("--settings=")}));
+        QVERIFY(parse({QStringLiteral("--reset-settings")}).value().resetSettings);
+        QVERIFY(parse({QStringLiteral("--reset-settings"), QStringLiteral("--settings=/tmp/other.ini")}));
+        QVERIFY(!parse({QStringLiteral("--reset-settings"), QStringLiteral("a.mrd")}));
+        QVERIFY(!parse({QStringLiteral("--reset-settings"), QStringLiteral("--list"), QStringLiteral("a.mrd")}));
+    }
+
     void helpNamesEveryOption()
     {
         const QString help = CommandLine::helpText();
         for (const char* const option :
             {"--plugin", "--profile", "--select", "--set", "--get", "--list", "--list-extensions", "--diff", "--check",
                 "--json", "--export", "--screenshot", "--picture", "--camera", "--background", "--size", "--watch",
-                "--keep-groups", "--no-settings", "--version", "--help"})
+                "--keep-groups", "--no-settings", "--settings", "--reset-settings", "--version", "--help"})
             QVERIFY2(help.contains(QLatin1String(option)), option);
     }
 };
