@@ -1,8 +1,10 @@
 #include "orvane/app/base/DrawnIcon.h"
 
+#include <QGuiApplication>
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
+#include <QPalette>
 #include <QPixmap>
 
 #include <algorithm>
@@ -32,6 +34,8 @@ public:
         const int side = std::min(size.width(), size.height());
         if (side <= 0)
             return {};
+        if (const qint64 palette = QGuiApplication::palette().cacheKey(); std::exchange(m_palette, palette) != palette)
+            m_pixmaps.clear();
         QPixmap& pixmap = m_pixmaps[{side, mode}];
         if (!pixmap.isNull())
             return pixmap;
@@ -56,6 +60,7 @@ public:
 private:
     DrawIcon m_draw;
     QHash<std::pair<int, int>, QPixmap> m_pixmaps; // by size and mode
+    qint64 m_palette = 0; // of the application, with which they were drawn
 };
 
 } // namespace

@@ -48,6 +48,8 @@ int WindowRun::run()
     settings.follow(language, this, [&settings, language] { orvane::Language::use(settings.text(language)); });
     MainWindow window(session);
     prepare(session, window);
+    if (!takesPicture())
+        window.followDesktop();
     if (!takesPicture() && settings.isOn(QStringLiteral("recovery/isOn")))
         window.startRecovery(RecoveryFolder());
     if (m_commandLine.size.isValid())

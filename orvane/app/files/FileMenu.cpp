@@ -12,7 +12,6 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QStyle>
 
 FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, SceneDocument& document)
     : QObject(window)
@@ -23,10 +22,8 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     , m_menu(window->menuBar()->addMenu(QString()))
 {
     orvane::followLanguage(this, [this] { m_menu->setTitle(tr("&File")); });
-    const QStyle* style = window->style();
     m_new = addAction(QT_TR_NOOP("&New"), "file.new", QT_TR_NOOP("Starts an empty scene"));
     m_new->setShortcut(QKeySequence::New);
-    m_new->setIcon(style->standardIcon(QStyle::SP_FileIcon));
     connect(m_new, &QAction::triggered, &flow, &FileFlow::newScene);
     QAction* const newWindow = addAction(
         QT_TR_NOOP("New Win&dow"), "file.newWindow", QT_TR_NOOP("Opens another window, with a program of its own"));
@@ -34,7 +31,6 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     connect(newWindow, &QAction::triggered, this, [this] { Q_EMIT windowRequested({}); });
     m_open = addAction(QT_TR_NOOP("&Open…"), "file.open", QT_TR_NOOP("Opens a scene or a model"));
     m_open->setShortcut(QKeySequence::Open);
-    m_open->setIcon(style->standardIcon(QStyle::SP_DialogOpenButton));
     connect(m_open, &QAction::triggered, &flow, &FileFlow::chooseFileToOpen);
     m_recentMenu = m_menu->addMenu(QString());
     orvane::followLanguage(this, [this] { m_recentMenu->setTitle(tr("Open &Recent")); });
@@ -42,7 +38,6 @@ FileMenu::FileMenu(QMainWindow* window, FileFlow& flow, RecentFiles& recent, Sce
     m_menu->addSeparator();
     m_save = addAction(QT_TR_NOOP("&Save"), "file.save", QT_TR_NOOP("Writes the scene to its file"));
     m_save->setShortcut(QKeySequence::Save);
-    m_save->setIcon(style->standardIcon(QStyle::SP_DialogSaveButton));
     connect(m_save, &QAction::triggered, &flow, &FileFlow::save);
     m_saveAs = addAction(
         QT_TR_NOOP("Save &As…"), "file.saveAs", QT_TR_NOOP("Writes the scene to another file, which becomes its own"));

@@ -4,8 +4,8 @@
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/inspect/FavoriteDelegate.h"
 #include "orvane/app/inspect/FavoriteNodes.h"
-#include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/language/FollowLanguage.h"
+#include "orvane/app/look/Symbols.h"
 #include "orvane/app/scene/NodeName.h"
 #include "orvane/app/tree/NodeIcons.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -30,7 +30,7 @@ FavoriteActions::FavoriteActions(FavoriteNodes& favorites, SceneTreePanel* tree,
     });
     m_toggle->setObjectName(QStringLiteral("node.favorite"));
     m_toggle->setCheckable(true);
-    m_toggle->setIcon(orvane::starIcon());
+    m_toggle->setIcon(orvane::look::symbol(QStringLiteral("star")));
     m_toggle->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_B));
     m_menu->setObjectName(QStringLiteral("favoriteNodes"));
     connect(m_toggle, &QAction::triggered, this, &FavoriteActions::toggle);

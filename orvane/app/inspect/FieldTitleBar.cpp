@@ -1,9 +1,9 @@
 #include "orvane/app/inspect/FieldTitleBar.h"
 
 #include "orvane/app/base/PlainText.h"
-#include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
+#include "orvane/app/look/Symbols.h"
 
 #include <QDockWidget>
 #include <QEvent>
@@ -19,7 +19,7 @@ FieldTitleBar::FieldTitleBar(QDockWidget* dock)
     , m_dock(dock)
     , m_floatButton(addButton("dockFloatButton", QT_TR_NOOP("Float or dock")))
     , m_closeButton(addButton("dockCloseButton", QT_TR_NOOP("Close")))
-    , m_padlock(orvane::closedPadlock())
+    , m_padlock(orvane::look::symbol(QStringLiteral("locked")))
 {
     setObjectName(QStringLiteral("fieldTitleBar"));
     auto* const layout = new QHBoxLayout(this);

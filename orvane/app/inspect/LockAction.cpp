@@ -1,9 +1,9 @@
 #include "orvane/app/inspect/LockAction.h"
 
 #include "orvane/app/base/PlainText.h"
-#include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/inspect/NodeLock.h"
 #include "orvane/app/language/FollowLanguage.h"
+#include "orvane/app/look/Symbols.h"
 
 #include <QBoxLayout>
 #include <QSignalBlocker>
@@ -34,7 +34,7 @@ void LockAction::update()
         setChecked(isOn);
     }
     setEnabled(isOn || !m_shownPath().empty());
-    setIcon(isOn ? orvane::closedPadlock() : orvane::openPadlock());
+    setIcon(orvane::look::symbol(isOn ? QStringLiteral("locked") : QStringLiteral("unlocked")));
     setToolTip(
         orvane::plainToolTip(isOn ? tr("Locked on %1. Click to follow the selection again.").arg(m_lock.pathText())
                 : isEnabled()     ? tr("Lock: stay on this node while you browse on.")

@@ -2,9 +2,9 @@
 
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
-#include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/inspect/NodeLock.h"
 #include "orvane/app/language/FollowLanguage.h"
+#include "orvane/app/look/Symbols.h"
 
 #include <QAction>
 #include <QKeySequence>
@@ -16,7 +16,7 @@ LockStatus::LockStatus(NodeLock& lock, const QAction* action, QWidget* parent)
 {
     setObjectName(QStringLiteral("lockStatus"));
     setAutoRaise(true);
-    setIcon(orvane::closedPadlock());
+    setIcon(orvane::look::symbol(QStringLiteral("locked")));
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     connect(this, &QToolButton::clicked, &lock, &NodeLock::unlock);
     connect(&lock, &NodeLock::changed, this, &LockStatus::update);

@@ -3,7 +3,6 @@
 #include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
-#include "orvane/app/inspect/InspectIcons.h"
 #include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/Session.h"
@@ -48,10 +47,8 @@ PlaceActions::PlaceActions(Session& session, SceneTreePanel* tree, SelectionLink
     , m_forward(makeWay(Direction::Forward, QT_TR_NOOP("&Forward"), QT_TR_NOOP("Selects the node that Back has left")))
 {
     m_back.action->setObjectName(QStringLiteral("selection.back"));
-    m_back.action->setIcon(orvane::backArrow());
     m_back.action->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Left));
     m_forward.action->setObjectName(QStringLiteral("selection.forward"));
-    m_forward.action->setIcon(orvane::forwardArrow());
     m_forward.action->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Right));
     connect(tree, &SceneTreePanel::selectionChanged, this, &PlaceActions::noteNode);
     connect(&session.services(), &OrvServices::selectedFieldChanged, this, &PlaceActions::noteField);

@@ -6,12 +6,12 @@
 #include "orvane/app/log/LogSearch.h"
 #include "orvane/app/log/LogView.h"
 #include "orvane/app/look/Look.h"
+#include "orvane/app/look/Symbols.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QStyle>
 #include <QToolButton>
 
 LogFindLine::LogFindLine(LogSearch& search, LogDelegate& delegate, LogView& view, QWidget* parent)
@@ -36,7 +36,7 @@ LogFindLine::LogFindLine(LogSearch& search, LogDelegate& delegate, LogView& view
     m_previous = addButton("previousHit", Qt::UpArrow, &LogFindLine::goToPrevious);
     m_next = addButton("nextHit", Qt::DownArrow, &LogFindLine::goToNext);
     m_close = addButton("closeFind", Qt::NoArrow, &LogFindLine::end);
-    m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    m_close->setIcon(orvane::look::symbol(QStringLiteral("close")));
     connect(m_text, &QLineEdit::textChanged, this, &LogFindLine::search);
     connect(&search, &LogSearch::changed, this, &LogFindLine::showCount);
     connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this, &LogFindLine::showCount);

@@ -54,14 +54,6 @@ void LogModel::setFolding(bool isOn)
     refill();
 }
 
-void LogModel::setPalette(const QPalette& palette)
-{
-    for (const NxSeverity severity : {NxSeverity::Information, NxSeverity::Warning, NxSeverity::Error})
-        m_icons[indexOf(severity)] = orvane::severityIcon(severity, palette);
-    if (!m_rows.empty())
-        Q_EMIT dataChanged(index(0, SourceColumn), index(rowCount() - 1, SourceColumn), {Qt::DecorationRole});
-}
-
 bool LogModel::shows(const LogRecord& record) const
 {
     if (!m_isShown[indexOf(record.severity)])
@@ -313,7 +305,7 @@ QVariant LogModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return display(row, *record, index.column());
     case Qt::DecorationRole:
-        return index.column() == SourceColumn ? QVariant(m_icons[indexOf(record->severity)]) : QVariant();
+        return index.column() == SourceColumn ? QVariant(orvane::severityIcon(record->severity)) : QVariant();
     case Qt::ToolTipRole:
         return toolTip(row, *record);
     case Qt::AccessibleTextRole:

@@ -3,7 +3,6 @@
 #include "orvane/app/log/LogRecord.h"
 
 #include <QAbstractTableModel>
-#include <QIcon>
 #include <QStringList>
 
 #include <array>
@@ -37,7 +36,6 @@ public:
     /// Whether equal lines are one row.
     void setFolding(bool isOn);
     [[nodiscard]] bool hasFolding() const noexcept { return m_hasFolding; }
-    void setPalette(const QPalette& palette);
 
     /// The record of a row, or null.
     [[nodiscard]] const LogRecord* record(int row) const;
@@ -95,6 +93,5 @@ private:
     std::set<std::uint64_t> m_unfolded;
     QStringList m_words;
     std::array<bool, 3> m_isShown{true, true, true};
-    std::array<QIcon, 3> m_icons;
     bool m_hasFolding = true;
 };

@@ -243,19 +243,18 @@ void LogPanel::updateActions()
 
 void LogPanel::updateIcons()
 {
-    m_model->setPalette(palette());
     const int size = orvane::look::iconSize(fontMetrics());
     m_view->setIconSize(QSize(size, size));
     for (const NxSeverity severity : severities) {
         QToolButton* const button = m_severities[static_cast<std::size_t>(severity)];
-        button->setIcon(orvane::severityIcon(severity, palette()));
+        button->setIcon(orvane::severityIcon(severity));
         button->setIconSize(QSize(size, size));
     }
 }
 
 void LogPanel::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange)
         updateIcons();
     QWidget::changeEvent(event);
 }

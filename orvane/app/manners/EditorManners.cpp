@@ -1,6 +1,7 @@
 #include "orvane/app/manners/EditorManners.h"
 
 #include "orvane/app/manners/CellFocus.h"
+#include "orvane/app/manners/ConsoleGround.h"
 #include "orvane/app/manners/GridGuard.h"
 #include "orvane/app/manners/LineHeights.h"
 #include "orvane/app/manners/LineWatch.h"
@@ -45,6 +46,7 @@ void EditorManners::begin()
     new ShortTips(this);
     new LineHeights(this);
     new CellFocus(this);
+    new ConsoleGround(m_window);
     new GridGuard(this);
     new NumberTyping(m_services, *watch, this);
     new PaneKeys(m_window, m_fields, *watch);

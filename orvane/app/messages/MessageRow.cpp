@@ -2,28 +2,27 @@
 
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/look/Look.h"
+#include "orvane/app/look/Symbols.h"
 #include "orvane/app/messages/MessageText.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 
 namespace {
 
-QStyle::StandardPixmap pixmapOf(MessageSeverity severity)
+QString symbolOf(MessageSeverity severity)
 {
     switch (severity) {
     case MessageSeverity::Information:
-        return QStyle::SP_MessageBoxInformation;
+        return QStringLiteral("information");
     case MessageSeverity::Warning:
-        return QStyle::SP_MessageBoxWarning;
+        return QStringLiteral("warning");
     case MessageSeverity::Error:
         break;
     }
-    return QStyle::SP_MessageBoxCritical;
+    return QStringLiteral("error");
 }
 
 orvane::look::Tint tintOf(MessageSeverity severity)
@@ -45,14 +44,14 @@ MessageRow::MessageRow(MessageSeverity severity, const QString& text, const QStr
     : QFrame(parent)
     , m_severity(severity)
     , m_topic(topic)
+    , m_icon(new QWidget(this))
     , m_text(new MessageText(text, this))
     , m_layout(new QHBoxLayout(this))
 {
     m_layout->setContentsMargins(12, 6, 6, 6);
-    auto* icon = new QLabel(this);
-    const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    icon->setPixmap(style()->standardIcon(pixmapOf(severity)).pixmap(size));
-    m_layout->addWidget(icon, 0, Qt::AlignTop);
+    const int size = orvane::look::iconSize(fontMetrics());
+    m_icon->setFixedSize(size, size);
+    m_layout->addWidget(m_icon, 0, Qt::AlignTop);
 
     m_text->setObjectName(QStringLiteral("messageText"));
     m_layout->addWidget(m_text, 1, Qt::AlignTop);
@@ -60,7 +59,7 @@ MessageRow::MessageRow(MessageSeverity severity, const QString& text, const QStr
     auto* button = new QToolButton(this);
     button->setObjectName(QStringLiteral("closeMessage"));
     button->setAutoRaise(true);
-    button->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    button->setIcon(orvane::look::symbol(QStringLiteral("close")));
     orvane::followLanguage(button, [button] {
         button->setToolTip(tr("Close this message"));
         button->setAccessibleName(button->toolTip());
@@ -87,6 +86,8 @@ void MessageRow::paintEvent(QPaintEvent*)
     QPainter painter(this);
     const QColor window = palette().color(QPalette::Window);
     const orvane::look::Tint tint = tintOf(m_severity);
-    painter.fillRect(rect(), orvane::look::washColor(tint, window));
-    painter.fillRect(QRect(0, 0, orvane::look::unit(fontMetrics()), height()), orvane::look::markColor(tint, window));
+    const QColor wash = orvane::look::washColor(tint, window);
+    painter.fillRect(rect(), wash);
+    painter.fillRect(QRect(0, 0, orvane::look::unit(fontMetrics()), height()), orvane::look::markColor(tint, wash));
+    orvane::look::paintSymbol(painter, symbolOf(m_severity), m_icon->geometry(), orvane::look::markColor(tint, wash));
 }

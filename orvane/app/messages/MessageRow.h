@@ -32,6 +32,7 @@ protected:
 private:
     MessageSeverity m_severity;
     QString m_topic;
+    QWidget* m_icon; // only its place
     MessageText* m_text;
     QHBoxLayout* m_layout;
     int m_buttons = 0;

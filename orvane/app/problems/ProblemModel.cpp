@@ -56,14 +56,6 @@ bool ProblemModel::hidesRows() const
     return !m_words.isEmpty() || std::find(m_isShown.begin(), m_isShown.end(), false) != m_isShown.end();
 }
 
-void ProblemModel::setPalette(const QPalette& palette)
-{
-    for (const NxSeverity severity : {NxSeverity::Information, NxSeverity::Warning, NxSeverity::Error})
-        m_icons[indexOf(severity)] = orvane::severityIcon(severity, palette);
-    if (!m_rows.empty())
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::DecorationRole});
-}
-
 const NxSceneProblem* ProblemModel::problem(int row) const
 {
     if (m_check == nullptr || row < 0 || row >= rowCount())
@@ -258,7 +250,7 @@ QVariant ProblemModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return toolTip(*shown);
     case Qt::DecorationRole:
-        return index.column() == SentenceColumn ? QVariant(m_icons[indexOf(shown->about().severity)]) : QVariant();
+        return index.column() == SentenceColumn ? QVariant(orvane::severityIcon(shown->about().severity)) : QVariant();
     case Qt::AccessibleTextRole:
         return index.column() == SentenceColumn
             ? QVariant(orvane::toolkitText(orvane::severityName(shown->about().severity)) + QStringLiteral(": ")

@@ -5,8 +5,6 @@
 
 #include <QAbstractTableModel>
 #include <QBasicTimer>
-#include <QIcon>
-#include <QPalette>
 #include <QStringList>
 
 #include <array>
@@ -35,8 +33,6 @@ public:
     void setShown(NxSeverity severity, bool isShown);
     /// Whether rows may be hidden by the filter or by their severity.
     [[nodiscard]] bool hidesRows() const;
-    /// Draws the icons for that palette.
-    void setPalette(const QPalette& palette);
 
     /// The problem of a row; null if there is no such row.
     [[nodiscard]] const NxSceneProblem* problem(int row) const;
@@ -76,7 +72,6 @@ private:
     std::vector<char> m_isListed; // by the number of the list: whether it has rows
     QStringList m_words;
     std::array<bool, 3> m_isShown{true, true, true}; // by severity
-    std::array<QIcon, 3> m_icons;
     std::size_t m_next = 0; // the list from which on rows are still missing
     QBasicTimer m_refill;
     mutable NxScenePathNamer m_namer;

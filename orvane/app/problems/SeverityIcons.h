@@ -4,11 +4,9 @@
 
 #include <QIcon>
 
-class QPalette;
-
 namespace orvane {
 
-/// The icon of a severity for that palette: a cross in a disc, an exclamation mark in a triangle, an i in a ring.
-[[nodiscard]] QIcon severityIcon(NxSeverity severity, const QPalette& palette);
+/// The icon of a severity: a cross in a ring, an exclamation mark in a triangle, an i in a ring.
+[[nodiscard]] QIcon severityIcon(NxSeverity severity);
 
 } // namespace orvane

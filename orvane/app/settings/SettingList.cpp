@@ -15,6 +15,15 @@ using Settings = std::vector<Setting>;
 Settings generalSettings()
 {
     return {
+        {.key = QStringLiteral("look/theme"),
+            .page = SettingPage::General,
+            .kind = Kind::Choice,
+            .defaultValue = QStringLiteral("system"),
+            .title = QT_TRANSLATE_NOOP("Settings", "Theme"),
+            .description = QT_TRANSLATE_NOOP("Settings", "Whether the windows are light, dark, or as the desktop is."),
+            .choices = {{"system", QT_TRANSLATE_NOOP("Settings", "As the desktop")},
+                {"light", QT_TRANSLATE_NOOP("Settings", "Light")}, {"dark", QT_TRANSLATE_NOOP("Settings", "Dark")}},
+            .preference = "ORVANE_THEME"},
         {.key = QStringLiteral("look/language"),
             .page = SettingPage::General,
             .kind = Kind::Choice,

@@ -1,11 +1,11 @@
 #include "orvane/app/view/HidingActions.h"
 
 #include "orvane/app/language/FollowLanguage.h"
+#include "orvane/app/look/Symbols.h"
 #include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
-#include "orvane/app/tree/facts/ShownIcons.h"
 #include "orvane/app/view/SceneView.h"
 
 #include <QAction>
@@ -49,7 +49,7 @@ HidingActions::HidingActions(SceneView* view, SceneTreePanel* tree, QStatusBar* 
     m_status->setObjectName(QStringLiteral("hiddenStatus"));
     m_status->setAutoRaise(true);
     m_status->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_status->setIcon(orvane::hiddenIcon(bar->palette()));
+    m_status->setIcon(orvane::look::symbol(QStringLiteral("hide")));
     orvane::followLanguage(this, [this] { m_status->setToolTip(tr("Shows all nodes again (Shift+H)")); });
     connect(m_status, &QToolButton::clicked, &m_hidden, &HiddenNodes::showAll);
     bar->addPermanentWidget(m_status);

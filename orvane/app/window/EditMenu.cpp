@@ -1,7 +1,6 @@
 #include "orvane/app/window/EditMenu.h"
 
 #include "orvane/app/base/ActionState.h"
-#include "orvane/app/base/DrawnIcon.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/language/FollowLanguage.h"
@@ -18,37 +17,10 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPainter>
-#include <QPainterPath>
 #include <QStatusBar>
 
 #include <chrono>
 #include <utility>
-
-namespace {
-
-/// An arrow that turns back, to the left; mirrored it turns to the right.
-QIcon turningArrow(const QPalette& palette, bool mirrored)
-{
-    return orvane::drawnIcon([palette, mirrored](QPainter& painter, QIcon::Mode mode) {
-        if (mirrored) {
-            painter.translate(16, 0);
-            painter.scale(-1, 1);
-        }
-        const QColor color
-            = palette.color(mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active, QPalette::ButtonText);
-        painter.setPen(QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap));
-        QPainterPath path(QPointF(3.5, 6));
-        path.lineTo(9.5, 6);
-        path.arcTo(QRectF(6, 6, 7, 7), 90, -180);
-        path.lineTo(6, 13);
-        painter.drawPath(path);
-        painter.setBrush(color);
-        painter.drawPolygon(QPolygonF{{2, 6}, {5.5, 3}, {5.5, 9}});
-    });
-}
-
-} // namespace
 
 EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
     : QObject(window)
@@ -68,13 +40,11 @@ EditMenu::EditMenu(QMainWindow* window, Session& session, SceneTreePanel* tree)
         return action;
     };
     m_undo = add(QT_TR_NOOP("&Undo"), QKeySequence::Undo, "edit.undo");
-    m_undo->setIcon(turningArrow(window->palette(), false));
     orvane::followLanguage(this, [this] { m_undo->setStatusTip(tr("Takes back the last step")); });
     connect(m_undo, &QAction::triggered, &session.services(), &OrvServices::undo);
     m_redo = add(QT_TR_NOOP("&Redo"), {}, "edit.redo");
     m_redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     orvane::followLanguage(this, [this] { m_redo->setStatusTip(tr("Makes the step again that was taken back last")); });
-    m_redo->setIcon(turningArrow(window->palette(), true));
     connect(m_redo, &QAction::triggered, &session.services(), &OrvServices::redo);
     menu->addSeparator();
     m_rename = add(QT_TR_NOOP("Re&name Node"), Qt::Key_F2, "node.rename");

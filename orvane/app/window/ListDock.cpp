@@ -4,6 +4,7 @@
 #include "orvane/app/inspect/Inspectors.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/lists/ListView.h"
+#include "orvane/app/look/Symbols.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/window/DockHeights.h"
 #include "orvane/app/window/DockPlace.h"
@@ -82,5 +83,6 @@ void ListDock::fill()
         return;
     m_panel = new ListPanel(m_session.services(), m_session.settings(), this);
     setWidget(m_panel);
+    orvane::look::setSymbols(*this);
     Q_EMIT panelMade(m_panel);
 }

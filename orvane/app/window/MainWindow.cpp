@@ -15,11 +15,14 @@
 #include "orvane/app/instance/NewWindow.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/log/LogTap.h"
+#include "orvane/app/look/Symbols.h"
+#include "orvane/app/look/Theme.h"
 #include "orvane/app/messages/ErrorRelay.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/recovery/RecoveryOffer.h"
 #include "orvane/app/recovery/SceneRecovery.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/SceneView.h"
@@ -61,6 +64,7 @@ MainWindow::MainWindow(Session& session)
     , m_jobBar(new JobBar(this))
 {
     new TextGuard(this);
+    m_theme = new Theme(SettingsStore::of(session.settings()), this);
     setObjectName(QStringLiteral("mainWindow"));
     setAcceptDrops(true);
     setDockOptions(AllowNestedDocks | AllowTabbedDocks);
@@ -71,6 +75,7 @@ MainWindow::MainWindow(Session& session)
     buildMenus();
     connectDocument();
 
+    orvane::look::setSymbols(*this);
     m_fields->setSceneFolder([this] { return document().pathFolder(); });
     m_layout = new WindowLayout(this, *m_shell, session.settings());
 }
@@ -136,6 +141,12 @@ void MainWindow::startRecovery(const RecoveryFolder& folder)
 void MainWindow::keepPictures()
 {
     new PictureKeeper(document(), m_view, Thumbnails(), this);
+}
+
+void MainWindow::followDesktop()
+{
+    m_theme->followPortal();
+    m_layout->fitScreen();
 }
 
 void MainWindow::startView()

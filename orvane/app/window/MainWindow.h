@@ -29,6 +29,7 @@ class SceneRecovery;
 class SceneTreePanel;
 class SceneView;
 class Session;
+class Theme;
 class WindowLayout;
 class WindowShell;
 
@@ -61,6 +62,9 @@ public:
     void startRecovery(const RecoveryFolder& folder);
     /// Keeps pictures of the files for the start page and file managers from now on.
     void keepPictures();
+    /// For a window on a screen: it is no larger than that, and follows the desktop portal from now on, where the user
+    /// leaves light or dark to the desktop.
+    void followDesktop();
     /// Starts the view's drawing now instead of after the first paint, for a picture of the window.
     void startView();
     /// Whether images of textures are still being loaded for the view.
@@ -102,6 +106,7 @@ private:
     ImageFolderQuestion* m_imageFolders;
     FieldPanel* m_fields;
     SceneTreePanel* m_tree;
+    Theme* m_theme = nullptr;
     Inspectors* m_inspectors = nullptr;
     WindowLayout* m_layout = nullptr;
     JobBar* m_jobBar;

@@ -13,6 +13,7 @@
 #include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/log/LogTap.h"
+#include "orvane/app/look/Theme.h"
 #include "orvane/app/manners/EditorManners.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/plugins/PluginActions.h"
@@ -65,6 +66,16 @@ namespace {
 
 const QString reloadKey = QStringLiteral("files/reloadsByItself");
 constexpr int treeWidth = 330;
+
+QToolBar* addFileTools(QMainWindow& window, const QList<QAction*>& ofFiles, const QList<QAction*>& ofEdits)
+{
+    QToolBar* const bar = window.addToolBar(QString());
+    bar->setObjectName(QStringLiteral("mainToolBar"));
+    bar->addActions(ofFiles);
+    bar->addSeparator();
+    bar->addActions(ofEdits);
+    return bar;
+}
 
 } // namespace
 
@@ -139,20 +150,18 @@ void MainWindow::buildMenus()
     new EditorManners(this, m_session.services(), m_fields);
     connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);
 
-    QToolBar* toolBar = addToolBar(QString());
+    QToolBar* const toolBar = addFileTools(*this, m_fileMenu->toolBarActions(), editMenu->toolBarActions());
     orvane::followLanguage(toolBar, [toolBar] { toolBar->setWindowTitle(tr("File and Edit")); });
-    toolBar->setObjectName(QStringLiteral("mainToolBar"));
-    toolBar->addActions(m_fileMenu->toolBarActions());
-    toolBar->addSeparator();
-    toolBar->addActions(editMenu->toolBarActions());
     m_inspectors->addToolBar();
     const auto* const pictures
         = new PictureExport(m_view, {m_session, *cameras, navigation->bookmarks(), *m_messages, statusBar()});
     const ViewHandles& handles = *new ViewHandles(m_session, m_view, m_tree);
     QAction* const guides = viewMenu->submenu("guidesMenu", viewActions->switches() + QList{handles.symbolsAction()});
     QAction* const inspectors = viewMenu->submenu("inspectorsMenu", m_inspectors->menuActions());
-    orvane::followLanguage(this, [guides, inspectors] {
+    QAction* const themes = viewMenu->submenu("themeMenu", m_theme->actions());
+    orvane::followLanguage(this, [guides, inspectors, themes] {
         guides->setText(tr("&Guides"));
+        themes->setText(tr("Theme"));
         inspectors->setText(tr("&Inspectors"));
     });
     viewMenu->append(navigation->menuActions());
@@ -160,7 +169,7 @@ void MainWindow::buildMenus()
         (new MeasureTool(m_view, m_session))->action(), pictures->action()});
     viewMenu->append(hiding->actions());
     viewMenu->append((new TreeActions(m_tree, statusBar()))->menuActions() << inspectors);
-    viewMenu->append({m_imageFolders->forgetAction(),
+    viewMenu->append({themes, m_imageFolders->forgetAction(),
         (new LanguageMenu(SettingsStore::of(m_session.settings()), this))->menuAction()});
     viewMenu->update();
     new KeptColumns(this, m_session.settings());

@@ -7,7 +7,10 @@
 #include <QDockWidget>
 #include <QHash>
 #include <QMainWindow>
+#include <QScreen>
+#include <QStyle>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -26,6 +29,22 @@ WindowLayout::WindowLayout(QMainWindow* window, const WindowShell& shell, AppSet
 {
     window->resize(firstSize);
     window->restoreGeometry(settings.value(geometryKey).toByteArray());
+}
+
+void WindowLayout::fitScreen()
+{
+    // The frame isn't known before the window is shown.
+    const int title = m_window->style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const int frame = m_window->style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+    const QRect room = m_window->screen()->availableGeometry();
+    m_window->resize(m_window->size().boundedTo(room.size() - QSize(2 * frame, title + 2 * frame)));
+    // A place from the last run may be on a screen that has gone since.
+    const QRect place = m_window->geometry();
+    if (!m_settings.value(geometryKey).isNull() && !room.contains(place)) {
+        const QPoint farthest(room.right() - place.width() - frame, room.bottom() - place.height() - frame);
+        m_window->move(std::clamp(place.x(), room.left(), std::max(room.left(), farthest.x())),
+            std::clamp(place.y() - title, room.top(), std::max(room.top(), farthest.y() - title)));
+    }
 }
 
 void WindowLayout::restore(Inspectors& inspectors)

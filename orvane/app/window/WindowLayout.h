@@ -15,6 +15,8 @@ public:
     /// All live longer; the layout is the window's child. Gives the window its size and place at once.
     WindowLayout(QMainWindow* window, const WindowShell& shell, AppSettings& settings);
 
+    /// Makes the window no larger than the screen that it is on.
+    void fitScreen();
     /// Puts docks and tool bars where they were, the first time it is called. The extensions of the first profile have
     /// added theirs by then.
     void restore(Inspectors& inspectors);

@@ -115,7 +115,7 @@ private Q_SLOTS:
                         .arg(contrast(onDark, dark), 0, 'f', 1);
         }
         QStringList documented;
-        const QRegularExpression row(QStringLiteral("^\\| [^|]+ (\\| #.+ \\|) [^|]+ \\|$"));
+        const QRegularExpression row(QStringLiteral("^\\| [^|]+ (\\| #[0-9a-f]{6} \\| .+ \\|) [^|]+ \\|$"));
         while (!page.atEnd()) {
             const auto match = row.match(QString::fromUtf8(page.readLine()).trimmed());
             if (match.hasMatch())

@@ -46,7 +46,6 @@ public:
         while (m_journal.run(std::chrono::hours(1))) { }
         m_journal.record();
         m_journal.addListener(*this);
-        m_model.setPalette(QPalette());
         m_model.setCheck(&m_check, scene.get());
     }
 

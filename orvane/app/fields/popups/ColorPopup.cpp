@@ -1,6 +1,5 @@
 #include "orvane/app/fields/popups/ColorPopup.h"
 
-#include "orvane/app/base/DrawnIcon.h"
 #include "orvane/app/base/PlainText.h"
 #include "orvane/app/fields/popups/ColorBar.h"
 #include "orvane/app/fields/popups/ColorSquare.h"
@@ -10,6 +9,7 @@
 #include "orvane/app/input/InputMessage.h"
 #include "orvane/app/input/NumberLine.h"
 #include "orvane/app/look/Look.h"
+#include "orvane/app/look/Symbols.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -44,20 +44,6 @@ private:
     orvane::ColorNumbers m_before{};
     orvane::ColorNumbers m_now{};
 };
-
-namespace {
-
-QIcon eyedropperIcon(const QColor& color)
-{
-    return orvane::drawnIcon([color](QPainter& painter, QIcon::Mode /*mode*/) {
-        painter.setPen(QPen(color, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPolyline(QPolygonF{{2, 14}, {3, 11}, {9, 5}, {11, 7}, {5, 13}, {2, 14}});
-        painter.drawLine(QPointF(8, 4), QPointF(12, 8));
-        painter.drawLine(QPointF(11, 5), QPointF(13.5, 2.5));
-    });
-}
-
-} // namespace
 
 ColorPopup::ColorPopup(bool hasOpacity, QWidget* parent)
     : PopupFrame(parent)
@@ -154,7 +140,7 @@ void ColorPopup::addEyedropper(QGridLayout* grid)
     button->setObjectName(QStringLiteral("eyedropper"));
     button->setText(tr("Pick from the screen"));
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setIcon(eyedropperIcon(palette().color(QPalette::ButtonText)));
+    button->setIcon(orvane::look::symbol(QStringLiteral("eyedropper")));
     button->setToolTip(orvane::plainToolTip(tr("Takes the colour of the pixel that is clicked next. Escape ends it.")));
     button->setFocusPolicy(Qt::StrongFocus);
     grid->addWidget(button, 5, 1, 1, 4);

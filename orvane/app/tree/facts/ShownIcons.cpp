@@ -1,10 +1,8 @@
 #include "orvane/app/tree/facts/ShownIcons.h"
 
-#include "orvane/app/base/DrawnIcon.h"
-
+#include <QColor>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPalette>
 
 namespace orvane {
 namespace {
@@ -42,14 +40,6 @@ void drawEye(QPainter& painter, const QRect& place, const QColor& color, bool is
     painter.scale(place.width() / units, place.height() / units);
     drawEyeOnUnits(painter, color, isOpen);
     painter.restore();
-}
-
-QIcon hiddenIcon(const QPalette& palette)
-{
-    return drawnIcon([palette](QPainter& painter, QIcon::Mode mode) {
-        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        drawEyeOnUnits(painter, palette.color(group, QPalette::ButtonText), false);
-    });
 }
 
 } // namespace orvane
