@@ -1,3 +1,4 @@
+#include "orvane/app/access/Access.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/base/UserLocale.h"
 #include "orvane/app/command_line/BatchRun.h"
@@ -130,6 +131,7 @@ std::unique_ptr<QCoreApplication> makeApplicationOnScreen(char** argv)
           });
     auto application = makeApplication<GuardedApplication>(argv);
     new ReadablePalette(application.get());
+    orvane::installAccess();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/orvane/icons/orvane.svg")));
     QGuiApplication::setDesktopFileName(QStringLiteral("orvane"));
     qInstallMessageHandler(&passOnUnlessNoise);

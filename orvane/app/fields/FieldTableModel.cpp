@@ -358,6 +358,8 @@ QVariant FieldTableModel::accessibleText(const FieldRow& row, const FieldGroup& 
 
 QVariant FieldTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::AccessibleTextRole && section == MarkColumn)
+        return tr("Marks"); // too narrow for a text
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return {};
     switch (section) {

@@ -4,6 +4,7 @@
 #include "orvane/app/view/ViewMessage.h"
 #include "orvane/app/view/ViewPicking.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -113,6 +114,10 @@ void SceneView::setSelectedPath(const std::vector<NxNode*>& nodes)
 {
     m_selected = held(nodes);
     m_drawing.setSelectedPath(nodes);
+    if (QAccessible::isActive()) { // the description says what is selected
+        QAccessibleEvent described(this, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&described);
+    }
 }
 
 void SceneView::setViewpoint(const NxViewpoint& viewpoint)
@@ -361,12 +366,16 @@ bool SceneView::event(QEvent* event)
     return QWidget::event(event);
 }
 
-void SceneView::focusInEvent(QFocusEvent*)
+void SceneView::focusInEvent(QFocusEvent* event)
 {
+    const Qt::FocusReason reason = event->reason();
+    m_input.setMiddleShown(
+        reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason);
     update();
 }
 
 void SceneView::focusOutEvent(QFocusEvent*)
 {
+    m_input.setMiddleShown(false);
     update();
 }

@@ -35,6 +35,7 @@ public:
     /// Sets the drawing up now, for a picture that is taken at once.
     void start();
     [[nodiscard]] ViewDrawing& drawing() noexcept { return m_drawing; }
+    [[nodiscard]] const ViewDrawing& drawing() const noexcept { return m_drawing; }
     /// How its pictures are made, with how much detail.
     [[nodiscard]] ViewPictures& pictures() noexcept { return m_pictures; }
 
@@ -67,6 +68,8 @@ public:
     [[nodiscard]] bool hasMoved() const noexcept { return m_hasMoved; }
     /// What of the scene is seen there, or nothing.
     [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position) const;
+    /// The node that is outlined; null for none.
+    [[nodiscard]] const NxNode* selectedNode() const { return m_selected.empty() ? nullptr : m_selected.back().get(); }
     /// The box around the selected node; empty if it has no extent.
     [[nodiscard]] NxBounds selectionBounds() const { return m_drawing.bounds(pointers(m_selected)); }
     /// The same with what lies behind it, from the front.

@@ -7,6 +7,8 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPen>
 #include <QStyleHints>
 #include <QWheelEvent>
 #include <QWidget>
@@ -172,9 +174,13 @@ bool ViewInput::keyPress(const QKeyEvent& event)
         m_hooks.moved();
         return true;
     }
-    if (event.key() != Qt::Key_Escape)
+    const bool isReturn = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (isReturn && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier)
+        pickMiddle();
+    else if (event.key() == Qt::Key_Escape)
+        m_hooks.picked({});
+    else
         return false;
-    m_hooks.picked({});
     return true;
 }
 
@@ -201,6 +207,20 @@ void ViewInput::paint(QPainter& painter) const
 {
     for (std::size_t tool = m_tools.size(); tool-- > 0;)
         m_tools[tool]->paint(painter);
+    if (m_showsMiddle && m_hooks.hasScene())
+        paintMiddle(painter);
+}
+
+// A cross in black and white, which is seen on every picture.
+void ViewInput::paintMiddle(QPainter& painter) const
+{
+    const QPoint middle = m_view.rect().center();
+    const int arm = m_view.fontMetrics().height() / 2;
+    for (const auto& [color, width] : {std::pair(Qt::black, 3), std::pair(Qt::white, 1)}) {
+        painter.setPen(QPen(color, width));
+        painter.drawLine(middle - QPoint(arm, 0), middle + QPoint(arm, 0));
+        painter.drawLine(middle - QPoint(0, arm), middle + QPoint(0, arm));
+    }
 }
 
 std::optional<NxRayHit> ViewInput::hitAt(const QPointF& position) const
@@ -274,4 +294,12 @@ bool ViewInput::pickBehind(bool forwards)
         return false;
     pick(m_clicked, m_depth + (forwards ? 1 : -1));
     return true;
+}
+
+void ViewInput::pickMiddle()
+{
+    if (m_taker != nullptr || !m_hooks.hasScene())
+        return;
+    const QPointF middle = QRectF(m_view.rect()).center();
+    pick(middle, isClickedPlace(middle) ? m_depth + 1 : 0);
 }

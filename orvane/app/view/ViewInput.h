@@ -57,6 +57,10 @@ public:
     /// Picks what lies behind the node that the latest click has picked, or before it, as long as the pointer is there.
     /// Returns false, and does nothing, if nothing else is there.
     bool pickBehind(bool forwards);
+    /// Picks what is in the middle of the view; the next time, what lies behind it.
+    void pickMiddle();
+    /// Shows where the middle is, for people who work by keys.
+    void setMiddleShown(bool isShown) { m_showsMiddle = isShown; }
     /// Lets the next click pick what is in front, wherever it is: what the latest click has picked may no longer be
     /// there or selected.
     void forgetClick() { m_depth = -1; }
@@ -85,6 +89,7 @@ private:
     void leaveTools(const ViewTool* but);
     [[nodiscard]] bool isClickedPlace(const QPointF& position) const;
     [[nodiscard]] std::optional<NxRayHit> hitAt(const QPointF& position, int depth) const;
+    void paintMiddle(QPainter& painter) const;
     void click(const QMouseEvent& event);
     void pick(const QPointF& position, int depth);
 
@@ -99,5 +104,6 @@ private:
     int m_depth = -1; // how many hits that click has left out; -1 before the first click, and after a move
     Qt::MouseButton m_button = Qt::NoButton; // of the drag under way
     bool m_isMoving = false; // rather than clicking
+    bool m_showsMiddle = false;
     bool m_withoutMenu = false; // the latest press was for a tool
 };

@@ -41,6 +41,12 @@ ScrubbedNumber ValueCell::scrubbedNumber(const NxField& field, int part, const C
         FieldWriter::componentMover(field, component)};
 }
 
+std::optional<FieldNumber> ValueCell::number(
+    const NxField& /*field*/, int /*part*/, const CellServices& /*services*/) const
+{
+    return std::nullopt;
+}
+
 bool ValueCell::click(const CellEdit& /*edit*/, const QRect& /*area*/, const QPoint& /*position*/) const
 {
     return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "orvane/app/fields/editors/CellEdit.h"
+#include "orvane/app/fields/editors/NumberEditor.h"
 #include "orvane/app/fields/values/FieldSet.h"
 #include "orvane/app/fields/values/FieldWriter.h"
 #include "orvane/app/input/NumberLimits.h"
@@ -9,6 +10,8 @@
 #include <QFont>
 #include <QPalette>
 #include <QRect>
+
+#include <optional>
 
 namespace meridane {
 class Query;
@@ -70,6 +73,10 @@ public:
     [[nodiscard]] virtual int scrubbedComponent(const NxField& field, int part, const CellServices& services) const;
     /// The number that such a drag changes: the component, unless the part shows another one.
     [[nodiscard]] virtual ScrubbedNumber scrubbedNumber(
+        const NxField& field, int part, const CellServices& services) const;
+
+    /// The number that a part shows; nothing for a part that shows something else.
+    [[nodiscard]] virtual std::optional<FieldNumber> number(
         const NxField& field, int part, const CellServices& services) const;
 
     /// A click on the value. True if it was all that was wanted; otherwise an editor opens.

@@ -24,19 +24,6 @@
 #include <QToolTip>
 #include <QTreeView>
 
-namespace {
-
-// Null for rows that are shown as usual: those without fields, and lists.
-const FieldSet* shownFields(const QModelIndex& index)
-{
-    const auto* const fields = index.data(FieldRoles::FieldSetRole).value<const FieldSet*>();
-    const bool isShown
-        = fields != nullptr && !fields->isEmpty() && fields->first().isOfType(NxSField::getClassTypeId());
-    return isShown ? fields : nullptr;
-}
-
-} // namespace
-
 ValueDelegate::ValueDelegate(QAbstractItemView* view, FieldWriter& writer, AppSettings* settings)
     : FoundTextDelegate(meridane::SearchedText::Value, view)
     , m_view(view)
@@ -50,6 +37,14 @@ ValueDelegate::ValueDelegate(QAbstractItemView* view, FieldWriter& writer, AppSe
 }
 
 ValueDelegate::~ValueDelegate() = default;
+
+const FieldSet* ValueDelegate::shownFields(const QModelIndex& index)
+{
+    const auto* const fields = index.data(FieldRoles::FieldSetRole).value<const FieldSet*>();
+    const bool isShown
+        = fields != nullptr && !fields->isEmpty() && fields->first().isOfType(NxSField::getClassTypeId());
+    return isShown ? fields : nullptr;
+}
 
 bool ValueDelegate::isSearched(const QModelIndex& index) const
 {

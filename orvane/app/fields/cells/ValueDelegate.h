@@ -33,6 +33,8 @@ public:
     [[nodiscard]] CellServices& services() const noexcept { return *m_services; }
     /// Opens the editor of a part of a value. False if there is none.
     bool edit(const QModelIndex& index, int part, CellEdit::Reason reason);
+    /// The fields of a cell that this paints; null for rows that are shown as usual: those without fields, and lists.
+    [[nodiscard]] static const FieldSet* shownFields(const QModelIndex& index);
     /// The area of the value in its cell.
     [[nodiscard]] static QRect areaOf(const QWidget& view, const QRect& cell);
 

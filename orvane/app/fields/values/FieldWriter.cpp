@@ -18,6 +18,7 @@
 #include "meridane/scene/fields/MemoryGuard.h"
 #include "meridane/scene/fields/NxField.h"
 #include "meridane/scene/fields/NxFieldData.h"
+#include "meridane/scene/fields/single/NxSFBool.h"
 
 #include <QSignalBlocker>
 
@@ -101,6 +102,15 @@ orvane::Result<> FieldWriter::reset(const FieldSet& fields)
         return original != nullptr && field.copyFrom(*original);
     };
     return write(fields, toDefault, tr("Reset %1").arg(fields.name()));
+}
+
+orvane::Result<> FieldWriter::toggle(const FieldSet& fields)
+{
+    const bool on = fields.isMixed() || static_cast<const NxSFBool&>(fields.first()).getValue() == 0;
+    return change(fields, [on](NxField& field) {
+        static_cast<NxSFBool&>(field).setValue(on);
+        return true;
+    });
 }
 
 orvane::Result<> FieldWriter::setIgnored(const FieldSet& fields, bool ignored)

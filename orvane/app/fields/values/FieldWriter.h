@@ -46,6 +46,8 @@ public:
     orvane::Result<> copy(const FieldSet& fields, const NxField& source);
     /// Sets each field to the default of its class.
     orvane::Result<> reset(const FieldSet& fields);
+    /// Sets flags, which are `NxSFBool`, to the other value; those that differ become true.
+    orvane::Result<> toggle(const FieldSet& fields);
     /// Sets whether the scene ignores the fields.
     orvane::Result<> setIgnored(const FieldSet& fields, bool ignored);
     /// A value for the fields of a row.

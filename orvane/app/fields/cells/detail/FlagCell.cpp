@@ -18,14 +18,9 @@ bool isOn(const NxField& field)
     return static_cast<const NxSFBool&>(field).getValue() != 0;
 }
 
-// Values that differ become true.
 void toggleFlags(const CellServices& services, const FieldSet& fields, QWidget* widget)
 {
-    const bool on = fields.isMixed() || !isOn(fields.first());
-    const orvane::Result<> result = services.writer().change(fields, [on](NxField& field) {
-        static_cast<NxSFBool&>(field).setValue(on);
-        return true;
-    });
+    const orvane::Result<> result = services.writer().toggle(fields);
     if (!result && widget != nullptr)
         InputMessage::showFor(widget, result.error());
 }

@@ -83,6 +83,12 @@ int NumberCell::scrubbedComponent(const NxField& /*field*/, int part, const Cell
     return part;
 }
 
+std::optional<FieldNumber> NumberCell::number(const NxField& field, int part, const CellServices& services) const
+{
+    const int component = scrubbedComponent(field, part, services);
+    return component >= 0 ? std::optional(orvane::fieldNumber(field, component)) : std::nullopt;
+}
+
 CellEditor* NumberCell::createEditor(const CellEdit& edit, QWidget* parent) const
 {
     return createNumberEditor(edit, edit.part, parent);

@@ -14,6 +14,8 @@ public:
     [[nodiscard]] QRect editorArea(const QRect& area, const NxField& field, int part, const CellServices& services,
         const QFont& font) const override;
     [[nodiscard]] int scrubbedComponent(const NxField& field, int part, const CellServices& services) const override;
+    [[nodiscard]] std::optional<FieldNumber> number(
+        const NxField& field, int part, const CellServices& services) const override;
     [[nodiscard]] CellEditor* createEditor(const CellEdit& edit, QWidget* parent) const override;
 
 protected:

@@ -114,6 +114,13 @@ ScrubbedNumber RotationCell::scrubbedNumber(const NxField& field, int part, cons
     return {number.get(field), number.limits, moverOf};
 }
 
+std::optional<FieldNumber> RotationCell::number(const NxField& field, int part, const CellServices& services) const
+{
+    if (services.isEulerShown() && part < columns(services))
+        return eulerNumber(field, part);
+    return NumberCell::number(field, part, services);
+}
+
 QString RotationCell::toolTip(const FieldSet& fields, const CellServices& /*services*/) const
 {
     return meridane::isNormal(rotationOf(fields.first()))
@@ -128,11 +135,8 @@ CellEditor* RotationCell::createEditor(const CellEdit& edit, QWidget* parent) co
     if (field == nullptr)
         return nullptr;
     CellServices* const services = edit.services;
-    if (edit.part < columns(*services)) {
-        if (services->isEulerShown())
-            return new NumberEditor(edit, eulerNumber(*field, edit.part), parent);
-        return createNumberEditor(edit, edit.part, parent);
-    }
+    if (const std::optional<FieldNumber> shown = number(*field, edit.part, *services))
+        return new NumberEditor(edit, *shown, parent);
     auto* const editor = new PopupEditor(edit, parent);
     auto* const popup = new RotationPopup(editor);
     popup->setRotation(field->getValue());
