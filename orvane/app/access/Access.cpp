@@ -19,7 +19,7 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
     auto* const widget = qobject_cast<QWidget*>(object);
     if (widget == nullptr)
         return nullptr;
-    if (auto* const table = qobject_cast<FieldTableView*>(widget); table != nullptr && table->model() != nullptr)
+    if (auto* const table = qobject_cast<FieldTableView*>(widget); table != nullptr)
         return new AccessibleFieldTable(table);
     if (auto* const view = qobject_cast<SceneView*>(widget); view != nullptr)
         return new AccessibleView(view);

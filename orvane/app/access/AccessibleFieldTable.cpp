@@ -25,11 +25,14 @@ AccessibleFieldTable::~AccessibleFieldTable()
 
 int AccessibleFieldTable::columnCount() const
 {
-    return m_view->model()->columnCount();
+    // There may be no model yet.
+    return m_view->model() != nullptr ? m_view->model()->columnCount() : 0;
 }
 
 int AccessibleFieldTable::rowCount() const
 {
+    if (m_view->model() == nullptr)
+        return 0;
     const QAbstractItemModel& model = *m_view->model();
     int rows = 0;
     for (int group = 0; group < model.rowCount(); ++group) {
@@ -41,6 +44,8 @@ int AccessibleFieldTable::rowCount() const
 
 QModelIndex AccessibleFieldTable::indexAt(int row, int column) const
 {
+    if (m_view->model() == nullptr)
+        return {};
     const QAbstractItemModel& model = *m_view->model();
     int rest = row;
     for (int group = 0; rest >= 0 && group < model.rowCount(); ++group) {
@@ -145,7 +150,8 @@ void* AccessibleFieldTable::interface_cast(QAccessible::InterfaceType type)
 
 QString AccessibleFieldTable::columnDescription(int column) const
 {
-    return m_view->model()->headerData(column, Qt::Horizontal).toString();
+    const QAccessibleInterface* const shown = title(column);
+    return shown != nullptr ? shown->text(QAccessible::Name) : QString();
 }
 
 QString AccessibleFieldTable::rowDescription(int row) const
@@ -156,6 +162,8 @@ QString AccessibleFieldTable::rowDescription(int row) const
 QList<int> AccessibleFieldTable::selectedRows() const
 {
     QList<int> rows;
+    if (m_view->selectionModel() == nullptr)
+        return rows;
     for (const QModelIndex& index : m_view->selectionModel()->selectedRows()) {
         if (const int row = rowOf(index); row >= 0)
             rows.append(row);

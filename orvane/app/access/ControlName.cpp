@@ -14,7 +14,7 @@
 
 namespace {
 
-// Remembers that the name of a widget comes from here, so that it may change.
+// The name that a widget has got here, and may change as long as nobody else has set one.
 constexpr char givenName[] = "orvaneGivenName";
 
 QString plainLine(const QString& text)
@@ -53,7 +53,7 @@ QString placeText(const QWidget& widget)
     for (const QWidget* parent = widget.parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
         if (qobject_cast<const QComboBox*>(parent) != nullptr)
             return QAccessible::queryAccessibleInterface(const_cast<QWidget*>(parent))->text(QAccessible::Name);
-        if (!parent->accessibleName().isEmpty() && parent->property(givenName).isNull())
+        if (!parent->accessibleName().isEmpty() && parent->accessibleName() != parent->property(givenName).toString())
             return parent->accessibleName();
         if (const auto* const group = qobject_cast<const QGroupBox*>(parent); group != nullptr)
             return withoutMnemonic(group->title());
@@ -98,15 +98,28 @@ QString nameFor(const QWidget& widget)
     return placeText(widget);
 }
 
-bool needsName(const QWidget& widget)
+bool isControl(const QWidget& widget)
 {
-    const bool isControl
-        = widget.focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(&widget) != nullptr;
-    const bool hasName = !widget.accessibleName().isEmpty() && widget.property(givenName).isNull();
-    return isControl && !hasName && ownText(widget).isEmpty();
+    return widget.focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(&widget) != nullptr;
 }
 
-/// Names its parent after the tool tip whenever that changes.
+bool needsName(const QWidget& widget)
+{
+    const QString name = widget.accessibleName();
+    const bool isGiven = name.isEmpty() || name == widget.property(givenName).toString();
+    return isGiven && isControl(widget) && ownText(widget).isEmpty();
+}
+
+void giveName(QWidget& widget)
+{
+    const QString name = needsName(widget) ? nameFor(widget) : QString();
+    if (name.isEmpty() || name == widget.accessibleName())
+        return;
+    widget.setProperty(givenName, name);
+    widget.setAccessibleName(name);
+}
+
+/// Names its parent again when that is shown, or gets another tool tip.
 class NameWatch final : public QObject {
 public:
     explicit NameWatch(QWidget& widget)
@@ -118,8 +131,8 @@ public:
 
     bool eventFilter(QObject* /*object*/, QEvent* event) override
     {
-        if (event->type() == QEvent::ToolTipChange)
-            orvane::nameControl(m_widget);
+        if (event->type() == QEvent::ToolTipChange || event->type() == QEvent::Show)
+            giveName(m_widget);
         return false;
     }
 
@@ -131,14 +144,10 @@ private:
 
 void orvane::nameControl(QWidget& widget)
 {
-    if (!needsName(widget))
-        return;
-    const QString name = nameFor(widget);
-    if (name.isEmpty())
-        return;
-    if (widget.property(givenName).isNull())
+    // It may be asked about before it has got what the name is made of.
+    if (widget.property(givenName).isNull()) {
+        widget.setProperty(givenName, QString(QLatin1String("")));
         new NameWatch(widget);
-    widget.setProperty(givenName, true);
-    if (widget.accessibleName() != name)
-        widget.setAccessibleName(name);
+    }
+    giveName(widget);
 }
