@@ -1,6 +1,5 @@
 #include "orvane/app/access/AccessibleFieldCell.h"
 
-#include "orvane/app/access/AccessibleFieldTable.h"
 #include "orvane/app/fields/FieldTableView.h"
 
 void* AccessibleFieldCell::interface_cast(QAccessible::InterfaceType type)
@@ -10,28 +9,22 @@ void* AccessibleFieldCell::interface_cast(QAccessible::InterfaceType type)
     return AccessibleFieldItem::interface_cast(type);
 }
 
-AccessibleFieldTable* AccessibleFieldCell::ownTable() const
-{
-    return dynamic_cast<AccessibleFieldTable*>(QAccessible::queryAccessibleInterface(&part().view()));
-}
-
 bool AccessibleFieldCell::isSelected() const
 {
     return state().selected;
 }
 
+// The first children of the table are the titles of its columns.
 QList<QAccessibleInterface*> AccessibleFieldCell::columnHeaderCells() const
 {
-    const AccessibleFieldTable* const own = ownTable();
-    return own != nullptr ? QList{own->title(columnIndex())} : QList<QAccessibleInterface*>();
+    return {table()->child(columnIndex())};
 }
 
 QList<QAccessibleInterface*> AccessibleFieldCell::rowHeaderCells() const
 {
-    const AccessibleFieldTable* const own = ownTable();
-    if (own == nullptr || columnIndex() == 0)
+    if (columnIndex() == 0)
         return {};
-    return {own->cellAt(rowIndex(), 0)};
+    return {table()->tableInterface()->cellAt(rowIndex(), 0)};
 }
 
 int AccessibleFieldCell::columnIndex() const
@@ -41,8 +34,8 @@ int AccessibleFieldCell::columnIndex() const
 
 int AccessibleFieldCell::rowIndex() const
 {
-    const AccessibleFieldTable* const own = ownTable();
-    return own != nullptr ? own->rowOf(part().index()) : -1;
+    const int place = table()->indexOfChild(this);
+    return place < 0 ? -1 : place / table()->tableInterface()->columnCount() - 1;
 }
 
 QAccessibleInterface* AccessibleFieldCell::table() const

@@ -2,8 +2,6 @@
 
 #include "orvane/app/access/AccessibleFieldItem.h"
 
-class AccessibleFieldTable;
-
 /// A cell of the field table in its place among the rows and columns.
 class AccessibleFieldCell final : public AccessibleFieldItem, public QAccessibleTableCellInterface {
 public:
@@ -19,7 +17,4 @@ public:
     int columnExtent() const override { return 1; }
     int rowExtent() const override { return 1; }
     QAccessibleInterface* table() const override;
-
-private:
-    [[nodiscard]] AccessibleFieldTable* ownTable() const;
 };

@@ -12,8 +12,6 @@
 #include <cmath>
 #include <limits>
 
-using Kind = FieldPart::Kind;
-
 AccessibleFieldItem::AccessibleFieldItem(
     FieldTableView& view, const QModelIndex& index, int part, QAccessibleInterface* parent)
     : m_part(view, index, part)
@@ -109,15 +107,15 @@ QRect AccessibleFieldItem::rect() const
 QAccessible::Role AccessibleFieldItem::role() const
 {
     switch (m_part.kind()) {
-    case Kind::Number:
+    case FieldPart::Kind::Number:
         return QAccessible::SpinBox;
-    case Kind::Flag:
+    case FieldPart::Kind::Flag:
         return QAccessible::CheckBox;
-    case Kind::Choice:
+    case FieldPart::Kind::Choice:
         return QAccessible::ComboBox;
-    case Kind::Opener:
+    case FieldPart::Kind::Opener:
         return QAccessible::ButtonMenu;
-    case Kind::Group:
+    case FieldPart::Kind::Group:
         return m_part.index().column() == 0 ? QAccessible::TreeItem : QAccessible::Cell;
     default:
         return QAccessible::Cell;
@@ -140,16 +138,16 @@ QAccessible::State AccessibleFieldItem::state() const
     state.selected = view.selectionModel()->isSelected(index);
     state.focusable = !state.invisible;
     state.focused = m_part.part() == FieldPart::whole && view.hasFocus() && view.currentIndex() == index;
-    const Kind kind = m_part.kind();
-    if (kind == Kind::Group && index.column() == 0) {
+    const FieldPart::Kind kind = m_part.kind();
+    if (kind == FieldPart::Kind::Group && index.column() == 0) {
         state.expandable = true;
         state.expanded = view.isExpanded(index);
         state.collapsed = !state.expanded;
     }
     state.editable = isTextEditable();
-    state.readOnly = kind == Kind::Label || kind == Kind::Group;
-    state.hasPopup = kind == Kind::Choice || kind == Kind::Opener;
-    if (kind == Kind::Flag) {
+    state.readOnly = kind == FieldPart::Kind::Label || kind == FieldPart::Kind::Group;
+    state.hasPopup = kind == FieldPart::Kind::Choice || kind == FieldPart::Kind::Opener;
+    if (kind == FieldPart::Kind::Flag) {
         state.checkable = true;
         state.checked = m_part.checkState() == Qt::Checked;
         state.checkStateMixed = m_part.checkState() == Qt::PartiallyChecked;
@@ -159,20 +157,21 @@ QAccessible::State AccessibleFieldItem::state() const
 
 bool AccessibleFieldItem::isTextEditable() const
 {
-    const Kind kind = m_part.kind();
-    return kind == Kind::Number || kind == Kind::Text || kind == Kind::Choice || kind == Kind::Several;
+    const FieldPart::Kind kind = m_part.kind();
+    return kind == FieldPart::Kind::Number || kind == FieldPart::Kind::Text || kind == FieldPart::Kind::Choice
+        || kind == FieldPart::Kind::Several;
 }
 
 void* AccessibleFieldItem::interface_cast(QAccessible::InterfaceType type)
 {
-    const bool showsText = m_part.kind() != Kind::Label || !m_part.value().isEmpty();
+    const bool showsText = m_part.kind() != FieldPart::Kind::Label || !m_part.value().isEmpty();
     switch (type) {
     case QAccessible::TextInterface:
         return showsText ? static_cast<QAccessibleTextInterface*>(this) : nullptr;
     case QAccessible::EditableTextInterface:
         return isTextEditable() ? static_cast<QAccessibleEditableTextInterface*>(this) : nullptr;
     case QAccessible::ValueInterface:
-        return m_part.kind() == Kind::Number ? static_cast<QAccessibleValueInterface*>(this) : nullptr;
+        return m_part.kind() == FieldPart::Kind::Number ? static_cast<QAccessibleValueInterface*>(this) : nullptr;
     case QAccessible::ActionInterface:
         return static_cast<QAccessibleActionInterface*>(this);
     default:
@@ -238,7 +237,7 @@ void AccessibleFieldItem::replaceText(int startOffset, int endOffset, const QStr
     value.replace(startOffset, std::max(0, endOffset - startOffset), text);
     bool isNumber = false;
     const double number = value.toDouble(&isNumber);
-    if (m_part.kind() != Kind::Number)
+    if (m_part.kind() != FieldPart::Kind::Number)
         m_part.setText(value);
     else if (isNumber)
         m_part.setNumber(number);
@@ -276,9 +275,9 @@ QVariant AccessibleFieldItem::minimumStepSize() const
 QStringList AccessibleFieldItem::actionNames() const
 {
     switch (m_part.kind()) {
-    case Kind::Number:
+    case FieldPart::Kind::Number:
         return {pressAction(), increaseAction(), decreaseAction(), showMenuAction(), setFocusAction()};
-    case Kind::Flag:
+    case FieldPart::Kind::Flag:
         return {toggleAction(), showMenuAction(), setFocusAction()};
     default:
         return {pressAction(), showMenuAction(), setFocusAction()};

@@ -6,7 +6,7 @@
 
 namespace {
 
-struct Texts {
+struct AccessibleMessageTexts {
     Q_DECLARE_TR_FUNCTIONS(AccessibleMessage)
 };
 
@@ -14,13 +14,13 @@ QString severityText(MessageSeverity severity)
 {
     switch (severity) {
     case MessageSeverity::Information:
-        return Texts::tr("Information");
+        return AccessibleMessageTexts::tr("Information");
     case MessageSeverity::Warning:
-        return Texts::tr("Warning");
+        return AccessibleMessageTexts::tr("Warning");
     case MessageSeverity::Error:
         break;
     }
-    return Texts::tr("Error");
+    return AccessibleMessageTexts::tr("Error");
 }
 
 } // namespace

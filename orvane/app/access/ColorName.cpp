@@ -5,7 +5,7 @@
 
 namespace {
 
-struct Texts {
+struct ColorTexts {
     Q_DECLARE_TR_FUNCTIONS(ColorName)
 };
 
@@ -16,30 +16,30 @@ QString greyName(int lightness)
     constexpr int light = 170;
     constexpr int white = 240;
     if (lightness < black)
-        return Texts::tr("black");
+        return ColorTexts::tr("black");
     if (lightness < dark)
-        return Texts::tr("dark grey");
+        return ColorTexts::tr("dark grey");
     if (lightness < light)
-        return Texts::tr("grey");
-    return lightness < white ? Texts::tr("light grey") : Texts::tr("white");
+        return ColorTexts::tr("grey");
+    return lightness < white ? ColorTexts::tr("light grey") : ColorTexts::tr("white");
 }
 
 // The hues where people begin to call a colour otherwise, in degrees.
 QString hueName(int hue)
 {
     if (hue < 15 || hue >= 345)
-        return Texts::tr("red");
+        return ColorTexts::tr("red");
     if (hue < 45)
-        return Texts::tr("orange");
+        return ColorTexts::tr("orange");
     if (hue < 70)
-        return Texts::tr("yellow");
+        return ColorTexts::tr("yellow");
     if (hue < 165)
-        return Texts::tr("green");
+        return ColorTexts::tr("green");
     if (hue < 195)
-        return Texts::tr("cyan");
+        return ColorTexts::tr("cyan");
     if (hue < 255)
-        return Texts::tr("blue");
-    return hue < 290 ? Texts::tr("violet") : Texts::tr("magenta");
+        return ColorTexts::tr("blue");
+    return hue < 290 ? ColorTexts::tr("violet") : ColorTexts::tr("magenta");
 }
 
 } // namespace
@@ -57,6 +57,6 @@ QString orvane::colorName(const QColor& color)
         return greyName(lightness);
     const QString name = hueName(hsl.hslHue());
     if (lightness < dark)
-        return Texts::tr("dark %1").arg(name);
-    return lightness > light ? Texts::tr("light %1").arg(name) : name;
+        return ColorTexts::tr("dark %1").arg(name);
+    return lightness > light ? ColorTexts::tr("light %1").arg(name) : name;
 }

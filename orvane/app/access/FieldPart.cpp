@@ -25,7 +25,7 @@
 
 namespace {
 
-struct Texts {
+struct FieldPartTexts {
     Q_DECLARE_TR_FUNCTIONS(FieldPart)
 };
 
@@ -144,7 +144,7 @@ QString FieldPart::name() const
     if (const std::optional<FieldNumber> one = number())
         return one->name;
     const QString field = orvane::accessibleNameOf(shown->first(), -1);
-    return kind() == Kind::Opener ? Texts::tr("Edit %1").arg(field) : field;
+    return kind() == Kind::Opener ? FieldPartTexts::tr("Edit %1").arg(field) : field;
 }
 
 QString FieldPart::value() const
@@ -153,7 +153,7 @@ QString FieldPart::value() const
     if (shown == nullptr)
         return m_part == whole ? m_index.data(Qt::DisplayRole).toString() : QString();
     if (isMixed())
-        return Texts::tr("mixed");
+        return FieldPartTexts::tr("mixed");
     if (const std::optional<FieldNumber> one = number())
         return one->text(shown->first());
     if (m_part != whole)
@@ -169,12 +169,12 @@ QString FieldPart::rangeWarning() const
     case Range::Usual:
         return {};
     case Range::Unusual:
-        return Texts::tr("This number is unusual.");
+        return FieldPartTexts::tr("This number is unusual.");
     case Range::Senseless:
     case Range::Impossible:
         break;
     }
-    return Texts::tr("This number makes no sense here.");
+    return FieldPartTexts::tr("This number makes no sense here.");
 }
 
 QString FieldPart::description() const
@@ -188,7 +188,7 @@ QString FieldPart::description() const
         if (m_part == whole && isColor(shown->first()) && !isMixed())
             lines += colorText(shown->first());
         if (delegate()->services().writer().isPending(*ValueDelegate::shownFields(m_index)))
-            lines += Texts::tr("This value isn't written yet.");
+            lines += FieldPartTexts::tr("This value isn't written yet.");
         if (m_part == whole)
             lines += orvane::cellOf(shown->first()).toolTip(*shown, delegate()->services());
     }

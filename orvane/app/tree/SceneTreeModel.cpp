@@ -10,6 +10,7 @@
 #include "orvane/app/tree/ShownNodes.h"
 #include "orvane/app/tree/facts/IgnoredFields.h"
 #include "orvane/app/tree/facts/NodeToolTip.h"
+#include "orvane/app/tree/facts/SpokenFacts.h"
 
 #include "meridane/scene/nodes/NxCamera.h"
 #include "meridane/scene/nodes/NxLight.h"
@@ -212,7 +213,8 @@ QVariant SceneTreeModel::data(const QModelIndex& index, int role) const
             return text(index);
         return !canBeSeen(*shown) ? tr("Nothing to see") : isShown(index) ? tr("Shown") : tr("Hidden");
     case Qt::AccessibleDescriptionRole:
-        return index.column() == NameColumn ? spokenFacts(index) : QVariant();
+        return index.column() == NameColumn ? orvane::spokenFacts(*node(index), canBeSeen(*shown) && !isShown(index))
+                                            : QVariant();
     case GreyedRole:
         return m_marks != nullptr && !m_marks->isHit(*shown) && !m_marks->leadsToHit(*shown);
     case ShownRole:
@@ -236,20 +238,6 @@ QString SceneTreeModel::text(const QModelIndex& index) const
     if (index.column() == NameColumn && !shown->getName().isEmpty())
         return orvane::shortLine(orvane::toQString(shown->getName()), mostCharacters);
     return QString::fromUtf8(shown->getClassName());
-}
-
-// What the row shows by its icon, its other columns and its place.
-QString SceneTreeModel::spokenFacts(const QModelIndex& index) const
-{
-    NxNode* const shown = node(index);
-    QStringList facts{QString::fromUtf8(shown->getClassName())};
-    if (const std::size_t children = shown->getChildren().size(); children > 0)
-        facts += children == 1 ? tr("1 child") : tr("%1 children").arg(children);
-    if (canBeSeen(*shown) && !isShown(index))
-        facts += tr("hidden");
-    if (orvane::hasIgnoredField(*shown))
-        facts += tr("has ignored fields");
-    return facts.join(QStringLiteral(", "));
 }
 
 bool SceneTreeModel::isShown(const QModelIndex& index) const

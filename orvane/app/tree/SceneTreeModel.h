@@ -102,7 +102,6 @@ private:
     [[nodiscard]] QVariant font(const QModelIndex& index) const;
     [[nodiscard]] QString text(const QModelIndex& index) const;
     [[nodiscard]] bool isShown(const QModelIndex& index) const;
-    [[nodiscard]] QString spokenFacts(const QModelIndex& index) const;
 
     std::unique_ptr<SceneBranch> m_root;
     std::unique_ptr<ShownNodes> m_shown;
