@@ -2,6 +2,21 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AccessibleMessage</name>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+</context>
+<context>
     <name>ActionKeys</name>
     <message>
         <source>Press a key.</source>
@@ -296,6 +311,69 @@
     <message>
         <source>Opacity</source>
         <translation>Deckkraft</translation>
+    </message>
+</context>
+<context>
+    <name>ColorName</name>
+    <message>
+        <source>black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>dark grey</source>
+        <translation>Dunkelgrau</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>light grey</source>
+        <translation>Hellgrau</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>violet</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>magenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>dark %1</source>
+        <translation>dunkles %1</translation>
+    </message>
+    <message>
+        <source>light %1</source>
+        <translation>helles %1</translation>
     </message>
 </context>
 <context>
@@ -1159,6 +1237,29 @@
     </message>
 </context>
 <context>
+    <name>FieldPart</name>
+    <message>
+        <source>Edit %1</source>
+        <translation>%1 bearbeiten</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>gemischt</translation>
+    </message>
+    <message>
+        <source>This number is unusual.</source>
+        <translation>Diese Zahl ist ungewöhnlich.</translation>
+    </message>
+    <message>
+        <source>This number makes no sense here.</source>
+        <translation>Diese Zahl ist hier nicht sinnvoll.</translation>
+    </message>
+    <message>
+        <source>This value isn&apos;t written yet.</source>
+        <translation>Dieser Wert ist noch nicht geschrieben.</translation>
+    </message>
+</context>
+<context>
     <name>FieldRow</name>
     <message>
         <source>unknown</source>
@@ -1221,6 +1322,10 @@
     <message>
         <source>Value</source>
         <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation>Marken</translation>
     </message>
 </context>
 <context>
@@ -3772,6 +3877,10 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>Close this message</source>
         <translation>Diese Meldung schließen</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
 </context>
 <context>
     <name>NameScrub</name>
@@ -5759,6 +5868,10 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>Shows the node in the view</source>
         <translation>Blendet den Knoten in der Ansicht ein</translation>
     </message>
+    <message>
+        <source>Nothing to see</source>
+        <translation>Nichts zu sehen</translation>
+    </message>
 </context>
 <context>
     <name>SceneTreePanel</name>
@@ -6483,6 +6596,25 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>Convert Unit and Up Axis</source>
         <translation>Einheit und Hochachse umrechnen</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenFacts</name>
+    <message>
+        <source>1 child</source>
+        <translation>1 Kindknoten</translation>
+    </message>
+    <message>
+        <source>%1 children</source>
+        <translation>%1 Kindknoten</translation>
+    </message>
+    <message>
+        <source>hidden</source>
+        <translation>ausgeblendet</translation>
+    </message>
+    <message>
+        <source>has ignored fields</source>
+        <translation>hat ignorierte Felder</translation>
     </message>
 </context>
 <context>
@@ -7776,6 +7908,109 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>&amp;Tool Bars</source>
         <translation>Werk&amp;zeugleisten</translation>
+    </message>
+</context>
+<context>
+    <name>ViewText</name>
+    <message>
+        <source>the front</source>
+        <translation>vorn</translation>
+    </message>
+    <message>
+        <source>the back</source>
+        <translation>hinten</translation>
+    </message>
+    <message>
+        <source>the right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>the left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>above</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>below</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation> und </translation>
+    </message>
+    <message>
+        <source>Seen from %1, without perspective.</source>
+        <translation>Gesehen von %1, ohne Perspektive.</translation>
+    </message>
+    <message>
+        <source>Seen from %1, in perspective.</source>
+        <translation>Gesehen von %1, mit Perspektive.</translation>
+    </message>
+    <message>
+        <source>%1, a %2</source>
+        <translation>%1, ein %2</translation>
+    </message>
+    <message>
+        <source>outside of the picture</source>
+        <translation>außerhalb des Bildes</translation>
+    </message>
+    <message>
+        <source>at the top</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>at the bottom</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>to the left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>to the right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>in the middle of the picture</source>
+        <translation>in der Mitte des Bildes</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>behind the viewer</source>
+        <translation>hinter dem Betrachter</translation>
+    </message>
+    <message>
+        <source>Nothing is selected.</source>
+        <translation>Nichts ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Selected: %1. It can&apos;t be seen by itself.</source>
+        <translation>Ausgewählt: %1. Für sich ist das nicht zu sehen.</translation>
+    </message>
+    <message>
+        <source>Selected: %1, %2 units large, %3.</source>
+        <translation>Ausgewählt: %1, %2 Einheiten groß, %3.</translation>
+    </message>
+    <message>
+        <source> by </source>
+        <translation> mal </translation>
+    </message>
+    <message>
+        <source>No scene is open.</source>
+        <translation>Keine Szene ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>Nothing of the scene can be seen.</source>
+        <translation>Von der Szene ist nichts zu sehen.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 meshes are in view.</source>
+        <translation>%1 von %2 Netzen sind im Bild.</translation>
     </message>
 </context>
 <context>

@@ -20,8 +20,8 @@ Transform "table" {
 }
 """
 
-# Roles of what only holds other things, which the focus must not be on.
-NO_CONTROLS = {Atspi.Role.FILLER, Atspi.Role.UNKNOWN, Atspi.Role.INVALID, Atspi.Role.PANEL, Atspi.Role.REDUNDANT_OBJECT}
+# Roles of what only holds other things, which the focus must not be on. A filler may be an area that keys scroll.
+NO_CONTROLS = {Atspi.Role.UNKNOWN, Atspi.Role.INVALID, Atspi.Role.PANEL, Atspi.Role.REDUNDANT_OBJECT}
 
 
 class ScreenReader(unittest.TestCase):
@@ -51,13 +51,14 @@ class ScreenReader(unittest.TestCase):
         nameless = []
         seen = 0
         for node, path in walk(tool.root):
-            if not has(node, Atspi.StateType.FOCUSABLE) or node.get_role() in (Atspi.Role.WINDOW, Atspi.Role.FRAME):
+            is_reachable = has(node, Atspi.StateType.FOCUSABLE) and has(node, Atspi.StateType.VISIBLE)
+            if not is_reachable or node.get_role() in (Atspi.Role.WINDOW, Atspi.Role.FRAME):
                 continue
             seen += 1
             if not node.get_name().strip() or node.get_role() in NO_CONTROLS:
                 nameless.append(" / ".join(path[-3:]) + f" / {node.get_role_name()} {node.get_name()!r}")
         self.assertGreater(seen, 50)
-        self.assertEqual(nameless, [])
+        self.assertFalse(nameless, "\n".join(nameless))
 
     def test_a_number_is_read_and_set_as_one_step(self):
         tool = self.start()
@@ -123,9 +124,7 @@ class ScreenReader(unittest.TestCase):
     def test_messages_are_alerts(self):
         tool = Tool(self.display, "--select", "/nothing", self.scene)
         self.addCleanup(tool.end)
-        alert = wait_for("an alert", lambda: next(tool.all(Atspi.Role.ALERT), None) or next(
-            tool.all(Atspi.Role.NOTIFICATION), None))
-        self.assertIn("/nothing", alert.get_name())
+        wait_for("an alert", lambda: any("/nothing" in node.get_name() for node in tool.all(Atspi.Role.ALERT)))
 
     def test_tree_rows_say_class_and_count(self):
         tool = self.start()

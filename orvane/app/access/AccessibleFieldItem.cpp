@@ -136,7 +136,8 @@ QAccessible::State AccessibleFieldItem::state() const
     state.offscreen = !view.viewport()->rect().intersects(place);
     state.selectable = true;
     state.selected = view.selectionModel()->isSelected(index);
-    state.focusable = !state.invisible;
+    // The row of a group has its title alone.
+    state.focusable = !state.invisible && (index.parent().isValid() || index.column() == 0);
     state.focused = m_part.part() == FieldPart::whole && view.hasFocus() && view.currentIndex() == index;
     const FieldPart::Kind kind = m_part.kind();
     if (kind == FieldPart::Kind::Group && index.column() == 0) {

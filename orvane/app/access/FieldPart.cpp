@@ -138,8 +138,14 @@ QString FieldPart::name() const
 {
     const FieldSet* const shown = fields();
     if (shown == nullptr) {
-        const QString spoken = m_index.data(Qt::AccessibleTextRole).toString();
-        return spoken.isEmpty() ? m_index.data(Qt::DisplayRole).toString() : spoken;
+        const FieldTableModel& rows = model();
+        for (const int role : {Qt::AccessibleTextRole, Qt::DisplayRole}) {
+            if (const QString text = m_index.data(role).toString(); !text.isEmpty())
+                return text;
+        }
+        // An empty cell is called as its column.
+        const QString title = rows.headerData(m_index.column(), Qt::Horizontal, Qt::AccessibleTextRole).toString();
+        return title.isEmpty() ? rows.headerData(m_index.column(), Qt::Horizontal, Qt::DisplayRole).toString() : title;
     }
     if (const std::optional<FieldNumber> one = number())
         return one->name;

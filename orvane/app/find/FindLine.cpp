@@ -92,6 +92,7 @@ void FindLine::setActions(QAction* previous, QAction* next)
 void FindLine::setCount(const QString& text)
 {
     m_count->setText(text);
+    m_edit->setAccessibleDescription(text.isEmpty() ? m_edit->toolTip() : text);
 }
 
 void FindLine::setNote(const QString& text, Tone tone)

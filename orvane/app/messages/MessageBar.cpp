@@ -2,6 +2,7 @@
 
 #include "orvane/app/messages/MessageRow.h"
 
+#include <QAccessible>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -87,6 +88,8 @@ void MessageBar::add(MessageRow* row)
     m_rows.push_back(row);
     m_layout->addWidget(row);
     show();
+    QAccessibleEvent alert(row, QAccessible::Alert); // which screen readers say at once
+    QAccessible::updateAccessibility(&alert);
 }
 
 void MessageBar::clearTopic(const QString& topic)

@@ -54,6 +54,7 @@ MessageRow::MessageRow(MessageSeverity severity, const QString& text, const QStr
     m_layout->addWidget(m_icon, 0, Qt::AlignTop);
 
     m_text->setObjectName(QStringLiteral("messageText"));
+    m_text->setAccessibleName(tr("Message"));
     m_layout->addWidget(m_text, 1, Qt::AlignTop);
 
     auto* button = new QToolButton(this);
