@@ -3719,6 +3719,10 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>&amp;Inspectors</source>
         <translation>Inspekt&amp;oren</translation>
     </message>
+    <message>
+        <source>Theme</source>
+        <translation>Farbschema</translation>
+    </message>
 </context>
 <context>
     <name>MarkDelegate</name>
@@ -6443,6 +6447,14 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>A file that is opened from a file manager or a terminal comes to the window that was used last, which asks about unsaved changes. Otherwise each has a window of its own.</source>
         <translation>Eine Datei aus einem Dateimanager oder Terminal kommt in das zuletzt benutzte Fenster, das nach ungespeicherten Änderungen fragt. Sonst hat jede ein eigenes Fenster.</translation>
     </message>
+    <message>
+        <source>Theme</source>
+        <translation>Farbschema</translation>
+    </message>
+    <message>
+        <source>Whether the windows are light, dark, or as the desktop is.</source>
+        <translation>Ob die Fenster hell, dunkel oder wie der Desktop sind.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsActions</name>
@@ -6799,6 +6811,33 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>it is larger than %1 pixels a side</source>
         <translation>es hat mehr als %1 Pixel je Seite</translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Wie der &amp;Desktop</translation>
+    </message>
+    <message>
+        <source>The window is light or dark as the desktop is</source>
+        <translation>Das Fenster ist hell oder dunkel wie der Desktop</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>The window is light, with colors of its own</source>
+        <translation>Das Fenster ist hell, mit eigenen Farben</translation>
+    </message>
+    <message>
+        <source>Dar&amp;k</source>
+        <translation>D&amp;unkel</translation>
+    </message>
+    <message>
+        <source>The window is dark, with colors of its own</source>
+        <translation>Das Fenster ist dunkel, mit eigenen Farben</translation>
     </message>
 </context>
 <context>
