@@ -2219,6 +2219,17 @@ Fixiert: bleibt auf diesem Feld.</translation>
     </message>
 </context>
 <context>
+    <name>HelpBrowser</name>
+    <message>
+        <source>No program opens %1.</source>
+        <translation>Kein Programm öffnet %1.</translation>
+    </message>
+    <message>
+        <source>%1 isn&apos;t part of the help. It is in the sources.</source>
+        <translation>%1 ist nicht Teil der Hilfe, sondern in den Quelltexten.</translation>
+    </message>
+</context>
+<context>
     <name>HelpMenu</name>
     <message>
         <source>&amp;Help</source>
@@ -2247,6 +2258,141 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>Active extensions</source>
         <translation>Aktive Erweiterungen</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>Shows the list of all pages of the help</source>
+        <translation>Zeigt die Liste aller Seiten der Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Handbuch</translation>
+    </message>
+    <message>
+        <source>Shows the guide, from the first start to a plug-in of your own</source>
+        <translation>Zeigt das Handbuch, vom ersten Start bis zum eigenen Plug-in</translation>
+    </message>
+    <message>
+        <source>&amp;Tutorial</source>
+        <translation>&amp;Einführung</translation>
+    </message>
+    <message>
+        <source>Shows ten minutes of work with a robot, step by step</source>
+        <translation>Zeigt zehn Minuten Arbeit mit einem Roboter, Schritt für Schritt</translation>
+    </message>
+    <message>
+        <source>&amp;Help on This Part</source>
+        <translation>Hilfe &amp;zu diesem Teil</translation>
+    </message>
+    <message>
+        <source>Shows the page about the part of the window that has the focus</source>
+        <translation>Zeigt die Seite zum Fensterteil mit dem Fokus</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Goes to the page before</source>
+        <translation>Geht zur Seite davor</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Goes forward again</source>
+        <translation>Geht wieder vorwärts</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Shows the list of all pages</source>
+        <translation>Zeigt die Liste aller Seiten</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Searches all pages</source>
+        <translation>Durchsucht alle Seiten</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Goes to the next place that was found</source>
+        <translation>Geht zur nächsten gefundenen Stelle</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Goes to the previous place that was found</source>
+        <translation>Geht zur vorigen gefundenen Stelle</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Größer</translation>
+    </message>
+    <message>
+        <source>Makes the letters larger</source>
+        <translation>Macht die Schrift größer</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Kleiner</translation>
+    </message>
+    <message>
+        <source>Makes the letters smaller</source>
+        <translation>Macht die Schrift kleiner</translation>
+    </message>
+    <message>
+        <source>Search all pages</source>
+        <translation>Alle Seiten durchsuchen</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>Keine Seite enthält alle diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>%1 — Help</source>
+        <translation>%1 — Hilfe</translation>
+    </message>
+    <message>
+        <source>This is the first page.</source>
+        <translation>Das ist die erste Seite.</translation>
+    </message>
+    <message>
+        <source>This is the last page.</source>
+        <translation>Das ist die letzte Seite.</translation>
     </message>
 </context>
 <context>

@@ -324,7 +324,7 @@ void LiveTool::key(const QString& name)
 
 void LiveTool::type(const QString& text)
 {
-    xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), text});
+    xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("5"), QStringLiteral("--"), text});
 }
 
 bool LiveTool::typeFileName(const QString& fileName)

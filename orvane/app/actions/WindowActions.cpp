@@ -49,7 +49,7 @@ WindowActions::WindowActions(QMainWindow* window, Session& session, const Parts&
     , m_places(session.services(), session.document(), parts.recent, session.settings(), window)
     , m_showKeys(
           add("help.keys", QT_TR_NOOP("&Keyboard Shortcuts…"), QT_TR_NOOP("Shows and changes the keys of all actions"),
-              {QKeySequence(QKeySequence::HelpContents), QKeySequence(Qt::CTRL | Qt::Key_K, Qt::CTRL | Qt::Key_S)}))
+              {QKeySequence(Qt::CTRL | Qt::Key_F1), QKeySequence(Qt::CTRL | Qt::Key_K, Qt::CTRL | Qt::Key_S)}))
     , m_keys(window, session.settings())
 {
     QAction* const places = add("go.to", QT_TR_NOOP("&Go To…"),

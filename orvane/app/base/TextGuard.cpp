@@ -48,10 +48,11 @@ TextResources::TextResources(QTextEdit* edit)
     edit->document()->setParent(this);
 }
 
-QVariant TextResources::loadResource(int /*type*/, const QUrl& url) const
+QVariant TextResources::loadResource(int type, const QUrl& url) const
 {
+    // Where the edit has nothing of its own, the document loads it.
     if (url.scheme() == QStringLiteral("qrc"))
-        return {}; // the document loads it
+        return static_cast<QTextEdit*>(parent())->loadResource(type, url);
     // An empty picture, not null: for null, the document would read the file itself.
     QImage nothing(1, 1, QImage::Format_ARGB32);
     nothing.fill(Qt::transparent);

@@ -145,7 +145,7 @@ void MainWindow::buildMenus()
     editMenu->addSettings((new SettingsActions(m_session.settings(), *m_messages, this))->action());
     const auto* actions = new WindowActions(
         this, m_session, {m_tree, m_fields, *m_inspectors, *m_files, *m_recent, *cameras, navigation->bookmarks()});
-    const auto* const help = new HelpMenu(this, *m_shell, actions->keysAction());
+    const auto* const help = new HelpMenu(this, *m_shell, m_session.settings(), actions->keysAction());
     new PluginActions(m_session.pluginLoader(), *m_messages, help->menu(), this);
     new EditorManners(this, m_session.services(), m_fields);
     connect(m_shell.get(), &WindowShell::contentChanged, viewMenu, &ViewMenu::update);

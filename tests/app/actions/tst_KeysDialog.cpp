@@ -30,7 +30,7 @@ private:
     QAction* action(const char* name) { return m_window->findChild<QAction*>(QLatin1String(name)); }
     void openKeys()
     {
-        QTest::keyClick(m_window.get(), Qt::Key_F1);
+        QTest::keyClick(m_window.get(), Qt::Key_F1, Qt::ControlModifier);
         QVERIFY(dialog() != nullptr);
         dialog()->activateWindow();
         QTRY_COMPARE(QApplication::activeWindow(), dialog());
