@@ -13,14 +13,16 @@ namespace meridane {
 /// https://github.com/Cyan4973/xxHash/blob/dev/doc/xxhash_spec.md. It doesn't protect against somebody who makes up
 /// contents of the same hash.
 struct ContentHash {
-    std::uint64_t high = 0;
-    std::uint64_t low = 0;
+    std::uint64_t high = 0; ///< the upper 64 bits
+    std::uint64_t low = 0; ///< the lower 64 bits
 
+    /// Whether all bits are equal.
     friend bool operator==(const ContentHash&, const ContentHash&) = default;
 
     /// 32 hexadecimal digits, the high half first.
     [[nodiscard]] std::string toText() const;
 
+    /// The hash of a content that is whole in memory.
     [[nodiscard]] static ContentHash of(std::string_view content) noexcept;
 };
 
@@ -33,6 +35,7 @@ public:
     ContentHasher(const ContentHasher&) = delete;
     ContentHasher& operator=(const ContentHasher&) = delete;
 
+    /// Appends a part of the content.
     void add(std::string_view part) noexcept;
     /// The hash of all parts so far.
     [[nodiscard]] ContentHash hash() const noexcept;

@@ -12,12 +12,15 @@ namespace meridane {
 /// Finds the hash of a file's content in slices.
 class FileHasher {
 public:
+    /// Whether a slice has left something to read, or the file can't be read.
     enum class State { Working, Done, Failed };
 
+    /// Opens nothing yet: the first `step` does.
     explicit FileHasher(std::string path);
 
     /// Reads on until done or until the budget is spent.
     State step(const WorkBudget& budget);
+    /// The result of the last `step`.
     [[nodiscard]] State state() const noexcept { return m_state; }
     /// The hash, once `Done`.
     [[nodiscard]] ContentHash hash() const noexcept { return m_hasher.hash(); }

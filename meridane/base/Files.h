@@ -46,7 +46,9 @@ public:
 
     /// The result of each operation is the message of the failure, with the file's name, or nothing.
     [[nodiscard]] std::optional<std::string> open(const std::string& path);
+    /// Appends bytes to the new file. Only after `open` has succeeded.
     [[nodiscard]] std::optional<std::string> write(const char* bytes, std::size_t count);
+    /// Syncs the new file to the disk and puts it in the place of the old one. Call it once, as the last operation.
     [[nodiscard]] std::optional<std::string> commit();
 
 private:

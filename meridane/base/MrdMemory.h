@@ -4,6 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 
+/// \file
+/// Requests for memory that are counted and whose failure is reported.
+
 /// The memory that an accounting allocator has allocated and not released. Both counts are signed, since a block may be
 /// allocated with one counter and released with another, or allocated by plain `malloc` and released here.
 struct TMrdMemCnt {

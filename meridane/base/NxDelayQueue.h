@@ -31,6 +31,7 @@ public:
     void schedule(NxDelayQueueSensor* sensor);
     /// Removes a sensor. Does nothing if it isn't in this queue.
     void unschedule(NxDelayQueueSensor* sensor);
+    /// Whether no sensor is queued, those left from a pass included.
     [[nodiscard]] bool isEmpty() const { return m_waiting.empty() && m_running.empty(); }
 
     /// Triggers every sensor that is queued now, each once. Sensors that are scheduled meanwhile wait for the next pass

@@ -9,6 +9,7 @@ public:
     /// The priority of a new sensor.
     static constexpr int defaultPriority = 100;
 
+    /// The sensor isn't queued yet. The data is passed to the callback and stays the caller's.
     explicit NxDelayQueueSensor(NxSensorCallback callback = nullptr, void* data = nullptr);
     /// The sensor leaves the queue.
     ~NxDelayQueueSensor() override;
@@ -28,6 +29,7 @@ public:
 
     /// Any number; the smallest is called first. A scheduled sensor goes to the end of its new priority.
     void setPriority(int priority);
+    /// The priority, `defaultPriority` at first.
     [[nodiscard]] int getPriority() const { return m_priority; }
 
 protected:

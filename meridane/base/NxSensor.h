@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The base of sensors and their callback.
+
 class NxSensor;
 
 /// The function that a sensor calls when it triggers. `data` is the pointer that the sensor was given. The callback may

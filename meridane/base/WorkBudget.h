@@ -7,6 +7,7 @@ namespace meridane {
 /// The time that one slice of a long task may take, measured from construction. Tests pass a clock of their own.
 class WorkBudget {
 public:
+    /// Returns the present time.
     using Clock = std::chrono::steady_clock::time_point (*)();
 
     /// Implicit, so that callers can pass a duration. A budget that ends after the clock's last time never ends.
@@ -17,6 +18,7 @@ public:
     {
     }
 
+    /// Whether the time is over.
     [[nodiscard]] bool isSpent() const { return m_clock() >= m_end; }
 
 private:

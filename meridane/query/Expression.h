@@ -30,9 +30,11 @@ class ExpressionProgram;
 /// that is bounded by the length. Copies share their program and are cheap. Not for several threads at a time.
 class Expression {
 public:
-    static constexpr std::size_t mostBytes = ExpressionContext::mostBytes;
-    static constexpr std::size_t mostBrackets = ExpressionContext::mostBrackets;
+    static constexpr std::size_t mostBytes
+        = ExpressionContext::mostBytes; ///< the length of the longest text that `parse` takes
+    static constexpr std::size_t mostBrackets = ExpressionContext::mostBrackets; ///< how many may be within each other
 
+    /// What an expression is for.
     using Context = ExpressionContext;
 
     /// Reads a text as a whole. The error says what is wrong and what to write instead.
@@ -42,6 +44,7 @@ public:
     [[nodiscard]] const std::string& text() const noexcept;
     /// Whether the value depends on the variables: on any, or on the one of that index.
     [[nodiscard]] bool usesVariables() const noexcept;
+    /// Whether the value depends on the variable with that index in the context.
     [[nodiscard]] bool usesVariable(std::size_t index) const noexcept;
 
     /// The value, with one number for each variable of the context. A result that isn't finite is an error, unless the
@@ -50,6 +53,7 @@ public:
     /// The same with that number for all variables, which are one at most where it matters.
     [[nodiscard]] std::variant<double, QueryError> evaluate(double variable = 0) const;
 
+    /// The first row whose value is an error, and the error.
     using RowFailure = ExpressionRowFailure;
     /// The values of many rows, about as fast as a loop of the library below can be. There is a column for each
     /// variable, as long as `out`; columns of variables that aren't used may be empty. After a failure the contents of

@@ -10,8 +10,8 @@ namespace meridane {
 
 /// What an expression is for.
 struct ExpressionContext {
-    static constexpr std::size_t mostBytes = 4096;
-    static constexpr std::size_t mostBrackets = 64;
+    static constexpr std::size_t mostBytes = 4096; ///< the length of the longest text
+    static constexpr std::size_t mostBrackets = 64; ///< how many may be within each other
 
     /// Names for values that are passed when the expression is evaluated: letters, digits and `_`, the first no digit.
     /// They hide constants and functions of the same name.
@@ -23,8 +23,8 @@ struct ExpressionContext {
 
 /// The first row whose value is an error.
 struct ExpressionRowFailure {
-    std::size_t row = 0;
-    QueryError error;
+    std::size_t row = 0; ///< counted from 0
+    QueryError error; ///< why this row has no value
 };
 
 } // namespace meridane

@@ -15,9 +15,10 @@ enum class SearchedText : std::uint8_t {
 
 /// Bytes of a text in UTF-8, whole characters.
 struct FoundPart {
-    std::size_t start = 0;
-    std::size_t length = 0;
+    std::size_t start = 0; ///< the offset of the first byte
+    std::size_t length = 0; ///< in bytes
 
+    /// Whether start and length are equal.
     bool operator==(const FoundPart&) const = default;
 };
 

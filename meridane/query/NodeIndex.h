@@ -26,13 +26,14 @@ class Journal;
 /// alive.
 class NodeIndex {
 public:
+    /// The number of an entry, from 0.
     using Entry = std::uint32_t;
-    static constexpr Entry none = static_cast<Entry>(-1);
+    static constexpr Entry none = static_cast<Entry>(-1); ///< the number of no entry
 
     /// A further use of a node that is in several places.
     struct Use {
-        Entry node = none;
-        Entry parent = none;
+        Entry node = none; ///< the entry of the node
+        Entry parent = none; ///< the entry of the group that uses it again; `none` for the scene itself
     };
 
     /// The journal of the scene, which must outlive the index. Nothing is read yet.
@@ -42,15 +43,18 @@ public:
     void restart();
     /// Adds the next `count` nodes or uses. Returns false when there are no more.
     bool extend(std::size_t count);
+    /// Whether all nodes are in the index.
     [[nodiscard]] bool isComplete() const noexcept { return m_levels.empty(); }
 
     /// The number of entries so far; entries are numbers below it. A parent precedes its children.
     [[nodiscard]] std::size_t size() const noexcept { return m_size; }
     /// How many there will be at most, as far as that is known now.
     [[nodiscard]] std::size_t mostEntries() const noexcept { return m_entries.size(); }
+    /// The node of an entry, which must be alive.
     [[nodiscard]] const NxNode& node(Entry entry) const { return *chunk(entry).nodes[entry % chunkSize]; }
     /// The entry of the group at the first use; `none` for a top node.
     [[nodiscard]] Entry parent(Entry entry) const { return chunk(entry).parents[entry % chunkSize]; }
+    /// The class of the node.
     [[nodiscard]] NxType type(Entry entry) const { return chunk(entry).types[entry % chunkSize]; }
     /// The name in the form in which names are compared (see `foldText`). Valid until a name changes.
     [[nodiscard]] std::string_view foldedName(Entry entry) const;

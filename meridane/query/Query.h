@@ -42,10 +42,12 @@ struct QueryDraft;
 /// Copies share their words and are cheap. Not for several threads at a time.
 class Query {
 public:
+    /// What the query searches.
     using Subject = QuerySubject;
 
     /// The empty query, which matches everything.
     Query() = default;
+    /// Reads a text as a whole. The error says what is wrong and what to write instead.
     [[nodiscard]] static std::variant<Query, QueryError> parse(std::string_view text, Subject subject = Subject::Scene);
     /// The query of a text that is still being typed.
     [[nodiscard]] static QueryDraft parseDraft(std::string_view text, Subject subject = Subject::Scene);
@@ -59,6 +61,7 @@ public:
 
     /// Of values the first 4 KiB of the text and the first 1,000 texts of a list are searched, but all numbers.
     [[nodiscard]] bool matches(const NxNode& node, const QueryFacts* facts = nullptr) const;
+    /// Whether a field matches; the same limits apply.
     [[nodiscard]] bool matches(const NxField& field, const QueryFacts* facts = nullptr) const;
     /// A node of an index. It is looked into only if the index doesn't have what the query is about.
     [[nodiscard]] bool matches(const NodeIndex& index, std::uint32_t entry, const QueryFacts* facts = nullptr) const;

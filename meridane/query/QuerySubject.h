@@ -13,6 +13,6 @@ enum class QuerySubject : std::uint8_t {
 
 /// The limits of a query: bytes of its text, and brackets within each other.
 inline constexpr std::size_t mostQueryBytes = 4096;
-inline constexpr std::size_t mostQueryBrackets = 64;
+inline constexpr std::size_t mostQueryBrackets = 64; ///< see `mostQueryBytes`
 
 } // namespace meridane

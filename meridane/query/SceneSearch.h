@@ -25,6 +25,7 @@ class QueryFacts;
 /// alive. Thread of the user interface only.
 class SceneSearch {
 public:
+    /// The number of a node in the index.
     using Entry = NodeIndex::Entry;
 
     /// The journal of the scene, which must outlive the search.
@@ -40,13 +41,17 @@ public:
     /// Whether all nodes have been compared with the query, so that all hits are known.
     [[nodiscard]] bool isComplete() const noexcept;
 
+    /// The names and classes of the nodes, as far as they have been read; valid as long as the search.
     [[nodiscard]] const NodeIndex& index() const noexcept { return m_index; }
+    /// The query of the latest `begin`.
     [[nodiscard]] const Query& query() const noexcept { return m_query; }
+    /// The facts of the latest `begin`, or null.
     [[nodiscard]] const QueryFacts* facts() const noexcept { return m_facts.get(); }
     /// The hits so far, in the order of the scene.
     [[nodiscard]] std::span<const Entry> hits() const noexcept { return m_hits; }
     /// How many of them precede that entry.
     [[nodiscard]] std::size_t hitsBefore(Entry entry) const;
+    /// Whether the node is among the hits so far.
     [[nodiscard]] bool isHit(const NxNode& node) const;
     /// Whether there is a hit below the node, in any of its places.
     [[nodiscard]] bool leadsToHit(const NxNode& node) const;

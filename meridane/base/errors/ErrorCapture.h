@@ -13,8 +13,11 @@ namespace meridane {
 /// For captures within captures: the one that began last must end first.
 class ErrorCapture final {
 public:
+    /// The number of error classes.
     static constexpr std::size_t classCount = 6;
+    /// A handler for each class.
     using Callbacks = std::array<NxErrorHandler, classCount>;
+    /// The data of a handler for each class.
     using UserData = std::array<void*, classCount>;
 
     /// Changes no handler yet. The arrays are the caller's and must live as long as this object; from `begin` on they

@@ -14,7 +14,9 @@ namespace meridane {
 template <typename Error, typename Base>
 class ErrorClass : public Base {
 public:
+    /// The run-time type of `Error`.
     [[nodiscard]] NxType getTypeId() const override;
+    /// The run-time type of `Error`. It makes no instances.
     [[nodiscard]] static NxType getClassTypeId();
 
     /// The class's handler, null when there is none.

@@ -5,8 +5,10 @@
 /// A message from the code to its developer or to a curious user: an error, a warning or an information.
 class NxDebugError : public meridane::ErrorClass<NxDebugError, NxError> {
 public:
+    /// The name of the run-time type.
     static constexpr const char* typeName = "DebugError";
 
+    /// How grave the message is.
     enum Severity : int { Error = 0, Warning = 1, Information = 2 };
 
     /// Any other severity counts as an error.
@@ -18,6 +20,7 @@ public:
     /// unknown severity, are errors.
     [[nodiscard]] static Severity severityOf(const NxError& error);
 
+    /// Builds an error and hands it to the handler of this class, at once and on this thread.
     static void post(int severity, const VbString& text);
 
 private:

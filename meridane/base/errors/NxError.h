@@ -11,8 +11,10 @@
 /// "information: ", and the text. Errors may be posted, and handlers set, on any thread.
 class NxError : public meridane::ErrorClass<NxError, NxTypedObject> {
 public:
+    /// The name of the run-time type.
     static constexpr const char* typeName = "Error";
 
+    /// The text is for people.
     explicit NxError(const VbString& text);
 
     /// What happened, for people.

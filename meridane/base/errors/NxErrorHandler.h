@@ -2,6 +2,9 @@
 
 #include <cstdint>
 
+/// \file
+/// The handlers of the error classes.
+
 class NxError;
 
 /// Takes a posted error. It runs on the thread that posts, which may be any; the error lives until it returns. It must
@@ -18,7 +21,9 @@ public:
     ErrorHandlerSlot(const ErrorHandlerSlot&) = delete;
     ErrorHandlerSlot& operator=(const ErrorHandlerSlot&) = delete;
 
+    /// The handler; null for none.
     [[nodiscard]] NxErrorHandler callback() const;
+    /// The data that is passed to the handler; not owned.
     [[nodiscard]] void* data() const;
     /// See `NxError::setHandlerCallback`.
     void set(NxErrorHandler handler, void* data);

@@ -8,7 +8,7 @@ namespace meridane {
 
 /// A class that `NxType::registerClass` refused, since another class has its name.
 struct ClassClash {
-    VbName name;
+    VbName name; ///< the name of both classes
     /// An address in the code that registered the class of that name.
     const void* holder = nullptr;
     /// An address in the code whose class was refused.

@@ -29,6 +29,7 @@ public:
     /// All classes now registered that derive from `type`, itself included, in the order of registration.
     [[nodiscard]] static std::vector<NxType> getAllDerivedFrom(NxType type);
 
+    /// Whether this is the bad type.
     [[nodiscard]] bool isBad() const noexcept { return m_index == 0; }
     /// The name of the class, empty for the bad type.
     [[nodiscard]] VbName getName() const;
@@ -45,6 +46,7 @@ public:
     /// derives from this one. Null for an abstract or bad type.
     [[nodiscard]] void* createInstance(NxType* overrideType) const;
 
+    /// Whether both are the same class; two bad types are equal.
     friend constexpr bool operator==(const NxType&, const NxType&) noexcept = default;
 
 private:

@@ -15,6 +15,7 @@ public:
     /// True when the object's class is `type` or derives from it.
     [[nodiscard]] bool isOfType(const NxType& type) const { return getTypeId().isDerivedFrom(type); }
 
+    /// The run-time type of the root, an abstract one.
     [[nodiscard]] static NxType getClassTypeId();
 
 protected:

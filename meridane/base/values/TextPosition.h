@@ -7,8 +7,8 @@ namespace meridane {
 
 /// A position in a text as people count it: line and column from 1, the column in characters.
 struct TextPosition {
-    int line = 1;
-    int column = 1;
+    int line = 1; ///< from 1
+    int column = 1; ///< from 1, in characters
 };
 
 /// The position of a byte offset in a UTF-8 text. A byte order mark at the start of the text isn't counted. Counts

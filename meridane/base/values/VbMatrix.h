@@ -20,8 +20,10 @@ public:
     {
         return m_rows[row];
     }
+    /// One row, 0 to 3, to be written; unchecked.
     [[nodiscard]] constexpr std::array<float, 4>& operator[](std::size_t row) noexcept { return m_rows[row]; }
 
+    /// Whether all elements are equal; a NaN equals nothing.
     friend constexpr bool operator==(const VbMatrix&, const VbMatrix&) noexcept = default;
 
 private:

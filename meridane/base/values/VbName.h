@@ -18,8 +18,10 @@ public:
 
     /// The interned text, NUL-terminated, valid for the life of the process.
     [[nodiscard]] const char* getString() const noexcept { return m_text; }
+    /// Whether the name has no characters.
     [[nodiscard]] bool isEmpty() const noexcept { return *m_text == '\0'; }
 
+    /// Whether the texts are equal, by comparing two pointers.
     friend bool operator==(const VbName& left, const VbName& right) noexcept { return left.m_text == right.m_text; }
 
 private:

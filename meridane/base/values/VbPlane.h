@@ -11,9 +11,12 @@ public:
     /// not finite, so that a written plane reads back unchanged.
     VbPlane(const VbVec3f& normal, float distance) noexcept;
 
+    /// The normal, of length 1 unless it was given with length 0 or with components that aren't finite.
     [[nodiscard]] const VbVec3f& getNormal() const noexcept { return m_normal; }
+    /// The distance along the normal; negative if the normal points from the plane to the origin.
     [[nodiscard]] float getDistanceFromOrigin() const noexcept { return m_distance; }
 
+    /// Whether normal and distance are equal; a NaN equals nothing.
     friend bool operator==(const VbPlane&, const VbPlane&) noexcept = default;
 
 private:

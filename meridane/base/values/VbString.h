@@ -20,12 +20,17 @@ public:
     explicit VbString(std::string_view utf8);
     /// The same without a copy.
     explicit VbString(std::string&& utf8);
+    /// Copies the text and the null state.
     VbString(const VbString& other);
+    /// Takes over the text; the other string is empty afterwards.
     VbString(VbString&& other) noexcept;
     ~VbString();
 
+    /// Takes NUL-terminated UTF-8; a null pointer makes the string null.
     VbString& operator=(const char* utf8);
+    /// Copies the text and the null state.
     VbString& operator=(const VbString& other);
+    /// Exchanges text and null state with the other string.
     VbString& operator=(VbString&& other) noexcept;
 
     /// The length in UTF-16 code units, which is what `toUtf16` spans.

@@ -11,6 +11,6 @@ struct NxCheckOptions {
     static constexpr int usualLights = 32;
 
     NxFileFinder findFile; ///< null: files aren't checked
-    int maxImageSide = usualImageSide;
-    int maxLights = usualLights;
+    int maxImageSide = usualImageSide; ///< in pixels; a wider or higher image is a problem
+    int maxLights = usualLights; ///< more lights that shine on a mesh are a problem
 };

@@ -31,6 +31,7 @@ struct PlaceChange;
 /// in proportion to the number of nodes and of their values, each counted once however often it is used.
 class NxSceneCheck {
 public:
+    /// Whether a slice has left something to check.
     enum class State { Working, Done };
 
     /// `scene` is the group that holds the top nodes; its own name and fields aren't checked. It is held, and so are
@@ -70,6 +71,7 @@ public:
     /// `report` returns whether to go on, and must not change the scene. The second argument has the indices that lead
     /// to the problem's node: of a child of the scene, of a child of that, and so on.
     using Report = std::function<bool(const NxSceneProblem& problem, std::span<const int> places)>;
+    /// Calls `report` for each problem. Only when the state is `Done` are these all.
     void reportAll(const Report& report) const;
     /// The indices that lead to the node of a problem; none if it isn't in the scene any more.
     [[nodiscard]] std::vector<int> placesOf(const NxSceneProblem& problem) const;

@@ -28,6 +28,7 @@ public:
         ByJournal, ///< only a journal that records, so that nothing is kept twice
     };
 
+    /// Nothing is changed yet.
     explicit NxSceneMend(Undo undo = Undo::ByMend);
     ~NxSceneMend();
     NxSceneMend(const NxSceneMend&) = delete;

@@ -16,9 +16,10 @@ class NxField;
 ///
 /// It keeps its nodes alive, even if they are taken out of the scene.
 struct NxSceneProblem {
-    NxProblemKind kind = NxProblemKind::NotFinite;
+    NxProblemKind kind = NxProblemKind::NotFinite; ///< what is wrong
     /// Whether `NxSceneMend` can mend this one.
     bool isMendable = false;
+    /// The node with the problem. Never null in the problems of a check.
     NxRef<NxNode> node;
     /// The group that has the node among its children, for problems of siblings; otherwise null.
     NxRef<NxGroup> group;
@@ -32,6 +33,7 @@ struct NxSceneProblem {
     std::size_t limit = 0; ///< what the number is compared with, such as the number of positions
     std::string detail; ///< the part of the sentence that isn't a number, such as a file name
 
+    /// What all problems of this kind have in common.
     [[nodiscard]] const meridane::ProblemClass& about() const noexcept { return meridane::problemClass(kind); }
     /// The problem in one sentence of plain words, in UTF-8. Names from the scene are shortened.
     [[nodiscard]] std::string sentence() const;
@@ -41,10 +43,10 @@ namespace meridane {
 
 /// What the text of a problem says besides its kind; the members are those of `NxSceneProblem`.
 struct ProblemFacts {
-    std::size_t count = 1;
-    std::size_t total = 1;
-    std::size_t limit = 0;
-    std::string_view detail = {};
+    std::size_t count = 1; ///< how many numbers, rows or siblings have the problem
+    std::size_t total = 1; ///< out of how many
+    std::size_t limit = 0; ///< what the number is compared with
+    std::string_view detail = {}; ///< the part that isn't a number; it must outlive the call
     bool isShared = false; ///< by many siblings, as one problem
 };
 

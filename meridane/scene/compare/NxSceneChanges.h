@@ -14,23 +14,23 @@ class NxSceneChanges {
 public:
     /// What changes in one node.
     struct NodeChange {
-        NxRef<NxNode> node;
+        NxRef<NxNode> node; ///< the changed node, which stays the same object
         /// Has the name and the values that the node is to get; null if they stay.
         NxRef<NxNode> other;
-        bool isRenamed = false;
+        bool isRenamed = false; ///< whether it also gets the name of `other`
         std::vector<int> fields; ///< those with another value or ignored flag, by their index in the class
     };
     /// Some children of a group: those after the first `before` and before the last `after`.
     struct ChildrenChange {
-        NxRef<NxGroup> group;
-        int before = 0;
-        int after = 0;
+        NxRef<NxGroup> group; ///< the group whose list changes
+        int before = 0; ///< how many children at the start stay
+        int after = 0; ///< how many children at the end stay
         std::vector<NxRef<NxNode>> children; ///< that the group is to get there
     };
     /// A node, and the one that takes its place since it is of another class or has other unknown fields.
     struct Replacement {
-        NxRef<NxNode> node;
-        NxRef<NxNode> other;
+        NxRef<NxNode> node; ///< the node of the scene
+        NxRef<NxNode> other; ///< the node of the other scene
     };
 
     /// Whether the scenes were equal.
@@ -49,8 +49,11 @@ public:
     [[nodiscard]] std::vector<NxRef<NxNode>> nodes() const;
 
     // For the update.
+    /// Adds a change of a node, before the first `exchange` or `apply`.
     void add(NodeChange change) { m_nodes.push_back(std::move(change)); }
+    /// Adds a change of a list of children, before the first `exchange` or `apply`.
     void add(ChildrenChange change) { m_children.push_back(std::move(change)); }
+    /// Notes which node takes the place of another one. The changes of children do the replacing.
     void add(Replacement replacement) { m_replacements.push_back(std::move(replacement)); }
 
 private:

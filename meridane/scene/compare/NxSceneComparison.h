@@ -29,6 +29,7 @@ class ComparisonWork;
 /// again if the structure of any scene has changed, and compares values as they are when it gets to them.
 class NxSceneComparison {
 public:
+    /// Whether a slice has left something to compare.
     enum class State { Working, Done };
 
     /// The scenes are the groups that hold the top nodes; their own names and fields aren't compared. They are held.

@@ -12,7 +12,7 @@ struct NxComparedNode {
     NxRef<NxNode> left; ///< null for a node that only the right scene has
     NxRef<NxNode> right; ///< null for a node that only the left scene has
     std::string leftPath; ///< as `NxScenePath` makes it; empty where there is no node
-    std::string rightPath;
+    std::string rightPath; ///< the path in the right scene; empty where there is no node
     /// The group of the left scene that corresponds to the one to which a node was added; null for the scene itself and
     /// for other differences.
     NxRef<NxNode> group;
@@ -20,6 +20,7 @@ struct NxComparedNode {
 
 /// One difference between two scenes.
 struct NxSceneDifference {
+    /// What differs.
     enum class Kind : std::uint8_t {
         Added, ///< a node that only the right scene has, with all that is in it
         Removed, ///< a node that only the left scene has, with all that is in it
@@ -36,19 +37,19 @@ struct NxSceneDifference {
 
     /// A field of a node.
     struct Field {
-        static constexpr std::int32_t none = -1;
+        static constexpr std::int32_t none = -1; ///< the index where there is no field
 
         std::int32_t index = none; ///< in the class, or among the unknown fields
-        bool isUnknown = false;
+        bool isUnknown = false; ///< whether `index` counts the unknown fields
     };
 
-    Kind kind;
+    Kind kind; ///< what differs
     std::uint32_t node; ///< an index into `NxSceneDifferences::nodes`
     /// The field in each scene, for `Value` and `Ignored`.
     Field left{};
-    Field right{};
+    Field right{}; ///< see `left`
     /// For `Added` and `Removed`, the number of nodes; for `Reordered`, the places among the siblings, from 0; for
     /// `Sharing`, indices of texts.
     std::uint32_t leftNumber = 0;
-    std::uint32_t rightNumber = 0;
+    std::uint32_t rightNumber = 0; ///< see `leftNumber`
 };

@@ -17,16 +17,21 @@ class NxField;
 /// for: after a change of a scene they are the new ones. Thread of the user interface only.
 class NxSceneDifferences {
 public:
+    /// What differs.
     using Kind = NxSceneDifference::Kind;
+    /// One of the two scenes.
     enum class Side { Left, Right };
     /// For texts that aren't shortened.
     static constexpr std::size_t whole = std::string::npos;
 
+    /// The differences in their order; valid as long as this object.
     [[nodiscard]] const std::deque<NxSceneDifference>& list() const noexcept { return m_list; }
+    /// The node or pair of nodes that a difference is about, one of `nodes`.
     [[nodiscard]] const NxComparedNode& node(const NxSceneDifference& difference) const
     {
         return m_nodes[difference.node];
     }
+    /// All nodes in which the scenes differ. `NxSceneDifference::node` is an index into it.
     [[nodiscard]] const std::deque<NxComparedNode>& nodes() const noexcept { return m_nodes; }
 
     /// One word for the kind of a difference, such as "added" or "value".
@@ -46,9 +51,13 @@ public:
     [[nodiscard]] std::string text(const NxSceneDifference& difference, Side side, std::size_t length = whole) const;
 
     // For the comparison.
+    /// Adds a node and returns its index.
     std::uint32_t addNode(NxComparedNode node);
+    /// Appends a difference of a node that was added before.
     void add(const NxSceneDifference& difference) { m_list.push_back(difference); }
+    /// Adds a text, such as a path, and returns its index, for `leftNumber` and `rightNumber` of a difference.
     std::uint32_t addText(std::string text);
+    /// A node that was added before, to complete it. The index isn't checked.
     [[nodiscard]] NxComparedNode& nodeAt(std::size_t index) { return m_nodes[index]; }
 
 private:

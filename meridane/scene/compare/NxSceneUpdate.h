@@ -22,6 +22,7 @@ class UpdateWork;
 /// know. Thread of the user interface only.
 class NxSceneUpdate {
 public:
+    /// Whether a slice has left something to compare.
     enum class State { Working, Done };
 
     /// The scenes are the groups that hold the top nodes. They are held.

@@ -17,6 +17,7 @@ namespace meridane {
 /// A field that is passed must be one for which `of` returns this object.
 class FieldComponents {
 public:
+    /// The type of a component. The integers have 16 bits (`Short`, `UShort`) or 32; a `Flag` is 0 or 1.
     enum class Number : std::uint8_t { Float, Double, Short, UShort, Int, UInt, Flag };
 
     FieldComponents(const FieldComponents&) = delete;
@@ -39,7 +40,7 @@ public:
     [[nodiscard]] virtual Number number() const noexcept = 0;
     /// The least and the greatest finite number of that type.
     [[nodiscard]] virtual double lowest() const noexcept = 0;
-    [[nodiscard]] virtual double highest() const noexcept = 0;
+    [[nodiscard]] virtual double highest() const noexcept = 0; ///< see `lowest`
     /// Whether the type has whole numbers only.
     [[nodiscard]] bool isWhole() const noexcept { return number() != Number::Float && number() != Number::Double; }
     /// Why a component can't have that number, in plain words: it isn't whole, out of range or not finite. Nothing if

@@ -17,6 +17,7 @@ class ChildrenPlan {
 public:
     /// Lets children leave their groups. `rows` is rising.
     void remove(NxGroup& group, std::span<const int> rows);
+    /// Lets all children of a set leave their groups.
     void remove(const NodeSet& set);
     /// Lets nodes come into a group before the child with that index, 0 to the number of children. Nodes that were
     /// planned for the same place earlier come before these. No node may be or contain the group when all is done.

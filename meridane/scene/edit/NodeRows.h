@@ -12,6 +12,7 @@ struct NodeRows {
     std::vector<int> places; ///< for each group of the path but the first its index in the group above
     std::vector<int> rows; ///< the indices of the children, rising, each once
 
+    /// The group of the children, the last one of the path, which must not be empty.
     [[nodiscard]] NxGroup& group() const { return *path.back(); }
     /// The first of the children; there must be one.
     [[nodiscard]] NxNode& first() const { return *group().getChild(rows.front()); }
@@ -22,9 +23,10 @@ using NodeSet = std::vector<NodeRows>;
 
 /// A child of one of the groups of a set.
 struct SetMember {
-    const NodeRows* rows;
-    int row;
+    const NodeRows* rows; ///< an element of the set, which must outlive this
+    int row; ///< one of its rows: the index in the group
 
+    /// The child itself. The row must exist.
     [[nodiscard]] NxNode* node() const { return rows->group().getChild(row); }
 };
 
@@ -35,6 +37,7 @@ struct SetMember {
 [[nodiscard]] NodeSet topmost(NodeSet set);
 /// The children in the order in which a tree of the scene shows them. The set must live as long.
 [[nodiscard]] std::vector<SetMember> inTreeOrder(const NodeSet& set);
+/// The number of children in a set; those of a group that is in it twice count twice.
 [[nodiscard]] std::size_t countOf(const NodeSet& set);
 
 } // namespace meridane

@@ -21,6 +21,7 @@ public:
     ChangeRecord& operator=(const ChangeRecord&) = delete;
     virtual ~ChangeRecord();
 
+    /// What the place of this record is.
     [[nodiscard]] Kind kind() const noexcept { return m_kind; }
     /// The node that the place belongs to.
     [[nodiscard]] NxFieldContainer& node() const noexcept { return *m_node; }
@@ -35,7 +36,7 @@ public:
     [[nodiscard]] virtual bool isSameAsNow() const = 0;
     /// Which rows of a list or children of a group the place consists of.
     struct Extent {
-        std::size_t start = 0;
+        std::size_t start = 0; ///< the first of them, counted from 0
         std::size_t present = 0; ///< how many they are in the scene; for a list only while it isn't being written
         std::size_t recorded = 0; ///< how many they are in the recorded state
     };
@@ -62,6 +63,7 @@ public:
     virtual void close() noexcept { }
 
 protected:
+    /// Holds a reference to the node until the record is destroyed.
     ChangeRecord(Kind kind, NxFieldContainer& node)
         : m_node(&node)
         , m_kind(kind)

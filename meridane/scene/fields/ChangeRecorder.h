@@ -45,24 +45,30 @@ protected:
     ChangeRecorder() = default;
     virtual ~ChangeRecorder() = default;
 
+    /// Attaches a recorder in place of the present one; null for none. It must be detached before it is destroyed.
     static void attach(ChangeRecorder* recorder) noexcept { s_attached = recorder; }
 
     /// The number that the recorder gave a node; 0 for none.
     [[nodiscard]] static std::uint32_t numberOf(const NxFieldContainer& node) noexcept;
+    /// Gives a node a number below 2^31 of the recorder's choice; 0 takes it away.
     static void setNumber(NxFieldContainer& node, std::uint32_t number) noexcept;
 
     /// What the recorder has of a field or a node from before the present step, so that further writes make no records.
     struct Marks {
-        bool value = false;
-        bool ignored = false;
-        bool name = false;
+        bool value = false; ///< the whole value, or the whole list, is recorded
+        bool ignored = false; ///< the ignored flag is recorded
+        bool name = false; ///< the name is recorded
 
+        /// Whether there is no record of the field or node.
         [[nodiscard]] bool isEmpty() const noexcept { return !value && !ignored && !name; }
     };
+    /// What the recorder has of the value and of the ignored flag.
     [[nodiscard]] static Marks marksOf(const NxField& field) noexcept;
+    /// Whether the recorder has the name.
     [[nodiscard]] static Marks marksOf(const NxFieldContainer& node) noexcept;
     /// Removes the marks: the next write makes a record again.
     static void removeMarks(NxField& field) noexcept;
+    /// Removes the mark of the name.
     static void removeMarks(NxFieldContainer& node) noexcept;
 
 private:

@@ -34,7 +34,9 @@ public:
         m_facts.softMaximum = std::min(m_facts.softMaximum, m_facts.hardMaximum);
     }
 
+    /// The name of the field, a literal.
     [[nodiscard]] constexpr const char* name() const noexcept { return m_name; }
+    /// The facts, with the soft range within the hard one.
     [[nodiscard]] constexpr const NxFieldFacts& facts() const noexcept { return m_facts; }
 
     /// The same declaration of a field whose text is the path of a file.

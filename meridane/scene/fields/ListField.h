@@ -32,6 +32,7 @@ public:
         assert(canHave(m_values.size()) && "rows are counted by int");
     }
 
+    /// The number of rows.
     [[nodiscard]] int getNum() const final { return static_cast<int>(m_values.size()); }
     /// One value, of a row that exists.
     [[nodiscard]] Read operator[](int index) const
@@ -71,22 +72,36 @@ public:
     /// reported.
     bool replaceRows(int start, int count, std::span<const Value> rows);
 
+    /// Compares by the bits of the values, from the first row on.
     [[nodiscard]] int firstDifferentRow(const NxField& other) const override;
+    /// Writes the text of one value; the empty text for a row that doesn't exist.
     void get1(int index, VbString& text) const override;
+    /// Removes rows and notifies the observers once; -1 as `count` removes all rows from `start` on.
     void deleteValues(int start, int count) override;
+    /// Inserts rows with the value `Value()`, such as 0, and notifies the observers once.
     void insertSpace(int start, int count) override;
+    /// The size of `Value` for lists of plain numbers, whose text has no format of its own; otherwise 0.
     [[nodiscard]] std::size_t plainRowBytes() const noexcept override;
+    /// Appends the bytes of rows as they are in memory.
     void appendPlainRows(std::string& bytes, int start, int count) const override;
+    /// Replaces rows by bytes that `appendPlainRows` has written, and notifies the observers once.
     bool replacePlainRows(int start, int count, std::string_view bytes) override;
 
+    /// Whether the other list is of this class and has as many rows with the same bits.
     [[nodiscard]] bool isSame(const NxField& other) const override;
+    /// Copies all rows of a list of this class and notifies the observers once.
     bool copyFrom(const NxField& other) override;
+    /// The size of all values, with the memory that they own, in bytes.
     [[nodiscard]] std::size_t valueBytes() const override;
+    /// Reads about `budget` rows at each call.
     Progress readText(TextReader& reader, bool first, std::size_t budget) override;
+    /// Appends about `budget` rows at each call, `[` and `]` around them, with commas between them.
     bool writeText(std::string& text, std::size_t& position, std::size_t budget) const override;
+    /// A record with a copy of all rows.
     [[nodiscard]] std::unique_ptr<ChangeRecord> recordOfValue() override;
 
 protected:
+    /// What reads and writes the text of a value, such as the names of an enumeration.
     [[nodiscard]] const Format& format() const noexcept { return m_format; }
     /// `insertSpace` with copies of a value.
     void insertCopies(int start, int count, const Value& value);

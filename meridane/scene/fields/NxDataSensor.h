@@ -6,6 +6,7 @@
 /// follow before the queue is processed; so its callback never runs inside the call that made the change.
 class NxDataSensor : public NxDelayQueueSensor {
 public:
+    /// Takes the callback and its data, or none.
     using NxDelayQueueSensor::NxDelayQueueSensor;
 
     /// Called on each change of the watched object: schedules the sensor. An override must not attach,

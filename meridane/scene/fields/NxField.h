@@ -9,6 +9,9 @@
 #include <memory>
 #include <string>
 
+/// \file
+/// The base of field classes, and the macros with which a class is declared and registered.
+
 class NxFieldContainer;
 class NxFieldSensor;
 class VbString;
@@ -28,6 +31,7 @@ class TextReader;
 /// the node sensors of its container. Thread of the user interface only.
 class NxField : public NxTypedObject {
 public:
+    /// The run-time type of all fields, an abstract one.
     [[nodiscard]] static NxType getClassTypeId();
     ~NxField() override;
 
@@ -36,10 +40,12 @@ public:
     /// Sets the value from its text form. A text that doesn't parse as a whole changes nothing, notifies nobody and
     /// returns false.
     bool set(const VbString& text);
+    /// The same for NUL-terminated UTF-8.
     bool set(const char* text);
 
     /// Sets the ignored flag: whether the scene ignores the value. Observers are notified if the flag changes.
     void setIgnored(int flag);
+    /// Whether the scene ignores the value, so that the default applies.
     [[nodiscard]] bool isIgnored() const noexcept { return m_ignored; }
 
     /// The node that owns the field, or null.

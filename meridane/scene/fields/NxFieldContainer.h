@@ -24,12 +24,15 @@ class NameRecord;
 /// A new container has no reference; the last `unref` deletes it. Thread of the user interface only.
 class NxFieldContainer : public NxTypedObject {
 public:
+    /// The run-time type of all containers, an abstract one.
     [[nodiscard]] static NxType getClassTypeId();
     [[nodiscard]] NxType getTypeId() const override { return getClassTypeId(); }
 
+    /// Adds a reference. Const, since references are no part of the node's state.
     void ref() const noexcept { ++m_references; }
     /// Releases a reference; the last one deletes the container.
     void unref() const;
+    /// The number of references; 0 for a new container.
     [[nodiscard]] int getRefCount() const noexcept { return m_references; }
 
     /// The node's own name, which need not be unique; empty for none.
@@ -49,11 +52,13 @@ public:
 
     /// An unknown field: read from a file and written back unchanged.
     struct UnknownField {
-        std::string name;
-        std::string text;
-        bool ignored = false;
+        std::string name; ///< the name of the field, as in the file
+        std::string text; ///< the text of the value, as in the file
+        bool ignored = false; ///< whether the file marks the field as ignored
     };
+    /// Adds an unknown field behind the others. Nobody is notified.
     void addUnknownField(UnknownField field);
+    /// The unknown fields in the order of the file; valid until one is added.
     [[nodiscard]] const std::vector<UnknownField>& getUnknownFields() const noexcept;
 
     /// A number that changes whenever a node is renamed or a list of children changes, in any scene. Caches that depend

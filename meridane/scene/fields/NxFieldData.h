@@ -24,6 +24,7 @@ public:
     NxFieldData(const NxFieldData&) = delete;
     NxFieldData& operator=(const NxFieldData&) = delete;
 
+    /// The number of fields, those of base classes included.
     [[nodiscard]] int getNumFields() const noexcept { return static_cast<int>(m_fields.size()); }
     /// The position of the field in the container, or -1 when it is none of its fields.
     [[nodiscard]] int getIndex(const NxFieldContainer* container, const NxField* field) const;

@@ -11,6 +11,7 @@
 /// Rows are counted from 0. The values lie next to each other in memory.
 class NxMField : public NxField {
 public:
+    /// The run-time type of all lists, an abstract one.
     [[nodiscard]] static NxType getClassTypeId();
 
     /// The greatest number of values in a list: 2^31 - 1, since rows are counted by `int`. A change that would exceed
@@ -29,6 +30,7 @@ public:
     /// Sets one value from its text form. Changes nothing and returns false if the text doesn't parse as a whole or the
     /// row doesn't exist.
     bool set1(int index, const VbString& text);
+    /// The same for NUL-terminated UTF-8.
     bool set1(int index, const char* text);
 
     /// Notifies the observers that `count` values from `start` on changed; `resized` is 1 if their number may have

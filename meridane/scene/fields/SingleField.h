@@ -26,6 +26,7 @@ public:
     {
     }
 
+    /// The value; a reference is valid as long as the field. It has the value even while the field is ignored.
     [[nodiscard]] Read getValue() const noexcept { return m_value; }
     /// Sets the value and notifies the observers, even if the value is the same.
     void setValue(Read value)
@@ -35,14 +36,21 @@ public:
         touch();
     }
 
+    /// Whether the other field is of this class and its value has the same bits.
     [[nodiscard]] bool isSame(const NxField& other) const override;
+    /// Copies the value of a field of this class and notifies the observers.
     bool copyFrom(const NxField& other) override;
+    /// The size of the value, with the memory that it owns, in bytes.
     [[nodiscard]] std::size_t valueBytes() const override;
+    /// Reads the value in one call, or in several if the slices of the reader interrupt it.
     Progress readText(TextReader& reader, bool first, std::size_t budget) override;
+    /// Appends the value in one call; a long text takes several.
     bool writeText(std::string& text, std::size_t& position, std::size_t budget) const override;
+    /// A record with a copy of the value.
     [[nodiscard]] std::unique_ptr<ChangeRecord> recordOfValue() override;
 
 protected:
+    /// What reads and writes the text of the value, such as the names of an enumeration.
     [[nodiscard]] const Format& format() const noexcept { return m_format; }
 
 private:

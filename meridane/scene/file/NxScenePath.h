@@ -23,6 +23,7 @@ public:
         /// What is wrong with the path and where it stopped; empty if it has a target.
         std::string error;
 
+        /// The last node of the path; null for the scene itself and for a path without a target.
         [[nodiscard]] NxNode* node() const noexcept { return nodes.empty() ? nullptr : nodes.back(); }
     };
 

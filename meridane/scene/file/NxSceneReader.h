@@ -26,6 +26,7 @@ public:
     /// The greatest depth of nested nodes.
     static constexpr int maxDepth = meridane::maxSceneDepth;
 
+    /// Whether a slice has left something to read, or the text was refused.
     enum class State { Working, Done, Failed };
 
     /// `text` is the whole content of the file, `fileName` the name for messages.
@@ -39,6 +40,7 @@ public:
     State step(const meridane::WorkBudget& budget);
     /// Reads to the end.
     State run();
+    /// The result of the last `step`.
     [[nodiscard]] State state() const noexcept;
     /// The fraction of the text read so far, 0 to 1.
     [[nodiscard]] double progress() const noexcept;

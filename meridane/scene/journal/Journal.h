@@ -40,8 +40,10 @@ public:
     /// they are. `tree` is a journal of it whose `run` has ended; the tree must not have changed its structure since.
     /// May throw `std::bad_alloc`, then nothing has changed.
     void adopt(const Journal& tree);
+    /// Whether this is the journal that records.
     [[nodiscard]] bool isRecording() const noexcept { return attached() == this; }
 
+    /// The group that holds the top nodes.
     [[nodiscard]] NxGroup& scene() const noexcept { return *m_scene; }
     /// How many numbers have been given.
     [[nodiscard]] std::size_t nodeCount() const noexcept { return m_nodes.size(); }
@@ -52,11 +54,13 @@ public:
 
     /// The listener is informed of changes from now on, until it is removed. It must outlive that.
     void addListener(JournalListener& listener);
+    /// Informs the listener no more. Not from within a call of a listener.
     void removeListener(JournalListener& listener) noexcept;
     /// Of further writes to a place within a step, listeners hear only of the first. Call this to be informed of the
     /// next write to the field again, or to the name of the node; the step takes no second record for that. The node
     /// must be followed. May throw `std::bad_alloc`, then nothing has changed.
     void reportAgain(NxField& field);
+    /// The same for the name of a node.
     void reportAgain(NxFieldContainer& node);
     /// The same for all places that were written since the last step.
     void reportAllAgain();

@@ -12,20 +12,21 @@ namespace meridane {
 
 /// A change of one place of a scene.
 struct PlaceChange {
+    /// Why a place changes.
     enum class Cause : std::uint8_t {
         Write, ///< somebody writes to the place
         Exchange, ///< a step is undone or redone
     };
 
-    Cause cause = Cause::Write;
-    ChangeRecord::Kind kind = ChangeRecord::Kind::Value;
-    NxFieldContainer* node = nullptr;
+    Cause cause = Cause::Write; ///< why the place changes
+    ChangeRecord::Kind kind = ChangeRecord::Kind::Value; ///< what the place is
+    NxFieldContainer* node = nullptr; ///< the node that the place belongs to
     NxField* field = nullptr; ///< null for a name and for children
     /// For rows and children, from which one on how many are replaced by how many others. For the value of a list,
     /// `removed` is the number of its rows; how many it gets is unknown.
     std::size_t start = 0;
-    std::size_t removed = 0;
-    std::size_t inserted = 0;
+    std::size_t removed = 0; ///< how many are replaced
+    std::size_t inserted = 0; ///< by how many others
 };
 
 /// Is informed by a journal of what happens in its scene. Thread of the user interface only.

@@ -13,11 +13,14 @@ namespace meridane {
 /// Thread of the user interface only.
 class JournalStep {
 public:
+    /// Records in the order of the writes.
     using Records = std::vector<std::unique_ptr<ChangeRecord>>;
 
     /// The records in the order of the writes, at least one.
     explicit JournalStep(Records records);
+    /// Takes over the records; the other step may only be destroyed or assigned to.
     JournalStep(JournalStep&&) noexcept = default;
+    /// Takes over the records and destroys the present ones; the other step may only be destroyed or assigned to.
     JournalStep& operator=(JournalStep&&) noexcept = default;
     ~JournalStep();
 

@@ -15,6 +15,7 @@ public:
     /// The change replaces the children `replaced`, which begin at `start`, by `count` others.
     ChildrenRecord(NxGroup& group, std::size_t start, std::size_t count, std::span<NxNode* const> replaced);
 
+    /// The group whose children changed.
     [[nodiscard]] NxGroup& group() const noexcept { return static_cast<NxGroup&>(node()); }
     /// The children that the group has had in place of those that it has now, and would have again.
     [[nodiscard]] std::span<const NxRef<NxNode>> otherChildren() const noexcept { return m_children; }

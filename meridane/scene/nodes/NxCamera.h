@@ -9,6 +9,7 @@
 /// y upwards.
 class NxCamera : public NxNode {
 public:
+    /// The run-time type of both kinds of camera, an abstract one.
     [[nodiscard]] static NxType getClassTypeId();
     [[nodiscard]] NxType getTypeId() const override { return getClassTypeId(); }
 

@@ -19,6 +19,7 @@ class NxGroup : public NxNode {
 public:
     [[nodiscard]] std::span<NxNode* const> getChildren() const override;
 
+    /// The number of children; a node that is a child twice counts twice.
     [[nodiscard]] int getNumChildren() const noexcept { return static_cast<int>(m_children.size()); }
     /// The child at that index, or null when there is none.
     [[nodiscard]] NxNode* getChild(int index) const;
@@ -35,6 +36,8 @@ public:
     bool insertChild(NxNode* node, int index);
     /// Removes the child at that index and releases the reference to it. Returns false for an index out of range.
     bool removeChild(int index);
+    /// Removes all children as one change and releases the references to them. Does nothing for a group without
+    /// children.
     void removeAllChildren();
     /// Replaces `count` children from that index on by other nodes, as one change. Returns false and changes nothing if
     /// there are no such children, and if one of the nodes is null, this group, or a node that contains this group.

@@ -8,6 +8,7 @@
 /// A source of light for what follows in its group. The base of the three kinds.
 class NxLight : public NxNode {
 public:
+    /// The run-time type of the three kinds of light, an abstract one.
     [[nodiscard]] static NxType getClassTypeId();
     [[nodiscard]] NxType getTypeId() const override { return getClassTypeId(); }
 

@@ -5,9 +5,13 @@
 
 #include <span>
 
+/// \file
+/// The base of node classes, and the macros with which a class is declared and registered.
+
 /// A node of the scene graph. A node may be used in several places of the graph.
 class NxNode : public NxFieldContainer {
 public:
+    /// The run-time type of all nodes, an abstract one.
     [[nodiscard]] static NxType getClassTypeId();
     [[nodiscard]] NxType getTypeId() const override { return getClassTypeId(); }
 
@@ -26,16 +30,18 @@ namespace meridane {
 
 /// What a node class says of itself.
 struct ClassTexts {
-    const char* name;
-    const char* description = "";
+    const char* name; ///< the name of the class in files, such as "Material"; a literal
+    const char* description = ""; ///< what the class is: one sentence with a full stop, or empty; a literal
 };
 
+/// A new node without a reference, for the registry of classes.
 template <typename Node>
 NxTypedObject* createNode()
 {
     return new Node;
 }
 
+/// A new node without a reference, for the description of its fields.
 template <typename Node>
 NxFieldContainer* createFieldContainer()
 {
@@ -53,8 +59,9 @@ public:                                                                         
                                                                                                                        \
 private:
 
-/// A line in the source file of a node class: `NX_NODE_SOURCE(NxSwitch, NxGroup, "Switch", "A group that shows one of
-/// its children.")`. The description, one sentence with a full stop, may be left out. The class is registered when the
+/// A line in the source file of a node class, such as
+/// `NX_NODE_SOURCE(NxSwitch, NxGroup, "Switch", "A group that shows one of its children.")`: the class, its parent, its
+/// name and a description, one sentence with a full stop, which may be left out. The class is registered when the
 /// library that holds it is loaded. For scene files, the name of the class and those of its fields consist of letters,
 /// digits and `_`, the first no digit, and the class isn't called `use` or `ignored`.
 #define NX_NODE_SOURCE(Class, Parent, ...)                                                                             \

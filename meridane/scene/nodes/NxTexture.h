@@ -24,6 +24,7 @@ public:
                     ///< outwards
         METAL_ROUGHNESS = 2, ///< blue is multiplied with the metalness of the material, green with its roughness
     };
+    /// The number of roles; their values are below it.
     static constexpr std::size_t roleCount = 3;
 
     NxSFFilePathString filePath{this,

@@ -26,6 +26,7 @@ class Journal;
 /// `run` when the scene has changed. Thread of the user interface only.
 class RecoveryCapture {
 public:
+    /// Returns the present time. Tests pass a clock of their own.
     using Clock = std::chrono::system_clock::time_point (*)();
 
     /// With `Base::File` the scene must be as a reader of that file gives it, which isn't so if the writer of the file

@@ -18,6 +18,7 @@ namespace meridane {
 /// is left out. docs/recovery-format.md describes the format. May be used on any thread, by one at a time.
 class RecoveryFileReader {
 public:
+    /// Whether a slice has left something to read, or nothing can be recovered.
     enum class State : std::uint8_t { Working, Done, Failed };
 
     /// `bytes` is the whole content of the file.
@@ -29,6 +30,7 @@ public:
     State step(const WorkBudget& budget);
     /// Reads to the end.
     State run();
+    /// The result of the last `step`.
     [[nodiscard]] State state() const noexcept { return m_state; }
     /// Why nothing can be recovered from the file, in some words that fit after its name and a colon. Empty unless
     /// `Failed`.
@@ -36,6 +38,7 @@ public:
 
     /// Whether the file's beginning was readable, so that there is a description, even if the state is `Failed`.
     [[nodiscard]] bool hasDescription() const noexcept { return m_hasDescription; }
+    /// What the file belongs to. Only if `hasDescription`.
     [[nodiscard]] const RecoveryDescription& description() const noexcept { return m_description; }
     /// The latest commit. Only if the state is `Done`, as are the functions below.
     [[nodiscard]] const RecoveryCommit& commit() const noexcept { return m_commit; }

@@ -20,6 +20,7 @@ class RecoveryFileReader;
 /// than when they were captured, since the result could be another scene. Thread of the user interface only.
 class RecoveryReplay {
 public:
+    /// Whether a slice has left operations, or the scene can't be recovered.
     enum class State : std::uint8_t { Working, Done, Failed };
 
     /// `file` must be `Done` and outlive the replay. `base` is the scene that a reader of the file gave whose name,
@@ -33,6 +34,7 @@ public:
     State step(const WorkBudget& budget);
     /// Replays to the end.
     State run();
+    /// The result of the last `step`.
     [[nodiscard]] State state() const noexcept { return m_state; }
     /// The fraction of the operations that are done, 0 to 1.
     [[nodiscard]] double progress() const noexcept;

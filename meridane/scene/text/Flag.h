@@ -6,10 +6,12 @@ namespace meridane {
 class Flag {
 public:
     constexpr Flag() noexcept = default;
+    /// A flag with that state.
     constexpr Flag(bool set) noexcept // NOLINT(google-explicit-constructor): it replaces bool everywhere
         : m_set(set)
     {
     }
+    /// The state of the flag.
     constexpr operator bool() const noexcept { return m_set; } // NOLINT(google-explicit-constructor)
 
 private:

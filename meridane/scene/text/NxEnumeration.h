@@ -13,11 +13,13 @@ public:
     /// The name is a word: letters, digits, `_`, `-` and the like, without blanks, quotes, commas, bars or brackets,
     /// and not beginning with a digit or a sign.
     struct Entry {
-        const char* name;
-        int value;
+        const char* name; ///< a word; a literal
+        int value; ///< any number; for a mask, a bit
     };
+    /// Copies the entries in their order. A name that is no word is a broken contract, which is asserted.
     NxEnumeration(std::initializer_list<Entry> entries);
 
+    /// The number of entries.
     [[nodiscard]] int count() const noexcept { return m_count; }
     /// All values in order; not to be written.
     [[nodiscard]] int* values() const noexcept { return m_values.get(); }

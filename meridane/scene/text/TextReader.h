@@ -22,11 +22,13 @@ namespace meridane {
 /// skips the part that it has passed in one step.
 class TextReader {
 public:
+    /// What counts as blanks.
     enum class Blanks {
         Line, ///< spaces and tabs
         File, ///< line ends as well, and comments from `#` to the end of the line
     };
 
+    /// A reader at the start of the text.
     explicit TextReader(std::string_view text, Blanks blanks = Blanks::Line) noexcept
         : m_begin(text.data())
         , m_at(text.data())
@@ -41,6 +43,7 @@ public:
     [[nodiscard]] std::string_view rest() const noexcept { return {m_at, static_cast<std::size_t>(m_end - m_at)}; }
     /// The character at the cursor; NUL at the end of the text.
     [[nodiscard]] char peek() const noexcept { return m_at == m_end ? '\0' : *m_at; }
+    /// Whether the cursor is at the end of the text.
     [[nodiscard]] bool atEnd() const noexcept { return m_at == m_end; }
     /// Moves the cursor forward, at most to the end.
     void advance(std::size_t count) noexcept { m_at += count < rest().size() ? count : rest().size(); }
@@ -64,6 +67,7 @@ public:
         m_longText.begin = nullptr;
     }
 
+    /// Moves the cursor behind blanks, of the kind that the reader was made for.
     void skipBlanks();
     /// Skips spaces and tabs only.
     void skipBlanksOfLine();
@@ -96,6 +100,7 @@ public:
 
     /// Records what was expected at the cursor, unless a failure is recorded already. Always returns false.
     bool fail(std::string_view expected) { return failAt(position(), expected); }
+    /// The same at another byte offset of the text.
     bool failAt(std::size_t position, std::string_view expected);
     /// What was expected at the first failure, such as "a number"; empty before one.
     [[nodiscard]] const std::string& expected() const noexcept { return m_expected; }

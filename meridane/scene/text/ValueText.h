@@ -22,10 +22,12 @@ class VbString;
 /// bits, even if they aren't finite. `readValue` changes the value only if it returns true.
 namespace meridane {
 
+/// The types of numbers that have a text form.
 template <typename Number>
 concept TextNumber = std::same_as<Number, float> || std::same_as<Number, double> || std::same_as<Number,
     short> || std::same_as<Number, unsigned short> || std::same_as<Number, int> || std::same_as<Number, unsigned int>;
 
+/// Decimal or, for integers, hexadecimal; see `TextReader::readNumber`.
 template <TextNumber Number>
 bool readValue(TextReader& reader, Number& value)
 {
@@ -33,6 +35,7 @@ bool readValue(TextReader& reader, Number& value)
 }
 /// `nan` or `-nan`, with the bits of its fraction in brackets if they aren't the usual ones.
 void writeNan(std::string& text, float value);
+/// The same in double precision.
 void writeNan(std::string& text, double value);
 /// The shortest decimal text that reads back to the same value.
 template <TextNumber Number>
@@ -50,10 +53,12 @@ void writeValue(std::string& text, const Number& value)
 
 /// `true` and `false`; `TRUE`, `FALSE`, `1` and `0` are read as well.
 bool readValue(TextReader& reader, Flag& value);
+/// `true` or `false`.
 void writeValue(std::string& text, const Flag& value);
 
 /// Text in double quotes; a word without them is read as well.
 bool readValue(TextReader& reader, VbString& value);
+/// Text in double quotes, in which quotes, backslashes and line ends are escaped.
 void writeValue(std::string& text, const VbString& value);
 /// The same in parts of about that many bytes. `position` starts at 0 and is then changed only by this function.
 /// Returns true if there is more to write.
@@ -66,7 +71,9 @@ constexpr std::size_t textBytesOf(std::size_t values) noexcept
     constexpr std::size_t bytesOfNumber = 16;
     return values < std::numeric_limits<std::size_t>::max() / bytesOfNumber ? values * bytesOfNumber : values;
 }
+/// Text in double quotes or a word, of Latin-1 characters only, without NUL.
 bool readValue(TextReader& reader, VbName& value);
+/// Text in double quotes, like a `VbString`.
 void writeValue(std::string& text, const VbName& value);
 
 /// Components separated by blanks; also for the colours, which are vectors.
@@ -81,6 +88,7 @@ bool readValue(TextReader& reader, VecBase<Vector, Component, Count>& value)
     value = read;
     return true;
 }
+/// The components with single blanks between them.
 template <typename Vector, typename Component, std::size_t Count>
 void writeValue(std::string& text, const VecBase<Vector, Component, Count>& value)
 {
@@ -93,17 +101,23 @@ void writeValue(std::string& text, const VecBase<Vector, Component, Count>& valu
 
 /// Axis and angle in radians.
 bool readValue(TextReader& reader, VbRotation& value);
+/// Four numbers: the axis, then the angle in radians.
 void writeValue(std::string& text, const VbRotation& value);
 /// Normal and distance.
 bool readValue(TextReader& reader, VbPlane& value);
+/// Four numbers: the normal, then the distance from the origin.
 void writeValue(std::string& text, const VbPlane& value);
 /// Sixteen numbers row by row.
 bool readValue(TextReader& reader, VbMatrix& value);
+/// Sixteen numbers row by row, with single blanks between them.
 void writeValue(std::string& text, const VbMatrix& value);
 /// The smaller corner and the larger one.
 bool readValue(TextReader& reader, VbBox2f& value);
+/// Four numbers: the smaller corner, then the larger one.
 void writeValue(std::string& text, const VbBox2f& value);
+/// The smaller corner and the larger one.
 bool readValue(TextReader& reader, VbBox3s& value);
+/// Six numbers: the smaller corner, then the larger one.
 void writeValue(std::string& text, const VbBox3s& value);
 
 /// Reads a value that must fill the whole text.
@@ -114,13 +128,17 @@ bool readWholeValue(TextReader& reader, Value& value)
 }
 /// A text that doesn't begin with a quote is used as it is, with its blanks, because people type plain words.
 bool readWholeValue(TextReader& reader, VbString& value);
+/// The same for names, of Latin-1 characters only.
 bool readWholeValue(TextReader& reader, VbName& value);
 
 /// The format of fields whose text depends only on the type of value.
 template <typename Value>
 struct ValueFormat {
+    /// Reads one value and stops behind it.
     bool read(TextReader& reader, Value& value) const { return readValue(reader, value); }
+    /// Reads a value that must fill the whole text.
     bool readWhole(TextReader& reader, Value& value) const { return readWholeValue(reader, value); }
+    /// Appends the value so that it reads back to the same bits.
     void write(std::string& text, const Value& value) const { writeValue(text, value); }
 };
 

@@ -12,5 +12,6 @@ public:
     using SingleField::SingleField;
 
     using SingleField::setValue;
+    /// Sets both corners. They are kept as given, also when they are the wrong way round.
     void setValue(float xMin, float yMin, float xMax, float yMax) { setValue(VbBox2f({xMin, yMin}, {xMax, yMax})); }
 };

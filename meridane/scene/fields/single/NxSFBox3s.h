@@ -12,6 +12,7 @@ public:
     using SingleField::SingleField;
 
     using SingleField::setValue;
+    /// Sets both corners. They are kept as given, also when they are the wrong way round.
     void setValue(short xMin, short yMin, short zMin, short xMax, short yMax, short zMax)
     {
         setValue(VbBox3s({xMin, yMin, zMin}, {xMax, yMax, zMax}));

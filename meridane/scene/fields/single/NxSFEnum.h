@@ -28,6 +28,7 @@ public:
     virtual bool enumValueByName(const VbName& name, int& value) const;
 
 protected:
+    /// For a derived class whose value is written in another form, such as a set of bits.
     NxSFEnum(NxFieldContainer* container, const meridane::FieldDeclaration& declaration,
         const NxEnumeration& enumeration, int value, meridane::EnumFormat::Kind kind)
         : SingleField(container, declaration, value, meridane::EnumFormat(enumeration, kind))

@@ -7,6 +7,7 @@ class NxSFFilePathString : public NxSFString {
     NX_FIELD(NxSFFilePathString)
 
 public:
+    /// The facts of the field say that it is a path. `container` may be null.
     NxSFFilePathString(NxFieldContainer* container, const meridane::FieldDeclaration& declaration, Read value = {})
         : NxSFString(container, declaration.ofFile(), value)
     {

@@ -12,5 +12,6 @@ public:
     using SingleField::SingleField;
 
     using SingleField::setValue;
+    /// Sets both components and notifies the observers once.
     void setValue(float x, float y) { setValue(VbVec2f(x, y)); }
 };

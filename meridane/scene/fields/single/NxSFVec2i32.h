@@ -12,5 +12,6 @@ public:
     using SingleField::SingleField;
 
     using SingleField::setValue;
+    /// Sets both components and notifies the observers once.
     void setValue(int x, int y) { setValue(VbVec2i32(x, y)); }
 };

@@ -12,5 +12,6 @@ public:
     using SingleField::SingleField;
 
     using SingleField::setValue;
+    /// Sets both components and notifies the observers once.
     void setValue(short x, short y) { setValue(VbVec2s(x, y)); }
 };

@@ -12,5 +12,6 @@ public:
     using SingleField::SingleField;
 
     using SingleField::setValue;
+    /// Sets all components and notifies the observers once.
     void setValue(float x, float y, float z) { setValue(VbVec3f(x, y, z)); }
 };

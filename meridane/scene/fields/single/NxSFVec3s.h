@@ -12,5 +12,6 @@ public:
     using SingleField::SingleField;
 
     using SingleField::setValue;
+    /// Sets all components and notifies the observers once.
     void setValue(short x, short y, short z) { setValue(VbVec3s(x, y, z)); }
 };
