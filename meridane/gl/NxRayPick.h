@@ -29,6 +29,7 @@ struct NxRayHit {
 /// takes time in proportion to the vertices of the meshes and stores nothing.
 class NxRayPick {
 public:
+    /// The direction of the ray must have the length 1.
     explicit NxRayPick(const NxRay& ray);
 
     /// Sets how close the ray must pass to hit a line or point: `radius` at the origin, and `slope` more for each unit

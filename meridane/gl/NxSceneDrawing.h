@@ -40,6 +40,7 @@ public:
     /// Sets the root of the scene to draw; null for nothing. The drawing holds a reference to it. Clears the selection
     /// and shows all nodes.
     void setScene(NxNode* root);
+    /// The root of the scene, or null.
     [[nodiscard]] NxNode* scene() const;
 
     /// Outlines all instances of a node; null for none. The drawing holds a reference to the node.
@@ -61,7 +62,9 @@ public:
     /// not the positions. Replaces the marks before; `setScene` removes them.
     void setMarkedPoints(std::span<NxNode* const> nodes, std::vector<VbVec3f> points);
 
+    /// Sets how the scene is shown, from the next picture on.
     void setStyle(const NxDrawingStyle& style);
+    /// How the scene is shown; valid as long as the drawing.
     [[nodiscard]] const NxDrawingStyle& style() const;
     /// Sets the loader of image files, and loads all of them again. Without a loader, textures that only name a file
     /// aren't drawn.
@@ -109,6 +112,7 @@ public:
     /// The box around one instance, given as in `setSelectedPath`.
     [[nodiscard]] NxBounds bounds(std::span<NxNode* const> nodes);
 
+    /// The cost of drawing so far.
     [[nodiscard]] NxDrawingCounts counts() const;
     /// A number that changes, with the next `draw`, when nodes have come to the scene or gone, but not with their
     /// fields.

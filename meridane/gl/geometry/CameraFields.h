@@ -14,6 +14,7 @@ namespace meridane {
 /// Lets a camera node look as a viewpoint does, by writing its fields: the opposite of `NxViewpoint::ofCamera`.
 class CameraFields {
 public:
+    /// How much of a viewpoint the fields of a camera could take.
     enum class Result {
         Set, ///< the camera looks as the viewpoint does
         WithoutSize, ///< from the same place into the same direction, but the camera has another projection

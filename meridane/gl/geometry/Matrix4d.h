@@ -12,6 +12,7 @@ namespace meridane {
 class Matrix4d {
 public:
     constexpr Matrix4d() noexcept = default;
+    /// The same matrix in double precision.
     constexpr Matrix4d(const VbMatrix& matrix) noexcept // NOLINT(google-explicit-constructor): nothing is lost
     {
         for (std::size_t row = 0; row < 4; ++row) {
@@ -20,12 +21,15 @@ public:
         }
     }
 
+    /// One row, 0 to 3, to be written; unchecked.
     [[nodiscard]] constexpr std::array<double, 4>& operator[](std::size_t row) noexcept { return m_rows[row]; }
+    /// One row, 0 to 3; unchecked.
     [[nodiscard]] constexpr const std::array<double, 4>& operator[](std::size_t row) const noexcept
     {
         return m_rows[row];
     }
 
+    /// Whether all elements are equal; a NaN equals nothing.
     friend constexpr bool operator==(const Matrix4d&, const Matrix4d&) noexcept = default;
 
 private:

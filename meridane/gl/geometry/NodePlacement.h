@@ -33,13 +33,16 @@ public:
     /// `parentToScene` is the transform of the node's parent. Keeps the node alive.
     NodePlacement(NxNode& node, const Matrix4d& parentToScene);
 
+    /// The node that is placed.
     [[nodiscard]] NxNode& node() const noexcept { return *m_node; }
+    /// The transform of the node's parent, as it was passed.
     [[nodiscard]] const Matrix4d& parentToScene() const noexcept { return m_parentToScene; }
     /// The point about which the fields turn and scale the node, in scene units: for a transform its center, for others
     /// where they are.
     [[nodiscard]] VbVec3d pivot() const;
     /// The axes of the node and of its parent, in the scene, each of length 1. They needn't be at right angles.
     [[nodiscard]] std::array<VbVec3d, 3> ownAxes() const;
+    /// See `ownAxes`.
     [[nodiscard]] std::array<VbVec3d, 3> parentAxes() const;
 
     /// Writes the fields, those that change. Returns false and writes nothing if the result isn't finite, or if the

@@ -9,7 +9,7 @@ class NxCamera;
 
 /// A half line.
 struct NxRay {
-    VbVec3d origin;
+    VbVec3d origin; ///< in scene units
     VbVec3f direction; ///< of length 1
 };
 
@@ -22,21 +22,22 @@ struct NxRay {
 /// largest float.
 class NxViewpoint {
 public:
+    /// How distances look in the picture.
     enum Projection {
         PERSPECTIVE, ///< distant objects look smaller
         ORTHOGRAPHIC, ///< objects have the same size at any distance
     };
 
     VbVec3d position{0, 0, 5}; ///< in scene units
-    VbRotation orientation;
-    Projection projection = PERSPECTIVE;
+    VbRotation orientation; ///< the turn from looking along negative z with y upwards
+    Projection projection = PERSPECTIVE; ///< how distances look in the picture
     float heightAngle = 0.7853982F; ///< between lower and upper border in perspective, in radians, above 0, below pi
     float height = 4; ///< of the visible part in an orthographic picture, in scene units, above 0
     float focalDistance = 5; ///< from the position to the focal point, in scene units, above 0
     /// The part of the picture that is drawn, from its lower left to its upper right corner: for pictures that are put
     /// together from several. Moves, rays and points are those of the whole picture.
     VbVec2f partMin{0, 0};
-    VbVec2f partMax{1, 1};
+    VbVec2f partMax{1, 1}; ///< see `partMin`
 
     /// The viewpoint of a camera node. The focal distance is the default; the caller may set it.
     [[nodiscard]] static NxViewpoint ofCamera(const NxCamera& camera, const meridane::Matrix4d& cameraToScene);
@@ -50,10 +51,13 @@ public:
     /// part, the aspect is that of the part.
     [[nodiscard]] VbMatrix projectionMatrix(float aspect, float nearDistance, float farDistance) const;
 
+    /// The direction to the right in the picture, of length 1.
     [[nodiscard]] VbVec3f rightAxis() const;
+    /// The direction upwards in the picture, of length 1.
     [[nodiscard]] VbVec3f upAxis() const;
     /// The line of sight, of length 1.
     [[nodiscard]] VbVec3f viewDirection() const;
+    /// The point that the user is looking at, in scene units.
     [[nodiscard]] VbVec3d focalPoint() const;
     /// The height of the whole picture at that distance, in scene units.
     [[nodiscard]] float heightAt(float distance) const;
@@ -86,6 +90,7 @@ public:
     /// Sets the focal distance to the distance of that point, if it isn't behind the viewer.
     void focus(const VbVec3d& point);
 
+    /// Whether all members are equal.
     friend bool operator==(const NxViewpoint&, const NxViewpoint&) noexcept = default;
 
 private:

@@ -14,7 +14,7 @@ using PicturePlace = std::array<double, 2>;
 
 /// A line from the eye through a place of the picture.
 struct SightLine {
-    VbVec3d origin;
+    VbVec3d origin; ///< in scene units
     VbVec3d direction; ///< of length 1
 };
 
@@ -27,6 +27,7 @@ public:
 
     /// Where a point is seen; nothing for one that isn't in front of the viewer.
     [[nodiscard]] std::optional<PicturePlace> placeOf(const VbVec3d& point) const;
+    /// The line from the viewer through a place. In an orthographic picture every place has an origin of its own.
     [[nodiscard]] SightLine lineAt(const PicturePlace& place) const;
     /// The length in scene units of one point of the screen, at the distance of a point of the scene.
     [[nodiscard]] double unitsPerPoint(const VbVec3d& point) const;
@@ -34,7 +35,9 @@ public:
     [[nodiscard]] VbVec3d directionTo(const VbVec3d& point) const;
     /// The directions to the right and upwards in the picture, and the line of sight, each of length 1.
     [[nodiscard]] const VbVec3d& right() const noexcept { return m_right; }
+    /// The direction upwards in the picture, of length 1.
     [[nodiscard]] const VbVec3d& up() const noexcept { return m_up; }
+    /// The line of sight, of length 1.
     [[nodiscard]] const VbVec3d& ahead() const noexcept { return m_ahead; }
 
 private:

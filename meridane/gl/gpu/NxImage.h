@@ -4,6 +4,9 @@
 #include <string>
 #include <vector>
 
+/// \file
+/// Images, and how the drawing gets those of files.
+
 /// The result of a request for an image file.
 enum class NxImageState {
     Loaded, ///< the image was set
@@ -14,8 +17,8 @@ enum class NxImageState {
 
 /// An image from an image loader: pixel by pixel and row by row, the bottom row first.
 struct NxImage {
-    int width = 0;
-    int height = 0;
+    int width = 0; ///< in pixels
+    int height = 0; ///< in pixels
     /// The number of bytes of a pixel: 1 grey, 2 grey and opacity, 3 red, green and blue, 4 those and opacity.
     int components = 0;
     /// `width * height * components` bytes.

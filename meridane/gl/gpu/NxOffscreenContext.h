@@ -13,6 +13,7 @@ public:
     NxOffscreenContext(const NxOffscreenContext&) = delete;
     NxOffscreenContext& operator=(const NxOffscreenContext&) = delete;
 
+    /// Whether there is a context.
     [[nodiscard]] bool isValid() const noexcept { return m_context != nullptr; }
     /// Why there is no context, such as "the driver has no OpenGL 3.3"; empty when there is one.
     [[nodiscard]] const VbString& error() const noexcept { return m_error; }

@@ -20,8 +20,8 @@ struct NxDrawingStyle {
         VERTEX_COLORS, ///< the colours of the meshes
     };
 
-    Surfaces surfaces = SOLID;
-    Shading shading = SHADED;
+    Surfaces surfaces = SOLID; ///< how surfaces are drawn
+    Shading shading = SHADED; ///< what their colours show
     /// The sides of the triangles over the surfaces.
     bool wires = false;
     /// A light at the viewer's eye beside those of the scene.
@@ -37,10 +37,10 @@ struct NxDrawingStyle {
 
     /// The background, from the bottom to the top of the picture.
     VbColor backgroundBottom{0.30F, 0.32F, 0.35F};
-    VbColor backgroundTop{0.16F, 0.17F, 0.19F};
-    VbColor gridColor{0.45F, 0.46F, 0.48F};
-    VbColor boundingBoxColor{0.9F, 0.75F, 0.2F};
-    VbColor wireColor{0.02F, 0.03F, 0.05F};
+    VbColor backgroundTop{0.16F, 0.17F, 0.19F}; ///< at the top of the picture
+    VbColor gridColor{0.45F, 0.46F, 0.48F}; ///< of the lines of the grid
+    VbColor boundingBoxColor{0.9F, 0.75F, 0.2F}; ///< of the boxes around meshes
+    VbColor wireColor{0.02F, 0.03F, 0.05F}; ///< of `wires` and of the wireframe
     /// The line around the selection.
     VbColor outlineColor{1.0F, 0.6F, 0.1F};
     /// The line around other nodes that are selected, half as wide.
@@ -55,9 +55,10 @@ struct NxDrawingStyle {
     float pointSize = 4;
     /// The inside of marked points (see `NxSceneDrawing::setMarkedPoints`), and the border around it.
     VbColor markColor{1, 1, 1};
-    VbColor markBorderColor{0, 0, 0};
+    VbColor markBorderColor{0, 0, 0}; ///< see `markColor`
     /// The size of marked points with their border, in the same unit.
     float markSize = 8;
 
+    /// Whether all members are equal.
     friend bool operator==(const NxDrawingStyle&, const NxDrawingStyle&) noexcept = default;
 };

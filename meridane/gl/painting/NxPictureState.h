@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The progress of a picture that is drawn bit by bit.
+
 /// How far a picture is that is drawn bit by bit: see `NxSceneDrawing::proceed`.
 enum class NxPictureState {
     Unfinished, ///< more is to be drawn

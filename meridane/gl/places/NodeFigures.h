@@ -30,8 +30,11 @@ public:
     /// Goes on for one slice. Returns true when all is computed.
     bool advance(const WorkBudget& budget);
 
+    /// The number of meshes so far, each use counted.
     [[nodiscard]] std::size_t meshes() const noexcept { return m_meshes; }
+    /// The number of triangles so far, each use of a mesh counted. Lines and points have none.
     [[nodiscard]] std::uint64_t triangles() const noexcept { return m_triangles; }
+    /// The box around the meshes so far, in scene units.
     [[nodiscard]] const NxBounds& bounds() const noexcept { return m_bounds; }
     /// False if there are too many places to visit all.
     [[nodiscard]] bool isComplete() const noexcept { return m_places < mostPlaces; }

@@ -18,17 +18,20 @@ class NxNodeVisibility {
 public:
     /// What holds for one place of a node, through those above it. The default is that of the root's parent.
     struct State {
-        bool isHidden = false;
+        bool isHidden = false; ///< the node, or one above it, is hidden
         bool isIsolated = false; ///< the node, or one above it, is isolated
     };
 
+    /// Hides these nodes in place of those that were hidden; none shows all.
     void setHidden(std::span<NxNode* const> nodes);
+    /// Isolates these nodes in place of those that were isolated; none ends it.
     void setIsolated(std::span<NxNode* const> nodes);
 
     /// Whether nothing is hidden nor isolated.
     [[nodiscard]] bool showsAll() const noexcept { return m_marks.empty(); }
     /// The state of a node below one with the state `above`.
     [[nodiscard]] State below(State above, const NxNode& node) const;
+    /// Whether a place with that state is shown.
     [[nodiscard]] bool shows(State state) const noexcept
     {
         return !state.isHidden && (state.isIsolated || m_isolated == 0);
