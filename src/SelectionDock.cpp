@@ -7,6 +7,7 @@
 #include "meridane/base/types/NxTypedObject.h"
 
 #include <QDockWidget>
+#include <QPointer>
 
 namespace orvane {
 
@@ -53,13 +54,19 @@ void SelectionDock::show(NxTypedObject* object)
     OrvEditor* const best = bestEditor(*object);
     if (best == nullptr)
         return;
+    const QPointer<OrvEditor> living(best); // it may delete itself
     best->setEditedObject(object);
     m_dock->setWidget(best->getWidget());
     try {
         best->activate();
     } catch (...) {
-        takeOut(*best);
+        if (living)
+            takeOut(*best);
         throw;
+    }
+    if (!living) {
+        m_dock->setWidget(nullptr);
+        return;
     }
     m_currentEditor = best;
     m_extension.show();
@@ -76,19 +83,24 @@ void SelectionDock::release()
     if (m_currentEditor == nullptr)
         return;
     // An editor that throws is given up as well, or the dock would call it again and again.
+    const QPointer<OrvEditor> living(m_currentEditor); // it may delete itself
     try {
         m_currentEditor->deactivate();
-        m_currentEditor->setEditedObject(nullptr);
+        if (living)
+            m_currentEditor->setEditedObject(nullptr);
     } catch (...) {
-        giveUp();
+        giveUp(living);
         throw;
     }
-    giveUp();
+    giveUp(living);
 }
 
-void SelectionDock::giveUp()
+void SelectionDock::giveUp(const OrvEditor* editor)
 {
-    takeOut(*m_currentEditor);
+    if (editor != nullptr)
+        takeOut(*editor);
+    else
+        m_dock->setWidget(nullptr);
     m_currentEditor = nullptr;
     m_extension.hide();
 }

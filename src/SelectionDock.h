@@ -37,7 +37,8 @@ public:
 private:
     [[nodiscard]] OrvEditor* bestEditor(const NxTypedObject& object) const;
     void takeOut(const OrvEditor& editor);
-    void giveUp();
+    /// The editor is null if it has deleted itself.
+    void giveUp(const OrvEditor* editor);
 
     OrvExtension& m_extension;
     QDockWidget*& m_dock;

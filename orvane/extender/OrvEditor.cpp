@@ -1,8 +1,15 @@
 #include "orvane/extender/OrvEditor.h"
 
+#include "orvane/extender/detail/CallExtensions.h"
+
 OrvEditor::OrvEditor() = default;
 
-OrvEditor::~OrvEditor() = default;
+OrvEditor::~OrvEditor()
+{
+    // Docks know an editor by its address and would use it again.
+    if (isActive())
+        orvane::handleDyingEditor(*this);
+}
 
 NxType OrvEditor::getHandledType()
 {

@@ -55,12 +55,14 @@ OrvPluginsManager::OrvPluginsManager()
     Q_ASSERT_X(theManager == nullptr, "OrvPluginsManager", "there is one manager at a time");
     theManager = this;
     orvane::setExceptionHandler([this](const QString& during) { return handleException(during); });
+    orvane::setDyingEditorHandler([this](OrvEditor& editor) { releaseDying(editor); });
 }
 
 OrvPluginsManager::~OrvPluginsManager()
 {
     unloadPlugins();
     orvane::setExceptionHandler({});
+    orvane::setDyingEditorHandler({});
     theManager = nullptr;
 }
 

@@ -106,6 +106,7 @@ private:
     void notice(const orvane::LoadedPlugin& plugin, const QString& text, int severity);
     void inspect(const orvane::LoadedPlugin& plugin, bool hasCalledLoad);
     void watch(OrvPlugin& plugin);
+    void releaseDying(OrvEditor& editor);
     void noteLostWidget(OrvEditor& editor, const QWidget* widget);
     void forget(const OrvExtension* extension, const OrvPlugin* plugin);
     template <typename Call>

@@ -2,6 +2,7 @@
 #include "orvane/extender/OrvPlugin.h"
 #include "orvane/extender/OrvPluginsManager.h"
 #include "orvane/extender/OrvProfile.h"
+#include "orvane/extender/OrvServices.h"
 #include "orvane/extender/VbText.h"
 #include "orvane/extender/detail/Guarded.h"
 #include "orvane/extender/detail/LoadedPlugins.h"
@@ -9,6 +10,7 @@
 
 #include "meridane/base/errors/NxDebugError.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <algorithm>
@@ -48,17 +50,34 @@ void OrvPluginsManager::watch(OrvPlugin& plugin)
 // The dock that shows it uses the widget once more.
 void OrvPluginsManager::noteLostWidget(OrvEditor& editor, const QWidget* widget)
 {
-    const orvane::LoadedPlugin* const owner = m_plugins->findOwner(&editor);
-    if (owner == nullptr)
+    if (m_plugins->findOwner(&editor) == nullptr)
         return; // unloaded
     orvane::replaceWidget(editor, widget);
-    m_plugins->putToRest(&editor);
+    // The editor itself may be about to go, which is reported then.
+    const auto report = [this, living = QPointer<OrvEditor>(&editor)] {
+        const orvane::LoadedPlugin* const plugin = living ? m_plugins->findOwner(living) : nullptr;
+        if (plugin == nullptr)
+            return;
+        m_plugins->putToRest(living);
+        applyAgainLater();
+        notice(*plugin,
+            QStringLiteral("its editor \"%1\" deleted its widget; it doesn't run any more")
+                    .arg(orvane::toQString(living->getName()))
+                + restText,
+            NxDebugError::Error);
+    };
+    QMetaObject::invokeMethod(this, report, Qt::QueuedConnection);
+}
+
+// Docks release their editor when nothing is selected. The selection is announced again from the event loop.
+void OrvPluginsManager::releaseDying(OrvEditor& editor)
+{
+    OrvServices* const services = OrvServices::getInstance();
+    if (services == nullptr || m_plugins->findOwner(&editor) == nullptr)
+        return;
+    static_cast<void>(orvane::guarded([&] { Q_EMIT services->selectedFieldChanged(nullptr); }));
+    static_cast<void>(orvane::guarded([&] { Q_EMIT services->selectedNodeChanged(nullptr); }));
     applyAgainLater();
-    notice(*owner,
-        QStringLiteral("its editor \"%1\" deleted its widget; it doesn't run any more")
-                .arg(orvane::toQString(editor.getName()))
-            + restText,
-        NxDebugError::Error);
 }
 
 void OrvPluginsManager::forget(const OrvExtension* extension, const OrvPlugin* plugin)

@@ -6,6 +6,7 @@ namespace orvane {
 namespace {
 
 ExceptionHandler theHandler;
+DyingEditorHandler theDyingEditorHandler;
 
 } // namespace
 
@@ -17,6 +18,17 @@ void setExceptionHandler(ExceptionHandler handler)
 bool handleException(const QString& during)
 {
     return theHandler && theHandler(during);
+}
+
+void setDyingEditorHandler(DyingEditorHandler handler)
+{
+    theDyingEditorHandler = std::move(handler);
+}
+
+void handleDyingEditor(OrvEditor& editor)
+{
+    if (theDyingEditorHandler)
+        theDyingEditorHandler(editor);
 }
 
 } // namespace orvane

@@ -110,6 +110,9 @@ private Q_SLOTS:
         row("NoName", u"an extension of it has no name, so that no profile can name it"_s);
         row("DeletesExtension", u"it deleted its extension \"Compass\", which must live until it is unloaded"_s);
         row("DeletesExtensionLater", u"it deleted its extension \"Compass\", which must live until it is unloaded"_s);
+        for (const char* const place : {"Activate", "Deactivate", "Timer"})
+            row(QByteArray("DeletesEditorIn").append(place).constData(),
+                u"it deleted its extension \"Broken dial\", which must live until it is unloaded"_s);
         row("NodeThrows",
             u"its node class \"BrokenSpring\" isn't used, since no node of it can be made: the spring is gone"_s);
         row("NodeIsNull",
