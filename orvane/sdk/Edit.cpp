@@ -1,6 +1,7 @@
 #include "orvane/sdk/Edit.h"
 
 #include "orvane/extender/OrvCommand.h"
+#include "orvane/extender/OrvDocument.h"
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/scene/fields/ChangeRecord.h"
@@ -8,6 +9,7 @@
 #include "meridane/scene/fields/NxFieldContainer.h"
 #include "meridane/scene/fields/NxFieldData.h"
 #include "meridane/scene/fields/NxRef.h"
+#include "meridane/scene/journal/Journal.h"
 
 #include <memory>
 #include <utility>
@@ -31,6 +33,23 @@ public:
 
 private:
     std::unique_ptr<meridane::ChangeRecord> m_record; // keeps the node alive
+};
+
+/// A write that the history has recorded itself, and puts back.
+class RecordedCommand final : public OrvCommand {
+public:
+    explicit RecordedCommand(NxFieldContainer& node)
+        : m_node(&node)
+    {
+    }
+    ~RecordedCommand() override = default;
+
+    void execute() override { }
+    void undo() override { }
+    void redo() override { }
+
+private:
+    NxRef<NxFieldContainer> m_node;
 };
 
 class IgnoreCommand final : public OrvCommand {
@@ -72,6 +91,13 @@ public:
     }
 };
 
+/// Whether the history records what is written to the fields of a node.
+bool isRecorded(const OrvServices& services, const NxFieldContainer& node)
+{
+    const meridane::Journal* const journal = services.document().journal();
+    return services.isUndoExact() && journal != nullptr && journal->isRecording() && journal->number(node).has_value();
+}
+
 } // namespace
 
 bool editBy(NxField& field, const std::function<bool()>& write)
@@ -79,6 +105,14 @@ bool editBy(NxField& field, const std::function<bool()>& write)
     OrvServices* const services = OrvServices::getInstance();
     if (services == nullptr || field.getContainer() == nullptr)
         return write();
+    // Without a copy of the value, which may be a list of millions.
+    if (isRecorded(*services, *field.getContainer())) {
+        const NxRef<NxFieldContainer> node(field.getContainer());
+        if (!write())
+            return false;
+        services->pushCommand(new RecordedCommand(*node));
+        return true;
+    }
     std::unique_ptr<meridane::ChangeRecord> record;
     const auto copyValue = [&] {
         record = field.recordOfValue();

@@ -17,7 +17,8 @@ namespace orv {
 /// back. Returns what `write` returns; if that is false, it must have changed nothing, and no command is pushed.
 ///
 /// The command keeps the field's node alive. A field without a node is written without a command, since nothing could
-/// keep it alive. If a copy of the value doesn't fit in memory, an `NxMemoryError` is reported, nothing is written, and
+/// keep it alive. For a field of the open scene the history records what is written, such as some rows of a list; of
+/// other fields the command copies the value. If a copy of the value doesn't fit in memory, an `NxMemoryError` is reported, nothing is written, and
 /// the result is false.
 bool editBy(NxField& field, const std::function<bool()>& write);
 
