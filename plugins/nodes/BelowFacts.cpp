@@ -3,16 +3,12 @@
 #include "plugins/nodes/NumberText.h"
 
 #include <array>
-#include <chrono>
+#include <utility>
 #include <vector>
-
-using namespace std::chrono_literals;
 
 namespace nodes {
 
 namespace {
-
-constexpr auto sliceOfFigures = 2ms;
 
 QString sizeText(const VbVec3f& vector, const QString& between)
 {
@@ -24,50 +20,35 @@ QString sizeText(const VbVec3f& vector, const QString& between)
 } // namespace
 
 BelowFacts::BelowFacts()
+    : SlicedText(tr("Counting…"))
 {
-    setTextFormat(Qt::PlainText);
-    setWordWrap(true);
-    setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 
-void BelowFacts::setNode(NxNode& node)
+void BelowFacts::begin(NxNode& node)
 {
-    if (m_node.get() != &node)
-        setText(tr("Counting…"));
-    m_node = NxRef<NxNode>(&node);
     m_figures = std::make_unique<meridane::NodeFigures>(std::vector<NxNode*>{&node});
-    advance();
 }
 
-void BelowFacts::timerEvent(QTimerEvent* /*event*/)
+bool BelowFacts::advance(std::chrono::microseconds slice)
 {
-    advance();
+    return m_figures->advance(slice);
 }
 
-void BelowFacts::advance()
+QString BelowFacts::finish()
 {
-    // A hidden editor shows nothing, and is given its node again before it is shown.
-    if (m_figures == nullptr || !m_figures->advance(sliceOfFigures)) {
-        if (m_figures != nullptr)
-            m_timer.start(0, this);
-        return;
-    }
-    m_timer.stop();
-    if (m_figures->meshes() == 0) {
-        setText(tr("no meshes"));
-    } else {
-        const std::uint64_t triangles = m_figures->triangles();
-        QString text = m_figures->meshes() == 1 ? tr("1 mesh") : tr("%1 meshes").arg(m_figures->meshes());
-        text += QStringLiteral(", ") + (triangles == 1 ? tr("1 triangle") : tr("%1 triangles").arg(triangles));
-        if (!m_figures->isComplete())
-            text = tr("at least %1").arg(text);
-        if (const NxBounds& bounds = m_figures->bounds(); !bounds.isEmpty())
-            text += tr("\n%1 around %2")
-                        .arg(sizeText(bounds.size(), QStringLiteral(" × ")),
-                            sizeText(bounds.center(), QStringLiteral(", ")));
-        setText(text);
-    }
-    m_figures.reset();
+    const std::unique_ptr<meridane::NodeFigures> figures = std::move(m_figures);
+    if (figures->meshes() == 0)
+        return tr("no meshes");
+    const std::uint64_t triangles = figures->triangles();
+    QString text = figures->meshes() == 1 ? tr("1 mesh") : tr("%1 meshes").arg(figures->meshes());
+    text += QStringLiteral(", ") + (triangles == 1 ? tr("1 triangle") : tr("%1 triangles").arg(triangles));
+    if (!figures->isComplete())
+        text = tr("at least %1").arg(text);
+    if (const NxBounds& bounds = figures->bounds(); !bounds.isEmpty())
+        text += tr("\n%1 around %2")
+                    .arg(sizeText(bounds.size(), QStringLiteral(" × ")),
+                        sizeText(bounds.center(), QStringLiteral(", ")));
+    return text;
 }
 
 } // namespace nodes
