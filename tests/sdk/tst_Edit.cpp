@@ -2,8 +2,11 @@
 #include "sdk/Angle.h"
 
 #include "orvane/extender/OrvDocument.h"
+#include "orvane/extender/OrvStepList.h"
 
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 // Changes of the scene by a plug-in, and their undo.
 class TestEdit : public QObject {
@@ -41,6 +44,30 @@ private Q_SLOTS:
         QCOMPARE(tool.post->places.getNum(), 2);
         tool.services.undo();
         QCOMPARE(tool.post->places.getNum(), 0);
+    }
+
+    /// And no copy of the list.
+    void inTheOpenSceneTheHistoryKeepsTheRowsThatAreWritten()
+    {
+        Tool tool;
+        constexpr int count = 100'000;
+        MFPlace& places = tool.post->places;
+        QVERIFY(places.setValues(std::vector<Place>(count, Place{"somewhere"})));
+        tool.open();
+        QVERIFY(orv::editBy(places, [&] { return places.set1Value(5, Place{"inn"}); }));
+        QCOMPARE(tool.services.pushed, 1);
+        constexpr std::size_t fewBytes = 10'000;
+        QVERIFY(tool.services.steps().bytes() < fewBytes);
+        tool.services.undo();
+        QCOMPARE(places[5].name, std::string("somewhere"));
+        tool.services.redo();
+        QCOMPARE(places[5].name, std::string("inn"));
+        QVERIFY(orv::edit(places, {Place{"well"}}));
+        tool.services.undo();
+        QCOMPARE(places.getNum(), count);
+        QCOMPARE(places[5].name, std::string("inn"));
+        tool.services.clearHistory();
+        tool.services.document().close();
     }
 
     void aTextThatIsRefusedPushesNothing()

@@ -17,6 +17,7 @@
 #include "orvane/app/problems/ProblemText.h"
 #include "orvane/app/problems/SeverityIcons.h"
 #include "orvane/app/scene/SceneDocument.h"
+#include "orvane/app/settings/SettingsStore.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -36,7 +37,7 @@
 namespace {
 
 constexpr std::array severities{NxSeverity::Error, NxSeverity::Warning, NxSeverity::Information};
-const QString foldKey = QStringLiteral("log/foldEqualLines");
+const QString foldKey = QStringLiteral("log/groupEqualLines");
 const QString fileTopic = QStringLiteral("logFile");
 
 QString shownKey(NxSeverity severity)
@@ -102,9 +103,12 @@ void LogPanel::addActions()
     m_openFolder = addAction("log.openFolder", {}, &LogPanel::openFolder);
     m_fold = addAction("log.fold", {}, nullptr);
     m_fold->setCheckable(true);
-    m_fold->setChecked(m_parts.settings.value(foldKey, true).toBool());
-    m_model->setFolding(m_fold->isChecked());
-    connect(m_fold, &QAction::toggled, this, &LogPanel::setFolding);
+    SettingsStore& store = SettingsStore::of(m_parts.settings);
+    store.follow(foldKey, this, [this, &store] {
+        m_fold->setChecked(store.isOn(foldKey));
+        setFolding(m_fold->isChecked());
+    });
+    connect(m_fold, &QAction::triggered, this, [&store](bool isOn) { store.set(foldKey, isOn); });
     m_clear = addAction("log.clear", {}, &LogPanel::clear);
     m_save = addAction("log.save", {}, &LogPanel::save);
     m_beginFind = addAction("log.find", QKeySequence::Find, &LogPanel::openFind);
@@ -194,7 +198,6 @@ void LogPanel::setShown(NxSeverity severity, bool isShown)
 
 void LogPanel::setFolding(bool isOn)
 {
-    m_parts.settings.setValue(foldKey, isOn);
     const LogView::Place place = m_view->place();
     m_model->setFolding(isOn);
     m_view->returnTo(place);

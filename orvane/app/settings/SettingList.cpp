@@ -317,6 +317,22 @@ Settings logSettings()
                 "The console shows what the program and its plug-ins print. When the console is activated the next "
                 "time."),
             .preference = "ORVANE_STDOUT_CAPTURE"},
+        {.key = QStringLiteral("log/lines"),
+            .page = SettingPage::Log,
+            .kind = Kind::Number,
+            .defaultValue = 100'000.0,
+            .title = QT_TRANSLATE_NOOP("Settings", "Lines of the log"),
+            .description = QT_TRANSLATE_NOOP("Settings",
+                "How many lines the log keeps at most; the oldest ones are dropped. It takes up to 32 MiB of memory "
+                "for each 100,000 lines."),
+            .range = {.least = 1'000, .most = 10'000'000}},
+        {.key = QStringLiteral("log/groupEqualLines"),
+            .page = SettingPage::Log,
+            .kind = Kind::Switch,
+            .defaultValue = true,
+            .title = QT_TRANSLATE_NOOP("Settings", "Group equal lines"),
+            .description = QT_TRANSLATE_NOOP(
+                "Settings", "Equal lines of the log that follow each other are one row with their number.")},
     };
 }
 

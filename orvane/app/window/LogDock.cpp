@@ -5,12 +5,19 @@
 #include "orvane/app/log/LogPanel.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/scene/Session.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/app/window/DockPlace.h"
 
 #include <QAction>
 #include <QMainWindow>
 
+#include <algorithm>
+#include <cstddef>
+
 namespace {
+
+const QString linesKey = QStringLiteral("log/lines");
+constexpr double leastShare = 0.1; // of the usual memory
 
 NxSeverity severityOf(MessageBar::Severity severity)
 {
@@ -39,8 +46,19 @@ LogDock::LogDock(Session& session, MessageBar& messages, QMainWindow* window)
     connect(&messages, &MessageBar::messageAdded, this, [this](MessageBar::Severity severity, const QString& text) {
         m_book->add(severityOf(severity), tr("Window"), text);
     });
+    SettingsStore& store = SettingsStore::of(session.settings());
+    store.follow(linesKey, this, [this, &store] { setLimit(store.number(linesKey)); });
     orvane::followLanguage(this, [this] { setWindowTitle(tr("Log")); });
     hide();
+}
+
+void LogDock::setLimit(double lines)
+{
+    // As many bytes for each line as by default, but room for some long ones.
+    const LogBook::Limits usual;
+    const double share = lines / static_cast<double>(usual.lines);
+    const double bytes = std::max(share, leastShare) * static_cast<double>(usual.bytes);
+    m_book->setLimits({static_cast<std::size_t>(lines), static_cast<std::size_t>(bytes)});
 }
 
 void LogDock::setVisible(bool visible)

@@ -28,6 +28,7 @@ Q_SIGNALS:
     void nodeChosen(const QString& path);
 
 private:
+    void setLimit(double lines);
     void fill();
 
     Session& m_session;

@@ -1,102 +1,30 @@
-#include "app/window/RobotWindowCase.h"
+#include "app/log/LogCase.h"
 
 #include "orvane/app/base/SearchFolders.h"
-#include "orvane/app/log/LogBook.h"
-#include "orvane/app/log/LogModel.h"
-#include "orvane/app/log/LogPanel.h"
-#include "orvane/app/log/LogView.h"
-#include "orvane/app/window/LogDock.h"
+#include "orvane/app/settings/SettingsStore.h"
 #include "orvane/extender/OrvPluginsManager.h"
 #include "orvane/extender/OrvProfile.h"
 #include "orvane/extender/OrvServices.h"
 
 #include "meridane/base/errors/NxDebugError.h"
-#include "meridane/scene/fields/NxField.h"
 
-#include <QAction>
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
 #include <QScrollBar>
 #include <QTextEdit>
-#include <QToolButton>
 
 #include <iostream>
 #include <memory>
 #include <optional>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 /// The dock of the log in the window.
-class TestLogDock : public RobotWindowCase {
+class TestLogDock : public LogCase {
     Q_OBJECT
 
-    QList<QUrl> m_opened;
-
-private:
-    [[nodiscard]] LogDock* dock() { return m_window->findChild<LogDock*>(); }
-    [[nodiscard]] LogPanel* panel() { return m_window->findChild<LogPanel*>(); }
-    [[nodiscard]] LogModel* model() { return panel()->model(); }
-    [[nodiscard]] LogView* view() { return panel()->view(); }
-    [[nodiscard]] QLineEdit* line(const char* name) { return panel()->findChild<QLineEdit*>(QLatin1String(name)); }
-    [[nodiscard]] QToolButton* button(const char* name)
-    {
-        return panel()->findChild<QToolButton*>(QLatin1String(name));
-    }
-    [[nodiscard]] QString label(const char* name) { return panel()->findChild<QLabel*>(QLatin1String(name))->text(); }
-    void click(const char* name) { QTest::mouseClick(button(name), Qt::LeftButton); }
-    void pressKey() { QTest::keyClick(m_window.get(), Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier); }
-    void show()
-    {
-        m_window->resize(1300, 900);
-        pressKey();
-        QVERIFY(dock()->isVisible());
-        dock()->book().clear();
-    }
-    void add(const QString& text, NxSeverity severity = NxSeverity::Information)
-    {
-        dock()->book().add(severity, u"test"_s, text);
-    }
-    void addLines(int count)
-    {
-        const std::size_t before = dock()->book().lineCount();
-        for (int i = 0; i < count; ++i)
-            add(u"line %1"_s.arg(i));
-        QTRY_COMPARE(dock()->book().lineCount(), before + static_cast<std::size_t>(count));
-    }
-    [[nodiscard]] QString textOf(int row) { return model()->index(row, LogModel::TextColumn).data().toString(); }
-    /// Clicks on a part of the text of a row.
-    void clickText(int row, const QString& part)
-    {
-        const QModelIndex index = model()->index(row, LogModel::TextColumn);
-        const QRect area = view()->visualRect(index);
-        const QFontMetrics metrics(view()->font());
-        const QString text = textOf(row);
-        const int before = metrics.horizontalAdvance(text.left(text.indexOf(part)));
-        const int margin = view()->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view()) + 1;
-        const QPoint place(area.left() + margin + before + metrics.horizontalAdvance(part) / 2, area.center().y());
-        QTest::mouseMove(view()->viewport(), place);
-        QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, place);
-    }
-
-public Q_SLOTS:
-    void noteOpened(const QUrl& url) { m_opened.append(url); }
-
 private Q_SLOTS:
-    void init()
-    {
-        m_opened.clear();
-        QDesktopServices::setUrlHandler(u"file"_s, this, "noteOpened");
-        startBesideRobot();
-    }
-    void cleanup()
-    {
-        QDesktopServices::unsetUrlHandler(u"file"_s);
-        endTool();
-    }
+    void init() { startBesideRobot(); }
+    void cleanup() { endTool(); }
 
     void aKeyShowsAndHidesIt()
     {
@@ -263,60 +191,6 @@ private Q_SLOTS:
         QVERIFY(label("logState").contains(u"the last 500 lines"_s));
     }
 
-    void aNodeOrFieldIsSelectedByAClick()
-    {
-        QCOMPARE(open(m_robot), QString());
-        show();
-        add(u"look at /robot/hand, then at /robot/arm.indices: both are empty"_s);
-        QTRY_COMPARE(model()->rowCount(), 1);
-        clickText(0, u"/robot/hand"_s);
-        QCOMPARE(m_session->services().getSelectedNode(), static_cast<NxFieldContainer*>(robot()->getChild(1)));
-        clickText(0, u"/robot/arm.indices"_s);
-        QCOMPARE(m_session->services().getSelectedNode(), static_cast<NxFieldContainer*>(robot()->getChild(0)));
-        QVERIFY(m_session->services().getSelectedField() != nullptr);
-        QCOMPARE(m_session->services().getSelectedField()->getContainer(),
-            static_cast<NxFieldContainer*>(robot()->getChild(0)));
-    }
-
-    void aPathThatIsNoNodeIsNoLink()
-    {
-        QCOMPARE(open(m_robot), QString());
-        show();
-        add(u"nothing at /nowhere/at/all"_s);
-        QTRY_COMPARE(model()->rowCount(), 1);
-        clickText(0, u"/nowhere"_s);
-        QVERIFY(m_session->services().getSelectedNode() == nullptr);
-        QVERIFY(m_opened.isEmpty());
-    }
-
-    void aFileIsOpenedByAClickAndByReturn()
-    {
-        show();
-        add(m_robot + u":3:5: something is wrong"_s);
-        QTRY_COMPARE(model()->rowCount(), 1);
-        // The file is looked for in a thread.
-        QTRY_VERIFY(!panel()->links().of(textOf(0)).isEmpty());
-        clickText(0, m_robot);
-        QCOMPARE(m_opened, QList<QUrl>{QUrl::fromLocalFile(m_robot)});
-        QTest::keyClick(view(), Qt::Key_Return);
-        QCOMPARE(m_opened.size(), 2);
-        panel()->findChild<QAction*>(u"log.openFolder"_s)->trigger();
-        QCOMPARE(m_opened.last(), QUrl::fromLocalFile(m_folder->path()));
-    }
-
-    void aProgramIsNotRun()
-    {
-        const QString program = filePath("run.sh");
-        writeFile(program, "#!/bin/sh\n");
-        QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeUser | QFile::ExeOwner);
-        show();
-        add(u"see "_s + program);
-        QTRY_COMPARE(model()->rowCount(), 1);
-        QTRY_VERIFY(!panel()->links().of(textOf(0)).isEmpty());
-        clickText(0, program);
-        QCOMPARE(m_opened, QList<QUrl>{QUrl::fromLocalFile(m_folder->path())});
-    }
-
     void rowsAreCopiedAsText()
     {
         show();
@@ -353,6 +227,21 @@ private Q_SLOTS:
         QCOMPARE(messages().size(), 1);
         QVERIFY(messages().front().contains(u"The log wasn't written"_s));
         QVERIFY(messages().front().contains(u"no/such/folder"_s));
+    }
+
+    void theLimitIsASetting()
+    {
+        show();
+        SettingsStore& store = SettingsStore::of(m_session->settings());
+        store.set(u"log/lines"_s, 2000.0);
+        for (int i = 0; i < 2500; ++i)
+            add(u"line %1"_s.arg(i));
+        QTRY_COMPARE(dock()->book().droppedCount(), std::size_t(500));
+        QVERIFY(label("logState").contains(u"the last 2,000 lines"_s));
+        store.set(u"log/lines"_s, 1000.0);
+        QCOMPARE(model()->rowCount(), 1000);
+        makeWindow();
+        QCOMPARE(dock()->book().limits().lines, std::size_t(1000));
     }
 
     void clearForgetsAllLines()
