@@ -6601,6 +6601,22 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>Whether the windows are light, dark, or as the desktop is.</source>
         <translation>Ob die Fenster hell, dunkel oder wie der Desktop sind.</translation>
     </message>
+    <message>
+        <source>Lines of the log</source>
+        <translation>Zeilen des Protokolls</translation>
+    </message>
+    <message>
+        <source>How many lines the log keeps at most; the oldest ones are dropped. It takes up to 32 MiB of memory for each 100,000 lines.</source>
+        <translation>Wie viele Zeilen das Protokoll höchstens behält; die ältesten fallen weg. Es braucht bis zu 32 MiB Speicher je 100.000 Zeilen.</translation>
+    </message>
+    <message>
+        <source>Group equal lines</source>
+        <translation>Gleiche Zeilen gruppieren</translation>
+    </message>
+    <message>
+        <source>Equal lines of the log that follow each other are one row with their number.</source>
+        <translation>Gleiche Zeilen des Protokolls, die aufeinander folgen, sind eine Zeile mit ihrer Anzahl.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsActions</name>
