@@ -4,9 +4,9 @@
 #include "Settle.h"
 #include "Timing.h"
 
+#include "orvane/app/docks/LogDock.h"
 #include "orvane/app/log/LogBook.h"
 #include "orvane/app/scene/Session.h"
-#include "orvane/app/window/LogDock.h"
 #include "orvane/app/window/MainWindow.h"
 
 #include <QApplication>

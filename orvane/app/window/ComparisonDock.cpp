@@ -3,13 +3,13 @@
 #include "orvane/app/compare/DifferenceModel.h"
 #include "orvane/app/compare/DifferencePanel.h"
 #include "orvane/app/compare/SceneComparer.h"
+#include "orvane/app/docks/DockPlace.h"
 #include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
-#include "orvane/app/window/DockPlace.h"
 
 #include "meridane/scene/file/NxScenePath.h"
 

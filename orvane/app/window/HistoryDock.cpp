@@ -1,12 +1,12 @@
 #include "orvane/app/window/HistoryDock.h"
 
 #include "orvane/app/base/PlainText.h"
+#include "orvane/app/docks/DockPlace.h"
 #include "orvane/app/history/HistoryModel.h"
 #include "orvane/app/history/HistoryPanel.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/scene/SceneDocument.h"
 #include "orvane/app/scene/Session.h"
-#include "orvane/app/window/DockPlace.h"
 
 #include <QAction>
 #include <QMainWindow>

@@ -1,5 +1,6 @@
 #include "orvane/app/window/ListDock.h"
 
+#include "orvane/app/docks/DockPlace.h"
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/inspect/Inspectors.h"
 #include "orvane/app/language/FollowLanguage.h"
@@ -7,7 +8,6 @@
 #include "orvane/app/look/Symbols.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/window/DockHeights.h"
-#include "orvane/app/window/DockPlace.h"
 
 #include "meridane/scene/fields/NxMField.h"
 

@@ -1,5 +1,6 @@
 // What the main window consists of, and how the parts are connected.
 #include "orvane/app/actions/WindowActions.h"
+#include "orvane/app/docks/LogDock.h"
 #include "orvane/app/fields/FieldPanel.h"
 #include "orvane/app/files/FileFlow.h"
 #include "orvane/app/files/FileMenu.h"
@@ -47,7 +48,6 @@
 #include "orvane/app/window/KeptColumns.h"
 #include "orvane/app/window/LanguageMenu.h"
 #include "orvane/app/window/ListDock.h"
-#include "orvane/app/window/LogDock.h"
 #include "orvane/app/window/MainWindow.h"
 #include "orvane/app/window/ProblemsDock.h"
 #include "orvane/app/window/ReloadedTree.h"

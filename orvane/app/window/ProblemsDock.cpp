@@ -1,6 +1,7 @@
 #include "orvane/app/window/ProblemsDock.h"
 
 #include "orvane/app/base/UserLocale.h"
+#include "orvane/app/docks/DockPlace.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/problems/LiveCheck.h"
 #include "orvane/app/problems/ProblemPanel.h"
@@ -8,7 +9,6 @@
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/tree/SceneTreeModel.h"
 #include "orvane/app/tree/SceneTreePanel.h"
-#include "orvane/app/window/DockPlace.h"
 #include "orvane/extender/OrvServices.h"
 
 #include <QAction>

@@ -2,11 +2,11 @@
 
 #include "app/window/RobotWindowCase.h"
 
+#include "orvane/app/docks/LogDock.h"
 #include "orvane/app/log/LogBook.h"
 #include "orvane/app/log/LogModel.h"
 #include "orvane/app/log/LogPanel.h"
 #include "orvane/app/log/LogView.h"
-#include "orvane/app/window/LogDock.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,12 +1,12 @@
-#include "orvane/app/window/LogDock.h"
+#include "orvane/app/docks/LogDock.h"
 
+#include "orvane/app/docks/DockPlace.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/log/LogBook.h"
 #include "orvane/app/log/LogPanel.h"
 #include "orvane/app/messages/MessageBar.h"
 #include "orvane/app/scene/Session.h"
 #include "orvane/app/settings/SettingsStore.h"
-#include "orvane/app/window/DockPlace.h"
 
 #include <QAction>
 #include <QMainWindow>

@@ -1,4 +1,4 @@
-#include "orvane/app/window/DockPlace.h"
+#include "orvane/app/docks/DockPlace.h"
 
 #include <QDockWidget>
 #include <QMainWindow>
