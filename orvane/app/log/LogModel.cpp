@@ -183,7 +183,10 @@ QString LogModel::lineText(int row) const
 
 std::pair<int, int> LogModel::rowsOf(std::uint64_t number) const
 {
-    const auto [first, end] = std::ranges::equal_range(m_rows, number, {}, &Row::record);
+    const auto isBefore = [number](const Row& row) { return row.record < number; };
+    const auto isNotBehind = [number](const Row& row) { return row.record <= number; };
+    const auto first = std::ranges::partition_point(m_rows, isBefore);
+    const auto end = std::ranges::partition_point(m_rows, isNotBehind);
     return {static_cast<int>(first - m_rows.begin()), static_cast<int>(end - m_rows.begin())};
 }
 
