@@ -18,8 +18,8 @@ namespace orv {
 ///
 /// The command keeps the field's node alive. A field without a node is written without a command, since nothing could
 /// keep it alive. For a field of the open scene the history records what is written, such as some rows of a list; of
-/// other fields the command copies the value. If a copy of the value doesn't fit in memory, an `NxMemoryError` is reported, nothing is written, and
-/// the result is false.
+/// other fields the command copies the value. If a copy of the value doesn't fit in memory, an `NxMemoryError` is
+/// reported, nothing is written, and the result is false.
 bool editBy(NxField& field, const std::function<bool()>& write);
 
 /// Writes a value and pushes a command whose undo puts the former value back. Returns false, and changes nothing, if
