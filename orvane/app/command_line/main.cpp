@@ -12,6 +12,7 @@
 #include "orvane/app/settings/SettingsFile.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QIcon>
 
 #include <array>
@@ -209,6 +210,16 @@ int run(int argc, char** argv)
     return commandLine.isBatch() ? runBatch(commandLine, argv) : runWindow(commandLine, argv);
 }
 
+// Where there is no session bus, Qt's support of screen readers would start one, which outlives the tool.
+void startNoBus()
+{
+    const QString runtimeFolder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    const bool isThere = isSet("DBUS_SESSION_BUS_ADDRESS")
+        || (!runtimeFolder.isEmpty() && QFileInfo::exists(runtimeFolder + QStringLiteral("/bus")));
+    if (!isThere)
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -216,6 +227,7 @@ int main(int argc, char* argv[])
     std::set_terminate(endByException);
     openStandardStreams();
     provideHome();
+    startNoBus();
     // A file that outgrows the user's limit is a write error with a message, not the end of the process.
     std::signal(SIGXFSZ, SIG_IGN);
     orvane::useProgramLocale();
