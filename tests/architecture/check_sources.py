@@ -177,8 +177,11 @@ def features_are_tested(project, sources, includes):
     page = (project / "docs" / "features.md").read_text()
     for place, function in re.findall(r"^\| .+ \| .+ \| `([\w/]+)` `(\w+)` \|$", page, re.MULTILINE):
         folder, name = place.rsplit("/", 1)
-        path = project / "tests" / folder / f"tst_{name}.cpp"
-        if not path.exists() or not re.search(rf"void (\w+::)?{function}\(\)\s*{{", path.read_text()):
+        source = project / "tests" / folder / f"tst_{name}.cpp"
+        script = project / "tests" / folder / f"test{re.sub(r'([A-Z])', r'_\1', name).lower()}.py"
+        is_source = source.exists() and re.search(rf"void (\w+::)?{function}\(\)\s*{{", source.read_text())
+        is_script = script.exists() and f"def {function}(" in script.read_text()
+        if not is_source and not is_script:
             yield f"docs/features.md names {place} {function}, which doesn't exist"
 
 
