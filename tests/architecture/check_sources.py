@@ -178,7 +178,8 @@ def features_are_tested(project, sources, includes):
     for place, function in re.findall(r"^\| .+ \| .+ \| `([\w/]+)` `(\w+)` \|$", page, re.MULTILINE):
         folder, name = place.rsplit("/", 1)
         source = project / "tests" / folder / f"tst_{name}.cpp"
-        script = project / "tests" / folder / f"test{re.sub(r'([A-Z])', r'_\1', name).lower()}.py"
+        words = re.sub(r"([A-Z])", r"_\1", name).lower()
+        script = project / "tests" / folder / f"test{words}.py"
         is_source = source.exists() and re.search(rf"void (\w+::)?{function}\(\)\s*{{", source.read_text())
         is_script = script.exists() and f"def {function}(" in script.read_text()
         if not is_source and not is_script:
