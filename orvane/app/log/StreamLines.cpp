@@ -41,13 +41,13 @@ void StreamLines::put(std::string_view text)
         Unfinished& unfinished = m_unfinished[std::this_thread::get_id()];
         for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n')) {
             unfinished.text += text.substr(0, end);
-            lines.push_back(std::exchange(unfinished.text, {}));
+            lines.emplace_back().swap(unfinished.text);
             text.remove_prefix(end + 1);
         }
         unfinished.text += text;
         unfinished.isNew = true;
         if (unfinished.text.size() > longestLine)
-            lines.push_back(std::exchange(unfinished.text, {}));
+            lines.emplace_back().swap(unfinished.text);
         if (unfinished.text.empty())
             m_unfinished.erase(std::this_thread::get_id());
         else if (!std::exchange(m_isWatched, true))
