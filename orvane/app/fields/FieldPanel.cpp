@@ -194,6 +194,7 @@ void FieldPanel::updateHeading()
     if (m_model->nodeCount() > 1)
         text = tr("%1 nodes, the last one: %2").arg(orvane::countText(m_model->nodeCount()), text);
     m_heading->setText(text);
+    m_heading->setToolTip(orvane::plainToolTip(text)); // in a narrow dock its end is cut
 }
 
 template <typename Change>

@@ -14,6 +14,7 @@
 #include "orvane/app/inspect/SelectionLink.h"
 #include "orvane/app/language/FollowLanguage.h"
 #include "orvane/app/log/LogTap.h"
+#include "orvane/app/look/Look.h"
 #include "orvane/app/look/Theme.h"
 #include "orvane/app/manners/EditorManners.h"
 #include "orvane/app/messages/MessageBar.h"
@@ -82,7 +83,12 @@ QToolBar* addFileTools(QMainWindow& window, const QList<QAction*>& ofFiles, cons
 void MainWindow::buildDocks()
 {
     auto* dock = new QDockWidget(this);
-    orvane::followLanguage(dock, [dock] { dock->setWindowTitle(tr("Scene")); });
+    orvane::followLanguage(dock, [this, dock] {
+        dock->setWindowTitle(tr("Scene"));
+        // Docks that need much width, such as the problems, leave room for the title and its buttons.
+        const int buttons = 4 * orvane::look::iconSize(fontMetrics());
+        m_tree->setMinimumWidth(fontMetrics().horizontalAdvance(dock->windowTitle()) + buttons);
+    });
     dock->setObjectName(QStringLiteral("sceneDock"));
     dock->setWidget(m_tree);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
