@@ -1,13 +1,13 @@
 #include "orvane/app/look/DesktopScheme.h"
 
 #include <QFile>
+#include <QMetaType>
 #include <QStandardPaths>
 #include <QVariant>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusPendingCallWatcher>
 #include <QtDBus/QDBusPendingReply>
-#include <QtDBus/QDBusVariant>
 
 namespace {
 
@@ -43,6 +43,7 @@ void DesktopScheme::start()
     QDBusConnection bus = QDBusConnection::connectToBus(address, connectionName);
     if (!bus.isConnected())
         return;
+    qRegisterMetaType<QDBusVariant>(); // the bus looks up the types of the slot by their names
     // Without the name of the service, whose owner would be asked for while this waits.
     bus.connect(QString(), path, interface, QStringLiteral("SettingChanged"), this,
         SLOT(takeChange(QString, QString, QDBusVariant)));

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QObject>
+#include <QtDBus/QDBusVariant> // complete, or the bus doesn't know the type of the slot's parameter
 
 class QDBusPendingCallWatcher;
-class QDBusVariant;
 
 /// Whether the desktop prefers light or dark windows, as the desktop portal reports it over D-Bus, now and when it
 /// changes. Says nothing where there is no bus or no portal.

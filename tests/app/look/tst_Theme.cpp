@@ -17,6 +17,7 @@
 #include <QToolTip>
 #include <QWidget>
 #include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusVariant>
 
 #include <array>
@@ -159,6 +160,21 @@ private Q_SLOTS:
         QVERIFY(isLight());
         theme->choose(Theme::Choice::System);
         QTRY_VERIFY_WITH_TIMEOUT(isDark(), testPatience);
+        // What changes later is followed; other settings are not.
+        const auto announce = [&service](const char* key, uint value) {
+            auto change = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/portal/desktop"),
+                QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
+            change << QStringLiteral("org.freedesktop.appearance") << QString(QLatin1String(key))
+                   << QVariant::fromValue(QDBusVariant(value));
+            QVERIFY(service.send(change));
+        };
+        announce("color-scheme", 2);
+        QTRY_VERIFY_WITH_TIMEOUT(isLight(), testPatience);
+        announce("contrast", 1);
+        announce("color-scheme", 0);
+        announce("color-scheme", 1);
+        QTRY_VERIFY_WITH_TIMEOUT(isDark(), testPatience);
+        QCOMPARE(portal.asked, 1);
         QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
         bus.terminate();
         QVERIFY(bus.waitForFinished(testPatience));
