@@ -156,7 +156,9 @@ void HistoryPanel::update()
         m_slider->setValue(m_travel.isUnderway() ? m_travel.goal() : position);
     }
     m_slider->setEnabled(steps.count() > 0);
-    m_place->setText(tr("Step %1 of %2").arg(orvane::countText(position), orvane::countText(steps.count())));
+    m_place->setText(steps.count() == 0
+            ? tr("Each edit of the scene is listed here")
+            : tr("Step %1 of %2").arg(orvane::countText(position), orvane::countText(steps.count())));
     const QString count = steps.count() == 1 ? tr("1 step") : tr("%1 steps").arg(orvane::countText(steps.count()));
     m_memory->setText(tr("%1, %2 of %3").arg(count, memoryText(steps.bytes()), memoryText(steps.limit())));
     if (std::exchange(m_shownPosition, position) != position) {

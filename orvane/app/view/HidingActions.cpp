@@ -8,6 +8,8 @@
 #include "orvane/app/tree/SceneTreePanel.h"
 #include "orvane/app/view/SceneView.h"
 
+#include "meridane/scene/nodes/NodeTraversal.h"
+
 #include <QAction>
 #include <QStatusBar>
 #include <QTimerEvent>
@@ -15,6 +17,7 @@
 #include <QTreeView>
 
 #include <chrono>
+#include <unordered_set>
 
 namespace {
 
@@ -41,6 +44,7 @@ HidingActions::HidingActions(SceneView* view, SceneTreePanel* tree, QStatusBar* 
           QT_TR_NOOP("Hides the selected nodes in the view; the scene stays as it is"), Qt::Key_H))
     , m_showAll(add("view.showAll", QT_TR_NOOP("Show All"),
           QT_TR_NOOP("Shows all nodes that were hidden or left out by isolating"), Qt::SHIFT | Qt::Key_H))
+    , m_bar(bar)
     , m_status(new QToolButton(bar))
 {
     connect(m_isolate, &QAction::triggered, this, &HidingActions::isolate);
@@ -58,6 +62,10 @@ HidingActions::HidingActions(SceneView* view, SceneTreePanel* tree, QStatusBar* 
     // A step may share a hidden node, or make it one's own.
     connect(tree->model(), &QAbstractItemModel::rowsInserted, this, &HidingActions::countPlaces);
     connect(tree->model(), &QAbstractItemModel::rowsRemoved, this, &HidingActions::countPlaces);
+    connect(tree->model(), &QAbstractItemModel::rowsRemoved, this, [this] {
+        if (!m_hidden.isolated().empty())
+            m_removal.start(0, this);
+    });
     connect(tree, &SceneTreePanel::selectionChanged, this, &HidingActions::update);
     orvane::followLanguage(this, [this] { update(); });
 }
@@ -114,6 +122,10 @@ void HidingActions::countPlaces()
 
 void HidingActions::timerEvent(QTimerEvent* event)
 {
+    if (event->timerId() == m_removal.timerId()) {
+        endIsolation();
+        return;
+    }
     constexpr std::chrono::milliseconds sliceOfCount(4);
     if (event->timerId() != m_slices.timerId() || !m_places->advance(sliceOfCount))
         return;
@@ -123,6 +135,24 @@ void HidingActions::timerEvent(QTimerEvent* event)
     m_places.reset();
     if (isShared)
         showStatus(places);
+}
+
+/// If all isolated nodes were deleted: the view would be empty.
+void HidingActions::endIsolation()
+{
+    m_removal.stop();
+    const std::unordered_set<const NxNode*> isolated(m_hidden.isolated().begin(), m_hidden.isolated().end());
+    const NxGroup* const scene = m_tree->model()->scene();
+    if (scene == nullptr || isolated.empty())
+        return;
+    meridane::NodeTraversal nodes(*scene);
+    while (const NxNode* const node = nodes.next()) {
+        if (isolated.contains(node))
+            return;
+    }
+    m_hidden.isolate({});
+    constexpr int messageTime = 10000;
+    m_bar->showMessage(tr("No isolated node is left in the scene, so the others are shown again."), messageTime);
 }
 
 /// Without a number of places if that is 0.

@@ -38,6 +38,7 @@ private:
     void update();
     void countPlaces();
     void showStatus(std::size_t places);
+    void endIsolation();
 
     SceneTreePanel* m_tree;
     SceneView* m_view;
@@ -45,7 +46,9 @@ private:
     QAction* m_isolate;
     QAction* m_hide;
     QAction* m_showAll;
+    QStatusBar* m_bar;
     QToolButton* m_status;
     std::unique_ptr<PlaceCount> m_places; // of the hidden nodes, while they are counted
     QBasicTimer m_slices;
+    QBasicTimer m_removal; // runs once after rows were removed, however many
 };

@@ -114,6 +114,7 @@ private Q_SLOTS:
     {
         const QAbstractItemModelTester tester(model());
         QCOMPARE(rows(), QStringList({u"Now, saved|New scene||"_s}));
+        QCOMPARE(label("historyPlace"), u"Each edit of the scene is listed here"_s);
         m_open->setNumbers(2);
         m_open->hand().setName("fist");
         m_open->finish();

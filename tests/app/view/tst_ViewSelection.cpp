@@ -1,5 +1,6 @@
 #include "app/view/SceneViewCase.h"
 
+#include "orvane/app/scene/NodeSearch.h"
 #include "orvane/app/tree/HiddenNodes.h"
 #include "orvane/app/tree/NodeSelection.h"
 #include "orvane/app/tree/SceneTreeModel.h"
@@ -183,6 +184,25 @@ private Q_SLOTS:
         QTest::keyClick(m_view.get(), Qt::Key_H, Qt::ShiftModifier);
         QCOMPARE(meshAt(-2), m_left);
         QVERIFY(!action("view.showAll")->isEnabled());
+    }
+
+    /// The view would be empty without the last of them.
+    void deletedNodesAreIsolatedNoMore()
+    {
+        rectangle(-3.2F, 3.2F);
+        action("node.isolate")->trigger();
+        QCOMPARE(m_tree->hidden().isolated().size(), std::size_t{2});
+        const auto remove = [this](const NxNode* node) {
+            QVERIFY(m_scene->removeChild(m_scene->findChild(orvane::findPath(m_scene.get(), node).front())));
+            AppScenes::runSensors();
+            QApplication::processEvents();
+        };
+        remove(m_left);
+        QCOMPARE(status()->text(), QStringLiteral("2 nodes isolated")); // one of them is still shown
+        remove(m_right);
+        QTRY_VERIFY(m_tree->hidden().isEmpty());
+        QCOMPARE(m_bar->currentMessage(),
+            QStringLiteral("No isolated node is left in the scene, so the others are shown again."));
     }
 
     void theSceneStaysAsItIs()
