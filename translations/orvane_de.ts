@@ -2492,6 +2492,10 @@ Fixiert: bleibt auf diesem Feld.</translation>
         <source>%1 hidden</source>
         <translation>%1 ausgeblendet</translation>
     </message>
+    <message>
+        <source>No isolated node is left in the scene, so the others are shown again.</source>
+        <translation>Kein isolierter Knoten ist mehr in der Szene, daher werden die anderen wieder gezeigt.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryDock</name>
@@ -2620,6 +2624,10 @@ Fixiert: bleibt auf diesem Feld.</translation>
     <message>
         <source>The scene is in this state.</source>
         <translation>Die Szene ist in diesem Zustand.</translation>
+    </message>
+    <message>
+        <source>Each edit of the scene is listed here</source>
+        <translation>Jede Änderung der Szene wird hier aufgeführt</translation>
     </message>
 </context>
 <context>
