@@ -87,13 +87,13 @@ QString placeholderText(const QWidget& widget)
 
 QString nameFor(const QWidget& widget)
 {
-    if (const QString tip = plainLine(widget.toolTip()); !tip.isEmpty())
+    if (QString tip = plainLine(widget.toolTip()); !tip.isEmpty())
         return tip;
-    if (const QString status = plainLine(widget.statusTip()); !status.isEmpty())
+    if (QString status = plainLine(widget.statusTip()); !status.isEmpty())
         return status;
-    if (const QString placeholder = placeholderText(widget); !placeholder.isEmpty())
+    if (QString placeholder = placeholderText(widget); !placeholder.isEmpty())
         return placeholder;
-    if (const QString label = labelText(widget); !label.isEmpty())
+    if (QString label = labelText(widget); !label.isEmpty())
         return label;
     return placeText(widget);
 }

@@ -140,7 +140,7 @@ QString FieldPart::name() const
     if (shown == nullptr) {
         const FieldTableModel& rows = model();
         for (const int role : {Qt::AccessibleTextRole, Qt::DisplayRole}) {
-            if (const QString text = m_index.data(role).toString(); !text.isEmpty())
+            if (QString text = m_index.data(role).toString(); !text.isEmpty())
                 return text;
         }
         // An empty cell is called as its column.
