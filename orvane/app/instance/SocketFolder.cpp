@@ -33,7 +33,7 @@ bool isPrivate(const struct stat& status)
 /// The session's own folder, if it is one that nobody else can use.
 QString runtimeFolder()
 {
-    const QString path = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    QString path = qEnvironmentVariable("XDG_RUNTIME_DIR");
     struct stat status { };
     if (!QDir::isAbsolutePath(path) || ::stat(orvane::toStdFileName(path).c_str(), &status) != 0 || !isPrivate(status))
         return {};
@@ -43,7 +43,7 @@ QString runtimeFolder()
 /// The screen of this process, whatever window system it uses.
 QString displayName()
 {
-    const QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
+    QString wayland = qEnvironmentVariable("WAYLAND_DISPLAY");
     if (!wayland.isEmpty())
         return wayland;
     // Without the number of the screen: `:0` and `:0.0` are one display.

@@ -1,5 +1,6 @@
 #include "orvane/app/lists/ListPanel.h"
 
+#include "orvane/app/base/ActionState.h"
 #include "orvane/app/base/TextConversion.h"
 #include "orvane/app/base/UserLocale.h"
 #include "orvane/app/files/JobBar.h"
@@ -140,17 +141,18 @@ QWidget* ListPanel::buildTop()
     return top;
 }
 
-void ListPanel::addButton(QHBoxLayout* line, QAction* action, const QString& text)
+void ListPanel::addButton(QHBoxLayout* line, QAction* action, const QString& iconText)
 {
     auto* const button = new QToolButton(this);
     button->setDefaultAction(action);
     button->setAutoRaise(true);
-    orvane::followLanguage(button, [button, action, text] {
-        action->setIconText(text);
+    orvane::followLanguage(button, [button, action, iconText] {
+        action->setIconText(iconText);
         button->setAccessibleName(action->text().remove(u'&'));
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        button->setToolTip(
-            keys.isEmpty() ? action->text().remove(u'&') : tr("%1 (%2)").arg(action->text().remove(u'&'), keys));
+        const QString reason = orvane::reasonOf(*action);
+        const QString text = action->text().remove(u'&');
+        button->setToolTip(!reason.isEmpty() ? reason : keys.isEmpty() ? text : tr("%1 (%2)").arg(text, keys));
     });
     line->addWidget(button);
 }

@@ -49,7 +49,7 @@ private:
     QWidget* buildTop();
     QWidget* buildMiddle();
     QWidget* buildBottom();
-    void addButton(QHBoxLayout* line, class QAction* action, const QString& text);
+    void addButton(QHBoxLayout* line, class QAction* action, const QString& iconText);
     void connectParts();
     void followSelection();
     void sortBy(int column);

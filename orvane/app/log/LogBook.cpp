@@ -42,8 +42,9 @@ std::size_t shorten(LogRecord& record, std::size_t lines)
 
 } // namespace
 
-LogBook::LogBook(QObject* parent)
+LogBook::LogBook(QObject* parent, meridane::WorkBudget::Clock clock)
     : QObject(parent)
+    , m_clock(clock)
 {
 }
 
@@ -108,7 +109,7 @@ bool LogBook::event(QEvent* event)
 {
     if (event->type() != eventType())
         return QObject::event(event);
-    const SliceClock clock;
+    const SliceClock clock(m_clock);
     bool isEmpty = false;
     do {
         std::deque<LogRecord> taken = takeWaiting();

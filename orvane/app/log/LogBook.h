@@ -2,10 +2,13 @@
 
 #include "orvane/app/log/LogRecord.h"
 
+#include "meridane/base/WorkBudget.h"
+
 #include <QObject>
 #include <QSet>
 
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -26,7 +29,8 @@ public:
     /// The most characters that are kept of one line.
     static constexpr qsizetype longestText = 100'000;
 
-    explicit LogBook(QObject* parent = nullptr);
+    /// The clock measures the slices in which lines are taken in.
+    explicit LogBook(QObject* parent = nullptr, meridane::WorkBudget::Clock clock = &std::chrono::steady_clock::now);
     ~LogBook() override;
 
     /// Adds a line with the time of the call. Any thread.
@@ -65,6 +69,7 @@ private:
     void dropOldest();
     void callLater();
 
+    meridane::WorkBudget::Clock m_clock;
     Limits m_limits;
     std::deque<LogRecord> m_records;
     std::uint64_t m_first = 0;

@@ -1,4 +1,5 @@
 #include "Patience.h"
+#include "app/StepClock.h"
 
 #include "orvane/app/log/LogBook.h"
 
@@ -120,7 +121,7 @@ private Q_SLOTS:
     /// Two slices at least, and the events between them are handled.
     void manyLinesAreTakenInBySlices()
     {
-        LogBook book;
+        LogBook book(nullptr, &StepClock::now);
         book.setLimits({.lines = 1'000'000, .bytes = std::size_t(1) << 30U});
         addLines(book, 300'000);
         QSignalSpy changes(&book, &LogBook::changed);

@@ -25,7 +25,10 @@ QString tableOf(SettingPage page)
         const QString preference = setting.preference == nullptr
             ? QString()
             : QStringLiteral(" (`%1`)").arg(QLatin1String(setting.preference));
-        const QString value = setting.defaultValue.toString();
+        // A number of many digits would become one with an exponent.
+        const QString value = setting.kind == Setting::Kind::Number
+            ? QString::number(setting.defaultValue.toDouble(), 'f', QLocale::FloatingPointShortest)
+            : setting.defaultValue.toString();
         QStringList allowed{setting.allowedText()};
         if (setting.kind == Setting::Kind::Choice) {
             allowed.clear();
