@@ -47,8 +47,10 @@ RecentModel::~RecentModel() = default;
 void RecentModel::setFiles(const QStringList& pinned, const QStringList& others)
 {
     QHash<QString, Entry> known;
-    for (Entry& entry : m_entries)
-        known.insert(entry.fileName, std::move(entry));
+    for (Entry& entry : m_entries) {
+        const QString fileName = entry.fileName;
+        known[fileName] = std::move(entry);
+    }
     beginResetModel();
     m_entries.clear();
     m_entries.reserve(static_cast<std::size_t>(pinned.size() + others.size()));
