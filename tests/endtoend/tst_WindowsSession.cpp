@@ -115,6 +115,7 @@ private Q_SLOTS:
         QVERIFY(m_tool->becomes(u"mainWindow"_s, u"windowModified"_s));
         QCOMPARE(runOther({u"--reuse"_s, u"two.mrd"_s}).status, 0);
         QVERIFY(!m_tool->widget(u"saveQuestion"_s).isEmpty());
+        QVERIFY(m_tool->becomes(u"saveQuestion"_s, u"isActiveWindow"_s)); // else the key goes elsewhere
         m_tool->key(u"Escape"_s);
         QTRY_VERIFY(!m_tool->isShown(u"saveQuestion"_s));
         QVERIFY(title().startsWith(u"one.mrd"_s));
